@@ -37,14 +37,16 @@ std::string positionForCopy(NavFunc113::DegMin latitude, NavFunc113::DegMin long
 struct PastedPosition {
     std::optional<std::string> latitude;
     std::optional<std::string> longitude;
+    std::string remark; ///< how an ambiguous text was taken; empty when there was no doubt
 };
 
 /// Understands what other instruments give: 35-30.5N, 35°30.5'N, N35 30.5, 35 30 30 N, S 35.305°
 /// and the like, alone or as a pair in either order, with degree, minute and second signs of any
 /// make, full-width characters, commas or blanks between the two.
 ///
-/// Degrees with a decimal fraction (a degree sign or a hemisphere letter and no minutes) are
-/// decimal degrees and are converted.
+/// A decimal number with a degree sign and no minutes (35.5083°N) is decimal degrees and converted.
+/// With a hemisphere letter only (S 35.305) it is taken as the packed form, as everything in this
+/// program is, and the remark says so and what decimal degrees would have been.
 /// A plain number ("35.305", "-139.4523") is nothing to convert: nullopt, and the box takes the
 /// text as it is typed.
 /// @param text whatever the clipboard holds
