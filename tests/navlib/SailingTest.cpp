@@ -30,6 +30,8 @@ TEST(Sailing, directionOfTheShorterWay)
         {80, -100, -180, "West"},
         {0, 179.59, 179 + 59 / 60.0, "East"},
         {-90, 90.01, -179 - 59 / 60.0, "West"},
+        {90, -95, 175, "East"},
+        {-95, 90, -175, "West"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.long1 << " to " << row.long2);
