@@ -35,10 +35,12 @@ SystemBell::SystemBell(Settings settings)
 
 SystemBell::~SystemBell()
 {
-    if (!m_process) return;
-    m_process->disconnect(this);
-    m_process->kill();
-    m_process->waitForFinished(500); // it is dead; this only spares its parent a warning
+    // Also those that stop() has killed and nobody has buried yet. They are dead when this waits.
+    for (QProcess* process : findChildren<QProcess*>()) {
+        process->disconnect();
+        process->kill();
+        process->waitForFinished(500);
+    }
 }
 
 void SystemBell::start()
