@@ -41,7 +41,7 @@ protected:
     QTemporaryDir m_folder;
     QByteArray m_path;
     int m_beeps = 0;
-    SystemBell m_bell{{[this] { ++m_beeps; }, 150ms}};
+    SystemBell m_bell{{[this] { ++m_beeps; }, 400ms}};
 };
 
 TEST_F(BellTest, withoutPlayersTheDesktopsBellRepeats)
@@ -50,7 +50,7 @@ TEST_F(BellTest, withoutPlayersTheDesktopsBellRepeats)
     EXPECT_EQ(m_beeps, 1) << "at once";
     EXPECT_TRUE(QTest::qWaitFor([&] { return m_beeps == 3; }));
     m_bell.stop();
-    QTest::qWait(400);
+    QTest::qWait(700);
     EXPECT_EQ(m_beeps, 3);
 }
 
@@ -85,7 +85,7 @@ TEST_F(BellTest, isSilentAtOnceWhenStoppedAndRingsAgain)
     EXPECT_TRUE(QTest::qWaitFor([&] { return played().size() == 1; }));
     m_bell.stop();
     m_bell.stop();
-    QTest::qWait(300);
+    QTest::qWait(700);
     EXPECT_EQ(m_beeps, 0) << "a player that was stopped has not failed";
     m_bell.start();
     EXPECT_TRUE(QTest::qWaitFor([&] { return played().size() == 2; }));
@@ -95,7 +95,7 @@ TEST_F(BellTest, onceIsOnce)
 {
     install("aplay", "exit 0");
     m_bell.ringOnce();
-    QTest::qWait(500);
+    QTest::qWait(900);
     EXPECT_EQ(played().size(), 1);
 }
 
