@@ -151,6 +151,7 @@ TEST(PositionText, pasteOfWhatCouldMeanTwoThingsIsRemarked)
          "35°18.3'N 139°27.1'W"},
         // 75 minutes are none: both numbers are decimal degrees
         {"35.5083 N 139.75 E", "35.305|139.45", "taken as decimal degrees: 35°30.5'N 139°45.0'E"},
+        {"35.61 N", "35.366|", "taken as decimal degrees: 35°36.6'N"},
         {"35 30.5", "35.305|", "taken as degrees and minutes"},
         {"35-30.5, 139-45.2", "35.305|139.452", "taken as latitude, then longitude"},
     };
