@@ -147,9 +147,11 @@ double VCF6A(APIGravity api, Fahrenheit temperature, CrudeEdition edition)
 
 bool WithinTable54A(KilogramsPerCubicMetre density15, Celsius temperature, CrudeEdition edition)
 {
-    if (edition == CrudeEdition::Of2004)
-        return density15 > 0 && WithinTable6A(APIFromDensity15(density15),
-                                              FahrenheitOfCelsius(temperature), edition);
+    if (edition == CrudeEdition::Of2004) {
+        if (!(density15 >= 500)) return false; // 100 API, the lightest of the table, is above 600
+        return WithinTable6A(APIFromDensity15(density15, edition), FahrenheitOfCelsius(temperature),
+                             edition);
+    }
     if (!(density15 >= 610) || density15 > 1075 || !(temperature >= -18)) return false;
     const Celsius highest = density15 >= 824.65 ? 149 : density15 >= 779.25 ? 121 : 93;
     return temperature <= highest;
