@@ -22,7 +22,7 @@ struct Pieces {
     std::string fault;
 };
 
-/// One or two numbers of digits only; nothing for anything else.
+/// A number of at most four digits and nothing else; nothing for anything else.
 std::optional<int> wholeNumber(std::string_view text)
 {
     if (text.empty() || text.size() > 4) return std::nullopt;
@@ -79,6 +79,9 @@ void readDate(std::string_view text, Pieces& pieces)
             return;
         }
         const CivilDate civil = NavFunc113::DateOf(*date);
+        // A slip of the finger; and a few hours of TD must not lead out of the calendar.
+        if (civil.year < 1900 || civil.year > 2199)
+            pieces.fault = typed + ": years from 1900 to 2199";
         pieces.year = civil.year;
         pieces.month = civil.month;
         pieces.day = civil.day;

@@ -189,7 +189,7 @@ void showSetAndDrift(const PositionRecordInput& input, const Fix& from, const Fi
     if (!course || !speed) return;
     if (*course < 0 || *course > 360)
         return say(result.notice, "course steered goes from 0 to 360");
-    if (*speed < 0) return say(result.notice, "speed steered is negative");
+    if (*speed < 0 || *speed > 999) return say(result.notice, "speed steered goes from 0 to 999");
     const double hours = (to.utc - from.utc) * 24;
     if (!(hours > 0)) return;
     try {

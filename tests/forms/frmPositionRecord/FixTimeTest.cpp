@@ -70,6 +70,8 @@ TEST(FixTime, whatMakesNoSenseIsNamedAndKept)
         {"2/30 0930", "2/30 is no date"},
         {"13/1 0930", "is no date"},
         {"2023/2/29 0930", "2023/2/29 is no date"},
+        {"9999/12/31 2359", "years from 1900 to 2199"},
+        {"1024/5/1 0930", "years from 1900 to 2199"},
         {"2024/5/1", "the time is missing"},
         {"09", "is no time"},
         {"noon", "is no time"},

@@ -179,6 +179,26 @@ TEST(PositionRecord, whatMakesNoSenseIsNamed)
     EXPECT_EQ(CalculatePositionRecord(input).notice, "row 2: latitude was read as 36");
 }
 
+TEST(PositionRecord, anyTextInAnyBoxIsSurvived)
+{
+    const std::string endless(400, '9');
+    for (const std::string& text : {endless, "-" + endless, std::string("0/0/0 0:0:0"),
+                                    std::string("///"), std::string("- -"), std::string("."),
+                                    std::string("90"), std::string("-90"), std::string("270")})
+        for (const auto box : {&PositionRow::satelliteSMT, &PositionRow::satelliteTD,
+                               &PositionRow::latitude, &PositionRow::longitude}) {
+            auto input = fourDays();
+            input.rows[3].*box = text;
+            EXPECT_NO_THROW(CalculatePositionRecord(input)) << text;
+            for (const char* course : {"0", "45", "90"}) {
+                input = fourDays();
+                input.courseSteered = course;
+                input.speedSteered = text;
+                EXPECT_NO_THROW(CalculatePositionRecord(input)) << text << " kn, " << course;
+            }
+        }
+}
+
 TEST(PositionRecord, courseNeverShows360)
 {
     const auto north = record({{"2024/05/01 12:00", "0", "10.00", "0.00"},
