@@ -40,30 +40,30 @@ struct CrudeInput {                  // boxes as typed
     NavFunc113::CrudeEdition edition = NavFunc113::CrudeEdition::Of1980;
 };
 
-struct CrudeResult {               // an empty text blanks the label
-    std::string density15;         ///< kg/m3 at 15 degC
-    std::string api60;             ///< API at 60 degF
-    std::string vcf;               ///< as shown, so it was used
-    std::string vcfMethod;         ///< "Table 54A, 1980, 15 °C"
-    std::string rangeFlag;         ///< "outside Table 54A"; empty within it
-    std::string grossObserved;     ///< less free water; unit of the volume box
-    std::string grossStandard;     ///< gross observed x VCF; unit of the volume box
-    std::string netStandard;       ///< less sediment and water; all that follows is net
-    std::string standardMethod;    ///< "kL at 15 °C": what the two standard volumes are
-    std::string barrels;           ///< at 60 degF by the KL/Bbl factor, or the standard volume
-    std::string barrelsMethod;     ///< "= kL / 0.15899 (by density 0.1589156)"
-    std::string kilolitres;        ///< at 15 degC by the KL/Bbl factor, or the standard volume
-    std::string kilolitresMethod;  ///< "= bbl x 0.15899 (by density 0.1589141)"
-    std::string barrels60;         ///< these four by the density, whatever the factor says
-    std::string barrels15;         ///
-    std::string kilolitres60;      ///
-    std::string kilolitres15;      ///
-    std::string metricTonsInAir;   ///< by the weight rule, from kilolitres15
-    std::string longTonsInAir;     ///
+struct CrudeResult {              // an empty text blanks the label
+    std::string density15;        ///< kg/m3 at 15 degC
+    std::string api60;            ///< API at 60 degF
+    std::string vcf;              ///< as shown, so it was used
+    std::string vcfMethod;        ///< "Table 54A, 1980, 15 °C"
+    std::string rangeFlag;        ///< "outside Table 54A"; empty within it
+    std::string grossObserved;    ///< less free water; unit of the volume box
+    std::string grossStandard;    ///< gross observed x VCF; unit of the volume box
+    std::string netStandard;      ///< less sediment and water; all that follows is net
+    std::string standardMethod;   ///< "kL at 15 °C": what the two standard volumes are
+    std::string barrels;          ///< at 60 degF by the KL/Bbl factor, or the standard volume
+    std::string barrelsMethod;    ///< "= kL / 0.15899 (by density 0.1589156)"
+    std::string kilolitres;       ///< at 15 degC by the KL/Bbl factor, or the standard volume
+    std::string kilolitresMethod; ///< "= bbl x 0.15899 (by density 0.1589141)"
+    std::string barrels60;        ///< these four by the density, whatever the factor says
+    std::string barrels15;
+    std::string kilolitres60;
+    std::string kilolitres15;
+    std::string metricTonsInAir; ///< by the weight rule, from kilolitres15
+    std::string longTonsInAir;
     std::string weightMethod;      ///< "density - 1.1", "Table 56, 0.99875"
     std::string metricTonsInVacuo; ///< kilolitres15 x density15
-    std::string longTonsInVacuo;   ///
-    std::string notice;            ///< what makes no sense, in words; empty when all is well
+    std::string longTonsInVacuo;
+    std::string notice; ///< what makes no sense, in words; empty when all is well
 };
 
 /// All figures of the cargo.
