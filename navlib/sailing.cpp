@@ -59,7 +59,7 @@ Radians unsignedShorterWay(Radians lambda1, Radians lambda2)
 {
     // Exactly half a turn stays half a turn.
     const Radians change = std::fabs(lambda2 - lambda1);
-    return change > Pi() ? 2 * Pi() - change : change;
+    return change > Pi() ? std::fabs(change - 2 * Pi()) : change;
 }
 
 struct Place {
