@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace korvel
+{
+
+enum class Buttons { Ok, OkCancel, YesNo };
+enum class Answer { Ok, Cancel, Yes, No };
+
+/// A message box. Line breaks in the text are single carriage returns.
+struct Message {
+    std::string text;
+    std::string title;
+    Buttons buttons = Buttons::Ok;
+};
+
+/// What the program asks and tells the officer. Handed in, so that tests can answer.
+class Questions
+{
+public:
+    virtual ~Questions() = default;
+
+    /// Shows a message and waits. Closing the box counts as the refusing button (No, Cancel, Ok).
+    virtual Answer ask(const Message& message) = 0;
+
+    /// Asks for a line of text; cancelling gives an empty answer.
+    virtual std::string input(const std::string& prompt, const std::string& title,
+                              const std::string& defaultAnswer) = 0;
+
+    virtual void beep() = 0;
+};
+
+/// The title of confirmations and refusals that the documents give one to.
+inline constexpr const char* confirmationTitle = "Brinemark";
+/// The program's own title, on every box without a title of its own.
+inline constexpr const char* programTitle = "KORVEL2000";
+
+} // namespace korvel
