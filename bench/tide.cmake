@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 # tide_accuracy prints how far the prediction is from the full harmonic one; tide_bench how long a
-# day takes (bars: dayOfValues at most 0.16, dayOfValuesFromDisk at most 0.4 of the plain sum).
+# day takes. Bars: dayOfValues at most 0.16 of plainSumOf37Constituents; dayOfValuesFromDisk, which
+# reads the day's arguments too, at most 0.4 of plainDayOf37Constituents, which works them out.
 add_library(tide_full STATIC FullPrediction.cpp)
 target_link_libraries(tide_full PUBLIC tidedata_core)
 

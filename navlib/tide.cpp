@@ -50,30 +50,16 @@ TideDay::TideDay(const TideConstituents& station, const DailyFactors& thisDay,
     m_sixth = turned(shallowWater.sixthCoefficient, shallowWater.sixthPhase);
 }
 
-double TideDay::amplitudeAt(const Wave& wave, Hours t) const
+double TideDay::amplitudeAt(const Wave& wave, Hours t)
 {
     return (wave.factor + t * wave.factorIncrease) * wave.amplitude;
 }
 
-double TideDay::at(Hours t) const
+// C and S are cosine and sine part of the combined semidiurnal wave: R and theta with
+// C = R cos theta, S = R sin theta. Squaring and cubing C + iS gives R^2 and R^3 with the doubled
+// and tripled angle, in every quadrant and without a quotient that could meet a zero.
+double TideDay::sum(double C, double S, double diurnal) const
 {
-    const double degree = Pi() / 180;
-    double S = 0;
-    double C = 0;
-    for (std::size_t j = 0; j < 2; ++j) {
-        const double amplitude = amplitudeAt(m_waves[j], t);
-        const Radians psi = (m_waves[j].phase - m_waves[j].speed * t) * degree;
-        S += amplitude * std::sin(psi);
-        C += amplitude * std::cos(psi);
-    }
-    double diurnal = 0;
-    for (std::size_t j = 2; j < 4; ++j) {
-        diurnal += amplitudeAt(m_waves[j], t) *
-                   std::cos((m_waves[j].phase - m_waves[j].speed * t) * degree);
-    }
-    // The combined wave is R and theta with C = R cos theta, S = R sin theta. Squaring and cubing
-    // C + iS gives R^2 and R^3 with the doubled and tripled angle, in every quadrant and without a
-    // quotient that could meet a zero.
     const double quarterCosine = C * C - S * S;
     const double quarterSine = 2 * C * S;
     const double sixthCosine = quarterCosine * C - quarterSine * S;
@@ -83,18 +69,53 @@ double TideDay::at(Hours t) const
     return diurnal + C + quarter + sixth;
 }
 
+double TideDay::at(Hours t) const
+{
+    std::array<double, 4> c;
+    std::array<double, 4> s;
+    for (std::size_t j = 0; j < m_waves.size(); ++j) {
+        const double amplitude = amplitudeAt(m_waves[j], t);
+        const Radians psi = (m_waves[j].phase - m_waves[j].speed * t) * Pi() / 180;
+        c[j] = amplitude * std::cos(psi);
+        s[j] = amplitude * std::sin(psi);
+    }
+    return sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]);
+}
+
+TideValues TideDay::halfHourly(double level) const
+{
+    struct Turning {
+        double cosine, sine;
+        double stepCosine, stepSine;
+    };
+    std::array<Turning, 4> turning;
+    for (std::size_t j = 0; j < m_waves.size(); ++j) {
+        const Radians phase = DegToRad(m_waves[j].phase);
+        const Radians step = DegToRad(-m_waves[j].speed / 2);
+        turning[j] = {std::cos(phase), std::sin(phase), std::cos(step), std::sin(step)};
+    }
+    TideValues values;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        std::array<double, 4> c;
+        std::array<double, 4> s;
+        for (std::size_t j = 0; j < m_waves.size(); ++j) {
+            const double amplitude = amplitudeAt(m_waves[j], static_cast<double>(i) / 2);
+            auto& [cosine, sine, stepCosine, stepSine] = turning[j];
+            c[j] = amplitude * cosine;
+            s[j] = amplitude * sine;
+            const double next = cosine * stepCosine - sine * stepSine;
+            sine = sine * stepCosine + cosine * stepSine;
+            cosine = next;
+        }
+        values[i] = sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]) + level;
+    }
+    return values;
+}
+
 double TideHarmonicSum(Hours t, const TideConstituents& station, const DailyFactors& thisDay,
                        const DailyFactors& nextDay, const ShallowWaterTerms& shallowWater)
 {
     return TideDay(station, thisDay, nextDay, shallowWater).at(t);
-}
-
-TideValues TideValuesOfDay(const TideDay& day, double level)
-{
-    TideValues values;
-    for (int i = 0; i < samplesOfDay; ++i)
-        values[static_cast<std::size_t>(i)] = day.at(i / 2.0) + level;
-    return values;
 }
 
 TideExtremes SearchHighestLowest(const TideValues& values, const TideExtremes& earlier)

@@ -61,6 +61,11 @@ public:
     /// Harmonic part at t, without the mean level.
     double at(Hours t) const;
 
+    /// The half-hourly values of the day: at() plus the level, to within rounding. Each wave is
+    /// turned on by half an hour at a time, so that a day takes a few sines instead of hundreds.
+    /// @param level mean level with its monthly correction, or mean stream
+    TideValues halfHourly(double level) const;
+
 private:
     struct Wave {
         Degrees phase;         // at 00:00
@@ -73,7 +78,8 @@ private:
         double cosine;
         double sine;
     };
-    double amplitudeAt(const Wave& wave, Hours t) const;
+    static double amplitudeAt(const Wave& wave, Hours t);
+    double sum(double C, double S, double diurnal) const;
 
     std::array<Wave, 4> m_waves;
     Turned m_quarter;
@@ -90,10 +96,6 @@ private:
 /// @return metres or knots, as the amplitudes
 double TideHarmonicSum(Hours t, const TideConstituents& station, const DailyFactors& thisDay,
                        const DailyFactors& nextDay, const ShallowWaterTerms& shallowWater);
-
-/// The day's values: the harmonic part at every half hour plus the level.
-/// @param level mean level with its monthly correction, or mean stream
-TideValues TideValuesOfDay(const TideDay& day, double level);
 
 /// The day's highest and lowest value with their times.
 struct TideExtremes {

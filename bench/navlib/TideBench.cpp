@@ -31,6 +31,22 @@ void plainSumOf37Constituents(benchmark::State& state)
 }
 BENCHMARK(plainSumOf37Constituents);
 
+// The same with the day's arguments and node factors worked out: what the daily file saves.
+void plainDayOf37Constituents(benchmark::State& state)
+{
+    const auto sources = tidedata::readSources(root / "tools/tidedata/sources.json");
+    const auto station = std::ranges::find(sources.stations, "Yokohama", &tidedata::Station::place);
+    const bench::FullPrediction full(*station, 37);
+    for (auto _ : state) {
+        const auto waves = full.wavesOf(serial);
+        NavFunc113::TideValues values;
+        for (std::size_t i = 0; i < values.size(); ++i)
+            values[i] = full.height(waves, static_cast<double>(i) / 2);
+        benchmark::DoNotOptimize(values);
+    }
+}
+BENCHMARK(plainDayOf37Constituents);
+
 void dayOfValues(benchmark::State& state)
 {
     const auto factors = korvel::readDaysFactors(root / "data", serial - 37530);
@@ -38,7 +54,7 @@ void dayOfValues(benchmark::State& state)
     for (auto _ : state) {
         const NavFunc113::TideDay day(station.constituents, factors.thisDay, factors.nextDay,
                                       station.shallowWater);
-        NavFunc113::TideValues values = NavFunc113::TideValuesOfDay(day, station.meanLevel);
+        NavFunc113::TideValues values = day.halfHourly(station.meanLevel);
         benchmark::DoNotOptimize(values);
     }
 }
@@ -52,7 +68,7 @@ void dayOfValuesFromDisk(benchmark::State& state)
         const auto station = korvel::readTideStation(data, "Yokohama");
         const NavFunc113::TideDay day(station.constituents, factors.thisDay, factors.nextDay,
                                       station.shallowWater);
-        NavFunc113::TideValues values = NavFunc113::TideValuesOfDay(day, station.meanLevel);
+        NavFunc113::TideValues values = day.halfHourly(station.meanLevel);
         benchmark::DoNotOptimize(values);
     }
 }

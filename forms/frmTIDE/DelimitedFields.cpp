@@ -3,15 +3,20 @@
 
 #include "forms/frmTIDE/TideData.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 
 namespace korvel
 {
+namespace
+{
 
-FieldReader::FieldReader(std::string file, std::string_view content, long line)
-    : m_file(std::move(file)), m_rest(content), m_line(line)
+constexpr std::string_view separators = ", \t\r\n";
+
+} // namespace
+
+FieldReader::FieldReader(const std::string& file, std::string_view content, long line)
+    : m_file(file), m_rest(content), m_line(line)
 {
 }
 
@@ -40,15 +45,16 @@ double FieldReader::number()
     ++m_field;
     skipLineEnds();
     if (m_rest.empty()) fault("the field is missing.");
-    std::string_view digits = takeUntil(", \t\r\n");
-    if (digits.empty()) fault("the field is empty.");
-    const std::string shown(digits);
+    if (m_rest.front() == ',') fault("the field is empty.");
+    std::string_view digits = m_rest;
     if (digits.starts_with('+') && !digits.starts_with("+-")) digits.remove_prefix(1);
     double value = 0;
     const char* const last = digits.data() + digits.size();
     const auto [end, error] = std::from_chars(digits.data(), last, value);
-    if (error != std::errc{} || end != last || !std::isfinite(value))
-        fault("\"" + shown + "\" is not a number.");
+    const bool whole = end == last || separators.find(*end) != separators.npos;
+    if (error != std::errc{} || !whole || !std::isfinite(value))
+        fault("\"" + std::string(takeUntil(separators)) + "\" is not a number.");
+    m_rest.remove_prefix(static_cast<std::size_t>(end - m_rest.data()));
     skipSeparator();
     return value;
 }
@@ -63,7 +69,6 @@ std::string_view FieldReader::takeUntil(std::string_view ends)
 {
     const std::string_view taken = m_rest.substr(0, m_rest.find_first_of(ends));
     m_rest.remove_prefix(taken.size());
-    m_line += std::ranges::count(taken, '\n');
     return taken;
 }
 
@@ -90,7 +95,7 @@ void FieldReader::skipSeparator()
 
 void FieldReader::fault(const std::string& trouble) const
 {
-    throw TideDataFault(m_file, m_line, m_field, trouble);
+    throw TideDataFault(m_file.substr(m_file.rfind('/') + 1), m_line, m_field, trouble);
 }
 
 } // namespace korvel

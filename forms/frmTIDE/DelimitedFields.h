@@ -13,10 +13,10 @@ namespace korvel
 class FieldReader
 {
 public:
-    /// @param file name for faults
-    /// @param content must outlive the reader
+    /// @param file path, the name of which is for faults
+    /// @param content must, like the path, outlive the reader
     /// @param line number of the content's first line
-    FieldReader(std::string file, std::string_view content, long line);
+    FieldReader(const std::string& file, std::string_view content, long line);
 
     std::string text();
     double number();
@@ -31,7 +31,7 @@ private:
     std::string_view takeUntil(std::string_view ends);
     [[noreturn]] void fault(const std::string& trouble) const;
 
-    std::string m_file;
+    const std::string& m_file;
     std::string_view m_rest;
     long m_line;
     int m_field = 0;

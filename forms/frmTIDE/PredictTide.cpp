@@ -32,7 +32,7 @@ TidePrediction predict(const TideStation& station, const DaysFactors& factors, d
     prediction.lblTD = Format(station.zone, "0.0hE;0.0hW");
     const NavFunc113::TideDay day(station.constituents, factors.thisDay, factors.nextDay,
                                   station.shallowWater);
-    prediction.values = NavFunc113::TideValuesOfDay(day, level);
+    prediction.values = day.halfHourly(level);
     prediction.extremes = NavFunc113::SearchHighestLowest(prediction.values, shown.extremes);
     return prediction;
 }

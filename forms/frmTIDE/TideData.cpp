@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideData.h"
 
+#include "forms/frmTIDE/DataFile.h"
 #include "forms/frmTIDE/DelimitedFields.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <system_error>
 #include <vector>
@@ -27,22 +29,12 @@ std::string faultText(const std::string& file, long line, int field, const std::
     return text + ": " + trouble;
 }
 
-std::string nameOf(const path& file)
+std::string nameOf(const std::string& file)
 {
-    return file.filename().string();
+    return path(file).filename().string();
 }
 
-std::string bytesAt(std::ifstream& stream, long position, std::size_t count)
-{
-    std::string bytes(count, '\0');
-    stream.seekg(position);
-    stream.read(bytes.data(), static_cast<std::streamsize>(count));
-    bytes.resize(static_cast<std::size_t>(stream.gcount()));
-    stream.clear();
-    return bytes;
-}
-
-std::string wholeFile(const path& file)
+std::string wholeFile(const std::string& file)
 {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
@@ -50,7 +42,7 @@ std::string wholeFile(const path& file)
 
 // Called when a line is not where its number says: finds the line that is to blame, which may lie
 // long before the one wanted.
-[[noreturn]] void refuseLayout(const path& file, long lineWanted)
+[[noreturn]] void refuseLayout(const std::string& file, long lineWanted)
 {
     const std::string content = wholeFile(file);
     if (content.starts_with(byteOrderMark))
@@ -78,9 +70,9 @@ std::string wholeFile(const path& file)
                             ".");
 }
 
-NavFunc113::DailyFactors factorsOfLine(const path& file, std::string_view text, long line)
+NavFunc113::DailyFactors factorsOfLine(const std::string& file, std::string_view text, long line)
 {
-    FieldReader reader(nameOf(file), text, line);
+    FieldReader reader(file, text, line);
     reader.number(); // the day key: the line's position says which day it is
     NavFunc113::DailyFactors factors;
     for (NavFunc113::DailyFactor& factor : factors) {
@@ -111,23 +103,23 @@ constexpr std::string_view streamLayout =
     "O1 in pairs; phase and coefficient of the quarter-diurnal and of the sixth-diurnal term (0 "
     "when unknown); direction of the flood stream (degrees true).";
 
-std::string contentOf(const path& file, std::string_view layout)
+// A station's fields are some two hundred bytes; what follows them is never read.
+using StationBytes = std::array<char, 4096>;
+
+std::string_view contentOf(const std::string& path, std::string_view layout, StationBytes& bytes)
 {
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) {
-        const bool there = std::filesystem::exists(file);
+    const DataFile file(path);
+    if (!file.isOpen()) {
+        const bool there = std::filesystem::exists(path);
         throw TideDataFault(
-            "Harmonic Constants/" + nameOf(file), 0, 0,
+            "Harmonic Constants/" + nameOf(path), 0, 0,
             there ? "the file cannot be opened."
                   : "there is no such file, and nothing is shown for this station. A file made "
                     "from the ship's own tables and put there is used at once. It holds " +
                         std::string(layout));
     }
-    // A station's fields are some two hundred bytes; what follows them is never read.
-    std::string content(4096, '\0');
-    stream.read(content.data(), static_cast<std::streamsize>(content.size()));
-    content.resize(static_cast<std::size_t>(stream.gcount()));
-    if (content.starts_with(byteOrderMark)) content.erase(0, byteOrderMark.size());
+    std::string_view content(bytes.data(), file.read(bytes.data(), bytes.size(), 0));
+    if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
     return content;
 }
 
@@ -149,9 +141,11 @@ TideStation commonFields(FieldReader& reader)
     return station;
 }
 
-path constantsFolder(const path& programFolder)
+// Joined as texts: a place is a name, never more path.
+std::string stationPath(const path& programFolder, std::string_view place, std::string_view ending)
 {
-    return programFolder / "Harmonic Constants";
+    std::string file = programFolder.native();
+    return file.append("/Harmonic Constants/HC_").append(place).append(ending);
 }
 
 } // namespace
@@ -163,53 +157,55 @@ TideDataFault::TideDataFault(const std::string& faultyFile, long faultyLine, int
 {
 }
 
-path factorsFilePath(const path& programFolder)
+std::string factorsFilePath(const path& programFolder)
 {
-    return programFolder / "AF2005.txt";
+    return programFolder.native() + "/AF2005.txt";
 }
 
-path tideFilePath(const path& programFolder, const std::string& place)
+std::string tideFilePath(const path& programFolder, std::string_view place)
 {
-    return constantsFolder(programFolder) / ("HC_" + place + ".txt");
+    return stationPath(programFolder, place, ".txt");
 }
 
-path streamFilePath(const path& programFolder, const std::string& place)
+std::string streamFilePath(const path& programFolder, std::string_view place)
 {
-    return constantsFolder(programFolder) / ("HC_" + place + "_.txt");
+    return stationPath(programFolder, place, "_.txt");
 }
 
 DaysFactors readDaysFactors(const path& programFolder, long dayNumber)
 {
-    const path file = factorsFilePath(programFolder);
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) {
-        throw TideDataFault(nameOf(file), 0, 0,
+    const std::string path = factorsFilePath(programFolder);
+    const DataFile file(path);
+    if (!file.isOpen()) {
+        throw TideDataFault(nameOf(path), 0, 0,
                             "the file of the astronomical factors is missing or cannot be opened. "
                             "It belongs beside the program.");
     }
     const long line = dayNumber + 1;
-    if (dayNumber < 0) throw TideDataFault(nameOf(file), 1, 0, "it begins with 2002/10/1.");
+    if (dayNumber < 0) throw TideDataFault(nameOf(path), 1, 0, "it begins with 2002/10/1.");
 
     // Byte 46 x day counted from 1 is the line end of the line before; it is read too, as proof
     // that the lines up to here have their length.
     const std::size_t before = dayNumber == 0 ? 0 : 1;
     const long start = factorsLineLength * dayNumber - static_cast<long>(before);
-    const std::string bytes = bytesAt(stream, start, before + 2 * lineLength);
-    const std::string_view lines = std::string_view(bytes).substr(std::min(before, bytes.size()));
+    std::array<char, 1 + 2 * lineLength> buffer;
+    const std::string_view bytes(buffer.data(),
+                                 file.read(buffer.data(), before + 2 * lineLength, start));
+    const std::string_view lines = bytes.substr(std::min(before, bytes.size()));
     const std::string_view first = lines.substr(0, lineLength);
     const std::string_view second = lines.substr(first.size());
     if (bytes.empty() || (before == 1 && bytes[0] != '\n') || !isWholeLine(first, false) ||
         !isWholeLine(second, true) || first.starts_with(byteOrderMark))
-        refuseLayout(file, lines.size() < lineLength ? line : line + 1);
-    return {factorsOfLine(file, first.substr(0, charactersOfLine), line),
-            factorsOfLine(file, second.substr(0, charactersOfLine), line + 1)};
+        refuseLayout(path, lines.size() < lineLength ? line : line + 1);
+    return {factorsOfLine(path, first.substr(0, charactersOfLine), line),
+            factorsOfLine(path, second.substr(0, charactersOfLine), line + 1)};
 }
 
 TideStation readTideStation(const path& programFolder, const std::string& place)
 {
-    const path file = tideFilePath(programFolder, place);
-    const std::string content = contentOf(file, tideLayout);
-    FieldReader reader(nameOf(file), content, 1);
+    const std::string path = tideFilePath(programFolder, place);
+    StationBytes bytes;
+    FieldReader reader(path, contentOf(path, tideLayout, bytes), 1);
     TideStation station = commonFields(reader);
     for (double& correction : station.monthlyCorrections)
         correction = reader.number();
@@ -218,9 +214,9 @@ TideStation readTideStation(const path& programFolder, const std::string& place)
 
 TideStation readStreamStation(const path& programFolder, const std::string& place)
 {
-    const path file = streamFilePath(programFolder, place);
-    const std::string content = contentOf(file, streamLayout);
-    FieldReader reader(nameOf(file), content, 1);
+    const std::string path = streamFilePath(programFolder, place);
+    StationBytes bytes;
+    FieldReader reader(path, contentOf(path, streamLayout, bytes), 1);
     TideStation station = commonFields(reader);
     station.floodDirection = reader.number();
     return station;

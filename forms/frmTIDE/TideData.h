@@ -8,6 +8,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 /// Reading the tide data files that lie in the program's folder: the daily astronomical factors
 /// and one file of harmonic constants a station.
@@ -34,14 +35,12 @@ inline constexpr long firstFactorsSerial = 37530;
 inline constexpr long factorsLineLength = 46;
 
 /// Path of the factors file.
-std::filesystem::path factorsFilePath(const std::filesystem::path& programFolder);
+std::string factorsFilePath(const std::filesystem::path& programFolder);
 
 /// Path of a tide station's file, and of a tidal-stream station's, which is told apart by an
 /// underscore. The place is used as it stands, blanks and apostrophes included.
-std::filesystem::path tideFilePath(const std::filesystem::path& programFolder,
-                                   const std::string& place);
-std::filesystem::path streamFilePath(const std::filesystem::path& programFolder,
-                                     const std::string& place);
+std::string tideFilePath(const std::filesystem::path& programFolder, std::string_view place);
+std::string streamFilePath(const std::filesystem::path& programFolder, std::string_view place);
 
 /// What a day's prediction needs of the factors file.
 struct DaysFactors {

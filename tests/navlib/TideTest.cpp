@@ -76,6 +76,19 @@ TEST(Tide, factorsAreInterpolatedForwardsAndEveryConstituentCounts)
         << "the angle decreases: 90 degrees less 3 hours of 30";
 }
 
+TEST(Tide, halfHourlyValuesAreTheSumsOfTheirTimes)
+{
+    const TideConstituents station{
+        {{134.6, 0.449}, {172.3, 0.221}, {174.7, 0.248}, {146.4, 0.194}}};
+    const DailyFactors thisDay{{{30, 1.09}, {15, 0.70}, {170, 1.32}, {223, 1.25}}};
+    const DailyFactors nextDay{{{56, 1.05}, {17, 0.75}, {170, 1.30}, {251, 1.21}}};
+    const ShallowWaterTerms shallow{220, 0.0169, 25, 0.005};
+    const TideValues values = TideDay(station, thisDay, nextDay, shallow).halfHourly(1.1);
+    for (int i = 0; i < samplesOfDay; ++i)
+        EXPECT_NEAR(values[static_cast<std::size_t>(i)],
+                    TideHarmonicSum(i / 2.0, station, thisDay, nextDay, shallow) + 1.1, 1e-12);
+}
+
 TEST(Tide, searchStartsAtHalfPastMidnightWithItsOwnBounds)
 {
     TideValues values{};
