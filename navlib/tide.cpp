@@ -10,6 +10,10 @@ namespace NavFunc113
 namespace
 {
 
+// Two tides of a day that repeat exactly differ by the rounding of their angles. That must not
+// decide which of them counts as the higher: the earlier one does.
+constexpr double roundingError = 1e-9;
+
 Degrees raisedAbove(Degrees threshold, int turns, Degrees change)
 {
     for (int turn = 0; turn <= turns; ++turn) {
@@ -123,11 +127,11 @@ TideExtremes SearchHighestLowest(const TideValues& values, const TideExtremes& e
     TideExtremes found{0, earlier.timeHigh, 5, earlier.timeLow};
     for (std::size_t i = 1; i < values.size(); ++i) {
         const Hours t = static_cast<double>(i) / 2;
-        if (values[i] > found.highest) {
+        if (values[i] > found.highest + roundingError) {
             found.highest = values[i];
             found.timeHigh = t;
         }
-        if (values[i] < found.lowest) {
+        if (values[i] < found.lowest - roundingError) {
             found.lowest = values[i];
             found.timeLow = t;
         }

@@ -106,7 +106,8 @@ struct TideExtremes {
 };
 
 /// Finds the highest and lowest sample of 00:30 to 24:00; 00:00 takes no part (it is the 24:00 of
-/// the day before). The earliest of equal samples wins; nothing is refined between samples.
+/// the day before). The earliest of equal samples (to within 1e-9) wins; nothing is refined between
+/// samples.
 ///
 /// The search starts at highest 0 and lowest 5: on a day without a value above 0 the highest is 0
 /// (a stream that never turns), without one below 5 the lowest is 5.
