@@ -1,34 +1,65 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/arithmetic_error.h"
 #include "navlib/units.h"
 
+#include <cmath>
+#include <cstdint>
 #include <initializer_list>
 #include <optional>
 #include <span>
 #include <utility>
 
-#include "navlib/arithmetic_error.h"
-
 namespace NavFunc113
 {
 
+/// Whole part of a value that is 0 or greater. A cast is several times faster than floor, which
+/// every packed value would have to call.
+inline double WholePart(double value)
+{
+    constexpr double withoutFraction = 4503599627370496; // 2^52: nothing is left to cut beyond
+    return value < withoutFraction ? static_cast<double>(static_cast<std::int64_t>(value)) : value;
+}
+
 /// Decimal degrees of a packed value. The sign is carried through; minutes of 60 and more are not
 /// refused (35.75 is 36.25 degrees).
-Degrees DegMinToDeg(DegMin value);
+inline Degrees DegMinToDeg(DegMin value)
+{
+    const double magnitude = std::fabs(value);
+    const double degrees = WholePart(magnitude);
+    const double result = degrees + (magnitude - degrees) / 0.6;
+    return value > 0 ? result : -result;
+}
 
 /// Packed value of decimal degrees, not rounded: display rounds.
-DegMin DegToDegMin(Degrees value);
+inline DegMin DegToDegMin(Degrees value)
+{
+    const double magnitude = std::fabs(value);
+    const double degrees = WholePart(magnitude);
+    const double result = degrees + (magnitude - degrees) * 0.6;
+    return value > 0 ? result : -result;
+}
 
 /// Sum of packed values, added in their order; an empty list sums to 0.
 DegMin SumDegMin(std::span<const DegMin> values);
 DegMin SumDegMin(std::initializer_list<DegMin> values);
 
 /// The constant pi, as four times the arctangent of one.
-double Pi();
+inline double Pi()
+{
+    return 4 * std::atan(1.0);
+}
 
-Radians DegToRad(Degrees value);
-Degrees RadToDeg(Radians value);
+inline Radians DegToRad(Degrees value)
+{
+    return (value / 180) * Pi();
+}
+
+inline Degrees RadToDeg(Radians value)
+{
+    return (value / Pi()) * 180;
+}
 
 /// Angle of the point (x, y), in (-pi, pi]; (0, 0) gives 0.
 ///
@@ -36,23 +67,40 @@ Degrees RadToDeg(Radians value);
 ///          nobody divides by it afterwards; the result is then almost, not quite, a right angle.
 /// @param y sine-like part
 /// @throws ArithmeticError Overflow when y / x is not finite
-Radians ArcTan2(double& x, double y);
+inline Radians ArcTan2(double& x, double y)
+{
+    if (x == 0) x = 1e-11;
+    const Radians angle = std::atan(Quotient(y, x));
+    if (x > 0) return y == 0 ? 0 : angle;
+    if (y == 0) return Pi();
+    return y > 0 ? angle + Pi() : angle - Pi();
+}
 
 /// The same where the caller has no further use for x.
-Radians ArcTan2(double&& x, double y);
+inline Radians ArcTan2(double&& x, double y)
+{
+    return ArcTan2(x, y);
+}
 
 /// Angle of a cosine, 0 .. pi.
 /// @param x cosine, -1 <= x <= 1 and not 0
 /// @throws ArithmeticError DivisionByZero for exactly 0 (the quotient is formed before the sign is
 ///         looked at, on purpose), InvalidArgument for |x| > 1
-Radians ArcCos(double x);
+inline Radians ArcCos(double x)
+{
+    const Radians angle = std::atan(Quotient(SquareRoot(1 - std::pow(x, 2.0)), x));
+    return x > 0 ? angle : angle + Pi();
+}
 
 /// Angle of a sine, -pi/2 .. pi/2, as the arctangent of x / sqrt(1 - x^2).
 /// @throws ArithmeticError DivisionByZero for |x| = 1, InvalidArgument for |x| > 1
 Radians ArcSin(double x);
 
 /// Common logarithm. @throws ArithmeticError InvalidArgument unless value > 0
-double Log10(double value);
+inline double Log10(double value)
+{
+    return NaturalLogarithm(value) / std::log(10.0);
+}
 
 /// A pair (x, y) of an interpolation table; an absent coordinate ends the table.
 struct TablePair {

@@ -30,26 +30,16 @@ ArithmeticError::ArithmeticError(Condition condition)
 {
 }
 
-double Quotient(double dividend, double divisor)
+void throwQuotientFault(double dividend, double divisor)
 {
     if (divisor == 0) throw ArithmeticError(ArithmeticError::Condition::DivisionByZero);
-    if (std::isnan(dividend) || std::isnan(divisor))
-        throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
-    const double quotient = dividend / divisor;
-    if (!std::isfinite(quotient)) throw ArithmeticError(ArithmeticError::Condition::Overflow);
-    return quotient;
+    if (std::isnan(dividend) || std::isnan(divisor)) throwInvalidArgument();
+    throw ArithmeticError(ArithmeticError::Condition::Overflow);
 }
 
-double SquareRoot(double value)
+void throwInvalidArgument()
 {
-    if (!(value >= 0)) throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
-    return std::sqrt(value);
-}
-
-double NaturalLogarithm(double value)
-{
-    if (!(value > 0)) throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
-    return std::log(value);
+    throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
 }
 
 } // namespace NavFunc113

@@ -13,20 +13,38 @@ namespace
 
 using Condition = ArithmeticError::Condition;
 
-constexpr std::array<TablePair, 5> latitudeFactors{
+struct Node {
+    Degrees lat;
+    double factor;
+};
+
+constexpr std::array<Node, 5> latitudeFactors{
     {{0, 0.99509}, {20, 0.99627}, {40, 0.99924}, {65, 1.00335}, {90, 1.00518}}};
-constexpr std::array<TablePair, 4> parallelFactors{
+constexpr std::array<Node, 4> parallelFactors{
     {{0, 1.00178}, {30, 1.00263}, {60, 1.00432}, {90, 1.00518}}};
 // Dead reckoning has its own value at the pole, on purpose.
-constexpr std::array<TablePair, 4> runFactors{
+constexpr std::array<Node, 4> runFactors{
     {{0, 1.00178}, {30, 1.00263}, {60, 1.00432}, {90, 1.00513}}};
 
 // Deliberately not 2, and the same for distance and dead reckoning.
 constexpr double latitudeFactorDivisor = 2.05;
 
-double factorAt(Degrees lat, std::span<const TablePair> table)
+// The steps of InterpolateLagrange over a table whose nodes the compiler knows, so that it can
+// unroll them and work on several weights at once.
+template <std::size_t n>
+double factorAt(Degrees lat, const std::array<Node, n>& table)
 {
-    return InterpolateLagrange(lat, table).value_or(0);
+    std::array<double, n> weights;
+    weights.fill(1);
+    for (std::size_t i = 0; i < n; ++i)
+        for (std::size_t j = 0; j < n; ++j)
+            if (i != j)
+                weights[j] = weights[j] * (lat - table[i].lat) / (table[j].lat - table[i].lat);
+    double sum = 0;
+    for (std::size_t j = 0; j < n; ++j)
+        sum += table[j].factor * weights[j];
+    if (!std::isfinite(sum)) throw ArithmeticError(Condition::Overflow);
+    return sum;
 }
 
 Degrees shorterWay(Degrees lambda1, Degrees lambda2)
@@ -79,6 +97,23 @@ Miles alongParallel(const Place& from, const Place& to)
     return std::fabs(change * 60 * std::cos(DegToRad(from.phi)));
 }
 
+// The course is asked for only where the distance needs it: along a parallel it may not exist.
+template <typename Course>
+Miles distanceBetween(const Place& from, const Place& to, DegMin lat1, int spheroid, Course course)
+{
+    Degrees change = to.phi - from.phi;
+    if (spheroid == 1)
+        change *= LatitudeFactor(std::fabs(from.phi + to.phi) / latitudeFactorDivisor);
+    if (std::fabs(change) < 1e-9) {
+        const Miles distance = alongParallel(from, to);
+        return spheroid == 1 ? distance * ParallelFactor(std::fabs(lat1)) : distance;
+    }
+    const Degrees angle = course();
+    // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
+    if (angle == 90 || angle == 270) throw ArithmeticError(Condition::DivisionByZero);
+    return std::fabs(Quotient(change, std::cos(DegToRad(angle)))) * 60;
+}
+
 } // namespace
 
 Degrees ChangeOfLongitude(DegMin long1, DegMin long2)
@@ -112,21 +147,19 @@ Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
     return courseBetween(placeOf(lat1, long1), placeOf(lat2, long2));
 }
 
+RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid)
+{
+    const Place from = placeOf(lat1, long1);
+    const Place to = placeOf(lat2, long2);
+    const Degrees course = courseBetween(from, to);
+    return {course, distanceBetween(from, to, lat1, spheroid, [course] { return course; })};
+}
+
 Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid)
 {
     const Place from = placeOf(lat1, long1);
     const Place to = placeOf(lat2, long2);
-    Degrees change = to.phi - from.phi;
-    if (spheroid == 1)
-        change *= LatitudeFactor(std::fabs(from.phi + to.phi) / latitudeFactorDivisor);
-    if (std::fabs(change) < 1e-9) {
-        const Miles distance = alongParallel(from, to);
-        return spheroid == 1 ? distance * ParallelFactor(std::fabs(lat1)) : distance;
-    }
-    const Degrees course = courseBetween(from, to);
-    // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
-    if (course == 90 || course == 270) throw ArithmeticError(Condition::DivisionByZero);
-    return std::fabs(Quotient(change, std::cos(DegToRad(course)))) * 60;
+    return distanceBetween(from, to, lat1, spheroid, [&] { return courseBetween(from, to); });
 }
 
 DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid)
@@ -143,6 +176,13 @@ DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid)
 
 DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid)
 {
+    return DRLongitude(lat1, long1, course, distance, spheroid,
+                       DRLatitude(lat1, course, distance, spheroid));
+}
+
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid,
+                   DegMin latReached)
+{
     if (distance <= 0) return long1;
     const Degrees phi1 = DegMinToDeg(lat1);
     Degrees change = 0;
@@ -153,9 +193,11 @@ DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, in
         change = Quotient(run, std::cos(DegToRad(phi1))) / 60;
         if (spheroid == 1) change = Quotient(change, factorAt(std::fabs(lat1), runFactors));
     } else {
-        const Degrees phi2 = DegMinToDeg(DRLatitude(lat1, course, distance, spheroid));
-        const double parts = MeridionalParts(phi2) - MeridionalParts(phi1);
-        change = std::tan(DegToRad(course)) * parts / 60;
+        // First what does not wait for the latitude reached.
+        const double slope = std::tan(DegToRad(course));
+        const double partsLeft = MeridionalParts(phi1);
+        const double parts = MeridionalParts(DegMinToDeg(latReached)) - partsLeft;
+        change = slope * parts / 60;
     }
     Degrees lambda = DegMinToDeg(long1) + change;
     // Close to a pole a run can go round the earth many times.
@@ -176,22 +218,31 @@ Miles GCDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
                                 std::cos(phi1) * std::cos(phi2) * std::cos(change)));
 }
 
-DegMin GCLatitudeAt(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, DegMin meridian)
+GreatCircle::GreatCircle(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
 {
     const Radians phi1 = DegToRad(DegMinToDeg(lat1));
-    const Radians lambda1 = DegToRad(DegMinToDeg(long1));
     const Radians phi2 = DegToRad(DegMinToDeg(lat2));
-    const Radians lambda2 = DegToRad(DegMinToDeg(long2));
-    const Radians lambda = DegToRad(DegMinToDeg(meridian));
+    m_lambda1 = DegToRad(DegMinToDeg(long1));
+    m_sinPhi1 = std::sin(phi1);
+    m_cosPhi1 = std::cos(phi1);
 
-    const Radians change = unsignedShorterWay(lambda1, lambda2);
-    Radians angle = ArcTan2(std::cos(phi1) * std::tan(phi2) - std::sin(phi1) * std::cos(change),
-                            std::sin(change));
-    if (angle == 0) angle = 1e-7; // its tangent divides below
-    const Radians run = unsignedShorterWay(lambda, lambda1);
-    const Radians phi = ArcTan2(std::cos(phi1), Quotient(1, std::tan(angle)) * std::sin(run) +
-                                                    std::sin(phi1) * std::cos(run));
+    const Radians change = unsignedShorterWay(m_lambda1, DegToRad(DegMinToDeg(long2)));
+    m_angle = ArcTan2(m_cosPhi1 * std::tan(phi2) - m_sinPhi1 * std::cos(change), std::sin(change));
+    // Its tangent divides; an initial angle of 0 stays the course due north.
+    m_cotangent = Quotient(1, std::tan(m_angle == 0 ? 1e-7 : m_angle));
+}
+
+DegMin GreatCircle::latitudeAt(DegMin meridian) const
+{
+    const Radians run = unsignedShorterWay(DegToRad(DegMinToDeg(meridian)), m_lambda1);
+    const Radians phi =
+        ArcTan2(double(m_cosPhi1), m_cotangent * std::sin(run) + m_sinPhi1 * std::cos(run));
     return DegToDegMin(RadToDeg(phi));
+}
+
+DegMin GCLatitudeAt(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, DegMin meridian)
+{
+    return GreatCircle(lat1, long1, lat2, long2).latitudeAt(meridian);
 }
 
 } // namespace NavFunc113

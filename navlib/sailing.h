@@ -48,6 +48,16 @@ Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
 ///         between different latitudes
 Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid);
 
+/// A rhumb-line leg.
+struct RhumbLeg {
+    Degrees course = 0; ///< true, 0 <= course < 360
+    Miles distance = 0;
+};
+
+/// RhumbCourse and RhumbDistance of one leg in one go, for whoever wants both.
+/// @throws ArithmeticError as RhumbDistance
+RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid);
+
 /// Latitude reached by dead reckoning: change of latitude = distance x cos course.
 ///
 /// @param lat      latitude left
@@ -66,6 +76,11 @@ DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid);
 ///         courses 90 and 270 on a pole, whose parallel has no length
 DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid);
 
+/// The same for whoever has the latitude reached already.
+/// @param latReached what DRLatitude gives for lat1, course, distance and spheroid
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid,
+                   DegMin latReached);
+
 /// Great-circle distance on the sphere, one mile a minute of arc.
 /// @return 0 .. 10800
 /// @throws ArithmeticError DivisionByZero for positions exactly 90 degrees of arc apart,
@@ -73,11 +88,32 @@ DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, in
 ///         opposite positions
 Miles GCDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
 
-/// Latitude at which the great circle from position 1 to position 2 crosses a meridian.
+/// The great circle from one position to another, for several meridians.
 ///
-/// Four-parts formula with unsigned changes of longitude, so the meridian must lie between those
-/// of the two positions, on the side of the shorter change of longitude.
-/// @param meridian longitude of the meridian
+/// Four-parts formula cos phi1 tan phi = sin phi1 cos run + sin run cot angle, with unsigned
+/// changes of longitude: a meridian asked for must lie between those of the two positions, on the
+/// side of the shorter change of longitude.
+class GreatCircle
+{
+public:
+    GreatCircle(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
+
+    /// Initial course angle, 0 .. pi, from north towards the destination on either side.
+    Radians initialAngle() const { return m_angle; }
+
+    /// Latitude at which the circle crosses a meridian.
+    DegMin latitudeAt(DegMin meridian) const;
+
+private:
+    Radians m_lambda1;
+    double m_sinPhi1;
+    double m_cosPhi1;
+    Radians m_angle;
+    double m_cotangent; ///< of the initial angle
+};
+
+/// Latitude at which the great circle from position 1 to position 2 crosses a meridian, as
+/// GreatCircle::latitudeAt.
 DegMin GCLatitudeAt(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, DegMin meridian);
 
 } // namespace NavFunc113

@@ -2,7 +2,7 @@
 #include "forms/frmTIDE/DrawCurve.h"
 
 #include "app/Format.h"
-#include "navlib/compass_name.h"
+#include "navlib/wind.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,7 +53,7 @@ std::string setOf(const TidePrediction& prediction, double rate)
     double direction = std::fmod(prediction.floodDirection + (rate > 0 ? 0 : 180), 360);
     if (!std::isfinite(direction)) return {};
     if (direction < 0) direction += 360;
-    return " " + std::string(NavFunc113::CompassName(direction));
+    return " " + NavFunc113::CompassName(direction);
 }
 
 } // namespace

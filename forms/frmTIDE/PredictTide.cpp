@@ -5,8 +5,8 @@
 #include "forms/frmTIDE/TideData.h"
 #include "forms/frmTIDE/TideDates.h"
 #include "navlib/angles.h"
-#include "navlib/compass_name.h"
 #include "navlib/datetime.h"
+#include "navlib/wind.h"
 
 namespace korvel
 {
@@ -75,9 +75,11 @@ std::optional<TidePrediction> PredictCurrent(const std::filesystem::path& progra
     TidePrediction prediction = predict(station, factors, station.meanLevel, shown);
     prediction.kind = TideKind::Stream;
     prediction.floodDirection = station.floodDirection;
-    prediction.lblCuDirection = {
-        "+ : " + std::string(NavFunc113::CompassName(station.floodDirection + 0.0)),
-        "- : " + std::string(NavFunc113::CompassName(station.floodDirection + 180))};
+    // The ebb is passed on as it is, not reduced below 360: the name does that.
+    NavFunc113::Degrees flood = station.floodDirection;
+    NavFunc113::Degrees ebb = station.floodDirection + 180;
+    prediction.lblCuDirection = {"+ : " + NavFunc113::CompassName(flood),
+                                 "- : " + NavFunc113::CompassName(ebb)};
     prediction.lblTideInfo = info(prediction.extremes, "0.0kn   ", "0.0kn");
     return prediction;
 }

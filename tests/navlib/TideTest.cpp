@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/tide.h"
 
-#include "navlib/arithmetic_error.h"
-#include "navlib/compass_name.h"
-
 #include <gtest/gtest.h>
 
 namespace NavFunc113
@@ -116,25 +113,6 @@ TEST(Tide, searchStartsAtHalfPastMidnightWithItsOwnBounds)
     found = SearchHighestLowest(values, earlier);
     EXPECT_EQ(found.lowest, 5);
     EXPECT_EQ(found.timeLow, 11.5);
-}
-
-TEST(CompassName, sectorsAndTheirEdges)
-{
-    const struct {
-        Degrees direction;
-        const char* name;
-        Degrees left;
-    } rows[] = {{0, "North", 0},   {11, "North", 11},   {12, "NNE", 12},     {33, "NNE", 33},
-                {34, "NE", 34},    {90, "East", 90},    {180, "South", 180}, {281, "West", 281},
-                {348, "NNW", 348}, {349, "North", 349}, {360, "North", 0},   {400, "NE", 40},
-                {11.5, "NNE", 12}, {348.5, "NNW", 348}, {-11, "North", -11}};
-    for (const auto& row : rows) {
-        Degrees direction = row.direction;
-        EXPECT_EQ(CompassName(direction), row.name) << row.direction;
-        EXPECT_EQ(direction, row.left) << "the caller's direction is rounded and reduced";
-    }
-    EXPECT_THROW(CompassName(-90.0), ArithmeticError);
-    EXPECT_THROW(CompassName(1e300), ArithmeticError);
 }
 
 } // namespace

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/angles.h"
+#include "navlib/sailing.h"
+
+#include <GeographicLib/Geodesic.hpp>
+#include <GeographicLib/GeodesicLine.hpp>
+#include <GeographicLib/Rhumb.hpp>
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <random>
+#include <string_view>
+#include <vector>
+
+/// The sailing routines beside GeographicLib's, on the same varied passages: "ours/..." and
+/// "peer/..." of one name make one ratio. With the argument "count NAME ROUNDS" only that work is
+/// done, that many times, for an instruction count.
+namespace
+{
+
+using namespace NavFunc113;
+using GeographicLib::Geodesic;
+using GeographicLib::Rhumb;
+
+struct Leg {
+    double lat1, long1, lat2, long2; ///< as the routine under test takes them
+    double course;                   ///< degrees
+    double miles;
+};
+
+constexpr std::size_t legCount = 256;
+constexpr std::size_t routeCount = 16;
+constexpr int waypoints = 19;
+constexpr double metresPerMile = 1852;
+
+/// Ocean passages between 60 S and 60 N, in decimal degrees.
+std::vector<Leg> passages()
+{
+    std::mt19937 random(2000);
+    std::uniform_real_distribution<double> unit(0, 1);
+    std::vector<Leg> legs(legCount);
+    for (Leg& leg : legs) {
+        leg.lat1 = 120 * unit(random) - 60;
+        leg.long1 = 360 * unit(random) - 180;
+        leg.lat2 = 120 * unit(random) - 60;
+        leg.long2 = 360 * unit(random) - 180;
+        leg.course = 360 * unit(random);
+        leg.miles = 10 + 500 * unit(random);
+    }
+    return legs;
+}
+
+/// Passages with at least 170 degrees of longitude, which have the most waypoints.
+std::vector<Leg> longPassages()
+{
+    std::vector<Leg> legs = passages();
+    legs.resize(routeCount);
+    for (Leg& leg : legs) {
+        leg.lat1 = std::fabs(leg.lat1);
+        leg.lat2 = std::fabs(leg.lat2);
+        leg.long2 = leg.long1 + 178;
+    }
+    return legs;
+}
+
+std::vector<Leg> packed(std::vector<Leg> legs)
+{
+    for (Leg& leg : legs)
+        for (double* angle : {&leg.lat1, &leg.long1, &leg.lat2, &leg.long2})
+            *angle = DegToDegMin(*angle);
+    return legs;
+}
+
+const std::vector<Leg> inDegrees = passages();
+const std::vector<Leg> inDegMin = packed(inDegrees);
+const std::vector<Leg> routesInDegrees = longPassages();
+const std::vector<Leg> routesInDegMin = packed(routesInDegrees);
+
+double rhumbLeg(const Leg& leg, int spheroid)
+{
+    const auto [course, distance] =
+        RhumbCourseAndDistance(leg.lat1, leg.long1, leg.lat2, leg.long2, spheroid);
+    return course + distance;
+}
+
+double deadReckoning(const Leg& leg, int spheroid)
+{
+    const double lat = DRLatitude(leg.lat1, leg.course, leg.miles, spheroid);
+    return lat + DRLongitude(leg.lat1, leg.long1, leg.course, leg.miles, spheroid, lat);
+}
+
+double greatCircle(const Leg& leg, int)
+{
+    return GCDistance(leg.lat1, leg.long1, leg.lat2, leg.long2);
+}
+
+double route(const Leg& leg, int spheroid)
+{
+    double sum = 0;
+    double lat = leg.lat1;
+    double longitude = leg.long1;
+    const GreatCircle circle(leg.lat1, leg.long1, leg.lat2, leg.long2);
+    for (int i = 1; i <= waypoints; ++i) {
+        const double nextLong = leg.long1 + (leg.long2 - leg.long1) * i / waypoints;
+        const double nextLat = circle.latitudeAt(nextLong);
+        const auto [course, distance] =
+            RhumbCourseAndDistance(lat, longitude, nextLat, nextLong, spheroid);
+        sum += course + distance;
+        lat = nextLat;
+        longitude = nextLong;
+    }
+    return sum;
+}
+
+double peerRhumbLeg(const Leg& leg, int)
+{
+    double metres = 0;
+    double course = 0;
+    Rhumb::WGS84().Inverse(leg.lat1, leg.long1, leg.lat2, leg.long2, metres, course);
+    return course + metres;
+}
+
+double peerDeadReckoning(const Leg& leg, int)
+{
+    double lat = 0;
+    double longitude = 0;
+    Rhumb::WGS84().Direct(leg.lat1, leg.long1, leg.course, leg.miles * metresPerMile, lat,
+                          longitude);
+    return lat + longitude;
+}
+
+double peerGreatCircle(const Leg& leg, int)
+{
+    double metres = 0;
+    Geodesic::WGS84().Inverse(leg.lat1, leg.long1, leg.lat2, leg.long2, metres);
+    return metres;
+}
+
+double peerRoute(const Leg& leg, int)
+{
+    const auto line = Geodesic::WGS84().InverseLine(leg.lat1, leg.long1, leg.lat2, leg.long2);
+    double sum = 0;
+    double lat = leg.lat1;
+    double longitude = leg.long1;
+    for (int i = 1; i <= waypoints; ++i) {
+        double nextLat = 0;
+        double nextLong = 0;
+        line.Position(line.Distance() * i / waypoints, nextLat, nextLong);
+        double metres = 0;
+        double course = 0;
+        Rhumb::WGS84().Inverse(lat, longitude, nextLat, nextLong, metres, course);
+        sum += course + metres;
+        lat = nextLat;
+        longitude = nextLong;
+    }
+    return sum;
+}
+
+struct Work {
+    const char* name;
+    double (*run)(const Leg&, int spheroid);
+    int spheroid;
+    const std::vector<Leg>& legs;
+};
+
+const std::array works{
+    Work{"peer/rhumb", peerRhumbLeg, 0, inDegrees},
+    Work{"ours/rhumb/sphere", rhumbLeg, 0, inDegMin},
+    Work{"ours/rhumb/spheroid", rhumbLeg, 1, inDegMin},
+    Work{"peer/dr", peerDeadReckoning, 0, inDegrees},
+    Work{"ours/dr/sphere", deadReckoning, 0, inDegMin},
+    Work{"ours/dr/spheroid", deadReckoning, 1, inDegMin},
+    Work{"peer/gc", peerGreatCircle, 0, inDegrees},
+    Work{"ours/gc/sphere", greatCircle, 0, inDegMin},
+    Work{"peer/route", peerRoute, 0, routesInDegrees},
+    Work{"ours/route/sphere", route, 0, routesInDegMin},
+    Work{"ours/route/spheroid", route, 1, routesInDegMin},
+};
+
+void measure(benchmark::State& state, const Work& work)
+{
+    std::size_t i = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(work.run(work.legs[i], work.spheroid));
+        if (++i == work.legs.size()) i = 0;
+    }
+}
+
+int countOnly(std::string_view name, int rounds)
+{
+    for (const Work& work : works) {
+        if (name != work.name) continue;
+        for (int round = 0; round < rounds; ++round)
+            for (const Leg& leg : work.legs)
+                benchmark::DoNotOptimize(work.run(leg, work.spheroid));
+        return 0;
+    }
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc == 4 && std::string_view(argv[1]) == "count")
+        return countOnly(argv[2], std::atoi(argv[3]));
+    for (const Work& work : works)
+        benchmark::RegisterBenchmark(work.name, measure, work);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

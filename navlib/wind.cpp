@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/wind.h"
+
+#include "navlib/angles.h"
+
+#include <array>
+#include <cmath>
+
+namespace NavFunc113
+{
+namespace
+{
+
+using Condition = ArithmeticError::Condition;
+
+// The last repeats the first, so that the sector across north needs no case of its own.
+constexpr std::array<const char*, 17> compassNames{"North", "NNE", "NE",    "ENE", "East", "ESE",
+                                                   "SE",    "SSE", "South", "SSW", "SW",   "WSW",
+                                                   "West",  "WNW", "NW",    "NNW", "North"};
+
+/// Beaufort n begins at the n-th of these, in knots.
+constexpr std::array<Knots, 10> beaufortLowerBounds{0, 1, 4, 7, 11, 17, 22, 28, 34, 41};
+
+} // namespace
+
+Degrees TrueWindDirection(Degrees course, Knots shipSpeed, Degrees relativeDirection,
+                          Knots apparentSpeed)
+{
+    const Degrees nudgedCourse = course + 1e-10;
+    const Radians theta = DegToRad(relativeDirection);
+    const double ahead = std::cos(theta) * apparentSpeed - shipSpeed;
+    const double abeam = std::sin(theta) * apparentSpeed;
+    const Degrees direction = nudgedCourse + RadToDeg(ArcTan2(double(ahead), abeam));
+    if (direction > 360) return direction - 360;
+    if (direction < 0) return direction + 360;
+    return direction;
+}
+
+Knots TrueWindSpeed(Knots shipSpeed, Degrees relativeDirection, Knots apparentSpeed)
+{
+    const Knots nudgedSpeed = shipSpeed + 1e-5; // a stopped ship still has a direction
+    const Radians theta = DegToRad(relativeDirection);
+    const Knots speed = SquareRoot(std::pow(apparentSpeed, 2.0) + std::pow(nudgedSpeed, 2.0) -
+                                   2 * apparentSpeed * nudgedSpeed * std::cos(theta));
+    if (!std::isfinite(speed)) throw ArithmeticError(Condition::Overflow);
+    return speed;
+}
+
+std::string TrueWindName(Degrees course, Knots shipSpeed, Degrees relativeDirection,
+                         Knots apparentSpeed)
+{
+    Degrees direction = TrueWindDirection(course, shipSpeed, relativeDirection, apparentSpeed);
+    return CompassName(direction);
+}
+
+std::string CompassName(Degrees& direction)
+{
+    if (std::isnan(direction)) throw ArithmeticError(Condition::InvalidArgument);
+    const double whole = std::nearbyint(direction);
+    if (std::fabs(whole) > 2147483647) throw ArithmeticError(Condition::Overflow);
+    direction = std::fmod(whole, 360);
+    const int sector = static_cast<int>(std::floor((direction + 33.75) / 22.5));
+    return PickItem<const char*>(sector, compassNames);
+}
+
+int BeaufortNumber(Knots speed)
+{
+    if (std::isnan(speed)) throw ArithmeticError(Condition::InvalidArgument);
+    int number = 9;
+    while (number > 0 && speed < beaufortLowerBounds[static_cast<std::size_t>(number)])
+        --number;
+    return number;
+}
+
+} // namespace NavFunc113
