@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 # tide_accuracy prints how far the prediction is from the full harmonic one; tide_bench how long a
-# day takes. Bars: dayOfValues at most 0.16 of plainSumOf37Constituents; dayOfValuesFromDisk, which
-# reads the day's arguments too, at most 0.4 of plainDayOf37Constituents, which works them out.
+# day takes. Bars: ours/tide_day at most 0.16 of peer/tide_day (a plain sum of 37 constituents whose
+# arguments are given); ours/tide_from_disk, which reads the day's arguments and the station, at most
+# 0.4 of peer/tide_from_disk (the same sum, which works the arguments out).
 add_library(tide_full STATIC FullPrediction.cpp)
 target_link_libraries(tide_full PUBLIC tidedata_core)
 

@@ -29,7 +29,7 @@ void plainSumOf37Constituents(benchmark::State& state)
         benchmark::DoNotOptimize(values);
     }
 }
-BENCHMARK(plainSumOf37Constituents);
+BENCHMARK(plainSumOf37Constituents)->Name("peer/tide_day");
 
 // The same with the day's arguments and node factors worked out: what the daily file saves.
 void plainDayOf37Constituents(benchmark::State& state)
@@ -45,7 +45,7 @@ void plainDayOf37Constituents(benchmark::State& state)
         benchmark::DoNotOptimize(values);
     }
 }
-BENCHMARK(plainDayOf37Constituents);
+BENCHMARK(plainDayOf37Constituents)->Name("peer/tide_from_disk");
 
 void dayOfValues(benchmark::State& state)
 {
@@ -58,7 +58,7 @@ void dayOfValues(benchmark::State& state)
         benchmark::DoNotOptimize(values);
     }
 }
-BENCHMARK(dayOfValues);
+BENCHMARK(dayOfValues)->Name("ours/tide_day");
 
 void dayOfValuesFromDisk(benchmark::State& state)
 {
@@ -72,7 +72,7 @@ void dayOfValuesFromDisk(benchmark::State& state)
         benchmark::DoNotOptimize(values);
     }
 }
-BENCHMARK(dayOfValuesFromDisk);
+BENCHMARK(dayOfValuesFromDisk)->Name("ours/tide_from_disk");
 
 } // namespace
 
