@@ -130,6 +130,15 @@ void printRow(const Accuracy& a)
               << pair(a.high.otherShare(), a.low.otherShare(), "0.0") << " |\n";
 }
 
+// Of values in ascending order, linear between two of them.
+double quantile(const std::vector<double>& values, double share)
+{
+    const double rank = share * static_cast<double>(values.size() - 1);
+    const auto below = static_cast<std::size_t>(rank);
+    const double next = values[std::min(below + 1, values.size() - 1)];
+    return values[below] + (rank - static_cast<double>(below)) * (next - values[below]);
+}
+
 void printSummary(const std::vector<Accuracy>& all)
 {
     std::vector<double> relative;
@@ -147,9 +156,9 @@ void printSummary(const std::vector<Accuracy>& all)
         std::accumulate(relative.begin(), relative.end(), 0.0) / static_cast<double>(all.size());
     std::cout << "\nAll " << all.size() << " stations: RMS error relative to the tide's standard "
               << "deviation: mean " << percent(meanRelative) << ", median "
-              << percent((relative[(relative.size() - 1) / 2] + relative[relative.size() / 2]) / 2)
-              << ", 90th percentile " << percent(relative[relative.size() * 9 / 10]) << ", worst "
-              << percent(relative.back()) << ".\nDay's highest / lowest: RMS error on average "
+              << percent(quantile(relative, 0.5)) << ", 90th percentile "
+              << percent(quantile(relative, 0.9)) << ", worst " << percent(relative.back())
+              << ".\nDay's highest / lowest: RMS error on average "
               << pair(mean([](const Accuracy& a) { return a.high.rms(); }),
                       mean([](const Accuracy& a) { return a.low.rms(); }), "0.000")
               << " m, time on average "

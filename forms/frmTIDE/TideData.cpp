@@ -106,21 +106,29 @@ constexpr std::string_view streamLayout =
 // A station's fields are some two hundred bytes; what follows them is never read.
 using StationBytes = std::array<char, 4096>;
 
-std::string_view contentOf(const std::string& path, std::string_view layout, StationBytes& bytes)
+// Nothing when the file cannot be opened.
+std::optional<std::string_view> contentOf(const std::string& path, StationBytes& bytes)
 {
     const DataFile file(path);
-    if (!file.isOpen()) {
-        const bool there = std::filesystem::exists(path);
-        throw TideDataFault(
-            "Harmonic Constants/" + nameOf(path), 0, 0,
-            there ? "the file cannot be opened."
-                  : "there is no such file, and nothing is shown for this station. A file made "
-                    "from the ship's own tables and put there is used at once. It holds " +
-                        std::string(layout));
-    }
+    if (!file.isOpen()) return std::nullopt;
     std::string_view content(bytes.data(), file.read(bytes.data(), bytes.size(), 0));
     if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
     return content;
+}
+
+[[noreturn]] void refuseStation(const std::string& path, const std::string& reason,
+                                std::string_view layout)
+{
+    std::error_code unreadable;
+    if (std::filesystem::exists(path, unreadable))
+        throw TideDataFault("Harmonic Constants/" + nameOf(path), 0, 0,
+                            "the file cannot be opened.");
+    throw TideDataFault("Harmonic Constants/" + nameOf(path), 0, 0,
+                        "there is no such file, and nothing is shown for this station" +
+                            (reason.empty() ? "." : " (" + reason + ").") +
+                            " A file made from the ship's own tables and put there is used at "
+                            "once. It holds " +
+                            std::string(layout));
 }
 
 // Fields 1 to 15, which both kinds of station have.
@@ -205,7 +213,12 @@ TideStation readTideStation(const path& programFolder, const std::string& place)
 {
     const std::string path = tideFilePath(programFolder, place);
     StationBytes bytes;
-    FieldReader reader(path, contentOf(path, tideLayout, bytes), 1);
+    const auto content = contentOf(path, bytes);
+    if (!content) {
+        const auto notes = readStationNotes(programFolder, place);
+        refuseStation(path, notes && notes->grade == "none" ? notes->source : "", tideLayout);
+    }
+    FieldReader reader(path, *content, 1);
     TideStation station = commonFields(reader);
     for (double& correction : station.monthlyCorrections)
         correction = reader.number();
@@ -216,7 +229,10 @@ TideStation readStreamStation(const path& programFolder, const std::string& plac
 {
     const std::string path = streamFilePath(programFolder, place);
     StationBytes bytes;
-    FieldReader reader(path, contentOf(path, streamLayout, bytes), 1);
+    const auto content = contentOf(path, bytes);
+    if (!content)
+        refuseStation(path, "no open constants of streams exist for these waters", streamLayout);
+    FieldReader reader(path, *content, 1);
     TideStation station = commonFields(reader);
     station.floodDirection = reader.number();
     return station;

@@ -174,6 +174,12 @@ TEST(Stations, everyPlaceOfTheMenusHasAFileOrAReason)
         }
     }
     EXPECT_EQ(places, 114u);
+    try {
+        readTideStation(TideFolder::shipped(), "Wonsan");
+        FAIL() << "there is no such file";
+    } catch (const TideDataFault& fault) {
+        EXPECT_THAT(fault.what(), HasSubstr("(no open record on the Korean or Russian coast"));
+    }
     EXPECT_FALSE(readStationNotes(TideFolder::shipped(), "Atlantis"));
     EXPECT_EQ(readStationNotes(TideFolder::shipped(), "Berhala")->uncertainty,
               "amplitude +-25 %, time +-50 min");
