@@ -35,22 +35,23 @@ TEST(Tide, wholeTurnsAreAddedUntilTheThresholdIsPassed)
 }
 
 // Constituents worked by hand: a wave of 30 degrees an hour, amplitude 2, phase 60, with
-// quarter-diurnal 0.1 at 30 degrees and sixth-diurnal 0.05 at 0.
+// quarter-diurnal 0.1 at 30 degrees and sixth-diurnal 0.05 at 40.
 TEST(Tide, harmonicSumInEveryQuadrantOfTheSemidiurnalWave)
 {
     const TideConstituents station{{{0, 0}, {60, 2}, {0, 0}, {0, 0}}};
     const DailyFactors day{{{0, 1}, {0, 1}, {0, 1}, {0, 1}}};
-    const ShallowWaterTerms shallow{30, 0.1, 0, 0.05};
+    const ShallowWaterTerms shallow{30, 0.1, 40, 0.05};
     const struct {
         const char* fault;
         Hours t;
         double sum;
     } rows[] = {
-        {"60 degrees", 0, 1 + 0.4 * -0.8660254 + 0.4 * -1},
-        {"0 degrees: no sine to divide by", 2, 2 + 0.4 * 0.8660254 + 0.4},
-        {"-90 degrees: no cosine to divide by", 5, 0.4 * -0.8660254},
-        {"180 degrees: the sine is a rounding error", 8, -2 + 0.4 * 0.8660254 - 0.4},
-        {"-120 degrees: R of the quotient form is negative", 6, -1 + 0.4 * -0.8660254 + 0.4},
+        {"60 degrees", 0, 1 + 0.4 * -0.8660254 + 0.4 * -0.7660444},
+        {"0 degrees: no sine to divide by", 2, 2 + 0.4 * 0.8660254 + 0.4 * 0.7660444},
+        {"-90 degrees: no cosine to divide by", 5, 0.4 * -0.8660254 + 0.4 * -0.6427876},
+        {"180 degrees: the sine is a rounding error", 8, -2 + 0.4 * 0.8660254 + 0.4 * -0.7660444},
+        {"-120 degrees: R of the quotient form is negative", 6,
+         -1 + 0.4 * -0.8660254 + 0.4 * 0.7660444},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);

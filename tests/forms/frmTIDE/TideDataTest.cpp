@@ -52,6 +52,7 @@ TEST(Factors, malformedFilesAreReadOrRefused)
         {"short by its last line", lines, 7, "AF2005.txt, line 9: the line is missing"},
         {"a short line before", with(46 * 2 + 5, 1, ""), 4, "AF2005.txt, line 3: the line has 43"},
         {"an over-long line", with(46 * 4 + 5, 0, "0"), 4, "AF2005.txt, line 5: the line has 45"},
+        {"two lines run together", with(46 * 4 - 2, 2, "00"), 4, "line 4: the line has 90"},
         {"the next day's line is long", with(46 * 5 + 5, 0, "0"), 4, "line 6: the line has 45"},
         {"LF only", lfOnly, 0, "AF2005.txt, line 1: the line ends with LF alone"},
         {"LF only, later day", lfOnly, 5, "AF2005.txt, line 1: the line ends with LF alone"},
