@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace korvel
+{
+
+/// Takes fields one after the other from a data file's text: separated by commas, blanks or line
+/// ends, numbers with a decimal point, a text quoted or ending at the next comma or line end.
+/// Every fault is a TideDataFault that names file, line and field.
+class FieldReader
+{
+public:
+    /// @param file path, the name of which is for faults
+    /// @param content must, like the path, outlive the reader
+    /// @param line number of the content's first line
+    FieldReader(const std::string& file, std::string_view content, long line);
+
+    std::string text();
+    double number();
+
+    /// True when nothing but blanks and line ends is left.
+    bool atEnd();
+
+private:
+    void skipBlanks();
+    void skipLineEnds();
+    void skipSeparator();
+    std::string_view takeUntil(std::string_view ends);
+    [[noreturn]] void fault(const std::string& trouble) const;
+
+    const std::string& m_file;
+    std::string_view m_rest;
+    long m_line;
+    int m_field = 0;
+};
+
+} // namespace korvel

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/tide.h"
+
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+/// Reading the tide data files that lie in the program's folder: the daily astronomical factors
+/// and one file of harmonic constants a station.
+namespace korvel
+{
+
+/// A data file that is missing or cannot be read. what() is the dialog's text: it names the file
+/// and, where there is one, the line and the field.
+class TideDataFault : public std::runtime_error
+{
+public:
+    /// @param line 1 for the first line; 0 when the fault is not in a line
+    /// @param field 1 for the first field; 0 when the fault is not in a field
+    TideDataFault(const std::string& file, long line, int field, const std::string& trouble);
+
+    std::string file;
+    long line;
+    int field;
+};
+
+/// The first day of the factors file, 2002-10-01.
+inline constexpr long firstFactorsSerial = 37530;
+/// Bytes of a line of the factors file: 44 characters, CR and LF.
+inline constexpr long factorsLineLength = 46;
+
+/// Path of the factors file.
+std::string factorsFilePath(const std::filesystem::path& programFolder);
+
+/// Path of a tide station's file, and of a tidal-stream station's, which is told apart by an
+/// underscore. The place is used as it stands, blanks and apostrophes included.
+std::string tideFilePath(const std::filesystem::path& programFolder, std::string_view place);
+std::string streamFilePath(const std::filesystem::path& programFolder, std::string_view place);
+
+/// What a day's prediction needs of the factors file.
+struct DaysFactors {
+    NavFunc113::DailyFactors thisDay;
+    NavFunc113::DailyFactors nextDay;
+};
+
+/// Reads a day's line and the next one's. Only these two are looked at: the line is reached by its
+/// byte position, so a file whose lines are not 46 bytes long is refused rather than misread, and
+/// so is one that begins with a byte-order mark.
+///
+/// @param dayNumber 0 for 2002-10-01
+/// @throws TideDataFault
+DaysFactors readDaysFactors(const std::filesystem::path& programFolder, long dayNumber);
+
+/// A station's constants.
+struct TideStation {
+    std::string title;
+    NavFunc113::Hours zone = 0; ///< east positive
+    double meanLevel = 0;       ///< metres above chart datum, or mean stream in knots
+    NavFunc113::TideConstituents constituents;
+    NavFunc113::ShallowWaterTerms shallowWater;
+    std::array<double, 12> monthlyCorrections{}; ///< metres; tide stations only
+    NavFunc113::Degrees floodDirection = 0;      ///< true; stream stations only
+};
+
+/// Reads a station's fields: separated by commas, blanks or line ends, the title quoted or not; a
+/// byte-order mark and fields beyond the last are passed over, any line end will do.
+/// @throws TideDataFault; for a missing file it says how one from the ship's own tables is laid out
+TideStation readTideStation(const std::filesystem::path& programFolder, const std::string& place);
+TideStation readStreamStation(const std::filesystem::path& programFolder, const std::string& place);
+
+/// What is known about a tide station's constants.
+struct StationNotes {
+    std::string grade;       ///< A to D; "none" for a place without an honest source
+    std::string uncertainty; ///< in words; empty for grade A
+    std::string source;      ///< in words; for grade "none" the reason why there is none
+    std::string licence;
+};
+
+/// The notes on a place from stations.txt beside the factors file; nothing when the list or its
+/// entry is missing (a file made from the ship's own tables needs none).
+std::optional<StationNotes> readStationNotes(const std::filesystem::path& programFolder,
+                                             const std::string& place);
+
+} // namespace korvel

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/TideDates.h"
+
+#include "app/Format.h"
+#include "app/reading.h"
+#include "forms/frmTIDE/TideData.h"
+
+#include <array>
+#include <cmath>
+#include <fstream>
+
+namespace korvel
+{
+namespace
+{
+
+std::string shortDate(long serial)
+{
+    return Format(static_cast<double>(serial), "yyyy/m/d");
+}
+
+// Lines of a factors file whose last line stands where the layout puts it; 0 otherwise.
+long wellFormedLines(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary | std::ios::ate);
+    if (!stream) return 0;
+    // The last line's CR LF may be missing.
+    const long lines = (static_cast<long>(stream.tellg()) + 2) / factorsLineLength;
+    if (lines < 2) return 0;
+    std::array<char, 2> end{};
+    stream.seekg((lines - 1) * factorsLineLength - 2);
+    stream.read(end.data(), end.size());
+    return end[0] == '\r' && end[1] == '\n' ? lines : 0;
+}
+
+} // namespace
+
+TideDates TideDates::ofFolder(const std::filesystem::path& programFolder)
+{
+    TideDates dates;
+    const long last = firstFactorsSerial + wellFormedLines(factorsFilePath(programFolder)) - 2;
+    if (last > dates.m_lastSerial) dates.m_lastSerial = last;
+    return dates;
+}
+
+long TideDates::firstSerial() const
+{
+    return firstFactorsSerial;
+}
+
+int TideDates::scrollValueOf(long serial) const
+{
+    return static_cast<int>(serial - firstFactorsSerial + 1);
+}
+
+long TideDates::serialOfScrollValue(int value) const
+{
+    return firstFactorsSerial - 1 + value;
+}
+
+bool TideDates::contains(long serial) const
+{
+    return firstFactorsSerial <= serial && serial <= m_lastSerial;
+}
+
+std::optional<long> TideDates::dateIn(std::string_view text)
+{
+    const std::optional<NavFunc113::DateTime> value = readDateTime(text);
+    if (!value) return std::nullopt;
+    return static_cast<long>(std::floor(*value));
+}
+
+std::string TideDates::label(long serial)
+{
+    return Format(static_cast<double>(serial), "yyyy/mm/dd");
+}
+
+std::string TideDates::defaultAnswer(long serial)
+{
+    return shortDate(serial);
+}
+
+std::string TideDates::refusal() const
+{
+    return "This version of KORVEL can calculate the tide only " + shortDate(firstFactorsSerial) +
+           " to " + shortDate(m_lastSerial) + ".";
+}
+
+std::string TideDates::aboutNotice() const
+{
+    const bool shipped = m_lastSerial == TideDates().m_lastSerial;
+    const std::string end = shipped ? "the end of 2005" : shortDate(m_lastSerial);
+    return "The tide and tidal stream predictions of this program cover dates up to " + end +
+           ".\r\r"
+           "They are computed from four harmonic constituents and two shallow-water terms, every "
+           "half hour in the station's own zone time. Weather can change levels and times by more "
+           "than the figures show. Not for navigation: the official tide tables have precedence.\r"
+           "\r"
+           "To predict beyond that date, run ./extend-tides 2050 in the program's folder; "
+           "./extend-tides --undo takes it back.\r\r"
+           "Constants: Neaps tide database and TICON-4 (Hart-Davis, Dettmering, Seitz 2025), "
+           "CC BY 4.0, modified; NOAA, public domain. See stations.txt beside the program.";
+}
+
+} // namespace korvel

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/tide.h"
+
+#include "navlib/angles.h"
+
+#include <cmath>
+
+namespace NavFunc113
+{
+namespace
+{
+
+// Two tides of a day that repeat exactly differ by the rounding of their angles. That must not
+// decide which of them counts as the higher: the earlier one does.
+constexpr double roundingError = 1e-9;
+
+Degrees raisedAbove(Degrees threshold, int turns, Degrees change)
+{
+    for (int turn = 0; turn <= turns; ++turn) {
+        if (change + 360 * turn > threshold) return change + 360 * turn;
+    }
+    return change;
+}
+
+} // namespace
+
+Degrees SemidiurnalChange(Degrees thisDay, Degrees nextDay)
+{
+    return raisedAbove(600, 3, thisDay - nextDay);
+}
+
+Degrees DiurnalChange(Degrees thisDay, Degrees nextDay)
+{
+    return raisedAbove(300, 2, thisDay - nextDay);
+}
+
+TideDay::TideDay(const TideConstituents& station, const DailyFactors& thisDay,
+                 const DailyFactors& nextDay, const ShallowWaterTerms& shallowWater)
+{
+    for (std::size_t j = 0; j < m_waves.size(); ++j) {
+        const auto change = j < 2 ? SemidiurnalChange : DiurnalChange;
+        m_waves[j] = {.phase = thisDay[j].angle + station[j].phase,
+                      .speed = change(thisDay[j].angle, nextDay[j].angle) / 24,
+                      .amplitude = station[j].amplitude,
+                      .factor = thisDay[j].factor,
+                      // Next day minus this day: the other way round than the angles.
+                      .factorIncrease = (nextDay[j].factor - thisDay[j].factor) / 24};
+    }
+    const auto turned = [](double coefficient, Degrees phase) {
+        return Turned{coefficient * std::cos(DegToRad(phase)),
+                      coefficient * std::sin(DegToRad(phase))};
+    };
+    m_quarter = turned(shallowWater.quarterCoefficient, shallowWater.quarterPhase);
+    m_sixth = turned(shallowWater.sixthCoefficient, shallowWater.sixthPhase);
+}
+
+double TideDay::amplitudeAt(const Wave& wave, Hours t)
+{
+    return (wave.factor + t * wave.factorIncrease) * wave.amplitude;
+}
+
+// C and S are cosine and sine part of the combined semidiurnal wave: R and theta with
+// C = R cos theta, S = R sin theta. Squaring and cubing C + iS gives R^2 and R^3 with the doubled
+// and tripled angle, in every quadrant and without a quotient that could meet a zero.
+double TideDay::sum(double C, double S, double diurnal) const
+{
+    const double quarterCosine = C * C - S * S;
+    const double quarterSine = 2 * C * S;
+    const double sixthCosine = quarterCosine * C - quarterSine * S;
+    const double sixthSine = quarterSine * C + quarterCosine * S;
+    const double quarter = quarterCosine * m_quarter.cosine - quarterSine * m_quarter.sine;
+    const double sixth = sixthCosine * m_sixth.cosine - sixthSine * m_sixth.sine;
+    return diurnal + C + quarter + sixth;
+}
+
+double TideDay::at(Hours t) const
+{
+    std::array<double, 4> c;
+    std::array<double, 4> s;
+    for (std::size_t j = 0; j < m_waves.size(); ++j) {
+        const double amplitude = amplitudeAt(m_waves[j], t);
+        const Radians psi = (m_waves[j].phase - m_waves[j].speed * t) * Pi() / 180;
+        c[j] = amplitude * std::cos(psi);
+        s[j] = amplitude * std::sin(psi);
+    }
+    return sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]);
+}
+
+TideValues TideDay::halfHourly(double level) const
+{
+    struct Turning {
+        double cosine, sine;
+        double stepCosine, stepSine;
+    };
+    std::array<Turning, 4> turning;
+    for (std::size_t j = 0; j < m_waves.size(); ++j) {
+        const Radians phase = DegToRad(m_waves[j].phase);
+        const Radians step = DegToRad(-m_waves[j].speed / 2);
+        turning[j] = {std::cos(phase), std::sin(phase), std::cos(step), std::sin(step)};
+    }
+    TideValues values;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        std::array<double, 4> c;
+        std::array<double, 4> s;
+        for (std::size_t j = 0; j < m_waves.size(); ++j) {
+            const double amplitude = amplitudeAt(m_waves[j], static_cast<double>(i) / 2);
+            auto& [cosine, sine, stepCosine, stepSine] = turning[j];
+            c[j] = amplitude * cosine;
+            s[j] = amplitude * sine;
+            const double next = cosine * stepCosine - sine * stepSine;
+            sine = sine * stepCosine + cosine * stepSine;
+            cosine = next;
+        }
+        values[i] = sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]) + level;
+    }
+    return values;
+}
+
+double TideHarmonicSum(Hours t, const TideConstituents& station, const DailyFactors& thisDay,
+                       const DailyFactors& nextDay, const ShallowWaterTerms& shallowWater)
+{
+    return TideDay(station, thisDay, nextDay, shallowWater).at(t);
+}
+
+TideExtremes SearchHighestLowest(const TideValues& values, const TideExtremes& earlier)
+{
+    TideExtremes found{0, earlier.timeHigh, 5, earlier.timeLow};
+    for (std::size_t i = 1; i < values.size(); ++i) {
+        const Hours t = static_cast<double>(i) / 2;
+        if (values[i] > found.highest + roundingError) {
+            found.highest = values[i];
+            found.timeHigh = t;
+        }
+        if (values[i] < found.lowest - roundingError) {
+            found.lowest = values[i];
+            found.timeLow = t;
+        }
+    }
+    return found;
+}
+
+} // namespace NavFunc113

@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/PredictTide.h"
+
+#include "forms/frmTIDE/DrawCurve.h"
+#include "forms/frmTIDE/TideData.h"
+#include "forms/frmTIDE/TideDates.h"
+#include "tests/forms/frmTIDE/TideFolder.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+// A folder whose every day has a semidiurnal wave of 12 hours with its crest at 00:00, factor 1,
+// and nothing else: what comes out can be worked by hand.
+class PlainTide : public testing::Test
+{
+protected:
+    PlainTide()
+    {
+        std::string factors;
+        for (int day = 0; day < 1189; ++day)
+            factors += "20021001,000,1.00,000,1.00,000,1.00,000,1.00\r\n";
+        beside.write("AF2005.txt", factors);
+    }
+    void tide(const std::string& fields) const
+    {
+        beside.write("Harmonic Constants/HC_Keling.txt", "Keling," + fields);
+    }
+    void stream(const std::string& fields) const
+    {
+        beside.write("Harmonic Constants/HC_Brothers_.txt", "Brothers," + fields);
+    }
+    auto predictTide(const std::string& date, const TidePrediction& shown = {}) const
+    {
+        return PredictTide(beside.folder, "Keling", date, shown);
+    }
+    auto predictStream(const TidePrediction& shown = {}) const
+    {
+        return PredictCurrent(beside.folder, "Brothers", "2003/03/31", shown);
+    }
+    TideFolder beside;
+};
+
+const std::string corrections = ",0,0,0,0,.1,.2,.3,.4,.5,.6,.7,.8,.9,1,1.1,1.2";
+
+TEST_F(PlainTide, heightsAndTheirTexts)
+{
+    tide("-3.5,2,0,0,15,1.5,0,0,0,0" + corrections);
+    const auto shown = predictTide("2003/11/30");
+    ASSERT_TRUE(shown);
+    // Crests half an hour after 00:00 and 12:00, mean level 2 and November's 1.1.
+    EXPECT_EQ(shown->lblTD, "3.5hW");
+    EXPECT_EQ(shown->lblTideInfo, "00.-30: 4.60m   06.-30: 1.60m");
+    EXPECT_NEAR(shown->values[0], 3.1 + 1.5 * std::cos(std::acos(-1) / 12), 1e-9);
+    EXPECT_THAT(shown->lblCuDirection, testing::ElementsAre("", ""));
+    EXPECT_EQ(predictTide("2003/12/01")->lblTideInfo, "00.-30: 4.70m   06.-30: 1.70m");
+    EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "00.-30: 3.60m   06.-30: 0.60m");
+}
+
+TEST_F(PlainTide, twentyFourHoursAndNothingAboveTheStart)
+{
+    tide("9,2,0,0,0,0,0,0,345,1" + corrections); // a diurnal crest at 23:00, trough at 11:00
+    EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "23.-00: 3.10m   11.-00: 1.10m");
+    tide("9,2,0,0,0,0,0,0,0,1" + corrections); // at 24:00, and the same at 00:00 does not count
+    EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "24.-00: 3.10m   12.-00: 1.10m");
+
+    TidePrediction earlier;
+    earlier.extremes = {3, 5.5, 1, 11.5};
+    tide("9,-4,0,0,0,0,0,0,0,0" + corrections);
+    EXPECT_EQ(predictTide("2003/01/31", earlier)->lblTideInfo, "05.-30: 0.00m   00.-30: -3.90m");
+    tide("9,8,0,0,0,0,0,0,0,0" + corrections);
+    EXPECT_EQ(predictTide("2003/01/31", earlier)->lblTideInfo, "00.-30: 8.10m   11.-30: 5.00m");
+}
+
+TEST_F(PlainTide, streamsHaveDirectionsAndNoMonths)
+{
+    stream("8,-.5,0,0,0,2,0,0,0,0,0,0,0,0,260");
+    const auto shown = predictStream();
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->lblTideInfo, "12.-00: 1.5kn   06.-00: -2.5kn");
+    EXPECT_THAT(shown->lblCuDirection, testing::ElementsAre("+ : West", "- : East"))
+        << "260 and, not reduced before it is named, 440";
+    stream("8,-3,0,0,0,2,0,0,0,0,0,0,0,0,0");
+    EXPECT_EQ(predictStream()->lblTideInfo, "00.-00: 0.0kn   06.-00: -5.0kn") << "never turns";
+}
+
+TEST_F(PlainTide, nothingIsPredictedWithoutPlaceOrDate)
+{
+    tide("8,2,0,0,0,1,0,0,0,0" + corrections);
+    EXPECT_FALSE(predictTide("Date"));
+    EXPECT_FALSE(predictTide(""));
+    EXPECT_FALSE(predictTide("2003/02/29"));
+    EXPECT_FALSE(PredictTide(beside.folder, "Place", "2003/02/28", {}));
+    EXPECT_FALSE(PredictCurrent(beside.folder, "Place", "2003/02/28", {}));
+    EXPECT_TRUE(predictTide("2005/12/31"));
+    EXPECT_THROW(predictTide("2006/01/01"), TideDataFault);
+    EXPECT_THROW(predictTide("2002/09/30"), TideDataFault);
+    EXPECT_THROW(PredictTide(beside.folder, "Bombay", "2003/02/28", {}), TideDataFault);
+}
+
+TEST_F(PlainTide, pictureAndWhatThePointerReads)
+{
+    tide("9,2,0,0,0,1.5,0,0,0,0" + corrections);
+    const auto shown = predictTide("2003/01/31"); // 0.6 to 3.6 m
+    CurvePicture picture = DrawCurve(*shown);
+    EXPECT_NEAR(picture.scale.top, 5.1, 1e-9);
+    EXPECT_NEAR(picture.scale.bottom, -0.6, 1e-9) << "from 0, the lowest being above it";
+    EXPECT_NEAR(picture.lblTime[10].left, 21.7, 1e-9);
+    EXPECT_EQ(picture.lblTime[10].caption, "22");
+    EXPECT_EQ(picture.lblTime[10].top, -0.1);
+    EXPECT_EQ(picture.lblHeight[5].caption, "5 m");
+    EXPECT_EQ(picture.lblHeight[5].top, 5);
+    EXPECT_EQ(picture.hourLines.size(), 11u);
+    EXPECT_EQ(picture.levelLines.size(), 5u) << "1 to 5; 0 is the solid line";
+    EXPECT_EQ(picture.fineLevelLines.size(), 3u + 20 + 0) << "-0.6 to 5.1 in fifths";
+    EXPECT_EQ(picture.ticks.size(), 47u);
+    EXPECT_EQ(picture.curve[48].x, 24);
+
+    EXPECT_EQ(readCurve(*shown, 24)->text, "24:00  3.60m");
+    EXPECT_EQ(readCurve(*shown, 5.999)->text, "06:00  0.60m");
+    EXPECT_NEAR(readCurve(*shown, 0.25)->point.y, (shown->values[0] + shown->values[1]) / 2, 1e-9);
+    EXPECT_FALSE(readCurve(*shown, -0.1));
+    EXPECT_FALSE(readCurve(*shown, 24.1));
+    EXPECT_FALSE(readCurve(*shown, std::nan("")));
+
+    stream("8,0,0,0,0,2,0,0,0,0,0,0,0,0,260");
+    const auto stream = predictStream();
+    picture = DrawCurve(*stream);
+    EXPECT_NEAR(picture.scale.bottom, -2.6, 1e-9);
+    EXPECT_EQ(picture.lblHeight[0].caption, "0 kn.");
+    EXPECT_EQ(readCurve(*stream, 0)->text, "00:00  2.0kn West");
+    EXPECT_EQ(readCurve(*stream, 6)->text, "06:00  2.0kn East") << "an ebb sets the other way";
+    EXPECT_EQ(readCurve(*stream, 3)->text, "03:00  0.0kn slack");
+}
+
+TEST(ShippedData, predictsTheFirstAndTheLastDay)
+{
+    const auto shown = PredictTide(TideFolder::shipped(), "Dampier", "2005/12/31", {});
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(shown->title, "Dampier (est.)");
+    EXPECT_EQ(shown->lblTD, "8.0hE");
+    EXPECT_GT(shown->extremes.highest - shown->extremes.lowest, 2) << "a spring tide";
+    EXPECT_TRUE(PredictTide(TideFolder::shipped(), "Dampier", "2002/10/01", {}));
+    EXPECT_THROW(PredictTide(TideFolder::shipped(), "Dampier", "2006/01/01", {}), TideDataFault);
+}
+
+TEST(TideDates, followTheFactorsFile)
+{
+    const TideFolder beside;
+    const std::string shipped = TideFolder::shippedFactors();
+    const std::string day = "20060102,021,1.11,011,0.73,356,1.40,030,1.39\r\n";
+    std::string lfOnly;
+    for (int i = 0; i < 3000; ++i)
+        lfOnly += day.substr(0, 44) + "\n";
+    const struct {
+        const char* name;
+        std::string factors;
+        long last;
+    } rows[] = {{"shipped", shipped, 38717},
+                {"its last line end missing", shipped.substr(0, shipped.size() - 2), 38717},
+                {"one day longer", shipped + day, 38718},
+                {"longer, blank line at the end", shipped + day + "\r\n", 38718},
+                {"longer by half a line", shipped + day.substr(0, 20), 38717},
+                {"shorter", shipped.substr(0, 46L * 500), 38717},
+                {"longer, but lines of another length", lfOnly, 38717},
+                {"empty", "", 38717}};
+    for (const auto& row : rows) {
+        beside.write("AF2005.txt", row.factors);
+        EXPECT_EQ(TideDates::ofFolder(beside.folder).lastSerial(), row.last) << row.name;
+    }
+    beside.write("AF2005.txt", shipped + day);
+    const TideDates longer = TideDates::ofFolder(beside.folder);
+    EXPECT_EQ(longer.refusal(), "This version of KORVEL can calculate the tide only 2002/10/1 to "
+                                "2006/1/1.");
+    EXPECT_EQ(longer.scrollMaximum(), 1189);
+    EXPECT_THAT(longer.aboutNotice(), testing::HasSubstr("up to 2006/1/1."));
+}
+
+TEST(TideDates, ofTheShippedFile)
+{
+    const TideDates dates = TideDates::ofFolder(TideFolder::shipped());
+    EXPECT_EQ(dates.refusal(), "This version of KORVEL can calculate the tide only 2002/10/1 to "
+                               "2005/12/31.");
+    EXPECT_THAT(dates.aboutNotice(), testing::HasSubstr("up to the end of 2005."));
+    EXPECT_EQ(dates.scrollMaximum(), 1188);
+    EXPECT_EQ(TideDates::label(dates.serialOfScrollValue(1)), "2002/10/01");
+    EXPECT_EQ(TideDates::label(dates.serialOfScrollValue(1188)), "2005/12/31");
+    EXPECT_EQ(dates.scrollValueOf(*TideDates::dateIn("2005/12/31")), 1188);
+    EXPECT_TRUE(dates.contains(*TideDates::dateIn("2002/10/1")));
+    EXPECT_FALSE(dates.contains(*TideDates::dateIn("2002/9/30")));
+    EXPECT_FALSE(dates.contains(*TideDates::dateIn("2006/1/1")));
+    EXPECT_FALSE(TideDates::dateIn("yesterday"));
+}
+
+} // namespace
+} // namespace korvel

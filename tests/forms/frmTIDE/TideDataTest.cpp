@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/TideData.h"
+
+#include "forms/frmTIDE/Stations.h"
+#include "tests/forms/frmTIDE/TideFolder.h"
+
+#include <gmock/gmock.h>
+
+namespace korvel
+{
+namespace
+{
+
+using testing::HasSubstr;
+
+TEST(Factors, aDayIsReachedByItsBytePosition)
+{
+    const auto day = readDaysFactors(TideFolder::shipped(), 286); // 2003-07-14
+    EXPECT_EQ(day.nextDay[0].angle, 30) << "2003-07-15 by the method's check values";
+    EXPECT_EQ(day.nextDay[0].factor, 1.09);
+    EXPECT_EQ(day.nextDay[3].angle, 223);
+    EXPECT_EQ(day.nextDay[3].factor, 1.25);
+    const auto next = readDaysFactors(TideFolder::shipped(), 287);
+    EXPECT_EQ(next.thisDay[1].angle, day.nextDay[1].angle);
+
+    EXPECT_EQ(readDaysFactors(TideFolder::shipped(), 0).thisDay[0].angle, 209);
+    EXPECT_EQ(readDaysFactors(TideFolder::shipped(), 1187).nextDay[3].factor, 1.39);
+    EXPECT_THROW(readDaysFactors(TideFolder::shipped(), 1188), TideDataFault);
+    EXPECT_THROW(readDaysFactors(TideFolder::shipped(), -1), TideDataFault);
+}
+
+TEST(Factors, malformedFilesAreReadOrRefused)
+{
+    const std::string lines = TideFolder::shippedFactors().substr(0, 46L * 8);
+    const auto with = [&lines](std::size_t at, std::size_t count, const std::string& text) {
+        return std::string(lines).replace(at, count, text);
+    };
+    std::string lfOnly = lines;
+    std::erase(lfOnly, '\r');
+    const std::string none;
+    const struct {
+        const char* name;
+        std::string content;
+        long day;
+        std::string fault; // empty: reads
+    } rows[] = {
+        {"no line end after the last line", lines.substr(0, 46 * 8 - 2), 6, none},
+        {"blank line at the end", lines + "\r\n", 6, none},
+        {"blanks for commas", with(46 * 3 + 8, 1, " "), 3, none},
+        {"an old-style key", with(46 * 3, 8, "00000004"), 3, none},
+        {"trouble elsewhere is none of this day's", with(0, 1, "x"), 3, none},
+        {"short by its last line", lines, 7, "AF2005.txt, line 9: the line is missing"},
+        {"a short line before", with(46 * 2 + 5, 1, ""), 4, "AF2005.txt, line 3: the line has 43"},
+        {"an over-long line", with(46 * 4 + 5, 0, "0"), 4, "AF2005.txt, line 5: the line has 45"},
+        {"two lines run together", with(46 * 4 - 2, 2, "00"), 4, "line 4: the line has 90"},
+        {"the next day's line is long", with(46 * 5 + 5, 0, "0"), 4, "line 6: the line has 45"},
+        {"LF only", lfOnly, 0, "AF2005.txt, line 1: the line ends with LF alone"},
+        {"LF only, later day", lfOnly, 5, "AF2005.txt, line 1: the line ends with LF alone"},
+        {"byte-order mark", "\xEF\xBB\xBF" + lines, 0, "begins with a byte-order mark"},
+        {"byte-order mark, later day", "\xEF\xBB\xBF" + lines, 5, "begins with a byte-order mark"},
+        {"a letter", with(46 * 4 + 9, 3, "2O9"), 4, "line 5, field 2: \"2O9\" is not a number"},
+        {"no number that counts", with(46 * 5 + 9, 3, "nan"), 4, "line 6, field 2: \"nan\""},
+        {"an empty field", with(46 * 4 + 8, 2, ",,"), 4, "line 5, field 2: the field is empty"},
+        {"eight fields", with(46 * 4 + 39, 1, "0"), 4, "line 5, field 9: the field is missing"},
+        {"ten fields", with(46 * 4 + 42, 1, ","), 4, "line 5, field 10: the line has more"},
+        {"nothing", "", 0, "line 1: the line is missing"},
+    };
+    const TideFolder beside;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        beside.write("AF2005.txt", row.content);
+        try {
+            readDaysFactors(beside.folder, row.day);
+            EXPECT_EQ(row.fault, none);
+        } catch (const TideDataFault& fault) {
+            EXPECT_FALSE(row.fault.empty()) << fault.what();
+            EXPECT_THAT(fault.what(), HasSubstr(row.fault));
+        }
+    }
+    std::filesystem::remove(beside.folder / "AF2005.txt");
+    EXPECT_THROW(readDaysFactors(beside.folder, 0), TideDataFault);
+}
+
+TEST(StationFile, readsWhatSequentialInputReads)
+{
+    const std::string numbers = "8,1.5,10,1,20,0.5,30,.25,40,-0.125,50,+0.01,60,1e-3,"
+                                "0.1,0.2,0.3,0.4,0.5,0.6,0.7,0.8,0.9,1.0,1.1,1.2";
+    std::string blanks = numbers;
+    std::ranges::replace(blanks, ',', ' ');
+    std::string lines = numbers;
+    std::ranges::replace(lines, ',', '\n');
+    const struct {
+        const char* name;
+        std::string content;
+        std::string title;
+    } rows[] = {
+        {"plain", "Cape Town," + numbers + "\r\n", "Cape Town"},
+        {"byte-order mark",
+         "\xEF\xBB\xBF"
+         "Cape Town," +
+             numbers,
+         "Cape Town"},
+        {"quoted title with a comma", "\"Town, Cape\"," + numbers, "Town, Cape"},
+        {"blanks between numbers", "Cape Town , " + blanks, "Cape Town"},
+        {"LF, a field a line", "Cape Town\n" + lines + "\n", "Cape Town"},
+        {"more fields than wanted", "Cape Town," + numbers + ",tail,1", "Cape Town"},
+    };
+    const TideFolder beside;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        beside.write("Harmonic Constants/HC_3' east, of Cape.txt", row.content);
+        const TideStation station = readTideStation(beside.folder, "3' east, of Cape");
+        EXPECT_EQ(station.title, row.title);
+        EXPECT_EQ(station.zone, 8);
+        EXPECT_EQ(station.meanLevel, 1.5);
+        EXPECT_EQ(station.constituents[2].amplitude, 0.25);
+        EXPECT_EQ(station.constituents[3].phase, 40);
+        EXPECT_EQ(station.shallowWater.sixthCoefficient, 1e-3);
+        EXPECT_EQ(station.monthlyCorrections.back(), 1.2);
+    }
+}
+
+TEST(StationFile, faultsNameFileLineAndField)
+{
+    const TideFolder beside;
+    const auto faultOf = [&beside](const std::string& content) -> std::string {
+        beside.write("Harmonic Constants/HC_X.txt", content);
+        try {
+            readTideStation(beside.folder, "X");
+            return "read";
+        } catch (const TideDataFault& fault) {
+            return fault.what();
+        }
+    };
+    EXPECT_THAT(faultOf("X,8,1.5,10,l.0,20"), HasSubstr("HC_X.txt, line 1, field 5: \"l.0\""));
+    EXPECT_THAT(faultOf("X\n8\n1.5\n10 m"), HasSubstr("line 4, field 5: \"m\""));
+    EXPECT_THAT(faultOf("X,8,,10"), HasSubstr("field 3: the field is empty"));
+    EXPECT_THAT(faultOf(syntheticStream), HasSubstr("field 17: the field is missing"))
+        << "a stream file under a tide station's name";
+    EXPECT_THAT(faultOf("\"X,8"), HasSubstr("field 1: the closing quote"));
+    EXPECT_THAT(faultOf("X,inf"), HasSubstr("field 2: \"inf\""));
+    EXPECT_THAT(faultOf(""), HasSubstr("field 1: the field is missing"));
+    try {
+        readTideStation(beside.folder, "Bombay");
+        FAIL() << "there is no such file";
+    } catch (const TideDataFault& fault) {
+        EXPECT_THAT(fault.what(), HasSubstr("HC_Bombay.txt"));
+        EXPECT_THAT(fault.what(), HasSubstr("27 fields")) << "how a file is laid out";
+    }
+}
+
+TEST(StationFile, aStreamAndATideOfOneNameAreTwoFiles)
+{
+    const TideFolder beside;
+    beside.write("Harmonic Constants/HC_Brothers_.txt", syntheticStream);
+    EXPECT_EQ(readStreamStation(beside.folder, "Brothers").floodDirection, 72);
+    EXPECT_THROW(readTideStation(beside.folder, "Brothers"), TideDataFault);
+}
+
+TEST(Stations, everyPlaceOfTheMenusHasAFileOrAReason)
+{
+    std::size_t places = 0;
+    for (const StationArea& area : tideAreas()) {
+        for (const std::string_view caption : area.places) {
+            const std::string place(caption);
+            ++places;
+            const auto notes = readStationNotes(TideFolder::shipped(), place);
+            ASSERT_TRUE(notes) << place;
+            EXPECT_FALSE(notes->source.empty()) << place;
+            if (notes->grade == "none")
+                EXPECT_THROW(readTideStation(TideFolder::shipped(), place), TideDataFault);
+            else
+                EXPECT_THAT(readTideStation(TideFolder::shipped(), place).title,
+                            testing::StartsWith(place));
+        }
+    }
+    EXPECT_EQ(places, 114u);
+    try {
+        readTideStation(TideFolder::shipped(), "Wonsan");
+        FAIL() << "there is no such file";
+    } catch (const TideDataFault& fault) {
+        EXPECT_THAT(fault.what(), HasSubstr("(no open record on the Korean or Russian coast"));
+    }
+    EXPECT_FALSE(readStationNotes(TideFolder::shipped(), "Atlantis"));
+    EXPECT_EQ(readStationNotes(TideFolder::shipped(), "Berhala")->uncertainty,
+              "amplitude +-25 %, time +-50 min");
+    EXPECT_TRUE(isTideStation("Los Angels Harbour"));
+    EXPECT_FALSE(isTideStation("Philip Channel"));
+    EXPECT_TRUE(isStreamStation("3' east of Berhanti"));
+    EXPECT_FALSE(isStreamStation("../HC_Brothers"));
+}
+
+} // namespace
+} // namespace korvel

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+#include "tools/tidedata/factors.h"
+#include "tools/tidedata/sources.h"
+#include "tools/tidedata/station_file.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+namespace tidedata
+{
+namespace
+{
+
+const std::filesystem::path root = KORVEL_SOURCE_DIR;
+
+std::string contentOf(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+const Sources& sources()
+{
+    static const Sources read = readSources(root / "tools/tidedata/sources.json");
+    return read;
+}
+
+TEST(CommittedData, isWhatTheGeneratorWritesToday)
+{
+    EXPECT_EQ(contentOf(root / "data/AF2005.txt"), factorsFile(2005));
+    EXPECT_EQ(contentOf(root / "data/stations.txt"), stationsList(sources()));
+    const std::filesystem::path folder = root / "data/Harmonic Constants";
+    for (const Station& station : sources().stations)
+        EXPECT_EQ(contentOf(folder / ("HC_" + station.place + ".txt")), stationFile(station));
+    const auto files = std::distance(std::filesystem::directory_iterator(folder), {});
+    EXPECT_EQ(static_cast<std::size_t>(files), sources().stations.size())
+        << "a file that the generator does not write";
+}
+
+TEST(CommittedData, everyPlaceIsDescribedWithItsGrade)
+{
+    const std::string readme = contentOf(root / "data/README.md");
+    for (const auto* list : {&sources().stations, &sources().withoutSource}) {
+        for (const Station& s : *list)
+            EXPECT_THAT(readme, testing::HasSubstr("| " + s.place + " | " + s.grade + " |"));
+    }
+}
+
+// The constants of Yokohama worked with another program (Python's complex numbers); c6 is 0.00500
+// at 24.98 degrees there, c4 0.0169 at 220.
+TEST(StationFile, yokohama)
+{
+    const auto yokohama = std::ranges::find(sources().stations, "Yokohama", &Station::place);
+    ASSERT_NE(yokohama, sources().stations.end());
+    EXPECT_EQ(stationFile(*yokohama),
+              "Yokohama,9,1.11,134.6,0.449,172.3,0.221,174.7,0.248,146.4,0.194,220,0.0169,25,"
+              "0.0050,-0.04,-0.07,-0.09,-0.08,-0.04,0.01,0.06,0.08,0.08,0.06,0.03,-0.00\r\n");
+}
+
+TEST(StationFile, estimatesSayThatTheyAre)
+{
+    for (const Station& station : sources().stations) {
+        const bool estimated = station.grade == "C" || station.grade == "D";
+        const std::string title = station.place + (estimated ? " (est.)," : ",");
+        EXPECT_TRUE(stationFile(station).starts_with(title)) << station.place;
+        EXPECT_EQ(estimated || station.grade == "B", !station.uncertainty.empty());
+    }
+}
+
+TEST(StationFile, angleThatRoundsToAWholeTurnIsZeroAndMissingTermsAreNothing)
+{
+    Station station;
+    station.place = "Nowhere, at all";
+    station.grade = "A";
+    station.zone = -3.5;
+    station.constants = {{"M2", {1, 359.97 + 3.5 * 28.9841042}},
+                         {"S2", {0.5, 105}},
+                         {"K1", {0.1, 0}},
+                         {"O1", {0.1, 0}},
+                         {"M4", {0.02, 2 * (359.97 + 3.5 * 28.9841042) + 359.8}}};
+    EXPECT_THAT(stationFile(station),
+                testing::StartsWith("Nowhere at all,-3.5,0.00,0.0,1.000,0.0,0.500,"));
+    EXPECT_THAT(stationFile(station), testing::HasSubstr(",0,0.0200,0,0.0000,0.00,0.00,"));
+}
+
+TEST(Sources, faultsNameTheFile)
+{
+    EXPECT_THROW(readSources(root / "data/README.md"), std::runtime_error);
+    EXPECT_THROW(readSources(root / "nothing.json"), std::runtime_error);
+}
+
+} // namespace
+} // namespace tidedata

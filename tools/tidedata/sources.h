@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tools/tidedata/astronomy.h"
+
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+/// The published harmonic constants of sources.json.
+namespace tidedata
+{
+
+/// One published constant.
+struct Constant {
+    NavFunc113::Metres amplitude = 0;
+    Degrees greenwichLag = 0; ///< referred to Greenwich, times in UT
+};
+
+/// A place with the constants that its station file is made of.
+struct Station {
+    std::string place;
+    std::string grade;       ///< A, B, C or D; "none" for a place without an honest source
+    std::string uncertainty; ///< of the constants, in words; empty for grade A
+    std::string source;      ///< the records used, in words; for grade "none" why there is none
+    std::string licence;     ///< licences of the records
+    Hours zone = 0;          ///< east positive
+    NavFunc113::Metres meanLevel = 0;
+    std::map<std::string, Constant, std::less<>> constants;
+};
+
+struct Sources {
+    std::vector<Station> stations;      ///< in the file's order
+    std::vector<Station> withoutSource; ///< grade "none"
+};
+
+/// Reads the sources. @throws std::runtime_error that names the file when it cannot be read
+Sources readSources(const std::filesystem::path& file);
+
+} // namespace tidedata
