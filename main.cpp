@@ -7,6 +7,7 @@
 #include "forms/conversion/ConversionWindow.h"
 #include "forms/frmCDDR/frmCDDR.h"
 #include "forms/frmCRUDE/frmCRUDE.h"
+#include "forms/frmPositionRecord/frmPositionRecord.h"
 #include "forms/frmWeather/frmWeather.h"
 
 #include <QApplication>
@@ -22,12 +23,19 @@ korvel::WindowFactory window(const char* name)
 
 std::vector<korvel::WindowFactory> calculatorWindows()
 {
+    // clang-format off
     return {
-        window<korvel::frmCDDR>("frmCDDR"),     window<korvel::frmWeather>("frmWeather"),
-        window<korvel::frmCRUDE>("frmCRUDE"),   window<korvel::frmLength>("frmLength"),
-        window<korvel::frmVolume>("frmVolume"), window<korvel::frmArea>("frmArea"),
-        window<korvel::frmWeight>("frmWeight"), window<korvel::frmPressure>("frmPressure"),
+        window<korvel::frmCDDR>("frmCDDR"),
+        window<korvel::frmPositionRecord>("frmPositionRecord"),
+        window<korvel::frmWeather>("frmWeather"),
+        window<korvel::frmCRUDE>("frmCRUDE"),
+        window<korvel::frmLength>("frmLength"),
+        window<korvel::frmVolume>("frmVolume"),
+        window<korvel::frmArea>("frmArea"),
+        window<korvel::frmWeight>("frmWeight"),
+        window<korvel::frmPressure>("frmPressure"),
     };
+    // clang-format on
 }
 
 } // namespace

@@ -126,6 +126,7 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
+    setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
 }
 
 void ResultLabel::keyPressEvent(QKeyEvent* event)
@@ -177,7 +178,7 @@ void PositionBox::showEcho()
         hint += m_remark;
     }
     const QString full = QString::fromStdString(echo.text);
-    m_echo->setText(hint.isEmpty() ? full : full + " (" + hint + ")");
+    m_echo->setText(hint.isEmpty() || m_hintsInToolTip ? full : full + " (" + hint + ")");
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

@@ -101,6 +101,9 @@ public:
     /// the box; it belongs to the same parent.
     QLabel* echo() const { return m_echo; }
 
+    /// Leaves the hint to the tool tip, where a table has no room for it beside the value.
+    void setHintsInToolTip() { m_hintsInToolTip = true; }
+
     /// Makes a latitude and a longitude box one position.
     static void pair(PositionBox* latitude, PositionBox* longitude);
 
@@ -119,6 +122,7 @@ private:
 
     Axis m_axis;
     PositionBox* m_partner = nullptr;
+    bool m_hintsInToolTip = false;
     ResultLabel* m_echo;
     QString m_remark;     ///< how a pasted text was taken
     QString m_remarkedAt; ///< the box text that the remark belongs to

@@ -120,6 +120,8 @@ void CalculatorWindow::showEvent(QShowEvent* event)
     // would take that where all of it could be shown.
     if (m_scrollArea && !m_fitted) {
         m_fitted = true; // once; afterwards the officer's size holds
+        for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
+            each->invalidate(); // what they remember is from before the controls had their fonts
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
         const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
         resize(sizeHint().boundedTo(room));

@@ -42,6 +42,7 @@ public:
 
 protected:
     Program& program() { return m_program; }
+    const Program& program() const { return m_program; }
 
     // Controls. They have no place yet: put them into layouts.
 

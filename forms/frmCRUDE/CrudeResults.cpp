@@ -41,7 +41,16 @@ ResultLabel* CrudeResults::add(const char* name, Figure figure)
 {
     auto* label = new ResultLabel(this);
     label->setObjectName(name);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_figures.emplace_back(label, figure);
+    return label;
+}
+
+ResultLabel* CrudeResults::addNote(const char* name, Figure figure)
+{
+    ResultLabel* label = add(name, figure);
+    label->setFont(font());
+    label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     return label;
 }
 
@@ -53,37 +62,32 @@ void CrudeResults::layOutVolumes(QGridLayout* grid, int& row)
         if (beside) grid->addWidget(beside, row, 2, 1, 2);
         ++row;
     };
-    const auto note = [&](const char* name, Figure figure) {
-        ResultLabel* label = add(name, figure);
-        label->setFont(font());
-        return label;
-    };
     addHeading(grid, row++, "Oil");
     figureRow("Density at 15 °C", add("lblDensity15", &CrudeResult::density15),
               new QLabel("kg/m³"));
     figureRow("API at 60 °F", add("lblAPI60", &CrudeResult::api60), new QLabel("°API"));
     figureRow("VCF", add("lblVCF", &CrudeResult::vcf),
-              note("lblVCFMethod", &CrudeResult::vcfMethod));
-    m_rangeFlag = note("lblRangeFlag", &CrudeResult::rangeFlag);
+              addNote("lblVCFMethod", &CrudeResult::vcfMethod));
+    m_rangeFlag = addNote("lblRangeFlag", &CrudeResult::rangeFlag);
     figureRow("", m_rangeFlag, nullptr);
     grid->addWidget(m_rangeFlag, row - 1, 1, 1, 3);
 
     addHeading(grid, row++, "Volume");
     figureRow("Gross observed", add("lblGrossObserved", &CrudeResult::grossObserved), nullptr);
     figureRow("Gross standard", add("lblGrossStandard", &CrudeResult::grossStandard),
-              note("lblStandardMethod", &CrudeResult::standardMethod));
+              addNote("lblStandardMethod", &CrudeResult::standardMethod));
     figureRow("Net standard", add("lblNetStandard", &CrudeResult::netStandard), nullptr);
     figureRow("Barrels", add("lblBarrels", &CrudeResult::barrels),
-              note("lblBarrelsMethod", &CrudeResult::barrelsMethod));
+              addNote("lblBarrelsMethod", &CrudeResult::barrelsMethod));
     figureRow("Kilolitres", add("lblKilolitres", &CrudeResult::kilolitres),
-              note("lblKilolitresMethod", &CrudeResult::kilolitresMethod));
+              addNote("lblKilolitresMethod", &CrudeResult::kilolitresMethod));
 }
 
 void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
 {
     addHeading(grid, row++, "By density, whatever KL/Bbl says");
-    grid->addWidget(new QLabel("at 15 °C"), row, 1);
-    grid->addWidget(new QLabel("at 60 °F"), row++, 2);
+    grid->addWidget(new QLabel("at 15 °C"), row, 1, Qt::AlignRight);
+    grid->addWidget(new QLabel("at 60 °F"), row++, 2, Qt::AlignRight);
     grid->addWidget(new QLabel("Kilolitres"), row, 0);
     grid->addWidget(add("lblKilolitres15", &CrudeResult::kilolitres15), row, 1);
     grid->addWidget(add("lblKilolitres60", &CrudeResult::kilolitres60), row++, 2);
@@ -95,14 +99,12 @@ void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
 void CrudeResults::layOutTons(QGridLayout* grid, int& row)
 {
     addHeading(grid, row++, "Weight");
-    grid->addWidget(new QLabel("in air"), row, 1);
-    grid->addWidget(new QLabel("in vacuo"), row++, 2);
+    grid->addWidget(new QLabel("in air"), row, 1, Qt::AlignRight);
+    grid->addWidget(new QLabel("in vacuo"), row++, 2, Qt::AlignRight);
     grid->addWidget(new QLabel("Metric tons"), row, 0);
     grid->addWidget(add("lblMetricTonsInAir", &CrudeResult::metricTonsInAir), row, 1);
     grid->addWidget(add("lblMetricTonsInVacuo", &CrudeResult::metricTonsInVacuo), row, 2);
-    ResultLabel* method = add("lblWeightMethod", &CrudeResult::weightMethod);
-    method->setFont(font());
-    grid->addWidget(method, row++, 3);
+    grid->addWidget(addNote("lblWeightMethod", &CrudeResult::weightMethod), row++, 3);
     grid->addWidget(new QLabel("Long tons"), row, 0);
     grid->addWidget(add("lblLongTonsInAir", &CrudeResult::longTonsInAir), row, 1);
     grid->addWidget(add("lblLongTonsInVacuo", &CrudeResult::longTonsInVacuo), row++, 2);

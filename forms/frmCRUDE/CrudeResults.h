@@ -27,6 +27,7 @@ private:
     using Figure = std::string CrudeResult::*;
 
     ResultLabel* add(const char* name, Figure figure);
+    ResultLabel* addNote(const char* name, Figure figure); ///< words beside a figure
     void layOutVolumes(QGridLayout* grid, int& row);
     void layOutByDensity(QGridLayout* grid, int& row);
     void layOutTons(QGridLayout* grid, int& row);

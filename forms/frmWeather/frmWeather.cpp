@@ -90,7 +90,6 @@ QGroupBox* frmWeather::layOutLetters()
         });
         grid->addWidget(option, index % rows, index / rows);
     }
-    m_lblWr->setMinimumHeight(m_lblWr->fontMetrics().lineSpacing());
     grid->addWidget(m_lblWr, rows, 0, 1, columns);
     return group;
 }
