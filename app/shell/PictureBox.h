@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/UserScale.h"
+
 #include <QPainter>
 #include <QWidget>
 
@@ -8,15 +10,6 @@
 
 namespace korvel
 {
-
-/// The user scale of a picture: what its four edges stand for. Left may be greater than right and
-/// top smaller than bottom.
-struct UserScale {
-    double left = 0;
-    double top = 1;
-    double right = 1;
-    double bottom = 0;
-};
 
 /// A picture with a user scale. It keeps no pixels: whoever owns it hands in a routine that draws
 /// it afresh at any size and resolution.

@@ -19,8 +19,8 @@ CDResult CalculateCD(const CDInput& input)
     const double lat2 = readNumber(lat2Text);
     const double long2 = readNumber(long2Text);
 
-    const double course = NavFunc113::RhumbCourse(lat1, long1, lat2, long2);
-    const double miles = NavFunc113::RhumbDistance(lat1, long1, lat2, long2, input.spheroid);
+    const auto [course, miles] =
+        NavFunc113::RhumbCourseAndDistance(lat1, long1, lat2, long2, input.spheroid);
     CDResult result;
     result.course = "<" + Format(course, "000.0") + ">";
     // The apostrophe stands before the point here and after it in frmGC2000: both on purpose.

@@ -39,7 +39,7 @@ DRResult CalculateDR(const DRInput& input)
     }
     try {
         const double east =
-            NavFunc113::DRLongitude(lat, longitude, course, distance, input.spheroid);
+            NavFunc113::DRLongitude(lat, longitude, course, distance, input.spheroid, reached);
         result.longitudeReached = east;
         result.longitude = Format(east, "000-.00'0E;000-.00'0W");
     } catch (const NavFunc113::ArithmeticError& error) {

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmETA/CalculateETA.h"
+
+#include "app/Format.h"
+#include "app/reading.h"
+#include "forms/frmETA/PassageTimes.h"
+#include "navlib/arithmetic_error.h"
+
+#include <cmath>
+#include <limits>
+
+namespace korvel
+{
+namespace
+{
+
+/// Why the input cannot be used; empty when it can.
+std::string complaint(const ETAInput& input)
+{
+    if (!isTD(input.txtTD[0])) return "TD at departure is not within -12 to 12.";
+    if (!isTD(input.txtTD[1])) return "TD at arrival is not within -12 to 12.";
+    if (!readDateTime(input.departureDate)) return "The departure date is not a date.";
+    if (!readDateTime(input.departureTime)) return "The departure time is not a time.";
+    if (readNumber(input.txtDist) < 0) return "The distance is negative.";
+    const double speed = readNumber(input.txtSpeed);
+    if (speed < 0) return "The speed is negative.";
+    if (speed > static_cast<double>(std::numeric_limits<float>::max()) ||
+        std::isinf(readNumber(input.txtDist)))
+        return "A number is too large.";
+    return "";
+}
+
+std::string arrivalText(NavFunc113::DateTime arrival)
+{
+    const std::string text = Format(arrival, "MM/dd hh:mm");
+    return text.empty() ? text : text + "LT"; // beyond the calendar there is no date to show
+}
+
+} // namespace
+
+ETAResult CalculateETA(const ETAInput& input)
+{
+    if (std::string notice = complaint(input); !notice.empty()) return {std::nullopt, notice};
+    const double departure = *passageTime(input.departureDate, input.departureTime);
+    const double TDChange = readNumber(input.txtTD[1]) - readNumber(input.txtTD[0]);
+    const double distance = readNumber(input.txtDist);
+
+    ETALabels labels;
+    // Single precision, as the speeds are shown: the arrivals belong to these very values.
+    float speed = static_cast<float>(readNumber(input.txtSpeed));
+    if (speed == 0) return {labels, ""};
+    for (std::size_t i = 0; i < labels.lblSPD.size(); ++i, speed += 0.25F) {
+        const double hours = NavFunc113::Quotient(distance, static_cast<double>(speed));
+        labels.lblSPD[i] = Format(static_cast<double>(speed), "0.00 ");
+        labels.lblETA[i] = arrivalText(departure + TDChange / 24 + hours / 24);
+    }
+    return {labels, ""};
+}
+
+} // namespace korvel

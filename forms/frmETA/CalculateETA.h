@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+struct ETAInput {
+    std::string departureDate;        ///< txtTime(0)
+    std::string departureTime;        ///< txtTime(1)
+    std::array<std::string, 2> txtTD; ///< at departure, at arrival
+    std::string txtDist;
+    std::string txtSpeed;
+};
+
+struct ETALabels { ///< an empty text blanks the label
+    std::array<std::string, 5> lblSPD;
+    std::array<std::string, 5> lblETA;
+};
+
+struct ETAResult {
+    std::optional<ETALabels> labels; ///< nothing: the labels stay as they were, shown dimmed
+    std::string notice;              ///< why they stay; empty when they do not
+};
+
+/// Arrival times at the typed speed and the next four quarter knots. Input that cannot be used
+/// keeps the labels, a speed of 0 blanks them.
+ETAResult CalculateETA(const ETAInput& input);
+
+} // namespace korvel

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmETA/CalculateReqSpd.h"
+
+#include "app/Format.h"
+#include "app/reading.h"
+#include "forms/frmETA/PassageTimes.h"
+#include "navlib/arithmetic_error.h"
+
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+/// Why the input cannot be used; empty when it can.
+std::string complaint(const ReqSpdInput& input)
+{
+    constexpr std::array complaints{
+        "The departure date is not a date.", "The departure time is not a time.",
+        "The arrival date is not a date.", "The arrival time is not a time."};
+    for (std::size_t i = 0; i < complaints.size(); ++i)
+        if (!readDateTime(input.txtTime[i])) return complaints[i];
+    if (!isTD(input.txtTD[0])) return "TD at departure is not within -12 to 12.";
+    if (!isTD(input.txtTD[1])) return "TD at arrival is not within -12 to 12.";
+    if (readNumber(input.txtDist) < 0) return "The distance is negative.";
+    if (std::isinf(readNumber(input.txtDist))) return "A number is too large.";
+    return "";
+}
+
+} // namespace
+
+ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
+{
+    if (std::string notice = complaint(input); !notice.empty()) return {std::nullopt, notice};
+    const double departure =
+        *passageTime(input.txtTime[0], input.txtTime[1]) - readNumber(input.txtTD[0]) / 24;
+    const double arrival =
+        *passageTime(input.txtTime[2], input.txtTime[3]) - readNumber(input.txtTD[1]) / 24;
+    // Within half a second they are one moment, whatever the last bits of their fractions are.
+    const double hours = (arrival - departure) * 24;
+    if (hours * 3600 < 0.5) return {std::nullopt, "The arrival does not lie after the departure."};
+    return {Format(NavFunc113::Quotient(readNumber(input.txtDist), hours), "0.00"), ""};
+}
+
+} // namespace korvel

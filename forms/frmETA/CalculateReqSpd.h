@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+struct ReqSpdInput {
+    std::array<std::string, 4> txtTime; ///< departure date and time, arrival date and time
+    std::array<std::string, 2> txtTD;   ///< at departure, at arrival
+    std::string txtDist;
+};
+
+struct ReqSpdResult {
+    std::optional<std::string> speed; ///< knots; nothing: the label stays as it was, shown dimmed
+    std::string notice;               ///< why it stays; empty when it does not
+};
+
+/// Speed that covers the distance between two local times. Input that cannot be used, an arrival
+/// that does not lie after the departure included, keeps the label.
+ReqSpdResult CalculateReqSpd(const ReqSpdInput& input);
+
+} // namespace korvel

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace korvel
+{
+
+/// A date-time of a date box and a time box: the day of the one and the time of day of the other.
+/// @return nothing when either text reads neither as a date nor as a time
+std::optional<NavFunc113::DateTime> passageTime(std::string_view date, std::string_view time);
+
+/// Both signs of a time difference, which are confused at sea: "TD +9, ZD -9", where the zone
+/// description is what is added to zone time to get UTC.
+/// @param box text of a TD box
+/// @return empty when the box does not hold -12 .. 12
+std::string TDAndZDText(std::string_view box);
+
+/// True when a TD box holds -12 .. 12.
+bool isTD(std::string_view box);
+
+} // namespace korvel
