@@ -92,8 +92,8 @@ void measureEvents(const Routine& routine, Degrees greatestLatitude)
     std::uniform_real_distribution<double> unit(-1, 1);
     Errors search, refined, almanac;
     for (double day = firstDay; day < lastDay; day += 9) {
-        const double longitude = std::round(unit(random) * 1800) / 10;
-        const double latitude = std::round(unit(random) * greatestLatitude * 10) / 10;
+        const double longitude = std::round(unit(random) * 180 * 60) / 60;
+        const double latitude = std::round(unit(random) * greatestLatitude * 60) / 60;
         const double TD = std::clamp(std::round(longitude / 15), -12.0, 12.0);
         const DegMin packedLongitude = DegToDegMin(longitude);
         DegMin packedLatitude = DegToDegMin(latitude);
@@ -105,7 +105,7 @@ void measureEvents(const Routine& routine, Degrees greatestLatitude)
         } catch (const ArithmeticError&) {
             continue;
         }
-        const auto better = routine.refined(day, TD, packedLatitude, packedLongitude, 0);
+        const auto better = routine.refined(day, TD, DegToDegMin(latitude), packedLongitude, 0);
         const auto same = events.event(routine.rising, latitude, longitude, Horizon::AsTheLibrary);
         compare(search, found, same);
         compare(refined, better, same);

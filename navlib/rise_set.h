@@ -36,21 +36,34 @@ Degrees SunSetAzimuth(DegMin latitude, DegMin declination);
 /// Local time of an event on a date.
 ///
 /// @param date      day number, a whole number
-/// @param latitude  grows by 1e-10 in the caller's variable, so that a place on the equator does
-///                  not meet a cosine of exactly 0
+/// @param latitude  grows by 1e-10 in the caller's variable, so that the Moon over the equator does
+///                  not meet a cosine of exactly 0. The packed value grows: a southern latitude of
+///                  whole degrees moves 40 minutes south (-12.00 becomes -11.9999999999, which
+///                  reads as 12 degrees 40), and its events are out by up to 4 minutes
 /// @return date-time in local time; 0 when no event was found on that date
 /// @throws ArithmeticError as the hours
 ///
 /// Two steps of iteration, no more. The Moon's hour-angle offset jumps by 360 degrees near full
 /// Moon; a step across the jump belongs to the day before or after, and the time is then out by
-/// 20 to 90 minutes or the event is missed. RefinedMoonRise and its fellows do not have this.
+/// 20 to 90 minutes or the event is missed. The refined routines below do not have this.
+///
+/// Accuracy, 2000 to 2050, latitudes to 60, against ERFA with the same altitude of the body
+/// (bench/EphemerisAccuracy.cpp; half of 2070 random events within / 95 per cent / worst):
+/// Sun 0.00 / 0.01 / 3.8 minutes, the worst being southern latitudes of whole degrees; moonrise
+/// 1.1 / 4.9 / 82 and moonset 0.7 / 3.5 / 70 minutes, and about one event in 400 missed or
+/// invented.
 DateTime SunRiseSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude);
 DateTime SunSetSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude);
 DateTime MoonRiseSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude);
 DateTime MoonSetSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude);
 
 /// The same events with the hour-angle offset kept continuous, iterated until the step is below
-/// half a second. Same altitudes of the body as above.
+/// half a second. Same altitudes of the body as above, latitude as it stands.
+///
+/// Accuracy as above: Sun 0.00 / 0.01 / 0.01 minutes, Moon 0.02 / 0.05 / 0.09, none missed. Against
+/// the horizon of an almanac (upper limb, refraction 34 minutes of arc, parallax and size of the
+/// day) the fixed altitudes cost: Sun 0.36 / 0.64 / 1.0 minutes, rising early and setting late;
+/// Moon 0.7 / 1.3 / 3.2.
 ///
 /// @param found time that the search found, from which to start; 0 when it found none. When the
 ///              first step from there stays within a minute, found is right and comes back as is.
