@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/angles.h"
 
+#include "tests/navlib/FaultOf.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -12,18 +14,6 @@ namespace
 {
 
 using Condition = ArithmeticError::Condition;
-
-template <typename Action>
-Condition faultOf(Action action)
-{
-    try {
-        action();
-    } catch (const ArithmeticError& error) {
-        return error.condition();
-    }
-    ADD_FAILURE() << "no arithmetic error";
-    return Condition::Overflow;
-}
 
 TEST(Angles, packedValuesAndDecimalDegrees)
 {

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+/// The computer's own clock, as the date and time of day that it shows.
+class ComputerClock
+{
+public:
+    virtual ~ComputerClock() = default;
+
+    /// What the clock shows now, cut to the whole second.
+    virtual NavFunc113::DateTime now() const = 0;
+
+    /// Sets time of day first and then date, both from the same value.
+    /// @return nothing when the clock was set, otherwise the reason in words
+    virtual std::optional<std::string> set(NavFunc113::DateTime value) = 0;
+};
+
+} // namespace korvel

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "app/clock/makeComputerClock.h"
+
+#include "navlib/datetime.h"
+
+#include <cerrno>
+#include <cmath>
+#include <ctime>
+#include <system_error>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::CivilDate;
+using NavFunc113::DateTime;
+using NavFunc113::TimeOfDay;
+
+std::tm localTime(std::time_t instant)
+{
+    std::tm civil{};
+#ifdef _WIN32
+    localtime_s(&civil, &instant);
+#else
+    localtime_r(&instant, &civil);
+#endif
+    return civil;
+}
+
+class SystemClock : public ComputerClock
+{
+public:
+    DateTime now() const override
+    {
+        const std::tm civil = localTime(std::time(nullptr));
+        return NavFunc113::MakeDateTime(
+            {civil.tm_year + 1900, civil.tm_mon + 1, civil.tm_mday},
+            civil.tm_hour * 3600 + civil.tm_min * 60 + civil.tm_sec);
+    }
+
+    std::optional<std::string> set(DateTime value) override
+    {
+        const CivilDate date = NavFunc113::DateOf(value);
+        const TimeOfDay time = NavFunc113::TimeOf(value);
+        return setCivil(date, time);
+    }
+
+private:
+    // Both systems take time of day and date in one call, so no midnight can fall between them.
+#ifdef _WIN32
+    static std::optional<std::string> setCivil(const CivilDate& date, const TimeOfDay& time)
+    {
+        SYSTEMTIME local{};
+        local.wYear = static_cast<WORD>(date.year);
+        local.wMonth = static_cast<WORD>(date.month);
+        local.wDay = static_cast<WORD>(date.day);
+        local.wHour = static_cast<WORD>(time.hour);
+        local.wMinute = static_cast<WORD>(time.minute);
+        local.wSecond = static_cast<WORD>(time.second);
+        if (SetLocalTime(&local)) return std::nullopt;
+        return std::system_category().message(static_cast<int>(GetLastError()));
+    }
+#else
+    static std::optional<std::string> setCivil(const CivilDate& date, const TimeOfDay& time)
+    {
+        std::tm civil{};
+        civil.tm_year = date.year - 1900;
+        civil.tm_mon = date.month - 1;
+        civil.tm_mday = date.day;
+        civil.tm_hour = time.hour;
+        civil.tm_min = time.minute;
+        civil.tm_sec = time.second;
+        civil.tm_isdst = -1;
+        std::timespec instant{};
+        instant.tv_sec = std::mktime(&civil);
+        if (instant.tv_sec != -1 && clock_settime(CLOCK_REALTIME, &instant) == 0)
+            return std::nullopt;
+        return std::generic_category().message(instant.tv_sec == -1 ? EOVERFLOW : errno);
+    }
+#endif
+};
+
+} // namespace
+
+std::unique_ptr<ComputerClock> makeComputerClock()
+{
+    return std::make_unique<SystemClock>();
+}
+
+} // namespace korvel

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/Boxes.h"
+
+#include "app/reading.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QFocusEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
+
+#include <memory>
+
+namespace korvel
+{
+
+QString memberName(const QString& array, int index)
+{
+    return QString("%1(%2)").arg(array).arg(index);
+}
+
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {}
+
+void EntryBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    m_focusedByMouse = event->reason() == Qt::MouseFocusReason;
+    // Coming back from a menu or from another program goes on where the typing was.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        selectAll();
+}
+
+void EntryBox::mousePressEvent(QMouseEvent* event)
+{
+    // The click that brings the focus selects all; its own cursor placement would undo that.
+    if (m_focusedByMouse && event->button() == Qt::LeftButton) return;
+    QLineEdit::mousePressEvent(event);
+}
+
+void EntryBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_focusedByMouse && event->button() == Qt::LeftButton) {
+        m_focusedByMouse = false;
+        selectAll();
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void EntryBox::keyPressEvent(QKeyEvent* event)
+{
+    m_focusedByMouse = false;
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    if (onEnter) onEnter();
+    if (m_next && m_next != this)
+        m_next->setFocus(Qt::TabFocusReason);
+    else
+        selectAll();
+}
+
+void setEntryOrder(const std::vector<EntryBox*>& boxes)
+{
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        boxes[i]->setNext(boxes[(i + 1) % boxes.size()]);
+}
+
+ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setFocusPolicy(Qt::ClickFocus);
+    QFont larger = font();
+    larger.setPointSizeF(larger.pointSizeF() * 1.2);
+    setFont(larger);
+}
+
+void ResultLabel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copy();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu(this);
+    menu.addAction("&Copy", this, [this] { copy(); });
+    menu.exec(event->globalPos());
+}
+
+void ResultLabel::copy()
+{
+    const bool part = hasSelectedText() && selectedText() != text();
+    const QString copied = part ? selectedText() : copyText ? copyText() : text();
+    if (!copied.isEmpty()) QApplication::clipboard()->setText(copied);
+}
+
+PositionBox::PositionBox(Axis axis, QWidget* parent)
+    : EntryBox(parent), m_axis(axis), m_echo(new ResultLabel(parent))
+{
+    m_echo->setFont(font());
+    m_echo->copyText = [this] { return positionToCopy(); };
+    connect(this, &QLineEdit::textChanged, this, [this] { showEcho(); });
+    connect(this, &QObject::objectNameChanged, this,
+            [this](const QString& name) { m_echo->setObjectName("echo " + name); });
+    // Room for the longest echo, so that the window keeps its shape while the officer types.
+    m_echo->setMinimumWidth(fontMetrics().horizontalAdvance("000°00.0000' W  "));
+}
+
+void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
+{
+    latitude->m_partner = longitude;
+    longitude->m_partner = latitude;
+}
+
+void PositionBox::showEcho()
+{
+    const Echo echo = positionEcho(value(), m_axis);
+    QString hint = QString::fromStdString(echo.hint);
+    if (!m_remark.isEmpty() && m_remarkedAt == text()) {
+        if (!hint.isEmpty()) hint += "; ";
+        hint += m_remark;
+    }
+    const QString full = QString::fromStdString(echo.text);
+    m_echo->setText(hint.isEmpty() ? full : full + "  !");
+    m_echo->setToolTip(hint);
+    setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
+}
+
+QString PositionBox::positionToCopy() const
+{
+    const PositionBox* latitude = m_axis == Axis::Latitude ? this : m_partner;
+    const PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
+    if (!latitude || !longitude || !readLeadingNumber(latitude->value()) ||
+        !readLeadingNumber(longitude->value()))
+        return QString::fromStdString(positionForCopy(readNumber(value()), m_axis));
+    return QString::fromStdString(
+        positionForCopy(readNumber(latitude->value()), readNumber(longitude->value())));
+}
+
+void PositionBox::pasteText(const QString& pasted)
+{
+    const auto position = parsePosition(pasted.toStdString(), m_axis);
+    if (!position) {
+        insert(pasted.simplified());
+        return;
+    }
+    PositionBox* latitude = m_axis == Axis::Latitude ? this : m_partner;
+    PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
+    const auto fill = [&](PositionBox* box, const std::optional<std::string>& packed) {
+        if (!box || !packed) return;
+        box->m_remark = QString::fromStdString(position->remark);
+        box->m_remarkedAt = QString::fromStdString(*packed);
+        if (box->text() == box->m_remarkedAt)
+            box->showEcho();
+        else
+            box->setText(box->m_remarkedAt);
+    };
+    fill(latitude, position->latitude);
+    fill(longitude, position->longitude);
+}
+
+void PositionBox::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Paste))
+        pasteText(QApplication::clipboard()->text());
+    else
+        EntryBox::keyPressEvent(event);
+}
+
+void PositionBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QClipboard* clipboard = QApplication::clipboard();
+    if (event->button() == Qt::MiddleButton && clipboard->supportsSelection())
+        pasteText(clipboard->text(QClipboard::Selection));
+    else
+        EntryBox::mouseReleaseEvent(event);
+}
+
+void PositionBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
+        paste->disconnect();
+        connect(paste, &QAction::triggered, this,
+                [this] { pasteText(QApplication::clipboard()->text()); });
+    }
+    menu->addSeparator();
+    menu->addAction("Copy p&osition", this, [this] {
+        QApplication::clipboard()->setText(positionToCopy());
+    });
+    menu->exec(event->globalPos());
+}
+
+void PositionBox::dropEvent(QDropEvent* event)
+{
+    const QString dropped = event->mimeData()->text();
+    if (!parsePosition(dropped.toStdString(), m_axis)) {
+        EntryBox::dropEvent(event);
+        return;
+    }
+    setFocus(Qt::OtherFocusReason);
+    pasteText(dropped);
+    event->acceptProposedAction();
+}
+
+} // namespace korvel

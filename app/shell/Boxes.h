@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+
+#include <functional>
+#include <string>
+
+#include "app/position_text.h"
+
+namespace korvel
+{
+
+/// The name of a member of a control array: "txtGC(2)".
+QString memberName(const QString& array, int index);
+
+/// A text box with the entry behaviour that all windows share: the whole text is selected when the
+/// box receives focus, also by mouse, and Enter moves on to the next box of the window's order.
+class EntryBox : public QLineEdit
+{
+public:
+    explicit EntryBox(QWidget* parent = nullptr);
+
+    std::string value() const { return text().toStdString(); }
+
+    /// Where Enter goes; nullptr leaves it in the box, all selected.
+    void setNext(EntryBox* next) { m_next = next; }
+
+    /// What Enter does on top, before it moves on.
+    std::function<void()> onEnter;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    EntryBox* m_next = nullptr;
+    bool m_focusedByMouse = false;
+};
+
+/// Lets Enter go through the boxes in this order, from the last back to the first.
+void setEntryOrder(const std::vector<EntryBox*>& boxes);
+
+/// A label with a result: one step larger than captions, selectable and copyable.
+class ResultLabel : public QLabel
+{
+public:
+    explicit ResultLabel(QWidget* parent = nullptr);
+
+    /// What copying the whole label gives, when that is not its own text.
+    std::function<QString()> copyText;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    void copy();
+};
+
+/// A box for a latitude or a longitude. Beside it stands what was understood; what is pasted from
+/// other instruments is turned into the packed form, a pair fills both boxes.
+class PositionBox : public EntryBox
+{
+public:
+    PositionBox(Axis axis, QWidget* parent = nullptr);
+
+    /// The label that shows the value in full, with a quiet hint where one is due. Place it beside
+    /// the box; it belongs to the same parent.
+    QLabel* echo() const { return m_echo; }
+
+    /// Makes a latitude and a longitude box one position.
+    static void pair(PositionBox* latitude, PositionBox* longitude);
+
+    /// Pastes a text as the box would from the clipboard.
+    void pasteText(const QString& text);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void showEcho();
+    QString positionToCopy() const;
+
+    Axis m_axis;
+    PositionBox* m_partner = nullptr;
+    ResultLabel* m_echo;
+    QString m_remark;     ///< how a pasted text was taken
+    QString m_remarkedAt; ///< the box text that the remark belongs to
+};
+
+} // namespace korvel

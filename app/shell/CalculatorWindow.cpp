@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/CalculatorWindow.h"
+
+#include "navlib/arithmetic_error.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+
+CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
+    : m_program(program), m_body(new QWidget), m_notice(new QLabel)
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    m_notice->setObjectName("lblNotice");
+    m_notice->setAccessibleName("Notice");
+    m_notice->setWordWrap(true);
+    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // Two lines are kept free, so that a notice never moves the boxes under the officer's hand.
+    m_notice->setMinimumHeight(2 * m_notice->fontMetrics().lineSpacing());
+    m_notice->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+
+    auto* centre = new QWidget;
+    auto* column = new QVBoxLayout(centre);
+    column->addWidget(m_body, 1);
+    column->addWidget(m_notice);
+    setCentralWidget(centre);
+
+    connect(&m_program, &Program::distanceUnitChanged, this, &CalculatorWindow::calculateAll);
+    connect(&m_program, &Program::coloursChanged, this, [this] { applyColours(); });
+}
+
+QString CalculatorWindow::notice() const
+{
+    return m_notice->text();
+}
+
+EntryBox* CalculatorWindow::addTextBox(const QString& name, const QString& accessibleName)
+{
+    auto* box = new EntryBox(m_body);
+    box->setObjectName(name);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
+PositionBox* CalculatorWindow::addPositionBox(const QString& name, Axis axis,
+                                              const QString& accessibleName)
+{
+    auto* box = new PositionBox(axis, m_body);
+    box->setObjectName(name);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
+ResultLabel* CalculatorWindow::addLabel(const QString& name)
+{
+    auto* label = new ResultLabel(m_body);
+    label->setObjectName(name);
+    return label;
+}
+
+int CalculatorWindow::addCalculation(Calculation calculation)
+{
+    const int number = static_cast<int>(m_calculations.size());
+    for (QLineEdit* box : calculation.inputs)
+        connect(box, &QLineEdit::textChanged, this, [this, number] {
+            if (!m_loading) calculate(number);
+        });
+    m_calculations.push_back(std::move(calculation));
+    return number;
+}
+
+void CalculatorWindow::calculate(int number)
+{
+    const Calculation& calculation = m_calculations.at(static_cast<std::size_t>(number));
+    try {
+        calculation.run();
+        setNotice(calculation.title, {});
+    } catch (const NavFunc113::ArithmeticError& error) {
+        for (QLabel* label : calculation.results)
+            label->clear();
+        setNotice(calculation.title, QString("%1 cannot be calculated from these figures (%2).")
+                                         .arg(calculation.title, error.what()));
+    }
+}
+
+void CalculatorWindow::calculateAll()
+{
+    for (std::size_t i = 0; i < m_calculations.size(); ++i)
+        calculate(static_cast<int>(i));
+}
+
+void CalculatorWindow::setNotice(const QString& key, const QString& text)
+{
+    if (text.isEmpty())
+        m_notices.erase(key);
+    else
+        m_notices[key] = text;
+    QStringList lines;
+    for (const auto& [each, line] : m_notices)
+        lines << line;
+    const QString shown = lines.join("  ");
+    if (m_notice->text() != shown) m_notice->setText(shown);
+}
+
+void CalculatorWindow::useSettings(const std::string& file, std::vector<Kind> kinds, Save save,
+                                   Load load)
+{
+    m_settings = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(), file,
+                                                std::move(kinds));
+    m_save = std::move(save);
+    m_load = std::move(load);
+}
+
+void CalculatorWindow::useTextSettings(const std::string& file, std::vector<QLineEdit*> boxes)
+{
+    std::vector<Kind> kinds(boxes.size(), Kind::Text);
+    useSettings(
+        file, std::move(kinds),
+        [boxes] {
+            Record record;
+            for (const QLineEdit* box : boxes)
+                record.push_back(box->text().toStdString());
+            return record;
+        },
+        [boxes](const Record& record) {
+            for (std::size_t i = 0; i < boxes.size(); ++i)
+                boxes[i]->setText(QString::fromStdString(textOf(record[i])));
+        });
+}
+
+void CalculatorWindow::loadSettings()
+{
+    m_loading = true;
+    if (m_settings)
+        if (const auto record = m_settings->load()) m_load(*record);
+    m_loading = false;
+    calculateAll();
+    applyColours();
+}
+
+void CalculatorWindow::saveSettingsNow()
+{
+    if (m_settings && !m_loading)
+        setNotice("save", QString::fromStdString(m_settings->saveQuietly(m_save())));
+}
+
+QMenu* CalculatorWindow::addMenu(const QString& caption, const QString& name)
+{
+    QMenu* menu = menuBar()->addMenu(caption);
+    menu->setObjectName(name);
+    return menu;
+}
+
+QAction* CalculatorWindow::addEntry(QMenu* menu, const QString& array, int index,
+                                    const QString& caption, std::function<void()> action)
+{
+    QAction* entry = menu->addAction(caption, this, std::move(action));
+    entry->setObjectName(memberName(array, index));
+    return entry;
+}
+
+QMenu* CalculatorWindow::memoMenu(QMenu*& menu, const QString& caption, const QString& name)
+{
+    if (!menu) menu = addMenu(caption, name);
+    return menu;
+}
+
+void CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                                    const QString& caption, std::function<void()> action)
+{
+    QMenu* into = memoMenu(menu, title, array);
+    addEntry(into, array, static_cast<int>(into->actions().size()), caption, std::move(action));
+}
+
+void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
+{
+    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption, [this, value = std::move(value)] {
+        program().actions().StoreInMemo(KORVEL2000Actions::Single, value());
+    });
+}
+
+void CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
+{
+    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
+                 [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
+                     program().actions().storePosition(latitude(), longitude());
+                 });
+}
+
+void CalculatorWindow::addRecallSingle(const QString& caption, QLineEdit* box)
+{
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] {
+        if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
+            box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
+    });
+}
+
+void CalculatorWindow::addRecallPosition(const QString& caption, QLineEdit* latitude,
+                                         QLineEdit* longitude)
+{
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, latitude, longitude] {
+        if (program().actions().ConfirmMemoRecall("PsnM") != "Yes") return;
+        latitude->setText(QString::fromStdString(memoText(program().saved().memoLatitude())));
+        longitude->setText(QString::fromStdString(memoText(program().saved().memoLongitude())));
+    });
+}
+
+void CalculatorWindow::addLinksMenu(const QString& array)
+{
+    QMenu* menu = addMenu("&Windows", array);
+    int index = 0;
+    for (const WindowLink& link : m_program.links)
+        if (link.name != objectName())
+            addEntry(menu, array, index++, link.caption,
+                     [this, name = link.name] { m_program.openWindow(name); });
+}
+
+void CalculatorWindow::printForm()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(windowTitle());
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        m_program.questions().ask(
+            {"The printer cannot be used.", programTitle, Buttons::Ok});
+        return;
+    }
+    QWidget* page = centralWidget();
+    const QRect room = painter.viewport();
+    const double scale = std::min(double(room.width()) / page->width(),
+                                  double(room.height()) / page->height());
+    painter.scale(scale, scale);
+    page->render(&painter);
+}
+
+void CalculatorWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_settings) m_settings->saveAtClose(m_save());
+    emit m_program.windowClosed(objectName());
+    event->accept();
+}
+
+void CalculatorWindow::applyColours()
+{
+    const ColourScheme& colours = m_program.colours();
+    const auto tint = [](QWidget* widget, const QColor& colour) {
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::WindowText, colour);
+        widget->setPalette(palette);
+    };
+    tint(m_notice, colours.notice);
+    for (QLabel* label : m_body->findChildren<QLabel*>())
+        if (label->objectName().startsWith("echo ")) tint(label, colours.echo);
+}
+
+} // namespace korvel

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/SettingsFile.h"
+#include "app/shell/Boxes.h"
+#include "app/shell/Program.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+class QGridLayout;
+class QMenu;
+
+namespace korvel
+{
+
+/// What repeats in every calculator window: its settings file, boxes and labels with their names,
+/// calculations at every change, the notice line at the foot, the memo menus, links to the other
+/// windows, printing.
+///
+/// A window's constructor makes its controls, adds its calculations and menus and calls
+/// loadSettings() last.
+class CalculatorWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param name    class name of the window, "frmCDDR"
+    /// @param caption title of the window
+    CalculatorWindow(Program& program, const QString& name, const QString& caption);
+
+    /// The text of the notice line.
+    QString notice() const;
+
+protected:
+    Program& program() { return m_program; }
+
+    // Controls. They have no place yet: put them into layouts.
+
+    /// Text boxes name(0) .. name(N - 1) with their accessible names, unit included.
+    template <std::size_t N>
+    std::array<EntryBox*, N> addTextBoxes(const QString& name,
+                                          const std::array<const char*, N>& accessibleNames)
+    {
+        std::array<EntryBox*, N> boxes{};
+        for (std::size_t i = 0; i < N; ++i)
+            boxes[i] = addTextBox(memberName(name, static_cast<int>(i)), accessibleNames[i]);
+        return boxes;
+    }
+    EntryBox* addTextBox(const QString& name, const QString& accessibleName);
+    PositionBox* addPositionBox(const QString& name, Axis axis, const QString& accessibleName);
+
+    /// Result labels name(0) .. name(N - 1).
+    template <std::size_t N>
+    std::array<ResultLabel*, N> addLabels(const QString& name)
+    {
+        std::array<ResultLabel*, N> labels{};
+        for (std::size_t i = 0; i < N; ++i)
+            labels[i] = addLabel(memberName(name, static_cast<int>(i)));
+        return labels;
+    }
+    ResultLabel* addLabel(const QString& name);
+
+    /// The texts of Count boxes from First on.
+    template <std::size_t First, std::size_t Count, typename Boxes>
+    static std::array<std::string, Count> texts(const Boxes& boxes)
+    {
+        std::array<std::string, Count> result;
+        for (std::size_t i = 0; i < Count; ++i)
+            result[i] = boxes[First + i]->value();
+        return result;
+    }
+
+    // Calculations.
+
+    /// A calculation of the window: what makes it run and what it fills.
+    struct Calculation {
+        QString title;                  ///< how the notice line calls it
+        std::vector<QLineEdit*> inputs; ///< every change of one of these runs it
+        std::vector<QLabel*> results;   ///< blanked when it ends in an arithmetic error
+        std::function<void()> run;
+    };
+    /// Adds a calculation and returns its number. It runs at every change of its inputs, when the
+    /// settings have been loaded, and when the distance unit changes.
+    int addCalculation(Calculation calculation);
+    void calculate(int number);
+    void calculateAll();
+
+    /// Says something in the notice line under a key of the caller's; an empty text takes it back.
+    void setNotice(const QString& key, const QString& text);
+
+    // Settings.
+
+    using Save = std::function<Record()>;
+    using Load = std::function<void(const Record&)>;
+    /// Names the window's settings file and how its record is filled and taken over.
+    void useSettings(const std::string& file, std::vector<Kind> kinds, Save save, Load load);
+    /// The same for a record that is the texts of boxes, in their order.
+    void useTextSettings(const std::string& file, std::vector<QLineEdit*> boxes);
+    /// Fills the window from its file, then calculates everything once.
+    void loadSettings();
+    bool isLoading() const { return m_loading; }
+    /// Writes the file while the window stays open; a fault goes to the notice line.
+    void saveSettingsNow();
+
+    // Menus. Indices count from 0 in the order of the calls.
+
+    QMenu* addMenu(const QString& caption, const QString& name);
+    QAction* addEntry(QMenu* menu, const QString& array, int index, const QString& caption,
+                      std::function<void()> action);
+
+    using Text = std::function<std::string()>;
+    void addStoreSingle(const QString& caption, Text value);
+    void addStorePosition(const QString& caption, Text latitude, Text longitude);
+    void addRecallSingle(const QString& caption, QLineEdit* box);
+    void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);
+
+    /// A menu array that opens the other windows of the program.
+    void addLinksMenu(const QString& array);
+
+    /// Prints the window as it stands, through the system's print dialog.
+    void printForm();
+
+    /// The area for the window's own controls, above the notice line.
+    QWidget* body() const { return m_body; }
+
+    void closeEvent(QCloseEvent* event) override;
+    /// Applies the colour scheme to controls with colours of their own; call the base first.
+    virtual void applyColours();
+
+private:
+    QMenu* memoMenu(QMenu*& menu, const QString& caption, const QString& name);
+    void addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                      const QString& caption, std::function<void()> action);
+
+    Program& m_program;
+    QWidget* m_body;
+    QLabel* m_notice;
+    std::map<QString, QString> m_notices;
+    std::vector<Calculation> m_calculations;
+    std::unique_ptr<SettingsFile> m_settings;
+    Save m_save;
+    Load m_load;
+    bool m_loading = false;
+    QMenu* m_mnuMemo = nullptr;
+    QMenu* m_mnuRem = nullptr;
+};
+
+} // namespace korvel

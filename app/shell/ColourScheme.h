@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+namespace korvel
+{
+
+/// Every colour of the program, by day or by night.
+struct ColourScheme {
+    QPalette palette;
+
+    QColor clock;  ///< text of lblTime
+    QColor memo;   ///< text of lblMEMO
+    QColor unit;   ///< text of lbl1NM
+    QColor echo;   ///< what was understood, beside a box
+    QColor notice; ///< the notice line
+    QColor dimmed; ///< results that no longer belong to the inputs
+
+    QColor paper;     ///< background of pictures
+    QColor ink;       ///< text and main lines of pictures
+    QColor grid;      ///< grid lines
+    QColor equator;   ///< the equator, and other lines of warning
+    QColor route;     ///< the great circle, the curve, the line that the picture is about
+    QColor secondary; ///< the line that it is compared with
+    QColor tertiary;  ///< a third line
+    QColor marker;    ///< marked points
+
+    static ColourScheme day();
+    static ColourScheme night();
+};
+
+} // namespace korvel

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/MessageQuestions.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace korvel
+{
+namespace
+{
+
+/// A carriage return is the line break of the program's messages, a line feed the toolkit's.
+QString shown(const std::string& text)
+{
+    return QString::fromStdString(text).replace('\r', '\n');
+}
+
+QMessageBox::StandardButtons buttonsOf(Buttons buttons)
+{
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+QWidget* asker()
+{
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible()) return window;
+    return nullptr;
+}
+
+} // namespace
+
+Answer MessageQuestions::ask(const Message& message)
+{
+    QMessageBox box(asker());
+    box.setWindowTitle(shown(message.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(shown(message.text));
+    box.setStandardButtons(buttonsOf(message.buttons));
+    if (message.buttons != Buttons::Ok) {
+        // Closing the box is the refusing answer.
+        const bool yesNo = message.buttons == Buttons::YesNo;
+        box.setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Cancel);
+        box.setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
+        box.setIcon(QMessageBox::Question);
+    } else {
+        box.setIcon(QMessageBox::Information);
+    }
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return Answer::Ok;
+    }
+}
+
+std::string MessageQuestions::input(const std::string& prompt, const std::string& title,
+                                    const std::string& defaultAnswer)
+{
+    QInputDialog dialog(asker());
+    dialog.setWindowTitle(shown(title));
+    dialog.setLabelText(shown(prompt));
+    dialog.setTextValue(QString::fromStdString(defaultAnswer));
+    if (auto* box = dialog.findChild<QLineEdit*>()) box->selectAll();
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue().toStdString() : std::string();
+}
+
+void MessageQuestions::beep()
+{
+    QApplication::beep();
+}
+
+} // namespace korvel

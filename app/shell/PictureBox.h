@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPainter>
+#include <QWidget>
+
+#include <functional>
+
+namespace korvel
+{
+
+/// The user scale of a picture: what its four edges stand for. Left may be greater than right and
+/// top smaller than bottom.
+struct UserScale {
+    double left = 0;
+    double top = 1;
+    double right = 1;
+    double bottom = 0;
+};
+
+/// A picture with a user scale. It keeps no pixels: whoever owns it hands in a routine that draws
+/// it afresh at any size and resolution.
+class PictureBox : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PictureBox(QWidget* parent = nullptr);
+
+    void setUserScale(const UserScale& scale);
+    const UserScale& userScale() const { return m_scale; }
+
+    /// Room in pixels around the area that the user scale covers, for labels.
+    void setPlotMargins(const QMargins& margins);
+    QRectF plotArea() const;
+
+    QPointF toPixel(double x, double y) const;
+    QPointF toUser(QPointF pixel) const;
+
+    /// Draws the picture; called with a painter in pixels, antialiasing on.
+    std::function<void(QPainter&)> draw;
+
+    /// Draws the picture at another size, for printing.
+    void drawOn(QPainter& painter, const QSize& size);
+
+signals:
+    /// The pointer moved over the picture, with the buttons held; coordinates of the user scale.
+    void pointed(QPointF user, Qt::MouseButtons buttons);
+    void pressed(QPointF user, Qt::MouseButtons buttons);
+    void released(QPointF user);
+    void left();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    UserScale m_scale;
+    QMargins m_margins;
+    QSize m_drawnSize; ///< set while the picture is drawn at another size than the widget's
+};
+
+} // namespace korvel

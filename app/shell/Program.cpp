@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/Program.h"
+
+namespace korvel
+{
+
+Program::Program(const Machine& machine, KV_Savedvalue& saved, KORVEL2000Actions& actions,
+                 ShipsTime& shipsTime)
+    : m_machine(machine), m_saved(saved), m_actions(actions), m_shipsTime(shipsTime)
+{
+}
+
+const ColourScheme& Program::colours() const
+{
+    return m_saved.nightColours() ? m_night : m_day;
+}
+
+} // namespace korvel

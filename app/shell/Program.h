@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/FileStore.h"
+#include "app/KORVEL2000Actions.h"
+#include "app/KV_Savedvalue.h"
+#include "app/Questions.h"
+#include "app/ShipsTime.h"
+#include "app/shell/ColourScheme.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace korvel
+{
+
+/// What the program asks of the machine, handed in at construction.
+struct Machine {
+    Questions& questions;
+    ComputerClock& clock;
+    FileStore& files;
+};
+
+/// A calculator window as the main window's menus know it.
+struct WindowLink {
+    QString name;    ///< "frmGC2000"
+    QString caption; ///< menu caption with its mnemonic
+};
+
+/// The part of the main window that calculator windows may know. One object, owned by the main
+/// window, handed to every calculator window at construction.
+class Program : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All references must outlive this object.
+    Program(const Machine& machine, KV_Savedvalue& saved, KORVEL2000Actions& actions,
+            ShipsTime& shipsTime);
+
+    KV_Savedvalue& saved() { return m_saved; }
+    KORVEL2000Actions& actions() { return m_actions; }
+    ShipsTime& shipsTime() { return m_shipsTime; }
+    Questions& questions() { return m_machine.questions; }
+    FileStore& files() { return m_machine.files; }
+    ComputerClock& clock() { return m_machine.clock; }
+
+    /// Spheroid option of the sailing routines, by the distance unit that is chosen.
+    int spheroid() const { return m_saved.spheroid(); }
+
+    /// The colours in force, by KV_Savedvalue(21).
+    const ColourScheme& colours() const;
+
+    /// The other windows that can be opened, in menu order.
+    std::vector<WindowLink> links;
+    /// Opens a window by its name, as its menu entry does.
+    std::function<void(const QString&)> openWindow = [](const QString&) {};
+
+signals:
+    void distanceUnitChanged();
+    void coloursChanged();
+    void TDChanged();
+    void minuteChanged();
+    /// A calculator window closed; its menu entry is unticked.
+    void windowClosed(const QString& name);
+
+private:
+    Machine m_machine;
+    KV_Savedvalue& m_saved;
+    KORVEL2000Actions& m_actions;
+    ShipsTime& m_shipsTime;
+    ColourScheme m_day = ColourScheme::day();
+    ColourScheme m_night = ColourScheme::night();
+};
+
+} // namespace korvel

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/FileStore.h"
+
+#include <QString>
+
+namespace korvel
+{
+
+/// The folder that the program was started from, where its settings and data lie.
+class ProgramFolder : public FileStore
+{
+public:
+    /// @param folder without a trailing separator. Remnants of a save that was cut off in an
+    ///               earlier run are removed.
+    explicit ProgramFolder(QString folder);
+
+    Content read(const std::string& name) override;
+    std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
+    std::string path(const std::string& name) const override;
+
+private:
+    QString pathOf(const std::string& name) const;
+
+    QString m_folder;
+};
+
+} // namespace korvel

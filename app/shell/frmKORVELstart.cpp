@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/frmKORVELstart.h"
+
+#include "app/Questions.h"
+#include "app/shell/ColourScheme.h"
+
+#include <QGuiApplication>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+#include <cmath>
+#include <numbers>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr double pictureWidth = 480;
+constexpr double pictureHeight = 270;
+
+/// A compass card of sixteen points around the origin, radius 1.
+void drawCompassRose(QPainter& painter, const QColor& light, const QColor& dark)
+{
+    painter.setPen(Qt::NoPen);
+    for (int rank = 2; rank >= 0; --rank) {
+        const double length = rank == 0 ? 1.0 : rank == 1 ? 0.72 : 0.5;
+        for (int point = 0; point < 16; ++point) {
+            const bool cardinal = point % 4 == 0;
+            const bool intercardinal = point % 4 == 2;
+            if ((cardinal ? 0 : intercardinal ? 1 : 2) != rank) continue;
+            painter.save();
+            painter.rotate(point * 22.5);
+            painter.setBrush(light);
+            painter.drawConvexPolygon(QPolygonF{{0, 0}, {-0.11, -0.18}, {0, -length}});
+            painter.setBrush(dark);
+            painter.drawConvexPolygon(QPolygonF{{0, 0}, {0.11, -0.18}, {0, -length}});
+            painter.restore();
+        }
+    }
+}
+
+void drawSea(QPainter& painter)
+{
+    for (int wave = 0; wave < 3; ++wave) {
+        QPainterPath path(QPointF(0, pictureHeight));
+        for (double x = 0; x <= pictureWidth; x += 6)
+            path.lineTo(x, pictureHeight - 42 + wave * 14 +
+                               5 * std::sin(x / 38 + wave * 1.9 * std::numbers::pi / 2));
+        path.lineTo(pictureWidth, pictureHeight);
+        painter.fillPath(path, QColor(20, 70 - wave * 14, 110 - wave * 20, 190));
+    }
+}
+
+} // namespace
+
+frmKORVELstart::frmKORVELstart() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
+{
+    setObjectName("frmKORVELstart");
+    setWindowTitle(programTitle);
+    const double unit = fontMetrics().height() / 16.0;
+    resize(qRound(pictureWidth * unit), qRound(pictureHeight * unit));
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    move(screen.center() - rect().center());
+}
+
+void frmKORVELstart::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(width() / pictureWidth, height() / pictureHeight);
+
+    QLinearGradient sky(0, 0, 0, pictureHeight);
+    sky.setColorAt(0, "#06121f");
+    sky.setColorAt(0.75, "#1d4a70");
+    sky.setColorAt(1, "#d58a4a");
+    painter.fillRect(QRectF(0, 0, pictureWidth, pictureHeight), sky);
+    drawSea(painter);
+
+    painter.save();
+    painter.translate(110, 122);
+    painter.setPen(QPen(QColor(230, 205, 160), 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QPointF(0, 0), 84, 84);
+    painter.drawEllipse(QPointF(0, 0), 78, 78);
+    painter.scale(74, 74);
+    drawCompassRose(painter, QColor(245, 225, 185), QColor(160, 110, 60));
+    painter.restore();
+
+    painter.setPen(QColor(245, 235, 215));
+    QFont title = font();
+    title.setPixelSize(40);
+    title.setBold(true);
+    title.setLetterSpacing(QFont::AbsoluteSpacing, 2);
+    painter.setFont(title);
+    painter.drawText(QRectF(214, 72, 256, 60), Qt::AlignLeft | Qt::AlignVCenter, programTitle);
+    QFont line = font();
+    line.setPixelSize(15);
+    painter.setFont(line);
+    painter.drawText(QRectF(216, 128, 250, 50), Qt::AlignLeft | Qt::AlignTop,
+                     "Calculators for the officer\nof the watch");
+}
+
+} // namespace korvel

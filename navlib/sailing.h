@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <string>
+
+/// Sailing formulas: rhumb line by meridional parts, dead reckoning and great circle.
+///
+/// Latitudes and longitudes are packed values, north and east positive, unless a parameter says
+/// otherwise; miles are nautical miles. A spheroid argument of 1 applies the lengths of the minute
+/// of latitude and longitude on the spheroid (in miles of 1852 m); any other value is the sphere.
+/// Source of the methods: Bowditch, American Practical Navigator, chapter "The Sailings".
+namespace NavFunc113
+{
+
+/// Change of longitude from one meridian to another by the shorter way, east positive.
+/// @return -180 .. 180; meridians exactly 180 degrees apart keep the sign of long2 - long1
+Degrees ChangeOfLongitude(DegMin long1, DegMin long2);
+
+/// "East" or "West": the shorter way from one meridian to another. Equal meridians and meridians
+/// exactly 180 degrees apart are "West".
+std::string EastWest(DegMin long1, DegMin long2);
+
+/// Meridional parts of a latitude, in minutes of longitude, the second term taking the
+/// ellipticity into account.
+/// @param lat decimal degrees, -90 < lat <= 90
+/// @throws ArithmeticError InvalidArgument at -90 and beyond either pole
+double MeridionalParts(Degrees lat);
+
+/// Length of one minute of latitude of the spheroid in miles, interpolated.
+/// @param lat decimal degrees, 0 .. 90; beyond, the table is extrapolated
+double LatitudeFactor(Degrees lat);
+
+/// Length of one minute of longitude of the spheroid, divided by the cosine of the latitude, in
+/// miles; interpolated.
+/// @param lat decimal degrees, 0 .. 90
+double ParallelFactor(Degrees lat);
+
+/// Rhumb-line course from one position to another.
+/// @return true, 0 <= course < 360; 0 for equal positions
+/// @throws ArithmeticError as MeridionalParts
+Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
+
+/// Rhumb-line distance between two positions. Latitudes less than 1e-9 degrees apart are one
+/// parallel.
+/// @throws ArithmeticError as MeridionalParts; DivisionByZero for a course of exactly 90 or 270
+///         between different latitudes
+Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid);
+
+/// Latitude reached by dead reckoning: change of latitude = distance x cos course.
+///
+/// @param lat      latitude left
+/// @param course   true, 0 .. 360
+/// @param distance 0 or less: not under way, lat comes back untouched
+/// @return latitude reached; beyond 90 when the run crosses a pole (the caller decides)
+DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid);
+
+/// Longitude reached by dead reckoning. On courses of exactly 90 and 270 by the length of the
+/// parallel, otherwise by meridional parts up to the latitude that DRLatitude reaches.
+///
+/// @param course   true, 0 .. 360
+/// @param distance 0 or less: not under way, long1 comes back untouched
+/// @return -180 .. 180, however many times the run goes round the earth
+/// @throws ArithmeticError as MeridionalParts when the run crosses a pole; DivisionByZero for
+///         courses 90 and 270 on a pole, whose parallel has no length
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid);
+
+/// Great-circle distance on the sphere, one mile a minute of arc.
+/// @return 0 .. 10800
+/// @throws ArithmeticError DivisionByZero for positions exactly 90 degrees of arc apart,
+///         InvalidArgument when rounding takes the cosine beyond +-1, as it may between equal or
+///         opposite positions
+Miles GCDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
+
+/// Latitude at which the great circle from position 1 to position 2 crosses a meridian.
+///
+/// Four-parts formula with unsigned changes of longitude, so the meridian must lie between those
+/// of the two positions, on the side of the shorter change of longitude.
+/// @param meridian longitude of the meridian
+DegMin GCLatitudeAt(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, DegMin meridian);
+
+} // namespace NavFunc113
