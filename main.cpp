@@ -43,8 +43,8 @@ int main(int argc, char* argv[])
     QApplication::processEvents();
 
     korvel::frmKORVEL2000 mainWindow({questions, *clock, folder}, calculatorWindows());
-    QObject::connect(&mainWindow, &korvel::frmKORVEL2000::ended, &application,
-                     &QApplication::quit, Qt::QueuedConnection);
+    QObject::connect(&mainWindow, &korvel::frmKORVEL2000::ended, &application, &QApplication::quit,
+                     Qt::QueuedConnection);
     mainWindow.start();
     startWindow.close();
     return QApplication::exec();

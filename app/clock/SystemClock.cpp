@@ -38,9 +38,8 @@ public:
     DateTime now() const override
     {
         const std::tm civil = localTime(std::time(nullptr));
-        return NavFunc113::MakeDateTime(
-            {civil.tm_year + 1900, civil.tm_mon + 1, civil.tm_mday},
-            civil.tm_hour * 3600 + civil.tm_min * 60 + civil.tm_sec);
+        return NavFunc113::MakeDateTime({civil.tm_year + 1900, civil.tm_mon + 1, civil.tm_mday},
+                                        civil.tm_hour * 3600 + civil.tm_min * 60 + civil.tm_sec);
     }
 
     std::optional<std::string> set(DateTime value) override

@@ -194,9 +194,8 @@ void PositionBox::contextMenuEvent(QContextMenuEvent* event)
                 [this] { pasteText(QApplication::clipboard()->text()); });
     }
     menu->addSeparator();
-    menu->addAction("Copy p&osition", this, [this] {
-        QApplication::clipboard()->setText(positionToCopy());
-    });
+    menu->addAction("Copy p&osition", this,
+                    [this] { QApplication::clipboard()->setText(positionToCopy()); });
     menu->exec(event->globalPos());
 }
 

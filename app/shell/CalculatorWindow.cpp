@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
@@ -67,6 +68,30 @@ ResultLabel* CalculatorWindow::addLabel(const QString& name)
     auto* label = new ResultLabel(m_body);
     label->setObjectName(name);
     return label;
+}
+
+void CalculatorWindow::addEntryRow(QGridLayout* grid, int row, const QString& caption,
+                                   EntryBox* box, const QString& unit)
+{
+    auto* label = new QLabel(caption);
+    label->setBuddy(box);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(box, row, 1);
+    grid->addWidget(new QLabel(unit), row, 2, 1, -1);
+}
+
+void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& caption,
+                                    ResultLabel* label, const QString& unit)
+{
+    grid->addWidget(new QLabel(caption), row, 0);
+    grid->addWidget(label, row, 1);
+    grid->addWidget(new QLabel(unit), row, 2, 1, -1);
+}
+
+void CalculatorWindow::addBelow(QWidget* widget)
+{
+    auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
+    column->insertWidget(column->count() - 1, widget);
 }
 
 int CalculatorWindow::addCalculation(Calculation calculation)
@@ -234,14 +259,13 @@ void CalculatorWindow::printForm()
     if (dialog.exec() != QDialog::Accepted) return;
     QPainter painter;
     if (!painter.begin(&printer)) {
-        m_program.questions().ask(
-            {"The printer cannot be used.", programTitle, Buttons::Ok});
+        m_program.questions().ask({"The printer cannot be used.", programTitle, Buttons::Ok});
         return;
     }
     QWidget* page = centralWidget();
     const QRect room = painter.viewport();
-    const double scale = std::min(double(room.width()) / page->width(),
-                                  double(room.height()) / page->height());
+    const double scale =
+        std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
     painter.scale(scale, scale);
     page->render(&painter);
 }

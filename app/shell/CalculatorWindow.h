@@ -76,6 +76,15 @@ protected:
         return result;
     }
 
+    // Rows of a grid: caption, control, unit.
+
+    static void addEntryRow(QGridLayout* grid, int row, const QString& caption, EntryBox* box,
+                            const QString& unit);
+    static void addResultRow(QGridLayout* grid, int row, const QString& caption, ResultLabel* label,
+                             const QString& unit);
+    /// Puts a row of controls between the body and the notice line.
+    void addBelow(QWidget* widget);
+
     // Calculations.
 
     /// A calculation of the window: what makes it run and what it fills.

@@ -12,8 +12,8 @@ struct Surfaces {
 
 QPalette paletteOf(const Surfaces& s)
 {
-    QPalette palette(s.text, s.button, s.button.lighter(125), s.button.darker(160), s.button.darker(),
-                     s.text, s.text, s.base, s.window);
+    QPalette palette(s.text, s.button, s.button.lighter(125), s.button.darker(160),
+                     s.button.darker(), s.text, s.text, s.base, s.window);
     palette.setColor(QPalette::AlternateBase, s.alternate);
     palette.setColor(QPalette::ToolTipBase, s.alternate);
     palette.setColor(QPalette::ToolTipText, s.text);
@@ -31,8 +31,8 @@ QPalette paletteOf(const Surfaces& s)
 ColourScheme ColourScheme::day()
 {
     ColourScheme scheme;
-    scheme.palette = paletteOf({"#eef1f4", "#ffffff", "#e3e8ee", "#e4e8ec", "#14202b", "#8a949e",
-                                "#1f5f99", "#ffffff"});
+    scheme.palette = paletteOf(
+        {"#eef1f4", "#ffffff", "#e3e8ee", "#e4e8ec", "#14202b", "#8a949e", "#1f5f99", "#ffffff"});
     scheme.clock = "#0b3d6b";
     scheme.memo = "#23313e";
     scheme.unit = "#5a3d00";
@@ -54,8 +54,8 @@ ColourScheme ColourScheme::night()
 {
     // Dim and warm: the eyes must still see the sea after a look at the screen.
     ColourScheme scheme;
-    scheme.palette = paletteOf({"#15110e", "#0c0a08", "#211a15", "#2a211b", "#d9a06a", "#7a6048",
-                                "#7c3b14", "#ffd9ae"});
+    scheme.palette = paletteOf(
+        {"#15110e", "#0c0a08", "#211a15", "#2a211b", "#d9a06a", "#7a6048", "#7c3b14", "#ffd9ae"});
     scheme.clock = "#ff9a4d";
     scheme.memo = "#d9a06a";
     scheme.unit = "#c98b5e";

@@ -40,10 +40,9 @@ QPointF PictureBox::toPixel(double x, double y) const
 QPointF PictureBox::toUser(QPointF pixel) const
 {
     const QRectF area = plotArea();
-    return {m_scale.left +
-                (pixel.x() - area.left()) / area.width() * (m_scale.right - m_scale.left),
-            m_scale.top +
-                (pixel.y() - area.top()) / area.height() * (m_scale.bottom - m_scale.top)};
+    return {
+        m_scale.left + (pixel.x() - area.left()) / area.width() * (m_scale.right - m_scale.left),
+        m_scale.top + (pixel.y() - area.top()) / area.height() * (m_scale.bottom - m_scale.top)};
 }
 
 void PictureBox::drawOn(QPainter& painter, const QSize& size)

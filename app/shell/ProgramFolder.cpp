@@ -17,7 +17,8 @@ constexpr qint64 largestSettingsFile = 1 << 20;
 
 ProgramFolder::ProgramFolder(QString folder) : m_folder(std::move(folder))
 {
-    // A save writes "KV_GC.ini.AbCdEf" beside the file and renames it; one that was killed leaves it.
+    // A save writes "KV_GC.ini.AbCdEf" beside the file and renames it; one that was killed leaves
+    // it.
     const QDir directory(m_folder);
     for (const QString& remnant : directory.entryList({"KV_*.ini.??????"}, QDir::Files))
         QFile::remove(directory.filePath(remnant));

@@ -69,12 +69,11 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, std::vector<WindowFactory> 
     : m_machine(machine), m_factories(std::move(factories)),
       m_settings(machine.files, machine.questions, "KV_KORVEL.ini", savedValueKinds()),
       m_offsetSettings(machine.files, machine.questions, "KV_Clock.ini", {Kind::Number}),
-      m_shipsTime(m_saved, machine.questions, machine.clock,
-                  {[this](const std::string& text) { showClock(text); },
-                   [this](const std::string& text) {
-                       setWindowTitle(QString::fromStdString(text));
-                   },
-                   [this](NavFunc113::DateTime) { emit m_program.minuteChanged(); }}),
+      m_shipsTime(
+          m_saved, machine.questions, machine.clock,
+          {[this](const std::string& text) { showClock(text); },
+           [this](const std::string& text) { setWindowTitle(QString::fromStdString(text)); },
+           [this](NavFunc113::DateTime) { emit m_program.minuteChanged(); }}),
       m_actions(m_saved, machine.questions, m_settings,
                 {[this] { MemoHyoujiAtStart(); }, [this] { endProgram(); }}),
       m_program(machine, m_saved, m_actions, m_shipsTime)
@@ -181,10 +180,8 @@ void frmKORVEL2000::buildCalculatorMenus()
 
     for (const auto& [menu, index, window, caption] : calculatorEntries) {
         const QString name = index > 0 ? memberName(menu, index) : QString(menu);
-        QAction* entry =
-            addEntry(menus[menu], name, caption, [this, window = QString(window)] {
-                openWindow(window);
-            });
+        QAction* entry = addEntry(menus[menu], name, caption,
+                                  [this, window = QString(window)] { openWindow(window); });
         entry->setCheckable(true);
         const bool known = std::any_of(m_factories.begin(), m_factories.end(),
                                        [&](const auto& each) { return each.name == window; });
@@ -218,10 +215,12 @@ void frmKORVEL2000::buildPropertyMenu()
             chooseClockZone(static_cast<ClockZone>(i));
         })->setCheckable(true);
     property->addSeparator();
-    addEntry(property, "mnuDIST", "1nm=1' of &latitude", [this] { chooseDistanceUnit(); })
-        ->setCheckable(true);
-    addEntry(property, "mnuBackColor", "&Night colours", [this] { chooseColours(); })
-        ->setCheckable(true);
+    addEntry(property, "mnuDIST", "1nm=1' of &latitude", [this] {
+        chooseDistanceUnit();
+    })->setCheckable(true);
+    addEntry(property, "mnuBackColor", "&Night colours", [this] {
+        chooseColours();
+    })->setCheckable(true);
 }
 
 void frmKORVEL2000::showTicks()

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCDDR/CalculateCD.h"
+
+#include "app/Format.h"
+#include "app/reading.h"
+#include "navlib/sailing.h"
+
+namespace korvel
+{
+
+CDResult CalculateCD(const CDInput& input)
+{
+    const auto& [lat1Text, long1Text, lat2Text, long2Text] = input.txtCDDR;
+    if (!IsInRange(lat1Text, "-90", "90") || !IsInRange(long1Text, "-180", "180") ||
+        !IsInRange(lat2Text, "-90", "90") || !IsInRange(long2Text, "-180", "180"))
+        return {};
+    const double lat1 = readNumber(lat1Text);
+    const double long1 = readNumber(long1Text);
+    const double lat2 = readNumber(lat2Text);
+    const double long2 = readNumber(long2Text);
+
+    const double course = NavFunc113::RhumbCourse(lat1, long1, lat2, long2);
+    const double miles = NavFunc113::RhumbDistance(lat1, long1, lat2, long2, input.spheroid);
+    CDResult result;
+    result.course = "<" + Format(course, "000.0") + ">";
+    // The apostrophe stands before the point here and after it in frmGC2000: both on purpose.
+    result.distance = Format(miles, "0'.0");
+    result.courseDegrees = course;
+    result.miles = miles;
+    return result;
+}
+
+} // namespace korvel

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+struct CDInput {
+    std::array<std::string, 4> txtCDDR; ///< boxes as typed: lat1, long1, lat2, long2; DegMin
+    int spheroid = 0;
+};
+
+struct CDResult {
+    std::string course;   ///< lblCDDR(0), degrees true; empty blanks the label
+    std::string distance; ///< lblCDDR(1), nautical miles; empty blanks the label
+    std::optional<NavFunc113::Degrees> courseDegrees; ///< the same with full precision
+    std::optional<NavFunc113::Miles> miles;
+};
+
+/// Rhumb-line course and distance. An input out of range blanks both labels.
+/// @throws ArithmeticError from the library
+CDResult CalculateCD(const CDInput& input);
+
+} // namespace korvel

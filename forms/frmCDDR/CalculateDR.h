@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+struct DRInput {
+    std::array<std::string, 4> txtCDDR; ///< boxes as typed: lat, long (DegMin), course, distance
+    int spheroid = 0;
+};
+
+struct DRResult {
+    std::string latitude;                              ///< lblCDDR(2); empty blanks the label
+    std::string longitude;                             ///< lblCDDR(3); empty blanks the label
+    std::optional<NavFunc113::DegMin> latitudeReached; ///< the same with full precision
+    std::optional<NavFunc113::DegMin> longitudeReached;
+    std::string notice; ///< why there is a latitude without a longitude
+};
+
+/// Position reached by dead reckoning. An input out of range blanks both labels; a track across a
+/// pole has a latitude only, and so has one whose longitude ends in an arithmetic error.
+/// @throws ArithmeticError from the library, when there is no latitude either
+DRResult CalculateDR(const DRInput& input);
+
+} // namespace korvel

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+#include "tests/shell/ShellTesting.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+namespace korvel::testing
+{
+
+FakeQuestions::~FakeQuestions()
+{
+    EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " prepared answers were never asked for";
+    EXPECT_TRUE(m_typed.empty()) << m_typed.size() << " prepared inputs were never asked for";
+}
+
+void FakeQuestions::willAnswer(Answer answer, std::function<void()> run)
+{
+    m_answers.push_back({answer, std::move(run)});
+}
+
+void FakeQuestions::willType(const std::string& answer)
+{
+    m_typed.push_back(answer);
+}
+
+Answer FakeQuestions::ask(const Message& message)
+{
+    asked.push_back(message.text);
+    titles.push_back(message.title);
+    if (m_answers.empty()) {
+        ADD_FAILURE() << "unexpected message: " << message.text;
+        return message.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+    }
+    const Prepared prepared = std::move(m_answers.front());
+    m_answers.pop_front();
+    if (prepared.run) prepared.run();
+    return prepared.answer;
+}
+
+std::string FakeQuestions::input(const std::string& prompt, const std::string&,
+                                 const std::string& defaultAnswer)
+{
+    prompts.push_back(prompt);
+    offered.push_back(defaultAnswer);
+    if (m_typed.empty()) {
+        // The caller repeats the question until it is satisfied: only an exception ends that.
+        throw std::runtime_error("unexpected input box: " + prompt);
+    }
+    std::string answer = std::move(m_typed.front());
+    m_typed.pop_front();
+    return answer == acceptDefault ? defaultAnswer : answer;
+}
+
+std::optional<std::string> FakeClock::set(NavFunc113::DateTime value)
+{
+    if (refusal) return refusal;
+    sets.push_back(value);
+    time = value;
+    return std::nullopt;
+}
+
+WindowTest::WindowTest() : m_main(new frmKORVEL2000({questions, clock, files}, {})) {}
+
+WindowTest::~WindowTest()
+{
+    for (const QPointer<QWidget>& window : m_opened)
+        if (window) close(*window);
+}
+
+void WindowTest::show(QWidget* window)
+{
+    m_opened.emplace_back(window);
+    window->show();
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
+}
+
+void WindowTest::close(QWidget& window)
+{
+    const QPointer<QWidget> alive(&window);
+    window.close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+    EXPECT_TRUE(alive.isNull() || !alive->isVisible());
+}
+
+std::string WindowTest::fileText(const std::string& name) const
+{
+    QFile file(folder.filePath(QString::fromStdString(name)));
+    if (!file.open(QIODevice::ReadOnly)) return "(no file)";
+    return file.readAll().toStdString();
+}
+
+void WindowTest::writeFile(const std::string& name, const std::string& bytes)
+{
+    QFile file(folder.filePath(QString::fromStdString(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+}
+
+QWidget& control(const QWidget& window, const std::string& name)
+{
+    if (auto* found = window.findChild<QWidget*>(QString::fromStdString(name))) return *found;
+    throw std::runtime_error("no control " + name);
+}
+
+std::string text(const QWidget& window, const std::string& name)
+{
+    QWidget& widget = control(window, name);
+    if (auto* box = qobject_cast<QLineEdit*>(&widget)) return box->text().toStdString();
+    if (auto* label = qobject_cast<QLabel*>(&widget)) return label->text().toStdString();
+    throw std::runtime_error("no text in " + name);
+}
+
+std::vector<std::string> whileTyping(const QWidget& window, const std::string& box,
+                                     const std::string& keys, const std::string& watched)
+{
+    auto& widget = control(window, box);
+    widget.setFocus(Qt::TabFocusReason);
+    std::vector<std::string> seen;
+    for (char key : keys) {
+        QWidget* focus = QApplication::focusWidget();
+        if (!focus) focus = &widget;
+        if (key == '\b')
+            QTest::keyClick(focus, Qt::Key_Backspace);
+        else if (key == '\r')
+            QTest::keyClick(focus, Qt::Key_Return);
+        else
+            QTest::keyClick(focus, key);
+        seen.push_back(text(window, watched));
+    }
+    return seen;
+}
+
+void type(const QWidget& window, const std::string& box, const std::string& keys)
+{
+    control(window, box).setFocus(Qt::TabFocusReason);
+    if (keys.empty()) QTest::keyClick(&control(window, box), Qt::Key_Delete);
+    whileTyping(window, box, keys, box);
+}
+
+void click(const QWidget& window, const std::string& name)
+{
+    QTest::mouseClick(&control(window, name), Qt::LeftButton);
+}
+
+namespace
+{
+
+QAction& entryOf(const QWidget& window, const std::string& entry)
+{
+    if (auto* found = window.findChild<QAction*>(QString::fromStdString(entry))) return *found;
+    throw std::runtime_error("no menu entry " + entry);
+}
+
+} // namespace
+
+void choose(const QWidget& window, const std::string& entry)
+{
+    QAction& action = entryOf(window, entry);
+    EXPECT_TRUE(action.isEnabled()) << entry << " is greyed out";
+    action.trigger();
+}
+
+bool isTicked(const QWidget& window, const std::string& entry)
+{
+    return entryOf(window, entry).isChecked();
+}
+
+std::string focused()
+{
+    const QWidget* widget = QApplication::focusWidget();
+    return widget ? widget->objectName().toStdString() : "";
+}
+
+} // namespace korvel::testing

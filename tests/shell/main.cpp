@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    testing::InitGoogleMock(&argc, argv);
+    QApplication::setStyle("Fusion");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,35 @@
+# SPDX-License-Identifier: MIT
+# The Debian packages that building, running and testing need. Sourced by ./run and ./test.
+
+build_packages="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev"
+# Fonts with Japanese and full-width glyphs, and the helpers that play the alarm's tone.
+run_packages="fonts-noto-core fonts-noto-cjk alsa-utils"
+# A virtual display for machines that have none, and what takes the picture of the window.
+display_packages="xvfb xauth xdotool x11-utils imagemagick"
+test_packages="libgtest-dev libgmock-dev liberfa-dev"
+
+# install_missing PACKAGE...  Installs those that are not there yet and says so.
+install_missing() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing and neither root nor sudo is at hand: ${missing[*]}" >&2
+            return 1
+        }
+        as_root=(sudo)
+    fi
+    echo "Installing missing packages: ${missing[*]}"
+    "${as_root[@]}" apt-get update -q >/dev/null ||
+        echo "The package lists could not be refreshed; trying with those that are there."
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# ccache is used when it is there; the build finds it by itself. This lets checkouts share it.
+export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$(dirname "$PWD")}"
