@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/position_text.h"
 
-#include "app/position_tokens.h"
+#include "app/position_coordinate.h"
 #include "app/reading.h"
 #include "navlib/angles.h"
 
@@ -13,171 +13,6 @@ namespace korvel
 {
 namespace
 {
-
-using Kind = PositionToken::Kind;
-
-struct Coordinate {
-    std::vector<PositionToken> numbers; ///< degrees, minutes, seconds, as far as they are there
-    char letter = 0;                    ///< N, S, E, W; 0 when none is there
-    char word = 0;                      ///< N for a latitude word, E for a longitude word
-    bool suffix = false;                ///< the letter stands behind
-    bool sign = false;
-    bool negative = false;
-    bool degreeSign = false;
-    bool onlyBlanks = false; ///< nothing but blanks between degrees and minutes
-    bool colon = false;
-
-    char axisLetter() const { return letter ? letter : word; }
-    bool knowsAxis() const { return axisLetter() != 0; }
-    bool south() const { return negative || letter == 'S' || letter == 'W'; }
-    /// A decimal number without any sign: packed or decimal degrees, nobody can tell.
-    bool plain() const
-    {
-        return numbers.size() == 1 && !degreeSign && !numbers[0].decimals.empty() && !compact();
-    }
-    /// 3530.5 or 353030: degrees and minutes run together.
-    bool compact() const { return numbers.size() == 1 && numbers[0].digits.size() > 3; }
-};
-
-class CoordinateReader
-{
-public:
-    explicit CoordinateReader(std::vector<PositionToken> tokens) : m_tokens(std::move(tokens)) {}
-
-    bool atEnd() const { return m_next == m_tokens.size(); }
-    bool skip(Kind kind)
-    {
-        if (!is(kind)) return false;
-        ++m_next;
-        return true;
-    }
-
-    std::optional<Coordinate> coordinate()
-    {
-        Coordinate c;
-        takePrefix(c);
-        if (is(Kind::Dash) || is(Kind::Plus)) {
-            c.sign = true;
-            c.negative = is(Kind::Dash);
-            ++m_next;
-        }
-        if (!is(Kind::Number)) return std::nullopt;
-        c.numbers.push_back(m_tokens[m_next++]);
-        if (isOwnForm(c)) {
-            takeOwnForm(c);
-        } else {
-            c.degreeSign = skip(Kind::Degree);
-            if (c.numbers[0].decimals.empty()) takeMinutes(c);
-        }
-        if (is(Kind::Minute) || is(Kind::Second)) return std::nullopt; // belongs to no number
-        takeSuffix(c);
-        if (c.letter && (c.sign || (c.word && axisOf(c.word) != axisOf(c.letter))))
-            return std::nullopt;
-        return c;
-    }
-
-    static Axis axisOf(char letter)
-    {
-        return letter == 'N' || letter == 'S' ? Axis::Latitude : Axis::Longitude;
-    }
-
-private:
-    bool is(Kind kind, std::size_t ahead = 0) const
-    {
-        return m_next + ahead < m_tokens.size() && m_tokens[m_next + ahead].kind == kind;
-    }
-
-    void takePrefix(Coordinate& c)
-    {
-        if (is(Kind::AxisWord)) {
-            c.word = m_tokens[m_next++].letter;
-            while (is(Kind::Colon) || is(Kind::Separator))
-                ++m_next;
-        }
-        if (is(Kind::Hemisphere)) {
-            c.letter = m_tokens[m_next++].letter;
-            skip(Kind::Colon);
-        }
-    }
-
-    /// What the program's own labels show: 35.30'5N, 35-.30'5N, 35.-30'5N.
-    bool isOwnForm(const Coordinate& c) const
-    {
-        const auto fractionAt = [&](std::size_t ahead) {
-            return is(Kind::Number, ahead) && m_tokens[m_next + ahead].attached &&
-                   m_tokens[m_next + ahead].decimals.empty();
-        };
-        if (is(Kind::OwnDegree)) return is(Kind::Number, 1) && is(Kind::Minute, 2) && fractionAt(3);
-        return c.numbers[0].decimals.size() == 2 && is(Kind::Minute) && fractionAt(1);
-    }
-
-    void takeOwnForm(Coordinate& c)
-    {
-        if (skip(Kind::OwnDegree)) {
-            c.numbers.push_back(m_tokens[m_next++]);
-        } else {
-            PositionToken minutes = c.numbers[0];
-            minutes.digits = std::exchange(minutes.decimals, {});
-            c.numbers[0].decimals.clear();
-            c.numbers.push_back(minutes);
-        }
-        ++m_next; // the minute sign, which stands where the point is
-        c.numbers[1].decimals = m_tokens[m_next++].digits;
-    }
-
-    void takeMinutes(Coordinate& c)
-    {
-        const bool dash = is(Kind::Dash) && is(Kind::Number, 1);
-        c.colon = !c.degreeSign && is(Kind::Colon) && is(Kind::Number, 1);
-        if (dash || c.colon) ++m_next;
-        if (!startsPart()) return;
-        c.onlyBlanks = !c.degreeSign && !dash && !c.colon;
-        c.numbers.push_back(m_tokens[m_next++]);
-        const bool minuteSign = takeUnit(Kind::Minute, c.numbers.back());
-        c.onlyBlanks = c.onlyBlanks && !minuteSign;
-        if (!c.numbers.back().decimals.empty()) return;
-
-        // Seconds follow as the minutes did; 35-30 139-45 are two coordinates.
-        if (!minuteSign && (dash || c.colon)) {
-            if (!is(dash ? Kind::Dash : Kind::Colon) || !is(Kind::Number, 1)) return;
-            ++m_next;
-        }
-        if (!startsPart()) return;
-        c.numbers.push_back(m_tokens[m_next++]);
-        takeUnit(Kind::Second, c.numbers.back());
-    }
-
-    /// A number that is not the degrees of the next coordinate.
-    bool startsPart() const
-    {
-        return is(Kind::Number) && !is(Kind::Degree, 1) && !is(Kind::OwnDegree, 1);
-    }
-
-    /// The unit of a number; 30'.5 means 30.5'.
-    bool takeUnit(Kind unit, PositionToken& number)
-    {
-        if (!skip(unit)) return false;
-        if (number.decimals.empty() && is(Kind::Number) && m_tokens[m_next].attached &&
-            m_tokens[m_next].digits.empty())
-            number.decimals = m_tokens[m_next++].decimals;
-        return true;
-    }
-
-    void takeSuffix(Coordinate& c)
-    {
-        if (c.letter) return;
-        // Instruments' sentences set the letter apart: 3530.5,N,13945.2,E
-        const bool apart = is(Kind::Separator) && is(Kind::Hemisphere, 1) &&
-                           (is(Kind::Separator, 2) || m_next + 2 == m_tokens.size());
-        if (apart) ++m_next;
-        if (!is(Kind::Hemisphere)) return;
-        c.letter = m_tokens[m_next++].letter;
-        c.suffix = true;
-    }
-
-    std::vector<PositionToken> m_tokens;
-    std::size_t m_next = 0;
-};
 
 int wholeOf(std::string_view digits)
 {
@@ -310,28 +145,6 @@ std::optional<std::string> positionOfSentence(std::string_view text)
     return std::nullopt;
 }
 
-std::optional<std::vector<Coordinate>> coordinatesOf(std::string_view text)
-{
-    auto tokens = positionTokens(text);
-    if (!tokens) return std::nullopt;
-    while (!tokens->empty() && tokens->back().kind == Kind::Separator)
-        tokens->pop_back();
-    CoordinateReader reader(std::move(*tokens));
-    std::vector<Coordinate> found;
-    while (reader.skip(Kind::Separator)) {
-    }
-    while (!reader.atEnd()) {
-        const auto coordinate = reader.coordinate();
-        if (!coordinate || found.size() == 2) return std::nullopt;
-        found.push_back(*coordinate);
-        while (reader.skip(Kind::Separator)) {
-        }
-        if (coordinate->suffix) reader.skip(Kind::Dash); // 35-30.5N - 139-45.2E
-    }
-    if (found.empty()) return std::nullopt;
-    return found;
-}
-
 /// Whether the signs around the numbers make a position of them, or they are numbers only.
 bool isPosition(const std::vector<Coordinate>& found)
 {
@@ -385,12 +198,12 @@ std::optional<PastedPosition> parsePosition(std::string_view text, Axis box)
         sentence = positionOfSentence(text);
         if (!sentence) return std::nullopt;
     }
-    const auto found = coordinatesOf(sentence ? *sentence : text);
+    const auto found = readCoordinates(sentence ? *sentence : text);
     if (!found || !isPosition(*found)) return std::nullopt;
 
     std::vector<Axis> axes;
     for (const Coordinate& c : *found)
-        axes.push_back(c.knowsAxis()        ? CoordinateReader::axisOf(c.axisLetter())
+        axes.push_back(c.knowsAxis()        ? axisOfLetter(c.axisLetter())
                        : found->size() == 1 ? box
                        : axes.empty()       ? Axis::Latitude
                                             : Axis::Longitude);

@@ -78,7 +78,7 @@ Echo positionEcho(std::string_view boxText, Axis axis)
         const DegreesAndMinutes typed = split(*value, 8);
         if (typed.minutes >= 60) {
             const double minutes = readNumber(Format(typed.minutes, "0") + "." + typed.decimals);
-            echo.hint = "minutes " + Format(minutes, "0.####") + ": " + echo.text;
+            echo.hint = "minutes " + Format(minutes, "0.####");
         }
         const bool beyond = NavFunc113::DegMinToDeg(size) > greatest + 1e-9;
         if (!beyond) return echo;

@@ -18,7 +18,7 @@ enum class Axis { Latitude, Longitude };
 /// What stands beside a position box.
 struct Echo {
     std::string text; ///< the value in full, "35°30.5' N"; empty when the box holds no number
-    std::string hint; ///< a quiet remark ("minutes 75: 36°15.0' N"); empty when there is none
+    std::string hint; ///< a quiet remark ("minutes 75"); empty when there is none
 };
 
 /// Echo of a box: the packed value read as the calculations read it, minutes carried at 60 and

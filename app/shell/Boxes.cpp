@@ -112,7 +112,7 @@ PositionBox::PositionBox(Axis axis, QWidget* parent)
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { m_echo->setObjectName("echo " + name); });
     // Room for the longest echo, so that the window keeps its shape while the officer types.
-    m_echo->setMinimumWidth(fontMetrics().horizontalAdvance("000°00.0000' W  "));
+    m_echo->setMinimumWidth(fontMetrics().horizontalAdvance("000°00.0' W (minutes 75)"));
 }
 
 void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
@@ -130,7 +130,7 @@ void PositionBox::showEcho()
         hint += m_remark;
     }
     const QString full = QString::fromStdString(echo.text);
-    m_echo->setText(hint.isEmpty() ? full : full + "  !");
+    m_echo->setText(hint.isEmpty() ? full : full + " (" + hint + ")");
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

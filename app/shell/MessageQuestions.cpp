@@ -39,6 +39,16 @@ QWidget* asker()
     return nullptr;
 }
 
+/// The question at start-up stands below the title picture instead of on it.
+void placeBelowStartWindow(QDialog& dialog)
+{
+    const QWidget* parent = dialog.parentWidget();
+    if (!parent || parent->windowType() != Qt::SplashScreen) return;
+    dialog.adjustSize();
+    dialog.move(parent->geometry().center().x() - dialog.width() / 2,
+                parent->geometry().bottom() + dialog.fontMetrics().height());
+}
+
 } // namespace
 
 Answer MessageQuestions::ask(const Message& message)
@@ -77,6 +87,7 @@ std::string MessageQuestions::input(const std::string& prompt, const std::string
     dialog.setLabelText(shown(prompt));
     dialog.setTextValue(QString::fromStdString(defaultAnswer));
     if (auto* box = dialog.findChild<QLineEdit*>()) box->selectAll();
+    placeBelowStartWindow(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.textValue().toStdString() : std::string();
 }
 

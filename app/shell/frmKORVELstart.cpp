@@ -93,9 +93,12 @@ void frmKORVELstart::paintEvent(QPaintEvent*)
     QFont title = font();
     title.setPixelSize(40);
     title.setBold(true);
-    title.setLetterSpacing(QFont::AbsoluteSpacing, 2);
+    // Whatever font the machine has, the title keeps inside the picture.
+    const QRectF titleRoom(214, 72, 250, 60);
+    while (QFontMetricsF(title).horizontalAdvance(programTitle) > titleRoom.width())
+        title.setPixelSize(title.pixelSize() - 1);
     painter.setFont(title);
-    painter.drawText(QRectF(214, 72, 256, 60), Qt::AlignLeft | Qt::AlignVCenter, programTitle);
+    painter.drawText(titleRoom, Qt::AlignLeft | Qt::AlignVCenter, programTitle);
     QFont line = font();
     line.setPixelSize(15);
     painter.setFont(line);

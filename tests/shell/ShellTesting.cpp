@@ -11,58 +11,6 @@
 namespace korvel::testing
 {
 
-FakeQuestions::~FakeQuestions()
-{
-    EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " prepared answers were never asked for";
-    EXPECT_TRUE(m_typed.empty()) << m_typed.size() << " prepared inputs were never asked for";
-}
-
-void FakeQuestions::willAnswer(Answer answer, std::function<void()> run)
-{
-    m_answers.push_back({answer, std::move(run)});
-}
-
-void FakeQuestions::willType(const std::string& answer)
-{
-    m_typed.push_back(answer);
-}
-
-Answer FakeQuestions::ask(const Message& message)
-{
-    asked.push_back(message.text);
-    titles.push_back(message.title);
-    if (m_answers.empty()) {
-        ADD_FAILURE() << "unexpected message: " << message.text;
-        return message.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
-    }
-    const Prepared prepared = std::move(m_answers.front());
-    m_answers.pop_front();
-    if (prepared.run) prepared.run();
-    return prepared.answer;
-}
-
-std::string FakeQuestions::input(const std::string& prompt, const std::string&,
-                                 const std::string& defaultAnswer)
-{
-    prompts.push_back(prompt);
-    offered.push_back(defaultAnswer);
-    if (m_typed.empty()) {
-        // The caller repeats the question until it is satisfied: only an exception ends that.
-        throw std::runtime_error("unexpected input box: " + prompt);
-    }
-    std::string answer = std::move(m_typed.front());
-    m_typed.pop_front();
-    return answer == acceptDefault ? defaultAnswer : answer;
-}
-
-std::optional<std::string> FakeClock::set(NavFunc113::DateTime value)
-{
-    if (refusal) return refusal;
-    sets.push_back(value);
-    time = value;
-    return std::nullopt;
-}
-
 WindowTest::WindowTest() : m_main(new frmKORVEL2000({questions, clock, files}, {})) {}
 
 WindowTest::~WindowTest()
@@ -116,11 +64,23 @@ std::string text(const QWidget& window, const std::string& name)
     throw std::runtime_error("no text in " + name);
 }
 
+namespace
+{
+
+/// Enters a box as by the Tab key, also when it has the focus already.
+void enter(QWidget& widget)
+{
+    if (widget.hasFocus()) widget.clearFocus();
+    widget.setFocus(Qt::TabFocusReason);
+}
+
+} // namespace
+
 std::vector<std::string> whileTyping(const QWidget& window, const std::string& box,
                                      const std::string& keys, const std::string& watched)
 {
     auto& widget = control(window, box);
-    widget.setFocus(Qt::TabFocusReason);
+    enter(widget);
     std::vector<std::string> seen;
     for (char key : keys) {
         QWidget* focus = QApplication::focusWidget();
@@ -138,7 +98,7 @@ std::vector<std::string> whileTyping(const QWidget& window, const std::string& b
 
 void type(const QWidget& window, const std::string& box, const std::string& keys)
 {
-    control(window, box).setFocus(Qt::TabFocusReason);
+    enter(control(window, box));
     if (keys.empty()) QTest::keyClick(&control(window, box), Qt::Key_Delete);
     whileTyping(window, box, keys, box);
 }

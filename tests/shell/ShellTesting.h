@@ -3,63 +3,19 @@
 
 #include "app/shell/ProgramFolder.h"
 #include "app/shell/frmKORVEL2000.h"
+#include "tests/app/FakeMachine.h"
 
 #include <gmock/gmock.h>
 
 #include <QTemporaryDir>
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
 
-/// What the tests of windows share: a machine of fakes, and an officer's hands.
+/// What the tests of windows share: a program in a folder of its own, and an officer's hands.
 namespace korvel::testing
 {
-
-/// Answers that a test has prepared. A question that nobody expects fails the test.
-class FakeQuestions : public Questions
-{
-public:
-    ~FakeQuestions() override;
-
-    Answer ask(const Message& message) override;
-    std::string input(const std::string& prompt, const std::string& title,
-                      const std::string& defaultAnswer) override;
-    void beep() override { ++beeps; }
-
-    /// Answers the next message box, in order. @param run happens while the box is open
-    void willAnswer(Answer answer, std::function<void()> run = {});
-    /// Answers the next input box. An answer of acceptDefault takes what is offered.
-    void willType(const std::string& answer);
-    static constexpr const char* acceptDefault = "\x01";
-
-    std::vector<std::string> asked;  ///< texts of the message boxes, in order
-    std::vector<std::string> titles; ///< their titles
-    std::vector<std::string> prompts;
-    std::vector<std::string> offered; ///< default answers of the input boxes
-    int beeps = 0;
-
-private:
-    struct Prepared {
-        Answer answer;
-        std::function<void()> run;
-    };
-    std::deque<Prepared> m_answers;
-    std::deque<std::string> m_typed;
-};
-
-/// A clock that shows what the test wants and can be set without touching the machine's.
-class FakeClock : public ComputerClock
-{
-public:
-    NavFunc113::DateTime now() const override { return time; }
-    std::optional<std::string> set(NavFunc113::DateTime value) override;
-
-    NavFunc113::DateTime time = 38425.40625; ///< 2005-03-14 09:45
-    std::optional<std::string> refusal;      ///< reason for which the clock cannot be set
-    std::vector<NavFunc113::DateTime> sets;
-};
 
 /// A program folder of its own, and everything that a window needs of the program.
 class WindowTest : public ::testing::Test

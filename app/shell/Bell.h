@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QProcess>
+#include <QTemporaryFile>
+#include <QTimer>
+
+#include <chrono>
+#include <functional>
+
+namespace korvel
+{
+
+/// What makes alarms and time signals heard.
+class Bell
+{
+public:
+    virtual ~Bell() = default;
+
+    /// Rings until stop() is called; while it rings already, nothing changes.
+    virtual void start() = 0;
+    virtual void stop() = 0;
+
+    /// Rings one tone; nothing while it rings already.
+    virtual void ringOnce() = 0;
+};
+
+/// Plays the tone through the sound system's own player, because desktops mute the bell; where no
+/// player works the bell is all there is. Everything runs beside the event loop. Nothing is looked
+/// for or written before the first tone.
+class SystemBell : public QObject, public Bell
+{
+public:
+    struct Settings {
+        std::function<void()> beep;             ///< the desktop's bell when not given
+        std::chrono::milliseconds repeat{3000}; ///< from one tone to the next
+    };
+
+    SystemBell() : SystemBell(Settings{}) {}
+    explicit SystemBell(Settings settings);
+    ~SystemBell() override;
+
+    void start() override;
+    void stop() override;
+    void ringOnce() override;
+
+private:
+    void tick();
+    void playWithNextPlayer();
+    void playerEnded(bool played);
+    QString toneFile();
+
+    Settings m_settings;
+    QTimer m_timer;
+    QTemporaryFile m_file;
+    QProcess* m_process = nullptr; ///< the player at work
+    std::size_t m_player = 0;      ///< players before this one did not work since the start
+};
+
+} // namespace korvel

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/cargo.h"
+
+#include <string>
+
+/// The crude-oil window: from the observed volume, temperature and density to the figures of the
+/// cargo papers.
+namespace korvel
+{
+
+enum class VolumeUnit { Kilolitres, Barrels };
+enum class TemperatureUnit { Celsius, Fahrenheit };
+
+/// What stands in the density box, and with it the table: density at 15 degC takes Table 54A, API
+/// gravity at 60 degF Table 6A.
+enum class DensityBase { Density15, API60 };
+
+enum class WeightRule { DensityLess11, Table56Printed, Table56Exact };
+
+inline constexpr const char* defaultKLPerBarrel = "0.15899";
+
+struct CrudeInput {                  // boxes as typed
+    std::string volume;              ///< total observed volume
+    std::string temperature;         ///< of the cargo
+    std::string density;             ///< kg/m3 (0.5 to 1.2 is taken as kg/L), or API
+    std::string observedTemperature; ///< of an observed density; empty: that of the cargo
+    std::string freeWater;           ///< in the unit of the volume; empty: none
+    std::string sedimentAndWater;    ///< per cent of the standard volume; empty: none
+    std::string klPerBarrel = defaultKLPerBarrel;
+
+    VolumeUnit volumeUnit = VolumeUnit::Kilolitres;
+    TemperatureUnit temperatureUnit = TemperatureUnit::Celsius; ///< of both temperatures
+    DensityBase densityBase = DensityBase::Density15;
+    bool densityObserved = false; ///< the density was observed and has yet to be reduced
+    NavFunc113::ReadWith readWith = NavFunc113::ReadWith::Hydrometer;
+    int vcfDecimals = 5; ///< 5, or 4 as in shore tables
+    WeightRule weightRule = WeightRule::DensityLess11;
+    NavFunc113::CrudeEdition edition = NavFunc113::CrudeEdition::Of1980;
+};
+
+struct CrudeResult {              // an empty text blanks the label
+    std::string density15;        ///< kg/m3 at 15 degC
+    std::string api60;            ///< API at 60 degF
+    std::string vcf;              ///< as shown, so it was used
+    std::string vcfMethod;        ///< "Table 54A, 1980, 15 °C"
+    std::string rangeFlag;        ///< "outside Table 54A"; empty within it
+    std::string grossObserved;    ///< less free water; unit of the volume box
+    std::string grossStandard;    ///< gross observed x VCF; unit of the volume box
+    std::string netStandard;      ///< less sediment and water; all that follows is net
+    std::string standardMethod;   ///< "kL at 15 °C": what the two standard volumes are
+    std::string barrels;          ///< at 60 degF by the KL/Bbl factor, or the standard volume
+    std::string barrelsMethod;    ///< "= kL / 0.15899 (by density 0.1589156)"
+    std::string kilolitres;       ///< at 15 degC by the KL/Bbl factor, or the standard volume
+    std::string kilolitresMethod; ///< "= bbl x 0.15899 (by density 0.1589141)"
+    std::string barrels60;        ///< these four by the density, whatever the factor says
+    std::string barrels15;
+    std::string kilolitres60;
+    std::string kilolitres15;
+    std::string metricTonsInAir; ///< by the weight rule, from kilolitres15
+    std::string longTonsInAir;
+    std::string weightMethod;      ///< "density - 1.1", "Table 56, 0.99875"
+    std::string metricTonsInVacuo; ///< kilolitres15 x density15
+    std::string longTonsInVacuo;
+    std::string notice; ///< what makes no sense, in words; empty when all is well
+};
+
+/// All figures of the cargo.
+///
+/// A figure is blank when one that it needs is missing (an empty volume, temperature or density is
+/// not taken as 0) or makes no sense; the latter stands in the notice. Tons never depend on the
+/// KL/Bbl factor: barrels at 60 degF times density at 15 degC would be 0.05 % wrong.
+/// @throws NavFunc113::ArithmeticError when volumes or temperatures are beyond all numbers
+CrudeResult CalculateCrude(const CrudeInput& input);
+
+/// The KL/Bbl factor that belongs to the density, seven decimals; empty when there is no density.
+std::string KLPerBarrelFromDensity(const CrudeInput& input);
+
+} // namespace korvel

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmPositionRecord/FixTime.h"
+
+#include "app/Format.h"
+#include "app/reading.h"
+#include "navlib/datetime.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::CivilDate;
+
+/// A typed time of fix in its pieces; what was not typed is absent.
+struct Pieces {
+    std::optional<int> year, month, day;
+    int seconds = 0; ///< since midnight
+    std::string fault;
+};
+
+/// A number of at most four digits and nothing else; nothing for anything else.
+std::optional<int> wholeNumber(std::string_view text)
+{
+    if (text.empty() || text.size() > 4) return std::nullopt;
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool all = error == std::errc() && end == text.data() + text.size() && value >= 0;
+    return all && text.front() != '-' ? std::optional(value) : std::nullopt;
+}
+
+/// Cuts the text before the first of the marks off.
+std::string_view takeUntil(std::string_view& text, char mark)
+{
+    const std::size_t at = std::min(text.find(mark), text.size());
+    const std::string_view head = text.substr(0, at);
+    text.remove_prefix(std::min(at + 1, text.size()));
+    return head;
+}
+
+void readClock(std::string_view text, Pieces& pieces)
+{
+    const std::string typed(text);
+    std::optional<int> hour, minute, second = 0;
+    if (text.find(':') == std::string_view::npos) {
+        if (text.size() == 3 || text.size() == 4) {
+            hour = wholeNumber(text.substr(0, text.size() - 2));
+            minute = wholeNumber(text.substr(text.size() - 2));
+        }
+    } else {
+        hour = wholeNumber(takeUntil(text, ':'));
+        const bool withSeconds = text.find(':') != std::string_view::npos;
+        minute = wholeNumber(takeUntil(text, ':'));
+        if (withSeconds) second = wholeNumber(text);
+    }
+    if (!hour || !minute || !second)
+        pieces.fault = "\"" + typed + "\" is no time; type 0930 or 09:30";
+    else if (*hour > 23)
+        pieces.fault = typed + ": hours go from 00 to 23";
+    else if (*minute > 59)
+        pieces.fault = typed + ": minutes go from 00 to 59";
+    else if (*second > 59)
+        pieces.fault = typed + ": seconds go from 00 to 59";
+    else
+        pieces.seconds = *hour * 3600 + *minute * 60 + *second;
+}
+
+void readDate(std::string_view text, Pieces& pieces)
+{
+    const std::string typed(text);
+    const auto marks = std::ranges::count(text, '/');
+    if (marks == 2) {
+        const auto date = readDateTime(text);
+        if (!date) {
+            pieces.fault = typed + " is no date";
+            return;
+        }
+        const CivilDate civil = NavFunc113::DateOf(*date);
+        // A slip of the finger; and a few hours of TD must not lead out of the calendar.
+        if (civil.year < 1900 || civil.year > 2199)
+            pieces.fault = typed + ": years from 1900 to 2199";
+        pieces.year = civil.year;
+        pieces.month = civil.month;
+        pieces.day = civil.day;
+        return;
+    }
+    if (marks == 1) pieces.month = wholeNumber(takeUntil(text, '/'));
+    pieces.day = wholeNumber(text);
+    // 2000 is a leap year: 2/29 is a date of some year.
+    if (!pieces.day || marks > 1 || (marks == 1 && !pieces.month) ||
+        !NavFunc113::IsCivilDate({2000, pieces.month.value_or(1), *pieces.day}))
+        pieces.fault = typed + (marks == 0 ? " is no day of a month" : " is no date");
+}
+
+Pieces piecesOf(std::string_view typed)
+{
+    const std::string ascii = asciiForms(typed);
+    std::string_view text = ascii;
+    const auto isBlank = [](char c) { return c == ' ' || c == '\t'; };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+
+    Pieces pieces;
+    const std::size_t parting = text.find_last_of(" -\t");
+    if (parting == std::string_view::npos && text.find('/') != std::string_view::npos) {
+        pieces.fault = std::string(text) + ": the time is missing";
+        return pieces;
+    }
+    if (parting == std::string_view::npos) {
+        readClock(text, pieces);
+        return pieces;
+    }
+    std::string_view date = text.substr(0, parting);
+    while (!date.empty() && (isBlank(date.back()) || date.back() == '-'))
+        date.remove_suffix(1);
+    readDate(date, pieces);
+    if (pieces.fault.empty()) readClock(text.substr(parting + 1), pieces);
+    return pieces;
+}
+
+/// The most recent day of the pieces that are there, no more than a day after today.
+std::optional<long> dayOf(const Pieces& pieces, long today)
+{
+    if (pieces.year) return NavFunc113::DaySerial({*pieces.year, *pieces.month, *pieces.day});
+    if (!pieces.day) return today;
+    constexpr long eightYears = 2922; // the longest wait for a 29th of February
+    for (long day = today + 1; day >= today - eightYears; --day) {
+        const CivilDate date = NavFunc113::DateOfSerial(day);
+        if (date.day == *pieces.day && date.month == pieces.month.value_or(date.month)) return day;
+    }
+    return std::nullopt;
+}
+
+bool isEmpty(std::string_view text)
+{
+    return text.find_first_not_of(" \t") == std::string_view::npos;
+}
+
+} // namespace
+
+NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime today)
+{
+    const std::string asTyped(typed);
+    if (isEmpty(typed)) return {asTyped, {}};
+    const Pieces pieces = piecesOf(typed);
+    if (!pieces.fault.empty()) return {asTyped, pieces.fault};
+    const auto day = dayOf(pieces, NavFunc113::DaySerial(NavFunc113::DateOf(today)));
+    if (!day) return {asTyped, asTyped + " is no date of the last years"};
+    const double value = NavFunc113::MakeDateTime(NavFunc113::DateOfSerial(*day), pieces.seconds);
+    return {Format(value, pieces.seconds % 60 == 0 ? "yyyy/mm/dd hh:mm" : "yyyy/mm/dd hh:mm:ss"),
+            {}};
+}
+
+std::optional<NavFunc113::DateTime> readFixTime(std::string_view text)
+{
+    if (isEmpty(text)) return std::nullopt;
+    const Pieces pieces = piecesOf(text);
+    if (!pieces.fault.empty() || !pieces.year) return std::nullopt;
+    return NavFunc113::MakeDateTime({*pieces.year, *pieces.month, *pieces.day}, pieces.seconds);
+}
+
+std::string faultOfFixTime(std::string_view text)
+{
+    if (isEmpty(text)) return {};
+    const Pieces pieces = piecesOf(text);
+    if (!pieces.fault.empty()) return pieces.fault;
+    return pieces.year ? std::string() : std::string(text) + ": the date is missing";
+}
+
+} // namespace korvel

@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmPositionRecord/PositionRecord.h"
+
+#include "app/Format.h"
+#include "app/position_text.h"
+#include "app/reading.h"
+#include "forms/frmPositionRecord/FixTime.h"
+#include "navlib/angles.h"
+#include "navlib/datetime.h"
+#include "navlib/sailing.h"
+
+#include <cmath>
+#include <optional>
+#include <vector>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::ArithmeticError;
+using NavFunc113::DateTime;
+using NavFunc113::DegMin;
+
+constexpr const char* distanceFormat = "0.'0";
+constexpr const char* hoursFormat = "0.0#";
+constexpr const char* speedFormat = "0.00";
+
+struct Fix {
+    std::size_t row;
+    DateTime smt;
+    DateTime utc;
+    DegMin latitude;
+    DegMin longitude;
+};
+
+struct Leg {
+    double course;
+    double distance;
+    double hours;
+};
+
+void say(std::string& text, const std::string& sentence)
+{
+    if (!text.empty()) text += "; ";
+    text += sentence;
+}
+
+/// Degrees of a course; 359.96 is 000.0, there is no course 360.
+std::string courseText(double course, const char* format)
+{
+    const std::string text = Format(course, format);
+    return text == Format(360, format) ? Format(0, format) : text;
+}
+
+/// The number in a box. Empty and half-typed boxes give nothing and no word.
+std::optional<double> numberIn(const std::string& box, const char* name, std::string& remark)
+{
+    const auto value = readLeadingNumber(box);
+    if (value && !isNumeric(box))
+        say(remark, std::string(name) + " was read as " + Format(*value, "0.######"));
+    else if (!value && box.find_first_not_of(" \t+-.") != std::string::npos)
+        say(remark, std::string(name) + " is no number");
+    return value;
+}
+
+std::optional<DegMin> angleIn(const std::string& box, const char* name, double limit,
+                              std::string& remark)
+{
+    const auto value = numberIn(box, name, remark);
+    if (!value) return std::nullopt;
+    const double minutes = (std::fabs(*value) - std::trunc(std::fabs(*value))) * 100;
+    if (std::fabs(*value) > limit) {
+        say(remark, std::string(name) + " goes to " + Format(limit, "0"));
+        return std::nullopt;
+    }
+    if (minutes > 60 - 1e-7) { // the last bits of 35.6 may fall short of 60 minutes
+        say(remark, std::string(name) + ": minutes of " + Format(minutes, "0.####"));
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::optional<double> timeDifferenceIn(const std::string& box, std::string& remark)
+{
+    const auto value = numberIn(box, "TD", remark);
+    if (!value || std::fabs(*value) <= 12) return value;
+    std::string sentence = "TD goes from -12 to 12";
+    // Clocks of +13 show the same time of day as those of -11, a day later.
+    if (std::fabs(*value) <= 15)
+        sentence += *value > 0
+                        ? "; take " + Format(*value - 24, "0.0#") + " and the date a day earlier"
+                        : "; take " + Format(*value + 24, "0.0#") + " and the date a day later";
+    say(remark, sentence);
+    return std::nullopt;
+}
+
+/// Reads a row, writes its UTC and remarks. @return the fix when the row is complete
+std::optional<Fix> fixOf(const PositionRow& row, std::size_t index, PositionRowResult& result)
+{
+    const auto smt = readFixTime(row.satelliteSMT);
+    if (!smt) result.remark = faultOfFixTime(row.satelliteSMT);
+    const auto td = timeDifferenceIn(row.satelliteTD, result.remark);
+    const auto latitude = angleIn(row.latitude, "latitude", 90, result.remark);
+    const auto longitude = angleIn(row.longitude, "longitude", 180, result.remark);
+    if (!smt || !td) return std::nullopt;
+    const DateTime utc = NavFunc113::NearestSecond(*smt - *td / 24);
+    result.utc = Format(utc, "yyyy/mm/dd hh:mm");
+    if (!latitude || !longitude) return std::nullopt;
+    return Fix{index, *smt, utc, *latitude, *longitude};
+}
+
+Leg legBetween(const Fix& from, const Fix& to, int spheroid)
+{
+    return {NavFunc113::RhumbCourse(from.latitude, from.longitude, to.latitude, to.longitude),
+            NavFunc113::RhumbDistance(from.latitude, from.longitude, to.latitude, to.longitude,
+                                      spheroid),
+            (to.utc - from.utc) * 24};
+}
+
+void showLeg(const Leg& leg, PositionRowResult& row)
+{
+    row.course = courseText(leg.course, "<000.0>");
+    row.distance = Format(leg.distance, distanceFormat);
+    row.hours = Format(leg.hours, hoursFormat);
+    if (leg.hours > 0) row.speed = Format(leg.distance / leg.hours, speedFormat);
+}
+
+/// Sums of consecutive legs. Once a leg is missing or runs against time, nothing adds up any more.
+class Run
+{
+public:
+    void add(const std::optional<Leg>& leg)
+    {
+        m_valid = m_valid && leg && leg->hours >= 0;
+        if (!m_valid) return;
+        m_distance += leg->distance;
+        m_hours += leg->hours;
+    }
+    bool isValid() const { return m_valid && m_hours > 0; }
+    double distance() const { return m_distance; }
+    double hours() const { return m_hours; }
+
+private:
+    bool m_valid = true;
+    double m_distance = 0;
+    double m_hours = 0;
+};
+
+bool isNoon(DateTime smt)
+{
+    const NavFunc113::TimeOfDay time = NavFunc113::TimeOf(smt);
+    return time.hour == 12 && time.minute == 0;
+}
+
+/// Totals over all fixes, and at every noon the run since the noon before.
+/// @param legs legs[i] leads from fixes[i] to fixes[i + 1]
+void showRuns(const std::vector<Fix>& fixes, const std::vector<std::optional<Leg>>& legs,
+              PositionRecordResult& result)
+{
+    Run total;
+    std::optional<Run> sinceNoon;
+    for (std::size_t i = 0; i < fixes.size(); ++i) {
+        if (i > 0) {
+            total.add(legs[i - 1]);
+            if (sinceNoon) sinceNoon->add(legs[i - 1]);
+        }
+        if (!isNoon(fixes[i].smt)) continue;
+        if (sinceNoon && sinceNoon->isValid()) {
+            result.dayRun = Format(sinceNoon->distance(), distanceFormat) + " in " +
+                            Format(sinceNoon->hours(), hoursFormat) + " h";
+            result.rows[fixes[i].row].dayRun = result.dayRun;
+        }
+        sinceNoon.emplace();
+    }
+    if (!total.isValid()) return;
+    result.totalDistance = Format(total.distance(), distanceFormat);
+    result.totalHours = Format(total.hours(), hoursFormat);
+    result.averageSpeed = Format(total.distance() / total.hours(), speedFormat);
+}
+
+/// The current between the last two fixes: from where the ship should have been by course and
+/// speed steered to where she was.
+void showSetAndDrift(const PositionRecordInput& input, const Fix& from, const Fix& to,
+                     PositionRecordResult& result)
+{
+    const auto course = numberIn(input.courseSteered, "course steered", result.notice);
+    const auto speed = numberIn(input.speedSteered, "speed steered", result.notice);
+    if (!course || !speed) return;
+    if (*course < 0 || *course > 360)
+        return say(result.notice, "course steered goes from 0 to 360");
+    if (*speed < 0 || *speed > 999) return say(result.notice, "speed steered goes from 0 to 999");
+    const double hours = (to.utc - from.utc) * 24;
+    if (!(hours > 0)) return;
+    try {
+        const double run = *speed * hours;
+        const DegMin latitude = NavFunc113::DRLatitude(from.latitude, *course, run, input.spheroid);
+        const DegMin longitude =
+            NavFunc113::DRLongitude(from.latitude, from.longitude, *course, run, input.spheroid);
+        const Fix reckoned{from.row, from.smt, from.utc, latitude, longitude};
+        const Leg current = legBetween(reckoned, to, input.spheroid);
+        result.drift = Format(current.distance, distanceFormat) + " = " +
+                       Format(current.distance / hours, "0.00") + " kn";
+        if (current.distance >= 0.05) result.set = courseText(current.course, "000");
+    } catch (const ArithmeticError&) {
+        say(result.notice, "course and speed steered lead across a pole");
+    }
+}
+
+/// Remarks of all rows in one line, the rows counted from 1.
+void gatherRemarks(PositionRecordResult& result)
+{
+    for (std::size_t i = 0; i < result.rows.size(); ++i)
+        if (!result.rows[i].remark.empty())
+            say(result.notice,
+                "row " + Format(static_cast<double>(i + 1), "0") + ": " + result.rows[i].remark);
+}
+
+std::string angleForCopy(const std::string& box, Axis axis)
+{
+    return isNumeric(box) ? positionForCopy(readNumber(box), axis) : box;
+}
+
+std::string timeDifferenceForCopy(const std::string& box)
+{
+    return isNumeric(box) ? Format(readNumber(box), "+0.0#;-0.0#") : box;
+}
+
+} // namespace
+
+PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input)
+{
+    PositionRecordResult result;
+    std::vector<Fix> fixes;
+    for (std::size_t i = 0; i < input.rows.size(); ++i)
+        if (const auto fix = fixOf(input.rows[i], i, result.rows[i])) fixes.push_back(*fix);
+
+    std::vector<std::optional<Leg>> legs;
+    for (std::size_t i = 1; i < fixes.size(); ++i) {
+        PositionRowResult& next = result.rows[fixes[i].row];
+        try {
+            legs.emplace_back(legBetween(fixes[i - 1], fixes[i], input.spheroid));
+            showLeg(*legs.back(), result.rows[fixes[i - 1].row]);
+        } catch (const ArithmeticError&) {
+            legs.emplace_back(std::nullopt);
+            say(next.remark, "no rhumb line leads here");
+        }
+        next.outOfOrder = fixes[i].utc < fixes[i - 1].utc;
+        if (next.outOfOrder)
+            say(next.remark,
+                "earlier than row " + Format(static_cast<double>(fixes[i - 1].row + 1), "0"));
+    }
+    showRuns(fixes, legs, result);
+    gatherRemarks(result);
+    if (fixes.size() >= 2) showSetAndDrift(input, fixes[fixes.size() - 2], fixes.back(), result);
+    return result;
+}
+
+std::string positionRecordText(const PositionRecordInput& input, const PositionRecordResult& result)
+{
+    std::string text = "No.\tSMT\tTD (east +)\tUTC\tLatitude\tLongitude\tCourse to next\t"
+                       "Distance\tHours\tSpeed\tDay's run\tRemark\n";
+    for (std::size_t i = 0; i < input.rows.size(); ++i) {
+        const PositionRow& row = input.rows[i];
+        const PositionRowResult& shown = result.rows[i];
+        if (row.isEmpty()) continue;
+        text += Format(static_cast<double>(i + 1), "0") + "\t" + row.satelliteSMT + "\t" +
+                timeDifferenceForCopy(row.satelliteTD) + "\t" + shown.utc + "\t" +
+                angleForCopy(row.latitude, Axis::Latitude) + "\t" +
+                angleForCopy(row.longitude, Axis::Longitude) + "\t" + shown.course + "\t" +
+                shown.distance + "\t" + shown.hours + "\t" + shown.speed + "\t" + shown.dayRun +
+                "\t" + shown.remark + "\n";
+    }
+    if (!result.totalDistance.empty())
+        text += "Total\t\t\t\t\t\t\t" + result.totalDistance + "\t" + result.totalHours + "\t" +
+                result.averageSpeed + "\n";
+    if (!result.drift.empty()) text += "Set and drift\t" + result.set + "\t" + result.drift + "\n";
+    return text;
+}
+
+} // namespace korvel

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+/// The 29 rows of the position record, as typed.
+namespace korvel
+{
+
+struct PositionRow {
+    std::string satelliteSMT; ///< txtSatelliteSMT: ship's mean time of the fix
+    std::string satelliteTD;  ///< txtSatelliteTD: hours, east positive
+    std::string latitude;     ///< txtLat
+    std::string longitude;    ///< txtLong
+
+    bool isEmpty() const;
+    bool operator==(const PositionRow&) const = default;
+};
+
+inline constexpr std::size_t positionRowCount = 29;
+using PositionRows = std::array<PositionRow, positionRowCount>;
+
+/// Opens an empty row at the index and moves those below down by one.
+/// @return false, and nothing is changed, when the last row is in use: it would be lost
+bool insertRow(PositionRows& rows, std::size_t at);
+
+/// Takes a row out; those below move up and the last one is empty.
+void deleteRow(PositionRows& rows, std::size_t at);
+
+/// Empties a row where it stands.
+void clearRow(PositionRows& rows, std::size_t at);
+
+} // namespace korvel

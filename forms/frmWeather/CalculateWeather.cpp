@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmWeather/CalculateWeather.h"
+
+#include "app/Format.h"
+#include "app/reading.h"
+#include "navlib/weather_terms.h"
+
+namespace korvel
+{
+namespace
+{
+
+constexpr double kilometresPerMile = 1.852;
+
+std::string codeAndName(int code, std::string_view name)
+{
+    return Format(code, "0") + "-" + std::string(name);
+}
+
+} // namespace
+
+std::string CalculateSeaState(std::string_view txtWave)
+{
+    const double height = readNumber(txtWave);
+    return codeAndName(NavFunc113::SeaStateCode(height), NavFunc113::SeaStateName(height));
+}
+
+std::string CalculateSwell(std::string_view txtSWELL)
+{
+    return std::string(NavFunc113::SwellTerm(readNumber(txtSWELL)));
+}
+
+VisibilityResult CalculateVisibility(std::string_view txtVISIBILITY)
+{
+    const double kilometres = readNumber(txtVISIBILITY);
+    const std::string miles = Format(kilometres / kilometresPerMile, "0.#");
+    return {
+        codeAndName(NavFunc113::VisibilityCode(kilometres), NavFunc113::VisibilityName(kilometres)),
+        miles.empty() ? miles : miles + " nm"};
+}
+
+std::string CalculateWeatherTerm(std::size_t optWr)
+{
+    const auto letters = NavFunc113::WeatherLetters();
+    if (optWr >= letters.size()) return {};
+    const std::string letter(letters[optWr].letter);
+    return letter + " " + std::string(NavFunc113::WeatherName("E", letter)) + " " +
+           std::string(NavFunc113::WeatherName("J", letter));
+}
+
+} // namespace korvel

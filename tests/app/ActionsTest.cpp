@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "app/KORVEL2000Actions.h"
+
+#include "tests/app/FakeMachine.h"
+
+namespace korvel
+{
+namespace
+{
+
+using korvel::testing::FakeFiles;
+using korvel::testing::FakeQuestions;
+using ::testing::ElementsAre;
+
+class ActionsTest : public ::testing::Test
+{
+protected:
+    KV_Savedvalue saved;
+    FakeFiles files;
+    FakeQuestions questions;
+    SettingsFile settings{files, questions, "KV_KORVEL.ini",
+                          std::vector<Kind>(KV_Savedvalue::count, Kind::Any)};
+    int redrawn = 0;
+    int ended = 0;
+    KORVEL2000Actions actions{
+        saved, questions, settings, {[this] { ++redrawn; }, [this] { ++ended; }}};
+};
+
+TEST_F(ActionsTest, aPositionIsStoredInTwoHalves)
+{
+    actions.StoreInMemo(1, "35.305");
+    EXPECT_EQ(redrawn, 1);
+    EXPECT_TRUE(questions.asked.empty()) << "a latitude is taken silently";
+    questions.willAnswer(Answer::No);
+    actions.StoreInMemo(2, "-139.4523");
+    EXPECT_EQ(questions.asked.back(), "PsnMemo  l:35.-30'5 L:-139.-45'2");
+    EXPECT_EQ(redrawn, 1) << "No neither stores nor redraws";
+    EXPECT_EQ(saved.memoLatitude(), 0);
+
+    questions.willAnswer(Answer::Yes);
+    actions.StoreInMemo(2, "-139.4523");
+    EXPECT_EQ(saved.memoLatitude(), 35.305);
+    EXPECT_EQ(saved.memoLongitude(), -139.4523);
+    EXPECT_EQ(actions.memoLine(), "Position Memo  LATITUDE: 35.-30'5N, LONGITUDE: 139.-45'2W\n"
+                                  "Single Memo:   0.0");
+}
+
+TEST_F(ActionsTest, refusals)
+{
+    const struct {
+        int kind;
+        const char* value;
+        const char* text;
+        const char* title;
+    } rows[] = {
+        {1, "90.001", "Lat    ｢ 90.001｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {2, "-180.5", "Long   ｢ -180.5｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {3, "-2", "KV_Savedvalue(25)   ｢ -2｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {1, "0", "   ｢ 0｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
+        {3, "abc", "   ｢ abc｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
+        {2, "12x", "   ｢ 12x｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
+        {3, "", "   ｢ ｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
+    };
+    for (const auto& [kind, value, text, title] : rows) {
+        questions.willAnswer(Answer::Ok);
+        actions.StoreInMemo(kind, value);
+        EXPECT_EQ(questions.asked.back(), text);
+        EXPECT_EQ(questions.titles.back(), title);
+    }
+    EXPECT_EQ(redrawn, static_cast<int>(std::size(rows)));
+    EXPECT_EQ(saved.singleMemo(), 0);
+}
+
+TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
+{
+    actions.StoreInMemo(1, "12");
+    questions.willAnswer(Answer::Ok);
+    actions.storePosition("95", "20");
+    EXPECT_EQ(questions.asked.size(), 1u) << "the longitude is not asked for";
+    EXPECT_EQ(saved.memoLongitude(), 0);
+    questions.willAnswer(Answer::Yes);
+    actions.storePosition("90", "180");
+    EXPECT_EQ(saved.memoLatitude(), 90);
+    EXPECT_EQ(saved.memoLongitude(), 180);
+}
+
+TEST_F(ActionsTest, singleMemoAndRecall)
+{
+    questions.willAnswer(Answer::Yes);
+    actions.StoreInMemo(3, "0.0004");
+    EXPECT_EQ(questions.asked.back(), "SingleMemo:0.0");
+    EXPECT_EQ(saved.singleMemo(), 0.0004);
+
+    saved(25) = 12.5;
+    saved(23) = -5.3;
+    saved(24) = 139.4523;
+    questions.willAnswer(Answer::Yes);
+    EXPECT_EQ(actions.ConfirmMemoRecall("SinM"), "Yes");
+    questions.willAnswer(Answer::No);
+    EXPECT_EQ(actions.ConfirmMemoRecall("PsnM"), "No");
+    EXPECT_EQ(questions.asked[1], "Following value is stored in SINGLE MEMO now.\r\r    12.50\r\r"
+                                  "Are you sure to input this value?");
+    EXPECT_EQ(questions.asked[2],
+              "Following values are stored in POSITION MEMO now.\r\r    Lat=   05.30'0S\r"
+              "    Long= 139.45'2E\r\rAre you sure to input these value?");
+    EXPECT_EQ(questions.titles[2], "Brinemark");
+    EXPECT_EQ(memoText(139.4523), "139.4523");
+    EXPECT_EQ(memoText(-0.1 - 0.2), "-0.3") << "no digits that nobody measured";
+}
+
+TEST_F(ActionsTest, exitSavesOnlyWhenConfirmed)
+{
+    saved.setTD(-9.5f);
+    questions.willAnswer(Answer::No);
+    EXPECT_EQ(actions.ExitApplication(), 1);
+    EXPECT_TRUE(files.files.empty());
+    EXPECT_EQ(questions.asked.back(), "Application：KORVEL2000\r\r          Are you sure to exit?");
+    questions.willAnswer(Answer::Yes);
+    EXPECT_EQ(actions.ExitApplication(), 0);
+    EXPECT_EQ(ended, 1);
+    EXPECT_TRUE(files.files["KV_KORVEL.ini"].ends_with("\r\n-9.5\r\n"));
+}
+
+} // namespace
+} // namespace korvel

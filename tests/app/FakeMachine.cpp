@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "tests/app/FakeMachine.h"
+
+#include <stdexcept>
+
+namespace korvel::testing
+{
+
+FakeQuestions::~FakeQuestions()
+{
+    EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " prepared answers were never asked for";
+    EXPECT_TRUE(m_typed.empty()) << m_typed.size() << " prepared inputs were never asked for";
+}
+
+void FakeQuestions::willAnswer(Answer answer, std::function<void()> run)
+{
+    m_answers.push_back({answer, std::move(run)});
+}
+
+void FakeQuestions::willType(const std::string& answer)
+{
+    m_typed.push_back(answer);
+}
+
+Answer FakeQuestions::ask(const Message& message)
+{
+    asked.push_back(message.text);
+    titles.push_back(message.title);
+    if (m_answers.empty()) {
+        ADD_FAILURE() << "unexpected message: " << message.text;
+        return message.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+    }
+    const Prepared prepared = std::move(m_answers.front());
+    m_answers.pop_front();
+    if (prepared.run) prepared.run();
+    return prepared.answer;
+}
+
+std::string FakeQuestions::input(const std::string& prompt, const std::string&,
+                                 const std::string& defaultAnswer)
+{
+    prompts.push_back(prompt);
+    offered.push_back(defaultAnswer);
+    if (m_typed.empty()) {
+        // The caller repeats the question until it is satisfied: only an exception ends that.
+        throw std::runtime_error("unexpected input box: " + prompt);
+    }
+    std::string answer = std::move(m_typed.front());
+    m_typed.pop_front();
+    return answer == acceptDefault ? defaultAnswer : answer;
+}
+
+std::optional<std::string> FakeClock::set(NavFunc113::DateTime value)
+{
+    if (refusal) return refusal;
+    sets.push_back(value);
+    time = value;
+    return std::nullopt;
+}
+
+FileStore::Content FakeFiles::read(const std::string& name)
+{
+    const auto found = files.find(name);
+    if (found == files.end()) return {};
+    return {Content::Status::Read, found->second, {}};
+}
+
+std::optional<std::string> FakeFiles::save(const std::string& name, const std::string& bytes)
+{
+    if (refusal) return refusal;
+    files[name] = bytes;
+    ++saves;
+    return std::nullopt;
+}
+
+} // namespace korvel::testing

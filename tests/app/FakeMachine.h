@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/ComputerClock.h"
+#include "app/FileStore.h"
+#include "app/Questions.h"
+
+#include <gmock/gmock.h>
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+/// A machine of fakes: what the program asks of it is answered by the test.
+namespace korvel::testing
+{
+
+/// Answers that a test has prepared. A question that nobody expects fails the test.
+class FakeQuestions : public Questions
+{
+public:
+    ~FakeQuestions() override;
+
+    Answer ask(const Message& message) override;
+    std::string input(const std::string& prompt, const std::string& title,
+                      const std::string& defaultAnswer) override;
+    void beep() override { ++beeps; }
+
+    /// Answers the next message box, in order. @param run happens while the box is open
+    void willAnswer(Answer answer, std::function<void()> run = {});
+    /// Answers the next input box. An answer of acceptDefault takes what is offered.
+    void willType(const std::string& answer);
+    static constexpr const char* acceptDefault = "\x01";
+
+    std::vector<std::string> asked;  ///< texts of the message boxes, in order
+    std::vector<std::string> titles; ///< their titles
+    std::vector<std::string> prompts;
+    std::vector<std::string> offered; ///< default answers of the input boxes
+    int beeps = 0;
+
+private:
+    struct Prepared {
+        Answer answer;
+        std::function<void()> run;
+    };
+    std::deque<Prepared> m_answers;
+    std::deque<std::string> m_typed;
+};
+
+/// A clock that shows what the test wants and can be set without touching the machine's.
+class FakeClock : public ComputerClock
+{
+public:
+    NavFunc113::DateTime now() const override { return time; }
+    std::optional<std::string> set(NavFunc113::DateTime value) override;
+
+    NavFunc113::DateTime time = 38425.40625; ///< 2005-03-14 09:45
+    std::optional<std::string> refusal;      ///< reason for which the clock cannot be set
+    std::vector<NavFunc113::DateTime> sets;
+};
+
+/// Files in memory.
+class FakeFiles : public FileStore
+{
+public:
+    Content read(const std::string& name) override;
+    std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
+    std::string path(const std::string& name) const override { return "folder/" + name; }
+
+    std::map<std::string, std::string> files;
+    std::optional<std::string> refusal; ///< reason for which nothing can be saved
+    int saves = 0;
+};
+
+} // namespace korvel::testing

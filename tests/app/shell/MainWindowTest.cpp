@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/CalculatorWindow.h"
+#include "app/shell/MessageQuestions.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QSignalSpy>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+/// A calculator of one box, to be opened from the menu.
+class frmProbe : public CalculatorWindow
+{
+public:
+    explicit frmProbe(Program& program) : CalculatorWindow(program, "frmCDDR", "Probe")
+    {
+        EntryBox* box = addTextBox("txtProbe", "Probe");
+        useTextSettings("KV_Probe.ini", {box});
+        loadSettings();
+    }
+};
+
+class MainWindowTest : public ::testing::Test
+{
+protected:
+    std::unique_ptr<frmKORVEL2000> start()
+    {
+        auto window = std::make_unique<frmKORVEL2000>(
+            Machine{questions, clock, files},
+            std::vector<WindowFactory>{
+                {"frmCDDR", [](Program& program) { return new frmProbe(program); }}});
+        questions.willType(FakeQuestions::acceptDefault);
+        window->start();
+        return window;
+    }
+
+    QTemporaryDir folder;
+    FakeQuestions questions;
+    FakeClock clock;
+    ProgramFolder files{folder.path()};
+};
+
+TEST_F(MainWindowTest, startsWithClocksMemosAndUnit)
+{
+    const auto window = start();
+    EXPECT_EQ(window->windowTitle(), "KORVEL (9.0 hE)");
+    EXPECT_THAT(text(*window, "lblTime"), HasSubstr("SMT 14-0945"));
+    EXPECT_THAT(text(*window, "lblTime"), HasSubstr("UTC 14-0045"));
+    EXPECT_EQ(text(*window, "lblMEMO"), "Position Memo  LATITUDE: 00.-00'0N, LONGITUDE: "
+                                        "000.-00'0E\nSingle Memo:   0.0");
+    EXPECT_EQ(text(*window, "lbl1NM"), "1nm=1' (of LATITUDE)");
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(isTicked(*window, "mnuSystemClock(0)"));
+    EXPECT_FALSE(window->findChild<QAction*>("mnuTide")->isEnabled())
+        << "a window that is not built is greyed out";
+}
+
+TEST_F(MainWindowTest, theClockZoneIsOneOfThree)
+{
+    const auto window = start();
+    choose(*window, "mnuSystemClock(2)");
+    EXPECT_FALSE(isTicked(*window, "mnuSystemClock(0)"));
+    EXPECT_TRUE(isTicked(*window, "mnuSystemClock(2)"));
+    EXPECT_THAT(text(*window, "lblTime"), HasSubstr("SMT 14-1845"));
+    EXPECT_TRUE(clock.sets.empty()) << "the zone is only how the clock is read";
+    choose(*window, "mnuSystemClock(2)");
+    EXPECT_TRUE(isTicked(*window, "mnuSystemClock(2)")) << "a second choice keeps the tick";
+}
+
+TEST_F(MainWindowTest, distanceUnitAndColoursGoBackAndForth)
+{
+    const auto window = start();
+    QSignalSpy unit(&window->program(), &Program::distanceUnitChanged);
+    choose(*window, "mnuDIST");
+    EXPECT_EQ(text(*window, "lbl1NM"), "1nm=1852m");
+    EXPECT_FALSE(isTicked(*window, "mnuDIST"));
+    EXPECT_EQ(window->program().spheroid(), 1);
+    choose(*window, "mnuDIST");
+    EXPECT_EQ(text(*window, "lbl1NM"), "1nm=1' (of LATITUDE)");
+    EXPECT_EQ(unit.count(), 2);
+
+    const auto clockColour = [&] {
+        return control(*window, "lblTime").palette().color(QPalette::WindowText);
+    };
+    const QColor day = clockColour();
+    choose(*window, "mnuBackColor");
+    EXPECT_TRUE(isTicked(*window, "mnuBackColor"));
+    EXPECT_NE(clockColour(), day);
+    choose(*window, "mnuBackColor");
+    EXPECT_EQ(clockColour(), day);
+}
+
+TEST_F(MainWindowTest, closingAsksAndNoKeepsEverything)
+{
+    const auto window = start();
+    choose(*window, "mnuNAV(1)");
+    EXPECT_TRUE(isTicked(*window, "mnuNAV(1)"));
+    questions.willAnswer(Answer::No);
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList());
+
+    QSignalSpy ended(window.get(), &frmKORVEL2000::ended);
+    questions.willAnswer(Answer::Yes);
+    window->close();
+    EXPECT_EQ(ended.count(), 1);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files, QDir::Name),
+              (QStringList{"KV_KORVEL.ini", "KV_Probe.ini"}));
+}
+
+TEST_F(MainWindowTest, aCalculatorOpensOnceAndUnticksItsEntryWhenItCloses)
+{
+    const auto window = start();
+    choose(*window, "mnuNAV(1)");
+    choose(*window, "mnuNAV(1)");
+    EXPECT_TRUE(isTicked(*window, "mnuNAV(1)"));
+    std::vector<QWidget*> probes;
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (each->objectName() == "frmCDDR") probes.push_back(each);
+    ASSERT_EQ(probes.size(), 1u);
+    probes.front()->close();
+    EXPECT_FALSE(isTicked(*window, "mnuNAV(1)"));
+    EXPECT_TRUE(QFile::exists(folder.filePath("KV_Probe.ini")));
+}
+
+TEST_F(MainWindowTest, everythingIsAsItWasLeft)
+{
+    {
+        const auto window = start();
+        KV_Savedvalue& saved = window->program().saved();
+        saved(23) = 35.305;
+        saved(24) = -139.45;
+        saved(25) = 4500.25;
+        choose(*window, "mnuDIST");
+        choose(*window, "mnuBackColor");
+        choose(*window, "mnuSystemClock(1)");
+        questions.willType("-9.5");
+        choose(*window, "mnuPROPERTY(3)");
+        questions.willAnswer(Answer::Yes);
+        choose(*window, "mnuEND");
+    }
+    const auto window = start();
+    EXPECT_EQ(questions.offered.back(), "-9.5");
+    EXPECT_EQ(window->windowTitle(), "KORVEL (9.5 hW)");
+    EXPECT_EQ(text(*window, "lblMEMO"), "Position Memo  LATITUDE: 35.-30'5N, LONGITUDE: "
+                                        "139.-45'0W\nSingle Memo:   4500.25");
+    EXPECT_EQ(text(*window, "lbl1NM"), "1nm=1852m");
+    EXPECT_TRUE(isTicked(*window, "mnuBackColor"));
+    EXPECT_TRUE(isTicked(*window, "mnuSystemClock(1)"));
+}
+
+TEST_F(MainWindowTest, aDamagedFileIsReportedAndKept)
+{
+    ASSERT_EQ(files.save("KV_KORVEL.ini", "#TRUE#\r\n"), std::nullopt);
+    questions.willAnswer(Answer::Ok);
+    const auto window = start();
+    EXPECT_THAT(questions.asked.back(), HasSubstr("KV_KORVEL.ini"));
+    EXPECT_EQ(window->windowTitle(), "KORVEL (9.0 hE)");
+    questions.willAnswer(Answer::Yes);
+    questions.willAnswer(Answer::No);
+    choose(*window, "mnuEND");
+    EXPECT_EQ(files.read("KV_KORVEL.ini").bytes, "#TRUE#\r\n");
+}
+
+TEST_F(MainWindowTest, ashipsTimeOffsetOutlivesTheRun)
+{
+    clock.refusal = "no right";
+    {
+        const auto window = start();
+        questions.willAnswer(Answer::Yes);
+        questions.willType("05/03/14 10:00");
+        questions.willAnswer(Answer::Ok);
+        questions.willType("9");
+        questions.willAnswer(Answer::Ok);
+        choose(*window, "mnuPROPERTY(1)");
+        EXPECT_THAT(text(*window, "lblOffset"), HasSubstr("900 s ahead"));
+        questions.willAnswer(Answer::Yes);
+        choose(*window, "mnuEND");
+    }
+    const auto window = start();
+    EXPECT_THAT(text(*window, "lblTime"), HasSubstr("SMT 14-1000"));
+    EXPECT_FALSE(control(*window, "lblOffset").isHidden());
+}
+
+} // namespace
+} // namespace korvel
