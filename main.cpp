@@ -35,6 +35,7 @@ int main(int argc, char* argv[])
 
     const auto clock = korvel::makeComputerClock();
     korvel::MessageQuestions questions;
+    korvel::SystemBell bell;
     korvel::ProgramFolder folder(QApplication::applicationDirPath());
 
     korvel::frmKORVELstart startWindow;
@@ -42,7 +43,7 @@ int main(int argc, char* argv[])
     questions.beep();
     QApplication::processEvents();
 
-    korvel::frmKORVEL2000 mainWindow({questions, *clock, folder}, calculatorWindows());
+    korvel::frmKORVEL2000 mainWindow({questions, *clock, folder, bell}, calculatorWindows());
     QObject::connect(&mainWindow, &korvel::frmKORVEL2000::ended, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     mainWindow.start();

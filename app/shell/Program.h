@@ -6,6 +6,7 @@
 #include "app/KV_Savedvalue.h"
 #include "app/Questions.h"
 #include "app/ShipsTime.h"
+#include "app/shell/Bell.h"
 #include "app/shell/ColourScheme.h"
 
 #include <QObject>
@@ -22,6 +23,7 @@ struct Machine {
     Questions& questions;
     ComputerClock& clock;
     FileStore& files;
+    Bell& bell;
 };
 
 /// A calculator window as the main window's menus know it.

@@ -73,10 +73,13 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, std::vector<WindowFactory> 
           m_saved, machine.questions, machine.clock,
           {[this](const std::string& text) { showClock(text); },
            [this](const std::string& text) { setWindowTitle(QString::fromStdString(text)); },
-           [this](NavFunc113::DateTime) { emit m_program.minuteChanged(); }}),
+           [this](NavFunc113::DateTime smt) {
+               m_alarmBoxes.show(m_alarms.check(smt));
+               emit m_program.minuteChanged();
+           }}),
       m_actions(m_saved, machine.questions, m_settings,
                 {[this] { MemoHyoujiAtStart(); }, [this] { endProgram(); }}),
-      m_program(machine, m_saved, m_actions, m_shipsTime)
+      m_program(machine, m_saved, m_actions, m_shipsTime), m_alarmBoxes(machine.bell)
 {
     setObjectName("frmKORVEL2000");
     m_program.openWindow = [this](const QString& name) { openWindow(name); };
@@ -195,16 +198,11 @@ void frmKORVEL2000::buildPropertyMenu()
 {
     QMenu* property = menuBar()->addMenu("&Property");
     property->setObjectName("mnuPROPERTY");
-    addEntry(property, "mnuPROPERTY(1)", "&Ship's time set-up..", [this] {
-        m_shipsTime.setUp();
-        showTicks();
-        emit m_program.TDChanged();
-    });
+    addEntry(property, "mnuPROPERTY(1)", "&Ship's time set-up..", [this] { setUpTime(); });
     property->addSeparator()->setObjectName("mnuPROPERTY(2)");
     addEntry(property, "mnuPROPERTY(3)", "&Time difference..", [this] {
         m_shipsTime.inputTD();
-        m_shipsTime.refresh();
-        emit m_program.TDChanged();
+        timeChanged();
     });
 
     QMenu* zone = property->addMenu("The computer's &clock keeps");
@@ -214,6 +212,7 @@ void frmKORVEL2000::buildPropertyMenu()
         addEntry(zone, memberName("mnuSystemClock", i), zones[i], [this, i] {
             chooseClockZone(static_cast<ClockZone>(i));
         })->setCheckable(true);
+    buildAlarmMenu(property);
     property->addSeparator();
     addEntry(property, "mnuDIST", "1nm=1' of &latitude", [this] {
         chooseDistanceUnit();
@@ -223,8 +222,44 @@ void frmKORVEL2000::buildPropertyMenu()
     })->setCheckable(true);
 }
 
+void frmKORVEL2000::buildAlarmMenu(QMenu* property)
+{
+    QMenu* alarms = property->addMenu("&Alarms");
+    alarms->setObjectName("mnuALARM");
+    for (int n = 1; n <= KV_Savedvalue::alarms; ++n)
+        addEntry(alarms, memberName("mnuALARM", n), {}, [this, n] {
+            setUpAlarm(n, m_saved, m_machine.questions, [this] { showTicks(); });
+            // A choice toggles the tick; after No it must be what it was.
+            showTicks();
+        })->setCheckable(true);
+    addEntry(property, "mnuSIGNAL", "Time s&ignal..", [this] {
+        setUpTimeSignal(m_saved, m_machine.questions);
+        showTicks();
+    })->setCheckable(true);
+}
+
+void frmKORVEL2000::setUpTime()
+{
+    m_shipsTime.setUp();
+    showTicks();
+    timeChanged();
+}
+
+void frmKORVEL2000::timeChanged()
+{
+    m_shipsTime.refresh();
+    m_alarms.clockChanged(m_shipsTime.SMT());
+    emit m_program.TDChanged();
+}
+
 void frmKORVEL2000::showTicks()
 {
+    for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
+        QAction* alarm = m_entries[memberName("mnuALARM", n)];
+        alarm->setText(QString::fromStdString(alarmCaption(n, m_saved)));
+        alarm->setChecked(m_saved.alarmEnabled(n));
+    }
+    m_entries["mnuSIGNAL"]->setChecked(m_saved.timeSignal());
     for (int i = 0; i < 3; ++i)
         m_entries[memberName("mnuSystemClock", i)]->setChecked(tickOf(m_saved(i)));
     m_entries["mnuDIST"]->setChecked(m_saved.unitOfLatitude());
@@ -252,7 +287,7 @@ void frmKORVEL2000::chooseClockZone(ClockZone zone)
 {
     m_saved.setClockZone(zone);
     showTicks();
-    m_shipsTime.refresh();
+    timeChanged();
 }
 
 void frmKORVEL2000::chooseDistanceUnit()

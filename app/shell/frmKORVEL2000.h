@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/alarms.h"
+#include "app/shell/AlarmBoxes.h"
 #include "app/shell/Program.h"
 
 #include <QMainWindow>
@@ -67,6 +69,9 @@ private:
                       std::function<void()> action);
     void MemoHyoujiAtStart();
     void showClock(const std::string& text);
+    void buildAlarmMenu(QMenu* property);
+    void setUpTime();
+    void timeChanged();
     void chooseClockZone(ClockZone zone);
     void chooseDistanceUnit();
     void chooseColours();
@@ -82,6 +87,8 @@ private:
     ShipsTime m_shipsTime;
     KORVEL2000Actions m_actions;
     Program m_program;
+    Alarms m_alarms{m_saved};
+    AlarmBoxes m_alarmBoxes;
 
     QLabel* m_lblTime = nullptr;
     QLabel* m_lblMEMO = nullptr;

@@ -11,7 +11,7 @@
 namespace korvel::testing
 {
 
-WindowTest::WindowTest() : m_main(new frmKORVEL2000({questions, clock, files}, {})) {}
+WindowTest::WindowTest() : m_main(new frmKORVEL2000({questions, clock, files, bell}, {})) {}
 
 WindowTest::~WindowTest()
 {

@@ -17,6 +17,18 @@
 namespace korvel::testing
 {
 
+/// Says whether it rings.
+class FakeBell : public Bell
+{
+public:
+    void start() override { ringing = true; }
+    void stop() override { ringing = false; }
+    void ringOnce() override { ++tones; }
+
+    bool ringing = false;
+    int tones = 0;
+};
+
 /// A program folder of its own, and everything that a window needs of the program.
 class WindowTest : public ::testing::Test
 {
@@ -44,6 +56,7 @@ protected:
     QTemporaryDir folder;
     FakeQuestions questions;
     FakeClock clock;
+    FakeBell bell;
     ProgramFolder files{folder.path()};
 
 private:

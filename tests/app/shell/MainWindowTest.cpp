@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "app/reading.h"
 #include "app/shell/CalculatorWindow.h"
-#include "app/shell/MessageQuestions.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QLabel>
+#include <QMessageBox>
 #include <QSignalSpy>
 
 namespace korvel
@@ -36,7 +37,7 @@ protected:
     std::unique_ptr<frmKORVEL2000> start()
     {
         auto window = std::make_unique<frmKORVEL2000>(
-            Machine{questions, clock, files},
+            Machine{questions, clock, files, bell},
             std::vector<WindowFactory>{
                 {"frmCDDR", [](Program& program) { return new frmProbe(program); }}});
         questions.willType(FakeQuestions::acceptDefault);
@@ -47,6 +48,7 @@ protected:
     QTemporaryDir folder;
     FakeQuestions questions;
     FakeClock clock;
+    FakeBell bell;
     ProgramFolder files{folder.path()};
 };
 
@@ -172,7 +174,58 @@ TEST_F(MainWindowTest, aDamagedFileIsReportedAndKept)
     EXPECT_EQ(files.read("KV_KORVEL.ini").bytes, "#TRUE#\r\n");
 }
 
-TEST_F(MainWindowTest, ashipsTimeOffsetOutlivesTheRun)
+TEST_F(MainWindowTest, anAlarmRingsWhileAnotherQuestionIsOpen)
+{
+    const auto window = start();
+    const auto tickAt = [&](const char* time) {
+        clock.time = readDateTime(time).value();
+        window->tmrClock_Timer();
+    };
+    const auto alarmBox = [] {
+        QMessageBox* found = nullptr;
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (each->objectName() == "alarmBox" && each->isVisible())
+                found = qobject_cast<QMessageBox*>(each);
+        return found;
+    };
+    for (const char* entry : {"mnuALARM(2)", "mnuALARM(3)"}) {
+        questions.willAnswer(Answer::Yes);
+        questions.willType("9:46");
+        questions.willType(std::string("Boat deck ") + entry);
+        questions.willAnswer(Answer::Yes);
+        questions.willAnswer(Answer::Yes);
+        choose(*window, entry);
+    }
+    EXPECT_EQ(window->findChild<QAction*>("mnuALARM(2)")->text(), "Alarm&2: 09:46");
+    EXPECT_TRUE(isTicked(*window, "mnuALARM(2)"));
+
+    questions.willAnswer(Answer::No, [&] { tickAt("2005/3/14 9:46:01"); });
+    choose(*window, "mnuEND");
+    ASSERT_NE(alarmBox(), nullptr);
+    EXPECT_EQ(alarmBox()->text(), "09:46 Boat deck mnuALARM(2)");
+    EXPECT_TRUE(bell.ringing);
+    tickAt("2005/3/14 9:47");
+    EXPECT_THAT(text(*window, "lblTime"), HasSubstr("SMT 14-0947")) << "the clocks go on";
+    alarmBox()->accept();
+    ASSERT_NE(alarmBox(), nullptr) << "the second alarm has waited";
+    EXPECT_EQ(alarmBox()->text(), "09:46 Boat deck mnuALARM(3)");
+    alarmBox()->accept();
+    EXPECT_EQ(alarmBox(), nullptr);
+    EXPECT_FALSE(bell.ringing);
+}
+
+TEST_F(MainWindowTest, aRefusedAlarmSetUpKeepsTheTick)
+{
+    const auto window = start();
+    questions.willAnswer(Answer::No);
+    choose(*window, "mnuALARM(1)");
+    EXPECT_FALSE(isTicked(*window, "mnuALARM(1)"));
+    questions.willAnswer(Answer::No);
+    choose(*window, "mnuSIGNAL");
+    EXPECT_FALSE(isTicked(*window, "mnuSIGNAL"));
+}
+
+TEST_F(MainWindowTest, aShipsTimeOffsetOutlivesTheRun)
 {
     clock.refusal = "no right";
     {
