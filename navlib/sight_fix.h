@@ -107,7 +107,8 @@ struct ErrorEllipse {
 };
 
 /// @param matrix  not singular
-/// @param factor  k that the axes are scaled by; @param scale of the sigmas in the matrix
+/// @param factor  k that the axes, not the sigmas, are scaled by
+/// @param scale   what every sigma in the matrix is multiplied by first
 ErrorEllipse EllipseOf(const NormalMatrix& matrix, double factor, double scale = 1);
 
 /// k of a 95 per cent ellipse when sigma was assumed beforehand: 2.4477.

@@ -36,7 +36,7 @@ struct SightTexts {
 struct TrackTexts {
     std::string latitude;  ///< txtSunDR(0), DegMin, -89 to 89
     std::string longitude; ///< txtSunDR(1), DegMin
-    std::string time;      ///< UTC of that position, date and time; empty: the time of the sight
+    std::string time;      ///< UTC of that position, date and time; empty: that of the (last) sight
     std::string course;    ///< made good, 0 to 360
     std::string speed;     ///< made good, knots
 };

@@ -52,6 +52,16 @@ TEST(RiseSet, publishedTimes)
     }
 }
 
+TEST(RiseSet, hoursOfOneTriangle)
+{
+    // Latitude 45, declination 30, worked apart: the Moon 125.26439 degrees from the meridian, the
+    // Sun 127.09183; an offset of 180 and the zone's own meridian put noon at half the day.
+    EXPECT_NEAR(SunRiseHour(9, 180, 30, 45, 135), 1 + 0.5 - 127.09183 / 360 - 1, 1e-6);
+    EXPECT_NEAR(SunSetHour(9, 180, 30, 45, 135), 1 + 0.5 + 127.09183 / 360 - 1, 1e-6);
+    EXPECT_NEAR(MoonRiseHour(9, 180, 30, 45, 135), 3 + 0.5 - 125.26439 / 360 - 1, 1e-6);
+    EXPECT_NEAR(MoonSetHour(9, 180, 30, 45, 135), 2 + 0.5 + 125.26439 / 360 - 1, 1e-6);
+}
+
 TEST(RiseSet, bodyStandsAtItsAltitudeAtTheEvent)
 {
     const auto altitude = [](BodyPlace body, DateTime utc, DegMin latitude, DegMin longitude) {
