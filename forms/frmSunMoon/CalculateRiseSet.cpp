@@ -39,7 +39,7 @@ std::string localTime(DateTime time)
 
 std::string azimuthText(Degrees azimuth)
 {
-    return "<" + Format(azimuth, "000.0") + ">";
+    return Format(azimuth, "<000.0>");
 }
 
 /// What is said of a row, its place in front.
@@ -85,13 +85,7 @@ public:
         } catch (const ArithmeticError& error) {
             fault = error.what();
         }
-        std::optional<DateTime> refined;
-        try {
-            refined = event.refined(m_date, m_row.TD, m_typedLatitude, m_row.longitude,
-                                    found.value_or(0));
-        } catch (const ArithmeticError&) {
-            // A date beyond the calendar: the search has said so already.
-        }
+        const auto refined = refinedTime(event, found.value_or(0));
         if (!found) return faulty(event, fault, refined);
         return shown(event, *found, refined);
     }
@@ -116,6 +110,15 @@ public:
     }
 
 private:
+    std::optional<DateTime> refinedTime(const EventRoutines& event, DateTime found) const
+    {
+        try {
+            return event.refined(m_date, m_row.TD, m_typedLatitude, m_row.longitude, found);
+        } catch (const ArithmeticError&) {
+            return std::nullopt; // beyond the calendar: the search has said so already
+        }
+    }
+
     RiseSetLabel faulty(const EventRoutines& event, const std::string& fault,
                         std::optional<DateTime> refined)
     {

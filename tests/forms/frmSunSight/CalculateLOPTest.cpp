@@ -40,6 +40,11 @@ TEST(CalculateLOP, worksheetOfAPublishedSight)
     EXPECT_THAT(first.intercept, testing::AnyOf("10'.9 T", "11'.0 T", "11'.1 T"));
     EXPECT_EQ(first.notice, "");
 
+    const SightTexts single = sight("2021/5/29", "20:07:30", "51.066", "1", "2.44");
+    const LOPResult afternoon = CalculateLOP(single, {"32", "-80", "", "", ""});
+    EXPECT_THAT(afternoon.intercept, testing::AllOf(HasSubstr("18'."), HasSubstr(" T")));
+    EXPECT_EQ(afternoon.Zn, "265.6");
+
     const LOPResult second = CalculateLOP(noon2020, track2020);
     EXPECT_EQ(second.DR, "14-.02'5N 052-.41'9W") << "run on from the time of the DR position";
     EXPECT_THAT(second.intercept, testing::EndsWith(" A"));
