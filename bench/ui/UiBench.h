@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/ProgramFolder.h"
+#include "app/shell/frmKORVEL2000.h"
+#include "bench/ui/Keystroke.h"
+
+#include <QTemporaryDir>
+
+#include <stdexcept>
+
+namespace korvel::bench
+{
+
+/// Nobody is there to answer while something is measured.
+class NoQuestions : public Questions
+{
+public:
+    Answer ask(const Message& message) override { throw std::runtime_error(message.text); }
+    std::string input(const std::string&, const std::string&, const std::string& offered) override
+    {
+        return offered;
+    }
+    void beep() override {}
+};
+
+class StoppedClock : public ComputerClock
+{
+public:
+    NavFunc113::DateTime now() const override { return 38425.40625; }
+    std::optional<std::string> set(NavFunc113::DateTime) override { return "not in a bench"; }
+};
+
+class SilentBell : public Bell
+{
+public:
+    void start() override {}
+    void stop() override {}
+    void ringOnce() override {}
+};
+
+/// A program in a folder of its own, for windows to be measured in.
+struct BenchProgram {
+    QTemporaryDir folder;
+    NoQuestions questions;
+    StoppedClock clock;
+    SilentBell bell;
+    ProgramFolder files{folder.path()};
+    frmKORVEL2000 main{{questions, clock, files, bell}, {}};
+
+    Program& program() { return main.program(); }
+};
+
+/// A control of a window by its object name.
+template <typename Control>
+Control& find(QWidget& window, const char* name)
+{
+    auto* found = window.findChild<Control*>(name);
+    if (!found) throw std::runtime_error(name);
+    return *found;
+}
+
+} // namespace korvel::bench

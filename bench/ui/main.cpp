@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "bench/ui/main.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <cstdlib>
+
+namespace korvel::bench
+{
+
+int runUiBench(int argc, char* argv[], const std::vector<std::pair<std::string, Work>>& works)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setStyle("Fusion");
+    QApplication application(argc, argv);
+
+    if (argc == 4 && std::string(argv[1]) == "count") {
+        const long rounds = std::strtol(argv[3], nullptr, 10);
+        for (const auto& [name, work] : works)
+            if (name == argv[2])
+                work([&](const std::function<void()>& round) {
+                    for (long i = 0; i < rounds; ++i)
+                        round();
+                });
+        return 0;
+    }
+    for (const auto& [name, work] : works)
+        benchmark::RegisterBenchmark(name.c_str(), [&work](benchmark::State& state) {
+            work([&](const std::function<void()>& round) {
+                for (auto each : state) {
+                    (void)each;
+                    round();
+                }
+            });
+        });
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
+
+} // namespace korvel::bench
