@@ -8,6 +8,8 @@
 
 #include <QApplication>
 
+#include <memory>
+
 namespace
 {
 
@@ -38,8 +40,8 @@ int main(int argc, char* argv[])
     korvel::SystemBell bell;
     korvel::ProgramFolder folder(QApplication::applicationDirPath());
 
-    korvel::frmKORVELstart startWindow;
-    startWindow.show();
+    auto startWindow = std::make_unique<korvel::frmKORVELstart>();
+    startWindow->show();
     questions.beep();
     QApplication::processEvents();
 
@@ -47,6 +49,6 @@ int main(int argc, char* argv[])
     QObject::connect(&mainWindow, &korvel::frmKORVEL2000::ended, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     mainWindow.start();
-    startWindow.close();
+    startWindow.reset();
     return QApplication::exec();
 }

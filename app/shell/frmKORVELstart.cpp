@@ -54,6 +54,25 @@ void drawSea(QPainter& painter)
     }
 }
 
+/// Draws a line of text as wide as its room allows. The outlines of the one font that the program
+/// loads anyway are scaled: every further font would cost a tenth of the start.
+void drawLine(QPainter& painter, const QFont& font, const QString& text, const QRectF& room,
+              const QColor& colour)
+{
+    QPainterPath outline;
+    outline.addText(0, 0, font, text);
+    const QRectF extent = outline.boundingRect();
+    const double scale =
+        std::min(room.width() / extent.width(), room.height() / QFontMetricsF(font).ascent());
+    painter.save();
+    painter.translate(room.left(), room.bottom());
+    painter.scale(scale, scale);
+    painter.translate(-extent.left(), 0);
+    painter.fillPath(outline, colour);
+    if (room.height() > 30) painter.strokePath(outline, QPen(colour, 0.5));
+    painter.restore();
+}
+
 } // namespace
 
 frmKORVELstart::frmKORVELstart() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
@@ -89,21 +108,10 @@ void frmKORVELstart::paintEvent(QPaintEvent*)
     drawCompassRose(painter, QColor(245, 225, 185), QColor(160, 110, 60));
     painter.restore();
 
-    painter.setPen(QColor(245, 235, 215));
-    QFont title = font();
-    title.setPixelSize(40);
-    title.setBold(true);
-    // Whatever font the machine has, the title keeps inside the picture.
-    const QRectF titleRoom(214, 72, 250, 60);
-    while (QFontMetricsF(title).horizontalAdvance(programTitle) > titleRoom.width())
-        title.setPixelSize(title.pixelSize() - 1);
-    painter.setFont(title);
-    painter.drawText(titleRoom, Qt::AlignLeft | Qt::AlignVCenter, programTitle);
-    QFont line = font();
-    line.setPixelSize(15);
-    painter.setFont(line);
-    painter.drawText(QRectF(216, 128, 250, 50), Qt::AlignLeft | Qt::AlignTop,
-                     "Calculators for the officer\nof the watch");
+    const QColor ivory(245, 235, 215);
+    drawLine(painter, font(), programTitle, QRectF(214, 76, 250, 44), ivory);
+    drawLine(painter, font(), "Calculators for the", QRectF(216, 132, 136, 20), ivory);
+    drawLine(painter, font(), "officer of the watch", QRectF(216, 154, 142, 20), ivory);
 }
 
 } // namespace korvel
