@@ -23,7 +23,10 @@ QString memberName(const QString& array, int index)
     return QString("%1(%2)").arg(array).arg(index);
 }
 
-EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {}
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
+{
+    setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
+}
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {

@@ -54,23 +54,22 @@ void drawSea(QPainter& painter)
     }
 }
 
-/// Draws a line of text as wide as its room allows. The outlines of the one font that the program
-/// loads anyway are scaled: every further font would cost a tenth of the start.
-void drawLine(QPainter& painter, const QFont& font, const QString& text, const QRectF& room,
-              const QColor& colour)
+/// Draws a line of text from a base line on, not scaled: the font that every window uses is there
+/// anyway, and another size of it is all that the title costs the start.
+void drawLine(QPainter& painter, const QPointF& base, const QString& text)
 {
-    QPainterPath outline;
-    outline.addText(0, 0, font, text);
-    const QRectF extent = outline.boundingRect();
-    const double scale =
-        std::min(room.width() / extent.width(), room.height() / QFontMetricsF(font).ascent());
+    const QPointF place = painter.transform().map(base);
     painter.save();
-    painter.translate(room.left(), room.bottom());
-    painter.scale(scale, scale);
-    painter.translate(-extent.left(), 0);
-    painter.fillPath(outline, colour);
-    if (room.height() > 30) painter.strokePath(outline, QPen(colour, 0.5));
+    painter.resetTransform();
+    painter.drawText(place, text);
     painter.restore();
+}
+
+/// The font in the size at which a text has a given width.
+QFont fittedFont(QFont font, const QString& text, double wanted)
+{
+    font.setPointSizeF(font.pointSizeF() * wanted / QFontMetricsF(font).horizontalAdvance(text));
+    return font;
 }
 
 } // namespace
@@ -108,10 +107,11 @@ void frmKORVELstart::paintEvent(QPaintEvent*)
     drawCompassRose(painter, QColor(245, 225, 185), QColor(160, 110, 60));
     painter.restore();
 
-    const QColor ivory(245, 235, 215);
-    drawLine(painter, font(), programTitle, QRectF(214, 76, 250, 44), ivory);
-    drawLine(painter, font(), "Calculators for the", QRectF(216, 132, 136, 20), ivory);
-    drawLine(painter, font(), "officer of the watch", QRectF(216, 154, 142, 20), ivory);
+    painter.setPen(QColor(245, 235, 215));
+    drawLine(painter, {216, 146}, "Calculators for the");
+    drawLine(painter, {216, 168}, "officer of the watch");
+    painter.setFont(fittedFont(font(), programTitle, width() * 0.52));
+    drawLine(painter, {214, 120}, programTitle);
 }
 
 } // namespace korvel
