@@ -4,7 +4,10 @@
 #include "app/shell/ProgramFolder.h"
 #include "app/shell/frmKORVEL2000.h"
 #include "app/shell/frmKORVELstart.h"
+#include "forms/conversion/ConversionWindow.h"
 #include "forms/frmCDDR/frmCDDR.h"
+#include "forms/frmCRUDE/frmCRUDE.h"
+#include "forms/frmWeather/frmWeather.h"
 
 #include <QApplication>
 
@@ -22,7 +25,10 @@ korvel::WindowFactory window(const char* name)
 std::vector<korvel::WindowFactory> calculatorWindows()
 {
     return {
-        window<korvel::frmCDDR>("frmCDDR"),
+        window<korvel::frmCDDR>("frmCDDR"),     window<korvel::frmWeather>("frmWeather"),
+        window<korvel::frmCRUDE>("frmCRUDE"),   window<korvel::frmLength>("frmLength"),
+        window<korvel::frmVolume>("frmVolume"), window<korvel::frmArea>("frmArea"),
+        window<korvel::frmWeight>("frmWeight"), window<korvel::frmPressure>("frmPressure"),
     };
 }
 
