@@ -122,7 +122,10 @@ void CalculatorWindow::showEvent(QShowEvent* event)
         m_fitted = true; // once; afterwards the officer's size holds
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
         const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
-        resize(sizeHint().boundedTo(room));
+        QSize wanted = sizeHint();
+        if (wanted.width() > room.width())
+            wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        resize(wanted.boundedTo(room));
     }
     QMainWindow::showEvent(event);
 }
