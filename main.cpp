@@ -12,6 +12,8 @@
 
 #include <QApplication>
 
+#include <memory>
+
 namespace
 {
 
@@ -52,8 +54,8 @@ int main(int argc, char* argv[])
     korvel::SystemBell bell;
     korvel::ProgramFolder folder(QApplication::applicationDirPath());
 
-    korvel::frmKORVELstart startWindow;
-    startWindow.show();
+    auto startWindow = std::make_unique<korvel::frmKORVELstart>();
+    startWindow->show();
     questions.beep();
     QApplication::processEvents();
 
@@ -61,6 +63,6 @@ int main(int argc, char* argv[])
     QObject::connect(&mainWindow, &korvel::frmKORVEL2000::ended, &application, &QApplication::quit,
                      Qt::QueuedConnection);
     mainWindow.start();
-    startWindow.close();
+    startWindow.reset();
     return QApplication::exec();
 }

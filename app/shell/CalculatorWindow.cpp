@@ -124,7 +124,10 @@ void CalculatorWindow::showEvent(QShowEvent* event)
             each->invalidate(); // what they remember is from before the controls had their fonts
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
         const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
-        resize(sizeHint().boundedTo(room));
+        QSize wanted = sizeHint();
+        if (wanted.width() > room.width())
+            wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        resize(wanted.boundedTo(room));
     }
     QMainWindow::showEvent(event);
 }

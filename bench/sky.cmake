@@ -1,0 +1,14 @@
+# SPDX-License-Identifier: MIT
+# Sun and Moon: timings against their peers, and the accuracy measurement.
+find_library(ERFA_LIBRARY erfa REQUIRED)
+find_library(LIBNOVA_LIBRARY nova REQUIRED)
+
+add_executable(ephemeris_bench ${CMAKE_CURRENT_LIST_DIR}/navlib/EphemerisBench.cpp)
+target_link_libraries(ephemeris_bench PRIVATE navlib benchmark::benchmark ${ERFA_LIBRARY}
+                      ${LIBNOVA_LIBRARY})
+
+# Prints the figures stated in navlib/ephemeris.h, navlib/rise_set.h and docs/manual/frmSunMoon.md.
+add_executable(ephemeris_accuracy
+  ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp
+  ${CMAKE_SOURCE_DIR}/tests/navlib/accuracy/ErfaReference.cpp)
+target_link_libraries(ephemeris_accuracy PRIVATE app_core ${ERFA_LIBRARY})

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+struct RiseSetInput {       ///< boxes as typed
+    std::string txtSunMoon; ///< date
+    std::string txtLocation;
+    std::string txtTD;        ///< hours, -12 to 12
+    std::string txtLatitude;  ///< DegMin, -63 to 63
+    std::string txtLongitude; ///< DegMin, -180 to 180
+};
+
+/// The last accepted numbers of a row. Each search moves the latitude by 1e-10.
+struct RiseSetRow {
+    NavFunc113::Hours TD = 0;
+    NavFunc113::DegMin latitude = 0;
+    NavFunc113::DegMin longitude = 0;
+};
+
+/// A label with its tool tip; an empty text blanks the label.
+struct RiseSetLabel {
+    std::string text;
+    std::string tip;
+};
+
+struct RiseSetResult {
+    bool successful = false;            ///< the row was computed: its settings are to be written
+    std::optional<std::string> moonAge; ///< lblMoonAge; no value leaves it as it was
+    RiseSetLabel sunRiseTime;
+    RiseSetLabel sunSetTime;
+    RiseSetLabel sunRiseAz;
+    RiseSetLabel sunSetAz;
+    RiseSetLabel moonRiseTime;
+    RiseSetLabel moonSetTime;
+    std::string notice; ///< for the notice line, the row's place in front; empty: nothing to say
+};
+
+/// One row of the sun and moon window.
+///
+/// A date that is none, or a time difference, latitude or longitude that is no number or out of
+/// range, blanks the six labels. An event that ends in an arithmetic error is blank and named in
+/// the notice; the others are shown. Where the refined time differs from the one shown by more than
+/// 5 minutes (Moon) or 1 minute (Sun), the notice and the label's tip give it.
+/// @param row  numbers of the row; each is replaced as it is accepted
+RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row);
+
+/// The day number of the date box; nothing when it holds no date. A time of day alone is none.
+std::optional<NavFunc113::DateTime> riseSetDate(const std::string& txtSunMoon);
+
+/// Where the scroll bar belongs for a date: its distance from today in days, when it lies on the
+/// bar.
+std::optional<int> scrollOffset(const std::string& txtSunMoon, NavFunc113::DateTime today,
+                                int minimum, int maximum);
+
+/// Text of the date box for a scroll bar that stands so many days from today.
+std::string scrolledDate(NavFunc113::DateTime today, int offset);
+
+} // namespace korvel

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/SightInput.h"
+
+namespace korvel
+{
+
+/// One line of the worksheet: what is applied, and by how much.
+struct WorksheetLine {
+    std::string caption;
+    std::string text; ///< minutes with sign, "-2.9'"; angles "24.-31'3"
+};
+
+struct LOPResult {                        ///< an empty text blanks the label
+    std::string UTC;                      ///< resolved, with its date
+    std::string SMT;                      ///< the same with TD, when the watch keeps SMT
+    std::string watchError;               ///< how it was applied
+    std::vector<WorksheetLine> worksheet; ///< Hs to Ho, every term; empty when it cannot be made
+    std::string Ho;
+    std::string declination;
+    std::string GHA; ///< 0 to 360
+    std::string DR;  ///< the dead-reckoned position at the sight
+    std::string Hc;
+    std::string intercept; ///< "10'.8 T" towards, "3'.8 A" away
+    std::string Zn;
+    std::string notice; ///< every input that cannot be used, then what the officer should know
+};
+
+/// The line of position of the sight being entered. What an unusable input does not touch is shown.
+LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& track);
+
+/// True azimuth at a position; on the meridian and due east or west, where the library's
+/// quotient faults, by the four-quadrant form.
+/// @param position decimal degrees
+NavFunc113::Degrees azimuthOfSun(NavFunc113::DegMin GHA, NavFunc113::DegMin declination,
+                                 const NavFunc113::Position& position);
+
+/// "35-.30'5N 139-.45'2E" of a position in decimal degrees.
+std::string positionText(const NavFunc113::Position& position);
+
+/// An intercept: "10'.8 T" or "3'.8 A".
+std::string interceptText(NavFunc113::Miles intercept);
+
+} // namespace korvel

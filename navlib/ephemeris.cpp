@@ -1,0 +1,293 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/ephemeris.h"
+
+#include "navlib/angles.h"
+#include "navlib/datetime.h"
+#include "navlib/ephemeris_series.h"
+
+#include <cmath>
+#include <span>
+
+namespace NavFunc113
+{
+namespace
+{
+
+/// Julian centuries from 2000 January 1.5. One minute, the same in every year, stands for the
+/// difference between dynamical time and UT. It was 56 s in 1988 and 69 s in 2020; the Moon moves
+/// 0.1 minutes of arc in 10 s, the Sun nothing that shows.
+double centuries(double julianDay)
+{
+    return (julianDay + 60.0 / 86400 - 2451545) / 36525;
+}
+
+double fraction(DateTime instant)
+{
+    return instant - std::floor(instant);
+}
+
+double cosOf(Degrees angle)
+{
+    return std::cos(DegToRad(angle));
+}
+
+double sinOf(Degrees angle)
+{
+    return std::sin(DegToRad(angle));
+}
+
+/// All series are cosines; the phases are chosen for that.
+double sumSeries(double start, std::span<const SeriesTerm> terms, double T)
+{
+    double sum = start;
+    for (const SeriesTerm& term : terms) {
+        const double amplitude = term.power == 0 ? term.amplitude : term.amplitude * T;
+        sum += amplitude * cosOf(term.rate * T + term.phase);
+    }
+    return sum;
+}
+
+Degrees reduced(Degrees angle)
+{
+    return angle - 360 * std::floor(angle / 360);
+}
+
+Degrees meanObliquity(double T)
+{
+    return 23.43929 - 0.013004 * T;
+}
+
+/// What every apparent place at one instant needs.
+struct Frame {
+    explicit Frame(DateTime at)
+        : instant(at), julianDay(JulianDay(at)), T(centuries(julianDay)),
+          nutation(NutationLongitude(julianDay)),
+          obliquity(meanObliquity(T) + NutationObliquity(julianDay))
+    {
+    }
+
+    DateTime instant;
+    double julianDay;
+    double T;
+    Degrees nutation;
+    Degrees obliquity;
+};
+
+/// Ecliptic place referred to the true equinox.
+struct EclipticPlace {
+    Degrees longitude;
+    Degrees latitude;
+};
+
+EclipticPlace apparentSun(const Frame& frame)
+{
+    // The two small corrections may carry the longitude just out of 0 .. 360; sine and cosine
+    // do not mind.
+    return {SunLongitude(frame.julianDay) + SunAberration(SunDistance(frame.julianDay)) +
+                frame.nutation,
+            0};
+}
+
+EclipticPlace apparentMoon(const Frame& frame)
+{
+    // No aberration: the Moon shares the Earth's motion about the Sun.
+    return {MoonLongitude(frame.julianDay) + frame.nutation, MoonLatitude(frame.julianDay)};
+}
+
+DegMin sunDeclination(const Frame& frame, const EclipticPlace& sun)
+{
+    return DegToDegMin(RadToDeg(ArcSin(sinOf(frame.obliquity) * sinOf(sun.longitude))));
+}
+
+DegMin sunRightAscension(const Frame& frame, const EclipticPlace& sun)
+{
+    return DegToDegMin(
+        RadToDeg(ArcTan2(cosOf(sun.longitude), cosOf(frame.obliquity) * sinOf(sun.longitude))));
+}
+
+DegMin moonDeclination(const Frame& frame, const EclipticPlace& moon)
+{
+    return DegToDegMin(
+        RadToDeg(ArcSin(sinOf(moon.latitude) * cosOf(frame.obliquity) +
+                        cosOf(moon.latitude) * sinOf(frame.obliquity) * sinOf(moon.longitude))));
+}
+
+DegMin moonRightAscension(const Frame& frame, const EclipticPlace& moon)
+{
+    const double x = cosOf(moon.latitude) * cosOf(moon.longitude);
+    const double y = cosOf(moon.latitude) * sinOf(moon.longitude) * cosOf(frame.obliquity) -
+                     sinOf(moon.latitude) * sinOf(frame.obliquity);
+    return DegToDegMin(RadToDeg(ArcTan2(double(x), y)));
+}
+
+Hours siderealTime(const Frame& frame)
+{
+    double a = 2400.0513369 * frame.T / 24;
+    a = (a - std::floor(a)) * 24;
+    const Hours equationOfEquinoxes = frame.nutation * cosOf(frame.obliquity) / 15;
+    // The square of T / 24, not of T: on purpose. The term is below 0.01 seconds for a century.
+    return 2.59e-5 * std::pow(frame.T / 24, 2.0) + (a + 6.697375) + fraction(frame.instant) * 24 +
+           equationOfEquinoxes;
+}
+
+DegMin hourAngle(const Frame& frame, DegMin rightAscension)
+{
+    Degrees x = 15 * siderealTime(frame) - DegMinToDeg(rightAscension);
+    // An angle between -360 and 0 gets 0 added here and stays negative, on purpose: callers add a
+    // longitude and take sine and cosine, or reduce it for display.
+    if (x > 360)
+        x = x - 360 * std::floor(x / 360);
+    else if (x < 0)
+        x = x + 360 * (std::floor(x / 360) + 1);
+    return DegToDegMin(x);
+}
+
+Degrees hourAngleOffset(DateTime instant, DegMin GHA)
+{
+    const Degrees timeOfDay = fraction(instant) * 24 * 15;
+    Degrees offset = DegMinToDeg(GHA) - timeOfDay;
+    if (offset < 0) offset = offset + 360;
+    if (offset > 360) offset = offset - 360;
+    return offset;
+}
+
+} // namespace
+
+double JulianDay(DateTime instant)
+{
+    constexpr double dayAfterLast = 2958466; // 10000-01-01
+    if (!(instant < dayAfterLast)) throw ArithmeticError(ArithmeticError::Condition::Overflow);
+    if (instant < 0) return 0;
+    // The day is cut off, not rounded: it belongs to the fraction that is added below.
+    CivilDate date = DateOfSerial(static_cast<long>(std::floor(instant)));
+    if (date.month <= 2) {
+        date.year -= 1;
+        date.month += 12;
+    }
+    const double century = std::floor(date.year / 100.0);
+    const double gregorian = 2 - century + std::floor(century / 4);
+    return std::floor(365.25 * date.year) + std::floor(30.6001 * (date.month + 1)) + date.day +
+           gregorian + 1720994.5 + fraction(instant);
+}
+
+Degrees SunLongitude(double julianDay)
+{
+    const double T = centuries(julianDay);
+    return reduced(sumSeries(280.4659 + 36000.7695 * T, sunLongitudeTerms, T));
+}
+
+double SunDistance(double julianDay)
+{
+    return sumSeries(1.00014, sunDistanceTerms, centuries(julianDay));
+}
+
+Degrees SunAberration(double distance)
+{
+    return Quotient(-0.005693, distance);
+}
+
+Degrees NutationLongitude(double julianDay)
+{
+    const double T = centuries(julianDay);
+    const Degrees node = 125.04 - 1934.136 * T;
+    const Degrees twiceSun = 200.93 + 72001.539 * T;
+    // Textbooks have -0.00478 and a minus sign before the second term. These values are kept so
+    // that every figure stays what it has always been; they shift a body by 0.05 minutes of arc
+    // at most.
+    return -0.00487 * sinOf(node) + 0.00037 * sinOf(twiceSun);
+}
+
+Degrees NutationObliquity(double julianDay)
+{
+    const double T = centuries(julianDay);
+    return 0.00256 * cosOf(125.04 - 1934.136 * T) + 0.00016 * cosOf(200.93 + 72001.539 * T);
+}
+
+Degrees MoonLongitude(double julianDay)
+{
+    const double T = centuries(julianDay);
+    return reduced(sumSeries(218.3162 + 481267.8809 * T, moonLongitudeTerms, T));
+}
+
+Degrees MoonLatitude(double julianDay)
+{
+    const double T = centuries(julianDay);
+    return sumSeries(5.1281 * cosOf(483202.019 * T + 3.273), moonLatitudeTerms, T);
+}
+
+DegMin SunDeclination(DateTime instant)
+{
+    const Frame frame(instant);
+    return sunDeclination(frame, apparentSun(frame));
+}
+
+DegMin SunRightAscension(DateTime instant)
+{
+    const Frame frame(instant);
+    return sunRightAscension(frame, apparentSun(frame));
+}
+
+DegMin MoonDeclination(DateTime instant)
+{
+    const Frame frame(instant);
+    return moonDeclination(frame, apparentMoon(frame));
+}
+
+DegMin MoonRightAscension(DateTime instant)
+{
+    const Frame frame(instant);
+    return moonRightAscension(frame, apparentMoon(frame));
+}
+
+Hours GreenwichSiderealTime(DateTime instant)
+{
+    return siderealTime(Frame(instant));
+}
+
+DegMin SunGHA(DateTime instant)
+{
+    const Frame frame(instant);
+    return hourAngle(frame, sunRightAscension(frame, apparentSun(frame)));
+}
+
+DegMin MoonGHA(DateTime instant)
+{
+    const Frame frame(instant);
+    return hourAngle(frame, moonRightAscension(frame, apparentMoon(frame)));
+}
+
+Degrees SunHourAngleOffset(DateTime instant)
+{
+    return hourAngleOffset(instant, SunGHA(instant));
+}
+
+Degrees MoonHourAngleOffset(DateTime instant)
+{
+    return hourAngleOffset(instant, MoonGHA(instant));
+}
+
+BodyPlace SunPlace(DateTime instant)
+{
+    const Frame frame(instant);
+    const EclipticPlace sun = apparentSun(frame);
+    const DegMin GHA = hourAngle(frame, sunRightAscension(frame, sun));
+    return {sunDeclination(frame, sun), hourAngleOffset(instant, GHA)};
+}
+
+BodyPlace MoonPlace(DateTime instant)
+{
+    const Frame frame(instant);
+    const EclipticPlace moon = apparentMoon(frame);
+    const DegMin GHA = hourAngle(frame, moonRightAscension(frame, moon));
+    return {moonDeclination(frame, moon), hourAngleOffset(instant, GHA)};
+}
+
+double MoonAge(DateTime instant)
+{
+    const double julianDay = JulianDay(instant);
+    const Degrees elongation = MoonLongitude(julianDay) - SunLongitude(julianDay);
+    const double turns = (elongation + 360) / 360;
+    return 30 * (turns - std::floor(turns));
+}
+
+} // namespace NavFunc113

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/sight_fix.h"
+
+#include "navlib/angles.h"
+#include "navlib/ephemeris.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace NavFunc113
+{
+namespace
+{
+
+double sinOf(Degrees angle)
+{
+    return std::sin(DegToRad(angle));
+}
+
+double cosOf(Degrees angle)
+{
+    return std::cos(DegToRad(angle));
+}
+
+double square(double value)
+{
+    return value * value;
+}
+
+/// Northern and eastern miles to a position's change of place.
+Position moved(const Position& from, Miles north, Miles east)
+{
+    const Degrees latitude = from.latitude + north / 60;
+    const Degrees middle = (from.latitude + latitude) / 2;
+    const Degrees longitude = from.longitude + Quotient(east, 60 * cosOf(middle));
+    return {latitude, std::remainder(longitude, 360)};
+}
+
+/// Variance of one line: that of the sight, and the part of the run's error across the line.
+double variance(const ErrorModel& errors, const Motion& motion, Hours sinceFix, Degrees azimuth)
+{
+    const Miles run = motion.speed * std::fabs(sinceFix);
+    const Degrees toCourse = azimuth - motion.course;
+    return square(errors.sigma) + square(errors.runAlong * run * cosOf(toCourse)) +
+           square(run * sinOf(errors.runCourse) * sinOf(toCourse));
+}
+
+/// One pass of the least squares from a position.
+struct Pass {
+    NormalMatrix matrix;
+    double D = 0;
+    double E = 0;
+    std::vector<LineOfPosition> lines;
+    std::vector<double> weights;
+};
+
+Pass passFrom(std::span<const Sight> sights, const Position& atFix, const Motion& motion,
+              const ErrorModel& errors)
+{
+    Pass pass;
+    for (const Sight& sight : sights) {
+        const LineOfPosition line = LineAt(sight, atFix, motion);
+        const double w = Quotient(1, variance(errors, motion, sight.sinceFix, line.azimuth));
+        const double cosZ = cosOf(line.azimuth);
+        const double sinZ = sinOf(line.azimuth);
+        pass.matrix.A += w * cosZ * cosZ;
+        pass.matrix.B += w * cosZ * sinZ;
+        pass.matrix.C += w * sinZ * sinZ;
+        pass.D += w * line.intercept * cosZ;
+        pass.E += w * line.intercept * sinZ;
+        pass.lines.push_back(line);
+        pass.weights.push_back(w);
+    }
+    return pass;
+}
+
+/// G against the square of the sum of the weights: independent of how many lines and how weighty.
+bool isParallel(const NormalMatrix& matrix)
+{
+    return !(matrix.determinant() >= 1e-6 * square(matrix.A + matrix.C));
+}
+
+} // namespace
+
+Position Advanced(const Position& from, const Motion& motion, Hours hours)
+{
+    const Miles run = motion.speed * hours;
+    return moved(from, run * cosOf(motion.course), run * sinOf(motion.course));
+}
+
+HorizonPlace PlaceAboveHorizon(Degrees GHA, Degrees declination, const Position& position)
+{
+    const Degrees t = GHA + position.longitude;
+    const double north = cosOf(position.latitude) * sinOf(declination) -
+                         sinOf(position.latitude) * cosOf(declination) * cosOf(t);
+    const double east = -cosOf(declination) * sinOf(t);
+    const double up = sinOf(position.latitude) * sinOf(declination) +
+                      cosOf(position.latitude) * cosOf(declination) * cosOf(t);
+    Degrees azimuth = RadToDeg(std::atan2(east, north));
+    if (azimuth < 0) azimuth += 360;
+    if (azimuth >= 360) azimuth = 0;
+    return {RadToDeg(std::atan2(up, std::hypot(north, east))), azimuth};
+}
+
+Miles Intercept(Degrees observedAltitude, Degrees computedAltitude)
+{
+    return 60 * (observedAltitude - computedAltitude);
+}
+
+LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& motion)
+{
+    const Position atSight = Advanced(atFix, motion, sight.sinceFix);
+    const HorizonPlace body = PlaceAboveHorizon(sight.GHA, sight.declination, atSight);
+    return {Intercept(sight.observedAltitude, body.altitude), body.azimuth, body.altitude};
+}
+
+Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const Motion& motion,
+                    const ErrorModel& errors)
+{
+    constexpr int mostPasses = 30;
+    Fix fix;
+    fix.position = atFix;
+    if (sights.size() < 2) return fix;
+    while (fix.passes < mostPasses) {
+        ++fix.passes;
+        const Pass pass = passFrom(sights, fix.position, motion, errors);
+        const NormalMatrix& m = pass.matrix;
+        if (isParallel(m)) {
+            fix.outcome = FixOutcome::Parallel;
+            return fix;
+        }
+        const Miles north = Quotient(m.C * pass.D - m.B * pass.E, m.determinant());
+        const Miles east = Quotient(m.A * pass.E - m.B * pass.D, m.determinant());
+        const Position next{fix.position.latitude + north / 60,
+                            fix.position.longitude +
+                                Quotient(east, 60 * cosOf(fix.position.latitude))};
+        if (std::fabs(next.latitude) >= 90) break;
+        fix.position = {next.latitude, std::remainder(next.longitude, 360)};
+        if (std::hypot(north, east) >= 0.01) continue;
+        fix.outcome = FixOutcome::Found;
+        fix.matrix = m;
+        for (std::size_t i = 0; i < sights.size(); ++i) {
+            const auto& line = pass.lines[i];
+            fix.residuals.push_back(line.intercept -
+                                    (north * cosOf(line.azimuth) + east * sinOf(line.azimuth)));
+            fix.weightedSquares += pass.weights[i] * square(fix.residuals.back());
+        }
+        return fix;
+    }
+    fix.outcome = FixOutcome::NoConvergence;
+    return fix;
+}
+
+ErrorEllipse EllipseOf(const NormalMatrix& matrix, double factor, double scale)
+{
+    // Straight from the eigenvalues m - q and m + q: closed forms by tan 2 theta confuse the axes
+    // when A is greater than C.
+    const double m = (matrix.A + matrix.C) / 2;
+    const double q = std::hypot((matrix.A - matrix.C) / 2, matrix.B);
+    const double determinant = matrix.determinant();
+    ErrorEllipse ellipse;
+    ellipse.semiMinor = Quotient(factor * scale, std::sqrt(m + q));
+    // (m - q)(m + q) is the determinant: no cancellation in m - q for a long ellipse.
+    ellipse.semiMajor = factor * scale * SquareRoot(Quotient(m + q, determinant));
+    const Degrees minorAxis = RadToDeg(std::atan2(2 * matrix.B, matrix.A - matrix.C)) / 2;
+    ellipse.majorAxis = minorAxis + 90 >= 180 ? minorAxis - 90 : minorAxis + 90;
+    ellipse.sigmaNorth = scale * SquareRoot(Quotient(matrix.C, determinant));
+    ellipse.sigmaEast = scale * SquareRoot(Quotient(matrix.A, determinant));
+    return ellipse;
+}
+
+double AssumedSigmaFactor()
+{
+    return std::sqrt(-2 * std::log(0.05));
+}
+
+double MeasuredSigmaFactor(int lines)
+{
+    if (lines < 3) throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
+    const double freedom = lines - 2;
+    const double F = freedom / 2 * (std::pow(0.05, -2 / freedom) - 1);
+    return std::sqrt(2 * F);
+}
+
+double MeasuredScale(const Fix& fix)
+{
+    if (fix.residuals.size() < 3)
+        throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
+    return std::sqrt(fix.weightedSquares / static_cast<double>(fix.residuals.size() - 2));
+}
+
+Degrees CutAngle(std::span<const Degrees> azimuths)
+{
+    Degrees best = 0;
+    for (std::size_t i = 0; i < azimuths.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            best = std::max(best, std::fabs(std::remainder(azimuths[i] - azimuths[j], 180)));
+    return best;
+}
+
+Degrees MeridianLatitude(Degrees declination, Degrees observedAltitude, bool bearsSouth)
+{
+    const Degrees zenithDistance = 90 - observedAltitude;
+    return bearsSouth ? declination + zenithDistance : declination - zenithDistance;
+}
+
+DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion)
+{
+    DateTime passage = near;
+    for (int pass = 0; pass < 8; ++pass) {
+        const Position ship = Advanced(position, motion, (passage - near) * 24);
+        const Degrees toGo = std::remainder(-ship.longitude - DegMinToDeg(SunGHA(passage)), 360);
+        passage += toGo / 360;
+        if (std::fabs(toGo) < 0.001) break;
+    }
+    return passage;
+}
+
+double GreatestAltitudeDelay(Degrees latitude, Degrees declination, double sunNorthward,
+                             double shipNorthward)
+{
+    return 15.28 * (std::tan(DegToRad(latitude)) - std::tan(DegToRad(declination))) *
+           (sunNorthward - shipNorthward);
+}
+
+Miles LineBend(Miles fromFoot, Degrees altitude)
+{
+    return fromFoot * fromFoot * std::tan(DegToRad(altitude)) / (2 * 3438);
+}
+
+std::vector<Position> CirclePoints(const Sight& sight, const Position& near, Miles halfLength,
+                                   int points)
+{
+    const Position body{sight.declination, -sight.GHA};
+    const Degrees zenithDistance = std::fabs(90 - sight.observedAltitude);
+    const Degrees towards = PlaceAboveHorizon(-near.longitude, near.latitude, body).azimuth;
+    const double radius = 60 * RadToDeg(std::fabs(sinOf(zenithDistance)));
+    const Degrees half = radius * Pi() <= halfLength ? 180 : RadToDeg(halfLength / radius);
+    std::vector<Position> result;
+    for (int i = 0; i < points; ++i) {
+        const Degrees bearing = towards + half * (2.0 * i / (points - 1) - 1);
+        const double sinLatitude = sinOf(body.latitude) * cosOf(zenithDistance) +
+                                   cosOf(body.latitude) * sinOf(zenithDistance) * cosOf(bearing);
+        const double x = cosOf(zenithDistance) - sinOf(body.latitude) * sinLatitude;
+        const double y = sinOf(bearing) * sinOf(zenithDistance) * cosOf(body.latitude);
+        const Degrees change = RadToDeg(std::atan2(y, x));
+        result.push_back({RadToDeg(std::asin(std::clamp(sinLatitude, -1.0, 1.0))),
+                          std::remainder(body.longitude + change, 360)});
+    }
+    return result;
+}
+
+} // namespace NavFunc113

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "navlib/units.h"
+
+#include <span>
+#include <vector>
+
+/// Lines of position and the fix from several of them. Everything here is in decimal degrees;
+/// north and east are positive. One minute of latitude counts as a mile.
+///
+/// Sources: the sight reduction procedures of the Nautical Almanac (least squares); Bowditch,
+/// American Practical Navigator (intercept, running fix, meridian passage).
+namespace NavFunc113
+{
+
+struct Position {
+    Degrees latitude = 0;
+    Degrees longitude = 0;
+};
+
+/// Course and speed made good.
+struct Motion {
+    Degrees course = 0;
+    Knots speed = 0;
+};
+
+/// Position after a run, by middle latitude; hours may be negative. Longitude comes out within
+/// -180 .. 180.
+/// @throws ArithmeticError DivisionByZero or Overflow for a run that ends at a pole
+Position Advanced(const Position& from, const Motion& motion, Hours hours);
+
+/// Altitude and true azimuth (0 <= azimuth < 360) of a body. Unlike ComputedAzimuth this holds on
+/// the meridian, the prime vertical and in the zenith, where the azimuth comes out as 0.
+struct HorizonPlace {
+    Degrees altitude = 0;
+    Degrees azimuth = 0;
+};
+HorizonPlace PlaceAboveHorizon(Degrees GHA, Degrees declination, const Position& position);
+
+/// Intercept: positive towards the body, negative away.
+Miles Intercept(Degrees observedAltitude, Degrees computedAltitude);
+
+/// A sight as it enters a fix.
+struct Sight {
+    Degrees GHA = 0;
+    Degrees declination = 0;
+    Degrees observedAltitude = 0; ///< corrected
+    Hours sinceFix = 0;           ///< time of the sight less that of the fix; before it negative
+};
+
+/// How good the sights and the run between them are held to be.
+struct ErrorModel {
+    Miles sigma = 1;       ///< of one line; more than 0
+    double runAlong = 0;   ///< of the distance run, as a part of it (0.05: five per cent)
+    Degrees runCourse = 0; ///< of the course made good
+};
+
+/// Line of position, referred to a dead-reckoned position that was run to the time of the sight.
+struct LineOfPosition {
+    Miles intercept = 0;
+    Degrees azimuth = 0;
+    Degrees computedAltitude = 0;
+};
+LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& motion);
+
+/// Sums of the weighted lines: cos^2 Z, cos Z sin Z, sin^2 Z, each divided by sigma^2.
+struct NormalMatrix {
+    double A = 0;
+    double B = 0;
+    double C = 0;
+    double determinant() const { return A * C - B * B; }
+};
+
+enum class FixOutcome {
+    Found,
+    TooFewLines,  ///< fewer than two
+    Parallel,     ///< all azimuths alike or opposite
+    NoConvergence ///< the circles do not meet near the dead-reckoned position
+};
+
+struct Fix {
+    FixOutcome outcome = FixOutcome::TooFewLines;
+    Position position;            ///< valid when Found, as is all below
+    NormalMatrix matrix;          ///< of the last pass, miles^-2
+    std::vector<Miles> residuals; ///< in the order of the sights; positive towards the body
+    double weightedSquares = 0;   ///< sum of (residual / sigma)^2
+    int passes = 0;
+};
+
+/// Most probable position at the time of the fix, by least squares.
+///
+/// Each sight is reduced from the dead-reckoned position run back (or on) to its own time, so all
+/// lines refer to the time of the fix; repeated from each result until it moves less than 0.01
+/// miles.
+/// @param atFix  dead-reckoned position at the time of the fix
+Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const Motion& motion,
+                    const ErrorModel& errors);
+
+/// Error ellipse in miles.
+struct ErrorEllipse {
+    Miles semiMajor = 0;
+    Miles semiMinor = 0;
+    Degrees majorAxis = 0; ///< bearing, 0 <= bearing < 180
+    Miles sigmaNorth = 0;  ///< not scaled by the factor
+    Miles sigmaEast = 0;   ///< not scaled by the factor; a distance, not a longitude
+};
+
+/// @param matrix  not singular
+/// @param factor  k that the axes, not the sigmas, are scaled by
+/// @param scale   what every sigma in the matrix is multiplied by first
+ErrorEllipse EllipseOf(const NormalMatrix& matrix, double factor, double scale = 1);
+
+/// k of a 95 per cent ellipse when sigma was assumed beforehand: 2.4477.
+double AssumedSigmaFactor();
+
+/// k of a 95 per cent ellipse when sigma was measured from the residuals themselves: sqrt(2 F) with
+/// F the 95 per cent point of the F distribution with 2 and n - 2 degrees of freedom.
+/// @param lines n, at least 3
+/// @throws ArithmeticError InvalidArgument for fewer
+double MeasuredSigmaFactor(int lines);
+
+/// sqrt(weightedSquares / (n - 2)): what the residuals say of the sigmas that were assumed.
+/// @throws ArithmeticError InvalidArgument for fewer than three lines
+double MeasuredScale(const Fix& fix);
+
+/// Angle at which the best pair of lines cuts, 0 .. 90; 0 for fewer than two.
+Degrees CutAngle(std::span<const Degrees> azimuths);
+
+/// Latitude from the altitude on the meridian.
+/// @param bearsSouth the body is seen to the south
+Degrees MeridianLatitude(Degrees declination, Degrees observedAltitude, bool bearsSouth);
+
+/// UTC of the Sun's passage over the meridian of a moving ship, the one nearest to an instant.
+/// @param near    instant at which the ship stands at position
+DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion);
+
+/// Seconds by which the greatest altitude comes after the passage over the ship's meridian.
+/// @param sunNorthward, shipNorthward rates in minutes of arc an hour
+double GreatestAltitudeDelay(Degrees latitude, Degrees declination, double sunNorthward,
+                             double shipNorthward);
+
+/// How far the circle of position bends away from its tangent, miles.
+/// @param fromFoot distance along the tangent from its foot; @param altitude below 90
+Miles LineBend(Miles fromFoot, Degrees altitude);
+
+/// Points of the circle of position on both sides of where it passes nearest to a position, in
+/// order, clockwise about the body's geographical position; the whole circle when it is shorter
+/// than the length wanted.
+/// @param halfLength along the circle; @param points at least 2
+std::vector<Position> CirclePoints(const Sight& sight, const Position& near, Miles halfLength,
+                                   int points);
+
+} // namespace NavFunc113

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunMoon/CalculateRiseSet.h"
+
+#include <gmock/gmock.h>
+
+namespace korvel
+{
+namespace
+{
+
+using testing::HasSubstr;
+
+RiseSetResult calculate(RiseSetInput input)
+{
+    RiseSetRow row;
+    return CalculateRiseSet(input, row);
+}
+
+TEST(CalculateRiseSet, aRowAsShown)
+{
+    const auto row = calculate({"2024/6/21", "Tokyo", "9", "35.393", "139.447"});
+    EXPECT_TRUE(row.successful);
+    EXPECT_EQ(row.sunRiseTime.text, "0425LT");
+    EXPECT_EQ(row.sunSetTime.text, "1900LT");
+    EXPECT_EQ(row.sunRiseAz.text, "<060.7>");
+    EXPECT_EQ(row.sunSetAz.text, "<299.3>");
+    EXPECT_EQ(row.moonAge, "14.4") << "at 12:00 UT, 13 hours before full Moon";
+    EXPECT_EQ(row.notice, "");
+}
+
+TEST(CalculateRiseSet, whatBlanksARow)
+{
+    const struct {
+        const char* fault;
+        RiseSetInput input;
+        bool computed, ageShown;
+    } rows[] = {
+        {"limits are inclusive", {"2024/6/21", "", "-12", "63.00", "-180"}, true, true},
+        {"the Moon's limit of latitude", {"2024/6/21", "", "9", "63.01", "139"}, false, true},
+        {"time difference", {"2024/6/21", "", "12.1", "35", "139"}, false, true},
+        {"longitude", {"2024/6/21", "", "9", "35", "180.01"}, false, true},
+        {"empty is not 0 here", {"2024/6/21", "", "", "35", "139"}, false, true},
+        {"letters", {"2024/6/21", "", "9", "x", "139"}, false, true},
+        {"no date", {"2024/6/31", "", "9", "35", "139"}, false, false},
+        {"half a date", {"2024/6/", "", "9", "35", "139"}, false, false},
+        {"a time is no date", {"06:00", "", "9", "35", "139"}, false, false},
+        {"before the first day", {"1899/12/30", "", "9", "35", "139"}, false, false},
+        {"full-width digits", {"２０２４/6/21", "", "９", "35", "139"}, true, true},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.fault);
+        const auto result = calculate(row.input);
+        EXPECT_EQ(result.successful, row.computed);
+        EXPECT_EQ(result.moonAge.has_value(), row.ageShown);
+        EXPECT_EQ(result.sunRiseTime.text.empty(), !row.computed);
+        EXPECT_EQ(result.moonSetTime.text.empty() && result.moonSetTime.tip.empty(), !row.computed);
+    }
+}
+
+TEST(CalculateRiseSet, acceptedNumbersStayInTheRow)
+{
+    RiseSetRow row{1, 2, 3};
+    CalculateRiseSet({"2024/6/21", "", "9", "35.3", "200"}, row);
+    EXPECT_EQ(row.TD, 9);
+    EXPECT_EQ(row.latitude, 35.3);
+    EXPECT_EQ(row.longitude, 3) << "the refused one stays as it was";
+    CalculateRiseSet({"2024/6/21", "", "9", "35.3", "139"}, row);
+    EXPECT_NEAR(row.latitude, 35.3 + 4e-10, 1e-14) << "moved once by each search";
+}
+
+TEST(CalculateRiseSet, monthAtOnePlaceTellsWhatTheSearchMisses)
+{
+    int midnight = 0, refinedMoon = 0;
+    for (int day = 1; day <= 31; ++day) {
+        const auto row =
+            calculate({"2024/1/" + std::to_string(day), "Yokohama", "9", "35.27", "139.39"});
+        if (row.moonRiseTime.text == "0000LT") {
+            ++midnight;
+            EXPECT_FALSE(row.moonRiseTime.tip.empty());
+        }
+        if (row.notice.find("moonrise refined") != std::string::npos) {
+            ++refinedMoon;
+            EXPECT_THAT(row.notice, testing::StartsWith("Yokohama: "));
+            EXPECT_THAT(row.moonRiseTime.tip, testing::StartsWith("Refined"));
+        }
+        EXPECT_TRUE(row.notice.find("sunrise") == std::string::npos) << row.notice;
+    }
+    EXPECT_GE(midnight, 1);
+    EXPECT_GE(refinedMoon, 1);
+}
+
+TEST(CalculateRiseSet, faultOfTheMoonBlanksItsEventsOnly)
+{
+    // The Moon's declination went beyond 28 degrees in 2006.
+    int faults = 0;
+    for (int day = 1; day <= 30; ++day) {
+        const auto row = calculate({"2006/9/" + std::to_string(day), "Norway", "1", "63", "10"});
+        ASSERT_TRUE(row.successful);
+        EXPECT_FALSE(row.sunRiseTime.text.empty());
+        EXPECT_FALSE(row.sunSetAz.text.empty());
+        if (!row.moonRiseTime.text.empty()) continue;
+        ++faults;
+        EXPECT_THAT(row.notice, HasSubstr("Norway: "));
+        EXPECT_THAT(row.notice, HasSubstr("moonrise cannot be computed (invalid argument)"));
+    }
+    EXPECT_GE(faults, 1);
+    EXPECT_LE(faults, 14);
+}
+
+TEST(CalculateRiseSet, southernWholeDegreesAreTold)
+{
+    const auto whole = calculate({"2024/12/21", "", "-4", "-55", "-68"});
+    EXPECT_THAT(whole.notice, HasSubstr("sunrise refined "));
+    EXPECT_THAT(whole.sunRiseAz.tip, HasSubstr("as typed <"));
+    const auto aside = calculate({"2024/12/21", "", "-4", "-55.001", "-68"});
+    EXPECT_EQ(aside.notice.find("sunrise"), std::string::npos);
+    EXPECT_EQ(whole.sunRiseTime.tip, "Refined time of sunrise: " + aside.sunRiseTime.text)
+        << "what the refined search says is right";
+}
+
+TEST(CalculateRiseSet, scrollBarAndDate)
+{
+    EXPECT_EQ(scrollOffset("2024/3/1", 45350.9, -366, 366), 2) << "45350 is 2024-02-28";
+    EXPECT_EQ(scrollOffset("2023/2/26", 45350, -366, 366), std::nullopt);
+    EXPECT_EQ(scrollOffset("2024/2/30", 45350, -366, 366), std::nullopt);
+    EXPECT_EQ(scrolledDate(45350.9, 2), "2024/3/1");
+}
+
+} // namespace
+} // namespace korvel

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/SightFix.h"
+#include "navlib/angles.h"
+
+#include <cmath>
+
+/// The published exercises, typed in as an officer would.
+namespace korvel::worked
+{
+
+inline SightTexts sight(const char* date, const char* time, const char* Hs, const char* indexError,
+                        const char* eye)
+{
+    SightTexts texts;
+    texts.date = date;
+    texts.time = time;
+    texts.Hs = Hs;
+    texts.indexError = indexError;
+    texts.heightOfEye = eye;
+    return texts;
+}
+
+/// A sailing school's morning and noon sight, 2020.
+inline const SightTexts morning2020 = sight("2020/12/17", "11:45:11", "24.350", "4.0", "2.8");
+inline const SightTexts noon2020 = sight("2020/12/17", "15:30:00", "52.220", "4.0", "2.8");
+inline const TrackTexts track2020{"14.020", "-52.110", "2020/12/17 11:45:11", "271", "8"};
+
+/// A manual's morning and noon sight, 1990; the run of 19 miles as a speed.
+inline const SightTexts morning1990 = sight("1990/12/16", "10:49:06", "19.186", "0", "2");
+inline const SightTexts noon1990 = sight("1990/12/16", "14:37:10", "52.282", "0", "2");
+inline const TrackTexts track1990{"13.530", "-44.390", "1990/12/16 10:49:06", "270", "4.9986"};
+
+inline double milesBetween(const NavFunc113::Position& a, double packedLatitude,
+                           double packedLongitude)
+{
+    using namespace NavFunc113;
+    return 60 * std::hypot(a.latitude - DegMinToDeg(packedLatitude),
+                           (a.longitude - DegMinToDeg(packedLongitude)) *
+                               std::cos(DegToRad(a.latitude)));
+}
+
+inline SightList listOf(std::initializer_list<SightTexts> sights)
+{
+    SightList list;
+    for (const SightTexts& each : sights)
+        list.record(each);
+    return list;
+}
+
+} // namespace korvel::worked

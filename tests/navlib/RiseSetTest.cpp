@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/rise_set.h"
+
+#include "navlib/angles.h"
+#include "navlib/datetime.h"
+#include "navlib/ephemeris.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace NavFunc113
+{
+namespace
+{
+
+double minutesOfDay(DateTime time)
+{
+    return (time - std::floor(time)) * 1440;
+}
+
+constexpr double clock(int hour, int minute)
+{
+    return hour * 60 + minute;
+}
+
+TEST(RiseSet, publishedTimes)
+{
+    // Tokyo by the national observatory's tables; Greenwich and Sydney by almanac; all rounded to
+    // the minute, other altitudes of the body: hence two minutes.
+    const struct {
+        const char* place;
+        CivilDate date;
+        double TD;
+        DegMin latitude, longitude;
+        double sunrise, sunset;
+    } rows[] = {
+        {"Tokyo", {2024, 6, 21}, 9, 35.393, 139.447, clock(4, 25), clock(19, 0)},
+        {"Greenwich", {2024, 12, 21}, 0, 51.287, 0, clock(8, 4), clock(15, 53)},
+        {"Sydney", {2024, 3, 20}, 11, -33.52, 151.125, clock(6, 58), clock(19, 7)},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.place);
+        const auto date = double(DaySerial(row.date));
+        DegMin latitude = row.latitude;
+        const DateTime rise = SunRiseSearch(date, row.TD, latitude, row.longitude);
+        const DateTime set = SunSetSearch(date, row.TD, latitude, row.longitude);
+        EXPECT_EQ(std::floor(rise), date);
+        EXPECT_NEAR(minutesOfDay(rise), row.sunrise, 2);
+        EXPECT_NEAR(minutesOfDay(set), row.sunset, 2);
+        EXPECT_NEAR(latitude, row.latitude + 2e-10, 1e-12) << "once for each search";
+    }
+}
+
+TEST(RiseSet, hoursOfOneTriangle)
+{
+    // Latitude 45, declination 30, worked apart: the Moon 125.26439 degrees from the meridian, the
+    // Sun 127.09183; an offset of 180 and the zone's own meridian put noon at half the day.
+    EXPECT_NEAR(SunRiseHour(9, 180, 30, 45, 135), 1 + 0.5 - 127.09183 / 360 - 1, 1e-6);
+    EXPECT_NEAR(SunSetHour(9, 180, 30, 45, 135), 1 + 0.5 + 127.09183 / 360 - 1, 1e-6);
+    EXPECT_NEAR(MoonRiseHour(9, 180, 30, 45, 135), 3 + 0.5 - 125.26439 / 360 - 1, 1e-6);
+    EXPECT_NEAR(MoonSetHour(9, 180, 30, 45, 135), 2 + 0.5 + 125.26439 / 360 - 1, 1e-6);
+}
+
+TEST(RiseSet, bodyStandsAtItsAltitudeAtTheEvent)
+{
+    const auto altitude = [](BodyPlace body, DateTime utc, DegMin latitude, DegMin longitude) {
+        const double phi = DegToRad(DegMinToDeg(latitude));
+        const double delta = DegToRad(DegMinToDeg(body.declination));
+        const double t =
+            DegToRad((utc - std::floor(utc)) * 360 + body.hourAngleOffset + DegMinToDeg(longitude));
+        return RadToDeg(std::asin(std::sin(phi) * std::sin(delta) +
+                                  std::cos(phi) * std::cos(delta) * std::cos(t)));
+    };
+    int events = 0;
+    for (double date = 45292; date < 45292 + 60; date += 1) {
+        for (const auto& [TD, latitude, longitude] :
+             {std::array{9.0, 35.2, 139.4}, {-8.0, -33.4, -118.1}, {0.0, 0.0, 0.0}}) {
+            const auto rise = RefinedMoonRise(date, TD, latitude, longitude);
+            const auto set = RefinedSunSet(date, TD, latitude, longitude);
+            ASSERT_TRUE(set);
+            EXPECT_NEAR(altitude(SunPlace(*set - TD / 24), *set - TD / 24, latitude, longitude),
+                        -0.9033, 0.002);
+            if (!rise) continue;
+            ++events;
+            EXPECT_EQ(std::floor(*rise), date);
+            EXPECT_NEAR(altitude(MoonPlace(*rise - TD / 24), *rise - TD / 24, latitude, longitude),
+                        0, 0.003);
+        }
+    }
+    EXPECT_NEAR(events, 3 * 60 * 24 / 24.84, 3) << "one moonrise less in a month than days";
+}
+
+TEST(RiseSet, searchIsOutNearFullMoonAndTheRefinedTimeIsNot)
+{
+    int wrong = 0, days = 0;
+    for (double date = 45292; date < 45292 + 366; date += 1, ++days) {
+        DegMin latitude = 35.2;
+        const DateTime found = MoonRiseSearch(date, 9, latitude, 139.4);
+        const auto refined = RefinedMoonRise(date, 9, 35.2, 139.4);
+        if (found == 0 || !refined || std::fabs(found - *refined) * 1440 > 20) {
+            if (found == 0 && !refined) continue;
+            ++wrong;
+            const double age = MoonAge(date + 0.5);
+            EXPECT_NEAR(age, 15, 3);
+        } else {
+            EXPECT_NEAR(found, *refined, 10.0 / 1440);
+        }
+    }
+    EXPECT_GT(wrong, 2) << "of " << days;
+    EXPECT_LT(wrong, 30);
+}
+
+TEST(RiseSet, southernWholeDegreesAndFaults)
+{
+    DegMin whole = -60, almost = -60.0001;
+    const double date = 45292 + 354;
+    const DateTime there = SunRiseSearch(date, 0, whole, 0);
+    EXPECT_GT(std::fabs(there - SunRiseSearch(date, 0, almost, 0)) * 1440, 2)
+        << "the packed latitude falls below its whole degree";
+    EXPECT_NEAR(*RefinedSunRise(date, 0, -60, 0), *RefinedSunRise(date, 0, -60.0001, 0), 1e-5);
+
+    EXPECT_THROW(MoonRiseHour(0, 180, 28.3, 63, 0), ArithmeticError) << "the Moon does not set";
+    EXPECT_THROW(MoonRiseHour(0, 180, 20, 0, 0), ArithmeticError) << "cosine of exactly 0";
+    DegMin equator = 0;
+    EXPECT_NO_THROW(MoonRiseSearch(date, 0, equator, 0)) << "which the search steps around";
+    EXPECT_NEAR(SunRiseAzimuth(35, 23.26) + SunSetAzimuth(35, 23.26), 360, 1e-12);
+    EXPECT_NEAR(SunRiseAzimuth(0, -23), 113, 1e-9);
+    EXPECT_THROW(SunRiseAzimuth(35, 0), ArithmeticError);
+    EXPECT_FALSE(RefinedMoonRise(44880.0, 0, 80, 0)) << "no fault where the Moon does not rise";
+}
+
+} // namespace
+} // namespace NavFunc113
