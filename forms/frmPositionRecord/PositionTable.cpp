@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/PositionTable.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -54,22 +55,20 @@ PositionTable::PositionTable()
     m_height = box.sizeHint().height();
     m_spacing = metrics.horizontalAdvance("  ");
 
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(m_spacing);
-    grid->setVerticalSpacing(0);
+    auto* lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
     std::vector<EntryBox*> order;
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         m_rows[i] = makeRow(static_cast<int>(i));
-        layOutRow(m_rows[i], grid, static_cast<int>(i));
+        lines->addWidget(makeLine(m_rows[i]));
         for (EntryBox* each : m_rows[i].boxes())
             order.push_back(each);
     }
     setEntryOrder(order);
     for (std::size_t i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
-    grid->setColumnStretch(static_cast<int>(std::size(columns)), 1);
-    grid->setRowStretch(static_cast<int>(m_rows.size()), 1);
+    lines->addStretch();
 }
 
 PositionTable::Row PositionTable::makeRow(int index)
@@ -121,16 +120,23 @@ std::vector<QWidget*> PositionTable::controls(const Row& row) const
             row.dayRun};
 }
 
-void PositionTable::layOutRow(const Row& row, QGridLayout* grid, int line)
+QWidget* PositionTable::makeLine(const Row& row) const
 {
-    int column = 0;
+    // A widget a row: what is painted anew is looked up among the neighbours in the same widget.
+    auto* line = new QWidget;
+    auto* layout = new QHBoxLayout(line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(m_spacing);
+    std::size_t column = 0;
     for (QWidget* control : controls(row)) {
-        control->setFixedSize(m_widths[static_cast<std::size_t>(column)], m_height);
-        grid->addWidget(control, line, column++);
+        control->setFixedSize(m_widths[column++], m_height);
+        layout->addWidget(control);
     }
+    layout->addStretch();
     for (QLabel* figure : {static_cast<QLabel*>(row.distance), static_cast<QLabel*>(row.hours),
                            static_cast<QLabel*>(row.speed), row.number})
         figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return line;
 }
 
 QWidget* PositionTable::makeHeading() const

@@ -6,8 +6,6 @@
 
 #include <optional>
 
-class QGridLayout;
-
 namespace korvel
 {
 
@@ -58,7 +56,7 @@ public:
 
 private:
     Row makeRow(int index);
-    void layOutRow(const Row& row, QGridLayout* grid, int line);
+    QWidget* makeLine(const Row& row) const;
     std::vector<QWidget*> controls(const Row& row) const;
 
     std::array<Row, positionRowCount> m_rows;

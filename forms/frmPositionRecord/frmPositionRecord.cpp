@@ -54,7 +54,9 @@ void frmPositionRecord::addTotals()
     };
     const auto figure = [&](const char* name, const QString& widest) {
         ResultLabel* label = addLabel(name);
-        label->setMinimumWidth(label->fontMetrics().horizontalAdvance(widest));
+        // Fixed: a new figure is painted, the window is not laid out anew.
+        label->setFixedSize(label->fontMetrics().horizontalAdvance(widest),
+                            label->fontMetrics().lineSpacing());
         return label;
     };
     m_lblTotalDistance = figure("lblTotalDistance", "00000.'0");
