@@ -29,6 +29,13 @@ void FollowingScrollArea::setHeading(QWidget* heading)
     placeHeading();
 }
 
+void FollowingScrollArea::setStrip()
+{
+    m_isStrip = true;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFixedHeight(widget()->sizeHint().height());
+}
+
 QSize FollowingScrollArea::sizeHint() const
 {
     const int heading = m_heading ? m_heading->sizeHint().height() : 0;
@@ -39,6 +46,10 @@ void FollowingScrollArea::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
     placeHeading();
+    if (!m_isStrip) return;
+    const QSize content = widget()->sizeHint();
+    const bool scrolls = width() < widget()->minimumSizeHint().width();
+    setFixedHeight(content.height() + (scrolls ? horizontalScrollBar()->sizeHint().height() : 0));
 }
 
 void FollowingScrollArea::placeHeading()

@@ -18,6 +18,9 @@ public:
     /// Puts a heading above the content. It moves sideways with it and never up.
     void setHeading(QWidget* heading);
 
+    /// Makes it a strip: always as high as its content, scrolling sideways only.
+    void setStrip();
+
     QSize sizeHint() const override;
 
 protected:
@@ -27,6 +30,7 @@ private:
     void placeHeading();
 
     QWidget* m_heading = nullptr;
+    bool m_isStrip = false;
 };
 
 } // namespace korvel

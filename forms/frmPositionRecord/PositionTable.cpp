@@ -27,10 +27,10 @@ constexpr Column columns[] = {
     {"", "000°00.000' W", Column::Caption},
     {"UTC", "2000/00/00 00:00", Column::Result},
     {"Course", "<000.0>", Column::Result},
-    {"Dist. nm", "0000.'0", Column::Result},
-    {"Hours", "-000.00", Column::Result},
-    {"Knots", "00.00", Column::Result},
-    {"Day's run", "000.'0 in 00.0 h", Column::Result},
+    {"Dist. nm", "00000.'0", Column::Result},
+    {"Hours", "-0000.00", Column::Result},
+    {"Knots", "000.00", Column::Result},
+    {"Day's run", "0000.'0 in 000.0 h", Column::Result},
 };
 
 void showText(QLabel* label, const std::string& text)

@@ -60,22 +60,24 @@ void frmPositionRecord::addTotals()
         return label;
     };
     m_lblTotalDistance = figure("lblTotalDistance", "00000.'0");
-    m_lblTotalHours = figure("lblTotalHours", "0000.00");
-    m_lblAverageSpeed = figure("lblAverageSpeed", "00.00");
-    m_lblLatestRun = figure("lblLatestRun", "000.'0 in 00.0 h");
+    m_lblTotalHours = figure("lblTotalHours", "00000.00");
+    m_lblAverageSpeed = figure("lblAverageSpeed", "000.00");
+    m_lblLatestRun = figure("lblLatestRun", "0000.'0 in 000.0 h");
     put(0, "Total distance", m_lblTotalDistance, "nm");
     put(0, "Hours", m_lblTotalHours, "h");
     put(0, "Average speed", m_lblAverageSpeed, "kn");
     put(0, "Latest day's run", m_lblLatestRun, "");
     column = 0;
     m_lblSet = figure("lblSet", "000");
-    m_lblDrift = figure("lblDrift", "000.'0 = 00.00 kn");
+    m_lblDrift = figure("lblDrift", "0000.'0 = 00.00 kn");
     put(1, "&Course steered", m_txtCourseSteered, "°");
     put(1, "&Speed steered", m_txtSpeedSteered, "kn");
     put(1, "Set towards", m_lblSet, "°");
     put(1, "Drift", m_lblDrift, "");
     grid->setColumnStretch(column, 1);
-    addBelow(below);
+    auto* strip = new FollowingScrollArea(below);
+    strip->setStrip();
+    addBelow(strip);
 }
 
 void frmPositionRecord::addCalculationOfRecord()
