@@ -253,6 +253,17 @@ void CalculatorWindow::addLinksMenu(const QString& array)
 
 void CalculatorWindow::printForm()
 {
+    printPage([this](QPainter& painter, const QRect& room) {
+        QWidget* page = centralWidget();
+        const double scale =
+            std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
+        painter.scale(scale, scale);
+        page->render(&painter);
+    });
+}
+
+void CalculatorWindow::printPage(const std::function<void(QPainter&, const QRect&)>& draw)
+{
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(windowTitle());
     QPrintDialog dialog(&printer, this);
@@ -262,12 +273,7 @@ void CalculatorWindow::printForm()
         m_program.questions().ask({"The printer cannot be used.", programTitle, Buttons::Ok});
         return;
     }
-    QWidget* page = centralWidget();
-    const QRect room = painter.viewport();
-    const double scale =
-        std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
-    painter.scale(scale, scale);
-    page->render(&painter);
+    draw(painter, painter.viewport());
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event)
