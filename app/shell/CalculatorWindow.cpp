@@ -15,6 +15,12 @@
 
 namespace korvel
 {
+namespace
+{
+
+constexpr QMarginsF pageMargins(15, 15, 15, 15); // millimetres
+
+} // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
     : m_program(program), m_body(new QWidget), m_notice(new QLabel)
@@ -266,6 +272,7 @@ void CalculatorWindow::printPage(const std::function<void(QPainter&, const QRect
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(windowTitle());
+    printer.setPageMargins(pageMargins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
     QPainter painter;

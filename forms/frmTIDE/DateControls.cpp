@@ -15,7 +15,7 @@ DateLabel::DateLabel(QWidget* parent) : ResultLabel(parent)
 {
     setTextInteractionFlags(Qt::NoTextInteraction);
     setFocusPolicy(Qt::StrongFocus);
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     setCursor(Qt::PointingHandCursor);
     setMargin(fontMetrics().descent());
 }

@@ -226,7 +226,8 @@ void frmTIDE::take(const TideChoice& wanted, Telling telling)
         fault = "The figures of " + wanted.lblPlace + " cannot be computed: " + error.what() + ".";
     }
     if (!fault.empty() && m_shown) put(before);
-    tell(fault, telling);
+    const bool refused = !fault.empty() && telling == Telling::Line;
+    tell(refused ? wanted.lblDate + " cannot be shown: " + fault : fault, telling);
 }
 
 void frmTIDE::put(const TideChoice& choice)
@@ -253,8 +254,10 @@ void frmTIDE::showPrediction(const TidePrediction& prediction)
     setNotice("saved", {});
     m_lblTD->setText(QString::fromStdString(prediction.lblTD));
     m_lblTideInfo->setText(QString::fromStdString(prediction.lblTideInfo));
-    for (std::size_t i = 0; i < m_lblCuDirection.size(); ++i)
+    for (std::size_t i = 0; i < m_lblCuDirection.size(); ++i) {
         m_lblCuDirection[i]->setText(QString::fromStdString(prediction.lblCuDirection[i]));
+        m_lblCuDirection[i]->setVisible(prediction.kind == TideKind::Stream);
+    }
     showStation();
     m_picTIDE->showPrediction(prediction);
 }

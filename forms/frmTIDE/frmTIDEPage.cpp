@@ -14,7 +14,7 @@ namespace
 
 // The page is laid out in units of a thousandth of its width, whatever the paper and the printer.
 constexpr double pageWidth = 1000;
-constexpr int textSize = 15;
+constexpr int textSize = 17;
 constexpr int headingSize = 26;
 constexpr int tableColumns = 7; // of seven half hours each: 49 values
 
@@ -29,6 +29,14 @@ QFont pageFont(const QPainter& painter, int size, bool bold = false)
 QString text(const std::string& value)
 {
     return QString::fromStdString(value);
+}
+
+/// A value of the table. One that rounds to 0 has no sign: neither flood nor ebb.
+std::string valueText(double value, TideKind kind)
+{
+    const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
+    return figures.find_first_of("123456789") == figures.npos ? figures.substr(figures.find('0'))
+                                                              : figures;
 }
 
 double lineOf(const QPainter& painter)
@@ -107,9 +115,8 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
         const QRectF cell(column * width, top + row * height, width * 0.8, height);
         const std::string time = Format(i / 2, "00") + (i % 2 == 0 ? ":00" : ":30");
         painter.drawText(cell, Qt::AlignLeft, text(time));
-        painter.drawText(
-            cell, Qt::AlignRight,
-            text(Format(prediction.values[static_cast<std::size_t>(i)], tide ? "0.00" : "0.0")));
+        const double value = prediction.values[static_cast<std::size_t>(i)];
+        painter.drawText(cell, Qt::AlignRight, text(valueText(value, prediction.kind)));
     }
     painter.setPen(QPen(Qt::gray, 0.5));
     for (int column = 1; column < tableColumns; ++column) {
