@@ -21,8 +21,4 @@ struct StationLines {
 StationLines describeStation(const TidePrediction& prediction,
                              const std::optional<StationNotes>& notes);
 
-/// Goes with every prediction.
-inline constexpr std::string_view notForNavigation =
-    "Not for navigation: the official tables have precedence.";
-
 } // namespace korvel

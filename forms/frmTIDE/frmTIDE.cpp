@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -54,6 +55,16 @@ frmTIDE::frmTIDE(Program& program)
     loadSettings();
     take(m_choice, Telling::Box);
     m_scrDate->setFocus();
+    fitToScreen();
+}
+
+/// A picture wants more room than a window is given by itself, and on a small screen or at a large
+/// scale there is only so much.
+void frmTIDE::fitToScreen()
+{
+    const int frame = 2 * menuBar()->sizeHint().height();
+    const QSize room = screen()->availableSize() - QSize(0, frame);
+    resize(sizeHint().boundedTo(room));
 }
 
 void frmTIDE::addControls()
@@ -62,6 +73,9 @@ void frmTIDE::addControls()
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(headLine());
     column->addWidget(figuresLine());
+    m_lblUncertainty = wrappedLabel("lblUncertainty");
+    m_lblUncertainty->hide();
+    column->addWidget(m_lblUncertainty);
     column->addWidget(pictureRow(), 1);
     m_lblStation = wrappedLabel("lblStation");
     m_lblSource = wrappedLabel("lblSource");
@@ -105,15 +119,13 @@ QWidget* frmTIDE::figuresLine()
     m_lblCuDirection = addLabels<2>("lblCuDirection");
     m_lblCuDirection[0]->setAccessibleName("Direction of the flood stream");
     m_lblCuDirection[1]->setAccessibleName("Direction of the ebb stream");
-    m_lblUncertainty = wrappedLabel("lblUncertainty");
-    m_lblUncertainty->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
     auto* line = new QWidget;
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(new QLabel("Highest, lowest"));
     row->addWidget(m_lblTideInfo);
-    row->addWidget(m_lblUncertainty, 1);
+    row->addStretch(1);
     row->addWidget(m_lblCuDirection[0]);
     row->addWidget(m_lblCuDirection[1]);
     return line;
@@ -269,8 +281,8 @@ void frmTIDE::showStation()
         m_choice.TideMode ? readStationNotes(folderOf(program()), m_choice.lblPlace) : std::nullopt;
     m_lines = describeStation(*m_shown, notes);
     m_lblUncertainty->setText(QString::fromStdString(m_lines.uncertainty));
-    m_lblStation->setText(QString::fromStdString(m_lines.station) + ".  " +
-                          shown(notForNavigation));
+    m_lblUncertainty->setVisible(!m_lines.uncertainty.empty());
+    m_lblStation->setText(QString::fromStdString(m_lines.station) + ".  Not for navigation.");
     m_lblSource->setText(QString::fromStdString(m_lines.source));
 }
 

@@ -31,6 +31,7 @@ private:
     enum class Telling { Box, Line };
 
     void addControls();
+    void fitToScreen();
     QWidget* headLine();
     QWidget* figuresLine();
     QWidget* pictureRow();

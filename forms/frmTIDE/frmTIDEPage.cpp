@@ -128,9 +128,10 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
 
 QString frmTIDEPage::footText() const
 {
-    const std::string warning(notForNavigation);
-    return text(warning + "\n" + lines.source + "\nHalf-hourly prediction from four harmonic " +
-                "constituents and two shallow-water terms, " + programTitle + ".");
+    return text("Not for navigation: the official tables have precedence.\n" + lines.source +
+                "\nHalf-hourly prediction from four harmonic constituents and two shallow-water "
+                "terms, " +
+                programTitle + ".");
 }
 
 double frmTIDEPage::footHeight(const QPainter& painter) const

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace korvel
 {
@@ -79,13 +80,23 @@ void frmTIDEPicture::placeLabels()
         label->adjustSize();
         const QPointF at = toPixel(0, m_picture.lblHeight[i].top);
         label->move(static_cast<int>(at.x()) - gap - label->width(), qRound(at.y()));
-        label->setVisible(m_picture.lblHeight[i].top <= m_picture.scale.top);
+        label->setVisible(isLabelled(m_picture.lblHeight[i].top));
     }
     for (std::size_t i = 0; i < m_lblTime.size(); ++i) {
         m_lblTime[i]->adjustSize();
         m_lblTime[i]->move(toPixel(m_picture.lblTime[i].left, m_picture.lblTime[i].top).toPoint());
         m_lblTime[i]->show();
     }
+}
+
+/// Levels outside the scale lie outside the picture; where great tides meet a small window only
+/// every second or third one is written.
+bool frmTIDEPicture::isLabelled(double level) const
+{
+    if (level > m_picture.scale.top) return false;
+    const double unit = toPixel(0, 0).y() - toPixel(0, 1).y();
+    const double every = std::ceil(fontMetrics().height() / std::max(unit, 1.0));
+    return std::fmod(level, every) == 0;
 }
 
 void frmTIDEPicture::readAt(std::optional<double> hour)
@@ -256,6 +267,7 @@ void frmTIDEPicture::drawFurtherLevels(QPainter& painter, const ColourScheme& co
     painter.setPen(colours.ink);
     const double gap = fontMetrics().horizontalAdvance(' ');
     for (const HeightLabel& level : m_picture.furtherLevels) {
+        if (!isLabelled(level.top)) continue;
         const QPointF at = toPixel(0, level.top);
         painter.drawText(QRectF(0, at.y(), at.x() - gap, fontMetrics().height()),
                          Qt::AlignRight | Qt::AlignTop, QString::fromStdString(level.caption));
@@ -268,7 +280,7 @@ void frmTIDEPicture::drawAxisTexts(QPainter& painter, const ColourScheme& colour
     const double gap = fontMetrics().horizontalAdvance(' ');
     const double line = fontMetrics().height();
     for (const HeightLabel& label : m_picture.lblHeight) {
-        if (label.top > m_picture.scale.top) continue;
+        if (!isLabelled(label.top)) continue;
         const QPointF at = toPixel(0, label.top);
         painter.drawText(QRectF(0, at.y(), at.x() - gap, line), Qt::AlignRight | Qt::AlignTop,
                          QString::fromStdString(label.caption));

@@ -40,6 +40,7 @@ protected:
 private:
     void addAxisLabels();
     void placeLabels();
+    bool isLabelled(double level) const;
     void placeReading();
     void readAt(std::optional<double> hour);
 
