@@ -8,6 +8,7 @@
 #include "forms/frmCDDR/frmCDDR.h"
 #include "forms/frmCRUDE/frmCRUDE.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
+#include "forms/frmTIDE/frmTIDE.h"
 #include "forms/frmWeather/frmWeather.h"
 
 #include <QApplication>
@@ -36,6 +37,7 @@ std::vector<korvel::WindowFactory> calculatorWindows()
         window<korvel::frmArea>("frmArea"),
         window<korvel::frmWeight>("frmWeight"),
         window<korvel::frmPressure>("frmPressure"),
+        window<korvel::frmTIDE>("frmTIDE"),
     };
     // clang-format on
 }

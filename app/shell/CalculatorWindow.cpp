@@ -18,6 +18,12 @@
 
 namespace korvel
 {
+namespace
+{
+
+constexpr QMarginsF pageMargins(15, 15, 15, 15); // millimetres
+
+} // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
     : m_program(program), m_body(new QWidget), m_notice(new QLabel)
@@ -308,8 +314,20 @@ void CalculatorWindow::addLinksMenu(const QString& array)
 
 void CalculatorWindow::printForm()
 {
+    printPage([this](QPainter& painter, const QRect& room) {
+        QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
+        const double scale =
+            std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
+        painter.scale(scale, scale);
+        page->render(&painter);
+    });
+}
+
+void CalculatorWindow::printPage(const std::function<void(QPainter&, const QRect&)>& draw)
+{
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(windowTitle());
+    printer.setPageMargins(pageMargins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
     QPainter painter;
@@ -317,12 +335,7 @@ void CalculatorWindow::printForm()
         m_program.questions().ask({"The printer cannot be used.", programTitle, Buttons::Ok});
         return;
     }
-    QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
-    const QRect room = painter.viewport();
-    const double scale =
-        std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
-    painter.scale(scale, scale);
-    page->render(&painter);
+    draw(painter, painter.viewport());
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event)

@@ -16,6 +16,7 @@
 
 class QGridLayout;
 class QMenu;
+class QPainter;
 
 namespace korvel
 {
@@ -149,6 +150,9 @@ protected:
 
     /// Prints the window as it stands, through the system's print dialog.
     void printForm();
+    /// Prints a page of the window's own making, through the system's print dialog.
+    /// @param draw gets a painter in device pixels and the room of the page in them
+    void printPage(const std::function<void(QPainter&, const QRect&)>& draw);
 
     /// The area for the window's own controls, above the notice line.
     QWidget* body() const { return m_body; }

@@ -47,6 +47,8 @@ ColourScheme ColourScheme::day()
     scheme.secondary = "#b0560a";
     scheme.tertiary = "#1d7a3c";
     scheme.marker = "#a01050";
+    scheme.curve = Qt::black;
+    scheme.datum = QColor(32, 8, 2); // 133152 as red + 256 green + 65536 blue
     return scheme;
 }
 
@@ -70,6 +72,8 @@ ColourScheme ColourScheme::night()
     scheme.secondary = "#c4683a";
     scheme.tertiary = "#8f9a55";
     scheme.marker = "#ff7a4d";
+    scheme.curve = "#ffb066";
+    scheme.datum = "#c98b5e";
     return scheme;
 }
 
