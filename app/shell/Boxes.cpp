@@ -126,6 +126,8 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
+    // A blank result keeps its height, so that nothing moves while the officer types.
+    setMinimumHeight(QFontMetrics(larger).height());
 }
 
 void ResultLabel::keyPressEvent(QKeyEvent* event)
