@@ -5,7 +5,9 @@
 #include "app/shell/frmKORVEL2000.h"
 #include "app/shell/frmKORVELstart.h"
 #include "forms/frmCDDR/frmCDDR.h"
+#include "forms/frmETA/frmETA.h"
 #include "forms/frmGC2000/frmGC2000.h"
+#include "forms/frmWind/frmWind.h"
 
 #include <QApplication>
 
@@ -23,6 +25,8 @@ std::vector<korvel::WindowFactory> calculatorWindows()
     return {
         window<korvel::frmCDDR>("frmCDDR"),
         window<korvel::frmGC2000>("frmGC2000"),
+        window<korvel::frmETA>("frmETA"),
+        window<korvel::frmWind>("frmWind"),
     };
 }
 

@@ -135,6 +135,8 @@ void CalculatorWindow::showEvent(QShowEvent* event)
         const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
         resize(sizeHint().boundedTo(room));
     }
+    // The box that the window opens with gets its focus from the screen, not from the officer.
+    if (auto* box = qobject_cast<QLineEdit*>(focusWidget())) box->selectAll();
     QMainWindow::showEvent(event);
 }
 

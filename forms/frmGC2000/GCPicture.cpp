@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/GCPicture.h"
 
+#include "app/shell/Legend.h"
+
 #include <QLineF>
 
 #include <cmath>
@@ -32,9 +34,9 @@ GCPicture::GCPicture(Program& program) : m_program(program), m_unit(QFontMetrics
     setPlotMargins({metrics.horizontalAdvance("00°N") + gap, metrics.height() + gap,
                     metrics.horizontalAdvance("000°W") / 2, metrics.height() + gap});
     // The legend in one line, and a chart that still shows a curve.
-    setMinimumSize(metrics.horizontalAdvance("Departure Arrival Waypoint Great circle Rhumb line") +
-                       14 * metrics.height(),
-                   12 * metrics.height());
+    const int legend =
+        Legend::width(metrics, "Departure Waypoint Arrival Great circle Rhumb line", 2, 3);
+    setMinimumSize(legend + 3 * metrics.height(), 12 * metrics.height());
     draw = [this](QPainter& painter) { paint(painter); };
 }
 
@@ -199,30 +201,16 @@ void GCPicture::drawEdges(QPainter& painter) const
 
 void GCPicture::drawLegend(QPainter& painter) const
 {
-    const double middle = plotArea().top() / 2;
-    double x = plotArea().left();
-    const auto text = [&](const QString& words) {
-        painter.setPen(palette().color(QPalette::WindowText));
-        const double wide = QFontMetricsF(painter.font()).horizontalAdvance(words);
-        painter.drawText(QRectF(x, middle - m_unit / 2, wide + 1, m_unit), Qt::AlignVCenter, words);
-        x += wide + m_unit;
-    };
+    Legend legend(painter, {plotArea().left(), plotArea().top() / 2},
+                  palette().color(QPalette::WindowText));
     const auto mark = [&](Mark kind, const QString& words) {
-        drawMark(painter, {x + m_unit / 2, middle}, kind);
-        x += 1.2 * m_unit;
-        text(words);
-    };
-    const auto line = [&](const QPen& look, const QString& words) {
-        painter.setPen(look);
-        painter.drawLine(QPointF(x, middle), {x + 2 * m_unit, middle});
-        x += 2.4 * m_unit;
-        text(words);
+        legend.mark([&](QPointF at) { drawMark(painter, at, kind); }, words);
     };
     mark(Mark::Departure, "Departure");
     mark(Mark::Waypoint, "Waypoint");
     mark(Mark::Arrival, "Arrival");
-    line(pen(colours().route, thick), "Great circle");
-    line(rhumbPen(), "Rhumb line");
+    legend.line(pen(colours().route, thick), "Great circle");
+    legend.line(rhumbPen(), "Rhumb line");
 }
 
 } // namespace korvel
