@@ -7,9 +7,12 @@
 #include "forms/conversion/ConversionWindow.h"
 #include "forms/frmCDDR/frmCDDR.h"
 #include "forms/frmCRUDE/frmCRUDE.h"
+#include "forms/frmETA/frmETA.h"
+#include "forms/frmGC2000/frmGC2000.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 #include "forms/frmTIDE/frmTIDE.h"
 #include "forms/frmWeather/frmWeather.h"
+#include "forms/frmWind/frmWind.h"
 
 #include <QApplication>
 
@@ -29,7 +32,10 @@ std::vector<korvel::WindowFactory> calculatorWindows()
     // clang-format off
     return {
         window<korvel::frmCDDR>("frmCDDR"),
+        window<korvel::frmGC2000>("frmGC2000"),
         window<korvel::frmPositionRecord>("frmPositionRecord"),
+        window<korvel::frmETA>("frmETA"),
+        window<korvel::frmWind>("frmWind"),
         window<korvel::frmWeather>("frmWeather"),
         window<korvel::frmCRUDE>("frmCRUDE"),
         window<korvel::frmLength>("frmLength"),

@@ -23,6 +23,13 @@ namespace
 
 constexpr QMarginsF pageMargins(15, 15, 15, 15); // millimetres
 
+void tint(QWidget* widget, const QColor& colour)
+{
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    widget->setPalette(palette);
+}
+
 } // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
@@ -180,6 +187,20 @@ void CalculatorWindow::calculateAll()
         calculate(static_cast<int>(i));
 }
 
+void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
+{
+    for (QLabel* label : labels) {
+        if (dimmed == (m_dimmed.count(label) > 0)) continue;
+        if (dimmed) {
+            m_dimmed.insert(label);
+            tint(label, m_program.colours().dimmed);
+        } else {
+            m_dimmed.erase(label);
+            label->setPalette(QPalette());
+        }
+    }
+}
+
 void CalculatorWindow::setNotice(const QString& key, const QString& text)
 {
     if (text.isEmpty())
@@ -256,11 +277,12 @@ QMenu* CalculatorWindow::memoMenu(QMenu*& menu, const QString& caption, const QS
     return menu;
 }
 
-void CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
-                                    const QString& caption, std::function<void()> action)
+QAction* CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                                        const QString& caption, std::function<void()> action)
 {
     QMenu* into = memoMenu(menu, title, array);
-    addEntry(into, array, static_cast<int>(into->actions().size()), caption, std::move(action));
+    return addEntry(into, array, static_cast<int>(into->actions().size()), caption,
+                    std::move(action));
 }
 
 void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
@@ -270,20 +292,23 @@ void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
     });
 }
 
-void CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
+QAction* CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
 {
-    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
-                 [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
-                     program().actions().storePosition(latitude(), longitude());
-                 });
+    return addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
+                        [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
+                            program().actions().storePosition(latitude(), longitude());
+                        });
 }
 
 void CalculatorWindow::addRecallSingle(const QString& caption, QLineEdit* box)
 {
-    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] {
-        if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
-            box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
-    });
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] { recallSingle(box); });
+}
+
+void CalculatorWindow::recallSingle(QLineEdit* box)
+{
+    if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
+        box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
 }
 
 void CalculatorWindow::addRecallPosition(const QString& caption, QLineEdit* latitude,
@@ -348,14 +373,11 @@ void CalculatorWindow::closeEvent(QCloseEvent* event)
 void CalculatorWindow::applyColours()
 {
     const ColourScheme& colours = m_program.colours();
-    const auto tint = [](QWidget* widget, const QColor& colour) {
-        QPalette palette = widget->palette();
-        palette.setColor(QPalette::WindowText, colour);
-        widget->setPalette(palette);
-    };
     tint(m_notice, colours.notice);
     for (QLabel* label : m_body->findChildren<QLabel*>())
         if (label->objectName().startsWith("echo ")) tint(label, colours.echo);
+    for (QLabel* label : m_dimmed)
+        tint(label, colours.dimmed);
 }
 
 } // namespace korvel

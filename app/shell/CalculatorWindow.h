@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -112,6 +113,9 @@ protected:
     void calculate(int number);
     void calculateAll();
 
+    /// Shows results dimmed while they do not belong to the inputs any more.
+    void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
+
     /// Says something in the notice line under a key of the caller's; an empty text takes it back.
     void setNotice(const QString& key, const QString& text);
 
@@ -137,8 +141,10 @@ protected:
 
     using Text = std::function<std::string()>;
     void addStoreSingle(const QString& caption, Text value);
-    void addStorePosition(const QString& caption, Text latitude, Text longitude);
+    QAction* addStorePosition(const QString& caption, Text latitude, Text longitude);
     void addRecallSingle(const QString& caption, QLineEdit* box);
+    /// What a recall entry does: asks and fills the box on Yes.
+    void recallSingle(QLineEdit* box);
     void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);
 
     /// The same for boxes that are chosen when the entry is: those of the row with the focus.
@@ -164,13 +170,14 @@ protected:
 
 private:
     QMenu* memoMenu(QMenu*& menu, const QString& caption, const QString& name);
-    void addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
-                      const QString& caption, std::function<void()> action);
+    QAction* addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                          const QString& caption, std::function<void()> action);
 
     Program& m_program;
     QWidget* m_body;
     QLabel* m_notice;
     std::map<QString, QString> m_notices;
+    std::set<QLabel*> m_dimmed;
     std::vector<Calculation> m_calculations;
     std::unique_ptr<SettingsFile> m_settings;
     Save m_save;
