@@ -34,6 +34,14 @@ void EntryBox::focusInEvent(QFocusEvent* event)
         selectAll();
 }
 
+void EntryBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (onLeave && event->reason() != Qt::PopupFocusReason &&
+        event->reason() != Qt::ActiveWindowFocusReason)
+        onLeave();
+}
+
 void EntryBox::mousePressEvent(QMouseEvent* event)
 {
     // The click that brings the focus selects all; its own cursor placement would undo that.
@@ -63,6 +71,45 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
         m_next->setFocus(Qt::TabFocusReason);
     else
         selectAll();
+}
+
+KeyUpBox::KeyUpBox(QWidget* parent) : EntryBox(parent)
+{
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!m_keyGoingDown) settle();
+    });
+}
+
+void KeyUpBox::fill(const QString& text)
+{
+    m_held = text;
+    setText(text);
+}
+
+void KeyUpBox::keyPressEvent(QKeyEvent* event)
+{
+    m_keyGoingDown = true;
+    EntryBox::keyPressEvent(event);
+    m_keyGoingDown = false;
+}
+
+void KeyUpBox::keyReleaseEvent(QKeyEvent* event)
+{
+    EntryBox::keyReleaseEvent(event);
+    settle();
+}
+
+void KeyUpBox::focusOutEvent(QFocusEvent* event)
+{
+    settle(); // a key may be released in the next box
+    EntryBox::focusOutEvent(event);
+}
+
+void KeyUpBox::settle()
+{
+    if (text() == m_held) return;
+    m_held = text();
+    if (onKeyUp) onKeyUp();
 }
 
 void setEntryOrder(const std::vector<EntryBox*>& boxes)

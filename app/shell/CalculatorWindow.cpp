@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/CalculatorWindow.h"
 
+#include "app/shell/FollowingScrollArea.h"
 #include "navlib/arithmetic_error.h"
 
 #include <QAction>
@@ -11,6 +12,8 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -54,6 +57,14 @@ EntryBox* CalculatorWindow::addTextBox(const QString& name, const QString& acces
     return box;
 }
 
+KeyUpBox* CalculatorWindow::addKeyUpBox(const QString& name, const QString& accessibleName)
+{
+    auto* box = new KeyUpBox(m_body);
+    box->setObjectName(name);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
 PositionBox* CalculatorWindow::addPositionBox(const QString& name, Axis axis,
                                               const QString& accessibleName)
 {
@@ -88,6 +99,34 @@ void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& c
     grid->addWidget(new QLabel(unit), row, 2, 1, -1);
 }
 
+QWidget* CalculatorWindow::scrollBody()
+{
+    auto* content = new QWidget;
+    setScrollArea(new FollowingScrollArea(content));
+    return content;
+}
+
+void CalculatorWindow::setScrollArea(FollowingScrollArea* area)
+{
+    m_scrollArea = area;
+    auto* column = new QVBoxLayout(m_body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(area);
+}
+
+void CalculatorWindow::showEvent(QShowEvent* event)
+{
+    // The toolkit gives a new window two thirds of the screen at most; a window that can scroll
+    // would take that where all of it could be shown.
+    if (m_scrollArea && !m_fitted) {
+        m_fitted = true; // once; afterwards the officer's size holds
+        const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+        const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
+        resize(sizeHint().boundedTo(room));
+    }
+    QMainWindow::showEvent(event);
+}
+
 void CalculatorWindow::addBelow(QWidget* widget)
 {
     auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
@@ -97,10 +136,15 @@ void CalculatorWindow::addBelow(QWidget* widget)
 int CalculatorWindow::addCalculation(Calculation calculation)
 {
     const int number = static_cast<int>(m_calculations.size());
-    for (QLineEdit* box : calculation.inputs)
-        connect(box, &QLineEdit::textChanged, this, [this, number] {
-            if (!m_loading) calculate(number);
-        });
+    const auto run = [this, number] {
+        if (!m_loading) calculate(number);
+    };
+    for (QLineEdit* box : calculation.inputs) {
+        if (auto* keyUp = dynamic_cast<KeyUpBox*>(box))
+            keyUp->onKeyUp = run;
+        else
+            connect(box, &QLineEdit::textChanged, this, run);
+    }
     m_calculations.push_back(std::move(calculation));
     return number;
 }
@@ -234,8 +278,14 @@ void CalculatorWindow::addRecallSingle(const QString& caption, QLineEdit* box)
 void CalculatorWindow::addRecallPosition(const QString& caption, QLineEdit* latitude,
                                          QLineEdit* longitude)
 {
-    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, latitude, longitude] {
+    addRecallPosition(caption, [=] { return std::pair(latitude, longitude); });
+}
+
+void CalculatorWindow::addRecallPosition(const QString& caption, PositionBoxes boxes)
+{
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, boxes = std::move(boxes)] {
         if (program().actions().ConfirmMemoRecall("PsnM") != "Yes") return;
+        const auto [latitude, longitude] = boxes();
         latitude->setText(QString::fromStdString(memoText(program().saved().memoLatitude())));
         longitude->setText(QString::fromStdString(memoText(program().saved().memoLongitude())));
     });
@@ -262,7 +312,7 @@ void CalculatorWindow::printForm()
         m_program.questions().ask({"The printer cannot be used.", programTitle, Buttons::Ok});
         return;
     }
-    QWidget* page = centralWidget();
+    QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
     const QRect room = painter.viewport();
     const double scale =
         std::min(double(room.width()) / page->width(), double(room.height()) / page->height());

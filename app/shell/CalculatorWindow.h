@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
 class QGridLayout;
@@ -18,6 +19,8 @@ class QMenu;
 
 namespace korvel
 {
+
+class FollowingScrollArea;
 
 /// What repeats in every calculator window: its settings file, boxes and labels with their names,
 /// calculations at every change, the notice line at the foot, the memo menus, links to the other
@@ -53,6 +56,8 @@ protected:
         return boxes;
     }
     EntryBox* addTextBox(const QString& name, const QString& accessibleName);
+    /// A text box that calculates when a key is released.
+    KeyUpBox* addKeyUpBox(const QString& name, const QString& accessibleName);
     PositionBox* addPositionBox(const QString& name, Axis axis, const QString& accessibleName);
 
     /// Result labels name(0) .. name(N - 1).
@@ -82,6 +87,10 @@ protected:
                             const QString& unit);
     static void addResultRow(QGridLayout* grid, int row, const QString& caption, ResultLabel* label,
                              const QString& unit);
+    /// Makes the body scroll where the screen is too small for it. @return what takes the controls
+    QWidget* scrollBody();
+    /// Puts a scroll area of the window's own into the body.
+    void setScrollArea(FollowingScrollArea* area);
     /// Puts a row of controls between the body and the notice line.
     void addBelow(QWidget* widget);
 
@@ -90,7 +99,8 @@ protected:
     /// A calculation of the window: what makes it run and what it fills.
     struct Calculation {
         QString title;                  ///< how the notice line calls it
-        std::vector<QLineEdit*> inputs; ///< every change of one of these runs it
+        std::vector<QLineEdit*> inputs; ///< every change of one of these runs it, in a
+                                        ///< KeyUpBox every key released
         std::vector<QLabel*> results;   ///< blanked when it ends in an arithmetic error
         std::function<void()> run;
     };
@@ -129,6 +139,10 @@ protected:
     void addRecallSingle(const QString& caption, QLineEdit* box);
     void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);
 
+    /// The same for boxes that are chosen when the entry is: those of the row with the focus.
+    using PositionBoxes = std::function<std::pair<QLineEdit*, QLineEdit*>()>;
+    void addRecallPosition(const QString& caption, PositionBoxes boxes);
+
     /// A menu array that opens the other windows of the program.
     void addLinksMenu(const QString& array);
 
@@ -139,6 +153,7 @@ protected:
     QWidget* body() const { return m_body; }
 
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     /// Applies the colour scheme to controls with colours of their own; call the base first.
     virtual void applyColours();
 
@@ -156,6 +171,8 @@ private:
     Save m_save;
     Load m_load;
     bool m_loading = false;
+    FollowingScrollArea* m_scrollArea = nullptr;
+    bool m_fitted = false;
     QMenu* m_mnuMemo = nullptr;
     QMenu* m_mnuRem = nullptr;
 };
