@@ -5,6 +5,7 @@
 #include "app/shell/frmKORVEL2000.h"
 #include "app/shell/frmKORVELstart.h"
 #include "forms/frmCDDR/frmCDDR.h"
+#include "forms/frmSunMoon/frmSunMoon.h"
 
 #include <QApplication>
 
@@ -21,6 +22,7 @@ std::vector<korvel::WindowFactory> calculatorWindows()
 {
     return {
         window<korvel::frmCDDR>("frmCDDR"),
+        window<korvel::frmSunMoon>("frmSunMoon"),
     };
 }
 

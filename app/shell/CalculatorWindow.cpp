@@ -224,6 +224,19 @@ void CalculatorWindow::saveSettingsNow()
         setNotice("save", QString::fromStdString(m_settings->saveQuietly(m_save())));
 }
 
+void CalculatorWindow::saveSettingsSoon()
+{
+    if (m_savingSoon) return;
+    m_savingSoon = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_savingSoon = false;
+            saveSettingsNow();
+        },
+        Qt::QueuedConnection);
+}
+
 QMenu* CalculatorWindow::addMenu(const QString& caption, const QString& name)
 {
     QMenu* menu = menuBar()->addMenu(caption);

@@ -126,6 +126,9 @@ protected:
     bool isLoading() const { return m_loading; }
     /// Writes the file while the window stays open; a fault goes to the notice line.
     void saveSettingsNow();
+    /// The same when the present user action is over: however often it is called meanwhile, the
+    /// file is written once.
+    void saveSettingsSoon();
 
     // Menus. Indices count from 0 in the order of the calls.
 
@@ -171,6 +174,7 @@ private:
     Save m_save;
     Load m_load;
     bool m_loading = false;
+    bool m_savingSoon = false;
     FollowingScrollArea* m_scrollArea = nullptr;
     bool m_fitted = false;
     QMenu* m_mnuMemo = nullptr;
