@@ -37,6 +37,13 @@ std::string localTime(DateTime time)
     return Format(time, "hhmm") + "LT";
 }
 
+/// A refined time: an event at midnight must not look like the mark of a missing one.
+std::string refinedText(DateTime time)
+{
+    const std::string text = localTime(time);
+    return text == "0000LT" ? text + " (at midnight)" : text;
+}
+
 std::string azimuthText(Degrees azimuth)
 {
     return Format(azimuth, "<000.0>");
@@ -124,7 +131,7 @@ private:
                         std::optional<DateTime> refined)
     {
         std::string sentence = std::string(event.name) + " cannot be computed (" + fault + ")";
-        if (refined) sentence += ", refined search " + localTime(*refined);
+        if (refined) sentence += ", refined search " + refinedText(*refined);
         m_notice.add(sentence);
         return {"", sentence, false, {}};
     }
@@ -140,9 +147,9 @@ private:
             label.doubtful = true;
             m_notice.add(name + " refined: none on this date");
         } else if (found == 0 || std::fabs(found - *refined) * 1440 > event.worthTelling) {
-            label.tip = "Refined time of " + name + ": " + localTime(*refined);
+            label.tip = "Refined time of " + name + ": " + refinedText(*refined);
             label.doubtful = true;
-            m_notice.add(name + " refined " + localTime(*refined));
+            m_notice.add(name + " refined " + refinedText(*refined));
         } else if (label.text == "0000LT") {
             label.tip = "At midnight";
         }

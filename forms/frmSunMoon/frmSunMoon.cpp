@@ -185,19 +185,19 @@ QWidget* frmSunMoon::heading()
     auto* line = new QWidget(body());
     auto* grid = new QGridLayout(line);
     setColumns(grid, *line);
-    const auto add = [&](int column, const char* caption, Qt::Alignment side, int span = 1) {
+    const auto add = [&](int column, const char* caption, Qt::Alignment side) {
         auto* label = new QLabel(caption);
         label->setAlignment(side | Qt::AlignBottom);
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        grid->addWidget(label, 0, column, 1, span);
+        grid->addWidget(label, 0, column);
     };
-    // A column without anything in it would lose its spacing too.
-    for (int column : {Number, Latitude, LatitudeEcho, Longitude, LongitudeEcho})
-        add(column, "", Qt::AlignLeft);
+    add(Number, "", Qt::AlignLeft); // without anything in it the column would lose its spacing
     add(Place, "Place", Qt::AlignLeft);
     add(TD, "TD\nhours", Qt::AlignLeft);
-    add(Latitude, "Latitude\ndeg.min, north +", Qt::AlignLeft, 2);
-    add(Longitude, "Longitude\ndeg.min, east +", Qt::AlignLeft, 2);
+    add(Latitude, "Latitude\ndeg.min", Qt::AlignLeft);
+    add(LatitudeEcho, "north +", Qt::AlignLeft);
+    add(Longitude, "Longitude\ndeg.min", Qt::AlignLeft);
+    add(LongitudeEcho, "east +", Qt::AlignLeft);
     for (std::size_t i = 0; i < columns.size(); ++i)
         add(columnOf(i), columns[i].heading, Qt::AlignRight);
     return line;
