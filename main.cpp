@@ -6,6 +6,7 @@
 #include "app/shell/frmKORVELstart.h"
 #include "forms/frmCDDR/frmCDDR.h"
 #include "forms/frmSunMoon/frmSunMoon.h"
+#include "forms/frmSunSight/frmSunSight.h"
 
 #include <QApplication>
 
@@ -23,6 +24,7 @@ std::vector<korvel::WindowFactory> calculatorWindows()
     return {
         window<korvel::frmCDDR>("frmCDDR"),
         window<korvel::frmSunMoon>("frmSunMoon"),
+        window<korvel::frmSunSight>("frmSunSight"),
     };
 }
 
