@@ -23,15 +23,25 @@ QString memberName(const QString& array, int index)
     return QString("%1(%2)").arg(array).arg(index);
 }
 
-EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {}
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
+{
+    setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
+}
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
     m_focusedByMouse = event->reason() == Qt::MouseFocusReason;
-    // Coming back from a menu or from another program goes on where the typing was.
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        selectAll();
+    // A context menu that closes must not undo what was selected for it.
+    if (event->reason() != Qt::PopupFocusReason) selectAll();
+}
+
+void EntryBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    if (onLeave && event->reason() != Qt::PopupFocusReason &&
+        event->reason() != Qt::ActiveWindowFocusReason)
+        onLeave();
 }
 
 void EntryBox::mousePressEvent(QMouseEvent* event)
@@ -65,6 +75,45 @@ void EntryBox::keyPressEvent(QKeyEvent* event)
         selectAll();
 }
 
+KeyUpBox::KeyUpBox(QWidget* parent) : EntryBox(parent)
+{
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!m_keyGoingDown) settle();
+    });
+}
+
+void KeyUpBox::fill(const QString& text)
+{
+    m_held = text;
+    setText(text);
+}
+
+void KeyUpBox::keyPressEvent(QKeyEvent* event)
+{
+    m_keyGoingDown = true;
+    EntryBox::keyPressEvent(event);
+    m_keyGoingDown = false;
+}
+
+void KeyUpBox::keyReleaseEvent(QKeyEvent* event)
+{
+    EntryBox::keyReleaseEvent(event);
+    settle();
+}
+
+void KeyUpBox::focusOutEvent(QFocusEvent* event)
+{
+    settle(); // a key may be released in the next box
+    EntryBox::focusOutEvent(event);
+}
+
+void KeyUpBox::settle()
+{
+    if (text() == m_held) return;
+    m_held = text();
+    if (onKeyUp) onKeyUp();
+}
+
 void setEntryOrder(const std::vector<EntryBox*>& boxes)
 {
     for (std::size_t i = 0; i < boxes.size(); ++i)
@@ -79,6 +128,7 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
+    setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
 }
 
 void ResultLabel::keyPressEvent(QKeyEvent* event)
@@ -130,7 +180,7 @@ void PositionBox::showEcho()
         hint += m_remark;
     }
     const QString full = QString::fromStdString(echo.text);
-    m_echo->setText(hint.isEmpty() ? full : full + " (" + hint + ")");
+    m_echo->setText(hint.isEmpty() || m_hintsInToolTip ? full : full + " (" + hint + ")");
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

@@ -29,9 +29,13 @@ public:
 
     /// What Enter does on top, before it moves on.
     std::function<void()> onEnter;
+    /// What is done with the text when the focus has gone to another control of the program; a look
+    /// into a menu or another program leaves a half-typed text alone.
+    std::function<void()> onLeave;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -39,6 +43,31 @@ protected:
 private:
     EntryBox* m_next = nullptr;
     bool m_focusedByMouse = false;
+};
+
+/// A text box whose calculation runs when a key is released, not while it goes down. Text that
+/// comes without a key (recalled, pasted by mouse, from an input method) counts at once.
+class KeyUpBox : public EntryBox
+{
+public:
+    explicit KeyUpBox(QWidget* parent = nullptr);
+
+    /// Called when the text differs from what the box last held.
+    std::function<void()> onKeyUp;
+
+    /// Shows a text that is a result of the window's own and starts nothing.
+    void fill(const QString& text);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void settle();
+
+    QString m_held;
+    bool m_keyGoingDown = false;
 };
 
 /// Lets Enter go through the boxes in this order, from the last back to the first.
@@ -72,6 +101,9 @@ public:
     /// the box; it belongs to the same parent.
     QLabel* echo() const { return m_echo; }
 
+    /// Leaves the hint to the tool tip, where a table has no room for it beside the value.
+    void setHintsInToolTip() { m_hintsInToolTip = true; }
+
     /// Makes a latitude and a longitude box one position.
     static void pair(PositionBox* latitude, PositionBox* longitude);
 
@@ -90,6 +122,7 @@ private:
 
     Axis m_axis;
     PositionBox* m_partner = nullptr;
+    bool m_hintsInToolTip = false;
     ResultLabel* m_echo;
     QString m_remark;     ///< how a pasted text was taken
     QString m_remarkedAt; ///< the box text that the remark belongs to

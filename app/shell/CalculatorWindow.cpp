@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/CalculatorWindow.h"
 
+#include "app/shell/FollowingScrollArea.h"
 #include "navlib/arithmetic_error.h"
 
 #include <QAction>
@@ -11,6 +12,8 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -19,6 +22,13 @@ namespace
 {
 
 constexpr QMarginsF pageMargins(15, 15, 15, 15); // millimetres
+
+void tint(QWidget* widget, const QColor& colour)
+{
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    widget->setPalette(palette);
+}
 
 } // namespace
 
@@ -60,6 +70,14 @@ EntryBox* CalculatorWindow::addTextBox(const QString& name, const QString& acces
     return box;
 }
 
+KeyUpBox* CalculatorWindow::addKeyUpBox(const QString& name, const QString& accessibleName)
+{
+    auto* box = new KeyUpBox(m_body);
+    box->setObjectName(name);
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+
 PositionBox* CalculatorWindow::addPositionBox(const QString& name, Axis axis,
                                               const QString& accessibleName)
 {
@@ -94,6 +112,39 @@ void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& c
     grid->addWidget(new QLabel(unit), row, 2, 1, -1);
 }
 
+QWidget* CalculatorWindow::scrollBody()
+{
+    auto* content = new QWidget;
+    setScrollArea(new FollowingScrollArea(content));
+    return content;
+}
+
+void CalculatorWindow::setScrollArea(FollowingScrollArea* area)
+{
+    m_scrollArea = area;
+    auto* column = new QVBoxLayout(m_body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(area);
+}
+
+void CalculatorWindow::showEvent(QShowEvent* event)
+{
+    // The toolkit gives a new window two thirds of the screen at most; a window that can scroll
+    // would take that where all of it could be shown.
+    if (m_scrollArea && !m_fitted) {
+        m_fitted = true; // once; afterwards the officer's size holds
+        for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
+            each->invalidate(); // what they remember is from before the controls had their fonts
+        const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+        const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
+        QSize wanted = sizeHint();
+        if (wanted.width() > room.width())
+            wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        resize(wanted.boundedTo(room));
+    }
+    QMainWindow::showEvent(event);
+}
+
 void CalculatorWindow::addBelow(QWidget* widget)
 {
     auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
@@ -103,10 +154,15 @@ void CalculatorWindow::addBelow(QWidget* widget)
 int CalculatorWindow::addCalculation(Calculation calculation)
 {
     const int number = static_cast<int>(m_calculations.size());
-    for (QLineEdit* box : calculation.inputs)
-        connect(box, &QLineEdit::textChanged, this, [this, number] {
-            if (!m_loading) calculate(number);
-        });
+    const auto run = [this, number] {
+        if (!m_loading) calculate(number);
+    };
+    for (QLineEdit* box : calculation.inputs) {
+        if (auto* keyUp = dynamic_cast<KeyUpBox*>(box))
+            keyUp->onKeyUp = run;
+        else
+            connect(box, &QLineEdit::textChanged, this, run);
+    }
     m_calculations.push_back(std::move(calculation));
     return number;
 }
@@ -129,6 +185,20 @@ void CalculatorWindow::calculateAll()
 {
     for (std::size_t i = 0; i < m_calculations.size(); ++i)
         calculate(static_cast<int>(i));
+}
+
+void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
+{
+    for (QLabel* label : labels) {
+        if (dimmed == (m_dimmed.count(label) > 0)) continue;
+        if (dimmed) {
+            m_dimmed.insert(label);
+            tint(label, m_program.colours().dimmed);
+        } else {
+            m_dimmed.erase(label);
+            label->setPalette(QPalette());
+        }
+    }
 }
 
 void CalculatorWindow::setNotice(const QString& key, const QString& text)
@@ -207,11 +277,12 @@ QMenu* CalculatorWindow::memoMenu(QMenu*& menu, const QString& caption, const QS
     return menu;
 }
 
-void CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
-                                    const QString& caption, std::function<void()> action)
+QAction* CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                                        const QString& caption, std::function<void()> action)
 {
     QMenu* into = memoMenu(menu, title, array);
-    addEntry(into, array, static_cast<int>(into->actions().size()), caption, std::move(action));
+    return addEntry(into, array, static_cast<int>(into->actions().size()), caption,
+                    std::move(action));
 }
 
 void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
@@ -221,27 +292,36 @@ void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
     });
 }
 
-void CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
+QAction* CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
 {
-    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
-                 [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
-                     program().actions().storePosition(latitude(), longitude());
-                 });
+    return addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
+                        [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
+                            program().actions().storePosition(latitude(), longitude());
+                        });
 }
 
 void CalculatorWindow::addRecallSingle(const QString& caption, QLineEdit* box)
 {
-    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] {
-        if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
-            box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
-    });
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] { recallSingle(box); });
+}
+
+void CalculatorWindow::recallSingle(QLineEdit* box)
+{
+    if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
+        box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
 }
 
 void CalculatorWindow::addRecallPosition(const QString& caption, QLineEdit* latitude,
                                          QLineEdit* longitude)
 {
-    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, latitude, longitude] {
+    addRecallPosition(caption, [=] { return std::pair(latitude, longitude); });
+}
+
+void CalculatorWindow::addRecallPosition(const QString& caption, PositionBoxes boxes)
+{
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, boxes = std::move(boxes)] {
         if (program().actions().ConfirmMemoRecall("PsnM") != "Yes") return;
+        const auto [latitude, longitude] = boxes();
         latitude->setText(QString::fromStdString(memoText(program().saved().memoLatitude())));
         longitude->setText(QString::fromStdString(memoText(program().saved().memoLongitude())));
     });
@@ -260,7 +340,7 @@ void CalculatorWindow::addLinksMenu(const QString& array)
 void CalculatorWindow::printForm()
 {
     printPage([this](QPainter& painter, const QRect& room) {
-        QWidget* page = centralWidget();
+        QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
         const double scale =
             std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
         painter.scale(scale, scale);
@@ -293,14 +373,11 @@ void CalculatorWindow::closeEvent(QCloseEvent* event)
 void CalculatorWindow::applyColours()
 {
     const ColourScheme& colours = m_program.colours();
-    const auto tint = [](QWidget* widget, const QColor& colour) {
-        QPalette palette = widget->palette();
-        palette.setColor(QPalette::WindowText, colour);
-        widget->setPalette(palette);
-    };
     tint(m_notice, colours.notice);
     for (QLabel* label : m_body->findChildren<QLabel*>())
         if (label->objectName().startsWith("echo ")) tint(label, colours.echo);
+    for (QLabel* label : m_dimmed)
+        tint(label, colours.dimmed);
 }
 
 } // namespace korvel

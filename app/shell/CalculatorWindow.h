@@ -11,6 +11,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
+#include <utility>
 #include <vector>
 
 class QGridLayout;
@@ -19,6 +21,8 @@ class QPainter;
 
 namespace korvel
 {
+
+class FollowingScrollArea;
 
 /// What repeats in every calculator window: its settings file, boxes and labels with their names,
 /// calculations at every change, the notice line at the foot, the memo menus, links to the other
@@ -40,6 +44,7 @@ public:
 
 protected:
     Program& program() { return m_program; }
+    const Program& program() const { return m_program; }
 
     // Controls. They have no place yet: put them into layouts.
 
@@ -54,6 +59,8 @@ protected:
         return boxes;
     }
     EntryBox* addTextBox(const QString& name, const QString& accessibleName);
+    /// A text box that calculates when a key is released.
+    KeyUpBox* addKeyUpBox(const QString& name, const QString& accessibleName);
     PositionBox* addPositionBox(const QString& name, Axis axis, const QString& accessibleName);
 
     /// Result labels name(0) .. name(N - 1).
@@ -83,6 +90,10 @@ protected:
                             const QString& unit);
     static void addResultRow(QGridLayout* grid, int row, const QString& caption, ResultLabel* label,
                              const QString& unit);
+    /// Makes the body scroll where the screen is too small for it. @return what takes the controls
+    QWidget* scrollBody();
+    /// Puts a scroll area of the window's own into the body.
+    void setScrollArea(FollowingScrollArea* area);
     /// Puts a row of controls between the body and the notice line.
     void addBelow(QWidget* widget);
 
@@ -91,7 +102,8 @@ protected:
     /// A calculation of the window: what makes it run and what it fills.
     struct Calculation {
         QString title;                  ///< how the notice line calls it
-        std::vector<QLineEdit*> inputs; ///< every change of one of these runs it
+        std::vector<QLineEdit*> inputs; ///< every change of one of these runs it, in a
+                                        ///< KeyUpBox every key released
         std::vector<QLabel*> results;   ///< blanked when it ends in an arithmetic error
         std::function<void()> run;
     };
@@ -100,6 +112,9 @@ protected:
     int addCalculation(Calculation calculation);
     void calculate(int number);
     void calculateAll();
+
+    /// Shows results dimmed while they do not belong to the inputs any more.
+    void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
 
     /// Says something in the notice line under a key of the caller's; an empty text takes it back.
     void setNotice(const QString& key, const QString& text);
@@ -126,9 +141,15 @@ protected:
 
     using Text = std::function<std::string()>;
     void addStoreSingle(const QString& caption, Text value);
-    void addStorePosition(const QString& caption, Text latitude, Text longitude);
+    QAction* addStorePosition(const QString& caption, Text latitude, Text longitude);
     void addRecallSingle(const QString& caption, QLineEdit* box);
+    /// What a recall entry does: asks and fills the box on Yes.
+    void recallSingle(QLineEdit* box);
     void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);
+
+    /// The same for boxes that are chosen when the entry is: those of the row with the focus.
+    using PositionBoxes = std::function<std::pair<QLineEdit*, QLineEdit*>()>;
+    void addRecallPosition(const QString& caption, PositionBoxes boxes);
 
     /// A menu array that opens the other windows of the program.
     void addLinksMenu(const QString& array);
@@ -143,23 +164,27 @@ protected:
     QWidget* body() const { return m_body; }
 
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     /// Applies the colour scheme to controls with colours of their own; call the base first.
     virtual void applyColours();
 
 private:
     QMenu* memoMenu(QMenu*& menu, const QString& caption, const QString& name);
-    void addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
-                      const QString& caption, std::function<void()> action);
+    QAction* addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                          const QString& caption, std::function<void()> action);
 
     Program& m_program;
     QWidget* m_body;
     QLabel* m_notice;
     std::map<QString, QString> m_notices;
+    std::set<QLabel*> m_dimmed;
     std::vector<Calculation> m_calculations;
     std::unique_ptr<SettingsFile> m_settings;
     Save m_save;
     Load m_load;
     bool m_loading = false;
+    FollowingScrollArea* m_scrollArea = nullptr;
+    bool m_fitted = false;
     QMenu* m_mnuMemo = nullptr;
     QMenu* m_mnuRem = nullptr;
 };

@@ -57,7 +57,7 @@ ColourScheme ColourScheme::night()
     // Dim and warm: the eyes must still see the sea after a look at the screen.
     ColourScheme scheme;
     scheme.palette = paletteOf(
-        {"#15110e", "#0c0a08", "#211a15", "#2a211b", "#d9a06a", "#7a6048", "#7c3b14", "#ffd9ae"});
+        {"#15110e", "#2a2019", "#211a15", "#3a2d24", "#d9a06a", "#7a6048", "#7c3b14", "#ffd9ae"});
     scheme.clock = "#ff9a4d";
     scheme.memo = "#d9a06a";
     scheme.unit = "#c98b5e";

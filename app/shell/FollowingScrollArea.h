@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QScrollArea>
+
+namespace korvel
+{
+
+/// A scroll area that asks for as much room as its content wants, and where there is less keeps the
+/// control with the focus in sight, whatever moved the focus: Tab, Enter or a menu.
+class FollowingScrollArea : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit FollowingScrollArea(QWidget* content);
+
+    /// Puts a heading above the content. It moves sideways with it and never up.
+    void setHeading(QWidget* heading);
+
+    /// Makes it a strip: always as high as its content, scrolling sideways only.
+    void setStrip();
+
+    QSize sizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void placeHeading();
+
+    QWidget* m_heading = nullptr;
+    bool m_isStrip = false;
+};
+
+} // namespace korvel
