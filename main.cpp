@@ -10,6 +10,8 @@
 #include "forms/frmETA/frmETA.h"
 #include "forms/frmGC2000/frmGC2000.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
+#include "forms/frmSunMoon/frmSunMoon.h"
+#include "forms/frmSunSight/frmSunSight.h"
 #include "forms/frmTIDE/frmTIDE.h"
 #include "forms/frmWeather/frmWeather.h"
 #include "forms/frmWind/frmWind.h"
@@ -33,7 +35,9 @@ std::vector<korvel::WindowFactory> calculatorWindows()
     return {
         window<korvel::frmCDDR>("frmCDDR"),
         window<korvel::frmGC2000>("frmGC2000"),
+        window<korvel::frmSunMoon>("frmSunMoon"),
         window<korvel::frmPositionRecord>("frmPositionRecord"),
+        window<korvel::frmSunSight>("frmSunSight"),
         window<korvel::frmETA>("frmETA"),
         window<korvel::frmWind>("frmWind"),
         window<korvel::frmWeather>("frmWeather"),

@@ -171,6 +171,13 @@ void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
     longitude->m_partner = latitude;
 }
 
+void PositionBox::setBriefEcho()
+{
+    m_briefEcho = true;
+    m_echo->setMinimumWidth(m_echo->fontMetrics().horizontalAdvance("000°00.000' W !"));
+    showEcho();
+}
+
 void PositionBox::showEcho()
 {
     const Echo echo = positionEcho(value(), m_axis);
@@ -180,7 +187,8 @@ void PositionBox::showEcho()
         hint += m_remark;
     }
     const QString full = QString::fromStdString(echo.text);
-    m_echo->setText(hint.isEmpty() || m_hintsInToolTip ? full : full + " (" + hint + ")");
+    const QString remark = m_briefEcho ? " !" : " (" + hint + ")";
+    m_echo->setText(hint.isEmpty() ? full : full + remark);
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

@@ -101,8 +101,10 @@ public:
     /// the box; it belongs to the same parent.
     QLabel* echo() const { return m_echo; }
 
-    /// Leaves the hint to the tool tip, where a table has no room for it beside the value.
-    void setHintsInToolTip() { m_hintsInToolTip = true; }
+    /// For tables: the echo has room for the figure alone, a hint shows as "!" and in the tool tip.
+    void setBriefEcho();
+    /// What the echo says in full, hint included.
+    QString fullEcho() const { return accessibleDescription(); }
 
     /// Makes a latitude and a longitude box one position.
     static void pair(PositionBox* latitude, PositionBox* longitude);
@@ -122,7 +124,7 @@ private:
 
     Axis m_axis;
     PositionBox* m_partner = nullptr;
-    bool m_hintsInToolTip = false;
+    bool m_briefEcho = false;
     ResultLabel* m_echo;
     QString m_remark;     ///< how a pasted text was taken
     QString m_remarkedAt; ///< the box text that the remark belongs to

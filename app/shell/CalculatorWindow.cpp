@@ -216,12 +216,13 @@ void CalculatorWindow::setNotice(const QString& key, const QString& text)
 }
 
 void CalculatorWindow::useSettings(const std::string& file, std::vector<Kind> kinds, Save save,
-                                   Load load)
+                                   Load load, Salvage salvage)
 {
     m_settings = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(), file,
                                                 std::move(kinds));
     m_save = std::move(save);
     m_load = std::move(load);
+    m_salvage = std::move(salvage);
 }
 
 void CalculatorWindow::useTextSettings(const std::string& file, std::vector<QLineEdit*> boxes)
@@ -244,8 +245,12 @@ void CalculatorWindow::useTextSettings(const std::string& file, std::vector<QLin
 void CalculatorWindow::loadSettings()
 {
     m_loading = true;
-    if (m_settings)
-        if (const auto record = m_settings->load()) m_load(*record);
+    if (m_settings) {
+        if (const auto record = m_settings->load())
+            m_load(*record);
+        else if (m_salvage && m_settings->damagedText())
+            m_salvage(*m_settings->damagedText());
+    }
     m_loading = false;
     calculateAll();
     applyColours();
@@ -255,6 +260,33 @@ void CalculatorWindow::saveSettingsNow()
 {
     if (m_settings && !m_loading)
         setNotice("save", QString::fromStdString(m_settings->saveQuietly(m_save())));
+}
+
+void CalculatorWindow::saveSettingsAsked()
+{
+    if (!m_settings->isProtected()) {
+        saveSettingsNow();
+        return;
+    }
+    if (!m_overwriteRefused) m_settings->saveAtClose(m_save());
+    m_overwriteRefused = m_settings->isProtected();
+    setNotice("save", m_overwriteRefused ? QString("\"%1\" is left as it was found: nothing of "
+                                                   "this window is on the disk yet.")
+                                               .arg(QString::fromStdString(m_settings->name()))
+                                         : QString());
+}
+
+void CalculatorWindow::saveSettingsSoon()
+{
+    if (m_savingSoon) return;
+    m_savingSoon = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_savingSoon = false;
+            saveSettingsNow();
+        },
+        Qt::QueuedConnection);
 }
 
 QMenu* CalculatorWindow::addMenu(const QString& caption, const QString& name)

@@ -27,6 +27,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void follow(QWidget* focus);
     void placeHeading();
 
     QWidget* m_heading = nullptr;

@@ -89,8 +89,8 @@ PositionTable::Row PositionTable::makeRow(int index)
     row.longitude = named(new PositionBox(Axis::Longitude, this), "txtLong",
                           "longitude, degrees.minutes, east positive");
     PositionBox::pair(row.latitude, row.longitude);
-    row.latitude->setHintsInToolTip();
-    row.longitude->setHintsInToolTip();
+    row.latitude->setBriefEcho();
+    row.longitude->setBriefEcho();
     const auto label = [&](const char* name, const char* words) {
         return named(new ResultLabel(this), name, words);
     };

@@ -95,12 +95,18 @@ TEST_F(frmPositionRecordTest, enterGoesThroughTheRowsAndTheFocusStaysInSight)
 {
     auto& window = open<frmPositionRecord>();
     window.resize(400, 300);
-    auto* area = window.findChild<QScrollArea*>();
+    QApplication::processEvents();
     for (const char* box : {"txtSatelliteSMT", "txtSatelliteTD", "txtLat", "txtLong"})
         control(window, at(box, 28)).setFocus(Qt::OtherFocusReason);
     auto& last = control(window, "txtLong(28)");
+    QScrollArea* area = nullptr;
+    for (auto* each : window.findChildren<QScrollArea*>())
+        if (each->isAncestorOf(&last)) area = each;
+    ASSERT_TRUE(area);
     const QRect seen(last.mapTo(area->viewport(), QPoint()), last.size());
-    EXPECT_TRUE(area->viewport()->rect().contains(seen));
+    EXPECT_TRUE(area->viewport()->rect().contains(seen))
+        << seen.x() << " " << seen.y() << " in " << area->viewport()->width() << " x "
+        << area->viewport()->height();
     QTest::keyClick(&last, Qt::Key_Return);
     EXPECT_EQ(focused(), "txtSatelliteSMT(0)");
     EXPECT_TRUE(area->viewport()->rect().contains(
