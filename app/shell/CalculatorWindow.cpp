@@ -122,6 +122,7 @@ QWidget* CalculatorWindow::scrollBody()
 void CalculatorWindow::setScrollArea(FollowingScrollArea* area)
 {
     m_scrollArea = area;
+    fitToScreen();
     auto* column = new QVBoxLayout(m_body);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(area);
@@ -129,10 +130,10 @@ void CalculatorWindow::setScrollArea(FollowingScrollArea* area)
 
 void CalculatorWindow::showEvent(QShowEvent* event)
 {
-    // The toolkit gives a new window two thirds of the screen at most; a window that can scroll
-    // would take that where all of it could be shown.
-    if (m_scrollArea && !m_fitted) {
-        m_fitted = true; // once; afterwards the officer's size holds
+    // The toolkit gives a new window two thirds of the screen at most; a window that can scroll, or
+    // whose picture can shrink, would take that where all of it could be shown.
+    if (m_fitsScreen) {
+        m_fitsScreen = false; // once; afterwards the officer's size holds
         for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
             each->invalidate(); // what they remember is from before the controls had their fonts
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);

@@ -94,6 +94,9 @@ protected:
     QWidget* scrollBody();
     /// Puts a scroll area of the window's own into the body.
     void setScrollArea(FollowingScrollArea* area);
+    /// Opens the window as large as it wants and the screen allows. A scroll area asks for this by
+    /// itself; so should a window with a picture.
+    void fitToScreen() { m_fitsScreen = true; }
     /// Puts a row of controls between the body and the notice line.
     void addBelow(QWidget* widget);
 
@@ -198,7 +201,7 @@ private:
     bool m_loading = false;
     bool m_savingSoon = false;
     FollowingScrollArea* m_scrollArea = nullptr;
-    bool m_fitted = false;
+    bool m_fitsScreen = false;
     QMenu* m_mnuMemo = nullptr;
     QMenu* m_mnuRem = nullptr;
 };

@@ -9,7 +9,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -56,15 +55,6 @@ frmTIDE::frmTIDE(Program& program)
     take(m_choice, Telling::Box);
     m_scrDate->setFocus();
     fitToScreen();
-}
-
-/// A picture wants more room than a window is given by itself, and on a small screen or at a large
-/// scale there is only so much.
-void frmTIDE::fitToScreen()
-{
-    const int frame = 2 * menuBar()->sizeHint().height();
-    const QSize room = screen()->availableSize() - QSize(0, frame);
-    resize(sizeHint().boundedTo(room));
 }
 
 void frmTIDE::addControls()

@@ -31,7 +31,6 @@ private:
     enum class Telling { Box, Line };
 
     void addControls();
-    void fitToScreen();
     QWidget* headLine();
     QWidget* figuresLine();
     QWidget* pictureRow();

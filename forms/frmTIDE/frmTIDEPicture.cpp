@@ -246,6 +246,8 @@ QLineF frmTIDEPicture::pixels(const CurveLine& line) const
 
 void frmTIDEPicture::drawGrid(QPainter& painter, const ColourScheme& colours) const
 {
+    // Level and upright lines are crisper without smoothing, and much quicker.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     const auto dotted = [&](const std::vector<CurveLine>& lines, const QColor& colour) {
         painter.setPen(QPen(colour, 1, Qt::DotLine));
         for (const CurveLine& line : lines)
@@ -260,6 +262,7 @@ void frmTIDEPicture::drawGrid(QPainter& painter, const ColourScheme& colours) co
     painter.drawLine(plotArea().topLeft(), plotArea().bottomLeft());
     painter.setPen(QPen(colours.datum, 1));
     painter.drawLine(pixels(m_picture.zeroLine));
+    painter.setRenderHint(QPainter::Antialiasing);
 }
 
 void frmTIDEPicture::drawFurtherLevels(QPainter& painter, const ColourScheme& colours) const
