@@ -20,6 +20,7 @@ std::optional<Record> SettingsFile::load()
             return readRecord(content.bytes, m_kinds);
         } catch (const RecordError& error) {
             reason = error.what();
+            m_damagedText = content.bytes;
         }
     }
     m_protected = true;

@@ -34,6 +34,14 @@ public:
     /// @return true when the file holds the record
     bool saveAtClose(const Record& record);
 
+    /// The bytes of a file that load() could read but that are not the window's record: for windows
+    /// that can still find something in them. Nothing when the record was read, there was no file,
+    /// or not even its bytes came.
+    const std::optional<std::string>& damagedText() const { return m_damagedText; }
+
+    /// True while the file on disk waits for the officer's consent to be overwritten.
+    bool isProtected() const { return m_protected; }
+
     const std::string& name() const { return m_name; }
 
 private:
@@ -41,6 +49,7 @@ private:
     Questions& m_questions;
     std::string m_name;
     std::vector<Kind> m_kinds;
+    std::optional<std::string> m_damagedText;
     bool m_protected = false; ///< the file on disk is not ours to overwrite unasked
 };
 

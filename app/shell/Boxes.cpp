@@ -23,15 +23,17 @@ QString memberName(const QString& array, int index)
     return QString("%1(%2)").arg(array).arg(index);
 }
 
-EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {}
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
+{
+    setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
+}
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
     m_focusedByMouse = event->reason() == Qt::MouseFocusReason;
-    // Coming back from a menu or from another program goes on where the typing was.
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        selectAll();
+    // A context menu that closes must not undo what was selected for it.
+    if (event->reason() != Qt::PopupFocusReason) selectAll();
 }
 
 void EntryBox::focusOutEvent(QFocusEvent* event)
@@ -125,8 +127,7 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
-    // A blank result keeps its height, so that nothing moves while the officer types.
-    setMinimumHeight(QFontMetrics(larger).height());
+    setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
 }
 
 void ResultLabel::setSelectable(bool selectable)
@@ -156,7 +157,8 @@ void ResultLabel::showReserved(const QString& text)
 
 void ResultLabel::paintEvent(QPaintEvent* event)
 {
-    if (textInteractionFlags() != Qt::NoTextInteraction) {
+    if (textInteractionFlags() != Qt::NoTextInteraction || textFormat() != Qt::PlainText ||
+        wordWrap() || text().contains('\n')) {
         QLabel::paintEvent(event);
         return;
     }
@@ -229,6 +231,13 @@ void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
     longitude->m_partner = latitude;
 }
 
+void PositionBox::setBriefEcho()
+{
+    m_briefEcho = true;
+    m_echo->setMinimumWidth(m_echo->fontMetrics().horizontalAdvance("000°00.000' W !"));
+    showEcho();
+}
+
 void PositionBox::showEcho()
 {
     const Echo echo = positionEcho(value(), m_axis);
@@ -238,7 +247,8 @@ void PositionBox::showEcho()
         hint += m_remark;
     }
     const QString full = QString::fromStdString(echo.text);
-    m_echo->showReserved(hint.isEmpty() ? full : full + " (" + hint + ")");
+    const QString remark = m_briefEcho ? " !" : " (" + hint + ")";
+    m_echo->showReserved(hint.isEmpty() ? full : full + remark);
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

@@ -116,6 +116,11 @@ public:
     /// the box; it belongs to the same parent.
     QLabel* echo() const { return m_echo; }
 
+    /// For tables: the echo has room for the figure alone, a hint shows as "!" and in the tool tip.
+    void setBriefEcho();
+    /// What the echo says in full, hint included.
+    QString fullEcho() const { return accessibleDescription(); }
+
     /// Makes a latitude and a longitude box one position.
     static void pair(PositionBox* latitude, PositionBox* longitude);
 
@@ -134,6 +139,7 @@ private:
 
     Axis m_axis;
     PositionBox* m_partner = nullptr;
+    bool m_briefEcho = false;
     ResultLabel* m_echo;
     QString m_remark;     ///< how a pasted text was taken
     QString m_remarkedAt; ///< the box text that the remark belongs to

@@ -21,6 +21,8 @@ namespace korvel
 namespace
 {
 
+constexpr QMarginsF pageMargins(15, 15, 15, 15); // millimetres
+
 void tint(QWidget* widget, const QColor& colour)
 {
     QPalette palette = widget->palette();
@@ -131,12 +133,15 @@ void CalculatorWindow::showEvent(QShowEvent* event)
     // would take that where all of it could be shown.
     if (m_scrollArea && !m_fitted) {
         m_fitted = true; // once; afterwards the officer's size holds
+        for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
+            each->invalidate(); // what they remember is from before the controls had their fonts
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
         const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
-        resize(sizeHint().boundedTo(room));
+        QSize wanted = sizeHint();
+        if (wanted.width() > room.width())
+            wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        resize(wanted.boundedTo(room));
     }
-    // The box that the window opens with gets its focus from the screen, not from the officer.
-    if (auto* box = qobject_cast<QLineEdit*>(focusWidget())) box->selectAll();
     QMainWindow::showEvent(event);
 }
 
@@ -210,12 +215,13 @@ void CalculatorWindow::setNotice(const QString& key, const QString& text)
 }
 
 void CalculatorWindow::useSettings(const std::string& file, std::vector<Kind> kinds, Save save,
-                                   Load load)
+                                   Load load, Salvage salvage)
 {
     m_settings = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(), file,
                                                 std::move(kinds));
     m_save = std::move(save);
     m_load = std::move(load);
+    m_salvage = std::move(salvage);
 }
 
 void CalculatorWindow::useTextSettings(const std::string& file, std::vector<QLineEdit*> boxes)
@@ -238,8 +244,12 @@ void CalculatorWindow::useTextSettings(const std::string& file, std::vector<QLin
 void CalculatorWindow::loadSettings()
 {
     m_loading = true;
-    if (m_settings)
-        if (const auto record = m_settings->load()) m_load(*record);
+    if (m_settings) {
+        if (const auto record = m_settings->load())
+            m_load(*record);
+        else if (m_salvage && m_settings->damagedText())
+            m_salvage(*m_settings->damagedText());
+    }
     m_loading = false;
     calculateAll();
     applyColours();
@@ -249,6 +259,33 @@ void CalculatorWindow::saveSettingsNow()
 {
     if (m_settings && !m_loading)
         setNotice("save", QString::fromStdString(m_settings->saveQuietly(m_save())));
+}
+
+void CalculatorWindow::saveSettingsAsked()
+{
+    if (!m_settings->isProtected()) {
+        saveSettingsNow();
+        return;
+    }
+    if (!m_overwriteRefused) m_settings->saveAtClose(m_save());
+    m_overwriteRefused = m_settings->isProtected();
+    setNotice("save", m_overwriteRefused ? QString("\"%1\" is left as it was found: nothing of "
+                                                   "this window is on the disk yet.")
+                                               .arg(QString::fromStdString(m_settings->name()))
+                                         : QString());
+}
+
+void CalculatorWindow::saveSettingsSoon()
+{
+    if (m_savingSoon) return;
+    m_savingSoon = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_savingSoon = false;
+            saveSettingsNow();
+        },
+        Qt::QueuedConnection);
 }
 
 QMenu* CalculatorWindow::addMenu(const QString& caption, const QString& name)
@@ -334,8 +371,20 @@ void CalculatorWindow::addLinksMenu(const QString& array)
 
 void CalculatorWindow::printForm()
 {
+    printPage([this](QPainter& painter, const QRect& room) {
+        QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
+        const double scale =
+            std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
+        painter.scale(scale, scale);
+        page->render(&painter);
+    });
+}
+
+void CalculatorWindow::printPage(const std::function<void(QPainter&, const QRect&)>& draw)
+{
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(windowTitle());
+    printer.setPageMargins(pageMargins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
     QPainter painter;
@@ -343,12 +392,7 @@ void CalculatorWindow::printForm()
         m_program.questions().ask({"The printer cannot be used.", programTitle, Buttons::Ok});
         return;
     }
-    QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
-    const QRect room = painter.viewport();
-    const double scale =
-        std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
-    painter.scale(scale, scale);
-    page->render(&painter);
+    draw(painter, painter.viewport());
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event)

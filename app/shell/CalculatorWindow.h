@@ -17,6 +17,7 @@
 
 class QGridLayout;
 class QMenu;
+class QPainter;
 
 namespace korvel
 {
@@ -43,6 +44,7 @@ public:
 
 protected:
     Program& program() { return m_program; }
+    const Program& program() const { return m_program; }
 
     // Controls. They have no place yet: put them into layouts.
 
@@ -121,8 +123,12 @@ protected:
 
     using Save = std::function<Record()>;
     using Load = std::function<void(const Record&)>;
+    using Salvage = std::function<void(const std::string& bytes)>;
     /// Names the window's settings file and how its record is filled and taken over.
-    void useSettings(const std::string& file, std::vector<Kind> kinds, Save save, Load load);
+    /// @param salvage what is done with the bytes of a file that is not the record; it stays as it
+    ///                is until the officer consents
+    void useSettings(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
+                     Salvage salvage = {});
     /// The same for a record that is the texts of boxes, in their order.
     void useTextSettings(const std::string& file, std::vector<QLineEdit*> boxes);
     /// Fills the window from its file, then calculates everything once.
@@ -130,6 +136,13 @@ protected:
     bool isLoading() const { return m_loading; }
     /// Writes the file while the window stays open; a fault goes to the notice line.
     void saveSettingsNow();
+    /// The same when the present user action is over: however often it is called meanwhile, the
+    /// file is written once.
+    void saveSettingsSoon();
+    /// Writes the file at once when the officer asked for something to be kept. For a file that
+    /// could not be read the officer is asked, once while the window is open; a refusal stays in
+    /// the notice line.
+    void saveSettingsAsked();
 
     // Menus. Indices count from 0 in the order of the calls.
 
@@ -154,6 +167,9 @@ protected:
 
     /// Prints the window as it stands, through the system's print dialog.
     void printForm();
+    /// Prints a page of the window's own making, through the system's print dialog.
+    /// @param draw gets a painter in device pixels and the room of the page in them
+    void printPage(const std::function<void(QPainter&, const QRect&)>& draw);
 
     /// The area for the window's own controls, above the notice line.
     QWidget* body() const { return m_body; }
@@ -177,7 +193,10 @@ private:
     std::unique_ptr<SettingsFile> m_settings;
     Save m_save;
     Load m_load;
+    Salvage m_salvage;
+    bool m_overwriteRefused = false;
     bool m_loading = false;
+    bool m_savingSoon = false;
     FollowingScrollArea* m_scrollArea = nullptr;
     bool m_fitted = false;
     QMenu* m_mnuMemo = nullptr;

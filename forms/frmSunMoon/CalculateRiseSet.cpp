@@ -37,6 +37,13 @@ std::string localTime(DateTime time)
     return Format(time, "hhmm") + "LT";
 }
 
+/// A refined time: an event at midnight must not look like the mark of a missing one.
+std::string refinedText(DateTime time)
+{
+    const std::string text = localTime(time);
+    return text == "0000LT" ? text + " (at midnight)" : text;
+}
+
 std::string azimuthText(Degrees azimuth)
 {
     return Format(azimuth, "<000.0>");
@@ -95,10 +102,11 @@ public:
         try {
             const DegMin declination = SunDeclination(m_date + ofDay);
             const Degrees azimuth = routine(m_row.latitude, declination);
-            RiseSetLabel label{azimuthText(azimuth), "True azimuth, degrees"};
+            RiseSetLabel label{azimuthText(azimuth), "True azimuth, degrees", false, azimuth};
             const Degrees asTyped = routine(m_typedLatitude, declination);
             if (std::fabs(azimuth - asTyped) >= 0.1) {
                 label.tip = "At the latitude as typed " + azimuthText(asTyped);
+                label.doubtful = true;
                 m_notice.add(std::string(name) + " azimuth at the latitude as typed " +
                              azimuthText(asTyped));
             }
@@ -123,23 +131,25 @@ private:
                         std::optional<DateTime> refined)
     {
         std::string sentence = std::string(event.name) + " cannot be computed (" + fault + ")";
-        if (refined) sentence += ", refined search " + localTime(*refined);
+        if (refined) sentence += ", refined search " + refinedText(*refined);
         m_notice.add(sentence);
-        return {"", sentence};
+        return {"", sentence, false, {}};
     }
 
     RiseSetLabel shown(const EventRoutines& event, DateTime found, std::optional<DateTime> refined)
     {
-        RiseSetLabel label{localTime(found), ""};
+        RiseSetLabel label{localTime(found), "", false, {}};
         const std::string name = event.name;
         if (found == 0 && !refined) {
             label.tip = "0000LT here means: no " + name + " on this date";
         } else if (!refined) {
             label.tip = "Refined search: no " + name + " on this date";
+            label.doubtful = true;
             m_notice.add(name + " refined: none on this date");
         } else if (found == 0 || std::fabs(found - *refined) * 1440 > event.worthTelling) {
-            label.tip = "Refined time of " + name + ": " + localTime(*refined);
-            m_notice.add(name + " refined " + localTime(*refined));
+            label.tip = "Refined time of " + name + ": " + refinedText(*refined);
+            label.doubtful = true;
+            m_notice.add(name + " refined " + refinedText(*refined));
         } else if (label.text == "0000LT") {
             label.tip = "At midnight";
         }
@@ -166,7 +176,10 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
 {
     RiseSetResult result;
     const auto date = riseSetDate(input.txtSunMoon);
-    if (!date) return result;
+    if (!date) {
+        result.notice = "The date cannot be read: yyyy/m/d is needed";
+        return result;
+    }
     Notice notice(input.txtLocation);
     // The searches look a day and a half back, and there is no Julian day before day 0.
     if (*date < 3) {

@@ -28,6 +28,8 @@ struct RiseSetRow {
 struct RiseSetLabel {
     std::string text;
     std::string tip;
+    bool doubtful = false;        ///< the notice names a better figure
+    std::optional<double> figure; ///< an azimuth in full
 };
 
 struct RiseSetResult {

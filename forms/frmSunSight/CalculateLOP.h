@@ -24,6 +24,7 @@ struct LOPResult {                        ///< an empty text blanks the label
     std::string Hc;
     std::string intercept; ///< "10'.8 T" towards, "3'.8 A" away
     std::string Zn;
+    std::optional<NavFunc113::Degrees> azimuth; ///< the same in full
     std::string notice; ///< every input that cannot be used, then what the officer should know
 };
 

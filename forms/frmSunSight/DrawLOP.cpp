@@ -156,7 +156,7 @@ SightPlot DrawLOP(const SightFixResult& fix)
     SightPlot plot;
     plot.middle = fix.DR;
     if (!plot.middle) return plot;
-    plot.DRLabel = "DR " + Format(*fix.UTC, "hhmm");
+    plot.DRLabel = fix.UTC ? "DR " + Format(*fix.UTC, "hhmm") : "DR";
     plot.grid = gridAround(*plot.middle);
     for (const FixLine& line : fix.lines)
         plot.lines.push_back(plotLine(line, fix));

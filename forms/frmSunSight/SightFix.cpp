@@ -42,15 +42,18 @@ void makeLines(const SightList& list, const Track& track, SightFixResult& result
         if (std::find(remarks.warnings.begin(), remarks.warnings.end(), warning) ==
             remarks.warnings.end())
             remarks.warnings.push_back(warning);
-    if (!result.UTC) return;
+    if (!result.UTC) {
+        // The chart is laid out before the first sight.
+        if (track.timeUsable) result.DR = track.position;
+        return;
+    }
     result.DR = track.at(*result.UTC);
     if (!result.DR) return;
     for (FixLine& line : result.lines) {
         line.sight.sinceFix = (line.UTC - *result.UTC) * 24;
         line.DR = Advanced(*result.DR, result.motion, line.sight.sinceFix);
         line.line = LineAt(line.sight, *result.DR, result.motion);
-        line.text = Format(line.UTC, "yyyy/mm/dd hh:mm:ss") + "  Hc " +
-                    Format(DegToDegMin(line.line.computedAltitude), "0.-00'0") + "  " +
+        line.text = "Hc " + Format(DegToDegMin(line.line.computedAltitude), "0.-00'0") + "  " +
                     interceptText(line.line.intercept) + "  Zn " +
                     Format(line.line.azimuth >= 359.95 ? 0 : line.line.azimuth, "000.0");
     }
@@ -155,7 +158,7 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
         const auto errors = readErrors(options, remarks);
         if (!result.lines.empty() && !(result.DR && track.motion))
             remarks.warnings.push_back("No fix: the DR position or its run cannot be used");
-        else if (result.DR && errors) {
+        else if (!result.lines.empty() && errors) {
             std::vector<Sight> sights;
             for (const FixLine& line : result.lines)
                 sights.push_back(line.sight);

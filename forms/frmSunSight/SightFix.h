@@ -24,12 +24,13 @@ struct FixLine {
     NavFunc113::Sight sight;
     NavFunc113::LineOfPosition line; ///< referred to the DR position
     NavFunc113::Position DR;         ///< run to the time of the sight
-    std::string text; ///< UTC, Hc, intercept, Zn, and the residual once there is a fix
+    std::string text;                ///< Hc, intercept, Zn, and the residual once there is a fix
 };
 
 struct SightFixResult {
     std::optional<NavFunc113::DateTime> UTC; ///< time of the last sight that is on
-    std::optional<NavFunc113::Position> DR;  ///< run to that time: the middle of the plot
+    std::optional<NavFunc113::Position> DR;  ///< run to that time: the middle of the plot. With
+                                             ///< no sight on, as typed
     NavFunc113::Motion motion;
     std::vector<FixLine> lines;
 

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+#include "forms/frmSunMoon/CalculateRiseSet.h"
+
+class QGridLayout;
+class QScrollBar;
+
+namespace korvel
+{
+
+/// Rise and set of Sun and Moon on one date at up to sixteen places, one a row.
+///
+/// Record of "KV_SunMoon.ini": for each row place name, TD, latitude and longitude as typed. It is
+/// written after every user action that computed a row.
+class frmSunMoon : public CalculatorWindow
+{
+public:
+    explicit frmSunMoon(Program& program);
+
+    static constexpr int rows = 16;
+
+protected:
+    void applyColours() override;
+
+private:
+    template <typename Control>
+    using PerRow = std::array<Control*, rows>;
+
+    /// One of the six results of a row.
+    struct Column {
+        const char* name;
+        const char* heading;
+        const char* words; ///< for assistive tools
+        RiseSetLabel RiseSetResult::*result;
+    };
+    static const std::array<Column, 6> columns;
+
+    void addControls();
+    void addRow(std::size_t row);
+    void setRowOrder();
+    QWidget* dateRow();
+    QWidget* table();
+    QWidget* heading();
+    static void setColumns(QGridLayout* grid, const QWidget& widget);
+    void addMenus();
+
+    NavFunc113::DateTime today();
+    void runRows(std::size_t first, std::size_t last);
+    void showRow(std::size_t row);
+    void showDoubts(std::size_t row);
+    void showNotices();
+    void showRowInFocus();
+    void focusMoved(const QWidget* now);
+    void leaveDate();
+    void cmdToday_Click();
+    void clearAll();
+    std::string azimuth(RiseSetLabel RiseSetResult::*label) const;
+    void recallSingle();
+    void recallPosition();
+
+    EntryBox* m_txtSunMoon = nullptr;
+    QScrollBar* m_scrMoonSun = nullptr;
+    ResultLabel* m_lblMoonAge = nullptr;
+    QLabel* m_lblRow = nullptr; ///< the row in focus in full
+
+    PerRow<QLabel> m_number{};
+    PerRow<EntryBox> m_txtLocation{};
+    PerRow<EntryBox> m_txtTD{};
+    PerRow<PositionBox> m_txtLatitude{};
+    PerRow<PositionBox> m_txtLongitude{};
+    std::array<PerRow<ResultLabel>, 6> m_labels{}; ///< by column
+
+    std::array<RiseSetRow, rows> m_numbers;
+    std::array<RiseSetResult, rows> m_results;
+    std::size_t m_row = 0; ///< the row that last had the focus
+};
+
+} // namespace korvel

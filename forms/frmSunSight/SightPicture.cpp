@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/SightPicture.h"
+
+#include <QPainterPath>
+
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr double half = SightPlot::half;
+
+QString text(const std::string& value)
+{
+    return QString::fromStdString(value);
+}
+
+} // namespace
+
+SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
+{
+    setObjectName("picSunSight");
+    setAccessibleName("Plot of the lines of position, 40 miles each way around the DR position");
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    setFont(small);
+    setUserScale({-half, half, half, -half});
+    draw = [this](QPainter& painter) { paint(painter); };
+}
+
+void SightPicture::show(const SightPlot& plot)
+{
+    m_plot = plot;
+    update();
+}
+
+void SightPicture::setColours(const ColourScheme& colours)
+{
+    m_colours = colours;
+    update();
+}
+
+double SightPicture::unit() const
+{
+    return fontMetrics().height() / 4.0;
+}
+
+QSize SightPicture::sizeHint() const
+{
+    const int side = fontMetrics().height() * 26;
+    return {side, side};
+}
+
+QSize SightPicture::minimumSizeHint() const
+{
+    const int side = fontMetrics().height() * 20;
+    return {side, side};
+}
+
+void SightPicture::resizeEvent(QResizeEvent* event)
+{
+    PictureBox::resizeEvent(event);
+    const QFontMetrics metrics = fontMetrics();
+    const int left = metrics.horizontalAdvance("00-.00'0N ");
+    const int bottom = metrics.height() * 5 / 4;
+    const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-.0");
+    const int side = std::max(1, std::min(width() - left - right, height() - top - bottom));
+    setPlotMargins({left, top, width() - left - side, height() - top - side});
+}
+
+QPen SightPicture::pen(const QColor& colour, double widths, Qt::PenStyle style) const
+{
+    QPen made(colour, widths * unit() / 4, style);
+    made.setJoinStyle(Qt::RoundJoin);
+    return made;
+}
+
+QPolygonF SightPicture::polygon(const std::vector<PlotPoint>& points) const
+{
+    QPolygonF made;
+    for (const PlotPoint& point : points)
+        made << pixel(point);
+    return made;
+}
+
+/// Text with a rim of paper, so that it reads over lines.
+void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words) const
+{
+    const QRectF area = plotArea();
+    const double width = painter.fontMetrics().horizontalAdvance(words);
+    at.setX(std::clamp(at.x(), area.left(), std::max(area.left(), area.right() - width)));
+    at.setY(std::clamp(at.y(), area.top() + painter.fontMetrics().ascent(), area.bottom()));
+    QPainterPath path;
+    path.addText(at, painter.font(), words);
+    painter.strokePath(path, pen(m_colours.paper, 3));
+    painter.fillPath(path, m_colours.ink);
+}
+
+void SightPicture::paint(QPainter& painter) const
+{
+    painter.fillRect(painter.viewport(), m_colours.paper);
+    painter.setFont(font());
+    paintGrid(painter);
+    if (!m_plot.middle) return;
+    painter.save();
+    painter.setClipRect(plotArea());
+    paintScale(painter);
+    for (const PlotLine& line : m_plot.lines)
+        paintLine(painter, line);
+    paintDR(painter);
+    if (m_plot.fix) paintFix(painter);
+    painter.restore();
+}
+
+void SightPicture::paintGrid(QPainter& painter) const
+{
+    const QRectF area = plotArea();
+    const QFontMetrics metrics = painter.fontMetrics();
+    double free = 0; // where the next longitude has room
+    for (const PlotGridLine& line : m_plot.grid) {
+        painter.setPen(pen(m_colours.grid, 0.6, Qt::DotLine));
+        const QPointF from = pixel(line.from), to = pixel(line.to);
+        painter.drawLine(from, to);
+        painter.setPen(m_colours.ink);
+        const QString label = text(line.label);
+        const double width = metrics.horizontalAdvance(label);
+        if (line.from.x != line.to.x) {
+            painter.drawText(
+                QPointF(area.left() - width - unit(), from.y() + metrics.ascent() / 2.0), label);
+        } else if (from.x() - width / 2 > free) {
+            painter.drawText(QPointF(from.x() - width / 2, area.bottom() + metrics.ascent()),
+                             label);
+            free = from.x() + width / 2 + unit();
+        }
+    }
+    painter.setPen(pen(m_colours.ink, 1));
+    painter.drawRect(area);
+}
+
+/// North arrow and ten miles.
+void SightPicture::paintScale(QPainter& painter) const
+{
+    painter.setPen(pen(m_colours.ink, 1));
+    const QPointF north = pixel({half, half}) + QPointF(-3 * unit(), 2 * unit());
+    const QPointF foot = north + QPointF(0, 7 * unit());
+    painter.drawLine(foot, north);
+    painter.drawLine(north, north + QPointF(-unit(), 2 * unit()));
+    painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
+    paintText(painter, foot + QPointF(-unit(), 4 * unit()), "N");
+
+    const QPointF end = pixel({half, -half}) + QPointF(-2 * unit(), -2 * unit());
+    const QPointF start = end - QPointF(pixel({10, 0}).x() - pixel({0, 0}).x(), 0);
+    painter.setPen(pen(m_colours.ink, 1.5));
+    painter.drawLine(start, end);
+    for (const QPointF& tick : {start, end})
+        painter.drawLine(tick, tick - QPointF(0, unit()));
+    paintText(painter, start - QPointF(0, 1.5 * unit()), "10 nm");
+}
+
+void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
+{
+    painter.setPen(pen(m_colours.secondary, 1, Qt::DashLine));
+    painter.drawLine(pixel({}), pixel(line.foot));
+    painter.setPen(pen(m_colours.secondary, 1.5));
+    const QPointF foot = pixel(line.foot), tip = pixel(line.arrowTo);
+    painter.drawLine(foot, tip);
+    const double direction = std::atan2(tip.y() - foot.y(), tip.x() - foot.x());
+    for (double side : {-0.4, 0.4})
+        painter.drawLine(tip,
+                         tip - 2 * unit() *
+                                   QPointF(std::cos(direction + side), std::sin(direction + side)));
+    if (!line.visible) return;
+    painter.setPen(pen(m_colours.route, 2.5));
+    painter.drawPolyline(polygon(line.points));
+    paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), text(line.label));
+}
+
+void SightPicture::paintDR(QPainter& painter) const
+{
+    painter.setPen(pen(m_colours.ink, 2));
+    const QPointF middle = pixel({});
+    const double arm = 2 * unit();
+    painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
+    painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
+    paintText(painter, middle + QPointF(1.5 * unit(), 4.5 * unit()), text(m_plot.DRLabel));
+}
+
+void SightPicture::paintFix(QPainter& painter) const
+{
+    painter.setPen(pen(m_colours.tertiary, 1.5));
+    painter.drawPolygon(polygon(m_plot.ellipse));
+    painter.setPen(pen(m_colours.marker, 2.5));
+    const QPointF fix = pixel(*m_plot.fix);
+    painter.drawEllipse(fix, 1.5 * unit(), 1.5 * unit());
+    paintText(painter, fix + QPointF(2.5 * unit(), -2 * unit()), text(m_plot.fixLabel));
+}
+
+} // namespace korvel

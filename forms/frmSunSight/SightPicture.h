@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/ColourScheme.h"
+#include "app/shell/PictureBox.h"
+#include "forms/frmSunSight/DrawLOP.h"
+
+namespace korvel
+{
+
+/// picSunSight: the lines of position around the DR position. The plot is kept square, so that
+/// angles are true.
+class SightPicture : public PictureBox
+{
+    Q_OBJECT
+
+public:
+    explicit SightPicture(QWidget* parent = nullptr);
+
+    void show(const SightPlot& plot);
+    const SightPlot& plot() const { return m_plot; }
+    void setColours(const ColourScheme& colours);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void paint(QPainter& painter) const;
+    void paintGrid(QPainter& painter) const;
+    void paintScale(QPainter& painter) const;
+    void paintLine(QPainter& painter, const PlotLine& line) const;
+    void paintDR(QPainter& painter) const;
+    void paintFix(QPainter& painter) const;
+    void paintText(QPainter& painter, QPointF at, const QString& text) const;
+    QPen pen(const QColor& colour, double widths, Qt::PenStyle style = Qt::SolidLine) const;
+    QPointF pixel(const PlotPoint& point) const { return toPixel(point.x, point.y); }
+    QPolygonF polygon(const std::vector<PlotPoint>& points) const;
+    double unit() const; ///< a length of the picture's font, for marks and pens
+
+    SightPlot m_plot;
+    ColourScheme m_colours = ColourScheme::day();
+};
+
+} // namespace korvel

@@ -1,0 +1,408 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/SightPicture.h"
+#include "forms/frmSunSight/frmSunSight.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+/// What the sun sight window is made of and where it stands; what it does is in frmSunSight.cpp.
+namespace korvel
+{
+namespace
+{
+
+struct BoxRow {
+    const char* caption;
+    const char* unit;
+    const char* accessible;
+};
+
+constexpr std::array<BoxRow, 10> sightRows = {{
+    {"Date", "yyyy/mm/dd", "Date of the sight, year/month/day"},
+    {"Time by the watch", "hh:mm:ss", "Time of the sight by the watch, hours:minutes:seconds"},
+    {"TD", "hours, east +", "Time difference of ship's mean time, hours, east positive"},
+    {"Watch error", "s, fast +", "Watch error, seconds, fast positive"},
+    {"Sextant altitude Hs", "deg.min", "Sextant altitude, degrees.minutes"},
+    {"Index error", "', on the arc +", "Index error, minutes of arc, on the arc positive"},
+    {"Height of eye", "m", "Height of eye, metres"},
+    {"Air temperature", "°C", "Air temperature, degrees Celsius"},
+    {"Sea temperature", "°C", "Sea temperature, degrees Celsius"},
+    {"Pressure", "hPa", "Air pressure, hectopascals"},
+}};
+constexpr std::array<BoxRow, 3> runRows = {{
+    {"Time of DR", "UTC", "Time of the DR position, UTC, year/month/day hours:minutes:seconds"},
+    {"Course", "° made good", "Course made good, degrees true"},
+    {"Speed", "kn made good", "Speed made good, knots"},
+}};
+constexpr std::array<BoxRow, 3> sigmaRows = {{
+    {"Sigma of a line", "nm", "Standard deviation of one line, nautical miles"},
+    {"Run", "%", "Error of the run, per cent of the distance"},
+    {"Course", "°", "Error of the course made good, degrees"},
+}};
+
+template <std::size_t N>
+std::array<const char*, N> accessibleNames(const std::array<BoxRow, N>& of)
+{
+    std::array<const char*, N> names{};
+    for (std::size_t i = 0; i < N; ++i)
+        names[i] = of[i].accessible;
+    return names;
+}
+
+/// Two options that exclude each other.
+std::array<QRadioButton*, 2> options(QObject* owner, const char* array, const char* first,
+                                     const char* second)
+{
+    auto* group = new QButtonGroup(owner);
+    std::array<QRadioButton*, 2> made{new QRadioButton(first), new QRadioButton(second)};
+    for (int i = 0; i < 2; ++i) {
+        made[static_cast<std::size_t>(i)]->setObjectName(memberName(array, i));
+        group->addButton(made[static_cast<std::size_t>(i)]);
+    }
+    made[0]->setChecked(true);
+    return made;
+}
+
+QGridLayout* gridOf(QGroupBox* group)
+{
+    auto* grid = new QGridLayout(group);
+    grid->setVerticalSpacing(1);
+    grid->setContentsMargins(6, 2, 6, 2);
+    return grid;
+}
+
+void wrap(ResultLabel* label)
+{
+    // Sentences, not figures: they are read in the size of captions, on as many lines as they need.
+    label->setFont(QFont());
+    label->setWordWrap(true);
+    label->setMinimumWidth(0);
+}
+
+void setRoom(ResultLabel* label, const char* sample)
+{
+    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(sample));
+}
+
+} // namespace
+
+void frmSunSight::addBoxes()
+{
+    m_txtSunSight = addTextBoxes<10>("txtSunSight", accessibleNames(sightRows));
+    m_txtSunDR[0] = addPositionBox("txtSunDR(0)", Axis::Latitude,
+                                   "DR latitude, degrees.minutes, north positive, up to 89");
+    m_txtSunDR[1] = addPositionBox("txtSunDR(1)", Axis::Longitude,
+                                   "DR longitude, degrees.minutes, east positive");
+    PositionBox::pair(m_txtSunDR[0], m_txtSunDR[1]);
+    m_txtSunRun = addTextBoxes<3>("txtSunRun", accessibleNames(runRows));
+    m_txtSunSigma = addTextBoxes<3>("txtSunSigma", accessibleNames(sigmaRows));
+    m_txtSunRun[0]->setToolTip("Empty: the time of the last sight that is on");
+    m_txtSunSight[7]->setPlaceholderText("10");
+    m_txtSunSight[8]->setPlaceholderText("as the air");
+    m_txtSunSight[9]->setPlaceholderText("1013");
+    m_txtSunSigma[0]->setPlaceholderText("1");
+    m_txtSunSigma[1]->setPlaceholderText("5");
+    m_txtSunSigma[2]->setPlaceholderText("2");
+
+    std::vector<EntryBox*> order(m_txtSunSight.begin(), m_txtSunSight.end());
+    order.insert(order.end(), m_txtSunDR.begin(), m_txtSunDR.end());
+    order.insert(order.end(), m_txtSunRun.begin(), m_txtSunRun.end());
+    setEntryOrder(order);
+    setEntryOrder({m_txtSunSigma.begin(), m_txtSunSigma.end()});
+}
+
+void frmSunSight::addOptions()
+{
+    m_optSunScale = options(this, "optSunScale", "UTC", "SMT");
+    m_optSunLimb = options(this, "optSunLimb", "Lower", "Upper");
+    m_optSunScale[0]->setAccessibleName("The watch keeps UTC");
+    m_optSunScale[1]->setAccessibleName("The watch keeps ship's mean time");
+    m_optSunLimb[0]->setAccessibleName("Lower limb");
+    m_optSunLimb[1]->setAccessibleName("Upper limb");
+    m_chkSunMeasured = new QCheckBox("Scale by the residuals");
+    m_chkSunMeasured->setObjectName("chkSunMeasured");
+    m_chkSunMeasured->setToolTip("Ellipse from the sigma that the residuals of three or more lines "
+                                 "say, instead of the assumed one");
+}
+
+void frmSunSight::addResults()
+{
+    m_lblSunTime = addLabels<3>("lblSunTime");
+    m_lblSunValue = addLabels<worksheetLines>("lblSunValue");
+    for (std::size_t i = 0; i < worksheetLines; ++i) {
+        m_lblSunTerm[i] = new QLabel;
+        m_lblSunTerm[i]->setObjectName(memberName("lblSunTerm", static_cast<int>(i)));
+        m_lblSunValue[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        setRoom(m_lblSunValue[i], "000.-00'0");
+    }
+    m_lblSunLine = addLabels<6>("lblSunLine");
+    m_lblSunNoon = addLabels<4>("lblSunNoon");
+    m_lblSunFix = addLabels<5>("lblSunFix");
+    m_lblSunCursor = addLabels<2>("lblSunCursor");
+    for (ResultLabel* label : m_lblSunTime)
+        setRoom(label, "0000/00/00 00:00:00 UTC");
+    for (ResultLabel* label : m_lblSunTime)
+        wrap(label);
+    for (std::size_t i : {0U, 1U, 3U})
+        wrap(m_lblSunNoon[i]);
+    for (std::size_t i : {2U, 3U, 4U})
+        wrap(m_lblSunFix[i]);
+    setRoom(m_lblSunLine[2], "00-.00'0N 000-.00'0W");
+    m_lblSunFix[0]->setMinimumHeight(m_lblSunFix[0]->fontMetrics().height());
+}
+
+QPushButton* frmSunSight::addButton(const QString& name, const QString& caption, const QString& tip,
+                                    void (frmSunSight::*action)())
+{
+    auto* button = new QPushButton(caption, body());
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, action);
+    return button;
+}
+
+void frmSunSight::addList()
+{
+    m_lstSunSight = new QListWidget(body());
+    m_lstSunSight->setObjectName("lstSunSight");
+    m_lstSunSight->setAccessibleName("Recorded sights; the space bar switches one on and off");
+    m_lstSunSight->setMinimumHeight(m_lstSunSight->fontMetrics().height() * 5);
+    connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
+        m_list.setOn(static_cast<std::size_t>(m_lstSunSight->row(item)),
+                     item->checkState() == Qt::Checked);
+        calculate(m_fixCalculation);
+        saveSettingsAsked();
+    });
+    m_picSunSight = new SightPicture(body());
+    connect(m_picSunSight, &PictureBox::pointed, this,
+            [this](QPointF user, Qt::MouseButtons) { showCursor(user); });
+    connect(m_picSunSight, &PictureBox::left, this, [this] {
+        for (ResultLabel* label : m_lblSunCursor)
+            label->clear();
+    });
+}
+
+void frmSunSight::addMenus()
+{
+    QMenu* sight = addMenu("&Sight", "mnuSight");
+    addEntry(sight, "mnuSight", 0, "&Mark: present time into the sight", [this] {
+        cmdMark_Click();
+    })->setShortcut(Qt::Key_F5);
+    addEntry(sight, "mnuSight", 1, "&Record the sight", [this] {
+        cmdRecord_Click();
+    })->setShortcut(Qt::Key_F6);
+    addEntry(sight, "mnuSight", 2, "&Edit the chosen sight", [this] { cmdEdit_Click(); });
+    addEntry(sight, "mnuSight", 3, "&Delete the chosen sight", [this] { cmdDelete_Click(); });
+    addEntry(sight, "mnuSight", 4, "&Fix becomes the DR position", [this] { fixBecomesDR(); });
+    addEntry(sight, "mnuSight", 5, "&Print", [this] { printForm(); });
+    QMenu* clear = addMenu("&Clear", "mnuAC");
+    addEntry(clear, "mnuAC", 0, "&Sight being entered", [this] { clearSight(); });
+    addEntry(clear, "mnuAC", 1, "&All recorded sights", [this] { deleteAll(); });
+
+    addStorePosition(
+        "&Fix", [this] { return m_fix.memoLatitude; }, [this] { return m_fix.memoLongitude; });
+    addStorePosition(
+        "&DR position", [this] { return m_txtSunDR[0]->value(); },
+        [this] { return m_txtSunDR[1]->value(); });
+    addStoreSingle("&Azimuth Zn",
+                   [this] { return m_line.azimuth ? memoText(*m_line.azimuth) : std::string(); });
+    addRecallPosition("into &DR position", m_txtSunDR[0], m_txtSunDR[1]);
+    addLinksMenu("mnuSunSight");
+}
+
+void frmSunSight::layOut()
+{
+    QWidget* content = scrollBody();
+    auto* columns = new QHBoxLayout(content);
+    columns->setContentsMargins(0, 0, 0, 0);
+    const auto column = [columns](std::initializer_list<QWidget*> parts, int stretch) {
+        auto* made = new QVBoxLayout;
+        made->setSpacing(4);
+        for (QWidget* part : parts)
+            made->addWidget(part);
+        columns->addLayout(made, stretch);
+        return made;
+    };
+    column({layOutSight(), layOutTrack()}, 0)->addStretch(1);
+    column({layOutWorksheet(), layOutLine(), layOutNoon()}, 0)->addStretch(1);
+    auto* right = column({layOutPlot(), layOutSights(), layOutFix()}, 1);
+    right->setStretch(0, 3);
+    right->setStretch(1, 1);
+}
+
+QGroupBox* frmSunSight::layOutSight()
+{
+    auto* group = new QGroupBox("Sight of the Sun");
+    auto* grid = gridOf(group);
+    int row = 0;
+    const auto addOptionRow = [&](const char* caption, const auto& buttons) {
+        auto* line = new QHBoxLayout;
+        for (QRadioButton* button : buttons)
+            line->addWidget(button);
+        line->addStretch(1);
+        grid->addWidget(new QLabel(caption), row, 0);
+        grid->addLayout(line, row++, 1, 1, 2);
+    };
+    for (std::size_t i = 0; i < sightRows.size(); ++i) {
+        if (i == 2) addOptionRow("The watch keeps", m_optSunScale);
+        if (i == 5) addOptionRow("Limb", m_optSunLimb);
+        addEntryRow(grid, row++, sightRows[i].caption, m_txtSunSight[i], sightRows[i].unit);
+        m_txtSunSight[i]->setMinimumWidth(
+            m_txtSunSight[i]->fontMetrics().horizontalAdvance("0000/00/00 00"));
+    }
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(addButton("cmdMark", "Mar&k (F5)", "Present time, to the second",
+                                 &frmSunSight::cmdMark_Click));
+    m_cmdRecord = addButton("cmdRecord", "Rec&ord (F6)", "Keeps the sight in the list",
+                            &frmSunSight::cmdRecord_Click);
+    m_cmdNew = addButton("cmdNew", "&New", "Leaves the sight in the list as it was",
+                         &frmSunSight::cmdNew_Click);
+    m_cmdNew->setEnabled(false);
+    buttons->addWidget(m_cmdRecord);
+    buttons->addWidget(m_cmdNew);
+    grid->addLayout(buttons, row, 0, 1, 3);
+    return group;
+}
+
+QGroupBox* frmSunSight::layOutTrack()
+{
+    auto* group = new QGroupBox("Dead reckoning");
+    auto* grid = gridOf(group);
+    const char* const captions[] = {"DR latitude", "DR longitude"};
+    for (std::size_t i = 0; i < 2; ++i) {
+        m_txtSunDR[i]->setBriefEcho();
+        const int row = static_cast<int>(i);
+        auto* label = new QLabel(captions[i]);
+        label->setBuddy(m_txtSunDR[i]);
+        grid->addWidget(label, row, 0);
+        grid->addWidget(m_txtSunDR[i], row, 1);
+        grid->addWidget(m_txtSunDR[i]->echo(), row, 2);
+    }
+    for (std::size_t i = 0; i < runRows.size(); ++i)
+        addEntryRow(grid, static_cast<int>(i) + 2, runRows[i].caption, m_txtSunRun[i],
+                    runRows[i].unit);
+    m_txtSunRun[0]->setMinimumWidth(
+        m_txtSunRun[0]->fontMetrics().horizontalAdvance("0000/00/00 00:00:00 0"));
+    return group;
+}
+
+QGroupBox* frmSunSight::layOutWorksheet()
+{
+    auto* group = new QGroupBox("Worksheet");
+    auto* grid = gridOf(group);
+    const char* const captions[] = {"UTC", "SMT", "Watch error"};
+    for (std::size_t i = 0; i < 3; ++i) {
+        grid->addWidget(new QLabel(captions[i]), static_cast<int>(i), 0);
+        grid->addWidget(m_lblSunTime[i], static_cast<int>(i), 1);
+    }
+    for (std::size_t i = 0; i < worksheetLines; ++i) {
+        grid->addWidget(m_lblSunTerm[i], static_cast<int>(i) + 3, 0);
+        grid->addWidget(m_lblSunValue[i], static_cast<int>(i) + 3, 1);
+    }
+    grid->setColumnMinimumWidth(0,
+                                fontMetrics().horizontalAdvance("Upper limb: less the diameter"));
+    return group;
+}
+
+QGroupBox* frmSunSight::layOutLine()
+{
+    auto* group = new QGroupBox("Line of position");
+    auto* grid = gridOf(group);
+    struct ResultRow {
+        const char* caption;
+        const char* unit;
+    };
+    constexpr ResultRow rows[] = {{"Declination", "south -"},
+                                  {"Greenwich hour angle", ""},
+                                  {"DR at the sight", ""},
+                                  {"Computed altitude Hc", ""},
+                                  {"Intercept", "nm, T(owards) or A(way)"},
+                                  {"Azimuth Zn", "degrees true"}};
+    for (std::size_t i = 0; i < m_lblSunLine.size(); ++i)
+        addResultRow(grid, static_cast<int>(i), rows[i].caption, m_lblSunLine[i], rows[i].unit);
+    return group;
+}
+
+QGroupBox* frmSunSight::layOutNoon()
+{
+    auto* group = new QGroupBox("Meridian passage");
+    auto* grid = gridOf(group);
+    const char* const captions[] = {"Local apparent noon", "", "Latitude by the sight", ""};
+    for (std::size_t i = 0; i < m_lblSunNoon.size(); ++i) {
+        grid->addWidget(new QLabel(captions[i]), static_cast<int>(i), 0, Qt::AlignTop);
+        grid->addWidget(m_lblSunNoon[i], static_cast<int>(i), 1);
+    }
+    grid->setColumnStretch(1, 1);
+    return group;
+}
+
+QWidget* frmSunSight::layOutPlot()
+{
+    auto* part = new QWidget;
+    auto* grid = new QGridLayout(part);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(1);
+    grid->addWidget(m_picSunSight, 0, 0, 1, 4);
+    grid->addWidget(new QLabel("At the pointer"), 1, 0);
+    grid->addWidget(m_lblSunCursor[0], 1, 1);
+    grid->addWidget(m_lblSunCursor[1], 1, 2);
+    setRoom(m_lblSunCursor[0], "  00.-00'0N");
+    setRoom(m_lblSunCursor[1], "000.-00'0E");
+    grid->setColumnStretch(3, 1);
+    grid->setRowStretch(0, 1);
+    return part;
+}
+
+QGroupBox* frmSunSight::layOutSights()
+{
+    auto* group = new QGroupBox("Recorded sights");
+    auto* grid = gridOf(group);
+    grid->addWidget(m_lstSunSight, 0, 0, 3, 1);
+    grid->addWidget(addButton("cmdEdit", "&Edit", "The chosen sight back into the boxes",
+                              &frmSunSight::cmdEdit_Click),
+                    0, 1);
+    grid->addWidget(addButton("cmdDelete", "&Delete", "Deletes the chosen sight, after a question",
+                              &frmSunSight::cmdDelete_Click),
+                    1, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(2, 1);
+    return group;
+}
+
+QGroupBox* frmSunSight::layOutFix()
+{
+    auto* group = new QGroupBox("Fix");
+    auto* grid = gridOf(group);
+    auto* position = new QHBoxLayout;
+    position->addWidget(m_lblSunFix[0]);
+    position->addWidget(m_lblSunFix[1]);
+    position->addStretch(1);
+    grid->addLayout(position, 0, 0);
+    for (std::size_t i = 2; i < m_lblSunFix.size(); ++i)
+        grid->addWidget(m_lblSunFix[i], static_cast<int>(i), 0);
+    auto* quality = new QHBoxLayout;
+    for (std::size_t i = 0; i < sigmaRows.size(); ++i) {
+        auto* caption = new QLabel(sigmaRows[i].caption);
+        caption->setBuddy(m_txtSunSigma[i]);
+        m_txtSunSigma[i]->setMaximumWidth(
+            m_txtSunSigma[i]->fontMetrics().horizontalAdvance("00.000"));
+        quality->addWidget(caption);
+        quality->addWidget(m_txtSunSigma[i]);
+        quality->addWidget(new QLabel(sigmaRows[i].unit));
+    }
+    quality->addStretch(1);
+    grid->addLayout(quality, 5, 0);
+    grid->addWidget(m_chkSunMeasured, 6, 0);
+    return group;
+}
+
+} // namespace korvel
