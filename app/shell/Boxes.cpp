@@ -234,7 +234,7 @@ void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
 void PositionBox::setBriefEcho()
 {
     m_briefEcho = true;
-    m_echo->setMinimumWidth(m_echo->fontMetrics().horizontalAdvance("000°00.000' W !"));
+    m_echo->reserve("000°00.000' W !");
     showEcho();
 }
 
