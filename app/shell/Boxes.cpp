@@ -123,12 +123,72 @@ void setEntryOrder(const std::vector<EntryBox*>& boxes)
 ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setFocusPolicy(Qt::ClickFocus);
+    setSelectable(false);
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
     setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
+}
+
+void ResultLabel::setSelectable(bool selectable)
+{
+    // Selectable text is a whole document to the toolkit, laid out anew at every change. Most
+    // results change while nobody is at them: they are plain until the mouse or the focus comes.
+    const Qt::TextInteractionFlags flags =
+        selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                   : Qt::NoTextInteraction;
+    if (flags == textInteractionFlags()) return;
+    setTextInteractionFlags(flags);
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+void ResultLabel::reserve(const QString& longest)
+{
+    setFixedSize(fontMetrics().horizontalAdvance(longest), fontMetrics().height());
+}
+
+void ResultLabel::showReserved(const QString& text)
+{
+    if (text == this->text()) return;
+    const int wide = fontMetrics().horizontalAdvance(text);
+    if (wide > minimumWidth()) setFixedWidth(wide);
+    setText(text);
+}
+
+void ResultLabel::paintEvent(QPaintEvent* event)
+{
+    if (textInteractionFlags() != Qt::NoTextInteraction || textFormat() != Qt::PlainText ||
+        wordWrap() || text().contains('\n')) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    m_figures.draw(painter, contentsRect(), alignment(), text());
+}
+
+void ResultLabel::enterEvent(QEnterEvent* event)
+{
+    setSelectable(true);
+    QLabel::enterEvent(event);
+}
+
+void ResultLabel::leaveEvent(QEvent* event)
+{
+    QLabel::leaveEvent(event);
+    if (!hasFocus()) setSelectable(false);
+}
+
+void ResultLabel::focusInEvent(QFocusEvent* event)
+{
+    setSelectable(true);
+    QLabel::focusInEvent(event);
+}
+
+void ResultLabel::focusOutEvent(QFocusEvent* event)
+{
+    QLabel::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && !underMouse()) setSelectable(false);
 }
 
 void ResultLabel::keyPressEvent(QKeyEvent* event)
@@ -162,7 +222,7 @@ PositionBox::PositionBox(Axis axis, QWidget* parent)
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { m_echo->setObjectName("echo " + name); });
     // Room for the longest echo, so that the window keeps its shape while the officer types.
-    m_echo->setMinimumWidth(fontMetrics().horizontalAdvance("000°00.0' W (minutes 75)"));
+    m_echo->reserve("000°00.0' W (minutes 75)");
 }
 
 void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
@@ -174,7 +234,7 @@ void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
 void PositionBox::setBriefEcho()
 {
     m_briefEcho = true;
-    m_echo->setMinimumWidth(m_echo->fontMetrics().horizontalAdvance("000°00.000' W !"));
+    m_echo->reserve("000°00.000' W !");
     showEcho();
 }
 
@@ -188,7 +248,7 @@ void PositionBox::showEcho()
     }
     const QString full = QString::fromStdString(echo.text);
     const QString remark = m_briefEcho ? " !" : " (" + hint + ")";
-    m_echo->setText(hint.isEmpty() ? full : full + remark);
+    m_echo->showReserved(hint.isEmpty() ? full : full + remark);
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

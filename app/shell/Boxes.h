@@ -8,6 +8,7 @@
 #include <string>
 
 #include "app/position_text.h"
+#include "app/shell/FigureText.h"
 
 namespace korvel
 {
@@ -82,12 +83,26 @@ public:
     /// What copying the whole label gives, when that is not its own text.
     std::function<QString()> copyText;
 
+    /// Keeps the label at one size, wide enough for a text, so that a new result makes it paint and
+    /// never the window lay itself out. A longer text than any before widens it.
+    void reserve(const QString& longest);
+    /// Shows a text in the reserved size.
+    void showReserved(const QString& text);
+
 protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void setSelectable(bool selectable);
     void copy();
+
+    FigureText m_figures;
 };
 
 /// A box for a latitude or a longitude. Beside it stands what was understood; what is pasted from

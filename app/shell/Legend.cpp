@@ -16,8 +16,8 @@ constexpr double afterText = 1;
 
 } // namespace
 
-Legend::Legend(QPainter& painter, QPointF start, const QColor& textColour)
-    : m_painter(painter), m_at(start), m_textColour(textColour),
+Legend::Legend(QPainter& painter, FigureText& figures, QPointF start, const QColor& textColour)
+    : m_painter(painter), m_figures(figures), m_at(start), m_textColour(textColour),
       m_unit(QFontMetricsF(painter.font()).height())
 {
 }
@@ -49,8 +49,8 @@ void Legend::text(const QString& words)
 {
     m_painter.setPen(m_textColour);
     const double wide = QFontMetricsF(m_painter.font()).horizontalAdvance(words);
-    m_painter.drawText(QRectF(m_at.x(), m_at.y() - m_unit / 2, wide + 1, m_unit), Qt::AlignVCenter,
-                       words);
+    m_figures.draw(m_painter, {m_at.x(), m_at.y() - m_unit / 2, wide + 1, m_unit}, Qt::AlignVCenter,
+                   words);
     m_at.rx() += wide + afterText * m_unit;
 }
 

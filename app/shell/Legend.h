@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/FigureText.h"
+
 #include <QPainter>
 
 #include <functional>
@@ -13,7 +15,7 @@ class Legend
 {
 public:
     /// @param start left end of the line of text, at half its height
-    Legend(QPainter& painter, QPointF start, const QColor& textColour);
+    Legend(QPainter& painter, FigureText& figures, QPointF start, const QColor& textColour);
 
     void line(const QPen& pen, const QString& words);
     /// @param draw draws the mark around a point
@@ -26,6 +28,7 @@ private:
     void text(const QString& words);
 
     QPainter& m_painter;
+    FigureText& m_figures;
     QPointF m_at;
     QColor m_textColour;
     double m_unit; ///< height of a line of text

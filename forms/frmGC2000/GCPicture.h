@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/FigureText.h"
 #include "app/shell/PictureBox.h"
 #include "app/shell/Program.h"
 #include "forms/frmGC2000/DrawWPs.h"
@@ -36,7 +37,8 @@ private:
 
     Program& m_program;
     GCChart m_chart;
-    double m_unit; ///< height of a line of text, which every size follows
+    mutable FigureText m_figures; ///< glyphs that it has drawn before
+    double m_unit;                ///< height of a line of text, which every size follows
 };
 
 } // namespace korvel

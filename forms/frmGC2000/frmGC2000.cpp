@@ -7,8 +7,8 @@
 
 #include <QAction>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QMenu>
+#include <QVBoxLayout>
 
 namespace korvel
 {
@@ -34,6 +34,21 @@ constexpr std::array<TableColumn, 5> tableColumns = {{{"No.", "Dep."},
                                                       {"Longitude", "000.00'0W"},
                                                       {"Course", "<000.0>"},
                                                       {"Miles to next", "00000.'0"}}};
+
+/// A heading over a grid. A group box would paint its frame and title again with every result on
+/// it, and a key changes some seventy of them.
+QGridLayout* addPanel(QWidget* panel, const QString& title)
+{
+    auto* column = new QVBoxLayout(panel);
+    auto* heading = new QLabel(title);
+    QFont bold = heading->font();
+    bold.setBold(true);
+    heading->setFont(bold);
+    column->addWidget(heading);
+    auto* grid = new QGridLayout;
+    column->addLayout(grid, 1);
+    return grid;
+}
 
 } // namespace
 
@@ -88,6 +103,17 @@ void frmGC2000::addResults()
     m_lblSaving = addLabel("lblSaving");
     m_picGC = new GCPicture(program());
 
+    // Whatever a key changes keeps its place: the window paints and never lays itself out again.
+    for (ResultLabel* label : m_lblGC2000)
+        label->reserve(tableColumns[4].longest);
+    m_lblSaving->reserve(tableColumns[4].longest);
+    m_lblInitialCourse->reserve(tableColumns[3].longest);
+    m_lblFinalCourse->reserve(tableColumns[3].longest);
+    m_lblVertexLat->reserve(tableColumns[1].longest);
+    m_lblVertexLong->reserve(tableColumns[2].longest);
+    m_lblVertexRemark->setFont(font());
+    m_lblVertexRemark->reserve("beyond the route");
+
     const auto forCopy = [](const GCWaypoint& waypoint) {
         return QString::fromStdString(positionForCopy(waypoint.lat, waypoint.longitude));
     };
@@ -106,10 +132,10 @@ void frmGC2000::addResults()
     m_lblVertexLong->copyText = vertex;
 }
 
-QGroupBox* frmGC2000::layOutPositions()
+QWidget* frmGC2000::layOutPositions()
 {
-    auto* group = new QGroupBox("Positions, degrees.minutes (latitudes up to 65)");
-    auto* grid = new QGridLayout(group);
+    auto* group = new QWidget;
+    auto* grid = addPanel(group, "Positions, degrees.minutes (latitudes up to 65)");
     for (std::size_t i = 0; i < m_txtGC.size(); ++i) {
         auto* box = static_cast<PositionBox*>(m_txtGC[i]);
         auto* label = new QLabel(captions[i]);
@@ -123,10 +149,10 @@ QGroupBox* frmGC2000::layOutPositions()
     return group;
 }
 
-QGroupBox* frmGC2000::layOutDistances()
+QWidget* frmGC2000::layOutDistances()
 {
-    auto* group = new QGroupBox("Distances");
-    auto* grid = new QGridLayout(group);
+    auto* group = new QWidget;
+    auto* grid = addPanel(group, "Distances");
     addResultRow(grid, 0, "Rhumb line", m_lblGC2000[0], "miles");
     addResultRow(grid, 1, "Great circle", m_lblGC2000[1], "miles");
     addResultRow(grid, 2, "Sum of the legs", m_lblGC2000[2], "miles");
@@ -136,10 +162,10 @@ QGroupBox* frmGC2000::layOutDistances()
     return group;
 }
 
-QGroupBox* frmGC2000::layOutTrack()
+QWidget* frmGC2000::layOutTrack()
 {
-    auto* group = new QGroupBox("Great circle on the sphere");
-    auto* grid = new QGridLayout(group);
+    auto* group = new QWidget;
+    auto* grid = addPanel(group, "Great circle on the sphere");
     const QFontMetrics metrics(m_lblSaving->font());
     addResultRow(grid, 0, "Initial course", m_lblInitialCourse, "degrees true");
     addResultRow(grid, 1, "Final course", m_lblFinalCourse, "degrees true");
@@ -148,18 +174,16 @@ QGroupBox* frmGC2000::layOutTrack()
     grid->addWidget(m_lblVertexLong, 2, 2);
     grid->addWidget(m_lblVertexRemark, 2, 3);
     addResultRow(grid, 3, "Saves", m_lblSaving, "miles against the rhumb line");
-    m_lblVertexRemark->setFont(font());
     grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(tableColumns[1].longest));
     grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(tableColumns[2].longest));
-    grid->setColumnMinimumWidth(3, fontMetrics().horizontalAdvance("beyond the route"));
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(4, 1);
     return group;
 }
 
-QGroupBox* frmGC2000::layOutTable()
+QWidget* frmGC2000::layOutTable()
 {
-    auto* group = new QGroupBox("Waypoints");
+    auto* group = new QWidget;
     auto* rows = new QWidget;
     auto* grid = new QGridLayout(rows);
     auto* heading = new QWidget;
@@ -196,13 +220,10 @@ QGroupBox* frmGC2000::layOutTable()
 
     auto* area = new FollowingScrollArea(rows);
     area->setHeading(heading);
-    area->viewport()->setAutoFillBackground(false); // the frame's own background shows
-    rows->setAutoFillBackground(false);
     area->setMinimumHeight(8 * metrics.height());
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(area->sizeHint().width());
-    auto* column = new QVBoxLayout(group);
-    column->addWidget(area);
+    addPanel(group, "Waypoints")->addWidget(area, 0, 0);
     return group;
 }
 

@@ -4,8 +4,6 @@
 #include "app/shell/CalculatorWindow.h"
 #include "forms/frmGC2000/CalculateGC.h"
 
-class QGroupBox;
-
 namespace korvel
 {
 
@@ -25,10 +23,10 @@ private:
 
     void addBoxes();
     void addResults();
-    QGroupBox* layOutPositions();
-    QGroupBox* layOutDistances();
-    QGroupBox* layOutTrack();
-    QGroupBox* layOutTable();
+    QWidget* layOutPositions();
+    QWidget* layOutDistances();
+    QWidget* layOutTrack();
+    QWidget* layOutTable();
     void addMenus();
     void addMemoMenus();
     void nameWaypointEntries();

@@ -77,7 +77,8 @@ void WindPictureBox::paint(QPainter& painter) const
 
 QPen WindPictureBox::pen(const QColor& colour, double width, Qt::PenStyle style) const
 {
-    return {colour, std::max(1.0, width * m_unit), style, Qt::FlatCap, Qt::RoundJoin};
+    // Whole widths: the painter has a short way for a line of one pixel.
+    return {colour, std::max(1.0, std::floor(width * m_unit)), style, Qt::FlatCap, Qt::RoundJoin};
 }
 
 QPen WindPictureBox::headingPen() const
@@ -116,8 +117,8 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
         // Just outside the outermost ring.
         const QPointF out = pixel(label.at) - centre;
         const QPointF at = centre + out * (1 + 0.7 * m_unit / std::hypot(out.x(), out.y()));
-        painter.drawText(QRectF(at.x() - 2 * m_unit, at.y() - m_unit / 2, 4 * m_unit, m_unit),
-                         Qt::AlignCenter, QString::fromStdString(label.text));
+        m_figureText.draw(painter, {at.x() - 2 * m_unit, at.y() - m_unit / 2, 4 * m_unit, m_unit},
+                          Qt::AlignCenter, QString::fromStdString(label.text));
     }
     for (const double ring : m_picture.rings) {
         // Between two spokes, so that no line runs through the figure.
@@ -126,7 +127,7 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
         const double wide = QFontMetricsF(font()).horizontalAdvance(text);
         const QRectF room(at.x() - wide / 2 - 1, at.y() - m_unit / 2, wide + 2, m_unit);
         painter.fillRect(room, colours().paper);
-        painter.drawText(room, Qt::AlignCenter, text);
+        m_figureText.draw(painter, room, Qt::AlignCenter, text);
     }
 }
 
@@ -181,7 +182,8 @@ void WindPictureBox::drawShip(QPainter& painter) const
 
 void WindPictureBox::drawLegend(QPainter& painter) const
 {
-    Legend legend(painter, {m_unit / 2, 0.75 * m_unit}, palette().color(QPalette::WindowText));
+    Legend legend(painter, m_figureText, {m_unit / 2, 0.75 * m_unit},
+                  palette().color(QPalette::WindowText));
     legend.line(headingPen(), "Ship's heading");
     legend.line(apparentPen(), "Apparent wind");
     legend.line(truePen(), "True wind");

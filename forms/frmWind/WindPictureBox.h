@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/FigureText.h"
 #include "app/shell/PictureBox.h"
 #include "app/shell/Program.h"
 #include "forms/frmWind/WindPicture.h"
@@ -46,6 +47,7 @@ private:
 
     Program& m_program;
     WindPicture m_picture;
+    mutable FigureText m_figureText; ///< glyphs that it has drawn before
     std::optional<WindFigures> m_figures;
     WindOrientation m_orientation = WindOrientation::HeadUp;
     NavFunc113::Knots m_heldRadius = 0;

@@ -110,7 +110,7 @@ void frmWind::nameSettings()
         [this] {
             Record record;
             for (const EntryBox* box : m_txtWind)
-                record.push_back(box->value());
+                record.emplace_back(box->value());
             record.emplace_back(orientation() == WindOrientation::NorthUp ? 1.0 : 0.0);
             return record;
         },
