@@ -361,7 +361,7 @@ void frmSunMoon::leaveDate()
 void frmSunMoon::cmdToday_Click()
 {
     m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
-    m_txtTD[0]->setText(text(Format(program().saved().TD(), "0.0##")));
+    m_txtTD[0]->setText(text(Format(program().saved().TD(), "0.##")));
     m_txtLocation[0]->setText("Today");
     m_txtLatitude[0]->setFocus(Qt::TabFocusReason);
     leaveDate();
