@@ -121,11 +121,33 @@ void setEntryOrder(const std::vector<EntryBox*>& boxes)
 ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    setFocusPolicy(Qt::ClickFocus);
+    setSelectable(false);
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
+}
+
+/// The toolkit keeps a text document behind a label that can be selected or take the focus. It is
+/// most of the time from a key to the painted labels, so it is there only while somebody selects.
+void ResultLabel::setSelectable(bool selectable)
+{
+    setTextInteractionFlags(selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                       : Qt::NoTextInteraction);
+}
+
+void ResultLabel::mousePressEvent(QMouseEvent* event)
+{
+    setSelectable(true);
+    setFocus(Qt::MouseFocusReason);
+    QLabel::mousePressEvent(event);
+}
+
+void ResultLabel::focusOutEvent(QFocusEvent* event)
+{
+    QLabel::focusOutEvent(event);
+    // Its own context menu and a look into another program leave the selection alone.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        setSelectable(false);
 }
 
 void ResultLabel::keyPressEvent(QKeyEvent* event)

@@ -83,10 +83,13 @@ public:
     std::function<QString()> copyText;
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void setSelectable(bool selectable);
     void copy();
 };
 
