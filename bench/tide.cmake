@@ -15,3 +15,8 @@ target_link_libraries(tide_bench PRIVATE tide_full frmTIDE_calculation benchmark
 foreach(target tide_accuracy tide_bench)
   target_compile_definitions(${target} PRIVATE KORVEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 endforeach()
+
+# Choosing a station to the painted curve, against an empty repaint of the picture.
+add_executable(tide_ui_bench ui/TideBench.cpp)
+target_link_libraries(tide_ui_bench PRIVATE ui_bench frmTIDE)
+target_compile_definitions(tide_ui_bench PRIVATE KORVEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")

@@ -23,15 +23,17 @@ QString memberName(const QString& array, int index)
     return QString("%1(%2)").arg(array).arg(index);
 }
 
-EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent) {}
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
+{
+    setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
+}
 
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
     m_focusedByMouse = event->reason() == Qt::MouseFocusReason;
-    // Coming back from a menu or from another program goes on where the typing was.
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        selectAll();
+    // A context menu that closes must not undo what was selected for it.
+    if (event->reason() != Qt::PopupFocusReason) selectAll();
 }
 
 void EntryBox::focusOutEvent(QFocusEvent* event)
@@ -125,6 +127,7 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
+    setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
 }
 
 /// The toolkit keeps a text document behind a label that can be selected or take the focus. It is

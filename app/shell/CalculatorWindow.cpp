@@ -18,6 +18,19 @@
 
 namespace korvel
 {
+namespace
+{
+
+constexpr QMarginsF pageMargins(15, 15, 15, 15); // millimetres
+
+void tint(QWidget* widget, const QColor& colour)
+{
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::WindowText, colour);
+    widget->setPalette(palette);
+}
+
+} // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
     : m_program(program), m_body(new QWidget), m_notice(new ResultLabel)
@@ -120,9 +133,14 @@ void CalculatorWindow::showEvent(QShowEvent* event)
     // would take that where all of it could be shown.
     if (m_scrollArea && !m_fitted) {
         m_fitted = true; // once; afterwards the officer's size holds
+        for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
+            each->invalidate(); // what they remember is from before the controls had their fonts
         const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
         const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
-        resize(sizeHint().boundedTo(room));
+        QSize wanted = sizeHint();
+        if (wanted.width() > room.width())
+            wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        resize(wanted.boundedTo(room));
     }
     QMainWindow::showEvent(event);
 }
@@ -167,6 +185,20 @@ void CalculatorWindow::calculateAll()
 {
     for (std::size_t i = 0; i < m_calculations.size(); ++i)
         calculate(static_cast<int>(i));
+}
+
+void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
+{
+    for (QLabel* label : labels) {
+        if (dimmed == (m_dimmed.count(label) > 0)) continue;
+        if (dimmed) {
+            m_dimmed.insert(label);
+            tint(label, m_program.colours().dimmed);
+        } else {
+            m_dimmed.erase(label);
+            label->setPalette(QPalette());
+        }
+    }
 }
 
 void CalculatorWindow::setNotice(const QString& key, const QString& text)
@@ -277,11 +309,12 @@ QMenu* CalculatorWindow::memoMenu(QMenu*& menu, const QString& caption, const QS
     return menu;
 }
 
-void CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
-                                    const QString& caption, std::function<void()> action)
+QAction* CalculatorWindow::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                                        const QString& caption, std::function<void()> action)
 {
     QMenu* into = memoMenu(menu, title, array);
-    addEntry(into, array, static_cast<int>(into->actions().size()), caption, std::move(action));
+    return addEntry(into, array, static_cast<int>(into->actions().size()), caption,
+                    std::move(action));
 }
 
 void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
@@ -291,20 +324,23 @@ void CalculatorWindow::addStoreSingle(const QString& caption, Text value)
     });
 }
 
-void CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
+QAction* CalculatorWindow::addStorePosition(const QString& caption, Text latitude, Text longitude)
 {
-    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
-                 [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
-                     program().actions().storePosition(latitude(), longitude());
-                 });
+    return addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
+                        [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
+                            program().actions().storePosition(latitude(), longitude());
+                        });
 }
 
 void CalculatorWindow::addRecallSingle(const QString& caption, QLineEdit* box)
 {
-    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] {
-        if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
-            box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
-    });
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] { recallSingle(box); });
+}
+
+void CalculatorWindow::recallSingle(QLineEdit* box)
+{
+    if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
+        box->setText(QString::fromStdString(memoText(program().saved().singleMemo())));
 }
 
 void CalculatorWindow::addRecallPosition(const QString& caption, QLineEdit* latitude,
@@ -335,8 +371,20 @@ void CalculatorWindow::addLinksMenu(const QString& array)
 
 void CalculatorWindow::printForm()
 {
+    printPage([this](QPainter& painter, const QRect& room) {
+        QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
+        const double scale =
+            std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
+        painter.scale(scale, scale);
+        page->render(&painter);
+    });
+}
+
+void CalculatorWindow::printPage(const std::function<void(QPainter&, const QRect&)>& draw)
+{
     QPrinter printer(QPrinter::HighResolution);
     printer.setDocName(windowTitle());
+    printer.setPageMargins(pageMargins, QPageLayout::Millimeter);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
     QPainter painter;
@@ -344,12 +392,7 @@ void CalculatorWindow::printForm()
         m_program.questions().ask({"The printer cannot be used.", programTitle, Buttons::Ok});
         return;
     }
-    QWidget* page = m_scrollArea ? m_scrollArea->widget() : centralWidget();
-    const QRect room = painter.viewport();
-    const double scale =
-        std::min(double(room.width()) / page->width(), double(room.height()) / page->height());
-    painter.scale(scale, scale);
-    page->render(&painter);
+    draw(painter, painter.viewport());
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event)
@@ -362,14 +405,11 @@ void CalculatorWindow::closeEvent(QCloseEvent* event)
 void CalculatorWindow::applyColours()
 {
     const ColourScheme& colours = m_program.colours();
-    const auto tint = [](QWidget* widget, const QColor& colour) {
-        QPalette palette = widget->palette();
-        palette.setColor(QPalette::WindowText, colour);
-        widget->setPalette(palette);
-    };
     tint(m_notice, colours.notice);
     for (QLabel* label : m_body->findChildren<QLabel*>())
         if (label->objectName().startsWith("echo ")) tint(label, colours.echo);
+    for (QLabel* label : m_dimmed)
+        tint(label, colours.dimmed);
 }
 
 } // namespace korvel

@@ -11,11 +11,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <utility>
 #include <vector>
 
 class QGridLayout;
 class QMenu;
+class QPainter;
 
 namespace korvel
 {
@@ -42,6 +44,7 @@ public:
 
 protected:
     Program& program() { return m_program; }
+    const Program& program() const { return m_program; }
 
     // Controls. They have no place yet: put them into layouts.
 
@@ -110,6 +113,9 @@ protected:
     void calculate(int number);
     void calculateAll();
 
+    /// Shows results dimmed while they do not belong to the inputs any more.
+    void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
+
     /// Says something in the notice line under a key of the caller's; an empty text takes it back.
     void setNotice(const QString& key, const QString& text);
 
@@ -146,8 +152,10 @@ protected:
 
     using Text = std::function<std::string()>;
     void addStoreSingle(const QString& caption, Text value);
-    void addStorePosition(const QString& caption, Text latitude, Text longitude);
+    QAction* addStorePosition(const QString& caption, Text latitude, Text longitude);
     void addRecallSingle(const QString& caption, QLineEdit* box);
+    /// What a recall entry does: asks and fills the box on Yes.
+    void recallSingle(QLineEdit* box);
     void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);
 
     /// The same for boxes that are chosen when the entry is: those of the row with the focus.
@@ -159,6 +167,9 @@ protected:
 
     /// Prints the window as it stands, through the system's print dialog.
     void printForm();
+    /// Prints a page of the window's own making, through the system's print dialog.
+    /// @param draw gets a painter in device pixels and the room of the page in them
+    void printPage(const std::function<void(QPainter&, const QRect&)>& draw);
 
     /// The area for the window's own controls, above the notice line.
     QWidget* body() const { return m_body; }
@@ -170,13 +181,14 @@ protected:
 
 private:
     QMenu* memoMenu(QMenu*& menu, const QString& caption, const QString& name);
-    void addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
-                      const QString& caption, std::function<void()> action);
+    QAction* addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                          const QString& caption, std::function<void()> action);
 
     Program& m_program;
     QWidget* m_body;
     QLabel* m_notice;
     std::map<QString, QString> m_notices;
+    std::set<QLabel*> m_dimmed;
     std::vector<Calculation> m_calculations;
     std::unique_ptr<SettingsFile> m_settings;
     Save m_save;

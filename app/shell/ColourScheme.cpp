@@ -47,6 +47,8 @@ ColourScheme ColourScheme::day()
     scheme.secondary = "#b0560a";
     scheme.tertiary = "#1d7a3c";
     scheme.marker = "#a01050";
+    scheme.curve = Qt::black;
+    scheme.datum = QColor(32, 8, 2); // 133152 as red + 256 green + 65536 blue
     return scheme;
 }
 
@@ -55,7 +57,7 @@ ColourScheme ColourScheme::night()
     // Dim and warm: the eyes must still see the sea after a look at the screen.
     ColourScheme scheme;
     scheme.palette = paletteOf(
-        {"#15110e", "#0c0a08", "#211a15", "#2a211b", "#d9a06a", "#7a6048", "#7c3b14", "#ffd9ae"});
+        {"#15110e", "#2a2019", "#211a15", "#3a2d24", "#d9a06a", "#7a6048", "#7c3b14", "#ffd9ae"});
     scheme.clock = "#ff9a4d";
     scheme.memo = "#d9a06a";
     scheme.unit = "#c98b5e";
@@ -70,6 +72,8 @@ ColourScheme ColourScheme::night()
     scheme.secondary = "#c4683a";
     scheme.tertiary = "#8f9a55";
     scheme.marker = "#ff7a4d";
+    scheme.curve = "#ffb066";
+    scheme.datum = "#c98b5e";
     return scheme;
 }
 

@@ -26,6 +26,8 @@ struct ColourScheme {
     QColor secondary; ///< the line that it is compared with
     QColor tertiary;  ///< a third line
     QColor marker;    ///< marked points
+    QColor curve;     ///< the day's curve of a tide or stream
+    QColor datum;     ///< chart datum, or slack water, under that curve
 
     static ColourScheme day();
     static ColourScheme night();

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace korvel
 {
 
@@ -13,12 +15,23 @@ FollowingScrollArea::FollowingScrollArea(QWidget* content)
     setWidgetResizable(true);
     setWidget(content);
     setFocusPolicy(Qt::NoFocus); // Tab goes from box to box
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        // A row above and below comes along, so that it is seen where the next Enter leads.
-        if (now && widget()->isAncestorOf(now))
-            ensureWidgetVisible(now, now->height(), 3 * now->height() / 2);
-    });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { follow(now); });
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { placeHeading(); });
+}
+
+void FollowingScrollArea::follow(QWidget* focus)
+{
+    if (!focus || !widget()->isAncestorOf(focus)) return;
+    // A row above and below comes along where there is room, so that it is seen where the next
+    // Enter leads.
+    const QSize room = (viewport()->size() - focus->size()) / 2;
+    const QSize around(std::clamp(room.width(), 0, focus->height()),
+                       std::clamp(room.height(), 0, 3 * focus->height() / 2));
+    // The toolkit's own way only looks after the text cursor; the whole box is to be seen.
+    const QPoint middle = focus->mapTo(widget(), focus->rect().center());
+    ensureVisible(middle.x(), middle.y(), focus->width() / 2 + around.width(),
+                  focus->height() / 2 + around.height());
 }
 
 void FollowingScrollArea::setHeading(QWidget* heading)
@@ -27,6 +40,13 @@ void FollowingScrollArea::setHeading(QWidget* heading)
     heading->setParent(this);
     setViewportMargins(0, heading->sizeHint().height(), 0, 0);
     placeHeading();
+}
+
+void FollowingScrollArea::setStrip()
+{
+    m_isStrip = true;
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFixedHeight(widget()->sizeHint().height());
 }
 
 QSize FollowingScrollArea::sizeHint() const
@@ -39,6 +59,11 @@ void FollowingScrollArea::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
     placeHeading();
+    follow(QApplication::focusWidget());
+    if (!m_isStrip) return;
+    const QSize content = widget()->sizeHint();
+    const bool scrolls = width() < widget()->minimumSizeHint().width();
+    setFixedHeight(content.height() + (scrolls ? horizontalScrollBar()->sizeHint().height() : 0));
 }
 
 void FollowingScrollArea::placeHeading()

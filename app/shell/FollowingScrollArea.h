@@ -18,15 +18,20 @@ public:
     /// Puts a heading above the content. It moves sideways with it and never up.
     void setHeading(QWidget* heading);
 
+    /// Makes it a strip: always as high as its content, scrolling sideways only.
+    void setStrip();
+
     QSize sizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void follow(QWidget* focus);
     void placeHeading();
 
     QWidget* m_heading = nullptr;
+    bool m_isStrip = false;
 };
 
 } // namespace korvel

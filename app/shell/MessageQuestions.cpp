@@ -30,15 +30,6 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons)
     return QMessageBox::Ok;
 }
 
-QWidget* asker()
-{
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    if (QWidget* active = QApplication::activeWindow()) return active;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible()) return window;
-    return nullptr;
-}
-
 /// The question at start-up stands below the title picture instead of on it.
 void placeBelowStartWindow(QDialog& dialog)
 {
@@ -50,6 +41,17 @@ void placeBelowStartWindow(QDialog& dialog)
 }
 
 } // namespace
+
+QWidget* MessageQuestions::asker()
+{
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    if (QWidget* active = QApplication::activeWindow()) m_lastAsker = active;
+    // A question that follows another at once comes before its window is active again.
+    if (m_lastAsker && m_lastAsker->isVisible()) return m_lastAsker;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible()) return window;
+    return nullptr;
+}
 
 Answer MessageQuestions::ask(const Message& message)
 {

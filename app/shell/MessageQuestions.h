@@ -3,6 +3,9 @@
 
 #include "app/Questions.h"
 
+#include <QPointer>
+#include <QWidget>
+
 namespace korvel
 {
 
@@ -14,6 +17,11 @@ public:
     std::string input(const std::string& prompt, const std::string& title,
                       const std::string& defaultAnswer) override;
     void beep() override;
+
+private:
+    QWidget* asker();
+
+    QPointer<QWidget> m_lastAsker;
 };
 
 } // namespace korvel

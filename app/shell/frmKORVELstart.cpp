@@ -54,6 +54,24 @@ void drawSea(QPainter& painter)
     }
 }
 
+/// Draws a line of text from a base line on, not scaled: the font that every window uses is there
+/// anyway, and another size of it is all that the title costs the start.
+void drawLine(QPainter& painter, const QPointF& base, const QString& text)
+{
+    const QPointF place = painter.transform().map(base);
+    painter.save();
+    painter.resetTransform();
+    painter.drawText(place, text);
+    painter.restore();
+}
+
+/// The font in the size at which a text has a given width.
+QFont fittedFont(QFont font, const QString& text, double wanted)
+{
+    font.setPointSizeF(font.pointSizeF() * wanted / QFontMetricsF(font).horizontalAdvance(text));
+    return font;
+}
+
 } // namespace
 
 frmKORVELstart::frmKORVELstart() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint)
@@ -90,20 +108,10 @@ void frmKORVELstart::paintEvent(QPaintEvent*)
     painter.restore();
 
     painter.setPen(QColor(245, 235, 215));
-    QFont title = font();
-    title.setPixelSize(40);
-    title.setBold(true);
-    // Whatever font the machine has, the title keeps inside the picture.
-    const QRectF titleRoom(214, 72, 250, 60);
-    while (QFontMetricsF(title).horizontalAdvance(programTitle) > titleRoom.width())
-        title.setPixelSize(title.pixelSize() - 1);
-    painter.setFont(title);
-    painter.drawText(titleRoom, Qt::AlignLeft | Qt::AlignVCenter, programTitle);
-    QFont line = font();
-    line.setPixelSize(15);
-    painter.setFont(line);
-    painter.drawText(QRectF(216, 128, 250, 50), Qt::AlignLeft | Qt::AlignTop,
-                     "Calculators for the officer\nof the watch");
+    drawLine(painter, {216, 146}, "Calculators for the");
+    drawLine(painter, {216, 168}, "officer of the watch");
+    painter.setFont(fittedFont(font(), programTitle, width() * 0.52));
+    drawLine(painter, {214, 120}, programTitle);
 }
 
 } // namespace korvel

@@ -2,6 +2,7 @@
 #include "forms/conversion/CalculateConversion.h"
 
 #include "app/Format.h"
+#include "app/KORVEL2000Actions.h"
 #include "app/reading.h"
 #include "navlib/arithmetic_error.h"
 
@@ -50,6 +51,28 @@ CalculateConversion(NavFunc113::Quantity quantity, std::size_t typed, std::strin
                                  : std::string());
     boxes[typed].reset();
     return boxes;
+}
+
+std::string convertedInFull(NavFunc113::Quantity quantity, std::size_t typed, std::string_view text,
+                            std::size_t to)
+{
+    if (to == typed) return std::string(text);
+    const std::optional<double> value = readLeadingNumber(text);
+    if (!value) return {};
+    try {
+        return memoText(
+            NavFunc113::ConvertUnits(*value, unitAt(quantity, typed), unitAt(quantity, to)));
+    } catch (const NavFunc113::ArithmeticError&) {
+        return {};
+    }
+}
+
+std::string remarkOn(std::string_view text)
+{
+    if (text.find_first_not_of(" \t+-.") == std::string_view::npos || isNumeric(text)) return {};
+    const std::optional<double> value = readLeadingNumber(text);
+    if (!value) return std::string(text) + " is no number";
+    return std::string(text) + " was read as " + significantText(*value);
 }
 
 std::string unitToolTip(NavFunc113::Quantity quantity, std::size_t unit)

@@ -24,6 +24,16 @@ namespace korvel
 std::vector<std::optional<std::string>>
 CalculateConversion(NavFunc113::Quantity quantity, std::size_t typed, std::string_view text);
 
+/// The value of any box in full, for the memory: not cut to the digits that its box shows.
+/// @return the typed text itself for the typed box; empty when there is none, or no number
+///         that could be shown
+std::string convertedInFull(NavFunc113::Quantity quantity, std::size_t typed, std::string_view text,
+                            std::size_t to);
+
+/// What is to be said about a typed text: that it was read otherwise than it may have been meant
+/// ("1,234" is 1), or that it is no number. Empty when all is well.
+std::string remarkOn(std::string_view text);
+
 /// A value with seven significant digits, whole digits always in full, without trailing zeros and
 /// never with an exponent: a box has to read back what stands in it.
 std::string significantText(double value);

@@ -41,7 +41,7 @@ frmCDDR::frmCDDR(Program& program)
 {
     addBoxes();
     addOptions();
-    auto* columns = new QHBoxLayout(body());
+    auto* columns = new QHBoxLayout(scrollBody());
     columns->setContentsMargins(0, 0, 0, 0);
     columns->addWidget(layOutCD());
     columns->addWidget(layOutDR());

@@ -294,7 +294,11 @@ std::string KLPerBarrelFromDensity(const CrudeInput& input)
     Notice unsaid;
     const auto oil = oilOf(input, unsaid);
     if (!oil) return {};
-    return Format(NavFunc113::KilolitresPerBarrel(oil->density15, input.edition), factorFormat);
+    try {
+        return Format(NavFunc113::KilolitresPerBarrel(oil->density15, input.edition), factorFormat);
+    } catch (const ArithmeticError&) {
+        return {};
+    }
 }
 
 } // namespace korvel

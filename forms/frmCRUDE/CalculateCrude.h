@@ -74,7 +74,8 @@ struct CrudeResult {              // an empty text blanks the label
 /// @throws NavFunc113::ArithmeticError when volumes or temperatures are beyond all numbers
 CrudeResult CalculateCrude(const CrudeInput& input);
 
-/// The KL/Bbl factor that belongs to the density, seven decimals; empty when there is no density.
+/// The KL/Bbl factor that belongs to the density, seven decimals; empty when there is no density
+/// that gives one.
 std::string KLPerBarrelFromDensity(const CrudeInput& input);
 
 } // namespace korvel

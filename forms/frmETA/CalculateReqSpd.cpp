@@ -32,6 +32,8 @@ std::string complaint(const ReqSpdInput& input)
 
 ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
 {
+    // Nobody has asked for a speed yet.
+    if (input.txtTime[2].empty() && input.txtTime[3].empty()) return {std::nullopt, ""};
     if (std::string notice = complaint(input); !notice.empty()) return {std::nullopt, notice};
     const double departure =
         *passageTime(input.txtTime[0], input.txtTime[1]) - readNumber(input.txtTD[0]) / 24;

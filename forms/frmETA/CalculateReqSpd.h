@@ -20,7 +20,8 @@ struct ReqSpdResult {
 };
 
 /// Speed that covers the distance between two local times. Input that cannot be used, an arrival
-/// that does not lie after the departure included, keeps the label.
+/// that does not lie after the departure included, keeps the label; empty arrival boxes do so
+/// without a notice.
 ReqSpdResult CalculateReqSpd(const ReqSpdInput& input);
 
 } // namespace korvel

@@ -41,6 +41,11 @@ TimeTexts EnterPresent(NavFunc113::DateTime now)
     return {Format(present, "yyyy/M/d"), Format(present, "hh:00")};
 }
 
+TimeTexts EnterPresent(NavFunc113::DateTime utc, std::string_view box, double shipTD)
+{
+    return EnterPresent(utc + (isTD(box) ? readNumber(box) : shipTD) / 24);
+}
+
 std::string speedOfStep(int quarterKnots)
 {
     return Format(quarterKnots / stepsPerKnot, "0.00");

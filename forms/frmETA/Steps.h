@@ -31,6 +31,12 @@ std::optional<TimeTexts> steppedTime(std::string_view date, std::string_view tim
 /// The departure boxes for the present time, cut to the hour ("yyyy/M/d" and "hh:00").
 TimeTexts EnterPresent(NavFunc113::DateTime now);
 
+/// The same by the clock of the departure, which may lie in another zone than the ship.
+/// @param utc    present time, UTC
+/// @param box    TD box of the departure; where it holds no TD the ship's is taken
+/// @param shipTD hours, ship's mean time minus UTC
+TimeTexts EnterPresent(NavFunc113::DateTime utc, std::string_view box, double shipTD);
+
 /// The speed box for a value of its scroll bar.
 std::string speedOfStep(int quarterKnots);
 

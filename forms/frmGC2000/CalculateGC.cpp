@@ -110,6 +110,7 @@ void fillTrack(GCResult& result, const Ends& ends)
     result.initialCourse = courseText(track->initialCourse);
     result.finalCourse = courseText(track->finalCourse);
     if (!track->vertex) return;
+    result.vertex = GCWaypoint{track->vertex->lat, track->vertex->longitude};
     result.vertexLat = Format(track->vertex->lat, latFormat);
     result.vertexLong = Format(track->vertex->longitude, longFormat);
     result.vertexRemark = track->vertex->onRoute ? "on the route" : "beyond the route";

@@ -5,6 +5,7 @@
 #include "navlib/units.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -46,7 +47,8 @@ struct GCResult {
     std::string vertexLat;
     std::string vertexLong;
     std::string vertexRemark; ///< "on the route" or "beyond the route"
-    std::string saving;       ///< miles by which the great circle is shorter than the rhumb line
+    std::optional<GCWaypoint> vertex;
+    std::string saving; ///< miles by which the great circle is shorter than the rhumb line
 
     GCRoute route;
 };

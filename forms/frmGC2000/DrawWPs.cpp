@@ -77,8 +77,12 @@ std::vector<ChartPoint> rhumbLineBetween(const ChartPoint& from, const ChartPoin
 
 std::vector<ChartLabel> labelsBetween(double low, double high, std::string (*text)(double))
 {
+    // A short route may lie between two lines of the grid: then finer ticks are labelled.
+    double step = 10;
+    for (const double finer : {5.0, 2.0, 1.0})
+        if (high - low < 3 * step) step = finer;
     std::vector<ChartLabel> labels;
-    for (double at = std::ceil(low / 10) * 10; at <= high; at += 10)
+    for (double at = std::ceil(low / step) * step; at <= high; at += step)
         labels.push_back({at, text(at)});
     return labels;
 }

@@ -32,7 +32,8 @@ struct GCChart {
     ChartLine equator;             ///< in red, over the grid
     std::vector<ChartPoint> route; ///< departure, waypoints, arrival: straight legs between them
     std::vector<ChartPoint> rhumbLine;      ///< from departure to arrival, a curve on this chart
-    std::vector<ChartLabel> meridianLabels; ///< those within the scale
+    std::vector<ChartLabel> meridianLabels; ///< those within the scale, on the grid where it has
+                                            ///< enough lines there, on finer ticks otherwise
     std::vector<ChartLabel> parallelLabels;
 };
 

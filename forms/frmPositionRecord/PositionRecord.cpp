@@ -96,10 +96,12 @@ std::optional<double> timeDifferenceIn(const std::string& box, std::string& rema
 }
 
 /// Reads a row, writes its UTC and remarks. @return the fix when the row is complete
-std::optional<Fix> fixOf(const PositionRow& row, std::size_t index, PositionRowResult& result)
+std::optional<Fix> fixOf(const PositionRecordInput& input, std::size_t index,
+                         PositionRowResult& result)
 {
+    const PositionRow& row = input.rows[index];
     const auto smt = readFixTime(row.satelliteSMT);
-    if (!smt) result.remark = faultOfFixTime(row.satelliteSMT);
+    if (!smt && input.typingTimeIn != index) result.remark = faultOfFixTime(row.satelliteSMT);
     const auto td = timeDifferenceIn(row.satelliteTD, result.remark);
     const auto latitude = angleIn(row.latitude, "latitude", 90, result.remark);
     const auto longitude = angleIn(row.longitude, "longitude", 180, result.remark);
@@ -177,6 +179,8 @@ void showRuns(const std::vector<Fix>& fixes, const std::vector<std::optional<Leg
     result.totalDistance = Format(total.distance(), distanceFormat);
     result.totalHours = Format(total.hours(), hoursFormat);
     result.averageSpeed = Format(total.distance() / total.hours(), speedFormat);
+    result.totalMiles = total.distance();
+    result.averageKnots = total.distance() / total.hours();
 }
 
 /// The current between the last two fixes: from where the ship should have been by course and
@@ -207,13 +211,18 @@ void showSetAndDrift(const PositionRecordInput& input, const Fix& from, const Fi
     }
 }
 
-/// Remarks of all rows in one line, the rows counted from 1.
+/// Remarks in one line, the rows counted from 1. The line is short: the first rows in words, of the
+/// others how many there are.
 void gatherRemarks(PositionRecordResult& result)
 {
-    for (std::size_t i = 0; i < result.rows.size(); ++i)
-        if (!result.rows[i].remark.empty())
-            say(result.notice,
-                "row " + Format(static_cast<double>(i + 1), "0") + ": " + result.rows[i].remark);
+    constexpr int inWords = 3;
+    int remarks = 0;
+    for (std::size_t i = 0; i < result.rows.size(); ++i) {
+        if (result.rows[i].remark.empty() || ++remarks > inWords) continue;
+        say(result.notice,
+            "row " + Format(static_cast<double>(i + 1), "0") + ": " + result.rows[i].remark);
+    }
+    if (remarks > inWords) say(result.notice, "and " + Format(remarks - inWords, "0") + " more");
 }
 
 std::string angleForCopy(const std::string& box, Axis axis)
@@ -233,7 +242,7 @@ PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input)
     PositionRecordResult result;
     std::vector<Fix> fixes;
     for (std::size_t i = 0; i < input.rows.size(); ++i)
-        if (const auto fix = fixOf(input.rows[i], i, result.rows[i])) fixes.push_back(*fix);
+        if (const auto fix = fixOf(input, i, result.rows[i])) fixes.push_back(*fix);
 
     std::vector<std::optional<Leg>> legs;
     for (std::size_t i = 1; i < fixes.size(); ++i) {

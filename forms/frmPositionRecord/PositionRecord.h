@@ -3,6 +3,8 @@
 
 #include "forms/frmPositionRecord/PositionRows.h"
 
+#include <optional>
+
 /// The position record: what lies between the recorded fixes.
 namespace korvel
 {
@@ -13,6 +15,7 @@ struct PositionRecordInput {
     std::string
         courseSteered;        ///< since the last fix but one, degrees true; empty: no set and drift
     std::string speedSteered; ///< knots
+    std::optional<std::size_t> typingTimeIn; ///< row whose time is still being typed: no word on it
 };
 
 /// Labels of a row; an empty text blanks the label.
@@ -35,10 +38,12 @@ struct PositionRecordResult {
     std::string totalDistance; ///< "980.'5"; the totals are blank while a row is out of order
     std::string totalHours;    ///< "70.0"
     std::string averageSpeed;  ///< "14.01"
-    std::string dayRun;        ///< the latest of the rows' runs, "332.'3 in 23.0 h"
-    std::string set;           ///< "259", degrees true, towards which the current sets
-    std::string drift;         ///< "26.'4 = 1.15 kn"
-    std::string notice;        ///< the rows' remarks and what else makes no sense
+    std::optional<double> totalMiles;   ///< the same in full, for the memory
+    std::optional<double> averageKnots; ///< the same in full
+    std::string dayRun;                 ///< the latest of the rows' runs, "332.'3 in 23.0 h"
+    std::string set;                    ///< "259", degrees true, towards which the current sets
+    std::string drift;                  ///< "26.'4 = 1.15 kn"
+    std::string notice;                 ///< remarks of the first rows and what else makes no sense
 };
 
 /// Everything the record shows.

@@ -25,7 +25,7 @@ CurveLine across(const CurveScale& scale, double y)
 
 // Fifths of a unit, counted in whole numbers so that 1.0 is met exactly. Beyond 10 units the lines
 // would merge into a grey field.
-void addLevelLines(CurvePicture& picture)
+void addLevelLines(CurvePicture& picture, const std::string& unit)
 {
     const double highest = std::min(picture.scale.top, 10.0);
     const double lowest = std::max(picture.scale.bottom, -10.0);
@@ -34,6 +34,11 @@ void addLevelLines(CurvePicture& picture)
         if (fifth == 0) continue;
         auto& lines = fifth % 5 == 0 ? picture.levelLines : picture.fineLevelLines;
         lines.push_back(across(picture.scale, fifth / 5.0));
+        // Below datum, and where the tides are great, the six labels do not reach.
+        const int level = fifth / 5;
+        if (fifth % 5 == 0 && (level < 0 || level > 5))
+            picture.furtherLevels.push_back(
+                {static_cast<double>(level), std::to_string(level) + unit});
     }
 }
 
@@ -69,11 +74,11 @@ CurvePicture DrawCurve(const TidePrediction& prediction)
         const double x = hour;
         picture.hourLines.push_back({{x, picture.scale.bottom}, {x, picture.scale.top}});
     }
-    const char* const unit = prediction.kind == TideKind::Tide ? " m" : " kn.";
+    const std::string unit = prediction.kind == TideKind::Tide ? " m" : " kn.";
     for (int i = 0; i < 6; ++i)
         picture.lblHeight[static_cast<std::size_t>(i)] = {static_cast<double>(i),
                                                           std::to_string(i) + unit};
-    addLevelLines(picture);
+    addLevelLines(picture, unit);
     picture.zeroLine = across(picture.scale, 0);
     for (std::size_t i = 0; i < picture.curve.size(); ++i)
         picture.curve[i] = {static_cast<double>(i) / 2, prediction.values[i]};

@@ -44,22 +44,15 @@ struct HeightLabel {
     std::string caption;
 };
 
-/// RGB of the solid line at level 0 (chart datum, or slack water).
-struct CurveColour {
-    int red;
-    int green;
-    int blue;
-};
-inline constexpr CurveColour zeroLineColour{32, 8, 2}; // 133152 as red + 256 green + 65536 blue
-
 struct CurvePicture {
     CurveScale scale;
     std::array<HourLabel, 11> lblTime;
     std::array<HeightLabel, 6> lblHeight;
-    std::vector<CurveLine> hourLines;      ///< dotted, every second hour
-    std::vector<CurveLine> fineLevelLines; ///< dotted, every 0.2 between the whole levels
-    std::vector<CurveLine> levelLines;     ///< dotted, whole levels other than 0
-    CurveLine zeroLine;                    ///< solid, in zeroLineColour
+    std::vector<HeightLabel> furtherLevels; ///< whole levels of the scale that lblHeight lacks
+    std::vector<CurveLine> hourLines;       ///< dotted, every second hour
+    std::vector<CurveLine> fineLevelLines;  ///< dotted, every 0.2 between the whole levels
+    std::vector<CurveLine> levelLines;      ///< dotted, whole levels other than 0
+    CurveLine zeroLine;                     ///< solid: chart datum, or slack water
     std::vector<CurveLine> ticks; ///< width 1: a stroke across the curve at samples 1 to 47
     std::array<CurvePoint, NavFunc113::samplesOfDay> curve; ///< width 2: joined by straight lines
 };

@@ -96,8 +96,9 @@ std::string TideDates::aboutNotice() const
            "half hour in the station's own zone time. Weather can change levels and times by more "
            "than the figures show. Not for navigation: the official tide tables have precedence.\r"
            "\r"
-           "To predict beyond that date, run ./extend-tides 2050 in the program's folder; "
-           "./extend-tides --undo takes it back.\r\r"
+           "To predict beyond that date, run ./extend-tides with a year up to 2060 in the "
+           "program's "
+           "folder; ./extend-tides --undo takes it back.\r\r"
            "Constants: Neaps tide database and TICON-4 (Hart-Davis, Dettmering, Seitz 2025), "
            "CC BY 4.0, modified; NOAA, public domain. See stations.txt beside the program.";
 }

@@ -35,14 +35,12 @@ Knots ringStepFor(Knots strongest)
 
 } // namespace
 
-WindPicture pictureOfWind(const WindFigures& figures, WindOrientation orientation,
-                          Knots leastRadius)
+WindPicture pictureOfWind(const WindFigures& figures, WindOrientation orientation, Knots heldRadius)
 {
     WindPicture picture;
     const Knots strongest = std::min(
-        std::max({figures.shipSpeed, figures.apparentSpeed, figures.trueSpeed, leastRadius}),
-        strongestShown);
-    const Knots step = ringStepFor(strongest);
+        std::max({figures.shipSpeed, figures.apparentSpeed, figures.trueSpeed}), strongestShown);
+    const Knots step = heldRadius > 0 ? heldRadius / 4 : ringStepFor(strongest);
     for (int ring = 1; ring <= 4; ++ring)
         picture.rings.push_back(ring * step);
     const Knots radius = picture.rings.back();

@@ -47,10 +47,10 @@ struct WindPicture {
 
 /// Picture of the figures. The rings grow in steps, so that it stays calm while a value changes a
 /// little.
-/// @param leastRadius radius in knots that the rings have at least: while the pointer drags, the
-///                    radius at the press, so that the scale does not run away from the pointer
+/// @param heldRadius radius of the rings in knots as an earlier picture had it: while the pointer
+///                   drags, a scale that followed would run away from it. 0: as the figures need
 WindPicture pictureOfWind(const WindFigures& figures, WindOrientation orientation,
-                          NavFunc113::Knots leastRadius = 0);
+                          NavFunc113::Knots heldRadius = 0);
 
 /// What pointing at the picture sets.
 struct WindPointer {

@@ -3,7 +3,7 @@
 
 build_packages="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev"
 # Fonts with Japanese and full-width glyphs, and the helpers that play the alarm's tone.
-run_packages="fonts-noto-core fonts-noto-cjk alsa-utils"
+run_packages="fonts-noto-core fonts-vlgothic alsa-utils"
 # A virtual display for machines that have none, and what takes the picture of the window.
 display_packages="xvfb xauth xdotool x11-utils imagemagick"
 test_packages="libgtest-dev libgmock-dev liberfa-dev"

@@ -66,13 +66,13 @@ TEST(WindPicture, vectorsMakeAParallelogram)
 TEST(WindPicture, ringsHoldTheStrongestAndStayWhileDragging)
 {
     const struct {
-        double apparent, least, radius;
+        double apparent, held, radius;
     } rows[] = {{0, 0, 20},   {20, 0, 20},   {20.1, 0, 40}, {79, 0, 80},
-                {81, 0, 200}, {900, 0, 200}, {5, 80, 80}};
+                {81, 0, 200}, {900, 0, 200}, {5, 80, 80},   {45, 40, 40}};
     for (const auto& row : rows) {
         WindFigures wind;
         wind.apparentSpeed = row.apparent;
-        const WindPicture picture = pictureOfWind(wind, WindOrientation::HeadUp, row.least);
+        const WindPicture picture = pictureOfWind(wind, WindOrientation::HeadUp, row.held);
         EXPECT_EQ(picture.rings.back(), row.radius);
         EXPECT_GT(picture.scale.top, row.radius);
     }

@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+#include "forms/conversion/ConversionWindow.h"
+
+#include "forms/conversion/CalculateConversion.h"
+#include "navlib/arithmetic_error.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QMenu>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::Quantity;
+
+QString text(std::string_view utf8)
+{
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// A menu caption with a mnemonic of its own, 1 to 9 and A to Z, whatever the unit is called.
+QString numbered(std::size_t index, const NavFunc113::Unit& unit)
+{
+    constexpr std::string_view marks = "123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+    return QString("&%1  %2 (%3)").arg(marks.at(index)).arg(text(unit.caption), text(unit.symbol));
+}
+
+} // namespace
+
+ConversionWindow::ConversionWindow(Program& program, const ConversionKind& kind)
+    : CalculatorWindow(program, kind.name, kind.caption), m_quantity(kind.quantity)
+{
+    addBoxes(kind.box);
+    layOut();
+    addMenus();
+    addCalculation({"Conversion", {}, {}, [this] { convert(); }});
+    useConversionSettings(kind.file);
+    loadSettings();
+    m_boxes[m_lead]->setFocus();
+}
+
+void ConversionWindow::addBoxes(const char* name)
+{
+    std::vector<EntryBox*> order;
+    for (const NavFunc113::Unit& unit : NavFunc113::UnitTable(m_quantity)) {
+        const std::size_t index = m_boxes.size();
+        KeyUpBox* box = addKeyUpBox(memberName(name, static_cast<int>(index)),
+                                    text(unit.caption) + ", " + text(unit.symbol));
+        box->setToolTip(QString::fromStdString(unitToolTip(m_quantity, index)));
+        box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));
+        box->onKeyUp = [this, index] {
+            if (isLoading()) return;
+            m_lead = index;
+            calculate(0);
+        };
+        m_boxes.push_back(box);
+        order.push_back(box);
+    }
+    setEntryOrder(order);
+}
+
+void ConversionWindow::layOut()
+{
+    auto* grid = new QGridLayout(scrollBody());
+    const auto units = NavFunc113::UnitTable(m_quantity);
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        const int row = static_cast<int>(i);
+        addEntryRow(grid, row, text(units[i].caption), m_boxes[i], text(units[i].symbol));
+        for (int column : {0, 2})
+            grid->itemAtPosition(row, column)->widget()->setToolTip(m_boxes[i]->toolTip());
+    }
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(static_cast<int>(units.size()), 1);
+}
+
+void ConversionWindow::addMenus()
+{
+    QMenu* figures = addMenu("&Data", "mnuData");
+    addEntry(figures, "mnuData", 0, "&Clear", [this] { clearBoxes(); });
+    addEntry(figures, "mnuData", 1, "&Print...", [this] { printForm(); });
+    const auto units = NavFunc113::UnitTable(m_quantity);
+    for (std::size_t i = 0; i < units.size(); ++i) {
+        addStoreSingle(numbered(i, units[i]), [this, i] {
+            return convertedInFull(m_quantity, m_lead, m_boxes[m_lead]->value(), i);
+        });
+        addRecallSingle("into " + numbered(i, units[i]), m_boxes[i]);
+    }
+    addLinksMenu("mnuLinks");
+}
+
+void ConversionWindow::useConversionSettings(const char* file)
+{
+    std::vector<Kind> kinds(m_boxes.size(), Kind::Text);
+    kinds.push_back(Kind::Number);
+    const auto save = [this] {
+        Record record;
+        for (const KeyUpBox* box : m_boxes)
+            record.emplace_back(box->value());
+        record.emplace_back(static_cast<double>(m_lead));
+        return record;
+    };
+    const auto load = [this](const Record& record) {
+        for (std::size_t i = 0; i < m_boxes.size(); ++i)
+            m_boxes[i]->fill(QString::fromStdString(textOf(record[i])));
+        const double lead = numberOf(record.back());
+        if (lead >= 0 && lead < static_cast<double>(m_boxes.size()))
+            m_lead = static_cast<std::size_t>(lead);
+    };
+    useSettings(file, std::move(kinds), save, load);
+}
+
+void ConversionWindow::convert()
+{
+    const auto show = [this](std::size_t index, const std::string& figure) {
+        m_boxes[index]->fill(QString::fromStdString(figure));
+    };
+    try {
+        const auto figures = CalculateConversion(m_quantity, m_lead, m_boxes[m_lead]->value());
+        for (std::size_t i = 0; i < figures.size(); ++i)
+            if (figures[i]) show(i, *figures[i]);
+        setNotice("typed", QString::fromStdString(remarkOn(m_boxes[m_lead]->value())));
+    } catch (const NavFunc113::ArithmeticError&) {
+        // No box may keep a figure that does not belong to the one typed in.
+        for (std::size_t i = 0; i < m_boxes.size(); ++i)
+            if (i != m_lead) show(i, {});
+        throw;
+    }
+}
+
+void ConversionWindow::clearBoxes()
+{
+    m_boxes[m_lead]->clear();
+    m_boxes[m_lead]->setFocus();
+}
+
+frmArea::frmArea(Program& program)
+    : ConversionWindow(program, {"frmArea", "Area", "KV_Area.ini", "txtArea", Quantity::Area})
+{
+}
+
+frmLength::frmLength(Program& program)
+    : ConversionWindow(program,
+                       {"frmLength", "Length", "KV_Length.ini", "txtLength", Quantity::Length})
+{
+}
+
+frmVolume::frmVolume(Program& program)
+    : ConversionWindow(program,
+                       {"frmVolume", "Volume", "KV_Volume.ini", "txtVolume", Quantity::Volume})
+{
+}
+
+frmPressure::frmPressure(Program& program)
+    : ConversionWindow(program, {"frmPressure", "Pressure", "KV_Pressure.ini", "txtPressure",
+                                 Quantity::Pressure})
+{
+}
+
+frmWeight::frmWeight(Program& program)
+    : ConversionWindow(program,
+                       {"frmWeight", "Weight", "KV_Weight.ini", "txtWeight", Quantity::Weight})
+{
+}
+
+} // namespace korvel

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+#include "navlib/unit_tables.h"
+
+namespace korvel
+{
+
+/// What one conversion window has of its own.
+struct ConversionKind {
+    const char* name;              ///< class name of the window
+    const char* caption;           ///< its title
+    const char* file;              ///< its settings file
+    const char* box;               ///< name of its control array
+    NavFunc113::Quantity quantity; ///< its unit table
+};
+
+/// A box a unit; whichever is typed in leads the others, at every key released.
+///
+/// Record of the settings file: the texts of the boxes in the order of the unit table, then the
+/// index of the box that leads.
+class ConversionWindow : public CalculatorWindow
+{
+public:
+    ConversionWindow(Program& program, const ConversionKind& kind);
+
+private:
+    void addBoxes(const char* name);
+    void layOut();
+    void addMenus();
+    void useConversionSettings(const char* file);
+    void convert();
+    void clearBoxes();
+
+    NavFunc113::Quantity m_quantity;
+    std::vector<KeyUpBox*> m_boxes;
+    std::size_t m_lead = 0; ///< the box that was typed in last
+};
+
+/// The five windows, by the names that the menus know.
+class frmArea : public ConversionWindow
+{
+public:
+    explicit frmArea(Program& program);
+};
+
+class frmLength : public ConversionWindow
+{
+public:
+    explicit frmLength(Program& program);
+};
+
+class frmVolume : public ConversionWindow
+{
+public:
+    explicit frmVolume(Program& program);
+};
+
+class frmPressure : public ConversionWindow
+{
+public:
+    explicit frmPressure(Program& program);
+};
+
+class frmWeight : public ConversionWindow
+{
+public:
+    explicit frmWeight(Program& program);
+};
+
+} // namespace korvel

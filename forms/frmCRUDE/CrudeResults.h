@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/Boxes.h"
+#include "forms/frmCRUDE/CalculateCrude.h"
+
+#include <vector>
+
+class QGridLayout;
+
+namespace korvel
+{
+
+/// The result side of the crude-oil window: one label a figure of CrudeResult, named after it.
+class CrudeResults : public QWidget
+{
+public:
+    CrudeResults();
+
+    void show(const CrudeResult& result);
+    std::vector<QLabel*> labels() const;
+
+    /// The label that shouts when the oil is outside its table.
+    ResultLabel* rangeFlag() const { return m_rangeFlag; }
+
+private:
+    using Figure = std::string CrudeResult::*;
+
+    ResultLabel* add(const char* name, Figure figure);
+    ResultLabel* addNote(const char* name, Figure figure); ///< words beside a figure
+    void layOutVolumes(QGridLayout* grid, int& row);
+    void layOutByDensity(QGridLayout* grid, int& row);
+    void layOutTons(QGridLayout* grid, int& row);
+
+    std::vector<std::pair<ResultLabel*, Figure>> m_figures;
+    ResultLabel* m_rangeFlag = nullptr;
+};
+
+} // namespace korvel

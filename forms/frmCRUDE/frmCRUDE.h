@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+#include "forms/frmCRUDE/CrudeResults.h"
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+
+namespace korvel
+{
+
+/// Crude oil: from the observed volume to standard volume, barrels, kilolitres and tons.
+///
+/// Record of the settings file: the texts of volume, free water, temperature, density, observed
+/// temperature, sediment and water, KL/Bbl; then as numbers, the index chosen in each list: volume
+/// unit, temperature unit, density base, means of reading, decimals of the VCF, rule of weight,
+/// edition; then, as a tick, whether the density was observed.
+class frmCRUDE : public CalculatorWindow
+{
+public:
+    explicit frmCRUDE(Program& program);
+
+private:
+    void addBoxes();
+    KeyUpBox* addBox(const QString& name, std::string CrudeInput::*field);
+    QComboBox* addChoice(const QString& name, const QString& accessibleName,
+                         const QStringList& choices);
+    QWidget* layOutInputs();
+    QWidget* layOutMethods();
+    void addMenus();
+    void addMemoMenus();
+    void useCrudeSettings();
+
+    CrudeInput input() const;
+    void run();
+    void showUnits();
+    void clearCargo();
+
+    std::vector<std::pair<KeyUpBox*, std::string CrudeInput::*>> m_boxes;
+    QComboBox* m_cboVolumeUnit;
+    QComboBox* m_cboTemperatureUnit;
+    QComboBox* m_cboDensityBase;
+    QComboBox* m_cboReadWith;
+    QComboBox* m_cboVCFDecimals;
+    QComboBox* m_cboWeightRule;
+    QComboBox* m_cboEdition;
+    std::vector<QComboBox*> m_choices; ///< in the order of the record
+    QCheckBox* m_chkObserved;
+    QPushButton* m_cmdFromDensity;
+    CrudeResults* m_results;
+    CrudeResult m_shown;
+
+    KeyUpBox* m_txtVolume;
+    KeyUpBox* m_txtFreeWater;
+    KeyUpBox* m_txtTemperature;
+    KeyUpBox* m_txtDensity;
+    KeyUpBox* m_txtObservedTemperature;
+    KeyUpBox* m_txtSedimentAndWater;
+    KeyUpBox* m_txtKLperBbl;
+    QLabel* m_lblFreeWaterUnit;
+    QLabel* m_lblObservedTemperatureUnit;
+
+protected:
+    void applyColours() override;
+};
+
+} // namespace korvel

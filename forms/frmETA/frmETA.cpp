@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmETA/frmETA.h"
+
+#include "app/Format.h"
+#include "forms/frmETA/CalculateETA.h"
+#include "forms/frmETA/CalculateReqSpd.h"
+#include "forms/frmETA/PassageTimes.h"
+#include "forms/frmETA/Steps.h"
+
+#include <QAction>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QMenu>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+namespace korvel
+{
+namespace
+{
+
+/// A scroll bar that the arrow and page keys of its boxes move too: the hand stays where it types.
+QScrollBar* scrollBar(const QString& name, const QString& accessibleName, int low, int high,
+                      int page, const std::vector<EntryBox*>& boxes)
+{
+    auto* bar = new QScrollBar(Qt::Horizontal);
+    bar->setObjectName(name);
+    bar->setAccessibleName(accessibleName);
+    bar->setRange(low, high);
+    bar->setPageStep(page);
+    bar->setToolTip("Also with the arrow and page keys in its boxes");
+    const std::pair<Qt::Key, int> keys[] = {
+        {Qt::Key_Up, 1}, {Qt::Key_Down, -1}, {Qt::Key_PageUp, page}, {Qt::Key_PageDown, -page}};
+    for (EntryBox* box : boxes)
+        for (const auto& [key, step] : keys) {
+            auto* shortcut = new QShortcut(key, box);
+            shortcut->setContext(Qt::WidgetShortcut);
+            QObject::connect(shortcut, &QShortcut::activated, bar,
+                             [bar, by = step] { bar->setValue(bar->value() + by); });
+        }
+    return bar;
+}
+
+} // namespace
+
+frmETA::frmETA(Program& program) : CalculatorWindow(program, "frmETA", "ETA and required speed")
+{
+    addBoxes();
+    auto* columns = new QHBoxLayout(scrollBody());
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->addWidget(layOutPassage(), 1);
+    auto* results = new QVBoxLayout;
+    results->addWidget(layOutArrivals());
+    results->addWidget(layOutRequiredSpeed());
+    columns->addLayout(results);
+    addMenus();
+    offerDefaults();
+
+    std::vector<QLineEdit*> boxes(m_txtTime.begin(), m_txtTime.end());
+    boxes.insert(boxes.end(), {m_txtTD[0], m_txtTD[1], m_txtDist, m_txtSpeed});
+    std::vector<QLabel*> results5(m_lblSPD.begin(), m_lblSPD.end());
+    results5.insert(results5.end(), m_lblETA.begin(), m_lblETA.end());
+    results5.push_back(m_lblReqSpd);
+    addCalculation({"ETA", boxes, results5, [this] { runETA(); }});
+    useTextSettings("KV_ETA.ini", boxes);
+    loadSettings();
+    m_txtTime[0]->setFocus();
+}
+
+void frmETA::addBoxes()
+{
+    m_txtTime = addTextBoxes<4>("txtTime", {"Departure date, year/month/day",
+                                            "Departure time, hours:minutes, local",
+                                            "Arrival date wanted, year/month/day",
+                                            "Arrival time wanted, hours:minutes, local"});
+    m_txtTD = addTextBoxes<2>("txtTD", {"Time difference TD at departure, hours, east positive",
+                                        "Time difference TD at arrival, hours, east positive"});
+    m_txtDist = addTextBox("txtDist", "Distance, nautical miles");
+    m_txtSpeed = addTextBox("txtSpeed", "Speed, knots");
+    setEntryOrder({m_txtTime[0], m_txtTime[1], m_txtTime[2], m_txtTime[3], m_txtTD[0], m_txtTD[1],
+                   m_txtDist, m_txtSpeed});
+    m_lblSPD = addLabels<5>("lblSPD");
+    m_lblETA = addLabels<5>("lblETA");
+    m_lblReqSpd = addLabel("lblReqSpd");
+    for (std::size_t end = 0; end < m_txtTD.size(); ++end) {
+        m_lblZD[end] = new QLabel;
+        m_lblZD[end]->setObjectName(memberName("lblZD", static_cast<int>(end)));
+        connect(m_txtTD[end], &QLineEdit::textChanged, this, [this, end] { showTD(end); });
+    }
+    addTimeBar(m_departure, 0, "scrDepTime", "Departure time, hours earlier or later");
+    addTimeBar(m_arrival, 2, "scrArrTime", "Arrival time wanted, hours earlier or later");
+    addSpeedBar();
+}
+
+void frmETA::addTimeBar(TimeEntry& entry, std::size_t firstBox, const QString& name,
+                        const QString& accessibleName)
+{
+    entry.date = m_txtTime[firstBox];
+    entry.time = m_txtTime[firstBox + 1];
+    entry.bar = scrollBar(name, accessibleName, -timeStepLimit, timeStepLimit, 24,
+                          {entry.date, entry.time});
+    for (EntryBox* box : {entry.date, entry.time})
+        connect(box, &QLineEdit::textChanged, this, [&entry] {
+            if (entry.moving) return;
+            entry.typedDate = entry.date->text();
+            entry.typedTime = entry.time->text();
+            const QSignalBlocker quiet(entry.bar);
+            entry.bar->setValue(0);
+        });
+    connect(entry.bar, &QScrollBar::valueChanged, this, [this, &entry] { scrTime_Change(entry); });
+}
+
+void frmETA::addSpeedBar()
+{
+    m_scrSpeed =
+        scrollBar("scrSpeed", "Speed in quarter knots", 0, speedStepLimit, 4, {m_txtSpeed});
+    connect(m_txtSpeed, &QLineEdit::textChanged, this, [this] {
+        const QSignalBlocker quiet(m_scrSpeed);
+        m_scrSpeed->setValue(stepOfSpeed(m_txtSpeed->value()));
+    });
+    connect(m_scrSpeed, &QScrollBar::valueChanged, this, &frmETA::scrSpeed_Change);
+    m_txtSpeed->onLeave = [this] {
+        if (const auto rounded = speedOnLeaving(m_txtSpeed->value()))
+            m_txtSpeed->setText(QString::fromStdString(*rounded));
+    };
+}
+
+void frmETA::offerDefaults()
+{
+    const QString TD = QString::fromStdString(Format(double(program().saved().TD()), "0.0"));
+    for (EntryBox* box : m_txtTD)
+        box->setText(TD);
+    EnterPresent();
+}
+
+QGroupBox* frmETA::layOutPassage()
+{
+    auto* group = new QGroupBox("Passage");
+    auto* grid = new QGridLayout(group);
+    const auto caption = [grid](int row, const char* text, EntryBox* box) {
+        auto* label = new QLabel(text);
+        label->setBuddy(box);
+        grid->addWidget(label, row, 0);
+    };
+    grid->addWidget(new QLabel("Date, year/month/day"), 0, 1);
+    grid->addWidget(new QLabel("Local time, h:mm"), 0, 2);
+    grid->addWidget(new QLabel("Hours earlier or later"), 0, 3);
+    int row = 1;
+    for (const TimeEntry* entry : {&m_departure, &m_arrival}) {
+        caption(row, row == 1 ? "Departure" : "Arrival wanted", entry->date);
+        grid->addWidget(entry->date, row, 1);
+        grid->addWidget(entry->time, row, 2);
+        grid->addWidget(entry->bar, row, 3);
+        ++row;
+    }
+    auto* now = new QPushButton("&Now");
+    now->setObjectName("cmdNOW");
+    now->setAccessibleName("Depart now");
+    now->setToolTip("The present hour into the departure");
+    now->setAutoDefault(false);
+    connect(now, &QPushButton::clicked, this, &frmETA::EnterPresent);
+    grid->addWidget(now, 1, 4);
+
+    for (std::size_t end = 0; end < m_txtTD.size(); ++end, ++row) {
+        caption(row, end == 0 ? "TD at departure" : "TD at arrival", m_txtTD[end]);
+        grid->addWidget(m_txtTD[end], row, 1);
+        grid->addWidget(new QLabel("hours"), row, 2);
+        grid->addWidget(m_lblZD[end], row, 3);
+    }
+    caption(row, "Distance", m_txtDist);
+    grid->addWidget(m_txtDist, row, 1);
+    grid->addWidget(new QLabel("miles"), row++, 2);
+    caption(row, "Speed", m_txtSpeed);
+    grid->addWidget(m_txtSpeed, row, 1);
+    grid->addWidget(new QLabel("knots"), row, 2);
+    grid->addWidget(m_scrSpeed, row++, 3);
+    grid->setColumnMinimumWidth(3, fontMetrics().horizontalAdvance("TD +9.5, ZD -9.5") * 3 / 2);
+    grid->setColumnStretch(3, 1);
+    grid->setRowStretch(row, 1);
+    return group;
+}
+
+QGroupBox* frmETA::layOutArrivals()
+{
+    auto* group = new QGroupBox("Arrival at five speeds");
+    auto* grid = new QGridLayout(group);
+    grid->addWidget(new QLabel("Knots"), 0, 0);
+    grid->addWidget(new QLabel("Local time at arrival, month/day"), 0, 1);
+    for (int row = 0; row < 5; ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        grid->addWidget(m_lblSPD[at], row + 1, 0);
+        grid->addWidget(m_lblETA[at], row + 1, 1);
+    }
+    // Room for the longest texts, so that nothing moves while the officer types.
+    const QFontMetrics metrics(m_lblETA[0]->font());
+    grid->setColumnMinimumWidth(0, metrics.horizontalAdvance("00.00 "));
+    grid->setColumnMinimumWidth(1, metrics.horizontalAdvance("00/00 00:00LT "));
+    grid->setRowStretch(6, 1);
+    return group;
+}
+
+QGroupBox* frmETA::layOutRequiredSpeed()
+{
+    auto* group = new QGroupBox("Required for the arrival wanted");
+    auto* grid = new QGridLayout(group);
+    addResultRow(grid, 0, "Speed", m_lblReqSpd, "knots");
+    grid->setColumnMinimumWidth(1, QFontMetrics(m_lblReqSpd->font()).horizontalAdvance("0000.00"));
+    grid->setColumnStretch(2, 1);
+    return group;
+}
+
+void frmETA::addMenus()
+{
+    const auto store = [this](const std::string& text) {
+        program().actions().StoreInMemo(KORVEL2000Actions::Single, text);
+    };
+    QMenu* memo = addMenu("&Memo", "mnuETA");
+    addEntry(memo, "mnuETA", 0, "Store &distance", [=, this] { store(m_txtDist->value()); });
+    addEntry(memo, "mnuETA", 1, "Store &speed", [=, this] { store(m_txtSpeed->value()); });
+    addEntry(memo, "mnuETA", 2, "Store &required speed", [=, this] { store(m_requiredSpeed); });
+    memo->addSeparator();
+    addEntry(memo, "mnuETA", 3, "Recall into d&istance", [this] { recallSingle(m_txtDist); });
+    addEntry(memo, "mnuETA", 4, "Recall into s&peed", [this] { recallSingle(m_txtSpeed); });
+    addLinksMenu("mnuWindows");
+}
+
+void frmETA::runETA()
+{
+    const auto arrivals =
+        CalculateETA({m_txtTime[0]->value(), m_txtTime[1]->value(), texts<0, 2>(m_txtTD),
+                      m_txtDist->value(), m_txtSpeed->value()});
+    const auto required =
+        CalculateReqSpd({texts<0, 4>(m_txtTime), texts<0, 2>(m_txtTD), m_txtDist->value()});
+
+    for (std::size_t i = 0; i < m_lblSPD.size(); ++i) {
+        if (arrivals.labels) {
+            m_lblSPD[i]->setText(QString::fromStdString(arrivals.labels->lblSPD[i]));
+            m_lblETA[i]->setText(QString::fromStdString(arrivals.labels->lblETA[i]));
+        }
+        setDimmed({m_lblSPD[i], m_lblETA[i]}, !arrivals.labels);
+    }
+    m_requiredSpeed = required.speed.value_or("");
+    if (required.speed) m_lblReqSpd->setText(QString::fromStdString(m_requiredSpeed));
+    setDimmed({m_lblReqSpd}, !required.speed);
+    setNotice("arrivals", QString::fromStdString(arrivals.notice));
+    // What disturbs both is said once.
+    setNotice("required speed",
+              required.notice == arrivals.notice ? "" : QString::fromStdString(required.notice));
+}
+
+void frmETA::showTD(std::size_t end)
+{
+    m_lblZD[end]->setText(QString::fromStdString(TDAndZDText(m_txtTD[end]->value())));
+}
+
+void frmETA::EnterPresent()
+{
+    const TimeTexts present = korvel::EnterPresent(program().shipsTime().UTC(), m_txtTD[0]->value(),
+                                                   double(program().saved().TD()));
+    m_departure.date->setText(QString::fromStdString(present.date));
+    m_departure.time->setText(QString::fromStdString(present.time));
+}
+
+void frmETA::scrTime_Change(TimeEntry& entry)
+{
+    const int hours = entry.bar->value();
+    TimeTexts texts{entry.typedDate.toStdString(), entry.typedTime.toStdString()};
+    if (hours != 0) { // in the middle stands what was typed, minutes included
+        const auto moved = steppedTime(texts.date, texts.time, hours);
+        if (!moved) {
+            const QSignalBlocker quiet(entry.bar);
+            entry.bar->setValue(0);
+            return;
+        }
+        texts = *moved;
+    }
+    entry.moving = true;
+    entry.date->setText(QString::fromStdString(texts.date));
+    entry.time->setText(QString::fromStdString(texts.time));
+    entry.moving = false;
+}
+
+void frmETA::scrSpeed_Change()
+{
+    m_txtSpeed->setText(QString::fromStdString(speedOfStep(m_scrSpeed->value())));
+}
+
+} // namespace korvel

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmGC2000/GCPicture.h"
+
+#include "app/shell/Legend.h"
+
+#include <QLineF>
+
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr double thin = 0.06; // widths of lines in heights of a line of text
+constexpr double thick = 0.14;
+
+/// Every how many labels one is drawn, so that none touches its neighbour.
+std::size_t labelStride(const std::vector<double>& places, double room)
+{
+    if (places.size() < 2) return 1;
+    const double apart = std::fabs(places[1] - places[0]);
+    return apart > 0 ? static_cast<std::size_t>(std::ceil(room / apart)) : 1;
+}
+
+} // namespace
+
+GCPicture::GCPicture(Program& program) : m_program(program), m_unit(QFontMetricsF(font()).height())
+{
+    setObjectName("picGC");
+    setAccessibleName("Chart of the great circle and the rhumb line");
+    const QFontMetrics metrics = fontMetrics();
+    const int gap = metrics.height() / 2;
+    setPlotMargins({metrics.horizontalAdvance("00°N") + gap, metrics.height() + gap,
+                    metrics.horizontalAdvance("000°W") / 2, metrics.height() + gap});
+    // The legend in one line, and a chart that still shows a curve.
+    const int legend =
+        Legend::width(metrics, "Departure Waypoint Arrival Great circle Rhumb line", 2, 3);
+    setMinimumSize(legend + 3 * metrics.height(), 12 * metrics.height());
+    draw = [this](QPainter& painter) { paint(painter); };
+}
+
+void GCPicture::setChart(GCChart chart)
+{
+    m_chart = std::move(chart);
+    setUserScale(m_chart.scale);
+}
+
+void GCPicture::paint(QPainter& painter) const
+{
+    painter.fillRect(plotArea(), colours().paper);
+    if (!m_chart.route.empty()) {
+        painter.save();
+        painter.setClipRect(plotArea());
+        drawGrid(painter);
+        drawLines(painter);
+        drawPoints(painter);
+        drawNumbers(painter);
+        painter.restore();
+        drawEdges(painter);
+        drawLegend(painter);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(pen(colours().ink, thin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(plotArea());
+}
+
+QPen GCPicture::pen(const QColor& colour, double width) const
+{
+    return {colour, std::max(1.0, width * m_unit), Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+QPen GCPicture::rhumbPen() const
+{
+    QPen dashed = pen(colours().secondary, 0.1);
+    dashed.setCapStyle(Qt::FlatCap);
+    dashed.setDashPattern({5, 3});
+    return dashed;
+}
+
+void GCPicture::drawGrid(QPainter& painter) const
+{
+    const QRectF seen = plotArea();
+    const auto drawLine = [&](const ChartLine& line) {
+        // The grid is far wider than any chart: what cannot be seen is not drawn.
+        const QRectF drawn = QRectF(pixel(line.from), pixel(line.to)).normalized();
+        if (drawn.right() >= seen.left() && drawn.left() <= seen.right() &&
+            drawn.bottom() >= seen.top() && drawn.top() <= seen.bottom())
+            painter.drawLine(pixel(line.from), pixel(line.to));
+    };
+    // Upright and level lines are crisp on whole pixels.
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(pen(colours().grid, thin));
+    for (const ChartLine& line : m_chart.grid)
+        drawLine(line);
+    painter.setPen(pen(colours().equator, thin));
+    drawLine(m_chart.equator);
+    painter.setRenderHint(QPainter::Antialiasing);
+}
+
+void GCPicture::drawLines(QPainter& painter) const
+{
+    const auto polyline = [this](const std::vector<ChartPoint>& points) {
+        QPolygonF line;
+        for (const ChartPoint& point : points)
+            line << pixel(point);
+        return line;
+    };
+    painter.setPen(rhumbPen());
+    painter.drawPolyline(polyline(m_chart.rhumbLine));
+    painter.setPen(pen(colours().route, thick));
+    painter.drawPolyline(polyline(m_chart.route));
+}
+
+void GCPicture::drawMark(QPainter& painter, QPointF at, Mark mark) const
+{
+    const double radius = m_unit * (mark == Mark::Waypoint ? 0.2 : 0.34);
+    painter.setPen(pen(colours().marker, thick));
+    painter.setBrush(mark == Mark::Departure ? colours().paper : colours().marker);
+    if (mark == Mark::Arrival) {
+        painter.drawRect(QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius));
+        return;
+    }
+    if (mark == Mark::Waypoint) painter.setPen(Qt::NoPen);
+    painter.drawEllipse(at, radius, radius);
+}
+
+void GCPicture::drawPoints(QPainter& painter) const
+{
+    const auto& route = m_chart.route;
+    for (std::size_t i = 1; i + 1 < route.size(); ++i)
+        drawMark(painter, pixel(route[i]), Mark::Waypoint);
+    drawMark(painter, pixel(route.back()), Mark::Arrival);
+    drawMark(painter, pixel(route.front()), Mark::Departure);
+}
+
+QPointF GCPicture::outward(std::size_t waypoint) const
+{
+    const QPointF here = pixel(m_chart.route[waypoint]);
+    const QPointF before = pixel(m_chart.route[waypoint - 1]);
+    const QPointF after = pixel(m_chart.route[waypoint + 1]);
+    const QLineF across = QLineF(before, after).normalVector().unitVector();
+    const QPointF normal(across.dx(), across.dy());
+    const double bend = QPointF::dotProduct(normal, 2 * here - before - after);
+    return bend < 0 || (bend == 0 && normal.y() > 0) ? -normal : normal;
+}
+
+void GCPicture::drawNumbers(QPainter& painter) const
+{
+    const auto& route = m_chart.route;
+    if (route.size() < 3) return;
+    const double wide = fontMetrics().horizontalAdvance("19");
+    std::vector<double> places;
+    for (std::size_t i = 1; i + 1 < route.size(); ++i)
+        places.push_back(pixel(route[i]).x());
+    const std::size_t stride = labelStride(places, 1.4 * wide);
+    painter.setPen(colours().ink);
+    for (std::size_t i = 1; i + 1 < route.size(); i += stride) {
+        // Beside an end there is no room for it.
+        const auto isAtEnd = [&](const ChartPoint& end) {
+            return QLineF(pixel(end), pixel(route[i])).length() < m_unit;
+        };
+        if (isAtEnd(route.front()) || isAtEnd(route.back())) continue;
+        const QPointF at = pixel(route[i]) + 0.8 * m_unit * outward(i);
+        painter.drawText(QRectF(at.x() - wide, at.y() - m_unit / 2, 2 * wide, m_unit),
+                         Qt::AlignCenter, QString::number(i));
+    }
+}
+
+void GCPicture::drawEdges(QPainter& painter) const
+{
+    const QRectF area = plotArea();
+    const double tick = m_unit / 3;
+    const double wide = fontMetrics().horizontalAdvance("000°W");
+    painter.setPen(pen(palette().color(QPalette::WindowText), thin));
+    const auto label = [&painter](const QRectF& room, int flags, const ChartLabel& each) {
+        painter.drawText(room, flags, QString::fromStdString(each.text));
+    };
+    std::vector<double> places;
+    for (const ChartLabel& each : m_chart.meridianLabels)
+        places.push_back(toPixel(each.at, 0).x());
+    const std::size_t stride = labelStride(places, 1.15 * wide);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        painter.drawLine(QPointF(places[i], area.bottom()), {places[i], area.bottom() - tick});
+        if (i % stride == 0)
+            label({places[i] - wide, area.bottom() + tick / 2, 2 * wide, m_unit}, Qt::AlignCenter,
+                  m_chart.meridianLabels[i]);
+    }
+    places.clear();
+    for (const ChartLabel& each : m_chart.parallelLabels)
+        places.push_back(toPixel(0, each.at).y());
+    const std::size_t rows = labelStride(places, 1.1 * m_unit);
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        painter.drawLine(QPointF(area.left(), places[i]), {area.left() + tick, places[i]});
+        if (i % rows == 0)
+            label({0, places[i] - m_unit / 2, area.left() - tick, m_unit},
+                  Qt::AlignRight | Qt::AlignVCenter, m_chart.parallelLabels[i]);
+    }
+}
+
+void GCPicture::drawLegend(QPainter& painter) const
+{
+    Legend legend(painter, {plotArea().left(), plotArea().top() / 2},
+                  palette().color(QPalette::WindowText));
+    const auto mark = [&](Mark kind, const QString& words) {
+        legend.mark([&](QPointF at) { drawMark(painter, at, kind); }, words);
+    };
+    mark(Mark::Departure, "Departure");
+    mark(Mark::Waypoint, "Waypoint");
+    mark(Mark::Arrival, "Arrival");
+    legend.line(pen(colours().route, thick), "Great circle");
+    legend.line(rhumbPen(), "Rhumb line");
+}
+
+} // namespace korvel

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/PictureBox.h"
+#include "app/shell/Program.h"
+#include "forms/frmGC2000/DrawWPs.h"
+
+namespace korvel
+{
+
+/// The chart of a great-circle route beside its rhumb line.
+class GCPicture : public PictureBox
+{
+public:
+    explicit GCPicture(Program& program);
+
+    void setChart(GCChart chart);
+
+private:
+    void paint(QPainter& painter) const;
+    void drawGrid(QPainter& painter) const;
+    void drawLines(QPainter& painter) const;
+    void drawPoints(QPainter& painter) const;
+    /// Away from the route at the outside of its bend, where no line runs; length 1.
+    QPointF outward(std::size_t waypoint) const;
+    void drawNumbers(QPainter& painter) const;
+    void drawEdges(QPainter& painter) const;
+    void drawLegend(QPainter& painter) const;
+
+    enum class Mark { Departure, Waypoint, Arrival };
+    void drawMark(QPainter& painter, QPointF at, Mark mark) const;
+    QPen pen(const QColor& colour, double width) const;
+    QPen rhumbPen() const;
+    QPointF pixel(const ChartPoint& point) const { return toPixel(point.longitude, point.lat); }
+    const ColourScheme& colours() const { return m_program.colours(); }
+
+    Program& m_program;
+    GCChart m_chart;
+    double m_unit; ///< height of a line of text, which every size follows
+};
+
+} // namespace korvel

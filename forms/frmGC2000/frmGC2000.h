@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+#include "forms/frmGC2000/CalculateGC.h"
+
+class QGroupBox;
+
+namespace korvel
+{
+
+class GCPicture;
+
+/// Great circle and rhumb line between two positions, with a waypoint on every tenth meridian.
+///
+/// Settings "KV_GC.ini": the texts of txtGC(0) .. (3).
+class frmGC2000 : public CalculatorWindow
+{
+public:
+    explicit frmGC2000(Program& program);
+
+private:
+    static constexpr int rowCount = GCResult::rowCount;
+    using Column = std::array<ResultLabel*, GCResult::rowCount>;
+
+    void addBoxes();
+    void addResults();
+    QGroupBox* layOutPositions();
+    QGroupBox* layOutDistances();
+    QGroupBox* layOutTrack();
+    QGroupBox* layOutTable();
+    void addMenus();
+    void addMemoMenus();
+    void nameWaypointEntries();
+
+    void runGC();
+    void showRow(std::size_t row);
+    std::vector<QLabel*> allResults() const;
+    std::string waypointText(std::size_t waypoint,
+                             NavFunc113::DegMin GCWaypoint::*coordinate) const;
+
+    std::array<EntryBox*, 4> m_txtGC{};
+    std::array<QLabel*, GCResult::rowCount> m_lblWpNo{};
+    Column m_lblWpLat{};
+    Column m_lblWpLong{};
+    Column m_lblWpCo{};
+    Column m_lblWpDist{};
+    std::array<ResultLabel*, 3> m_lblGC2000{};
+    ResultLabel* m_lblInitialCourse = nullptr;
+    ResultLabel* m_lblFinalCourse = nullptr;
+    ResultLabel* m_lblVertexLat = nullptr;
+    ResultLabel* m_lblVertexLong = nullptr;
+    ResultLabel* m_lblVertexRemark = nullptr;
+    ResultLabel* m_lblSaving = nullptr;
+    GCPicture* m_picGC = nullptr;
+    std::vector<QAction*> m_waypointEntries; ///< of the memo menu, for waypoints 1 .. 18
+    GCResult m_result;
+};
+
+} // namespace korvel

@@ -1,0 +1,275 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmPositionRecord/frmPositionRecord.h"
+
+#include "app/Format.h"
+#include "app/shell/FollowingScrollArea.h"
+#include "forms/frmPositionRecord/FixTime.h"
+#include "forms/frmPositionRecord/PrintRecord.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QGridLayout>
+#include <QMenu>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace korvel
+{
+
+frmPositionRecord::frmPositionRecord(Program& program)
+    : CalculatorWindow(program, "frmPositionRecord", "Position record"), m_table(new PositionTable)
+{
+    auto* area = new FollowingScrollArea(m_table);
+    area->setHeading(m_table->makeHeading());
+    setScrollArea(area);
+    addTotals();
+    addMenus();
+    addCalculationOfRecord();
+    useRecordSettings();
+    followFocus();
+    loadSettings();
+    m_table->row(0).satelliteSMT->setFocus();
+}
+
+void frmPositionRecord::addTotals()
+{
+    m_txtCourseSteered =
+        addTextBox("txtCourseSteered", "Course steered since the last fix but one, degrees true");
+    m_txtSpeedSteered = addTextBox("txtSpeedSteered", "Speed steered, knots");
+    setEntryOrder({m_txtCourseSteered, m_txtSpeedSteered});
+    for (EntryBox* box : {m_txtCourseSteered, m_txtSpeedSteered})
+        box->setMaximumWidth(box->fontMetrics().horizontalAdvance("000000000"));
+    auto* below = new QWidget;
+    auto* grid = new QGridLayout(below);
+    grid->setContentsMargins(0, 0, 0, 0);
+    int column = 0;
+    const auto put = [&](int row, const QString& caption, QWidget* field, const QString& unit) {
+        auto* label = new QLabel(caption);
+        label->setBuddy(field);
+        grid->addWidget(label, row, column);
+        grid->addWidget(field, row, column + 1);
+        grid->addWidget(new QLabel(unit), row, column + 2);
+        column += 3;
+    };
+    const auto figure = [&](const char* name, const QString& widest) {
+        ResultLabel* label = addLabel(name);
+        // Fixed: a new figure is painted, the window is not laid out anew.
+        label->setFixedSize(label->fontMetrics().horizontalAdvance(widest),
+                            label->fontMetrics().lineSpacing());
+        return label;
+    };
+    m_lblTotalDistance = figure("lblTotalDistance", "00000.'0");
+    m_lblTotalHours = figure("lblTotalHours", "00000.00");
+    m_lblAverageSpeed = figure("lblAverageSpeed", "000.00");
+    m_lblLatestRun = figure("lblLatestRun", "0000.'0 in 000.0 h");
+    put(0, "Total distance", m_lblTotalDistance, "nm");
+    put(0, "Hours", m_lblTotalHours, "h");
+    put(0, "Average speed", m_lblAverageSpeed, "kn");
+    put(0, "Latest day's run", m_lblLatestRun, "");
+    column = 0;
+    m_lblSet = figure("lblSet", "000");
+    m_lblDrift = figure("lblDrift", "0000.'0 = 00.00 kn");
+    put(1, "&Course steered", m_txtCourseSteered, "°");
+    put(1, "&Speed steered", m_txtSpeedSteered, "kn");
+    put(1, "Set towards", m_lblSet, "°");
+    put(1, "Drift", m_lblDrift, "");
+    grid->setColumnStretch(column, 1);
+    auto* strip = new FollowingScrollArea(below);
+    strip->setStrip();
+    addBelow(strip);
+}
+
+void frmPositionRecord::addCalculationOfRecord()
+{
+    std::vector<QLineEdit*> inputs{m_txtCourseSteered, m_txtSpeedSteered};
+    std::vector<QLabel*> results{m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
+                                 m_lblLatestRun,     m_lblSet,        m_lblDrift};
+    for (std::size_t i = 0; i < positionRowCount; ++i) {
+        const PositionTable::Row& row = m_table->row(i);
+        for (EntryBox* box : row.boxes())
+            inputs.push_back(box);
+        for (ResultLabel* label : row.labels())
+            results.push_back(label);
+        row.satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
+    }
+    addCalculation({"Position record", std::move(inputs), std::move(results), [this] { run(); }});
+}
+
+void frmPositionRecord::addMenus()
+{
+    QMenu* record = addMenu("Reco&rd", "mnuRecord");
+    int index = 0;
+    // With Shift: the boxes have Ctrl+D, Ctrl+U and the like for their own editing.
+    const auto entry = [&](const char* caption, const char* keys, std::function<void()> action) {
+        addEntry(record, "mnuRecord", index++, caption, std::move(action))
+            ->setShortcut(QKeySequence(keys));
+    };
+    entry("Ship's time &now and TD into the row", "Ctrl+Shift+T", [this] { putTimeNow(); });
+    entry("&Insert a row", "Ctrl+Shift+I", [this] { insertRowHere(); });
+    entry("&Delete the row", "Ctrl+Shift+D",
+          [this] { changeRows([this](PositionRows& rows) { deleteRow(rows, m_row); }); });
+    entry("C&lear the row", "Ctrl+Shift+L",
+          [this] { changeRows([this](PositionRows& rows) { clearRow(rows, m_row); }); });
+    entry("Clear &all rows...", "", [this] { clearAll(); });
+    entry("&Undo the last change of rows", "Ctrl+Shift+U", [this] { undo(); });
+    entry("&Copy as text", "Ctrl+Shift+C", [this] { copyAsText(); });
+    entry("&Print...", "Ctrl+P", [this] { print(); });
+
+    const auto figure = [](const std::optional<double>& value) {
+        return value ? memoText(*value) : std::string();
+    };
+    addStorePosition(
+        "&Position of the row", [this] { return m_table->row(m_row).latitude->value(); },
+        [this] { return m_table->row(m_row).longitude->value(); });
+    addStoreSingle("Total &distance", [this, figure] { return figure(m_shown.totalMiles); });
+    addStoreSingle("&Average speed", [this, figure] { return figure(m_shown.averageKnots); });
+    addRecallPosition("&Position into the row", [this]() -> std::pair<QLineEdit*, QLineEdit*> {
+        return {m_table->row(m_row).latitude, m_table->row(m_row).longitude};
+    });
+    addRecallSingle("into &course steered", m_txtCourseSteered);
+    addRecallSingle("into &speed steered", m_txtSpeedSteered);
+    addLinksMenu("mnuLinks");
+}
+
+void frmPositionRecord::useRecordSettings()
+{
+    std::vector<QLineEdit*> boxes;
+    for (std::size_t i = 0; i < positionRowCount; ++i)
+        for (EntryBox* box : m_table->row(i).boxes())
+            boxes.push_back(box);
+    boxes.push_back(m_txtCourseSteered);
+    boxes.push_back(m_txtSpeedSteered);
+    useTextSettings("KV_Position Record.ini", std::move(boxes));
+}
+
+void frmPositionRecord::followFocus()
+{
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        const auto row = m_table->rowOf(now);
+        if (!row) return;
+        m_row = *row;
+        m_table->markRow(m_row);
+    });
+}
+
+PositionRecordInput frmPositionRecord::input() const
+{
+    PositionRecordInput record;
+    record.rows = m_table->texts();
+    record.spheroid = program().spheroid();
+    record.courseSteered = m_txtCourseSteered->value();
+    record.speedSteered = m_txtSpeedSteered->value();
+    if (m_table->row(m_row).satelliteSMT->hasFocus()) record.typingTimeIn = m_row;
+    return record;
+}
+
+void frmPositionRecord::run()
+{
+    if (m_filling) return;
+    m_shown = {};
+    m_shown = CalculatePositionRecord(input());
+    m_table->show(m_shown);
+    const auto show = [](QLabel* label, const std::string& text) {
+        label->setText(QString::fromStdString(text));
+    };
+    show(m_lblTotalDistance, m_shown.totalDistance);
+    show(m_lblTotalHours, m_shown.totalHours);
+    show(m_lblAverageSpeed, m_shown.averageSpeed);
+    show(m_lblLatestRun, m_shown.dayRun);
+    show(m_lblSet, m_shown.set);
+    show(m_lblDrift, m_shown.drift);
+    setNotice("rows", QString::fromStdString(m_shown.notice));
+}
+
+void frmPositionRecord::normaliseTime(std::size_t row)
+{
+    EntryBox* box = m_table->row(row).satelliteSMT;
+    const auto time = NormaliseSMT(box->value(), program().shipsTime().SMT());
+    const QString text = QString::fromStdString(time.text);
+    if (box->text() != text)
+        box->setText(text);
+    else
+        calculateAll(); // what makes no sense is named once the box is left
+}
+
+void frmPositionRecord::changeRows(const Change& change)
+{
+    normaliseTime(m_row); // the box is left: its text may move to another row
+    const PositionRows before = m_table->texts();
+    PositionRows rows = before;
+    change(rows);
+    setNotice("change", {});
+    if (rows == before) return;
+    m_before = before;
+    m_filling = true;
+    m_table->fill(rows);
+    m_filling = false;
+    calculateAll();
+}
+
+void frmPositionRecord::insertRowHere()
+{
+    bool inserted = false;
+    changeRows([&](PositionRows& rows) { inserted = insertRow(rows, m_row); });
+    if (!inserted)
+        setNotice("change", "Row 29 is in use: no row was inserted, it would have been lost.");
+}
+
+void frmPositionRecord::clearAll()
+{
+    const Message question{"Clear all 29 rows of the position record?", programTitle,
+                           Buttons::YesNo};
+    if (program().questions().ask(question) == Answer::Yes)
+        changeRows([](PositionRows& rows) { rows = {}; });
+}
+
+void frmPositionRecord::undo()
+{
+    if (m_before) changeRows([before = *m_before](PositionRows& rows) { rows = before; });
+}
+
+void frmPositionRecord::putTimeNow()
+{
+    const PositionTable::Row& row = m_table->row(m_row);
+    row.satelliteSMT->setText(
+        QString::fromStdString(Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm")));
+    row.satelliteTD->setText(QString::fromStdString(Format(program().saved().TD(), "0.0")));
+    row.latitude->setFocus(Qt::TabFocusReason);
+}
+
+void frmPositionRecord::copyAsText() const
+{
+    QApplication::clipboard()->setText(
+        QString::fromStdString(positionRecordText(input(), m_shown)));
+}
+
+void frmPositionRecord::print()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(windowTitle());
+    printer.setPageOrientation(QPageLayout::Landscape);
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    const double TD = program().saved().TD();
+    const std::string printed = Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm") +
+                                " SMT, TD " + Format(TD, "+0.0;-0.0") + " (ZD " +
+                                Format(-TD, "+0.0;-0.0") + ")";
+    printRecord(printer, QString::fromStdString(positionRecordText(input(), m_shown)),
+                QString::fromStdString(printed));
+}
+
+void frmPositionRecord::closeEvent(QCloseEvent* event)
+{
+    // Tomorrow 0930 would be another day.
+    normaliseTime(m_row);
+    CalculatorWindow::closeEvent(event);
+}
+
+void frmPositionRecord::applyColours()
+{
+    CalculatorWindow::applyColours();
+    m_table->setWarningColour(program().colours().notice);
+}
+
+} // namespace korvel

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+#include "forms/frmPositionRecord/PositionTable.h"
+
+namespace korvel
+{
+
+/// 29 fixes with times, and what lies between them.
+///
+/// Record of the settings file: the texts of the rows, each SMT, TD, latitude, longitude; then
+/// course and speed steered.
+class frmPositionRecord : public CalculatorWindow
+{
+public:
+    explicit frmPositionRecord(Program& program);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void applyColours() override;
+
+private:
+    void addTotals();
+    void addCalculationOfRecord();
+    void addMenus();
+    void useRecordSettings();
+    void followFocus();
+
+    PositionRecordInput input() const;
+    void run();
+    void normaliseTime(std::size_t row);
+
+    using Change = std::function<void(PositionRows&)>;
+    void changeRows(const Change& change);
+    void insertRowHere();
+    void clearAll();
+    void undo();
+    void putTimeNow();
+    void copyAsText() const;
+    void print();
+
+    PositionTable* m_table;
+    EntryBox* m_txtCourseSteered;
+    EntryBox* m_txtSpeedSteered;
+    ResultLabel* m_lblTotalDistance;
+    ResultLabel* m_lblTotalHours;
+    ResultLabel* m_lblAverageSpeed;
+    ResultLabel* m_lblLatestRun;
+    ResultLabel* m_lblSet;
+    ResultLabel* m_lblDrift;
+
+    PositionRecordResult m_shown;
+    std::optional<PositionRows> m_before; ///< the rows as they were before the last change of rows
+    std::size_t m_row = 0;                ///< the row that has, or last had, the focus
+    bool m_filling = false;               ///< many boxes are being filled, one calculation follows
+};
+
+} // namespace korvel

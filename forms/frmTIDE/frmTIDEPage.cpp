@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/frmTIDEPage.h"
+
+#include "app/Format.h"
+#include "app/Questions.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+// The page is laid out in units of a thousandth of its width, whatever the paper and the printer.
+constexpr double pageWidth = 1000;
+constexpr int textSize = 17;
+constexpr int headingSize = 26;
+constexpr int tableColumns = 7; // of seven half hours each: 49 values
+
+QFont pageFont(const QPainter& painter, int size, bool bold = false)
+{
+    QFont font = painter.font();
+    font.setPixelSize(size);
+    font.setBold(bold);
+    return font;
+}
+
+QString text(const std::string& value)
+{
+    return QString::fromStdString(value);
+}
+
+/// A value of the table. One that rounds to 0 has no sign: neither flood nor ebb.
+std::string valueText(double value, TideKind kind)
+{
+    const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
+    return figures.find_first_of("123456789") == figures.npos ? figures.substr(figures.find('0'))
+                                                              : figures;
+}
+
+double lineOf(const QPainter& painter)
+{
+    return QFontMetricsF(painter.font()).lineSpacing();
+}
+
+/// Writes a line, left and right, and returns where the next one begins.
+double writeLine(QPainter& painter, double top, const QString& left, const QString& right = {})
+{
+    const double height = lineOf(painter);
+    const QRectF room(0, top, pageWidth, height);
+    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, left);
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, right);
+    return top + height;
+}
+
+} // namespace
+
+void frmTIDEPage::draw(QPainter& painter, const QRect& room) const
+{
+    const double scale = room.width() / pageWidth;
+    const double pageHeight = room.height() / scale;
+    painter.scale(scale, scale);
+    painter.setPen(Qt::black);
+
+    const double gap = textSize;
+    const double curveTop = drawHeading(painter) + gap;
+    const double below = tableHeight(painter) + footHeight(painter) + 3 * gap;
+    const double curveHeight = std::min(0.62 * pageWidth, pageHeight - curveTop - below);
+    painter.save();
+    painter.translate(0, curveTop);
+    drawCurve(painter, {static_cast<int>(pageWidth), static_cast<int>(curveHeight)});
+    painter.restore();
+    painter.setPen(Qt::black);
+    const double tableTop = curveTop + curveHeight + gap;
+    drawTable(painter, tableTop);
+    drawFoot(painter, tableTop + tableHeight(painter) + gap);
+}
+
+double frmTIDEPage::drawHeading(QPainter& painter) const
+{
+    const bool tide = prediction.kind == TideKind::Tide;
+    painter.setFont(pageFont(painter, headingSize, true));
+    double y = writeLine(painter, 0, place + "   " + date, tide ? "Tide" : "Tidal stream");
+    painter.drawLine(QPointF(0, y), QPointF(pageWidth, y));
+    y += textSize / 2.0;
+    painter.setFont(pageFont(painter, textSize));
+    y = writeLine(painter, y, text(lines.station), "Zone time " + text(prediction.lblTD));
+    painter.setFont(pageFont(painter, textSize, true));
+    y = writeLine(painter, y, "Highest, lowest:  " + text(prediction.lblTideInfo),
+                  tide
+                      ? text(lines.uncertainty)
+                      : text(prediction.lblCuDirection[0] + "    " + prediction.lblCuDirection[1]));
+    painter.setFont(pageFont(painter, textSize));
+    return y;
+}
+
+double frmTIDEPage::tableHeight(const QPainter& painter) const
+{
+    return (tableColumns + 1.5) * lineOf(painter);
+}
+
+void frmTIDEPage::drawTable(QPainter& painter, double top) const
+{
+    const bool tide = prediction.kind == TideKind::Tide;
+    const double height = lineOf(painter);
+    const double width = pageWidth / tableColumns;
+    writeLine(painter, top,
+              tide ? "Height above chart datum, metres"
+                   : "Rate in knots, positive with the flood, negative with the ebb");
+    top += 1.25 * height;
+    for (int i = 0; i < static_cast<int>(prediction.values.size()); ++i) {
+        const int column = i / tableColumns;
+        const int row = i % tableColumns;
+        const QRectF cell(column * width, top + row * height, width * 0.8, height);
+        const std::string time = Format(i / 2, "00") + (i % 2 == 0 ? ":00" : ":30");
+        painter.drawText(cell, Qt::AlignLeft, text(time));
+        const double value = prediction.values[static_cast<std::size_t>(i)];
+        painter.drawText(cell, Qt::AlignRight, text(valueText(value, prediction.kind)));
+    }
+    painter.setPen(QPen(Qt::gray, 0.5));
+    for (int column = 1; column < tableColumns; ++column) {
+        const double x = (column - 0.1) * width;
+        painter.drawLine(QPointF(x, top), QPointF(x, top + tableColumns * height));
+    }
+    painter.setPen(Qt::black);
+}
+
+QString frmTIDEPage::footText() const
+{
+    return text("Not for navigation: the official tables have precedence.\n" + lines.source +
+                "\nHalf-hourly prediction from four harmonic constituents and two shallow-water "
+                "terms, " +
+                programTitle + ".");
+}
+
+double frmTIDEPage::footHeight(const QPainter& painter) const
+{
+    const QRectF room(0, 0, pageWidth, 10 * pageWidth);
+    return QFontMetricsF(painter.font()).boundingRect(room, Qt::TextWordWrap, footText()).height();
+}
+
+void frmTIDEPage::drawFoot(QPainter& painter, double top) const
+{
+    painter.drawLine(QPointF(0, top), QPointF(pageWidth, top));
+    painter.drawText(QRectF(0, top + textSize / 2.0, pageWidth, footHeight(painter)),
+                     Qt::TextWordWrap, footText());
+}
+
+} // namespace korvel

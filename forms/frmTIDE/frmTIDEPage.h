@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmTIDE/PredictTide.h"
+#include "forms/frmTIDE/StationLines.h"
+
+#include <QPainter>
+
+#include <functional>
+
+namespace korvel
+{
+
+/// The printed page of a day: heading, figures, curve, a table of the half hours, the station's
+/// source.
+struct frmTIDEPage {
+    QString place;
+    QString date;
+    TidePrediction prediction;
+    StationLines lines;
+    /// Draws the curve at a size, in the units of the page.
+    std::function<void(QPainter&, const QSize&)> drawCurve;
+
+    /// @param room of the paper, in device pixels
+    void draw(QPainter& painter, const QRect& room) const;
+
+private:
+    double drawHeading(QPainter& painter) const;
+    double tableHeight(const QPainter& painter) const;
+    void drawTable(QPainter& painter, double top) const;
+    double footHeight(const QPainter& painter) const;
+    void drawFoot(QPainter& painter, double top) const;
+    QString footText() const;
+};
+
+} // namespace korvel

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/PictureBox.h"
+#include "app/shell/Program.h"
+#include "forms/frmTIDE/DrawCurve.h"
+
+#include <QLabel>
+
+#include <array>
+#include <optional>
+
+namespace korvel
+{
+
+/// picTIDE: the day's curve with its axis labels, and what the pointer reads of it. With the focus,
+/// Left and Right move the reading by ten minutes, Home and End to the day's ends, Escape takes it
+/// away.
+class frmTIDEPicture : public PictureBox
+{
+public:
+    explicit frmTIDEPicture(Program& program, QWidget* parent = nullptr);
+
+    void showPrediction(const TidePrediction& prediction);
+
+    /// Draws the curve for paper: in the colours of the day, without a reading.
+    void drawForPaper(QPainter& painter, const QSize& size);
+
+    void applyColours();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void addAxisLabels();
+    void placeLabels();
+    bool isLabelled(double level) const;
+    void placeReading();
+    void readAt(std::optional<double> hour);
+
+    void drawScreen(QPainter& painter);
+    void drawGrid(QPainter& painter, const ColourScheme& colours) const;
+    void drawFurtherLevels(QPainter& painter, const ColourScheme& colours) const;
+    void drawAxisTexts(QPainter& painter, const ColourScheme& colours) const;
+    void drawCurve(QPainter& painter, const ColourScheme& colours) const;
+    QRegion labelsOnGrid() const;
+    QLineF pixels(const CurveLine& line) const;
+    QFont axisFont() const;
+
+    Program& m_program;
+    std::optional<TidePrediction> m_prediction;
+    CurvePicture m_picture;
+    std::optional<double> m_hour; ///< where the curve is read
+    std::optional<CurveReading> m_reading;
+    std::array<QLabel*, 6> m_lblHeight{};
+    std::array<QLabel*, 11> m_lblTime{};
+    QLabel* m_lblReading;
+};
+
+} // namespace korvel

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+
+class QGroupBox;
+
+namespace korvel
+{
+
+/// Terms of the log for waves, swell, visibility and weather. The window keeps no settings file.
+class frmWeather : public CalculatorWindow
+{
+public:
+    explicit frmWeather(Program& program);
+
+private:
+    QGroupBox* layOutTerms();
+    QGroupBox* layOutLetters();
+    void addCalculations();
+
+    EntryBox* m_txtWave;
+    EntryBox* m_txtSWELL;
+    KeyUpBox* m_txtVISIBILITY;
+    ResultLabel* m_lblWave;
+    ResultLabel* m_lblSWELL;
+    ResultLabel* m_lblVISIBILITY;
+    ResultLabel* m_lblVISIBILITYnm;
+    ResultLabel* m_lblWr;
+};
+
+} // namespace korvel

@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmWind/WindPictureBox.h"
+
+#include "app/shell/Legend.h"
+
+#include <QLineF>
+
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr double thin = 0.06; // widths of lines in heights of a line of text
+constexpr double thick = 0.16;
+
+} // namespace
+
+WindPictureBox::WindPictureBox(Program& program)
+    : m_program(program), m_unit(QFontMetricsF(font()).height())
+{
+    setObjectName("picWind");
+    setAccessibleName("Ship's heading, apparent and true wind; press and drag to set the apparent "
+                      "wind");
+    setCursor(Qt::CrossCursor);
+    const QFontMetrics metrics = fontMetrics();
+    const int legend =
+        Legend::width(metrics, "Ship's heading Apparent wind True wind", 3, 0) + metrics.height();
+    setMinimumSize(legend, legend);
+    draw = [this](QPainter& painter) { paint(painter); };
+    setWind({}, WindOrientation::HeadUp);
+}
+
+void WindPictureBox::setWind(const std::optional<WindFigures>& figures, WindOrientation orientation)
+{
+    m_figures = figures;
+    m_orientation = orientation;
+    m_picture = pictureOfWind(figures.value_or(WindFigures{}), orientation, m_heldRadius);
+    setUserScale(m_picture.scale);
+}
+
+void WindPictureBox::holdScale(bool hold)
+{
+    m_heldRadius = hold ? m_picture.rings.back() : 0;
+    if (!hold) setWind(m_figures, m_orientation);
+}
+
+void WindPictureBox::setPointerText(QPointF user, const QString& text)
+{
+    m_pointer = user;
+    m_pointerText = text;
+    update();
+}
+
+void WindPictureBox::resizeEvent(QResizeEvent*)
+{
+    // A knot is as long to the right as ahead: the plot is square, the legend stands above it.
+    const int top = static_cast<int>(1.5 * m_unit);
+    const int side = std::min(width(), height() - top);
+    const int left = (width() - side) / 2;
+    setPlotMargins({left, top, width() - side - left, height() - top - side});
+}
+
+void WindPictureBox::paint(QPainter& painter) const
+{
+    painter.fillRect(plotArea(), colours().paper);
+    painter.save();
+    painter.setClipRect(plotArea());
+    PictureHyouji(painter);
+    if (m_figures) VectrHyouji(painter);
+    drawShip(painter);
+    painter.restore();
+    drawLegend(painter);
+    if (!m_pointerText.isEmpty()) drawPointerText(painter);
+}
+
+QPen WindPictureBox::pen(const QColor& colour, double width, Qt::PenStyle style) const
+{
+    return {colour, std::max(1.0, width * m_unit), style, Qt::FlatCap, Qt::RoundJoin};
+}
+
+QPen WindPictureBox::headingPen() const
+{
+    return pen(colours().ink, 0.1);
+}
+
+QPen WindPictureBox::apparentPen() const
+{
+    QPen dashed = pen(colours().secondary, thick);
+    dashed.setDashPattern({4, 2});
+    return dashed;
+}
+
+QPen WindPictureBox::truePen() const
+{
+    return pen(colours().route, thick);
+}
+
+void WindPictureBox::PictureHyouji(QPainter& painter) const
+{
+    const QPointF centre = pixel({});
+    const double outermost = m_picture.rings.back();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(pen(colours().grid, thin));
+    for (const double ring : m_picture.rings) {
+        const double radius = toPixel(ring, 0).x() - centre.x();
+        painter.drawEllipse(centre, radius, radius);
+    }
+    for (int bearing = 0; bearing < 360; bearing += 30) {
+        const QLineF spoke = QLineF::fromPolar(toPixel(outermost, 0).x() - centre.x(), bearing);
+        painter.drawLine(centre + spoke.p2() * 0.25, centre + spoke.p2());
+    }
+    painter.setPen(colours().ink);
+    for (const WindLabel& label : m_picture.compass) {
+        // Just outside the outermost ring.
+        const QPointF out = pixel(label.at) - centre;
+        const QPointF at = centre + out * (1 + 0.7 * m_unit / std::hypot(out.x(), out.y()));
+        painter.drawText(QRectF(at.x() - 2 * m_unit, at.y() - m_unit / 2, 4 * m_unit, m_unit),
+                         Qt::AlignCenter, QString::fromStdString(label.text));
+    }
+    for (const double ring : m_picture.rings) {
+        // Between two spokes, so that no line runs through the figure.
+        const QPointF at = pixel({ring * std::sqrt(0.5), ring * std::sqrt(0.5)});
+        const QString text = QString::number(ring) + (ring == outermost ? " kn" : "");
+        const double wide = QFontMetricsF(font()).horizontalAdvance(text);
+        const QRectF room(at.x() - wide / 2 - 1, at.y() - m_unit / 2, wide + 2, m_unit);
+        painter.fillRect(room, colours().paper);
+        painter.drawText(room, Qt::AlignCenter, text);
+    }
+}
+
+void WindPictureBox::drawArrow(QPainter& painter, QPointF tail, QPointF head,
+                               const QPen& look) const
+{
+    QLineF line(tail, head);
+    const double length = std::min(0.9 * m_unit, line.length());
+    if (length < 1) return;
+    const QPointF along = (head - tail) / line.length();
+    const QPointF across(-along.y(), along.x());
+    const QPointF neck = head - along * length;
+    painter.setPen(look);
+    painter.drawLine(tail, neck);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.color());
+    painter.drawPolygon(
+        QPolygonF{head, neck + across * length * 0.4, neck - across * length * 0.4});
+}
+
+void WindPictureBox::VectrHyouji(QPainter& painter) const
+{
+    const QPointF centre = pixel({});
+    // The apparent wind is the true wind and the ship's own motion added.
+    painter.setPen(pen(colours().marker, thin, Qt::DotLine));
+    painter.drawLine(pixel(m_picture.trueWind), pixel(m_picture.apparentWind));
+    painter.drawLine(pixel(m_picture.heading), pixel(m_picture.apparentWind));
+    // The heading points where the ship goes, the winds blow from their end to the ship.
+    drawArrow(painter, centre, pixel(m_picture.heading), headingPen());
+    // They stop at the hull, so that their heads do not lie upon each other.
+    const auto blow = [&](const WindVector& wind, const QPen& look) {
+        const QLineF line(pixel(wind), centre);
+        const double share = line.length() > 2.5 * m_unit ? 1 - 1.1 * m_unit / line.length() : 1;
+        drawArrow(painter, line.p1(), line.pointAt(share), look);
+    };
+    blow(m_picture.apparentWind, apparentPen());
+    blow(m_picture.trueWind, truePen());
+}
+
+void WindPictureBox::drawShip(QPainter& painter) const
+{
+    const bool turned = m_orientation == WindOrientation::NorthUp && m_figures;
+    painter.save();
+    painter.translate(pixel({}));
+    painter.rotate(turned ? m_figures->course : 0);
+    painter.scale(m_unit, m_unit);
+    painter.setPen(QPen(colours().ink, thin * 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolygon(QPolygonF{{0, -0.9}, {0.3, -0.35}, {0.3, 0.8}, {-0.3, 0.8}, {-0.3, -0.35}});
+    painter.restore();
+}
+
+void WindPictureBox::drawLegend(QPainter& painter) const
+{
+    Legend legend(painter, {m_unit / 2, 0.75 * m_unit}, palette().color(QPalette::WindowText));
+    legend.line(headingPen(), "Ship's heading");
+    legend.line(apparentPen(), "Apparent wind");
+    legend.line(truePen(), "True wind");
+}
+
+void WindPictureBox::drawPointerText(QPainter& painter) const
+{
+    const QSizeF text = QFontMetricsF(painter.font()).size(Qt::TextSingleLine, m_pointerText);
+    QRectF room(toPixel(m_pointer.x(), m_pointer.y()) + QPointF(m_unit, -1.5 * m_unit),
+                text + QSizeF(m_unit, 0.2 * m_unit));
+    // Beside the pointer, and never outside the picture.
+    room.moveLeft(std::clamp(room.left(), 0.0, std::max(0.0, width() - room.width())));
+    room.moveTop(std::clamp(room.top(), 0.0, std::max(0.0, height() - room.height())));
+    painter.setPen(pen(colours().ink, thin));
+    painter.setBrush(colours().paper);
+    painter.drawRect(room);
+    painter.drawText(room, Qt::AlignCenter, m_pointerText);
+}
+
+} // namespace korvel

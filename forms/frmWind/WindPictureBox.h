@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/PictureBox.h"
+#include "app/shell/Program.h"
+#include "forms/frmWind/WindPicture.h"
+
+#include <optional>
+
+namespace korvel
+{
+
+/// Ship's heading, apparent and true wind as vectors around the ship.
+class WindPictureBox : public PictureBox
+{
+public:
+    explicit WindPictureBox(Program& program);
+
+    /// @param figures nothing: rings only
+    void setWind(const std::optional<WindFigures>& figures, WindOrientation orientation);
+
+    /// Keeps the scale while the pointer drags.
+    void holdScale(bool hold);
+
+    /// Text beside the pointer; an empty one takes it away.
+    void setPointerText(QPointF user, const QString& text);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void paint(QPainter& painter) const;
+    void PictureHyouji(QPainter& painter) const;
+    void VectrHyouji(QPainter& painter) const;
+    void drawShip(QPainter& painter) const;
+    void drawLegend(QPainter& painter) const;
+    void drawPointerText(QPainter& painter) const;
+    void drawArrow(QPainter& painter, QPointF tail, QPointF head, const QPen& look) const;
+
+    QPointF pixel(const WindVector& place) const { return toPixel(place.x, place.y); }
+    QPen pen(const QColor& colour, double width, Qt::PenStyle style = Qt::SolidLine) const;
+    QPen headingPen() const;
+    QPen apparentPen() const;
+    QPen truePen() const;
+    const ColourScheme& colours() const { return m_program.colours(); }
+
+    Program& m_program;
+    WindPicture m_picture;
+    std::optional<WindFigures> m_figures;
+    WindOrientation m_orientation = WindOrientation::HeadUp;
+    NavFunc113::Knots m_heldRadius = 0;
+    QPointF m_pointer;
+    QString m_pointerText;
+    double m_unit; ///< height of a line of text, which every size follows
+};
+
+} // namespace korvel

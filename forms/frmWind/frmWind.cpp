@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmWind/frmWind.h"
+
+#include "app/reading.h"
+#include "forms/frmWind/WindPictureBox.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace korvel
+{
+
+frmWind::frmWind(Program& program) : CalculatorWindow(program, "frmWind", "True wind")
+{
+    m_txtWind = addTextBoxes<4>("txtWind",
+                                {"Ship's course, degrees true, 0 to 360", "Ship's speed, knots",
+                                 "Apparent wind from the bow, degrees, -180 to 180, port negative",
+                                 "Apparent wind speed, knots"});
+    setEntryOrder({m_txtWind.begin(), m_txtWind.end()});
+    m_lblWind = addLabels<2>("lblWind");
+    m_picWind = new WindPictureBox(program);
+    addOptions();
+
+    auto* columns = new QHBoxLayout(scrollBody());
+    columns->setContentsMargins(0, 0, 0, 0);
+    auto* left = new QVBoxLayout;
+    left->addWidget(layOutInputs());
+    left->addWidget(layOutResults());
+    left->addWidget(layOutOptions());
+    left->addStretch();
+    columns->addLayout(left);
+    columns->addWidget(m_picWind, 1);
+    addLinksMenu("mnuWind");
+
+    m_calculation = addCalculation({"True wind",
+                                    {m_txtWind.begin(), m_txtWind.end()},
+                                    {m_lblWind.begin(), m_lblWind.end()},
+                                    [this] { runWind(); }});
+    connectPicture();
+    nameSettings();
+    loadSettings();
+    m_txtWind[0]->setFocus();
+}
+
+void frmWind::addOptions()
+{
+    const char* const captions[] = {"&Head up", "&North up"};
+    for (std::size_t i = 0; i < m_optWind.size(); ++i) {
+        m_optWind[i] = new QRadioButton(captions[i]);
+        m_optWind[i]->setObjectName(memberName("optWind", static_cast<int>(i)));
+        connect(m_optWind[i], &QRadioButton::clicked, this, &frmWind::optWind_Click);
+    }
+    m_optWind[0]->setChecked(true);
+}
+
+QGroupBox* frmWind::layOutInputs()
+{
+    auto* group = new QGroupBox("Ship and apparent wind");
+    auto* grid = new QGridLayout(group);
+    addEntryRow(grid, 0, "Ship's course", m_txtWind[0], "degrees true");
+    addEntryRow(grid, 1, "Ship's speed", m_txtWind[1], "knots");
+    addEntryRow(grid, 2, "Wind from the bow", m_txtWind[2], "degrees, port negative");
+    addEntryRow(grid, 3, "Apparent speed", m_txtWind[3], "knots");
+    return group;
+}
+
+QGroupBox* frmWind::layOutResults()
+{
+    auto* group = new QGroupBox("True wind");
+    auto* grid = new QGridLayout(group);
+    grid->addWidget(new QLabel("From"), 0, 0);
+    grid->addWidget(m_lblWind[0], 0, 1);
+    grid->addWidget(new QLabel("Force"), 1, 0);
+    grid->addWidget(m_lblWind[1], 1, 1);
+    grid->setColumnMinimumWidth(
+        1, QFontMetrics(m_lblWind[1]->font()).horizontalAdvance("Beaufort 9 (100.0Kn)"));
+    grid->setColumnStretch(1, 1);
+    return group;
+}
+
+QGroupBox* frmWind::layOutOptions()
+{
+    auto* group = new QGroupBox("Picture");
+    auto* row = new QHBoxLayout(group);
+    for (QRadioButton* option : m_optWind)
+        row->addWidget(option);
+    row->addStretch();
+    return group;
+}
+
+void frmWind::connectPicture()
+{
+    connect(m_picWind, &PictureBox::pressed, this, [this](QPointF place, Qt::MouseButtons buttons) {
+        if (buttons == Qt::LeftButton) picWind_MouseDown(place);
+    });
+    connect(m_picWind, &PictureBox::pointed, this, [this](QPointF place) {
+        if (m_dragging) picWind_MouseMove(place);
+    });
+    connect(m_picWind, &PictureBox::released, this, [this] {
+        if (m_dragging) picWind_MouseUp();
+    });
+}
+
+void frmWind::nameSettings()
+{
+    useSettings(
+        "KV_Wind.ini", {Kind::Text, Kind::Text, Kind::Text, Kind::Text, Kind::Number},
+        [this] {
+            Record record;
+            for (const EntryBox* box : m_txtWind)
+                record.push_back(box->value());
+            record.push_back(orientation() == WindOrientation::NorthUp ? 1.0 : 0.0);
+            return record;
+        },
+        [this](const Record& record) {
+            for (std::size_t i = 0; i < m_txtWind.size(); ++i)
+                m_txtWind[i]->setText(QString::fromStdString(textOf(record[i])));
+            m_optWind[numberOf(record[4]) == 1 ? 1 : 0]->setChecked(true);
+        });
+}
+
+WindOrientation frmWind::orientation() const
+{
+    return m_optWind[1]->isChecked() ? WindOrientation::NorthUp : WindOrientation::HeadUp;
+}
+
+void frmWind::runWind()
+{
+    m_wind = {};
+    m_picWind->setWind({}, orientation()); // also when the library stops the calculation
+    m_wind = CalculateWind(texts<0, 4>(m_txtWind));
+    for (std::size_t i = 0; i < m_lblWind.size(); ++i)
+        m_lblWind[i]->setText(QString::fromStdString(m_wind.lblWind[i]));
+    m_picWind->setWind(m_wind.figures, orientation());
+}
+
+void frmWind::optWind_Click()
+{
+    m_picWind->setWind(m_wind.figures, orientation());
+}
+
+void frmWind::picWind_MouseDown(QPointF place)
+{
+    m_dragging = true;
+    m_picWind->holdScale(true);
+    picWind_MouseMove(place);
+}
+
+void frmWind::picWind_MouseMove(QPointF place)
+{
+    const WindPointer pointer =
+        windAt({place.x(), place.y()}, orientation(), readNumber(m_txtWind[0]->value()));
+    m_picWind->setPointerText(place, QString::fromStdString(pointer.text));
+    const auto write = [](EntryBox* box, const std::string& text) {
+        const QSignalBlocker quiet(box);
+        box->setText(QString::fromStdString(text));
+    };
+    write(m_txtWind[2], pointer.relative);
+    write(m_txtWind[3], pointer.apparentSpeed);
+    // Direction and speed change together: one calculation for both.
+    calculate(m_calculation);
+}
+
+void frmWind::picWind_MouseUp()
+{
+    m_dragging = false;
+    m_picWind->holdScale(false);
+    m_picWind->setPointerText({}, {});
+}
+
+} // namespace korvel

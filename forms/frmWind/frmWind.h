@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/CalculatorWindow.h"
+#include "forms/frmWind/CalculateWind.h"
+
+class QGroupBox;
+class QRadioButton;
+
+namespace korvel
+{
+
+class WindPictureBox;
+
+/// True wind from the apparent wind.
+///
+/// Settings "KV_Wind.ini": the texts of txtWind(0) .. (3), then 0 for head up or 1 for north up.
+class frmWind : public CalculatorWindow
+{
+public:
+    explicit frmWind(Program& program);
+
+private:
+    void addOptions();
+    QGroupBox* layOutInputs();
+    QGroupBox* layOutResults();
+    QGroupBox* layOutOptions();
+    void connectPicture();
+    void nameSettings();
+
+    void runWind();
+    void optWind_Click();
+    void picWind_MouseDown(QPointF place);
+    void picWind_MouseMove(QPointF place);
+    void picWind_MouseUp();
+    WindOrientation orientation() const;
+
+    std::array<EntryBox*, 4> m_txtWind{};
+    std::array<ResultLabel*, 2> m_lblWind{};
+    std::array<QRadioButton*, 2> m_optWind{};
+    WindPictureBox* m_picWind = nullptr;
+    WindResult m_wind;
+    bool m_dragging = false;
+    int m_calculation = 0;
+};
+
+} // namespace korvel

@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/frmTIDE.h"
+
+#include "forms/frmTIDE/TideData.h"
+#include "forms/frmTIDE/frmTIDEPage.h"
+#include "tests/forms/frmTIDE/TideFolder.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QImage>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+/// A window beside copies of the shipped data and a stream station of the test's own.
+class frmTIDETest : public WindowTest
+{
+protected:
+    frmTIDETest()
+    {
+        QDir(folder.path()).mkdir("Harmonic Constants");
+        for (const char* file : {"AF2005.txt", "stations.txt", "Harmonic Constants/HC_Yokohama.txt",
+                                 "Harmonic Constants/HC_Port Dickson.txt"})
+            QFile::copy(QString::fromStdString((TideFolder::shipped() / file).string()),
+                        folder.filePath(file));
+        writeFile("Harmonic Constants/HC_Brothers_.txt", syntheticStream);
+    }
+    void setDate(const QWidget& window, const std::string& date)
+    {
+        questions.willType(date);
+        choose(window, "mnuFrmTIDE(2)");
+    }
+    static void press(QWidget& window, const std::string& name, std::initializer_list<int> keys)
+    {
+        control(window, name).setFocus(Qt::TabFocusReason);
+        for (int key : keys)
+            QTest::keyClick(&control(window, name), static_cast<Qt::Key>(key));
+    }
+    static int scrollValue(const QWidget& window)
+    {
+        return static_cast<QScrollBar&>(control(window, "scrDate")).value();
+    }
+    static std::string tooFar(const std::string& last)
+    {
+        return "This version of KORVEL can calculate the tide only 2002/10/1 to " + last + ".";
+    }
+};
+
+constexpr const char* yokohama = "mnuJapan(10)";
+constexpr const char* portDickson = "mnuSpore(3)";
+constexpr const char* brothersStream = "mnuCuSpore(0)";
+constexpr const char* inchon = "mnuAsia(3)";
+
+TEST_F(frmTIDETest, opensEmptyAndWaitsForPlaceAndDate)
+{
+    auto& window = open<frmTIDE>();
+    EXPECT_EQ(text(window, "lblPlace"), "Place");
+    EXPECT_EQ(text(window, "lblDate"), "Date");
+    choose(window, yokohama);
+    EXPECT_EQ(text(window, "lblTideInfo"), "") << "no date yet";
+    EXPECT_EQ(fileText("KV_Tide.ini"), "(no file)");
+
+    // Cancelling and nonsense are asked again.
+    for (const char* answer : {"", "2003/2/29", "2003/7/15"})
+        questions.willType(answer);
+    click(window, "lblDate");
+    EXPECT_THAT(questions.offered, ElementsAre("2005/3/14", "2005/3/14", "2005/3/14"));
+    EXPECT_EQ(text(window, "lblDate"), "2003/07/15");
+    EXPECT_EQ(text(window, "lblTD"), "9.0hE");
+    EXPECT_EQ(text(window, "lblTideInfo"), "05.-00: 1.87m   12.-00: -0.01m");
+    EXPECT_THAT(text(window, "lblStation"), HasSubstr("Yokohama: grade A.  Not for navigation"));
+    EXPECT_FALSE(control(window, "lblUncertainty").isVisible());
+    EXPECT_EQ(fileText("KV_Tide.ini"), "#TRUE#\r\n\"Yokohama\"\r\n\"2003/07/15\"\r\n");
+
+    choose(window, portDickson);
+    EXPECT_THAT(text(window, "lblStation"), HasSubstr("(est.)"));
+    EXPECT_EQ(text(window, "lblUncertainty"), "Uncertainty: amplitude ±20 %, time ±35 min");
+    EXPECT_TRUE(control(window, "lblUncertainty").isVisible());
+}
+
+TEST_F(frmTIDETest, datesStayInRangeAndInStepWithTheScrollBar)
+{
+    auto& window = open<frmTIDE>();
+    choose(window, yokohama);
+    for (const char* answer : {"2006/1/1", "2002/9/30"}) {
+        questions.willAnswer(Answer::Ok);
+        setDate(window, answer);
+        EXPECT_EQ(questions.asked.back(), tooFar("2005/12/31"));
+        EXPECT_EQ(text(window, "lblDate"), "Date");
+    }
+    setDate(window, "2005/12/31");
+    EXPECT_EQ(scrollValue(window), 1188);
+    press(window, "scrDate", {Qt::Key_Down});
+    EXPECT_EQ(text(window, "lblDate"), "2005/12/31") << "the end";
+    press(window, "scrDate", {Qt::Key_Up, Qt::Key_PageUp});
+    EXPECT_EQ(text(window, "lblDate"), "2005/12/23");
+    press(window, "scrDate", {Qt::Key_Home});
+    EXPECT_EQ(text(window, "lblDate"), "2002/10/01");
+    EXPECT_EQ(text(window, "lblTideInfo"),
+              PredictTide(TideFolder::shipped(), "Yokohama", "2002/10/01", {})->lblTideInfo);
+
+    QWidget& bar = control(window, "scrDate");
+    for (int turned : {-60, -60, -120}) {
+        QWheelEvent turn({1, 1}, bar.mapToGlobal(QPointF(1, 1)), {}, {0, turned}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&bar, &turn);
+    }
+    EXPECT_EQ(text(window, "lblDate"), "2002/10/03") << "a day a notch";
+    EXPECT_THAT(fileText("KV_Tide.ini"), HasSubstr("2005/12/31")) << "not at every step";
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return fileText("KV_Tide.ini").find("2002/10/03") != std::string::npos; }));
+}
+
+TEST_F(frmTIDETest, streamsHaveTheirOwnFilesDirectionsAndMode)
+{
+    auto& window = open<frmTIDE>();
+    setDate(window, "2003/7/15");
+    choose(window, yokohama);
+    choose(window, brothersStream);
+    EXPECT_THAT(text(window, "lblTideInfo"), HasSubstr("kn"));
+    EXPECT_EQ(text(window, "lblCuDirection(0)"), "+ : ENE");
+    EXPECT_EQ(text(window, "lblCuDirection(1)"), "- : WSW");
+    EXPECT_EQ(text(window, "lblHeight(0)"), "0 kn.");
+    EXPECT_EQ(text(window, "lblStation").find("grade B"), std::string::npos)
+        << "that is the tide station of this name";
+    EXPECT_THAT(fileText("KV_Tide.ini"), HasSubstr("#FALSE#\r\n\"Brothers\""));
+    press(window, "scrDate", {Qt::Key_Down});
+    EXPECT_EQ(
+        text(window, "lblTideInfo"),
+        PredictCurrent(folder.path().toStdString(), "Brothers", "2003/07/16", {})->lblTideInfo);
+}
+
+TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
+{
+    auto& window = open<frmTIDE>();
+    setDate(window, "2003/7/15");
+    choose(window, yokohama);
+    auto& picture = static_cast<PictureBox&>(control(window, "picTIDE"));
+    QTest::mouseMove(&picture, picture.toPixel(5, 0).toPoint());
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("1.87m"));
+    press(window, "picTIDE", {Qt::Key_End});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("24:00  1.05m"));
+    press(window, "picTIDE", {Qt::Key_Right, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30  1.09m"));
+    choose(window, brothersStream);
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30")) << "the new curve is read there";
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("WSW")) << "an ebb";
+    press(window, "picTIDE", {Qt::Key_Escape});
+    EXPECT_FALSE(control(window, "lblReading").isVisible());
+}
+
+TEST_F(frmTIDETest, axisLabelsStandWhereTheScaleSays)
+{
+    auto& window = open<frmTIDE>();
+    choose(window, yokohama);
+    setDate(window, "2003/7/15");
+    const auto& picture = static_cast<PictureBox&>(control(window, "picTIDE"));
+    EXPECT_NEAR(picture.userScale().top, 1.87 + 1.5, 0.01);
+    EXPECT_NEAR(picture.userScale().bottom, -0.01 - 0.6, 0.01);
+    EXPECT_EQ(text(window, "lblTime(10)"), "22");
+    EXPECT_EQ(control(window, "lblTime(10)").pos(), picture.toPixel(21.7, -0.1).toPoint());
+    window.resize(window.size() + QSize(200, 100));
+    EXPECT_EQ(control(window, "lblTime(0)").pos(), picture.toPixel(1.7, -0.1).toPoint());
+    EXPECT_EQ(control(window, "lblHeight(3)").y(), qRound(picture.toPixel(0, 3).y()));
+    EXPECT_TRUE(control(window, "lblHeight(3)").isVisible());
+    EXPECT_FALSE(control(window, "lblHeight(4)").isVisible()) << "above 3.37";
+}
+
+TEST_F(frmTIDETest, faultsOfTheDataLeaveTheDisplay)
+{
+    auto& window = open<frmTIDE>();
+    choose(window, yokohama);
+    setDate(window, "2003/7/15");
+    const auto display = [&] {
+        return text(window, "lblPlace") + " " + text(window, "lblDate") + " " +
+               text(window, "lblTideInfo") + " " + std::to_string(scrollValue(window)) +
+               fileText("KV_Tide.ini");
+    };
+    const std::string before = display();
+
+    questions.willAnswer(Answer::Ok);
+    choose(window, inchon);
+    EXPECT_THAT(questions.asked.back(), HasSubstr("HC_Inchon.txt"));
+    EXPECT_THAT(questions.asked.back(), HasSubstr("27 fields"));
+    EXPECT_EQ(display(), before);
+    writeFile("Harmonic Constants/HC_Brothers_.txt", "Brothers,8,none\r\n");
+    questions.willAnswer(Answer::Ok);
+    choose(window, brothersStream);
+    EXPECT_THAT(questions.asked.back(), HasSubstr("line 1, field 3"));
+    EXPECT_EQ(display(), before);
+
+    // While the date runs there is no box, whatever the number of steps.
+    std::string factors = TideFolder::shippedFactors();
+    factors[46u * 288 + 20] = 'x'; // the line of 2003-07-16, which the day before needs as well
+    writeFile("AF2005.txt", factors);
+    press(window, "scrDate", {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down});
+    EXPECT_THAT(text(window, "lblNotice"), HasSubstr("2003/07/16 cannot be shown"));
+    EXPECT_THAT(text(window, "lblNotice"), HasSubstr("AF2005.txt, line 289, field"));
+    EXPECT_EQ(display(), before);
+    press(window, "scrDate", {Qt::Key_PageDown});
+    EXPECT_EQ(text(window, "lblNotice"), "");
+    EXPECT_EQ(text(window, "lblDate"), "2003/07/22");
+}
+
+TEST_F(frmTIDETest, takesUpWhereItWasLeft)
+{
+    const struct {
+        const char* record;
+        const char* place;
+        const char* date;
+        bool predicted;
+    } rows[] = {
+        {"#TRUE#\r\n\"Yokohama\"\r\n\"2003/07/15\"\r\n", "Yokohama", "2003/07/15", true},
+        {"#FALSE#\r\n\"Brothers\"\r\n\"2003/7/15\"\r\n", "Brothers", "2003/07/15", true},
+        {"#FALSE#\r\n\"Yokohama\"\r\n\"2003/07/15\"\r\n", "Place", "2003/07/15", false},
+        {"#TRUE#\r\n\"Atlantis\"\r\n\"2003/07/15\"\r\n", "Place", "2003/07/15", false},
+        {"#TRUE#\r\n\"Yokohama\"\r\n\"2026/11/21\"\r\n", "Yokohama", "Date", false},
+        {"\r\n\r\n\r\n", "Place", "Date", false},
+    };
+    for (const auto& row : rows) {
+        writeFile("KV_Tide.ini", row.record);
+        auto& window = open<frmTIDE>();
+        EXPECT_EQ(text(window, "lblPlace"), row.place) << row.record;
+        EXPECT_EQ(text(window, "lblDate"), row.date) << row.record;
+        EXPECT_EQ(!text(window, "lblTideInfo").empty(), row.predicted) << row.record;
+        close(window);
+    }
+
+    // Data that are missing today are no reason to forget the choice.
+    const std::string choice = "#TRUE#\r\n\"Yokohama\"\r\n\"2003/07/15\"\r\n";
+    writeFile("KV_Tide.ini", choice);
+    QFile::remove(folder.filePath("AF2005.txt"));
+    questions.willAnswer(Answer::Ok);
+    auto& window = open<frmTIDE>();
+    EXPECT_THAT(questions.asked.back(), HasSubstr("AF2005.txt"));
+    close(window);
+    EXPECT_EQ(fileText("KV_Tide.ini"), choice);
+}
+
+TEST_F(frmTIDETest, aLongerFactorsFileIsTakenUpWhenTheWindowOpens)
+{
+    writeFile("AF2005.txt",
+              TideFolder::shippedFactors() + "20060102,021,1.11,011,0.73,356,1.40,030,1.39\r\n");
+    auto& window = open<frmTIDE>();
+    choose(window, yokohama);
+    setDate(window, "2006/1/1");
+    EXPECT_EQ(scrollValue(window), 1189);
+    EXPECT_NE(text(window, "lblTideInfo"), "");
+    questions.willAnswer(Answer::Ok);
+    setDate(window, "2006/1/2");
+    EXPECT_EQ(questions.asked.back(), tooFar("2006/1/1"));
+    questions.willAnswer(Answer::Ok);
+    choose(window, "mnuEND(2)");
+    EXPECT_THAT(questions.asked.back(), HasSubstr("up to 2006/1/1."));
+}
+
+TEST_F(frmTIDETest, everyMnemonicOfAMenuIsItsOwn)
+{
+    auto& window = open<frmTIDE>();
+    for (const QObject* menu : {static_cast<QObject*>(window.menuBar()),
+                                static_cast<QObject*>(window.findChild<QMenu*>("mnuFrmTIDE(0)")),
+                                static_cast<QObject*>(window.findChild<QMenu*>("mnuFrmTIDE(1)"))}) {
+        QStringList mnemonics;
+        for (const QAction* entry : static_cast<const QWidget*>(menu)->actions())
+            mnemonics << entry->text().section('&', 1).left(1).toUpper();
+        EXPECT_EQ(mnemonics.removeDuplicates(), 0) << menu->objectName().toStdString();
+    }
+}
+
+TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
+{
+    const auto prediction = PredictTide(TideFolder::shipped(), "Port Dickson", "2003/07/15", {});
+    const StationLines lines =
+        describeStation(*prediction, readStationNotes(TideFolder::shipped(), "Port Dickson"));
+    for (const QSize paper : {QSize(840, 1188), QSize(1188, 840)}) {
+        frmTIDEPicture picture(program());
+        picture.showPrediction(*prediction);
+        QSize curve;
+        const frmTIDEPage page{"Port Dickson", "2003/07/15", *prediction, lines,
+                               [&](QPainter& painter, const QSize& size) {
+                                   curve = size;
+                                   picture.drawForPaper(painter, size);
+                               }};
+        QImage image(paper, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        page.draw(painter, image.rect());
+        painter.end();
+        EXPECT_GT(curve.height(), 200);
+        const int foot = paper.height() - 1;
+        for (int x = 0; x < paper.width(); ++x)
+            ASSERT_EQ(image.pixel(x, foot), qRgb(255, 255, 255)) << "cut off at the foot";
+    }
+}
+
+} // namespace
+} // namespace korvel
