@@ -12,3 +12,7 @@ add_executable(ephemeris_accuracy
   ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp
   ${CMAKE_SOURCE_DIR}/tests/navlib/accuracy/ErfaReference.cpp)
 target_link_libraries(ephemeris_accuracy PRIVATE app_core ${ERFA_LIBRARY})
+
+# A change of date with sixteen rows filled, its one save included: at most 40 times the bare box.
+add_executable(sunmoon_bench ${CMAKE_CURRENT_LIST_DIR}/ui/SunMoonBench.cpp)
+target_link_libraries(sunmoon_bench PRIVATE ui_bench frmSunMoon)

@@ -130,16 +130,12 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
 }
 
+/// The toolkit keeps a text document behind a label that can be selected or take the focus. It is
+/// most of the time from a key to the painted labels, so it is there only while somebody selects.
 void ResultLabel::setSelectable(bool selectable)
 {
-    // Selectable text is a whole document to the toolkit, laid out anew at every change. Most
-    // results change while nobody is at them: they are plain until the mouse or the focus comes.
-    const Qt::TextInteractionFlags flags =
-        selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
-                   : Qt::NoTextInteraction;
-    if (flags == textInteractionFlags()) return;
-    setTextInteractionFlags(flags);
-    setFocusPolicy(Qt::ClickFocus);
+    setTextInteractionFlags(selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                       : Qt::NoTextInteraction);
 }
 
 void ResultLabel::reserve(const QString& longest)
@@ -167,28 +163,19 @@ void ResultLabel::paintEvent(QPaintEvent* event)
     m_figures.draw(painter, contentsRect(), alignment(), text());
 }
 
-void ResultLabel::enterEvent(QEnterEvent* event)
+void ResultLabel::mousePressEvent(QMouseEvent* event)
 {
     setSelectable(true);
-    QLabel::enterEvent(event);
-}
-
-void ResultLabel::leaveEvent(QEvent* event)
-{
-    QLabel::leaveEvent(event);
-    if (!hasFocus()) setSelectable(false);
-}
-
-void ResultLabel::focusInEvent(QFocusEvent* event)
-{
-    setSelectable(true);
-    QLabel::focusInEvent(event);
+    setFocus(Qt::MouseFocusReason);
+    QLabel::mousePressEvent(event);
 }
 
 void ResultLabel::focusOutEvent(QFocusEvent* event)
 {
     QLabel::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && !underMouse()) setSelectable(false);
+    // Its own context menu and a look into another program leave the selection alone.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        setSelectable(false);
 }
 
 void ResultLabel::keyPressEvent(QKeyEvent* event)

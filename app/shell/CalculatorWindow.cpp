@@ -33,7 +33,7 @@ void tint(QWidget* widget, const QColor& colour)
 } // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
-    : m_program(program), m_body(new QWidget), m_notice(new QLabel)
+    : m_program(program), m_body(new QWidget), m_notice(new ResultLabel)
 {
     setObjectName(name);
     setWindowTitle(caption);
@@ -42,7 +42,7 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
     m_notice->setObjectName("lblNotice");
     m_notice->setAccessibleName("Notice");
     m_notice->setWordWrap(true);
-    m_notice->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_notice->setFont(font()); // copied like a result, read like a caption
     // Two lines are kept free, so that a notice never moves the boxes under the officer's hand.
     m_notice->setMinimumHeight(2 * m_notice->fontMetrics().lineSpacing());
     m_notice->setAlignment(Qt::AlignLeft | Qt::AlignBottom);

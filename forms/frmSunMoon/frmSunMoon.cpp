@@ -29,9 +29,19 @@ int columnOf(std::size_t result)
     return Sun + static_cast<int>(result) + (result >= ofSun ? 1 : 0);
 }
 
+constexpr const char* widestResult = "<000.0> ";
+
 QString text(const std::string& value)
 {
     return QString::fromStdString(value);
+}
+
+/// A label of a fixed size asks for no new layout when its text changes: with a hundred of them
+/// that would be most of the work of a change of date.
+void fixSize(ResultLabel* label, const char* sample)
+{
+    const QFontMetrics metrics = label->fontMetrics();
+    label->setFixedSize(metrics.horizontalAdvance(sample), metrics.height());
 }
 
 } // namespace
@@ -53,9 +63,8 @@ frmSunMoon::frmSunMoon(Program& program)
     setScrollArea(area);
     area->setHeading(heading());
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, dateRow());
-    m_lblRow = new QLabel;
-    m_lblRow->setObjectName("lblRow");
-    m_lblRow->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_lblRow = addLabel("lblRow");
+    m_lblRow->setFont(font());
     addBelow(m_lblRow);
     addMenus();
 
@@ -84,6 +93,7 @@ void frmSunMoon::addControls()
     m_txtSunMoon = addTextBox("txtSunMoon", "Date, year/month/day");
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
     m_lblMoonAge = addLabel("lblMoonAge");
+    fixSize(m_lblMoonAge, "00.0 ");
     m_scrMoonSun = new QScrollBar(Qt::Horizontal, body());
     m_scrMoonSun->setObjectName("scrMoonSun");
     m_scrMoonSun->setAccessibleName("Date, days from today");
@@ -118,6 +128,7 @@ void frmSunMoon::addRow(std::size_t row)
         m_labels[i][row] = addLabel(memberName(columns[i].name, index));
         m_labels[i][row]->setAccessibleDescription(columns[i].words + ofRow);
         m_labels[i][row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        fixSize(m_labels[i][row], widestResult);
     }
 }
 
@@ -173,7 +184,7 @@ void frmSunMoon::setColumns(QGridLayout* grid, const QWidget& widget)
     set(Longitude, metrics.horizontalAdvance("-179.30.55") + box);
     set(LongitudeEcho, metrics.horizontalAdvance("179°30.55' W !"));
     for (std::size_t i = 0; i < columns.size(); ++i)
-        set(columnOf(i), result.fontMetrics().horizontalAdvance("<000.0> "));
+        set(columnOf(i), result.fontMetrics().horizontalAdvance(widestResult));
     set(Gap, metrics.averageCharWidth());
     grid->setColumnStretch(Place, 1);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -224,7 +235,7 @@ QWidget* frmSunMoon::table()
         add(m_txtLongitude[row], Longitude);
         add(m_txtLongitude[row]->echo(), LongitudeEcho);
         for (std::size_t i = 0; i < columns.size(); ++i)
-            add(m_labels[i][row], columnOf(i));
+            grid->addWidget(m_labels[i][row], line, columnOf(i));
         m_number[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
     grid->setRowStretch(rows, 1);
@@ -361,7 +372,7 @@ void frmSunMoon::leaveDate()
 void frmSunMoon::cmdToday_Click()
 {
     m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
-    m_txtTD[0]->setText(text(Format(program().saved().TD(), "0.0##")));
+    m_txtTD[0]->setText(text(Format(program().saved().TD(), "0.##")));
     m_txtLocation[0]->setText("Today");
     m_txtLatitude[0]->setFocus(Qt::TabFocusReason);
     leaveDate();

@@ -27,7 +27,7 @@ std::string noonText(DateTime noon, const SightTexts& sight)
 {
     std::string text = Format(noon, "yyyy/mm/dd hh:mm:ss") + " UTC";
     if (sight.SMT)
-        text += ", " + Format(noon + readNumber(sight.TD) / 24, "yyyy/mm/dd hh:mm:ss") + " SMT";
+        text += ", " + Format(noon + readNumber(sight.TD) / 24, "MM/dd hh:mm:ss") + " SMT";
     return text;
 }
 
@@ -55,7 +55,7 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     result.note = "Sun " + Format(std::fabs(minutes), "0.0") + " min " +
                   (minutes < 0 ? "before" : "after") + " the meridian at the sight";
     if (std::fabs(minutes) > 1)
-        result.note += ": the latitude is out by the altitude it was short of the meridian";
+        result.note += ": not yet or no longer at its greatest, the latitude is out";
 }
 
 } // namespace

@@ -117,8 +117,8 @@ void takeFix(const Fix& fix, SightFixResult& result)
     // Twenty minutes: below that nobody calls it a running fix.
     const double elapsed = *result.UTC - earliest->UTC;
     result.time = std::string(elapsed > 20.0 / 1440 ? "R FIX " : "FIX ") +
-                  Format(*result.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC, " +
-                  Format(elapsed, "d-hh:mm:ss") + " after the first sight";
+                  Format(*result.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC, run " +
+                  Format(elapsed, "d-hh:mm:ss");
     for (std::size_t i = 0; i < result.lines.size(); ++i)
         result.lines[i].text += "  residual " + Format(fix.residuals[i], "+0.0;-0.0") + " nm";
 }

@@ -26,6 +26,9 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     setFont(small);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    const int side = fontMetrics().height() * 17;
+    setMinimumSize(side, side);
     setUserScale({-half, half, half, -half});
     draw = [this](QPainter& painter) { paint(painter); };
 }
@@ -47,27 +50,18 @@ double SightPicture::unit() const
     return fontMetrics().height() / 4.0;
 }
 
-QSize SightPicture::sizeHint() const
-{
-    const int side = fontMetrics().height() * 26;
-    return {side, side};
-}
-
-QSize SightPicture::minimumSizeHint() const
-{
-    const int side = fontMetrics().height() * 20;
-    return {side, side};
-}
-
 void SightPicture::resizeEvent(QResizeEvent* event)
 {
     PictureBox::resizeEvent(event);
     const QFontMetrics metrics = fontMetrics();
     const int left = metrics.horizontalAdvance("00-.00'0N ");
     const int bottom = metrics.height() * 5 / 4;
-    const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-.0");
+    const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-");
     const int side = std::max(1, std::min(width() - left - right, height() - top - bottom));
-    setPlotMargins({left, top, width() - left - side, height() - top - side});
+    const int aside = (width() - left - right - side) / 2;
+    const int above = (height() - top - bottom - side) / 2;
+    setPlotMargins(
+        {left + aside, top + above, width() - left - aside - side, height() - top - above - side});
 }
 
 QPen SightPicture::pen(const QColor& colour, double widths, Qt::PenStyle style) const
@@ -104,9 +98,9 @@ void SightPicture::paint(QPainter& painter) const
     painter.setFont(font());
     paintGrid(painter);
     if (!m_plot.middle) return;
+    paintScale(painter);
     painter.save();
     painter.setClipRect(plotArea());
-    paintScale(painter);
     for (const PlotLine& line : m_plot.lines)
         paintLine(painter, line);
     paintDR(painter);
@@ -139,16 +133,16 @@ void SightPicture::paintGrid(QPainter& painter) const
     painter.drawRect(area);
 }
 
-/// North arrow and ten miles.
+/// North arrow, on the margin, and ten miles.
 void SightPicture::paintScale(QPainter& painter) const
 {
     painter.setPen(pen(m_colours.ink, 1));
-    const QPointF north = pixel({half, half}) + QPointF(-3 * unit(), 2 * unit());
+    const QPointF north = plotArea().topRight() + QPointF(3 * unit(), 0);
     const QPointF foot = north + QPointF(0, 7 * unit());
     painter.drawLine(foot, north);
     painter.drawLine(north, north + QPointF(-unit(), 2 * unit()));
     painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
-    paintText(painter, foot + QPointF(-unit(), 4 * unit()), "N");
+    painter.drawText(foot + QPointF(-unit(), 3 * unit()), "N");
 
     const QPointF end = pixel({half, -half}) + QPointF(-2 * unit(), -2 * unit());
     const QPointF start = end - QPointF(pixel({10, 0}).x() - pixel({0, 0}).x(), 0);

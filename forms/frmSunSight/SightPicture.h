@@ -21,9 +21,6 @@ public:
     const SightPlot& plot() const { return m_plot; }
     void setColours(const ColourScheme& colours);
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-
 protected:
     void resizeEvent(QResizeEvent* event) override;
 

@@ -46,7 +46,7 @@ frmSunSight::frmSunSight(Program& program) : CalculatorWindow(program, "frmSunSi
     layOut();
     addMenus();
     addCalculations();
-    m_txtSunSight[TDBox]->setText(text(Format(program.saved().TD(), "0.0##")));
+    m_txtSunSight[TDBox]->setText(text(Format(program.saved().TD(), "0.##")));
     useSettings(
         "KV_SunSight.ini", sightKinds(),
         [this] {

@@ -52,6 +52,7 @@ private:
     QWidget* layOutPlot();
     QGroupBox* layOutSights();
     QGroupBox* layOutFix();
+    QGroupBox* layOutQuality();
 
     SightTexts sightTexts() const;
     TrackTexts trackTexts() const;

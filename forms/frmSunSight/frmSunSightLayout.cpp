@@ -43,7 +43,7 @@ constexpr std::array<BoxRow, 3> runRows = {{
     {"Speed", "kn made good", "Speed made good, knots"},
 }};
 constexpr std::array<BoxRow, 3> sigmaRows = {{
-    {"Sigma of a line", "nm", "Standard deviation of one line, nautical miles"},
+    {"Sigma", "nm", "Standard deviation of one line, nautical miles"},
     {"Run", "%", "Error of the run, per cent of the distance"},
     {"Course", "°", "Error of the course made good, degrees"},
 }};
@@ -79,17 +79,22 @@ QGridLayout* gridOf(QGroupBox* group)
     return grid;
 }
 
-void wrap(ResultLabel* label)
+/// Sentences, not figures, are read in the size of captions. Their room is fixed, so that nothing
+/// moves while the officer types.
+void makeSentence(ResultLabel* label, int lines)
 {
-    // Sentences, not figures: they are read in the size of captions, on as many lines as they need.
     label->setFont(QFont());
     label->setWordWrap(true);
-    label->setMinimumWidth(0);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    label->setFixedHeight(lines * label->fontMetrics().lineSpacing());
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
+/// Room for a result that is still to come.
 void setRoom(ResultLabel* label, const char* sample)
 {
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(sample));
+    const QFontMetrics metrics = label->fontMetrics();
+    label->setMinimumSize(metrics.horizontalAdvance(sample), metrics.height());
 }
 
 } // namespace
@@ -148,15 +153,18 @@ void frmSunSight::addResults()
     m_lblSunFix = addLabels<5>("lblSunFix");
     m_lblSunCursor = addLabels<2>("lblSunCursor");
     for (ResultLabel* label : m_lblSunTime)
-        setRoom(label, "0000/00/00 00:00:00 UTC");
-    for (ResultLabel* label : m_lblSunTime)
-        wrap(label);
-    for (std::size_t i : {0U, 1U, 3U})
-        wrap(m_lblSunNoon[i]);
-    for (std::size_t i : {2U, 3U, 4U})
-        wrap(m_lblSunFix[i]);
-    setRoom(m_lblSunLine[2], "00-.00'0N 000-.00'0W");
-    m_lblSunFix[0]->setMinimumHeight(m_lblSunFix[0]->fontMetrics().height());
+        makeSentence(label, 1);
+    makeSentence(m_lblSunNoon[0], 1);
+    makeSentence(m_lblSunNoon[1], 1);
+    makeSentence(m_lblSunNoon[3], 2);
+    makeSentence(m_lblSunFix[2], 1);
+    makeSentence(m_lblSunFix[3], 2);
+    makeSentence(m_lblSunFix[4], 3);
+    for (ResultLabel* label : m_lblSunLine)
+        setRoom(label, "00-.00'0N 000-.00'0W");
+    setRoom(m_lblSunNoon[2], "00-.00'0N");
+    setRoom(m_lblSunFix[0], "00-.00'0N ");
+    setRoom(m_lblSunFix[1], "000-.00'0W");
 }
 
 QPushButton* frmSunSight::addButton(const QString& name, const QString& caption, const QString& tip,
@@ -175,7 +183,13 @@ void frmSunSight::addList()
     m_lstSunSight = new QListWidget(body());
     m_lstSunSight->setObjectName("lstSunSight");
     m_lstSunSight->setAccessibleName("Recorded sights; the space bar switches one on and off");
-    m_lstSunSight->setMinimumHeight(m_lstSunSight->fontMetrics().height() * 5);
+    m_lstSunSight->setToolTip("The space bar switches the chosen sight on and off");
+    // What height there is goes to the plot and the list; neither asks for any.
+    m_lstSunSight->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    const QFontMetrics metrics = m_lstSunSight->fontMetrics();
+    m_lstSunSight->setMinimumHeight(metrics.height() * 5);
+    m_lstSunSight->setMinimumWidth(
+        metrics.horizontalAdvance("[] 0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0 []"));
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         m_list.setOn(static_cast<std::size_t>(m_lstSunSight->row(item)),
                      item->checkState() == Qt::Checked);
@@ -232,7 +246,7 @@ void frmSunSight::layOut()
         columns->addLayout(made, stretch);
         return made;
     };
-    column({layOutSight(), layOutTrack()}, 0)->addStretch(1);
+    column({layOutSight(), layOutTrack(), layOutQuality()}, 0)->addStretch(1);
     column({layOutWorksheet(), layOutLine(), layOutNoon()}, 0)->addStretch(1);
     auto* right = column({layOutPlot(), layOutSights(), layOutFix()}, 1);
     right->setStretch(0, 3);
@@ -299,14 +313,13 @@ QGroupBox* frmSunSight::layOutWorksheet()
 {
     auto* group = new QGroupBox("Worksheet");
     auto* grid = gridOf(group);
-    const char* const captions[] = {"UTC", "SMT", "Watch error"};
-    for (std::size_t i = 0; i < 3; ++i) {
-        grid->addWidget(new QLabel(captions[i]), static_cast<int>(i), 0);
-        grid->addWidget(m_lblSunTime[i], static_cast<int>(i), 1);
-    }
-    for (std::size_t i = 0; i < worksheetLines; ++i) {
-        grid->addWidget(m_lblSunTerm[i], static_cast<int>(i) + 3, 0);
-        grid->addWidget(m_lblSunValue[i], static_cast<int>(i) + 3, 1);
+    grid->setVerticalSpacing(0);
+    int row = 0;
+    for (ResultLabel* label : m_lblSunTime)
+        grid->addWidget(label, row++, 0, 1, 2);
+    for (std::size_t i = 0; i < worksheetLines; ++i, ++row) {
+        grid->addWidget(m_lblSunTerm[i], row, 0);
+        grid->addWidget(m_lblSunValue[i], row, 1);
     }
     grid->setColumnMinimumWidth(0,
                                 fontMetrics().horizontalAdvance("Upper limb: less the diameter"));
@@ -317,18 +330,12 @@ QGroupBox* frmSunSight::layOutLine()
 {
     auto* group = new QGroupBox("Line of position");
     auto* grid = gridOf(group);
-    struct ResultRow {
-        const char* caption;
-        const char* unit;
-    };
-    constexpr ResultRow rows[] = {{"Declination", "south -"},
-                                  {"Greenwich hour angle", ""},
-                                  {"DR at the sight", ""},
-                                  {"Computed altitude Hc", ""},
-                                  {"Intercept", "nm, T(owards) or A(way)"},
-                                  {"Azimuth Zn", "degrees true"}};
+    const char* const captions[] = {"Declination (south -)", "Greenwich hour angle",
+                                    "DR at the sight",       "Computed altitude Hc",
+                                    "Intercept, nm",         "Azimuth Zn, true"};
     for (std::size_t i = 0; i < m_lblSunLine.size(); ++i)
-        addResultRow(grid, static_cast<int>(i), rows[i].caption, m_lblSunLine[i], rows[i].unit);
+        addResultRow(grid, static_cast<int>(i), captions[i], m_lblSunLine[i], {});
+    m_lblSunLine[4]->setToolTip("T: towards the Sun, A: away");
     return group;
 }
 
@@ -336,11 +343,12 @@ QGroupBox* frmSunSight::layOutNoon()
 {
     auto* group = new QGroupBox("Meridian passage");
     auto* grid = gridOf(group);
-    const char* const captions[] = {"Local apparent noon", "", "Latitude by the sight", ""};
-    for (std::size_t i = 0; i < m_lblSunNoon.size(); ++i) {
-        grid->addWidget(new QLabel(captions[i]), static_cast<int>(i), 0, Qt::AlignTop);
-        grid->addWidget(m_lblSunNoon[i], static_cast<int>(i), 1);
-    }
+    grid->addWidget(new QLabel("Local apparent noon"), 0, 0);
+    grid->addWidget(m_lblSunNoon[1], 0, 1);
+    grid->addWidget(m_lblSunNoon[0], 1, 0, 1, 2);
+    grid->addWidget(new QLabel("Latitude by the sight"), 2, 0);
+    grid->addWidget(m_lblSunNoon[2], 2, 1);
+    grid->addWidget(m_lblSunNoon[3], 3, 0, 1, 2);
     grid->setColumnStretch(1, 1);
     return group;
 }
@@ -366,15 +374,14 @@ QGroupBox* frmSunSight::layOutSights()
 {
     auto* group = new QGroupBox("Recorded sights");
     auto* grid = gridOf(group);
-    grid->addWidget(m_lstSunSight, 0, 0, 3, 1);
+    grid->addWidget(m_lstSunSight, 0, 0, 1, 3);
     grid->addWidget(addButton("cmdEdit", "&Edit", "The chosen sight back into the boxes",
                               &frmSunSight::cmdEdit_Click),
-                    0, 1);
+                    1, 1);
     grid->addWidget(addButton("cmdDelete", "&Delete", "Deletes the chosen sight, after a question",
                               &frmSunSight::cmdDelete_Click),
-                    1, 1);
+                    1, 2);
     grid->setColumnStretch(0, 1);
-    grid->setRowStretch(2, 1);
     return group;
 }
 
@@ -389,19 +396,27 @@ QGroupBox* frmSunSight::layOutFix()
     grid->addLayout(position, 0, 0);
     for (std::size_t i = 2; i < m_lblSunFix.size(); ++i)
         grid->addWidget(m_lblSunFix[i], static_cast<int>(i), 0);
-    auto* quality = new QHBoxLayout;
+    return group;
+}
+
+QGroupBox* frmSunSight::layOutQuality()
+{
+    auto* group = new QGroupBox("How good the lines are");
+    auto* grid = gridOf(group);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(fontMetrics().averageCharWidth() / 2);
     for (std::size_t i = 0; i < sigmaRows.size(); ++i) {
         auto* caption = new QLabel(sigmaRows[i].caption);
         caption->setBuddy(m_txtSunSigma[i]);
         m_txtSunSigma[i]->setMaximumWidth(
             m_txtSunSigma[i]->fontMetrics().horizontalAdvance("00.000"));
-        quality->addWidget(caption);
-        quality->addWidget(m_txtSunSigma[i]);
-        quality->addWidget(new QLabel(sigmaRows[i].unit));
+        line->addWidget(caption);
+        line->addWidget(m_txtSunSigma[i]);
+        line->addWidget(new QLabel(sigmaRows[i].unit));
+        line->addStretch(1);
     }
-    quality->addStretch(1);
-    grid->addLayout(quality, 5, 0);
-    grid->addWidget(m_chkSunMeasured, 6, 0);
+    grid->addLayout(line, 0, 0);
+    grid->addWidget(m_chkSunMeasured, 1, 0);
     return group;
 }
 
