@@ -28,7 +28,7 @@ void SunAndMoonByTheLibrary(benchmark::State& state)
         instant += step;
     }
 }
-BENCHMARK(SunAndMoonByTheLibrary);
+BENCHMARK(SunAndMoonByTheLibrary)->Name("ours/sun_and_moon");
 
 void SunAndMoonByErfa(benchmark::State& state)
 {
@@ -44,7 +44,7 @@ void SunAndMoonByErfa(benchmark::State& state)
         instant += step;
     }
 }
-BENCHMARK(SunAndMoonByErfa);
+BENCHMARK(SunAndMoonByErfa)->Name("peer/sun_and_moon");
 
 struct Place {
     double TD, latitude, longitude;
@@ -74,7 +74,7 @@ void SixteenPlacesByTheLibrary(benchmark::State& state)
         date += 1;
     }
 }
-BENCHMARK(SixteenPlacesByTheLibrary);
+BENCHMARK(SixteenPlacesByTheLibrary)->Name("ours/sixteen_places");
 
 void SixteenPlacesByLibnova(benchmark::State& state)
 {
@@ -92,7 +92,7 @@ void SixteenPlacesByLibnova(benchmark::State& state)
         date += 1;
     }
 }
-BENCHMARK(SixteenPlacesByLibnova);
+BENCHMARK(SixteenPlacesByLibnova)->Name("peer/sixteen_places");
 
 } // namespace
 
