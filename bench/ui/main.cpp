@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "bench/ui/main.h"
 
+#include "bench/ui/Keystroke.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -9,6 +11,16 @@
 
 namespace korvel::bench
 {
+
+Work bareTextBox(const char* text)
+{
+    return [text](const Rounds& round) {
+        BareWindow window;
+        window.box.setText(text);
+        prepare(window, window.box);
+        round([&] { digitAndBack(window.box); });
+    };
+}
 
 int runUiBench(int argc, char* argv[], const std::vector<std::pair<std::string, Work>>& works)
 {
