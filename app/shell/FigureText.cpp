@@ -49,6 +49,8 @@ void FigureText::draw(QPainter& painter, const QRectF& room, Qt::Alignment align
     }
     QList<quint32> indexes;
     QList<QPointF> places;
+    indexes.reserve(text.size());
+    places.reserve(text.size());
     double wide = 0;
     for (const QChar each : text) {
         const Glyph glyph = glyphOf(each);

@@ -2,6 +2,7 @@
 #include "app/shell/PictureBox.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 
 namespace korvel
 {
@@ -12,10 +13,15 @@ PictureBox::PictureBox(QWidget* parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void PictureBox::setUserScale(const UserScale& scale)
+void PictureBox::setUserScale(const UserScale& scale, const QRect& changing)
 {
     m_scale = scale;
-    update();
+    update(changing);
+}
+
+bool PictureBox::isToBeDrawn(const QRectF& part) const
+{
+    return m_drawnSize.isValid() || m_painted.intersects(part.toAlignedRect());
 }
 
 void PictureBox::setPlotMargins(const QMargins& margins)
@@ -53,8 +59,9 @@ void PictureBox::drawOn(QPainter& painter, const QSize& size)
     m_drawnSize = QSize();
 }
 
-void PictureBox::paintEvent(QPaintEvent*)
+void PictureBox::paintEvent(QPaintEvent* event)
 {
+    m_painted = event->region();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (draw) draw(painter);

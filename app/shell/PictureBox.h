@@ -20,7 +20,9 @@ class PictureBox : public QWidget
 public:
     explicit PictureBox(QWidget* parent = nullptr);
 
-    void setUserScale(const UserScale& scale);
+    void setUserScale(const UserScale& scale) { setUserScale(scale, rect()); }
+    /// The same when only a part of the picture changes with it.
+    void setUserScale(const UserScale& scale, const QRect& changing);
     const UserScale& userScale() const { return m_scale; }
 
     /// Room in pixels around the area that the user scale covers, for labels.
@@ -32,6 +34,9 @@ public:
 
     /// Draws the picture; called with a painter in pixels, antialiasing on.
     std::function<void(QPainter&)> draw;
+
+    /// False while a paint leaves this part as it is; for parts that cost more to draw than to ask.
+    bool isToBeDrawn(const QRectF& part) const;
 
     /// Draws the picture at another size, for printing.
     void drawOn(QPainter& painter, const QSize& size);
@@ -53,6 +58,7 @@ protected:
 private:
     UserScale m_scale;
     QMargins m_margins;
+    QRegion m_painted; ///< the part that is being painted
     QSize m_drawnSize; ///< set while the picture is drawn at another size than the widget's
 };
 

@@ -4,6 +4,7 @@
 #include "app/shell/Legend.h"
 
 #include <QLineF>
+#include <QtMath>
 
 #include <cmath>
 
@@ -31,7 +32,8 @@ GCPicture::GCPicture(Program& program) : m_program(program), m_unit(QFontMetrics
     setAccessibleName("Chart of the great circle and the rhumb line");
     const QFontMetrics metrics = fontMetrics();
     const int gap = metrics.height() / 2;
-    setPlotMargins({metrics.horizontalAdvance("00°N") + gap, metrics.height() + gap,
+    // Above the chart the legend, and below it half the height of the topmost label.
+    setPlotMargins({metrics.horizontalAdvance("00°N") + gap, 2 * metrics.height(),
                     metrics.horizontalAdvance("000°W") / 2, metrics.height() + gap});
     // The legend in one line, and a chart that still shows a curve.
     const int legend =
@@ -42,8 +44,11 @@ GCPicture::GCPicture(Program& program) : m_program(program), m_unit(QFontMetrics
 
 void GCPicture::setChart(GCChart chart)
 {
+    // The legend stays while the route changes with every key.
+    const bool sameLegend = m_chart.route.empty() == chart.route.empty();
     m_chart = std::move(chart);
-    setUserScale(m_chart.scale);
+    setUserScale(m_chart.scale,
+                 rect().adjusted(0, sameLegend ? qCeil(legendStrip().bottom()) : 0, 0, 0));
 }
 
 void GCPicture::paint(QPainter& painter) const
@@ -58,12 +63,17 @@ void GCPicture::paint(QPainter& painter) const
         drawNumbers(painter);
         painter.restore();
         drawEdges(painter);
-        drawLegend(painter);
+        if (isToBeDrawn(legendStrip())) drawLegend(painter);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(pen(colours().ink, thin));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(plotArea());
+}
+
+QRectF GCPicture::legendStrip() const
+{
+    return {0, plotArea().top() / 2 - m_unit / 2, double(width()), m_unit};
 }
 
 QPen GCPicture::pen(const QColor& colour, double width) const

@@ -30,6 +30,7 @@ private:
 
     enum class Mark { Departure, Waypoint, Arrival };
     void drawMark(QPainter& painter, QPointF at, Mark mark) const;
+    QRectF legendStrip() const;
     QPen pen(const QColor& colour, double width) const;
     QPen rhumbPen() const;
     QPointF pixel(const ChartPoint& point) const { return toPixel(point.longitude, point.lat); }

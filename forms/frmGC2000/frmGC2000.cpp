@@ -4,6 +4,7 @@
 #include "app/shell/FollowingScrollArea.h"
 #include "forms/frmGC2000/DrawWPs.h"
 #include "forms/frmGC2000/GCPicture.h"
+#include "navlib/arithmetic_error.h"
 
 #include <QAction>
 #include <QGridLayout>
@@ -290,9 +291,13 @@ std::vector<QLabel*> frmGC2000::allResults() const
 
 void frmGC2000::runGC()
 {
-    m_result = {};
-    m_picGC->setChart({}); // also when the library stops the calculation
-    m_result = CalculateGC({texts<0, 4>(m_txtGC), program().spheroid()});
+    try {
+        m_result = CalculateGC({texts<0, 4>(m_txtGC), program().spheroid()});
+    } catch (const NavFunc113::ArithmeticError&) {
+        m_result = {};
+        m_picGC->setChart({});
+        throw; // the window base blanks the labels and says so
+    }
 
     for (std::size_t row = 0; row < m_result.rows.size(); ++row)
         showRow(row);
