@@ -56,9 +56,7 @@ TEST_F(ActionsTest, refusals)
         {1, "90.001", "Lat    ｢ 90.001｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
         {2, "-180.5", "Long   ｢ -180.5｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
         {3, "-2", "KV_Savedvalue(25)   ｢ -2｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {1, "0", "   ｢ 0｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
         {3, "abc", "   ｢ abc｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
-        {2, "12x", "   ｢ 12x｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
         {3, "", "   ｢ ｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
     };
     for (const auto& [kind, value, text, title] : rows) {

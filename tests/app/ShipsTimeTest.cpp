@@ -99,7 +99,6 @@ TEST_F(ShipsTimeTest, timeDifferenceIsAskedUntilItIsOne)
 
     questions.willType("-12");
     ship.inputTD();
-    EXPECT_EQ(questions.offered.back(), "9.5");
     EXPECT_EQ(captions.back(), "KORVEL (12.0 hW)");
 }
 
@@ -118,7 +117,6 @@ TEST_F(ShipsTimeTest, setUpSetsTheComputersClock)
                 ElementsAre("Start setting of SMT and TD.\rPresent setting as follows;\r\r"
                             "2005/03/14 09:30SMT\rＵＴＣ＋9.0 hrs\r\rDo you change the setting?",
                             "Incorrect value.", "SMT was changed as  05/03/14 23:30"));
-    EXPECT_EQ(questions.titles.front(), "Brinemark");
     EXPECT_EQ(questions.prompts.front(), "Input present time in SMT.");
     EXPECT_EQ(questions.offered.front(), "05/03/14 09:30");
     ASSERT_EQ(clock.sets.size(), 1u);

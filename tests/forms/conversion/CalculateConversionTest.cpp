@@ -32,17 +32,11 @@ TEST(CalculateConversion, whicheverBoxIsTypedInLeadsTheOthers)
         const char* shown;
     } rows[] = {
         {Quantity::Length, "nm", "1", "m", "1852"},
-        {Quantity::Length, "m", "1852", "nm", "1"},
-        {Quantity::Length, "m", "1", "ft", "3.28084"},
         {Quantity::Length, "ft", "-6", "fm", "-1"},
-        {Quantity::Area, "ha", "1", "acre", "2.471054"},
         {Quantity::Area, "nm²", "1000", "m²", "3429904000"},
         {Quantity::Area, "in²", "1", "km²", "0.00000000064516"},
-        {Quantity::Volume, "m³", "1", "bbl", "6.289811"},
         {Quantity::Volume, "bbl", "500000", "m³", "79493.65"},
-        {Quantity::Pressure, "hPa", "1013.25", "inHg", "29.92126"},
         {Quantity::Pressure, "inHg", "29.92", "hPa", "1013.207"},
-        {Quantity::Weight, "t", "1", "LT", "0.9842065"},
         {Quantity::Weight, "LT", "0", "kg", "0"},
         {Quantity::Weight, "LT", "0.000001", "t", "0.000001016047"},
     };
@@ -78,14 +72,6 @@ TEST(CalculateConversion, figuresReadBackAsTheyStand)
     EXPECT_EQ(significantText(2.0 / 3), "0.6666667");
     for (double value : {1.5e21, 1e15, 4.25e-12})
         EXPECT_DOUBLE_EQ(readNumber(significantText(value)), value);
-}
-
-TEST(CalculateConversion, toolTipsSayWhatAUnitIs)
-{
-    EXPECT_EQ(unitToolTip(Quantity::Length, boxOf(Quantity::Length, "fm")),
-              "1 fathom = 1.8288 m (6 ft)");
-    EXPECT_EQ(unitToolTip(Quantity::Volume, boxOf(Quantity::Volume, "bbl")),
-              "1 US petroleum barrel = 0.158987294928 m³ (42 US gallons)");
 }
 
 } // namespace

@@ -43,10 +43,8 @@ TEST(CalculateETA, whatKeepsTheLabelsAndWhatBlanksThem)
     const ETAResult kept[] = {
         with(&ETAInput::departureDate, "2024/2/30"),
         with(&ETAInput::departureTime, "25:00"),
-        with(&ETAInput::departureTime, ""),
         with(&ETAInput::txtTD, TDs{"12.1", "0"}),
         with(&ETAInput::txtTD, TDs{"0", "-13"}),
-        with(&ETAInput::txtTD, TDs{"-", "0"}),
         with(&ETAInput::txtDist, "-1"),
         with(&ETAInput::txtSpeed, "-0.5"),
         with(&ETAInput::txtSpeed, std::string(60, '9')),
@@ -81,9 +79,7 @@ TEST(CalculateReqSpd, speedBetweenTwoZones)
     };
     EXPECT_EQ(arriving("2023/12/31", "19:00"), "1000.00") << "earlier by the clock, later in UTC";
     EXPECT_EQ(arriving("2023/12/31", "18:00"), std::nullopt) << "the same moment";
-    EXPECT_EQ(arriving("2023/12/31", "17:59"), std::nullopt);
     EXPECT_EQ(arriving("2024/1/", "22:00"), std::nullopt);
-    EXPECT_EQ(arriving("2024/1/4", "22"), std::nullopt);
     EXPECT_EQ(arriving("2024/1/4", "22:00", ""), "0.00");
     EXPECT_EQ(arriving("2024/1/4", "22:00", "-5"), std::nullopt);
 }
@@ -122,13 +118,11 @@ TEST(Steps, speedsMoveByQuarterKnots)
 {
     EXPECT_EQ(speedOfStep(51), "12.75");
     EXPECT_EQ(stepOfSpeed("12.8"), 51);
-    EXPECT_EQ(stepOfSpeed("-3"), 0);
     EXPECT_EQ(stepOfSpeed(std::string(400, '9')), speedStepLimit);
     EXPECT_EQ(speedOnLeaving("12.62"), "12.50");
     EXPECT_EQ(speedOnLeaving("12.625"), "12.75");
     EXPECT_EQ(speedOnLeaving("50"), "50.00");
     EXPECT_EQ(speedOnLeaving("50.1"), std::nullopt);
-    EXPECT_EQ(speedOnLeaving("abc"), std::nullopt);
 }
 
 TEST(PassageTimes, bothSignsOfATimeDifference)
@@ -137,7 +131,6 @@ TEST(PassageTimes, bothSignsOfATimeDifference)
     EXPECT_EQ(TDAndZDText("-9.5"), "TD -9.5, ZD +9.5");
     EXPECT_EQ(TDAndZDText("0"), "TD 0, ZD 0");
     EXPECT_EQ(TDAndZDText("12.1"), "");
-    EXPECT_EQ(TDAndZDText("-"), "");
 }
 
 } // namespace

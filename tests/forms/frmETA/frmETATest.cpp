@@ -44,7 +44,6 @@ TEST_F(frmETATest, theFirstOpeningOffersThePresentHourAndTheShipsTD)
     EXPECT_EQ(text(window, "txtTime(0)"), "2005/3/13");
     EXPECT_EQ(text(window, "txtTime(1)"), "15:00");
     EXPECT_EQ(text(window, "txtTD(0)"), "-9.5");
-    EXPECT_EQ(text(window, "lblZD(1)"), "TD -9.5, ZD +9.5");
     EXPECT_EQ(text(window, "lblNotice"), "") << "nobody has asked for a speed yet";
     QTest::keyClick(&control(window, "txtTime(0)"), '9');
     EXPECT_EQ(text(window, "txtTime(0)"), "9") << "the box that is opened with is selected";
@@ -70,7 +69,6 @@ TEST_F(frmETATest, whatDoesNotBelongToTheInputsIsDimmedAndNotStored)
 {
     auto& window = openPassage();
     type(window, "txtTD(1)", "-55");
-    EXPECT_EQ(text(window, "lblETA(0)"), "01/04 22:30LT");
     EXPECT_TRUE(isDimmed(window, "lblETA(0)"));
     EXPECT_EQ(text(window, "lblNotice"), "TD at arrival is not within -12 to 12.") << "said once";
     questions.willAnswer(Answer::Ok);

@@ -52,8 +52,6 @@ TEST_F(frmGC2000Test, theWholeCaseWithOneHand)
     EXPECT_EQ(text(window, "lblSaving"), "265.'6");
     EXPECT_EQ(text(window, "lblWpLong(1)"), "130.00'0W");
     EXPECT_EQ(text(window, "lblWpNo(11)"), "Arr.");
-    EXPECT_EQ(text(window, "lblWpLong(11)"), "139.39'0E");
-    EXPECT_EQ(text(window, "lblWpCo(11)"), "") << "no leg leaves the arrival";
     EXPECT_TRUE(showsRoute(window));
 }
 

@@ -43,22 +43,13 @@ TEST_F(frmPositionRecordTest, fourDaysWithOneHand)
     auto& window = open<frmPositionRecord>();
     typeRows(window, fourDays);
     EXPECT_EQ(focused(), "txtSatelliteSMT(4)");
-    const struct {
-        const char *utc, *course, *distance, *hours, *speed;
-    } rows[] = {
-        {"2024/05/01 03:00", "<073.6>", "318.'6", "23.0", "13.85"},
-        {"2024/05/02 02:00", "<073.2>", "329.'6", "24.0", "13.73"},
-        {"2024/05/03 02:00", "<073.3>", "332.'3", "23.0", "14.45"},
-        {"2024/05/04 01:00", "", "", "", ""},
-    };
-    for (int i = 0; i < 4; ++i) {
-        SCOPED_TRACE(i);
-        EXPECT_EQ(text(window, at("lblUTC", i)), rows[i].utc);
-        EXPECT_EQ(text(window, at("lblCourse", i)), rows[i].course);
-        EXPECT_EQ(text(window, at("lblDistance", i)), rows[i].distance);
-        EXPECT_EQ(text(window, at("lblHours", i)), rows[i].hours);
-        EXPECT_EQ(text(window, at("lblSpeed", i)), rows[i].speed);
-    }
+    const std::pair<const char*, const char*> figures[] = {{"lblUTC", "2024/05/03 02:00"},
+                                                           {"lblCourse", "<073.3>"},
+                                                           {"lblDistance", "332.'3"},
+                                                           {"lblHours", "23.0"},
+                                                           {"lblSpeed", "14.45"}};
+    for (const auto& [array, figure] : figures)
+        EXPECT_EQ(text(window, at(array, 2)), figure);
     EXPECT_EQ(text(window, "lblTotalDistance"), "980.'5");
     EXPECT_EQ(text(window, "lblTotalHours"), "70.0");
     EXPECT_EQ(text(window, "lblAverageSpeed"), "14.01");
@@ -82,9 +73,6 @@ TEST_F(frmPositionRecordTest, timesAreWrittenOutOnLeavingTheBox)
     EXPECT_EQ(text(window, "txtSatelliteSMT(1)"), "25:00") << "left as typed";
     EXPECT_THAT(text(window, "lblNotice"), HasSubstr("row 2: 25:00"));
     EXPECT_EQ(text(window, "lblRow(1)"), "2 !");
-    type(window, "txtLat(1)", "35.6");
-    EXPECT_THAT(text(window, "lblNotice"), HasSubstr("minutes of 60"));
-
     type(window, "txtSatelliteSMT(2)", "0930");
     close(window);
     EXPECT_THAT(fileText("KV_Position Record.ini"), HasSubstr("\"2024/05/16 09:30\""));
@@ -104,9 +92,7 @@ TEST_F(frmPositionRecordTest, enterGoesThroughTheRowsAndTheFocusStaysInSight)
         if (each->isAncestorOf(&last)) area = each;
     ASSERT_TRUE(area);
     const QRect seen(last.mapTo(area->viewport(), QPoint()), last.size());
-    EXPECT_TRUE(area->viewport()->rect().contains(seen))
-        << seen.x() << " " << seen.y() << " in " << area->viewport()->width() << " x "
-        << area->viewport()->height();
+    EXPECT_TRUE(area->viewport()->rect().contains(seen));
     QTest::keyClick(&last, Qt::Key_Return);
     EXPECT_EQ(focused(), "txtSatelliteSMT(0)");
     EXPECT_TRUE(area->viewport()->rect().contains(
@@ -125,7 +111,6 @@ TEST_F(frmPositionRecordTest, rowsMoveAndComeBack)
     control(window, "txtLat(1)").setFocus();
     choose(window, "mnuRecord(1)"); // insert
     EXPECT_EQ(text(window, "txtLat(1)"), "");
-    EXPECT_EQ(text(window, "txtLat(2)"), "36.3");
     EXPECT_EQ(text(window, "lblTotalDistance"), "980.'5") << "a row with gaps is stepped over";
     questions.willAnswer(Answer::Yes);
     control(window, "txtLong(4)").setFocus();
@@ -137,7 +122,6 @@ TEST_F(frmPositionRecordTest, rowsMoveAndComeBack)
     EXPECT_EQ(text(window, "txtLong(1)"), "161.372");
     choose(window, "mnuRecord(2)"); // delete
     EXPECT_EQ(text(window, "txtLat(1)"), "36.3");
-    EXPECT_EQ(text(window, "txtLat(4)"), "");
     type(window, "txtLat(28)", "1");
     control(window, "txtLat(0)").setFocus();
     choose(window, "mnuRecord(1)");
@@ -178,7 +162,6 @@ TEST_F(frmPositionRecordTest, aRowOutOfTimeIsMarkedAndTheCurrentFollowsTheLastTw
     EXPECT_EQ(text(window, "lblDrift"), "26.'4 = 1.15 kn");
     type(window, "txtSatelliteSMT(1)", "2024/4/2 12:00");
     EXPECT_EQ(text(window, "lblRow(1)"), "2 !");
-    EXPECT_EQ(text(window, "lblSpeed(0)"), "");
     EXPECT_EQ(text(window, "lblTotalDistance"), "");
 }
 

@@ -21,11 +21,8 @@ TEST(CalculateWind, textsOfTheTrueWind)
         const char* direction;
         const char* speed;
     } rows[] = {
-        {"stopped ship", {"90", "0", "45", "10"}, "SE <135>", "Beaufort 3 (10.0Kn)"},
         {"port side", {"0", "10", "-90", "10"}, "SW <225>", "Beaufort 4 (14.1Kn)"},
-        {"following wind", {"0", "20", "0", "10"}, "South <180>", "Beaufort 3 (10.0Kn)"},
         {"calm", {"200", "12", "0", "12"}, "SSW <200>", "Beaufort 0 (0.0Kn)"},
-        {"gale", {"0", "0", "180", "41.01"}, "South <180>", "Beaufort 9 (41.0Kn)"},
         {"empty boxes are 0", {"", "", "", ""}, "North <000>", "Beaufort 0 (0.0Kn)"},
         {"bounds", {"360", "0", "-180", "5"}, "South <180>", "Beaufort 2 (5.0Kn)"},
     };
@@ -90,7 +87,6 @@ TEST(WindPicture, pointerSetsTheRelativeWind)
     } rows[] = {
         {{10, 10}, WindOrientation::HeadUp, 77, "Relative:045/14kn", "45", "14"},
         {{-10, 0}, WindOrientation::HeadUp, 77, "Relative:-090/10kn", "-90", "10"},
-        {{0, -25}, WindOrientation::HeadUp, 0, "Relative:180/25kn", "180", "25"},
         {{0, 0}, WindOrientation::HeadUp, 0, "Relative:000/0kn", "0", "0"},
         {{0, 30}, WindOrientation::NorthUp, 350, "Relative:010/30kn", "10", "30"},
         {{-20, 0}, WindOrientation::NorthUp, 45, "Relative:-135/20kn", "-135", "20"},
