@@ -115,6 +115,14 @@ TEST(SettingsFile, aFailedSaveMayBeTriedAgainOrLeft)
     EXPECT_EQ(files.files["KV_X.ini"], "2\r\n");
 }
 
+TEST(SavedValues, aNewInstallation)
+{
+    EXPECT_EQ(
+        writeRecord(KV_Savedvalue().record()),
+        "#TRUE#\r\n\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n"
+        "\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\r\n\r\n\r\n1\r\n0\r\n0\r\n0\r\n9\r\n");
+}
+
 TEST(SavedValues, bringWhatTheyReadIntoOrder)
 {
     KV_Savedvalue saved;
