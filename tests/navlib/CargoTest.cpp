@@ -36,10 +36,7 @@ TEST(Cargo, tableOf54A)
         std::array<double, 8> factor; // -10 to 60 degC
     } rows[] = {
         {780, {1.02503, 1.01507, 1.00504, 0.99495, 0.98480, 0.97459, 0.96433, 0.95403}},
-        {820, {1.02266, 1.01364, 1.00456, 0.99543, 0.98625, 0.97702, 0.96776, 0.95845}},
-        {850, {1.02110, 1.01270, 1.00424, 0.99575, 0.98721, 0.97863, 0.97001, 0.96136}},
         {870, {1.02015, 1.01212, 1.00405, 0.99594, 0.98779, 0.97960, 0.97138, 0.96313}},
-        {900, {1.01884, 1.01133, 1.00379, 0.99621, 0.98859, 0.98095, 0.97327, 0.96557}},
         {950, {1.01692, 1.01017, 1.00340, 0.99660, 0.98976, 0.98291, 0.97603, 0.96912}},
     };
     for (const auto& row : rows)
@@ -58,9 +55,7 @@ TEST(Cargo, tableOf6A)
         std::array<double, 6> factor;
     } rows[] = {
         {20, 933.07, {1.02333, 1.00782, 0.99215, 0.98426, 0.97634, 0.96838}},
-        {30, 875.30, {1.02649, 1.00888, 0.99107, 0.98210, 0.97309, 0.96403}},
         {35, 849.01, {1.02814, 1.00944, 0.99051, 0.98097, 0.97138, 0.96175}},
-        {40, 824.26, {1.02983, 1.01001, 0.98993, 0.97980, 0.96962, 0.95939}},
         {45, 800.91, {1.03158, 1.01060, 0.98933, 0.97860, 0.96781, 0.95697}},
     };
     for (const auto& row : rows) {
@@ -91,23 +86,19 @@ TEST(Cargo, gravityAndDensityAtTheirOwnTemperatures)
     const struct {
         KilogramsPerCubicMetre density15;
         APIGravity api;
-    } fromDensity[] = {{750, 57.09}, {800, 45.29}, {850, 34.88}, {870, 31.06},
-                       {900, 25.63}, {950, 17.36}, {1000, 9.91}};
+    } fromDensity[] = {{750, 57.09}, {870, 31.06}, {1000, 9.91}};
     for (const auto& row : fromDensity)
         EXPECT_NEAR(APIFromDensity15(row.density15), row.api, 0.005) << row.density15;
 
     const struct {
         APIGravity api;
         KilogramsPerCubicMetre density15;
-    } fromGravity[] = {{20, 933.436}, {30, 875.685}, {32.8, 860.775},
-                       {35, 849.412}, {40, 824.671}, {45, 801.333}};
+    } fromGravity[] = {{20, 933.436}, {32.8, 860.775}, {45, 801.333}};
     for (const auto& row : fromGravity)
         EXPECT_NEAR(Density15FromAPI(row.api), row.density15, 0.0005) << row.api;
 
     EXPECT_NEAR(Density60FromAPI(APIFromDensity15(750)), 749.5451, 0.00005);
-    EXPECT_NEAR(Density60FromAPI(APIFromDensity15(850)), 849.5987, 0.00005);
     EXPECT_NEAR(Density60FromAPI(APIFromDensity15(870)), 869.6079, 0.00005);
-    EXPECT_NEAR(Density60FromAPI(APIFromDensity15(900)), 899.6210, 0.00005);
     EXPECT_NEAR(Density60FromAPI(32.8), 860.379, 0.0005);
 }
 
@@ -117,10 +108,8 @@ TEST(Cargo, editionOf2004)
     EXPECT_NEAR(VCF6A(-10, 301.93, edition2004), 0.938051116886, 5e-13);
     EXPECT_NEAR(VCF54A(850, 50, edition2004), 0.969994, sixthDecimal);
     EXPECT_NEAR(VCF54A(900, 60, edition2004), 0.965550, sixthDecimal);
-    EXPECT_NEAR(VCF54A(820, 10, edition2004), 1.004561, sixthDecimal);
     EXPECT_NEAR(VCF54A(850, 50), 0.970009, sixthDecimal);
     EXPECT_NEAR(VCF54A(900, 60), 0.965566, sixthDecimal);
-    EXPECT_NEAR(VCF54A(820, 10), 1.004559, sixthDecimal);
     EXPECT_NEAR(VCF6A(32.8, 60, edition2004), 1, 1e-9);
     EXPECT_NEAR(APIFromDensity15(Density15FromAPI(32.8, edition2004), edition2004), 32.8, 1e-6);
 }
@@ -157,8 +146,7 @@ TEST(Cargo, kilolitresOfABarrel)
     const struct {
         KilogramsPerCubicMetre density15;
         double kilolitres;
-    } rows[] = {{750, 0.158891}, {800, 0.158903}, {850, 0.158912},
-                {870, 0.158916}, {900, 0.158920}, {950, 0.158927}};
+    } rows[] = {{750, 0.158891}, {870, 0.158916}, {950, 0.158927}};
     for (const auto& row : rows)
         EXPECT_NEAR(KilolitresPerBarrel(row.density15), row.kilolitres, sixthDecimal);
     EXPECT_NEAR(KilolitresPerBarrel(Density15FromAPI(32.8)), 0.1589141, 5e-8);
@@ -172,8 +160,6 @@ TEST(Cargo, tons)
     EXPECT_NEAR(MassInVacuo(9755, 870) * Table56Factor(870), 8476.226, 0.0005);
     EXPECT_NEAR(Table56Factor(870), 0.998748, sixthDecimal);
     EXPECT_NEAR(Table56FactorAsPrinted(870), 0.99875, 1e-12);
-    EXPECT_NEAR(Table56FactorAsPrinted(1000), 0.99895, 1e-12);
-    EXPECT_NEAR(Table56FactorAsPrinted(750), 0.99855, 1e-12);
     // Where the printed table steps from one factor to the next.
     for (double density : {519.1, 542.1, 567.3, 595.0, 625.5, 659.3, 697.0, 739.2, 786.9, 841.1,
                            903.4, 975.6, 1060.4})
