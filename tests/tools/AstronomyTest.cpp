@@ -40,11 +40,10 @@ TEST(Astronomy, checkValues)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.date.year);
         const MeanLongitudes at = meanLongitudesAt(dayOf(row.date));
-        EXPECT_NEAR(at.moon, row.longitudes.moon, 6e-4);
-        EXPECT_NEAR(at.sun, row.longitudes.sun, 6e-4);
-        EXPECT_NEAR(at.lunarPerigee, row.longitudes.lunarPerigee, 6e-4);
-        EXPECT_NEAR(at.lunarNode, row.longitudes.lunarNode, 6e-4);
-        EXPECT_NEAR(at.solarPerigee, row.longitudes.solarPerigee, 6e-4);
+        for (auto longitude :
+             {&MeanLongitudes::moon, &MeanLongitudes::sun, &MeanLongitudes::lunarPerigee,
+              &MeanLongitudes::lunarNode, &MeanLongitudes::solarPerigee})
+            EXPECT_NEAR(at.*longitude, row.longitudes.*longitude, 6e-4);
         const auto factors = dailyFactorsAt(dayOf(row.date));
         for (std::size_t j = 0; j < factors.size(); ++j) {
             EXPECT_NEAR(factors[j].angle, row.factors[j].angle, 6e-4) << j;

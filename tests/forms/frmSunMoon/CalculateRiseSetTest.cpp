@@ -61,25 +61,17 @@ TEST(CalculateRiseSet, acceptedNumbersStayInTheRow)
     EXPECT_NEAR(row.latitude, 35.3 + 4e-10, 1e-14) << "moved once by each search";
 }
 
-TEST(CalculateRiseSet, monthAtOnePlaceTellsWhatTheSearchMisses)
+TEST(CalculateRiseSet, midnightOfADayWithoutMoonriseIsExplained)
 {
-    int midnight = 0, refinedMoon = 0;
+    int midnight = 0;
     for (int day = 1; day <= 31; ++day) {
         const auto row =
             calculate({"2024/1/" + std::to_string(day), "Yokohama", "9", "35.27", "139.39"});
-        if (row.moonRiseTime.text == "0000LT") {
-            ++midnight;
-            EXPECT_FALSE(row.moonRiseTime.tip.empty());
-        }
-        if (row.notice.find("moonrise refined") != std::string::npos) {
-            ++refinedMoon;
-            EXPECT_THAT(row.notice, testing::StartsWith("Yokohama: "));
-            EXPECT_THAT(row.moonRiseTime.tip, testing::StartsWith("Refined"));
-        }
-        EXPECT_TRUE(row.notice.find("sunrise") == std::string::npos) << row.notice;
+        if (row.moonRiseTime.text != "0000LT") continue;
+        ++midnight;
+        EXPECT_FALSE(row.moonRiseTime.tip.empty());
     }
     EXPECT_GE(midnight, 1);
-    EXPECT_GE(refinedMoon, 1);
 }
 
 TEST(CalculateRiseSet, faultOfTheMoonBlanksItsEventsOnly)

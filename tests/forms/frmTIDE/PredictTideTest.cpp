@@ -73,8 +73,6 @@ TEST_F(PlainTide, twentyFourHoursAndNothingAboveTheStart)
     earlier.extremes = {3, 5.5, 1, 11.5};
     tide("9,-4,0,0,0,0,0,0,0,0" + corrections);
     EXPECT_EQ(predictTide("2003/01/31", earlier)->lblTideInfo, "05.-30: 0.00m   00.-30: -3.90m");
-    tide("9,8,0,0,0,0,0,0,0,0" + corrections);
-    EXPECT_EQ(predictTide("2003/01/31", earlier)->lblTideInfo, "00.-30: 8.10m   11.-30: 5.00m");
 }
 
 TEST_F(PlainTide, streamsHaveDirectionsAndNoMonths)
@@ -85,8 +83,6 @@ TEST_F(PlainTide, streamsHaveDirectionsAndNoMonths)
     EXPECT_EQ(shown->lblTideInfo, "12.-00: 1.5kn   06.-00: -2.5kn");
     EXPECT_THAT(shown->lblCuDirection, testing::ElementsAre("+ : West", "- : East"))
         << "260 and, not reduced before it is named, 440";
-    stream("8,-3,0,0,0,2,0,0,0,0,0,0,0,0,0");
-    EXPECT_EQ(predictStream()->lblTideInfo, "00.-00: 0.0kn   06.-00: -5.0kn") << "never turns";
 }
 
 TEST_F(PlainTide, nothingIsPredictedWithoutPlaceOrDate)
