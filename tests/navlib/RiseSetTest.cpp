@@ -62,35 +62,6 @@ TEST(RiseSet, hoursOfOneTriangle)
     EXPECT_NEAR(MoonSetHour(9, 180, 30, 45, 135), 2 + 0.5 + 125.26439 / 360 - 1, 1e-6);
 }
 
-TEST(RiseSet, bodyStandsAtItsAltitudeAtTheEvent)
-{
-    const auto altitude = [](BodyPlace body, DateTime utc, DegMin latitude, DegMin longitude) {
-        const double phi = DegToRad(DegMinToDeg(latitude));
-        const double delta = DegToRad(DegMinToDeg(body.declination));
-        const double t =
-            DegToRad((utc - std::floor(utc)) * 360 + body.hourAngleOffset + DegMinToDeg(longitude));
-        return RadToDeg(std::asin(std::sin(phi) * std::sin(delta) +
-                                  std::cos(phi) * std::cos(delta) * std::cos(t)));
-    };
-    int events = 0;
-    for (double date = 45292; date < 45292 + 60; date += 1) {
-        for (const auto& [TD, latitude, longitude] :
-             {std::array{9.0, 35.2, 139.4}, {-8.0, -33.4, -118.1}, {0.0, 0.0, 0.0}}) {
-            const auto rise = RefinedMoonRise(date, TD, latitude, longitude);
-            const auto set = RefinedSunSet(date, TD, latitude, longitude);
-            ASSERT_TRUE(set);
-            EXPECT_NEAR(altitude(SunPlace(*set - TD / 24), *set - TD / 24, latitude, longitude),
-                        -0.9033, 0.002);
-            if (!rise) continue;
-            ++events;
-            EXPECT_EQ(std::floor(*rise), date);
-            EXPECT_NEAR(altitude(MoonPlace(*rise - TD / 24), *rise - TD / 24, latitude, longitude),
-                        0, 0.003);
-        }
-    }
-    EXPECT_NEAR(events, 3 * 60 * 24 / 24.84, 3) << "one moonrise less in a month than days";
-}
-
 TEST(RiseSet, searchIsOutNearFullMoonAndTheRefinedTimeIsNot)
 {
     int wrong = 0, days = 0;

@@ -17,7 +17,6 @@ TEST(Tide, wholeTurnsAreAddedUntilTheThresholdIsPassed)
     } rows[] = {
         {"kept above 600", SemidiurnalChange, 700, 0, 700},
         {"one turn", SemidiurnalChange, 335, 0, 695},
-        {"two turns", SemidiurnalChange, 5, 5, 720},
         {"three turns: across 360", SemidiurnalChange, 10, 354, 736},
         {"exactly 600 is not enough", SemidiurnalChange, 240, 0, 960},
         {"exactly 600 is not enough at once", SemidiurnalChange, 600, 0, 960},

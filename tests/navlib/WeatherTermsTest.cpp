@@ -16,12 +16,11 @@ TEST(WeatherTerms, seaStateBoundsCloseAbove)
         Metres height;
         int code;
         std::string_view name;
-    } rows[] = {
-        {0, 0, "Calm"},       {-1, 1, "Rippled"},       {0.1, 1, "Rippled"},  {0.11, 2, "Smooth"},
-        {0.5, 2, "Smooth"},   {1.25, 3, "Slight"},      {1.5, 4, "Moderate"}, {2.5, 4, "Moderate"},
-        {2.51, 5, "Rough"},   {4, 5, "Rough"},          {6, 6, "Very Rough"}, {9, 7, "High"},
-        {14, 8, "Very High"}, {14.01, 9, "Phenomenal"},
-    };
+    } rows[] = {{0, 0, "Calm"},       {-1, 1, "Rippled"},      {0.1, 1, "Rippled"},
+                {0.11, 2, "Smooth"},  {0.5, 2, "Smooth"},      {1.25, 3, "Slight"},
+                {1.5, 4, "Moderate"}, {2.5, 4, "Moderate"},    {2.51, 5, "Rough"},
+                {4, 5, "Rough"},      {6, 6, "Very Rough"},    {9, 7, "High"},
+                {14, 8, "Very High"}, {14.01, 9, "Phenomenal"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.height);
         EXPECT_EQ(SeaStateCode(row.height), row.code);
@@ -35,20 +34,18 @@ TEST(WeatherTerms, visibilityBoundsCloseBelow)
         Kilometres visibility;
         int code;
         std::string_view name;
-    } rows[] = {
-        {-1, 0, "Dence fog"},
-        {0.049, 0, "Dence fog"},
-        {0.05, 1, "Thick fog"},
-        {0.2, 2, "Fog"},
-        {0.5, 3, "Moderate fog"},
-        {1, 4, "Thin fog"},
-        {2, 5, "Visivility poor"},
-        {4, 6, "Visivility moderate"},
-        {9.99, 6, "Visivility moderate"},
-        {10, 7, "Visivility good"},
-        {20, 8, "Visivility very good"},
-        {50, 9, "Visivility exceptional"},
-    };
+    } rows[] = {{-1, 0, "Dence fog"},
+                {0.049, 0, "Dence fog"},
+                {0.05, 1, "Thick fog"},
+                {0.2, 2, "Fog"},
+                {0.5, 3, "Moderate fog"},
+                {1, 4, "Thin fog"},
+                {2, 5, "Visivility poor"},
+                {4, 6, "Visivility moderate"},
+                {9.99, 6, "Visivility moderate"},
+                {10, 7, "Visivility good"},
+                {20, 8, "Visivility very good"},
+                {50, 9, "Visivility exceptional"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.visibility);
         EXPECT_EQ(VisibilityCode(row.visibility), row.code);
