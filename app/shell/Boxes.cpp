@@ -32,13 +32,17 @@ void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
     m_focusedByMouse = event->reason() == Qt::MouseFocusReason;
-    // A context menu that closes must not undo what was selected for it.
-    if (event->reason() != Qt::PopupFocusReason) selectAll();
+    // A context menu that closes must not undo what was selected for it, and an alarm in the middle
+    // of a number must not make the next digit replace the ones before it.
+    if (event->reason() != Qt::PopupFocusReason && !m_interrupted) selectAll();
+    m_interrupted = false;
 }
 
 void EntryBox::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
+    m_interrupted =
+        event->reason() == Qt::ActiveWindowFocusReason && QApplication::activeModalWidget();
     if (onLeave && event->reason() != Qt::PopupFocusReason &&
         event->reason() != Qt::ActiveWindowFocusReason)
         onLeave();

@@ -44,6 +44,7 @@ protected:
 private:
     EntryBox* m_next = nullptr;
     bool m_focusedByMouse = false;
+    bool m_interrupted = false; ///< a question or an alarm took the focus while somebody typed
 };
 
 /// A text box whose calculation runs when a key is released, not while it goes down. Text that

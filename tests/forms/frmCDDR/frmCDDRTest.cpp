@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMessageBox>
 #include <QRadioButton>
 #include <QTest>
 
@@ -79,6 +80,21 @@ TEST_F(frmCDDRTest, focusSelectsAllAlsoByMouse)
     EXPECT_EQ(static_cast<QLineEdit&>(control(window, "txtCDDR(2)")).selectedText(), "35.305");
     QTest::keyClick(&control(window, "txtCDDR(2)"), '1');
     EXPECT_EQ(text(window, "txtCDDR(2)"), "1");
+}
+
+TEST_F(frmCDDRTest, anAlarmInTheMiddleOfANumberLosesNothing)
+{
+    auto& window = open<frmCDDR>();
+    type(window, "txtCDDR(0)", "35.");
+    QMessageBox alarm;
+    alarm.setWindowModality(Qt::ApplicationModal);
+    alarm.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&alarm));
+    alarm.accept();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&control(window, "txtCDDR(0)"), '5');
+    EXPECT_EQ(text(window, "txtCDDR(0)"), "35.5");
 }
 
 TEST_F(frmCDDRTest, hemispheresAndSignsKeepInStep)
