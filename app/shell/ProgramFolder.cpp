@@ -6,12 +6,26 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+
 namespace korvel
 {
 namespace
 {
 
-constexpr qint64 largestSettingsFile = 1 << 20;
+constexpr qint64 largestFile = 1 << 20; // the tide's factors up to 2060 stay below it
+
+bool isMissing(const QFileInfo& info)
+{
+    return !info.exists() && !info.isSymLink();
+}
+
+/// What stands in the place of a file, in words.
+std::string whatItIs(const QFileInfo& info)
+{
+    if (info.isDir()) return "it is a folder";
+    return info.exists() ? "it is no plain file" : "it is a link that leads nowhere";
+}
 
 } // namespace
 
@@ -36,23 +50,35 @@ std::string ProgramFolder::path(const std::string& name) const
 
 FileStore::Content ProgramFolder::read(const std::string& name)
 {
+    Content content = readAt(name, 0, largestFile);
+    if (content.size > largestFile) return {Content::Status::Unreadable, {}, "it is far too large"};
+    return content;
+}
+
+FileStore::Content ProgramFolder::readAt(const std::string& name, std::int64_t offset,
+                                         std::size_t length)
+{
     using Status = Content::Status;
     const QFileInfo info(pathOf(name));
-    if (!info.exists() && !info.isSymLink()) return {Status::Missing, {}, {}};
-    if (!info.isFile()) return {Status::Unreadable, {}, "it is not a file"};
-    if (info.size() > largestSettingsFile) return {Status::Unreadable, {}, "it is far too large"};
+    if (isMissing(info)) return {Status::Missing, {}, {}};
+    // Looked at before it is opened: opening a pipe waits for somebody who writes into it.
+    if (!info.isFile()) return {Status::Unreadable, {}, whatItIs(info)};
     QFile file(info.filePath());
-    if (!file.open(QIODevice::ReadOnly))
-        return {Status::Unreadable, {}, file.errorString().toStdString()};
-    const QByteArray bytes = file.read(largestSettingsFile);
+    Content content{Status::Read, {}, {}, info.size()};
+    const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const std::int64_t there = std::max<std::int64_t>(content.size - offset, 0);
+    const auto wanted = static_cast<qint64>(std::min<std::uint64_t>(length, std::uint64_t(there)));
+    if (opened && wanted > 0 && file.seek(offset)) content.bytes = file.read(wanted).toStdString();
     if (file.error() != QFileDevice::NoError)
         return {Status::Unreadable, {}, file.errorString().toStdString()};
-    return {Status::Read, bytes.toStdString(), {}};
+    return content;
 }
 
 std::optional<std::string> ProgramFolder::save(const std::string& name, const std::string& bytes)
 {
-    QSaveFile file(pathOf(name));
+    const QFileInfo info(pathOf(name));
+    if (info.exists() && !info.isFile()) return whatItIs(info);
+    QSaveFile file(info.filePath());
     file.setDirectWriteFallback(false);
     if (!file.open(QIODevice::WriteOnly)) return file.errorString().toStdString();
     // commit() alone answers true on a full disk and leaves an empty file: flush first and look.
@@ -67,6 +93,26 @@ std::optional<std::string> ProgramFolder::save(const std::string& name, const st
     }
     if (!file.commit()) return file.errorString().toStdString();
     return std::nullopt;
+}
+
+std::optional<std::string> ProgramFolder::rename(const std::string& name,
+                                                 const std::string& newName)
+{
+    const QFileInfo info(pathOf(name));
+    if (info.exists() && !info.isFile()) return whatItIs(info);
+    QFile file(info.filePath());
+    if (file.rename(pathOf(newName))) return std::nullopt;
+    return file.errorString().toStdString();
+}
+
+std::optional<std::string> ProgramFolder::remove(const std::string& name)
+{
+    const QFileInfo info(pathOf(name));
+    if (isMissing(info)) return std::nullopt;
+    if (info.exists() && !info.isFile()) return whatItIs(info);
+    QFile file(info.filePath());
+    if (file.remove()) return std::nullopt;
+    return file.errorString().toStdString();
 }
 
 } // namespace korvel

@@ -17,7 +17,10 @@ public:
     explicit ProgramFolder(QString folder);
 
     Content read(const std::string& name) override;
+    Content readAt(const std::string& name, std::int64_t offset, std::size_t length) override;
     std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
+    std::optional<std::string> rename(const std::string& name, const std::string& newName) override;
+    std::optional<std::string> remove(const std::string& name) override;
     std::string path(const std::string& name) const override;
 
 private:

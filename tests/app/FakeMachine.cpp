@@ -60,9 +60,17 @@ std::optional<std::string> FakeClock::set(NavFunc113::DateTime value)
 
 FileStore::Content FakeFiles::read(const std::string& name)
 {
+    return readAt(name, 0, std::string::npos);
+}
+
+FileStore::Content FakeFiles::readAt(const std::string& name, std::int64_t offset,
+                                     std::size_t length)
+{
     const auto found = files.find(name);
     if (found == files.end()) return {};
-    return {Content::Status::Read, found->second, {}};
+    const std::string& bytes = found->second;
+    const auto from = std::min(static_cast<std::size_t>(offset), bytes.size());
+    return {Content::Status::Read, bytes.substr(from, length), {}, std::int64_t(bytes.size())};
 }
 
 std::optional<std::string> FakeFiles::save(const std::string& name, const std::string& bytes)
@@ -70,6 +78,22 @@ std::optional<std::string> FakeFiles::save(const std::string& name, const std::s
     if (refusal) return refusal;
     files[name] = bytes;
     ++saves;
+    return std::nullopt;
+}
+
+std::optional<std::string> FakeFiles::rename(const std::string& name, const std::string& newName)
+{
+    if (renameRefusal) return renameRefusal;
+    if (files.contains(newName) || !files.contains(name))
+        return "no such file, or the name is taken";
+    files[newName] = files.extract(name).mapped();
+    return std::nullopt;
+}
+
+std::optional<std::string> FakeFiles::remove(const std::string& name)
+{
+    if (refusal) return refusal;
+    files.erase(name);
     return std::nullopt;
 }
 

@@ -66,11 +66,15 @@ class FakeFiles : public FileStore
 {
 public:
     Content read(const std::string& name) override;
+    Content readAt(const std::string& name, std::int64_t offset, std::size_t length) override;
     std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
+    std::optional<std::string> rename(const std::string& name, const std::string& newName) override;
+    std::optional<std::string> remove(const std::string& name) override;
     std::string path(const std::string& name) const override { return "folder/" + name; }
 
     std::map<std::string, std::string> files;
-    std::optional<std::string> refusal; ///< reason for which nothing can be saved
+    std::optional<std::string> refusal;       ///< reason for which nothing can be saved
+    std::optional<std::string> renameRefusal; ///< reason for which nothing can be renamed
     int saves = 0;
 };
 

@@ -10,6 +10,7 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace korvel
 {
@@ -29,20 +30,75 @@ TEST(ProgramFolder, replacesFilesWhole)
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"KV_X.ini"});
 }
 
-TEST(ProgramFolder, saysWhyAFileCannotBeUsed)
+TEST(ProgramFolder, readsAtAPosition)
 {
     const QTemporaryDir folder;
-    QDir(folder.path()).mkdir("KV_X.ini");
-    QFile huge(folder.filePath("KV_Y.ini"));
-    ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(3) << 30));
     ProgramFolder files(folder.path());
-    EXPECT_EQ(files.read("KV_X.ini").status, Status::Unreadable);
-    EXPECT_EQ(files.read("KV_Y.ini").status, Status::Unreadable);
-    EXPECT_NE(files.save("KV_X.ini", "a").value_or(""), "");
-    EXPECT_TRUE(QDir(folder.filePath("KV_X.ini")).exists());
+    QDir(folder.path()).mkdir("Harmonic Constants");
+    const char* const name = "Harmonic Constants/HC_O'Neill.txt";
+    ASSERT_EQ(files.save(name, "0123456789"), std::nullopt);
+    const struct {
+        std::int64_t offset;
+        std::size_t length;
+        const char* bytes;
+    } rows[] = {{0, 4, "0123"}, {7, 3, "789"}, {7, 4, "789"}, {10, 1, ""}, {99, 5, ""}, {3, 0, ""}};
+    for (const auto& [offset, length, bytes] : rows) {
+        const auto content = files.readAt(name, offset, length);
+        EXPECT_EQ(content.status, Status::Read) << offset;
+        EXPECT_EQ(content.bytes, bytes) << offset << " " << length;
+        EXPECT_EQ(content.size, 10);
+    }
+    EXPECT_EQ(files.look("KV_X.ini").status, Status::Missing);
 
+    // The factors of a century are larger than any file that is read whole.
+    QFile huge(folder.filePath("huge.txt"));
+    ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(3) << 30));
+    EXPECT_EQ(files.read("huge.txt").status, Status::Unreadable);
+    EXPECT_EQ(files.readAt("huge.txt", (std::int64_t(3) << 30) - 2, 9).bytes, std::string(2, '\0'));
+    ASSERT_TRUE(huge.resize(1 << 20));
+    EXPECT_EQ(files.read("huge.txt").bytes.size(), 1u << 20);
+    ASSERT_TRUE(huge.resize((1 << 20) + 1));
+    EXPECT_EQ(files.read("huge.txt").status, Status::Unreadable);
+}
+
+TEST(ProgramFolder, refusesWhatIsNoFileWithoutWaitingForIt)
+{
+    const QTemporaryDir folder;
+    ProgramFolder files(folder.path());
+    QDir(folder.path()).mkdir("folder");
+    ASSERT_EQ(mkfifo(folder.filePath("pipe").toLocal8Bit(), 0600), 0);
+    ASSERT_TRUE(QFile::link("/dev/zero", folder.filePath("device")));
+    ASSERT_TRUE(QFile::link("nowhere", folder.filePath("link")));
+    for (const std::string name : {"folder", "pipe", "device", "link"}) {
+        const QFileInfo before(folder.filePath(QString::fromStdString(name)));
+        const bool isSymLink = before.isSymLink();
+        EXPECT_EQ(files.read(name).status, Status::Unreadable) << name;
+        EXPECT_NE(files.readAt(name, 0, 1).reason, "") << name;
+        EXPECT_EQ(files.look(name).status, Status::Unreadable) << name;
+        if (name == "link") continue; // a save makes the file that the link means
+        EXPECT_NE(files.save(name, "a").value_or(""), "") << name;
+        EXPECT_NE(files.rename(name, "kept").value_or(""), "") << name;
+        EXPECT_NE(files.remove(name).value_or(""), "") << name;
+        const QFileInfo after(before.filePath());
+        EXPECT_TRUE(after.exists() && !after.isFile() && after.isSymLink() == isSymLink) << name;
+    }
     ProgramFolder nowhere(folder.filePath("missing"));
     EXPECT_NE(nowhere.save("KV_X.ini", "a").value_or(""), "");
+}
+
+TEST(ProgramFolder, renamesAndRemoves)
+{
+    const QTemporaryDir folder;
+    ProgramFolder files(folder.path());
+    ASSERT_EQ(files.save("KV_X.ini", "a"), std::nullopt);
+    ASSERT_EQ(files.save("KV_Y.ini", "b"), std::nullopt);
+    EXPECT_NE(files.rename("KV_X.ini", "KV_Y.ini").value_or(""), "") << "the name is taken";
+    EXPECT_NE(files.rename("KV_Z.ini", "KV_Q.ini").value_or(""), "") << "there is no such file";
+    EXPECT_EQ(files.rename("KV_X.ini", "KV_X damaged.ini"), std::nullopt);
+    EXPECT_EQ(files.remove("KV_Y.ini"), std::nullopt);
+    EXPECT_EQ(files.remove("KV_Y.ini"), std::nullopt);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"KV_X damaged.ini"});
+    EXPECT_EQ(files.read("KV_X damaged.ini").bytes, "a");
 }
 
 TEST(ProgramFolder, aDiskThatTakesNoMoreLeavesTheOldFile)
