@@ -3,6 +3,8 @@
 #include "forms/frmCDDR/CalculateDR.h"
 #include "forms/frmCDDR/hemisphere.h"
 
+#include "tests/golden/Golden.h"
+
 #include <gtest/gtest.h>
 
 namespace korvel
@@ -10,58 +12,28 @@ namespace korvel
 namespace
 {
 
+using namespace korvel::testing;
+
 TEST(CalculateCD, coursesAndDistances)
 {
-    const struct {
-        const char* fault;
-        std::array<std::string, 4> boxes;
-        int spheroid;
-        const char* course;
-        const char* distance;
-    } rows[] = {
-        {"equal positions", {"35.305", "139.45", "35.305", "139.45"}, 0, "<000.0>", "0'.0"},
-        {"wrong way across 180", {"0", "179", "0", "-179"}, 0, "<090.0>", "120'.0"},
-        {"parallel of 60", {"60", "10", "60", "12"}, 0, "<090.0>", "60'.0"},
-        {"spheroid left out", {"60", "10", "60", "12"}, 1, "<090.0>", "60'.3"},
-        {"empty boxes are 0", {"", "", "1", ""}, 0, "<000.0>", "60'.0"},
-        {"bounds are in range", {"90", "180", "-89.599", "-180"}, 0, "<180.0>", "10799'.9"},
-        {"just beyond", {"90.001", "0", "0", "0"}, 0, "", ""},
-        {"last box beyond", {"0", "0", "0", "180.01"}, 0, "", ""},
-        {"letters", {"abc", "0", "1", "0"}, 0, "", ""},
-        {"southward", {"5", "20", "-5", "20"}, 0, "<180.0>", "600'.0"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        const CDResult result = CalculateCD({row.boxes, row.spheroid});
-        EXPECT_EQ(result.course, row.course);
-        EXPECT_EQ(result.distance, row.distance);
+    for (const Golden& row : golden("course_distance")) {
+        const CDResult result =
+            CalculateCD({{row.text("lat1"), row.text("long1"), row.text("lat2"), row.text("long2")},
+                         row.text("earth") == "spheroid"});
+        EXPECT_EQ(result.course, row.text("course")) << row;
+        EXPECT_EQ(result.distance, row.text("distance")) << row;
     }
 }
 
 TEST(CalculateDR, positionsReached)
 {
-    const struct {
-        const char* fault;
-        std::array<std::string, 4> boxes;
-        const char* latitude;
-        const char* longitude;
-    } rows[] = {
-        {"not under way", {"35.305", "139.452", "45", "0"}, "35-.30'5N", "139-.45'2E"},
-        {"across the equator", {"0.10", "0", "180", "20"}, "00-.10'0S", "000-.00'0E"},
-        {"across 180", {"0", "179.30", "90", "60"}, "00-.00'0N", "179-.30'0W"},
-        {"course 360 is accepted", {"10", "10", "360", "60"}, "11-.00'0N", "010-.00'0E"},
-        {"course beyond 360", {"10", "10", "360.1", "60"}, "", ""},
-        {"half the earth is accepted", {"-90", "0", "0", "10800"}, "90-.00'0N", ""},
-        {"beyond half the earth", {"0", "0", "90", "10801"}, "", ""},
-        {"pole crossed", {"89", "0", "0", "120"}, "91-.00'0N", ""},
-        {"negative course", {"0", "0", "-1", "10"}, "", ""},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        const DRResult result = CalculateDR({row.boxes, 0});
-        EXPECT_EQ(result.latitude, row.latitude);
-        EXPECT_EQ(result.longitude, row.longitude);
-        EXPECT_EQ(result.notice.empty(), result.latitude.empty() || !result.longitude.empty());
+    for (const Golden& row : golden("dead_reckoning")) {
+        const DRResult result = CalculateDR(
+            {{row.text("lat"), row.text("long"), row.text("course"), row.text("distance")}, 0});
+        EXPECT_EQ(result.latitude, row.text("latitude")) << row;
+        EXPECT_EQ(result.longitude, row.text("longitude")) << row;
+        EXPECT_EQ(result.notice.empty(), result.latitude.empty() || !result.longitude.empty())
+            << row;
     }
 }
 

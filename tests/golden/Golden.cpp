@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "tests/golden/Golden.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <ostream>
+#include <stdexcept>
+
+namespace korvel::testing
+{
+
+struct Golden::Table {
+    std::string file;
+    std::vector<std::string> columns;
+};
+
+namespace
+{
+
+std::string trimmed(const std::string& text)
+{
+    const auto first = text.find_first_not_of(" \t\r");
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
+char escaped(char letter)
+{
+    switch (letter) {
+    case 'r':
+        return '\r';
+    case 'n':
+        return '\n';
+    case 't':
+        return '\t';
+    default:
+        return letter;
+    }
+}
+
+/// Reads the text after an opening quote; pos ends behind the closing one.
+std::string quotedCell(const std::string& line, std::size_t& pos)
+{
+    std::string text;
+    for (; pos < line.size() && line[pos] != '"'; ++pos)
+        text += line[pos] == '\\' && pos + 1 < line.size() ? escaped(line[++pos]) : line[pos];
+    if (pos == line.size()) throw std::runtime_error("a quote is not closed");
+    ++pos;
+    return text;
+}
+
+std::vector<std::string> cellsOf(const std::string& line)
+{
+    std::vector<std::string> cells;
+    for (std::size_t pos = 0; pos <= line.size(); ++pos) {
+        pos = std::min(line.find_first_not_of(" \t", pos), line.size());
+        std::string cell;
+        if (pos < line.size() && line[pos] == '"') cell = quotedCell(line, ++pos);
+        const std::size_t comma = std::min(line.find(',', pos), line.size());
+        const std::string rest = trimmed(line.substr(pos, comma - pos));
+        if (!cell.empty() && !rest.empty()) throw std::runtime_error("text after a quoted cell");
+        cells.push_back(cell + rest);
+        pos = comma;
+    }
+    return cells;
+}
+
+template <typename Number>
+bool isRead(const std::string& text, Number& value)
+{
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return fault == std::errc() && end == text.data() + text.size();
+}
+
+} // namespace
+
+Golden::Golden(std::shared_ptr<const Table> table, int line, std::vector<std::string> cells)
+    : m_table(std::move(table)), m_line(line), m_cells(std::move(cells))
+{
+}
+
+void Golden::fail(std::string_view column, const char* why) const
+{
+    throw std::runtime_error(m_table->file + ":" + std::to_string(m_line) + ": column " +
+                             std::string(column) + " " + why);
+}
+
+const std::string& Golden::text(std::string_view column) const
+{
+    const auto& columns = m_table->columns;
+    const auto found = std::find(columns.begin(), columns.end(), column);
+    if (found == columns.end()) fail(column, "is not there");
+    return m_cells[static_cast<std::size_t>(found - columns.begin())];
+}
+
+double Golden::number(std::string_view column) const
+{
+    double value = 0;
+    if (!isRead(text(column), value)) fail(column, "holds no number");
+    return value;
+}
+
+std::int64_t Golden::integer(std::string_view column) const
+{
+    std::int64_t value = 0;
+    if (!isRead(text(column), value)) fail(column, "holds no integer");
+    return value;
+}
+
+bool Golden::tick(std::string_view column) const
+{
+    const std::string& cell = text(column);
+    if (cell != "yes" && cell != "no") fail(column, "is neither yes nor no");
+    return cell == "yes";
+}
+
+std::ostream& operator<<(std::ostream& stream, const Golden& row)
+{
+    return stream << row.m_table->file << ":" << row.m_line << ": " << row.m_cells.front();
+}
+
+std::vector<Golden> golden(const std::string& name)
+{
+    auto table = std::make_shared<Golden::Table>();
+    table->file = "tests/golden/" + name + ".csv";
+    std::ifstream file(std::string(KORVEL_SOURCE_DIR "/") + table->file);
+    std::vector<Golden> rows;
+    bool sourceNamed = false;
+    int number = 0;
+    const auto check = [&](bool good, const char* fault) {
+        if (!good)
+            throw std::runtime_error(table->file + ":" + std::to_string(number) + ": " + fault);
+    };
+    for (std::string line; std::getline(file, line);) {
+        ++number;
+        line = trimmed(line);
+        if (line.starts_with('#')) sourceNamed |= line.find("source:") != std::string::npos;
+        if (line.empty() || line.starts_with('#')) continue;
+        std::vector<std::string> cells = cellsOf(line);
+        if (table->columns.empty()) {
+            table->columns = std::move(cells);
+            continue;
+        }
+        check(cells.size() == table->columns.size(), "not one cell for each column");
+        rows.emplace_back(table, number, std::move(cells));
+    }
+    check(sourceNamed, "no comment names the source of the figures");
+    check(!rows.empty(), "there is no case");
+    return rows;
+}
+
+} // namespace korvel::testing

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace korvel::testing
+{
+
+/// A row of a table of cases. Cells are asked for by the name of their column; a cell that is not
+/// there or not what it is taken for throws std::runtime_error with file and line.
+class Golden
+{
+public:
+    struct Table;
+
+    Golden(std::shared_ptr<const Table> table, int line, std::vector<std::string> cells);
+
+    const std::string& text(std::string_view column) const;
+    double number(std::string_view column) const;
+    std::int64_t integer(std::string_view column) const;
+    /// "yes" or "no".
+    bool tick(std::string_view column) const;
+    /// True when the cell holds anything; cells that a case has no figure for stay empty.
+    bool has(std::string_view column) const { return !text(column).empty(); }
+
+    /// "tests/golden/dr_latitude.csv:4: sign lost across the equator": what a failed case prints.
+    friend std::ostream& operator<<(std::ostream& stream, const Golden& row);
+
+private:
+    [[noreturn]] void fail(std::string_view column, const char* why) const;
+
+    std::shared_ptr<const Table> m_table;
+    int m_line;
+    std::vector<std::string> m_cells;
+};
+
+/// Reads tests/golden/<table>.csv. Lines that begin with # are comments, and one of them names the
+/// source of the figures ("source: .."). The first other line names the columns; in the rest, one
+/// case a line, the first column says which fault the case would catch.
+///
+/// Cells are trimmed. A cell in double quotes keeps its blanks and commas and may hold \r \n \t \"
+/// \\. @throws std::runtime_error when the file is missing, names no source or has no case
+std::vector<Golden> golden(const std::string& table);
+
+} // namespace korvel::testing
