@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "tests/scenes/SceneTest.h"
+
 #include <gmock/gmock.h>
 
 #include <QApplication>
@@ -9,5 +11,6 @@ int main(int argc, char* argv[])
     QApplication::setStyle("Fusion");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    korvel::testing::registerScenes();
     return RUN_ALL_TESTS();
 }

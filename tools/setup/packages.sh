@@ -6,7 +6,8 @@ build_packages="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev"
 run_packages="fonts-noto-core fonts-vlgothic alsa-utils"
 # A virtual display for machines that have none, and what takes the picture of the window.
 display_packages="xvfb xauth xdotool x11-utils imagemagick"
-test_packages="libgtest-dev libgmock-dev liberfa-dev"
+# poppler-utils reads the text of printed pages.
+test_packages="libgtest-dev libgmock-dev liberfa-dev poppler-utils"
 
 # install_missing PACKAGE...  Installs those that are not there yet and says so.
 install_missing() {

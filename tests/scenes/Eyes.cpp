@@ -1,0 +1,287 @@
+// SPDX-License-Identifier: MIT
+#include "app/Format.h"
+#include "tests/scenes/Steps.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel::testing
+{
+namespace
+{
+
+std::string shownBy(QWidget& widget)
+{
+    if (auto* choice = qobject_cast<QComboBox*>(&widget))
+        return choice->currentText().toStdString();
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return button->text().toStdString();
+    if (auto* texts = qobject_cast<QPlainTextEdit*>(&widget))
+        return texts->toPlainText().toStdString();
+    if (auto* list = qobject_cast<QListWidget*>(&widget)) {
+        std::string rows;
+        for (int row = 0; row < list->count(); ++row)
+            rows += list->item(row)->text().toStdString() + "\n";
+        return rows;
+    }
+    return text(*widget.window(), widget.objectName().toStdString());
+}
+
+void see(Stage& stage, const Words& words)
+{
+    const std::vector<std::string> names = membersOf(wordAt(words, 0));
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const std::string seen = shownBy(stage.control(names[i]));
+        if (names.size() == 1)
+            expectText(seen, words, 1);
+        else if (wordAt(words, i + 1) != seen)
+            throw std::runtime_error(names[i] + " shows \"" + seen + "\"");
+    }
+    if (names.size() > 1 && words.size() != names.size() + 1)
+        throw std::runtime_error("not one text for each control");
+}
+
+std::string valueOf(QWidget& widget)
+{
+    if (auto* bar = qobject_cast<QAbstractSlider*>(&widget)) return std::to_string(bar->value());
+    if (auto* choice = qobject_cast<QComboBox*>(&widget))
+        return std::to_string(choice->currentIndex());
+    if (auto* list = qobject_cast<QListWidget*>(&widget)) return std::to_string(list->count());
+    throw std::runtime_error("no value in " + widget.objectName().toStdString());
+}
+
+bool isTickedThere(Stage& stage, const std::string& name)
+{
+    if (auto* button = stage.window().findChild<QAbstractButton*>(QString::fromStdString(name)))
+        return button->isChecked();
+    return stage.entry(name).isChecked();
+}
+
+/// A verb about several names that are all to be, or all not to be, something.
+template <bool (*Is)(Stage&, const std::string&), bool Wanted>
+void expectAll(Stage& stage, const Words& words)
+{
+    wordAt(words, 0);
+    for (const Word& word : words)
+        for (const std::string& name : membersOf(word.text))
+            if (Is(stage, name) != Wanted) throw std::runtime_error("not so: " + name);
+}
+
+bool isVisible(Stage& stage, const std::string& name)
+{
+    return stage.control(name).isVisible();
+}
+
+bool isEnabled(Stage& stage, const std::string& name)
+{
+    if (auto* entry = stage.window().findChild<QAction*>(QString::fromStdString(name)))
+        return entry->isEnabled();
+    return stage.control(name).isEnabled();
+}
+
+bool isDimmed(Stage& stage, const std::string& name)
+{
+    return stage.control(name).palette().color(QPalette::WindowText) ==
+           stage.program().colours().dimmed;
+}
+
+bool isOpen(Stage&, const std::string& name)
+{
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (each->isVisible() && each->objectName().toStdString() == name) return true;
+    return false;
+}
+
+void file(Stage& stage, const Words& words)
+{
+    QFile opened(QString::fromStdString(stage.filePath(wordAt(words, 0))));
+    const bool there = opened.open(QIODevice::ReadOnly);
+    const std::string bytes = opened.readAll().toStdString();
+    wordAt(words, 1);
+    if (!words[1].quoted && words[1].text == "missing") {
+        if (there) throw std::runtime_error("it is there:\n" + bytes);
+    } else if (!there) {
+        throw std::runtime_error("it is missing");
+    } else if (words[1].quoted || words[1].text == "record") {
+        expectText(bytes, {{bytesAt(words, 1), true}}, 0);
+    } else {
+        expectText(bytes, words, 1);
+    }
+}
+
+void memory(Stage& stage, const Words& words)
+{
+    const KV_Savedvalue& saved = stage.program().saved();
+    const std::string& what = wordAt(words, 0);
+    const std::map<std::string, double> values = {{"single", saved.singleMemo()},
+                                                  {"latitude", saved.memoLatitude()},
+                                                  {"longitude", saved.memoLongitude()},
+                                                  {"TD", saved.TD()}};
+    const auto found = values.find(what);
+    if (found == values.end()) throw std::runtime_error("no memory of " + what);
+    expectText(Format(found->second, "0.############"), words, 1);
+}
+
+QColor schemeColour(const ColourScheme& colours, const std::string& name)
+{
+    const std::map<std::string, QColor> named = {{"ink", colours.ink},
+                                                 {"grid", colours.grid},
+                                                 {"equator", colours.equator},
+                                                 {"route", colours.route},
+                                                 {"secondary", colours.secondary},
+                                                 {"tertiary", colours.tertiary},
+                                                 {"marker", colours.marker},
+                                                 {"curve", colours.curve},
+                                                 {"datum", colours.datum},
+                                                 {"paper", colours.paper}};
+    const auto found = named.find(name);
+    if (found == named.end()) throw std::runtime_error("no colour " + name);
+    return found->second;
+}
+
+std::map<QRgb, int> pixelsOf(QWidget& widget)
+{
+    const QImage image = widget.grab().toImage();
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[image.pixel(x, y)];
+    return counts;
+}
+
+template <bool Wanted>
+void drawn(Stage& stage, const Words& words)
+{
+    auto counts = pixelsOf(stage.control(wordAt(words, 0)));
+    for (std::size_t i = 1; i < words.size(); ++i)
+        if ((counts[schemeColour(stage.program().colours(), words[i].text).rgb()] > 0) != Wanted)
+            throw std::runtime_error(words[i].text + (Wanted ? " is not drawn" : " is drawn"));
+}
+
+/// Relative luminance as WCAG 2 defines it.
+double luminance(QRgb colour)
+{
+    const auto linear = [](int part) {
+        const double value = part / 255.0;
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
+           0.0722 * linear(qBlue(colour));
+}
+
+/// How far the strongest pixels of a control stand off its background.
+double contrastOf(QWidget& widget)
+{
+    const auto counts = pixelsOf(widget);
+    const auto most = std::max_element(counts.begin(), counts.end(),
+                                       [](auto& a, auto& b) { return a.second < b.second; });
+    double best = 1;
+    for (const auto& [colour, count] : counts) {
+        const auto [dark, light] = std::minmax(luminance(colour), luminance(most->first));
+        best = std::max(best, (light + 0.05) / (dark + 0.05));
+    }
+    return best;
+}
+
+/// In both colour schemes; the one in force is put back.
+void contrast(Stage& stage, const Words& words)
+{
+    for (int scheme = 0; scheme < 2; ++scheme) {
+        for (std::size_t i = 1; i < words.size(); ++i)
+            for (const std::string& name : membersOf(words[i].text)) {
+                const double seen = contrastOf(stage.control(name));
+                if (seen < numberAt(words, 0))
+                    throw std::runtime_error(
+                        name + " has a contrast of " + Format(seen, "0.0") +
+                        (stage.program().saved().nightColours() ? " by night" : " by day"));
+            }
+        stage.main().findChild<QAction*>("mnuBackColor")->trigger();
+        QApplication::processEvents();
+    }
+}
+
+std::string focusedName()
+{
+    QWidget* focus = QApplication::focusWidget();
+    return focus ? focus->objectName().toStdString() : "";
+}
+
+void selected(Stage&, const Words& words)
+{
+    auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (!box) throw std::runtime_error("no box has the focus");
+    expectText(box->selectedText().toStdString(), words, 0);
+}
+
+void count(const char* what, int seen, const Words& words)
+{
+    if (seen != static_cast<int>(numberAt(words, 0)))
+        throw std::runtime_error(std::to_string(seen) + " " + what);
+}
+
+} // namespace
+
+const std::map<std::string, Verb>& eyeVerbs()
+{
+    using S = Stage&;
+    using W = const Words&;
+    static const std::map<std::string, Verb> verbs = {
+        {"see", see},
+        {"notice", [](S s, W w) { expectText(shownBy(s.control("lblNotice")), w, 0); }},
+        {"title", [](S s, W w) { expectText(s.window().windowTitle().toStdString(), w, 0); }},
+        {"caption", [](S s, W w) { expectText(s.entry(wordAt(w, 0)).text().toStdString(), w, 1); }},
+        {"tooltip",
+         [](S s, W w) { expectText(s.control(wordAt(w, 0)).toolTip().toStdString(), w, 1); }},
+        {"accessible",
+         [](S s, W w) {
+             expectText(s.control(wordAt(w, 0)).accessibleName().toStdString(), w, 1);
+         }},
+        {"value", [](S s, W w) { expectText(valueOf(s.control(wordAt(w, 0))), w, 1); }},
+        {"focus",
+         [](S, W w) {
+             expectText(focusedName(), {{wordAt(w, 0), true}}, 0);
+         }},
+        {"selected", selected},
+        {"copied",
+         [](S, W w) { expectText(QApplication::clipboard()->text().toStdString(), w, 0); }},
+        {"ticked", expectAll<isTickedThere, true>},
+        {"unticked", expectAll<isTickedThere, false>},
+        {"visible", expectAll<isVisible, true>},
+        {"hidden", expectAll<isVisible, false>},
+        {"enabled", expectAll<isEnabled, true>},
+        {"greyed", expectAll<isEnabled, false>},
+        {"dimmed", expectAll<isDimmed, true>},
+        {"undimmed", expectAll<isDimmed, false>},
+        {"is-open", expectAll<isOpen, true>},
+        {"is-closed", expectAll<isOpen, false>},
+        {"file", file},
+        {"memory", memory},
+        {"drawn", drawn<true>},
+        {"not-drawn", drawn<false>},
+        {"contrast", contrast},
+        {"printed", [](S s, W w) { expectText(s.printedText(), w, 0); }},
+        {"asked", [](S s, W w) { expectText(s.questions.asked.back(), w, 0); }},
+        {"offered", [](S s, W w) { expectText(s.questions.offered.back(), w, 0); }},
+        {"saves",
+         [](S s, W w) {
+             count("saves", s.files.saves, w);
+             s.files.saves = 0;
+         }},
+        {"beeps", [](S s, W w) { count("beeps", s.questions.beeps, w); }},
+        {"tones", [](S s, W w) { count("tones", s.bell.tones, w); }},
+        {"ringing", [](S s, W w) { count("bells ring", s.bell.ringing, w); }},
+    };
+    return verbs;
+}
+
+} // namespace korvel::testing

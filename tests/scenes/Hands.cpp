@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/PictureBox.h"
+#include "tests/scenes/Steps.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QListWidget>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+
+namespace korvel::testing
+{
+namespace
+{
+
+/// Enters a control as by the Tab key, also when it has the focus already.
+void enter(QWidget& widget)
+{
+    if (widget.hasFocus()) widget.clearFocus();
+    widget.setFocus(Qt::TabFocusReason);
+}
+
+void openWindow(Stage& stage, const Words& words)
+{
+    stage.main().openWindow(QString::fromStdString(wordAt(words, 0)));
+    stage.turnTo(wordAt(words, 0));
+}
+
+/// A window's own cross, and the wait until it is gone.
+void closeWindow(Stage& stage, const Words&)
+{
+    const QPointer<QWidget> closing(&stage.window());
+    closing->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+    if (closing && closing->isVisible()) throw std::runtime_error("the window stays open");
+}
+
+void type(Stage& stage, const Words& words)
+{
+    enter(stage.control(wordAt(words, 0)));
+    const std::string& keys = wordAt(words, 1);
+    if (keys.empty()) pressKey("Del");
+    if (words.size() == 2) {
+        pressKeysOf(keys);
+        return;
+    }
+    // A control that is watched, and its text after each key.
+    QWidget& watched = stage.control(wordAt(words, 2));
+    std::size_t place = 3;
+    pressKeysOf(keys, [&] {
+        wordAt(words, place);
+        expectText(text(*watched.window(), watched.objectName().toStdString()), {words[place]}, 0);
+        ++place;
+    });
+}
+
+Qt::MouseButton buttonOf(const std::string& name)
+{
+    if (name == "right") return Qt::RightButton;
+    if (name == "middle") return Qt::MiddleButton;
+    return Qt::LeftButton;
+}
+
+void click(Stage& stage, const Words& words)
+{
+    QWidget& target = stage.control(wordAt(words, 0));
+    QPoint place = target.rect().center();
+    // The rest of an option's rectangle takes no click.
+    if (target.inherits("QRadioButton") || target.inherits("QCheckBox")) place.setX(8);
+    QTest::mouseClick(&target, buttonOf(words.size() > 1 ? words[1].text : "left"), {}, place);
+}
+
+/// The pointer over a control; over a picture with a scale in the scale's own units.
+void mouse(Stage& stage, const Words& words)
+{
+    QWidget& target = stage.control(wordAt(words, 1));
+    QPoint place = QPointF(numberAt(words, 2), numberAt(words, 3)).toPoint();
+    if (auto* picture = qobject_cast<PictureBox*>(&target))
+        place = picture->toPixel(numberAt(words, 2), numberAt(words, 3)).toPoint();
+    const Qt::MouseButton button = buttonOf(words.size() > 4 ? words[4].text : "left");
+    const std::string& how = wordAt(words, 0);
+    if (how == "press")
+        QTest::mousePress(&target, button, {}, place);
+    else if (how == "release")
+        QTest::mouseRelease(&target, button, {}, place);
+    else if (how == "move")
+        QTest::mouseMove(&target, place);
+    else
+        throw std::runtime_error("a mouse does not " + how);
+}
+
+void choose(Stage& stage, const Words& words)
+{
+    QAction& action = stage.entry(wordAt(words, 0));
+    if (!action.isEnabled()) throw std::runtime_error(words[0].text + " is greyed out");
+    action.trigger();
+}
+
+/// Chooses from the menu of the right button by a part of the caption.
+void contextMenu(Stage& stage, const Words& words)
+{
+    QWidget& target = stage.control(wordAt(words, 0));
+    const QString caption = QString::fromStdString(wordAt(words, 1));
+    bool found = false;
+    QTimer::singleShot(0, &target, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        for (QAction* action : menu ? menu->actions() : QList<QAction*>())
+            if (!found && action->isEnabled() && action->text().remove('&').contains(caption)) {
+                found = true;
+                menu->setActiveAction(action);
+                QTest::keyClick(menu, Qt::Key_Return);
+            }
+        if (menu && !found) menu->close();
+    });
+    const QPoint middle = target.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, middle, target.mapToGlobal(middle));
+    QApplication::sendEvent(&target, &event);
+    QApplication::processEvents();
+    if (!found) throw std::runtime_error("no entry " + words[1].text + " in the context menu");
+}
+
+void drop(Stage& stage, const Words& words)
+{
+    QWidget& target = stage.control(wordAt(words, 0));
+    QMimeData data;
+    data.setText(QString::fromStdString(wordAt(words, 1)));
+    const QPoint middle = target.rect().center();
+    QDragEnterEvent comes(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &comes);
+    if (!comes.isAccepted()) throw std::runtime_error(words[0].text + " takes no drop");
+    QDropEvent falls(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&target, &falls);
+}
+
+/// A scroll bar, a choice in a list: by number, for what has no key of its own.
+void set(Stage& stage, const Words& words)
+{
+    QWidget& target = stage.control(wordAt(words, 0));
+    const int value = static_cast<int>(numberAt(words, 1));
+    if (auto* bar = qobject_cast<QAbstractSlider*>(&target))
+        bar->setValue(value);
+    else if (auto* choice = qobject_cast<QComboBox*>(&target))
+        choice->setCurrentIndex(value);
+    else if (auto* list = qobject_cast<QListWidget*>(&target))
+        list->setCurrentRow(value);
+    else
+        throw std::runtime_error("nothing to set in " + words[0].text);
+}
+
+void hold(Stage& stage, const Words& words)
+{
+    QTest::keyPress(&stage.control(wordAt(words, 0)), wordAt(words, 1).at(0));
+}
+
+void letGo(Stage& stage, const Words& words)
+{
+    QTest::keyRelease(&stage.control(wordAt(words, 0)), wordAt(words, 1).at(0));
+}
+
+} // namespace
+
+const std::map<std::string, Verb>& handVerbs()
+{
+    static const std::map<std::string, Verb> verbs = {
+        {"start", [](Stage& stage, const Words&) { stage.main().start(); }},
+        {"open", openWindow},
+        {"window", [](Stage& stage, const Words& words) { stage.turnTo(wordAt(words, 0)); }},
+        {"close", closeWindow},
+        {"enter", [](Stage& stage, const Words& words) { enter(stage.control(wordAt(words, 0))); }},
+        {"type", type},
+        {"keys", [](Stage&, const Words& words) { pressKeysOf(wordAt(words, 0)); }},
+        {"press",
+         [](Stage&, const Words& words) {
+             for (const Word& word : words)
+                 pressKey(word.text);
+         }},
+        {"hold", hold},
+        {"let-go", letGo},
+        {"click", click},
+        {"mouse", mouse},
+        {"choose", choose},
+        {"context-menu", contextMenu},
+        {"drop", drop},
+        {"set", set},
+        {"clipboard",
+         [](Stage&, const Words& words) {
+             QApplication::clipboard()->setText(QString::fromStdString(wordAt(words, 0)));
+         }},
+    };
+    return verbs;
+}
+
+} // namespace korvel::testing
