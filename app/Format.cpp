@@ -224,4 +224,10 @@ std::string Format(double value, std::string_view format)
     }
 }
 
+std::string courseText(double degrees, std::string_view format)
+{
+    const std::string text = Format(degrees, format);
+    return text == Format(360, format) ? Format(0, format) : text;
+}
+
 } // namespace korvel

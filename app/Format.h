@@ -26,4 +26,8 @@ namespace korvel
 /// @return the text; empty when the value is not a finite number or no date-time of years 100-9999
 std::string Format(double value, std::string_view format);
 
+/// Text of a course or bearing in degrees true, 0 to 360: what would round to 360 is shown as 000,
+/// for there is no course 360.
+std::string courseText(double degrees, std::string_view format = "<000.0>");
+
 } // namespace korvel

@@ -160,6 +160,13 @@ bool isPosition(const std::vector<Coordinate>& found)
     return first.knowsAxis() || (!first.colon && (first.numbers.size() > 1 || first.degreeSign));
 }
 
+/// A lone number as other programs give decimal degrees: 35.508333, 35.75.
+bool isProbablyDecimal(const std::vector<Coordinate>& found)
+{
+    return found.size() == 1 && found[0].plain() && !found[0].knowsAxis() &&
+           (found[0].numbers[0].decimals.size() >= 5 || !canBePacked(found[0]));
+}
+
 /// How the plain decimal numbers among the coordinates were taken, and what the other way is.
 std::string remarkOnPlain(const std::vector<Coordinate>& found, const std::vector<Axis>& axes,
                           bool decimal)
@@ -199,7 +206,7 @@ std::optional<PastedPosition> parsePosition(std::string_view text, Axis box)
         if (!sentence) return std::nullopt;
     }
     const auto found = readCoordinates(sentence ? *sentence : text);
-    if (!found || !isPosition(*found)) return std::nullopt;
+    if (!found || !(isPosition(*found) || isProbablyDecimal(*found))) return std::nullopt;
 
     std::vector<Axis> axes;
     for (const Coordinate& c : *found)
@@ -210,9 +217,9 @@ std::optional<PastedPosition> parsePosition(std::string_view text, Axis box)
     if (axes.size() == 2 && axes[0] == axes[1]) return std::nullopt;
 
     // One number that has 60 minutes or more gives both away as decimal degrees.
-    const bool decimal = std::any_of(found->begin(), found->end(), [](const Coordinate& c) {
-        return c.plain() && !canBePacked(c);
-    });
+    const bool decimal = isPosition(*found) && std::ranges::any_of(*found, [](const auto& c) {
+                             return c.plain() && !canBePacked(c);
+                         });
     PastedPosition position;
     for (std::size_t i = 0; i < found->size(); ++i) {
         const auto value = packed((*found)[i], axes[i], decimal);

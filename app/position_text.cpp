@@ -2,6 +2,7 @@
 #include "app/position_text.h"
 
 #include "app/Format.h"
+#include "app/NumberField.h"
 #include "app/reading.h"
 #include "navlib/angles.h"
 
@@ -64,6 +65,19 @@ int decimalsOf(std::string_view boxText)
     return static_cast<int>(std::min(end, ascii.size()) - point - 1);
 }
 
+/// What is to be said when only the beginning of the text was read.
+std::string remarkOnReading(std::string_view boxText, Axis axis)
+{
+    const double greatest = greatestDegrees(axis);
+    const NumberReading reading =
+        readField(boxText, {.name = {},
+                            .low = -greatest,
+                            .high = greatest,
+                            .form = axis == Axis::Latitude ? NumberField::Form::Latitude
+                                                           : NumberField::Form::Longitude});
+    return reading.kind == NumberReading::Kind::Beginning ? reading.remark : std::string();
+}
+
 } // namespace
 
 Echo positionEcho(std::string_view boxText, Axis axis)
@@ -71,6 +85,7 @@ Echo positionEcho(std::string_view boxText, Axis axis)
     const auto value = readLeadingNumber(boxText);
     if (!value) return {};
     Echo echo;
+    echo.hint = remarkOnReading(boxText, axis);
     const double size = std::fabs(*value);
     const int greatest = greatestDegrees(axis);
     if (size < longestEcho) {
@@ -78,12 +93,12 @@ Echo positionEcho(std::string_view boxText, Axis axis)
         const DegreesAndMinutes typed = split(*value, 8);
         if (typed.minutes >= 60) {
             const double minutes = readNumber(Format(typed.minutes, "0") + "." + typed.decimals);
-            echo.hint = "minutes " + Format(minutes, "0.####");
+            echo.hint = joined({echo.hint, "minutes " + Format(minutes, "0.####")});
         }
         const bool beyond = NavFunc113::DegMinToDeg(size) > greatest + 1e-9;
         if (!beyond) return echo;
     }
-    echo.hint += (echo.hint.empty() ? "" : "; ") + ("beyond " + Format(greatest, "0") + "°");
+    echo.hint = joined({echo.hint, "beyond " + Format(greatest, "0") + "°"});
     return echo;
 }
 

@@ -23,8 +23,9 @@ struct Echo {
 
 /// Echo of a box: the packed value read as the calculations read it, minutes carried at 60 and
 /// shown with at least one decimal, all that were typed up to four. The hint says when the typed
-/// minutes are 60 or more, and when the value lies beyond 90 (latitude) or 180 (longitude). An
-/// empty box, half-typed sign or letters give an empty echo.
+/// minutes are 60 or more, when the value lies beyond 90 (latitude) or 180 (longitude), and when
+/// only the beginning of the text was read ("only 35 was read, write 35.305"). An empty box,
+/// half-typed sign or letters give an empty echo.
 Echo positionEcho(std::string_view boxText, Axis axis);
 
 /// A packed value to be copied or printed: "35°30.5'N", minutes with one decimal carried at 60.
@@ -48,7 +49,8 @@ struct PastedPosition {
 /// With a hemisphere letter only (S 35.305) it is taken as the packed form, as everything in this
 /// program is, and the remark says so and what decimal degrees would have been.
 /// A plain number ("35.305", "-139.4523") is nothing to convert: nullopt, and the box takes the
-/// text as it is typed.
+/// text as it is typed. One with five decimals or more, or with 60 minutes or more, is probably
+/// decimal degrees: it stays as it is, and the remark names both readings.
 /// @param text whatever the clipboard holds
 /// @param box  what the box that is pasted into takes, for a value without a hemisphere letter
 /// @return what was understood; nullopt when the text is no position in any of these forms, or out

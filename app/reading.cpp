@@ -13,6 +13,8 @@ namespace
 
 using NavFunc113::CivilDate;
 
+constexpr int firstYear = 1900; // before it dates and their times of day run in opposite directions
+
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
@@ -101,7 +103,7 @@ std::optional<double> readDate(std::string_view text)
     const auto day = wholeNumber(text, 1, 2);
     if (!day || !text.empty()) return std::nullopt;
     const CivilDate date{yearDigits == 2 ? 2000 + *year : *year, *month, *day};
-    if (!NavFunc113::IsCivilDate(date)) return std::nullopt;
+    if (date.year < firstYear || !NavFunc113::IsCivilDate(date)) return std::nullopt;
     return NavFunc113::MakeDateTime(date);
 }
 
@@ -190,7 +192,6 @@ std::optional<NavFunc113::DateTime> readDateTime(std::string_view text)
     skipBlanks(timeText);
     const auto time = readTimeOfDay(timeText);
     if (!date || !time) return std::nullopt;
-    // Before day 0 the time of day still counts forwards from midnight.
     return *date + *time;
 }
 

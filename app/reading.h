@@ -30,9 +30,9 @@ bool IsInRange(std::string_view value, std::string_view low, std::string_view hi
 
 /// Date, time of day, or both, as typed.
 ///
-/// Dates: yyyy/m/d, or yy/m/d meaning 2000 to 2099. Times: h:mm or h:mm:ss, 0:00 to 23:59:59. A
-/// date and a time are separated by blanks. A time alone belongs to day 0. Full-width characters
-/// are read like their ASCII forms.
+/// Dates: yyyy/m/d from 1900 on, or yy/m/d meaning 2000 to 2099. Times: h:mm or h:mm:ss, 0:00 to
+/// 23:59:59. A date and a time are separated by blanks. A time alone belongs to day 0. Full-width
+/// characters are read like their ASCII forms.
 /// @return the date-time, nothing when the text is neither
 std::optional<NavFunc113::DateTime> readDateTime(std::string_view text);
 

@@ -22,7 +22,7 @@ CDResult CalculateCD(const CDInput& input)
     const auto [course, miles] =
         NavFunc113::RhumbCourseAndDistance(lat1, long1, lat2, long2, input.spheroid);
     CDResult result;
-    result.course = "<" + Format(course, "000.0") + ">";
+    result.course = courseText(course);
     // The apostrophe stands before the point here and after it in frmGC2000: both on purpose.
     result.distance = Format(miles, "0'.0");
     result.courseDegrees = course;

@@ -25,11 +25,6 @@ struct Ends {
     DegMin lat1, long1, lat2, long2;
 };
 
-std::string courseText(NavFunc113::Degrees course)
-{
-    return "<" + Format(course, "000.0") + ">";
-}
-
 bool allInRange(const std::array<std::string, 4>& boxes)
 {
     // The chart ends at 75 degrees; great circles between higher latitudes would leave it.

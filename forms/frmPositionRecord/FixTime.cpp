@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "app/reading.h"
+#include "app/typed_time.h"
 #include "navlib/datetime.h"
 
 #include <algorithm>
@@ -73,15 +74,12 @@ void readDate(std::string_view text, Pieces& pieces)
     const std::string typed(text);
     const auto marks = std::ranges::count(text, '/');
     if (marks == 2) {
-        const auto date = readDateTime(text);
-        if (!date) {
-            pieces.fault = typed + " is no date";
-            return;
-        }
-        const CivilDate civil = NavFunc113::DateOf(*date);
+        const auto date = readTypedTime(text, Due::Date);
+        pieces.fault = date.remark;
+        if (!date.value) return;
+        const CivilDate civil = NavFunc113::DateOf(*date.value);
         // A slip of the finger; and a few hours of TD must not lead out of the calendar.
-        if (civil.year < 1900 || civil.year > 2199)
-            pieces.fault = typed + ": years from 1900 to 2199";
+        if (civil.year > 2199) pieces.fault = typed + ": years from 1900 to 2199";
         pieces.year = civil.year;
         pieces.month = civil.month;
         pieces.day = civil.day;

@@ -46,13 +46,6 @@ void say(std::string& text, const std::string& sentence)
     text += sentence;
 }
 
-/// Degrees of a course; 359.96 is 000.0, there is no course 360.
-std::string courseText(double course, const char* format)
-{
-    const std::string text = Format(course, format);
-    return text == Format(360, format) ? Format(0, format) : text;
-}
-
 /// The number in a box. Empty and half-typed boxes give nothing and no word.
 std::optional<double> numberIn(const std::string& box, const char* name, std::string& remark)
 {
@@ -122,7 +115,7 @@ Leg legBetween(const Fix& from, const Fix& to, int spheroid)
 
 void showLeg(const Leg& leg, PositionRowResult& row)
 {
-    row.course = courseText(leg.course, "<000.0>");
+    row.course = courseText(leg.course);
     row.distance = Format(leg.distance, distanceFormat);
     row.hours = Format(leg.hours, hoursFormat);
     if (leg.hours > 0) row.speed = Format(leg.distance / leg.hours, speedFormat);

@@ -44,11 +44,6 @@ std::string refinedText(DateTime time)
     return text == "0000LT" ? text + " (at midnight)" : text;
 }
 
-std::string azimuthText(Degrees azimuth)
-{
-    return Format(azimuth, "<000.0>");
-}
-
 /// What is said of a row, its place in front.
 class Notice
 {
@@ -102,13 +97,13 @@ public:
         try {
             const DegMin declination = SunDeclination(m_date + ofDay);
             const Degrees azimuth = routine(m_row.latitude, declination);
-            RiseSetLabel label{azimuthText(azimuth), "True azimuth, degrees", false, azimuth};
+            RiseSetLabel label{courseText(azimuth), "True azimuth, degrees", false, azimuth};
             const Degrees asTyped = routine(m_typedLatitude, declination);
             if (std::fabs(azimuth - asTyped) >= 0.1) {
-                label.tip = "At the latitude as typed " + azimuthText(asTyped);
+                label.tip = "At the latitude as typed " + courseText(asTyped);
                 label.doubtful = true;
                 m_notice.add(std::string(name) + " azimuth at the latitude as typed " +
-                             azimuthText(asTyped));
+                             courseText(asTyped));
             }
             return label;
         } catch (const ArithmeticError& error) {

@@ -110,9 +110,8 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts)
                                                    DegMinToDeg(*observation.declination), *DR);
         result.Hc = Format(DegToDegMin(sun.altitude), angle);
         const Degrees Zn = azimuthOfSun(*observation.GHA, *observation.declination, *DR);
-        // 359.96 must not be shown as 360.0.
         result.azimuth = Zn;
-        result.Zn = Format(Zn >= 359.95 ? 0 : Zn, "000.0");
+        result.Zn = courseText(Zn, "000.0");
         if (sun.altitude < 0)
             remarks.warnings.push_back("The Sun is below the horizon of the DR position: check "
                                        "date, time and position");

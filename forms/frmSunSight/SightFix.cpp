@@ -55,7 +55,7 @@ void makeLines(const SightList& list, const Track& track, SightFixResult& result
         line.line = LineAt(line.sight, *result.DR, result.motion);
         line.text = "Hc " + Format(DegToDegMin(line.line.computedAltitude), "0.-00'0") + "  " +
                     interceptText(line.line.intercept) + "  Zn " +
-                    Format(line.line.azimuth >= 359.95 ? 0 : line.line.azimuth, "000.0");
+                    courseText(line.line.azimuth, "000.0");
     }
 }
 

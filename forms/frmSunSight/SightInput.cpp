@@ -101,15 +101,6 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
 
 } // namespace
 
-std::string Remarks::text() const
-{
-    std::string all;
-    for (const auto& list : {faults, warnings})
-        for (const std::string& remark : list)
-            all += (all.empty() ? "" : "; ") + remark;
-    return all;
-}
-
 std::optional<double> readBox(const std::string& name, const std::string& text, double low,
                               double high, std::optional<double> empty, Remarks& remarks)
 {

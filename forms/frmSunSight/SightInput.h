@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Remarks.h"
 #include "navlib/sight_fix.h"
 #include "navlib/sight_reduction.h"
 #include "navlib/units.h"
@@ -39,13 +40,6 @@ struct TrackTexts {
     std::string time;      ///< UTC of that position, date and time; empty: that of the (last) sight
     std::string course;    ///< made good, 0 to 360
     std::string speed;     ///< made good, knots
-};
-
-/// What is wrong or worth a word, each a sentence that begins with the name of its box.
-struct Remarks {
-    std::vector<std::string> faults;   ///< inputs that cannot be used
-    std::vector<std::string> warnings; ///< used, but the officer should know
-    std::string text() const;          ///< all of them for the notice line, faults first
 };
 
 /// Corrections of a sight, those of the library and what stands before and after them.

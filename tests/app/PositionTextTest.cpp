@@ -17,23 +17,28 @@ TEST(PositionText, echo)
         Axis axis;
         const char* text;
         const char* hint;
-    } rows[] = {{"35.305", Axis::Latitude, "35°30.5' N", ""},
-                {"-139.4523", Axis::Longitude, "139°45.23' W", ""},
-                {"35.30051234", Axis::Latitude, "35°30.0512' N", ""},
-                {"-0.305", Axis::Longitude, "000°30.5' W", ""},
-                {"-0", Axis::Latitude, "00°00.0' N", ""},
-                {"35.75", Axis::Latitude, "36°15.0' N", "minutes 75"},
-                {"35.6", Axis::Latitude, "36°00.0' N", "minutes 60"},
-                {"35.59999999", Axis::Latitude, "36°00.0000' N", ""},
-                {"89.61", Axis::Latitude, "90°01.0' N", "minutes 61; beyond 90°"},
-                {"-90.001", Axis::Latitude, "90°00.1' S", "beyond 90°"},
-                {"180", Axis::Longitude, "180°00.0' E", ""},
-                {"180.3", Axis::Longitude, "180°30.0' E", "beyond 180°"},
-                {"99999999999999999999", Axis::Longitude, "", "beyond 180°"},
-                {"３５．３０５", Axis::Latitude, "35°30.5' N", ""},
-                {"35.305N", Axis::Latitude, "35°30.5' N", ""},
-                {"", Axis::Latitude, "", ""},
-                {"abc", Axis::Latitude, "", ""}};
+    } rows[] = {
+        {"35.305", Axis::Latitude, "35°30.5' N", ""},
+        {"-139.4523", Axis::Longitude, "139°45.23' W", ""},
+        {"35.30051234", Axis::Latitude, "35°30.0512' N", ""},
+        {"-0.305", Axis::Longitude, "000°30.5' W", ""},
+        {"-0", Axis::Latitude, "00°00.0' N", ""},
+        {"35.75", Axis::Latitude, "36°15.0' N", "minutes 75"},
+        {"35.6", Axis::Latitude, "36°00.0' N", "minutes 60"},
+        {"35.59999999", Axis::Latitude, "36°00.0000' N", ""},
+        {"89.61", Axis::Latitude, "90°01.0' N", "minutes 61; beyond 90°"},
+        {"-90.001", Axis::Latitude, "90°00.1' S", "beyond 90°"},
+        {"180", Axis::Longitude, "180°00.0' E", ""},
+        {"180.3", Axis::Longitude, "180°30.0' E", "beyond 180°"},
+        {"99999999999999999999", Axis::Longitude, "", "beyond 180°"},
+        {"３５．３０５", Axis::Latitude, "35°30.5' N", ""},
+        {"35.305N", Axis::Latitude, "35°30.5' N", ""},
+        {"35,305", Axis::Latitude, "35°00.0' N", "only 35 was read, write 35.305"},
+        {"139 45.2", Axis::Longitude, "139°00.0' E", "only 139 was read, write 139.452"},
+        {"35.75S", Axis::Latitude, "36°15.0' N", "only 35.75 was read, write -35.45; minutes 75"},
+        {"90.3,5", Axis::Latitude, "90°30.0' N", "beyond 90°"},
+        {"", Axis::Latitude, "", ""},
+        {"abc", Axis::Latitude, "", ""}};
     for (const auto& row : rows) {
         const Echo echo = positionEcho(row.typed, row.axis);
         EXPECT_EQ(echo.text, row.text) << row.typed;
@@ -132,6 +137,11 @@ TEST(PositionText, pasteOfWhatCouldMeanTwoThingsIsRemarked)
         {"35.5083 N 139.75 E", "35.305|139.45", "taken as decimal degrees: 35°30.5'N 139°45.0'E"},
         {"35.61 N", "35.366|", "taken as decimal degrees: 35°36.6'N"},
         {"35 30.5", "35.305|", "taken as degrees and minutes"},
+        // a lone number keeps its meaning, but what it probably is is named
+        {"35.50833", "35.50833|",
+         "taken as degrees.minutes: 35°50.8'N; as decimal degrees it would be 35°30.5'N"},
+        {"-35.75", "-35.75|",
+         "taken as degrees.minutes: 36°15.0'S; as decimal degrees it would be 35°45.0'S"},
         {"35-30.5, 139-45.2", "35.305|139.452", "taken as latitude, then longitude"}};
     for (const auto& [text, understood, remark] : rows) {
         EXPECT_EQ(pasted(text), understood) << text;

@@ -2,16 +2,23 @@
 #include "app/reading.h"
 
 #include "app/Format.h"
+#include "app/NumberField.h"
+#include "app/typed_time.h"
+#include "tests/golden/Golden.h"
 
 #include <gtest/gtest.h>
 
 #include <clocale>
 #include <cmath>
+#include <map>
 
 namespace korvel
 {
 namespace
 {
+
+using korvel::testing::Golden;
+using korvel::testing::golden;
 
 TEST(Reading, leadingNumbers)
 {
@@ -52,26 +59,85 @@ TEST(Reading, ranges)
     EXPECT_FALSE(isNumeric("9h"));
 }
 
-TEST(Reading, datesAndTimes)
+TEST(Reading, numbersWithTheirRemarks)
 {
-    const struct {
-        const char* text;
-        const char* shown; ///< as yyyy/mm/dd hh:mm:ss; empty when refused
-    } rows[] = {{"05/03/14 23:30", "2005/03/14 23:30:00"},
-                {"2005/3/4", "2005/03/04 00:00:00"},
-                {"2004/2/29 6:05:07", "2004/02/29 06:05:07"},
-                {"２００５／３／１４　９：３０", "2005/03/14 09:30:00"},
-                {"2005/2/29", ""},
-                {"2005/3/4 24:00", ""},
-                {"2005-03-04", ""},
-                {"205/3/4", ""},
-                {"2005/3/4 noon", ""},
-                {"", ""}};
-    for (const auto& [text, shown] : rows) {
-        const auto value = readDateTime(text);
-        EXPECT_EQ(value ? Format(*value, "yyyy/mm/dd hh:mm:ss") : "", shown) << text;
+    using Form = NumberField::Form;
+    const std::map<std::string, Form> forms{{"plain", Form::Plain},
+                                            {"angle", Form::Angle},
+                                            {"latitude", Form::Latitude},
+                                            {"longitude", Form::Longitude}};
+    for (const Golden& row : golden("number_reading")) {
+        NumberField field{.name = "Box", .unit = row.text("unit")};
+        field.form = forms.at(row.text("form"));
+        if (row.has("low")) field.low = row.number("low");
+        if (row.has("high")) field.high = row.number("high");
+        field.ifEmpty.reset();
+        if (row.text("empty") != "none") field.ifEmpty = row.number("empty");
+
+        const NumberReading reading = readField(row.text("text"), field);
+        const auto value = row.has("value") ? std::optional(row.number("value")) : std::nullopt;
+        EXPECT_EQ(reading.value, value) << row;
+        EXPECT_EQ(reading.remark, row.text("remark")) << row;
+        Remarks remarks;
+        EXPECT_EQ(readField(row.text("text"), field, remarks), reading.value) << row;
+        EXPECT_EQ(remarks.text(), row.has("remark") ? "Box: " + row.text("remark") : "") << row;
+        EXPECT_EQ(remarks.faults.empty(), reading.value.has_value()) << row;
+    }
+    EXPECT_EQ(readField(std::string(400, '9'), {}).remark, "too large a number");
+}
+
+TEST(Reading, kindsOfANumber)
+{
+    using Kind = NumberReading::Kind;
+    const NumberField field{.name = "Box", .low = 0, .high = 90};
+    const std::pair<const char*, Kind> rows[] = {{" ", Kind::Empty},       {"-", Kind::HalfTyped},
+                                                 {"N35", Kind::NoNumber},  {"91", Kind::OutOfRange},
+                                                 {"3,5", Kind::Beginning}, {" 35 ", Kind::Whole}};
+    for (const auto& [text, kind] : rows)
+        EXPECT_EQ(readField(text, field).kind, kind) << text;
+}
+
+TEST(Reading, typedTimes)
+{
+    const std::map<std::string, Due> dues{
+        {"date", Due::Date}, {"time", Due::TimeOfDay}, {"both", Due::DateAndTime}};
+    for (const Golden& row : golden("typed_times")) {
+        const TypedTime time = readTypedTime(row.text("text"), dues.at(row.text("due")));
+        EXPECT_EQ(time.value ? Format(*time.value, "yyyy/mm/dd hh:mm:ss") : "", row.text("shown"))
+            << row;
+        EXPECT_EQ(time.remark, row.text("remark")) << row;
     }
     EXPECT_DOUBLE_EQ(readDateTime("6:00").value(), 0.25) << "a time alone has no date";
+    EXPECT_FALSE(readDateTime("1899/12/31"));
+}
+
+TEST(Remarks, aLineOfThem)
+{
+    Remarks remarks;
+    remarks.warn("TD is 9.25");
+    remarks.fault("no date");
+    remarks.fault("");
+    remarks.fault("no time");
+    remarks.fault("no date");
+    EXPECT_EQ(remarks.text(), "no date; no time; TD is 9.25") << "faults first, each once";
+    EXPECT_EQ(Remarks().text(), "");
+    EXPECT_EQ(quotation(std::string(23, 'x') + "°°"), '"' + std::string(23, 'x') + "…\"")
+        << "no character is cut in two";
+    EXPECT_EQ(quotation(std::string(22, 'x') + "°"), '"' + std::string(22, 'x') + "°\"");
+}
+
+TEST(CourseText, thereIsNoCourse360)
+{
+    const struct {
+        double degrees;
+        const char* format;
+        const char* text;
+    } rows[] = {{359.94, "<000.0>", "<359.9>"}, {359.95, "<000.0>", "<000.0>"},
+                {360, "<000.0>", "<000.0>"},    {0, "<000.0>", "<000.0>"},
+                {45.25, "000.0", "045.3"},      {359.5, "000", "000"},
+                {359.4, "000", "359"}};
+    for (const auto& [degrees, format, text] : rows)
+        EXPECT_EQ(courseText(degrees, format), text);
 }
 
 } // namespace
