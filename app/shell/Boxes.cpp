@@ -1,22 +1,49 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/Boxes.h"
 
-#include "app/reading.h"
-
-#include <QAction>
 #include <QApplication>
-#include <QClipboard>
-#include <QContextMenuEvent>
-#include <QDropEvent>
 #include <QFocusEvent>
-#include <QMenu>
-#include <QMimeData>
 #include <QMouseEvent>
+#include <QValidator>
 
-#include <memory>
+#include <algorithm>
 
 namespace korvel
 {
+namespace
+{
+
+/// Every way into a box leads through its validator: keys, paste, drop, middle click, an input
+/// method. A control character in a record would make all of it unreadable.
+class WithoutControls : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& cursor) const override
+    {
+        const auto isControl = [](QChar each) {
+            return each.category() == QChar::Other_Control ||
+                   each.category() == QChar::Separator_Line ||
+                   each.category() == QChar::Separator_Paragraph;
+        };
+        if (std::none_of(text.begin(), text.end(), isControl)) return Acceptable;
+        QString clean;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const QChar each = text[i];
+            if (!isControl(each))
+                clean += each;
+            else if (each.isSpace())
+                clean += u' ';
+            else if (i < cursor)
+                --cursor;
+        }
+        text = clean;
+        return Acceptable;
+    }
+};
+
+} // namespace
 
 QString memberName(const QString& array, int index)
 {
@@ -26,6 +53,8 @@ QString memberName(const QString& array, int index)
 EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
 {
     setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
+    setMaxLength(longestFigure);
+    setValidator(new WithoutControls(this));
 }
 
 void EntryBox::focusInEvent(QFocusEvent* event)
@@ -89,6 +118,8 @@ KeyUpBox::KeyUpBox(QWidget* parent) : EntryBox(parent)
 void KeyUpBox::fill(const QString& text)
 {
     m_held = text;
+    // A result is shown in full, however long; the limit is for what is typed.
+    setMaxLength(std::max<int>(longestFigure, static_cast<int>(text.size())));
     setText(text);
 }
 
@@ -122,202 +153,6 @@ void setEntryOrder(const std::vector<EntryBox*>& boxes)
 {
     for (std::size_t i = 0; i < boxes.size(); ++i)
         boxes[i]->setNext(boxes[(i + 1) % boxes.size()]);
-}
-
-ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
-{
-    setTextFormat(Qt::PlainText);
-    setSelectable(false);
-    QFont larger = font();
-    larger.setPointSizeF(larger.pointSizeF() * 1.2);
-    setFont(larger);
-    setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
-}
-
-/// The toolkit keeps a text document behind a label that can be selected or take the focus. It is
-/// most of the time from a key to the painted labels, so it is there only while somebody selects.
-void ResultLabel::setSelectable(bool selectable)
-{
-    setTextInteractionFlags(selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
-                                       : Qt::NoTextInteraction);
-}
-
-void ResultLabel::reserve(const QString& longest)
-{
-    setFixedSize(fontMetrics().horizontalAdvance(longest), fontMetrics().height());
-}
-
-void ResultLabel::showReserved(const QString& text)
-{
-    if (text == this->text()) return;
-    const int wide = fontMetrics().horizontalAdvance(text);
-    if (wide > minimumWidth()) setFixedWidth(wide);
-    setText(text);
-}
-
-void ResultLabel::paintEvent(QPaintEvent* event)
-{
-    if (textInteractionFlags() != Qt::NoTextInteraction || textFormat() != Qt::PlainText ||
-        wordWrap() || text().contains('\n')) {
-        QLabel::paintEvent(event);
-        return;
-    }
-    QPainter painter(this);
-    painter.setPen(palette().color(foregroundRole()));
-    m_figures.draw(painter, contentsRect(), alignment(), text());
-}
-
-void ResultLabel::mousePressEvent(QMouseEvent* event)
-{
-    setSelectable(true);
-    setFocus(Qt::MouseFocusReason);
-    QLabel::mousePressEvent(event);
-}
-
-void ResultLabel::focusOutEvent(QFocusEvent* event)
-{
-    QLabel::focusOutEvent(event);
-    // Its own context menu and a look into another program leave the selection alone.
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
-        setSelectable(false);
-}
-
-void ResultLabel::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Copy))
-        copy();
-    else
-        QLabel::keyPressEvent(event);
-}
-
-void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
-{
-    QMenu menu(this);
-    menu.addAction("&Copy", this, [this] { copy(); });
-    menu.exec(event->globalPos());
-}
-
-void ResultLabel::copy()
-{
-    const bool part = hasSelectedText() && selectedText() != text();
-    const QString copied = part ? selectedText() : copyText ? copyText() : text();
-    if (!copied.isEmpty()) QApplication::clipboard()->setText(copied);
-}
-
-PositionBox::PositionBox(Axis axis, QWidget* parent)
-    : EntryBox(parent), m_axis(axis), m_echo(new ResultLabel(parent))
-{
-    m_echo->setFont(font());
-    m_echo->copyText = [this] { return positionToCopy(); };
-    connect(this, &QLineEdit::textChanged, this, [this] { showEcho(); });
-    connect(this, &QObject::objectNameChanged, this,
-            [this](const QString& name) { m_echo->setObjectName("echo " + name); });
-    // Room for the longest echo, so that the window keeps its shape while the officer types.
-    m_echo->reserve("000°00.0' W (minutes 75)");
-}
-
-void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
-{
-    latitude->m_partner = longitude;
-    longitude->m_partner = latitude;
-}
-
-void PositionBox::setBriefEcho()
-{
-    m_briefEcho = true;
-    m_echo->reserve("000°00.000' W !");
-    showEcho();
-}
-
-void PositionBox::showEcho()
-{
-    const Echo echo = positionEcho(value(), m_axis);
-    QString hint = QString::fromStdString(echo.hint);
-    if (!m_remark.isEmpty() && m_remarkedAt == text()) {
-        if (!hint.isEmpty()) hint += "; ";
-        hint += m_remark;
-    }
-    const QString full = QString::fromStdString(echo.text);
-    const QString remark = m_briefEcho ? " !" : " (" + hint + ")";
-    m_echo->showReserved(hint.isEmpty() ? full : full + remark);
-    m_echo->setToolTip(hint);
-    setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
-}
-
-QString PositionBox::positionToCopy() const
-{
-    const PositionBox* latitude = m_axis == Axis::Latitude ? this : m_partner;
-    const PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
-    if (!latitude || !longitude || !readLeadingNumber(latitude->value()) ||
-        !readLeadingNumber(longitude->value()))
-        return QString::fromStdString(positionForCopy(readNumber(value()), m_axis));
-    return QString::fromStdString(
-        positionForCopy(readNumber(latitude->value()), readNumber(longitude->value())));
-}
-
-void PositionBox::pasteText(const QString& pasted)
-{
-    const auto position = parsePosition(pasted.toStdString(), m_axis);
-    if (!position) {
-        insert(pasted.simplified());
-        return;
-    }
-    PositionBox* latitude = m_axis == Axis::Latitude ? this : m_partner;
-    PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
-    const auto fill = [&](PositionBox* box, const std::optional<std::string>& packed) {
-        if (!box || !packed) return;
-        box->m_remark = QString::fromStdString(position->remark);
-        box->m_remarkedAt = QString::fromStdString(*packed);
-        if (box->text() == box->m_remarkedAt)
-            box->showEcho();
-        else
-            box->setText(box->m_remarkedAt);
-    };
-    fill(latitude, position->latitude);
-    fill(longitude, position->longitude);
-}
-
-void PositionBox::keyPressEvent(QKeyEvent* event)
-{
-    if (event->matches(QKeySequence::Paste))
-        pasteText(QApplication::clipboard()->text());
-    else
-        EntryBox::keyPressEvent(event);
-}
-
-void PositionBox::mouseReleaseEvent(QMouseEvent* event)
-{
-    const QClipboard* clipboard = QApplication::clipboard();
-    if (event->button() == Qt::MiddleButton && clipboard->supportsSelection())
-        pasteText(clipboard->text(QClipboard::Selection));
-    else
-        EntryBox::mouseReleaseEvent(event);
-}
-
-void PositionBox::contextMenuEvent(QContextMenuEvent* event)
-{
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
-        paste->disconnect();
-        connect(paste, &QAction::triggered, this,
-                [this] { pasteText(QApplication::clipboard()->text()); });
-    }
-    menu->addSeparator();
-    menu->addAction("Copy p&osition", this,
-                    [this] { QApplication::clipboard()->setText(positionToCopy()); });
-    menu->exec(event->globalPos());
-}
-
-void PositionBox::dropEvent(QDropEvent* event)
-{
-    const QString dropped = event->mimeData()->text();
-    if (!parsePosition(dropped.toStdString(), m_axis)) {
-        EntryBox::dropEvent(event);
-        return;
-    }
-    setFocus(Qt::OtherFocusReason);
-    pasteText(dropped);
-    event->acceptProposedAction();
 }
 
 } // namespace korvel

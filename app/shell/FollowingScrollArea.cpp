@@ -10,13 +10,12 @@ namespace korvel
 {
 
 FollowingScrollArea::FollowingScrollArea(QWidget* content)
+    : m_focus([this](QWidget* now) { follow(now); })
 {
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setWidget(content);
     setFocusPolicy(Qt::NoFocus); // Tab goes from box to box
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget*, QWidget* now) { follow(now); });
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { placeHeading(); });
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/FocusFollower.h"
+
 #include <QScrollArea>
 
 namespace korvel
@@ -32,6 +34,7 @@ private:
 
     QWidget* m_heading = nullptr;
     bool m_isStrip = false;
+    FocusFollower m_focus;
 };
 
 } // namespace korvel

@@ -21,7 +21,7 @@ void PictureBox::setUserScale(const UserScale& scale, const QRect& changing)
 
 bool PictureBox::isToBeDrawn(const QRectF& part) const
 {
-    return m_drawnSize.isValid() || m_painted.intersects(part.toAlignedRect());
+    return isOnPaper() || m_painted.intersects(part.toAlignedRect());
 }
 
 void PictureBox::setPlotMargins(const QMargins& margins)
@@ -32,7 +32,7 @@ void PictureBox::setPlotMargins(const QMargins& margins)
 
 QRectF PictureBox::plotArea() const
 {
-    const QSize whole = m_drawnSize.isValid() ? m_drawnSize : size();
+    const QSize whole = isOnPaper() ? m_drawnSize : size();
     return QRectF(QPointF(0, 0), QSizeF(whole)).marginsRemoved(m_margins);
 }
 
@@ -55,7 +55,7 @@ void PictureBox::drawOn(QPainter& painter, const QSize& size)
 {
     m_drawnSize = size;
     painter.setRenderHint(QPainter::Antialiasing);
-    if (draw) draw(painter);
+    draw(painter);
     m_drawnSize = QSize();
 }
 
@@ -64,7 +64,7 @@ void PictureBox::paintEvent(QPaintEvent* event)
     m_painted = event->region();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (draw) draw(painter);
+    draw(painter);
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* event)

@@ -6,13 +6,11 @@
 #include <QPainter>
 #include <QWidget>
 
-#include <functional>
-
 namespace korvel
 {
 
-/// A picture with a user scale. It keeps no pixels: whoever owns it hands in a routine that draws
-/// it afresh at any size and resolution.
+/// A picture with a user scale. It keeps no pixels: each picture draws itself afresh at any size
+/// and resolution.
 class PictureBox : public QWidget
 {
     Q_OBJECT
@@ -32,9 +30,6 @@ public:
     QPointF toPixel(double x, double y) const;
     QPointF toUser(QPointF pixel) const;
 
-    /// Draws the picture; called with a painter in pixels, antialiasing on.
-    std::function<void(QPainter&)> draw;
-
     /// False while a paint leaves this part as it is; for parts that cost more to draw than to ask.
     bool isToBeDrawn(const QRectF& part) const;
 
@@ -49,6 +44,11 @@ signals:
     void left();
 
 protected:
+    /// Draws the picture; called with a painter in pixels, antialiasing on.
+    virtual void draw(QPainter& painter) = 0;
+    /// True while it is drawn at another size than the widget's.
+    bool isOnPaper() const { return m_drawnSize.isValid(); }
+
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

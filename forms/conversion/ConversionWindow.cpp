@@ -37,7 +37,7 @@ ConversionWindow::ConversionWindow(Program& program, const ConversionKind& kind)
     addBoxes(kind.box);
     layOut();
     addMenus();
-    addCalculation({"Conversion", {}, {}, [this] { convert(); }});
+    addCalculation();
     useConversionSettings(kind.file);
     loadSettings();
     m_boxes[m_lead]->setFocus();
@@ -48,19 +48,27 @@ void ConversionWindow::addBoxes(const char* name)
     std::vector<EntryBox*> order;
     for (const NavFunc113::Unit& unit : NavFunc113::UnitTable(m_quantity)) {
         const std::size_t index = m_boxes.size();
-        KeyUpBox* box = addKeyUpBox(memberName(name, static_cast<int>(index)),
-                                    text(unit.caption) + ", " + text(unit.symbol));
+        auto* box = new KeyUpBox(body());
+        box->setObjectName(memberName(name, static_cast<int>(index)));
+        box->setAccessibleName(text(unit.caption) + ", " + text(unit.symbol));
         box->setToolTip(QString::fromStdString(unitToolTip(m_quantity, index)));
         box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));
-        box->onKeyUp = [this, index] {
-            if (isLoading()) return;
-            m_lead = index;
-            calculate(0);
-        };
         m_boxes.push_back(box);
         order.push_back(box);
     }
     setEntryOrder(order);
+}
+
+void ConversionWindow::addCalculation()
+{
+    const int conversion = calculations().add(
+        {"Conversion", {m_boxes.begin(), m_boxes.end()}, {}, [this] { convert(); }});
+    for (std::size_t index = 0; index < m_boxes.size(); ++index)
+        m_boxes[index]->onKeyUp = [this, index, conversion] {
+            if (calculations().isHeld()) return;
+            m_lead = index;
+            calculations().run(conversion);
+        };
 }
 
 void ConversionWindow::layOut()
@@ -69,9 +77,14 @@ void ConversionWindow::layOut()
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         const int row = static_cast<int>(i);
-        addEntryRow(grid, row, text(units[i].caption), m_boxes[i], text(units[i].symbol));
-        for (int column : {0, 2})
-            grid->itemAtPosition(row, column)->widget()->setToolTip(m_boxes[i]->toolTip());
+        auto* caption = new QLabel(text(units[i].caption));
+        auto* symbol = new QLabel(text(units[i].symbol));
+        caption->setBuddy(m_boxes[i]);
+        caption->setToolTip(m_boxes[i]->toolTip());
+        symbol->setToolTip(m_boxes[i]->toolTip());
+        grid->addWidget(caption, row, 0);
+        grid->addWidget(m_boxes[i], row, 1);
+        grid->addWidget(symbol, row, 2);
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(static_cast<int>(units.size()), 1);
@@ -79,17 +92,17 @@ void ConversionWindow::layOut()
 
 void ConversionWindow::addMenus()
 {
-    QMenu* figures = addMenu("&Data", "mnuData");
-    addEntry(figures, "mnuData", 0, "&Clear", [this] { clearBoxes(); });
-    addEntry(figures, "mnuData", 1, "&Print...", [this] { printForm(); });
+    QMenu* figures = menus().add("&Data", "mnuData");
+    menus().addEntry(figures, "mnuData", 0, "&Clear", [this] { clearBoxes(); });
+    menus().addEntry(figures, "mnuData", 1, "&Print...", [this] { printForm(); });
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
-        addStoreSingle(numbered(i, units[i]), [this, i] {
+        menus().addStoreSingle(numbered(i, units[i]), [this, i] {
             return convertedInFull(m_quantity, m_lead, m_boxes[m_lead]->value(), i);
         });
-        addRecallSingle("into " + numbered(i, units[i]), m_boxes[i]);
+        menus().addRecallSingle("into " + numbered(i, units[i]), m_boxes[i]);
     }
-    addLinksMenu("mnuLinks");
+    menus().addLinks("mnuLinks");
 }
 
 void ConversionWindow::useConversionSettings(const char* file)
@@ -97,20 +110,20 @@ void ConversionWindow::useConversionSettings(const char* file)
     std::vector<Kind> kinds(m_boxes.size(), Kind::Text);
     kinds.push_back(Kind::Number);
     const auto save = [this] {
-        Record record;
+        Record values;
         for (const KeyUpBox* box : m_boxes)
-            record.emplace_back(box->value());
-        record.emplace_back(static_cast<double>(m_lead));
-        return record;
+            values.emplace_back(box->value());
+        values.emplace_back(static_cast<double>(m_lead));
+        return values;
     };
-    const auto load = [this](const Record& record) {
+    const auto load = [this](const Record& values) {
         for (std::size_t i = 0; i < m_boxes.size(); ++i)
-            m_boxes[i]->fill(QString::fromStdString(textOf(record[i])));
-        const double lead = numberOf(record.back());
+            m_boxes[i]->fill(QString::fromStdString(textOf(values[i])));
+        const double lead = numberOf(values.back());
         if (lead >= 0 && lead < static_cast<double>(m_boxes.size()))
             m_lead = static_cast<std::size_t>(lead);
     };
-    useSettings(file, std::move(kinds), save, load);
+    record().use(file, std::move(kinds), save, load);
 }
 
 void ConversionWindow::convert()

@@ -27,6 +27,7 @@ public:
 
 private:
     void addBoxes(const char* name);
+    void addCalculation();
     void layOut();
     void addMenus();
     void useConversionSettings(const char* file);

@@ -18,27 +18,27 @@ public:
     explicit frmCDDR(Program& program);
 
 private:
-    static constexpr int positionFields = 6; ///< txtCDDR(0) .. (5)
+    static constexpr std::size_t positionFields = 6; ///< txtCDDR(0) .. (5)
 
-    void addBoxes();
+    void addLabelsOfResults();
     void addOptions();
     QGroupBox* layOutCD();
     QGroupBox* layOutDR();
-    void addPositionRow(class QGridLayout* grid, int row, int field, const char* caption);
+    void addPositionRow(QGridLayout* grid, int row, std::size_t field);
     void addMenus();
     void addDataMenu();
     void addMemoMenus();
 
     void runCD();
     void runDR();
-    void optNSEW_Click(int index);
-    void checkValueName(int field);
-    void copyPosition(int fromField, int toField);
-    void putDRResult(int toField);
+    void optNSEW_Click(std::size_t index);
+    void checkValueName(std::size_t field);
+    void copyPosition(std::size_t fromField, std::size_t toField);
+    void putDRResult(std::size_t toField);
     void exchangeCD();
-    void clearCalculator(int first);
+    void clearCalculator(std::size_t first);
 
-    std::array<EntryBox*, 8> m_txtCDDR{};
+    FieldBoxes m_txtCDDR;
     std::array<ResultLabel*, 4> m_lblCDDR{};
     std::array<QRadioButton*, 12> m_optNSEW{};
     CDResult m_cd;

@@ -116,9 +116,9 @@ void CrudeResults::show(const CrudeResult& result)
         label->setText(QString::fromStdString(result.*figure));
 }
 
-std::vector<QLabel*> CrudeResults::labels() const
+std::vector<ResultLabel*> CrudeResults::labels() const
 {
-    std::vector<QLabel*> all;
+    std::vector<ResultLabel*> all;
     for (const auto& [label, figure] : m_figures)
         all.push_back(label);
     return all;

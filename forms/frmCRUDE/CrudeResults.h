@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Boxes.h"
+#include "app/shell/ResultLabel.h"
 #include "forms/frmCRUDE/CalculateCrude.h"
 
 #include <vector>
@@ -18,7 +18,7 @@ public:
     CrudeResults();
 
     void show(const CrudeResult& result);
-    std::vector<QLabel*> labels() const;
+    std::vector<ResultLabel*> labels() const;
 
     /// The label that shouts when the oil is outside its table.
     ResultLabel* rangeFlag() const { return m_rangeFlag; }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCRUDE/frmCRUDE.h"
 
+#include "app/shell/widget_colours.h"
+#include "forms/frmCRUDE/CrudeFields.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -11,10 +14,33 @@
 
 namespace korvel
 {
-
-frmCRUDE::frmCRUDE(Program& program) : CalculatorWindow(program, "frmCRUDE", "Crude oil")
+namespace
 {
-    addBoxes();
+
+enum : std::size_t {
+    Volume,
+    FreeWater,
+    Temperature,
+    Density,
+    ObservedTemperature,
+    SedimentAndWater,
+    KLperBbl
+};
+
+/// Where the texts of the boxes belong.
+constexpr std::array<std::string CrudeInput::*, CrudeFields.size()> crudeInputs = {
+    &CrudeInput::volume,      &CrudeInput::freeWater,           &CrudeInput::temperature,
+    &CrudeInput::density,     &CrudeInput::observedTemperature, &CrudeInput::sedimentAndWater,
+    &CrudeInput::klPerBarrel,
+};
+
+} // namespace
+
+frmCRUDE::frmCRUDE(Program& program)
+    : CalculatorWindow(program, "frmCRUDE", "Crude oil"), m_boxes(addFields(CrudeFields))
+{
+    m_boxes[KLperBbl]->setText(defaultKLPerBarrel);
+    addChoices();
     m_results = new CrudeResults;
     auto* columns = new QHBoxLayout(scrollBody());
     auto* left = new QVBoxLayout;
@@ -25,34 +51,24 @@ frmCRUDE::frmCRUDE(Program& program) : CalculatorWindow(program, "frmCRUDE", "Cr
     columns->addWidget(m_results, 1);
     addMenus();
 
-    std::vector<QLineEdit*> inputs;
-    for (const auto& [box, field] : m_boxes)
-        inputs.push_back(box);
     const int calculation =
-        addCalculation({"Cargo", std::move(inputs), m_results->labels(), [this] { run(); }});
+        calculations().add({"Cargo", m_boxes.all(), m_results->labels(), [this] { run(); }});
     const auto recalculate = [this, calculation] {
-        if (isLoading()) return;
+        if (calculations().isHeld()) return;
         showUnits();
-        calculate(calculation);
+        calculations().run(calculation);
     };
     for (QComboBox* choice : m_choices)
         connect(choice, &QComboBox::currentIndexChanged, this, recalculate);
     connect(m_chkObserved, &QCheckBox::toggled, this, recalculate);
     connect(m_cmdFromDensity, &QPushButton::clicked, this, [this] {
         const std::string factor = KLPerBarrelFromDensity(input());
-        if (!factor.empty()) m_txtKLperBbl->setText(QString::fromStdString(factor));
+        if (!factor.empty()) m_boxes[KLperBbl]->setText(QString::fromStdString(factor));
     });
     useCrudeSettings();
     loadSettings();
     showUnits();
-    m_txtVolume->setFocus();
-}
-
-KeyUpBox* frmCRUDE::addBox(const QString& name, std::string CrudeInput::*field)
-{
-    KeyUpBox* box = addKeyUpBox(name, {});
-    m_boxes.emplace_back(box, field);
-    return box;
+    m_boxes[Volume]->setFocus();
 }
 
 QComboBox* frmCRUDE::addChoice(const QString& name, const QString& accessibleName,
@@ -66,23 +82,8 @@ QComboBox* frmCRUDE::addChoice(const QString& name, const QString& accessibleNam
     return choice;
 }
 
-void frmCRUDE::addBoxes()
+void frmCRUDE::addChoices()
 {
-    m_txtVolume = addBox("txtVolume", &CrudeInput::volume);
-    m_txtFreeWater = addBox("txtFreeWater", &CrudeInput::freeWater);
-    m_txtTemperature = addBox("txtTemperature", &CrudeInput::temperature);
-    m_txtDensity = addBox("txtDensity", &CrudeInput::density);
-    m_txtObservedTemperature = addBox("txtObservedTemperature", &CrudeInput::observedTemperature);
-    m_txtSedimentAndWater = addBox("txtSedimentAndWater", &CrudeInput::sedimentAndWater);
-    m_txtKLperBbl = addBox("txtKLperBbl", &CrudeInput::klPerBarrel);
-    m_txtSedimentAndWater->setAccessibleName("Sediment and water, per cent");
-    m_txtKLperBbl->setAccessibleName("KL/Bbl, kilolitres at 15 °C per barrel at 60 °F");
-    m_txtKLperBbl->setText(defaultKLPerBarrel);
-    std::vector<EntryBox*> order;
-    for (const auto& [box, field] : m_boxes)
-        order.push_back(box);
-    setEntryOrder(order);
-
     m_cboVolumeUnit = addChoice("cboVolumeUnit", "Unit of the volume", {"kL (m³)", "bbl"});
     m_cboTemperatureUnit = addChoice("cboTemperatureUnit", "Unit of temperatures", {"°C", "°F"});
     m_cboDensityBase =
@@ -108,22 +109,22 @@ QWidget* frmCRUDE::layOutInputs()
     auto* group = new QGroupBox("Observed");
     auto* grid = new QGridLayout(group);
     int row = 0;
-    const auto line = [&](const QString& caption, QWidget* field, QWidget* beside) {
-        auto* label = new QLabel(caption);
-        label->setBuddy(field);
+    const auto line = [&](std::size_t field, QWidget* beside) {
+        auto* label = new QLabel(CrudeFields[field].caption);
+        label->setBuddy(m_boxes[field]);
         grid->addWidget(label, row, 0);
-        grid->addWidget(field, row, 1);
-        if (beside) grid->addWidget(beside, row, 2);
-        ++row;
+        grid->addWidget(m_boxes[field], row, 1);
+        grid->addWidget(beside, row++, 2);
     };
-    line("V&olume", m_txtVolume, m_cboVolumeUnit);
-    line("Fr&ee water", m_txtFreeWater, m_lblFreeWaterUnit);
-    line("&Temperature", m_txtTemperature, m_cboTemperatureUnit);
-    line("&Density", m_txtDensity, m_cboDensityBase);
-    line("", m_chkObserved, m_cboReadWith);
-    line("  &at temperature", m_txtObservedTemperature, m_lblObservedTemperatureUnit);
-    line("&Sediment and water", m_txtSedimentAndWater, new QLabel("%"));
-    line("&KL/Bbl", m_txtKLperBbl, m_cmdFromDensity);
+    line(Volume, m_cboVolumeUnit);
+    line(FreeWater, m_lblFreeWaterUnit);
+    line(Temperature, m_cboTemperatureUnit);
+    line(Density, m_cboDensityBase);
+    grid->addWidget(m_chkObserved, row, 1);
+    grid->addWidget(m_cboReadWith, row++, 2);
+    line(ObservedTemperature, m_lblObservedTemperatureUnit);
+    line(SedimentAndWater, new QLabel("%"));
+    line(KLperBbl, m_cmdFromDensity);
     return group;
 }
 
@@ -146,11 +147,11 @@ QWidget* frmCRUDE::layOutMethods()
 
 void frmCRUDE::addMenus()
 {
-    QMenu* cargo = addMenu("&Cargo", "mnuCargo");
-    addEntry(cargo, "mnuCargo", 0, "&Clear", [this] { clearCargo(); });
-    addEntry(cargo, "mnuCargo", 1, "&Print...", [this] { printForm(); });
+    QMenu* cargo = menus().add("&Cargo", "mnuCargo");
+    menus().addEntry(cargo, "mnuCargo", 0, "&Clear", [this] { clearCargo(); });
+    menus().addEntry(cargo, "mnuCargo", 1, "&Print...", [this] { printForm(); });
     addMemoMenus();
-    addLinksMenu("mnuLinks");
+    menus().addLinks("mnuLinks");
 }
 
 void frmCRUDE::addMemoMenus()
@@ -167,11 +168,11 @@ void frmCRUDE::addMemoMenus()
         {"VC&F", &CrudeResult::vcf},
     };
     for (const auto& [caption, figure] : stored)
-        addStoreSingle(caption, [this, at = figure] { return m_shown.*at; });
-    addRecallSingle("into &volume", m_txtVolume);
-    addRecallSingle("into &free water", m_txtFreeWater);
-    addRecallSingle("into &temperature", m_txtTemperature);
-    addRecallSingle("into &density", m_txtDensity);
+        menus().addStoreSingle(caption, [this, at = figure] { return m_shown.*at; });
+    menus().addRecallSingle("into &volume", m_boxes[Volume]);
+    menus().addRecallSingle("into &free water", m_boxes[FreeWater]);
+    menus().addRecallSingle("into &temperature", m_boxes[Temperature]);
+    menus().addRecallSingle("into &density", m_boxes[Density]);
 }
 
 void frmCRUDE::useCrudeSettings()
@@ -180,17 +181,17 @@ void frmCRUDE::useCrudeSettings()
     kinds.insert(kinds.end(), m_choices.size(), Kind::Number);
     kinds.push_back(Kind::Tick);
     const auto save = [this] {
-        Record record;
-        for (const auto& [box, field] : m_boxes)
-            record.emplace_back(box->value());
+        Record values;
+        for (const EntryBox* box : m_boxes.all())
+            values.emplace_back(box->value());
         for (const QComboBox* choice : m_choices)
-            record.emplace_back(static_cast<double>(choice->currentIndex()));
-        record.emplace_back(m_chkObserved->isChecked());
-        return record;
+            values.emplace_back(static_cast<double>(choice->currentIndex()));
+        values.emplace_back(m_chkObserved->isChecked());
+        return values;
     };
-    const auto load = [this](const Record& record) {
-        auto value = record.begin();
-        for (const auto& [box, field] : m_boxes)
+    const auto load = [this](const Record& values) {
+        auto value = values.begin();
+        for (EntryBox* box : m_boxes.all())
             box->setText(QString::fromStdString(textOf(*value++)));
         for (QComboBox* choice : m_choices) {
             const double index = numberOf(*value++);
@@ -199,14 +200,14 @@ void frmCRUDE::useCrudeSettings()
         }
         m_chkObserved->setChecked(tickOf(*value));
     };
-    useSettings("KV_Crude.ini", std::move(kinds), save, load);
+    record().use("KV_Crude.ini", std::move(kinds), save, load);
 }
 
 CrudeInput frmCRUDE::input() const
 {
     CrudeInput cargo;
-    for (const auto& [box, field] : m_boxes)
-        cargo.*field = box->value();
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        cargo.*crudeInputs[i] = m_boxes[i]->value();
     cargo.volumeUnit = static_cast<VolumeUnit>(m_cboVolumeUnit->currentIndex());
     cargo.temperatureUnit = static_cast<TemperatureUnit>(m_cboTemperatureUnit->currentIndex());
     cargo.densityBase = static_cast<DensityBase>(m_cboDensityBase->currentIndex());
@@ -233,32 +234,30 @@ void frmCRUDE::showUnits()
     const bool observed = m_chkObserved->isChecked();
     m_lblFreeWaterUnit->setText(volume);
     m_lblObservedTemperatureUnit->setText(temperature + " (empty: the cargo's)");
-    m_txtObservedTemperature->setEnabled(observed);
+    m_boxes[ObservedTemperature]->setEnabled(observed);
     m_cboReadWith->setEnabled(observed);
-    m_txtDensity->setNext(observed ? m_txtObservedTemperature : m_txtSedimentAndWater);
-    m_txtVolume->setAccessibleName("Observed volume, " + volume);
-    m_txtFreeWater->setAccessibleName("Free water, " + volume);
-    m_txtTemperature->setAccessibleName("Temperature of the cargo, " + temperature);
-    m_txtDensity->setAccessibleName("Density, " + m_cboDensityBase->currentText());
-    m_txtObservedTemperature->setAccessibleName("Temperature at which the density was observed, " +
-                                                temperature);
+    m_boxes[Density]->setNext(m_boxes[observed ? ObservedTemperature : SedimentAndWater]);
+    const auto measured = [this](std::size_t field, const QString& unit) {
+        m_boxes[field]->setAccessibleName(CrudeFields[field].accessibleName + (", " + unit));
+    };
+    measured(Volume, volume);
+    measured(FreeWater, volume);
+    measured(Temperature, temperature);
+    measured(Density, m_cboDensityBase->currentText());
+    measured(ObservedTemperature, temperature);
 }
 
 void frmCRUDE::clearCargo()
 {
-    for (KeyUpBox* box : {m_txtVolume, m_txtFreeWater, m_txtTemperature, m_txtDensity,
-                          m_txtObservedTemperature, m_txtSedimentAndWater})
-        box->clear();
-    m_txtKLperBbl->setText(defaultKLPerBarrel);
-    m_txtVolume->setFocus();
+    m_boxes.clear(Volume, KLperBbl);
+    m_boxes[KLperBbl]->setText(defaultKLPerBarrel);
+    m_boxes[Volume]->setFocus();
 }
 
 void frmCRUDE::applyColours()
 {
     CalculatorWindow::applyColours();
-    QPalette palette = m_results->rangeFlag()->palette();
-    palette.setColor(QPalette::WindowText, program().colours().notice);
-    m_results->rangeFlag()->setPalette(palette);
+    setTextColour(m_results->rangeFlag(), program().colours().notice);
 }
 
 } // namespace korvel

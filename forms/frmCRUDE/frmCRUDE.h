@@ -23,8 +23,7 @@ public:
     explicit frmCRUDE(Program& program);
 
 private:
-    void addBoxes();
-    KeyUpBox* addBox(const QString& name, std::string CrudeInput::*field);
+    void addChoices();
     QComboBox* addChoice(const QString& name, const QString& accessibleName,
                          const QStringList& choices);
     QWidget* layOutInputs();
@@ -38,7 +37,7 @@ private:
     void showUnits();
     void clearCargo();
 
-    std::vector<std::pair<KeyUpBox*, std::string CrudeInput::*>> m_boxes;
+    FieldBoxes m_boxes;
     QComboBox* m_cboVolumeUnit;
     QComboBox* m_cboTemperatureUnit;
     QComboBox* m_cboDensityBase;
@@ -52,13 +51,6 @@ private:
     CrudeResults* m_results;
     CrudeResult m_shown;
 
-    KeyUpBox* m_txtVolume;
-    KeyUpBox* m_txtFreeWater;
-    KeyUpBox* m_txtTemperature;
-    KeyUpBox* m_txtDensity;
-    KeyUpBox* m_txtObservedTemperature;
-    KeyUpBox* m_txtSedimentAndWater;
-    KeyUpBox* m_txtKLperBbl;
     QLabel* m_lblFreeWaterUnit;
     QLabel* m_lblObservedTemperatureUnit;
 

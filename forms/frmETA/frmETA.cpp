@@ -4,6 +4,7 @@
 #include "app/Format.h"
 #include "forms/frmETA/CalculateETA.h"
 #include "forms/frmETA/CalculateReqSpd.h"
+#include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "forms/frmETA/Steps.h"
 
@@ -45,9 +46,11 @@ QScrollBar* scrollBar(const QString& name, const QString& accessibleName, int lo
 
 } // namespace
 
-frmETA::frmETA(Program& program) : CalculatorWindow(program, "frmETA", "ETA and required speed")
+frmETA::frmETA(Program& program)
+    : CalculatorWindow(program, "frmETA", "ETA and required speed"), m_boxes(addFields(ETAFields))
 {
-    addBoxes();
+    nameBoxes();
+    addResults();
     auto* columns = new QHBoxLayout(scrollBody());
     columns->setContentsMargins(0, 0, 0, 0);
     columns->addWidget(layOutPassage(), 1);
@@ -58,29 +61,25 @@ frmETA::frmETA(Program& program) : CalculatorWindow(program, "frmETA", "ETA and 
     addMenus();
     offerDefaults();
 
-    std::vector<QLineEdit*> boxes(m_txtTime.begin(), m_txtTime.end());
-    boxes.insert(boxes.end(), {m_txtTD[0], m_txtTD[1], m_txtDist, m_txtSpeed});
-    std::vector<QLabel*> results5(m_lblSPD.begin(), m_lblSPD.end());
+    std::vector<ResultLabel*> results5(m_lblSPD.begin(), m_lblSPD.end());
     results5.insert(results5.end(), m_lblETA.begin(), m_lblETA.end());
     results5.push_back(m_lblReqSpd);
-    addCalculation({"ETA", boxes, results5, [this] { runETA(); }});
-    useTextSettings("KV_ETA.ini", boxes);
+    calculations().add({"ETA", m_boxes.all(), results5, [this] { runETA(); }});
+    record().useTexts("KV_ETA.ini", m_boxes.all());
     loadSettings();
     m_txtTime[0]->setFocus();
 }
 
-void frmETA::addBoxes()
+void frmETA::nameBoxes()
 {
-    m_txtTime = addTextBoxes<4>("txtTime", {"Departure date, year/month/day",
-                                            "Departure time, hours:minutes, local",
-                                            "Arrival date wanted, year/month/day",
-                                            "Arrival time wanted, hours:minutes, local"});
-    m_txtTD = addTextBoxes<2>("txtTD", {"Time difference TD at departure, hours, east positive",
-                                        "Time difference TD at arrival, hours, east positive"});
-    m_txtDist = addTextBox("txtDist", "Distance, nautical miles");
-    m_txtSpeed = addTextBox("txtSpeed", "Speed, knots");
-    setEntryOrder({m_txtTime[0], m_txtTime[1], m_txtTime[2], m_txtTime[3], m_txtTD[0], m_txtTD[1],
-                   m_txtDist, m_txtSpeed});
+    m_txtTime = {m_boxes[0], m_boxes[1], m_boxes[2], m_boxes[3]};
+    m_txtTD = {m_boxes[4], m_boxes[5]};
+    m_txtDist = m_boxes[6];
+    m_txtSpeed = m_boxes[7];
+}
+
+void frmETA::addResults()
+{
     m_lblSPD = addLabels<5>("lblSPD");
     m_lblETA = addLabels<5>("lblETA");
     m_lblReqSpd = addLabel("lblReqSpd");
@@ -216,23 +215,27 @@ void frmETA::addMenus()
     const auto store = [this](const std::string& text) {
         program().actions().StoreInMemo(KORVEL2000Actions::Single, text);
     };
-    QMenu* memo = addMenu("&Memo", "mnuETA");
-    addEntry(memo, "mnuETA", 0, "Store &distance", [=, this] { store(m_txtDist->value()); });
-    addEntry(memo, "mnuETA", 1, "Store &speed", [=, this] { store(m_txtSpeed->value()); });
-    addEntry(memo, "mnuETA", 2, "Store &required speed", [=, this] { store(m_requiredSpeed); });
+    QMenu* memo = menus().add("&Memo", "mnuETA");
+    menus().addEntry(memo, "mnuETA", 0, "Store &distance",
+                     [=, this] { store(m_txtDist->value()); });
+    menus().addEntry(memo, "mnuETA", 1, "Store &speed", [=, this] { store(m_txtSpeed->value()); });
+    menus().addEntry(memo, "mnuETA", 2, "Store &required speed",
+                     [=, this] { store(m_requiredSpeed); });
     memo->addSeparator();
-    addEntry(memo, "mnuETA", 3, "Recall into d&istance", [this] { recallSingle(m_txtDist); });
-    addEntry(memo, "mnuETA", 4, "Recall into s&peed", [this] { recallSingle(m_txtSpeed); });
-    addLinksMenu("mnuWindows");
+    menus().addEntry(memo, "mnuETA", 3, "Recall into d&istance",
+                     [this] { menus().recallSingle(m_txtDist); });
+    menus().addEntry(memo, "mnuETA", 4, "Recall into s&peed",
+                     [this] { menus().recallSingle(m_txtSpeed); });
+    menus().addLinks("mnuWindows");
 }
 
 void frmETA::runETA()
 {
     const auto arrivals =
-        CalculateETA({m_txtTime[0]->value(), m_txtTime[1]->value(), texts<0, 2>(m_txtTD),
+        CalculateETA({m_txtTime[0]->value(), m_txtTime[1]->value(), m_boxes.texts<4, 2>(),
                       m_txtDist->value(), m_txtSpeed->value()});
     const auto required =
-        CalculateReqSpd({texts<0, 4>(m_txtTime), texts<0, 2>(m_txtTD), m_txtDist->value()});
+        CalculateReqSpd({m_boxes.texts<0, 4>(), m_boxes.texts<4, 2>(), m_txtDist->value()});
 
     for (std::size_t i = 0; i < m_lblSPD.size(); ++i) {
         if (arrivals.labels) {

@@ -28,7 +28,8 @@ private:
         bool moving = false; ///< the bar is writing, nobody types
     };
 
-    void addBoxes();
+    void nameBoxes();
+    void addResults();
     void addTimeBar(TimeEntry& entry, std::size_t firstBox, const QString& name,
                     const QString& accessibleName);
     void addSpeedBar();
@@ -44,6 +45,7 @@ private:
     void scrTime_Change(TimeEntry& entry);
     void scrSpeed_Change();
 
+    FieldBoxes m_boxes;
     std::array<EntryBox*, 4> m_txtTime{};
     std::array<EntryBox*, 2> m_txtTD{};
     EntryBox* m_txtDist = nullptr;

@@ -39,7 +39,6 @@ GCPicture::GCPicture(Program& program) : m_program(program), m_unit(QFontMetrics
     const int legend =
         Legend::width(metrics, "Departure Waypoint Arrival Great circle Rhumb line", 2, 3);
     setMinimumSize(legend + 3 * metrics.height(), 12 * metrics.height());
-    draw = [this](QPainter& painter) { paint(painter); };
 }
 
 void GCPicture::setChart(GCChart chart)
@@ -51,7 +50,7 @@ void GCPicture::setChart(GCChart chart)
                  rect().adjusted(0, sameLegend ? qCeil(legendStrip().bottom()) : 0, 0, 0));
 }
 
-void GCPicture::paint(QPainter& painter) const
+void GCPicture::draw(QPainter& painter)
 {
     painter.fillRect(plotArea(), colours().paper);
     if (!m_chart.route.empty()) {

@@ -17,8 +17,10 @@ public:
 
     void setChart(GCChart chart);
 
+protected:
+    void draw(QPainter& painter) override;
+
 private:
-    void paint(QPainter& painter) const;
     void drawGrid(QPainter& painter) const;
     void drawLines(QPainter& painter) const;
     void drawPoints(QPainter& painter) const;

@@ -3,6 +3,7 @@
 
 #include "app/shell/FollowingScrollArea.h"
 #include "forms/frmGC2000/DrawWPs.h"
+#include "forms/frmGC2000/GCFields.h"
 #include "forms/frmGC2000/GCPicture.h"
 #include "navlib/arithmetic_error.h"
 
@@ -15,15 +16,6 @@ namespace korvel
 {
 namespace
 {
-
-constexpr std::array<const char*, 4> captions = {"Departure latitude", "Departure longitude",
-                                                 "Arrival latitude", "Arrival longitude"};
-constexpr std::array<const char*, 4> accessibleNames = {
-    "Departure latitude, degrees.minutes, north positive, up to 65",
-    "Departure longitude, degrees.minutes, east positive",
-    "Arrival latitude, degrees.minutes, north positive, up to 65",
-    "Arrival longitude, degrees.minutes, east positive",
-};
 
 /// The columns of the waypoint table, each wide enough for its longest text.
 struct TableColumn {
@@ -53,9 +45,9 @@ QGridLayout* addPanel(QWidget* panel, const QString& title)
 
 } // namespace
 
-frmGC2000::frmGC2000(Program& program) : CalculatorWindow(program, "frmGC2000", "Great circle")
+frmGC2000::frmGC2000(Program& program)
+    : CalculatorWindow(program, "frmGC2000", "Great circle"), m_txtGC(addFields(GCFields))
 {
-    addBoxes();
     addResults();
     auto* grid = new QGridLayout(scrollBody());
     grid->setContentsMargins(0, 0, 0, 0);
@@ -68,25 +60,10 @@ frmGC2000::frmGC2000(Program& program) : CalculatorWindow(program, "frmGC2000", 
     grid->setRowStretch(1, 1);
     addMenus();
 
-    addCalculation(
-        {"Great circle", {m_txtGC.begin(), m_txtGC.end()}, allResults(), [this] { runGC(); }});
-    useTextSettings("KV_GC.ini", {m_txtGC.begin(), m_txtGC.end()});
+    calculations().add({"Great circle", m_txtGC.all(), allResults(), [this] { runGC(); }});
+    record().useTexts("KV_GC.ini", m_txtGC.all());
     loadSettings();
     m_txtGC[0]->setFocus();
-}
-
-void frmGC2000::addBoxes()
-{
-    std::array<PositionBox*, 4> boxes{};
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes[i] =
-            addPositionBox(memberName("txtGC", static_cast<int>(i)),
-                           i % 2 == 0 ? Axis::Latitude : Axis::Longitude, accessibleNames[i]);
-        m_txtGC[i] = boxes[i];
-    }
-    PositionBox::pair(boxes[0], boxes[1]);
-    PositionBox::pair(boxes[2], boxes[3]);
-    setEntryOrder({m_txtGC.begin(), m_txtGC.end()});
 }
 
 void frmGC2000::addResults()
@@ -137,15 +114,8 @@ QWidget* frmGC2000::layOutPositions()
 {
     auto* group = new QWidget;
     auto* grid = addPanel(group, "Positions, degrees.minutes (latitudes up to 65)");
-    for (std::size_t i = 0; i < m_txtGC.size(); ++i) {
-        auto* box = static_cast<PositionBox*>(m_txtGC[i]);
-        auto* label = new QLabel(captions[i]);
-        label->setBuddy(box);
-        const int row = static_cast<int>(i);
-        grid->addWidget(label, row, 0);
-        grid->addWidget(box, row, 1);
-        grid->addWidget(box->echo(), row, 2);
-    }
+    for (std::size_t i = 0; i < m_txtGC.size(); ++i)
+        m_txtGC.addRow(grid, static_cast<int>(i), i);
     grid->setRowStretch(4, 1);
     return group;
 }
@@ -208,8 +178,9 @@ QWidget* frmGC2000::layOutTable()
               column);
     for (int row = 0; row < rowCount; ++row) {
         const auto at = static_cast<std::size_t>(row);
-        m_lblWpNo[at] = new QLabel;
-        m_lblWpNo[at]->setObjectName(memberName("lblWpNo", row));
+        m_lblWpNo[at] = addLabel(memberName("lblWpNo", row));
+        m_lblWpNo[at]->setFont(font());
+        m_lblWpNo[at]->passByTab();
         QLabel* const cells[] = {m_lblWpNo[at], m_lblWpLat[at], m_lblWpLong[at], m_lblWpCo[at],
                                  m_lblWpDist[at]};
         for (int column = 0; column < static_cast<int>(tableColumns.size()); ++column)
@@ -230,14 +201,13 @@ QWidget* frmGC2000::layOutTable()
 
 void frmGC2000::addMenus()
 {
-    QMenu* clear = addMenu("&Clear", "mnuAC");
-    addEntry(clear, "mnuAC", 0, "&All positions", [this] {
-        for (EntryBox* box : m_txtGC)
-            box->clear();
+    QMenu* clear = menus().add("&Clear", "mnuAC");
+    menus().addEntry(clear, "mnuAC", 0, "&All positions", [this] {
+        m_txtGC.clear(0, m_txtGC.size());
         m_txtGC[0]->setFocus();
     });
     addMemoMenus();
-    addLinksMenu("mnuGC");
+    menus().addLinks("mnuGC");
 }
 
 void frmGC2000::addMemoMenus()
@@ -245,17 +215,17 @@ void frmGC2000::addMemoMenus()
     const auto boxText = [this](std::size_t field) {
         return [box = m_txtGC[field]] { return box->value(); };
     };
-    addStorePosition("&Departure", boxText(0), boxText(1));
-    addStorePosition("&Arrival", boxText(2), boxText(3));
+    menus().addStorePosition("&Departure", boxText(0), boxText(1));
+    menus().addStorePosition("&Arrival", boxText(2), boxText(3));
     for (std::size_t waypoint = 1; waypoint + 1 < rowCount; ++waypoint)
-        m_waypointEntries.push_back(addStorePosition(
+        m_waypointEntries.push_back(menus().addStorePosition(
             QString("Waypoint %1").arg(waypoint),
             [this, waypoint] { return waypointText(waypoint, &GCWaypoint::lat); },
             [this, waypoint] { return waypointText(waypoint, &GCWaypoint::longitude); }));
     connect(findChild<QMenu*>("mnuMemo"), &QMenu::aboutToShow, this,
             &frmGC2000::nameWaypointEntries);
-    addRecallPosition("into &departure", m_txtGC[0], m_txtGC[1]);
-    addRecallPosition("into &arrival", m_txtGC[2], m_txtGC[3]);
+    menus().addRecallPosition("into &departure", m_txtGC[0], m_txtGC[1]);
+    menus().addRecallPosition("into &arrival", m_txtGC[2], m_txtGC[3]);
 }
 
 void frmGC2000::nameWaypointEntries()
@@ -278,9 +248,9 @@ std::string frmGC2000::waypointText(std::size_t waypoint,
     return waypoint < waypoints.size() ? memoText(waypoints[waypoint].*coordinate) : "";
 }
 
-std::vector<QLabel*> frmGC2000::allResults() const
+std::vector<ResultLabel*> frmGC2000::allResults() const
 {
-    std::vector<QLabel*> all(m_lblWpNo.begin(), m_lblWpNo.end());
+    std::vector<ResultLabel*> all(m_lblWpNo.begin(), m_lblWpNo.end());
     for (const Column* column : {&m_lblWpLat, &m_lblWpLong, &m_lblWpCo, &m_lblWpDist})
         all.insert(all.end(), column->begin(), column->end());
     all.insert(all.end(), m_lblGC2000.begin(), m_lblGC2000.end());
@@ -292,7 +262,7 @@ std::vector<QLabel*> frmGC2000::allResults() const
 void frmGC2000::runGC()
 {
     try {
-        m_result = CalculateGC({texts<0, 4>(m_txtGC), program().spheroid()});
+        m_result = CalculateGC({m_txtGC.texts<0, 4>(), program().spheroid()});
     } catch (const NavFunc113::ArithmeticError&) {
         m_result = {};
         m_picGC->setChart({});
@@ -301,7 +271,7 @@ void frmGC2000::runGC()
 
     for (std::size_t row = 0; row < m_result.rows.size(); ++row)
         showRow(row);
-    const auto show = [](QLabel* label, const std::string& text) {
+    const auto show = [](ResultLabel* label, const std::string& text) {
         label->setText(QString::fromStdString(text));
     };
     for (std::size_t i = 0; i < m_lblGC2000.size(); ++i)
@@ -318,7 +288,7 @@ void frmGC2000::runGC()
 void frmGC2000::showRow(std::size_t row)
 {
     const GCRow& texts = m_result.rows[row];
-    const auto show = [](QLabel* label, const std::string& text) {
+    const auto show = [](ResultLabel* label, const std::string& text) {
         label->setText(QString::fromStdString(text));
     };
     const std::size_t waypoints = m_result.route.waypoints.size();

@@ -21,7 +21,6 @@ private:
     static constexpr int rowCount = GCResult::rowCount;
     using Column = std::array<ResultLabel*, GCResult::rowCount>;
 
-    void addBoxes();
     void addResults();
     QWidget* layOutPositions();
     QWidget* layOutDistances();
@@ -33,12 +32,12 @@ private:
 
     void runGC();
     void showRow(std::size_t row);
-    std::vector<QLabel*> allResults() const;
+    std::vector<ResultLabel*> allResults() const;
     std::string waypointText(std::size_t waypoint,
                              NavFunc113::DegMin GCWaypoint::*coordinate) const;
 
-    std::array<EntryBox*, 4> m_txtGC{};
-    std::array<QLabel*, GCResult::rowCount> m_lblWpNo{};
+    FieldBoxes m_txtGC;
+    Column m_lblWpNo{};
     Column m_lblWpLat{};
     Column m_lblWpLong{};
     Column m_lblWpCo{};

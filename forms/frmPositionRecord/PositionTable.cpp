@@ -33,7 +33,7 @@ constexpr Column columns[] = {
     {"Day's run", "0000.'0 in 000.0 h", Column::Result},
 };
 
-void showText(QLabel* label, const std::string& text)
+void showText(ResultLabel* label, const std::string& text)
 {
     const QString shown = QString::fromStdString(text);
     if (label->text() != shown) label->setText(shown);

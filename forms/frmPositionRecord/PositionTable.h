@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Boxes.h"
+#include "app/shell/PositionBox.h"
 #include "forms/frmPositionRecord/PositionRecord.h"
 
 #include <optional>

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/PrintRecord.h"
 
-#include <QPrinter>
+#include <QAbstractTextDocumentLayout>
+#include <QPainter>
 #include <QStringList>
 #include <QTextDocument>
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -26,14 +29,20 @@ QString recordAsPage(const QString& record, const QString& printed)
            "</table><p>Rhumb lines; hours by UTC. Signature ______________________</p>";
 }
 
-void printRecord(QPrinter& printer, const QString& record, const QString& printed)
+void printRecord(QPainter& painter, const QRect& room, const QString& record,
+                 const QString& printed)
 {
     QTextDocument page;
     QFont font = page.defaultFont();
     font.setPointSizeF(font.pointSizeF() * 0.75); // twelve columns side by side
     page.setDefaultFont(font);
+    page.documentLayout()->setPaintDevice(painter.device());
     page.setHtml(recordAsPage(record, printed));
-    page.print(&printer);
+    page.setTextWidth(room.width());
+    // All 29 rows on one sheet: a record that is a little too high is drawn smaller.
+    const double scale = std::min(1.0, room.height() / page.size().height());
+    painter.scale(scale, scale);
+    page.drawContents(&painter);
 }
 
 } // namespace korvel

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QRect>
 #include <QString>
 
-class QPrinter;
+class QPainter;
 
 namespace korvel
 {
 
-/// Prints a record on as many pages as it takes, each with its number.
+/// Draws a record on one sheet.
+/// @param room    of the page, in device pixels
 /// @param record  positionRecordText: lines of columns parted by tabs
 /// @param printed when, by ship's time, so that two printouts can be told apart
-void printRecord(QPrinter& printer, const QString& record, const QString& printed);
+void printRecord(QPainter& painter, const QRect& room, const QString& record,
+                 const QString& printed);
 
 /// The page as a document of the toolkit's rich text.
 QString recordAsPage(const QString& record, const QString& printed);

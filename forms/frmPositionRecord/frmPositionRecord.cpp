@@ -11,14 +11,24 @@
 #include <QClipboard>
 #include <QGridLayout>
 #include <QMenu>
-#include <QPrintDialog>
-#include <QPrinter>
 
 namespace korvel
 {
+namespace
+{
+
+constexpr std::array<Field, 2> steeredFields = {{
+    {"txtCourseSteered", "&Course steered",
+     "Course steered since the last fix but one, degrees true", FieldKind::Number, "°"},
+    {"txtSpeedSteered", "&Speed steered", "Speed steered, knots", FieldKind::Number, "kn"},
+}};
+
+} // namespace
 
 frmPositionRecord::frmPositionRecord(Program& program)
-    : CalculatorWindow(program, "frmPositionRecord", "Position record"), m_table(new PositionTable)
+    : CalculatorWindow(program, "frmPositionRecord", "Position record"), m_table(new PositionTable),
+      m_steered(addFields(steeredFields)), m_txtCourseSteered(m_steered[0]),
+      m_txtSpeedSteered(m_steered[1]), m_focus([this](QWidget* now) { focusMoved(now); })
 {
     auto* area = new FollowingScrollArea(m_table);
     area->setHeading(m_table->makeHeading());
@@ -27,17 +37,12 @@ frmPositionRecord::frmPositionRecord(Program& program)
     addMenus();
     addCalculationOfRecord();
     useRecordSettings();
-    followFocus();
     loadSettings();
     m_table->row(0).satelliteSMT->setFocus();
 }
 
 void frmPositionRecord::addTotals()
 {
-    m_txtCourseSteered =
-        addTextBox("txtCourseSteered", "Course steered since the last fix but one, degrees true");
-    m_txtSpeedSteered = addTextBox("txtSpeedSteered", "Speed steered, knots");
-    setEntryOrder({m_txtCourseSteered, m_txtSpeedSteered});
     for (EntryBox* box : {m_txtCourseSteered, m_txtSpeedSteered})
         box->setMaximumWidth(box->fontMetrics().horizontalAdvance("000000000"));
     auto* below = new QWidget;
@@ -82,9 +87,9 @@ void frmPositionRecord::addTotals()
 
 void frmPositionRecord::addCalculationOfRecord()
 {
-    std::vector<QLineEdit*> inputs{m_txtCourseSteered, m_txtSpeedSteered};
-    std::vector<QLabel*> results{m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
-                                 m_lblLatestRun,     m_lblSet,        m_lblDrift};
+    std::vector<EntryBox*> inputs{m_txtCourseSteered, m_txtSpeedSteered};
+    std::vector<ResultLabel*> results{m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
+                                      m_lblLatestRun,     m_lblSet,        m_lblDrift};
     for (std::size_t i = 0; i < positionRowCount; ++i) {
         const PositionTable::Row& row = m_table->row(i);
         for (EntryBox* box : row.boxes())
@@ -93,16 +98,18 @@ void frmPositionRecord::addCalculationOfRecord()
             results.push_back(label);
         row.satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
     }
-    addCalculation({"Position record", std::move(inputs), std::move(results), [this] { run(); }});
+    calculations().add(
+        {"Position record", std::move(inputs), std::move(results), [this] { run(); }});
 }
 
 void frmPositionRecord::addMenus()
 {
-    QMenu* record = addMenu("Reco&rd", "mnuRecord");
+    QMenu* menu = menus().add("Reco&rd", "mnuRecord");
     int index = 0;
     // With Shift: the boxes have Ctrl+D, Ctrl+U and the like for their own editing.
     const auto entry = [&](const char* caption, const char* keys, std::function<void()> action) {
-        addEntry(record, "mnuRecord", index++, caption, std::move(action))
+        menus()
+            .addEntry(menu, "mnuRecord", index++, caption, std::move(action))
             ->setShortcut(QKeySequence(keys));
     };
     entry("Ship's time &now and TD into the row", "Ctrl+Shift+T", [this] { putTimeNow(); });
@@ -119,49 +126,50 @@ void frmPositionRecord::addMenus()
     const auto figure = [](const std::optional<double>& value) {
         return value ? memoText(*value) : std::string();
     };
-    addStorePosition(
+    menus().addStorePosition(
         "&Position of the row", [this] { return m_table->row(m_row).latitude->value(); },
         [this] { return m_table->row(m_row).longitude->value(); });
-    addStoreSingle("Total &distance", [this, figure] { return figure(m_shown.totalMiles); });
-    addStoreSingle("&Average speed", [this, figure] { return figure(m_shown.averageKnots); });
-    addRecallPosition("&Position into the row", [this]() -> std::pair<QLineEdit*, QLineEdit*> {
-        return {m_table->row(m_row).latitude, m_table->row(m_row).longitude};
-    });
-    addRecallSingle("into &course steered", m_txtCourseSteered);
-    addRecallSingle("into &speed steered", m_txtSpeedSteered);
-    addLinksMenu("mnuLinks");
+    menus().addStoreSingle("Total &distance",
+                           [this, figure] { return figure(m_shown.totalMiles); });
+    menus().addStoreSingle("&Average speed",
+                           [this, figure] { return figure(m_shown.averageKnots); });
+    menus().addRecallPosition(
+        "&Position into the row", [this]() -> std::pair<QLineEdit*, QLineEdit*> {
+            return {m_table->row(m_row).latitude, m_table->row(m_row).longitude};
+        });
+    menus().addRecallSingle("into &course steered", m_txtCourseSteered);
+    menus().addRecallSingle("into &speed steered", m_txtSpeedSteered);
+    menus().addLinks("mnuLinks");
 }
 
 void frmPositionRecord::useRecordSettings()
 {
-    std::vector<QLineEdit*> boxes;
+    std::vector<EntryBox*> boxes;
     for (std::size_t i = 0; i < positionRowCount; ++i)
         for (EntryBox* box : m_table->row(i).boxes())
             boxes.push_back(box);
     boxes.push_back(m_txtCourseSteered);
     boxes.push_back(m_txtSpeedSteered);
-    useTextSettings("KV_Position Record.ini", std::move(boxes));
+    record().useTexts("KV_Position Record.ini", std::move(boxes));
 }
 
-void frmPositionRecord::followFocus()
+void frmPositionRecord::focusMoved(const QWidget* now)
 {
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-        const auto row = m_table->rowOf(now);
-        if (!row) return;
-        m_row = *row;
-        m_table->markRow(m_row);
-    });
+    const auto row = m_table->rowOf(now);
+    if (!row) return;
+    m_row = *row;
+    m_table->markRow(m_row);
 }
 
 PositionRecordInput frmPositionRecord::input() const
 {
-    PositionRecordInput record;
-    record.rows = m_table->texts();
-    record.spheroid = program().spheroid();
-    record.courseSteered = m_txtCourseSteered->value();
-    record.speedSteered = m_txtSpeedSteered->value();
-    if (m_table->row(m_row).satelliteSMT->hasFocus()) record.typingTimeIn = m_row;
-    return record;
+    PositionRecordInput typed;
+    typed.rows = m_table->texts();
+    typed.spheroid = program().spheroid();
+    typed.courseSteered = m_txtCourseSteered->value();
+    typed.speedSteered = m_txtSpeedSteered->value();
+    if (m_table->row(m_row).satelliteSMT->hasFocus()) typed.typingTimeIn = m_row;
+    return typed;
 }
 
 void frmPositionRecord::run()
@@ -170,7 +178,7 @@ void frmPositionRecord::run()
     m_shown = {};
     m_shown = CalculatePositionRecord(input());
     m_table->show(m_shown);
-    const auto show = [](QLabel* label, const std::string& text) {
+    const auto show = [](ResultLabel* label, const std::string& text) {
         label->setText(QString::fromStdString(text));
     };
     show(m_lblTotalDistance, m_shown.totalDistance);
@@ -190,7 +198,7 @@ void frmPositionRecord::normaliseTime(std::size_t row)
     if (box->text() != text)
         box->setText(text);
     else
-        calculateAll(); // what makes no sense is named once the box is left
+        calculations().runAll(); // what makes no sense is named once the box is left
 }
 
 void frmPositionRecord::changeRows(const Change& change)
@@ -205,7 +213,7 @@ void frmPositionRecord::changeRows(const Change& change)
     m_filling = true;
     m_table->fill(rows);
     m_filling = false;
-    calculateAll();
+    calculations().runAll();
 }
 
 void frmPositionRecord::insertRowHere()
@@ -246,17 +254,14 @@ void frmPositionRecord::copyAsText() const
 
 void frmPositionRecord::print()
 {
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setDocName(windowTitle());
-    printer.setPageOrientation(QPageLayout::Landscape);
-    QPrintDialog dialog(&printer, this);
-    if (dialog.exec() != QDialog::Accepted) return;
     const double TD = program().saved().TD();
     const std::string printed = Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm") +
                                 " SMT, TD " + Format(TD, "+0.0;-0.0") + " (ZD " +
                                 Format(-TD, "+0.0;-0.0") + ")";
-    printRecord(printer, QString::fromStdString(positionRecordText(input(), m_shown)),
-                QString::fromStdString(printed));
+    const QString record = QString::fromStdString(positionRecordText(input(), m_shown));
+    paper().print(QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
+        printRecord(painter, room, record, QString::fromStdString(printed));
+    });
 }
 
 void frmPositionRecord::closeEvent(QCloseEvent* event)

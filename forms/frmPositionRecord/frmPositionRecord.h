@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/CalculatorWindow.h"
+#include "app/shell/FocusFollower.h"
 #include "forms/frmPositionRecord/PositionTable.h"
 
 namespace korvel
@@ -25,7 +26,7 @@ private:
     void addCalculationOfRecord();
     void addMenus();
     void useRecordSettings();
-    void followFocus();
+    void focusMoved(const QWidget* now);
 
     PositionRecordInput input() const;
     void run();
@@ -41,6 +42,7 @@ private:
     void print();
 
     PositionTable* m_table;
+    FieldBoxes m_steered;
     EntryBox* m_txtCourseSteered;
     EntryBox* m_txtSpeedSteered;
     ResultLabel* m_lblTotalDistance;
@@ -54,6 +56,7 @@ private:
     std::optional<PositionRows> m_before; ///< the rows as they were before the last change of rows
     std::size_t m_row = 0;                ///< the row that has, or last had, the focus
     bool m_filling = false;               ///< many boxes are being filled, one calculation follows
+    FocusFollower m_focus;
 };
 
 } // namespace korvel

@@ -3,8 +3,8 @@
 
 #include "app/Format.h"
 #include "app/shell/FollowingScrollArea.h"
+#include "app/shell/widget_colours.h"
 
-#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -19,6 +19,9 @@ namespace
 {
 
 constexpr int daysEachWay = 366; // of the scroll bar
+
+constexpr std::array<Field, 1> dateFields = {
+    {{"txtSunMoon", "&Date", "Date, year/month/day", FieldKind::Moment, "yyyy/m/d"}}};
 
 /// Columns of the table; a gap stands before the Moon.
 enum : int { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Sun, Gap = 11 };
@@ -56,7 +59,8 @@ const std::array<frmSunMoon::Column, 6> frmSunMoon::columns = {{
 }};
 
 frmSunMoon::frmSunMoon(Program& program)
-    : CalculatorWindow(program, "frmSunMoon", "Sun and Moon, rise and set")
+    : CalculatorWindow(program, "frmSunMoon", "Sun and Moon, rise and set"),
+      m_focus([this](QWidget* now) { focusMoved(now); })
 {
     addControls();
     auto* area = new FollowingScrollArea(table());
@@ -65,32 +69,31 @@ frmSunMoon::frmSunMoon(Program& program)
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, dateRow());
     m_lblRow = addLabel("lblRow");
     m_lblRow->setFont(font());
+    m_lblRow->setEliding();
     addBelow(m_lblRow);
     addMenus();
 
-    std::vector<QLineEdit*> record;
+    std::vector<EntryBox*> boxes;
     for (std::size_t row = 0; row < rows; ++row)
         for (EntryBox* box :
              {m_txtLocation[row], m_txtTD[row], static_cast<EntryBox*>(m_txtLatitude[row]),
               static_cast<EntryBox*>(m_txtLongitude[row])}) {
-            record.push_back(box);
+            boxes.push_back(box);
             connect(box, &QLineEdit::textChanged, this, [this, row] {
-                if (!isLoading()) runRows(row, row + 1);
+                if (!calculations().isHeld()) runRows(row, row + 1);
             });
         }
-    useTextSettings("KV_SunMoon.ini", record);
+    record().useTexts("KV_SunMoon.ini", boxes);
     m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
-    addCalculation({"Rise and set", {m_txtSunMoon}, {}, [this] { runRows(0, rows); }});
+    calculations().add({"Rise and set", {m_txtSunMoon}, {}, [this] { runRows(0, rows); }, true});
     loadSettings();
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget*, QWidget* now) { focusMoved(now); });
     m_txtSunMoon->setFocus();
     m_txtSunMoon->selectAll(); // the window takes the focus without a word to the box
 }
 
 void frmSunMoon::addControls()
 {
-    m_txtSunMoon = addTextBox("txtSunMoon", "Date, year/month/day");
+    m_txtSunMoon = addFields(dateFields)[0];
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
     m_lblMoonAge = addLabel("lblMoonAge");
     fixSize(m_lblMoonAge, "00.0 ");
@@ -113,14 +116,19 @@ void frmSunMoon::addRow(std::size_t row)
     const int index = static_cast<int>(row);
     const QString ofRow = QString(", row %1").arg(index + 1);
     m_number[row] = new QLabel(QString::number(index + 1));
-    m_txtLocation[row] = addTextBox(memberName("txtLocation", index), "Place name" + ofRow);
-    m_txtTD[row] = addTextBox(memberName("txtTD", index),
-                              "Time difference from UTC, hours, east positive" + ofRow);
-    m_txtLatitude[row] =
-        addPositionBox(memberName("txtLatitude", index), Axis::Latitude,
-                       "Latitude, degrees.minutes, north positive, up to 63" + ofRow);
-    m_txtLongitude[row] = addPositionBox(memberName("txtLongitude", index), Axis::Longitude,
-                                         "Longitude, degrees.minutes, east positive" + ofRow);
+    const auto box = [&](auto* made, const char* name, const QString& words) {
+        made->setObjectName(memberName(name, index));
+        made->setAccessibleName(words + ofRow);
+        return made;
+    };
+    m_txtLocation[row] = box(new EntryBox(body()), "txtLocation", "Place name");
+    m_txtLocation[row]->setMaxLength(EntryBox::longestText);
+    m_txtTD[row] =
+        box(new EntryBox(body()), "txtTD", "Time difference from UTC, hours, east positive");
+    m_txtLatitude[row] = box(new PositionBox(Axis::Latitude, body()), "txtLatitude",
+                             "Latitude, degrees.minutes, north positive, up to 63");
+    m_txtLongitude[row] = box(new PositionBox(Axis::Longitude, body()), "txtLongitude",
+                              "Longitude, degrees.minutes, east positive");
     PositionBox::pair(m_txtLatitude[row], m_txtLongitude[row]);
     m_txtLatitude[row]->setBriefEcho();
     m_txtLongitude[row]->setBriefEcho();
@@ -244,10 +252,10 @@ QWidget* frmSunMoon::table()
 
 void frmSunMoon::addMenus()
 {
-    QMenu* clear = addMenu("&Clear", "mnuAC");
-    addEntry(clear, "mnuAC", 0, "&All rows", [this] { clearAll(); });
+    QMenu* clear = menus().add("&Clear", "mnuAC");
+    menus().addEntry(clear, "mnuAC", 0, "&All rows", [this] { clearAll(); });
 
-    QMenu* memo = addMenu("&Memo", "mnuSUNMOON");
+    QMenu* memo = menus().add("&Memo", "mnuSUNMOON");
     struct Entry {
         const char* caption;
         std::function<void()> action;
@@ -268,17 +276,18 @@ void frmSunMoon::addMenus()
              program().actions().StoreInMemo(KORVEL2000Actions::Single,
                                              azimuth(&RiseSetResult::sunSetAz));
          }},
-        {"Recall P&osition Memo into", [this] { recallPosition(); }},
-        {"Recall Single Memo into &TD of", [this] { recallSingle(); }},
+        {"Recall P&osition Memo into",
+         [this] { menus().recallPosition(m_txtLatitude[m_row], m_txtLongitude[m_row]); }},
+        {"Recall Single Memo into &TD of", [this] { menus().recallSingle(m_txtTD[m_row]); }},
     };
     int index = 0;
     for (const auto& [caption, action] : entries) {
-        QAction* entry = addEntry(memo, "mnuSUNMOON", index++, caption, action);
+        QAction* entry = menus().addEntry(memo, "mnuSUNMOON", index++, caption, action);
         connect(memo, &QMenu::aboutToShow, this, [this, entry, caption = QString(caption)] {
             entry->setText(QString("%1 row %2").arg(caption).arg(m_row + 1));
         });
     }
-    addLinksMenu("mnuWindows");
+    menus().addLinks("mnuWindows");
 }
 
 NavFunc113::DateTime frmSunMoon::today()
@@ -301,7 +310,7 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
     }
     showNotices();
     showRowInFocus();
-    if (successful) saveSettingsSoon();
+    if (successful) record().saveSoon();
 }
 
 void frmSunMoon::showRow(std::size_t row)
@@ -324,10 +333,7 @@ void frmSunMoon::showDoubts(std::size_t row)
         const QColor colour = (m_results[row].*columns[i].result).doubtful
                                   ? colours.notice
                                   : colours.palette.color(QPalette::WindowText);
-        QPalette palette = m_labels[i][row]->palette();
-        if (palette.color(QPalette::WindowText) == colour) continue;
-        palette.setColor(QPalette::WindowText, colour);
-        m_labels[i][row]->setPalette(palette);
+        setTextColour(m_labels[i][row], colour);
     }
 }
 
@@ -389,26 +395,13 @@ void frmSunMoon::clearAll()
               static_cast<EntryBox*>(m_txtLongitude[row])})
             box->clear();
     m_txtLocation[0]->setFocus(Qt::TabFocusReason);
-    saveSettingsSoon();
+    record().saveSoon();
 }
 
 std::string frmSunMoon::azimuth(RiseSetLabel RiseSetResult::*label) const
 {
     const auto& figure = (m_results[m_row].*label).figure;
     return figure ? memoText(*figure) : std::string();
-}
-
-void frmSunMoon::recallPosition()
-{
-    if (program().actions().ConfirmMemoRecall("PsnM") != "Yes") return;
-    m_txtLatitude[m_row]->setText(text(memoText(program().saved().memoLatitude())));
-    m_txtLongitude[m_row]->setText(text(memoText(program().saved().memoLongitude())));
-}
-
-void frmSunMoon::recallSingle()
-{
-    if (program().actions().ConfirmMemoRecall("SinM") == "Yes")
-        m_txtTD[m_row]->setText(text(memoText(program().saved().singleMemo())));
 }
 
 void frmSunMoon::applyColours()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/CalculatorWindow.h"
+#include "app/shell/FocusFollower.h"
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
 class QGridLayout;
@@ -57,13 +58,11 @@ private:
     void cmdToday_Click();
     void clearAll();
     std::string azimuth(RiseSetLabel RiseSetResult::*label) const;
-    void recallSingle();
-    void recallPosition();
 
     EntryBox* m_txtSunMoon = nullptr;
     QScrollBar* m_scrMoonSun = nullptr;
     ResultLabel* m_lblMoonAge = nullptr;
-    QLabel* m_lblRow = nullptr; ///< the row in focus in full
+    ResultLabel* m_lblRow = nullptr; ///< the row in focus in full
 
     PerRow<QLabel> m_number{};
     PerRow<EntryBox> m_txtLocation{};
@@ -75,6 +74,7 @@ private:
     std::array<RiseSetRow, rows> m_numbers;
     std::array<RiseSetResult, rows> m_results;
     std::size_t m_row = 0; ///< the row that last had the focus
+    FocusFollower m_focus;
 };
 
 } // namespace korvel

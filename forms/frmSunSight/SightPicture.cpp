@@ -30,7 +30,6 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
     const int side = fontMetrics().height() * 17;
     setMinimumSize(side, side);
     setUserScale({-half, half, half, -half});
-    draw = [this](QPainter& painter) { paint(painter); };
 }
 
 void SightPicture::show(const SightPlot& plot)
@@ -92,7 +91,7 @@ void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words
     painter.fillPath(path, m_colours.ink);
 }
 
-void SightPicture::paint(QPainter& painter) const
+void SightPicture::draw(QPainter& painter)
 {
     painter.fillRect(painter.viewport(), m_colours.paper);
     painter.setFont(font());

@@ -22,10 +22,10 @@ public:
     void setColours(const ColourScheme& colours);
 
 protected:
+    void draw(QPainter& painter) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void paint(QPainter& painter) const;
     void paintGrid(QPainter& painter) const;
     void paintScale(QPainter& painter) const;
     void paintLine(QPainter& painter, const PlotLine& line) const;

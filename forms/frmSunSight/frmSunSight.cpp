@@ -30,7 +30,7 @@ QString text(const std::string& value)
 }
 
 template <std::size_t N>
-std::vector<QLabel*> asLabels(const std::array<ResultLabel*, N>& labels)
+std::vector<ResultLabel*> asLabels(const std::array<ResultLabel*, N>& labels)
 {
     return {labels.begin(), labels.end()};
 }
@@ -47,7 +47,7 @@ frmSunSight::frmSunSight(Program& program) : CalculatorWindow(program, "frmSunSi
     addMenus();
     addCalculations();
     m_txtSunSight[TDBox]->setText(text(Format(program.saved().TD(), "0.##")));
-    useSettings(
+    record().use(
         "KV_SunSight.ini", sightKinds(),
         [this] {
             return recordOf({sightTexts(), trackTexts(), fixOptions(), m_list});
@@ -62,25 +62,26 @@ frmSunSight::frmSunSight(Program& program) : CalculatorWindow(program, "frmSunSi
 
 void frmSunSight::addCalculations()
 {
-    std::vector<QLineEdit*> track(m_txtSunDR.begin(), m_txtSunDR.end());
+    std::vector<EntryBox*> track(m_txtSunDR.begin(), m_txtSunDR.end());
     track.insert(track.end(), m_txtSunRun.begin(), m_txtSunRun.end());
 
-    std::vector<QLineEdit*> ofLine(m_txtSunSight.begin(), m_txtSunSight.end());
+    std::vector<EntryBox*> ofLine(m_txtSunSight.begin(), m_txtSunSight.end());
     ofLine.insert(ofLine.end(), track.begin(), track.end());
-    std::vector<QLabel*> results = asLabels(m_lblSunTime);
+    std::vector<ResultLabel*> results = asLabels(m_lblSunTime);
     for (const auto& labels :
          {asLabels(m_lblSunValue), asLabels(m_lblSunLine), asLabels(m_lblSunNoon)})
         results.insert(results.end(), labels.begin(), labels.end());
     m_lineCalculation =
-        addCalculation({"Line of position", ofLine, results, [this] { runLine(); }});
+        calculations().add({"Line of position", ofLine, results, [this] { runLine(); }});
 
-    std::vector<QLineEdit*> ofFix = track;
+    std::vector<EntryBox*> ofFix = track;
     ofFix.insert(ofFix.end(), m_txtSunSigma.begin(), m_txtSunSigma.end());
-    m_fixCalculation = addCalculation({"Fix", ofFix, asLabels(m_lblSunFix), [this] { runFix(); }});
+    m_fixCalculation =
+        calculations().add({"Fix", ofFix, asLabels(m_lblSunFix), [this] { runFix(); }});
 
     const auto again = [this](int& number) {
         return [this, &number] {
-            if (!isLoading()) calculate(number);
+            if (!calculations().isHeld()) calculations().run(number);
         };
     };
     for (QRadioButton* option : {m_optSunScale[1], m_optSunLimb[1]})
@@ -277,8 +278,8 @@ void frmSunSight::cmdDelete_Click()
 void frmSunSight::listChanged()
 {
     showList();
-    calculate(m_fixCalculation);
-    saveSettingsAsked();
+    calculations().run(m_fixCalculation);
+    record().saveAsked();
 }
 
 void frmSunSight::setEditing(std::optional<std::size_t> index)

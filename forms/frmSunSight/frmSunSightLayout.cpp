@@ -19,42 +19,55 @@ namespace korvel
 namespace
 {
 
-struct BoxRow {
-    const char* caption;
-    const char* unit;
-    const char* accessible;
-};
+constexpr std::array<Field, 10> sightRows = {{
+    {"txtSunSight(0)", "Date", "Date of the sight, year/month/day", FieldKind::Moment,
+     "yyyy/mm/dd"},
+    {"txtSunSight(1)", "Time by the watch", "Time of the sight by the watch, hours:minutes:seconds",
+     FieldKind::Moment, "hh:mm:ss"},
+    {"txtSunSight(2)", "TD", "Time difference of ship's mean time, hours, east positive",
+     FieldKind::Number, "hours, east +"},
+    {"txtSunSight(3)", "Watch error", "Watch error, seconds, fast positive", FieldKind::Number,
+     "s, fast +"},
+    {"txtSunSight(4)", "Sextant altitude Hs", "Sextant altitude, degrees.minutes",
+     FieldKind::Number, "deg.min"},
+    {"txtSunSight(5)", "Index error", "Index error, minutes of arc, on the arc positive",
+     FieldKind::Number, "', on the arc +"},
+    {"txtSunSight(6)", "Height of eye", "Height of eye, metres", FieldKind::Number, "m"},
+    {"txtSunSight(7)", "Air temperature", "Air temperature, degrees Celsius", FieldKind::Number,
+     "°C"},
+    {"txtSunSight(8)", "Sea temperature", "Sea temperature, degrees Celsius", FieldKind::Number,
+     "°C"},
+    {"txtSunSight(9)", "Pressure", "Air pressure, hectopascals", FieldKind::Number, "hPa"},
+}};
+constexpr std::array<Field, 3> runRows = {{
+    {"txtSunRun(0)", "Time of DR",
+     "Time of the DR position, UTC, year/month/day hours:minutes:seconds", FieldKind::Moment,
+     "UTC"},
+    {"txtSunRun(1)", "Course", "Course made good, degrees true", FieldKind::Number, "° made good"},
+    {"txtSunRun(2)", "Speed", "Speed made good, knots", FieldKind::Number, "kn made good"},
+}};
+constexpr std::array<Field, 3> sigmaRows = {{
+    {"txtSunSigma(0)", "Sigma", "Standard deviation of one line, nautical miles", FieldKind::Number,
+     "nm"},
+    {"txtSunSigma(1)", "Run", "Error of the run, per cent of the distance", FieldKind::Number, "%"},
+    {"txtSunSigma(2)", "Course", "Error of the course made good, degrees", FieldKind::Number, "°"},
+}};
 
-constexpr std::array<BoxRow, 10> sightRows = {{
-    {"Date", "yyyy/mm/dd", "Date of the sight, year/month/day"},
-    {"Time by the watch", "hh:mm:ss", "Time of the sight by the watch, hours:minutes:seconds"},
-    {"TD", "hours, east +", "Time difference of ship's mean time, hours, east positive"},
-    {"Watch error", "s, fast +", "Watch error, seconds, fast positive"},
-    {"Sextant altitude Hs", "deg.min", "Sextant altitude, degrees.minutes"},
-    {"Index error", "', on the arc +", "Index error, minutes of arc, on the arc positive"},
-    {"Height of eye", "m", "Height of eye, metres"},
-    {"Air temperature", "°C", "Air temperature, degrees Celsius"},
-    {"Sea temperature", "°C", "Sea temperature, degrees Celsius"},
-    {"Pressure", "hPa", "Air pressure, hectopascals"},
-}};
-constexpr std::array<BoxRow, 3> runRows = {{
-    {"Time of DR", "UTC", "Time of the DR position, UTC, year/month/day hours:minutes:seconds"},
-    {"Course", "° made good", "Course made good, degrees true"},
-    {"Speed", "kn made good", "Speed made good, knots"},
-}};
-constexpr std::array<BoxRow, 3> sigmaRows = {{
-    {"Sigma", "nm", "Standard deviation of one line, nautical miles"},
-    {"Run", "%", "Error of the run, per cent of the distance"},
-    {"Course", "°", "Error of the course made good, degrees"},
+constexpr std::array<Field, 2> DRRows = {{
+    {"txtSunDR(0)", "Latitude", "DR latitude, degrees.minutes, north positive, up to 89",
+     FieldKind::Latitude},
+    {"txtSunDR(1)", "Longitude", "DR longitude, degrees.minutes, east positive",
+     FieldKind::Longitude},
 }};
 
-template <std::size_t N>
-std::array<const char*, N> accessibleNames(const std::array<BoxRow, N>& of)
+void addEntryRow(QGridLayout* grid, int row, const QString& caption, EntryBox* box,
+                 const QString& unit)
 {
-    std::array<const char*, N> names{};
-    for (std::size_t i = 0; i < N; ++i)
-        names[i] = of[i].accessible;
-    return names;
+    auto* label = new QLabel(caption);
+    label->setBuddy(box);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(box, row, 1);
+    grid->addWidget(new QLabel(unit), row, 2, 1, -1);
 }
 
 /// Two options that exclude each other.
@@ -101,14 +114,15 @@ void setRoom(ResultLabel* label, const char* sample)
 
 void frmSunSight::addBoxes()
 {
-    m_txtSunSight = addTextBoxes<10>("txtSunSight", accessibleNames(sightRows));
-    m_txtSunDR[0] = addPositionBox("txtSunDR(0)", Axis::Latitude,
-                                   "DR latitude, degrees.minutes, north positive, up to 89");
-    m_txtSunDR[1] = addPositionBox("txtSunDR(1)", Axis::Longitude,
-                                   "DR longitude, degrees.minutes, east positive");
-    PositionBox::pair(m_txtSunDR[0], m_txtSunDR[1]);
-    m_txtSunRun = addTextBoxes<3>("txtSunRun", accessibleNames(runRows));
-    m_txtSunSigma = addTextBoxes<3>("txtSunSigma", accessibleNames(sigmaRows));
+    const auto take = [](auto& boxes, const FieldBoxes& fields) {
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            boxes[i] = fields[i];
+    };
+    take(m_txtSunSight, addFields(sightRows));
+    const FieldBoxes DR = addFields(DRRows);
+    m_txtSunDR = {DR.position(0), DR.position(1)};
+    take(m_txtSunRun, addFields(runRows));
+    take(m_txtSunSigma, addFields(sigmaRows));
     m_txtSunRun[0]->setToolTip("Empty: the time of the last sight that is on");
     m_txtSunSight[7]->setPlaceholderText("10");
     m_txtSunSight[8]->setPlaceholderText("as the air");
@@ -193,8 +207,8 @@ void frmSunSight::addList()
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         m_list.setOn(static_cast<std::size_t>(m_lstSunSight->row(item)),
                      item->checkState() == Qt::Checked);
-        calculate(m_fixCalculation);
-        saveSettingsAsked();
+        calculations().run(m_fixCalculation);
+        record().saveAsked();
     });
     m_picSunSight = new SightPicture(body());
     connect(m_picSunSight, &PictureBox::pointed, this,
@@ -207,30 +221,34 @@ void frmSunSight::addList()
 
 void frmSunSight::addMenus()
 {
-    QMenu* sight = addMenu("&Sight", "mnuSight");
-    addEntry(sight, "mnuSight", 0, "&Mark: present time into the sight", [this] {
-        cmdMark_Click();
-    })->setShortcut(Qt::Key_F5);
-    addEntry(sight, "mnuSight", 1, "&Record the sight", [this] {
-        cmdRecord_Click();
-    })->setShortcut(Qt::Key_F6);
-    addEntry(sight, "mnuSight", 2, "&Edit the chosen sight", [this] { cmdEdit_Click(); });
-    addEntry(sight, "mnuSight", 3, "&Delete the chosen sight", [this] { cmdDelete_Click(); });
-    addEntry(sight, "mnuSight", 4, "&Fix becomes the DR position", [this] { fixBecomesDR(); });
-    addEntry(sight, "mnuSight", 5, "&Print", [this] { printForm(); });
-    QMenu* clear = addMenu("&Clear", "mnuAC");
-    addEntry(clear, "mnuAC", 0, "&Sight being entered", [this] { clearSight(); });
-    addEntry(clear, "mnuAC", 1, "&All recorded sights", [this] { deleteAll(); });
+    QMenu* sight = menus().add("&Sight", "mnuSight");
+    menus()
+        .addEntry(sight, "mnuSight", 0, "&Mark: present time into the sight",
+                  [this] { cmdMark_Click(); })
+        ->setShortcut(Qt::Key_F5);
+    menus()
+        .addEntry(sight, "mnuSight", 1, "&Record the sight", [this] { cmdRecord_Click(); })
+        ->setShortcut(Qt::Key_F6);
+    menus().addEntry(sight, "mnuSight", 2, "&Edit the chosen sight", [this] { cmdEdit_Click(); });
+    menus().addEntry(sight, "mnuSight", 3, "&Delete the chosen sight",
+                     [this] { cmdDelete_Click(); });
+    menus().addEntry(sight, "mnuSight", 4, "&Fix becomes the DR position",
+                     [this] { fixBecomesDR(); });
+    menus().addEntry(sight, "mnuSight", 5, "&Print", [this] { printForm(); });
+    QMenu* clear = menus().add("&Clear", "mnuAC");
+    menus().addEntry(clear, "mnuAC", 0, "&Sight being entered", [this] { clearSight(); });
+    menus().addEntry(clear, "mnuAC", 1, "&All recorded sights", [this] { deleteAll(); });
 
-    addStorePosition(
+    menus().addStorePosition(
         "&Fix", [this] { return m_fix.memoLatitude; }, [this] { return m_fix.memoLongitude; });
-    addStorePosition(
+    menus().addStorePosition(
         "&DR position", [this] { return m_txtSunDR[0]->value(); },
         [this] { return m_txtSunDR[1]->value(); });
-    addStoreSingle("&Azimuth Zn",
-                   [this] { return m_line.azimuth ? memoText(*m_line.azimuth) : std::string(); });
-    addRecallPosition("into &DR position", m_txtSunDR[0], m_txtSunDR[1]);
-    addLinksMenu("mnuSunSight");
+    menus().addStoreSingle("&Azimuth Zn", [this] {
+        return m_line.azimuth ? memoText(*m_line.azimuth) : std::string();
+    });
+    menus().addRecallPosition("into &DR position", m_txtSunDR[0], m_txtSunDR[1]);
+    menus().addLinks("mnuSunSight");
 }
 
 void frmSunSight::layOut()

@@ -41,10 +41,10 @@ frmTIDE::frmTIDE(Program& program)
     addControls();
     addMenus();
     m_save.setSingleShot(true);
-    connect(&m_save, &QTimer::timeout, this, [this] { saveSettingsNow(); });
+    connect(&m_save, &QTimer::timeout, this, [this] { record().saveNow(); });
 
     put(m_choice);
-    useSettings(
+    record().use(
         "KV_Tide.ini", {Kind::Tick, Kind::Text, Kind::Text}, [this] { return recordOf(m_choice); },
         [this](const Record& record) {
             const SavedChoice saved = choiceOf(record, m_dates);
@@ -150,16 +150,16 @@ QLabel* frmTIDE::wrappedLabel(const QString& name)
 
 void frmTIDE::addMenus()
 {
-    QMenu* tide = addMenu("Place for &Tide..", "mnuFrmTIDE(0)");
+    QMenu* tide = menus().add("Place for &Tide..", "mnuFrmTIDE(0)");
     addAreas(tide, "mnuArea", tideAreas(), true);
-    QMenu* stream = addMenu("Place for Tidal &Current..", "mnuFrmTIDE(1)");
+    QMenu* stream = menus().add("Place for Tidal &Current..", "mnuFrmTIDE(1)");
     addAreas(stream, "mnuCuArea", streamAreas(), false);
     addBarEntry(2, "&Date", [this] { askDate(); });
     addBarEntry(3, "&Print", [this] { printDay(); });
-    QMenu* end = addMenu("&End..", "mnuFrmTIDE(4)");
-    addEntry(end, "mnuEND", 0, "&END", [this] { close(); });
+    QMenu* end = menus().add("&End..", "mnuFrmTIDE(4)");
+    menus().addEntry(end, "mnuEND", 0, "&END", [this] { close(); });
     end->addSeparator()->setObjectName("mnuEND(1)");
-    addEntry(end, "mnuEND", 2, "&About Tide/Current Calcuration", [this] {
+    menus().addEntry(end, "mnuEND", 2, "&About Tide/Current Calcuration", [this] {
         program().questions().ask({m_dates.aboutNotice(), programTitle, Buttons::Ok});
     });
 }
@@ -172,8 +172,8 @@ void frmTIDE::addAreas(QMenu* menu, const QString& array, std::span<const Statio
         submenu->setObjectName(memberName(array, index++));
         submenu->setEnabled(!area.places.empty());
         for (int item = 0; std::string_view place : area.places)
-            addEntry(submenu, shown(area.itemArray), item++, shown(place),
-                     [this, TideMode, place] { place_Click(TideMode, place); });
+            menus().addEntry(submenu, shown(area.itemArray), item++, shown(place),
+                             [this, TideMode, place] { place_Click(TideMode, place); });
     }
 }
 
@@ -283,7 +283,7 @@ void frmTIDE::storeSettings(Telling telling)
         return;
     }
     m_save.stop();
-    saveSettingsNow();
+    record().saveNow();
 }
 
 void frmTIDE::tell(const std::string& fault, Telling telling)
@@ -303,7 +303,8 @@ void frmTIDE::printDay()
     const frmTIDEPage page{
         m_lblPlace->text(), m_lblDate->text(), *m_shown, m_lines,
         [this](QPainter& painter, const QSize& size) { m_picTIDE->drawForPaper(painter, size); }};
-    printPage([&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
+    paper().print(QPageLayout::Portrait,
+                  [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
 }
 
 void frmTIDE::applyColours()

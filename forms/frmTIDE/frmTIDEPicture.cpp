@@ -37,7 +37,6 @@ frmTIDEPicture::frmTIDEPicture(Program& program, QWidget* parent)
     const int space = fontMetrics().horizontalAdvance(' ');
     setPlotMargins({fontMetrics().horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space,
                     fontMetrics().height()});
-    draw = [this](QPainter& painter) { drawScreen(painter); };
     connect(this, &PictureBox::pointed, this, [this](QPointF user) { readAt(user.x()); });
     connect(this, &PictureBox::left, this, [this] { readAt(std::nullopt); });
 }
@@ -187,17 +186,21 @@ void frmTIDEPicture::focusOutEvent(QFocusEvent* event)
 
 void frmTIDEPicture::drawForPaper(QPainter& painter, const QSize& size)
 {
-    const ColourScheme colours = ColourScheme::day();
-    const auto onScreen = std::move(draw);
-    draw = [&](QPainter& paper) {
-        paper.setFont(axisFont());
-        drawGrid(paper, colours);
-        drawFurtherLevels(paper, colours);
-        drawAxisTexts(paper, colours);
-        drawCurve(paper, colours);
-    };
     drawOn(painter, size);
-    draw = onScreen;
+}
+
+void frmTIDEPicture::draw(QPainter& painter)
+{
+    if (!isOnPaper()) {
+        drawScreen(painter);
+        return;
+    }
+    const ColourScheme colours = ColourScheme::day();
+    painter.setFont(axisFont());
+    drawGrid(painter, colours);
+    drawFurtherLevels(painter, colours);
+    drawAxisTexts(painter, colours);
+    drawCurve(painter, colours);
 }
 
 void frmTIDEPicture::drawScreen(QPainter& painter)

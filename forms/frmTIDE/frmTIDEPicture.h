@@ -32,6 +32,7 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void draw(QPainter& painter) override;
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

@@ -2,6 +2,7 @@
 #include "forms/frmWeather/frmWeather.h"
 
 #include "forms/frmWeather/CalculateWeather.h"
+#include "forms/frmWeather/WeatherFields.h"
 #include "navlib/weather_terms.h"
 
 #include <QGridLayout>
@@ -15,6 +16,8 @@ namespace korvel
 namespace
 {
 
+enum : std::size_t { Wave, Swell, Visibility };
+
 QString textOfTerm(std::string_view term)
 {
     return QString::fromUtf8(term.data(), static_cast<qsizetype>(term.size()));
@@ -22,12 +25,9 @@ QString textOfTerm(std::string_view term)
 
 } // namespace
 
-frmWeather::frmWeather(Program& program) : CalculatorWindow(program, "frmWeather", "Weather")
+frmWeather::frmWeather(Program& program)
+    : CalculatorWindow(program, "frmWeather", "Weather"), m_boxes(addFields(WeatherFields))
 {
-    m_txtWave = addTextBox("txtWave", "Wave height, metres");
-    m_txtSWELL = addTextBox("txtSWELL", "Swell height, metres");
-    m_txtVISIBILITY = addKeyUpBox("txtVISIBILITY", "Visibility, kilometres");
-    setEntryOrder({m_txtWave, m_txtSWELL, m_txtVISIBILITY});
     m_lblWave = addLabel("lblWave");
     m_lblSWELL = addLabel("lblSWELL");
     m_lblVISIBILITY = addLabel("lblVISIBILITY");
@@ -38,28 +38,27 @@ frmWeather::frmWeather(Program& program) : CalculatorWindow(program, "frmWeather
     column->addWidget(layOutTerms());
     column->addWidget(layOutLetters());
     column->addStretch();
-    addLinksMenu("mnuWeather");
+    menus().addLinks("mnuWeather");
     addCalculations();
     loadSettings();
-    m_txtWave->setFocus();
+    m_boxes[Wave]->setFocus();
 }
 
 QGroupBox* frmWeather::layOutTerms()
 {
     auto* group = new QGroupBox("Sea, swell and visibility");
     auto* grid = new QGridLayout(group);
-    const auto row = [grid](int at, const char* caption, EntryBox* box, const char* unit,
-                            ResultLabel* term) {
-        auto* label = new QLabel(caption);
-        label->setBuddy(box);
-        grid->addWidget(label, at, 0);
-        grid->addWidget(box, at, 1);
-        grid->addWidget(new QLabel(unit), at, 2);
-        grid->addWidget(term, at, 3);
-    };
-    row(0, "Wa&ve height", m_txtWave, "m", m_lblWave);
-    row(1, "&Swell height", m_txtSWELL, "m", m_lblSWELL);
-    row(2, "Visi&bility", m_txtVISIBILITY, "km", m_lblVISIBILITY);
+    ResultLabel* const terms[] = {m_lblWave, m_lblSWELL, m_lblVISIBILITY};
+    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+        const int row = static_cast<int>(i);
+        auto* caption = new QLabel(WeatherFields[i].caption);
+        caption->setBuddy(m_boxes[i]);
+        terms[i]->setAccessibleName(nameInWords(WeatherFields[i]));
+        grid->addWidget(caption, row, 0);
+        grid->addWidget(m_boxes[i], row, 1);
+        grid->addWidget(new QLabel(WeatherFields[i].unit), row, 2);
+        grid->addWidget(terms[i], row, 3);
+    }
     grid->addWidget(m_lblVISIBILITYnm, 2, 4);
     // Room for the longest terms, so that nothing moves while the officer types.
     const QFontMetrics metrics(m_lblVISIBILITY->font());
@@ -96,19 +95,20 @@ QGroupBox* frmWeather::layOutLetters()
 
 void frmWeather::addCalculations()
 {
-    addCalculation({"Sea state", {m_txtWave}, {m_lblWave}, [this] {
-                        m_lblWave->setText(
-                            QString::fromStdString(CalculateSeaState(m_txtWave->value())));
-                    }});
-    addCalculation({"Swell", {m_txtSWELL}, {m_lblSWELL}, [this] {
-                        m_lblSWELL->setText(
-                            QString::fromStdString(CalculateSwell(m_txtSWELL->value())));
-                    }});
-    addCalculation({"Visibility", {m_txtVISIBILITY}, {m_lblVISIBILITY, m_lblVISIBILITYnm}, [this] {
-                        const auto result = CalculateVisibility(m_txtVISIBILITY->value());
-                        m_lblVISIBILITY->setText(QString::fromStdString(result.term));
-                        m_lblVISIBILITYnm->setText(QString::fromStdString(result.nauticalMiles));
-                    }});
+    calculations().add({"Sea state", {m_boxes[Wave]}, {m_lblWave}, [this] {
+                            m_lblWave->setText(
+                                QString::fromStdString(CalculateSeaState(m_boxes[Wave]->value())));
+                        }});
+    calculations().add({"Swell", {m_boxes[Swell]}, {m_lblSWELL}, [this] {
+                            m_lblSWELL->setText(
+                                QString::fromStdString(CalculateSwell(m_boxes[Swell]->value())));
+                        }});
+    calculations().add(
+        {"Visibility", {m_boxes[Visibility]}, {m_lblVISIBILITY, m_lblVISIBILITYnm}, [this] {
+             const auto result = CalculateVisibility(m_boxes[Visibility]->value());
+             m_lblVISIBILITY->setText(QString::fromStdString(result.term));
+             m_lblVISIBILITYnm->setText(QString::fromStdString(result.nauticalMiles));
+         }});
 }
 
 } // namespace korvel

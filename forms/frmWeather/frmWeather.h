@@ -19,9 +19,7 @@ private:
     QGroupBox* layOutLetters();
     void addCalculations();
 
-    EntryBox* m_txtWave;
-    EntryBox* m_txtSWELL;
-    KeyUpBox* m_txtVISIBILITY;
+    FieldBoxes m_boxes;
     ResultLabel* m_lblWave;
     ResultLabel* m_lblSWELL;
     ResultLabel* m_lblVISIBILITY;

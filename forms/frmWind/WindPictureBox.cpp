@@ -28,7 +28,6 @@ WindPictureBox::WindPictureBox(Program& program)
     const int legend =
         Legend::width(metrics, "Ship's heading Apparent wind True wind", 3, 0) + metrics.height();
     setMinimumSize(legend, legend);
-    draw = [this](QPainter& painter) { paint(painter); };
     setWind({}, WindOrientation::HeadUp);
 }
 
@@ -62,7 +61,7 @@ void WindPictureBox::resizeEvent(QResizeEvent*)
     setPlotMargins({left, top, width() - side - left, height() - top - side});
 }
 
-void WindPictureBox::paint(QPainter& painter) const
+void WindPictureBox::draw(QPainter& painter)
 {
     painter.fillRect(plotArea(), colours().paper);
     painter.save();

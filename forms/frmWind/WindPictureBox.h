@@ -27,10 +27,10 @@ public:
     void setPointerText(QPointF user, const QString& text);
 
 protected:
+    void draw(QPainter& painter) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void paint(QPainter& painter) const;
     void PictureHyouji(QPainter& painter) const;
     void VectrHyouji(QPainter& painter) const;
     void drawShip(QPainter& painter) const;

@@ -2,6 +2,7 @@
 #include "forms/frmWind/frmWind.h"
 
 #include "app/reading.h"
+#include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"
 
 #include <QGridLayout>
@@ -12,13 +13,9 @@
 namespace korvel
 {
 
-frmWind::frmWind(Program& program) : CalculatorWindow(program, "frmWind", "True wind")
+frmWind::frmWind(Program& program)
+    : CalculatorWindow(program, "frmWind", "True wind"), m_txtWind(addFields(WindFields))
 {
-    m_txtWind = addTextBoxes<4>("txtWind",
-                                {"Ship's course, degrees true, 0 to 360", "Ship's speed, knots",
-                                 "Apparent wind from the bow, degrees, -180 to 180, port negative",
-                                 "Apparent wind speed, knots"});
-    setEntryOrder({m_txtWind.begin(), m_txtWind.end()});
     m_lblWind = addLabels<2>("lblWind");
     m_picWind = new WindPictureBox(program);
     addOptions();
@@ -32,12 +29,12 @@ frmWind::frmWind(Program& program) : CalculatorWindow(program, "frmWind", "True 
     left->addStretch();
     columns->addLayout(left);
     columns->addWidget(m_picWind, 1);
-    addLinksMenu("mnuWind");
+    menus().addLinks("mnuWind");
 
-    m_calculation = addCalculation({"True wind",
-                                    {m_txtWind.begin(), m_txtWind.end()},
-                                    {m_lblWind.begin(), m_lblWind.end()},
-                                    [this] { runWind(); }});
+    m_calculation = calculations().add(
+        {"True wind", m_txtWind.all(), {m_lblWind.begin(), m_lblWind.end()}, [this] {
+             runWind();
+         }});
     connectPicture();
     nameSettings();
     loadSettings();
@@ -59,10 +56,8 @@ QGroupBox* frmWind::layOutInputs()
 {
     auto* group = new QGroupBox("Ship and apparent wind");
     auto* grid = new QGridLayout(group);
-    addEntryRow(grid, 0, "Ship's course", m_txtWind[0], "degrees true");
-    addEntryRow(grid, 1, "Ship's speed", m_txtWind[1], "knots");
-    addEntryRow(grid, 2, "Wind from the bow", m_txtWind[2], "degrees, port negative");
-    addEntryRow(grid, 3, "Apparent speed", m_txtWind[3], "knots");
+    for (std::size_t i = 0; i < m_txtWind.size(); ++i)
+        m_txtWind.addRow(grid, static_cast<int>(i), i);
     return group;
 }
 
@@ -105,19 +100,19 @@ void frmWind::connectPicture()
 
 void frmWind::nameSettings()
 {
-    useSettings(
+    record().use(
         "KV_Wind.ini", {Kind::Text, Kind::Text, Kind::Text, Kind::Text, Kind::Number},
         [this] {
-            Record record;
-            for (const EntryBox* box : m_txtWind)
-                record.emplace_back(box->value());
-            record.emplace_back(orientation() == WindOrientation::NorthUp ? 1.0 : 0.0);
-            return record;
+            Record values;
+            for (const EntryBox* box : m_txtWind.all())
+                values.emplace_back(box->value());
+            values.emplace_back(orientation() == WindOrientation::NorthUp ? 1.0 : 0.0);
+            return values;
         },
-        [this](const Record& record) {
+        [this](const Record& values) {
             for (std::size_t i = 0; i < m_txtWind.size(); ++i)
-                m_txtWind[i]->setText(QString::fromStdString(textOf(record[i])));
-            m_optWind[numberOf(record[4]) == 1 ? 1 : 0]->setChecked(true);
+                m_txtWind[i]->setText(QString::fromStdString(textOf(values[i])));
+            m_optWind[numberOf(values[4]) == 1 ? 1 : 0]->setChecked(true);
         });
 }
 
@@ -130,7 +125,7 @@ void frmWind::runWind()
 {
     m_wind = {};
     m_picWind->setWind({}, orientation()); // also when the library stops the calculation
-    m_wind = CalculateWind(texts<0, 4>(m_txtWind));
+    m_wind = CalculateWind(m_txtWind.texts<0, 4>());
     for (std::size_t i = 0; i < m_lblWind.size(); ++i)
         m_lblWind[i]->setText(QString::fromStdString(m_wind.lblWind[i]));
     m_picWind->setWind(m_wind.figures, orientation());
@@ -160,7 +155,7 @@ void frmWind::picWind_MouseMove(QPointF place)
     write(m_txtWind[2], pointer.relative);
     write(m_txtWind[3], pointer.apparentSpeed);
     // Direction and speed change together: one calculation for both.
-    calculate(m_calculation);
+    calculations().run(m_calculation);
 }
 
 void frmWind::picWind_MouseUp()

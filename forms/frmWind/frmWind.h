@@ -35,7 +35,7 @@ private:
     void picWind_MouseUp();
     WindOrientation orientation() const;
 
-    std::array<EntryBox*, 4> m_txtWind{};
+    FieldBoxes m_txtWind;
     std::array<ResultLabel*, 2> m_lblWind{};
     std::array<QRadioButton*, 2> m_optWind{};
     WindPictureBox* m_picWind = nullptr;

@@ -25,8 +25,9 @@ class frmProbe : public CalculatorWindow
 public:
     explicit frmProbe(Program& program) : CalculatorWindow(program, "frmCDDR", "Probe")
     {
-        EntryBox* box = addTextBox("txtProbe", "Probe");
-        useTextSettings("KV_Probe.ini", {box});
+        auto* box = new EntryBox(body());
+        box->setObjectName("txtProbe");
+        record().useTexts("KV_Probe.ini", {box});
         loadSettings();
     }
 };

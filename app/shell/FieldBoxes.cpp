@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/FieldBoxes.h"
+
+#include <QGridLayout>
+
+namespace korvel
+{
+namespace
+{
+
+EntryBox* boxOf(const Field& field, QWidget* parent)
+{
+    switch (field.kind) {
+    case FieldKind::Latitude:
+        return new PositionBox(Axis::Latitude, parent);
+    case FieldKind::Longitude:
+        return new PositionBox(Axis::Longitude, parent);
+    case FieldKind::KeyUp:
+        return new KeyUpBox(parent);
+    case FieldKind::Text:
+    case FieldKind::Moment:
+    case FieldKind::Number:
+        break;
+    }
+    return new EntryBox(parent);
+}
+
+} // namespace
+
+FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(table)
+{
+    for (const Field& field : table) {
+        EntryBox* box = boxOf(field, parent);
+        box->setObjectName(field.name);
+        box->setAccessibleName(field.accessibleName);
+        if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
+        if (field.kind == FieldKind::Longitude && !m_boxes.empty())
+            if (auto* latitude = dynamic_cast<PositionBox*>(m_boxes.back()))
+                PositionBox::pair(latitude, static_cast<PositionBox*>(box));
+        m_boxes.push_back(box);
+    }
+    setEntryOrder(m_boxes);
+}
+
+PositionBox* FieldBoxes::position(std::size_t field) const
+{
+    return static_cast<PositionBox*>(m_boxes.at(field));
+}
+
+KeyUpBox* FieldBoxes::keyUp(std::size_t field) const
+{
+    return static_cast<KeyUpBox*>(m_boxes.at(field));
+}
+
+std::vector<EntryBox*> FieldBoxes::part(std::size_t first, std::size_t count) const
+{
+    const auto from = m_boxes.begin() + static_cast<std::ptrdiff_t>(first);
+    return {from, from + static_cast<std::ptrdiff_t>(count)};
+}
+
+void FieldBoxes::clear(std::size_t first, std::size_t count)
+{
+    for (EntryBox* box : part(first, count))
+        box->clear();
+}
+
+void FieldBoxes::addRow(QGridLayout* grid, int row, std::size_t field) const
+{
+    EntryBox* box = m_boxes.at(field);
+    auto* caption = new QLabel(m_table[field].caption);
+    caption->setBuddy(box);
+    grid->addWidget(caption, row, 0);
+    grid->addWidget(box, row, 1);
+    if (auto* position = dynamic_cast<PositionBox*>(box))
+        grid->addWidget(position->echo(), row, 2);
+    else
+        grid->addWidget(new QLabel(m_table[field].unit), row, 2, 1, -1);
+}
+
+QString nameInWords(const Field& field)
+{
+    return QString(field.accessibleName).section(',', 0, 0);
+}
+
+} // namespace korvel

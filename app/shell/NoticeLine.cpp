@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/NoticeLine.h"
+
+#include <QTextLayout>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int lineCount = 2;
+
+} // namespace
+
+NoticeLine::NoticeLine()
+{
+    setObjectName("lblNotice");
+    setAccessibleName("Notice");
+    setFont(QFont()); // copied like a result, read like a caption
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMinimumHeight(sizeHint().height());
+}
+
+void NoticeLine::say(const QString& key, const QString& text)
+{
+    if (text.isEmpty())
+        m_said.erase(key);
+    else
+        m_said[key] = text;
+    QStringList all;
+    for (const auto& [each, words] : m_said)
+        all << words;
+    setText(all.join("  "));
+    setToolTip(this->text());
+}
+
+QSize NoticeLine::sizeHint() const
+{
+    return {0, lineCount * fontMetrics().lineSpacing()};
+}
+
+QSize NoticeLine::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void NoticeLine::paintEvent(QPaintEvent* event)
+{
+    if (isBeingSelected()) {
+        ResultLabel::paintEvent(event);
+        return;
+    }
+    QTextLayout layout(text(), font());
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width());
+        if (lines.size() + 1 == lineCount) {
+            lines << fontMetrics().elidedText(text().mid(line.textStart()), Qt::ElideRight,
+                                              width());
+            break;
+        }
+        lines << text().mid(line.textStart(), line.textLength());
+    }
+    layout.endLayout();
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), static_cast<int>(alignment()), lines.join('\n'));
+}
+
+} // namespace korvel

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/WindowMenus.h"
+
+#include "app/shell/Boxes.h"
+#include "app/shell/Program.h"
+
+#include <QMenuBar>
+
+namespace korvel
+{
+
+WindowMenus::WindowMenus(Program& program, QMainWindow& window)
+    : m_program(program), m_window(window)
+{
+}
+
+QMenu* WindowMenus::add(const QString& caption, const QString& name)
+{
+    QMenu* menu = m_window.menuBar()->addMenu(caption);
+    menu->setObjectName(name);
+    return menu;
+}
+
+QAction* WindowMenus::addEntry(QMenu* menu, const QString& array, int index, const QString& caption,
+                               std::function<void()> action)
+{
+    QAction* entry = menu->addAction(caption, &m_window, std::move(action));
+    entry->setObjectName(memberName(array, index));
+    return entry;
+}
+
+QAction* WindowMenus::addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                                   const QString& caption, std::function<void()> action)
+{
+    if (!menu) menu = add(title, array);
+    return addEntry(menu, array, static_cast<int>(menu->actions().size()), caption,
+                    std::move(action));
+}
+
+void WindowMenus::addStoreSingle(const QString& caption, Text value)
+{
+    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption, [this, value = std::move(value)] {
+        m_program.actions().StoreInMemo(KORVEL2000Actions::Single, value());
+    });
+}
+
+QAction* WindowMenus::addStorePosition(const QString& caption, Text latitude, Text longitude)
+{
+    return addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
+                        [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
+                            m_program.actions().storePosition(latitude(), longitude());
+                        });
+}
+
+void WindowMenus::addRecallSingle(const QString& caption, QLineEdit* box)
+{
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, box] { recallSingle(box); });
+}
+
+void WindowMenus::addRecallPosition(const QString& caption, QLineEdit* latitude,
+                                    QLineEdit* longitude)
+{
+    addRecallPosition(caption, [=] { return std::pair(latitude, longitude); });
+}
+
+void WindowMenus::addRecallPosition(const QString& caption, PositionBoxes boxes)
+{
+    addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, boxes = std::move(boxes)] {
+        const auto [latitude, longitude] = boxes();
+        recallPosition(latitude, longitude);
+    });
+}
+
+void WindowMenus::recallSingle(QLineEdit* box)
+{
+    if (m_program.actions().ConfirmMemoRecall("SinM") == "Yes")
+        box->setText(QString::fromStdString(memoText(m_program.saved().singleMemo())));
+}
+
+void WindowMenus::recallPosition(QLineEdit* latitude, QLineEdit* longitude)
+{
+    if (m_program.actions().ConfirmMemoRecall("PsnM") != "Yes") return;
+    latitude->setText(QString::fromStdString(memoText(m_program.saved().memoLatitude())));
+    longitude->setText(QString::fromStdString(memoText(m_program.saved().memoLongitude())));
+}
+
+void WindowMenus::addLinks(const QString& array)
+{
+    QMenu* menu = add("&Windows", array);
+    int index = 0;
+    for (const WindowLink& link : m_program.links)
+        if (link.name != m_window.objectName())
+            addEntry(menu, array, index++, link.caption,
+                     [this, name = link.name] { m_program.openWindow(name); });
+}
+
+} // namespace korvel

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAction>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+
+#include <functional>
+#include <string>
+#include <utility>
+
+namespace korvel
+{
+
+class Program;
+
+/// The menus of a calculator window: its own, those of the memories, the links to other windows.
+/// Indices of entries count from 0 in the order of the calls.
+class WindowMenus
+{
+public:
+    WindowMenus(Program& program, QMainWindow& window);
+
+    QMenu* add(const QString& caption, const QString& name);
+    QAction* addEntry(QMenu* menu, const QString& array, int index, const QString& caption,
+                      std::function<void()> action);
+
+    using Text = std::function<std::string()>;
+    void addStoreSingle(const QString& caption, Text value);
+    QAction* addStorePosition(const QString& caption, Text latitude, Text longitude);
+    void addRecallSingle(const QString& caption, QLineEdit* box);
+    void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);
+
+    /// The same for boxes that are chosen when the entry is: those of the row with the focus.
+    using PositionBoxes = std::function<std::pair<QLineEdit*, QLineEdit*>()>;
+    void addRecallPosition(const QString& caption, PositionBoxes boxes);
+
+    /// What the recall entries do: ask and fill the boxes on Yes.
+    void recallSingle(QLineEdit* box);
+    void recallPosition(QLineEdit* latitude, QLineEdit* longitude);
+
+    /// A menu array that opens the other windows of the program.
+    void addLinks(const QString& array);
+
+private:
+    QAction* addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
+                          const QString& caption, std::function<void()> action);
+
+    Program& m_program;
+    QMainWindow& m_window;
+    QMenu* m_mnuMemo = nullptr;
+    QMenu* m_mnuRem = nullptr;
+};
+
+} // namespace korvel

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Field.h"
+
+#include <array>
+
+namespace korvel
+{
+
+/// The boxes of the crude-oil window; in this order in the record, before the choices. Units are
+/// chosen beside the boxes and added to the names.
+inline constexpr std::array<Field, 7> CrudeFields = {{
+    {"txtVolume", "V&olume", "Observed volume", FieldKind::KeyUp},
+    {"txtFreeWater", "Fr&ee water", "Free water", FieldKind::KeyUp},
+    {"txtTemperature", "&Temperature", "Temperature of the cargo", FieldKind::KeyUp},
+    {"txtDensity", "&Density", "Density", FieldKind::KeyUp},
+    {"txtObservedTemperature", "  &at temperature", "Temperature at which the density was observed",
+     FieldKind::KeyUp},
+    {"txtSedimentAndWater", "&Sediment and water", "Sediment and water, per cent",
+     FieldKind::KeyUp},
+    {"txtKLperBbl", "&KL/Bbl", "KL/Bbl, kilolitres at 15 °C per barrel at 60 °F", FieldKind::KeyUp},
+}};
+
+} // namespace korvel

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Field.h"
+
+#include <array>
+
+namespace korvel
+{
+
+/// The boxes of the ETA window; in this order in the record.
+inline constexpr std::array<Field, 8> ETAFields = {{
+    {"txtTime(0)", "Departure", "Departure date, year/month/day", FieldKind::Moment},
+    {"txtTime(1)", "", "Departure time, hours:minutes, local", FieldKind::Moment},
+    {"txtTime(2)", "Arrival wanted", "Arrival date wanted, year/month/day", FieldKind::Moment},
+    {"txtTime(3)", "", "Arrival time wanted, hours:minutes, local", FieldKind::Moment},
+    {"txtTD(0)", "TD at departure", "Time difference TD at departure, hours, east positive",
+     FieldKind::Number, "hours"},
+    {"txtTD(1)", "TD at arrival", "Time difference TD at arrival, hours, east positive",
+     FieldKind::Number, "hours"},
+    {"txtDist", "Distance", "Distance, nautical miles", FieldKind::Number, "miles"},
+    {"txtSpeed", "Speed", "Speed, knots", FieldKind::Number, "knots"},
+}};
+
+} // namespace korvel

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Field.h"
+
+#include <array>
+
+namespace korvel
+{
+
+/// The boxes of the great-circle window; in this order in the record.
+inline constexpr std::array<Field, 4> GCFields = {{
+    {"txtGC(0)", "Departure latitude",
+     "Departure latitude, degrees.minutes, north positive, up to 65", FieldKind::Latitude},
+    {"txtGC(1)", "Departure longitude", "Departure longitude, degrees.minutes, east positive",
+     FieldKind::Longitude},
+    {"txtGC(2)", "Arrival latitude", "Arrival latitude, degrees.minutes, north positive, up to 65",
+     FieldKind::Latitude},
+    {"txtGC(3)", "Arrival longitude", "Arrival longitude, degrees.minutes, east positive",
+     FieldKind::Longitude},
+}};
+
+} // namespace korvel
