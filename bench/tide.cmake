@@ -4,7 +4,7 @@
 # arguments are given); ours/tide_from_disk, which reads the day's arguments and the station, at most
 # 0.4 of peer/tide_from_disk (the same sum, which works the arguments out).
 add_library(tide_full STATIC FullPrediction.cpp)
-target_link_libraries(tide_full PUBLIC tidedata_core)
+target_link_libraries(tide_full PUBLIC tidedata_sources)
 
 add_executable(tide_accuracy TideAccuracy.cpp)
 target_link_libraries(tide_accuracy PRIVATE tide_full frmTIDE_calculation)

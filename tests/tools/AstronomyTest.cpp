@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "tools/tidedata/astronomy.h"
-#include "tools/tidedata/factors.h"
+#include "tidedata/astronomy.h"
+#include "tidedata/factors.h"
 
 #include "navlib/datetime.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/tidedata/factors.h"
+#include "tidedata/factors.h"
 #include "tools/tidedata/sources.h"
 #include "tools/tidedata/station_file.h"
 

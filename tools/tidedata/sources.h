@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tools/tidedata/astronomy.h"
+#include "tidedata/astronomy.h"
 
 #include <filesystem>
 #include <map>

@@ -3,7 +3,7 @@
 
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
-#include "tools/tidedata/text.h"
+#include "tidedata/text.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "tools/tidedata/factors.h"
+#include "tidedata/factors.h"
 
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
-#include "tools/tidedata/text.h"
+#include "tidedata/text.h"
 
 #include <cmath>
 #include <stdexcept>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/tidedata/text.h"
+#include "tidedata/text.h"
 
 #include <array>
 #include <charconv>

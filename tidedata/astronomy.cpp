@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/tidedata/astronomy.h"
+#include "tidedata/astronomy.h"
 
 #include "navlib/angles.h"
 

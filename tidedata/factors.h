@@ -2,7 +2,7 @@
 #pragma once
 
 #include "navlib/tide.h"
-#include "tools/tidedata/astronomy.h"
+#include "tidedata/astronomy.h"
 
 #include <string>
 
