@@ -123,7 +123,8 @@ std::string askNumberInRange(Questions& questions, const std::string& prompt,
                              const std::string& defaultAnswer, double low, double high)
 {
     for (;;) {
-        const std::string answer = questions.input(prompt, programTitle, defaultAnswer);
+        const std::string answer =
+            questions.input(prompt, programTitle, defaultAnswer).value_or("");
         const double value = readNumber(answer);
         if (isNumeric(answer) && value >= low && value <= high) return answer;
         questions.ask({answer + " is incorrect value.", programTitle, Buttons::Ok});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace korvel
@@ -22,12 +23,14 @@ class Questions
 public:
     virtual ~Questions() = default;
 
-    /// Shows a message and waits. Closing the box counts as the refusing button (No, Cancel, Ok).
+    /// Shows a message and waits. A box that is left without a button (Escape, its cross) answers
+    /// Cancel where it asks something and Ok where it only tells: whoever asks takes everything but
+    /// Yes and Ok for a refusal.
     virtual Answer ask(const Message& message) = 0;
 
-    /// Asks for a line of text; cancelling gives an empty answer.
-    virtual std::string input(const std::string& prompt, const std::string& title,
-                              const std::string& defaultAnswer) = 0;
+    /// Asks for a line of text. @return nothing when the officer cancelled
+    virtual std::optional<std::string> input(const std::string& prompt, const std::string& title,
+                                             const std::string& defaultAnswer) = 0;
 
     virtual void beep() = 0;
 };

@@ -5,7 +5,9 @@
 #include "app/KORVEL2000Actions.h"
 #include "navlib/datetime.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
@@ -14,6 +16,18 @@ namespace
 
 constexpr double JSTHours = 9;
 constexpr double secondsPerDay = 86400;
+
+// UTC from the noon of the first day to the noon of the last: every TD stays within the calendar.
+constexpr NavFunc113::DateTime firstUTC = 2.5;      // 1900-01-01 12:00
+constexpr NavFunc113::DateTime lastUTC = 2958465.5; // 9999-12-31 12:00
+
+bool isOnCalendar(NavFunc113::DateTime utc)
+{
+    return utc >= firstUTC && utc <= lastUTC;
+}
+
+constexpr const char* zoneNames[] = {"JST", "SMT", "UTC"};
+constexpr double zoneTolerance = 2.0 / 60; // hours
 
 long minuteOf(NavFunc113::DateTime value)
 {
@@ -32,14 +46,25 @@ ShipsTime::DateTime ShipsTime::now() const
     return m_clock.now() + m_offset / secondsPerDay;
 }
 
+/// Hours by which a computer that keeps a zone is ahead of UTC.
+double ShipsTime::hoursOf(ClockZone zone) const
+{
+    switch (zone) {
+    case ClockZone::JST:
+        return JSTHours;
+    case ClockZone::SMT:
+        return m_saved.TD();
+    case ClockZone::UTC:
+        break;
+    }
+    return 0;
+}
+
 std::array<ShipsTime::DateTime, 3> ShipsTime::zones() const
 {
-    const double TD = m_saved.TD();
-    const DateTime shown = now();
-    DateTime utc = shown;
-    if (m_saved.clockZone() == ClockZone::JST) utc = shown - JSTHours / 24;
-    if (m_saved.clockZone() == ClockZone::SMT) utc = shown - TD / 24;
-    return {utc + JSTHours / 24, utc + TD / 24, utc};
+    // A program that is left running may walk off the calendar: it stays at its end.
+    const DateTime utc = std::clamp(now() - hoursOf(m_saved.clockZone()) / 24, firstUTC, lastUTC);
+    return {utc + JSTHours / 24, utc + hoursOf(ClockZone::SMT) / 24, utc};
 }
 
 void ShipsTime::setUp()
@@ -52,28 +77,39 @@ void ShipsTime::setUp()
                          confirmationTitle, Buttons::YesNo});
     if (change != Answer::Yes) return;
 
-    std::optional<DateTime> typed;
-    while (!typed) {
-        typed = readDateTime(m_questions.input("Input present time in SMT.", programTitle,
-                                               Format(SMT(), "yy/mm/dd hh:mm")));
-        // A time of day alone would set the computer back to the first day of the count.
-        if (typed && *typed < 1) typed = std::floor(SMT()) + *typed;
-        if (!typed) m_questions.ask({"Incorrect value.", programTitle, Buttons::Ok});
-    }
-    const Answer set = m_questions.ask({"SMT was changed as  " + Format(*typed, "yy/mm/dd hh:mm"),
+    const DateTime typed = askSMT();
+    const Answer set = m_questions.ask({"SMT was changed as  " + Format(typed, "yy/mm/dd hh:mm"),
                                         programTitle, Buttons::OkCancel});
     if (set != Answer::Ok) return;
     inputTD();
-    setComputerClock(*typed);
+    if (isOnCalendar(typed - hoursOf(ClockZone::SMT) / 24))
+        setComputerClock(typed);
+    else
+        m_questions.ask({"SMT " + Format(typed, "yyyy/mm/dd hh:mm") +
+                             " is refused: it is too near to the end of the calendar, which "
+                             "reaches from 1900 to 9999.",
+                         programTitle, Buttons::Ok});
     refresh();
+}
+
+ShipsTime::DateTime ShipsTime::askSMT()
+{
+    for (;;) {
+        const std::string answer =
+            m_questions
+                .input("Input present time in SMT.", programTitle, Format(SMT(), "yy/mm/dd hh:mm"))
+                .value_or("");
+        if (const auto typed = readDateTime(answer))
+            // A time of day alone would set the computer back to the first day of the count.
+            return *typed >= 0 && *typed < 1 ? std::floor(SMT()) + *typed : *typed;
+        m_questions.ask({"Incorrect value.", programTitle, Buttons::Ok});
+    }
 }
 
 void ShipsTime::setComputerClock(DateTime typedSMT)
 {
-    const double TD = m_saved.TD();
-    DateTime wanted = typedSMT;
-    if (m_saved.clockZone() == ClockZone::JST) wanted = typedSMT + (JSTHours - TD) / 24;
-    if (m_saved.clockZone() == ClockZone::UTC) wanted = typedSMT - TD / 24;
+    const double ahead = hoursOf(m_saved.clockZone()) - hoursOf(ClockZone::SMT);
+    const DateTime wanted = typedSMT + ahead / 24;
     const auto fault = m_clock.set(wanted);
     if (!fault) {
         m_offset = 0;
@@ -86,6 +122,47 @@ void ShipsTime::setComputerClock(DateTime typedSMT)
                          ".\rThe program keeps the ship's time itself, as an offset from the "
                          "computer's clock.",
                      programTitle, Buttons::Ok});
+}
+
+bool ShipsTime::takeOffset(double seconds)
+{
+    const DateTime utc =
+        m_clock.now() + seconds / secondsPerDay - hoursOf(m_saved.clockZone()) / 24;
+    if (!isOnCalendar(utc)) return false;
+    m_offset = seconds;
+    return true;
+}
+
+std::string ShipsTime::offsetText() const
+{
+    if (m_offset == 0) return {};
+    const auto seconds = static_cast<std::int64_t>(std::llround(std::fabs(m_offset)));
+    const auto part = [](std::int64_t value, const char* format) {
+        return Format(static_cast<double>(value), format);
+    };
+    return part(seconds / 3600, "#,##0 h ") + part(seconds / 60 % 60, "00 min ") +
+           part(seconds % 60, "00 s ") + (m_offset > 0 ? "ahead" : "behind");
+}
+
+std::string ShipsTime::zoneNotice() const
+{
+    const double ahead = m_clock.hoursAheadOfUTC();
+    const auto agrees = [](double shown, double own) {
+        return std::fabs(shown - own) <= zoneTolerance;
+    };
+    // An offset is the officer's word against the clock's, so either may agree.
+    const double corrected = ahead + m_offset / 3600;
+    const double shown = hoursOf(m_saved.clockZone());
+    if (agrees(shown, ahead) || agrees(shown, corrected)) return {};
+
+    const DateTime byZone = m_clock.now() - ahead / 24;
+    const std::string both = "UTC is " + Format(byZone, "dd-hhmm") +
+                             " by the computer's own zone, " + Format(UTC(), "dd-hhmm") +
+                             " here. Property, The computer's clock keeps: ";
+    for (const ClockZone zone : {ClockZone::UTC, ClockZone::JST, ClockZone::SMT})
+        if (agrees(hoursOf(zone), corrected))
+            return both + "choose " + zoneNames[static_cast<int>(zone)];
+    return both + "choose SMT with TD " + Format(corrected, "0.0##");
 }
 
 void ShipsTime::inputTD()
@@ -112,7 +189,7 @@ void ShipsTime::show()
 
 void ShipsTime::JikokuHyouji()
 {
-    const long minute = minuteOf(now());
+    const long minute = minuteOf(std::clamp(now(), firstUTC, lastUTC));
     if (m_minuteShown == minute) return;
     m_minuteShown = minute;
     show();

@@ -29,7 +29,8 @@ public:
     ShipsTime(KV_Savedvalue& saved, Questions& questions, ComputerClock& clock, Hooks hooks);
 
     /// The dialog that sets SMT, TD and through them the computer's clock. Where the clock cannot
-    /// be set, SMT is kept as an offset from it and the officer is told once.
+    /// be set, SMT is kept as an offset from it and the officer is told once. A time so near to the
+    /// ends of the calendar that some TD would leave it is refused with the reason.
     void setUp();
 
     /// Asks for TD until it is a number within 12 hours, stores it rounded to one decimal.
@@ -50,14 +51,25 @@ public:
     /// Seconds by which the program's time is ahead of the computer's clock; 0 unless the clock
     /// could not be set.
     double offsetSeconds() const { return m_offset; }
-    void setOffsetSeconds(double seconds) { m_offset = seconds; }
+    /// The same in words, "0 h 15 min 00 s ahead"; empty when there is none.
+    std::string offsetText() const;
+    /// Takes an offset over. @return false, and nothing is taken over, when it is no number or
+    /// would put ship's time beyond the calendar
+    bool takeOffset(double seconds);
+
+    /// One line for the officer when the computer's own zone makes UTC another time than the one
+    /// shown, by more than two minutes: both times and the entry of the clock menu that agrees.
+    /// Otherwise empty.
+    std::string zoneNotice() const;
 
     /// The caption of the main window: "KORVEL (9.0 hE)".
     static std::string caption(float TD);
 
 private:
     std::array<DateTime, 3> zones() const; ///< JST, SMT, UTC, by ClockZone
+    double hoursOf(ClockZone zone) const;
     DateTime now() const;
+    DateTime askSMT();
     void show();
     void setComputerClock(DateTime typedSMT);
 

@@ -36,9 +36,40 @@ long dayMinute(long minute)
     return (minute % minutesOfDay + minutesOfDay) % minutesOfDay;
 }
 
-bool yes(Questions& questions, const std::string& text)
+Answer askYesNo(Questions& questions, const std::string& text)
 {
-    return questions.ask({text, programTitle, Buttons::YesNo}) == Answer::Yes;
+    return questions.ask({text, programTitle, Buttons::YesNo});
+}
+
+/// Asks until the answer is a time of day. @return it as hh:mm; nothing when cancelled, which an
+/// empty answer counts as
+std::optional<std::string> askAlarmTime(Questions& questions, const std::string& stored)
+{
+    for (;;) {
+        const auto answer = questions.input("Input ALARM Time( hh:mm )", programTitle, stored);
+        if (!answer || answer->empty()) return std::nullopt;
+        if (const auto time = timeOfDay(*answer)) return Format(*time, "hh:mm");
+        questions.ask({"Incorrect value.", programTitle, Buttons::Ok});
+    }
+}
+
+/// Time, comment and use of alarm n, stored as they are answered. @return false when cancelled
+bool askAlarm(int n, KV_Savedvalue& saved, Questions& questions,
+              const std::function<void()>& menuChanged)
+{
+    const auto time = askAlarmTime(questions, saved.alarmTime(n));
+    if (!time) return false;
+    saved.setAlarmTime(n, *time);
+    menuChanged();
+    const auto comment = questions.input("Input the comments appear when alarming.", programTitle,
+                                         saved.alarmComment(n));
+    if (!comment) return false;
+    saved.setAlarmComment(n, *comment);
+    const Answer use = askYesNo(questions, "Do you set this alarm enabled？");
+    if (use == Answer::Cancel) return false;
+    saved.setAlarmEnabled(n, use == Answer::Yes);
+    menuChanged();
+    return true;
 }
 
 std::string timeSignalText(int minutesBefore)
@@ -58,49 +89,40 @@ void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
                 const std::function<void()>& menuChanged)
 {
     const std::string number = std::to_string(n);
-    if (!yes(questions, "Do you want to set ALARM-" + number + "?")) return;
+    if (askYesNo(questions, "Do you want to set ALARM-" + number + "?") != Answer::Yes) return;
 
-    std::optional<double> time;
-    while (!time) {
-        const std::string answer =
-            questions.input("Input ALARM Time( hh:mm )", programTitle, saved.alarmTime(n));
-        if (answer.empty()) return;
-        time = timeOfDay(answer);
-        if (!time) questions.ask({"Incorrect value.", programTitle, Buttons::Ok});
+    const std::string time = saved.alarmTime(n);
+    const std::string comment = saved.alarmComment(n);
+    if (!askAlarm(n, saved, questions, menuChanged)) {
+        saved.setAlarmTime(n, time);
+        saved.setAlarmComment(n, comment);
+        menuChanged();
+        return;
     }
-    saved.setAlarmTime(n, Format(*time, "hh:mm"));
-    menuChanged();
-
-    saved.setAlarmComment(n, questions.input("Input the comments appear when alarming.",
-                                             programTitle, saved.alarmComment(n)));
-    saved.setAlarmEnabled(n, yes(questions, "Do you set this alarm enabled？"));
-    menuChanged();
-
     // Everything is stored by now: the answer only ends the sequence.
-    yes(questions, "Completed the setting of ALARM-" + number + "\rTime：" + saved.alarmTime(n) +
-                       "\rComment：" + saved.alarmComment(n) +
-                       (saved.alarmEnabled(n) ? "\rUse：Enabled" : "\rUse：Unable") +
-                       "\rAre you sure to use alarm in above settings？");
+    askYesNo(questions, "Completed the setting of ALARM-" + number + "\rTime：" +
+                            saved.alarmTime(n) + "\rComment：" + saved.alarmComment(n) +
+                            (saved.alarmEnabled(n) ? "\rUse：Enabled" : "\rUse：Unable") +
+                            "\rAre you sure to use alarm in above settings？");
 }
 
 void setUpTimeSignal(KV_Savedvalue& saved, Questions& questions)
 {
-    if (!yes(questions, "Do you use the time signal?")) {
-        saved.setTimeSignal(false);
-        return;
-    }
+    const Answer use = askYesNo(questions, "Do you use the time signal?");
+    if (use == Answer::No) saved.setTimeSignal(false);
+    if (use != Answer::Yes) return;
     for (;;) {
-        const std::string answer =
+        const auto answer =
             questions.input("Input how many minutes before the hour (0 to 59) it sounds.",
                             programTitle, Format(saved.timeSignalMinutes(), "0"));
-        if (answer.empty()) return;
-        const double minutes = readNumber(answer);
-        if (isNumeric(answer) && minutes >= 0 && minutes <= 59 && minutes == std::floor(minutes)) {
+        if (!answer || answer->empty()) return;
+        const double minutes = readNumber(*answer);
+        if (isNumeric(*answer) && minutes >= 0 && minutes <= 59 && minutes == std::floor(minutes)) {
             saved.setTimeSignalMinutes(static_cast<int>(minutes));
             saved.setTimeSignal(true);
             return;
         }
-        questions.ask({answer + " is incorrect value.", programTitle, Buttons::Ok});
+        questions.ask({*answer + " is incorrect value.", programTitle, Buttons::Ok});
     }
 }
 

@@ -18,15 +18,15 @@ namespace korvel
 std::string alarmCaption(int n, const KV_Savedvalue& saved);
 
 /// Asks for time, comment and use of alarm n. An answer that is no time brings a message and the
-/// question again with the old time; an empty one, which is what Cancel gives, leaves the alarm as
-/// it was. Times are stored as hh:mm whatever was typed.
+/// question again with the old time. Cancel in any question leaves the alarm as it was, and so does
+/// an empty time. Times are stored as hh:mm whatever was typed.
 /// @param n           1 .. 5
 /// @param menuChanged called whenever caption or tick of the entry are to be shown anew
 void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
                 const std::function<void()>& menuChanged);
 
 /// Asks whether the hourly time signal is used, then how many minutes before the hour. Cancelling
-/// the minutes leaves both as they were.
+/// either leaves both as they were.
 void setUpTimeSignal(KV_Savedvalue& saved, Questions& questions);
 
 /// What has fallen due.

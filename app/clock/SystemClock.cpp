@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "app/clock/local_time.h"
 #include "app/clock/makeComputerClock.h"
 
 #include "navlib/datetime.h"
 
 #include <cerrno>
-#include <cmath>
 #include <ctime>
 #include <system_error>
 
@@ -21,26 +21,11 @@ using NavFunc113::CivilDate;
 using NavFunc113::DateTime;
 using NavFunc113::TimeOfDay;
 
-std::tm localTime(std::time_t instant)
-{
-    std::tm civil{};
-#ifdef _WIN32
-    localtime_s(&civil, &instant);
-#else
-    localtime_r(&instant, &civil);
-#endif
-    return civil;
-}
-
 class SystemClock : public ComputerClock
 {
 public:
-    DateTime now() const override
-    {
-        const std::tm civil = localTime(std::time(nullptr));
-        return NavFunc113::MakeDateTime({civil.tm_year + 1900, civil.tm_mon + 1, civil.tm_mday},
-                                        civil.tm_hour * 3600 + civil.tm_min * 60 + civil.tm_sec);
-    }
+    DateTime now() const override { return localTime().time; }
+    double hoursAheadOfUTC() const override { return localTime().hoursAheadOfUTC; }
 
     std::optional<std::string> set(DateTime value) override
     {

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "app/clock/local_time.h"
 #include "app/clock/makeComputerClock.h"
-
-#include "navlib/datetime.h"
-
-#include <ctime>
 
 namespace korvel
 {
@@ -14,14 +11,8 @@ namespace
 class TrialClock : public ComputerClock
 {
 public:
-    NavFunc113::DateTime now() const override
-    {
-        const std::time_t instant = std::time(nullptr);
-        std::tm civil{};
-        localtime_r(&instant, &civil);
-        return NavFunc113::MakeDateTime({civil.tm_year + 1900, civil.tm_mon + 1, civil.tm_mday},
-                                        civil.tm_hour * 3600 + civil.tm_min * 60 + civil.tm_sec);
-    }
+    NavFunc113::DateTime now() const override { return localTime().time; }
+    double hoursAheadOfUTC() const override { return localTime().hoursAheadOfUTC; }
 
     std::optional<std::string> set(NavFunc113::DateTime) override
     {

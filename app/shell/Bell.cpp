@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QStringList>
 
@@ -25,9 +26,7 @@ constexpr std::array players = {Player{"pw-play", nullptr}, Player{"paplay", nul
 
 } // namespace
 
-SystemBell::SystemBell(Settings settings)
-    : m_settings(std::move(settings)),
-      m_file(QDir::tempPath() + QStringLiteral("/korvel2000-XXXXXX.wav"))
+SystemBell::SystemBell(Settings settings) : m_settings(std::move(settings))
 {
     if (!m_settings.beep) m_settings.beep = [] { QApplication::beep(); };
     connect(&m_timer, &QTimer::timeout, this, &SystemBell::tick);
@@ -114,16 +113,21 @@ void SystemBell::playerEnded(bool played)
     playWithNextPlayer();
 }
 
-/// The tone's file, written when it is first wanted.
+/// The tone's file, written when it is first wanted and when somebody has cleaned it away: a
+/// program at sea runs longer than temporary files are kept.
 /// @return its path; empty when it cannot be written
 QString SystemBell::toneFile()
 {
-    if (m_file.size() > 0) return m_file.fileName();
     const std::string tone = alarmTone();
     const auto size = static_cast<qint64>(tone.size());
-    const bool written = m_file.open() && m_file.write(tone.data(), size) == size && m_file.flush();
-    const QString name = m_file.fileName();
-    m_file.close();
+    if (m_file && QFileInfo(m_file->fileName()).size() == size) return m_file->fileName();
+    m_file = std::make_unique<QTemporaryFile>(QDir::tempPath() +
+                                              QStringLiteral("/korvel2000-XXXXXX.wav"));
+    const bool written =
+        m_file->open() && m_file->write(tone.data(), size) == size && m_file->flush();
+    const QString name = m_file->fileName();
+    m_file->close();
+    if (!written) m_file.reset();
     return written ? name : QString();
 }
 

@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 
 namespace korvel
 {
@@ -53,7 +54,7 @@ private:
 
     Settings m_settings;
     QTimer m_timer;
-    QTemporaryFile m_file;
+    std::unique_ptr<QTemporaryFile> m_file;
     QProcess* m_process = nullptr; ///< the player at work
     std::size_t m_player = 0;      ///< players before this one did not work since the start
 };

@@ -2,7 +2,9 @@
 #include "app/shell/MessageQuestions.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -30,6 +32,30 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons)
     return QMessageBox::Ok;
 }
 
+/// Knows whether it was left without a button: the toolkit takes Escape and the cross for No.
+class MessageBox : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+    bool wasLeft() const { return m_left; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (event->matches(QKeySequence::Cancel)) m_left = true;
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override
+    {
+        m_left = true;
+        QMessageBox::closeEvent(event);
+    }
+
+private:
+    bool m_left = false;
+};
+
 /// The question at start-up stands below the title picture instead of on it.
 void placeBelowStartWindow(QDialog& dialog)
 {
@@ -55,13 +81,12 @@ QWidget* MessageQuestions::asker()
 
 Answer MessageQuestions::ask(const Message& message)
 {
-    QMessageBox box(asker());
+    MessageBox box(asker());
     box.setWindowTitle(shown(message.title));
     box.setTextFormat(Qt::PlainText);
     box.setText(shown(message.text));
     box.setStandardButtons(buttonsOf(message.buttons));
     if (message.buttons != Buttons::Ok) {
-        // Closing the box is the refusing answer.
         const bool yesNo = message.buttons == Buttons::YesNo;
         box.setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Cancel);
         box.setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
@@ -69,7 +94,9 @@ Answer MessageQuestions::ask(const Message& message)
     } else {
         box.setIcon(QMessageBox::Information);
     }
-    switch (box.exec()) {
+    const int pressed = box.exec();
+    if (box.wasLeft() && message.buttons != Buttons::Ok) return Answer::Cancel;
+    switch (pressed) {
     case QMessageBox::Yes:
         return Answer::Yes;
     case QMessageBox::No:
@@ -81,8 +108,9 @@ Answer MessageQuestions::ask(const Message& message)
     }
 }
 
-std::string MessageQuestions::input(const std::string& prompt, const std::string& title,
-                                    const std::string& defaultAnswer)
+std::optional<std::string> MessageQuestions::input(const std::string& prompt,
+                                                   const std::string& title,
+                                                   const std::string& defaultAnswer)
 {
     QInputDialog dialog(asker());
     dialog.setWindowTitle(shown(title));
@@ -90,7 +118,8 @@ std::string MessageQuestions::input(const std::string& prompt, const std::string
     dialog.setTextValue(QString::fromStdString(defaultAnswer));
     if (auto* box = dialog.findChild<QLineEdit*>()) box->selectAll();
     placeBelowStartWindow(dialog);
-    return dialog.exec() == QDialog::Accepted ? dialog.textValue().toStdString() : std::string();
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.textValue().toStdString();
 }
 
 void MessageQuestions::beep()

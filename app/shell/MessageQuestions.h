@@ -14,8 +14,8 @@ class MessageQuestions : public Questions
 {
 public:
     Answer ask(const Message& message) override;
-    std::string input(const std::string& prompt, const std::string& title,
-                      const std::string& defaultAnswer) override;
+    std::optional<std::string> input(const std::string& prompt, const std::string& title,
+                                     const std::string& defaultAnswer) override;
     void beep() override;
 
 private:

@@ -65,7 +65,6 @@ signals:
     void distanceUnitChanged();
     void coloursChanged();
     void TDChanged();
-    void minuteChanged();
     /// A calculator window closed; its menu entry is unticked.
     void windowClosed(const QString& name);
 

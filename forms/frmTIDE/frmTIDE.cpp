@@ -195,8 +195,11 @@ void frmTIDE::askDate()
     const long today = static_cast<long>(std::floor(program().shipsTime().SMT()));
     std::optional<long> date;
     while (!date)
-        date = TideDates::dateIn(program().questions().input(
-            std::string(tideDatePrompt), programTitle, TideDates::defaultAnswer(today)));
+        date = TideDates::dateIn(
+            program()
+                .questions()
+                .input(std::string(tideDatePrompt), programTitle, TideDates::defaultAnswer(today))
+                .value_or(""));
     if (!m_dates.contains(*date)) {
         program().questions().ask({m_dates.refusal(), programTitle, Buttons::Ok});
         return;

@@ -21,7 +21,7 @@ namespace
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Answers from a list; "" for Cancel, "Y" and "N" for the buttons. Writes down what was asked.
+/// Answers from a list; "Esc" for Cancel, "Y" and "N" for the buttons. Writes down what was asked.
 class Script : public Questions
 {
 public:
@@ -32,13 +32,15 @@ public:
         asked.push_back(message.text);
         EXPECT_EQ(message.title, programTitle);
         if (message.buttons == Buttons::Ok) return Answer::Ok;
-        return next() == "Y" ? Answer::Yes : Answer::No;
+        const std::string answer = next();
+        return answer == "Y" ? Answer::Yes : answer == "N" ? Answer::No : Answer::Cancel;
     }
-    std::string input(const std::string& prompt, const std::string&,
-                      const std::string& defaultAnswer) override
+    std::optional<std::string> input(const std::string& prompt, const std::string&,
+                                     const std::string& defaultAnswer) override
     {
         asked.push_back(prompt + " <" + defaultAnswer + ">");
-        return next();
+        const std::string answer = next();
+        return answer == "Esc" ? std::nullopt : std::optional(answer);
     }
     void beep() override {}
 
@@ -91,9 +93,29 @@ TEST(AlarmSetUp, asksAgainForWhatIsNoTime)
         EXPECT_EQ(asked[3], "Input ALARM Time( hh:mm ) <05:15>") << wrong;
         EXPECT_EQ(saved.alarmTime(2), "23:59") << wrong;
     }
-    KV_Savedvalue saved;
-    alarmDialog(saved, {"Y", ""});
-    EXPECT_EQ(saved.alarmTime(2), "00:00") << "Cancel leaves everything";
+}
+
+TEST(AlarmSetUp, cancelAnywhereLeavesTheAlarmAsItWas)
+{
+    const std::vector<std::deque<std::string>> answers = {{"N"},
+                                                          {"Esc"},
+                                                          {"Y", "Esc"},
+                                                          {"Y", ""},
+                                                          {"Y", "9:00x", "Esc"},
+                                                          {"Y", "6:00", "Esc"},
+                                                          {"Y", "6:00", "new", "Esc"}};
+    for (const auto& each : answers) {
+        KV_Savedvalue saved;
+        saved.setAlarmTime(2, "05:15");
+        saved.setAlarmComment(2, "old");
+        saved.setAlarmEnabled(2, true);
+        std::string caption;
+        Script script(each);
+        setUpAlarm(2, saved, script, [&] { caption = alarmCaption(2, saved); });
+        EXPECT_EQ(saved.alarmTime(2) + saved.alarmComment(2), "05:15old") << each.size();
+        EXPECT_TRUE(saved.alarmEnabled(2)) << each.size();
+        EXPECT_TRUE(caption.empty() || caption == "Alarm&2: 05:15") << caption;
+    }
 }
 
 TEST(AlarmSetUp, timeSignal)
@@ -105,9 +127,13 @@ TEST(AlarmSetUp, timeSignal)
     EXPECT_EQ(wrong.asked.size(), 10u);
     EXPECT_TRUE(saved.timeSignal());
     EXPECT_EQ(saved.timeSignalMinutes(), 59);
-    Script cancelled({"Y", ""});
-    setUpTimeSignal(saved, cancelled);
-    EXPECT_EQ(saved.timeSignalMinutes(), 59);
+    for (const std::deque<std::string>& cancelled :
+         {std::deque<std::string>{"Esc"}, {"Y", "Esc"}, {"Y", ""}}) {
+        Script script(cancelled);
+        setUpTimeSignal(saved, script);
+        EXPECT_TRUE(saved.timeSignal());
+        EXPECT_EQ(saved.timeSignalMinutes(), 59);
+    }
     Script off({"N"});
     setUpTimeSignal(saved, off);
     EXPECT_FALSE(saved.timeSignal());

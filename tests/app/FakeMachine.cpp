@@ -17,7 +17,7 @@ void FakeQuestions::willAnswer(Answer answer, std::function<void()> run)
     m_answers.push_back({answer, std::move(run)});
 }
 
-void FakeQuestions::willType(const std::string& answer)
+void FakeQuestions::willType(const std::optional<std::string>& answer)
 {
     m_typed.push_back(answer);
 }
@@ -36,8 +36,8 @@ Answer FakeQuestions::ask(const Message& message)
     return prepared.answer;
 }
 
-std::string FakeQuestions::input(const std::string& prompt, const std::string&,
-                                 const std::string& defaultAnswer)
+std::optional<std::string> FakeQuestions::input(const std::string& prompt, const std::string&,
+                                                const std::string& defaultAnswer)
 {
     prompts.push_back(prompt);
     offered.push_back(defaultAnswer);
@@ -45,7 +45,7 @@ std::string FakeQuestions::input(const std::string& prompt, const std::string&,
         // The caller repeats the question until it is satisfied: only an exception ends that.
         throw std::runtime_error("unexpected input box: " + prompt);
     }
-    std::string answer = std::move(m_typed.front());
+    const std::optional<std::string> answer = std::move(m_typed.front());
     m_typed.pop_front();
     return answer == acceptDefault ? defaultAnswer : answer;
 }

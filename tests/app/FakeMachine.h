@@ -24,14 +24,15 @@ public:
     ~FakeQuestions() override;
 
     Answer ask(const Message& message) override;
-    std::string input(const std::string& prompt, const std::string& title,
-                      const std::string& defaultAnswer) override;
+    std::optional<std::string> input(const std::string& prompt, const std::string& title,
+                                     const std::string& defaultAnswer) override;
     void beep() override { ++beeps; }
 
     /// Answers the next message box, in order. @param run happens while the box is open
     void willAnswer(Answer answer, std::function<void()> run = {});
-    /// Answers the next input box. An answer of acceptDefault takes what is offered.
-    void willType(const std::string& answer);
+    /// Answers the next input box. An answer of acceptDefault takes what is offered, nothing is
+    /// Cancel.
+    void willType(const std::optional<std::string>& answer);
     static constexpr const char* acceptDefault = "\x01";
 
     std::vector<std::string> asked;  ///< texts of the message boxes, in order
@@ -46,7 +47,7 @@ private:
         std::function<void()> run;
     };
     std::deque<Prepared> m_answers;
-    std::deque<std::string> m_typed;
+    std::deque<std::optional<std::string>> m_typed;
 };
 
 /// A clock that shows what the test wants and can be set without touching the machine's.
@@ -54,9 +55,11 @@ class FakeClock : public ComputerClock
 {
 public:
     NavFunc113::DateTime now() const override { return time; }
+    double hoursAheadOfUTC() const override { return zone; }
     std::optional<std::string> set(NavFunc113::DateTime value) override;
 
     NavFunc113::DateTime time = 38425.40625; ///< 2005-03-14 09:45
+    double zone = 9;                         ///< hours ahead of UTC, as a new installation expects
     std::optional<std::string> refusal;      ///< reason for which the clock cannot be set
     std::vector<NavFunc113::DateTime> sets;
 };

@@ -5,6 +5,8 @@
 #include "app/reading.h"
 #include "tests/app/FakeMachine.h"
 
+#include <cmath>
+
 namespace korvel
 {
 namespace
@@ -152,10 +154,93 @@ TEST_F(ShipsTimeTest, aClockThatCannotBeSetIsKeptAsAnOffsetAndToldOnce)
     EXPECT_THAT(questions.asked.back(), HasSubstr("no right"));
     EXPECT_EQ(shown(ship.SMT()), "2005/03/14 11:00:00");
     EXPECT_EQ(shown(ship.UTC()), "2005/03/14 01:00:00");
-    EXPECT_EQ(ship.offsetSeconds(), 1800);
+    EXPECT_EQ(ship.offsetText(), "0 h 30 min 00 s ahead");
     setUp("05/03/14 10:30");
     ship.setUp();
+    EXPECT_EQ(ship.offsetText(), "");
+    setUp("05/03/13 22:29");
+    ship.setUp();
+    EXPECT_EQ(ship.offsetText(), "12 h 01 min 00 s behind");
+}
+
+TEST_F(ShipsTimeTest, staysOnTheCalendarWithAnyTD)
+{
+    const struct {
+        const char* smt;
+        const char* TD;
+        bool taken;
+    } rows[] = {
+        {"9999/12/31 23:59", "-12", false}, {"9999/12/31 23:59", "12", true},
+        {"9999/12/31 00:01", "-12", false}, {"9999/12/31 00:00", "-12", true},
+        {"1900/1/1 23:59", "12", false},    {"1900/1/2 0:00", "12", true},
+        {"1900/1/1 0:00", "-12", true},     {"1900/1/1 0:00", "-11.9", false},
+    };
+    for (const auto& row : rows) {
+        at("2005/3/14 9:30");
+        clock.sets.clear();
+        questions.willAnswer(Answer::Yes);
+        questions.willType(row.smt);
+        questions.willAnswer(Answer::Ok);
+        questions.willType(row.TD);
+        if (!row.taken) questions.willAnswer(Answer::Ok);
+        ship.setUp();
+        EXPECT_EQ(clock.sets.size(), row.taken ? 1u : 0u) << row.smt << " " << row.TD;
+        EXPECT_EQ(questions.asked.back().find("calendar") != std::string::npos, !row.taken)
+            << row.smt << " " << row.TD;
+    }
+    // Nor does it leave it when it runs on.
+    at("9999/12/31 23:59");
+    clock.time += 10;
+    ship.JikokuHyouji();
+    EXPECT_THAT(clocks.back(), HasSubstr("UTC 31-1200"));
+}
+
+TEST_F(ShipsTimeTest, anyNumberInTheOffsetsFileIsSurvived)
+{
+    for (const double seconds : {1e300, -1e300, HUGE_VAL, -HUGE_VAL, std::nan(""), 2.53e11, -3.4e9})
+        EXPECT_FALSE(ship.takeOffset(seconds)) << seconds;
     EXPECT_EQ(ship.offsetSeconds(), 0);
+    for (const double seconds : {2.51e11, -3.3e9, 3661.0}) {
+        EXPECT_TRUE(ship.takeOffset(seconds)) << seconds;
+        ship.refresh();
+    }
+    EXPECT_EQ(ship.offsetText(), "1 h 01 min 01 s ahead");
+}
+
+TEST_F(ShipsTimeTest, saysWhenTheComputersZoneDoesNotAgree)
+{
+    const struct {
+        const char* fault;
+        ClockZone keeps;
+        float TD;
+        double zone;
+        double offset; // seconds
+        const char* notice;
+    } rows[] = {
+        {"a first start in Japan", ClockZone::JST, 9, 9, 0, ""},
+        {"a first start in Rotterdam", ClockZone::JST, 1, 1, 0,
+         "UTC is 14-0845 by the computer's own zone, 14-0045 here. Property, The computer's clock "
+         "keeps: choose SMT"},
+        {"a computer in UTC, the ship too", ClockZone::JST, 0, 0, 0,
+         "UTC is 14-0945 by the computer's own zone, 14-0045 here. Property, The computer's clock "
+         "keeps: choose UTC"},
+        {"JST is the way back", ClockZone::UTC, -5, 9, 0,
+         "UTC is 14-0045 by the computer's own zone, 14-0945 here. Property, The computer's clock "
+         "keeps: choose JST"},
+        {"no entry agrees", ClockZone::JST, 9, -3.5, 0,
+         "UTC is 14-1315 by the computer's own zone, 14-0045 here. Property, The computer's clock "
+         "keeps: choose SMT with TD -3.5"},
+        {"within two minutes", ClockZone::SMT, 5.5f, 5.5 + 2.0 / 60, 0, ""},
+        {"a clock that is wrong and corrected", ClockZone::JST, 9, 9, 600, ""},
+        {"an offset that makes up for the zone", ClockZone::JST, 9, 1, 8 * 3600, ""},
+    };
+    for (const auto& row : rows) {
+        saved.setClockZone(row.keeps);
+        saved.setTD(row.TD);
+        clock.zone = row.zone;
+        ship.takeOffset(row.offset);
+        EXPECT_EQ(ship.zoneNotice(), row.notice) << row.fault;
+    }
 }
 
 } // namespace

@@ -1,17 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/scenes/Stage.h"
 
-#include "forms/conversion/ConversionWindow.h"
-#include "forms/frmCDDR/frmCDDR.h"
-#include "forms/frmCRUDE/frmCRUDE.h"
-#include "forms/frmETA/frmETA.h"
-#include "forms/frmGC2000/frmGC2000.h"
-#include "forms/frmPositionRecord/frmPositionRecord.h"
-#include "forms/frmSunMoon/frmSunMoon.h"
-#include "forms/frmSunSight/frmSunSight.h"
-#include "forms/frmTIDE/frmTIDE.h"
-#include "forms/frmWeather/frmWeather.h"
-#include "forms/frmWind/frmWind.h"
+#include "calculator_windows.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,28 +14,6 @@
 
 namespace korvel::testing
 {
-namespace
-{
-
-template <typename Window>
-WindowFactory window(const char* name)
-{
-    return {name, [](Program& program) { return new Window(program); }};
-}
-
-std::vector<WindowFactory> everyWindow()
-{
-    return {window<frmCDDR>("frmCDDR"),         window<frmGC2000>("frmGC2000"),
-            window<frmSunMoon>("frmSunMoon"),   window<frmPositionRecord>("frmPositionRecord"),
-            window<frmSunSight>("frmSunSight"), window<frmETA>("frmETA"),
-            window<frmWind>("frmWind"),         window<frmWeather>("frmWeather"),
-            window<frmCRUDE>("frmCRUDE"),       window<frmLength>("frmLength"),
-            window<frmVolume>("frmVolume"),     window<frmArea>("frmArea"),
-            window<frmWeight>("frmWeight"),     window<frmPressure>("frmPressure"),
-            window<frmTIDE>("frmTIDE")};
-}
-
-} // namespace
 
 std::optional<std::string> StageFiles::save(const std::string& name, const std::string& bytes)
 {
@@ -73,8 +41,8 @@ frmKORVEL2000& Stage::main()
 {
     if (!m_main) {
         Questions& asking = realQuestions ? static_cast<Questions&>(m_realQuestions) : questions;
-        m_main =
-            std::make_unique<frmKORVEL2000>(Machine{asking, clock, files, bell}, everyWindow());
+        m_main = std::make_unique<frmKORVEL2000>(Machine{asking, clock, files, bell},
+                                                 calculatorWindows());
     }
     return *m_main;
 }
@@ -170,7 +138,8 @@ void Stage::answer(QDialog& box)
     const ExpectedBox expected = boxes.front();
     boxes.pop_front();
     EXPECT_THAT(textOf(box), ::testing::HasSubstr(expected.text));
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+    // A window counts as active while the one that it belongs to has the keyboard.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &box; }));
     for (const Word& key : expected.keys)
         key.quoted ? pressKeysOf(key.text) : pressKey(key.text);
     if (box.isVisible()) {

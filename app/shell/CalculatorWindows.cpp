@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/CalculatorWindows.h"
+
+#include "app/shell/CalculatorWindow.h"
+#include "app/shell/Program.h"
+
+#include <algorithm>
+
+namespace korvel
+{
+
+CalculatorWindows::CalculatorWindows(Program& program, WindowCatalogue catalogue)
+    : m_program(program), m_catalogue(std::move(catalogue))
+{
+    for (const CatalogueEntry& entry : m_catalogue)
+        m_program.links.push_back({entry.name, entry.caption});
+    m_program.openWindow = [this](const QString& name) { open(name); };
+    connect(&m_program, &Program::windowClosed, this, &CalculatorWindows::forget);
+}
+
+CalculatorWindows::~CalculatorWindows()
+{
+    // A window that goes says so to nobody any more.
+    m_program.disconnect(this);
+    for (const auto& [name, window] : m_open)
+        delete window;
+    for (const auto& window : m_leaving)
+        delete window;
+}
+
+void CalculatorWindows::open(const QString& name)
+{
+    QPointer<CalculatorWindow>& window = m_open[name];
+    const auto entry = std::find_if(m_catalogue.begin(), m_catalogue.end(),
+                                    [&](const CatalogueEntry& each) { return each.name == name; });
+    if (!window && entry != m_catalogue.end()) window = entry->make(m_program);
+    if (!window) return;
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    emit opened(name);
+}
+
+void CalculatorWindows::forget(const QString& name)
+{
+    // The window lives until the event loop comes round. Chosen again before that, it is made anew.
+    const auto window = m_open.find(name);
+    if (window == m_open.end()) return;
+    m_leaving.erase(std::remove(m_leaving.begin(), m_leaving.end(), nullptr), m_leaving.end());
+    m_leaving.push_back(window->second);
+    m_open.erase(window);
+    emit closed(name);
+}
+
+void CalculatorWindows::closeAll()
+{
+    const auto open = m_open; // closing takes them out
+    for (const auto& [name, window] : open)
+        if (window) window->close();
+}
+
+} // namespace korvel

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/MainMenus.h"
+
+#include "app/alarms.h"
+#include "app/shell/Boxes.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace korvel
+{
+
+MainMenus::MainMenus(QMenuBar& bar, const WindowCatalogue& catalogue, Actions actions)
+    : m_bar(bar), m_actions(std::move(actions))
+{
+    addCalculators(catalogue);
+    addProperty();
+    QAction* end = m_bar.addAction("&End", this, m_actions.end);
+    end->setObjectName("mnuEND");
+}
+
+QMenu* MainMenus::addMenu(QMenu* menu, const QString& name)
+{
+    menu->setObjectName(name);
+    return menu;
+}
+
+QAction* MainMenus::addEntry(QMenu* menu, const QString& name, const QString& caption,
+                             std::function<void()> action)
+{
+    QAction* entry = menu->addAction(caption, this, std::move(action));
+    entry->setObjectName(name);
+    m_entries[name] = entry;
+    return entry;
+}
+
+void MainMenus::addCalculators(const WindowCatalogue& catalogue)
+{
+    std::map<QString, QMenu*> menus;
+    menus["mnuNAV"] = addMenu(m_bar.addMenu("&Navigation"), "mnuNAV");
+    menus["mnuWATCH"] = addMenu(m_bar.addMenu("&Watch"), "mnuWATCH");
+    menus["mnuTide"] = addMenu(m_bar.addMenu("&Utilities"), "mnuUTIL");
+    menus["mnuCONV"] = addMenu(menus["mnuTide"]->addMenu("&Conversion"), "mnuCONV");
+    for (const CatalogueEntry& window : catalogue) {
+        QAction* entry = addEntry(menus.at(window.menu), window.entryName(), window.caption,
+                                  [this, name = window.name] { m_actions.openWindow(name); });
+        entry->setCheckable(true);
+        m_windows[window.name] = entry;
+    }
+}
+
+void MainMenus::addProperty()
+{
+    QMenu* property = addMenu(m_bar.addMenu("&Property"), "mnuPROPERTY");
+    addEntry(property, "mnuPROPERTY(1)", "&Ship's time set-up..", m_actions.setUpTime);
+    property->addSeparator()->setObjectName("mnuPROPERTY(2)");
+    addEntry(property, "mnuPROPERTY(3)", "&Time difference..", m_actions.inputTD);
+
+    QMenu* zone = addMenu(property->addMenu("The computer's &clock keeps"), "mnuSystemClock");
+    const char* const zones[] = {"&JST", "&SMT", "&UTC"};
+    for (int i = 0; i < 3; ++i)
+        addEntry(zone, memberName("mnuSystemClock", i), zones[i], [this, i] {
+            m_actions.chooseClockZone(static_cast<ClockZone>(i));
+        })->setCheckable(true);
+    addAlarms(property);
+    property->addSeparator();
+    addEntry(property, "mnuDIST", "1nm=1' of &latitude", m_actions.chooseDistanceUnit)
+        ->setCheckable(true);
+    addEntry(property, "mnuBackColor", "&Night colours", m_actions.chooseColours)
+        ->setCheckable(true);
+}
+
+void MainMenus::addAlarms(QMenu* property)
+{
+    QMenu* alarms = addMenu(property->addMenu("&Alarms"), "mnuALARM");
+    for (int n = 1; n <= KV_Savedvalue::alarms; ++n)
+        addEntry(alarms, memberName("mnuALARM", n), {}, [this, n] {
+            m_actions.setUpAlarm(n);
+        })->setCheckable(true);
+    addEntry(property, "mnuSIGNAL", "Time s&ignal..", m_actions.setUpTimeSignal)
+        ->setCheckable(true);
+}
+
+void MainMenus::show(const KV_Savedvalue& saved)
+{
+    for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
+        QAction* alarm = m_entries.at(memberName("mnuALARM", n));
+        alarm->setText(QString::fromStdString(alarmCaption(n, saved)));
+        alarm->setChecked(saved.alarmEnabled(n));
+    }
+    m_entries.at("mnuSIGNAL")->setChecked(saved.timeSignal());
+    for (int i = 0; i < 3; ++i)
+        m_entries.at(memberName("mnuSystemClock", i))
+            ->setChecked(saved.clockZone() == static_cast<ClockZone>(i));
+    m_entries.at("mnuDIST")->setChecked(saved.unitOfLatitude());
+    m_entries.at("mnuBackColor")->setChecked(saved.nightColours());
+}
+
+void MainMenus::tickWindow(const QString& name, bool ticked)
+{
+    const auto entry = m_windows.find(name);
+    if (entry != m_windows.end()) entry->second->setChecked(ticked);
+}
+
+} // namespace korvel

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Questions.h"
+
+namespace korvel
+{
+
+/// Takes the place of an answer when the session ended under an input box: whoever asks until the
+/// answer will do could otherwise never stop.
+struct SessionEnded {
+};
+
+/// The officer's boxes for as long as there is an officer. When the session has ended (logout,
+/// SIGTERM) nobody answers: every question is taken for refused, unseen.
+class SessionQuestions : public Questions
+{
+public:
+    /// @param questions must outlive this object
+    explicit SessionQuestions(Questions& questions) : m_questions(questions) {}
+
+    void endSession() { m_ended = true; }
+
+    Answer ask(const Message& message) override;
+    /// @throws SessionEnded when the session has ended, or ends while the box is open
+    std::optional<std::string> input(const std::string& prompt, const std::string& title,
+                                     const std::string& defaultAnswer) override;
+    void beep() override { m_questions.beep(); }
+
+private:
+    Questions& m_questions;
+    bool m_ended = false;
+};
+
+} // namespace korvel

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+namespace korvel
+{
+
+class CalculatorWindow;
+class Program;
+
+/// A calculator window as the main window's menus, the links of the other windows and whoever makes
+/// it know it.
+struct CatalogueEntry {
+    QString menu;    ///< the menu that holds its entry, "mnuNAV"; for index 0 the entry itself
+    int index;       ///< number in the menu's array, from 1; 0: an entry that is no array
+    QString name;    ///< class name, "frmGC2000"
+    QString caption; ///< menu caption; no two of a program's windows share a mnemonic, because the
+                     ///< links menu of a window holds all the others
+    std::function<CalculatorWindow*(Program&)> make;
+
+    QString entryName() const { return index > 0 ? QString("%1(%2)").arg(menu).arg(index) : menu; }
+};
+
+/// The calculator windows of a program, in menu order.
+using WindowCatalogue = std::vector<CatalogueEntry>;
+
+} // namespace korvel

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "calculator_windows.h"
+
+#include "forms/conversion/ConversionWindow.h"
+#include "forms/frmCDDR/frmCDDR.h"
+#include "forms/frmCRUDE/frmCRUDE.h"
+#include "forms/frmETA/frmETA.h"
+#include "forms/frmGC2000/frmGC2000.h"
+#include "forms/frmPositionRecord/frmPositionRecord.h"
+#include "forms/frmSunMoon/frmSunMoon.h"
+#include "forms/frmSunSight/frmSunSight.h"
+#include "forms/frmTIDE/frmTIDE.h"
+#include "forms/frmWeather/frmWeather.h"
+#include "forms/frmWind/frmWind.h"
+
+namespace korvel
+{
+namespace
+{
+
+template <typename Window>
+CatalogueEntry window(const char* menu, int index, const char* name, const char* caption)
+{
+    return {menu, index, name, caption, [](Program& program) { return new Window(program); }};
+}
+
+} // namespace
+
+WindowCatalogue calculatorWindows()
+{
+    return {
+        window<frmCDDR>("mnuNAV", 1, "frmCDDR", "&Course, distance and dead reckoning"),
+        window<frmGC2000>("mnuNAV", 2, "frmGC2000", "&Great circle"),
+        window<frmSunMoon>("mnuNAV", 3, "frmSunMoon", "Sun and &moon, rise and set"),
+        window<frmPositionRecord>("mnuWATCH", 1, "frmPositionRecord", "&Position record"),
+        window<frmSunSight>("mnuWATCH", 2, "frmSunSight", "&Sun sight"),
+        window<frmETA>("mnuWATCH", 3, "frmETA", "&ETA"),
+        window<frmWind>("mnuWATCH", 4, "frmWind", "True &wind"),
+        window<frmWeather>("mnuWATCH", 5, "frmWeather", "We&ather"),
+        window<frmCRUDE>("mnuCONV", 1, "frmCRUDE", "Crude &oil"),
+        window<frmLength>("mnuCONV", 2, "frmLength", "&Length"),
+        window<frmVolume>("mnuCONV", 3, "frmVolume", "&Volume"),
+        window<frmArea>("mnuCONV", 4, "frmArea", "A&rea"),
+        window<frmWeight>("mnuCONV", 5, "frmWeight", "We&ight"),
+        window<frmPressure>("mnuCONV", 6, "frmPressure", "Press&ure"),
+        window<frmTIDE>("mnuTide", 0, "frmTIDE", "&Tide and tidal stream"),
+    };
+}
+
+} // namespace korvel

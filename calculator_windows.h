@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/WindowCatalogue.h"
+
+namespace korvel
+{
+
+/// Every calculator window of the program. The one place that puts them together.
+WindowCatalogue calculatorWindows();
+
+} // namespace korvel
