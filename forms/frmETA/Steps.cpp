@@ -61,6 +61,8 @@ std::optional<std::string> speedOnLeaving(std::string_view box)
 {
     const auto speed = readLeadingNumber(box);
     if (!speed || *speed < 0 || *speed * stepsPerKnot > speedStepLimit) return std::nullopt;
+    // Slower than half a step is still under way.
+    if (*speed > 0 && stepOfSpeed(box) == 0) return std::nullopt;
     return speedOfStep(stepOfSpeed(box));
 }
 

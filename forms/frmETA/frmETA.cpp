@@ -283,11 +283,14 @@ void frmETA::scrTime_Change(TimeEntry& entry)
     entry.date->setText(QString::fromStdString(texts.date));
     entry.time->setText(QString::fromStdString(texts.time));
     entry.moving = false;
+    for (EntryBox* box : {entry.date, entry.time})
+        if (box->hasFocus()) box->selectAll(); // the next digit replaces it, as after every step in
 }
 
 void frmETA::scrSpeed_Change()
 {
     m_txtSpeed->setText(QString::fromStdString(speedOfStep(m_scrSpeed->value())));
+    if (m_txtSpeed->hasFocus()) m_txtSpeed->selectAll();
 }
 
 } // namespace korvel

@@ -17,16 +17,24 @@ namespace korvel
 namespace
 {
 
-/// The columns of the waypoint table, each wide enough for its longest text.
-struct TableColumn {
-    const char* heading;
-    const char* longest;
-};
-constexpr std::array<TableColumn, 5> tableColumns = {{{"No.", "Dep."},
-                                                      {"Latitude", "00.00'0N"},
-                                                      {"Longitude", "000.00'0W"},
-                                                      {"Course", "<000.0>"},
-                                                      {"Miles to next", "00000.'0"}}};
+constexpr const char* widestCourse = "<000.0>";
+constexpr const char* widestLatitude = "00.00'0N";
+constexpr const char* widestLongitude = "000.00'0W";
+constexpr const char* widestDistance = "00000.'0";
+
+using Holds = TableColumn::Holds;
+enum : std::size_t { Number, Latitude, Longitude, Course, Distance };
+
+constexpr std::array<TableColumn, 5> waypointColumns = {{
+    {"lblWpNo", "No.", "Dep. ", Holds::Number, "Waypoint %1", Qt::AlignRight},
+    {"lblWpLat", "Latitude", widestLatitude, Holds::Result, "Latitude of waypoint %1",
+     Qt::AlignRight},
+    {"lblWpLong", "Longitude", widestLongitude, Holds::Result, "Longitude of waypoint %1",
+     Qt::AlignRight},
+    {"lblWpCo", "Course", widestCourse, Holds::Result, "Course from waypoint %1", Qt::AlignRight},
+    {"lblWpDist", "Miles to next", "00000.'0 ", Holds::Result, "Miles from waypoint %1 to the next",
+     Qt::AlignRight},
+}};
 
 /// A heading over a grid. A group box would paint its frame and title again with every result on
 /// it, and a key changes some seventy of them.
@@ -68,10 +76,9 @@ frmGC2000::frmGC2000(Program& program)
 
 void frmGC2000::addResults()
 {
-    m_lblWpLat = addLabels<rowCount>("lblWpLat");
-    m_lblWpLong = addLabels<rowCount>("lblWpLong");
-    m_lblWpCo = addLabels<rowCount>("lblWpCo");
-    m_lblWpDist = addLabels<rowCount>("lblWpDist");
+    m_waypoints = new RowTable(waypointColumns, rowCount);
+    for (std::size_t row = 0; row < rowCount; ++row)
+        m_waypoints->number(row)->clear();
     m_lblGC2000 = addLabels<3>("lblGC2000");
     m_lblInitialCourse = addLabel("lblInitialCourse");
     m_lblFinalCourse = addLabel("lblFinalCourse");
@@ -83,25 +90,25 @@ void frmGC2000::addResults()
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.
     for (ResultLabel* label : m_lblGC2000)
-        label->reserve(tableColumns[4].longest);
-    m_lblSaving->reserve(tableColumns[4].longest);
-    m_lblInitialCourse->reserve(tableColumns[3].longest);
-    m_lblFinalCourse->reserve(tableColumns[3].longest);
-    m_lblVertexLat->reserve(tableColumns[1].longest);
-    m_lblVertexLong->reserve(tableColumns[2].longest);
+        label->reserve(widestDistance);
+    m_lblSaving->reserve(widestDistance);
+    m_lblInitialCourse->reserve(widestCourse);
+    m_lblFinalCourse->reserve(widestCourse);
+    m_lblVertexLat->reserve(widestLatitude);
+    m_lblVertexLong->reserve(widestLongitude);
     m_lblVertexRemark->setFont(font());
     m_lblVertexRemark->reserve("beyond the route");
 
     const auto forCopy = [](const GCWaypoint& waypoint) {
         return QString::fromStdString(positionForCopy(waypoint.lat, waypoint.longitude));
     };
-    for (std::size_t row = 0; row < m_lblWpLat.size(); ++row) {
+    for (std::size_t row = 0; row < rowCount; ++row) {
         const auto copied = [this, row, forCopy] {
             const auto& waypoints = m_result.route.waypoints;
             return row < waypoints.size() ? forCopy(waypoints[row]) : QString();
         };
-        m_lblWpLat[row]->copyText = copied;
-        m_lblWpLong[row]->copyText = copied;
+        m_waypoints->result(row, Latitude)->copyText = copied;
+        m_waypoints->result(row, Longitude)->copyText = copied;
     }
     const auto vertex = [this, forCopy] {
         return m_result.vertex ? forCopy(*m_result.vertex) : QString();
@@ -128,7 +135,7 @@ QWidget* frmGC2000::layOutDistances()
     addResultRow(grid, 1, "Great circle", m_lblGC2000[1], "miles");
     addResultRow(grid, 2, "Sum of the legs", m_lblGC2000[2], "miles");
     grid->setColumnMinimumWidth(
-        1, QFontMetrics(m_lblSaving->font()).horizontalAdvance(tableColumns[4].longest));
+        1, QFontMetrics(m_lblSaving->font()).horizontalAdvance(widestDistance));
     grid->setRowStretch(3, 1);
     return group;
 }
@@ -145,8 +152,8 @@ QWidget* frmGC2000::layOutTrack()
     grid->addWidget(m_lblVertexLong, 2, 2);
     grid->addWidget(m_lblVertexRemark, 2, 3);
     addResultRow(grid, 3, "Saves", m_lblSaving, "miles against the rhumb line");
-    grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(tableColumns[1].longest));
-    grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(tableColumns[2].longest));
+    grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(widestLatitude));
+    grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(widestLongitude));
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(4, 1);
     return group;
@@ -155,44 +162,9 @@ QWidget* frmGC2000::layOutTrack()
 QWidget* frmGC2000::layOutTable()
 {
     auto* group = new QWidget;
-    auto* rows = new QWidget;
-    auto* grid = new QGridLayout(rows);
-    auto* heading = new QWidget;
-    auto* headings = new QGridLayout(heading);
-    grid->setVerticalSpacing(0);
-    grid->setContentsMargins(0, 0, 0, 0);
-    headings->setContentsMargins(0, 0, 0, 0);
-
-    // All of one size, so that a key makes the table paint and never lay itself out again.
-    const QFontMetrics metrics(m_lblSaving->font());
-    const auto place = [&](QLabel* label, QGridLayout* into, int row, int column) {
-        const TableColumn& each = tableColumns[static_cast<std::size_t>(column)];
-        const int wide = std::max(metrics.horizontalAdvance(each.longest) + metrics.height() / 4,
-                                  fontMetrics().horizontalAdvance(each.heading));
-        label->setFixedSize(wide, metrics.height() + metrics.leading() + 2);
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        into->addWidget(label, row, column);
-    };
-    for (int column = 0; column < static_cast<int>(tableColumns.size()); ++column)
-        place(new QLabel(tableColumns[static_cast<std::size_t>(column)].heading), headings, 0,
-              column);
-    for (int row = 0; row < rowCount; ++row) {
-        const auto at = static_cast<std::size_t>(row);
-        m_lblWpNo[at] = addLabel(memberName("lblWpNo", row));
-        m_lblWpNo[at]->setFont(font());
-        m_lblWpNo[at]->passByTab();
-        QLabel* const cells[] = {m_lblWpNo[at], m_lblWpLat[at], m_lblWpLong[at], m_lblWpCo[at],
-                                 m_lblWpDist[at]};
-        for (int column = 0; column < static_cast<int>(tableColumns.size()); ++column)
-            place(cells[column], grid, row, column);
-    }
-    for (QGridLayout* each : {grid, headings})
-        each->setColumnStretch(static_cast<int>(tableColumns.size()), 1);
-    grid->setRowStretch(rowCount, 1);
-
-    auto* area = new FollowingScrollArea(rows);
-    area->setHeading(heading);
-    area->setMinimumHeight(8 * metrics.height());
+    auto* area = new FollowingScrollArea(m_waypoints);
+    area->setHeading(m_waypoints->makeHeading());
+    area->setMinimumHeight(8 * m_lblSaving->fontMetrics().height());
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(area->sizeHint().width());
     addPanel(group, "Waypoints")->addWidget(area, 0, 0);
@@ -250,9 +222,7 @@ std::string frmGC2000::waypointText(std::size_t waypoint,
 
 std::vector<ResultLabel*> frmGC2000::allResults() const
 {
-    std::vector<ResultLabel*> all(m_lblWpNo.begin(), m_lblWpNo.end());
-    for (const Column* column : {&m_lblWpLat, &m_lblWpLong, &m_lblWpCo, &m_lblWpDist})
-        all.insert(all.end(), column->begin(), column->end());
+    std::vector<ResultLabel*> all = m_waypoints->results();
     all.insert(all.end(), m_lblGC2000.begin(), m_lblGC2000.end());
     all.insert(all.end(), {m_lblInitialCourse, m_lblFinalCourse, m_lblVertexLat, m_lblVertexLong,
                            m_lblVertexRemark, m_lblSaving});
@@ -265,8 +235,10 @@ void frmGC2000::runGC()
         m_result = CalculateGC({m_txtGC.texts<0, 4>(), program().spheroid()});
     } catch (const NavFunc113::ArithmeticError&) {
         m_result = {};
+        for (std::size_t row = 0; row < rowCount; ++row)
+            showRow(row);
         m_picGC->setChart({});
-        throw; // the window base blanks the labels and says so
+        throw; // the runner blanks the other labels and says so
     }
 
     for (std::size_t row = 0; row < m_result.rows.size(); ++row)
@@ -292,14 +264,14 @@ void frmGC2000::showRow(std::size_t row)
         label->setText(QString::fromStdString(text));
     };
     const std::size_t waypoints = m_result.route.waypoints.size();
-    m_lblWpNo[row]->setText(row >= waypoints       ? QString()
-                            : row == 0             ? "Dep."
-                            : row == waypoints - 1 ? "Arr."
-                                                   : QString::number(row));
-    show(m_lblWpLat[row], texts.lat);
-    show(m_lblWpLong[row], texts.longitude);
-    show(m_lblWpCo[row], texts.course);
-    show(m_lblWpDist[row], texts.distance);
+    m_waypoints->number(row)->setText(row >= waypoints       ? QString()
+                                      : row == 0             ? "Dep."
+                                      : row == waypoints - 1 ? "Arr."
+                                                             : QString::number(row));
+    show(m_waypoints->result(row, Latitude), texts.lat);
+    show(m_waypoints->result(row, Longitude), texts.longitude);
+    show(m_waypoints->result(row, Course), texts.course);
+    show(m_waypoints->result(row, Distance), texts.distance);
 }
 
 } // namespace korvel

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/CalculatorWindow.h"
+#include "app/shell/RowTable.h"
 #include "forms/frmGC2000/CalculateGC.h"
 
 namespace korvel
@@ -19,7 +20,6 @@ public:
 
 private:
     static constexpr int rowCount = GCResult::rowCount;
-    using Column = std::array<ResultLabel*, GCResult::rowCount>;
 
     void addResults();
     QWidget* layOutPositions();
@@ -37,11 +37,7 @@ private:
                              NavFunc113::DegMin GCWaypoint::*coordinate) const;
 
     FieldBoxes m_txtGC;
-    Column m_lblWpNo{};
-    Column m_lblWpLat{};
-    Column m_lblWpLong{};
-    Column m_lblWpCo{};
-    Column m_lblWpDist{};
+    RowTable* m_waypoints = nullptr;
     std::array<ResultLabel*, 3> m_lblGC2000{};
     ResultLabel* m_lblInitialCourse = nullptr;
     ResultLabel* m_lblFinalCourse = nullptr;

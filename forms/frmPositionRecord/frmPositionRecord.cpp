@@ -87,17 +87,13 @@ void frmPositionRecord::addTotals()
 
 void frmPositionRecord::addCalculationOfRecord()
 {
-    std::vector<EntryBox*> inputs{m_txtCourseSteered, m_txtSpeedSteered};
-    std::vector<ResultLabel*> results{m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
-                                      m_lblLatestRun,     m_lblSet,        m_lblDrift};
-    for (std::size_t i = 0; i < positionRowCount; ++i) {
-        const PositionTable::Row& row = m_table->row(i);
-        for (EntryBox* box : row.boxes())
-            inputs.push_back(box);
-        for (ResultLabel* label : row.labels())
-            results.push_back(label);
-        row.satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
-    }
+    std::vector<EntryBox*> inputs = m_table->boxes();
+    inputs.insert(inputs.end(), {m_txtCourseSteered, m_txtSpeedSteered});
+    std::vector<ResultLabel*> results = m_table->results();
+    results.insert(results.end(), {m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
+                                   m_lblLatestRun, m_lblSet, m_lblDrift});
+    for (std::size_t i = 0; i < positionRowCount; ++i)
+        m_table->row(i).satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
     calculations().add(
         {"Position record", std::move(inputs), std::move(results), [this] { run(); }});
 }
@@ -144,10 +140,7 @@ void frmPositionRecord::addMenus()
 
 void frmPositionRecord::useRecordSettings()
 {
-    std::vector<EntryBox*> boxes;
-    for (std::size_t i = 0; i < positionRowCount; ++i)
-        for (EntryBox* box : m_table->row(i).boxes())
-            boxes.push_back(box);
+    std::vector<EntryBox*> boxes = m_table->boxes();
     boxes.push_back(m_txtCourseSteered);
     boxes.push_back(m_txtSpeedSteered);
     record().useTexts("KV_Position Record.ini", std::move(boxes));
@@ -239,7 +232,7 @@ void frmPositionRecord::undo()
 
 void frmPositionRecord::putTimeNow()
 {
-    const PositionTable::Row& row = m_table->row(m_row);
+    const PositionTable::Row row = m_table->row(m_row);
     row.satelliteSMT->setText(
         QString::fromStdString(Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm")));
     row.satelliteTD->setText(QString::fromStdString(Format(program().saved().TD(), "0.0")));

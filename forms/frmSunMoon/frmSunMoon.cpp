@@ -23,49 +23,66 @@ constexpr int daysEachWay = 366; // of the scroll bar
 constexpr std::array<Field, 1> dateFields = {
     {{"txtSunMoon", "&Date", "Date, year/month/day", FieldKind::Moment, "yyyy/m/d"}}};
 
-/// Columns of the table; a gap stands before the Moon.
-enum : int { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Sun, Gap = 11 };
-
-int columnOf(std::size_t result)
-{
-    constexpr std::size_t ofSun = 4;
-    return Sun + static_cast<int>(result) + (result >= ofSun ? 1 : 0);
-}
+using Holds = TableColumn::Holds;
+enum : std::size_t { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Results };
 
 constexpr const char* widestResult = "<000.0> ";
+
+constexpr TableColumn eventColumn(const char* name, const char* heading, const char* words)
+{
+    return {name, heading, widestResult, Holds::Result, words, Qt::AlignRight};
+}
+
+constexpr std::array<TableColumn, 14> tableColumns = {{
+    {"lblNumber", "", "16", Holds::Number, "Row %1", Qt::AlignRight},
+    {"txtLocation", "Place", "Port of somewhere0", Holds::Text, "Place name, row %1", Qt::AlignLeft,
+     true},
+    {"txtTD", "TD\nhours", "-12.000", Holds::Figure,
+     "Time difference from UTC, hours, east positive, row %1"},
+    {"txtLatitude", "Latitude\ndeg.min", "-62.30.550", Holds::Latitude,
+     "Latitude, degrees.minutes, north positive, up to 63, row %1"},
+    {"", "north +", "62°30.55' N !", Holds::Echo},
+    {"txtLongitude", "Longitude\ndeg.min", "-179.30.550", Holds::Longitude,
+     "Longitude, degrees.minutes, east positive, row %1"},
+    {"", "east +", "179°30.55' W !", Holds::Echo},
+    eventColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1"),
+    eventColumn("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth, row %1"),
+    eventColumn("lblSunSetTime", "Sun\nset", "Sunset, row %1"),
+    eventColumn("lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth, row %1"),
+    {"", "", " ", Holds::Gap},
+    eventColumn("lblMoonRiseTime", "Moon\nrise", "Moonrise, row %1"),
+    eventColumn("lblMoonSetTime", "Moon\nset", "Moonset, row %1"),
+}};
+
+/// The result that a column shows.
+struct Event {
+    std::size_t column;
+    RiseSetLabel RiseSetResult::*result;
+};
+constexpr std::array<Event, 6> events = {{
+    {Results, &RiseSetResult::sunRiseTime},
+    {Results + 1, &RiseSetResult::sunRiseAz},
+    {Results + 2, &RiseSetResult::sunSetTime},
+    {Results + 3, &RiseSetResult::sunSetAz},
+    {Results + 5, &RiseSetResult::moonRiseTime},
+    {Results + 6, &RiseSetResult::moonSetTime},
+}};
 
 QString text(const std::string& value)
 {
     return QString::fromStdString(value);
 }
 
-/// A label of a fixed size asks for no new layout when its text changes: with a hundred of them
-/// that would be most of the work of a change of date.
-void fixSize(ResultLabel* label, const char* sample)
-{
-    const QFontMetrics metrics = label->fontMetrics();
-    label->setFixedSize(metrics.horizontalAdvance(sample), metrics.height());
-}
-
 } // namespace
-
-const std::array<frmSunMoon::Column, 6> frmSunMoon::columns = {{
-    {"lblSunRiseTime", "Sun\nrise", "Sunrise", &RiseSetResult::sunRiseTime},
-    {"lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth", &RiseSetResult::sunRiseAz},
-    {"lblSunSetTime", "Sun\nset", "Sunset", &RiseSetResult::sunSetTime},
-    {"lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth", &RiseSetResult::sunSetAz},
-    {"lblMoonRiseTime", "Moon\nrise", "Moonrise", &RiseSetResult::moonRiseTime},
-    {"lblMoonSetTime", "Moon\nset", "Moonset", &RiseSetResult::moonSetTime},
-}};
 
 frmSunMoon::frmSunMoon(Program& program)
     : CalculatorWindow(program, "frmSunMoon", "Sun and Moon, rise and set"),
       m_focus([this](QWidget* now) { focusMoved(now); })
 {
     addControls();
-    auto* area = new FollowingScrollArea(table());
+    auto* area = new FollowingScrollArea(m_table);
     setScrollArea(area);
-    area->setHeading(heading());
+    area->setHeading(m_table->makeHeading());
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, dateRow());
     m_lblRow = addLabel("lblRow");
     m_lblRow->setFont(font());
@@ -73,17 +90,12 @@ frmSunMoon::frmSunMoon(Program& program)
     addBelow(m_lblRow);
     addMenus();
 
-    std::vector<EntryBox*> boxes;
     for (std::size_t row = 0; row < rows; ++row)
-        for (EntryBox* box :
-             {m_txtLocation[row], m_txtTD[row], static_cast<EntryBox*>(m_txtLatitude[row]),
-              static_cast<EntryBox*>(m_txtLongitude[row])}) {
-            boxes.push_back(box);
+        for (EntryBox* box : m_table->boxesOfRow(row))
             connect(box, &QLineEdit::textChanged, this, [this, row] {
                 if (!calculations().isHeld()) runRows(row, row + 1);
             });
-        }
-    record().useTexts("KV_SunMoon.ini", boxes);
+    record().useTexts("KV_SunMoon.ini", m_table->boxes());
     m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
     calculations().add({"Rise and set", {m_txtSunMoon}, {}, [this] { runRows(0, rows); }, true});
     loadSettings();
@@ -96,7 +108,7 @@ void frmSunMoon::addControls()
     m_txtSunMoon = addFields(dateFields)[0];
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
     m_lblMoonAge = addLabel("lblMoonAge");
-    fixSize(m_lblMoonAge, "00.0 ");
+    m_lblMoonAge->reserve("00.0 ");
     m_scrMoonSun = new QScrollBar(Qt::Horizontal, body());
     m_scrMoonSun->setObjectName("scrMoonSun");
     m_scrMoonSun->setAccessibleName("Date, days from today");
@@ -106,50 +118,10 @@ void frmSunMoon::addControls()
     m_scrMoonSun->setFocusPolicy(Qt::StrongFocus);
     connect(m_scrMoonSun, &QScrollBar::valueChanged, this,
             [this](int value) { m_txtSunMoon->setText(text(scrolledDate(today(), value))); });
+    m_table = new RowTable(tableColumns, rows);
+    m_txtSunMoon->setNext(m_table->box(0, Place));
     for (std::size_t row = 0; row < rows; ++row)
-        addRow(row);
-    setRowOrder();
-}
-
-void frmSunMoon::addRow(std::size_t row)
-{
-    const int index = static_cast<int>(row);
-    const QString ofRow = QString(", row %1").arg(index + 1);
-    m_number[row] = new QLabel(QString::number(index + 1));
-    const auto box = [&](auto* made, const char* name, const QString& words) {
-        made->setObjectName(memberName(name, index));
-        made->setAccessibleName(words + ofRow);
-        return made;
-    };
-    m_txtLocation[row] = box(new EntryBox(body()), "txtLocation", "Place name");
-    m_txtLocation[row]->setMaxLength(EntryBox::longestText);
-    m_txtTD[row] =
-        box(new EntryBox(body()), "txtTD", "Time difference from UTC, hours, east positive");
-    m_txtLatitude[row] = box(new PositionBox(Axis::Latitude, body()), "txtLatitude",
-                             "Latitude, degrees.minutes, north positive, up to 63");
-    m_txtLongitude[row] = box(new PositionBox(Axis::Longitude, body()), "txtLongitude",
-                              "Longitude, degrees.minutes, east positive");
-    PositionBox::pair(m_txtLatitude[row], m_txtLongitude[row]);
-    m_txtLatitude[row]->setBriefEcho();
-    m_txtLongitude[row]->setBriefEcho();
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        m_labels[i][row] = addLabel(memberName(columns[i].name, index));
-        m_labels[i][row]->setAccessibleDescription(columns[i].words + ofRow);
-        m_labels[i][row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        fixSize(m_labels[i][row], widestResult);
-    }
-}
-
-void frmSunMoon::setRowOrder()
-{
-    m_txtSunMoon->setNext(m_txtLocation[0]);
-    for (std::size_t row = 0; row < rows; ++row) {
-        m_txtLocation[row]->setNext(m_txtTD[row]);
-        m_txtTD[row]->setNext(m_txtLatitude[row]);
-        m_txtLatitude[row]->setNext(m_txtLongitude[row]);
-        m_txtLongitude[row]->setNext(m_txtLocation[(row + 1) % rows]);
-        m_txtLongitude[row]->onEnter = [this, row] { runRows(row, row + 1); };
-    }
+        m_table->box(row, Longitude)->onEnter = [this, row] { runRows(row, row + 1); };
 }
 
 QWidget* frmSunMoon::dateRow()
@@ -176,80 +148,6 @@ QWidget* frmSunMoon::dateRow()
     return bar;
 }
 
-/// Heading and table lie in two grids, so that the heading stays when the table scrolls. Both get
-/// their widths from here.
-void frmSunMoon::setColumns(QGridLayout* grid, const QWidget& widget)
-{
-    const QFontMetrics metrics = widget.fontMetrics();
-    ResultLabel result;
-    const int box = 2 * metrics.averageCharWidth();
-    const auto set = [&](int column, int width) { grid->setColumnMinimumWidth(column, width); };
-    set(Number, metrics.horizontalAdvance("16"));
-    set(Place, metrics.horizontalAdvance("Port of somewhere") + box);
-    set(TD, metrics.horizontalAdvance("-12.00") + box);
-    set(Latitude, metrics.horizontalAdvance("-62.30.55") + box);
-    set(LatitudeEcho, metrics.horizontalAdvance("62°30.55' N !"));
-    set(Longitude, metrics.horizontalAdvance("-179.30.55") + box);
-    set(LongitudeEcho, metrics.horizontalAdvance("179°30.55' W !"));
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        set(columnOf(i), result.fontMetrics().horizontalAdvance(widestResult));
-    set(Gap, metrics.averageCharWidth());
-    grid->setColumnStretch(Place, 1);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(metrics.averageCharWidth());
-}
-
-QWidget* frmSunMoon::heading()
-{
-    auto* line = new QWidget(body());
-    auto* grid = new QGridLayout(line);
-    setColumns(grid, *line);
-    const auto add = [&](int column, const char* caption, Qt::Alignment side) {
-        auto* label = new QLabel(caption);
-        label->setAlignment(side | Qt::AlignBottom);
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        grid->addWidget(label, 0, column);
-    };
-    add(Number, "", Qt::AlignLeft); // without anything in it the column would lose its spacing
-    add(Place, "Place", Qt::AlignLeft);
-    add(TD, "TD\nhours", Qt::AlignLeft);
-    add(Latitude, "Latitude\ndeg.min", Qt::AlignLeft);
-    add(LatitudeEcho, "north +", Qt::AlignLeft);
-    add(Longitude, "Longitude\ndeg.min", Qt::AlignLeft);
-    add(LongitudeEcho, "east +", Qt::AlignLeft);
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        add(columnOf(i), columns[i].heading, Qt::AlignRight);
-    return line;
-}
-
-QWidget* frmSunMoon::table()
-{
-    auto* content = new QWidget;
-    auto* grid = new QGridLayout(content);
-    setColumns(grid, *content);
-    grid->setVerticalSpacing(1);
-    for (std::size_t row = 0; row < rows; ++row) {
-        const int line = static_cast<int>(row);
-        const auto add = [&](QWidget* widget, int column) {
-            widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-            widget->setMinimumWidth(0);
-            grid->addWidget(widget, line, column);
-        };
-        add(m_number[row], Number);
-        add(m_txtLocation[row], Place);
-        add(m_txtTD[row], TD);
-        add(m_txtLatitude[row], Latitude);
-        add(m_txtLatitude[row]->echo(), LatitudeEcho);
-        add(m_txtLongitude[row], Longitude);
-        add(m_txtLongitude[row]->echo(), LongitudeEcho);
-        for (std::size_t i = 0; i < columns.size(); ++i)
-            grid->addWidget(m_labels[i][row], line, columnOf(i));
-        m_number[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
-    grid->setRowStretch(rows, 1);
-    return content;
-}
-
 void frmSunMoon::addMenus()
 {
     QMenu* clear = menus().add("&Clear", "mnuAC");
@@ -263,8 +161,8 @@ void frmSunMoon::addMenus()
     const Entry entries[] = {
         {"Store &position of",
          [this] {
-             program().actions().storePosition(m_txtLatitude[m_row]->value(),
-                                               m_txtLongitude[m_row]->value());
+             program().actions().storePosition(m_table->position(m_row, Latitude)->value(),
+                                               m_table->position(m_row, Longitude)->value());
          }},
         {"Store Sun &rise azimuth of",
          [this] {
@@ -277,8 +175,12 @@ void frmSunMoon::addMenus()
                                              azimuth(&RiseSetResult::sunSetAz));
          }},
         {"Recall P&osition Memo into",
-         [this] { menus().recallPosition(m_txtLatitude[m_row], m_txtLongitude[m_row]); }},
-        {"Recall Single Memo into &TD of", [this] { menus().recallSingle(m_txtTD[m_row]); }},
+         [this] {
+             menus().recallPosition(m_table->position(m_row, Latitude),
+                                    m_table->position(m_row, Longitude));
+         }},
+        {"Recall Single Memo into &TD of",
+         [this] { menus().recallSingle(m_table->box(m_row, TD)); }},
     };
     int index = 0;
     for (const auto& [caption, action] : entries) {
@@ -299,11 +201,12 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
 {
     bool successful = false;
     for (std::size_t row = first; row < last; ++row) {
-        const QString place = m_txtLocation[row]->text().trimmed();
+        const QString place = m_table->box(row, Place)->text().trimmed();
         m_results[row] = CalculateRiseSet(
             {m_txtSunMoon->value(),
              (place.isEmpty() ? QString("Row %1").arg(row + 1) : place).toStdString(),
-             m_txtTD[row]->value(), m_txtLatitude[row]->value(), m_txtLongitude[row]->value()},
+             m_table->box(row, TD)->value(), m_table->position(row, Latitude)->value(),
+             m_table->position(row, Longitude)->value()},
             m_numbers[row]);
         successful |= m_results[row].successful;
         showRow(row);
@@ -317,10 +220,10 @@ void frmSunMoon::showRow(std::size_t row)
 {
     const RiseSetResult& result = m_results[row];
     if (result.moonAge) m_lblMoonAge->setText(text(*result.moonAge));
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const RiseSetLabel& shown = result.*columns[i].result;
-        m_labels[i][row]->setText(text(shown.text));
-        m_labels[i][row]->setToolTip(text(shown.tip));
+    for (const auto& [column, event] : events) {
+        const RiseSetLabel& shown = result.*event;
+        m_table->result(row, column)->setText(text(shown.text));
+        m_table->result(row, column)->setToolTip(text(shown.tip));
     }
     showDoubts(row);
 }
@@ -329,12 +232,11 @@ void frmSunMoon::showRow(std::size_t row)
 void frmSunMoon::showDoubts(std::size_t row)
 {
     const ColourScheme& colours = program().colours();
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        const QColor colour = (m_results[row].*columns[i].result).doubtful
-                                  ? colours.notice
-                                  : colours.palette.color(QPalette::WindowText);
-        setTextColour(m_labels[i][row], colour);
-    }
+    for (const auto& [column, event] : events)
+        setTextColour(m_table->result(row, column),
+                      (m_results[row].*event).doubtful
+                          ? colours.notice
+                          : colours.palette.color(QPalette::WindowText));
 }
 
 void frmSunMoon::showNotices()
@@ -349,22 +251,21 @@ void frmSunMoon::showNotices()
 void frmSunMoon::showRowInFocus()
 {
     QString line = QString("Row %1:").arg(m_row + 1);
-    for (const QString& part : {m_txtLocation[m_row]->text(), m_txtLatitude[m_row]->fullEcho(),
-                                m_txtLongitude[m_row]->fullEcho()})
+    for (const QString& part :
+         {m_table->box(m_row, Place)->text(), m_table->position(m_row, Latitude)->fullEcho(),
+          m_table->position(m_row, Longitude)->fullEcho()})
         if (!part.isEmpty()) line += "  " + part;
     const auto filled = [](const QLineEdit* box) { return !box->text().trimmed().isEmpty(); };
-    if (!m_results[m_row].successful && m_results[m_row].moonAge && filled(m_txtTD[m_row]) &&
-        filled(m_txtLatitude[m_row]) && filled(m_txtLongitude[m_row]))
+    if (!m_results[m_row].successful && m_results[m_row].moonAge &&
+        filled(m_table->box(m_row, TD)) && filled(m_table->position(m_row, Latitude)) &&
+        filled(m_table->position(m_row, Longitude)))
         line += "  (computed with TD within 12, latitude within 63, longitude within 180)";
     if (m_lblRow->text() != line) m_lblRow->setText(line);
 }
 
 void frmSunMoon::focusMoved(const QWidget* now)
 {
-    for (std::size_t row = 0; row < rows; ++row)
-        if (now && (now == m_txtLocation[row] || now == m_txtTD[row] || now == m_txtLatitude[row] ||
-                    now == m_txtLongitude[row]))
-            m_row = row;
+    if (const auto row = m_table->rowOf(now)) m_row = *row;
     showRowInFocus();
 }
 
@@ -378,9 +279,9 @@ void frmSunMoon::leaveDate()
 void frmSunMoon::cmdToday_Click()
 {
     m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
-    m_txtTD[0]->setText(text(Format(program().saved().TD(), "0.##")));
-    m_txtLocation[0]->setText("Today");
-    m_txtLatitude[0]->setFocus(Qt::TabFocusReason);
+    m_table->box(0, TD)->setText(text(Format(program().saved().TD(), "0.##")));
+    m_table->box(0, Place)->setText("Today");
+    m_table->position(0, Latitude)->setFocus(Qt::TabFocusReason);
     leaveDate();
 }
 
@@ -389,12 +290,9 @@ void frmSunMoon::clearAll()
     if (program().questions().ask(
             {"Are you sure to clear all contents?", programTitle, Buttons::YesNo}) != Answer::Yes)
         return;
-    for (std::size_t row = 0; row < rows; ++row)
-        for (EntryBox* box :
-             {m_txtLocation[row], m_txtTD[row], static_cast<EntryBox*>(m_txtLatitude[row]),
-              static_cast<EntryBox*>(m_txtLongitude[row])})
-            box->clear();
-    m_txtLocation[0]->setFocus(Qt::TabFocusReason);
+    for (EntryBox* box : m_table->boxes())
+        box->clear();
+    m_table->box(0, Place)->setFocus(Qt::TabFocusReason);
     record().saveSoon();
 }
 

@@ -3,9 +3,9 @@
 
 #include "app/shell/CalculatorWindow.h"
 #include "app/shell/FocusFollower.h"
+#include "app/shell/RowTable.h"
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
-class QGridLayout;
 class QScrollBar;
 
 namespace korvel
@@ -26,25 +26,8 @@ protected:
     void applyColours() override;
 
 private:
-    template <typename Control>
-    using PerRow = std::array<Control*, rows>;
-
-    /// One of the six results of a row.
-    struct Column {
-        const char* name;
-        const char* heading;
-        const char* words; ///< for assistive tools
-        RiseSetLabel RiseSetResult::*result;
-    };
-    static const std::array<Column, 6> columns;
-
     void addControls();
-    void addRow(std::size_t row);
-    void setRowOrder();
     QWidget* dateRow();
-    QWidget* table();
-    QWidget* heading();
-    static void setColumns(QGridLayout* grid, const QWidget& widget);
     void addMenus();
 
     NavFunc113::DateTime today();
@@ -64,13 +47,7 @@ private:
     ResultLabel* m_lblMoonAge = nullptr;
     ResultLabel* m_lblRow = nullptr; ///< the row in focus in full
 
-    PerRow<QLabel> m_number{};
-    PerRow<EntryBox> m_txtLocation{};
-    PerRow<EntryBox> m_txtTD{};
-    PerRow<PositionBox> m_txtLatitude{};
-    PerRow<PositionBox> m_txtLongitude{};
-    std::array<PerRow<ResultLabel>, 6> m_labels{}; ///< by column
-
+    RowTable* m_table = nullptr;
     std::array<RiseSetRow, rows> m_numbers;
     std::array<RiseSetResult, rows> m_results;
     std::size_t m_row = 0; ///< the row that last had the focus

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/RowTable.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+using Holds = TableColumn::Holds;
+
+bool isBox(const TableColumn& column)
+{
+    return column.holds == Holds::Text || column.holds == Holds::Figure ||
+           column.holds == Holds::Latitude || column.holds == Holds::Longitude;
+}
+
+} // namespace
+
+RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
+    : m_columns(columns), m_rowHeight(ResultLabel().fontMetrics().height()),
+      m_spacing(fontMetrics().averageCharWidth())
+{
+    if (std::ranges::any_of(columns, isBox)) m_rowHeight = QLineEdit().sizeHint().height();
+    auto* lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
+    for (std::size_t row = 0; row < rows; ++row) {
+        Line line;
+        for (const TableColumn& column : m_columns)
+            line.push_back(makeControl(column, row, line));
+        lines->addWidget(layOut(line));
+        m_lines.push_back(std::move(line));
+    }
+    lines->addStretch();
+    setEntryOrder(boxes());
+    setTabOrderOfAll();
+}
+
+QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const Line& before)
+{
+    QWidget* made = nullptr;
+    switch (column.holds) {
+    case Holds::Gap:
+        return nullptr;
+    case Holds::Echo:
+        return static_cast<PositionBox*>(before.back())->echo();
+    case Holds::Number:
+        made = new QLabel(QString::number(row + 1), this);
+        break;
+    case Holds::Result:
+        made = new ResultLabel(this);
+        break;
+    case Holds::Text:
+        made = new EntryBox(this);
+        break;
+    case Holds::Figure:
+        made = new EntryBox(this);
+        break;
+    case Holds::Latitude:
+        made = new PositionBox(Axis::Latitude, this);
+        break;
+    case Holds::Longitude:
+        made = new PositionBox(Axis::Longitude, this);
+        break;
+    }
+    made->setObjectName(memberName(column.name, static_cast<int>(row)));
+    made->setAccessibleName(QString(column.accessibleName).replace("%1", QString::number(row + 1)));
+    if (column.holds == Holds::Text)
+        static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
+    auto* position = dynamic_cast<PositionBox*>(made);
+    if (position) position->setBriefEcho();
+    if (column.holds == Holds::Longitude)
+        for (QWidget* each : before)
+            if (auto* latitude = dynamic_cast<PositionBox*>(each))
+                PositionBox::pair(latitude, position);
+    if (auto* label = qobject_cast<QLabel*>(made))
+        label->setAlignment(column.side | Qt::AlignVCenter);
+    return made;
+}
+
+int RowTable::widthOf(const TableColumn& column) const
+{
+    const QFontMetrics captions = fontMetrics();
+    if (column.holds == Holds::Result)
+        return ResultLabel().fontMetrics().horizontalAdvance(column.widest);
+    return captions.horizontalAdvance(column.widest) +
+           (isBox(column) ? captions.horizontalAdvance('0') : 0);
+}
+
+QWidget* RowTable::layOut(const Line& line) const
+{
+    // A widget a row: what is painted anew is looked up among the neighbours in the same widget.
+    auto* widget = new QWidget;
+    auto* layout = new QHBoxLayout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(m_spacing);
+    bool isFilled = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const int width = widthOf(m_columns[i]);
+        if (!line[i]) {
+            layout->addSpacing(width);
+            continue;
+        }
+        line[i]->setFixedHeight(m_rowHeight);
+        line[i]->setMinimumWidth(width);
+        if (!m_columns[i].stretches) line[i]->setMaximumWidth(width);
+        layout->addWidget(line[i], m_columns[i].stretches ? 1 : 0);
+        isFilled |= m_columns[i].stretches;
+    }
+    if (!isFilled) layout->addStretch();
+    return widget;
+}
+
+QWidget* RowTable::makeHeading(double size) const
+{
+    QFont letters = font();
+    letters.setPointSizeF(letters.pointSizeF() * size);
+    Line line;
+    for (const TableColumn& column : m_columns) {
+        auto* label = column.holds == Holds::Gap ? nullptr : new QLabel(column.heading);
+        if (label) label->setFont(letters);
+        if (label) label->setAlignment(column.side | Qt::AlignBottom);
+        line.push_back(label);
+    }
+    QWidget* heading = layOut(line);
+    for (QWidget* label : line) {
+        if (!label) continue;
+        label->setMinimumHeight(0);
+        label->setMaximumHeight(QWIDGETSIZE_MAX);
+    }
+    return heading;
+}
+
+EntryBox* RowTable::box(std::size_t row, std::size_t column) const
+{
+    return static_cast<EntryBox*>(m_lines.at(row).at(column));
+}
+
+PositionBox* RowTable::position(std::size_t row, std::size_t column) const
+{
+    return static_cast<PositionBox*>(m_lines.at(row).at(column));
+}
+
+ResultLabel* RowTable::result(std::size_t row, std::size_t column) const
+{
+    return static_cast<ResultLabel*>(m_lines.at(row).at(column));
+}
+
+QLabel* RowTable::number(std::size_t row) const
+{
+    return static_cast<QLabel*>(m_lines.at(row).front());
+}
+
+std::vector<EntryBox*> RowTable::boxesOfRow(std::size_t row) const
+{
+    std::vector<EntryBox*> all;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (isBox(m_columns[i])) all.push_back(box(row, i));
+    return all;
+}
+
+std::vector<EntryBox*> RowTable::boxes() const
+{
+    std::vector<EntryBox*> all;
+    for (std::size_t row = 0; row < rows(); ++row)
+        std::ranges::copy(boxesOfRow(row), std::back_inserter(all));
+    return all;
+}
+
+std::vector<ResultLabel*> RowTable::results() const
+{
+    std::vector<ResultLabel*> all;
+    for (std::size_t row = 0; row < rows(); ++row)
+        for (std::size_t i = 0; i < m_columns.size(); ++i)
+            if (m_columns[i].holds == Holds::Result) all.push_back(result(row, i));
+    return all;
+}
+
+std::optional<std::size_t> RowTable::rowOf(const QWidget* control) const
+{
+    for (std::size_t row = 0; control && row < rows(); ++row)
+        if (std::ranges::find(m_lines[row], control) != m_lines[row].end()) return row;
+    return std::nullopt;
+}
+
+void RowTable::markRow(std::size_t row)
+{
+    for (std::size_t each = 0; each < rows(); ++each) {
+        QFont shown = font();
+        shown.setBold(each == row);
+        number(each)->setFont(shown);
+    }
+}
+
+void RowTable::setTabOrderOfAll() const
+{
+    std::vector<QWidget*> order;
+    std::ranges::copy(boxes(), std::back_inserter(order));
+    std::ranges::copy(results(), std::back_inserter(order));
+    for (std::size_t i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+} // namespace korvel
