@@ -138,11 +138,15 @@ void Stage::answer(QDialog& box)
     const ExpectedBox expected = boxes.front();
     boxes.pop_front();
     EXPECT_THAT(textOf(box), ::testing::HasSubstr(expected.text));
-    // A window counts as active while the one that it belongs to has the keyboard.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &box; }));
+    // Keys that come before the box has the focus would go to whatever had it.
+    EXPECT_TRUE(QTest::qWaitFor([&box] {
+        const QWidget* focus = QApplication::focusWidget();
+        return focus && focus->window() == &box;
+    }));
     for (const Word& key : expected.keys)
         key.quoted ? pressKeysOf(key.text) : pressKey(key.text);
-    if (box.isVisible()) {
+    // A button that a key presses is seen going down before it acts.
+    if (!QTest::qWaitFor([&box] { return !box.isVisible(); })) {
         ADD_FAILURE() << "still open after its keys: " << textOf(box);
         box.reject();
     }
