@@ -106,7 +106,7 @@ void file(Stage& stage, const Words& words)
 {
     QFile opened(QString::fromStdString(stage.filePath(wordAt(words, 0))));
     const bool there = opened.open(QIODevice::ReadOnly);
-    const std::string bytes = opened.readAll().toStdString();
+    const std::string bytes = there ? opened.readAll().toStdString() : std::string();
     wordAt(words, 1);
     if (!words[1].quoted && words[1].text == "missing") {
         if (there) throw std::runtime_error("it is there:\n" + bytes);
