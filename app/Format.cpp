@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
@@ -172,7 +173,7 @@ char lower(char c)
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-std::string padded(long number, std::size_t width)
+std::string padded(std::int64_t number, std::size_t width)
 {
     std::string digits = std::to_string(number);
     if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
@@ -224,9 +225,9 @@ std::string Format(double value, std::string_view format)
     }
 }
 
-std::string courseText(double degrees, std::string_view format)
+std::string courseText(NavFunc113::Degrees course, std::string_view format)
 {
-    const std::string text = Format(degrees, format);
+    const std::string text = Format(course, format);
     return text == Format(360, format) ? Format(0, format) : text;
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/units.h"
+
 #include <string>
 #include <string_view>
 
@@ -26,8 +28,20 @@ namespace korvel
 /// @return the text; empty when the value is not a finite number or no date-time of years 100-9999
 std::string Format(double value, std::string_view format);
 
+/// The packed value as it stands: what a label of degrees and minutes shows.
+inline std::string Format(NavFunc113::DegMin value, std::string_view format)
+{
+    return Format(value.packed(), format);
+}
+
+template <typename Unit>
+std::string Format(NavFunc113::Measure<Unit> value, std::string_view format)
+{
+    return Format(value.value(), format);
+}
+
 /// Text of a course or bearing in degrees true, 0 to 360: what would round to 360 is shown as 000,
 /// for there is no course 360.
-std::string courseText(double degrees, std::string_view format = "<000.0>");
+std::string courseText(NavFunc113::Degrees course, std::string_view format = "<000.0>");
 
 } // namespace korvel

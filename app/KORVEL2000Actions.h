@@ -5,6 +5,7 @@
 #include "app/Questions.h"
 #include "app/SettingsFile.h"
 #include "app/reading.h"
+#include "navlib/units.h"
 
 #include <functional>
 #include <string>
@@ -74,5 +75,16 @@ std::string askNumberInRange(Questions& questions, const std::string& prompt,
 
 /// Text of a memory's number as it is written into a box.
 std::string memoText(double value);
+
+inline std::string memoText(NavFunc113::DegMin value)
+{
+    return memoText(value.packed());
+}
+
+template <typename Unit>
+std::string memoText(NavFunc113::Measure<Unit> value)
+{
+    return memoText(value.value());
+}
 
 } // namespace korvel

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/Value.h"
-#include "navlib/units.h"
+#include "navlib/sailing.h"
 
 #include <array>
 
@@ -53,11 +53,14 @@ public:
     /// True: "1nm=1' (of LATITUDE)", false: "1nm=1852m".
     bool unitOfLatitude() const { return numberOf((*this)(22)) != 0; }
     void setUnitOfLatitude(bool latitude) { (*this)(22) = latitude ? 1.0 : 0.0; }
-    /// Spheroid option of the sailing routines: lengths in miles of 1852 m need the spheroid.
-    int spheroid() const { return unitOfLatitude() ? 0 : 1; }
+    /// The earth of the sailing routines: lengths in miles of 1852 m need the spheroid.
+    NavFunc113::Earth earth() const
+    {
+        return unitOfLatitude() ? NavFunc113::Earth::Sphere : NavFunc113::Earth::Spheroid;
+    }
 
-    NavFunc113::DegMin memoLatitude() const { return numberOf((*this)(23)); }
-    NavFunc113::DegMin memoLongitude() const { return numberOf((*this)(24)); }
+    NavFunc113::DegMin memoLatitude() const { return NavFunc113::DegMin(numberOf((*this)(23))); }
+    NavFunc113::DegMin memoLongitude() const { return NavFunc113::DegMin(numberOf((*this)(24))); }
     double singleMemo() const { return numberOf((*this)(25)); }
 
     /// Time difference of ship's mean time from UTC in hours, east positive, -12 .. 12.

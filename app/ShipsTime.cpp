@@ -29,9 +29,9 @@ bool isOnCalendar(NavFunc113::DateTime utc)
 constexpr const char* zoneNames[] = {"JST", "SMT", "UTC"};
 constexpr double zoneTolerance = 2.0 / 60; // hours
 
-long minuteOf(NavFunc113::DateTime value)
+std::int64_t minuteOf(NavFunc113::DateTime value)
 {
-    return std::lround(std::floor(NavFunc113::NearestSecond(value) * 1440 + 1e-6));
+    return std::llround(std::floor(NavFunc113::NearestSecond(value) * 1440 + 1e-6));
 }
 
 } // namespace
@@ -189,7 +189,7 @@ void ShipsTime::show()
 
 void ShipsTime::JikokuHyouji()
 {
-    const long minute = minuteOf(std::clamp(now(), firstUTC, lastUTC));
+    const std::int64_t minute = minuteOf(std::clamp(now(), firstUTC, lastUTC));
     if (m_minuteShown == minute) return;
     m_minuteShown = minute;
     show();

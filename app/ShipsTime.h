@@ -6,6 +6,7 @@
 #include "app/Questions.h"
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -79,7 +80,7 @@ private:
     Hooks m_hooks;
     double m_offset = 0;
     bool m_toldAboutOffset = false;
-    std::optional<long> m_minuteShown;
+    std::optional<std::int64_t> m_minuteShown;
 };
 
 } // namespace korvel

@@ -6,14 +6,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
 namespace
 {
 
-constexpr long minutesOfDay = 1440;
-constexpr long lateLimit = 60; // minutes; an alarm that is later than this is of no use any more
+constexpr std::int64_t minutesOfDay = 1440;
+constexpr std::int64_t lateLimit =
+    60; // minutes; an alarm that is later than this is of no use any more
 
 /// Time of day in days; nothing when the text is no time alone.
 std::optional<double> timeOfDay(const std::string& text)
@@ -24,14 +26,14 @@ std::optional<double> timeOfDay(const std::string& text)
 }
 
 /// Minutes since day 0, from the nearest second as all times are shown.
-std::optional<long> minuteOf(NavFunc113::DateTime time)
+std::optional<std::int64_t> minuteOf(NavFunc113::DateTime time)
 {
     const double seconds = std::round(time * 86400);
     if (!(std::fabs(seconds) < 1e12)) return std::nullopt;
-    return static_cast<long>(std::floor(seconds / 60));
+    return static_cast<std::int64_t>(std::floor(seconds / 60));
 }
 
-long dayMinute(long minute)
+std::int64_t dayMinute(std::int64_t minute)
 {
     return (minute % minutesOfDay + minutesOfDay) % minutesOfDay;
 }
@@ -126,7 +128,7 @@ void setUpTimeSignal(KV_Savedvalue& saved, Questions& questions)
     }
 }
 
-bool RungMinutes::add(long minute)
+bool RungMinutes::add(std::int64_t minute)
 {
     const auto place = std::lower_bound(m_minutes.begin(), m_minutes.end(), minute);
     if (place != m_minutes.end() && *place == minute) return false;
@@ -135,7 +137,7 @@ bool RungMinutes::add(long minute)
 }
 
 /// Takes over what was set up since the last reading.
-void Alarms::honourSettings(int n, Watch& alarm, long minute) const
+void Alarms::honourSettings(int n, Watch& alarm, std::int64_t minute) const
 {
     const bool enabled = m_saved.alarmEnabled(n);
     const std::string time = m_saved.alarmTime(n);
@@ -151,15 +153,15 @@ void Alarms::honourSettings(int n, Watch& alarm, long minute) const
 
 /// The clock stood at or before `from` once and stands at `minute` now: whatever lies between has
 /// been reached or passed over, by however many steps forth and back.
-void Alarms::watch(long minute)
+void Alarms::watch(std::int64_t minute)
 {
     for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
         Watch& alarm = m_watches[static_cast<std::size_t>(n - 1)];
         honourSettings(n, alarm, minute);
         if (m_last && minute < *m_last) alarm.from = std::min(alarm.from, minute);
         if (!alarm.enabled || !alarm.minuteOfDay) continue;
-        const long late = dayMinute(minute - *alarm.minuteOfDay);
-        const long own = minute - late;
+        const std::int64_t late = dayMinute(minute - *alarm.minuteOfDay);
+        const std::int64_t own = minute - late;
         if (late < lateLimit && own >= alarm.from && alarm.rung.add(own)) {
             const double ownTime = static_cast<double>(own) / minutesOfDay;
             m_due.push_back({own, {Format(ownTime, "hh:mm ") + m_saved.alarmComment(n), true}});

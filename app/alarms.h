@@ -6,6 +6,7 @@
 #include "navlib/units.h"
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -42,10 +43,11 @@ class RungMinutes
 {
 public:
     /// @return false when the minute was there already
-    bool add(long minute);
+    bool add(std::int64_t minute);
 
 private:
-    std::vector<long> m_minutes; // ascending; one a day or an hour, for as long as the program runs
+    std::vector<std::int64_t>
+        m_minutes; // ascending; one a day or an hour, for as long as the program runs
 };
 
 /// The watch over the five alarms and the time signal. It is told the time and knows no clock.
@@ -79,22 +81,22 @@ private:
         bool enabled = false;
         std::string time;
         std::optional<int> minuteOfDay; ///< nothing when the text is no time
-        long from = 0;                  ///< first minute that counts
+        std::int64_t from = 0;          ///< first minute that counts
         RungMinutes rung;
     };
     struct Rung {
-        long minute;
+        std::int64_t minute;
         Due due;
     };
 
-    void watch(long minute);
-    void honourSettings(int n, Watch& alarm, long minute) const;
+    void watch(std::int64_t minute);
+    void honourSettings(int n, Watch& alarm, std::int64_t minute) const;
 
     const KV_Savedvalue& m_saved;
     std::array<Watch, KV_Savedvalue::alarms> m_watches;
     RungMinutes m_signals;
-    std::optional<long> m_last; ///< minute of the last reading
-    std::vector<Rung> m_due;    ///< not handed out yet
+    std::optional<std::int64_t> m_last; ///< minute of the last reading
+    std::vector<Rung> m_due;            ///< not handed out yet
 };
 
 } // namespace korvel

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
@@ -30,8 +31,8 @@ double valueOf(const PositionToken& number)
 std::string packedOf(int degrees, double minutes, int decimals)
 {
     const double scale = std::pow(10.0, decimals);
-    long long scaled = std::llround(minutes * scale);
-    const long long degree = 60 * std::llround(scale);
+    std::int64_t scaled = std::llround(minutes * scale);
+    const std::int64_t degree = 60 * std::llround(scale);
     if (scaled >= degree) { // 59.99999' that rounds up is the next degree
         scaled -= degree;
         ++degrees;
@@ -178,8 +179,10 @@ std::string remarkOnPlain(const std::vector<Coordinate>& found, const std::vecto
         const auto asTaken = packed(found[i], axes[i], decimal);
         const auto asDecimal = packed(found[i], axes[i], true);
         const std::string gap = taken.empty() ? "" : " ";
-        if (asTaken) taken += gap + positionForCopy(readNumber(*asTaken), axes[i]);
-        if (asDecimal) other += gap + positionForCopy(readNumber(*asDecimal), axes[i]);
+        if (asTaken)
+            taken += gap + positionForCopy(NavFunc113::DegMin(readNumber(*asTaken)), axes[i]);
+        if (asDecimal)
+            other += gap + positionForCopy(NavFunc113::DegMin(readNumber(*asDecimal)), axes[i]);
     }
     if (decimal) return "taken as decimal degrees: " + taken;
     return "taken as degrees.minutes: " + taken +

@@ -33,7 +33,7 @@ struct DegreesAndMinutes {
 DegreesAndMinutes split(NavFunc113::DegMin value, int minuteDecimals)
 {
     const std::string format = "0.00" + std::string(static_cast<std::size_t>(minuteDecimals), '0');
-    const std::string text = Format(std::fabs(value), format);
+    const std::string text = Format(std::fabs(value.packed()), format);
     const std::size_t point = text.find('.');
     DegreesAndMinutes result;
     std::from_chars(text.data(), text.data() + point, result.degrees);
@@ -50,7 +50,8 @@ std::string inFull(NavFunc113::DegMin value, Axis axis, int minuteDecimals, cons
         parts.minutes -= 60;
     }
     const bool latitude = axis == Axis::Latitude;
-    const char* letter = latitude ? (value < 0 ? "S" : "N") : (value < 0 ? "W" : "E");
+    const char* letter = latitude ? (value < NavFunc113::DegMin() ? "S" : "N")
+                                  : (value < NavFunc113::DegMin() ? "W" : "E");
     return Format(parts.degrees, latitude ? "00" : "000") + "°" + Format(parts.minutes, "00") +
            "." + parts.decimals + "'" + gap + letter;
 }
@@ -86,16 +87,17 @@ Echo positionEcho(std::string_view boxText, Axis axis)
     if (!value) return {};
     Echo echo;
     echo.hint = remarkOnReading(boxText, axis);
-    const double size = std::fabs(*value);
+    const NavFunc113::DegMin packed(*value);
+    const NavFunc113::DegMin size(std::fabs(*value));
     const int greatest = greatestDegrees(axis);
-    if (size < longestEcho) {
-        echo.text = inFull(*value, axis, std::clamp(decimalsOf(boxText) - 2, 1, 4), " ");
-        const DegreesAndMinutes typed = split(*value, 8);
+    if (size.packed() < longestEcho) {
+        echo.text = inFull(packed, axis, std::clamp(decimalsOf(boxText) - 2, 1, 4), " ");
+        const DegreesAndMinutes typed = split(packed, 8);
         if (typed.minutes >= 60) {
             const double minutes = readNumber(Format(typed.minutes, "0") + "." + typed.decimals);
             echo.hint = joined({echo.hint, "minutes " + Format(minutes, "0.####")});
         }
-        const bool beyond = NavFunc113::DegMinToDeg(size) > greatest + 1e-9;
+        const bool beyond = NavFunc113::DegMinToDeg(size).value() > greatest + 1e-9;
         if (!beyond) return echo;
     }
     echo.hint = joined({echo.hint, "beyond " + Format(greatest, "0") + "°"});
@@ -104,7 +106,7 @@ Echo positionEcho(std::string_view boxText, Axis axis)
 
 std::string positionForCopy(NavFunc113::DegMin value, Axis axis)
 {
-    if (!(std::fabs(value) < longestEcho)) return {};
+    if (!(std::fabs(value.packed()) < longestEcho)) return {};
     return inFull(value, axis, 1, "");
 }
 

@@ -8,7 +8,7 @@ namespace NavFunc113
 
 DegMin SumDegMin(std::span<const DegMin> values)
 {
-    Degrees total = 0;
+    Degrees total;
     for (DegMin value : values)
         total += DegMinToDeg(value);
     return DegToDegMin(total);
@@ -21,7 +21,7 @@ DegMin SumDegMin(std::initializer_list<DegMin> values)
 
 Radians ArcSin(double x)
 {
-    return std::atan(Quotient(x, SquareRoot(1 - std::pow(x, 2.0))));
+    return Radians(std::atan(Quotient(x, SquareRoot(1 - std::pow(x, 2.0)))));
 }
 
 std::optional<double> InterpolateLagrange(double x, std::span<const TablePair> table)

@@ -26,19 +26,19 @@ inline double WholePart(double value)
 /// refused (35.75 is 36.25 degrees).
 inline Degrees DegMinToDeg(DegMin value)
 {
-    const double magnitude = std::fabs(value);
+    const double magnitude = std::fabs(value.packed());
     const double degrees = WholePart(magnitude);
     const double result = degrees + (magnitude - degrees) / 0.6;
-    return value > 0 ? result : -result;
+    return Degrees(value.packed() > 0 ? result : -result);
 }
 
 /// Packed value of decimal degrees, not rounded: display rounds.
 inline DegMin DegToDegMin(Degrees value)
 {
-    const double magnitude = std::fabs(value);
+    const double magnitude = std::fabs(value.value());
     const double degrees = WholePart(magnitude);
     const double result = degrees + (magnitude - degrees) * 0.6;
-    return value > 0 ? result : -result;
+    return DegMin(value.value() > 0 ? result : -result);
 }
 
 /// Sum of packed values, added in their order; an empty list sums to 0.
@@ -53,12 +53,55 @@ inline double Pi()
 
 inline Radians DegToRad(Degrees value)
 {
-    return (value / 180) * Pi();
+    return Radians((value.value() / 180) * Pi());
 }
 
 inline Degrees RadToDeg(Radians value)
 {
-    return (value / Pi()) * 180;
+    return Degrees((value.value() / Pi()) * 180);
+}
+
+inline double sin(Radians angle)
+{
+    return std::sin(angle.value());
+}
+
+inline double cos(Radians angle)
+{
+    return std::cos(angle.value());
+}
+
+inline double tan(Radians angle)
+{
+    return std::tan(angle.value());
+}
+
+inline double sin(Degrees angle)
+{
+    return sin(DegToRad(angle));
+}
+
+inline double cos(Degrees angle)
+{
+    return cos(DegToRad(angle));
+}
+
+inline double tan(Degrees angle)
+{
+    return tan(DegToRad(angle));
+}
+
+/// What is left of an angle after the nearest whole number of turns, -180 .. 180.
+inline Degrees WithinHalfTurn(Degrees angle)
+{
+    return Degrees(std::remainder(angle.value(), 360));
+}
+
+/// Quotient of a measure and a number. @throws ArithmeticError as Quotient of two numbers
+template <typename Unit>
+Measure<Unit> Quotient(Measure<Unit> dividend, double divisor)
+{
+    return Measure<Unit>(Quotient(dividend.value(), divisor));
 }
 
 /// Angle of the point (x, y), in (-pi, pi]; (0, 0) gives 0.
@@ -70,10 +113,10 @@ inline Degrees RadToDeg(Radians value)
 inline Radians ArcTan2(double& x, double y)
 {
     if (x == 0) x = 1e-11;
-    const Radians angle = std::atan(Quotient(y, x));
-    if (x > 0) return y == 0 ? 0 : angle;
-    if (y == 0) return Pi();
-    return y > 0 ? angle + Pi() : angle - Pi();
+    const double angle = std::atan(Quotient(y, x));
+    if (x > 0) return Radians(y == 0 ? 0 : angle);
+    if (y == 0) return Radians(Pi());
+    return Radians(y > 0 ? angle + Pi() : angle - Pi());
 }
 
 /// The same where the caller has no further use for x.
@@ -88,8 +131,8 @@ inline Radians ArcTan2(double&& x, double y)
 ///         looked at, on purpose), InvalidArgument for |x| > 1
 inline Radians ArcCos(double x)
 {
-    const Radians angle = std::atan(Quotient(SquareRoot(1 - std::pow(x, 2.0)), x));
-    return x > 0 ? angle : angle + Pi();
+    const double angle = std::atan(Quotient(SquareRoot(1 - std::pow(x, 2.0)), x));
+    return Radians(x > 0 ? angle : angle + Pi());
 }
 
 /// Angle of a sine, -pi/2 .. pi/2, as the arctangent of x / sqrt(1 - x^2).

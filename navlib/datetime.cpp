@@ -11,7 +11,7 @@ namespace NavFunc113
 namespace
 {
 
-constexpr long secondsPerDay = 86400;
+constexpr std::int64_t secondsPerDay = 86400;
 constexpr std::chrono::sys_days serialZero =
     std::chrono::year(1899) / std::chrono::December / std::chrono::day(30);
 
@@ -21,31 +21,32 @@ std::chrono::year_month_day calendarDate(const CivilDate& date)
             std::chrono::day(static_cast<unsigned>(date.day))};
 }
 
-long wholeSeconds(DateTime value)
+std::int64_t wholeSeconds(DateTime value)
 {
     constexpr double firstDay = -657434;     // 100-01-01
     constexpr double dayAfterLast = 2958466; // 10000-01-01
     if (!(value >= firstDay && value < dayAfterLast))
         throw ArithmeticError(ArithmeticError::Condition::Overflow);
-    return std::lround(value * secondsPerDay);
+    return std::llround(value * secondsPerDay);
 }
 
-long floorDays(long seconds)
+std::int64_t floorDays(std::int64_t seconds)
 {
-    const long days = seconds / secondsPerDay;
+    const std::int64_t days = seconds / secondsPerDay;
     return seconds % secondsPerDay < 0 ? days - 1 : days;
 }
 
 } // namespace
 
-long DaySerial(const CivilDate& date)
+std::int64_t DaySerial(const CivilDate& date)
 {
     return (std::chrono::sys_days(calendarDate(date)) - serialZero).count();
 }
 
-CivilDate DateOfSerial(long day)
+CivilDate DateOfSerial(std::int64_t day)
 {
-    const std::chrono::year_month_day date(serialZero + std::chrono::days(day));
+    const std::chrono::year_month_day date(
+        serialZero + std::chrono::days(static_cast<std::chrono::days::rep>(day)));
     return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
             static_cast<int>(static_cast<unsigned>(date.day()))};
 }
@@ -73,7 +74,7 @@ CivilDate DateOf(DateTime value)
 
 TimeOfDay TimeOf(DateTime value)
 {
-    const long seconds = wholeSeconds(value);
+    const std::int64_t seconds = wholeSeconds(value);
     const int ofDay = static_cast<int>(seconds - floorDays(seconds) * secondsPerDay);
     return {ofDay / 3600, ofDay / 60 % 60, ofDay % 60};
 }

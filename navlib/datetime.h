@@ -3,6 +3,8 @@
 
 #include "navlib/units.h"
 
+#include <cstdint>
+
 namespace NavFunc113
 {
 
@@ -21,11 +23,11 @@ struct TimeOfDay {
 };
 
 /// Day number of a date: 0 is 1899-12-30. Months and days beyond the calendar are not checked.
-long DaySerial(const CivilDate& date);
+std::int64_t DaySerial(const CivilDate& date);
 
 /// Date of a day number (the whole part of a date-time).
 /// @param day day number, years 1 to 9999
-CivilDate DateOfSerial(long day);
+CivilDate DateOfSerial(std::int64_t day);
 
 /// True when the date exists in the calendar and its year lies in 100 .. 9999.
 bool IsCivilDate(const CivilDate& date);

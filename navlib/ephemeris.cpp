@@ -6,6 +6,7 @@
 #include "navlib/ephemeris_series.h"
 
 #include <cmath>
+#include <cstdint>
 #include <span>
 
 namespace NavFunc113
@@ -26,35 +27,25 @@ double fraction(DateTime instant)
     return instant - std::floor(instant);
 }
 
-double cosOf(Degrees angle)
-{
-    return std::cos(DegToRad(angle));
-}
-
-double sinOf(Degrees angle)
-{
-    return std::sin(DegToRad(angle));
-}
-
 /// All series are cosines; the phases are chosen for that.
 double sumSeries(double start, std::span<const SeriesTerm> terms, double T)
 {
     double sum = start;
     for (const SeriesTerm& term : terms) {
         const double amplitude = term.power == 0 ? term.amplitude : term.amplitude * T;
-        sum += amplitude * cosOf(term.rate * T + term.phase);
+        sum += amplitude * cos(Degrees(term.rate * T + term.phase));
     }
     return sum;
 }
 
-Degrees reduced(Degrees angle)
+Degrees reduced(double degrees)
 {
-    return angle - 360 * std::floor(angle / 360);
+    return Degrees(degrees - 360 * std::floor(degrees / 360));
 }
 
 Degrees meanObliquity(double T)
 {
-    return 23.43929 - 0.013004 * T;
+    return Degrees(23.43929 - 0.013004 * T);
 }
 
 /// What every apparent place at one instant needs.
@@ -85,7 +76,7 @@ EclipticPlace apparentSun(const Frame& frame)
     // do not mind.
     return {SunLongitude(frame.julianDay) + SunAberration(SunDistance(frame.julianDay)) +
                 frame.nutation,
-            0};
+            Degrees(0)};
 }
 
 EclipticPlace apparentMoon(const Frame& frame)
@@ -96,27 +87,27 @@ EclipticPlace apparentMoon(const Frame& frame)
 
 DegMin sunDeclination(const Frame& frame, const EclipticPlace& sun)
 {
-    return DegToDegMin(RadToDeg(ArcSin(sinOf(frame.obliquity) * sinOf(sun.longitude))));
+    return DegToDegMin(RadToDeg(ArcSin(sin(frame.obliquity) * sin(sun.longitude))));
 }
 
 DegMin sunRightAscension(const Frame& frame, const EclipticPlace& sun)
 {
     return DegToDegMin(
-        RadToDeg(ArcTan2(cosOf(sun.longitude), cosOf(frame.obliquity) * sinOf(sun.longitude))));
+        RadToDeg(ArcTan2(cos(sun.longitude), cos(frame.obliquity) * sin(sun.longitude))));
 }
 
 DegMin moonDeclination(const Frame& frame, const EclipticPlace& moon)
 {
     return DegToDegMin(
-        RadToDeg(ArcSin(sinOf(moon.latitude) * cosOf(frame.obliquity) +
-                        cosOf(moon.latitude) * sinOf(frame.obliquity) * sinOf(moon.longitude))));
+        RadToDeg(ArcSin(sin(moon.latitude) * cos(frame.obliquity) +
+                        cos(moon.latitude) * sin(frame.obliquity) * sin(moon.longitude))));
 }
 
 DegMin moonRightAscension(const Frame& frame, const EclipticPlace& moon)
 {
-    const double x = cosOf(moon.latitude) * cosOf(moon.longitude);
-    const double y = cosOf(moon.latitude) * sinOf(moon.longitude) * cosOf(frame.obliquity) -
-                     sinOf(moon.latitude) * sinOf(frame.obliquity);
+    const double x = cos(moon.latitude) * cos(moon.longitude);
+    const double y = cos(moon.latitude) * sin(moon.longitude) * cos(frame.obliquity) -
+                     sin(moon.latitude) * sin(frame.obliquity);
     return DegToDegMin(RadToDeg(ArcTan2(double(x), y)));
 }
 
@@ -124,30 +115,30 @@ Hours siderealTime(const Frame& frame)
 {
     double a = 2400.0513369 * frame.T / 24;
     a = (a - std::floor(a)) * 24;
-    const Hours equationOfEquinoxes = frame.nutation * cosOf(frame.obliquity) / 15;
+    const double equationOfEquinoxes = frame.nutation.value() * cos(frame.obliquity) / 15;
     // The square of T / 24, not of T: on purpose. The term is below 0.01 seconds for a century.
-    return 2.59e-5 * std::pow(frame.T / 24, 2.0) + (a + 6.697375) + fraction(frame.instant) * 24 +
-           equationOfEquinoxes;
+    return Hours(2.59e-5 * std::pow(frame.T / 24, 2.0) + (a + 6.697375) +
+                 fraction(frame.instant) * 24 + equationOfEquinoxes);
 }
 
 DegMin hourAngle(const Frame& frame, DegMin rightAscension)
 {
-    Degrees x = 15 * siderealTime(frame) - DegMinToDeg(rightAscension);
+    Degrees x = ArcOfHours(siderealTime(frame)) - DegMinToDeg(rightAscension);
     // An angle between -360 and 0 gets 0 added here and stays negative, on purpose: callers add a
     // longitude and take sine and cosine, or reduce it for display.
-    if (x > 360)
-        x = x - 360 * std::floor(x / 360);
-    else if (x < 0)
-        x = x + 360 * (std::floor(x / 360) + 1);
+    if (x > fullTurn)
+        x -= fullTurn * std::floor(x / fullTurn);
+    else if (x < Degrees(0))
+        x += fullTurn * (std::floor(x / fullTurn) + 1);
     return DegToDegMin(x);
 }
 
 Degrees hourAngleOffset(DateTime instant, DegMin GHA)
 {
-    const Degrees timeOfDay = fraction(instant) * 24 * 15;
+    const Degrees timeOfDay = ArcOfHours(Hours(fraction(instant) * 24));
     Degrees offset = DegMinToDeg(GHA) - timeOfDay;
-    if (offset < 0) offset = offset + 360;
-    if (offset > 360) offset = offset - 360;
+    if (offset < Degrees(0)) offset += fullTurn;
+    if (offset > fullTurn) offset -= fullTurn;
     return offset;
 }
 
@@ -159,7 +150,7 @@ double JulianDay(DateTime instant)
     if (!(instant < dayAfterLast)) throw ArithmeticError(ArithmeticError::Condition::Overflow);
     if (instant < 0) return 0;
     // The day is cut off, not rounded: it belongs to the fraction that is added below.
-    CivilDate date = DateOfSerial(static_cast<long>(std::floor(instant)));
+    CivilDate date = DateOfSerial(static_cast<std::int64_t>(std::floor(instant)));
     if (date.month <= 2) {
         date.year -= 1;
         date.month += 12;
@@ -183,24 +174,26 @@ double SunDistance(double julianDay)
 
 Degrees SunAberration(double distance)
 {
-    return Quotient(-0.005693, distance);
+    return Degrees(Quotient(-0.005693, distance));
 }
 
 Degrees NutationLongitude(double julianDay)
 {
     const double T = centuries(julianDay);
-    const Degrees node = 125.04 - 1934.136 * T;
-    const Degrees twiceSun = 200.93 + 72001.539 * T;
-    // Textbooks have -0.00478 and a minus sign before the second term. These values are kept so
-    // that every figure stays what it has always been; they shift a body by 0.05 minutes of arc
+    const Degrees node(125.04 - 1934.136 * T);
+    const Degrees twiceSun(200.93 + 72001.539 * T);
+    // Textbooks have -0.00478 and a minus sign before the second term. These values are kept on
+    // purpose, like every figure that follows from them; they shift a body by 0.05 minutes of arc
     // at most.
-    return -0.00487 * sinOf(node) + 0.00037 * sinOf(twiceSun);
+    return Degrees(-0.00487 * sin(node) + 0.00037 * sin(twiceSun));
 }
 
 Degrees NutationObliquity(double julianDay)
 {
     const double T = centuries(julianDay);
-    return 0.00256 * cosOf(125.04 - 1934.136 * T) + 0.00016 * cosOf(200.93 + 72001.539 * T);
+    const Degrees node(125.04 - 1934.136 * T);
+    const Degrees twiceSun(200.93 + 72001.539 * T);
+    return Degrees(0.00256 * cos(node) + 0.00016 * cos(twiceSun));
 }
 
 Degrees MoonLongitude(double julianDay)
@@ -212,7 +205,7 @@ Degrees MoonLongitude(double julianDay)
 Degrees MoonLatitude(double julianDay)
 {
     const double T = centuries(julianDay);
-    return sumSeries(5.1281 * cosOf(483202.019 * T + 3.273), moonLatitudeTerms, T);
+    return Degrees(sumSeries(5.1281 * cos(Degrees(483202.019 * T + 3.273)), moonLatitudeTerms, T));
 }
 
 DegMin SunDeclination(DateTime instant)
@@ -286,7 +279,7 @@ double MoonAge(DateTime instant)
 {
     const double julianDay = JulianDay(instant);
     const Degrees elongation = MoonLongitude(julianDay) - SunLongitude(julianDay);
-    const double turns = (elongation + 360) / 360;
+    const double turns = (elongation + fullTurn) / fullTurn;
     return 30 * (turns - std::floor(turns));
 }
 

@@ -59,8 +59,8 @@ Degrees MoonHourAngleOffset(DateTime instant);
 /// Declination and hour-angle offset of a body at one instant, bit for bit those of the single
 /// routines; the series are summed once for both.
 struct BodyPlace {
-    DegMin declination = 0;
-    Degrees hourAngleOffset = 0;
+    DegMin declination;
+    Degrees hourAngleOffset;
 };
 BodyPlace SunPlace(DateTime instant);
 BodyPlace MoonPlace(DateTime instant);

@@ -10,15 +10,15 @@ namespace NavFunc113
 
 /// The point of a great circle that lies farthest from the equator.
 struct Vertex {
-    DegMin lat = 0;
-    DegMin longitude = 0; ///< -180 < longitude <= 180
+    DegMin lat;
+    DegMin longitude;     ///< -180 < longitude <= 180
     bool onRoute = false; ///< between departure and arrival, neither of them counted
 };
 
 /// Courses and vertex of a great-circle route on the sphere.
 struct GreatCircleTrack {
-    Degrees initialCourse = 0; ///< true, 0 <= course < 360
-    Degrees finalCourse = 0;   ///< true, 0 <= course < 360
+    Degrees initialCourse; ///< true, 0 <= course < 360
+    Degrees finalCourse;   ///< true, 0 <= course < 360
     /// Of the circle's two vertices the one on the route; if none lies there, the one beyond the
     /// end that is farther from the equator. On a route along a meridian a pole, given the
     /// longitude of the departure. Nothing on the equator, all of which is equally far.

@@ -11,7 +11,8 @@ namespace NavFunc113
 namespace
 {
 
-constexpr Degrees sunEventAltitude = -0.9033;
+constexpr Degrees sunEventAltitude(-0.9033);
+constexpr Degrees moonEventAltitude(0);
 constexpr double rising = -1;
 constexpr double setting = 1;
 
@@ -25,12 +26,12 @@ struct Event {
     Degrees motionInADay; ///< of the body's hour angle
 };
 
-constexpr Degrees sunMotion = 360;
-constexpr Degrees moonMotion = 347.8; ///< mean; it varies by about 3 degrees
+constexpr Degrees sunMotion(360);
+constexpr Degrees moonMotion(347.8); ///< mean; it varies by about 3 degrees
 constexpr Event sunRise{SunPlace, SunRiseHour, sunEventAltitude, rising, sunMotion};
 constexpr Event sunSet{SunPlace, SunSetHour, sunEventAltitude, setting, sunMotion};
-constexpr Event moonRise{MoonPlace, MoonRiseHour, 0, rising, moonMotion};
-constexpr Event moonSet{MoonPlace, MoonSetHour, 0, setting, moonMotion};
+constexpr Event moonRise{MoonPlace, MoonRiseHour, moonEventAltitude, rising, moonMotion};
+constexpr Event moonSet{MoonPlace, MoonSetHour, moonEventAltitude, setting, moonMotion};
 
 struct Triangle {
     double sineProduct;
@@ -41,20 +42,20 @@ Triangle triangleOf(DegMin latitude, DegMin declination)
 {
     const Radians phi = DegToRad(DegMinToDeg(latitude));
     const Radians delta = DegToRad(DegMinToDeg(declination));
-    return {std::sin(phi) * std::sin(delta), std::cos(phi) * std::cos(delta)};
+    return {sin(phi) * sin(delta), cos(phi) * cos(delta)};
 }
 
 DateTime dayCount(double wholeDays, Degrees hourAngle, Hours TD, Degrees hourAngleOffset,
                   DegMin longitude)
 {
-    return wholeDays + ((hourAngle - hourAngleOffset - DegMinToDeg(longitude)) / 15 + TD) / 24;
+    return wholeDays +
+           DaysOfHours(HoursOfArc(hourAngle - hourAngleOffset - DegMinToDeg(longitude)) + TD);
 }
 
 Degrees sunEventHourAngle(DegMin latitude, DegMin declination)
 {
     const auto [sineProduct, cosineProduct] = triangleOf(latitude, declination);
-    return RadToDeg(
-        ArcCos(Quotient(std::sin(DegToRad(sunEventAltitude)) - sineProduct, cosineProduct)));
+    return RadToDeg(ArcCos(Quotient(sin(sunEventAltitude) - sineProduct, cosineProduct)));
 }
 
 Degrees moonEventHourAngle(DegMin latitude, DegMin declination)
@@ -67,7 +68,7 @@ Degrees moonEventHourAngle(DegMin latitude, DegMin declination)
 
 DateTime search(const Event& event, DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
 {
-    latitude += 1e-10;
+    latitude = DegMin(latitude.packed() + 1e-10);
     for (int i = -1; i <= 1; ++i) {
         const auto eventAfter = [&](DateTime instant) {
             const BodyPlace body = event.place(instant);
@@ -76,8 +77,8 @@ DateTime search(const Event& event, DateTime date, Hours TD, DegMin& latitude, D
         };
         // TD enters the first estimate with the other sign than the second, on purpose: it only
         // says where the iteration starts.
-        DateTime found = eventAfter(i + date + 0.5 + TD / 24);
-        found = eventAfter(found - TD / 24);
+        DateTime found = eventAfter(i + date + 0.5 + DaysOfHours(TD));
+        found = eventAfter(found - DaysOfHours(TD));
         if (std::floor(found) == date) return found;
     }
     return 0;
@@ -91,12 +92,12 @@ std::optional<double> stepToEvent(const Event& event, DateTime instant, DegMin l
 {
     const BodyPlace body = event.place(instant);
     const auto [sineProduct, cosineProduct] = triangleOf(latitude, body.declination);
-    const double cosine = (std::sin(DegToRad(event.altitude)) - sineProduct) / cosineProduct;
+    const double cosine = (sin(event.altitude) - sineProduct) / cosineProduct;
     if (!(std::fabs(cosine) <= 1)) return std::nullopt;
     const Degrees hourAngle =
-        (instant - std::floor(instant)) * 360 + body.hourAngleOffset + DegMinToDeg(longitude);
-    const Degrees atEvent = event.side * RadToDeg(std::acos(cosine));
-    return std::remainder(atEvent - hourAngle, 360) / event.motionInADay;
+        (instant - std::floor(instant)) * fullTurn + body.hourAngleOffset + DegMinToDeg(longitude);
+    const Degrees atEvent = event.side * RadToDeg(Radians(std::acos(cosine)));
+    return WithinHalfTurn(atEvent - hourAngle) / event.motionInADay;
 }
 
 std::optional<DateTime> iterate(const Event& event, DateTime start, DegMin latitude,
@@ -118,15 +119,15 @@ std::optional<DateTime> refine(const Event& event, DateTime date, Hours TD, DegM
 {
     constexpr double minute = 1.0 / 1440;
     if (found != 0) {
-        const auto step = stepToEvent(event, found - TD / 24, latitude, longitude);
+        const auto step = stepToEvent(event, found - DaysOfHours(TD), latitude, longitude);
         if (step && std::fabs(*step) < minute) return found;
     }
     // From both ends and the middle of the day: whatever falls on it is reached from one of them.
     std::optional<DateTime> earliest;
     for (double start : {0.0, 0.5, 1.0}) {
-        const auto instant = iterate(event, date + start - TD / 24, latitude, longitude);
+        const auto instant = iterate(event, date + start - DaysOfHours(TD), latitude, longitude);
         if (!instant) continue;
-        const DateTime local = *instant + TD / 24;
+        const DateTime local = *instant + DaysOfHours(TD);
         if (std::floor(local) == date && (!earliest || local < *earliest)) earliest = local;
     }
     return earliest;
@@ -162,12 +163,12 @@ Degrees SunRiseAzimuth(DegMin latitude, DegMin declination)
 {
     const Radians phi = DegToRad(DegMinToDeg(latitude));
     const Radians delta = DegToRad(DegMinToDeg(declination));
-    return RadToDeg(ArcCos(Quotient(std::sin(delta), std::cos(phi))));
+    return RadToDeg(ArcCos(Quotient(sin(delta), cos(phi))));
 }
 
 Degrees SunSetAzimuth(DegMin latitude, DegMin declination)
 {
-    return 360 - SunRiseAzimuth(latitude, declination);
+    return fullTurn - SunRiseAzimuth(latitude, declination);
 }
 
 DateTime SunRiseSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude)

@@ -14,7 +14,7 @@ namespace
 using Condition = ArithmeticError::Condition;
 
 struct Node {
-    Degrees lat;
+    double lat; // degrees
     double factor;
 };
 
@@ -29,6 +29,17 @@ constexpr std::array<Node, 4> runFactors{
 // Deliberately not 2, and the same for distance and dead reckoning.
 constexpr double latitudeFactorDivisor = 2.05;
 
+constexpr Degrees dueEast(90);
+constexpr Degrees dueWest(270);
+constexpr Degrees sameParallel(1e-9); // nearer than this two latitudes are one
+
+/// A packed latitude taken for decimal degrees, unconverted: its factor varies too slowly for the
+/// difference to show.
+Degrees asItStands(DegMin lat)
+{
+    return Degrees(std::fabs(lat.packed()));
+}
+
 // The steps of InterpolateLagrange over a table whose nodes the compiler knows, so that it can
 // unroll them and work on several weights at once.
 template <std::size_t n>
@@ -39,7 +50,8 @@ double factorAt(Degrees lat, const std::array<Node, n>& table)
     for (std::size_t i = 0; i < n; ++i)
         for (std::size_t j = 0; j < n; ++j)
             if (i != j)
-                weights[j] = weights[j] * (lat - table[i].lat) / (table[j].lat - table[i].lat);
+                weights[j] =
+                    weights[j] * (lat.value() - table[i].lat) / (table[j].lat - table[i].lat);
     double sum = 0;
     for (std::size_t j = 0; j < n; ++j)
         sum += table[j].factor * weights[j];
@@ -50,16 +62,16 @@ double factorAt(Degrees lat, const std::array<Node, n>& table)
 Degrees shorterWay(Degrees lambda1, Degrees lambda2)
 {
     const Degrees change = lambda2 - lambda1;
-    if (change > 180) return change - 360;
-    if (change < -180) return change + 360;
+    if (change > halfTurn) return change - fullTurn;
+    if (change < -halfTurn) return change + fullTurn;
     return change;
 }
 
 Radians unsignedShorterWay(Radians lambda1, Radians lambda2)
 {
     // Exactly half a turn stays half a turn.
-    const Radians change = std::fabs(lambda2 - lambda1);
-    return change > Pi() ? std::fabs(change - 2 * Pi()) : change;
+    const Radians change = fabs(lambda2 - lambda1);
+    return change > Radians(Pi()) ? fabs(change - Radians(2 * Pi())) : change;
 }
 
 struct Place {
@@ -74,44 +86,44 @@ Place placeOf(DegMin lat, DegMin longitude)
 
 bool eastward(Degrees lambda1, Degrees lambda2)
 {
-    return std::fabs(lambda2 - lambda1) != 180 && shorterWay(lambda1, lambda2) > 0;
+    return fabs(lambda2 - lambda1) != halfTurn && shorterWay(lambda1, lambda2) > Degrees(0);
 }
 
 Degrees courseBetween(const Place& from, const Place& to)
 {
     const Degrees change = shorterWay(from.lambda, to.lambda);
-    double parts = MeridionalParts(to.phi) - MeridionalParts(from.phi);
+    const double parts = MeridionalParts(to.phi) - MeridionalParts(from.phi);
     if (parts == 0) {
-        if (change == 0) return 0;
-        return eastward(from.lambda, to.lambda) ? 90 : 270;
+        if (change == Degrees(0)) return Degrees(0);
+        return eastward(from.lambda, to.lambda) ? dueEast : dueWest;
     }
-    Degrees course = RadToDeg(ArcTan2(parts, 60 * change));
-    if (course < 0) course += 360;
-    return course < 360 ? course : 0; // a hair west of north rounds to 360
+    Degrees course = RadToDeg(ArcTan2(double(parts), 60 * change.value()));
+    if (course < Degrees(0)) course += fullTurn;
+    return course < fullTurn ? course : Degrees(0); // a hair west of north rounds to 360
 }
 
 Miles alongParallel(const Place& from, const Place& to)
 {
-    Degrees change = std::fabs(to.lambda - from.lambda);
-    if (change > 180) change = 360 - change;
-    return std::fabs(change * 60 * std::cos(DegToRad(from.phi)));
+    Degrees change = fabs(to.lambda - from.lambda);
+    if (change > halfTurn) change = fullTurn - change;
+    return fabs(MilesOfArc(change) * cos(from.phi));
 }
 
 // The course is asked for only where the distance needs it: along a parallel it may not exist.
 template <typename Course>
-Miles distanceBetween(const Place& from, const Place& to, DegMin lat1, int spheroid, Course course)
+Miles distanceBetween(const Place& from, const Place& to, DegMin lat1, Earth earth, Course course)
 {
     Degrees change = to.phi - from.phi;
-    if (spheroid == 1)
-        change *= LatitudeFactor(std::fabs(from.phi + to.phi) / latitudeFactorDivisor);
-    if (std::fabs(change) < 1e-9) {
+    if (earth == Earth::Spheroid)
+        change *= LatitudeFactor(fabs(from.phi + to.phi) / latitudeFactorDivisor);
+    if (fabs(change) < sameParallel) {
         const Miles distance = alongParallel(from, to);
-        return spheroid == 1 ? distance * ParallelFactor(std::fabs(lat1)) : distance;
+        return earth == Earth::Spheroid ? distance * ParallelFactor(asItStands(lat1)) : distance;
     }
     const Degrees angle = course();
     // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
-    if (angle == 90 || angle == 270) throw ArithmeticError(Condition::DivisionByZero);
-    return std::fabs(Quotient(change, std::cos(DegToRad(angle)))) * 60;
+    if (angle == dueEast || angle == dueWest) throw ArithmeticError(Condition::DivisionByZero);
+    return MilesOfArc(fabs(Quotient(change, cos(angle))));
 }
 
 } // namespace
@@ -121,15 +133,20 @@ Degrees ChangeOfLongitude(DegMin long1, DegMin long2)
     return shorterWay(DegMinToDeg(long1), DegMinToDeg(long2));
 }
 
-std::string EastWest(DegMin long1, DegMin long2)
+EastOrWest EastWest(DegMin long1, DegMin long2)
 {
-    return eastward(DegMinToDeg(long1), DegMinToDeg(long2)) ? "East" : "West";
+    return eastward(DegMinToDeg(long1), DegMinToDeg(long2)) ? EastOrWest::East : EastOrWest::West;
+}
+
+std::string_view NameOf(EastOrWest way)
+{
+    return way == EastOrWest::East ? "East" : "West";
 }
 
 double MeridionalParts(Degrees lat)
 {
     const Radians phi = DegToRad(lat);
-    return 7915.7 * Log10(std::tan(Pi() / 4 + phi / 2)) - 23.1 * std::sin(phi);
+    return 7915.7 * Log10(tan(Radians(Pi() / 4) + phi / 2)) - 23.1 * sin(phi);
 }
 
 double LatitudeFactor(Degrees lat)
@@ -147,63 +164,65 @@ Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
     return courseBetween(placeOf(lat1, long1), placeOf(lat2, long2));
 }
 
-RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid)
+RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth)
 {
     const Place from = placeOf(lat1, long1);
     const Place to = placeOf(lat2, long2);
     const Degrees course = courseBetween(from, to);
-    return {course, distanceBetween(from, to, lat1, spheroid, [course] { return course; })};
+    return {course, distanceBetween(from, to, lat1, earth, [course] { return course; })};
 }
 
-Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid)
+Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth)
 {
     const Place from = placeOf(lat1, long1);
     const Place to = placeOf(lat2, long2);
-    return distanceBetween(from, to, lat1, spheroid, [&] { return courseBetween(from, to); });
+    return distanceBetween(from, to, lat1, earth, [&] { return courseBetween(from, to); });
 }
 
-DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid)
+DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, Earth earth)
 {
-    if (distance <= 0) return lat;
-    Degrees change = distance / 60 * std::cos(DegToRad(course));
-    if (spheroid == 1) {
+    if (distance <= Miles(0)) return lat;
+    Degrees change = ArcOfMiles(distance) * cos(course);
+    if (earth == Earth::Spheroid) {
         // lat enters as it is packed: the factor varies too slowly for the difference to show.
-        const Degrees lookup = std::fabs(2 * lat + change) / latitudeFactorDivisor;
+        const Degrees lookup =
+            Degrees(std::fabs(2 * lat.packed() + change.value()) / latitudeFactorDivisor);
         change = Quotient(change, LatitudeFactor(lookup));
     }
     return DegToDegMin(DegMinToDeg(lat) + change);
 }
 
-DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid)
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth)
 {
-    return DRLongitude(lat1, long1, course, distance, spheroid,
-                       DRLatitude(lat1, course, distance, spheroid));
+    return DRLongitude(lat1, long1, course, distance, earth,
+                       DRLatitude(lat1, course, distance, earth));
 }
 
-DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid,
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth,
                    DegMin latReached)
 {
-    if (distance <= 0) return long1;
+    if (distance <= Miles(0)) return long1;
     const Degrees phi1 = DegMinToDeg(lat1);
-    Degrees change = 0;
-    if (course == 90 || course == 270) {
+    Degrees change;
+    if (course == dueEast || course == dueWest) {
         // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
-        if (std::fabs(phi1) == 90) throw ArithmeticError(Condition::DivisionByZero);
-        const Miles run = course == 90 ? distance : -distance;
-        change = Quotient(run, std::cos(DegToRad(phi1))) / 60;
-        if (spheroid == 1) change = Quotient(change, factorAt(std::fabs(lat1), runFactors));
+        if (fabs(phi1) == quarterTurn) throw ArithmeticError(Condition::DivisionByZero);
+        const Miles run = course == dueEast ? distance : -distance;
+        change = ArcOfMiles(Quotient(run, cos(phi1)));
+        if (earth == Earth::Spheroid)
+            change = Quotient(change, factorAt(asItStands(lat1), runFactors));
     } else {
         // First what does not wait for the latitude reached.
-        const double slope = std::tan(DegToRad(course));
+        const double slope = tan(course);
         const double partsLeft = MeridionalParts(phi1);
         const double parts = MeridionalParts(DegMinToDeg(latReached)) - partsLeft;
-        change = slope * parts / 60;
+        change = Degrees(slope * parts / 60);
     }
     Degrees lambda = DegMinToDeg(long1) + change;
     // Close to a pole a run can go round the earth many times.
-    if (std::fabs(lambda) > 540) lambda = std::fmod(lambda, 360);
-    if (lambda > 180) return DegToDegMin(lambda - 360);
-    if (lambda < -180) return DegToDegMin(lambda + 360);
+    if (fabs(lambda) > halfTurn + fullTurn) lambda = Degrees(std::fmod(lambda.value(), 360));
+    if (lambda > halfTurn) lambda -= fullTurn;
+    if (lambda < -halfTurn) lambda += fullTurn;
     return DegToDegMin(lambda);
 }
 
@@ -214,8 +233,8 @@ Miles GCDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
     const Radians phi2 = DegToRad(DegMinToDeg(lat2));
     const Radians lambda2 = DegToRad(DegMinToDeg(long2));
     const Radians change = unsignedShorterWay(lambda1, lambda2);
-    return 60 * RadToDeg(ArcCos(std::sin(phi1) * std::sin(phi2) +
-                                std::cos(phi1) * std::cos(phi2) * std::cos(change)));
+    return MilesOfArc(
+        RadToDeg(ArcCos(sin(phi1) * sin(phi2) + cos(phi1) * cos(phi2) * cos(change))));
 }
 
 GreatCircle::GreatCircle(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
@@ -223,20 +242,19 @@ GreatCircle::GreatCircle(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
     const Radians phi1 = DegToRad(DegMinToDeg(lat1));
     const Radians phi2 = DegToRad(DegMinToDeg(lat2));
     m_lambda1 = DegToRad(DegMinToDeg(long1));
-    m_sinPhi1 = std::sin(phi1);
-    m_cosPhi1 = std::cos(phi1);
+    m_sinPhi1 = sin(phi1);
+    m_cosPhi1 = cos(phi1);
 
     const Radians change = unsignedShorterWay(m_lambda1, DegToRad(DegMinToDeg(long2)));
-    m_angle = ArcTan2(m_cosPhi1 * std::tan(phi2) - m_sinPhi1 * std::cos(change), std::sin(change));
+    m_angle = ArcTan2(m_cosPhi1 * tan(phi2) - m_sinPhi1 * cos(change), sin(change));
     // Its tangent divides; an initial angle of 0 stays the course due north.
-    m_cotangent = Quotient(1, std::tan(m_angle == 0 ? 1e-7 : m_angle));
+    m_cotangent = Quotient(1, tan(m_angle == Radians(0) ? Radians(1e-7) : m_angle));
 }
 
 DegMin GreatCircle::latitudeAt(DegMin meridian) const
 {
     const Radians run = unsignedShorterWay(DegToRad(DegMinToDeg(meridian)), m_lambda1);
-    const Radians phi =
-        ArcTan2(double(m_cosPhi1), m_cotangent * std::sin(run) + m_sinPhi1 * std::cos(run));
+    const Radians phi = ArcTan2(double(m_cosPhi1), m_cotangent * sin(run) + m_sinPhi1 * cos(run));
     return DegToDegMin(RadToDeg(phi));
 }
 

@@ -3,24 +3,31 @@
 
 #include "navlib/units.h"
 
-#include <string>
+#include <string_view>
 
 /// Sailing formulas: rhumb line by meridional parts, dead reckoning and great circle.
 ///
 /// Latitudes and longitudes are packed values, north and east positive, unless a parameter says
-/// otherwise; miles are nautical miles. A spheroid argument of 1 applies the lengths of the minute
-/// of latitude and longitude on the spheroid (in miles of 1852 m); any other value is the sphere.
+/// otherwise. Earth::Spheroid applies the lengths of the minute of latitude and longitude on the
+/// spheroid (in miles of 1852 m); on Earth::Sphere both are a mile.
 /// Source of the methods: Bowditch, American Practical Navigator, chapter "The Sailings".
 namespace NavFunc113
 {
+
+enum class Earth { Sphere, Spheroid };
 
 /// Change of longitude from one meridian to another by the shorter way, east positive.
 /// @return -180 .. 180; meridians exactly 180 degrees apart keep the sign of long2 - long1
 Degrees ChangeOfLongitude(DegMin long1, DegMin long2);
 
-/// "East" or "West": the shorter way from one meridian to another. Equal meridians and meridians
-/// exactly 180 degrees apart are "West".
-std::string EastWest(DegMin long1, DegMin long2);
+enum class EastOrWest { East, West };
+
+/// The shorter way from one meridian to another. Equal meridians and meridians exactly 180 degrees
+/// apart are West.
+EastOrWest EastWest(DegMin long1, DegMin long2);
+
+/// "East" or "West".
+std::string_view NameOf(EastOrWest way);
 
 /// Meridional parts of a latitude, in minutes of longitude, the second term taking the
 /// ellipticity into account.
@@ -46,17 +53,17 @@ Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
 /// parallel.
 /// @throws ArithmeticError as MeridionalParts; DivisionByZero for a course of exactly 90 or 270
 ///         between different latitudes
-Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid);
+Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth);
 
 /// A rhumb-line leg.
 struct RhumbLeg {
-    Degrees course = 0; ///< true, 0 <= course < 360
-    Miles distance = 0;
+    Degrees course; ///< true, 0 <= course < 360
+    Miles distance;
 };
 
 /// RhumbCourse and RhumbDistance of one leg in one go, for whoever wants both.
 /// @throws ArithmeticError as RhumbDistance
-RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, int spheroid);
+RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth);
 
 /// Latitude reached by dead reckoning: change of latitude = distance x cos course.
 ///
@@ -64,7 +71,7 @@ RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin l
 /// @param course   true, 0 .. 360
 /// @param distance 0 or less: not under way, lat comes back untouched
 /// @return latitude reached; beyond 90 when the run crosses a pole (the caller decides)
-DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid);
+DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, Earth earth);
 
 /// Longitude reached by dead reckoning. On courses of exactly 90 and 270 by the length of the
 /// parallel, otherwise by meridional parts up to the latitude that DRLatitude reaches.
@@ -74,11 +81,11 @@ DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, int spheroid);
 /// @return -180 .. 180, however many times the run goes round the earth
 /// @throws ArithmeticError as MeridionalParts when the run crosses a pole; DivisionByZero for
 ///         courses 90 and 270 on a pole, whose parallel has no length
-DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid);
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth);
 
 /// The same for whoever has the latitude reached already.
-/// @param latReached what DRLatitude gives for lat1, course, distance and spheroid
-DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, int spheroid,
+/// @param latReached what DRLatitude gives for lat1, course, distance and earth
+DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth,
                    DegMin latReached);
 
 /// Great-circle distance on the sphere, one mile a minute of arc.

@@ -12,37 +12,33 @@ namespace NavFunc113
 namespace
 {
 
-double sinOf(Degrees angle)
-{
-    return std::sin(DegToRad(angle));
-}
-
-double cosOf(Degrees angle)
-{
-    return std::cos(DegToRad(angle));
-}
-
 double square(double value)
 {
     return value * value;
 }
 
+/// Change of longitude of a run along a parallel.
+Degrees changeOfLongitude(Miles east, Degrees latitude)
+{
+    return Degrees(Quotient(east.value(), 60 * cos(latitude)));
+}
+
 /// Northern and eastern miles to a position's change of place.
 Position moved(const Position& from, Miles north, Miles east)
 {
-    const Degrees latitude = from.latitude + north / 60;
+    const Degrees latitude = from.latitude + ArcOfMiles(north);
     const Degrees middle = (from.latitude + latitude) / 2;
-    const Degrees longitude = from.longitude + Quotient(east, 60 * cosOf(middle));
-    return {latitude, std::remainder(longitude, 360)};
+    return {latitude, WithinHalfTurn(from.longitude + changeOfLongitude(east, middle))};
 }
 
 /// Variance of one line: that of the sight, and the part of the run's error across the line.
 double variance(const ErrorModel& errors, const Motion& motion, Hours sinceFix, Degrees azimuth)
 {
-    const Miles run = motion.speed * std::fabs(sinceFix);
+    const Miles run = motion.speed * fabs(sinceFix);
     const Degrees toCourse = azimuth - motion.course;
-    return square(errors.sigma) + square(errors.runAlong * run * cosOf(toCourse)) +
-           square(run * sinOf(errors.runCourse) * sinOf(toCourse));
+    const Miles along = errors.runAlong * run * cos(toCourse);
+    const Miles across = run * sin(errors.runCourse) * sin(toCourse);
+    return square(errors.sigma.value()) + square(along.value()) + square(across.value());
 }
 
 /// One pass of the least squares from a position.
@@ -61,13 +57,13 @@ Pass passFrom(std::span<const Sight> sights, const Position& atFix, const Motion
     for (const Sight& sight : sights) {
         const LineOfPosition line = LineAt(sight, atFix, motion);
         const double w = Quotient(1, variance(errors, motion, sight.sinceFix, line.azimuth));
-        const double cosZ = cosOf(line.azimuth);
-        const double sinZ = sinOf(line.azimuth);
+        const double cosZ = cos(line.azimuth);
+        const double sinZ = sin(line.azimuth);
         pass.matrix.A += w * cosZ * cosZ;
         pass.matrix.B += w * cosZ * sinZ;
         pass.matrix.C += w * sinZ * sinZ;
-        pass.D += w * line.intercept * cosZ;
-        pass.E += w * line.intercept * sinZ;
+        pass.D += w * line.intercept.value() * cosZ;
+        pass.E += w * line.intercept.value() * sinZ;
         pass.lines.push_back(line);
         pass.weights.push_back(w);
     }
@@ -85,26 +81,26 @@ bool isParallel(const NormalMatrix& matrix)
 Position Advanced(const Position& from, const Motion& motion, Hours hours)
 {
     const Miles run = motion.speed * hours;
-    return moved(from, run * cosOf(motion.course), run * sinOf(motion.course));
+    return moved(from, run * cos(motion.course), run * sin(motion.course));
 }
 
 HorizonPlace PlaceAboveHorizon(Degrees GHA, Degrees declination, const Position& position)
 {
     const Degrees t = GHA + position.longitude;
-    const double north = cosOf(position.latitude) * sinOf(declination) -
-                         sinOf(position.latitude) * cosOf(declination) * cosOf(t);
-    const double east = -cosOf(declination) * sinOf(t);
-    const double up = sinOf(position.latitude) * sinOf(declination) +
-                      cosOf(position.latitude) * cosOf(declination) * cosOf(t);
-    Degrees azimuth = RadToDeg(std::atan2(east, north));
-    if (azimuth < 0) azimuth += 360;
-    if (azimuth >= 360) azimuth = 0;
-    return {RadToDeg(std::atan2(up, std::hypot(north, east))), azimuth};
+    const double north = cos(position.latitude) * sin(declination) -
+                         sin(position.latitude) * cos(declination) * cos(t);
+    const double east = -cos(declination) * sin(t);
+    const double up = sin(position.latitude) * sin(declination) +
+                      cos(position.latitude) * cos(declination) * cos(t);
+    Degrees azimuth = RadToDeg(Radians(std::atan2(east, north)));
+    if (azimuth < Degrees(0)) azimuth += fullTurn;
+    if (azimuth >= fullTurn) azimuth = Degrees(0);
+    return {RadToDeg(Radians(std::atan2(up, std::hypot(north, east)))), azimuth};
 }
 
 Miles Intercept(Degrees observedAltitude, Degrees computedAltitude)
 {
-    return 60 * (observedAltitude - computedAltitude);
+    return MilesOfArc(observedAltitude - computedAltitude);
 }
 
 LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& motion)
@@ -129,21 +125,21 @@ Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const 
             fix.outcome = FixOutcome::Parallel;
             return fix;
         }
-        const Miles north = Quotient(m.C * pass.D - m.B * pass.E, m.determinant());
-        const Miles east = Quotient(m.A * pass.E - m.B * pass.D, m.determinant());
-        const Position next{fix.position.latitude + north / 60,
+        const Miles north(Quotient(m.C * pass.D - m.B * pass.E, m.determinant()));
+        const Miles east(Quotient(m.A * pass.E - m.B * pass.D, m.determinant()));
+        const Position next{fix.position.latitude + ArcOfMiles(north),
                             fix.position.longitude +
-                                Quotient(east, 60 * cosOf(fix.position.latitude))};
-        if (std::fabs(next.latitude) >= 90) break;
-        fix.position = {next.latitude, std::remainder(next.longitude, 360)};
-        if (std::hypot(north, east) >= 0.01) continue;
+                                changeOfLongitude(east, fix.position.latitude)};
+        if (fabs(next.latitude) >= quarterTurn) break;
+        fix.position = {next.latitude, WithinHalfTurn(next.longitude)};
+        if (std::hypot(north.value(), east.value()) >= 0.01) continue;
         fix.outcome = FixOutcome::Found;
         fix.matrix = m;
         for (std::size_t i = 0; i < sights.size(); ++i) {
             const auto& line = pass.lines[i];
             fix.residuals.push_back(line.intercept -
-                                    (north * cosOf(line.azimuth) + east * sinOf(line.azimuth)));
-            fix.weightedSquares += pass.weights[i] * square(fix.residuals.back());
+                                    (north * cos(line.azimuth) + east * sin(line.azimuth)));
+            fix.weightedSquares += pass.weights[i] * square(fix.residuals.back().value());
         }
         return fix;
     }
@@ -159,13 +155,14 @@ ErrorEllipse EllipseOf(const NormalMatrix& matrix, double factor, double scale)
     const double q = std::hypot((matrix.A - matrix.C) / 2, matrix.B);
     const double determinant = matrix.determinant();
     ErrorEllipse ellipse;
-    ellipse.semiMinor = Quotient(factor * scale, std::sqrt(m + q));
+    ellipse.semiMinor = Miles(Quotient(factor * scale, std::sqrt(m + q)));
     // (m - q)(m + q) is the determinant: no cancellation in m - q for a long ellipse.
-    ellipse.semiMajor = factor * scale * SquareRoot(Quotient(m + q, determinant));
-    const Degrees minorAxis = RadToDeg(std::atan2(2 * matrix.B, matrix.A - matrix.C)) / 2;
-    ellipse.majorAxis = minorAxis + 90 >= 180 ? minorAxis - 90 : minorAxis + 90;
-    ellipse.sigmaNorth = scale * SquareRoot(Quotient(matrix.C, determinant));
-    ellipse.sigmaEast = scale * SquareRoot(Quotient(matrix.A, determinant));
+    ellipse.semiMajor = Miles(factor * scale * SquareRoot(Quotient(m + q, determinant)));
+    const Degrees minorAxis = RadToDeg(Radians(std::atan2(2 * matrix.B, matrix.A - matrix.C))) / 2;
+    ellipse.majorAxis =
+        minorAxis + quarterTurn >= halfTurn ? minorAxis - quarterTurn : minorAxis + quarterTurn;
+    ellipse.sigmaNorth = Miles(scale * SquareRoot(Quotient(matrix.C, determinant)));
+    ellipse.sigmaEast = Miles(scale * SquareRoot(Quotient(matrix.A, determinant)));
     return ellipse;
 }
 
@@ -191,16 +188,17 @@ double MeasuredScale(const Fix& fix)
 
 Degrees CutAngle(std::span<const Degrees> azimuths)
 {
-    Degrees best = 0;
+    Degrees best;
     for (std::size_t i = 0; i < azimuths.size(); ++i)
         for (std::size_t j = 0; j < i; ++j)
-            best = std::max(best, std::fabs(std::remainder(azimuths[i] - azimuths[j], 180)));
+            best = std::max(
+                best, Degrees(std::fabs(std::remainder((azimuths[i] - azimuths[j]).value(), 180))));
     return best;
 }
 
 Degrees MeridianLatitude(Degrees declination, Degrees observedAltitude, bool bearsSouth)
 {
-    const Degrees zenithDistance = 90 - observedAltitude;
+    const Degrees zenithDistance = quarterTurn - observedAltitude;
     return bearsSouth ? declination + zenithDistance : declination - zenithDistance;
 }
 
@@ -208,10 +206,10 @@ DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion
 {
     DateTime passage = near;
     for (int pass = 0; pass < 8; ++pass) {
-        const Position ship = Advanced(position, motion, (passage - near) * 24);
-        const Degrees toGo = std::remainder(-ship.longitude - DegMinToDeg(SunGHA(passage)), 360);
-        passage += toGo / 360;
-        if (std::fabs(toGo) < 0.001) break;
+        const Position ship = Advanced(position, motion, Hours((passage - near) * 24));
+        const Degrees toGo = WithinHalfTurn(-ship.longitude - DegMinToDeg(SunGHA(passage)));
+        passage += toGo / fullTurn;
+        if (fabs(toGo) < Degrees(0.001)) break;
     }
     return passage;
 }
@@ -219,33 +217,33 @@ DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion
 double GreatestAltitudeDelay(Degrees latitude, Degrees declination, double sunNorthward,
                              double shipNorthward)
 {
-    return 15.28 * (std::tan(DegToRad(latitude)) - std::tan(DegToRad(declination))) *
-           (sunNorthward - shipNorthward);
+    return 15.28 * (tan(latitude) - tan(declination)) * (sunNorthward - shipNorthward);
 }
 
 Miles LineBend(Miles fromFoot, Degrees altitude)
 {
-    return fromFoot * fromFoot * std::tan(DegToRad(altitude)) / (2 * 3438);
+    return fromFoot * fromFoot.value() * tan(altitude) / (2 * 3438);
 }
 
 std::vector<Position> CirclePoints(const Sight& sight, const Position& near, Miles halfLength,
                                    int points)
 {
     const Position body{sight.declination, -sight.GHA};
-    const Degrees zenithDistance = std::fabs(90 - sight.observedAltitude);
+    const Degrees zenithDistance = fabs(quarterTurn - sight.observedAltitude);
     const Degrees towards = PlaceAboveHorizon(-near.longitude, near.latitude, body).azimuth;
-    const double radius = 60 * RadToDeg(std::fabs(sinOf(zenithDistance)));
-    const Degrees half = radius * Pi() <= halfLength ? 180 : RadToDeg(halfLength / radius);
+    const Miles radius = MilesOfArc(RadToDeg(Radians(std::fabs(sin(zenithDistance)))));
+    const Degrees half =
+        radius * Pi() <= halfLength ? halfTurn : RadToDeg(Radians(halfLength / radius));
     std::vector<Position> result;
     for (int i = 0; i < points; ++i) {
         const Degrees bearing = towards + half * (2.0 * i / (points - 1) - 1);
-        const double sinLatitude = sinOf(body.latitude) * cosOf(zenithDistance) +
-                                   cosOf(body.latitude) * sinOf(zenithDistance) * cosOf(bearing);
-        const double x = cosOf(zenithDistance) - sinOf(body.latitude) * sinLatitude;
-        const double y = sinOf(bearing) * sinOf(zenithDistance) * cosOf(body.latitude);
-        const Degrees change = RadToDeg(std::atan2(y, x));
-        result.push_back({RadToDeg(std::asin(std::clamp(sinLatitude, -1.0, 1.0))),
-                          std::remainder(body.longitude + change, 360)});
+        const double sinLatitude = sin(body.latitude) * cos(zenithDistance) +
+                                   cos(body.latitude) * sin(zenithDistance) * cos(bearing);
+        const double x = cos(zenithDistance) - sin(body.latitude) * sinLatitude;
+        const double y = sin(bearing) * sin(zenithDistance) * cos(body.latitude);
+        const Degrees change = RadToDeg(Radians(std::atan2(y, x)));
+        result.push_back({RadToDeg(Radians(std::asin(std::clamp(sinLatitude, -1.0, 1.0)))),
+                          WithinHalfTurn(body.longitude + change)});
     }
     return result;
 }

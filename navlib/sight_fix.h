@@ -15,14 +15,14 @@ namespace NavFunc113
 {
 
 struct Position {
-    Degrees latitude = 0;
-    Degrees longitude = 0;
+    Degrees latitude;
+    Degrees longitude;
 };
 
 /// Course and speed made good.
 struct Motion {
-    Degrees course = 0;
-    Knots speed = 0;
+    Degrees course;
+    Knots speed;
 };
 
 /// Position after a run, by middle latitude; hours may be negative. Longitude comes out within
@@ -33,8 +33,8 @@ Position Advanced(const Position& from, const Motion& motion, Hours hours);
 /// Altitude and true azimuth (0 <= azimuth < 360) of a body. Unlike ComputedAzimuth this holds on
 /// the meridian, the prime vertical and in the zenith, where the azimuth comes out as 0.
 struct HorizonPlace {
-    Degrees altitude = 0;
-    Degrees azimuth = 0;
+    Degrees altitude;
+    Degrees azimuth;
 };
 HorizonPlace PlaceAboveHorizon(Degrees GHA, Degrees declination, const Position& position);
 
@@ -43,24 +43,24 @@ Miles Intercept(Degrees observedAltitude, Degrees computedAltitude);
 
 /// A sight as it enters a fix.
 struct Sight {
-    Degrees GHA = 0;
-    Degrees declination = 0;
-    Degrees observedAltitude = 0; ///< corrected
-    Hours sinceFix = 0;           ///< time of the sight less that of the fix; before it negative
+    Degrees GHA;
+    Degrees declination;
+    Degrees observedAltitude; ///< corrected
+    Hours sinceFix;           ///< time of the sight less that of the fix; before it negative
 };
 
 /// How good the sights and the run between them are held to be.
 struct ErrorModel {
-    Miles sigma = 1;       ///< of one line; more than 0
-    double runAlong = 0;   ///< of the distance run, as a part of it (0.05: five per cent)
-    Degrees runCourse = 0; ///< of the course made good
+    Miles sigma = Miles(1); ///< of one line; more than 0
+    double runAlong = 0;    ///< of the distance run, as a part of it (0.05: five per cent)
+    Degrees runCourse;      ///< of the course made good
 };
 
 /// Line of position, referred to a dead-reckoned position that was run to the time of the sight.
 struct LineOfPosition {
-    Miles intercept = 0;
-    Degrees azimuth = 0;
-    Degrees computedAltitude = 0;
+    Miles intercept;
+    Degrees azimuth;
+    Degrees computedAltitude;
 };
 LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& motion);
 
@@ -99,11 +99,11 @@ Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const 
 
 /// Error ellipse in miles.
 struct ErrorEllipse {
-    Miles semiMajor = 0;
-    Miles semiMinor = 0;
-    Degrees majorAxis = 0; ///< bearing, 0 <= bearing < 180
-    Miles sigmaNorth = 0;  ///< not scaled by the factor
-    Miles sigmaEast = 0;   ///< not scaled by the factor; a distance, not a longitude
+    Miles semiMajor;
+    Miles semiMinor;
+    Degrees majorAxis; ///< bearing, 0 <= bearing < 180
+    Miles sigmaNorth;  ///< not scaled by the factor
+    Miles sigmaEast;   ///< not scaled by the factor; a distance, not a longitude
 };
 
 /// @param matrix  not singular

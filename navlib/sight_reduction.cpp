@@ -22,12 +22,12 @@ Radians localHourAngle(DegMin GHA, DegMin longitude)
 }
 
 /// Above this altitude the corrections for temperature and pressure no longer show.
-constexpr DegMin lowAltitude = 30;
+constexpr DegMin lowAltitude(30);
 
 double refractionOf(DegMin altitude)
 {
     return *InterpolateLagrange(
-        altitude,
+        altitude.packed(),
         {{10, 5.3}, {22, 2.378}, {34, 1.43}, {46, 0.933}, {58, 0.6}, {70, 0.352}, {85, 0.085}});
 }
 
@@ -36,15 +36,16 @@ double temperatureTerm(DegMin altitude, double temperature)
     if (altitude > lowAltitude) return 0;
     if (temperature < -5)
         return *InterpolateLagrange(
-            altitude,
+            altitude.packed(),
             {{0, -3.6}, {5, -0.3}, {10, -0.3}, {15, -0.2}, {20, -0.2}, {25, -0.1}, {30, -0.1}});
     if (temperature < 17) return 0;
     if (temperature < 27)
         return *InterpolateLagrange(
-            altitude,
+            altitude.packed(),
             {{0, 2.5}, {5, 0.5}, {10, 0.25}, {15, 0.15}, {20, 0.13}, {25, 0.1}, {30, 0.1}});
     return *InterpolateLagrange(
-        altitude, {{0, 4.9}, {5, 0.9}, {10, 0.5}, {15, 0.3}, {20, 0.2}, {25, 0.2}, {30, 0.1}});
+        altitude.packed(),
+        {{0, 4.9}, {5, 0.9}, {10, 0.5}, {15, 0.3}, {20, 0.2}, {25, 0.2}, {30, 0.1}});
 }
 
 double pressureTerm(DegMin altitude, float pressure)
@@ -52,10 +53,12 @@ double pressureTerm(DegMin altitude, float pressure)
     if (altitude > lowAltitude) return 0;
     if (pressure < 975)
         return *InterpolateLagrange(
-            altitude, {{0, 2}, {5, 0.5}, {10, 0.3}, {15, 0.2}, {20, 0.15}, {25, 0.1}, {30, 0.1}});
+            altitude.packed(),
+            {{0, 2}, {5, 0.5}, {10, 0.3}, {15, 0.2}, {20, 0.15}, {25, 0.1}, {30, 0.1}});
     if (pressure < 985) return 0.1;
     if (pressure < 1025) return 0;
-    if (pressure < 1045) return *InterpolateLagrange(altitude, {{0, -0.6}, {15, 0.1}, {30, 0}});
+    if (pressure < 1045)
+        return *InterpolateLagrange(altitude.packed(), {{0, -0.6}, {15, 0.1}, {30, 0}});
     // Nothing above 1045 hPa: a rule of the program, not of the air.
     return 0;
 }
@@ -76,8 +79,7 @@ DegMin ComputedAltitude(DegMin GHA, DegMin declination, DegMin latitude, DegMin 
     const Radians phi = radiansOf(latitude);
     const Radians delta = radiansOf(declination);
     const Radians t = localHourAngle(GHA, longitude);
-    const double s =
-        std::cos(delta) * std::cos(phi) * std::cos(t) + std::sin(delta) * std::sin(phi);
+    const double s = cos(delta) * cos(phi) * cos(t) + sin(delta) * sin(phi);
     return DegToDegMin(RadToDeg(ArcSin(s)));
 }
 
@@ -87,11 +89,9 @@ Degrees ComputedAzimuth(DegMin GHA, DegMin declination, DegMin latitude, DegMin 
     const Radians delta = radiansOf(declination);
     const Radians t = localHourAngle(GHA, longitude);
     const Radians h = radiansOf(ComputedAltitude(GHA, declination, latitude, longitude));
-    const double x =
-        Quotient(std::cos(phi) * std::sin(delta) - std::sin(phi) * std::cos(delta) * std::cos(t),
-                 std::cos(h));
+    const double x = Quotient(cos(phi) * sin(delta) - sin(phi) * cos(delta) * cos(t), cos(h));
     const Degrees Z = RadToDeg(ArcCos(x));
-    return std::sin(t) > 0 ? 360 - Z : Z;
+    return sin(t) > 0 ? fullTurn - Z : Z;
 }
 
 AltitudeCorrectionTerms SunAltitudeTerms(DegMin observedAltitude, float month, Metres heightOfEye,
@@ -99,10 +99,10 @@ AltitudeCorrectionTerms SunAltitudeTerms(DegMin observedAltitude, float month, M
                                          float pressure)
 {
     AltitudeCorrectionTerms terms;
-    terms.dip = -1.776 * SquareRoot(heightOfEye);
+    terms.dip = -1.776 * SquareRoot(heightOfEye.value());
     terms.refraction = refractionOf(observedAltitude);
     terms.semiDiameter = 15.75;
-    terms.parallax = 0.15 * std::cos(radiansOf(observedAltitude));
+    terms.parallax = 0.15 * cos(radiansOf(observedAltitude));
     terms.temperature = temperatureTerm(observedAltitude, airTemperature);
     terms.pressure = pressureTerm(observedAltitude, pressure);
     terms.semiDiameterOfMonth = semiDiameterOfMonth(month);
@@ -116,9 +116,9 @@ DegMin SunAltitudeCorrection(DegMin observedAltitude, float month, Metres height
     const AltitudeCorrectionTerms terms = SunAltitudeTerms(
         observedAltitude, month, heightOfEye, airTemperature, seaTemperature, pressure);
     const double main = terms.dip - terms.refraction + terms.semiDiameter + terms.parallax;
-    return DegToDegMin(DegMinToDeg(observedAltitude) + (terms.temperature + main + terms.pressure +
-                                                        terms.semiDiameterOfMonth + terms.airSea) /
-                                                           60);
+    const double minutes =
+        terms.temperature + main + terms.pressure + terms.semiDiameterOfMonth + terms.airSea;
+    return DegToDegMin(DegMinToDeg(observedAltitude) + Degrees(minutes / 60));
 }
 
 } // namespace NavFunc113

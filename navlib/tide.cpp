@@ -14,10 +14,15 @@ namespace
 // decide which of them counts as the higher: the earlier one does.
 constexpr double roundingError = 1e-9;
 
+Hours timeOfSample(std::size_t i)
+{
+    return Hours(static_cast<double>(i) / 2);
+}
+
 Degrees raisedAbove(Degrees threshold, int turns, Degrees change)
 {
     for (int turn = 0; turn <= turns; ++turn) {
-        if (change + 360 * turn > threshold) return change + 360 * turn;
+        if (change + fullTurn * turn > threshold) return change + fullTurn * turn;
     }
     return change;
 }
@@ -26,12 +31,12 @@ Degrees raisedAbove(Degrees threshold, int turns, Degrees change)
 
 Degrees SemidiurnalChange(Degrees thisDay, Degrees nextDay)
 {
-    return raisedAbove(600, 3, thisDay - nextDay);
+    return raisedAbove(Degrees(600), 3, thisDay - nextDay);
 }
 
 Degrees DiurnalChange(Degrees thisDay, Degrees nextDay)
 {
-    return raisedAbove(300, 2, thisDay - nextDay);
+    return raisedAbove(Degrees(300), 2, thisDay - nextDay);
 }
 
 TideDay::TideDay(const TideConstituents& station, const DailyFactors& thisDay,
@@ -47,8 +52,7 @@ TideDay::TideDay(const TideConstituents& station, const DailyFactors& thisDay,
                       .factorIncrease = (nextDay[j].factor - thisDay[j].factor) / 24};
     }
     const auto turned = [](double coefficient, Degrees phase) {
-        return Turned{coefficient * std::cos(DegToRad(phase)),
-                      coefficient * std::sin(DegToRad(phase))};
+        return Turned{coefficient * cos(phase), coefficient * sin(phase)};
     };
     m_quarter = turned(shallowWater.quarterCoefficient, shallowWater.quarterPhase);
     m_sixth = turned(shallowWater.sixthCoefficient, shallowWater.sixthPhase);
@@ -56,7 +60,7 @@ TideDay::TideDay(const TideConstituents& station, const DailyFactors& thisDay,
 
 double TideDay::amplitudeAt(const Wave& wave, Hours t)
 {
-    return (wave.factor + t * wave.factorIncrease) * wave.amplitude;
+    return (wave.factor + t.value() * wave.factorIncrease) * wave.amplitude;
 }
 
 // C and S are cosine and sine part of the combined semidiurnal wave: R and theta with
@@ -79,9 +83,10 @@ double TideDay::at(Hours t) const
     std::array<double, 4> s;
     for (std::size_t j = 0; j < m_waves.size(); ++j) {
         const double amplitude = amplitudeAt(m_waves[j], t);
-        const Radians psi = (m_waves[j].phase - m_waves[j].speed * t) * Pi() / 180;
-        c[j] = amplitude * std::cos(psi);
-        s[j] = amplitude * std::sin(psi);
+        const Degrees phase = m_waves[j].phase - m_waves[j].speed * t.value();
+        const Radians psi(phase.value() * Pi() / 180);
+        c[j] = amplitude * cos(psi);
+        s[j] = amplitude * sin(psi);
     }
     return sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]);
 }
@@ -96,14 +101,14 @@ TideValues TideDay::halfHourly(double level) const
     for (std::size_t j = 0; j < m_waves.size(); ++j) {
         const Radians phase = DegToRad(m_waves[j].phase);
         const Radians step = DegToRad(-m_waves[j].speed / 2);
-        turning[j] = {std::cos(phase), std::sin(phase), std::cos(step), std::sin(step)};
+        turning[j] = {cos(phase), sin(phase), cos(step), sin(step)};
     }
     TideValues values;
     for (std::size_t i = 0; i < values.size(); ++i) {
         std::array<double, 4> c;
         std::array<double, 4> s;
         for (std::size_t j = 0; j < m_waves.size(); ++j) {
-            const double amplitude = amplitudeAt(m_waves[j], static_cast<double>(i) / 2);
+            const double amplitude = amplitudeAt(m_waves[j], timeOfSample(i));
             auto& [cosine, sine, stepCosine, stepSine] = turning[j];
             c[j] = amplitude * cosine;
             s[j] = amplitude * sine;
@@ -126,7 +131,7 @@ TideExtremes SearchHighestLowest(const TideValues& values, const TideExtremes& e
 {
     TideExtremes found{0, earlier.timeHigh, 5, earlier.timeLow};
     for (std::size_t i = 1; i < values.size(); ++i) {
-        const Hours t = static_cast<double>(i) / 2;
+        const Hours t = timeOfSample(i);
         if (values[i] > found.highest + roundingError) {
             found.highest = values[i];
             found.timeHigh = t;

@@ -18,21 +18,21 @@ namespace NavFunc113
 
 /// A station's constant of one constituent.
 struct TideConstituent {
-    Degrees phase = 0;    ///< phase lag, referred to the station's zone time
+    Degrees phase;        ///< phase lag, referred to the station's zone time
     double amplitude = 0; ///< metres or knots
 };
 
 /// One constituent's line entry of a day, for 00:00.
 struct DailyFactor {
-    Degrees angle = 0; ///< runs backwards in time
+    Degrees angle;     ///< runs backwards in time
     double factor = 0; ///< multiplies the amplitude
 };
 
 /// Shallow-water terms of a station: powers of its combined semidiurnal wave.
 struct ShallowWaterTerms {
-    Degrees quarterPhase = 0;
+    Degrees quarterPhase;
     double quarterCoefficient = 0; ///< multiplies the square; per metre or per knot
-    Degrees sixthPhase = 0;
+    Degrees sixthPhase;
     double sixthCoefficient = 0; ///< multiplies the cube; per square metre or square knot
 };
 
@@ -100,9 +100,9 @@ double TideHarmonicSum(Hours t, const TideConstituents& station, const DailyFact
 /// The day's highest and lowest value with their times.
 struct TideExtremes {
     double highest = 0;
-    Hours timeHigh = 0; ///< decimal hours
+    Hours timeHigh; ///< decimal hours
     double lowest = 0;
-    Hours timeLow = 0; ///< decimal hours
+    Hours timeLow; ///< decimal hours
 };
 
 /// Finds the highest and lowest sample of 00:30 to 24:00; 00:00 takes no part (it is the 24:00 of

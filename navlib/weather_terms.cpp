@@ -11,14 +11,14 @@ namespace
 {
 
 // Greatest height of the states 1 to 8, metres.
-constexpr std::array<Metres, 8> greatestHeight{0.1, 0.5, 1.25, 2.5, 4, 6, 9, 14};
+constexpr std::array<double, 8> greatestHeight{0.1, 0.5, 1.25, 2.5, 4, 6, 9, 14};
 
 constexpr std::array<std::string_view, 10> seaStateNames{
     "Calm",  "Rippled",    "Smooth", "Slight",    "Moderate",
     "Rough", "Very Rough", "High",   "Very High", "Phenomenal"};
 
 // Least visibility of the codes 1 to 9, kilometres.
-constexpr std::array<Kilometres, 9> leastVisibility{0.05, 0.2, 0.5, 1, 2, 4, 10, 20, 50};
+constexpr std::array<double, 9> leastVisibility{0.05, 0.2, 0.5, 1, 2, 4, 10, 20, 50};
 
 constexpr std::array<std::string_view, 10> visibilityNames{"Dence fog",
                                                            "Thick fog",
@@ -58,8 +58,8 @@ constexpr std::array<WeatherLetter, 20> letters{{
 
 int SeaStateCode(Metres waveHeight)
 {
-    if (waveHeight == 0) return 0;
-    const auto bound = std::ranges::lower_bound(greatestHeight, waveHeight);
+    if (waveHeight == Metres(0)) return 0;
+    const auto bound = std::ranges::lower_bound(greatestHeight, waveHeight.value());
     return 1 + static_cast<int>(bound - greatestHeight.begin());
 }
 
@@ -70,7 +70,7 @@ std::string_view SeaStateName(Metres waveHeight)
 
 int VisibilityCode(Kilometres visibility)
 {
-    const auto bound = std::ranges::upper_bound(leastVisibility, visibility);
+    const auto bound = std::ranges::upper_bound(leastVisibility, visibility.value());
     return static_cast<int>(bound - leastVisibility.begin());
 }
 
@@ -81,9 +81,9 @@ std::string_view VisibilityName(Kilometres visibility)
 
 std::string_view SwellTerm(Metres swellHeight)
 {
-    if (swellHeight <= 0) return "No swell";
-    if (swellHeight < 2) return "Slight swell";
-    if (swellHeight < 4) return "Mod./Rough swell";
+    if (swellHeight <= Metres(0)) return "No swell";
+    if (swellHeight < Metres(2)) return "Slight swell";
+    if (swellHeight < Metres(4)) return "Mod./Rough swell";
     return "Heavy swell";
 }
 

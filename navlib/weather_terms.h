@@ -11,8 +11,6 @@
 namespace NavFunc113
 {
 
-using Kilometres = double; ///< kilometres
-
 /// Sea state by wave height. Each upper bound belongs to its own state (2.5 m is 4); a negative
 /// height counts as state 1.
 /// @return 0 (exactly 0 m) to 9 (above 14 m)

@@ -19,31 +19,31 @@ constexpr std::array<const char*, 17> compassNames{"North", "NNE", "NE",    "ENE
                                                    "West",  "WNW", "NW",    "NNW", "North"};
 
 /// Beaufort n begins at the n-th of these, in knots.
-constexpr std::array<Knots, 10> beaufortLowerBounds{0, 1, 4, 7, 11, 17, 22, 28, 34, 41};
+constexpr std::array<double, 10> beaufortLowerBounds{0, 1, 4, 7, 11, 17, 22, 28, 34, 41};
 
 } // namespace
 
 Degrees TrueWindDirection(Degrees course, Knots shipSpeed, Degrees relativeDirection,
                           Knots apparentSpeed)
 {
-    const Degrees nudgedCourse = course + 1e-10;
+    const Degrees nudgedCourse = course + Degrees(1e-10);
     const Radians theta = DegToRad(relativeDirection);
-    const double ahead = std::cos(theta) * apparentSpeed - shipSpeed;
-    const double abeam = std::sin(theta) * apparentSpeed;
-    const Degrees direction = nudgedCourse + RadToDeg(ArcTan2(double(ahead), abeam));
-    if (direction > 360) return direction - 360;
-    if (direction < 0) return direction + 360;
+    const Knots ahead = cos(theta) * apparentSpeed - shipSpeed;
+    const Knots abeam = sin(theta) * apparentSpeed;
+    const Degrees direction = nudgedCourse + RadToDeg(ArcTan2(ahead.value(), abeam.value()));
+    if (direction > fullTurn) return direction - fullTurn;
+    if (direction < Degrees(0)) return direction + fullTurn;
     return direction;
 }
 
 Knots TrueWindSpeed(Knots shipSpeed, Degrees relativeDirection, Knots apparentSpeed)
 {
-    const Knots nudgedSpeed = shipSpeed + 1e-5; // a stopped ship still has a direction
-    const Radians theta = DegToRad(relativeDirection);
-    const Knots speed = SquareRoot(std::pow(apparentSpeed, 2.0) + std::pow(nudgedSpeed, 2.0) -
-                                   2 * apparentSpeed * nudgedSpeed * std::cos(theta));
+    const double apparent = apparentSpeed.value();
+    const double ship = shipSpeed.value() + 1e-5; // a stopped ship still has a direction
+    const double speed = SquareRoot(std::pow(apparent, 2.0) + std::pow(ship, 2.0) -
+                                    2 * apparent * ship * cos(relativeDirection));
     if (!std::isfinite(speed)) throw ArithmeticError(Condition::Overflow);
-    return speed;
+    return Knots(speed);
 }
 
 std::string TrueWindName(Degrees course, Knots shipSpeed, Degrees relativeDirection,
@@ -55,19 +55,19 @@ std::string TrueWindName(Degrees course, Knots shipSpeed, Degrees relativeDirect
 
 std::string CompassName(Degrees& direction)
 {
-    if (std::isnan(direction)) throw ArithmeticError(Condition::InvalidArgument);
-    const double whole = std::nearbyint(direction);
+    if (std::isnan(direction.value())) throw ArithmeticError(Condition::InvalidArgument);
+    const double whole = std::nearbyint(direction.value());
     if (std::fabs(whole) > 2147483647) throw ArithmeticError(Condition::Overflow);
-    direction = std::fmod(whole, 360);
-    const int sector = static_cast<int>(std::floor((direction + 33.75) / 22.5));
+    direction = Degrees(std::fmod(whole, 360));
+    const int sector = static_cast<int>(std::floor((direction.value() + 33.75) / 22.5));
     return PickItem<const char*>(sector, compassNames);
 }
 
 int BeaufortNumber(Knots speed)
 {
-    if (std::isnan(speed)) throw ArithmeticError(Condition::InvalidArgument);
+    if (std::isnan(speed.value())) throw ArithmeticError(Condition::InvalidArgument);
     int number = 9;
-    while (number > 0 && speed < beaufortLowerBounds[static_cast<std::size_t>(number)])
+    while (number > 0 && speed.value() < beaufortLowerBounds[static_cast<std::size_t>(number)])
         --number;
     return number;
 }

@@ -31,10 +31,9 @@ std::string TrueWindName(Degrees course, Knots shipSpeed, Degrees relativeDirect
 
 /// Name of a direction among the 16 points of the compass ("North", "NNE", .. "NNW").
 ///
-/// @param direction degrees from -11 up. Replaced in the caller's variable by the whole degree
-/// (half
-///                  to even), reduced modulo 360 with its sign kept, so that what is shown beside
-///                  the name agrees with it.
+/// @param direction -11 and more. Replaced in the caller's variable by the whole degree (half to
+///                  even), reduced modulo 360 with its sign kept, so that what is shown beside the
+///                  name agrees with it.
 /// @throws ArithmeticError SubscriptOutOfRange for a rounded and reduced direction below -11,
 ///         Overflow for what is no 32-bit number of degrees, InvalidArgument for no number
 std::string CompassName(Degrees& direction);

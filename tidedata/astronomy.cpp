@@ -13,16 +13,6 @@ namespace tidedata
 namespace
 {
 
-double cosine(Degrees angle)
-{
-    return std::cos(NavFunc113::DegToRad(angle));
-}
-
-double sine(Degrees angle)
-{
-    return std::sin(NavFunc113::DegToRad(angle));
-}
-
 // f = f0 + f1 cos N + f2 cos 2N + f3 cos 3N, u = u1 sin N + u2 sin 2N + u3 sin 3N.
 struct NodeCoefficients {
     double f0, f1, f2, f3;
@@ -31,18 +21,18 @@ struct NodeCoefficients {
 
 Node nodeFrom(const NodeCoefficients& c, Degrees N)
 {
-    return {c.f0 + c.f1 * cosine(N) + c.f2 * cosine(2 * N) + c.f3 * cosine(3 * N),
-            c.u1 * sine(N) + c.u2 * sine(2 * N) + c.u3 * sine(3 * N)};
+    return {c.f0 + c.f1 * cos(N) + c.f2 * cos(2 * N) + c.f3 * cos(3 * N),
+            Degrees(c.u1 * sin(N) + c.u2 * sin(2 * N) + c.u3 * sin(3 * N))};
 }
 
 // The elliptic wave L2 is modulated by the perigee far more than by the node.
 Node nodeOfL2(Degrees p, Degrees N)
 {
-    const double X = 1 - 0.2505 * cosine(2 * p) - 0.1102 * cosine(2 * p - N) -
-                     0.0156 * cosine(2 * p - 2 * N) - 0.0370 * cosine(N);
-    const double Y = -0.2505 * sine(2 * p) - 0.1102 * sine(2 * p - N) -
-                     0.0156 * sine(2 * p - 2 * N) - 0.0370 * sine(N);
-    return {std::sqrt(X * X + Y * Y), NavFunc113::RadToDeg(std::atan2(Y, X))};
+    const double X = 1 - 0.2505 * cos(2 * p) - 0.1102 * cos(2 * p - N) -
+                     0.0156 * cos(2 * p - 2 * N) - 0.0370 * cos(N);
+    const double Y = -0.2505 * sin(2 * p) - 0.1102 * sin(2 * p - N) - 0.0156 * sin(2 * p - 2 * N) -
+                     0.0370 * sin(N);
+    return {std::sqrt(X * X + Y * Y), NavFunc113::RadToDeg(NavFunc113::Radians(std::atan2(Y, X)))};
 }
 
 constexpr auto none = NodeSeries::None;
@@ -75,8 +65,8 @@ constexpr Constituent table[] = {
 
 Degrees reduced(Degrees angle)
 {
-    const Degrees rest = std::fmod(angle, 360);
-    return rest < 0 ? rest + 360 : rest;
+    const Degrees rest(std::fmod(angle.value(), 360));
+    return rest < Degrees(0) ? rest + NavFunc113::fullTurn : rest;
 }
 
 MeanLongitudes meanLongitudesAt(Days2000 day)
@@ -85,12 +75,14 @@ MeanLongitudes meanLongitudesAt(Days2000 day)
     const double T2 = T * T;
     const double T3 = T2 * T;
     const double T4 = T3 * T;
-    return {
-        reduced(218.3164477 + 481267.88123421 * T - 0.0015786 * T2 + T3 / 538841 - T4 / 65194000),
-        reduced(280.46646 + 36000.76983 * T + 0.0003032 * T2),
-        reduced(83.3532465 + 4069.0137287 * T - 0.0103200 * T2 - T3 / 80053 + T4 / 18999000),
-        reduced(125.0445479 - 1934.1362891 * T + 0.0020754 * T2 + T3 / 467441 - T4 / 60616000),
-        reduced(282.93735 + 1.71946 * T + 0.00046 * T2)};
+    return {reduced(Degrees(218.3164477 + 481267.88123421 * T - 0.0015786 * T2 + T3 / 538841 -
+                            T4 / 65194000)),
+            reduced(Degrees(280.46646 + 36000.76983 * T + 0.0003032 * T2)),
+            reduced(Degrees(83.3532465 + 4069.0137287 * T - 0.0103200 * T2 - T3 / 80053 +
+                            T4 / 18999000)),
+            reduced(Degrees(125.0445479 - 1934.1362891 * T + 0.0020754 * T2 + T3 / 467441 -
+                            T4 / 60616000)),
+            reduced(Degrees(282.93735 + 1.71946 * T + 0.00046 * T2))};
 }
 
 Node nodeOf(NodeSeries series, const MeanLongitudes& at)
@@ -137,7 +129,7 @@ Argument argumentOf(const Constituent& c, const MeanLongitudes& at)
 {
     const Node node = nodeOf(c.node, at);
     const Degrees V = c.moon * at.moon + c.sun * at.sun + c.perigee * at.lunarPerigee +
-                      c.solarPerigee * at.solarPerigee + c.constant;
+                      c.solarPerigee * at.solarPerigee + Degrees(c.constant);
     return {node.factor, V + node.phase};
 }
 

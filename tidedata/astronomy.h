@@ -36,8 +36,8 @@ enum class NodeSeries { None, M2, K2, K1, O1, J1, OO1, L2, MF, MM };
 
 /// Slow modulation of a constituent by the lunar node (and, for L2, the perigee).
 struct Node {
-    double factor = 1;   ///< f
-    Degrees phase = 0.0; ///< u
+    double factor = 1; ///< f
+    Degrees phase;     ///< u
 };
 
 /// Node factor and phase by the usual short series in the longitude of the node; compared with
@@ -54,8 +54,8 @@ struct Constituent {
     int sun;
     int perigee;
     int solarPerigee;
-    Degrees constant;
-    Degrees speed; ///< degrees an hour
+    double constant; ///< degrees
+    double speed;    ///< degrees an hour
     NodeSeries node;
 };
 
@@ -67,8 +67,8 @@ const Constituent& constituentOf(std::string_view name);
 
 /// A constituent's share at an instant: f and V + u at 00:00 of the day.
 struct Argument {
-    double factor = 1;   ///< f
-    Degrees angle = 0.0; ///< V + u, not reduced
+    double factor = 1; ///< f
+    Degrees angle;     ///< V + u, not reduced
 };
 Argument argumentOf(const Constituent& constituent, const MeanLongitudes& at);
 

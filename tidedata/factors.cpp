@@ -6,6 +6,7 @@
 #include "tidedata/text.h"
 
 #include <cmath>
+#include <cstdint>
 #include <stdexcept>
 #include <string_view>
 
@@ -14,14 +15,14 @@ namespace tidedata
 namespace
 {
 
-constexpr long firstSerial = 37530; // 2002-10-01
-constexpr long serial2000 = 36526;  // 2000-01-01
+constexpr std::int64_t firstSerial = 37530; // 2002-10-01
+constexpr std::int64_t serial2000 = 36526;  // 2000-01-01
 
 struct Member {
     std::string_view carrier;
     std::string_view name;
     double ratio; // amplitude to the carrier's
-    Degrees lag;  // phase lag minus the carrier's
+    double lag;   // degrees, phase lag minus the carrier's
 };
 
 // Weighted means of the constants of 65 single-record stations of sources.json, referred to zone
@@ -56,11 +57,12 @@ NavFunc113::DailyFactor groupOf(std::string_view carrier, const MeanLongitudes& 
     for (const Member& member : members) {
         if (member.carrier != carrier) continue;
         const Argument argument = argumentOf(constituentOf(member.name), at);
-        const double angle = NavFunc113::DegToRad(argument.angle - member.lag);
-        X += member.ratio * argument.factor * std::cos(angle);
-        Y += member.ratio * argument.factor * std::sin(angle);
+        const Degrees angle = argument.angle - Degrees(member.lag);
+        X += member.ratio * argument.factor * cos(angle);
+        Y += member.ratio * argument.factor * sin(angle);
     }
-    return {reduced(-NavFunc113::RadToDeg(std::atan2(Y, X))), std::sqrt(X * X + Y * Y)};
+    return {reduced(-NavFunc113::RadToDeg(NavFunc113::Radians(std::atan2(Y, X)))),
+            std::sqrt(X * X + Y * Y)};
 }
 
 } // namespace
@@ -71,7 +73,7 @@ NavFunc113::DailyFactors dailyFactorsAt(Days2000 day)
     return {groupOf("M2", at), groupOf("S2", at), groupOf("K1", at), groupOf("O1", at)};
 }
 
-std::string factorsLine(long serial)
+std::string factorsLine(std::int64_t serial)
 {
     const NavFunc113::CivilDate date = NavFunc113::DateOfSerial(serial);
     std::string line = std::to_string(date.year * 10000 + date.month * 100 + date.day);
@@ -85,8 +87,8 @@ std::string factorsFile(int lastYear)
     if (lastYear < firstFactorYear || lastYear > lastFactorYear)
         throw std::out_of_range("the last year must lie in 2005 to 2060");
     std::string text;
-    const long lastSerial = NavFunc113::DaySerial({lastYear + 1, 1, 1});
-    for (long serial = firstSerial; serial <= lastSerial; ++serial)
+    const std::int64_t lastSerial = NavFunc113::DaySerial({lastYear + 1, 1, 1});
+    for (std::int64_t serial = firstSerial; serial <= lastSerial; ++serial)
         text += factorsLine(serial);
     return text;
 }

@@ -4,6 +4,7 @@
 #include "navlib/tide.h"
 #include "tidedata/astronomy.h"
 
+#include <cstdint>
 #include <string>
 
 /// The daily astronomical factors: one line a day for all stations.
@@ -24,7 +25,7 @@ NavFunc113::DailyFactors dailyFactorsAt(Days2000 day);
 
 /// The line of a day: 44 characters and CR LF, "yyyymmdd,aaa,f.ff,aaa,f.ff,aaa,f.ff,aaa,f.ff".
 /// @param serial day number, 0 = 1899-12-30
-std::string factorsLine(long serial);
+std::string factorsLine(std::int64_t serial);
 
 /// The whole file: from 2002-10-01 to 1 January after the last year, because the last day's
 /// prediction needs the day after it too.

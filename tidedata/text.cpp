@@ -26,7 +26,7 @@ std::string shortest(double value)
 
 std::string wholeDegrees(Degrees angle, int digits)
 {
-    std::string text = fixed(reduced(std::nearbyint(angle)), 0);
+    std::string text = fixed(reduced(Degrees(std::nearbyint(angle.value()))).value(), 0);
     const auto width = static_cast<std::size_t>(digits);
     if (text.size() < width) text.insert(0, width - text.size(), '0');
     return text;

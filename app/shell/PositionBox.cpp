@@ -64,9 +64,11 @@ QString PositionBox::positionToCopy() const
     const PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
     if (!latitude || !longitude || !readLeadingNumber(latitude->value()) ||
         !readLeadingNumber(longitude->value()))
-        return QString::fromStdString(positionForCopy(readNumber(value()), m_axis));
+        return QString::fromStdString(
+            positionForCopy(NavFunc113::DegMin(readNumber(value())), m_axis));
     return QString::fromStdString(
-        positionForCopy(readNumber(latitude->value()), readNumber(longitude->value())));
+        positionForCopy(NavFunc113::DegMin(readNumber(latitude->value())),
+                        NavFunc113::DegMin(readNumber(longitude->value()))));
 }
 
 void PositionBox::pasteText(const QString& text)

@@ -51,7 +51,7 @@ public:
     ComputerClock& clock() { return m_machine.clock; }
 
     /// Spheroid option of the sailing routines, by the distance unit that is chosen.
-    int spheroid() const { return m_saved.spheroid(); }
+    NavFunc113::Earth earth() const { return m_saved.earth(); }
 
     /// The colours in force, by KV_Savedvalue(21).
     const ColourScheme& colours() const;

@@ -14,13 +14,13 @@ CDResult CalculateCD(const CDInput& input)
     if (!IsInRange(lat1Text, "-90", "90") || !IsInRange(long1Text, "-180", "180") ||
         !IsInRange(lat2Text, "-90", "90") || !IsInRange(long2Text, "-180", "180"))
         return {};
-    const double lat1 = readNumber(lat1Text);
-    const double long1 = readNumber(long1Text);
-    const double lat2 = readNumber(lat2Text);
-    const double long2 = readNumber(long2Text);
+    const NavFunc113::DegMin lat1(readNumber(lat1Text));
+    const NavFunc113::DegMin long1(readNumber(long1Text));
+    const NavFunc113::DegMin lat2(readNumber(lat2Text));
+    const NavFunc113::DegMin long2(readNumber(long2Text));
 
     const auto [course, miles] =
-        NavFunc113::RhumbCourseAndDistance(lat1, long1, lat2, long2, input.spheroid);
+        NavFunc113::RhumbCourseAndDistance(lat1, long1, lat2, long2, input.earth);
     CDResult result;
     result.course = courseText(course);
     // The apostrophe stands before the point here and after it in frmGC2000: both on purpose.

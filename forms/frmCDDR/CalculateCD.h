@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/units.h"
+#include "navlib/sailing.h"
 
 #include <array>
 #include <optional>
@@ -12,7 +12,7 @@ namespace korvel
 
 struct CDInput {
     std::array<std::string, 4> txtCDDR; ///< boxes as typed: lat1, long1, lat2, long2; DegMin
-    int spheroid = 0;
+    NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
 };
 
 struct CDResult {

@@ -24,22 +24,22 @@ DRResult CalculateDR(const DRInput& input)
     if (!IsInRange(latText, "-90", "90") || !IsInRange(longText, "-180", "180") ||
         !IsInRange(courseText, "0", "360") || !IsInRange(distanceText, "0", longestDistance))
         return {};
-    const double lat = readNumber(latText);
-    const double longitude = readNumber(longText);
-    const double course = readNumber(courseText);
-    const double distance = readNumber(distanceText);
+    const NavFunc113::DegMin lat(readNumber(latText));
+    const NavFunc113::DegMin longitude(readNumber(longText));
+    const NavFunc113::Degrees course(readNumber(courseText));
+    const NavFunc113::Miles distance(readNumber(distanceText));
 
     DRResult result;
-    const double reached = NavFunc113::DRLatitude(lat, course, distance, input.spheroid);
+    const NavFunc113::DegMin reached = NavFunc113::DRLatitude(lat, course, distance, input.earth);
     result.latitudeReached = reached;
     result.latitude = Format(reached, "00-.00'0N;00-.00'0S");
-    if (std::fabs(reached) > 90) {
+    if (std::fabs(reached.packed()) > 90) {
         result.notice = "The track crosses a pole: no longitude.";
         return result;
     }
     try {
-        const double east =
-            NavFunc113::DRLongitude(lat, longitude, course, distance, input.spheroid, reached);
+        const NavFunc113::DegMin east =
+            NavFunc113::DRLongitude(lat, longitude, course, distance, input.earth, reached);
         result.longitudeReached = east;
         result.longitude = Format(east, "000-.00'0E;000-.00'0W");
     } catch (const NavFunc113::ArithmeticError& error) {

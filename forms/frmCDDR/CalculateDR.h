@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/units.h"
+#include "navlib/sailing.h"
 
 #include <array>
 #include <optional>
@@ -12,7 +12,7 @@ namespace korvel
 
 struct DRInput {
     std::array<std::string, 4> txtCDDR; ///< boxes as typed: lat, long (DegMin), course, distance
-    int spheroid = 0;
+    NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
 };
 
 struct DRResult {

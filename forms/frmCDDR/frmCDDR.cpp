@@ -173,9 +173,7 @@ void frmCDDR::addMemoMenus()
     const auto boxText = [this](std::size_t field) {
         return [box = m_txtCDDR[field]] { return box->value(); };
     };
-    const auto figure = [](const std::optional<double>& value) {
-        return value ? memoText(*value) : std::string();
-    };
+    const auto figure = [](const auto& value) { return value ? memoText(*value) : std::string(); };
     menus().addStorePosition("CD &departure", boxText(0), boxText(1));
     menus().addStorePosition("CD &arrival", boxText(2), boxText(3));
     menus().addStoreSingle("CD &course", [this, figure] { return figure(m_cd.courseDegrees); });
@@ -195,7 +193,7 @@ void frmCDDR::addMemoMenus()
 void frmCDDR::runCD()
 {
     m_cd = {};
-    m_cd = CalculateCD({m_txtCDDR.texts<0, 4>(), program().spheroid()});
+    m_cd = CalculateCD({m_txtCDDR.texts<0, 4>(), program().earth()});
     m_lblCDDR[0]->setText(QString::fromStdString(m_cd.course));
     m_lblCDDR[1]->setText(QString::fromStdString(m_cd.distance));
 }
@@ -203,7 +201,7 @@ void frmCDDR::runCD()
 void frmCDDR::runDR()
 {
     m_dr = {};
-    m_dr = CalculateDR({m_txtCDDR.texts<4, 4>(), program().spheroid()});
+    m_dr = CalculateDR({m_txtCDDR.texts<4, 4>(), program().earth()});
     m_lblCDDR[2]->setText(QString::fromStdString(m_dr.latitude));
     m_lblCDDR[3]->setText(QString::fromStdString(m_dr.longitude));
     setNotice("DR longitude", QString::fromStdString(m_dr.notice));

@@ -5,6 +5,7 @@
 #include "app/reading.h"
 #include "navlib/great_circle.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace korvel
@@ -14,6 +15,11 @@ namespace
 
 using NavFunc113::ChangeOfLongitude;
 using NavFunc113::DegMin;
+using NavFunc113::Degrees;
+using NavFunc113::Earth;
+using NavFunc113::EastOrWest;
+using NavFunc113::EastWest;
+using NavFunc113::Miles;
 
 constexpr const char* latFormat = "0.00'0N;0.00'0S";
 constexpr const char* longFormat = "0.00'0E;0.00'0W";
@@ -35,52 +41,53 @@ bool allInRange(const std::array<std::string, 4>& boxes)
 /// The first whole ten degrees beyond a longitude in the direction of the route.
 DegMin firstMeridian(DegMin long1, bool eastward)
 {
-    const double tens = std::floor(long1 / 10) * 10;
-    if (eastward) return tens + 10;
-    return tens == long1 ? tens - 10 : tens;
+    const double tens = std::floor(long1.packed() / 10) * 10;
+    if (eastward) return DegMin(tens + 10);
+    return DegMin(tens == long1.packed() ? tens - 10 : tens);
 }
 
 /// Keeps a meridian within half a turn; the one opposite Greenwich is -180 on the way east and 180
 /// on the way west.
-DegMin wrapped(DegMin meridian, bool eastward)
+DegMin wrapped(double meridian, bool eastward)
 {
-    if (eastward) return meridian >= 180 ? meridian - 360 : meridian;
-    return meridian <= -180 ? meridian + 360 : meridian;
+    if (eastward) return DegMin(meridian >= 180 ? meridian - 360 : meridian);
+    return DegMin(meridian <= -180 ? meridian + 360 : meridian);
 }
 
 std::vector<DegMin> meridiansOfRoute(const Ends& ends, bool eastward)
 {
-    const std::string beyond = eastward ? "West" : "East";
+    const EastOrWest beyond = eastward ? EastOrWest::West : EastOrWest::East;
     std::vector<DegMin> meridians;
-    DegMin meridian = wrapped(firstMeridian(ends.long1, eastward), eastward);
+    DegMin meridian = wrapped(firstMeridian(ends.long1, eastward).packed(), eastward);
     while (meridians.size() < mostWaypoints) {
         // 180 and -180 are one meridian: a route that has come there has arrived.
-        const bool arrived = ChangeOfLongitude(meridian, ends.long2) == 0;
-        const bool passed = NavFunc113::EastWest(meridian, ends.long2) == beyond;
+        const bool arrived = ChangeOfLongitude(meridian, ends.long2) == Degrees(0);
+        const bool passed = EastWest(meridian, ends.long2) == beyond;
         meridians.push_back(passed ? ends.long2 : meridian);
         if (arrived || passed) break;
-        meridian = wrapped(meridian + (eastward ? 10 : -10), eastward);
+        meridian = wrapped(meridian.packed() + (eastward ? 10 : -10), eastward);
     }
     return meridians;
 }
 
-GCRoute routeBetween(const Ends& ends, int spheroid)
+GCRoute routeBetween(const Ends& ends, Earth earth)
 {
     GCRoute route;
-    route.eastward = NavFunc113::EastWest(ends.long1, ends.long2) == "East";
+    route.eastward = EastWest(ends.long1, ends.long2) == EastOrWest::East;
     route.waypoints.push_back({ends.lat1, ends.long1});
     const NavFunc113::GreatCircle circle(ends.lat1, ends.long1, ends.lat2, ends.long2);
     for (const DegMin meridian : meridiansOfRoute(ends, route.eastward))
         route.waypoints.push_back({circle.latitudeAt(meridian), meridian});
     // Along a meridian every latitude lies on it: the last waypoint is the arrival itself.
-    const double change = std::fabs(ChangeOfLongitude(ends.long1, ends.long2));
-    if (change == 0 || change == 180) route.waypoints.back().lat = ends.lat2;
+    const Degrees change = fabs(ChangeOfLongitude(ends.long1, ends.long2));
+    if (change == Degrees(0) || change == NavFunc113::halfTurn)
+        route.waypoints.back().lat = ends.lat2;
 
     for (std::size_t i = 0; i + 1 < route.waypoints.size(); ++i) {
         const GCWaypoint& from = route.waypoints[i];
         const GCWaypoint& to = route.waypoints[i + 1];
         route.legs.push_back(NavFunc113::RhumbCourseAndDistance(from.lat, from.longitude, to.lat,
-                                                                to.longitude, spheroid));
+                                                                to.longitude, earth));
     }
     return route;
 }
@@ -117,15 +124,15 @@ GCResult CalculateGC(const GCInput& input)
 {
     GCResult result;
     if (!allInRange(input.txtGC)) return result;
-    const Ends ends{readNumber(input.txtGC[0]), readNumber(input.txtGC[1]),
-                    readNumber(input.txtGC[2]), readNumber(input.txtGC[3])};
-    const auto rhumbLine = [&](int spheroid) {
-        return NavFunc113::RhumbDistance(ends.lat1, ends.long1, ends.lat2, ends.long2, spheroid);
+    const auto packed = [&](std::size_t i) { return DegMin(readNumber(input.txtGC[i])); };
+    const Ends ends{packed(0), packed(1), packed(2), packed(3)};
+    const auto rhumbLine = [&](Earth earth) {
+        return NavFunc113::RhumbDistance(ends.lat1, ends.long1, ends.lat2, ends.long2, earth);
     };
-    const double greatCircle = NavFunc113::GCDistance(ends.lat1, ends.long1, ends.lat2, ends.long2);
-    const double rhumb = rhumbLine(input.spheroid);
-    result.route = routeBetween(ends, input.spheroid);
-    double sumOfLegs = 0;
+    const Miles greatCircle = NavFunc113::GCDistance(ends.lat1, ends.long1, ends.lat2, ends.long2);
+    const Miles rhumb = rhumbLine(input.earth);
+    result.route = routeBetween(ends, input.earth);
+    Miles sumOfLegs;
     for (const auto& leg : result.route.legs)
         sumOfLegs += leg.distance;
 
@@ -134,7 +141,7 @@ GCResult CalculateGC(const GCInput& input)
                         Format(sumOfLegs, milesFormat)};
     fillTrack(result, ends);
     // The great circle is measured on the sphere, so the line it is compared with is too.
-    result.saving = Format(std::fmax(0, rhumbLine(0) - greatCircle), milesFormat);
+    result.saving = Format(std::max(Miles(0), rhumbLine(Earth::Sphere) - greatCircle), milesFormat);
     return result;
 }
 

@@ -14,12 +14,12 @@ namespace korvel
 
 struct GCInput {
     std::array<std::string, 4> txtGC; ///< lat1, long1, lat2, long2, packed
-    int spheroid = 0;
+    NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
 };
 
 struct GCWaypoint {
-    NavFunc113::DegMin lat = 0;
-    NavFunc113::DegMin longitude = 0;
+    NavFunc113::DegMin lat;
+    NavFunc113::DegMin longitude;
 };
 
 /// Working data of one calculation, from which the picture is drawn.

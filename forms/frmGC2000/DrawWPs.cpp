@@ -12,6 +12,8 @@ namespace korvel
 namespace
 {
 
+using NavFunc113::Degrees;
+
 constexpr double westernmost = -180;
 constexpr double easternmost = 540; // both frames find their lines
 constexpr double beyondRoute = 12;  // degrees of longitude at either side
@@ -21,11 +23,12 @@ constexpr double belowRoute = 3; // the meridians are labelled there
 std::vector<double> drawingLongitudes(const std::vector<GCWaypoint>& waypoints)
 {
     const bool atGreenwich =
-        std::any_of(waypoints.begin(), waypoints.end(),
-                    [](const GCWaypoint& waypoint) { return waypoint.longitude == 0; });
+        std::any_of(waypoints.begin(), waypoints.end(), [](const GCWaypoint& waypoint) {
+            return waypoint.longitude == NavFunc113::DegMin(0);
+        });
     std::vector<double> drawn;
     for (const GCWaypoint& waypoint : waypoints) {
-        const double lambda = NavFunc113::DegMinToDeg(waypoint.longitude);
+        const double lambda = NavFunc113::DegMinToDeg(waypoint.longitude).value();
         drawn.push_back(!atGreenwich && lambda <= 0 ? lambda + 360 : lambda);
     }
     // The meridian opposite Greenwich is both edges of a frame: it goes where its neighbour is.
@@ -62,13 +65,13 @@ std::vector<ChartLine> gridLines()
 std::vector<ChartPoint> rhumbLineBetween(const ChartPoint& from, const ChartPoint& to)
 {
     constexpr int pieces = 48;
-    const double partsLeft = NavFunc113::MeridionalParts(from.lat);
-    const double parts = NavFunc113::MeridionalParts(to.lat) - partsLeft;
+    const double partsLeft = NavFunc113::MeridionalParts(Degrees(from.lat));
+    const double parts = NavFunc113::MeridionalParts(Degrees(to.lat)) - partsLeft;
     if (parts == 0 || from.longitude == to.longitude) return {from, to};
     std::vector<ChartPoint> line{from};
     for (int i = 1; i < pieces; ++i) {
         const double lat = from.lat + (to.lat - from.lat) * i / pieces;
-        const double share = (NavFunc113::MeridionalParts(lat) - partsLeft) / parts;
+        const double share = (NavFunc113::MeridionalParts(Degrees(lat)) - partsLeft) / parts;
         line.push_back({from.longitude + (to.longitude - from.longitude) * share, lat});
     }
     line.push_back(to);
@@ -110,7 +113,8 @@ GCChart DrawWPs(const GCRoute& route)
 
     const std::vector<double> longitudes = drawingLongitudes(route.waypoints);
     for (std::size_t i = 0; i < longitudes.size(); ++i)
-        chart.route.push_back({longitudes[i], NavFunc113::DegMinToDeg(route.waypoints[i].lat)});
+        chart.route.push_back(
+            {longitudes[i], NavFunc113::DegMinToDeg(route.waypoints[i].lat).value()});
     chart.scale = scaleOf(chart.route, route.eastward);
     chart.rhumbLine = rhumbLineBetween(chart.route.front(), chart.route.back());
     chart.meridianLabels = labelsBetween(chart.scale.left, chart.scale.right, meridianText);

@@ -232,7 +232,7 @@ std::vector<ResultLabel*> frmGC2000::allResults() const
 void frmGC2000::runGC()
 {
     try {
-        m_result = CalculateGC({m_txtGC.texts<0, 4>(), program().spheroid()});
+        m_result = CalculateGC({m_txtGC.texts<0, 4>(), program().earth()});
     } catch (const NavFunc113::ArithmeticError&) {
         m_result = {};
         for (std::size_t row = 0; row < rowCount; ++row)

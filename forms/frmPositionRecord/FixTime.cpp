@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cstdint>
 
 namespace korvel
 {
@@ -122,12 +123,12 @@ Pieces piecesOf(std::string_view typed)
 }
 
 /// The most recent day of the pieces that are there, no more than a day after today.
-std::optional<long> dayOf(const Pieces& pieces, long today)
+std::optional<std::int64_t> dayOf(const Pieces& pieces, std::int64_t today)
 {
     if (pieces.year) return NavFunc113::DaySerial({*pieces.year, *pieces.month, *pieces.day});
     if (!pieces.day) return today;
-    constexpr long eightYears = 2922; // the longest wait for a 29th of February
-    for (long day = today + 1; day >= today - eightYears; --day) {
+    constexpr std::int64_t eightYears = 2922; // the longest wait for a 29th of February
+    for (std::int64_t day = today + 1; day >= today - eightYears; --day) {
         const CivilDate date = NavFunc113::DateOfSerial(day);
         if (date.day == *pieces.day && date.month == pieces.month.value_or(date.month)) return day;
     }

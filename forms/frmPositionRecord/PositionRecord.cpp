@@ -21,6 +21,10 @@ namespace
 using NavFunc113::ArithmeticError;
 using NavFunc113::DateTime;
 using NavFunc113::DegMin;
+using NavFunc113::Degrees;
+using NavFunc113::Hours;
+using NavFunc113::Knots;
+using NavFunc113::Miles;
 
 constexpr const char* distanceFormat = "0.'0";
 constexpr const char* hoursFormat = "0.0#";
@@ -35,10 +39,15 @@ struct Fix {
 };
 
 struct Leg {
-    double course;
-    double distance;
-    double hours;
+    Degrees course;
+    Miles distance;
+    Hours hours;
 };
+
+Hours hoursBetween(DateTime from, DateTime to)
+{
+    return Hours((to - from) * 24);
+}
 
 void say(std::string& text, const std::string& sentence)
 {
@@ -71,7 +80,7 @@ std::optional<DegMin> angleIn(const std::string& box, const char* name, double l
         say(remark, std::string(name) + ": minutes of " + Format(minutes, "0.####"));
         return std::nullopt;
     }
-    return value;
+    return DegMin(*value);
 }
 
 std::optional<double> timeDifferenceIn(const std::string& box, std::string& remark)
@@ -105,12 +114,12 @@ std::optional<Fix> fixOf(const PositionRecordInput& input, std::size_t index,
     return Fix{index, *smt, utc, *latitude, *longitude};
 }
 
-Leg legBetween(const Fix& from, const Fix& to, int spheroid)
+Leg legBetween(const Fix& from, const Fix& to, NavFunc113::Earth earth)
 {
-    return {NavFunc113::RhumbCourse(from.latitude, from.longitude, to.latitude, to.longitude),
-            NavFunc113::RhumbDistance(from.latitude, from.longitude, to.latitude, to.longitude,
-                                      spheroid),
-            (to.utc - from.utc) * 24};
+    return {
+        NavFunc113::RhumbCourse(from.latitude, from.longitude, to.latitude, to.longitude),
+        NavFunc113::RhumbDistance(from.latitude, from.longitude, to.latitude, to.longitude, earth),
+        hoursBetween(from.utc, to.utc)};
 }
 
 void showLeg(const Leg& leg, PositionRowResult& row)
@@ -118,7 +127,7 @@ void showLeg(const Leg& leg, PositionRowResult& row)
     row.course = courseText(leg.course);
     row.distance = Format(leg.distance, distanceFormat);
     row.hours = Format(leg.hours, hoursFormat);
-    if (leg.hours > 0) row.speed = Format(leg.distance / leg.hours, speedFormat);
+    if (leg.hours > Hours(0)) row.speed = Format(leg.distance / leg.hours, speedFormat);
 }
 
 /// Sums of consecutive legs. Once a leg is missing or runs against time, nothing adds up any more.
@@ -127,19 +136,19 @@ class Run
 public:
     void add(const std::optional<Leg>& leg)
     {
-        m_valid = m_valid && leg && leg->hours >= 0;
+        m_valid = m_valid && leg && leg->hours >= Hours(0);
         if (!m_valid) return;
         m_distance += leg->distance;
         m_hours += leg->hours;
     }
-    bool isValid() const { return m_valid && m_hours > 0; }
-    double distance() const { return m_distance; }
-    double hours() const { return m_hours; }
+    bool isValid() const { return m_valid && m_hours > Hours(0); }
+    Miles distance() const { return m_distance; }
+    Hours hours() const { return m_hours; }
 
 private:
     bool m_valid = true;
-    double m_distance = 0;
-    double m_hours = 0;
+    Miles m_distance;
+    Hours m_hours;
 };
 
 bool isNoon(DateTime smt)
@@ -172,8 +181,8 @@ void showRuns(const std::vector<Fix>& fixes, const std::vector<std::optional<Leg
     result.totalDistance = Format(total.distance(), distanceFormat);
     result.totalHours = Format(total.hours(), hoursFormat);
     result.averageSpeed = Format(total.distance() / total.hours(), speedFormat);
-    result.totalMiles = total.distance();
-    result.averageKnots = total.distance() / total.hours();
+    result.totalMiles = total.distance().value();
+    result.averageKnots = (total.distance() / total.hours()).value();
 }
 
 /// The current between the last two fixes: from where the ship should have been by course and
@@ -187,18 +196,19 @@ void showSetAndDrift(const PositionRecordInput& input, const Fix& from, const Fi
     if (*course < 0 || *course > 360)
         return say(result.notice, "course steered goes from 0 to 360");
     if (*speed < 0 || *speed > 999) return say(result.notice, "speed steered goes from 0 to 999");
-    const double hours = (to.utc - from.utc) * 24;
-    if (!(hours > 0)) return;
+    const Hours hours = hoursBetween(from.utc, to.utc);
+    if (!(hours > Hours(0))) return;
     try {
-        const double run = *speed * hours;
-        const DegMin latitude = NavFunc113::DRLatitude(from.latitude, *course, run, input.spheroid);
+        const Miles run = Knots(*speed) * hours;
+        const Degrees steered(*course);
+        const DegMin latitude = NavFunc113::DRLatitude(from.latitude, steered, run, input.earth);
         const DegMin longitude =
-            NavFunc113::DRLongitude(from.latitude, from.longitude, *course, run, input.spheroid);
+            NavFunc113::DRLongitude(from.latitude, from.longitude, steered, run, input.earth);
         const Fix reckoned{from.row, from.smt, from.utc, latitude, longitude};
-        const Leg current = legBetween(reckoned, to, input.spheroid);
+        const Leg current = legBetween(reckoned, to, input.earth);
         result.drift = Format(current.distance, distanceFormat) + " = " +
                        Format(current.distance / hours, "0.00") + " kn";
-        if (current.distance >= 0.05) result.set = courseText(current.course, "000");
+        if (current.distance >= Miles(0.05)) result.set = courseText(current.course, "000");
     } catch (const ArithmeticError&) {
         say(result.notice, "course and speed steered lead across a pole");
     }
@@ -220,7 +230,7 @@ void gatherRemarks(PositionRecordResult& result)
 
 std::string angleForCopy(const std::string& box, Axis axis)
 {
-    return isNumeric(box) ? positionForCopy(readNumber(box), axis) : box;
+    return isNumeric(box) ? positionForCopy(DegMin(readNumber(box)), axis) : box;
 }
 
 std::string timeDifferenceForCopy(const std::string& box)
@@ -241,7 +251,7 @@ PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input)
     for (std::size_t i = 1; i < fixes.size(); ++i) {
         PositionRowResult& next = result.rows[fixes[i].row];
         try {
-            legs.emplace_back(legBetween(fixes[i - 1], fixes[i], input.spheroid));
+            legs.emplace_back(legBetween(fixes[i - 1], fixes[i], input.earth));
             showLeg(*legs.back(), result.rows[fixes[i - 1].row]);
         } catch (const ArithmeticError&) {
             legs.emplace_back(std::nullopt);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/frmPositionRecord/PositionRows.h"
+#include "navlib/sailing.h"
 
 #include <optional>
 
@@ -11,7 +12,7 @@ namespace korvel
 
 struct PositionRecordInput {
     PositionRows rows;
-    int spheroid = 0;
+    NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
     std::string
         courseSteered;        ///< since the last fix but one, degrees true; empty: no set and drift
     std::string speedSteered; ///< knots

@@ -158,7 +158,7 @@ PositionRecordInput frmPositionRecord::input() const
 {
     PositionRecordInput typed;
     typed.rows = m_table->texts();
-    typed.spheroid = program().spheroid();
+    typed.earth = program().earth();
     typed.courseSteered = m_txtCourseSteered->value();
     typed.speedSteered = m_txtSpeedSteered->value();
     if (m_table->row(m_row).satelliteSMT->hasFocus()) typed.typingTimeIn = m_row;

@@ -62,11 +62,12 @@ private:
 };
 
 /// Reads a row's number; stores it when it lies within its limits.
-bool accept(const std::string& box, const char* low, const char* high, double& number)
+template <typename Unit>
+bool accept(const std::string& box, const char* low, const char* high, Unit& number)
 {
     const auto value = readLeadingNumber(box);
     if (!value || !IsInRange(box, low, high)) return false;
-    number = *value;
+    number = Unit(*value);
     return true;
 }
 
@@ -99,7 +100,7 @@ public:
             const Degrees azimuth = routine(m_row.latitude, declination);
             RiseSetLabel label{courseText(azimuth), "True azimuth, degrees", false, azimuth};
             const Degrees asTyped = routine(m_typedLatitude, declination);
-            if (std::fabs(azimuth - asTyped) >= 0.1) {
+            if (fabs(azimuth - asTyped) >= Degrees(0.1)) {
                 label.tip = "At the latitude as typed " + courseText(asTyped);
                 label.doubtful = true;
                 m_notice.add(std::string(name) + " azimuth at the latitude as typed " +

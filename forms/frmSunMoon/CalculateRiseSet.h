@@ -19,17 +19,17 @@ struct RiseSetInput {       ///< boxes as typed
 
 /// The last accepted numbers of a row. Each search moves the latitude by 1e-10.
 struct RiseSetRow {
-    NavFunc113::Hours TD = 0;
-    NavFunc113::DegMin latitude = 0;
-    NavFunc113::DegMin longitude = 0;
+    NavFunc113::Hours TD;
+    NavFunc113::DegMin latitude;
+    NavFunc113::DegMin longitude;
 };
 
 /// A label with its tool tip; an empty text blanks the label.
 struct RiseSetLabel {
     std::string text;
     std::string tip;
-    bool doubtful = false;        ///< the notice names a better figure
-    std::optional<double> figure; ///< an azimuth in full
+    bool doubtful = false;                     ///< the notice names a better figure
+    std::optional<NavFunc113::Degrees> figure; ///< an azimuth in full
 };
 
 struct RiseSetResult {

@@ -53,7 +53,7 @@ std::vector<WorksheetLine> worksheetOf(const SightCorrections& sight)
 DegMin withinCircle(DegMin GHA)
 {
     const Degrees degrees = DegMinToDeg(GHA);
-    return DegToDegMin(degrees < 0 ? degrees + 360 : degrees);
+    return DegToDegMin(degrees < Degrees(0) ? degrees + fullTurn : degrees);
 }
 
 } // namespace
@@ -76,7 +76,7 @@ std::string positionText(const Position& position)
 
 std::string interceptText(Miles intercept)
 {
-    return Format(std::fabs(intercept), "0'.0") + (intercept < 0 ? " A" : " T");
+    return Format(fabs(intercept), "0'.0") + (intercept < Miles(0) ? " A" : " T");
 }
 
 LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts)
@@ -89,9 +89,9 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts)
         result.UTC = Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC";
         result.watchError = watchErrorText(sight);
         if (sight.SMT) {
-            const Hours TD = readNumber(sight.TD);
-            result.SMT = Format(*observation.UTC + TD / 24, "yyyy/mm/dd hh:mm:ss") + " SMT, TD " +
-                         Format(TD, "0.0hE;0.0hW");
+            const Hours TD(readNumber(sight.TD));
+            result.SMT = Format(*observation.UTC + DaysOfHours(TD), "yyyy/mm/dd hh:mm:ss") +
+                         " SMT, TD " + Format(TD, "0.0hE;0.0hW");
         }
     }
     if (observation.corrections) {
@@ -112,14 +112,14 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts)
         const Degrees Zn = azimuthOfSun(*observation.GHA, *observation.declination, *DR);
         result.azimuth = Zn;
         result.Zn = courseText(Zn, "000.0");
-        if (sun.altitude < 0)
+        if (sun.altitude < Degrees(0))
             remarks.warnings.push_back("The Sun is below the horizon of the DR position: check "
                                        "date, time and position");
         if (observation.corrections) {
             const Miles intercept =
                 Intercept(DegMinToDeg(observation.corrections->Ho), sun.altitude);
             result.intercept = interceptText(intercept);
-            if (std::fabs(intercept) > 60)
+            if (fabs(intercept) > Miles(60))
                 remarks.warnings.push_back("Intercept of more than 60 miles: check date, time, "
                                            "altitude and position");
         }

@@ -18,13 +18,14 @@ constexpr double half = SightPlot::half;
 
 double milesOfDegree(const Position& middle)
 {
-    return 60 * std::cos(DegToRad(middle.latitude));
+    return 60 * cos(middle.latitude);
 }
 
 PlotPoint inPlane(const Position& position, const Position& middle)
 {
-    return {std::remainder(position.longitude - middle.longitude, 360) * milesOfDegree(middle),
-            (position.latitude - middle.latitude) * 60};
+    const Degrees east = WithinHalfTurn(position.longitude - middle.longitude);
+    return {east.value() * milesOfDegree(middle),
+            MilesOfArc(position.latitude - middle.latitude).value()};
 }
 
 bool isInside(const PlotPoint& point)
@@ -34,7 +35,7 @@ bool isInside(const PlotPoint& point)
 
 std::string longitudeLabel(Degrees longitude)
 {
-    return Format(DegToDegMin(std::remainder(longitude, 360)), "000-.00'0E;000-.00'0W");
+    return Format(DegToDegMin(WithinHalfTurn(longitude)), "000-.00'0E;000-.00'0W");
 }
 
 /// Ten lines at most, on round minutes.
@@ -50,18 +51,19 @@ std::vector<PlotGridLine> gridAround(const Position& middle)
     std::vector<PlotGridLine> grid;
     const double wide = half / milesOfDegree(middle) * 60;
     const int step = gridStep(2 * wide);
-    const double centre = middle.longitude * 60;
+    const double centre = middle.longitude.value() * 60;
     for (double minute = std::ceil((centre - wide) / step) * step; minute <= centre + wide;
          minute += step) {
         const double x = (minute - centre) / 60 * milesOfDegree(middle);
-        grid.push_back({{x, -half}, {x, half}, longitudeLabel(minute / 60)});
+        grid.push_back({{x, -half}, {x, half}, longitudeLabel(Degrees(minute / 60))});
     }
-    const double base = middle.latitude * 60;
+    const double base = middle.latitude.value() * 60;
     for (double minute = std::ceil((base - half) / 10) * 10; minute <= base + half; minute += 10) {
         if (std::fabs(minute) > 90 * 60) continue;
         const double y = minute - base;
-        grid.push_back(
-            {{-half, y}, {half, y}, Format(DegToDegMin(minute / 60), "00-.00'0N;00-.00'0S")});
+        grid.push_back({{-half, y},
+                        {half, y},
+                        Format(DegToDegMin(Degrees(minute / 60)), "00-.00'0N;00-.00'0S")});
     }
     return grid;
 }
@@ -87,7 +89,7 @@ std::vector<PlotPoint> circleOf(const FixLine& line)
 {
     std::vector<PlotPoint> points;
     // The plane of the sight's own DR position lies over that of the plot once the run is made.
-    constexpr Miles beyondTheCorners = 130;
+    constexpr Miles beyondTheCorners(130);
     for (const Position& point : CirclePoints(line.sight, line.DR, beyondTheCorners, 131))
         points.push_back(inPlane(point, line.DR));
     return points;
@@ -97,29 +99,30 @@ std::string timeLabel(const FixLine& line, const SightFixResult& fix)
 {
     const std::string taken = Format(line.UTC, "hhmm");
     const std::string advanced = Format(*fix.UTC, "hhmm");
-    const bool moved = fix.motion.speed > 0 && std::fabs(line.sight.sinceFix) > 1.0 / 60;
+    const bool moved = fix.motion.speed > Knots(0) && fabs(line.sight.sinceFix) > Hours(1.0 / 60);
     return moved ? taken + "-" + advanced : taken;
 }
 
 PlotLine plotLine(const FixLine& line, const SightFixResult& fix)
 {
     // No straight line is drawn that is further off its circle than this.
-    constexpr Miles tolerance = 0.3;
-    const double sinZ = std::sin(DegToRad(line.line.azimuth));
-    const double cosZ = std::cos(DegToRad(line.line.azimuth));
+    constexpr Miles tolerance(0.3);
+    const double sinZ = sin(line.line.azimuth);
+    const double cosZ = cos(line.line.azimuth);
     PlotLine plot;
     plot.index = line.index;
     plot.label = timeLabel(line, fix);
-    plot.foot = {line.line.intercept * sinZ, line.line.intercept * cosZ};
+    const double intercept = line.line.intercept.value();
+    plot.foot = {intercept * sinZ, intercept * cosZ};
     plot.arrowTo = {plot.foot.x + 6 * sinZ, plot.foot.y + 6 * cosZ};
     const PlotPoint along{cosZ, -sinZ};
     const auto at = [&](double s) {
         return PlotPoint{plot.foot.x + s * along.x, plot.foot.y + s * along.y};
     };
     const auto ends = clipped(plot.foot, along);
-    const Degrees altitude = std::min(line.sight.observedAltitude, 89.9);
+    const Degrees altitude = std::min(line.sight.observedAltitude, Degrees(89.9));
     const double reach = ends ? std::max(std::fabs(ends->first), std::fabs(ends->second)) : half;
-    plot.circle = LineBend(reach, altitude) > tolerance;
+    plot.circle = LineBend(Miles(reach), altitude) > tolerance;
     if (plot.circle)
         plot.points = circleOf(line);
     else if (ends)
@@ -140,11 +143,11 @@ void drawFix(const SightFixResult& fix, SightPlot& plot)
                     Format(*fix.UTC, "hhmm");
     const Radians axis = DegToRad(fix.ellipse.majorAxis);
     for (int i = 0; i <= 72; ++i) {
-        const Radians angle = DegToRad(5.0 * i);
-        const double major = fix.ellipse.semiMajor * std::cos(angle);
-        const double minor = fix.ellipse.semiMinor * std::sin(angle);
-        plot.ellipse.push_back({plot.fix->x + major * std::sin(axis) + minor * std::cos(axis),
-                                plot.fix->y + major * std::cos(axis) - minor * std::sin(axis)});
+        const Radians angle = DegToRad(Degrees(5.0 * i));
+        const double major = fix.ellipse.semiMajor.value() * cos(angle);
+        const double minor = fix.ellipse.semiMinor.value() * sin(angle);
+        plot.ellipse.push_back({plot.fix->x + major * sin(axis) + minor * cos(axis),
+                                plot.fix->y + major * cos(axis) - minor * sin(axis)});
     }
     if (!isInside(*plot.fix)) plot.notice = "The fix lies outside the plot";
 }
@@ -171,10 +174,10 @@ SightPlot DrawLOP(const SightFixResult& fix)
 CursorTexts cursorTexts(const SightPlot& plot, PlotPoint at)
 {
     if (!plot.middle || !isInside(at)) return {};
-    const Degrees latitude = plot.middle->latitude + at.y / 60;
-    if (std::fabs(latitude) > 90) return {};
+    const Degrees latitude = plot.middle->latitude + Degrees(at.y / 60);
+    if (fabs(latitude) > quarterTurn) return {};
     const Degrees longitude =
-        std::remainder(plot.middle->longitude + at.x / milesOfDegree(*plot.middle), 360);
+        WithinHalfTurn(plot.middle->longitude + Degrees(at.x / milesOfDegree(*plot.middle)));
     return {Format(DegToDegMin(latitude), "  00.-00'0N;  00.-00'0S"),
             Format(DegToDegMin(longitude), "000.-00'0E;000.-00'0W")};
 }

@@ -19,8 +19,9 @@ using namespace NavFunc113;
 double sunNorthward(DateTime UTC)
 {
     constexpr double halfHour = 0.5 / 24;
-    return 60 * (DegMinToDeg(SunDeclination(UTC + halfHour)) -
-                 DegMinToDeg(SunDeclination(UTC - halfHour)));
+    const Degrees change =
+        DegMinToDeg(SunDeclination(UTC + halfHour)) - DegMinToDeg(SunDeclination(UTC - halfHour));
+    return 60 * change.value();
 }
 
 std::string noonText(DateTime noon, const SightTexts& sight)
@@ -35,15 +36,15 @@ std::string greatestText(DateTime noon, const Position& ship, const Motion& moti
 {
     const double delay =
         GreatestAltitudeDelay(ship.latitude, DegMinToDeg(SunDeclination(noon)), sunNorthward(noon),
-                              motion.speed * std::cos(DegToRad(motion.course)));
+                              motion.speed.value() * cos(motion.course));
     return "greatest altitude " + Format(std::fabs(delay), "0") + " s " +
            (delay < 0 ? "earlier" : "later");
 }
 
 void latitudeBySight(const Observation& observation, const Position& ship, MeridianResult& result)
 {
-    const Degrees hourAngle = std::remainder(DegMinToDeg(*observation.GHA) + ship.longitude, 360);
-    const double minutes = hourAngle * 4;
+    const Degrees hourAngle = WithinHalfTurn(DegMinToDeg(*observation.GHA) + ship.longitude);
+    const double minutes = hourAngle.value() * 4;
     if (std::fabs(minutes) > 20) {
         result.note = "No latitude: the sight is not near the meridian";
         return;
@@ -72,7 +73,8 @@ MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trac
     try {
         if (track.motion) {
             const DateTime noon = LocalApparentNoon(*observation.UTC, *ship, *track.motion);
-            const Position then = Advanced(*ship, *track.motion, (noon - *observation.UTC) * 24);
+            const Position then =
+                Advanced(*ship, *track.motion, Hours((noon - *observation.UTC) * 24));
             result.noon = noonText(noon, sight);
             result.greatest = greatestText(noon, then, *track.motion);
         }

@@ -22,7 +22,7 @@ std::optional<ErrorModel> readErrors(const SightFixOptions& options, Remarks& re
     const auto along = readBox("Error of the run", options.runAlong, 0, 100, 5, remarks);
     const auto course = readBox("Error of the course", options.runCourse, 0, 45, 2, remarks);
     if (!sigma || !along || !course) return std::nullopt;
-    return ErrorModel{*sigma, *along / 100, *course};
+    return ErrorModel{Miles(*sigma), *along / 100, Degrees(*course)};
 }
 
 /// The lines of all sights that are on, referred to the track.
@@ -50,7 +50,7 @@ void makeLines(const SightList& list, const Track& track, SightFixResult& result
     result.DR = track.at(*result.UTC);
     if (!result.DR) return;
     for (FixLine& line : result.lines) {
-        line.sight.sinceFix = (line.UTC - *result.UTC) * 24;
+        line.sight.sinceFix = Hours((line.UTC - *result.UTC) * 24);
         line.DR = Advanced(*result.DR, result.motion, line.sight.sinceFix);
         line.line = LineAt(line.sight, *result.DR, result.motion);
         line.text = "Hc " + Format(DegToDegMin(line.line.computedAltitude), "0.-00'0") + "  " +
@@ -87,7 +87,7 @@ void describeEllipse(const Fix& fix, const ErrorModel& errors, bool measured,
     result.ellipseText =
         "95 %: " + Format(ellipse.semiMajor, "0.0") + " x " + Format(ellipse.semiMinor, "0.0") +
         " nm, long axis " + Format(ellipse.majorAxis, "000") + " - " +
-        Format(ellipse.majorAxis + 180, "000") + "; sigma N-S " +
+        Format(ellipse.majorAxis + halfTurn, "000") + "; sigma N-S " +
         Format(ellipse.sigmaNorth, "0.0") + " nm, E-W " + Format(ellipse.sigmaEast, "0.0") + " nm";
     const std::string assumed = Format(errors.sigma, "0.0#") + " nm";
     const std::string fromResiduals = Format(scale * errors.sigma, "0.0#") + " nm";
@@ -132,14 +132,14 @@ void warnOfGeometry(const Fix& fix, const SightFixResult& result, Remarks& remar
                               Advanced(fix.position, result.motion, line.sight.sinceFix))
                 .azimuth);
     const Degrees cut = CutAngle(azimuths);
-    if (cut < 30)
+    if (cut < Degrees(30))
         remarks.warnings.push_back("Small cut angle of " + Format(cut, "0") +
                                    " degrees: the fix is weak along the lines");
-    const Miles fromDR =
-        60 * std::hypot(fix.position.latitude - result.DR->latitude,
-                        std::remainder(fix.position.longitude - result.DR->longitude, 360) *
-                            std::cos(DegToRad(fix.position.latitude)));
-    if (fromDR > 40)
+    const Degrees north = fix.position.latitude - result.DR->latitude;
+    const Degrees east =
+        WithinHalfTurn(fix.position.longitude - result.DR->longitude) * cos(fix.position.latitude);
+    const Miles fromDR = MilesOfArc(Degrees(std::hypot(north.value(), east.value())));
+    if (fromDR > Miles(40))
         remarks.warnings.push_back("The fix is " + Format(fromDR, "0") +
                                    " miles from the DR position");
 }

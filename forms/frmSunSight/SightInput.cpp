@@ -69,14 +69,17 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
     if (!Hs || !indexError || !eye || !air || !sea || !pressure || !UTC) return std::nullopt;
 
     SightCorrections corrections;
-    corrections.Hs = *Hs;
+    corrections.Hs = DegMin(*Hs);
     corrections.indexError = *indexError;
-    const DegMin observed = DegToDegMin(DegMinToDeg(*Hs) - *indexError / 60);
+    const DegMin observed = DegToDegMin(DegMinToDeg(corrections.Hs) - Degrees(*indexError / 60));
     const auto month = static_cast<float>(DateOf(*UTC).month);
+    const Metres heightOfEye(*eye);
     const auto hectopascals = static_cast<float>(*pressure);
     try {
-        corrections.terms = SunAltitudeTerms(observed, month, *eye, *air, *sea, hectopascals);
-        corrections.Ho = SunAltitudeCorrection(observed, month, *eye, *air, *sea, hectopascals);
+        corrections.terms =
+            SunAltitudeTerms(observed, month, heightOfEye, *air, *sea, hectopascals);
+        corrections.Ho =
+            SunAltitudeCorrection(observed, month, heightOfEye, *air, *sea, hectopascals);
     } catch (const ArithmeticError& error) {
         remarks.faults.push_back(std::string("Altitude correction: ") + error.what());
         return std::nullopt;
@@ -85,11 +88,12 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
         // The library corrects the lower limb; the upper one lies a diameter higher.
         corrections.upperLimb =
             -2 * (corrections.terms.semiDiameter + corrections.terms.semiDiameterOfMonth);
-        corrections.Ho = DegToDegMin(DegMinToDeg(corrections.Ho) + corrections.upperLimb / 60);
+        corrections.Ho =
+            DegToDegMin(DegMinToDeg(corrections.Ho) + Degrees(corrections.upperLimb / 60));
     }
     if (*Hs - std::floor(*Hs) >= 0.6)
         remarks.warnings.push_back("Sextant altitude: minutes of 60 and more, read as " +
-                                   Format(DegToDegMin(DegMinToDeg(*Hs)), "0.-00'0"));
+                                   Format(DegToDegMin(DegMinToDeg(corrections.Hs)), "0.-00'0"));
     if (*Hs < 10)
         remarks.warnings.push_back("Sextant altitude below 10 degrees: the refraction table is "
                                    "extrapolated");
@@ -143,7 +147,7 @@ Observation readObservation(const SightTexts& texts, Remarks& remarks)
 Sight Observation::sight(DateTime timeOfFix) const
 {
     return {DegMinToDeg(*GHA), DegMinToDeg(*declination), DegMinToDeg(corrections->Ho),
-            (*UTC - timeOfFix) * 24};
+            Hours((*UTC - timeOfFix) * 24)};
 }
 
 std::optional<Position> Track::at(DateTime instant) const
@@ -152,8 +156,8 @@ std::optional<Position> Track::at(DateTime instant) const
     if (!UTC) return position;
     if (!motion) return std::nullopt;
     try {
-        const Position there = Advanced(*position, *motion, (instant - *UTC) * 24);
-        if (std::fabs(there.latitude) > 89) return std::nullopt;
+        const Position there = Advanced(*position, *motion, Hours((instant - *UTC) * 24));
+        if (fabs(there.latitude) > Degrees(89)) return std::nullopt;
         return there;
     } catch (const ArithmeticError&) {
         return std::nullopt;
@@ -168,10 +172,10 @@ Track readTrack(const TrackTexts& texts, Remarks& remarks)
     const auto longitude =
         readBox("DR longitude", texts.longitude, -180, 180, std::nullopt, remarks);
     if (latitude && longitude)
-        track.position = Position{DegMinToDeg(*latitude), DegMinToDeg(*longitude)};
+        track.position = Position{DegMinToDeg(DegMin(*latitude)), DegMinToDeg(DegMin(*longitude))};
     const auto course = readBox("Course", texts.course, 0, 360, 0, remarks);
     const auto speed = readBox("Speed", texts.speed, 0, 100, 0, remarks);
-    if (course && speed) track.motion = Motion{*course, *speed};
+    if (course && speed) track.motion = Motion{Degrees(*course), Knots(*speed)};
     if (!isEmpty(texts.time)) {
         track.UTC = readDateAndTime(texts.time, "Time of the DR position", remarks);
         track.timeUsable = track.UTC.has_value();

@@ -44,11 +44,11 @@ struct TrackTexts {
 
 /// Corrections of a sight, those of the library and what stands before and after them.
 struct SightCorrections {
-    NavFunc113::DegMin Hs = 0;
+    NavFunc113::DegMin Hs;
     double indexError = 0; ///< minutes, as taken off
     NavFunc113::AltitudeCorrectionTerms terms;
     double upperLimb = 0; ///< minutes; 0 for the lower limb
-    NavFunc113::DegMin Ho = 0;
+    NavFunc113::DegMin Ho;
 };
 
 /// A sight with its inputs resolved; what could not be resolved is absent.

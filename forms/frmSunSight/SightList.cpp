@@ -35,8 +35,8 @@ bool isSameSight(const SightTexts& a, const SightTexts& b)
     constexpr double halfTenth = 0.05 / 60;
     return first.complete() && second.complete() && a.upperLimb == b.upperLimb &&
            std::fabs(*first.UTC - *second.UTC) < halfSecond &&
-           std::fabs(NavFunc113::DegMinToDeg(first.corrections->Ho) -
-                     NavFunc113::DegMinToDeg(second.corrections->Ho)) < halfTenth;
+           fabs(NavFunc113::DegMinToDeg(first.corrections->Ho) -
+                NavFunc113::DegMinToDeg(second.corrections->Ho)) < NavFunc113::Degrees(halfTenth);
 }
 
 std::string textOfSight(const RecordedSight& sight)

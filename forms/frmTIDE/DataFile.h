@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace korvel
@@ -31,7 +32,7 @@ public:
 
     /// Reads up to count bytes at a position counted from 0.
     /// @return how many there were; 0 also when the file cannot be read (a folder, a bad disk)
-    std::size_t read(char* bytes, std::size_t count, long position) const
+    std::size_t read(char* bytes, std::size_t count, std::int64_t position) const
     {
         const ssize_t got = ::pread(m_descriptor, bytes, count, position);
         return got > 0 ? static_cast<std::size_t>(got) : 0;

@@ -5,6 +5,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
@@ -15,7 +16,7 @@ constexpr std::string_view separators = ", \t\r\n";
 
 } // namespace
 
-FieldReader::FieldReader(const std::string& file, std::string_view content, long line)
+FieldReader::FieldReader(const std::string& file, std::string_view content, std::int64_t line)
     : m_file(file), m_rest(content), m_line(line)
 {
 }

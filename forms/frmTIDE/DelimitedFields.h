@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,7 @@ public:
     /// @param file path, the name of which is for faults
     /// @param content must, like the path, outlive the reader
     /// @param line number of the content's first line
-    FieldReader(const std::string& file, std::string_view content, long line);
+    FieldReader(const std::string& file, std::string_view content, std::int64_t line);
 
     std::string text();
     double number();
@@ -33,7 +34,7 @@ private:
 
     const std::string& m_file;
     std::string_view m_rest;
-    long m_line;
+    std::int64_t m_line;
     int m_field = 0;
 };
 

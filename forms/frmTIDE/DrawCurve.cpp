@@ -55,9 +55,10 @@ void addTicks(CurvePicture& picture)
 std::string setOf(const TidePrediction& prediction, double rate)
 {
     if (std::fabs(rate) < 0.05) return " slack";
-    double direction = std::fmod(prediction.floodDirection + (rate > 0 ? 0 : 180), 360);
-    if (!std::isfinite(direction)) return {};
-    if (direction < 0) direction += 360;
+    const double towards = prediction.floodDirection.value() + (rate > 0 ? 0 : 180);
+    if (!std::isfinite(towards)) return {};
+    NavFunc113::Degrees direction(std::fmod(towards, 360));
+    if (direction < NavFunc113::Degrees(0)) direction += NavFunc113::fullTurn;
     return " " + NavFunc113::CompassName(direction);
 }
 

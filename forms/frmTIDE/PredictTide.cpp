@@ -8,12 +8,14 @@
 #include "navlib/datetime.h"
 #include "navlib/wind.h"
 
+#include <cstdint>
+
 namespace korvel
 {
 namespace
 {
 
-std::optional<long> chosenDate(const std::string& lblPlace, std::string_view lblDate)
+std::optional<std::int64_t> chosenDate(const std::string& lblPlace, std::string_view lblDate)
 {
     if (lblPlace == noPlace || lblPlace.empty()) return std::nullopt;
     return TideDates::dateIn(lblDate);
@@ -21,7 +23,8 @@ std::optional<long> chosenDate(const std::string& lblPlace, std::string_view lbl
 
 std::string timeText(NavFunc113::Hours time)
 {
-    return Format(NavFunc113::DegToDegMin(time), "00.-00: ");
+    // Hours and minutes are packed as degrees and minutes are.
+    return Format(NavFunc113::DegToDegMin(NavFunc113::Degrees(time.value())), "00.-00: ");
 }
 
 TidePrediction predict(const TideStation& station, const DaysFactors& factors, double level,
@@ -50,7 +53,7 @@ std::optional<TidePrediction> PredictTide(const std::filesystem::path& programFo
                                           const std::string& lblPlace, std::string_view lblDate,
                                           const TidePrediction& shown)
 {
-    const std::optional<long> date = chosenDate(lblPlace, lblDate);
+    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
     if (!date) return std::nullopt;
     const DaysFactors factors = readDaysFactors(programFolder, *date - firstFactorsSerial);
     const TideStation station = readTideStation(programFolder, lblPlace);
@@ -67,7 +70,7 @@ std::optional<TidePrediction> PredictCurrent(const std::filesystem::path& progra
                                              const std::string& lblPlace, std::string_view lblDate,
                                              const TidePrediction& shown)
 {
-    const std::optional<long> date = chosenDate(lblPlace, lblDate);
+    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
     if (!date) return std::nullopt;
     const DaysFactors factors = readDaysFactors(programFolder, *date - firstFactorsSerial);
     const TideStation station = readStreamStation(programFolder, lblPlace);
@@ -77,7 +80,7 @@ std::optional<TidePrediction> PredictCurrent(const std::filesystem::path& progra
     prediction.floodDirection = station.floodDirection;
     // The ebb is passed on as it is, not reduced below 360: the name does that.
     NavFunc113::Degrees flood = station.floodDirection;
-    NavFunc113::Degrees ebb = station.floodDirection + 180;
+    NavFunc113::Degrees ebb = station.floodDirection + NavFunc113::halfTurn;
     prediction.lblCuDirection = {"+ : " + NavFunc113::CompassName(flood),
                                  "- : " + NavFunc113::CompassName(ebb)};
     prediction.lblTideInfo = info(prediction.extremes, "0.0kn   ", "0.0kn");

@@ -22,9 +22,9 @@ inline constexpr std::string_view noDate = "Date";
 struct TidePrediction {
     TideKind kind = TideKind::Tide;
     std::string title;
-    NavFunc113::TideValues values{};        ///< metres or knots, every half hour from 00:00
-    NavFunc113::TideExtremes extremes;      ///< times in decimal hours
-    NavFunc113::Degrees floodDirection = 0; ///< true; streams only
+    NavFunc113::TideValues values{};    ///< metres or knots, every half hour from 00:00
+    NavFunc113::TideExtremes extremes;  ///< times in decimal hours
+    NavFunc113::Degrees floodDirection; ///< true; streams only
     std::string lblTD;
     std::string lblTideInfo;
     std::array<std::string, 2> lblCuDirection; ///< blank for a tide station

@@ -3,6 +3,8 @@
 
 #include "forms/frmTIDE/Stations.h"
 
+#include <cstdint>
+
 namespace korvel
 {
 
@@ -21,7 +23,7 @@ SavedChoice choiceOf(const Record& record, const TideDates& dates)
     else if (!place.empty() && place != noPlace)
         saved.notice = "There is no station \"" + place + "\" any more.";
 
-    const std::optional<long> date = TideDates::dateIn(textOf(record[2]));
+    const std::optional<std::int64_t> date = TideDates::dateIn(textOf(record[2]));
     if (date && dates.contains(*date))
         saved.choice.lblDate = TideDates::label(*date);
     else if (date)

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <fstream>
 #include <system_error>
 #include <vector>
@@ -21,7 +22,8 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t lineLength = factorsLineLength;
 constexpr std::size_t charactersOfLine = lineLength - 2;
 
-std::string faultText(const std::string& file, long line, int field, const std::string& trouble)
+std::string faultText(const std::string& file, std::int64_t line, int field,
+                      const std::string& trouble)
 {
     std::string text = file;
     if (line > 0) text += ", line " + std::to_string(line);
@@ -42,14 +44,14 @@ std::string wholeFile(const std::string& file)
 
 // Called when a line is not where its number says: finds the line that is to blame, which may lie
 // long before the one wanted.
-[[noreturn]] void refuseLayout(const std::string& file, long lineWanted)
+[[noreturn]] void refuseLayout(const std::string& file, std::int64_t lineWanted)
 {
     const std::string content = wholeFile(file);
     if (content.starts_with(byteOrderMark))
         throw TideDataFault(nameOf(file), 1, 1,
                             "the file begins with a byte-order mark. Save it without one: its "
                             "lines are found by their byte positions.");
-    long line = 0;
+    std::int64_t line = 0;
     for (std::size_t start = 0; start < content.size(); ++line) {
         const std::size_t end = std::min(content.find('\n', start), content.size());
         const bool carriageReturn = end > start && content[end - 1] == '\r';
@@ -70,13 +72,14 @@ std::string wholeFile(const std::string& file)
                             ".");
 }
 
-NavFunc113::DailyFactors factorsOfLine(const std::string& file, std::string_view text, long line)
+NavFunc113::DailyFactors factorsOfLine(const std::string& file, std::string_view text,
+                                       std::int64_t line)
 {
     FieldReader reader(file, text, line);
     reader.number(); // the day key: the line's position says which day it is
     NavFunc113::DailyFactors factors;
     for (NavFunc113::DailyFactor& factor : factors) {
-        factor.angle = reader.number();
+        factor.angle = NavFunc113::Degrees(reader.number());
         factor.factor = reader.number();
     }
     if (!reader.atEnd())
@@ -136,15 +139,15 @@ TideStation commonFields(FieldReader& reader)
 {
     TideStation station;
     station.title = reader.text();
-    station.zone = reader.number();
+    station.zone = NavFunc113::Hours(reader.number());
     station.meanLevel = reader.number();
     for (NavFunc113::TideConstituent& constituent : station.constituents) {
-        constituent.phase = reader.number();
+        constituent.phase = NavFunc113::Degrees(reader.number());
         constituent.amplitude = reader.number();
     }
-    station.shallowWater.quarterPhase = reader.number();
+    station.shallowWater.quarterPhase = NavFunc113::Degrees(reader.number());
     station.shallowWater.quarterCoefficient = reader.number();
-    station.shallowWater.sixthPhase = reader.number();
+    station.shallowWater.sixthPhase = NavFunc113::Degrees(reader.number());
     station.shallowWater.sixthCoefficient = reader.number();
     return station;
 }
@@ -158,8 +161,8 @@ std::string stationPath(const path& programFolder, std::string_view place, std::
 
 } // namespace
 
-TideDataFault::TideDataFault(const std::string& faultyFile, long faultyLine, int faultyField,
-                             const std::string& trouble)
+TideDataFault::TideDataFault(const std::string& faultyFile, std::int64_t faultyLine,
+                             int faultyField, const std::string& trouble)
     : std::runtime_error(faultText(faultyFile, faultyLine, faultyField, trouble)), file(faultyFile),
       line(faultyLine), field(faultyField)
 {
@@ -180,7 +183,7 @@ std::string streamFilePath(const path& programFolder, std::string_view place)
     return stationPath(programFolder, place, "_.txt");
 }
 
-DaysFactors readDaysFactors(const path& programFolder, long dayNumber)
+DaysFactors readDaysFactors(const path& programFolder, std::int64_t dayNumber)
 {
     const std::string path = factorsFilePath(programFolder);
     const DataFile file(path);
@@ -189,13 +192,13 @@ DaysFactors readDaysFactors(const path& programFolder, long dayNumber)
                             "the file of the astronomical factors is missing or cannot be opened. "
                             "It belongs beside the program.");
     }
-    const long line = dayNumber + 1;
+    const std::int64_t line = dayNumber + 1;
     if (dayNumber < 0) throw TideDataFault(nameOf(path), 1, 0, "it begins with 2002/10/1.");
 
     // Byte 46 x day counted from 1 is the line end of the line before; it is read too, as proof
     // that the lines up to here have their length.
     const std::size_t before = dayNumber == 0 ? 0 : 1;
-    const long start = factorsLineLength * dayNumber - static_cast<long>(before);
+    const std::int64_t start = factorsLineLength * dayNumber - static_cast<std::int64_t>(before);
     std::array<char, 1 + 2 * lineLength> buffer;
     const std::string_view bytes(buffer.data(),
                                  file.read(buffer.data(), before + 2 * lineLength, start));
@@ -234,7 +237,7 @@ TideStation readStreamStation(const path& programFolder, const std::string& plac
         refuseStation(path, "no open constants of streams exist for these waters", streamLayout);
     FieldReader reader(path, *content, 1);
     TideStation station = commonFields(reader);
-    station.floodDirection = reader.number();
+    station.floodDirection = NavFunc113::Degrees(reader.number());
     return station;
 }
 

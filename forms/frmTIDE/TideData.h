@@ -4,6 +4,7 @@
 #include "navlib/tide.h"
 
 #include <array>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <stdexcept>
@@ -22,17 +23,18 @@ class TideDataFault : public std::runtime_error
 public:
     /// @param line 1 for the first line; 0 when the fault is not in a line
     /// @param field 1 for the first field; 0 when the fault is not in a field
-    TideDataFault(const std::string& file, long line, int field, const std::string& trouble);
+    TideDataFault(const std::string& file, std::int64_t line, int field,
+                  const std::string& trouble);
 
     std::string file;
-    long line;
+    std::int64_t line;
     int field;
 };
 
 /// The first day of the factors file, 2002-10-01.
-inline constexpr long firstFactorsSerial = 37530;
+inline constexpr std::int64_t firstFactorsSerial = 37530;
 /// Bytes of a line of the factors file: 44 characters, CR and LF.
-inline constexpr long factorsLineLength = 46;
+inline constexpr std::int64_t factorsLineLength = 46;
 
 /// Path of the factors file.
 std::string factorsFilePath(const std::filesystem::path& programFolder);
@@ -54,17 +56,17 @@ struct DaysFactors {
 ///
 /// @param dayNumber 0 for 2002-10-01
 /// @throws TideDataFault
-DaysFactors readDaysFactors(const std::filesystem::path& programFolder, long dayNumber);
+DaysFactors readDaysFactors(const std::filesystem::path& programFolder, std::int64_t dayNumber);
 
 /// A station's constants.
 struct TideStation {
     std::string title;
-    NavFunc113::Hours zone = 0; ///< east positive
-    double meanLevel = 0;       ///< metres above chart datum, or mean stream in knots
+    NavFunc113::Hours zone; ///< east positive
+    double meanLevel = 0;   ///< metres above chart datum, or mean stream in knots
     NavFunc113::TideConstituents constituents;
     NavFunc113::ShallowWaterTerms shallowWater;
     std::array<double, 12> monthlyCorrections{}; ///< metres; tide stations only
-    NavFunc113::Degrees floodDirection = 0;      ///< true; stream stations only
+    NavFunc113::Degrees floodDirection;          ///< true; stream stations only
 };
 
 /// Reads a station's fields: separated by commas, blanks or line ends, the title quoted or not; a

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <fstream>
 
 namespace korvel
@@ -14,18 +15,18 @@ namespace korvel
 namespace
 {
 
-std::string shortDate(long serial)
+std::string shortDate(std::int64_t serial)
 {
     return Format(static_cast<double>(serial), "yyyy/m/d");
 }
 
 // Lines of a factors file whose last line stands where the layout puts it; 0 otherwise.
-long wellFormedLines(const std::filesystem::path& file)
+std::int64_t wellFormedLines(const std::filesystem::path& file)
 {
     std::ifstream stream(file, std::ios::binary | std::ios::ate);
     if (!stream) return 0;
     // The last line's CR LF may be missing.
-    const long lines = (static_cast<long>(stream.tellg()) + 2) / factorsLineLength;
+    const std::int64_t lines = (static_cast<std::int64_t>(stream.tellg()) + 2) / factorsLineLength;
     if (lines < 2) return 0;
     std::array<char, 2> end{};
     stream.seekg((lines - 1) * factorsLineLength - 2);
@@ -38,44 +39,45 @@ long wellFormedLines(const std::filesystem::path& file)
 TideDates TideDates::ofFolder(const std::filesystem::path& programFolder)
 {
     TideDates dates;
-    const long last = firstFactorsSerial + wellFormedLines(factorsFilePath(programFolder)) - 2;
+    const std::int64_t last =
+        firstFactorsSerial + wellFormedLines(factorsFilePath(programFolder)) - 2;
     if (last > dates.m_lastSerial) dates.m_lastSerial = last;
     return dates;
 }
 
-long TideDates::firstSerial() const
+std::int64_t TideDates::firstSerial() const
 {
     return firstFactorsSerial;
 }
 
-int TideDates::scrollValueOf(long serial) const
+int TideDates::scrollValueOf(std::int64_t serial) const
 {
     return static_cast<int>(serial - firstFactorsSerial + 1);
 }
 
-long TideDates::serialOfScrollValue(int value) const
+std::int64_t TideDates::serialOfScrollValue(int value) const
 {
     return firstFactorsSerial - 1 + value;
 }
 
-bool TideDates::contains(long serial) const
+bool TideDates::contains(std::int64_t serial) const
 {
     return firstFactorsSerial <= serial && serial <= m_lastSerial;
 }
 
-std::optional<long> TideDates::dateIn(std::string_view text)
+std::optional<std::int64_t> TideDates::dateIn(std::string_view text)
 {
     const std::optional<NavFunc113::DateTime> value = readDateTime(text);
     if (!value) return std::nullopt;
-    return static_cast<long>(std::floor(*value));
+    return static_cast<std::int64_t>(std::floor(*value));
 }
 
-std::string TideDates::label(long serial)
+std::string TideDates::label(std::int64_t serial)
 {
     return Format(static_cast<double>(serial), "yyyy/mm/dd");
 }
 
-std::string TideDates::defaultAnswer(long serial)
+std::string TideDates::defaultAnswer(std::int64_t serial)
 {
     return shortDate(serial);
 }

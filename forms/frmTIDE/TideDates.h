@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -22,26 +23,26 @@ public:
     /// or not in the layout gives the shipped range: reading a day then says what is wrong with it.
     static TideDates ofFolder(const std::filesystem::path& programFolder);
 
-    long firstSerial() const;
-    long lastSerial() const { return m_lastSerial; }
+    std::int64_t firstSerial() const;
+    std::int64_t lastSerial() const { return m_lastSerial; }
 
     /// Limits and value of scrDate: 1 is the first date.
     int scrollMinimum() const { return 1; }
     int scrollMaximum() const { return scrollValueOf(m_lastSerial); }
-    int scrollValueOf(long serial) const;
-    long serialOfScrollValue(int value) const;
+    int scrollValueOf(std::int64_t serial) const;
+    std::int64_t serialOfScrollValue(int value) const;
 
-    bool contains(long serial) const;
+    bool contains(std::int64_t serial) const;
 
     /// The date of a text, in range or not: a date as officers type it, without or with a time of
     /// day. Nothing when the text is no valid date.
-    static std::optional<long> dateIn(std::string_view text);
+    static std::optional<std::int64_t> dateIn(std::string_view text);
 
     /// The text of lblDate, "yyyy/mm/dd".
-    static std::string label(long serial);
+    static std::string label(std::int64_t serial);
 
     /// The default answer of the date dialog, today as "yyyy/m/d".
-    static std::string defaultAnswer(long serial);
+    static std::string defaultAnswer(std::int64_t serial);
 
     /// What is said of a date out of range.
     std::string refusal() const;
@@ -50,7 +51,7 @@ public:
     std::string aboutNotice() const;
 
 private:
-    long m_lastSerial = 38717; // 2005-12-31
+    std::int64_t m_lastSerial = 38717; // 2005-12-31
 };
 
 /// The question of the date dialog.

@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <cmath>
+#include <cstdint>
 
 namespace korvel
 {
@@ -192,8 +193,8 @@ void frmTIDE::place_Click(bool TideMode, std::string_view place)
 
 void frmTIDE::askDate()
 {
-    const long today = static_cast<long>(std::floor(program().shipsTime().SMT()));
-    std::optional<long> date;
+    const std::int64_t today = static_cast<std::int64_t>(std::floor(program().shipsTime().SMT()));
+    std::optional<std::int64_t> date;
     while (!date)
         date = TideDates::dateIn(
             program()
@@ -209,7 +210,7 @@ void frmTIDE::askDate()
 
 void frmTIDE::scrDate_Change(int value)
 {
-    const long date = m_dates.serialOfScrollValue(value);
+    const std::int64_t date = m_dates.serialOfScrollValue(value);
     take({m_choice.TideMode, m_choice.lblPlace, TideDates::label(date)}, Telling::Line);
 }
 

@@ -21,21 +21,21 @@ std::string codeAndName(int code, std::string_view name)
 
 std::string CalculateSeaState(std::string_view txtWave)
 {
-    const double height = readNumber(txtWave);
+    const NavFunc113::Metres height(readNumber(txtWave));
     return codeAndName(NavFunc113::SeaStateCode(height), NavFunc113::SeaStateName(height));
 }
 
 std::string CalculateSwell(std::string_view txtSWELL)
 {
-    return std::string(NavFunc113::SwellTerm(readNumber(txtSWELL)));
+    return std::string(NavFunc113::SwellTerm(NavFunc113::Metres(readNumber(txtSWELL))));
 }
 
 VisibilityResult CalculateVisibility(std::string_view txtVISIBILITY)
 {
-    const double kilometres = readNumber(txtVISIBILITY);
-    const std::string miles = Format(kilometres / kilometresPerMile, "0.#");
+    const NavFunc113::Kilometres visibility(readNumber(txtVISIBILITY));
+    const std::string miles = Format(visibility.value() / kilometresPerMile, "0.#");
     return {
-        codeAndName(NavFunc113::VisibilityCode(kilometres), NavFunc113::VisibilityName(kilometres)),
+        codeAndName(NavFunc113::VisibilityCode(visibility), NavFunc113::VisibilityName(visibility)),
         miles.empty() ? miles : miles + " nm"};
 }
 

@@ -24,10 +24,10 @@ WindResult CalculateWind(const std::array<std::string, 4>& txtWind)
         !IsInRange(txtWind[2], "-180", "180") || !isSpeed(txtWind[3]))
         return {};
     WindFigures wind;
-    wind.course = readNumber(txtWind[0]);
-    wind.shipSpeed = readNumber(txtWind[1]);
-    wind.relativeDirection = readNumber(txtWind[2]);
-    wind.apparentSpeed = readNumber(txtWind[3]);
+    wind.course = NavFunc113::Degrees(readNumber(txtWind[0]));
+    wind.shipSpeed = NavFunc113::Knots(readNumber(txtWind[1]));
+    wind.relativeDirection = NavFunc113::Degrees(readNumber(txtWind[2]));
+    wind.apparentSpeed = NavFunc113::Knots(readNumber(txtWind[3]));
     wind.trueDirection = NavFunc113::TrueWindDirection(wind.course, wind.shipSpeed,
                                                        wind.relativeDirection, wind.apparentSpeed);
     wind.trueSpeed =

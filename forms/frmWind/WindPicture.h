@@ -16,12 +16,12 @@ enum class WindOrientation { HeadUp, NorthUp };
 
 /// What the vectors are made of.
 struct WindFigures {
-    NavFunc113::Degrees course = 0;
-    NavFunc113::Knots shipSpeed = 0;
-    NavFunc113::Degrees relativeDirection = 0; ///< from the bow, clockwise positive
-    NavFunc113::Knots apparentSpeed = 0;
-    NavFunc113::Degrees trueDirection = 0; ///< true, where the wind blows from
-    NavFunc113::Knots trueSpeed = 0;
+    NavFunc113::Degrees course;
+    NavFunc113::Knots shipSpeed;
+    NavFunc113::Degrees relativeDirection; ///< from the bow, clockwise positive
+    NavFunc113::Knots apparentSpeed;
+    NavFunc113::Degrees trueDirection; ///< true, where the wind blows from
+    NavFunc113::Knots trueSpeed;
 };
 
 /// Outer end of a vector from the centre, in knots. A wind is drawn on the side it blows from, so
@@ -50,7 +50,7 @@ struct WindPicture {
 /// @param heldRadius radius of the rings in knots as an earlier picture had it: while the pointer
 ///                   drags, a scale that followed would run away from it. 0: as the figures need
 WindPicture pictureOfWind(const WindFigures& figures, WindOrientation orientation,
-                          NavFunc113::Knots heldRadius = 0);
+                          NavFunc113::Knots heldRadius = {});
 
 /// What pointing at the picture sets.
 struct WindPointer {

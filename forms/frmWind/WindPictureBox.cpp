@@ -41,7 +41,7 @@ void WindPictureBox::setWind(const std::optional<WindFigures>& figures, WindOrie
 
 void WindPictureBox::holdScale(bool hold)
 {
-    m_heldRadius = hold ? m_picture.rings.back() : 0;
+    m_heldRadius = hold ? m_picture.rings.back() : NavFunc113::Knots();
     if (!hold) setWind(m_figures, m_orientation);
 }
 
@@ -100,15 +100,16 @@ QPen WindPictureBox::truePen() const
 void WindPictureBox::PictureHyouji(QPainter& painter) const
 {
     const QPointF centre = pixel({});
-    const double outermost = m_picture.rings.back();
+    const NavFunc113::Knots outermost = m_picture.rings.back();
     painter.setBrush(Qt::NoBrush);
     painter.setPen(pen(colours().grid, thin));
-    for (const double ring : m_picture.rings) {
-        const double radius = toPixel(ring, 0).x() - centre.x();
+    for (const NavFunc113::Knots ring : m_picture.rings) {
+        const double radius = toPixel(ring.value(), 0).x() - centre.x();
         painter.drawEllipse(centre, radius, radius);
     }
     for (int bearing = 0; bearing < 360; bearing += 30) {
-        const QLineF spoke = QLineF::fromPolar(toPixel(outermost, 0).x() - centre.x(), bearing);
+        const QLineF spoke =
+            QLineF::fromPolar(toPixel(outermost.value(), 0).x() - centre.x(), bearing);
         painter.drawLine(centre + spoke.p2() * 0.25, centre + spoke.p2());
     }
     painter.setPen(colours().ink);
@@ -119,10 +120,10 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
         m_figureText.draw(painter, {at.x() - 2 * m_unit, at.y() - m_unit / 2, 4 * m_unit, m_unit},
                           Qt::AlignCenter, QString::fromStdString(label.text));
     }
-    for (const double ring : m_picture.rings) {
+    for (const NavFunc113::Knots ring : m_picture.rings) {
         // Between two spokes, so that no line runs through the figure.
-        const QPointF at = pixel({ring * std::sqrt(0.5), ring * std::sqrt(0.5)});
-        const QString text = QString::number(ring) + (ring == outermost ? " kn" : "");
+        const QPointF at = pixel({ring.value() * std::sqrt(0.5), ring.value() * std::sqrt(0.5)});
+        const QString text = QString::number(ring.value()) + (ring == outermost ? " kn" : "");
         const double wide = QFontMetricsF(font()).horizontalAdvance(text);
         const QRectF room(at.x() - wide / 2 - 1, at.y() - m_unit / 2, wide + 2, m_unit);
         painter.fillRect(room, colours().paper);
@@ -171,7 +172,7 @@ void WindPictureBox::drawShip(QPainter& painter) const
     const bool turned = m_orientation == WindOrientation::NorthUp && m_figures;
     painter.save();
     painter.translate(pixel({}));
-    painter.rotate(turned ? m_figures->course : 0);
+    painter.rotate(turned ? m_figures->course.value() : 0);
     painter.scale(m_unit, m_unit);
     painter.setPen(QPen(colours().ink, thin * 1.5));
     painter.setBrush(Qt::NoBrush);

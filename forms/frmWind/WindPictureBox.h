@@ -50,7 +50,7 @@ private:
     mutable FigureText m_figureText; ///< glyphs that it has drawn before
     std::optional<WindFigures> m_figures;
     WindOrientation m_orientation = WindOrientation::HeadUp;
-    NavFunc113::Knots m_heldRadius = 0;
+    NavFunc113::Knots m_heldRadius;
     QPointF m_pointer;
     QString m_pointerText;
     double m_unit; ///< height of a line of text, which every size follows

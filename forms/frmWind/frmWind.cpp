@@ -145,8 +145,8 @@ void frmWind::picWind_MouseDown(QPointF place)
 
 void frmWind::picWind_MouseMove(QPointF place)
 {
-    const WindPointer pointer =
-        windAt({place.x(), place.y()}, orientation(), readNumber(m_txtWind[0]->value()));
+    const WindPointer pointer = windAt({place.x(), place.y()}, orientation(),
+                                       NavFunc113::Degrees(readNumber(m_txtWind[0]->value())));
     m_picWind->setPointerText(place, QString::fromStdString(pointer.text));
     const auto write = [](EntryBox* box, const std::string& text) {
         const QSignalBlocker quiet(box);

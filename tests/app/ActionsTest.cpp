@@ -35,12 +35,12 @@ TEST_F(ActionsTest, aPositionIsStoredInTwoHalves)
     actions.StoreInMemo(2, "-139.4523");
     EXPECT_EQ(questions.asked.back(), "PsnMemo  l:35.-30'5 L:-139.-45'2");
     EXPECT_EQ(redrawn, 1) << "No neither stores nor redraws";
-    EXPECT_EQ(saved.memoLatitude(), 0);
+    EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(0));
 
     questions.willAnswer(Answer::Yes);
     actions.StoreInMemo(2, "-139.4523");
-    EXPECT_EQ(saved.memoLatitude(), 35.305);
-    EXPECT_EQ(saved.memoLongitude(), -139.4523);
+    EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(35.305));
+    EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(-139.4523));
     EXPECT_EQ(actions.memoLine(), "Position Memo  LATITUDE: 35.-30'5N, LONGITUDE: 139.-45'2W\n"
                                   "Single Memo:   0.0");
 }
@@ -75,11 +75,11 @@ TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
     questions.willAnswer(Answer::Ok);
     actions.storePosition("95", "20");
     EXPECT_EQ(questions.asked.size(), 1u) << "the longitude is not asked for";
-    EXPECT_EQ(saved.memoLongitude(), 0);
+    EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(0));
     questions.willAnswer(Answer::Yes);
     actions.storePosition("90", "180");
-    EXPECT_EQ(saved.memoLatitude(), 90);
-    EXPECT_EQ(saved.memoLongitude(), 180);
+    EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(90));
+    EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(180));
 }
 
 TEST_F(ActionsTest, singleMemoAndRecall)

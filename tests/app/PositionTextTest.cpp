@@ -10,6 +10,8 @@ namespace korvel
 namespace
 {
 
+using NavFunc113::DegMin;
+
 TEST(PositionText, echo)
 {
     const struct {
@@ -48,9 +50,11 @@ TEST(PositionText, echo)
 
 TEST(PositionText, copy)
 {
-    EXPECT_EQ(positionForCopy(35.305, 139.452), "35°30.5'N 139°45.2'E");
-    EXPECT_EQ(positionForCopy(-5.5996, -0.05), "06°00.0'S 000°05.0'W") << "carried at 60";
-    EXPECT_EQ(positionForCopy(35.3005, Axis::Latitude), "35°30.1'N") << "half away from zero";
+    EXPECT_EQ(positionForCopy(DegMin(35.305), DegMin(139.452)), "35°30.5'N 139°45.2'E");
+    EXPECT_EQ(positionForCopy(DegMin(-5.5996), DegMin(-0.05)), "06°00.0'S 000°05.0'W")
+        << "carried at 60";
+    EXPECT_EQ(positionForCopy(DegMin(35.3005), Axis::Latitude), "35°30.1'N")
+        << "half away from zero";
 }
 
 /// "lat|long" of what was understood, "-" for nothing.
@@ -203,7 +207,7 @@ TEST(PositionText, copiedPositionsComeBackThroughPaste)
 {
     for (double lat = -89.59; lat < 90; lat += 7.31) {
         for (double lon = -179.55; lon < 180; lon += 13.17) {
-            const std::string text = positionForCopy(lat, lon);
+            const std::string text = positionForCopy(DegMin(lat), DegMin(lon));
             const auto position = parsePosition(text, Axis::Longitude);
             ASSERT_TRUE(position && position->latitude && position->longitude) << text;
             EXPECT_EQ(positionEcho(*position->latitude, Axis::Latitude).text + "|" +

@@ -137,7 +137,7 @@ TEST(CourseText, thereIsNoCourse360)
                 {45.25, "000.0", "045.3"},      {359.5, "000", "000"},
                 {359.4, "000", "359"}};
     for (const auto& [degrees, format, text] : rows)
-        EXPECT_EQ(courseText(degrees, format), text);
+        EXPECT_EQ(courseText(NavFunc113::Degrees(degrees), format), text);
 }
 
 } // namespace

@@ -126,7 +126,7 @@ TEST(SavedValues, aNewInstallation)
 TEST(SavedValues, bringWhatTheyReadIntoOrder)
 {
     KV_Savedvalue saved;
-    EXPECT_EQ(saved.spheroid(), 0);
+    EXPECT_EQ(saved.earth(), NavFunc113::Earth::Sphere);
     Record record = saved.record();
     record[0] = false;
     record[1] = record[2] = true;
@@ -134,7 +134,7 @@ TEST(SavedValues, bringWhatTheyReadIntoOrder)
     record[26] = 9.3;
     saved.take(record);
     EXPECT_EQ(saved.clockZone(), ClockZone::SMT) << "the first of several ticks";
-    EXPECT_EQ(saved.spheroid(), 1);
+    EXPECT_EQ(saved.earth(), NavFunc113::Earth::Spheroid);
     EXPECT_EQ(saved.TD(), 9.3f);
     record[1] = record[2] = Value();
     record[26] = 99.0;

@@ -115,6 +115,13 @@ bool Golden::tick(std::string_view column) const
     return cell == "yes";
 }
 
+NavFunc113::Earth Golden::earth() const
+{
+    const std::string& cell = text("earth");
+    if (cell != "sphere" && cell != "spheroid") fail("earth", "is neither sphere nor spheroid");
+    return cell == "sphere" ? NavFunc113::Earth::Sphere : NavFunc113::Earth::Spheroid;
+}
+
 std::ostream& operator<<(std::ostream& stream, const Golden& row)
 {
     return stream << row.m_table->file << ":" << row.m_line << ": " << row.m_cells.front();

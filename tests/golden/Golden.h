@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/sailing.h"
+
 #include <cstdint>
 #include <iosfwd>
 #include <memory>
@@ -25,6 +27,29 @@ public:
     std::int64_t integer(std::string_view column) const;
     /// "yes" or "no".
     bool tick(std::string_view column) const;
+    NavFunc113::DegMin degMin(std::string_view column) const
+    {
+        return NavFunc113::DegMin(number(column));
+    }
+    NavFunc113::Degrees degrees(std::string_view column) const
+    {
+        return NavFunc113::Degrees(number(column));
+    }
+    NavFunc113::Miles miles(std::string_view column) const
+    {
+        return NavFunc113::Miles(number(column));
+    }
+    NavFunc113::Knots knots(std::string_view column) const
+    {
+        return NavFunc113::Knots(number(column));
+    }
+    NavFunc113::Hours hours(std::string_view column) const
+    {
+        return NavFunc113::Hours(number(column));
+    }
+    /// Column "earth": "sphere" or "spheroid".
+    NavFunc113::Earth earth() const;
+
     /// True when the cell holds anything; cells that a case has no figure for stay empty.
     bool has(std::string_view column) const { return !text(column).empty(); }
 

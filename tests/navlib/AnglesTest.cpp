@@ -3,6 +3,8 @@
 
 #include "tests/navlib/FaultOf.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -19,21 +21,22 @@ TEST(Angles, packedValuesAndDecimalDegrees)
 {
     const struct {
         const char* fault;
-        DegMin packed;
-        Degrees degrees;
+        double packed;
+        double degrees;
     } rows[] = {{"minutes divided by 100, not 60", 35.305, 35.508333333333},
                 {"floor of a negative value", -35.305, -35.508333333333},
                 {"sign lost below one degree", -0.30, -0.5},
                 {"zero", 0, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_NEAR(DegMinToDeg(row.packed), row.degrees, 1e-11);
-        EXPECT_NEAR(DegToDegMin(row.degrees), row.packed, 1e-11);
+        EXPECT_NEAR(by(DegMinToDeg)(row.packed), row.degrees, 1e-11);
+        EXPECT_NEAR(by(DegToDegMin)(row.degrees), row.packed, 1e-11);
     }
-    EXPECT_NEAR(DegMinToDeg(10.6), 11, 1e-11) << "60 minutes and more are not refused";
-    EXPECT_NEAR(SumDegMin({0.305, 0.305}), 1.01, 1e-11) << "minutes carry at 60";
-    EXPECT_NEAR(SumDegMin({1.00, -0.30, -0.45}), -0.15, 1e-11);
-    EXPECT_EQ(SumDegMin({}), 0);
+    EXPECT_NEAR(by(DegMinToDeg)(10.6), 11, 1e-11) << "60 minutes and more are not refused";
+    EXPECT_NEAR(SumDegMin({DegMin(0.305), DegMin(0.305)}).packed(), 1.01, 1e-11)
+        << "minutes carry at 60";
+    EXPECT_NEAR(SumDegMin({DegMin(1.00), DegMin(-0.30), DegMin(-0.45)}).packed(), -0.15, 1e-11);
+    EXPECT_EQ(SumDegMin({}).packed(), 0);
 }
 
 TEST(Angles, arcTan2KnowsTheQuadrant)
@@ -53,7 +56,7 @@ TEST(Angles, arcTan2KnowsTheQuadrant)
                 {0, 0, 0}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.x << ", " << row.y);
-        EXPECT_NEAR(ArcTan2(double(row.x), row.y), row.angle, 1e-10);
+        EXPECT_NEAR(ArcTan2(double(row.x), row.y).value(), row.angle, 1e-10);
     }
     double x = 0;
     ArcTan2(x, 0);
@@ -62,14 +65,14 @@ TEST(Angles, arcTan2KnowsTheQuadrant)
 
 TEST(Angles, inverseCosineAndSine)
 {
-    EXPECT_EQ(ArcCos(1), 0);
-    EXPECT_EQ(ArcCos(-1), Pi());
-    EXPECT_NEAR(ArcCos(0.5), Pi() / 3, 1e-15);
-    EXPECT_NEAR(ArcCos(-0.5), 2 * Pi() / 3, 1e-15);
-    EXPECT_NEAR(ArcSin(-0.5), -Pi() / 6, 1e-15);
+    EXPECT_EQ(ArcCos(1).value(), 0);
+    EXPECT_EQ(ArcCos(-1).value(), Pi());
+    EXPECT_NEAR(ArcCos(0.5).value(), Pi() / 3, 1e-15);
+    EXPECT_NEAR(ArcCos(-0.5).value(), 2 * Pi() / 3, 1e-15);
+    EXPECT_NEAR(by(ArcSin)(-0.5), -Pi() / 6, 1e-15);
     EXPECT_EQ(faultOf([] { ArcCos(0); }), Condition::DivisionByZero);
     EXPECT_EQ(faultOf([] { ArcCos(1.0000001); }), Condition::InvalidArgument);
-    EXPECT_EQ(faultOf([] { ArcSin(-1); }), Condition::DivisionByZero);
+    EXPECT_EQ(faultOf([] { by(ArcSin)(-1); }), Condition::DivisionByZero);
     EXPECT_EQ(faultOf([] { ArcCos(std::numeric_limits<double>::quiet_NaN()); }),
               Condition::InvalidArgument);
     EXPECT_NEAR(Log10(0.001), -3, 1e-15);

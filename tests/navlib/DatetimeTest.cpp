@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace NavFunc113
 {
 namespace
@@ -14,7 +16,7 @@ TEST(Datetime, serialsOfKnownDates)
 {
     const struct {
         CivilDate date;
-        long serial;
+        std::int64_t serial;
     } rows[] = {{{1899, 12, 30}, 0},    {{1900, 1, 1}, 2},       {{2000, 2, 29}, 36585},
                 {{2002, 10, 1}, 37530}, {{2005, 12, 31}, 38717}, {{1899, 12, 29}, -1}};
     for (const auto& [date, serial] : rows) {

@@ -3,6 +3,8 @@
 
 #include "navlib/sailing.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -17,9 +19,9 @@ TEST(GreatCircleTrack, coursesAndVertex)
 {
     const struct {
         const char* name;
-        DegMin lat1, long1, lat2, long2;
-        Degrees initial, final;
-        DegMin vertexLat, vertexLong;
+        double lat1, long1, lat2, long2;
+        double initial, final;
+        double vertexLat, vertexLong;
         bool onRoute;
     } rows[] = {
         // A published crossing of the North Pacific; the rest are its mirror images and reversals.
@@ -38,24 +40,27 @@ TEST(GreatCircleTrack, coursesAndVertex)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const auto track = TrackOfGreatCircle(row.lat1, row.long1, row.lat2, row.long2);
+        const auto track = TrackOfGreatCircle(DegMin(row.lat1), DegMin(row.long1), DegMin(row.lat2),
+                                              DegMin(row.long2));
         ASSERT_TRUE(track && track->vertex);
         EXPECT_EQ(track->vertex->onRoute, row.onRoute);
         if (row.initial != 0 || row.final != 0) {
-            EXPECT_NEAR(track->initialCourse, row.initial, 0.006);
-            EXPECT_NEAR(track->finalCourse, row.final, 0.006);
+            EXPECT_NEAR(track->initialCourse.value(), row.initial, 0.006);
+            EXPECT_NEAR(track->finalCourse.value(), row.final, 0.006);
         }
         if (row.vertexLat != 0) {
-            EXPECT_NEAR(track->vertex->lat, row.vertexLat, 6e-4);
-            EXPECT_NEAR(track->vertex->longitude, row.vertexLong, 6e-4);
+            EXPECT_NEAR(track->vertex->lat.packed(), row.vertexLat, 6e-4);
+            EXPECT_NEAR(track->vertex->longitude.packed(), row.vertexLong, 6e-4);
         }
     }
-    const auto equator = TrackOfGreatCircle(0, 170, 0, -170);
+    const auto equator = TrackOfGreatCircle(DegMin(0), DegMin(170), DegMin(0), DegMin(-170));
     ASSERT_TRUE(equator);
-    EXPECT_EQ(equator->initialCourse, 90);
+    EXPECT_EQ(equator->initialCourse, Degrees(90));
     EXPECT_FALSE(equator->vertex);
-    EXPECT_FALSE(TrackOfGreatCircle(35.305, 139, 35.305, 139)) << "equal positions";
-    EXPECT_FALSE(TrackOfGreatCircle(35.305, 139, -35.305, -41)) << "opposite positions";
+    EXPECT_FALSE(TrackOfGreatCircle(DegMin(35.305), DegMin(139), DegMin(35.305), DegMin(139)))
+        << "equal positions";
+    EXPECT_FALSE(TrackOfGreatCircle(DegMin(35.305), DegMin(139), DegMin(-35.305), DegMin(-41)))
+        << "opposite positions";
 }
 
 TEST(GreatCircleTrack, noMeridianOfTheRouteReachesBeyondTheVertex)
@@ -64,14 +69,15 @@ TEST(GreatCircleTrack, noMeridianOfTheRouteReachesBeyondTheVertex)
         for (const double lat2 : {-50.0, 0.0, 33.0, 64.0})
             for (const double change : {-170.0, -35.0, 20.0, 100.0, 175.0}) {
                 SCOPED_TRACE(testing::Message() << lat1 << ' ' << lat2 << ' ' << change);
-                const auto track = TrackOfGreatCircle(lat1, 0, lat2, change);
+                const auto track =
+                    TrackOfGreatCircle(DegMin(lat1), DegMin(0), DegMin(lat2), DegMin(change));
                 ASSERT_TRUE(track && track->vertex);
                 double farthest = 0;
                 for (int i = 0; i <= 1000; ++i) {
-                    const double lat = GCLatitudeAt(lat1, 0, lat2, change, change * i / 1000);
+                    const double lat = by(GCLatitudeAt)(lat1, 0, lat2, change, change * i / 1000);
                     farthest = std::max(farthest, std::fabs(lat));
                 }
-                const double most = std::fabs(track->vertex->lat);
+                const double most = std::fabs(track->vertex->lat.packed());
                 EXPECT_LT(farthest, most + 1e-9);
                 if (track->vertex->onRoute) {
                     EXPECT_NEAR(farthest, most, 0.05);

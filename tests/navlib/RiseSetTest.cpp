@@ -5,6 +5,8 @@
 #include "navlib/datetime.h"
 #include "navlib/ephemeris.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -32,7 +34,7 @@ TEST(RiseSet, publishedTimes)
         const char* place;
         CivilDate date;
         double TD;
-        DegMin latitude, longitude;
+        double latitude, longitude;
         double sunrise, sunset;
     } rows[] = {
         {"Tokyo", {2024, 6, 21}, 9, 35.393, 139.447, clock(4, 25), clock(19, 0)},
@@ -42,13 +44,13 @@ TEST(RiseSet, publishedTimes)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.place);
         const auto date = double(DaySerial(row.date));
-        DegMin latitude = row.latitude;
-        const DateTime rise = SunRiseSearch(date, row.TD, latitude, row.longitude);
-        const DateTime set = SunSetSearch(date, row.TD, latitude, row.longitude);
+        DegMin latitude(row.latitude);
+        const DateTime rise = SunRiseSearch(date, Hours(row.TD), latitude, DegMin(row.longitude));
+        const DateTime set = SunSetSearch(date, Hours(row.TD), latitude, DegMin(row.longitude));
         EXPECT_EQ(std::floor(rise), date);
         EXPECT_NEAR(minutesOfDay(rise), row.sunrise, 2);
         EXPECT_NEAR(minutesOfDay(set), row.sunset, 2);
-        EXPECT_NEAR(latitude, row.latitude + 2e-10, 1e-12) << "once for each search";
+        EXPECT_NEAR(latitude.packed(), row.latitude + 2e-10, 1e-12) << "once for each search";
     }
 }
 
@@ -56,19 +58,19 @@ TEST(RiseSet, hoursOfOneTriangle)
 {
     // Latitude 45, declination 30, worked apart: the Moon 125.26439 degrees from the meridian, the
     // Sun 127.09183; an offset of 180 and the zone's own meridian put noon at half the day.
-    EXPECT_NEAR(SunRiseHour(9, 180, 30, 45, 135), 1 + 0.5 - 127.09183 / 360 - 1, 1e-6);
-    EXPECT_NEAR(SunSetHour(9, 180, 30, 45, 135), 1 + 0.5 + 127.09183 / 360 - 1, 1e-6);
-    EXPECT_NEAR(MoonRiseHour(9, 180, 30, 45, 135), 3 + 0.5 - 125.26439 / 360 - 1, 1e-6);
-    EXPECT_NEAR(MoonSetHour(9, 180, 30, 45, 135), 2 + 0.5 + 125.26439 / 360 - 1, 1e-6);
+    EXPECT_NEAR(by(SunRiseHour)(9, 180, 30, 45, 135), 1 + 0.5 - 127.09183 / 360 - 1, 1e-6);
+    EXPECT_NEAR(by(SunSetHour)(9, 180, 30, 45, 135), 1 + 0.5 + 127.09183 / 360 - 1, 1e-6);
+    EXPECT_NEAR(by(MoonRiseHour)(9, 180, 30, 45, 135), 3 + 0.5 - 125.26439 / 360 - 1, 1e-6);
+    EXPECT_NEAR(by(MoonSetHour)(9, 180, 30, 45, 135), 2 + 0.5 + 125.26439 / 360 - 1, 1e-6);
 }
 
 TEST(RiseSet, searchIsOutNearFullMoonAndTheRefinedTimeIsNot)
 {
     int wrong = 0, days = 0;
     for (double date = 45292; date < 45292 + 366; date += 1, ++days) {
-        DegMin latitude = 35.2;
-        const DateTime found = MoonRiseSearch(date, 9, latitude, 139.4);
-        const auto refined = RefinedMoonRise(date, 9, 35.2, 139.4);
+        DegMin latitude(35.2);
+        const DateTime found = MoonRiseSearch(date, Hours(9), latitude, DegMin(139.4));
+        const auto refined = RefinedMoonRise(date, Hours(9), DegMin(35.2), DegMin(139.4));
         if (found == 0 || !refined || std::fabs(found - *refined) * 1440 > 20) {
             if (found == 0 && !refined) continue;
             ++wrong;
@@ -84,21 +86,23 @@ TEST(RiseSet, searchIsOutNearFullMoonAndTheRefinedTimeIsNot)
 
 TEST(RiseSet, southernWholeDegreesAndFaults)
 {
-    DegMin whole = -60, almost = -60.0001;
+    DegMin whole(-60), almost(-60.0001);
     const double date = 45292 + 354;
-    const DateTime there = SunRiseSearch(date, 0, whole, 0);
-    EXPECT_GT(std::fabs(there - SunRiseSearch(date, 0, almost, 0)) * 1440, 2)
+    const DateTime there = SunRiseSearch(date, {}, whole, {});
+    EXPECT_GT(std::fabs(there - SunRiseSearch(date, {}, almost, {})) * 1440, 2)
         << "the packed latitude falls below its whole degree";
-    EXPECT_NEAR(*RefinedSunRise(date, 0, -60, 0), *RefinedSunRise(date, 0, -60.0001, 0), 1e-5);
+    EXPECT_NEAR(*RefinedSunRise(date, {}, DegMin(-60), {}),
+                *RefinedSunRise(date, {}, DegMin(-60.0001), {}), 1e-5);
 
-    EXPECT_THROW(MoonRiseHour(0, 180, 28.3, 63, 0), ArithmeticError) << "the Moon does not set";
-    EXPECT_THROW(MoonRiseHour(0, 180, 20, 0, 0), ArithmeticError) << "cosine of exactly 0";
-    DegMin equator = 0;
-    EXPECT_NO_THROW(MoonRiseSearch(date, 0, equator, 0)) << "which the search steps around";
-    EXPECT_NEAR(SunRiseAzimuth(35, 23.26) + SunSetAzimuth(35, 23.26), 360, 1e-12);
-    EXPECT_NEAR(SunRiseAzimuth(0, -23), 113, 1e-9);
-    EXPECT_THROW(SunRiseAzimuth(35, 0), ArithmeticError);
-    EXPECT_FALSE(RefinedMoonRise(44880.0, 0, 80, 0)) << "no fault where the Moon does not rise";
+    EXPECT_THROW(by(MoonRiseHour)(0, 180, 28.3, 63, 0), ArithmeticError) << "the Moon does not set";
+    EXPECT_THROW(by(MoonRiseHour)(0, 180, 20, 0, 0), ArithmeticError) << "cosine of exactly 0";
+    DegMin equator;
+    EXPECT_NO_THROW(MoonRiseSearch(date, {}, equator, {})) << "which the search steps around";
+    EXPECT_NEAR(by(SunRiseAzimuth)(35, 23.26) + by(SunSetAzimuth)(35, 23.26), 360, 1e-12);
+    EXPECT_NEAR(by(SunRiseAzimuth)(0, -23), 113, 1e-9);
+    EXPECT_THROW(by(SunRiseAzimuth)(35, 0), ArithmeticError);
+    EXPECT_FALSE(RefinedMoonRise(44880, {}, DegMin(80), {}))
+        << "no fault where the Moon does not rise";
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "navlib/angles.h"
 #include "tests/navlib/FaultOf.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 namespace NavFunc113
@@ -13,11 +15,14 @@ namespace
 
 using Condition = ArithmeticError::Condition;
 
+const auto DRLongitudeBy =
+    by(static_cast<DegMin (*)(DegMin, DegMin, Degrees, Miles, Earth)>(DRLongitude));
+
 TEST(Sailing, directionOfTheShorterWay)
 {
     const struct {
-        DegMin long1, long2;
-        Degrees change;
+        double long1, long2;
+        double change;
         const char* direction;
     } rows[] = {
         {139, 140, 1, "East"},
@@ -33,21 +38,21 @@ TEST(Sailing, directionOfTheShorterWay)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.long1 << " to " << row.long2);
-        EXPECT_NEAR(ChangeOfLongitude(row.long1, row.long2), row.change, 1e-9);
-        EXPECT_EQ(EastWest(row.long1, row.long2), row.direction);
+        EXPECT_NEAR(by(ChangeOfLongitude)(row.long1, row.long2), row.change, 1e-9);
+        EXPECT_EQ(NameOf(EastWest(DegMin(row.long1), DegMin(row.long2))), row.direction);
     }
 }
 
 TEST(Sailing, factorsOfTheSpheroid)
 {
-    EXPECT_DOUBLE_EQ(LatitudeFactor(40), 0.99924);
-    EXPECT_NEAR(LatitudeFactor(35), 0.9984039259615, 1e-12); // Lagrange, worked independently
-    EXPECT_DOUBLE_EQ(ParallelFactor(90), 1.00518);
-    EXPECT_NEAR(ParallelFactor(45), 1.003474375, 1e-12);
-    EXPECT_NEAR(MeridionalParts(35), 2231.03596135, 1e-8);
-    EXPECT_NEAR(MeridionalParts(-60), -4507.36001518, 1e-8);
-    EXPECT_EQ(faultOf([] { MeridionalParts(-90); }), Condition::InvalidArgument);
-    EXPECT_EQ(faultOf([] { MeridionalParts(91); }), Condition::InvalidArgument);
+    EXPECT_DOUBLE_EQ(by(LatitudeFactor)(40), 0.99924);
+    EXPECT_NEAR(by(LatitudeFactor)(35), 0.9984039259615, 1e-12); // Lagrange, worked independently
+    EXPECT_DOUBLE_EQ(by(ParallelFactor)(90), 1.00518);
+    EXPECT_NEAR(by(ParallelFactor)(45), 1.003474375, 1e-12);
+    EXPECT_NEAR(by(MeridionalParts)(35), 2231.03596135, 1e-8);
+    EXPECT_NEAR(by(MeridionalParts)(-60), -4507.36001518, 1e-8);
+    EXPECT_EQ(faultOf([] { by(MeridionalParts)(-90); }), Condition::InvalidArgument);
+    EXPECT_EQ(faultOf([] { by(MeridionalParts)(91); }), Condition::InvalidArgument);
 }
 
 // Ocean passages, worked independently; the noon-report legs are a published worked record.
@@ -55,9 +60,9 @@ TEST(Sailing, rhumbLineAndGreatCircleOfPassages)
 {
     const struct {
         const char* name;
-        DegMin lat1, long1, lat2, long2;
-        Degrees course;
-        Miles sphere, spheroid, greatCircle;
+        double lat1, long1, lat2, long2;
+        double course;
+        double sphere, spheroid, greatCircle;
     } rows[] = {
         {"eastward across 180", 35.08, 139.46, 37.45, -122.42, 88.09787387, 4730.017542,
          4722.896102, 4468.911943},
@@ -72,16 +77,16 @@ TEST(Sailing, rhumbLineAndGreatCircleOfPassages)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         const bool exact = row.spheroid != 0;
-        EXPECT_NEAR(RhumbCourse(row.lat1, row.long1, row.lat2, row.long2), row.course,
+        EXPECT_NEAR(by(RhumbCourse)(row.lat1, row.long1, row.lat2, row.long2), row.course,
                     exact ? 1e-8 : 0.05);
-        EXPECT_NEAR(RhumbDistance(row.lat1, row.long1, row.lat2, row.long2, 0), row.sphere,
+        EXPECT_NEAR(by(RhumbDistance)(row.lat1, row.long1, row.lat2, row.long2, 0), row.sphere,
                     exact ? 1e-6 : 0.005);
         if (exact) {
-            EXPECT_NEAR(RhumbDistance(row.lat1, row.long1, row.lat2, row.long2, 1), row.spheroid,
-                        1e-6);
+            EXPECT_NEAR(by(RhumbDistance)(row.lat1, row.long1, row.lat2, row.long2, 1),
+                        row.spheroid, 1e-6);
         }
         if (row.greatCircle != 0) {
-            EXPECT_NEAR(GCDistance(row.lat1, row.long1, row.lat2, row.long2), row.greatCircle,
+            EXPECT_NEAR(by(GCDistance)(row.lat1, row.long1, row.lat2, row.long2), row.greatCircle,
                         exact ? 1e-6 : 0.005);
         }
     }
@@ -91,9 +96,9 @@ TEST(Sailing, rhumbLineOfSpecialCases)
 {
     const struct {
         const char* fault;
-        DegMin lat1, long1, lat2, long2;
-        Degrees course;
-        Miles sphere, spheroid;
+        double lat1, long1, lat2, long2;
+        double course;
+        double sphere, spheroid;
     } rows[] = {
         {"equal positions", 35.305, 139, 35.305, 139, 0, 0, 0},
         {"equator eastward", 0, 10, 0, 11, 90, 60, 60.1068},
@@ -105,26 +110,27 @@ TEST(Sailing, rhumbLineOfSpecialCases)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_EQ(RhumbCourse(row.lat1, row.long1, row.lat2, row.long2), row.course);
-        EXPECT_NEAR(RhumbDistance(row.lat1, row.long1, row.lat2, row.long2, 0), row.sphere, 1e-9);
+        EXPECT_EQ(by(RhumbCourse)(row.lat1, row.long1, row.lat2, row.long2), row.course);
+        EXPECT_NEAR(by(RhumbDistance)(row.lat1, row.long1, row.lat2, row.long2, 0), row.sphere,
+                    1e-9);
         if (row.lat1 == row.lat2) {
-            EXPECT_NEAR(RhumbDistance(row.lat1, row.long1, row.lat2, row.long2, 1), row.spheroid,
-                        1e-9);
+            EXPECT_NEAR(by(RhumbDistance)(row.lat1, row.long1, row.lat2, row.long2, 1),
+                        row.spheroid, 1e-9);
         }
     }
-    EXPECT_EQ(RhumbCourse(0, 0, 80, -1e-15), 0) << "360 is not below 360";
-    EXPECT_EQ(faultOf([] { RhumbCourse(0, 0, -90, 10); }), Condition::InvalidArgument);
+    EXPECT_EQ(by(RhumbCourse)(0, 0, 80, -1e-15), 0) << "360 is not below 360";
+    EXPECT_EQ(faultOf([] { by(RhumbCourse)(0, 0, -90, 10); }), Condition::InvalidArgument);
 }
 
 TEST(Sailing, deadReckoning)
 {
     const struct {
         const char* fault;
-        DegMin lat, longitude;
-        Degrees course;
-        Miles distance;
+        double lat, longitude;
+        double course;
+        double distance;
         int spheroid;
-        DegMin latReached, longReached;
+        double latReached, longReached;
     } rows[] = {
         {"minutes do not carry at 60", 35.55, 10, 0, 10, 0, 36.05, 10},
         {"sign lost across the equator", 0.10, 10, 180, 20, 0, -0.10, 10},
@@ -138,16 +144,16 @@ TEST(Sailing, deadReckoning)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_NEAR(DRLatitude(row.lat, row.course, row.distance, row.spheroid), row.latReached,
+        EXPECT_NEAR(by(DRLatitude)(row.lat, row.course, row.distance, row.spheroid), row.latReached,
                     5e-6);
-        EXPECT_NEAR(DRLongitude(row.lat, row.longitude, row.course, row.distance, row.spheroid),
+        EXPECT_NEAR(DRLongitudeBy(row.lat, row.longitude, row.course, row.distance, row.spheroid),
                     row.longReached, 5e-6);
     }
-    EXPECT_NEAR(DRLatitude(89, 0, 120, 0), 91, 1e-9) << "the caller decides about the pole";
-    EXPECT_EQ(faultOf([] { DRLongitude(89, 0, 10, 120, 0); }), Condition::InvalidArgument);
-    EXPECT_EQ(faultOf([] { DRLongitude(-90, 0, 270, 1, 0); }), Condition::DivisionByZero);
+    EXPECT_NEAR(by(DRLatitude)(89, 0, 120, 0), 91, 1e-9) << "the caller decides about the pole";
+    EXPECT_EQ(faultOf([] { DRLongitudeBy(89, 0, 10, 120, 0); }), Condition::InvalidArgument);
+    EXPECT_EQ(faultOf([] { DRLongitudeBy(-90, 0, 270, 1, 0); }), Condition::DivisionByZero);
     // 1.00513 at the pole instead of 1.00518: the run comes out longer
-    EXPECT_NEAR(DRLongitude(80, 0, 90, 100, 1), 9.329755, 5e-6);
+    EXPECT_NEAR(DRLongitudeBy(80, 0, 90, 100, 1), 9.329755, 5e-6);
 }
 
 TEST(Sailing, aRunMeasuredComesBackAsItsCourseAndDistance)
@@ -156,29 +162,30 @@ TEST(Sailing, aRunMeasuredComesBackAsItsCourseAndDistance)
         for (const double longitude : {-179.50, -0.10, 0.0, 139.45, 180.0})
             for (const double course : {0.5, 45.0, 89.0, 135.0, 180.5, 226.0, 271.0, 359.0}) {
                 SCOPED_TRACE(testing::Message() << lat << ' ' << longitude << ' ' << course);
-                const DegMin lat2 = DRLatitude(lat, course, 333, 0);
-                const DegMin long2 = DRLongitude(lat, longitude, course, 333, 0);
-                EXPECT_NEAR(RhumbCourse(lat, longitude, lat2, long2), course, 1e-8);
-                EXPECT_NEAR(RhumbDistance(lat, longitude, lat2, long2, 0), 333, 1e-6);
+                const double lat2 = by(DRLatitude)(lat, course, 333, 0);
+                const double long2 = DRLongitudeBy(lat, longitude, course, 333, 0);
+                EXPECT_NEAR(by(RhumbCourse)(lat, longitude, lat2, long2), course, 1e-8);
+                EXPECT_NEAR(by(RhumbDistance)(lat, longitude, lat2, long2, 0), 333, 1e-6);
             }
 }
 
 TEST(Sailing, greatCircleDistanceOfSpecialCases)
 {
-    EXPECT_NEAR(GCDistance(30, 170, 30, -10), 7200, 1e-9) << "180 apart, over the pole";
-    EXPECT_NEAR(GCDistance(-45, -135, -45, 45), 5400, 1e-9) << "180 apart, over the other pole";
-    EXPECT_NEAR(GCDistance(0, 0, 0, 180), 10800, 1e-9);
+    EXPECT_NEAR(by(GCDistance)(30, 170, 30, -10), 7200, 1e-9) << "180 apart, over the pole";
+    EXPECT_NEAR(by(GCDistance)(-45, -135, -45, 45), 5400, 1e-9) << "180 apart, over the other pole";
+    EXPECT_NEAR(by(GCDistance)(0, 0, 0, 180), 10800, 1e-9);
 }
 
 TEST(Sailing, greatCircleCrossesMeridians)
 {
     // On the circle both ways round, in both hemispheres, and across 180: the ends and, where the
     // circle is symmetrical, its middle. tan(mid) = tan(end) / cos(half the change of longitude).
-    EXPECT_NEAR(GCLatitudeAt(35, 170, 35, -150, -170), 36.414878, 5e-6);
-    EXPECT_NEAR(GCLatitudeAt(-35, 10, -35, -30, -10), -36.414878, 5e-6);
-    EXPECT_NEAR(GCLatitudeAt(-33.54, 18.25, 40.42, -74, -74), 40.42, 1e-9);
-    EXPECT_NEAR(GCLatitudeAt(0, 10, 0, 50, 20), 0, 1e-9);
-    EXPECT_NEAR(GCLatitudeAt(20, 10, 30, 10, 10), 20, 1e-9) << "along a meridian: the departure";
+    EXPECT_NEAR(by(GCLatitudeAt)(35, 170, 35, -150, -170), 36.414878, 5e-6);
+    EXPECT_NEAR(by(GCLatitudeAt)(-35, 10, -35, -30, -10), -36.414878, 5e-6);
+    EXPECT_NEAR(by(GCLatitudeAt)(-33.54, 18.25, 40.42, -74, -74), 40.42, 1e-9);
+    EXPECT_NEAR(by(GCLatitudeAt)(0, 10, 0, 50, 20), 0, 1e-9);
+    EXPECT_NEAR(by(GCLatitudeAt)(20, 10, 30, 10, 10), 20, 1e-9)
+        << "along a meridian: the departure";
 }
 
 } // namespace

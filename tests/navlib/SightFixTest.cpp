@@ -15,23 +15,33 @@ namespace NavFunc113
 namespace
 {
 
-Sight sightOf(DegMin GHA, DegMin declination, DegMin observed, Hours sinceFix)
+Degrees packed(double value)
 {
-    return {DegMinToDeg(GHA), DegMinToDeg(declination), DegMinToDeg(observed), sinceFix};
+    return DegMinToDeg(DegMin(value));
 }
 
-Position positionOf(DegMin latitude, DegMin longitude)
+Sight sightOf(double GHA, double declination, double observed, double sinceFix)
 {
-    return {DegMinToDeg(latitude), DegMinToDeg(longitude)};
+    return {packed(GHA), packed(declination), packed(observed), Hours(sinceFix)};
 }
 
-Miles milesApart(const Position& a, const Position& b)
+Position positionOf(double latitude, double longitude)
 {
-    return 60 * std::hypot(a.latitude - b.latitude,
-                           (a.longitude - b.longitude) * std::cos(DegToRad(a.latitude)));
+    return {packed(latitude), packed(longitude)};
 }
 
-constexpr Hours clock(int h, int m, int s)
+double milesApart(const Position& a, const Position& b)
+{
+    return 60 * std::hypot((a.latitude - b.latitude).value(),
+                           (a.longitude - b.longitude).value() * cos(a.latitude));
+}
+
+Motion motionOf(double course, double speed)
+{
+    return {Degrees(course), Knots(speed)};
+}
+
+constexpr double clock(int h, int m, int s)
 {
     return h + m / 60.0 + s / 3600.0;
 }
@@ -51,19 +61,19 @@ const std::vector<Example>& examples()
          {sightOf(357.132, -23.226, 24.4208, clock(11, 45, 11) - 15.5),
           sightOf(53.243, -23.228, 52.3048, 0)},
          positionOf(14.0252, -52.417),
-         {271, 8},
+         motionOf(271, 8),
          positionOf(14.060, -52.258)},
         {"sun, run, sun; second",
          {sightOf(343.238, -23.189, 19.297, clock(10, 49, 6) - clock(14, 37, 10)),
           sightOf(40.237, -23.193, 52.413, 0)},
          positionOf(13.53, -44.586),
-         {270, 19 / (clock(14, 37, 10) - clock(10, 49, 6))},
+         motionOf(270, 19 / (clock(14, 37, 10) - clock(10, 49, 6))),
          positionOf(13.423, -45.056)},
         {"high altitudes",
          {sightOf(351.554, -18.004, 88.080, -48.0 / 60),
           sightOf(354.104, -18.005, 88.339, -39.0 / 60)},
          positionOf(-19.203, 6.3922),
-         {164, 12},
+         motionOf(164, 12),
          positionOf(-19.224, 6.376)},
         {"four stars",
          {sightOf(317.352, -60.497, 35.0797, clock(23, 41, 56) - clock(23, 45, 22)),
@@ -71,7 +81,7 @@ const std::vector<Example>& examples()
           sightOf(108.485, 16.303, 13.4222, clock(23, 43, 12) - clock(23, 45, 22)),
           sightOf(231.557, -56.441, 22.1698, 0)},
          positionOf(-53.3868, -74.437),
-         {119.3, 10.3},
+         motionOf(119.3, 10.3),
          positionOf(-53.598, -74.432)},
     };
     return list;
@@ -94,26 +104,26 @@ TEST(SightFix, ellipses)
     };
     const Fix two = fixOf(examples()[0], {});
     const ErrorEllipse plain = EllipseOf(two.matrix, AssumedSigmaFactor());
-    EXPECT_NEAR(plain.semiMajor, 3.63, 0.01);
-    EXPECT_NEAR(plain.semiMinor, 1.97, 0.01);
-    EXPECT_NEAR(plain.majorAxis, 63, 0.5);
+    EXPECT_NEAR(plain.semiMajor.value(), 3.63, 0.01);
+    EXPECT_NEAR(plain.semiMinor.value(), 1.97, 0.01);
+    EXPECT_NEAR(plain.majorAxis.value(), 63, 0.5);
     const ErrorEllipse run =
-        EllipseOf(fixOf(examples()[0], {1, 0.05, 2}).matrix, AssumedSigmaFactor());
-    EXPECT_NEAR(run.semiMajor, 5.28, 0.02);
-    EXPECT_NEAR(run.semiMinor, 2.30, 0.01);
-    EXPECT_NEAR(run.majorAxis, 81, 0.5);
+        EllipseOf(fixOf(examples()[0], {Miles(1), 0.05, Degrees(2)}).matrix, AssumedSigmaFactor());
+    EXPECT_NEAR(run.semiMajor.value(), 5.28, 0.02);
+    EXPECT_NEAR(run.semiMinor.value(), 2.30, 0.01);
+    EXPECT_NEAR(run.majorAxis.value(), 81, 0.5);
 
     const Fix four = fixOf(examples()[3], {});
     EXPECT_NEAR(four.weightedSquares, 0.394, 0.02);
     EXPECT_NEAR(MeasuredScale(four), 0.44, 0.01);
     const double residuals[] = {-0.47, 0.03, -0.42, 0.03};
     for (std::size_t i = 0; i < 4; ++i)
-        EXPECT_NEAR(four.residuals[i], residuals[i], 0.02);
+        EXPECT_NEAR(four.residuals[i].value(), residuals[i], 0.02);
     const ErrorEllipse stars = EllipseOf(four.matrix, AssumedSigmaFactor());
-    EXPECT_NEAR(stars.semiMajor, 3.42, 0.01);
-    EXPECT_NEAR(stars.semiMinor, 1.31, 0.01);
-    EXPECT_NEAR(stars.majorAxis, 64, 0.5);
-    EXPECT_NEAR(EllipseOf({2, 0, 1}, 1).majorAxis, 90, 1e-9)
+    EXPECT_NEAR(stars.semiMajor.value(), 3.42, 0.01);
+    EXPECT_NEAR(stars.semiMinor.value(), 1.31, 0.01);
+    EXPECT_NEAR(stars.majorAxis.value(), 64, 0.5);
+    EXPECT_NEAR(EllipseOf({2, 0, 1}, 1).majorAxis.value(), 90, 1e-9)
         << "north is best known where A is greater than C";
 
     EXPECT_NEAR(AssumedSigmaFactor(), 2.4477, 5e-5);
@@ -126,24 +136,25 @@ TEST(SightFix, ellipses)
 TEST(SightFix, heavierLineIsTrustedMore)
 {
     // Two lines from one direction, 4 miles apart, one of them after a long run, and one across.
-    const Position dr{30, 0};
-    const auto towards = [&](Degrees GHA, Miles intercept, Hours since) {
-        const Position then = Advanced(dr, {90, 20}, since);
-        const double altitude = PlaceAboveHorizon(GHA, 10, then).altitude;
-        return Sight{GHA, 10, altitude + intercept / 60, since};
+    const Position dr{Degrees(30), {}};
+    const auto towards = [&](double GHA, double intercept, double since) {
+        const Position then = Advanced(dr, motionOf(90, 20), Hours(since));
+        const Degrees altitude = PlaceAboveHorizon(Degrees(GHA), Degrees(10), then).altitude;
+        return Sight{Degrees(GHA), Degrees(10), altitude + ArcOfMiles(Miles(intercept)),
+                     Hours(since)};
     };
     const std::vector<Sight> sights = {towards(300, 4, -6), towards(300, 0, 0), towards(0, 0, 0)};
-    const Fix fix = LeastSquaresFix(sights, dr, {90, 20}, {0.5, 0.05, 2});
+    const Fix fix = LeastSquaresFix(sights, dr, motionOf(90, 20), {Miles(0.5), 0.05, Degrees(2)});
     ASSERT_EQ(fix.outcome, FixOutcome::Found);
-    EXPECT_LT(std::fabs(fix.residuals[1]), 0.5);
-    EXPECT_GT(std::fabs(fix.residuals[0]), 3);
+    EXPECT_LT(std::fabs(fix.residuals[1].value()), 0.5);
+    EXPECT_GT(std::fabs(fix.residuals[0].value()), 3);
 }
 
 TEST(SightFix, noFixWhereThereIsNone)
 {
-    const Position dr{30, 0};
-    const auto sight = [&](Degrees GHA) {
-        return Sight{GHA, 0, PlaceAboveHorizon(GHA, 0, dr).altitude, 0};
+    const Position dr{Degrees(30), {}};
+    const auto sight = [&](double GHA) {
+        return Sight{Degrees(GHA), {}, PlaceAboveHorizon(Degrees(GHA), {}, dr).altitude, {}};
     };
     const auto outcome = [&](std::vector<Sight> sights) {
         return LeastSquaresFix(sights, dr, {}, {}).outcome;
@@ -152,53 +163,60 @@ TEST(SightFix, noFixWhereThereIsNone)
     EXPECT_EQ(outcome({sight(300)}), FixOutcome::TooFewLines);
     EXPECT_EQ(outcome({sight(300), sight(300)}), FixOutcome::Parallel);
     EXPECT_EQ(outcome({sight(300), sight(330)}), FixOutcome::Found);
-    EXPECT_EQ(outcome({Sight{0, 0, 89.9, 0}, Sight{10, 0, 89.9, 0}}), FixOutcome::NoConvergence)
+    EXPECT_EQ(
+        outcome({Sight{{}, {}, Degrees(89.9), {}}, Sight{Degrees(10), {}, Degrees(89.9), {}}}),
+        FixOutcome::NoConvergence)
         << "small circles that do not meet";
-    EXPECT_NEAR(CutAngle(std::array{10.0, 185.0, 350.0}), 20, 1e-9);
-    EXPECT_EQ(CutAngle(std::array{10.0}), 0);
+    EXPECT_NEAR(CutAngle(std::array{Degrees(10), Degrees(185), Degrees(350)}).value(), 20, 1e-9);
+    EXPECT_EQ(CutAngle(std::array{Degrees(10)}), Degrees(0));
 }
 
 TEST(SightFix, meridianPassage)
 {
-    EXPECT_NEAR(DegToDegMin(MeridianLatitude(DegMinToDeg(-18.347), DegMinToDeg(49.46), true)),
+    EXPECT_NEAR(DegToDegMin(MeridianLatitude(packed(-18.347), packed(49.46), true)).packed(),
                 21.393, 1e-6);
-    EXPECT_NEAR(DegToDegMin(MeridianLatitude(DegMinToDeg(-13.337), DegMinToDeg(49.10), true)),
+    EXPECT_NEAR(DegToDegMin(MeridianLatitude(packed(-13.337), packed(49.10), true)).packed(),
                 27.163, 1e-6);
-    EXPECT_NEAR(MeridianLatitude(20, 80, false), 10, 1e-12) << "the Sun to the north";
+    EXPECT_NEAR(MeridianLatitude(Degrees(20), Degrees(80), false).value(), 10, 1e-12)
+        << "the Sun to the north";
 
     const DateTime morning = MakeDateTime({2020, 12, 17}, 11.75 * 3600);
-    const Motion motion{271, 8};
+    const Motion motion = motionOf(271, 8);
     const Position dr = positionOf(14.02, -52.11);
     const DateTime noon = LocalApparentNoon(morning, dr, motion);
-    const Position then = Advanced(dr, motion, (noon - morning) * 24);
-    EXPECT_NEAR(std::remainder(DegMinToDeg(SunGHA(noon)) + then.longitude, 360), 0, 0.001);
+    const Position then = Advanced(dr, motion, Hours((noon - morning) * 24));
+    EXPECT_NEAR(WithinHalfTurn(DegMinToDeg(SunGHA(noon)) + then.longitude).value(), 0, 0.001);
     EXPECT_NEAR((noon - morning) * 24, 3.68, 0.05);
-    EXPECT_NEAR(GreatestAltitudeDelay(40, -20, 0, -20), 367.7, 0.5);
+    EXPECT_NEAR(GreatestAltitudeDelay(Degrees(40), Degrees(-20), 0, -20), 367.7, 0.5);
 }
 
 TEST(SightFix, circleOfPosition)
 {
-    const Position dr{14, -52};
+    const Position dr{Degrees(14), Degrees(-52)};
     for (double observed : {24.5, 75.0, 88.9, 90.1}) {
-        const Sight sight{55, -10, observed, 0};
-        for (const Position& point : CirclePoints(sight, dr, 60, 13)) {
-            const double seen = PlaceAboveHorizon(sight.GHA, sight.declination, point).altitude;
+        const Sight sight{Degrees(55), Degrees(-10), Degrees(observed), {}};
+        for (const Position& point : CirclePoints(sight, dr, Miles(60), 13)) {
+            const double seen =
+                PlaceAboveHorizon(sight.GHA, sight.declination, point).altitude.value();
             EXPECT_NEAR(seen, 90 - std::fabs(90 - observed), 1e-9);
         }
     }
     // The bend by formula is that of the true circle.
-    const Sight high{52, 5, 80, 0};
-    const auto points = CirclePoints(high, {14.9, -52}, 40, 3);
-    EXPECT_NEAR(60 * (points[1].latitude - points[0].latitude), LineBend(40, 80), 0.1);
-    EXPECT_NEAR(LineBend(40, 70), 0.6, 0.05);
+    const Sight high{Degrees(52), Degrees(5), Degrees(80), {}};
+    const auto points = CirclePoints(high, {Degrees(14.9), Degrees(-52)}, Miles(40), 3);
+    EXPECT_NEAR(60 * (points[1].latitude - points[0].latitude).value(),
+                LineBend(Miles(40), Degrees(80)).value(), 0.1);
+    EXPECT_NEAR(LineBend(Miles(40), Degrees(70)).value(), 0.6, 0.05);
 }
 
 TEST(SightFix, runs)
 {
-    const Position there = Advanced({14, 179.9}, {90, 10}, 1);
-    EXPECT_NEAR(there.longitude, -180.1 + 10 / (60 * std::cos(DegToRad(14))), 1e-9);
-    const Position back = Advanced(Advanced({50, -5}, {33, 17}, 7), {33, 17}, -7);
-    EXPECT_LT(milesApart(back, {50, -5}), 1e-6);
+    const Position there = Advanced({Degrees(14), Degrees(179.9)}, motionOf(90, 10), Hours(1));
+    EXPECT_NEAR(there.longitude.value(), -180.1 + 10 / (60 * cos(Degrees(14))), 1e-9);
+    const Position start{Degrees(50), Degrees(-5)};
+    const Motion motion = motionOf(33, 17);
+    const Position back = Advanced(Advanced(start, motion, Hours(7)), motion, Hours(-7));
+    EXPECT_LT(milesApart(back, start), 1e-6);
 }
 
 } // namespace

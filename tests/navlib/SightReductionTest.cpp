@@ -3,6 +3,8 @@
 
 #include "navlib/angles.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -16,8 +18,8 @@ TEST(SightReduction, computedAltitudeAndAzimuth)
 {
     const struct {
         const char* fault;
-        DegMin GHA, declination, latitude, longitude, altitude;
-        Degrees azimuth;
+        double GHA, declination, latitude, longitude, altitude;
+        double azimuth;
     } rows[] = {
         {"east longitude subtracted", 341.59, -10, 35, 18, 45, 179.98},
         {"E1 morning", 357.132, -23.226, 14.02, -52.11, 24.313, 124.3},
@@ -27,22 +29,22 @@ TEST(SightReduction, computedAltitudeAndAzimuth)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        const DegMin altitude =
-            ComputedAltitude(row.GHA, row.declination, row.latitude, row.longitude);
-        EXPECT_NEAR(60 * (DegMinToDeg(altitude) - DegMinToDeg(row.altitude)), 0, 0.1);
-        EXPECT_NEAR(ComputedAzimuth(row.GHA, row.declination, row.latitude, row.longitude),
+        const double altitude =
+            by(ComputedAltitude)(row.GHA, row.declination, row.latitude, row.longitude);
+        EXPECT_NEAR(60 * (by(DegMinToDeg)(altitude) - by(DegMinToDeg)(row.altitude)), 0, 0.1);
+        EXPECT_NEAR(by(ComputedAzimuth)(row.GHA, row.declination, row.latitude, row.longitude),
                     row.azimuth, 0.06);
     }
-    EXPECT_NEAR(ComputedAltitude(0, 20, 35, 0), 75, 1e-9) << "on the meridian";
-    EXPECT_THROW(ComputedAltitude(0, 0, 0, 0), ArithmeticError) << "the Sun in the zenith";
-    EXPECT_THROW(ComputedAzimuth(270, 0, 0, 30), ArithmeticError) << "due east, exactly";
+    EXPECT_NEAR(by(ComputedAltitude)(0, 20, 35, 0), 75, 1e-9) << "on the meridian";
+    EXPECT_THROW(by(ComputedAltitude)(0, 0, 0, 0), ArithmeticError) << "the Sun in the zenith";
+    EXPECT_THROW(by(ComputedAzimuth)(270, 0, 0, 30), ArithmeticError) << "due east, exactly";
 }
 
 TEST(SightReduction, altitudeCorrection)
 {
     const struct {
         const char* fault;
-        DegMin observed;
+        double observed;
         float month;
         double eye, air, sea;
         float pressure;
@@ -62,21 +64,24 @@ TEST(SightReduction, altitudeCorrection)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        const DegMin corrected =
-            SunAltitudeCorrection(row.observed, row.month, row.eye, row.air, row.sea, row.pressure);
-        EXPECT_NEAR(60 * (DegMinToDeg(corrected) - DegMinToDeg(row.observed)), row.minutes, 0.002);
+        const DegMin corrected = SunAltitudeCorrection(
+            DegMin(row.observed), row.month, Metres(row.eye), row.air, row.sea, row.pressure);
+        EXPECT_NEAR(60 * (DegMinToDeg(corrected).value() - by(DegMinToDeg)(row.observed)),
+                    row.minutes, 0.002);
     }
 }
 
 TEST(SightReduction, tablesTakeThePackedAltitude)
 {
     // 34.30 and 34 degrees 30 are looked up apart; a table in true degrees would give 1.40.
-    const double refraction = SunAltitudeTerms(34.30, 7, 0, 10, 10, 1013).refraction;
+    const double refraction =
+        SunAltitudeTerms(DegMin(34.30), 7, Metres(0), 10, 10, 1013).refraction;
     EXPECT_NEAR(refraction, 1.415, 0.003);
-    EXPECT_EQ(SunAltitudeTerms(30, 7, 0, 30, 30, 1013).temperature, 0.1) << "30 itself counts";
-    EXPECT_THROW(SunAltitudeCorrection(30, 13, 0, 10, 10, 1013), ArithmeticError);
-    EXPECT_THROW(SunAltitudeCorrection(30, 0.5f, 0, 10, 10, 1013), ArithmeticError);
-    EXPECT_THROW(SunAltitudeCorrection(30, 6, -1, 10, 10, 1013), ArithmeticError);
+    EXPECT_EQ(SunAltitudeTerms(DegMin(30), 7, Metres(0), 30, 30, 1013).temperature, 0.1)
+        << "30 itself counts";
+    EXPECT_THROW(SunAltitudeCorrection(DegMin(30), 13, Metres(0), 10, 10, 1013), ArithmeticError);
+    EXPECT_THROW(SunAltitudeCorrection(DegMin(30), 0.5f, Metres(0), 10, 10, 1013), ArithmeticError);
+    EXPECT_THROW(SunAltitudeCorrection(DegMin(30), 6, Metres(-1), 10, 10, 1013), ArithmeticError);
 }
 
 } // namespace

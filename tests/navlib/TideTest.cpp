@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/tide.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 namespace NavFunc113
@@ -13,7 +15,7 @@ TEST(Tide, wholeTurnsAreAddedUntilTheThresholdIsPassed)
     const struct {
         const char* fault;
         Degrees (*change)(Degrees, Degrees);
-        Degrees thisDay, nextDay, change24;
+        double thisDay, nextDay, change24;
     } rows[] = {
         {"kept above 600", SemidiurnalChange, 700, 0, 700},
         {"one turn", SemidiurnalChange, 335, 0, 695},
@@ -29,7 +31,7 @@ TEST(Tide, wholeTurnsAreAddedUntilTheThresholdIsPassed)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_DOUBLE_EQ(row.change(row.thisDay, row.nextDay), row.change24);
+        EXPECT_DOUBLE_EQ(by(row.change)(row.thisDay, row.nextDay), row.change24);
     }
 }
 
@@ -37,12 +39,13 @@ TEST(Tide, wholeTurnsAreAddedUntilTheThresholdIsPassed)
 // quarter-diurnal 0.1 at 30 degrees and sixth-diurnal 0.05 at 40.
 TEST(Tide, harmonicSumInEveryQuadrantOfTheSemidiurnalWave)
 {
-    const TideConstituents station{{{0, 0}, {60, 2}, {0, 0}, {0, 0}}};
-    const DailyFactors day{{{0, 1}, {0, 1}, {0, 1}, {0, 1}}};
-    const ShallowWaterTerms shallow{30, 0.1, 40, 0.05};
+    const TideConstituents station{
+        {{Degrees(0), 0}, {Degrees(60), 2}, {Degrees(0), 0}, {Degrees(0), 0}}};
+    const DailyFactors day{{{Degrees(0), 1}, {Degrees(0), 1}, {Degrees(0), 1}, {Degrees(0), 1}}};
+    const ShallowWaterTerms shallow{Degrees(30), 0.1, Degrees(40), 0.05};
     const struct {
         const char* fault;
-        Hours t;
+        double t;
         double sum;
     } rows[] = {
         {"60 degrees", 0, 1 + 0.4 * -0.8660254 + 0.4 * -0.7660444},
@@ -54,43 +57,53 @@ TEST(Tide, harmonicSumInEveryQuadrantOfTheSemidiurnalWave)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_NEAR(TideHarmonicSum(row.t, station, day, day, shallow), row.sum, 1e-6);
+        EXPECT_NEAR(TideHarmonicSum(Hours(row.t), station, day, day, shallow), row.sum, 1e-6);
     }
-    EXPECT_DOUBLE_EQ(TideHarmonicSum(3, {}, day, day, shallow), 0) << "no wave at all";
+    EXPECT_DOUBLE_EQ(TideHarmonicSum(Hours(3), {}, day, day, shallow), 0) << "no wave at all";
 }
 
 TEST(Tide, factorsAreInterpolatedForwardsAndEveryConstituentCounts)
 {
     // Diurnal waves of 15 degrees an hour; at noon a cosine of -1 at phase 0, 1 at phase 180.
-    const DailyFactors thisDay{{{0, 1}, {0, 1}, {10, 1.00}, {20, 0.80}}};
-    const DailyFactors nextDay{{{0, 1}, {0, 1}, {10, 1.24}, {20, 0.60}}};
-    const TideConstituents K1{{{0, 0}, {0, 0}, {-10, 1}, {0, 0}}};
-    const TideConstituents O1{{{0, 0}, {0, 0}, {0, 0}, {160, 3}}};
-    const TideConstituents M2{{{90, 3}, {0, 0}, {0, 0}, {0, 0}}};
-    EXPECT_NEAR(TideHarmonicSum(12, K1, thisDay, nextDay, {}), -1.12, 1e-12);
-    EXPECT_NEAR(TideHarmonicSum(12, O1, thisDay, nextDay, {}), 2.10, 1e-12);
-    EXPECT_NEAR(TideHarmonicSum(3, M2, thisDay, nextDay, {}), 3, 1e-12)
+    const DailyFactors thisDay{
+        {{Degrees(0), 1}, {Degrees(0), 1}, {Degrees(10), 1.00}, {Degrees(20), 0.80}}};
+    const DailyFactors nextDay{
+        {{Degrees(0), 1}, {Degrees(0), 1}, {Degrees(10), 1.24}, {Degrees(20), 0.60}}};
+    const TideConstituents K1{
+        {{Degrees(0), 0}, {Degrees(0), 0}, {Degrees(-10), 1}, {Degrees(0), 0}}};
+    const TideConstituents O1{
+        {{Degrees(0), 0}, {Degrees(0), 0}, {Degrees(0), 0}, {Degrees(160), 3}}};
+    const TideConstituents M2{
+        {{Degrees(90), 3}, {Degrees(0), 0}, {Degrees(0), 0}, {Degrees(0), 0}}};
+    EXPECT_NEAR(TideHarmonicSum(Hours(12), K1, thisDay, nextDay, {}), -1.12, 1e-12);
+    EXPECT_NEAR(TideHarmonicSum(Hours(12), O1, thisDay, nextDay, {}), 2.10, 1e-12);
+    EXPECT_NEAR(TideHarmonicSum(Hours(3), M2, thisDay, nextDay, {}), 3, 1e-12)
         << "the angle decreases: 90 degrees less 3 hours of 30";
 }
 
 TEST(Tide, halfHourlyValuesAreTheSumsOfTheirTimes)
 {
-    const TideConstituents station{
-        {{134.6, 0.449}, {172.3, 0.221}, {174.7, 0.248}, {146.4, 0.194}}};
-    const DailyFactors thisDay{{{30, 1.09}, {15, 0.70}, {170, 1.32}, {223, 1.25}}};
-    const DailyFactors nextDay{{{56, 1.05}, {17, 0.75}, {170, 1.30}, {251, 1.21}}};
-    const ShallowWaterTerms shallow{220, 0.0169, 25, 0.005};
+    const TideConstituents station{{{Degrees(134.6), 0.449},
+                                    {Degrees(172.3), 0.221},
+                                    {Degrees(174.7), 0.248},
+                                    {Degrees(146.4), 0.194}}};
+    const DailyFactors thisDay{
+        {{Degrees(30), 1.09}, {Degrees(15), 0.70}, {Degrees(170), 1.32}, {Degrees(223), 1.25}}};
+    const DailyFactors nextDay{
+        {{Degrees(56), 1.05}, {Degrees(17), 0.75}, {Degrees(170), 1.30}, {Degrees(251), 1.21}}};
+    const ShallowWaterTerms shallow{Degrees(220), 0.0169, Degrees(25), 0.005};
     const TideValues values = TideDay(station, thisDay, nextDay, shallow).halfHourly(1.1);
     for (int i = 0; i < samplesOfDay; ++i)
         EXPECT_NEAR(values[static_cast<std::size_t>(i)],
-                    TideHarmonicSum(i / 2.0, station, thisDay, nextDay, shallow) + 1.1, 1e-12);
+                    TideHarmonicSum(Hours(i / 2.0), station, thisDay, nextDay, shallow) + 1.1,
+                    1e-12);
 }
 
 TEST(Tide, searchStartsAtHalfPastMidnightWithItsOwnBounds)
 {
     TideValues values{};
     values.fill(1);
-    const TideExtremes earlier{9, 7.5, -9, 11.5};
+    const TideExtremes earlier{9, Hours(7.5), -9, Hours(11.5)};
 
     values[0] = 4;
     values[20] = 3;
@@ -99,20 +112,20 @@ TEST(Tide, searchStartsAtHalfPastMidnightWithItsOwnBounds)
     values[48] = 0.25;
     TideExtremes found = SearchHighestLowest(values, earlier);
     EXPECT_EQ(found.highest, 3) << "00:00 takes no part";
-    EXPECT_EQ(found.timeHigh, 10) << "the earlier of two equal ones";
+    EXPECT_EQ(found.timeHigh, Hours(10)) << "the earlier of two equal ones";
     EXPECT_EQ(found.lowest, 0.25);
-    EXPECT_EQ(found.timeLow, 24);
+    EXPECT_EQ(found.timeLow, Hours(24));
 
     values.fill(-1);
     found = SearchHighestLowest(values, earlier);
     EXPECT_EQ(found.highest, 0) << "a stream that never turns";
-    EXPECT_EQ(found.timeHigh, 7.5) << "keeps the time it had";
-    EXPECT_EQ(found.timeLow, 0.5);
+    EXPECT_EQ(found.timeHigh, Hours(7.5)) << "keeps the time it had";
+    EXPECT_EQ(found.timeLow, Hours(0.5));
 
     values.fill(6);
     found = SearchHighestLowest(values, earlier);
     EXPECT_EQ(found.lowest, 5);
-    EXPECT_EQ(found.timeLow, 11.5);
+    EXPECT_EQ(found.timeLow, Hours(11.5));
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/weather_terms.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -13,7 +15,7 @@ namespace
 TEST(WeatherTerms, seaStateBoundsCloseAbove)
 {
     const struct {
-        Metres height;
+        double height;
         int code;
         std::string_view name;
     } rows[] = {{0, 0, "Calm"},       {-1, 1, "Rippled"},      {0.1, 1, "Rippled"},
@@ -23,15 +25,15 @@ TEST(WeatherTerms, seaStateBoundsCloseAbove)
                 {14, 8, "Very High"}, {14.01, 9, "Phenomenal"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.height);
-        EXPECT_EQ(SeaStateCode(row.height), row.code);
-        EXPECT_EQ(SeaStateName(row.height), row.name);
+        EXPECT_EQ(SeaStateCode(Metres(row.height)), row.code);
+        EXPECT_EQ(SeaStateName(Metres(row.height)), row.name);
     }
 }
 
 TEST(WeatherTerms, visibilityBoundsCloseBelow)
 {
     const struct {
-        Kilometres visibility;
+        double visibility;
         int code;
         std::string_view name;
     } rows[] = {{-1, 0, "Dence fog"},
@@ -48,19 +50,19 @@ TEST(WeatherTerms, visibilityBoundsCloseBelow)
                 {50, 9, "Visivility exceptional"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.visibility);
-        EXPECT_EQ(VisibilityCode(row.visibility), row.code);
-        EXPECT_EQ(VisibilityName(row.visibility), row.name);
+        EXPECT_EQ(VisibilityCode(Kilometres(row.visibility)), row.code);
+        EXPECT_EQ(VisibilityName(Kilometres(row.visibility)), row.name);
     }
 }
 
 TEST(WeatherTerms, swell)
 {
-    EXPECT_EQ(SwellTerm(-1), "No swell");
-    EXPECT_EQ(SwellTerm(0), "No swell");
-    EXPECT_EQ(SwellTerm(1.99), "Slight swell");
-    EXPECT_EQ(SwellTerm(2), "Mod./Rough swell");
-    EXPECT_EQ(SwellTerm(3.99), "Mod./Rough swell");
-    EXPECT_EQ(SwellTerm(4), "Heavy swell");
+    EXPECT_EQ(SwellTerm(Metres(-1)), "No swell");
+    EXPECT_EQ(SwellTerm(Metres(0)), "No swell");
+    EXPECT_EQ(SwellTerm(Metres(1.99)), "Slight swell");
+    EXPECT_EQ(SwellTerm(Metres(2)), "Mod./Rough swell");
+    EXPECT_EQ(SwellTerm(Metres(3.99)), "Mod./Rough swell");
+    EXPECT_EQ(SwellTerm(Metres(4)), "Heavy swell");
 }
 
 TEST(WeatherTerms, lettersStandInTheOrderOfTheButtonsAndAreFoundByName)

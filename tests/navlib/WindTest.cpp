@@ -3,6 +3,8 @@
 
 #include "tests/navlib/FaultOf.h"
 
+#include "tests/navlib/ByNumbers.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -22,12 +24,12 @@ TEST(Wind, trueWind)
 {
     const struct {
         const char* fault;
-        Degrees course;
-        Knots ship;
-        Degrees relative;
-        Knots apparent;
-        Degrees direction;
-        Knots speed;
+        double course;
+        double ship;
+        double relative;
+        double apparent;
+        double direction;
+        double speed;
         const char* name;
     } rows[] = {
         {"stopped ship, port side", 10, 0, -30, 10, 340, 10, "NNW"},
@@ -40,22 +42,26 @@ TEST(Wind, trueWind)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_NEAR(TrueWindDirection(row.course, row.ship, row.relative, row.apparent),
+        EXPECT_NEAR(by(TrueWindDirection)(row.course, row.ship, row.relative, row.apparent),
                     row.direction, 1e-8);
-        EXPECT_NEAR(TrueWindSpeed(row.ship, row.relative, row.apparent), row.speed, 2e-5);
-        EXPECT_EQ(TrueWindName(row.course, row.ship, row.relative, row.apparent), row.name);
+        EXPECT_NEAR(by(TrueWindSpeed)(row.ship, row.relative, row.apparent), row.speed, 2e-5);
+        EXPECT_EQ(TrueWindName(Degrees(row.course), Knots(row.ship), Degrees(row.relative),
+                               Knots(row.apparent)),
+                  row.name);
     }
-    EXPECT_EQ(faultOf([] { TrueWindSpeed(infinity, 0, infinity); }), Condition::InvalidArgument);
-    EXPECT_EQ(faultOf([] { TrueWindSpeed(1e200, 0, 0); }), Condition::Overflow);
-    EXPECT_EQ(faultOf([] { TrueWindName(0, 0, nan, 1); }), Condition::InvalidArgument);
+    EXPECT_EQ(faultOf([] { by(TrueWindSpeed)(infinity, 0, infinity); }),
+              Condition::InvalidArgument);
+    EXPECT_EQ(faultOf([] { by(TrueWindSpeed)(1e200, 0, 0); }), Condition::Overflow);
+    EXPECT_EQ(faultOf([] { TrueWindName({}, {}, Degrees(nan), Knots(1)); }),
+              Condition::InvalidArgument);
 }
 
 TEST(Wind, compassNameRoundsTheCallersDirection)
 {
     const struct {
-        Degrees direction;
+        double direction;
         const char* name;
-        Degrees left;
+        double left;
     } rows[] = {
         {0, "North", 0},     {11.4, "North", 11}, {11.6, "NNE", 12},     {33.4, "NNE", 33},
         {34, "NE", 34},      {348.4, "NNW", 348}, {348.6, "North", 349}, {359.9, "North", 0},
@@ -64,11 +70,14 @@ TEST(Wind, compassNameRoundsTheCallersDirection)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.direction);
-        Degrees direction = row.direction;
+        Degrees direction(row.direction);
         EXPECT_EQ(CompassName(direction), row.name);
-        EXPECT_EQ(direction, row.left);
+        EXPECT_EQ(direction.value(), row.left);
     }
-    const auto fault = [](Degrees direction) { return faultOf([&] { CompassName(direction); }); };
+    const auto fault = [](double number) {
+        Degrees direction(number);
+        return faultOf([&] { CompassName(direction); });
+    };
     EXPECT_EQ(fault(-20), Condition::SubscriptOutOfRange);
     EXPECT_EQ(fault(3e9), Condition::Overflow);
     EXPECT_EQ(fault(-infinity), Condition::Overflow);
@@ -77,15 +86,15 @@ TEST(Wind, compassNameRoundsTheCallersDirection)
 
 TEST(Wind, beaufortBoundsAreInclusiveBelow)
 {
-    const Knots bounds[] = {1, 4, 7, 11, 17, 22, 28, 34, 41};
+    const double bounds[] = {1, 4, 7, 11, 17, 22, 28, 34, 41};
     int number = 0;
-    for (const Knots bound : bounds) {
-        EXPECT_EQ(BeaufortNumber(std::nextafter(bound, 0)), number);
-        EXPECT_EQ(BeaufortNumber(bound), ++number);
+    for (const double bound : bounds) {
+        EXPECT_EQ(BeaufortNumber(Knots(std::nextafter(bound, 0))), number);
+        EXPECT_EQ(BeaufortNumber(Knots(bound)), ++number);
     }
-    EXPECT_EQ(BeaufortNumber(-1), 0);
-    EXPECT_EQ(BeaufortNumber(infinity), 9);
-    EXPECT_EQ(faultOf([] { BeaufortNumber(nan); }), Condition::InvalidArgument);
+    EXPECT_EQ(BeaufortNumber(Knots(-1)), 0);
+    EXPECT_EQ(BeaufortNumber(Knots(infinity)), 9);
+    EXPECT_EQ(faultOf([] { BeaufortNumber(Knots(nan)); }), Condition::InvalidArgument);
 }
 
 } // namespace

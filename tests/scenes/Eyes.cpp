@@ -124,8 +124,8 @@ void memory(Stage& stage, const Words& words)
     const KV_Savedvalue& saved = stage.program().saved();
     const std::string& what = wordAt(words, 0);
     const std::map<std::string, double> values = {{"single", saved.singleMemo()},
-                                                  {"latitude", saved.memoLatitude()},
-                                                  {"longitude", saved.memoLongitude()},
+                                                  {"latitude", saved.memoLatitude().packed()},
+                                                  {"longitude", saved.memoLongitude().packed()},
                                                   {"TD", saved.TD()}};
     const auto found = values.find(what);
     if (found == values.end()) throw std::runtime_error("no memory of " + what);

@@ -75,12 +75,12 @@ TEST(StationFile, angleThatRoundsToAWholeTurnIsZeroAndMissingTermsAreNothing)
     Station station;
     station.place = "Nowhere, at all";
     station.grade = "A";
-    station.zone = -3.5;
-    station.constants = {{"M2", {1, 359.97 + 3.5 * 28.9841042}},
-                         {"S2", {0.5, 105}},
-                         {"K1", {0.1, 0}},
-                         {"O1", {0.1, 0}},
-                         {"M4", {0.02, 2 * (359.97 + 3.5 * 28.9841042) + 359.8}}};
+    station.zone = Hours(-3.5);
+    station.constants = {{"M2", {1, Degrees(359.97 + 3.5 * 28.9841042)}},
+                         {"S2", {0.5, Degrees(105)}},
+                         {"K1", {0.1, Degrees(0)}},
+                         {"O1", {0.1, Degrees(0)}},
+                         {"M4", {0.02, Degrees(2 * (359.97 + 3.5 * 28.9841042) + 359.8)}}};
     EXPECT_THAT(stationFile(station),
                 testing::StartsWith("Nowhere at all,-3.5,0.00,0.0,1.000,0.0,0.500,"));
     EXPECT_THAT(stationFile(station), testing::HasSubstr(",0,0.0200,0,0.0000,0.00,0.00,"));

@@ -58,10 +58,10 @@ Station stationFrom(const json& entry)
     station.uncertainty = entry.value("uncertainty", "");
     station.source = sourceInWords(entry);
     station.licence = licenceOf(entry);
-    station.zone = entry.at("zone_hours");
+    station.zone = Hours(entry.at("zone_hours").get<double>());
     station.meanLevel = entry.at("z0_m");
     for (const auto& [name, values] : entry.at("constituents").items())
-        station.constants[name] = {values.at(0), values.at(1)};
+        station.constants[name] = {values.at(0).get<double>(), Degrees(values.at(1).get<double>())};
     return station;
 }
 

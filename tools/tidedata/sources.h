@@ -14,8 +14,8 @@ namespace tidedata
 
 /// One published constant.
 struct Constant {
-    NavFunc113::Metres amplitude = 0;
-    Degrees greenwichLag = 0; ///< referred to Greenwich, times in UT
+    double amplitude = 0; ///< metres
+    Degrees greenwichLag; ///< referred to Greenwich, times in UT
 };
 
 /// A place with the constants that its station file is made of.
@@ -25,8 +25,8 @@ struct Station {
     std::string uncertainty; ///< of the constants, in words; empty for grade A
     std::string source;      ///< the records used, in words; for grade "none" why there is none
     std::string licence;     ///< licences of the records
-    Hours zone = 0;          ///< east positive
-    NavFunc113::Metres meanLevel = 0;
+    Hours zone;              ///< east positive
+    double meanLevel = 0;    ///< metres
     std::map<std::string, Constant, std::less<>> constants;
 };
 

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <optional>
 
 namespace tidedata
@@ -14,7 +15,7 @@ namespace tidedata
 namespace
 {
 
-constexpr long serial2000 = 36526; // 2000-01-01
+constexpr std::int64_t serial2000 = 36526; // 2000-01-01
 
 // What the licences of the records ask to be shipped with everything derived from them.
 constexpr std::string_view credit =
@@ -33,18 +34,18 @@ constexpr std::string_view credit =
     "#\n";
 
 // Speeds of the shallow-water constituents are sums of those of M2 and S2.
-Degrees zonePhase(const Station& station, const Constant& constant, Degrees speed)
+Degrees zonePhase(const Station& station, const Constant& constant, double speed)
 {
-    return reduced(constant.greenwichLag + speed * station.zone);
+    return reduced(constant.greenwichLag + Degrees(speed * station.zone.value()));
 }
 
 std::optional<ComplexConstant> complexConstant(const Station& station, std::string_view name,
-                                               Degrees speed)
+                                               double speed)
 {
     const auto found = station.constants.find(name);
     if (found == station.constants.end()) return std::nullopt;
     const Degrees kappa = zonePhase(station, found->second, speed);
-    return std::polar(found->second.amplitude, NavFunc113::DegToRad(kappa));
+    return std::polar(found->second.amplitude, NavFunc113::DegToRad(kappa).value());
 }
 
 // One equation of a fit: this power of the semidiurnal wave times the coefficient should be this
@@ -67,8 +68,8 @@ ComplexConstant fitted(std::initializer_list<Equation> equations)
 }
 
 struct Semidiurnal {
-    Degrees speedM2 = constituentOf("M2").speed;
-    Degrees speedS2 = constituentOf("S2").speed;
+    double speedM2 = constituentOf("M2").speed;
+    double speedS2 = constituentOf("S2").speed;
     ComplexConstant M2;
     ComplexConstant S2;
 
@@ -84,14 +85,14 @@ double seasonal(const Station& station, std::string_view name, Days2000 noon)
     const auto found = station.constants.find(name);
     if (found == station.constants.end()) return 0;
     const Argument argument = argumentOf(constituentOf(name), meanLongitudesAt(noon));
-    return found->second.amplitude *
-           std::cos(NavFunc113::DegToRad(argument.angle - found->second.greenwichLag));
+    return found->second.amplitude * cos(argument.angle - found->second.greenwichLag);
 }
 
 std::string coefficientFields(ComplexConstant coefficient)
 {
-    return "," + wholeDegrees(reduced(NavFunc113::RadToDeg(std::arg(coefficient)))) + "," +
-           fixed(std::abs(coefficient), 4);
+    return "," +
+           wholeDegrees(reduced(NavFunc113::RadToDeg(NavFunc113::Radians(std::arg(coefficient))))) +
+           "," + fixed(std::abs(coefficient), 4);
 }
 
 std::string title(const Station& station)
@@ -125,12 +126,12 @@ ComplexConstant sixthDiurnal(const Station& station)
                     complexConstant(station, "2MS6", 2 * wave.speedM2 + wave.speedS2)}});
 }
 
-std::array<NavFunc113::Metres, 12> monthlyCorrections(const Station& station)
+std::array<double, 12> monthlyCorrections(const Station& station)
 {
-    std::array<NavFunc113::Metres, 12> sum{};
+    std::array<double, 12> sum{};
     std::array<int, 12> days{};
-    const long end = NavFunc113::DaySerial({2006, 1, 1});
-    for (long serial = NavFunc113::DaySerial({2003, 1, 1}); serial < end; ++serial) {
+    const std::int64_t end = NavFunc113::DaySerial({2006, 1, 1});
+    for (std::int64_t serial = NavFunc113::DaySerial({2003, 1, 1}); serial < end; ++serial) {
         const auto month = static_cast<std::size_t>(NavFunc113::DateOfSerial(serial).month - 1);
         const Days2000 noon = static_cast<double>(serial - serial2000) + 0.5;
         sum[month] += seasonal(station, "SA", noon) + seasonal(station, "SSA", noon);
@@ -144,14 +145,14 @@ std::array<NavFunc113::Metres, 12> monthlyCorrections(const Station& station)
 std::string stationFile(const Station& station)
 {
     std::string line =
-        title(station) + "," + shortest(station.zone) + "," + fixed(station.meanLevel, 2);
+        title(station) + "," + shortest(station.zone.value()) + "," + fixed(station.meanLevel, 2);
     for (const std::string_view name : {"M2", "S2", "K1", "O1"}) {
         const Degrees phase = zonePhase(station, constituentOf(name));
-        line += "," + fixed(reduced(std::nearbyint(phase * 10) / 10), 1) + "," +
-                fixed(station.constants.find(name)->second.amplitude, 3);
+        line += "," + fixed(reduced(Degrees(std::nearbyint(phase.value() * 10) / 10)).value(), 1) +
+                "," + fixed(station.constants.find(name)->second.amplitude, 3);
     }
     line += coefficientFields(quarterDiurnal(station)) + coefficientFields(sixthDiurnal(station));
-    for (const NavFunc113::Metres correction : monthlyCorrections(station))
+    for (const double correction : monthlyCorrections(station))
         line += "," + fixed(correction, 2);
     return line + "\r\n";
 }

@@ -26,7 +26,7 @@ ComplexConstant sixthDiurnal(const Station& station);
 
 /// Corrections of the mean level for January to December: the seasonal terms SA and SSA, averaged
 /// over the days of each month in 2003 to 2005 at 12:00. Their sum over the year is near zero.
-std::array<NavFunc113::Metres, 12> monthlyCorrections(const Station& station);
+std::array<double, 12> monthlyCorrections(const Station& station);
 
 /// The file: 27 fields, comma-separated, and CR LF. An estimated station (grades C and D) says so
 /// in its title.

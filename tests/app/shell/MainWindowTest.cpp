@@ -70,7 +70,7 @@ TEST_F(MainWindowTest, distanceUnitAndColoursGoBackAndForth)
     QSignalSpy unit(&window->program(), &Program::distanceUnitChanged);
     choose(*window, "mnuDIST");
     EXPECT_FALSE(isTicked(*window, "mnuDIST"));
-    EXPECT_EQ(window->program().spheroid(), 1);
+    EXPECT_EQ(window->program().earth(), NavFunc113::Earth::Spheroid);
     choose(*window, "mnuDIST");
     EXPECT_EQ(text(*window, "lbl1NM"), "1nm=1' (of LATITUDE)");
     EXPECT_EQ(unit.count(), 2);

@@ -19,7 +19,7 @@ TEST(CalculateCD, coursesAndDistances)
     for (const Golden& row : golden("course_distance")) {
         const CDResult result =
             CalculateCD({{row.text("lat1"), row.text("long1"), row.text("lat2"), row.text("long2")},
-                         row.text("earth") == "spheroid"});
+                         row.earth()});
         EXPECT_EQ(result.course, row.text("course")) << row;
         EXPECT_EQ(result.distance, row.text("distance")) << row;
     }
@@ -29,7 +29,8 @@ TEST(CalculateDR, positionsReached)
 {
     for (const Golden& row : golden("dead_reckoning")) {
         const DRResult result = CalculateDR(
-            {{row.text("lat"), row.text("long"), row.text("course"), row.text("distance")}, 0});
+            {{row.text("lat"), row.text("long"), row.text("course"), row.text("distance")},
+             NavFunc113::Earth::Sphere});
         EXPECT_EQ(result.latitude, row.text("latitude")) << row;
         EXPECT_EQ(result.longitude, row.text("longitude")) << row;
         EXPECT_EQ(result.notice.empty(), result.latitude.empty() || !result.longitude.empty())
@@ -39,14 +40,15 @@ TEST(CalculateDR, positionsReached)
 
 TEST(CalculateDR, comesBackToWhereTheCourseAndDistanceLead)
 {
-    for (int spheroid : {0, 1}) {
+    for (const auto earth : {NavFunc113::Earth::Sphere, NavFunc113::Earth::Spheroid}) {
         const std::array<std::string, 4> route = {"35.08", "139.46", "37.45", "-122.42"};
-        const CDResult cd = CalculateCD({route, spheroid});
-        const DRResult dr = CalculateDR(
-            {{route[0], route[1], std::to_string(*cd.courseDegrees), std::to_string(*cd.miles)},
-             spheroid});
-        EXPECT_NEAR(*dr.latitudeReached, 37.45, 0.0005);
-        EXPECT_NEAR(*dr.longitudeReached, -122.42, 0.003);
+        const CDResult cd = CalculateCD({route, earth});
+        const DRResult dr =
+            CalculateDR({{route[0], route[1], std::to_string(cd.courseDegrees->value()),
+                          std::to_string(cd.miles->value())},
+                         earth});
+        EXPECT_NEAR(dr.latitudeReached->packed(), 37.45, 0.0005);
+        EXPECT_NEAR(dr.longitudeReached->packed(), -122.42, 0.003);
     }
 }
 

@@ -55,14 +55,14 @@ TEST(CalculateGC, waypointsStandOnEveryTenthMeridian)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.fault);
-        EXPECT_EQ(longitudes(CalculateGC({row.boxes, 0})), row.meridians);
+        EXPECT_EQ(longitudes(CalculateGC({row.boxes})), row.meridians);
     }
-    EXPECT_EQ(longitudes(CalculateGC({{"10", "1", "20", "-178.59"}, 0})).size(), 20U);
+    EXPECT_EQ(longitudes(CalculateGC({{"10", "1", "20", "-178.59"}})).size(), 20U);
 }
 
 TEST(CalculateGC, passageAcrossThePacific)
 {
-    const GCResult result = CalculateGC({{"35.27", "139.39", "37.49", "-122.25"}, 0});
+    const GCResult result = CalculateGC({{"35.27", "139.39", "37.49", "-122.25"}});
     ASSERT_EQ(result.route.waypoints.size(), 12U);
     // Latitudes by the plane through the two positions and the earth's centre.
     EXPECT_EQ(result.rows[1].lat, "35.39'2N");
@@ -80,7 +80,8 @@ TEST(CalculateGC, passageAcrossThePacific)
     EXPECT_EQ(result.saving, "265.'6");
     EXPECT_EQ(result.lblGC2000[2], "4487.'5"); // worked leg by leg
 
-    const GCResult spheroid = CalculateGC({{"35.27", "139.39", "37.49", "-122.25"}, 1});
+    const GCResult spheroid =
+        CalculateGC({{"35.27", "139.39", "37.49", "-122.25"}, NavFunc113::Earth::Spheroid});
     EXPECT_EQ(spheroid.lblGC2000[1], "4471.'6");
     EXPECT_NE(spheroid.lblGC2000[0], "4737.'2");
     EXPECT_EQ(spheroid.saving, result.saving) << "compared on the sphere";
@@ -88,26 +89,26 @@ TEST(CalculateGC, passageAcrossThePacific)
 
 TEST(CalculateGC, otherOceans)
 {
-    const GCResult cape = CalculateGC({{"-33.54", "18.25", "40.42", "-74"}, 0});
+    const GCResult cape = CalculateGC({{"-33.54", "18.25", "40.42", "-74"}});
     EXPECT_EQ(cape.rows[1].lat, "28.29'8S");
     EXPECT_EQ(cape.rows[9].lat, "39.08'0N");
-    const GCResult sydney = CalculateGC({{"-33.51", "151.13", "-33.02", "-71.38"}, 0});
+    const GCResult sydney = CalculateGC({{"-33.51", "151.13", "-33.02", "-71.38"}});
     EXPECT_EQ(sydney.rows[3].lat, "54.23'5S");
-    const GCResult meridian = CalculateGC({{"10", "20", "30", "20"}, 0});
+    const GCResult meridian = CalculateGC({{"10", "20", "30", "20"}});
     EXPECT_EQ(meridian.rows[1].lat, "30.00'0N") << "the arrival itself";
     EXPECT_EQ(meridian.lblGC2000[2], "1200.'0");
 }
 
 TEST(CalculateGC, outOfRangeBlanksEverything)
 {
-    EXPECT_FALSE(CalculateGC({{"65", "180", "-65", "-170"}, 0}).route.waypoints.empty());
+    EXPECT_FALSE(CalculateGC({{"65", "180", "-65", "-170"}}).route.waypoints.empty());
     const std::array<std::string, 4> rows[] = {{"65.1", "0", "0", "10"},
                                                {"0", "180.01", "0", "10"},
                                                {"0", "0", "-65.001", "10"},
                                                {"0", "0", "10", "E"},
                                                {"-", "0", "10", "20"}};
     for (const auto& boxes : rows) {
-        const GCResult result = CalculateGC({boxes, 0});
+        const GCResult result = CalculateGC({boxes});
         EXPECT_TRUE(result.route.waypoints.empty());
         EXPECT_TRUE(longitudes(result).empty());
         EXPECT_THAT(result.lblGC2000, ElementsAre("", "", ""));
@@ -133,7 +134,7 @@ TEST(DrawWPs, noRouteIsTorn)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const GCChart chart = DrawWPs(CalculateGC({row.boxes, 0}).route);
+        const GCChart chart = DrawWPs(CalculateGC({row.boxes}).route);
         EXPECT_NEAR(chart.route.front().longitude, row.first, 1e-9);
         EXPECT_NEAR(chart.route.back().longitude, row.last, 1e-9);
         EXPECT_NEAR(chart.scale.left, row.left, 1e-9);
@@ -151,7 +152,7 @@ TEST(DrawWPs, noRouteIsTorn)
 
 TEST(DrawWPs, rhumbLineIsACurveAndTheGridIsLabelled)
 {
-    const GCChart chart = DrawWPs(CalculateGC({{"0", "170", "60", "-170"}, 0}).route);
+    const GCChart chart = DrawWPs(CalculateGC({{"0", "170", "60", "-170"}}).route);
     const ChartPoint& middle = chart.rhumbLine[chart.rhumbLine.size() / 2];
     // Meridional parts: 1876.67 at 30, 4507.36 at 60 degrees.
     EXPECT_NEAR(middle.lat, 30, 1e-9);

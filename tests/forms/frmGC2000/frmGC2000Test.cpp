@@ -79,8 +79,8 @@ TEST_F(frmGC2000Test, positionsGoToTheMemoAndTheClipboardInFull)
     EXPECT_FALSE(memo->actions().at(12)->isVisible()) << "the last one is the arrival";
     questions.willAnswer(Answer::Yes);
     choose(window, "mnuMemo(2)");
-    EXPECT_EQ(program().saved().memoLongitude(), -130);
-    EXPECT_NEAR(program().saved().memoLatitude(), 41.17, 0.01);
+    EXPECT_EQ(program().saved().memoLongitude(), NavFunc113::DegMin(-130));
+    EXPECT_NEAR(program().saved().memoLatitude().packed(), 41.17, 0.01);
     questions.willAnswer(Answer::Yes);
     choose(window, "mnuRem(1)");
     EXPECT_EQ(text(window, "txtGC(3)"), "-130");

@@ -52,13 +52,14 @@ TEST(CalculateRiseSet, whatBlanksARow)
 
 TEST(CalculateRiseSet, acceptedNumbersStayInTheRow)
 {
-    RiseSetRow row{1, 2, 3};
+    using namespace NavFunc113;
+    RiseSetRow row{Hours(1), DegMin(2), DegMin(3)};
     CalculateRiseSet({"2024/6/21", "", "9", "35.3", "200"}, row);
-    EXPECT_EQ(row.TD, 9);
-    EXPECT_EQ(row.latitude, 35.3);
-    EXPECT_EQ(row.longitude, 3) << "the refused one stays as it was";
+    EXPECT_EQ(row.TD, Hours(9));
+    EXPECT_EQ(row.latitude, DegMin(35.3));
+    EXPECT_EQ(row.longitude, DegMin(3)) << "the refused one stays as it was";
     CalculateRiseSet({"2024/6/21", "", "9", "35.3", "139"}, row);
-    EXPECT_NEAR(row.latitude, 35.3 + 4e-10, 1e-14) << "moved once by each search";
+    EXPECT_NEAR(row.latitude.packed(), 35.3 + 4e-10, 1e-14) << "moved once by each search";
 }
 
 TEST(CalculateRiseSet, midnightOfADayWithoutMoonriseIsExplained)

@@ -153,7 +153,7 @@ TEST_F(frmSunMoonTest, memoriesGoToTheRowInFocus)
     control(window, "txtTD(0)").setFocus();
     questions.willAnswer(Answer::Yes);
     choose(window, "mnuSUNMOON(0)");
-    EXPECT_DOUBLE_EQ(program().saved().memoLongitude(), 139.447);
+    EXPECT_DOUBLE_EQ(program().saved().memoLongitude().packed(), 139.447);
     control(window, "txtTD(5)").setFocus();
     questions.willAnswer(Answer::Yes);
     choose(window, "mnuSUNMOON(3)");

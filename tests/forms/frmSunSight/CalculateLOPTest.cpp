@@ -138,9 +138,15 @@ TEST(CalculateLOP, upperLimbIsADiameterLower)
 
 TEST(CalculateLOP, azimuthOnTheMeridianAndThePrimeVertical)
 {
-    EXPECT_NEAR(azimuthOfSun(0, 20, {35, 0}), 180, 1e-5);
-    EXPECT_NEAR(azimuthOfSun(0, 20, {10, 0}), 0, 1e-5);
-    EXPECT_NEAR(azimuthOfSun(270, 0, {0, 30}), 90, 1e-9);
+    const auto azimuth = [](double GHA, double declination, double latitude, double longitude) {
+        using namespace NavFunc113;
+        return azimuthOfSun(DegMin(GHA), DegMin(declination),
+                            {Degrees(latitude), Degrees(longitude)})
+            .value();
+    };
+    EXPECT_NEAR(azimuth(0, 20, 35, 0), 180, 1e-5);
+    EXPECT_NEAR(azimuth(0, 20, 10, 0), 0, 1e-5);
+    EXPECT_NEAR(azimuth(270, 0, 0, 30), 90, 1e-9);
 }
 
 TEST(MeridianPassage, noonOfTheMovingShip)

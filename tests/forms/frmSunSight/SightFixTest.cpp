@@ -24,7 +24,7 @@ TEST(CalculateFix, publishedRunningFixesFromRawReadings)
     EXPECT_THAT(first.latitude, testing::StartsWith("14-.0"));
     EXPECT_NEAR(readNumber(first.memoLongitude), -52.258, 0.003);
     EXPECT_THAT(first.sigmaText, HasSubstr("assumed, not measured: 1.0 nm"));
-    EXPECT_NEAR(first.ellipse.semiMajor, 5.28, 0.05) << "with the errors of the run";
+    EXPECT_NEAR(first.ellipse.semiMajor.value(), 5.28, 0.05) << "with the errors of the run";
     EXPECT_EQ(first.notice, "");
 
     const SightFixResult second = CalculateFix(listOf({morning1990, noon1990}), track1990, {});
@@ -114,7 +114,7 @@ TEST(DrawLOP, acrossTheDateLine)
 {
     SightFixResult fix;
     fix.UTC = 45000;
-    fix.DR = NavFunc113::Position{0.1, 179.9};
+    fix.DR = NavFunc113::Position{NavFunc113::Degrees(0.1), NavFunc113::Degrees(179.9)};
     const SightPlot plot = DrawLOP(fix);
     bool west = false, south = false;
     for (const PlotGridLine& line : plot.grid) {

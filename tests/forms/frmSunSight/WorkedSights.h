@@ -36,9 +36,9 @@ inline double milesBetween(const NavFunc113::Position& a, double packedLatitude,
                            double packedLongitude)
 {
     using namespace NavFunc113;
-    return 60 * std::hypot(a.latitude - DegMinToDeg(packedLatitude),
-                           (a.longitude - DegMinToDeg(packedLongitude)) *
-                               std::cos(DegToRad(a.latitude)));
+    const Degrees north = a.latitude - DegMinToDeg(DegMin(packedLatitude));
+    const Degrees east = a.longitude - DegMinToDeg(DegMin(packedLongitude));
+    return 60 * std::hypot(north.value(), east.value() * cos(a.latitude));
 }
 
 inline SightList listOf(std::initializer_list<SightTexts> sights)

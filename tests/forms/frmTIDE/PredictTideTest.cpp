@@ -70,7 +70,7 @@ TEST_F(PlainTide, twentyFourHoursAndNothingAboveTheStart)
     EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "24.-00: 3.10m   12.-00: 1.10m");
 
     TidePrediction earlier;
-    earlier.extremes = {3, 5.5, 1, 11.5};
+    earlier.extremes = {3, NavFunc113::Hours(5.5), 1, NavFunc113::Hours(11.5)};
     tide("9,-4,0,0,0,0,0,0,0,0" + corrections);
     EXPECT_EQ(predictTide("2003/01/31", earlier)->lblTideInfo, "05.-30: 0.00m   00.-30: -3.90m");
 }

@@ -26,11 +26,12 @@ std::string stationFault(const std::filesystem::path& folder, const std::string&
 TEST(Factors, aDayIsReachedByItsBytePosition)
 {
     const auto day = readDaysFactors(TideFolder::shipped(), 286); // 2003-07-14
-    EXPECT_EQ(day.nextDay[0].angle, 30) << "2003-07-15 by the method's check values";
+    EXPECT_EQ(day.nextDay[0].angle, NavFunc113::Degrees(30))
+        << "2003-07-15 by the method's check values";
     const auto next = readDaysFactors(TideFolder::shipped(), 287);
     EXPECT_EQ(next.thisDay[1].angle, day.nextDay[1].angle);
 
-    EXPECT_EQ(readDaysFactors(TideFolder::shipped(), 0).thisDay[0].angle, 209);
+    EXPECT_EQ(readDaysFactors(TideFolder::shipped(), 0).thisDay[0].angle, NavFunc113::Degrees(209));
     EXPECT_EQ(readDaysFactors(TideFolder::shipped(), 1187).nextDay[3].factor, 1.39);
     EXPECT_THROW(readDaysFactors(TideFolder::shipped(), 1188), TideDataFault);
     EXPECT_THROW(readDaysFactors(TideFolder::shipped(), -1), TideDataFault);
@@ -115,10 +116,10 @@ TEST(StationFile, readsWhatSequentialInputReads)
         beside.write("Harmonic Constants/HC_3' east, of Cape.txt", row.content);
         const TideStation station = readTideStation(beside.folder, "3' east, of Cape");
         EXPECT_EQ(station.title, row.title);
-        EXPECT_EQ(station.zone, 8);
+        EXPECT_EQ(station.zone, NavFunc113::Hours(8));
         EXPECT_EQ(station.meanLevel, 1.5);
         EXPECT_EQ(station.constituents[2].amplitude, 0.25);
-        EXPECT_EQ(station.constituents[3].phase, 40);
+        EXPECT_EQ(station.constituents[3].phase, NavFunc113::Degrees(40));
         EXPECT_EQ(station.shallowWater.sixthCoefficient, 1e-3);
         EXPECT_EQ(station.monthlyCorrections.back(), 1.2);
     }

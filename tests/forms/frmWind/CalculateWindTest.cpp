@@ -10,6 +10,9 @@ namespace korvel
 namespace
 {
 
+using NavFunc113::Degrees;
+using NavFunc113::Knots;
+
 using testing::Each;
 using testing::ElementsAre;
 
@@ -54,7 +57,7 @@ TEST(WindPicture, vectorsMakeAParallelogram)
                 EXPECT_NEAR(picture.apparentWind.x, picture.trueWind.x + picture.heading.x, 1e-4);
                 EXPECT_NEAR(picture.apparentWind.y, picture.trueWind.y + picture.heading.y, 1e-4);
             }
-    WindFigures abeam{90, 10, 90, 15, 0, 0};
+    const WindFigures abeam{Degrees(90), Knots(10), Degrees(90), Knots(15), {}, {}};
     EXPECT_NEAR(pictureOfWind(abeam, WindOrientation::HeadUp).apparentWind.x, 15, 1e-9);
     EXPECT_NEAR(pictureOfWind(abeam, WindOrientation::NorthUp).apparentWind.y, -15, 1e-9);
     EXPECT_NEAR(pictureOfWind(abeam, WindOrientation::NorthUp).heading.x, 10, 1e-9);
@@ -68,9 +71,9 @@ TEST(WindPicture, ringsHoldTheStrongestAndStayWhileDragging)
                 {81, 0, 200}, {900, 0, 200}, {5, 80, 80},   {45, 40, 40}};
     for (const auto& row : rows) {
         WindFigures wind;
-        wind.apparentSpeed = row.apparent;
-        const WindPicture picture = pictureOfWind(wind, WindOrientation::HeadUp, row.held);
-        EXPECT_EQ(picture.rings.back(), row.radius);
+        wind.apparentSpeed = Knots(row.apparent);
+        const WindPicture picture = pictureOfWind(wind, WindOrientation::HeadUp, Knots(row.held));
+        EXPECT_EQ(picture.rings.back(), Knots(row.radius));
         EXPECT_GT(picture.scale.top, row.radius);
     }
 }
@@ -93,7 +96,7 @@ TEST(WindPicture, pointerSetsTheRelativeWind)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
-        const WindPointer pointer = windAt(row.place, row.orientation, row.course);
+        const WindPointer pointer = windAt(row.place, row.orientation, Degrees(row.course));
         EXPECT_EQ(pointer.text, row.text);
         EXPECT_EQ(pointer.relative, row.relative);
         EXPECT_EQ(pointer.apparentSpeed, row.speed);

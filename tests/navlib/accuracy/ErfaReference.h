@@ -14,9 +14,10 @@ namespace erfareference
 
 enum class Body { Sun, Moon };
 
+/// Degrees; doubles, as the peer speaks them.
 struct Place {
-    NavFunc113::Degrees GHA = 0; ///< 0 <= GHA < 360
-    NavFunc113::Degrees declination = 0;
+    double GHA = 0; ///< 0 <= GHA < 360
+    double declination = 0;
     double distanceKm = 0;
 };
 
@@ -34,8 +35,8 @@ class DayOfEvents
 {
 public:
     DayOfEvents(Body body, NavFunc113::DateTime date, double TD);
-    std::optional<NavFunc113::DateTime> event(bool rising, NavFunc113::Degrees latitude,
-                                              NavFunc113::Degrees longitude, Horizon horizon) const;
+    std::optional<NavFunc113::DateTime> event(bool rising, double latitude, double longitude,
+                                              Horizon horizon) const;
 
 private:
     static constexpr int hours = 25;
