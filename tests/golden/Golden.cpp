@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/golden/Golden.h"
+#include "tests/SourceFolder.h"
 
 #include <algorithm>
 #include <charconv>
@@ -131,7 +132,7 @@ std::vector<Golden> golden(const std::string& name)
 {
     auto table = std::make_shared<Golden::Table>();
     table->file = "tests/golden/" + name + ".csv";
-    std::ifstream file(std::string(KORVEL_SOURCE_DIR "/") + table->file);
+    std::ifstream file(sourceFile(table->file));
     std::vector<Golden> rows;
     bool sourceNamed = false;
     int number = 0;

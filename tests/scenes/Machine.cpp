@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading.h"
+#include "tests/SourceFolder.h"
 #include "tests/scenes/Steps.h"
 
 #include <QApplication>
@@ -74,7 +75,7 @@ void takeData(Stage& stage, const Words& words)
     const QString name = QString::fromStdString(wordAt(words, 0));
     const QString target = stage.folder.filePath(name);
     QDir().mkpath(QFileInfo(target).path());
-    if (!QFile::copy(KORVEL_SOURCE_DIR "/data/" + name, target))
+    if (!QFile::copy(QString::fromStdString(sourceFile("data/")) + name, target))
         throw std::runtime_error("no data " + words[0].text);
 }
 

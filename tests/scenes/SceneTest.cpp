@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/scenes/SceneTest.h"
 
+#include "tests/SourceFolder.h"
 #include "tests/scenes/Steps.h"
 
 #include <QDir>
@@ -38,7 +39,7 @@ private:
 
 void registerScenes()
 {
-    const QDir folder(KORVEL_SOURCE_DIR "/tests/scenes");
+    const QDir folder(QString::fromStdString(sourceFile("tests/scenes")));
     for (const QString& name : folder.entryList({"*.scene"}, QDir::Files, QDir::Name))
         for (Scene& scene : readScenes("tests/scenes/" + name.toStdString())) {
             const std::string suite = QFileInfo(name).baseName().toStdString() + "Scene";

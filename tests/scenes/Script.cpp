@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/scenes/Script.h"
+#include "tests/SourceFolder.h"
 
 #include <fstream>
 #include <map>
@@ -138,7 +139,7 @@ private:
 
 std::vector<Scene> readScenes(const std::string& file)
 {
-    std::ifstream stream(std::string(KORVEL_SOURCE_DIR "/") + file);
+    std::ifstream stream(sourceFile(file));
     Reader reader(file);
     int number = 0;
     for (std::string line; std::getline(stream, line);) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/SourceFolder.h"
 #include "tidedata/factors.h"
 #include "tools/tidedata/sources.h"
 #include "tools/tidedata/station_file.h"
@@ -14,7 +15,7 @@ namespace tidedata
 namespace
 {
 
-const std::filesystem::path root = KORVEL_SOURCE_DIR;
+const std::filesystem::path root = korvel::sourceFile("");
 
 std::string contentOf(const std::filesystem::path& file)
 {

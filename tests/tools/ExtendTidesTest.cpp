@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "tests/SourceFolder.h"
 #include <gtest/gtest.h>
 
 #include <sys/wait.h>
@@ -28,8 +29,8 @@ protected:
     {
         std::string pattern = (fs::temp_directory_path() / "ship tides XXXXXX").string();
         folder = mkdtemp(pattern.data());
-        fs::copy(fs::path(KORVEL_SOURCE_DIR) / "tools/extend-tides", folder);
-        fs::copy(fs::path(KORVEL_SOURCE_DIR) / "data/AF2005.txt", folder);
+        fs::copy(korvel::sourceFile("tools/extend-tides"), folder);
+        fs::copy(korvel::sourceFile("data/AF2005.txt"), folder);
         fs::create_symlink(KORVEL_TIDEDATA, folder / "tidedata");
         shipped = contentOf(folder / "AF2005.txt");
     }

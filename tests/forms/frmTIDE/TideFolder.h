@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/SourceFolder.h"
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -34,10 +35,7 @@ public:
         std::ifstream stream(shipped() / "AF2005.txt", std::ios::binary);
         return {std::istreambuf_iterator<char>(stream), {}};
     }
-    static std::filesystem::path shipped()
-    {
-        return std::filesystem::path(KORVEL_SOURCE_DIR) / "data";
-    }
+    static std::filesystem::path shipped() { return sourceFile("data"); }
 
     std::filesystem::path folder;
 };

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace korvel
+{
+
+/// Path of a file of the source tree, where cases, scenes and shipped data lie.
+/// @param name from the top of the tree, "tests/golden/dead_reckoning.csv"
+std::string sourceFile(const std::string& name);
+
+} // namespace korvel
