@@ -14,9 +14,9 @@ KORVEL2000Actions::KORVEL2000Actions(KV_Savedvalue& saved, Questions& questions,
 {
 }
 
-void KORVEL2000Actions::StoreInMemo(int kind, const std::string& valueText)
+void KORVEL2000Actions::StoreInMemo(StoreKind kind, const std::string& valueText)
 {
-    // "valueis" stands so in every refusal since the first one; officers know the line by it.
+    // "valueis" is no slip to mend: officers know the line by it.
     const std::string refusal = "   ｢ " + valueText + "｣\rThis valueis NOT AVAILABLE for MEMO";
     const double value = readNumber(valueText);
     bool redraw = true;
@@ -26,7 +26,7 @@ void KORVEL2000Actions::StoreInMemo(int kind, const std::string& valueText)
         acceptLatitude(valueText, refusal);
     else if (kind == Longitude)
         redraw = storeLongitude(value, refusal);
-    else if (kind == Single)
+    else
         redraw = storeSingle(value, refusal);
     if (redraw) m_hooks.MemoHyoujiAtStart();
 }
@@ -52,8 +52,7 @@ bool KORVEL2000Actions::storeLongitude(double value, const std::string& refusal)
         {"PsnMemo  l:" + Format(PendingMemoLat, "00.-00'0") + " L:" + Format(value, "000.-00'0"),
          programTitle, Buttons::YesNo});
     if (answer != Answer::Yes) return false;
-    m_saved(23) = PendingMemoLat;
-    m_saved(24) = value;
+    m_saved.setPositionMemo(NavFunc113::DegMin(PendingMemoLat), NavFunc113::DegMin(value));
     return true;
 }
 
@@ -66,7 +65,7 @@ bool KORVEL2000Actions::storeSingle(double value, const std::string& refusal)
     const Answer answer =
         m_questions.ask({"SingleMemo:" + Format(value, "0.0##"), programTitle, Buttons::YesNo});
     if (answer != Answer::Yes) return false;
-    m_saved(25) = value;
+    m_saved(SavedValue::SingleMemo) = value;
     return true;
 }
 
@@ -78,10 +77,10 @@ void KORVEL2000Actions::storePosition(const std::string& latitude, const std::st
     if (accepted) StoreInMemo(Longitude, longitude);
 }
 
-std::string KORVEL2000Actions::ConfirmMemoRecall(const std::string& memoName)
+Answer KORVEL2000Actions::ConfirmMemoRecall(MemoName memoName)
 {
     std::string question;
-    if (memoName == "SinM")
+    if (memoName == SinM)
         question = "Following value is stored in SINGLE MEMO now.\r\r" +
                    Format(m_saved.singleMemo(), "    0.00##") +
                    "\r\rAre you sure to input this value?";
@@ -91,7 +90,7 @@ std::string KORVEL2000Actions::ConfirmMemoRecall(const std::string& memoName)
                    "\r    Long= " + Format(m_saved.memoLongitude(), "000.00'0E;000.00'0W") +
                    "\r\rAre you sure to input these value?";
     const Answer answer = m_questions.ask({question, confirmationTitle, Buttons::YesNo});
-    return answer == Answer::Yes ? "Yes" : "No";
+    return answer == Answer::Yes ? Answer::Yes : Answer::No;
 }
 
 std::string KORVEL2000Actions::AskNumberInRange(const std::string& prompt,
@@ -107,7 +106,7 @@ int KORVEL2000Actions::ExitApplication()
         {std::string("Application：") + programTitle + "\r\r          Are you sure to exit?",
          confirmationTitle, Buttons::YesNo});
     if (answer != Answer::Yes) return 1;
-    m_settings.saveAtClose(m_saved.record());
+    if (m_settings.saveAtClose(m_saved.record())) m_hooks.valuesSaved();
     m_hooks.endProgram();
     return 0;
 }
@@ -123,8 +122,7 @@ std::string askNumberInRange(Questions& questions, const std::string& prompt,
                              const std::string& defaultAnswer, double low, double high)
 {
     for (;;) {
-        const std::string answer =
-            questions.input(prompt, programTitle, defaultAnswer).value_or("");
+        std::string answer = questions.input(prompt, programTitle, defaultAnswer).value_or("");
         const double value = readNumber(answer);
         if (isNumeric(answer) && value >= low && value <= high) return answer;
         questions.ask({answer + " is incorrect value.", programTitle, Buttons::Ok});

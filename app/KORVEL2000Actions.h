@@ -18,11 +18,15 @@ namespace korvel
 class KORVEL2000Actions
 {
 public:
+    /// What is stored; a position is two calls, its latitude first.
     enum StoreKind { Latitude = 1, Longitude = 2, Single = 3 };
+    /// What is recalled: the Single Memo, or the Position Memo.
+    enum MemoName { SinM, PsnM };
 
     struct Hooks {
-        std::function<void()> MemoHyoujiAtStart; ///< redraws the memo line
-        std::function<void()> endProgram;        ///< closes every window and ends
+        std::function<void()> MemoHyoujiAtStart;   ///< redraws the memo line
+        std::function<void()> endProgram;          ///< closes every window and ends
+        std::function<void()> valuesSaved = [] {}; ///< the settings file holds what is kept
     };
 
     /// All references must outlive this object.
@@ -32,18 +36,16 @@ public:
     /// Checks one half of a position, or a single value, asks, and stores it. A position is stored
     /// by two calls, latitude first. The value 0 is refused, so the equator and the meridian of
     /// Greenwich cannot be kept. The memo line is redrawn unless the officer answers No.
-    /// @param kind      1 latitude, 2 longitude, 3 single value; anything else only redraws
     /// @param valueText the number as text with full precision
-    void StoreInMemo(int kind, const std::string& valueText);
+    void StoreInMemo(StoreKind kind, const std::string& valueText);
 
     /// Stores a position: the longitude only when its latitude was accepted, so that a refused
     /// latitude is never paired with an older one.
     void storePosition(const std::string& latitude, const std::string& longitude);
 
     /// Shows what a memory holds and asks whether to use it.
-    /// @param memoName "SinM" or "PsnM"
-    /// @return "Yes" or "No"
-    std::string ConfirmMemoRecall(const std::string& memoName);
+    /// @return Yes or No
+    Answer ConfirmMemoRecall(MemoName memoName);
 
     /// Asks until the answer is a number whose value lies in low .. high; a wrong answer is named.
     /// @return the answer as typed

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/ComputerClock.h"
 #include "app/FileStore.h"
 #include "app/Questions.h"
 #include "app/settings_record.h"
@@ -12,25 +13,27 @@
 namespace korvel
 {
 
-/// One window's settings file: what is read when the window loads and replaced when it closes.
+/// One window's settings file: what is read when the window loads and replaced when it is saved.
 ///
-/// A file that is not the window's record is reported once and left as it is; before it is
-/// overwritten the officer is asked.
+/// Of a file that is not the window's record, what can be read is taken over and the damage named.
+/// Before anything is written over it, the file is kept aside under a dated name.
 class SettingsFile
 {
 public:
-    /// @param files, questions must outlive this object
-    SettingsFile(FileStore& files, Questions& questions, std::string name, std::vector<Kind> kinds);
+    /// @param files, questions, clock must outlive this object
+    SettingsFile(FileStore& files, Questions& questions, const ComputerClock& clock,
+                 std::string name, std::vector<Kind> kinds);
 
-    /// The record of the file; nothing when there is none or it cannot be read (then reported).
-    std::optional<Record> load();
+    /// The record of the file; nothing when there is none or nothing of it can be read.
+    /// @param defaults what stands in the place of values that could not be read; empty: they are
+    ///                 never set
+    std::optional<Record> load(const Record& defaults = {});
 
-    /// Saves while the window goes on, without any box: a file waiting for the officer's consent is
-    /// left alone. @return the fault in words, empty when all is well
+    /// Saves while the window goes on, without any box.
+    /// @return the fault in words, empty when all is well
     std::string saveQuietly(const Record& record);
 
-    /// Saves for the last time: asks before it overwrites a file that could not be read, and when
-    /// the save fails offers to try again or to leave without saving.
+    /// Saves for the last time: when that fails, offers to try again or to leave without saving.
     /// @return true when the file holds the record
     bool saveAtClose(const Record& record);
 
@@ -39,18 +42,22 @@ public:
     /// or not even its bytes came.
     const std::optional<std::string>& damagedText() const { return m_damagedText; }
 
-    /// True while the file on disk waits for the officer's consent to be overwritten.
-    bool isProtected() const { return m_protected; }
+    /// True while a damaged file still lies under its own name.
+    bool isProtected() const { return !m_asideName.empty(); }
 
     const std::string& name() const { return m_name; }
 
 private:
+    void report(const std::string& trouble, bool somethingRead);
+    std::string keepAside();
+
     FileStore& m_files;
     Questions& m_questions;
+    const ComputerClock& m_clock;
     std::string m_name;
     std::vector<Kind> m_kinds;
     std::optional<std::string> m_damagedText;
-    bool m_protected = false; ///< the file on disk is not ours to overwrite unasked
+    std::string m_asideName; ///< where the damaged file goes; empty when there is none
 };
 
 } // namespace korvel

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/settings_record.h"
 
+#include "app/DelimitedText.h"
+#include "app/Remarks.h"
+
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -23,10 +27,9 @@ std::string numberText(Number number)
 
 std::string quoted(const std::string& text)
 {
-    std::string result = "\"";
-    for (char c : text)
-        result += c == '"' ? '\'' : c == '\r' || c == '\n' ? ' ' : c;
-    return result + '"';
+    std::string result = withoutControls(text);
+    std::ranges::replace(result, '"', '\'');
+    return '"' + result + '"';
 }
 
 struct ItemWriter {
@@ -37,57 +40,8 @@ struct ItemWriter {
     std::string operator()(const std::string& text) const { return quoted(text); }
 };
 
-/// An item of the file before it is known what it should be.
-struct Item {
-    std::string_view text;
-    bool quoted = false;
-};
-
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-/// Splits off the next item together with the comma or line end behind it.
-Item nextItem(std::string_view& rest, std::size_t number)
-{
-    while (!rest.empty() && isBlank(rest.front()))
-        rest.remove_prefix(1);
-    Item item;
-    if (!rest.empty() && rest.front() == '"') {
-        const std::size_t close = rest.find('"', 1);
-        if (close == std::string_view::npos)
-            throw RecordError("value " + std::to_string(number) + " has no closing quote");
-        item = {rest.substr(1, close - 1), true};
-        rest.remove_prefix(close + 1);
-    }
-    const std::size_t end = std::min(rest.find_first_of(",\r\n"), rest.size());
-    std::string_view bare = rest.substr(0, end);
-    while (!bare.empty() && isBlank(bare.back()))
-        bare.remove_suffix(1);
-    if (item.quoted && !bare.empty())
-        throw RecordError("value " + std::to_string(number) + " goes on behind its closing quote");
-    if (!item.quoted) item.text = bare;
-    rest.remove_prefix(end);
-    if (rest.starts_with("\r\n"))
-        rest.remove_prefix(2);
-    else if (!rest.empty())
-        rest.remove_prefix(1);
-    return item;
-}
-
-std::optional<double> wholeNumber(std::string_view text)
-{
-    if (text.starts_with('+')) text.remove_prefix(1);
-    double number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size() || !std::isfinite(number))
-        return std::nullopt;
-    return number;
-}
-
 /// The item as the value that it looks like.
-std::optional<Value> valueOf(const Item& item)
+std::optional<Value> valueOf(const DelimitedText::Item& item)
 {
     if (item.quoted) return std::string(item.text);
     if (item.text.empty()) return Value();
@@ -127,18 +81,6 @@ const char* inWords(Kind kind)
     return "a value";
 }
 
-Value valueOfKind(const Item& item, Kind kind, std::size_t number)
-{
-    const auto value = valueOf(item);
-    if (value) {
-        if (fits(*value, kind) || std::holds_alternative<std::monostate>(*value)) return *value;
-        // A number that stands where a text is due is what somebody typed without quotes.
-        if (kind == Kind::Text && std::holds_alternative<double>(*value))
-            return std::string(item.text);
-    }
-    throw RecordError("value " + std::to_string(number) + " is not " + inWords(kind));
-}
-
 bool isUtf8(std::string_view text)
 {
     for (std::size_t i = 0; i < text.size();) {
@@ -157,6 +99,26 @@ bool isUtf8(std::string_view text)
     return true;
 }
 
+/// Why an item cannot be read at all; empty when it can.
+std::string flawOf(const DelimitedText::Item& item)
+{
+    using Flaw = DelimitedText::Item::Flaw;
+    if (item.flaw == Flaw::NotClosed) return "has no closing quote";
+    if (item.flaw == Flaw::GoesOn) return "goes on behind its closing quote";
+    return isUtf8(item.text) ? "" : "is not a text in UTF-8";
+}
+
+/// @return nothing when the item is no value of the kind
+std::optional<Value> valueOfKind(const DelimitedText::Item& item, Kind kind)
+{
+    const auto value = valueOf(item);
+    if (!value) return std::nullopt;
+    if (fits(*value, kind) || std::holds_alternative<std::monostate>(*value)) return value;
+    // A number that stands where a text is due is what somebody typed without quotes.
+    if (kind == Kind::Text && std::holds_alternative<double>(*value)) return std::string(item.text);
+    return std::nullopt;
+}
+
 } // namespace
 
 std::string writeRecord(std::span<const Value> record)
@@ -167,20 +129,69 @@ std::string writeRecord(std::span<const Value> record)
     return text;
 }
 
-Record readRecord(std::string_view text, std::span<const Kind> kinds)
+bool ReadRecord::anythingRead() const
 {
-    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
-    if (!isUtf8(text)) throw RecordError("it is not a text in UTF-8");
-    Record record;
-    record.reserve(kinds.size());
-    for (Kind kind : kinds) {
-        const std::size_t number = record.size() + 1;
-        if (text.empty())
-            throw RecordError("it ends after " + std::to_string(record.size()) + " of " +
-                              std::to_string(kinds.size()) + " values");
-        record.push_back(valueOfKind(nextItem(text, number), kind, number));
+    return std::ranges::find(wasRead, true) != wasRead.end();
+}
+
+std::string ReadRecord::damageText() const
+{
+    constexpr std::size_t inWords = 3;
+    const auto shown = static_cast<std::ptrdiff_t>(std::min(damage.size(), inWords));
+    std::string text = joined({damage.begin(), damage.begin() + shown});
+    if (damage.size() > inWords)
+        text += "; and " + std::to_string(damage.size() - inWords) + " more";
+    return text;
+}
+
+ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds)
+{
+    ReadRecord result;
+    // A number may lack its last digits when the line end behind it is missing.
+    const bool cutOff = !text.ends_with('\n') && !text.ends_with('\r');
+    DelimitedText items(text);
+    for (const Kind kind : kinds) {
+        const std::string number = "value " + std::to_string(result.record.size() + 1);
+        if (items.atEnd()) {
+            result.damage.push_back("it ends after " + std::to_string(result.record.size()) +
+                                    " of " + std::to_string(kinds.size()) + " values");
+            break;
+        }
+        const DelimitedText::Item item = items.next();
+        const bool lastOfShort =
+            items.atEnd() && cutOff && !item.quoted && result.record.size() + 1 < kinds.size();
+        std::string flaw = lastOfShort ? "may be cut off" : flawOf(item);
+        const auto value = flaw.empty() ? valueOfKind(item, kind) : std::nullopt;
+        if (!value && flaw.empty()) flaw = std::string("is not ") + inWords(kind);
+        if (!value) {
+            result.damage.push_back(number + " " + flaw);
+            items.skipLine();
+        }
+        result.record.push_back(value.value_or(Value()));
+        result.wasRead.push_back(value.has_value());
     }
-    return record;
+    result.record.resize(kinds.size());
+    result.wasRead.resize(kinds.size(), false);
+    items.skipEmptyLines();
+    if (!items.atEnd())
+        result.damage.push_back("it goes on behind its " + std::to_string(kinds.size()) +
+                                " values");
+    return result;
+}
+
+std::string withoutControls(std::string_view text)
+{
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if (byte == '\t' || byte == '\r' || byte == '\n')
+            result += ' ';
+        else if (byte == 0xC2 && i + 1 < text.size() && (text[i + 1] & 0xE0) == 0x80)
+            ++i; // U+0080 to U+009F
+        else if (byte >= 0x20 && byte != 0x7F)
+            result += text[i];
+    }
+    return result;
 }
 
 } // namespace korvel

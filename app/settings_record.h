@@ -4,7 +4,6 @@
 #include "app/Value.h"
 
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,21 +15,31 @@ namespace korvel
 /// What a window expects at a place of its record. An empty item is accepted everywhere.
 enum class Kind { Text, Number, Tick, Any };
 
-/// A text that is not the record it should be; what() says which value and why, in words.
-class RecordError : public std::runtime_error
-{
-    using std::runtime_error::runtime_error;
-};
-
 /// The text of a record: texts between double quotes, numbers as the shortest plain digits that
 /// read back the same, #TRUE# and #FALSE#, an empty line for what was never set; CR LF after each.
-/// A double quote inside a text becomes an apostrophe, a line end a blank.
+/// A double quote inside a text becomes an apostrophe, a line end or tabulator a blank; other
+/// control characters are left out, for a record that holds one cannot be read back.
 std::string writeRecord(std::span<const Value> record);
 
-/// Reads a record of the given kinds. Values beyond them are ignored, LF alone ends a line too.
+/// What was found in a text that should be a record.
+struct ReadRecord {
+    Record record;                   ///< as many values as kinds, those not read never set
+    std::vector<bool> wasRead;       ///< for each of them
+    std::vector<std::string> damage; ///< in words; empty when the text is the record
+
+    bool anythingRead() const;
+    std::string damageText() const; ///< the first words of it, for a message
+};
+
+/// Reads a record of the given kinds, and what can be read of a damaged one: a value that is of
+/// another kind, not closed or not UTF-8 is passed over and the next one taken from the next line.
+/// A text that ends early, or goes on behind the last value, is damaged too. LF alone ends a line,
+/// a comma parts two values on one line, empty lines at the end are nothing.
 /// @param text UTF-8, a leading byte-order mark is skipped
-/// @return as many values as kinds
-/// @throws RecordError when values are missing, of another kind, not closed, or not UTF-8
-Record readRecord(std::string_view text, std::span<const Kind> kinds);
+ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds);
+
+/// A text without control characters: line ends and tabulators become blanks, the others go.
+/// @param text UTF-8
+std::string withoutControls(std::string_view text);
 
 } // namespace korvel

@@ -73,13 +73,13 @@ void WindowMenus::addRecallPosition(const QString& caption, PositionBoxes boxes)
 
 void WindowMenus::recallSingle(QLineEdit* box)
 {
-    if (m_program.actions().ConfirmMemoRecall("SinM") == "Yes")
+    if (m_program.actions().ConfirmMemoRecall(KORVEL2000Actions::SinM) == Answer::Yes)
         box->setText(QString::fromStdString(memoText(m_program.saved().singleMemo())));
 }
 
 void WindowMenus::recallPosition(QLineEdit* latitude, QLineEdit* longitude)
 {
-    if (m_program.actions().ConfirmMemoRecall("PsnM") != "Yes") return;
+    if (m_program.actions().ConfirmMemoRecall(KORVEL2000Actions::PsnM) != Answer::Yes) return;
     latitude->setText(QString::fromStdString(memoText(m_program.saved().memoLatitude())));
     longitude->setText(QString::fromStdString(memoText(m_program.saved().memoLongitude())));
 }

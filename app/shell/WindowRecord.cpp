@@ -29,8 +29,8 @@ WindowRecord::WindowRecord(Program& program, NoticeLine& notices, QWidget& windo
 void WindowRecord::use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
                        Salvage salvage)
 {
-    m_file = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(), file,
-                                            std::move(kinds));
+    m_file = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(),
+                                            m_program.clock(), file, std::move(kinds));
     m_save = std::move(save);
     m_load = std::move(load);
     m_salvage = std::move(salvage);
@@ -57,12 +57,12 @@ void WindowRecord::load()
 {
     if (!m_file) return;
     m_isLoading = true;
-    const auto record = m_file->load();
+    const auto record = m_file->load(m_save());
     const bool isWhole = record && !m_file->isProtected();
-    if (record)
-        m_load(*record);
-    else if (m_salvage && m_file->damagedText())
+    if (m_salvage && m_file->damagedText())
         m_salvage(*m_file->damagedText());
+    else if (record)
+        m_load(*record);
     m_isLoading = false;
     if (isWhole) m_onDisk = m_save();
     watchControls();
@@ -103,21 +103,6 @@ void WindowRecord::saveSoon()
 {
     if (m_file && !m_isLoading)
         QMetaObject::invokeMethod(this, &WindowRecord::saveNow, Qt::QueuedConnection);
-}
-
-void WindowRecord::saveAsked()
-{
-    if (!m_file->isProtected()) {
-        saveNow();
-        return;
-    }
-    if (!m_overwriteRefused) m_file->saveAtClose(m_save());
-    m_overwriteRefused = m_file->isProtected();
-    m_notices.say("save", m_overwriteRefused
-                              ? QString("\"%1\" is left as it was found: nothing of this window is "
-                                        "on the disk yet.")
-                                    .arg(QString::fromStdString(m_file->name()))
-                              : QString());
 }
 
 void WindowRecord::saveAtClose()

@@ -29,8 +29,8 @@ public:
 
     /// Names the file and how the record is filled and taken over. A window without a record never
     /// calls it.
-    /// @param salvage what is done with the bytes of a file that is not the record; it stays as it
-    ///                is until the officer consents
+    /// @param salvage what is done with the bytes of a damaged file, where the window knows more of
+    ///                them than the values that could be read one by one
     void use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
              Salvage salvage = {});
     /// The same for a record that is the texts of boxes, in their order.
@@ -47,10 +47,6 @@ public:
     /// The same when the present user action is over: however often it is called meanwhile, the
     /// file is written once.
     void saveSoon();
-    /// Writes the file at once when the officer asked for something to be kept. For a file that
-    /// could not be read the officer is asked, once while the window is open; a refusal stays in
-    /// the notice line.
-    void saveAsked();
     /// Writes the file for the last time, asking where there is something to ask.
     void saveAtClose();
 
@@ -67,7 +63,6 @@ private:
     Salvage m_salvage;
     std::optional<Record> m_onDisk; ///< what the file holds for sure
     bool m_isLoading = false;
-    bool m_overwriteRefused = false;
 };
 
 } // namespace korvel

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/frmKORVEL2000.h"
 
+#include "app/RecoveryFile.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
@@ -14,29 +16,13 @@ namespace
 
 constexpr int clockInterval = 500; // milliseconds: the minute display is never a second late
 
-std::vector<Kind> savedValueKinds()
-{
-    std::vector<Kind> kinds(KV_Savedvalue::count, Kind::Number);
-    for (int zone = 0; zone < 3; ++zone)
-        kinds[static_cast<std::size_t>(zone)] = Kind::Tick;
-    for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
-        const auto first = static_cast<std::size_t>(3 * n);
-        kinds[first] = Kind::Tick;
-        kinds[first + 1] = Kind::Text;
-        kinds[first + 2] = Kind::Text;
-    }
-    kinds[18] = Kind::Tick;
-    kinds[20] = Kind::Any;
-    kinds[21] = Kind::Any;
-    return kinds;
-}
-
 } // namespace
 
 frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
-    : m_machine(machine),
-      m_settings(machine.files, machine.questions, "KV_KORVEL.ini", savedValueKinds()),
-      m_offsetSettings(machine.files, machine.questions, "KV_Clock.ini", {Kind::Number}),
+    : m_machine(machine), m_settings(machine.files, machine.questions, machine.clock,
+                                     "KV_KORVEL.ini", KV_Savedvalue::kinds()),
+      m_offsetSettings(machine.files, machine.questions, machine.clock, "KV_Clock.ini",
+                       {Kind::Number}),
       m_panel(new MainPanel), m_shipsTime(m_saved, machine.questions, machine.clock, clockHooks()),
       m_actions(m_saved, machine.questions, m_settings,
                 {[this] { MemoHyoujiAtStart(); }, [this] { endProgram(); }}),
@@ -113,7 +99,8 @@ MainMenus::Actions frmKORVEL2000::menuActions()
 
 void frmKORVEL2000::loadSavedValues()
 {
-    if (const auto record = m_settings.load()) m_saved.take(*record);
+    if (const auto record = m_settings.load(m_saved.record()))
+        takeAndTell(m_saved, *record, m_settings.name(), m_machine.questions);
     const auto offset = m_offsetSettings.load();
     if (offset && !m_shipsTime.takeOffset(numberOf(offset->front())))
         m_machine.questions.ask(

@@ -279,7 +279,7 @@ void frmSunSight::listChanged()
 {
     showList();
     calculations().run(m_fixCalculation);
-    record().saveAsked();
+    record().saveNow();
 }
 
 void frmSunSight::setEditing(std::optional<std::size_t> index)

@@ -208,7 +208,7 @@ void frmSunSight::addList()
         m_list.setOn(static_cast<std::size_t>(m_lstSunSight->row(item)),
                      item->checkState() == Qt::Checked);
         calculations().run(m_fixCalculation);
-        record().saveAsked();
+        record().saveNow();
     });
     m_picSunSight = new SightPicture(body());
     connect(m_picSunSight, &PictureBox::pointed, this,

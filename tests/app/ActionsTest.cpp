@@ -18,27 +18,31 @@ protected:
     KV_Savedvalue saved;
     FakeFiles files;
     FakeQuestions questions;
-    SettingsFile settings{files, questions, "KV_KORVEL.ini",
-                          std::vector<Kind>(KV_Savedvalue::count, Kind::Any)};
+    korvel::testing::FakeClock clock;
+    SettingsFile settings{files, questions, clock, "KV_KORVEL.ini", KV_Savedvalue::kinds()};
     int redrawn = 0;
     int ended = 0;
+    int valuesSaved = 0;
     KORVEL2000Actions actions{
-        saved, questions, settings, {[this] { ++redrawn; }, [this] { ++ended; }}};
+        saved,
+        questions,
+        settings,
+        {[this] { ++redrawn; }, [this] { ++ended; }, [this] { ++valuesSaved; }}};
 };
 
 TEST_F(ActionsTest, aPositionIsStoredInTwoHalves)
 {
-    actions.StoreInMemo(1, "35.305");
+    actions.StoreInMemo(KORVEL2000Actions::Latitude, "35.305");
     EXPECT_EQ(redrawn, 1);
     EXPECT_TRUE(questions.asked.empty()) << "a latitude is taken silently";
     questions.willAnswer(Answer::No);
-    actions.StoreInMemo(2, "-139.4523");
+    actions.StoreInMemo(KORVEL2000Actions::Longitude, "-139.4523");
     EXPECT_EQ(questions.asked.back(), "PsnMemo  l:35.-30'5 L:-139.-45'2");
     EXPECT_EQ(redrawn, 1) << "No neither stores nor redraws";
     EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(0));
 
     questions.willAnswer(Answer::Yes);
-    actions.StoreInMemo(2, "-139.4523");
+    actions.StoreInMemo(KORVEL2000Actions::Longitude, "-139.4523");
     EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(35.305));
     EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(-139.4523));
     EXPECT_EQ(actions.memoLine(), "Position Memo  LATITUDE: 35.-30'5N, LONGITUDE: 139.-45'2W\n"
@@ -48,16 +52,20 @@ TEST_F(ActionsTest, aPositionIsStoredInTwoHalves)
 TEST_F(ActionsTest, refusals)
 {
     const struct {
-        int kind;
+        KORVEL2000Actions::StoreKind kind;
         const char* value;
         const char* text;
         const char* title;
     } rows[] = {
-        {1, "90.001", "Lat    ｢ 90.001｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {2, "-180.5", "Long   ｢ -180.5｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {3, "-2", "KV_Savedvalue(25)   ｢ -2｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {3, "abc", "   ｢ abc｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
-        {3, "", "   ｢ ｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
+        {KORVEL2000Actions::Latitude, "90.001",
+         "Lat    ｢ 90.001｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {KORVEL2000Actions::Longitude, "-180.5",
+         "Long   ｢ -180.5｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {KORVEL2000Actions::Single, "-2",
+         "KV_Savedvalue(25)   ｢ -2｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {KORVEL2000Actions::Single, "abc", "   ｢ abc｣\rThis valueis NOT AVAILABLE for MEMO",
+         "Brinemark"},
+        {KORVEL2000Actions::Single, "", "   ｢ ｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
     };
     for (const auto& [kind, value, text, title] : rows) {
         questions.willAnswer(Answer::Ok);
@@ -71,7 +79,7 @@ TEST_F(ActionsTest, refusals)
 
 TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
 {
-    actions.StoreInMemo(1, "12");
+    actions.StoreInMemo(KORVEL2000Actions::Latitude, "12");
     questions.willAnswer(Answer::Ok);
     actions.storePosition("95", "20");
     EXPECT_EQ(questions.asked.size(), 1u) << "the longitude is not asked for";
@@ -85,7 +93,7 @@ TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
 TEST_F(ActionsTest, singleMemoAndRecall)
 {
     questions.willAnswer(Answer::Yes);
-    actions.StoreInMemo(3, "0.0004");
+    actions.StoreInMemo(KORVEL2000Actions::Single, "0.0004");
     EXPECT_EQ(questions.asked.back(), "SingleMemo:0.0");
     EXPECT_EQ(saved.singleMemo(), 0.0004);
 
@@ -93,9 +101,9 @@ TEST_F(ActionsTest, singleMemoAndRecall)
     saved(23) = -5.3;
     saved(24) = 139.4523;
     questions.willAnswer(Answer::Yes);
-    EXPECT_EQ(actions.ConfirmMemoRecall("SinM"), "Yes");
+    EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::SinM), Answer::Yes);
     questions.willAnswer(Answer::No);
-    EXPECT_EQ(actions.ConfirmMemoRecall("PsnM"), "No");
+    EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::PsnM), Answer::No);
     EXPECT_EQ(questions.asked[1], "Following value is stored in SINGLE MEMO now.\r\r    12.50\r\r"
                                   "Are you sure to input this value?");
     EXPECT_EQ(questions.asked[2],
@@ -116,7 +124,15 @@ TEST_F(ActionsTest, exitSavesOnlyWhenConfirmed)
     questions.willAnswer(Answer::Yes);
     EXPECT_EQ(actions.ExitApplication(), 0);
     EXPECT_EQ(ended, 1);
+    EXPECT_EQ(valuesSaved, 1);
     EXPECT_TRUE(files.files["KV_KORVEL.ini"].ends_with("\r\n-9.5\r\n"));
+
+    files.refusal = "disk full";
+    questions.willAnswer(Answer::Yes);
+    questions.willAnswer(Answer::No);
+    EXPECT_EQ(actions.ExitApplication(), 0);
+    EXPECT_EQ(ended, 2);
+    EXPECT_EQ(valuesSaved, 1) << "the officer left without saving";
 }
 
 } // namespace

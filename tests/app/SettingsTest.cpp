@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "app/KV_Savedvalue.h"
 #include "app/SettingsFile.h"
 #include "tests/app/FakeMachine.h"
+#include "tests/golden/Golden.h"
 
 #include <limits>
 
@@ -10,8 +10,11 @@ namespace korvel
 namespace
 {
 
+using korvel::testing::FakeClock;
 using korvel::testing::FakeFiles;
 using korvel::testing::FakeQuestions;
+using korvel::testing::Golden;
+using korvel::testing::golden;
 using ::testing::HasSubstr;
 
 TEST(SettingsRecord, writesEachKindOfValue)
@@ -28,7 +31,8 @@ TEST(SettingsRecord, writesEachKindOfValue)
                 {123456789.0, "123456789"},
                 {-0.0, "0"},
                 {std::numeric_limits<double>::infinity(), "0"},
-                {std::string("a,\"港\"\r\nc"), "\"a,'港'  c\""}};
+                {std::string("a,\"港\"\r\nc\td"), "\"a,'港'  c d\""},
+                {std::string("a\0b\x1B\x7F\xC2\x85°", 9), "\"ab°\""}};
     for (const auto& row : rows)
         EXPECT_EQ(writeRecord(Record{row.value}), row.text + std::string("\r\n"));
 }
@@ -38,71 +42,91 @@ TEST(SettingsRecord, readsBackWhatItWrites)
     const Record record = {std::string("a, b"), 139.4523, true, Value(), 1.0 / 3, std::string()};
     const std::vector<Kind> kinds = {Kind::Text,   Kind::Number, Kind::Tick,
                                      Kind::Number, Kind::Number, Kind::Text};
-    EXPECT_EQ(readRecord(writeRecord(record), kinds), record);
+    EXPECT_EQ(readRecord(writeRecord(record), kinds).record, record);
 }
 
-TEST(SettingsRecord, readsWhatIsMeantAllTheSame)
+/// The values of a record between bars.
+std::string values(const Record& record)
 {
-    const std::vector<Kind> kinds = {Kind::Text, Kind::Number};
-    const Record expected = {std::string("35.3"), 2.0};
-    for (const char* text :
-         {"\"35.3\"\n2", "35.3\r\n2\r\n\r\n", "\"35.3\",2\r\n", "\xEF\xBB\xBF\"35.3\"\r\n2\r\n",
-          "\"35.3\"\r\n2\r\nsurplus\r\n", " \"35.3\" \r\n +2.0 \r\n"})
-        EXPECT_EQ(readRecord(text, kinds), expected) << text;
+    std::string text = writeRecord(record);
+    text.erase(text.size() - 2);
+    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;)
+        text.replace(at, 2, "|");
+    return text;
 }
 
-TEST(SettingsRecord, refusesWhatIsNotTheRecord)
+constexpr Kind textNumberTick[] = {Kind::Text, Kind::Number, Kind::Tick};
+
+TEST(SettingsRecord, takesWhatCanBeReadAndNamesTheDamage)
 {
-    const std::vector<Kind> kinds = {Kind::Text, Kind::Number, Kind::Tick};
-    const struct {
-        const char* text;
-        const char* reason;
-    } rows[] = {
-        {"", "ends after 0 of 3"},
-        {"\"a\"\r\n1\r\n", "ends after 2 of 3"},
-        {"\"a\r\n1\r\n#TRUE#\r\n", "no closing quote"},
-        {"\"a\"b\r\n1\r\n#TRUE#\r\n", "goes on behind"},
-        {"\"a\"\r\n1x\r\n#TRUE#\r\n", "value 2 is not a number"},
-        {"\"a\"\r\n1\r\n1\r\n", "value 3 is not #TRUE#"},
-        {"\"\xC3(\"\r\n1\r\n#TRUE#\r\n", "UTF-8"},
-        {"\"a\"\r\n1e999\r\n#TRUE#\r\n", "value 2 is not a number"},
-    };
-    for (const auto& [text, reason] : rows) {
-        try {
-            readRecord(text, kinds);
-            ADD_FAILURE() << "accepted: " << text;
-        } catch (const RecordError& error) {
-            EXPECT_THAT(error.what(), HasSubstr(reason)) << text;
-        }
+    for (const Golden& row : golden("settings_records")) {
+        const ReadRecord read = readRecord(row.text("file"), textNumberTick);
+        EXPECT_EQ(values(read.record), row.text("taken")) << row;
+        EXPECT_EQ(read.damageText(), row.text("damage")) << row;
     }
-    EXPECT_THROW(readRecord(std::string("\"a\0b\"\r\n1\r\n#TRUE#", 16), kinds), RecordError);
 }
 
-TEST(SettingsFile, isNotOverwrittenBeforeTheOfficerAgrees)
+TEST(SettingsRecord, isUtf8)
 {
+    const struct {
+        std::string file;
+        const char* taken;
+    } rows[] = {{"\xEF\xBB\xBF\"°港😀\"", "\"°港😀\""},
+                {"\"\xC3(\"", ""},
+                {"\"\xE6\xB8\"", ""},
+                {"\"\x80\"", ""},
+                {"\"\xC0\x80\"", ""},
+                {std::string("\"a\0b\"", 5), ""}};
+    for (const auto& [file, taken] : rows)
+        EXPECT_EQ(values(readRecord(file + "\r\n", std::span(textNumberTick, 1)).record), taken);
+}
+
+class SettingsFileTest : public ::testing::Test
+{
+protected:
     FakeFiles files;
     FakeQuestions questions;
-    files.files["KV_X.ini"] = "damaged";
-    SettingsFile settings(files, questions, "KV_X.ini", {Kind::Number});
+    FakeClock clock; // 2005-03-14 09:45
+    SettingsFile settings{files, questions, clock, "KV_X.ini", {Kind::Number, Kind::Text}};
+};
 
+TEST_F(SettingsFileTest, keepsADamagedFileAsideBeforeItIsOverwritten)
+{
+    const std::string damaged = "7\r\n\"cut o";
+    files.files["KV_X.ini"] = damaged;
+    files.files["KV_X damaged 2005-03-14 0945.ini"] = "of a minute ago";
     questions.willAnswer(Answer::Ok);
-    EXPECT_FALSE(settings.load());
-    EXPECT_THAT(questions.asked.back(), HasSubstr("\"KV_X.ini\" cannot be read"));
-    EXPECT_EQ(settings.saveQuietly({1.0}), "");
-    questions.willAnswer(Answer::No);
-    EXPECT_FALSE(settings.saveAtClose({1.0}));
-    EXPECT_EQ(files.files["KV_X.ini"], "damaged");
-    questions.willAnswer(Answer::Yes);
-    EXPECT_TRUE(settings.saveAtClose({1.0}));
-    EXPECT_EQ(files.files["KV_X.ini"], "1\r\n");
+    EXPECT_EQ(values(settings.load({1.0, std::string("default")}).value()), "7|\"default\"");
+    EXPECT_EQ(questions.asked.back(),
+              "The settings file \"KV_X.ini\" is damaged: value 2 has no closing quote.\r"
+              "What could be read is taken over: check every value.\rBefore anything is written "
+              "over the file, it is kept as \"KV_X damaged 2005-03-14 0945 2.ini\".");
+    EXPECT_EQ(files.files["KV_X.ini"], damaged) << "looking at it changes nothing";
+    EXPECT_TRUE(settings.isProtected());
+
+    files.renameRefusal = "no right";
+    EXPECT_THAT(settings.saveQuietly({1.0, Value()}), HasSubstr("0945 2.ini\": no right"));
+    EXPECT_EQ(files.files["KV_X.ini"], damaged);
+    files.renameRefusal.reset();
+    EXPECT_EQ(settings.saveQuietly({2.0, Value()}), "");
+    EXPECT_EQ(settings.saveQuietly({3.0, Value()}), "");
+    EXPECT_EQ(files.files["KV_X.ini"], "3\r\n\r\n");
+    EXPECT_EQ(files.files["KV_X damaged 2005-03-14 0945 2.ini"], damaged);
+    EXPECT_EQ(files.files.size(), 3u) << "kept aside once";
 }
 
-TEST(SettingsFile, aFailedSaveMayBeTriedAgainOrLeft)
+TEST_F(SettingsFileTest, opensWithDefaultsWhenNothingCanBeRead)
 {
-    FakeFiles files;
-    FakeQuestions questions;
-    SettingsFile settings(files, questions, "KV_X.ini", {Kind::Number});
     EXPECT_FALSE(settings.load()) << "a missing file is no message";
+    files.files["KV_X.ini"] = std::string(50, '\0');
+    questions.willAnswer(Answer::Ok);
+    EXPECT_FALSE(settings.load({1.0, Value()}));
+    EXPECT_THAT(questions.asked.back(), HasSubstr("opens with its defaults"));
+    EXPECT_EQ(settings.damagedText(), std::string(50, '\0'));
+}
+
+TEST_F(SettingsFileTest, aFailedSaveMayBeTriedAgainOrLeft)
+{
     files.refusal = "disk full";
     EXPECT_THAT(settings.saveQuietly({1.0}), HasSubstr("KV_X.ini\" could not be saved: disk full"));
     questions.willAnswer(Answer::Yes, [&] { files.refusal.reset(); });
@@ -113,34 +137,6 @@ TEST(SettingsFile, aFailedSaveMayBeTriedAgainOrLeft)
     questions.willAnswer(Answer::No);
     EXPECT_FALSE(settings.saveAtClose({3.0}));
     EXPECT_EQ(files.files["KV_X.ini"], "2\r\n");
-}
-
-TEST(SavedValues, aNewInstallation)
-{
-    EXPECT_EQ(
-        writeRecord(KV_Savedvalue().record()),
-        "#TRUE#\r\n\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n"
-        "\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\r\n\r\n\r\n1\r\n0\r\n0\r\n0\r\n9\r\n");
-}
-
-TEST(SavedValues, bringWhatTheyReadIntoOrder)
-{
-    KV_Savedvalue saved;
-    EXPECT_EQ(saved.earth(), NavFunc113::Earth::Sphere);
-    Record record = saved.record();
-    record[0] = false;
-    record[1] = record[2] = true;
-    record[22] = 0.0;
-    record[26] = 9.3;
-    saved.take(record);
-    EXPECT_EQ(saved.clockZone(), ClockZone::SMT) << "the first of several ticks";
-    EXPECT_EQ(saved.earth(), NavFunc113::Earth::Spheroid);
-    EXPECT_EQ(saved.TD(), 9.3f);
-    record[1] = record[2] = Value();
-    record[26] = 99.0;
-    saved.take(record);
-    EXPECT_EQ(saved.clockZone(), ClockZone::JST);
-    EXPECT_EQ(saved.TD(), 9.0f);
 }
 
 } // namespace

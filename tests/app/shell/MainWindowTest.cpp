@@ -155,9 +155,20 @@ TEST_F(MainWindowTest, aDamagedFileIsReportedAndKept)
     EXPECT_THAT(questions.asked.back(), HasSubstr("KV_KORVEL.ini"));
     EXPECT_EQ(window->windowTitle(), "KORVEL (9.0 hE)");
     questions.willAnswer(Answer::Yes);
-    questions.willAnswer(Answer::No);
     choose(*window, "mnuEND");
-    EXPECT_EQ(files.read("KV_KORVEL.ini").bytes, "#TRUE#\r\n");
+    EXPECT_EQ(files.read("KV_KORVEL damaged 2005-03-14 0945.ini").bytes, "#TRUE#\r\n");
+}
+
+TEST_F(MainWindowTest, whatIsOutOfRangeInItsFileIsNamed)
+{
+    Record record = KV_Savedvalue().record();
+    record[25] = -4.5;
+    ASSERT_EQ(files.save("KV_KORVEL.ini", writeRecord(record)), std::nullopt);
+    questions.willAnswer(Answer::Ok);
+    const auto window = start();
+    EXPECT_EQ(questions.asked.back(), "\"KV_KORVEL.ini\" holds values that are out of range and "
+                                      "were not taken over:\rSingle Memo -4.5");
+    EXPECT_EQ(window->program().saved().singleMemo(), 0);
 }
 
 TEST_F(MainWindowTest, anAlarmRingsWhileAnotherQuestionIsOpen)

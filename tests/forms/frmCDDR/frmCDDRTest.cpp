@@ -188,15 +188,17 @@ TEST_F(frmCDDRTest, settingsOutliveTheWindow)
               "\"10\"\r\n20\r\n\"11\"\r\n\"20\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n\"\"\r\n");
     EXPECT_EQ(text(open<frmCDDR>(), "lblCDDR(1)"), "60'.0");
 
-    const std::string damaged = "\"10\"\r\n";
+    const std::string damaged = "\"10\"\r\n\"20\"\r\n\"11\"\r\n\"2";
     writeFile("KV_CDDR.ini", damaged);
     questions.willAnswer(Answer::Ok);
     auto& window = open<frmCDDR>();
     EXPECT_THAT(questions.asked.back(), HasSubstr("KV_CDDR.ini"));
-    EXPECT_EQ(text(window, "txtCDDR(0)"), "");
-    questions.willAnswer(Answer::No);
+    EXPECT_EQ(text(window, "txtCDDR(2)"), "11") << "what can be read is shown";
+    EXPECT_EQ(text(window, "txtCDDR(3)"), "");
+    EXPECT_EQ(fileText("KV_CDDR.ini"), damaged) << "looking changes nothing";
     close(window);
-    EXPECT_EQ(fileText("KV_CDDR.ini"), damaged);
+    EXPECT_EQ(fileText("KV_CDDR damaged 2005-03-14 0945.ini"), damaged);
+    EXPECT_THAT(fileText("KV_CDDR.ini"), HasSubstr("\"11\"\r\n\"\"\r\n"));
 }
 
 } // namespace
