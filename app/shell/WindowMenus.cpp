@@ -37,9 +37,9 @@ QAction* WindowMenus::addMemoEntry(QMenu*& menu, const QString& title, const QSt
                     std::move(action));
 }
 
-void WindowMenus::addStoreSingle(const QString& caption, Text value)
+QAction* WindowMenus::addStoreSingle(const QString& caption, Text value)
 {
-    addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption, [this, value = std::move(value)] {
+    return addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption, [this, value = std::move(value)] {
         m_program.actions().StoreInMemo(KORVEL2000Actions::Single, value());
     });
 }

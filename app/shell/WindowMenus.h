@@ -27,7 +27,7 @@ public:
                       std::function<void()> action);
 
     using Text = std::function<std::string()>;
-    void addStoreSingle(const QString& caption, Text value);
+    QAction* addStoreSingle(const QString& caption, Text value);
     QAction* addStorePosition(const QString& caption, Text latitude, Text longitude);
     void addRecallSingle(const QString& caption, QLineEdit* box);
     void addRecallPosition(const QString& caption, QLineEdit* latitude, QLineEdit* longitude);

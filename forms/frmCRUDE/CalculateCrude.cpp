@@ -2,6 +2,7 @@
 #include "forms/frmCRUDE/CalculateCrude.h"
 
 #include "app/Format.h"
+#include "app/NumberField.h"
 #include "app/reading.h"
 #include "navlib/arithmetic_error.h"
 
@@ -20,43 +21,21 @@ constexpr const char* barrelFormat = "0.00";
 constexpr const char* tonFormat = "0.000";
 constexpr const char* factorFormat = "0.0000000";
 
-/// Collects what is to be said in the notice line.
-class Notice
-{
-public:
-    void add(const std::string& sentence)
-    {
-        if (!m_text.empty()) m_text += "; ";
-        m_text += sentence;
-    }
-    const std::string& text() const { return m_text; }
-
-private:
-    std::string m_text;
-};
+using Form = NumberField::Form;
 
 /// The number in a box; nothing, and no word about it, when the box is empty.
-std::optional<double> numberIn(const std::string& box, const char* name, Notice& notice)
+std::optional<double> numberIn(const std::string& box, const NumberField& field, Remarks& remarks)
 {
     if (box.find_first_not_of(" \t") == std::string::npos) return std::nullopt;
-    const std::optional<double> value = readLeadingNumber(box);
-    if (!value)
-        notice.add(std::string(name) + " is no number");
-    else if (!isNumeric(box)) // 10,000 is read as 10: that must not pass unseen
-        notice.add(std::string(name) + " was read as " + Format(*value, "0.######"));
-    return value;
+    return readField(box, field, remarks);
 }
 
 std::optional<double> temperatureIn(const std::string& box, TemperatureUnit unit, const char* name,
-                                    Notice& notice)
+                                    Remarks& remarks)
 {
-    std::optional<double> value = numberIn(box, name, notice);
-    const double absoluteZero = unit == TemperatureUnit::Celsius ? -273.15 : -459.67;
-    if (value && *value < absoluteZero) {
-        notice.add(std::string(name) + " is below absolute zero");
-        value.reset();
-    }
-    return value;
+    const bool celsius = unit == TemperatureUnit::Celsius;
+    const double absoluteZero = celsius ? -273.15 : -459.67;
+    return numberIn(box, {name, absoluteZero, HUGE_VAL, celsius ? "°C" : "°F"}, remarks);
 }
 
 double celsius(double temperature, TemperatureUnit unit)
@@ -77,12 +56,13 @@ struct Oil {
 };
 
 /// The density or gravity box, reduced to its reference temperature when it was observed.
-std::optional<double> referenceValue(const CrudeInput& input, double typed, Notice& notice)
+std::optional<double> referenceValue(const CrudeInput& input, double typed, Remarks& remarks)
 {
     if (!input.densityObserved) return typed;
     const std::string& box =
         input.observedTemperature.empty() ? input.temperature : input.observedTemperature;
-    const auto at = temperatureIn(box, input.temperatureUnit, "observed temperature", notice);
+    const auto at =
+        temperatureIn(box, input.temperatureUnit, "temperature of the density", remarks);
     if (!at) return std::nullopt;
     if (input.densityBase == DensityBase::Density15)
         return NavFunc113::Density15FromObserved(typed, celsius(*at, input.temperatureUnit),
@@ -91,28 +71,28 @@ std::optional<double> referenceValue(const CrudeInput& input, double typed, Noti
                                          input.readWith, input.edition);
 }
 
-std::optional<Oil> oilOf(const CrudeInput& input, Notice& notice)
+std::optional<Oil> oilOf(const CrudeInput& input, Remarks& remarks)
 {
     const bool metric = input.densityBase == DensityBase::Density15;
     std::optional<double> typed =
-        numberIn(input.density, metric ? "density" : "API gravity", notice);
+        numberIn(input.density, {metric ? "density" : "API gravity"}, remarks);
     if (!typed) return std::nullopt;
     if (metric ? !(*typed > 0) : !(*typed > -131.5)) {
-        notice.add(metric ? "density must be greater than 0"
-                          : "API gravity must be greater than -131.5");
+        remarks.fault(metric ? "density must be greater than 0"
+                             : "API gravity must be greater than -131.5");
         return std::nullopt;
     }
     if (metric && *typed >= 0.5 && *typed <= 1.2) {
         *typed *= 1000;
-        notice.add("density taken as kg/L: " + Format(*typed, "0.0##") + " kg/m³");
+        remarks.warn("density taken as kg/L: " + Format(*typed, "0.0##") + " kg/m³");
     }
     try {
-        const auto value = referenceValue(input, *typed, notice);
+        const auto value = referenceValue(input, *typed, remarks);
         if (!value) return std::nullopt;
         if (metric) return Oil{*value, NavFunc113::APIFromDensity15(*value, input.edition)};
         return Oil{NavFunc113::Density15FromAPI(*value, input.edition), *value};
     } catch (const ArithmeticError&) {
-        notice.add("no oil has this density at this temperature");
+        remarks.fault("no oil has this density at this temperature");
         return std::nullopt;
     }
 }
@@ -147,38 +127,61 @@ void showCorrection(const CrudeInput& input, const Correction& correction, Crude
     if (!correction.withinTable) result.rangeFlag = "outside " + table;
 }
 
-/// Observed volume less free water.
-std::optional<double> grossObservedOf(const CrudeInput& input, Notice& notice)
+/// What lies in the tanks.
+struct Observed {
+    double total;
+    double freeWater;
+    double gross() const { return total - freeWater; }
+};
+
+std::optional<Observed> observedOf(const CrudeInput& input, Remarks& remarks)
 {
-    const auto volume = numberIn(input.volume, "volume", notice);
-    const double water = numberIn(input.freeWater, "free water", notice).value_or(0);
-    if (!volume) return std::nullopt;
-    if (*volume < 0 || water < 0) {
-        notice.add(*volume < 0 ? "volume is negative" : "free water is negative");
+    const char* const unit = input.volumeUnit == VolumeUnit::Kilolitres ? "kL" : "bbl";
+    const auto volume = numberIn(input.volume, {"volume", 0, HUGE_VAL, unit}, remarks);
+    const auto water =
+        readField(input.freeWater, {"free water", 0, HUGE_VAL, unit, Form::Plain, 0}, remarks);
+    if (!volume || !water) return std::nullopt;
+    if (*water > *volume) {
+        remarks.fault("free water exceeds the volume");
         return std::nullopt;
     }
-    if (water > *volume) {
-        notice.add("free water exceeds the volume");
-        return std::nullopt;
-    }
-    return *volume - water;
+    return Observed{*volume, *water};
 }
 
-std::optional<double> netPartOf(const CrudeInput& input, Notice& notice)
+std::optional<double> netPartOf(const CrudeInput& input, Remarks& remarks)
 {
-    const double percent =
-        numberIn(input.sedimentAndWater, "sediment and water", notice).value_or(0);
-    if (percent >= 0 && percent <= 100) return 1 - percent / 100;
-    notice.add("sediment and water must be 0 to 100 %");
-    return std::nullopt;
+    const auto percent = readField(input.sedimentAndWater,
+                                   {"sediment and water", 0, 100, "%", Form::Plain, 0}, remarks);
+    if (!percent) return std::nullopt;
+    return 1 - *percent / 100;
 }
 
-std::optional<double> barrelFactorOf(const CrudeInput& input, Notice& notice)
+/// Kilolitres at 15 degC of a barrel at 60 degF, as the headline figure takes it.
+struct BarrelFactor {
+    std::optional<double> typed; ///< nothing: it follows from the density
+    bool usable = true;          ///< what was typed can be used
+};
+
+BarrelFactor barrelFactorOf(const CrudeInput& input, Remarks& remarks)
 {
-    const auto factor = numberIn(input.klPerBarrel, "KL/Bbl", notice);
-    if (factor && *factor >= 0.158 && *factor <= 0.160) return factor;
-    notice.add("KL/Bbl must be 0.158 to 0.160");
-    return std::nullopt;
+    const bool empty = input.klPerBarrel.find_first_not_of(" \t") == std::string::npos;
+    const auto typed = numberIn(input.klPerBarrel, {"KL/Bbl", 0.158, 0.160}, remarks);
+    return {typed, empty || typed.has_value()};
+}
+
+/// Says what is still to be typed, as soon as something was.
+void nameMissing(const CrudeInput& input, Remarks& remarks)
+{
+    const std::pair<const std::string&, const char*> needed[] = {
+        {input.volume, "volume"},
+        {input.temperature, "temperature of the cargo"},
+        {input.density, input.densityBase == DensityBase::Density15 ? "density" : "API gravity"}};
+    std::string missing;
+    for (const auto& [box, name] : needed)
+        if (box.empty()) missing += (missing.empty() ? "" : ", ") + std::string(name);
+    const bool something =
+        !input.volume.empty() || !input.temperature.empty() || !input.density.empty();
+    if (something && !missing.empty()) remarks.fault("still to be typed: " + missing);
 }
 
 struct Volumes {
@@ -198,58 +201,84 @@ Volumes volumesOf(const CrudeInput& input, const Oil& oil, double standardVolume
     return {cubicMetres * shrinkage, cubicMetres};
 }
 
-void showVolumes(const CrudeInput& input, const Oil& oil, const Volumes& volumes,
-                 std::optional<double> factor, CrudeResult& result)
+double barrelsOf(double cubicMetres)
 {
-    const auto barrels = [](double cubicMetres) {
-        return cubicMetres / NavFunc113::cubicMetresPerBarrel;
-    };
+    return cubicMetres / NavFunc113::cubicMetresPerBarrel;
+}
+
+void showByDensity(const Volumes& volumes, CrudeResult& result)
+{
     result.kilolitres15 = Format(volumes.kilolitres15, kilolitreFormat);
     result.kilolitres60 = Format(volumes.kilolitres60, kilolitreFormat);
-    result.barrels15 = Format(barrels(volumes.kilolitres15), barrelFormat);
-    result.barrels60 = Format(barrels(volumes.kilolitres60), barrelFormat);
+    result.barrels15 = Format(barrelsOf(volumes.kilolitres15), barrelFormat);
+    result.barrels60 = Format(barrelsOf(volumes.kilolitres60), barrelFormat);
+}
 
-    const std::string used =
-        factor ? Format(*factor, "0.000######") + " (by density " +
-                     Format(NavFunc113::KilolitresPerBarrel(oil.density15, input.edition),
-                            factorFormat) +
-                     ")"
-               : std::string();
+/// Barrels are those at 60 degF and kilolitres those at 15 degC, as in cargo papers. A factor that
+/// the officer typed turns the one into the other; otherwise the density does.
+void showHeadline(const CrudeInput& input, const Oil& oil, const Volumes& volumes,
+                  const BarrelFactor& factor, CrudeResult& result)
+{
+    const std::string byDensity =
+        Format(NavFunc113::KilolitresPerBarrel(oil.density15, input.edition), factorFormat);
+    const std::string used = factor.typed ? Format(*factor.typed, "0.000######") +
+                                                " as typed (by density " + byDensity + ")"
+                                          : byDensity + ", by density";
     if (input.densityBase == DensityBase::Density15) {
         result.kilolitres = result.kilolitres15;
         result.kilolitresMethod = "at 15 °C";
-        if (!factor) return;
-        result.barrels = Format(volumes.kilolitres15 / *factor, barrelFormat);
-        result.barrelsMethod = "= kL / " + used;
+        if (!factor.usable) return;
+        result.barrels = factor.typed ? Format(volumes.kilolitres15 / *factor.typed, barrelFormat)
+                                      : result.barrels60;
+        result.barrelsMethod = "at 60 °F = kL at 15 °C / " + used;
     } else {
         result.barrels = result.barrels60;
         result.barrelsMethod = "at 60 °F";
-        if (!factor) return;
-        result.kilolitres = Format(barrels(volumes.kilolitres60) * *factor, kilolitreFormat);
-        result.kilolitresMethod = "= bbl x " + used;
+        if (!factor.usable) return;
+        result.kilolitres =
+            factor.typed ? Format(barrelsOf(volumes.kilolitres60) * *factor.typed, kilolitreFormat)
+                         : result.kilolitres15;
+        result.kilolitresMethod = "at 15 °C = bbl at 60 °F x " + used;
     }
 }
 
-void showTons(WeightRule rule, const Oil& oil, double kilolitres15, CrudeResult& result)
+/// Tons in air of one ton in vacuo, and what that rule is called.
+struct WeighedInAir {
+    double perTonInVacuo;
+    std::string method;
+};
+
+WeighedInAir weighedInAir(WeightRule rule, const Oil& oil)
+{
+    if (rule == WeightRule::Table56Printed) {
+        const double factor = NavFunc113::Table56FactorAsPrinted(oil.density15);
+        return {factor, "Table 56, " + Format(factor, "0.00000")};
+    }
+    const double factor = NavFunc113::Table56Factor(oil.density15);
+    return {factor, "Table 56 exact, " + Format(factor, "0.000000")};
+}
+
+CrudeTons tonsOf(WeightRule rule, const Oil& oil, double kilolitres15, std::string& method)
 {
     const double inVacuo = NavFunc113::MassInVacuo(kilolitres15, oil.density15);
     double inAir = 0;
     if (rule == WeightRule::DensityLess11) {
         inAir = NavFunc113::WeightInAir(kilolitres15, oil.density15);
-        result.weightMethod = "density - 1.1";
-    } else if (rule == WeightRule::Table56Printed) {
-        const double factor = NavFunc113::Table56FactorAsPrinted(oil.density15);
-        inAir = inVacuo * factor;
-        result.weightMethod = "Table 56, " + Format(factor, "0.00000");
+        method = "density - 1.1";
     } else {
-        const double factor = NavFunc113::Table56Factor(oil.density15);
-        inAir = inVacuo * factor;
-        result.weightMethod = "Table 56 exact, " + Format(factor, "0.000000");
+        const WeighedInAir weighed = weighedInAir(rule, oil);
+        inAir = inVacuo * weighed.perTonInVacuo;
+        method = weighed.method;
     }
-    result.metricTonsInAir = Format(inAir, tonFormat);
-    result.longTonsInAir = Format(NavFunc113::LongTonsOf(inAir), tonFormat);
-    result.metricTonsInVacuo = Format(inVacuo, tonFormat);
-    result.longTonsInVacuo = Format(NavFunc113::LongTonsOf(inVacuo), tonFormat);
+    return {Format(inAir, tonFormat), Format(NavFunc113::LongTonsOf(inAir), tonFormat),
+            Format(inVacuo, tonFormat), Format(NavFunc113::LongTonsOf(inVacuo), tonFormat)};
+}
+
+void showObserved(const Observed& observed, const char* format, CrudeResult& result)
+{
+    result.totalObserved = Format(observed.total, format);
+    result.freeWater = Format(observed.freeWater, format);
+    result.grossObserved = Format(observed.gross(), format);
 }
 
 } // namespace
@@ -257,41 +286,45 @@ void showTons(WeightRule rule, const Oil& oil, double kilolitres15, CrudeResult&
 CrudeResult CalculateCrude(const CrudeInput& input)
 {
     CrudeResult result;
-    Notice notice;
-    const auto gross = grossObservedOf(input, notice);
-    const auto temperature =
-        temperatureIn(input.temperature, input.temperatureUnit, "temperature", notice);
-    const auto oil = oilOf(input, notice);
-    const auto netPart = netPartOf(input, notice);
-    const auto factor = barrelFactorOf(input, notice);
-    result.notice = notice.text();
+    Remarks remarks;
+    const auto observed = observedOf(input, remarks);
+    const auto temperature = temperatureIn(input.temperature, input.temperatureUnit,
+                                           "temperature of the cargo", remarks);
+    const auto oil = oilOf(input, remarks);
+    const auto netPart = netPartOf(input, remarks);
+    const BarrelFactor factor = barrelFactorOf(input, remarks);
+    nameMissing(input, remarks);
+    result.notice = remarks.text();
 
     const bool inKilolitres = input.volumeUnit == VolumeUnit::Kilolitres;
     const char* const volumeFormat = inKilolitres ? kilolitreFormat : barrelFormat;
-    if (gross) result.grossObserved = Format(*gross, volumeFormat);
+    if (observed) showObserved(*observed, volumeFormat, result);
     if (!oil) return result;
     result.density15 = Format(oil->density15, "0.0##");
     result.api60 = Format(oil->api60, "0.00");
     if (!temperature) return result;
     showCorrection(input, correctionOf(input, *oil, *temperature), result);
-    if (!gross) return result;
-    const double standard = *gross * readNumber(result.vcf);
+    if (!observed) return result;
+    const double standard = observed->gross() * readNumber(result.vcf);
     result.grossStandard = Format(standard, volumeFormat);
     result.standardMethod =
         std::string(inKilolitres ? "kL" : "bbl") +
         (input.densityBase == DensityBase::Density15 ? " at 15 °C" : " at 60 °F");
+    result.gross = tonsOf(input.weightRule, *oil, volumesOf(input, *oil, standard).kilolitres15,
+                          result.weightMethod);
     if (!netPart) return result;
     const double net = standard * *netPart;
     result.netStandard = Format(net, volumeFormat);
     const Volumes volumes = volumesOf(input, *oil, net);
-    showVolumes(input, *oil, volumes, factor, result);
-    showTons(input.weightRule, *oil, volumes.kilolitres15, result);
+    showByDensity(volumes, result);
+    showHeadline(input, *oil, volumes, factor, result);
+    result.net = tonsOf(input.weightRule, *oil, volumes.kilolitres15, result.weightMethod);
     return result;
 }
 
 std::string KLPerBarrelFromDensity(const CrudeInput& input)
 {
-    Notice unsaid;
+    Remarks unsaid;
     const auto oil = oilOf(input, unsaid);
     if (!oil) return {};
     try {

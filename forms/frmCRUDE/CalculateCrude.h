@@ -19,8 +19,6 @@ enum class DensityBase { Density15, API60 };
 
 enum class WeightRule { DensityLess11, Table56Printed, Table56Exact };
 
-inline constexpr const char* defaultKLPerBarrel = "0.15899";
-
 struct CrudeInput {                  // boxes as typed
     std::string volume;              ///< total observed volume
     std::string temperature;         ///< of the cargo
@@ -28,7 +26,7 @@ struct CrudeInput {                  // boxes as typed
     std::string observedTemperature; ///< of an observed density; empty: that of the cargo
     std::string freeWater;           ///< in the unit of the volume; empty: none
     std::string sedimentAndWater;    ///< per cent of the standard volume; empty: none
-    std::string klPerBarrel = defaultKLPerBarrel;
+    std::string klPerBarrel;         ///< 0.158 to 0.160; empty: it follows from the density
 
     VolumeUnit volumeUnit = VolumeUnit::Kilolitres;
     TemperatureUnit temperatureUnit = TemperatureUnit::Celsius; ///< of both temperatures
@@ -40,37 +38,44 @@ struct CrudeInput {                  // boxes as typed
     NavFunc113::CrudeEdition edition = NavFunc113::CrudeEdition::Of1980;
 };
 
-struct CrudeResult {              // an empty text blanks the label
-    std::string density15;        ///< kg/m3 at 15 degC
-    std::string api60;            ///< API at 60 degF
-    std::string vcf;              ///< as shown, so it was used
-    std::string vcfMethod;        ///< "Table 54A, 1980, 15 °C"
-    std::string rangeFlag;        ///< "outside Table 54A"; empty within it
-    std::string grossObserved;    ///< less free water; unit of the volume box
+struct CrudeTons {           ///< an empty text blanks the label
+    std::string metricInAir; ///< by the weight rule
+    std::string longInAir;
+    std::string metricInVacuo; ///< kilolitres at 15 degC x density at 15 degC
+    std::string longInVacuo;
+};
+
+struct CrudeResult {           // an empty text blanks the label
+    std::string density15;     ///< kg/m3 at 15 degC
+    std::string api60;         ///< API at 60 degF
+    std::string vcf;           ///< as shown, so it was used
+    std::string vcfMethod;     ///< "Table 54A, 1980, 15 °C"
+    std::string rangeFlag;     ///< "outside Table 54A"; empty within it
+    std::string totalObserved; ///< these three in the unit of the volume box
+    std::string freeWater;
+    std::string grossObserved;    ///< total less free water
     std::string grossStandard;    ///< gross observed x VCF; unit of the volume box
-    std::string netStandard;      ///< less sediment and water; all that follows is net
+    std::string netStandard;      ///< less sediment and water; all volumes that follow are net
     std::string standardMethod;   ///< "kL at 15 °C": what the two standard volumes are
-    std::string barrels;          ///< at 60 degF by the KL/Bbl factor, or the standard volume
-    std::string barrelsMethod;    ///< "= kL / 0.15899 (by density 0.1589156)"
-    std::string kilolitres;       ///< at 15 degC by the KL/Bbl factor, or the standard volume
-    std::string kilolitresMethod; ///< "= bbl x 0.15899 (by density 0.1589141)"
-    std::string barrels60;        ///< these four by the density, whatever the factor says
+    std::string barrels;          ///< at 60 degF: by the density, or by the factor that was typed
+    std::string barrelsMethod;    ///< "at 60 °F = kL at 15 °C / 0.1589156, by density"
+    std::string kilolitres;       ///< at 15 degC: by the density, or by the factor that was typed
+    std::string kilolitresMethod; ///< "at 15 °C = bbl at 60 °F x 0.1589141, by density"
+    std::string barrels60;        ///< these four by the density, whatever factor was typed
     std::string barrels15;
     std::string kilolitres60;
     std::string kilolitres15;
-    std::string metricTonsInAir; ///< by the weight rule, from kilolitres15
-    std::string longTonsInAir;
-    std::string weightMethod;      ///< "density - 1.1", "Table 56, 0.99875"
-    std::string metricTonsInVacuo; ///< kilolitres15 x density15
-    std::string longTonsInVacuo;
-    std::string notice; ///< what makes no sense, in words; empty when all is well
+    CrudeTons gross;          ///< of the gross standard volume
+    CrudeTons net;            ///< of the net standard volume
+    std::string weightMethod; ///< "density - 1.1", "Table 56, 0.99875"
+    std::string notice;       ///< what is missing or makes no sense; empty when all is well
 };
 
 /// All figures of the cargo.
 ///
 /// A figure is blank when one that it needs is missing (an empty volume, temperature or density is
-/// not taken as 0) or makes no sense; the latter stands in the notice. Tons never depend on the
-/// KL/Bbl factor: barrels at 60 degF times density at 15 degC would be 0.05 % wrong.
+/// not taken as 0) or makes no sense; the notice says which. Tons never depend on the KL/Bbl
+/// factor: barrels at 60 degF times density at 15 degC would be 0.05 % wrong.
 /// @throws NavFunc113::ArithmeticError when volumes or temperatures are beyond all numbers
 CrudeResult CalculateCrude(const CrudeInput& input);
 

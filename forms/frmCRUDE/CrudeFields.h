@@ -13,13 +13,15 @@ namespace korvel
 inline constexpr std::array<Field, 7> CrudeFields = {{
     {"txtVolume", "V&olume", "Observed volume", FieldKind::KeyUp},
     {"txtFreeWater", "Fr&ee water", "Free water", FieldKind::KeyUp},
-    {"txtTemperature", "&Temperature", "Temperature of the cargo", FieldKind::KeyUp},
+    {"txtTemperature", "Cargo &temperature", "Temperature of the cargo", FieldKind::KeyUp},
     {"txtDensity", "&Density", "Density", FieldKind::KeyUp},
-    {"txtObservedTemperature", "  &at temperature", "Temperature at which the density was observed",
+    {"txtObservedTemperature", "Density taken &at", "Temperature at which the density was observed",
      FieldKind::KeyUp},
     {"txtSedimentAndWater", "&Sediment and water", "Sediment and water, per cent",
      FieldKind::KeyUp},
-    {"txtKLperBbl", "&KL/Bbl", "KL/Bbl, kilolitres at 15 °C per barrel at 60 °F", FieldKind::KeyUp},
+    {"txtKLperBbl", "&KL/Bbl",
+     "KL/Bbl, kilolitres at 15 °C per barrel at 60 °F, empty for that of the density",
+     FieldKind::KeyUp},
 }};
 
 } // namespace korvel

@@ -8,6 +8,18 @@ namespace korvel
 namespace
 {
 
+/// A figure of the result, or of its tons.
+template <auto Member>
+const std::string& figure(const CrudeResult& result)
+{
+    return result.*Member;
+}
+template <auto Tons, auto Member>
+const std::string& figure(const CrudeResult& result)
+{
+    return result.*Tons.*Member;
+}
+
 void addHeading(QGridLayout* grid, int row, const QString& text)
 {
     auto* heading = new QLabel(text);
@@ -34,7 +46,8 @@ CrudeResults::CrudeResults()
     grid->setColumnMinimumWidth(1, figure);
     grid->setColumnMinimumWidth(2, figure);
     grid->setColumnMinimumWidth(
-        3, fontMetrics().horizontalAdvance("= bbl x 0.15899 (by density 0.1589141) "));
+        3, fontMetrics().horizontalAdvance(
+               "at 60 °F = kL at 15 °C / 0.15899 as typed (by density 0.1589141) "));
 }
 
 ResultLabel* CrudeResults::add(const char* name, Figure figure)
@@ -63,37 +76,41 @@ void CrudeResults::layOutVolumes(QGridLayout* grid, int& row)
         ++row;
     };
     addHeading(grid, row++, "Oil");
-    figureRow("Density at 15 °C", add("lblDensity15", &CrudeResult::density15),
+    figureRow("Density at 15 °C", add("lblDensity15", figure<&CrudeResult::density15>),
               new QLabel("kg/m³"));
-    figureRow("API at 60 °F", add("lblAPI60", &CrudeResult::api60), new QLabel("°API"));
-    figureRow("VCF", add("lblVCF", &CrudeResult::vcf),
-              addNote("lblVCFMethod", &CrudeResult::vcfMethod));
-    m_rangeFlag = addNote("lblRangeFlag", &CrudeResult::rangeFlag);
+    figureRow("API at 60 °F", add("lblAPI60", figure<&CrudeResult::api60>), new QLabel("°API"));
+    figureRow("VCF", add("lblVCF", figure<&CrudeResult::vcf>),
+              addNote("lblVCFMethod", figure<&CrudeResult::vcfMethod>));
+    m_rangeFlag = addNote("lblRangeFlag", figure<&CrudeResult::rangeFlag>);
     figureRow("", m_rangeFlag, nullptr);
     grid->addWidget(m_rangeFlag, row - 1, 1, 1, 3);
 
     addHeading(grid, row++, "Volume");
-    figureRow("Gross observed", add("lblGrossObserved", &CrudeResult::grossObserved), nullptr);
-    figureRow("Gross standard", add("lblGrossStandard", &CrudeResult::grossStandard),
-              addNote("lblStandardMethod", &CrudeResult::standardMethod));
-    figureRow("Net standard", add("lblNetStandard", &CrudeResult::netStandard), nullptr);
-    figureRow("Barrels", add("lblBarrels", &CrudeResult::barrels),
-              addNote("lblBarrelsMethod", &CrudeResult::barrelsMethod));
-    figureRow("Kilolitres", add("lblKilolitres", &CrudeResult::kilolitres),
-              addNote("lblKilolitresMethod", &CrudeResult::kilolitresMethod));
+    figureRow("Total observed", add("lblTotalObserved", figure<&CrudeResult::totalObserved>),
+              nullptr);
+    figureRow("Free water", add("lblFreeWater", figure<&CrudeResult::freeWater>), nullptr);
+    figureRow("Gross observed", add("lblGrossObserved", figure<&CrudeResult::grossObserved>),
+              nullptr);
+    figureRow("Gross standard", add("lblGrossStandard", figure<&CrudeResult::grossStandard>),
+              addNote("lblStandardMethod", figure<&CrudeResult::standardMethod>));
+    figureRow("Net standard", add("lblNetStandard", figure<&CrudeResult::netStandard>), nullptr);
+    figureRow("Barrels", add("lblBarrels", figure<&CrudeResult::barrels>),
+              addNote("lblBarrelsMethod", figure<&CrudeResult::barrelsMethod>));
+    figureRow("Kilolitres", add("lblKilolitres", figure<&CrudeResult::kilolitres>),
+              addNote("lblKilolitresMethod", figure<&CrudeResult::kilolitresMethod>));
 }
 
 void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
 {
-    addHeading(grid, row++, "By density, whatever KL/Bbl says");
+    addHeading(grid, row++, "Net, by density, whatever KL/Bbl says");
     grid->addWidget(new QLabel("at 15 °C"), row, 1, Qt::AlignRight);
     grid->addWidget(new QLabel("at 60 °F"), row++, 2, Qt::AlignRight);
     grid->addWidget(new QLabel("Kilolitres"), row, 0);
-    grid->addWidget(add("lblKilolitres15", &CrudeResult::kilolitres15), row, 1);
-    grid->addWidget(add("lblKilolitres60", &CrudeResult::kilolitres60), row++, 2);
+    grid->addWidget(add("lblKilolitres15", figure<&CrudeResult::kilolitres15>), row, 1);
+    grid->addWidget(add("lblKilolitres60", figure<&CrudeResult::kilolitres60>), row++, 2);
     grid->addWidget(new QLabel("Barrels"), row, 0);
-    grid->addWidget(add("lblBarrels15", &CrudeResult::barrels15), row, 1);
-    grid->addWidget(add("lblBarrels60", &CrudeResult::barrels60), row++, 2);
+    grid->addWidget(add("lblBarrels15", figure<&CrudeResult::barrels15>), row, 1);
+    grid->addWidget(add("lblBarrels60", figure<&CrudeResult::barrels60>), row++, 2);
 }
 
 void CrudeResults::layOutTons(QGridLayout* grid, int& row)
@@ -101,25 +118,36 @@ void CrudeResults::layOutTons(QGridLayout* grid, int& row)
     addHeading(grid, row++, "Weight");
     grid->addWidget(new QLabel("in air"), row, 1, Qt::AlignRight);
     grid->addWidget(new QLabel("in vacuo"), row++, 2, Qt::AlignRight);
-    grid->addWidget(new QLabel("Metric tons"), row, 0);
-    grid->addWidget(add("lblMetricTonsInAir", &CrudeResult::metricTonsInAir), row, 1);
-    grid->addWidget(add("lblMetricTonsInVacuo", &CrudeResult::metricTonsInVacuo), row, 2);
-    grid->addWidget(addNote("lblWeightMethod", &CrudeResult::weightMethod), row++, 3);
-    grid->addWidget(new QLabel("Long tons"), row, 0);
-    grid->addWidget(add("lblLongTonsInAir", &CrudeResult::longTonsInAir), row, 1);
-    grid->addWidget(add("lblLongTonsInVacuo", &CrudeResult::longTonsInVacuo), row++, 2);
+    const auto tonsRow = [&](const char* caption, ResultLabel* inAir, ResultLabel* inVacuo) {
+        grid->addWidget(new QLabel(caption), row, 0);
+        grid->addWidget(inAir, row, 1);
+        grid->addWidget(inVacuo, row++, 2);
+    };
+    using Result = CrudeResult;
+    using Tons = CrudeTons;
+    grid->addWidget(addNote("lblWeightMethod", figure<&Result::weightMethod>), row, 3);
+    tonsRow("Metric tons, gross",
+            add("lblGrossMetricTonsInAir", figure<&Result::gross, &Tons::metricInAir>),
+            add("lblGrossMetricTonsInVacuo", figure<&Result::gross, &Tons::metricInVacuo>));
+    tonsRow("Metric tons, net", add("lblMetricTonsInAir", figure<&Result::net, &Tons::metricInAir>),
+            add("lblMetricTonsInVacuo", figure<&Result::net, &Tons::metricInVacuo>));
+    tonsRow("Long tons, gross",
+            add("lblGrossLongTonsInAir", figure<&Result::gross, &Tons::longInAir>),
+            add("lblGrossLongTonsInVacuo", figure<&Result::gross, &Tons::longInVacuo>));
+    tonsRow("Long tons, net", add("lblLongTonsInAir", figure<&Result::net, &Tons::longInAir>),
+            add("lblLongTonsInVacuo", figure<&Result::net, &Tons::longInVacuo>));
 }
 
 void CrudeResults::show(const CrudeResult& result)
 {
-    for (const auto& [label, figure] : m_figures)
-        label->setText(QString::fromStdString(result.*figure));
+    for (const auto& [label, figureOf] : m_figures)
+        label->setText(QString::fromStdString(figureOf(result)));
 }
 
 std::vector<ResultLabel*> CrudeResults::labels() const
 {
     std::vector<ResultLabel*> all;
-    for (const auto& [label, figure] : m_figures)
+    for (const auto& [label, figureOf] : m_figures)
         all.push_back(label);
     return all;
 }

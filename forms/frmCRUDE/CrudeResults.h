@@ -24,7 +24,7 @@ public:
     ResultLabel* rangeFlag() const { return m_rangeFlag; }
 
 private:
-    using Figure = std::string CrudeResult::*;
+    using Figure = const std::string& (*)(const CrudeResult&);
 
     ResultLabel* add(const char* name, Figure figure);
     ResultLabel* addNote(const char* name, Figure figure); ///< words beside a figure

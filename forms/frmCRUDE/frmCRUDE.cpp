@@ -4,6 +4,7 @@
 #include "app/shell/widget_colours.h"
 #include "forms/frmCRUDE/CrudeFields.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -39,7 +40,6 @@ constexpr std::array<std::string CrudeInput::*, CrudeFields.size()> crudeInputs 
 frmCRUDE::frmCRUDE(Program& program)
     : CalculatorWindow(program, "frmCRUDE", "Crude oil"), m_boxes(addFields(CrudeFields))
 {
-    m_boxes[KLperBbl]->setText(defaultKLPerBarrel);
     addChoices();
     m_results = new CrudeResults;
     auto* columns = new QHBoxLayout(scrollBody());
@@ -61,9 +61,9 @@ frmCRUDE::frmCRUDE(Program& program)
     for (QComboBox* choice : m_choices)
         connect(choice, &QComboBox::currentIndexChanged, this, recalculate);
     connect(m_chkObserved, &QCheckBox::toggled, this, recalculate);
-    connect(m_cmdFromDensity, &QPushButton::clicked, this, [this] {
-        const std::string factor = KLPerBarrelFromDensity(input());
-        if (!factor.empty()) m_boxes[KLperBbl]->setText(QString::fromStdString(factor));
+    connect(m_cmdFromDensity, &QPushButton::clicked, this, [this, calculation] {
+        m_boxes[KLperBbl]->clear();
+        calculations().run(calculation);
     });
     useCrudeSettings();
     loadSettings();
@@ -99,7 +99,7 @@ void frmCRUDE::addChoices()
     m_chkObserved->setObjectName("chkObserved");
     m_cmdFromDensity = new QPushButton("&From density");
     m_cmdFromDensity->setObjectName("cmdFromDensity");
-    m_cmdFromDensity->setToolTip("The factor that belongs to this oil");
+    m_cmdFromDensity->setToolTip("Empties the box: the factor is that of this oil");
     m_lblFreeWaterUnit = new QLabel;
     m_lblObservedTemperatureUnit = new QLabel;
 }
@@ -156,19 +156,30 @@ void frmCRUDE::addMenus()
 
 void frmCRUDE::addMemoMenus()
 {
-    const std::pair<const char*, std::string CrudeResult::*> stored[] = {
-        {"&Net standard volume", &CrudeResult::netStandard},
-        {"&Barrels", &CrudeResult::barrels},
-        {"&Kilolitres", &CrudeResult::kilolitres},
-        {"&Metric tons in air", &CrudeResult::metricTonsInAir},
-        {"&Long tons in air", &CrudeResult::longTonsInAir},
-        {"Metric tons in &vacuo", &CrudeResult::metricTonsInVacuo},
-        {"Long tons in v&acuo", &CrudeResult::longTonsInVacuo},
-        {"&Density at 15 °C", &CrudeResult::density15},
-        {"VC&F", &CrudeResult::vcf},
+    using Figure = std::string (*)(const CrudeResult&);
+    const std::pair<const char*, Figure> stored[] = {
+        {"&Net standard volume", [](const CrudeResult& of) { return of.netStandard; }},
+        {"&Barrels", [](const CrudeResult& of) { return of.barrels; }},
+        {"&Kilolitres", [](const CrudeResult& of) { return of.kilolitres; }},
+        {"&Metric tons in air", [](const CrudeResult& of) { return of.net.metricInAir; }},
+        {"&Long tons in air", [](const CrudeResult& of) { return of.net.longInAir; }},
+        {"Metric tons in &vacuo", [](const CrudeResult& of) { return of.net.metricInVacuo; }},
+        {"Long tons in v&acuo", [](const CrudeResult& of) { return of.net.longInVacuo; }},
+        {"&Density at 15 °C", [](const CrudeResult& of) { return of.density15; }},
+        {"VC&F", [](const CrudeResult& of) { return of.vcf; }},
     };
-    for (const auto& [caption, figure] : stored)
-        menus().addStoreSingle(caption, [this, at = figure] { return m_shown.*at; });
+    for (const auto& [caption, figure] : stored) {
+        QAction* entry =
+            menus().addStoreSingle(caption, [this, of = figure] { return of(m_shown); });
+        m_stores.push_back([this, entry, caption = QString(caption), of = figure] {
+            const QString shown = QString::fromStdString(of(m_shown));
+            entry->setText(shown.isEmpty() ? caption : caption + ":  " + shown);
+        });
+    }
+    connect(findChild<QMenu*>("mnuMemo"), &QMenu::aboutToShow, this, [this] {
+        for (const auto& nameWithFigure : m_stores)
+            nameWithFigure();
+    });
     menus().addRecallSingle("into &volume", m_boxes[Volume]);
     menus().addRecallSingle("into &free water", m_boxes[FreeWater]);
     menus().addRecallSingle("into &temperature", m_boxes[Temperature]);
@@ -222,6 +233,7 @@ CrudeInput frmCRUDE::input() const
 void frmCRUDE::run()
 {
     m_shown = {}; // a fault leaves nothing behind that could be stored
+    m_boxes[KLperBbl]->setPlaceholderText(QString::fromStdString(KLPerBarrelFromDensity(input())));
     m_shown = CalculateCrude(input());
     m_results->show(m_shown);
     setNotice("input", QString::fromStdString(m_shown.notice));
@@ -249,8 +261,7 @@ void frmCRUDE::showUnits()
 
 void frmCRUDE::clearCargo()
 {
-    m_boxes.clear(Volume, KLperBbl);
-    m_boxes[KLperBbl]->setText(defaultKLPerBarrel);
+    m_boxes.clear(Volume, m_boxes.size());
     m_boxes[Volume]->setFocus();
 }
 

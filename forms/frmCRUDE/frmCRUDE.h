@@ -4,6 +4,8 @@
 #include "app/shell/CalculatorWindow.h"
 #include "forms/frmCRUDE/CrudeResults.h"
 
+#include <functional>
+
 class QCheckBox;
 class QComboBox;
 class QPushButton;
@@ -50,6 +52,7 @@ private:
     QPushButton* m_cmdFromDensity;
     CrudeResults* m_results;
     CrudeResult m_shown;
+    std::vector<std::function<void()>> m_stores; ///< name the store entries with their figures
 
     QLabel* m_lblFreeWaterUnit;
     QLabel* m_lblObservedTemperatureUnit;

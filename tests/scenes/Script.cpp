@@ -54,7 +54,8 @@ std::vector<Word> wordsOf(const std::string& line)
 {
     std::vector<Word> words;
     for (std::size_t pos = 0; (pos = line.find_first_not_of(" \t", pos)) != std::string::npos;) {
-        if (line[pos] == '#') break;
+        if (line[pos] == '#' && line.substr(pos, 2) != "#T" && line.substr(pos, 2) != "#F")
+            break; // a tick
         if (line[pos] == '"') {
             const std::string text = quotedText(line, ++pos);
             words.insert(words.end(), repetitions(line, pos), Word{text, true});
