@@ -128,9 +128,17 @@ std::optional<double> readField(std::string_view text, const NumberField& field,
 {
     const NumberReading reading = readField(text, field);
     if (reading.remark.empty()) return reading.value;
-    const std::string sentence = std::string(field.name) + ": " + reading.remark;
+    const std::string colon = field.name.empty() ? "" : ": ";
+    const std::string sentence = std::string(field.name) + colon + reading.remark;
     reading.value ? remarks.warn(sentence) : remarks.fault(sentence);
     return reading.value;
+}
+
+std::optional<double> readIfTyped(std::string_view text, const NumberField& field, Remarks& remarks)
+{
+    const Kind kind = readField(text, field).kind;
+    if (kind == Kind::Empty || kind == Kind::HalfTyped) return std::nullopt;
+    return readField(text, field, remarks);
 }
 
 } // namespace korvel

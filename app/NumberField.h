@@ -49,4 +49,9 @@ NumberReading readField(std::string_view text, const NumberField& field);
 /// @return the value; nothing when the box cannot be used
 std::optional<double> readField(std::string_view text, const NumberField& field, Remarks& remarks);
 
+/// The same for a box that may stay empty: while it is empty or half typed it gives nothing and no
+/// word.
+std::optional<double> readIfTyped(std::string_view text, const NumberField& field,
+                                  Remarks& remarks);
+
 } // namespace korvel

@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "app/KORVEL2000Actions.h"
+#include "app/NumberField.h"
 #include "app/reading.h"
 #include "navlib/arithmetic_error.h"
 
@@ -69,10 +70,9 @@ std::string convertedInFull(NavFunc113::Quantity quantity, std::size_t typed, st
 
 std::string remarkOn(std::string_view text)
 {
-    if (text.find_first_not_of(" \t+-.") == std::string_view::npos || isNumeric(text)) return {};
-    const std::optional<double> value = readLeadingNumber(text);
-    if (!value) return std::string(text) + " is no number";
-    return std::string(text) + " was read as " + significantText(*value);
+    Remarks remarks;
+    readIfTyped(text, {.name = {}}, remarks);
+    return remarks.text();
 }
 
 std::string unitToolTip(NavFunc113::Quantity quantity, std::size_t unit)

@@ -2,6 +2,7 @@
 #include "forms/frmPositionRecord/PositionRecord.h"
 
 #include "app/Format.h"
+#include "app/NumberField.h"
 #include "app/position_text.h"
 #include "app/reading.h"
 #include "forms/frmPositionRecord/FixTime.h"
@@ -30,6 +31,13 @@ constexpr const char* distanceFormat = "0.'0";
 constexpr const char* hoursFormat = "0.0#";
 constexpr const char* speedFormat = "0.00";
 
+constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
+constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", NumberField::Form::Latitude};
+constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees",
+                                     NumberField::Form::Longitude};
+constexpr NumberField courseSteered{"course steered", 0, 360, "degrees"};
+constexpr NumberField speedSteered{"speed steered", 0, 999, "knots"};
+
 struct Fix {
     std::size_t row;
     DateTime smt;
@@ -51,33 +59,26 @@ Hours hoursBetween(DateTime from, DateTime to)
 
 void say(std::string& text, const std::string& sentence)
 {
-    if (!text.empty()) text += "; ";
-    text += sentence;
+    text = joined({text, sentence});
 }
 
 /// The number in a box. Empty and half-typed boxes give nothing and no word.
-std::optional<double> numberIn(const std::string& box, const char* name, std::string& remark)
+std::optional<double> numberIn(const std::string& box, const NumberField& field,
+                               std::string& remark)
 {
-    const auto value = readLeadingNumber(box);
-    if (value && !isNumeric(box))
-        say(remark, std::string(name) + " was read as " + Format(*value, "0.######"));
-    else if (!value && box.find_first_not_of(" \t+-.") != std::string::npos)
-        say(remark, std::string(name) + " is no number");
+    Remarks remarks;
+    const auto value = readIfTyped(box, field, remarks);
+    say(remark, remarks.text());
     return value;
 }
 
-std::optional<DegMin> angleIn(const std::string& box, const char* name, double limit,
-                              std::string& remark)
+std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
 {
-    const auto value = numberIn(box, name, remark);
+    const auto value = numberIn(box, field, remark);
     if (!value) return std::nullopt;
     const double minutes = (std::fabs(*value) - std::trunc(std::fabs(*value))) * 100;
-    if (std::fabs(*value) > limit) {
-        say(remark, std::string(name) + " goes to " + Format(limit, "0"));
-        return std::nullopt;
-    }
     if (minutes > 60 - 1e-7) { // the last bits of 35.6 may fall short of 60 minutes
-        say(remark, std::string(name) + ": minutes of " + Format(minutes, "0.####"));
+        say(remark, std::string(field.name) + ": minutes of " + Format(minutes, "0.####"));
         return std::nullopt;
     }
     return DegMin(*value);
@@ -85,16 +86,14 @@ std::optional<DegMin> angleIn(const std::string& box, const char* name, double l
 
 std::optional<double> timeDifferenceIn(const std::string& box, std::string& remark)
 {
-    const auto value = numberIn(box, "TD", remark);
-    if (!value || std::fabs(*value) <= 12) return value;
-    std::string sentence = "TD goes from -12 to 12";
+    const auto value = numberIn(box, timeDifference, remark);
+    const auto typed = readLeadingNumber(box);
     // Clocks of +13 show the same time of day as those of -11, a day later.
-    if (std::fabs(*value) <= 15)
-        sentence += *value > 0
-                        ? "; take " + Format(*value - 24, "0.0#") + " and the date a day earlier"
-                        : "; take " + Format(*value + 24, "0.0#") + " and the date a day later";
-    say(remark, sentence);
-    return std::nullopt;
+    if (!value && typed && std::fabs(*typed) <= 15)
+        say(remark, *typed > 0
+                        ? "take " + Format(*typed - 24, "0.0#") + " and the date a day earlier"
+                        : "take " + Format(*typed + 24, "0.0#") + " and the date a day later");
+    return value;
 }
 
 /// Reads a row, writes its UTC and remarks. @return the fix when the row is complete
@@ -105,8 +104,8 @@ std::optional<Fix> fixOf(const PositionRecordInput& input, std::size_t index,
     const auto smt = readFixTime(row.satelliteSMT);
     if (!smt && input.typingTimeIn != index) result.remark = faultOfFixTime(row.satelliteSMT);
     const auto td = timeDifferenceIn(row.satelliteTD, result.remark);
-    const auto latitude = angleIn(row.latitude, "latitude", 90, result.remark);
-    const auto longitude = angleIn(row.longitude, "longitude", 180, result.remark);
+    const auto latitude = angleIn(row.latitude, latitudeOfFix, result.remark);
+    const auto longitude = angleIn(row.longitude, longitudeOfFix, result.remark);
     if (!smt || !td) return std::nullopt;
     const DateTime utc = NavFunc113::NearestSecond(*smt - *td / 24);
     result.utc = Format(utc, "yyyy/mm/dd hh:mm");
@@ -190,12 +189,9 @@ void showRuns(const std::vector<Fix>& fixes, const std::vector<std::optional<Leg
 void showSetAndDrift(const PositionRecordInput& input, const Fix& from, const Fix& to,
                      PositionRecordResult& result)
 {
-    const auto course = numberIn(input.courseSteered, "course steered", result.notice);
-    const auto speed = numberIn(input.speedSteered, "speed steered", result.notice);
+    const auto course = numberIn(input.courseSteered, courseSteered, result.notice);
+    const auto speed = numberIn(input.speedSteered, speedSteered, result.notice);
     if (!course || !speed) return;
-    if (*course < 0 || *course > 360)
-        return say(result.notice, "course steered goes from 0 to 360");
-    if (*speed < 0 || *speed > 999) return say(result.notice, "speed steered goes from 0 to 999");
     const Hours hours = hoursBetween(from.utc, to.utc);
     if (!(hours > Hours(0))) return;
     try {

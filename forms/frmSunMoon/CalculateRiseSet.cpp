@@ -2,7 +2,8 @@
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
 #include "app/Format.h"
-#include "app/reading.h"
+#include "app/NumberField.h"
+#include "app/typed_time.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/ephemeris.h"
 #include "navlib/rise_set.h"
@@ -44,52 +45,51 @@ std::string refinedText(DateTime time)
     return text == "0000LT" ? text + " (at midnight)" : text;
 }
 
-/// What is said of a row, its place in front.
-class Notice
-{
-public:
-    explicit Notice(std::string place) : m_place(std::move(place)) {}
-    void add(const std::string& sentence) { m_text += (m_text.empty() ? "" : "; ") + sentence; }
-    std::string text() const
-    {
-        if (m_text.empty() || m_place.empty()) return m_text;
-        return m_place + ": " + m_text;
-    }
+/// The boxes of a row's numbers. An empty one makes no row.
+constexpr NumberField timeDifference{"TD", -12, 12, "hours", NumberField::Form::Plain, {}};
+constexpr NumberField latitude{"latitude", -63, 63, "degrees", NumberField::Form::Latitude, {}};
+constexpr NumberField longitude{"longitude", -180, 180, "degrees", NumberField::Form::Longitude,
+                                {}};
 
-private:
-    std::string m_place;
-    std::string m_text;
-};
-
-/// Reads a row's number; stores it when it lies within its limits.
+/// Reads a row's number; stores it when it can be used.
 template <typename Unit>
-bool accept(const std::string& box, const char* low, const char* high, Unit& number)
+bool accept(const std::string& box, const NumberField& field, Unit& number, Remarks& remarks)
 {
-    const auto value = readLeadingNumber(box);
-    if (!value || !IsInRange(box, low, high)) return false;
-    number = Unit(*value);
-    return true;
+    const auto value = readField(box, field, remarks);
+    if (value) number = Unit(*value);
+    return value.has_value();
+}
+
+bool isBlank(const std::string& text)
+{
+    return text.find_first_not_of(" \t") == std::string::npos;
+}
+
+/// What is said of a row, its place in front.
+std::string withPlace(const std::string& place, const Remarks& remarks)
+{
+    const std::string text = remarks.text();
+    return text.empty() || place.empty() ? text : place + ": " + text;
 }
 
 class Row
 {
 public:
-    Row(DateTime date, RiseSetRow& row, Notice& notice)
-        : m_date(date), m_row(row), m_typedLatitude(row.latitude), m_notice(notice)
+    Row(DateTime date, RiseSetRow& row, Remarks& remarks)
+        : m_date(date), m_row(row), m_typedLatitude(row.latitude), m_remarks(remarks)
     {
     }
 
     RiseSetLabel time(const EventRoutines& event)
     {
         std::optional<DateTime> found;
-        std::string fault;
         try {
             found = event.search(m_date, m_row.TD, m_row.latitude, m_row.longitude);
-        } catch (const ArithmeticError& error) {
-            fault = error.what();
+        } catch (const ArithmeticError&) {
+            // The body stays above or below the horizon: said below, with the refined search.
         }
         const auto refined = refinedTime(event, found.value_or(0));
-        if (!found) return faulty(event, fault, refined);
+        if (!found) return faulty(event, refined);
         return shown(event, *found, refined);
     }
 
@@ -103,12 +103,12 @@ public:
             if (fabs(azimuth - asTyped) >= Degrees(0.1)) {
                 label.tip = "At the latitude as typed " + courseText(asTyped);
                 label.doubtful = true;
-                m_notice.add(std::string(name) + " azimuth at the latitude as typed " +
-                             courseText(asTyped));
+                m_remarks.warn(std::string(name) + " azimuth at the latitude as typed " +
+                               courseText(asTyped));
             }
             return label;
-        } catch (const ArithmeticError& error) {
-            m_notice.add(std::string(name) + " azimuth: " + error.what());
+        } catch (const ArithmeticError&) {
+            m_remarks.warn(std::string("no ") + name + " azimuth at this latitude");
             return {};
         }
     }
@@ -123,12 +123,11 @@ private:
         }
     }
 
-    RiseSetLabel faulty(const EventRoutines& event, const std::string& fault,
-                        std::optional<DateTime> refined)
+    RiseSetLabel faulty(const EventRoutines& event, std::optional<DateTime> refined)
     {
-        std::string sentence = std::string(event.name) + " cannot be computed (" + fault + ")";
+        std::string sentence = std::string("no ") + event.name + " that day at this latitude";
         if (refined) sentence += ", refined search " + refinedText(*refined);
-        m_notice.add(sentence);
+        m_remarks.warn(sentence);
         return {"", sentence, false, {}};
     }
 
@@ -141,11 +140,11 @@ private:
         } else if (!refined) {
             label.tip = "Refined search: no " + name + " on this date";
             label.doubtful = true;
-            m_notice.add(name + " refined: none on this date");
+            m_remarks.warn(name + " refined: none on this date");
         } else if (found == 0 || std::fabs(found - *refined) * 1440 > event.worthTelling) {
             label.tip = "Refined time of " + name + ": " + refinedText(*refined);
             label.doubtful = true;
-            m_notice.add(name + " refined " + refinedText(*refined));
+            m_remarks.warn(name + " refined " + refinedText(*refined));
         } else if (label.text == "0000LT") {
             label.tip = "At midnight";
         }
@@ -155,41 +154,42 @@ private:
     DateTime m_date;
     RiseSetRow& m_row;
     DegMin m_typedLatitude;
-    Notice& m_notice;
+    Remarks& m_remarks;
 };
 
 } // namespace
 
 std::optional<DateTime> riseSetDate(const std::string& txtSunMoon)
 {
-    if (asciiForms(txtSunMoon).find('/') == std::string::npos) return std::nullopt;
-    const auto read = readDateTime(txtSunMoon);
-    if (!read) return std::nullopt;
-    return std::floor(*read);
+    return readTypedTime(txtSunMoon, Due::Date).value;
 }
 
 RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
 {
     RiseSetResult result;
-    const auto date = riseSetDate(input.txtSunMoon);
+    const auto [date, fault] = readTypedTime(input.txtSunMoon, Due::Date);
     if (!date) {
-        result.notice = "The date cannot be read: yyyy/m/d is needed";
+        result.notice = "The date cannot be read: " + fault;
         return result;
     }
-    Notice notice(input.txtLocation);
     // The searches look a day and a half back, and there is no Julian day before day 0.
     if (*date < 3) {
-        result.notice = "Dates before 1900 cannot be computed";
+        result.notice = "Dates before 1900/1/2 cannot be computed";
         return result;
     }
     result.moonAge = Format(MoonAge(*date + 0.5), "0.0");
-    // One after the other: a number that was accepted before the first refusal is kept.
-    if (!accept(input.txtTD, "-12", "12", row.TD) ||
-        !accept(input.txtLatitude, "-63", "63", row.latitude) ||
-        !accept(input.txtLongitude, "-180", "180", row.longitude))
+    if (isBlank(input.txtTD) && isBlank(input.txtLatitude) && isBlank(input.txtLongitude))
         return result;
+    Remarks remarks;
+    // One after the other: a number that was accepted before the first refusal is kept.
+    if (!accept(input.txtTD, timeDifference, row.TD, remarks) ||
+        !accept(input.txtLatitude, latitude, row.latitude, remarks) ||
+        !accept(input.txtLongitude, longitude, row.longitude, remarks)) {
+        result.notice = withPlace(input.txtLocation, remarks);
+        return result;
+    }
 
-    Row events(*date, row, notice);
+    Row events(*date, row, remarks);
     result.sunRiseTime = events.time(sunrise);
     result.sunSetTime = events.time(sunset);
     // At 06:00 and 18:00 of the date as UTC, wherever the place is.
@@ -197,7 +197,7 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
     result.sunSetAz = events.azimuth("sunset", SunSetAzimuth, 0.75);
     result.moonRiseTime = events.time(moonrise);
     result.moonSetTime = events.time(moonset);
-    result.notice = notice.text();
+    result.notice = withPlace(input.txtLocation, remarks);
     result.successful = true;
     return result;
 }

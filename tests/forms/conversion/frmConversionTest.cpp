@@ -71,7 +71,7 @@ TEST_F(frmConversionTest, badInputBlanksAndIsNamed)
 {
     auto& window = open<frmWeight>();
     type(window, "txtWeight(0)", "1,234");
-    EXPECT_THAT(text(window, "lblNotice"), HasSubstr("1,234 was read as 1"));
+    EXPECT_THAT(text(window, "lblNotice"), HasSubstr("only 1 was read, write 1234 or 1.234"));
     type(window, "txtWeight(0)", "abc");
     EXPECT_EQ(text(window, "txtWeight(1)"), "");
     EXPECT_THAT(text(window, "lblNotice"), HasSubstr("no number"));

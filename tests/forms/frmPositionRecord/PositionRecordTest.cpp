@@ -89,7 +89,7 @@ TEST(PositionRecord, setAndDriftSinceTheLastFix)
     EXPECT_EQ(CalculatePositionRecord(input).drift, "318.'6 = 13.85 kn");
     input.courseSteered = "361";
     EXPECT_EQ(CalculatePositionRecord(input).drift, "");
-    EXPECT_EQ(CalculatePositionRecord(input).notice, "course steered goes from 0 to 360");
+    EXPECT_EQ(CalculatePositionRecord(input).notice, "course steered: not within 0 to 360 degrees");
     input.courseSteered = "";
     EXPECT_EQ(CalculatePositionRecord(input).drift, "");
     EXPECT_EQ(CalculatePositionRecord(input).notice, "");
@@ -139,14 +139,14 @@ TEST(PositionRecord, whatMakesNoSenseIsNamed)
         const char* remark;
     } rows[] = {
         {&PositionRow::latitude, "-35.75", "latitude: minutes of 75"},
-        {&PositionRow::latitude, "90.01", "latitude goes to 90"},
-        {&PositionRow::latitude, "x", "latitude is no number"},
+        {&PositionRow::latitude, "90.01", "latitude: not within -90 to 90 degrees"},
+        {&PositionRow::latitude, "x", "latitude: \"x\" is no number"},
         {&PositionRow::latitude, "-90", "no rhumb line leads here"},
-        {&PositionRow::longitude, "-180.01", "longitude goes to 180"},
+        {&PositionRow::longitude, "-180.01", "longitude: not within -180 to 180 degrees"},
         {&PositionRow::longitude, "139.999", "longitude: minutes of 99.9"},
         {&PositionRow::satelliteTD, "13", "take -11.0 and the date a day earlier"},
         {&PositionRow::satelliteTD, "-12.5", "take 11.5 and the date a day later"},
-        {&PositionRow::satelliteTD, "99", "TD goes from -12 to 12"},
+        {&PositionRow::satelliteTD, "99", "TD: not within -12 to 12 hours"},
         {&PositionRow::satelliteSMT, "0930", "0930: the date is missing"},
         {&PositionRow::latitude, "", ""},
     };
@@ -165,7 +165,7 @@ TEST(PositionRecord, whatMakesNoSenseIsNamed)
     input.rows[1].latitude = "36.5999";
     EXPECT_NE(CalculatePositionRecord(input).rows[0].distance, "") << "just below 60 minutes";
     input.rows[1].latitude = "36-30N";
-    EXPECT_EQ(CalculatePositionRecord(input).notice, "row 2: latitude was read as 36");
+    EXPECT_EQ(CalculatePositionRecord(input).notice, "row 2: latitude: only 36 was read, write 36.30");
 }
 
 TEST(PositionRecord, anyTextInAnyBoxIsSurvived)

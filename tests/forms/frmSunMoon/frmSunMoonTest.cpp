@@ -118,7 +118,7 @@ TEST_F(frmSunMoonTest, doubtsAreSaidByRowAndEvent)
     EXPECT_EQ(text(window, "lblNotice"), "Bergen: moonrise refined 2320LT");
     EXPECT_THAT(control(window, "lblMoonRiseTime(0)").toolTip().toStdString(), HasSubstr("2320LT"));
     type(window, "txtLatitude(0)", "");
-    EXPECT_EQ(text(window, "lblNotice"), "");
+    EXPECT_EQ(text(window, "lblNotice"), "Bergen: latitude: empty");
 }
 
 TEST_F(frmSunMoonTest, oneSaveForOneAction)
