@@ -38,7 +38,8 @@ std::array<SavedValueRow, KV_Savedvalue::count> makeTable()
 {
     std::array<SavedValueRow, KV_Savedvalue::count> table;
     const auto set = [&](SavedValue which, int alarm, SavedValueRow row) {
-        table[static_cast<std::size_t>(static_cast<int>(which) + 3 * (alarm - 1))] = std::move(row);
+        table[static_cast<std::size_t>(which) + 3 * static_cast<std::size_t>(alarm - 1)] =
+            std::move(row);
     };
     set(SavedValue::ClockJST, 1, {"clock keeps JST", Kind::Tick, true, isAnything});
     set(SavedValue::ClockSMT, 1, {"clock keeps SMT", Kind::Tick, {}, isAnything});

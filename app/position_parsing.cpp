@@ -38,7 +38,7 @@ std::string packedOf(int degrees, double minutes, int decimals)
         ++degrees;
     }
     std::string fraction = std::to_string(scaled);
-    const auto width = static_cast<std::size_t>(decimals + 2);
+    const auto width = static_cast<std::size_t>(decimals) + 2;
     fraction.insert(0, width - std::min(width, fraction.size()), '0');
     while (fraction.size() > 2 && fraction.back() == '0')
         fraction.pop_back();

@@ -111,7 +111,7 @@ std::string flawOf(const DelimitedText::Item& item)
 /// @return nothing when the item is no value of the kind
 std::optional<Value> valueOfKind(const DelimitedText::Item& item, Kind kind)
 {
-    const auto value = valueOf(item);
+    auto value = valueOf(item);
     if (!value) return std::nullopt;
     if (fits(*value, kind) || std::holds_alternative<std::monostate>(*value)) return value;
     // A number that stands where a text is due is what somebody typed without quotes.
@@ -164,7 +164,7 @@ ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds)
         const auto value = flaw.empty() ? valueOfKind(item, kind) : std::nullopt;
         if (!value && flaw.empty()) flaw = std::string("is not ") + inWords(kind);
         if (!value) {
-            result.damage.push_back(number + " " + flaw);
+            result.damage.push_back(std::string(number).append(" ").append(flaw));
             items.skipLine();
         }
         result.record.push_back(value.value_or(Value()));

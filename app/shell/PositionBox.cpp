@@ -117,7 +117,9 @@ void PositionBox::mouseReleaseEvent(QMouseEvent* event)
 void PositionBox::contextMenuEvent(QContextMenuEvent* event)
 {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
+    for (QAction* paste : menu->actions()) {
+        // The toolkit gives its entries no names; the text is the one that it looked up itself.
+        if (!paste->text().startsWith(QLineEdit::tr("&Paste"))) continue;
         paste->disconnect();
         connect(paste, &QAction::triggered, this,
                 [this] { pasteText(QApplication::clipboard()->text()); });

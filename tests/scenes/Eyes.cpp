@@ -79,6 +79,8 @@ void expectAll(Stage& stage, const Words& words)
 
 bool isVisible(Stage& stage, const std::string& name)
 {
+    if (auto* entry = stage.window().findChild<QAction*>(QString::fromStdString(name)))
+        return entry->isVisible();
     return stage.control(name).isVisible();
 }
 

@@ -104,6 +104,15 @@ void choose(Stage& stage, const Words& words)
     action.trigger();
 }
 
+/// Opens a menu of the menu bar and closes it again: captions are written when it opens.
+void pull(Stage& stage, const Words& words)
+{
+    auto* menu = stage.window().findChild<QMenu*>(QString::fromStdString(wordAt(words, 0)));
+    if (!menu) throw std::runtime_error("no menu " + words[0].text);
+    menu->popup(stage.window().pos());
+    menu->close();
+}
+
 /// Chooses from the menu of the right button by a part of the caption.
 void contextMenu(Stage& stage, const Words& words)
 {
@@ -187,6 +196,7 @@ const std::map<std::string, Verb>& handVerbs()
         {"click", click},
         {"mouse", mouse},
         {"choose", choose},
+        {"pull", pull},
         {"context-menu", contextMenu},
         {"drop", drop},
         {"set", set},

@@ -97,6 +97,8 @@ std::string Stage::printedText() const
     QProcess reader;
     reader.start("pdftotext", {"-layout", folder.filePath("page.pdf"), "-"});
     if (!reader.waitForFinished()) throw std::runtime_error("pdftotext is not there");
+    if (reader.exitCode() != 0)
+        throw std::runtime_error("no page: " + reader.readAllStandardError().toStdString());
     return reader.readAllStandardOutput().toStdString();
 }
 

@@ -8,6 +8,8 @@ run_packages="fonts-noto-core fonts-vlgothic alsa-utils"
 display_packages="xvfb xauth xdotool x11-utils imagemagick"
 # poppler-utils reads the text of printed pages.
 test_packages="libgtest-dev libgmock-dev liberfa-dev poppler-utils"
+# What the tests are followed by, and the compiler for Windows that one of them uses.
+ci_packages="clang-format-14 clang-tidy-14 g++-mingw-w64-x86-64-posix"
 
 # install_missing PACKAGE...  Installs those that are not there yet and says so.
 install_missing() {
