@@ -1,44 +1,107 @@
 // SPDX-License-Identifier: MIT
 #include "app/clock/makeComputerClock.h"
 #include "app/shell/EarlierRecords.h"
+#include "app/shell/FolderLock.h"
+#include "app/shell/GuardedApplication.h"
 #include "app/shell/MessageQuestions.h"
 #include "app/shell/RecordsFolder.h"
+#include "app/shell/TerminationWatch.h"
 #include "app/shell/frmKORVEL2000.h"
 #include "app/shell/frmKORVELstart.h"
 #include "calculator_windows.h"
 
-#include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QTimer>
 
+#include <algorithm>
 #include <memory>
+
+namespace
+{
+
+using namespace korvel;
+using namespace std::chrono_literals;
+
+void tellAboutTheOther(Questions& questions, const QString& folder, bool isInFront)
+{
+    const std::string records = QDir::toNativeSeparators(folder).toStdString();
+    questions.ask({std::string(programTitle) + " runs already with the records in\r" + records +
+                       (isInFront ? "\r\rIts window has been brought to the front."
+                                  : "\r\rIt does not answer. It has to end before another can "
+                                    "start here."),
+                   programTitle, Buttons::Ok});
+}
+
+bool isAnythingShown()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(), [](const QWidget* each) {
+        return each->isVisible() && each->windowType() != Qt::SplashScreen;
+    });
+}
+
+void tellAboutFault(Questions& questions, const std::string& fault)
+{
+    questions.ask({"The program met a fault that it was not made for: " + fault +
+                       ".\rWhat the windows hold has been saved.",
+                   programTitle, Buttons::Ok});
+    if (!isAnythingShown()) QApplication::exit(1); // it came before there was a window
+}
+
+/// Whatever from outside concerns the main window: faults, other starts, the end of the session.
+void listen(GuardedApplication& application, FolderLock& lock, TerminationWatch& termination,
+            frmKORVEL2000& window)
+{
+    application.guard.saveEverything = [&window] { emit window.program().recordsWanted(); };
+    lock.answerCalls([&window] { window.comeToFront(); });
+    QObject::connect(&termination, &TerminationWatch::requested, &window,
+                     &frmKORVEL2000::endSession);
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                     &frmKORVEL2000::endSession, Qt::DirectConnection);
+    QObject::connect(
+        &window, &frmKORVEL2000::ended, &application, [] { QApplication::exit(); },
+        Qt::QueuedConnection);
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
     QApplication::setStyle("Fusion");
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(korvel::programTitle);
+    GuardedApplication application(argc, argv);
+    QApplication::setApplicationName(programTitle);
     QApplication::setQuitOnLastWindowClosed(false);
 
-    const auto clock = korvel::makeComputerClock();
-    korvel::MessageQuestions questions;
-    korvel::SystemBell bell;
-    const korvel::Places places =
-        korvel::choosePlaces(QApplication::applicationDirPath(), korvel::officersFolder());
-    korvel::RecordsFolder folder(places);
+    MessageQuestions questions;
+    const Places places = choosePlaces(QApplication::applicationDirPath(), officersFolder());
+    FolderLock lock(places.records);
+    if (lock.isHeldByAnother()) {
+        tellAboutTheOther(questions, places.records, lock.callTheOther(3s));
+        return 0;
+    }
+    const auto clock = makeComputerClock();
+    SystemBell bell;
+    RecordsFolder folder(places);
 
-    auto startWindow = std::make_unique<korvel::frmKORVELstart>();
+    auto startWindow = std::make_unique<frmKORVELstart>();
     startWindow->show();
     questions.beep();
     QApplication::processEvents();
 
-    korvel::settleRecords(places, QApplication::arguments(), questions, [] {
-        return QFileDialog::getExistingDirectory(nullptr, "The earlier portable folder");
+    std::unique_ptr<frmKORVEL2000> mainWindow;
+    TerminationWatch termination;
+    application.guard.tell = [&](const std::string& fault) { tellAboutFault(questions, fault); };
+    // From within the event loop, so that whatever goes wrong in it ends where all faults do.
+    QTimer::singleShot(0, &application, [&] {
+        settleRecords(places, QApplication::arguments(), questions, [] {
+            return QFileDialog::getExistingDirectory(nullptr, "The earlier portable folder");
+        });
+        mainWindow = std::make_unique<frmKORVEL2000>(Machine{questions, *clock, folder, bell},
+                                                     calculatorWindows());
+        listen(application, lock, termination, *mainWindow);
+        mainWindow->start();
+        startWindow.reset();
     });
-    korvel::frmKORVEL2000 mainWindow({questions, *clock, folder, bell},
-                                     korvel::calculatorWindows());
-    QObject::connect(&mainWindow, &korvel::frmKORVEL2000::ended, &application, &QApplication::quit,
-                     Qt::QueuedConnection);
-    mainWindow.start();
-    startWindow.reset();
     return QApplication::exec();
 }

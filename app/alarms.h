@@ -46,8 +46,8 @@ public:
     bool add(std::int64_t minute);
 
 private:
-    std::vector<std::int64_t>
-        m_minutes; // ascending; one a day or an hour, for as long as the program runs
+    /// Ascending; one a day or an hour, for as long as the program runs.
+    std::vector<std::int64_t> m_minutes;
 };
 
 /// The watch over the five alarms and the time signal. It is told the time and knows no clock.

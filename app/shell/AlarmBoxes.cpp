@@ -39,47 +39,54 @@ void AlarmBoxes::show(const std::vector<Due>& due)
 void AlarmBoxes::showNext()
 {
     if (m_waiting.empty()) return;
-    const Due due = m_waiting.front();
+    m_shown = m_waiting.front();
     m_waiting.pop_front();
     QWidget* active = QApplication::activeWindow();
     if (active && active != m_acknowledged) m_hand = active;
     m_passedDown.clear();
-    m_box = new QMessageBox(QMessageBox::Warning, programTitle, QString::fromStdString(due.text),
-                            QMessageBox::Ok);
-    m_box->setObjectName("alarmBox");
-    m_box->setTextFormat(Qt::PlainText);
-    m_box->setAttribute(Qt::WA_DeleteOnClose);
+
+    m_box = makeBox();
     m_box->setAttribute(Qt::WA_ShowWithoutActivating);
-    m_box->setModal(false);
-    m_box->setWindowFlag(Qt::WindowStaysOnTopHint);
-    connect(m_box, &QMessageBox::finished, this, [this] {
-        m_firstSecond.stop();
-        m_bell.stop();
-        m_acknowledged = std::exchange(m_box, nullptr);
-        showNext();
-    });
     m_box->installEventFilter(this);
     m_box->button(QMessageBox::Ok)->installEventFilter(this);
     m_box->show();
     m_box->raise();
     m_firstSecond.start();
-    if (due.alarm)
+    if (m_shown.alarm)
         m_bell.start();
     else
         m_bell.ringOnce();
 }
 
+QMessageBox* AlarmBoxes::makeBox()
+{
+    auto* box = new QMessageBox(QMessageBox::Warning, programTitle,
+                                QString::fromStdString(m_shown.text), QMessageBox::Ok);
+    box->setObjectName("alarmBox");
+    box->setTextFormat(Qt::PlainText);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowFlag(Qt::WindowStaysOnTopHint);
+    connect(box, &QMessageBox::finished, this, [this] {
+        m_firstSecond.stop();
+        m_bell.stop();
+        m_acknowledged = std::exchange(m_box, nullptr);
+        showNext();
+    });
+    return box;
+}
+
 void AlarmBoxes::takeKeyboard()
 {
-    if (!m_box) return;
     const bool working = QApplication::applicationState() == Qt::ApplicationActive;
-    const QPoint place = m_box->pos();
-    m_box->hide(); // a window that is shown keeps the modality that it was shown with
+    // A window keeps the modality that it was first shown with: another takes its place.
+    const std::unique_ptr<QMessageBox> first(std::exchange(m_box, makeBox()));
+    first->disconnect(this);
     // Modality first: it takes the flags of the window back to those of a plain box.
     m_box->setWindowModality(Qt::ApplicationModal);
     m_box->setWindowFlag(Qt::WindowStaysOnTopHint);
     m_box->setAttribute(Qt::WA_ShowWithoutActivating, !working);
-    m_box->move(place);
+    m_box->installEventFilter(this); // a key may have gone down before
+    m_box->move(first->pos());
     m_box->show();
     m_box->raise();
     if (working)

@@ -40,10 +40,12 @@ public:
 private:
     void showNext();
     void takeKeyboard();
+    QMessageBox* makeBox();
     bool passOn(const QKeyEvent& key);
 
     Bell& m_bell;
     std::deque<Due> m_waiting;
+    Due m_shown{};
     QPointer<QMessageBox> m_box;
     QTimer m_firstSecond;
     QPointer<QWidget> m_acknowledged; ///< on its way out, but it may be the active window still

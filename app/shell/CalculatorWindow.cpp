@@ -31,6 +31,7 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
     setCentralWidget(centre);
 
     connect(&m_program, &Program::distanceUnitChanged, m_calculations, &CalculationRunner::runAll);
+    connect(&m_program, &Program::recordsWanted, m_record, &WindowRecord::saveNow);
     connect(&m_program, &Program::coloursChanged, this, [this] { applyColours(); });
 }
 

@@ -2,6 +2,7 @@
 #include "app/shell/MainPanel.h"
 
 #include "app/shell/ColourScheme.h"
+#include "app/shell/widget_colours.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -23,13 +24,6 @@ void showIfAny(QLabel& label, const std::string& text)
     label.setVisible(!text.empty());
 }
 
-void tint(QLabel& label, const QColor& colour)
-{
-    QPalette palette = label.palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label.setPalette(palette);
-}
-
 } // namespace
 
 MainPanel::MainPanel()
@@ -40,8 +34,9 @@ MainPanel::MainPanel()
     m_lblZone = addLabel("lblZone", "Zone of the computer", 1.0);
     m_lblMEMO = addLabel("lblMEMO", "Memories", 1.1);
     m_lbl1NM = addLabel("lbl1NM", "Distance unit", 1.1);
-    m_lblOffset->hide();
-    m_lblZone->hide();
+    m_lblFault = addLabel("lblFault", "Fault", 1.0);
+    for (QLabel* label : {m_lblOffset, m_lblZone, m_lblFault})
+        label->hide();
 }
 
 QLabel* MainPanel::addLabel(const QString& name, const QString& accessibleName, double size)
@@ -82,13 +77,19 @@ void MainPanel::showZoneNotice(const std::string& text)
     showIfAny(*m_lblZone, text);
 }
 
+void MainPanel::showFault(const std::string& text)
+{
+    showIfAny(*m_lblFault, text);
+}
+
 void MainPanel::applyColours(const ColourScheme& colours)
 {
-    tint(*m_lblTime, colours.clock);
-    tint(*m_lblMEMO, colours.memo);
-    tint(*m_lbl1NM, colours.unit);
-    tint(*m_lblOffset, colours.notice);
-    tint(*m_lblZone, colours.notice);
+    setTextColour(m_lblTime, colours.clock);
+    setTextColour(m_lblMEMO, colours.memo);
+    setTextColour(m_lbl1NM, colours.unit);
+    setTextColour(m_lblOffset, colours.notice);
+    setTextColour(m_lblZone, colours.notice);
+    setTextColour(m_lblFault, colours.notice);
 }
 
 } // namespace korvel

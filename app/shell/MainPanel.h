@@ -25,6 +25,7 @@ public:
     /// Lines that are there only while they have something to say.
     void showOffset(const std::string& text);
     void showZoneNotice(const std::string& text);
+    void showFault(const std::string& text);
 
     void applyColours(const ColourScheme& colours);
 
@@ -36,6 +37,7 @@ private:
     QLabel* m_lblZone;
     QLabel* m_lblMEMO;
     QLabel* m_lbl1NM;
+    QLabel* m_lblFault;
 };
 
 } // namespace korvel

@@ -65,6 +65,8 @@ signals:
     void distanceUnitChanged();
     void coloursChanged();
     void TDChanged();
+    /// Every window is to write its record now: the program may be about to end.
+    void recordsWanted();
     /// A calculator window closed; its menu entry is unticked.
     void windowClosed(const QString& name);
 

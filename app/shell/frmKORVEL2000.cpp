@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/frmKORVEL2000.h"
 
-#include "app/RecoveryFile.h"
-
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
@@ -19,14 +17,20 @@ constexpr int clockInterval = 500; // milliseconds: the minute display is never 
 } // namespace
 
 frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
-    : m_machine(machine), m_settings(machine.files, machine.questions, machine.clock,
-                                     "KV_KORVEL.ini", KV_Savedvalue::kinds()),
-      m_offsetSettings(machine.files, machine.questions, machine.clock, "KV_Clock.ini",
-                       {Kind::Number}),
-      m_panel(new MainPanel), m_shipsTime(m_saved, machine.questions, machine.clock, clockHooks()),
-      m_actions(m_saved, machine.questions, m_settings,
-                {[this] { MemoHyoujiAtStart(); }, [this] { endProgram(); }}),
-      m_program(machine, m_saved, m_actions, m_shipsTime),
+    : m_questions(machine.questions), m_machine{m_questions, machine.clock, machine.files,
+                                                machine.bell},
+      m_settings(machine.files, m_questions, machine.clock, "KV_KORVEL.ini",
+                 KV_Savedvalue::kinds()),
+      m_offsetSettings(machine.files, m_questions, machine.clock, "KV_Clock.ini", {Kind::Number}),
+      m_recovery(machine.files, m_questions, machine.clock), m_panel(new MainPanel),
+      m_shipsTime(m_saved, m_questions, machine.clock, clockHooks()),
+      m_actions(m_saved, m_questions, m_settings,
+                {[this] {
+                     MemoHyoujiAtStart();
+                     keepValues();
+                 },
+                 [this] { endProgram(); }, [this] { m_recovery.remove(); }}),
+      m_program(m_machine, m_saved, m_actions, m_shipsTime),
       m_windows(m_program, std::move(catalogue)), m_alarmBoxes(machine.bell),
       m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this))
 {
@@ -62,12 +66,15 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         return [this, run] {
             run();
             m_menus.show(m_saved);
+            keepValues();
         };
     };
     MainMenus::Actions actions;
     actions.openWindow = [this](const QString& name) { openWindow(name); };
     actions.setUpTime = choice([this] {
         m_shipsTime.setUp();
+        if (m_shipsTime.offsetSeconds() != 0 || hasOffsetFile())
+            m_offsetSettings.saveQuietly({m_shipsTime.offsetSeconds()});
         timeChanged();
     });
     actions.inputTD = choice([this] {
@@ -78,12 +85,14 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         m_saved.setClockZone(zone);
         m_menus.show(m_saved);
         timeChanged();
+        keepValues();
     };
     actions.setUpAlarm = [this](int n) {
-        setUpAlarm(n, m_saved, m_machine.questions, [this] { m_menus.show(m_saved); });
+        setUpAlarm(n, m_saved, m_questions, [this] { m_menus.show(m_saved); });
         m_menus.show(m_saved);
+        keepValues();
     };
-    actions.setUpTimeSignal = choice([this] { setUpTimeSignal(m_saved, m_machine.questions); });
+    actions.setUpTimeSignal = choice([this] { setUpTimeSignal(m_saved, m_questions); });
     actions.chooseDistanceUnit = choice([this] {
         m_saved.setUnitOfLatitude(!m_saved.unitOfLatitude());
         MemoHyoujiAtStart();
@@ -100,14 +109,19 @@ MainMenus::Actions frmKORVEL2000::menuActions()
 void frmKORVEL2000::loadSavedValues()
 {
     if (const auto record = m_settings.load(m_saved.record()))
-        takeAndTell(m_saved, *record, m_settings.name(), m_machine.questions);
+        takeAndTell(m_saved, *record, m_settings.name(), m_questions);
+    m_recovery.offer(m_saved);
     const auto offset = m_offsetSettings.load();
     if (offset && !m_shipsTime.takeOffset(numberOf(offset->front())))
-        m_machine.questions.ask(
-            {"The offset of ship's time in \"KV_Clock.ini\" is refused: with it "
-             "ship's time would be beyond the calendar, which reaches from "
-             "1900 to 9999.\rShip's time goes by the computer's clock.",
-             programTitle, Buttons::Ok});
+        m_questions.ask({"The offset of ship's time in \"KV_Clock.ini\" is refused: with it "
+                         "ship's time would be beyond the calendar, which reaches from "
+                         "1900 to 9999.\rShip's time goes by the computer's clock.",
+                         programTitle, Buttons::Ok});
+}
+
+bool frmKORVEL2000::hasOffsetFile() const
+{
+    return m_machine.files.look("KV_Clock.ini").status != FileStore::Content::Status::Missing;
 }
 
 void frmKORVEL2000::start()
@@ -117,6 +131,7 @@ void frmKORVEL2000::start()
     timeChanged();
     tmrClock_Timer();
     MemoHyoujiAtStart();
+    keepValues();
     show();
 }
 
@@ -124,6 +139,13 @@ void frmKORVEL2000::tmrClock_Timer()
 {
     m_shipsTime.JikokuHyouji();
     showClockRemarks();
+    keepValues();
+}
+
+/// Whatever changed a value: the disk knows it at once, at the next tick at the latest.
+void frmKORVEL2000::keepValues()
+{
+    m_panel->showFault(m_recovery.keep(m_saved));
 }
 
 void frmKORVEL2000::timeChanged()
@@ -158,24 +180,43 @@ void frmKORVEL2000::applyColours()
 
 void frmKORVEL2000::closeEvent(QCloseEvent* event)
 {
-    if (m_ending) {
-        event->accept();
-        return;
-    }
-    event->ignore();
-    m_actions.ExitApplication();
+    if (!m_ending) m_actions.ExitApplication();
+    event->setAccepted(m_ending);
 }
 
 void frmKORVEL2000::endProgram()
 {
+    if (m_shipsTime.offsetSeconds() != 0 || hasOffsetFile())
+        m_offsetSettings.saveAtClose({m_shipsTime.offsetSeconds()});
+    closeEverything();
+}
+
+void frmKORVEL2000::endSession()
+{
+    if (m_ending) return;
+    m_questions.endSession();
+    keepValues();
+    closeEverything();
+}
+
+void frmKORVEL2000::closeEverything()
+{
     m_ending = true;
     m_tmrClock->stop();
-    if (m_shipsTime.offsetSeconds() != 0 ||
-        m_machine.files.read("KV_Clock.ini").status != FileStore::Content::Status::Missing)
-        m_offsetSettings.saveAtClose({m_shipsTime.offsetSeconds()});
     m_windows.closeAll();
     close();
     emit ended();
+}
+
+void frmKORVEL2000::comeToFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    QWidget* question = QApplication::activeModalWidget();
+    for (QWidget* each : {static_cast<QWidget*>(this), question}) {
+        if (!each || !each->isVisible()) continue;
+        each->raise();
+        each->activateWindow();
+    }
 }
 
 } // namespace korvel

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/RecoveryFile.h"
 #include "app/alarms.h"
 #include "app/shell/AlarmBoxes.h"
 #include "app/shell/CalculatorWindows.h"
 #include "app/shell/MainMenus.h"
 #include "app/shell/MainPanel.h"
 #include "app/shell/Program.h"
+#include "app/shell/SessionQuestions.h"
 
 #include <QMainWindow>
 
@@ -35,11 +37,18 @@ public:
 
     Program& program() { return m_program; }
 
+    /// Restores and raises the window, and a question that stands before it.
+    void comeToFront();
+
+    /// Ends the program without a question, as a logout or SIGTERM wants it: every window writes
+    /// its record. The saved values stay in the recovery file, for the officer has not confirmed.
+    void endSession();
+
     /// Called by the clock timer, and by tests.
     void tmrClock_Timer();
 
 signals:
-    /// The officer confirmed the exit; every window is closed and all is saved.
+    /// Every window is closed and all is saved.
     void ended();
 
 protected:
@@ -49,16 +58,21 @@ private:
     ShipsTime::Hooks clockHooks();
     MainMenus::Actions menuActions();
     void loadSavedValues();
+    bool hasOffsetFile() const;
     void MemoHyoujiAtStart();
     void showClockRemarks();
     void timeChanged();
+    void keepValues();
     void applyColours();
     void endProgram();
+    void closeEverything();
 
+    SessionQuestions m_questions;
     Machine m_machine;
     KV_Savedvalue m_saved;
     SettingsFile m_settings;
     SettingsFile m_offsetSettings; ///< offset of ship's time where the clock cannot be set
+    RecoveryFile m_recovery;
     MainPanel* m_panel;
     ShipsTime m_shipsTime;
     KORVEL2000Actions m_actions;

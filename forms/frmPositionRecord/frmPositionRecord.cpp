@@ -100,7 +100,7 @@ void frmPositionRecord::addCalculationOfRecord()
 
 void frmPositionRecord::addMenus()
 {
-    QMenu* menu = menus().add("Reco&rd", "mnuRecord");
+    QMenu* menu = menus().add("Rec&ord", "mnuRecord");
     int index = 0;
     // With Shift: the boxes have Ctrl+D, Ctrl+U and the like for their own editing.
     const auto entry = [&](const char* caption, const char* keys, std::function<void()> action) {

@@ -131,6 +131,8 @@ const std::map<std::string, Verb>& machineVerbs()
         {"box", expectBox},
         {"clock", [](Stage& stage, const Words& words) { stage.clock.time = timeAt(words, 0); }},
         {"tick", tick},
+        {"zone", [](Stage& stage, const Words& words) { stage.clock.zone = numberAt(words, 0); }},
+        {"log-out", [](Stage& stage, const Words&) { stage.main().endSession(); }},
         {"wait", wait},
         {"settle", [](Stage&, const Words&) { QApplication::processEvents(); }},
         {"kill", [](Stage& stage, const Words&) { stage.end(); }},

@@ -91,6 +91,15 @@ TEST_F(BellTest, isSilentAtOnceWhenStoppedAndRingsAgain)
     EXPECT_TRUE(QTest::qWaitFor([&] { return played().size() == 2; }));
 }
 
+TEST_F(BellTest, aToneThatWasCleanedAwayIsMadeAnew)
+{
+    // The player takes the file away, and notes when there was one.
+    install("aplay", "/bin/rm -f \"$file\"");
+    m_bell.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return played().size() >= 3; }));
+    m_bell.stop();
+}
+
 TEST_F(BellTest, onceIsOnce)
 {
     install("aplay", "exit 0");

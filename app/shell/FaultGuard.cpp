@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/shell/GuardedApplication.h"
+#include "app/shell/FaultGuard.h"
 
 #include "app/shell/SessionQuestions.h"
 
@@ -8,10 +8,10 @@
 namespace korvel
 {
 
-bool GuardedApplication::notify(QObject* receiver, QEvent* event)
+bool FaultGuard::run(const std::function<bool()>& deliver)
 {
     try {
-        return QApplication::notify(receiver, event);
+        return deliver();
     } catch (const SessionEnded&) {
         return true; // whoever asked is to go away without an answer
     } catch (const std::exception& error) {
@@ -22,10 +22,9 @@ bool GuardedApplication::notify(QObject* receiver, QEvent* event)
     return false;
 }
 
-void GuardedApplication::met(const std::string& fault)
+void FaultGuard::met(const std::string& fault)
 {
-    if (!m_told.insert(fault).second) return;
-    // Not here: the event that failed may have been half a painting.
+    if (!m_met.insert(fault).second) return;
     QMetaObject::invokeMethod(
         this,
         [this, fault] {
