@@ -14,8 +14,8 @@ namespace
 {
 
 constexpr std::int64_t minutesOfDay = 1440;
-constexpr std::int64_t lateLimit =
-    60; // minutes; an alarm that is later than this is of no use any more
+// Minutes; an alarm that is later than this is of no use any more.
+constexpr std::int64_t lateLimit = 60;
 
 /// Time of day in days; nothing when the text is no time alone.
 std::optional<double> timeOfDay(const std::string& text)
