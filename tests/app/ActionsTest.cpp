@@ -63,6 +63,8 @@ TEST_F(ActionsTest, refusals)
          "Long   ｢ -180.5｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
         {KORVEL2000Actions::Single, "-2",
          "KV_Savedvalue(25)   ｢ -2｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
+        {KORVEL2000Actions::Latitude, "0", "   ｢ 0｣\rThis valueis NOT AVAILABLE for MEMO",
+         "Brinemark"},
         {KORVEL2000Actions::Single, "abc", "   ｢ abc｣\rThis valueis NOT AVAILABLE for MEMO",
          "Brinemark"},
         {KORVEL2000Actions::Single, "", "   ｢ ｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},

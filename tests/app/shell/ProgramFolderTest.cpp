@@ -7,10 +7,29 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
+
+#include <fcntl.h>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+
+namespace
+{
+
+bool renamingFails = false;
+
+} // namespace
+
+/// Stands in for the system's own in this program: the last step of a save can fail.
+extern "C" int rename(const char* from, const char* to) noexcept
+{
+    if (!renamingFails) return renameat(AT_FDCWD, from, AT_FDCWD, to);
+    errno = EIO;
+    return -1;
+}
 
 namespace korvel
 {
@@ -101,7 +120,7 @@ TEST(ProgramFolder, renamesAndRemoves)
     EXPECT_EQ(files.read("KV_X damaged.ini").bytes, "a");
 }
 
-TEST(ProgramFolder, aDiskThatTakesNoMoreLeavesTheOldFile)
+TEST(ProgramFolder, aSaveThatFailsAtAnyStepLeavesTheOldFile)
 {
     const QTemporaryDir folder;
     ProgramFolder files(folder.path());
@@ -113,11 +132,18 @@ TEST(ProgramFolder, aDiskThatTakesNoMoreLeavesTheOldFile)
     const rlimit full{4096, before.rlim_max};
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &full);
-    const auto reason = files.save("KV_X.ini", std::string(100000, 'x'));
+    const auto whileWriting = files.save("KV_X.ini", std::string(100000, 'x'));
+    const auto whileFlushing = files.save("KV_X.ini", std::string(5000, 'x'));
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
 
-    EXPECT_NE(reason.value_or(""), "");
+    renamingFails = true;
+    const auto whileRenaming = files.save("KV_X.ini", "new\r\n");
+    renamingFails = false;
+
+    EXPECT_NE(whileWriting.value_or(""), "");
+    EXPECT_NE(whileFlushing.value_or(""), "");
+    EXPECT_NE(whileRenaming.value_or(""), "");
     EXPECT_EQ(files.read("KV_X.ini").bytes, "old\r\n");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"KV_X.ini"});
 }
