@@ -89,8 +89,9 @@ TEST(StationFile, angleThatRoundsToAWholeTurnIsZeroAndMissingTermsAreNothing)
 
 TEST(Sources, faultsNameTheFile)
 {
-    EXPECT_THROW(readSources(root / "data/README.md"), std::runtime_error);
-    EXPECT_THROW(readSources(root / "nothing.json"), std::runtime_error);
+    for (const char* name : {"data/README.md", "nothing.json"})
+        EXPECT_THAT([&] { readSources(root / name); },
+                    ::testing::ThrowsMessage<std::runtime_error>(::testing::HasSubstr(name)));
 }
 
 } // namespace

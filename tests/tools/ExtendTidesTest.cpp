@@ -68,6 +68,8 @@ TEST_F(ExtendTides, refusesWhatItCannotDoAndChangesNothing)
 {
     for (const char* arguments : {"", "2004", "2061", "2050 2051", "abc", "20x0", "''", "-1"})
         EXPECT_NE(run(arguments), 0) << arguments;
+    const std::string generator = "'" KORVEL_TIDEDATA "' factors 2030x '";
+    EXPECT_NE(std::system((generator + (folder / "x").string() + "' 2>/dev/null").c_str()), 0);
     fs::remove(folder / "tidedata");
     EXPECT_NE(run("2050"), 0) << "no generator";
     fs::create_symlink("/bin/false", folder / "tidedata");
