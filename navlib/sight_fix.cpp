@@ -2,7 +2,6 @@
 #include "navlib/sight_fix.h"
 
 #include "navlib/angles.h"
-#include "navlib/ephemeris.h"
 
 #include <algorithm>
 #include <cmath>
@@ -31,16 +30,6 @@ Position moved(const Position& from, Miles north, Miles east)
     return {latitude, WithinHalfTurn(from.longitude + changeOfLongitude(east, middle))};
 }
 
-/// Variance of one line: that of the sight, and the part of the run's error across the line.
-double variance(const ErrorModel& errors, const Motion& motion, Hours sinceFix, Degrees azimuth)
-{
-    const Miles run = motion.speed * fabs(sinceFix);
-    const Degrees toCourse = azimuth - motion.course;
-    const Miles along = errors.runAlong * run * cos(toCourse);
-    const Miles across = run * sin(errors.runCourse) * sin(toCourse);
-    return square(errors.sigma.value()) + square(along.value()) + square(across.value());
-}
-
 /// One pass of the least squares from a position.
 struct Pass {
     NormalMatrix matrix;
@@ -56,7 +45,7 @@ Pass passFrom(std::span<const Sight> sights, const Position& atFix, const Motion
     Pass pass;
     for (const Sight& sight : sights) {
         const LineOfPosition line = LineAt(sight, atFix, motion);
-        const double w = Quotient(1, variance(errors, motion, sight.sinceFix, line.azimuth));
+        const double w = Quotient(1, LineVariance(errors, motion, sight.sinceFix, line.azimuth));
         const double cosZ = cos(line.azimuth);
         const double sinZ = sin(line.azimuth);
         pass.matrix.A += w * cosZ * cosZ;
@@ -108,6 +97,15 @@ LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& m
     const Position atSight = Advanced(atFix, motion, sight.sinceFix);
     const HorizonPlace body = PlaceAboveHorizon(sight.GHA, sight.declination, atSight);
     return {Intercept(sight.observedAltitude, body.altitude), body.azimuth, body.altitude};
+}
+
+double LineVariance(const ErrorModel& errors, const Motion& motion, Hours sinceFix, Degrees azimuth)
+{
+    const Miles run = motion.speed * fabs(sinceFix);
+    const Degrees toCourse = azimuth - motion.course;
+    const Miles along = errors.runAlong * run * cos(toCourse);
+    const Miles across = run * sin(errors.runCourse) * sin(toCourse);
+    return square(errors.sigma.value()) + square(along.value()) + square(across.value());
 }
 
 Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const Motion& motion,
@@ -194,35 +192,6 @@ Degrees CutAngle(std::span<const Degrees> azimuths)
             best = std::max(
                 best, Degrees(std::fabs(std::remainder((azimuths[i] - azimuths[j]).value(), 180))));
     return best;
-}
-
-Degrees MeridianLatitude(Degrees declination, Degrees observedAltitude, bool bearsSouth)
-{
-    const Degrees zenithDistance = quarterTurn - observedAltitude;
-    return bearsSouth ? declination + zenithDistance : declination - zenithDistance;
-}
-
-DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion)
-{
-    DateTime passage = near;
-    for (int pass = 0; pass < 8; ++pass) {
-        const Position ship = Advanced(position, motion, Hours((passage - near) * 24));
-        const Degrees toGo = WithinHalfTurn(-ship.longitude - DegMinToDeg(SunGHA(passage)));
-        passage += toGo / fullTurn;
-        if (fabs(toGo) < Degrees(0.001)) break;
-    }
-    return passage;
-}
-
-double GreatestAltitudeDelay(Degrees latitude, Degrees declination, double sunNorthward,
-                             double shipNorthward)
-{
-    return 15.28 * (tan(latitude) - tan(declination)) * (sunNorthward - shipNorthward);
-}
-
-Miles LineBend(Miles fromFoot, Degrees altitude)
-{
-    return fromFoot * fromFoot.value() * tan(altitude) / (2 * 3438);
 }
 
 std::vector<Position> CirclePoints(const Sight& sight, const Position& near, Miles halfLength,

@@ -10,7 +10,7 @@
 /// north and east are positive. One minute of latitude counts as a mile.
 ///
 /// Sources: the sight reduction procedures of the Nautical Almanac (least squares); Bowditch,
-/// American Practical Navigator (intercept, running fix, meridian passage).
+/// American Practical Navigator (intercept, running fix).
 namespace NavFunc113
 {
 
@@ -63,6 +63,11 @@ struct LineOfPosition {
     Degrees computedAltitude;
 };
 LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& motion);
+
+/// Variance of one line in square miles: that of the sight, and the part of the run's error that
+/// lies across the line.
+double LineVariance(const ErrorModel& errors, const Motion& motion, Hours sinceFix,
+                    Degrees azimuth);
 
 /// Sums of the weighted lines: cos^2 Z, cos Z sin Z, sin^2 Z, each divided by sigma^2.
 struct NormalMatrix {
@@ -126,23 +131,6 @@ double MeasuredScale(const Fix& fix);
 
 /// Angle at which the best pair of lines cuts, 0 .. 90; 0 for fewer than two.
 Degrees CutAngle(std::span<const Degrees> azimuths);
-
-/// Latitude from the altitude on the meridian.
-/// @param bearsSouth the body is seen to the south
-Degrees MeridianLatitude(Degrees declination, Degrees observedAltitude, bool bearsSouth);
-
-/// UTC of the Sun's passage over the meridian of a moving ship, the one nearest to an instant.
-/// @param near    instant at which the ship stands at position
-DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion);
-
-/// Seconds by which the greatest altitude comes after the passage over the ship's meridian.
-/// @param sunNorthward, shipNorthward rates in minutes of arc an hour
-double GreatestAltitudeDelay(Degrees latitude, Degrees declination, double sunNorthward,
-                             double shipNorthward);
-
-/// How far the circle of position bends away from its tangent, miles.
-/// @param fromFoot distance along the tangent from its foot; @param altitude below 90
-Miles LineBend(Miles fromFoot, Degrees altitude);
 
 /// Points of the circle of position on both sides of where it passes nearest to a position, in
 /// order, clockwise about the body's geographical position; the whole circle when it is shorter

@@ -3,6 +3,7 @@
 
 #include "navlib/angles.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -108,6 +109,13 @@ AltitudeCorrectionTerms SunAltitudeTerms(DegMin observedAltitude, float month, M
     terms.semiDiameterOfMonth = semiDiameterOfMonth(month);
     terms.airSea = (airTemperature - seaTemperature) * 0.2;
     return terms;
+}
+
+double MeanRefraction(Degrees apparentAltitude)
+{
+    const double h = apparentAltitude.value();
+    // The formula passes through 0 just short of the zenith.
+    return std::max(0.0, 1 / tan(Degrees(h + 7.31 / (h + 4.4))));
 }
 
 DegMin SunAltitudeCorrection(DegMin observedAltitude, float month, Metres heightOfEye,

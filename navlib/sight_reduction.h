@@ -47,6 +47,12 @@ AltitudeCorrectionTerms SunAltitudeTerms(DegMin observedAltitude, float month, M
                                          double airTemperature, double seaTemperature,
                                          float pressure);
 
+/// Refraction in minutes of arc in mean air (10 degrees, 1010 hPa), good to 0.1' from the horizon
+/// to the zenith, where it is 0: for altitudes that the table of the correction does not cover.
+/// @param apparentAltitude  above the horizon of the eye, dip taken off; 0 or more
+/// Source: Bennett, The Calculation of Astronomical Refraction in Marine Navigation, 1982.
+double MeanRefraction(Degrees apparentAltitude);
+
 /// Corrected altitude: the observed one with the sum of all terms.
 DegMin SunAltitudeCorrection(DegMin observedAltitude, float month, Metres heightOfEye,
                              double airTemperature, double seaTemperature, float pressure);

@@ -59,10 +59,8 @@ void WindowRecord::load()
     m_isLoading = true;
     const auto record = m_file->load(m_save());
     const bool isWhole = record && !m_file->isProtected();
-    if (m_salvage && m_file->damagedText())
-        m_salvage(*m_file->damagedText());
-    else if (record)
-        m_load(*record);
+    if (record) m_load(*record);
+    if (m_salvage && m_file->damagedText()) m_salvage(*m_file->damagedText());
     m_isLoading = false;
     if (isWhole) m_onDisk = m_save();
     watchControls();

@@ -29,8 +29,8 @@ public:
 
     /// Names the file and how the record is filled and taken over. A window without a record never
     /// calls it.
-    /// @param salvage what is done with the bytes of a damaged file, where the window knows more of
-    ///                them than the values that could be read one by one
+    /// @param salvage what is done with the bytes of a damaged file after that, where the window
+    ///                knows more of them than the values that could be read one by one
     void use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
              Salvage salvage = {});
     /// The same for a record that is the texts of boxes, in their order.

@@ -3,8 +3,10 @@
 
 #include "app/Format.h"
 #include "app/reading.h"
+#include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace korvel
@@ -14,9 +16,7 @@ namespace
 
 using namespace NavFunc113;
 
-constexpr const char* angle = "0.-00'0";
-
-std::string minutes(double value)
+std::string minutesText(double value)
 {
     return Format(value, "+0.0';-0.0'");
 }
@@ -32,21 +32,29 @@ std::string watchErrorText(const SightTexts& sight)
 std::vector<WorksheetLine> worksheetOf(const SightCorrections& sight)
 {
     const AltitudeCorrectionTerms& terms = sight.terms;
-    std::vector<WorksheetLine> lines = {
-        {"Hs", Format(sight.Hs, angle)},
-        {"Index error", minutes(-sight.indexError)},
-        {"Dip", minutes(terms.dip)},
-        {"Refraction", minutes(-terms.refraction)},
-        {"Semi-diameter", minutes(terms.semiDiameter)},
-        {"Semi-diameter of the month", minutes(terms.semiDiameterOfMonth)},
-        {"Parallax", minutes(terms.parallax)},
-        {"Air temperature", minutes(terms.temperature)},
-        {"Pressure", minutes(terms.pressure)},
-        {"Air - sea", minutes(terms.airSea)},
+    std::vector<std::pair<const char*, double>> applied = {
+        {"Index error", -sight.indexError},
+        {"Dip", terms.dip},
+        {"Refraction", -terms.refraction},
+        {"Semi-diameter", terms.semiDiameter},
+        {"Semi-diameter of the month", terms.semiDiameterOfMonth},
+        {"Parallax", terms.parallax},
+        {"Air temperature", terms.temperature},
+        {"Pressure", terms.pressure},
+        {"Air - sea", terms.airSea},
     };
     if (sight.upperLimb != 0)
-        lines.push_back({"Upper limb: less the diameter", minutes(sight.upperLimb)});
-    lines.push_back({"Ho", Format(sight.Ho, angle)});
+        applied.emplace_back("Upper limb: less the diameter", sight.upperLimb);
+    std::vector<WorksheetLine> lines = {{"Hs", angleText(sight.Hs)}};
+    int sum = tenthsShown(sight.Hs);
+    for (const auto& [caption, minutes] : applied) {
+        lines.push_back({caption, minutesText(minutes)});
+        sum += tenthsShown(minutes);
+    }
+    // Whoever adds up what is shown must come to what is shown.
+    if (const int left = tenthsShown(sight.Ho) - sum; left != 0)
+        lines.push_back({"Rounding of the above", minutesText(left / 10.0)});
+    lines.push_back({"Ho", angleText(sight.Ho)});
     return lines;
 }
 
@@ -56,76 +64,68 @@ DegMin withinCircle(DegMin GHA)
     return DegToDegMin(degrees < Degrees(0) ? degrees + fullTurn : degrees);
 }
 
+void showTimes(const SightTexts& sight, DateTime UTC, LOPResult& result)
+{
+    result.UTC = Format(UTC, "yyyy/mm/dd hh:mm:ss") + " UTC";
+    result.watchError = watchErrorText(sight);
+    if (!sight.SMT) return;
+    const Hours TD(readNumber(sight.TD));
+    result.SMT = Format(UTC + DaysOfHours(TD), "yyyy/mm/dd hh:mm:ss") + " SMT, TD " +
+                 Format(TD, "0.0hE;0.0hW");
+}
+
+void showLine(const Observation& observation, const Position& DR, LOPResult& result,
+              Remarks& remarks)
+{
+    result.DR = positionText(DR);
+    const HorizonPlace sun =
+        PlaceAboveHorizon(DegMinToDeg(*observation.GHA), DegMinToDeg(*observation.declination), DR);
+    const DegMin Hc = DegToDegMin(sun.altitude);
+    result.Hc = angleText(Hc);
+    result.azimuth = azimuthOfSun(*observation.GHA, *observation.declination, DR);
+    result.Zn = courseText(*result.azimuth, "000.0");
+    if (sun.altitude < Degrees(0))
+        remarks.warn("The Sun is below the horizon of the DR position: check date, time and "
+                     "position");
+    if (!observation.corrections) return;
+    const DegMin Ho = observation.corrections->Ho;
+    result.intercept = interceptText(Ho, Hc);
+    if (fabs(Intercept(DegMinToDeg(Ho), sun.altitude)) > Miles(60))
+        remarks.warn("Intercept of more than 60 miles: check date, time, altitude and position");
+}
+
 } // namespace
 
-Degrees azimuthOfSun(DegMin GHA, DegMin declination, const Position& position)
-{
-    try {
-        return ComputedAzimuth(GHA, declination, DegToDegMin(position.latitude),
-                               DegToDegMin(position.longitude));
-    } catch (const ArithmeticError&) {
-        return PlaceAboveHorizon(DegMinToDeg(GHA), DegMinToDeg(declination), position).azimuth;
-    }
-}
-
-std::string positionText(const Position& position)
-{
-    return Format(DegToDegMin(position.latitude), "00-.00'0N;00-.00'0S") + " " +
-           Format(DegToDegMin(position.longitude), "000-.00'0E;000-.00'0W");
-}
-
-std::string interceptText(Miles intercept)
-{
-    return Format(fabs(intercept), "0'.0") + (intercept < Miles(0) ? " A" : " T");
-}
-
-LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts)
+LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
+                       const SightContext& context)
 {
     LOPResult result;
     Remarks remarks;
     const Observation observation = readObservation(sight, remarks);
-    const Track track = readTrack(trackTexts, remarks);
+    const Track track = readTrack(trackTexts, std::max(context.lastSight, observation.UTC),
+                                  sight.isBegun(), remarks);
     if (observation.UTC) {
-        result.UTC = Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC";
-        result.watchError = watchErrorText(sight);
-        if (sight.SMT) {
-            const Hours TD(readNumber(sight.TD));
-            result.SMT = Format(*observation.UTC + DaysOfHours(TD), "yyyy/mm/dd hh:mm:ss") +
-                         " SMT, TD " + Format(TD, "0.0hE;0.0hW");
-        }
+        showTimes(sight, *observation.UTC, result);
+        if (const auto ahead = aheadText(*observation.UTC, context.now); !ahead.empty())
+            remarks.warn("The sight lies " + ahead + " in the future: check date, watch and TD");
     }
+    const auto shipsTD = context.shipsTD;
+    if (sight.SMT && sight.isBegun() && shipsTD && Hours(readNumber(sight.TD)) != *shipsTD)
+        remarks.warn("TD is not the ship's, which is " + Format(*shipsTD, "0.##"));
     if (observation.corrections) {
         result.worksheet = worksheetOf(*observation.corrections);
-        result.Ho = Format(observation.corrections->Ho, angle);
+        result.Ho = angleText(observation.corrections->Ho);
     }
     std::optional<Position> DR;
     if (observation.GHA && observation.declination) {
-        result.GHA = Format(withinCircle(*observation.GHA), angle);
-        result.declination = Format(*observation.declination, angle);
+        result.GHA = angleText(withinCircle(*observation.GHA));
+        result.declination = angleText(*observation.declination);
         DR = track.at(*observation.UTC);
     }
-    if (DR) {
-        result.DR = positionText(*DR);
-        const HorizonPlace sun = PlaceAboveHorizon(DegMinToDeg(*observation.GHA),
-                                                   DegMinToDeg(*observation.declination), *DR);
-        result.Hc = Format(DegToDegMin(sun.altitude), angle);
-        const Degrees Zn = azimuthOfSun(*observation.GHA, *observation.declination, *DR);
-        result.azimuth = Zn;
-        result.Zn = courseText(Zn, "000.0");
-        if (sun.altitude < Degrees(0))
-            remarks.warnings.push_back("The Sun is below the horizon of the DR position: check "
-                                       "date, time and position");
-        if (observation.corrections) {
-            const Miles intercept =
-                Intercept(DegMinToDeg(observation.corrections->Ho), sun.altitude);
-            result.intercept = interceptText(intercept);
-            if (fabs(intercept) > Miles(60))
-                remarks.warnings.push_back("Intercept of more than 60 miles: check date, time, "
-                                           "altitude and position");
-        }
-    } else if (track.position && track.timeUsable && track.motion && observation.UTC) {
-        remarks.faults.push_back("DR position: the run from its time ends beyond latitude 89");
-    }
+    if (DR)
+        showLine(observation, *DR, result, remarks);
+    else if (track.position && track.timeUsable && track.motion && observation.UTC)
+        remarks.fault("DR position: the run from its time ends beyond latitude 89");
     result.notice = remarks.text();
     return result;
 }

@@ -3,6 +3,9 @@
 
 #include "forms/frmSunSight/SightInput.h"
 
+#include <string>
+#include <vector>
+
 namespace korvel
 {
 
@@ -29,18 +32,7 @@ struct LOPResult {                        ///< an empty text blanks the label
 };
 
 /// The line of position of the sight being entered. What an unusable input does not touch is shown.
-LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& track);
-
-/// True azimuth at a position; on the meridian and due east or west, where the library's
-/// quotient faults, by the four-quadrant form.
-/// @param position decimal degrees
-NavFunc113::Degrees azimuthOfSun(NavFunc113::DegMin GHA, NavFunc113::DegMin declination,
-                                 const NavFunc113::Position& position);
-
-/// "35-.30'5N 139-.45'2E" of a position in decimal degrees.
-std::string positionText(const NavFunc113::Position& position);
-
-/// An intercept: "10'.8 T" or "3'.8 A".
-std::string interceptText(NavFunc113::Miles intercept);
+LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& track,
+                       const SightContext& context);
 
 } // namespace korvel

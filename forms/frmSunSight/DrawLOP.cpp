@@ -2,6 +2,8 @@
 #include "forms/frmSunSight/DrawLOP.h"
 
 #include "app/Format.h"
+#include "app/Remarks.h"
+#include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 
 #include <algorithm>
@@ -33,11 +35,6 @@ bool isInside(const PlotPoint& point)
     return std::fabs(point.x) <= half && std::fabs(point.y) <= half;
 }
 
-std::string longitudeLabel(Degrees longitude)
-{
-    return Format(DegToDegMin(WithinHalfTurn(longitude)), "000-.00'0E;000-.00'0W");
-}
-
 /// Ten lines at most, on round minutes.
 int gridStep(double minutesWide)
 {
@@ -55,44 +52,37 @@ std::vector<PlotGridLine> gridAround(const Position& middle)
     for (double minute = std::ceil((centre - wide) / step) * step; minute <= centre + wide;
          minute += step) {
         const double x = (minute - centre) / 60 * milesOfDegree(middle);
-        grid.push_back({{x, -half}, {x, half}, longitudeLabel(Degrees(minute / 60))});
+        grid.push_back(
+            {{x, -half}, {x, half}, longitudeText(WithinHalfTurn(Degrees(minute / 60)))});
     }
     const double base = middle.latitude.value() * 60;
     for (double minute = std::ceil((base - half) / 10) * 10; minute <= base + half; minute += 10) {
         if (std::fabs(minute) > 90 * 60) continue;
         const double y = minute - base;
-        grid.push_back({{-half, y},
-                        {half, y},
-                        Format(DegToDegMin(Degrees(minute / 60)), "00-.00'0N;00-.00'0S")});
+        grid.push_back({{-half, y}, {half, y}, latitudeText(Degrees(minute / 60))});
     }
     return grid;
 }
 
-/// The part of the line foot + s x direction that lies on the plot.
-std::optional<std::pair<double, double>> clipped(const PlotPoint& foot, const PlotPoint& direction)
+/// The circle of position, every point of it run to the time of the fix. A straight line would be
+/// off it by more than a mile at the rim: by the curve of a high Sun, and at high latitudes by the
+/// chart, whose miles of longitude are those of its middle.
+std::vector<std::vector<PlotPoint>> circleOf(const FixLine& line, const Position& middle,
+                                             const Motion& motion)
 {
-    double first = -1e9, last = 1e9;
-    for (const auto& [start, slope] : {std::pair(foot.x, direction.x), {foot.y, direction.y}}) {
-        if (std::fabs(slope) < 1e-12) {
-            if (std::fabs(start) > half) return std::nullopt;
-            continue;
-        }
-        const double a = (-half - start) / slope, b = (half - start) / slope;
-        first = std::max(first, std::min(a, b));
-        last = std::min(last, std::max(a, b));
+    // Seen from the middle of the chart, its corners and what high latitudes add to them.
+    constexpr Miles beyondTheCorners(200);
+    constexpr int points = 201;
+    constexpr double longestStep = 20; // two points that far apart lie on either side of a pole
+    std::vector<std::vector<PlotPoint>> runs(1);
+    for (const Position& point : CirclePoints(line.sight, line.DR, beyondTheCorners, points)) {
+        const PlotPoint at = inPlane(Advanced(point, motion, -line.sight.sinceFix), middle);
+        if (!runs.back().empty() &&
+            std::hypot(at.x - runs.back().back().x, at.y - runs.back().back().y) > longestStep)
+            runs.emplace_back();
+        runs.back().push_back(at);
     }
-    if (first >= last) return std::nullopt;
-    return std::pair(first, last);
-}
-
-std::vector<PlotPoint> circleOf(const FixLine& line)
-{
-    std::vector<PlotPoint> points;
-    // The plane of the sight's own DR position lies over that of the plot once the run is made.
-    constexpr Miles beyondTheCorners(130);
-    for (const Position& point : CirclePoints(line.sight, line.DR, beyondTheCorners, 131))
-        points.push_back(inPlane(point, line.DR));
-    return points;
+    return runs;
 }
 
 std::string timeLabel(const FixLine& line, const SightFixResult& fix)
@@ -105,51 +95,38 @@ std::string timeLabel(const FixLine& line, const SightFixResult& fix)
 
 PlotLine plotLine(const FixLine& line, const SightFixResult& fix)
 {
-    // No straight line is drawn that is further off its circle than this.
-    constexpr Miles tolerance(0.3);
-    const double sinZ = sin(line.line.azimuth);
-    const double cosZ = cos(line.line.azimuth);
+    const double sinZ = sin(line.line.azimuth), cosZ = cos(line.line.azimuth);
+    const double intercept = line.line.intercept.value();
     PlotLine plot;
     plot.index = line.index;
     plot.label = timeLabel(line, fix);
-    const double intercept = line.line.intercept.value();
     plot.foot = {intercept * sinZ, intercept * cosZ};
     plot.arrowTo = {plot.foot.x + 6 * sinZ, plot.foot.y + 6 * cosZ};
-    const PlotPoint along{cosZ, -sinZ};
-    const auto at = [&](double s) {
-        return PlotPoint{plot.foot.x + s * along.x, plot.foot.y + s * along.y};
-    };
-    const auto ends = clipped(plot.foot, along);
-    const Degrees altitude = std::min(line.sight.observedAltitude, Degrees(89.9));
-    const double reach = ends ? std::max(std::fabs(ends->first), std::fabs(ends->second)) : half;
-    plot.circle = LineBend(Miles(reach), altitude) > tolerance;
-    if (plot.circle)
-        plot.points = circleOf(line);
-    else if (ends)
-        plot.points = {at(ends->first), at(ends->second)};
-    const auto label = std::find_if(plot.points.begin(), plot.points.end(), isInside);
-    plot.visible = plot.circle ? label != plot.points.end() : ends.has_value();
-    if (plot.circle && plot.visible) plot.labelAt = *label;
-    // A little inside, so that the time does not lie on the frame.
-    if (!plot.circle && ends)
-        plot.labelAt = at(ends->first + std::min(4.0, (ends->second - ends->first) / 2));
+    plot.runs = circleOf(line, *fix.DR, fix.motion);
+    for (const std::vector<PlotPoint>& run : plot.runs) {
+        const auto inside = std::ranges::find_if(run, isInside);
+        if (inside == run.end()) continue;
+        plot.visible = true;
+        // A little further on, so that the time does not lie on the frame.
+        plot.labelAt = std::next(inside) != run.end() ? *std::next(inside) : *inside;
+        break;
+    }
     return plot;
 }
 
-void drawFix(const SightFixResult& fix, SightPlot& plot)
+PlotFix plotFix(const FixPoint& fix, const Position& middle)
 {
-    plot.fix = inPlane(*fix.fix, *plot.middle);
-    plot.fixLabel = fix.time.substr(0, fix.time.find(' ', fix.time.find("FIX"))) + " " +
-                    Format(*fix.UTC, "hhmm");
-    const Radians axis = DegToRad(fix.ellipse.majorAxis);
+    PlotFix plot{inPlane(fix.position, middle), {}, fix.label};
+    if (!fix.ellipse) return plot;
+    const double major = fix.ellipse->semiMajor.value(), minor = fix.ellipse->semiMinor.value();
+    const double sinAxis = sin(fix.ellipse->majorAxis), cosAxis = cos(fix.ellipse->majorAxis);
     for (int i = 0; i <= 72; ++i) {
-        const Radians angle = DegToRad(Degrees(5.0 * i));
-        const double major = fix.ellipse.semiMajor.value() * cos(angle);
-        const double minor = fix.ellipse.semiMinor.value() * sin(angle);
-        plot.ellipse.push_back({plot.fix->x + major * sin(axis) + minor * cos(axis),
-                                plot.fix->y + major * cos(axis) - minor * sin(axis)});
+        const Degrees angle(5.0 * i);
+        const double along = major * cos(angle), across = minor * sin(angle);
+        plot.ellipse.push_back({plot.at.x + along * sinAxis + across * cosAxis,
+                                plot.at.y + along * cosAxis - across * sinAxis});
     }
-    if (!isInside(*plot.fix)) plot.notice = "The fix lies outside the plot";
+    return plot;
 }
 
 } // namespace
@@ -161,20 +138,26 @@ SightPlot DrawLOP(const SightFixResult& fix)
     if (!plot.middle) return plot;
     plot.DRLabel = fix.UTC ? "DR " + Format(*fix.UTC, "hhmm") : "DR";
     plot.grid = gridAround(*plot.middle);
-    for (const FixLine& line : fix.lines)
+    Remarks outside;
+    if (fix.fix) {
+        plot.fix = plotFix(*fix.fix, *plot.middle);
+        if (!isInside(plot.fix->at)) outside.warn("The fix lies outside the plot");
+    }
+    for (const FixPoint& other : fix.without)
+        plot.without.push_back(plotFix(other, *plot.middle));
+    for (const FixLine& line : fix.lines) {
         plot.lines.push_back(plotLine(line, fix));
-    if (fix.fix) drawFix(fix, plot);
-    for (const PlotLine& line : plot.lines)
-        if (!line.visible)
-            plot.notice += (plot.notice.empty() ? "" : "; ") + ("Line " + line.label) +
-                           " lies outside the plot";
+        if (!plot.lines.back().visible)
+            outside.warn("Line " + plot.lines.back().label + " lies outside the plot");
+    }
+    plot.notice = outside.text();
     return plot;
 }
 
 CursorTexts cursorTexts(const SightPlot& plot, PlotPoint at)
 {
     if (!plot.middle || !isInside(at)) return {};
-    const Degrees latitude = plot.middle->latitude + Degrees(at.y / 60);
+    const Degrees latitude = plot.middle->latitude + ArcOfMiles(Miles(at.y));
     if (fabs(latitude) > quarterTurn) return {};
     const Degrees longitude =
         WithinHalfTurn(plot.middle->longitude + Degrees(at.x / milesOfDegree(*plot.middle)));

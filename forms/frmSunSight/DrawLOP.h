@@ -24,14 +24,20 @@ struct PlotGridLine {
 
 struct PlotLine {
     std::size_t index = 0; ///< in the list of sights
-    std::vector<PlotPoint>
-        points;        ///< two of a straight line, clipped; more of a circle, not clipped
+    /// Runs of points on the circle of position, more than one where it leaves the chart's world
+    /// near a pole; not clipped.
+    std::vector<std::vector<PlotPoint>> runs;
     std::string label; ///< "1145", advanced "1145-1530", UTC
     PlotPoint labelAt;
-    PlotPoint foot;    ///< of the intercept, which is drawn from the DR position
-    PlotPoint arrowTo; ///< azimuth arrow, from the foot
-    bool circle = false;
+    PlotPoint foot;       ///< of the intercept, which is drawn from the DR position
+    PlotPoint arrowTo;    ///< azimuth arrow, from the foot
     bool visible = false; ///< some of it lies on the plot
+};
+
+struct PlotFix {
+    PlotPoint at;
+    std::vector<PlotPoint> ellipse; ///< closed; empty when there is none
+    std::string label;
 };
 
 struct SightPlot {
@@ -40,10 +46,9 @@ struct SightPlot {
     std::string DRLabel;
     std::vector<PlotGridLine> grid;
     std::vector<PlotLine> lines;
-    std::optional<PlotPoint> fix;
-    std::string fixLabel;
-    std::vector<PlotPoint> ellipse; ///< closed
-    std::string notice;             ///< what lies outside
+    std::optional<PlotFix> fix;
+    std::vector<PlotFix> without; ///< of lines that do not agree: the fixes without one of them
+    std::string notice;           ///< what lies outside
 };
 
 /// The plot of the lines of a fix, around its DR position; empty when there is none.

@@ -3,9 +3,12 @@
 
 #include "app/Format.h"
 #include "app/reading.h"
+#include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 #include "navlib/ephemeris.h"
+#include "navlib/meridian_passage.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace korvel
@@ -41,32 +44,62 @@ std::string greatestText(DateTime noon, const Position& ship, const Motion& moti
            (delay < 0 ? "earlier" : "later");
 }
 
+/// A DR position is trusted as far as the plot reaches, forty miles each way: the other latitude is
+/// possible too unless it lies further from it by more than that span.
+bool isSideInDoubt(const MeridianLatitudes& latitudes, Degrees shipLatitude)
+{
+    const Degrees ofSouth = fabs(latitudes.bodyToTheSouth - shipLatitude);
+    const Degrees ofNorth = fabs(latitudes.bodyToTheNorth - shipLatitude);
+    return MilesOfArc(fabs(ofSouth - ofNorth)) < Miles(80);
+}
+
+std::string meridianNote(Degrees hourAngle, Miles reduction)
+{
+    const double minutes = hourAngle.value() * 4;
+    std::string note = "Sun " + Format(std::fabs(minutes), "0.0") + " min " +
+                       (minutes < 0 ? "before" : "after") + " the meridian at the sight";
+    const std::string reduced = Format(fabs(reduction), "0.0'");
+    if (reduced != "0.0'") note += ", latitude reduced by " + reduced;
+    return note;
+}
+
 void latitudeBySight(const Observation& observation, const Position& ship, MeridianResult& result)
 {
+    const Degrees declination = DegMinToDeg(*observation.declination);
+    const Degrees Ho = DegMinToDeg(observation.corrections->Ho);
     const Degrees hourAngle = WithinHalfTurn(DegMinToDeg(*observation.GHA) + ship.longitude);
-    const double minutes = hourAngle.value() * 4;
-    if (std::fabs(minutes) > 20) {
-        result.note = "No latitude: the sight is not near the meridian";
+    if (!IsNearMeridian(hourAngle, Ho)) {
+        result.note = "No latitude: the sight is not near the meridian, " +
+                      Format(fabs(hourAngle).value() * 4, "0.0") + " min from it";
         return;
     }
-    const Degrees declination = DegMinToDeg(*observation.declination);
-    const Degrees latitude = MeridianLatitude(declination, DegMinToDeg(observation.corrections->Ho),
-                                              ship.latitude > declination);
-    result.latitude = Format(DegToDegMin(latitude), "00-.00'0N;00-.00'0S");
-    result.note = "Sun " + Format(std::fabs(minutes), "0.0") + " min " +
-                  (minutes < 0 ? "before" : "after") + " the meridian at the sight";
-    if (std::fabs(minutes) > 1)
-        result.note += ": not yet or no longer at its greatest, the latitude is out";
+    const auto latitudes = LatitudesByAltitude(declination, Ho, hourAngle);
+    if (!latitudes) {
+        result.note = "No latitude: the Sun stands so high nowhere on the meridian of the DR "
+                      "position";
+        return;
+    }
+    const bool isSouth = ship.latitude > latitudes->between;
+    const Degrees reduced = isSouth ? latitudes->bodyToTheSouth : latitudes->bodyToTheNorth;
+    result.latitude = latitudeText(reduced);
+    result.note =
+        meridianNote(hourAngle, MilesOfArc(reduced - MeridianLatitude(declination, Ho, isSouth)));
+    if (!isSideInDoubt(*latitudes, ship.latitude)) return;
+    result.latitude =
+        latitudeText(latitudes->bodyToTheSouth) + " or " + latitudeText(latitudes->bodyToTheNorth);
+    result.note += "; first with the Sun to the south, then to the north";
 }
 
 } // namespace
 
-MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trackTexts)
+MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trackTexts,
+                                 const SightContext& context)
 {
     MeridianResult result;
     Remarks unheard; // CalculateLOP names them
     const Observation observation = readObservation(sight, unheard);
-    const Track track = readTrack(trackTexts, unheard);
+    const Track track =
+        readTrack(trackTexts, std::max(context.lastSight, observation.UTC), true, unheard);
     if (!observation.UTC) return result;
     const auto ship = track.at(*observation.UTC);
     if (!ship) return result;

@@ -2,20 +2,14 @@
 #pragma once
 
 #include "forms/frmSunSight/SightList.h"
+#include "navlib/line_checks.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace korvel
 {
-
-/// How good sights and run are held to be, as typed.
-struct SightFixOptions {
-    std::string sigma;     ///< miles, of one line; empty: 1
-    std::string runAlong;  ///< per cent of the distance run; empty: 5
-    std::string runCourse; ///< degrees of the course made good; empty: 2
-    bool measured = false; ///< scale the ellipse by the residuals (three lines or more)
-};
 
 /// One recorded sight that is on, as a line of the fix.
 struct FixLine {
@@ -24,7 +18,14 @@ struct FixLine {
     NavFunc113::Sight sight;
     NavFunc113::LineOfPosition line; ///< referred to the DR position
     NavFunc113::Position DR;         ///< run to the time of the sight
-    std::string text;                ///< Hc, intercept, Zn, and the residual once there is a fix
+    std::string text;                ///< intercept, Zn, and the residual once there is a fix
+};
+
+/// A position that the lines give, with what it is called.
+struct FixPoint {
+    NavFunc113::Position position;
+    std::optional<NavFunc113::ErrorEllipse> ellipse; ///< absent when it would claim too much
+    std::string label;                               ///< "R FIX 1530", "without 1145"
 };
 
 struct SightFixResult {
@@ -34,20 +35,24 @@ struct SightFixResult {
     NavFunc113::Motion motion;
     std::vector<FixLine> lines;
 
-    std::optional<NavFunc113::Position> fix;
-    NavFunc113::ErrorEllipse ellipse; ///< valid with a fix
-    std::string latitude;             ///< "14-.06'0N"
-    std::string longitude;            ///< "052-.25'8W"
-    std::string time;                 ///< "R FIX 2020/12/17 15:30:00 UTC"
-    std::string memoLatitude;         ///< DegMin in full, for the Position Memo
+    std::optional<FixPoint> fix;
+    std::vector<FixPoint> without; ///< when lines do not agree: the fix of the rest, or the fixes
+                                   ///< without one each that may be out
+    std::string latitude;          ///< "14-.06'0N"
+    std::string longitude;         ///< "052-.25'8W"
+    std::string time;              ///< "R FIX 2020/12/17 15:30:00 UTC"
+    std::string memoLatitude;      ///< DegMin in full, for the Position Memo
     std::string memoLongitude;
     std::string ellipseText;
-    std::string sigmaText; ///< where the sigma of the ellipse comes from
-    std::string notice;    ///< why there is no fix, and warnings
+    std::string sigmaText;   ///< where the sigma of the ellipse comes from
+    std::string withoutText; ///< the fixes without what does not fit
+    std::string notice;      ///< why there is no fix, and warnings
 };
 
 /// The fix from all recorded sights that are on, at the time of the last of them.
+/// @param now  UTC, for sights that lie ahead of it
 SightFixResult CalculateFix(const SightList& list, const TrackTexts& track,
-                            const SightFixOptions& options);
+                            const SightFixOptions& options,
+                            std::optional<NavFunc113::DateTime> now);
 
 } // namespace korvel

@@ -2,7 +2,10 @@
 #include "forms/frmSunSight/SightInput.h"
 
 #include "app/Format.h"
+#include "app/NumberField.h"
 #include "app/reading.h"
+#include "app/typed_time.h"
+#include "forms/frmSunSight/SightFields.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
 #include "navlib/ephemeris.h"
@@ -23,65 +26,104 @@ bool isEmpty(const std::string& text)
     return text.find_first_not_of(" \t") == std::string::npos;
 }
 
-std::optional<DateTime> readDateAndTime(const std::string& text, const std::string& name,
-                                        Remarks& remarks)
+/// The first two parts of a field's accessible name: what it is, and its unit in words.
+std::pair<std::string_view, std::string_view> nameAndUnit(const Field& field)
 {
-    const auto value = readDateTime(text);
-    // Neither a time without its day nor a day without its time is an instant.
-    const std::string ascii = asciiForms(text);
-    if (value && ascii.find('/') != std::string::npos && ascii.find(':') != std::string::npos) {
-        if (*value >= 1) return value;
-        remarks.faults.push_back(name + ": dates before 1900 cannot be computed");
-        return std::nullopt;
-    }
-    remarks.faults.push_back(name + ": " + (isEmpty(text) ? "empty" : "\"" + text + "\" is none") +
-                             "; yyyy/mm/dd and hh:mm:ss are needed");
-    return std::nullopt;
+    const std::string_view words = field.accessibleName;
+    const std::size_t name = words.find(", ");
+    const std::string_view rest = words.substr(name + 2);
+    return {words.substr(0, name), rest.substr(0, rest.find(", "))};
+}
+
+std::optional<DateTime> readTime(const Field& field, const std::string& text, Due due,
+                                 Remarks& remarks)
+{
+    const TypedTime typed = readTypedTime(text, due);
+    if (!typed.value) remarks.fault(std::string(nameAndUnit(field).first) + ": " + typed.remark);
+    return typed.value;
 }
 
 std::optional<DateTime> readUTC(const SightTexts& texts, Remarks& remarks)
 {
-    std::optional<double> TD = 0;
-    if (texts.SMT) TD = readBox("TD", texts.TD, -12, 12, 0, remarks);
-    const auto watchError = readBox("Watch error", texts.watchError, -43200, 43200, 0, remarks);
-    const std::string text =
-        isEmpty(texts.date) && isEmpty(texts.time) ? std::string() : texts.date + " " + texts.time;
-    const auto watch = readDateAndTime(text, "Date and time of the sight", remarks);
-    if (!watch || !TD || !watchError) return std::nullopt;
+    using namespace SightField;
+    const auto number = [&](std::size_t field) {
+        return readBox(entryFields[field], texts.*sightMembers[field], 0, remarks);
+    };
+    const auto offset = texts.SMT ? number(TD) : 0;
+    const auto error = number(watchError);
+    if (isEmpty(texts.date) && isEmpty(texts.time) && !texts.isBegun()) return std::nullopt;
+    const auto day = readTime(entryFields[date], texts.date, Due::Date, remarks);
+    const auto watch = readTime(entryFields[time], texts.time, Due::TimeOfDay, remarks);
+    if (!day || !watch || !offset || !error) return std::nullopt;
     try {
-        return NearestSecond(*watch - *watchError / secondsPerDay - *TD / 24);
+        return NearestSecond(*day + *watch - *error / secondsPerDay - DaysOfHours(Hours(*offset)));
     } catch (const ArithmeticError&) {
-        remarks.faults.push_back("Date and time of the sight: beyond the calendar");
+        remarks.fault("Date and time of the sight: beyond the calendar");
         return std::nullopt;
     }
+}
+
+/// The numbers that an altitude is corrected with.
+struct AltitudeInputs {
+    std::optional<double> Hs, indexError, eye, air, sea, pressure;
+    bool complete() const { return Hs && indexError && eye && air && sea && pressure; }
+};
+
+AltitudeInputs readAltitude(const SightTexts& texts, Remarks& remarks)
+{
+    using namespace SightField;
+    const auto number = [&](std::size_t field, std::optional<double> empty) {
+        return readBox(entryFields[field], texts.*sightMembers[field], empty, remarks);
+    };
+    AltitudeInputs inputs;
+    if (texts.isBegun()) inputs.Hs = number(Hs, std::nullopt);
+    inputs.indexError = number(indexError, 0);
+    inputs.eye = number(heightOfEye, 0);
+    inputs.air = number(air, 10);
+    inputs.sea = number(sea, inputs.air.value_or(10));
+    inputs.pressure = number(pressure, 1013);
+    return inputs;
+}
+
+/// How far the refraction may be out where its table, 10 to 85 degrees, is extrapolated.
+void warnOfRefraction(DegMin observed, const AltitudeCorrectionTerms& terms, Remarks& remarks)
+{
+    // An index error taken off and put on again may not come out to the last bit.
+    constexpr double low = 10 - 1e-9, high = 85 + 1e-9;
+    const Degrees altitude = DegMinToDeg(observed);
+    const bool below = altitude < Degrees(low);
+    if (!below && altitude <= Degrees(high)) return;
+    const Degrees apparent = altitude + Degrees(terms.dip / 60);
+    const double usual = MeanRefraction(std::max(apparent, Degrees(0)));
+    const double shown = terms.refraction;
+    remarks.warn(std::string("Altitude ") + (below ? "below 10" : "above 85") +
+                 " degrees: the refraction table is extrapolated to " + Format(shown, "0.0'") +
+                 " where " + Format(usual, "0.0'") + " is usual, Ho may be " +
+                 Format(std::fabs(usual - shown), "0.0'") +
+                 (usual > shown ? " too great" : " too small"));
 }
 
 /// The library is given the altitude above the sea horizon, index error taken off.
 std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<DateTime> UTC,
                                         Remarks& remarks)
 {
-    const auto Hs = readBox("Sextant altitude", texts.Hs, 0, 90, std::nullopt, remarks);
-    const auto indexError = readBox("Index error", texts.indexError, -60, 60, 0, remarks);
-    const auto eye = readBox("Height of eye", texts.heightOfEye, 0, 100, 0, remarks);
-    const auto air = readBox("Air temperature", texts.air, -60, 60, 10, remarks);
-    const auto sea = readBox("Sea temperature", texts.sea, -5, 45, air.value_or(10), remarks);
-    const auto pressure = readBox("Pressure", texts.pressure, 850, 1100, 1013, remarks);
-    if (!Hs || !indexError || !eye || !air || !sea || !pressure || !UTC) return std::nullopt;
-
+    const AltitudeInputs inputs = readAltitude(texts, remarks);
+    if (!inputs.complete() || !UTC) return std::nullopt;
     SightCorrections corrections;
-    corrections.Hs = DegMin(*Hs);
-    corrections.indexError = *indexError;
-    const DegMin observed = DegToDegMin(DegMinToDeg(corrections.Hs) - Degrees(*indexError / 60));
+    corrections.Hs = DegMin(*inputs.Hs);
+    corrections.indexError = *inputs.indexError;
+    const DegMin observed =
+        DegToDegMin(DegMinToDeg(corrections.Hs) - Degrees(corrections.indexError / 60));
     const auto month = static_cast<float>(DateOf(*UTC).month);
-    const Metres heightOfEye(*eye);
-    const auto hectopascals = static_cast<float>(*pressure);
+    const Metres eye(*inputs.eye);
+    const auto pressure = static_cast<float>(*inputs.pressure);
     try {
         corrections.terms =
-            SunAltitudeTerms(observed, month, heightOfEye, *air, *sea, hectopascals);
+            SunAltitudeTerms(observed, month, eye, *inputs.air, *inputs.sea, pressure);
         corrections.Ho =
-            SunAltitudeCorrection(observed, month, heightOfEye, *air, *sea, hectopascals);
+            SunAltitudeCorrection(observed, month, eye, *inputs.air, *inputs.sea, pressure);
     } catch (const ArithmeticError& error) {
-        remarks.faults.push_back(std::string("Altitude correction: ") + error.what());
+        remarks.fault(std::string("Altitude correction: ") + error.what());
         return std::nullopt;
     }
     if (texts.upperLimb) {
@@ -91,41 +133,32 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
         corrections.Ho =
             DegToDegMin(DegMinToDeg(corrections.Ho) + Degrees(corrections.upperLimb / 60));
     }
-    if (*Hs - std::floor(*Hs) >= 0.6)
-        remarks.warnings.push_back("Sextant altitude: minutes of 60 and more, read as " +
-                                   Format(DegToDegMin(DegMinToDeg(corrections.Hs)), "0.-00'0"));
-    if (*Hs < 10)
-        remarks.warnings.push_back("Sextant altitude below 10 degrees: the refraction table is "
-                                   "extrapolated");
-    if (*Hs > 85)
-        remarks.warnings.push_back("Sextant altitude above 85 degrees: the refraction table is "
-                                   "extrapolated");
+    if (*inputs.Hs - std::floor(*inputs.Hs) >= 0.6)
+        remarks.warn("Sextant altitude: minutes of 60 and more, read as " +
+                     Format(DegToDegMin(DegMinToDeg(corrections.Hs)), "0.-00'0"));
+    warnOfRefraction(observed, corrections.terms, remarks);
     return corrections;
 }
 
 } // namespace
 
-std::optional<double> readBox(const std::string& name, const std::string& text, double low,
-                              double high, std::optional<double> empty, Remarks& remarks)
+bool SightTexts::isBegun() const
 {
-    if (isEmpty(text)) {
-        if (!empty) remarks.faults.push_back(name + ": empty");
-        return empty;
-    }
-    const auto value = readLeadingNumber(text);
-    if (!value) {
-        remarks.faults.push_back(name + ": \"" + text + "\" is no number");
-        return std::nullopt;
-    }
-    if (!(*value >= low && *value <= high)) {
-        remarks.faults.push_back(name + ": not within " + Format(low, "0.##") + " to " +
-                                 Format(high, "0.##"));
-        return std::nullopt;
-    }
-    if (!isNumeric(text))
-        remarks.warnings.push_back(name + ": \"" + text + "\" is read as " +
-                                   Format(*value, "0.####"));
-    return value;
+    return !isEmpty(date) || !isEmpty(time) || !isEmpty(Hs);
+}
+
+std::optional<double> readBox(const Field& field, const std::string& text,
+                              std::optional<double> empty, Remarks& remarks)
+{
+    using Form = NumberField::Form;
+    const auto [name, unit] = nameAndUnit(field);
+    const bool isPacked = unit == "degrees.minutes";
+    const Form form = field.kind == FieldKind::Latitude    ? Form::Latitude
+                      : field.kind == FieldKind::Longitude ? Form::Longitude
+                      : isPacked                           ? Form::Angle
+                                                           : Form::Plain;
+    return readField(text, {name, field.low, field.high, isPacked ? "degrees" : unit, form, empty},
+                     remarks);
 }
 
 Observation readObservation(const SightTexts& texts, Remarks& remarks)
@@ -138,7 +171,7 @@ Observation readObservation(const SightTexts& texts, Remarks& remarks)
             observation.GHA = SunGHA(*observation.UTC);
             observation.declination = SunDeclination(*observation.UTC);
         } catch (const ArithmeticError& error) {
-            remarks.faults.push_back(std::string("Place of the Sun: ") + error.what());
+            remarks.fault(std::string("Place of the Sun: ") + error.what());
         }
     }
     return observation;
@@ -164,20 +197,28 @@ std::optional<Position> Track::at(DateTime instant) const
     }
 }
 
-Track readTrack(const TrackTexts& texts, Remarks& remarks)
+Track readTrack(const TrackTexts& texts, std::optional<DateTime> lastSight, bool isNeeded,
+                Remarks& remarks)
 {
+    using namespace SightField;
+    Remarks unneeded;
+    const auto number = [&](std::size_t field, std::optional<double> empty) {
+        const std::string& text = texts.*trackMembers[field - DRLatitude];
+        return readBox(entryFields[field], text, empty,
+                       isNeeded || !isEmpty(text) ? remarks : unneeded);
+    };
     Track track;
-    // On the last degree to a pole the plane chart and the run by middle latitude fail.
-    const auto latitude = readBox("DR latitude", texts.latitude, -89, 89, std::nullopt, remarks);
-    const auto longitude =
-        readBox("DR longitude", texts.longitude, -180, 180, std::nullopt, remarks);
+    const auto latitude = number(DRLatitude, std::nullopt);
+    const auto longitude = number(DRLongitude, std::nullopt);
     if (latitude && longitude)
         track.position = Position{DegMinToDeg(DegMin(*latitude)), DegMinToDeg(DegMin(*longitude))};
-    const auto course = readBox("Course", texts.course, 0, 360, 0, remarks);
-    const auto speed = readBox("Speed", texts.speed, 0, 100, 0, remarks);
-    if (course && speed) track.motion = Motion{Degrees(*course), Knots(*speed)};
+    const auto courseMadeGood = number(course, 0);
+    const auto speedMadeGood = number(speed, 0);
+    if (courseMadeGood && speedMadeGood)
+        track.motion = Motion{Degrees(*courseMadeGood), Knots(*speedMadeGood)};
+    track.UTC = lastSight;
     if (!isEmpty(texts.time)) {
-        track.UTC = readDateAndTime(texts.time, "Time of the DR position", remarks);
+        track.UTC = readTime(entryFields[DRTime], texts.time, Due::DateAndTime, remarks);
         track.timeUsable = track.UTC.has_value();
     }
     return track;

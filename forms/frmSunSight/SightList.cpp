@@ -2,11 +2,14 @@
 #include "forms/frmSunSight/SightList.h"
 
 #include "app/Format.h"
+#include "forms/frmSunSight/SightFields.h"
+#include "forms/frmSunSight/SightInput.h"
+#include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <utility>
 
 namespace korvel
 {
@@ -16,11 +19,6 @@ namespace
 /// Before every sight in the file: it is found by this even when the rest of the record is not.
 constexpr std::string_view tag = "SIGHT;";
 constexpr char separator = ';';
-
-constexpr std::array textFields = {
-    &SightTexts::date, &SightTexts::time,       &SightTexts::TD,          &SightTexts::watchError,
-    &SightTexts::Hs,   &SightTexts::indexError, &SightTexts::heightOfEye, &SightTexts::air,
-    &SightTexts::sea,  &SightTexts::pressure};
 
 Observation observationOf(const SightTexts& texts)
 {
@@ -45,7 +43,7 @@ std::string textOfSight(const RecordedSight& sight)
     text += sight.on ? "on" : "off";
     text += sight.texts.SMT ? ";SMT" : ";UTC";
     text += sight.texts.upperLimb ? ";U" : ";L";
-    for (const auto field : textFields) {
+    for (const auto field : sightMembers) {
         text += separator;
         for (char c : sight.texts.*field)
             text += c == separator ? ' ' : c;
@@ -76,8 +74,8 @@ std::optional<RecordedSight> sightOf(std::string_view text)
     sight.on = parts[0] != "off";
     sight.texts.SMT = parts[1] == "SMT";
     sight.texts.upperLimb = parts[2] == "U";
-    for (std::size_t i = 0; i < textFields.size() && i + heads < parts.size(); ++i)
-        sight.texts.*textFields[i] = parts[i + heads];
+    for (std::size_t i = 0; i < sightMembers.size() && i + heads < parts.size(); ++i)
+        sight.texts.*sightMembers[i] = parts[i + heads];
     if (!observationOf(sight.texts).complete()) return std::nullopt;
     return sight;
 }
@@ -101,7 +99,7 @@ SightList::Outcome SightList::record(const SightTexts& texts)
 {
     const Outcome outcome = check(texts, m_sights.size());
     if (outcome != Outcome::Recorded) return outcome;
-    if (m_sights.size() + m_unreadable.size() >= most) return Outcome::Full;
+    if (isFull()) return Outcome::Full;
     m_sights.push_back({texts, true});
     sort();
     return outcome;
@@ -124,8 +122,41 @@ void SightList::setOn(std::size_t index, bool on)
 
 void SightList::remove(std::size_t index)
 {
-    if (index < m_sights.size())
-        m_sights.erase(m_sights.begin() + static_cast<std::ptrdiff_t>(index));
+    if (index >= m_sights.size()) return;
+    m_removed = {m_sights[index]};
+    m_removedUnreadable.clear();
+    m_sights.erase(m_sights.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
+void SightList::clear()
+{
+    if (m_sights.empty() && m_unreadable.empty()) return;
+    m_removed = std::exchange(m_sights, {});
+    m_removedUnreadable = std::exchange(m_unreadable, {});
+}
+
+std::size_t SightList::takeBack()
+{
+    const std::size_t before = m_sights.size() + m_unreadable.size();
+    std::vector<RecordedSight> left;
+    for (const RecordedSight& sight : std::exchange(m_removed, {})) {
+        if (check(sight.texts, m_sights.size()) != Outcome::Recorded) continue;
+        (isFull() ? left : m_sights).push_back(sight);
+    }
+    m_removed = std::move(left);
+    for (const std::string& text : std::exchange(m_removedUnreadable, {}))
+        (isFull() ? m_removedUnreadable : m_unreadable).push_back(text);
+    sort();
+    return m_sights.size() + m_unreadable.size() - before;
+}
+
+std::optional<NavFunc113::DateTime> SightList::lastOn(std::optional<std::size_t> except) const
+{
+    std::optional<NavFunc113::DateTime> last;
+    for (std::size_t i = 0; i < m_sights.size(); ++i)
+        if (m_sights[i].on && i != except)
+            last = std::max(last, observationOf(m_sights[i].texts).UTC);
+    return last;
 }
 
 void SightList::sort()
@@ -159,6 +190,11 @@ SightList SightList::fromTexts(const std::vector<std::string>& texts)
     return list;
 }
 
+bool SightList::isText(std::string_view text)
+{
+    return text.starts_with(tag);
+}
+
 SightList SightList::salvaged(std::string_view file)
 {
     std::vector<std::string> texts;
@@ -190,9 +226,8 @@ std::string listLine(const RecordedSight& sight)
     const Observation observation = observationOf(sight.texts);
     if (!observation.complete()) return "?";
     return Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC  Hs " +
-           Format(observation.corrections->Hs, "0.-00'0") +
-           (sight.texts.upperLimb ? " upper limb" : "") + "  Ho " +
-           Format(observation.corrections->Ho, "0.-00'0");
+           angleText(observation.corrections->Hs) + (sight.texts.upperLimb ? " upper limb" : "") +
+           "  Ho " + angleText(observation.corrections->Ho);
 }
 
 } // namespace korvel

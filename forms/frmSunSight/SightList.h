@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmSunSight/SightInput.h"
+#include "forms/frmSunSight/SightTexts.h"
+#include "navlib/units.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +37,17 @@ public:
     Outcome replace(std::size_t index, const SightTexts& texts);
     void setOn(std::size_t index, bool on);
     void remove(std::size_t index);
+    void clear();
+
+    /// Brings back what the last remove() or clear() took out, beside what was recorded since; a
+    /// sight that is there again stays once. What has no room stays to be taken back.
+    /// @return how many came back
+    std::size_t takeBack();
+    bool canTakeBack() const { return !m_removed.empty() || !m_removedUnreadable.empty(); }
+
+    /// UTC of the last sight that is on.
+    /// @param except  of the list, not to be looked at
+    std::optional<NavFunc113::DateTime> lastOn(std::optional<std::size_t> except = {}) const;
 
     const std::vector<RecordedSight>& sights() const { return m_sights; }
 
@@ -43,6 +56,8 @@ public:
     std::vector<std::string> texts() const;
     /// Takes the texts over. What cannot be read as a sight is kept as it stands and written back.
     static SightList fromTexts(const std::vector<std::string>& texts);
+    /// True for a text of texts() that is a sight.
+    static bool isText(std::string_view text);
     /// Finds the sights in a settings file whose record is damaged.
     static SightList salvaged(std::string_view file);
     /// Texts that are no sight, for the officer to see.
@@ -51,9 +66,12 @@ public:
 private:
     Outcome check(const SightTexts& texts, std::size_t except) const;
     void sort();
+    bool isFull() const { return m_sights.size() + m_unreadable.size() >= most; }
 
     std::vector<RecordedSight> m_sights;
     std::vector<std::string> m_unreadable;
+    std::vector<RecordedSight> m_removed; ///< last
+    std::vector<std::string> m_removedUnreadable;
 };
 
 /// What the window says of an outcome; empty for Recorded.

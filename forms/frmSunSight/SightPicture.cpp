@@ -26,13 +26,12 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     setFont(small);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    const int side = fontMetrics().height() * 17;
-    setMinimumSize(side, side);
+    const int side = fontMetrics().height() * 15;
+    setMinimumSize(side * 4 / 3, side);
     setUserScale({-half, half, half, -half});
 }
 
-void SightPicture::show(const SightPlot& plot)
+void SightPicture::showPlot(const SightPlot& plot)
 {
     m_plot = plot;
     update();
@@ -55,7 +54,7 @@ void SightPicture::resizeEvent(QResizeEvent* event)
     const QFontMetrics metrics = fontMetrics();
     const int left = metrics.horizontalAdvance("00-.00'0N ");
     const int bottom = metrics.height() * 5 / 4;
-    const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-");
+    const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-.00'0W") * 5 / 9;
     const int side = std::max(1, std::min(width() - left - right, height() - top - bottom));
     const int aside = (width() - left - right - side) / 2;
     const int above = (height() - top - bottom - side) / 2;
@@ -103,7 +102,9 @@ void SightPicture::draw(QPainter& painter)
     for (const PlotLine& line : m_plot.lines)
         paintLine(painter, line);
     paintDR(painter);
-    if (m_plot.fix) paintFix(painter);
+    for (const PlotFix& fix : m_plot.without)
+        paintFix(painter, fix, true);
+    if (m_plot.fix) paintFix(painter, *m_plot.fix, false);
     painter.restore();
 }
 
@@ -166,7 +167,8 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
                                    QPointF(std::cos(direction + side), std::sin(direction + side)));
     if (!line.visible) return;
     painter.setPen(pen(m_colours.route, 2.5));
-    painter.drawPolyline(polygon(line.points));
+    for (const std::vector<PlotPoint>& run : line.runs)
+        painter.drawPolyline(polygon(run));
     paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), text(line.label));
 }
 
@@ -180,14 +182,18 @@ void SightPicture::paintDR(QPainter& painter) const
     paintText(painter, middle + QPointF(1.5 * unit(), 4.5 * unit()), text(m_plot.DRLabel));
 }
 
-void SightPicture::paintFix(QPainter& painter) const
+void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
 {
-    painter.setPen(pen(m_colours.tertiary, 1.5));
-    painter.drawPolygon(polygon(m_plot.ellipse));
+    painter.setPen(pen(m_colours.tertiary, 1.5, isWithout ? Qt::DashLine : Qt::SolidLine));
+    painter.drawPolygon(polygon(fix.ellipse));
     painter.setPen(pen(m_colours.marker, 2.5));
-    const QPointF fix = pixel(*m_plot.fix);
-    painter.drawEllipse(fix, 1.5 * unit(), 1.5 * unit());
-    paintText(painter, fix + QPointF(2.5 * unit(), -2 * unit()), text(m_plot.fixLabel));
+    const QPointF at = pixel(fix.at);
+    const double arm = 1.3 * unit();
+    if (isWithout)
+        painter.drawRect(QRectF(at - QPointF(arm, arm), at + QPointF(arm, arm)));
+    else
+        painter.drawEllipse(at, 1.5 * unit(), 1.5 * unit());
+    paintText(painter, at + QPointF(2.5 * unit(), (isWithout ? 3 : -2) * unit()), text(fix.label));
 }
 
 } // namespace korvel

@@ -17,7 +17,7 @@ class SightPicture : public PictureBox
 public:
     explicit SightPicture(QWidget* parent = nullptr);
 
-    void show(const SightPlot& plot);
+    void showPlot(const SightPlot& plot);
     const SightPlot& plot() const { return m_plot; }
     void setColours(const ColourScheme& colours);
 
@@ -30,7 +30,7 @@ private:
     void paintScale(QPainter& painter) const;
     void paintLine(QPainter& painter, const PlotLine& line) const;
     void paintDR(QPainter& painter) const;
-    void paintFix(QPainter& painter) const;
+    void paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const;
     void paintText(QPainter& painter, QPointF at, const QString& text) const;
     QPen pen(const QColor& colour, double widths, Qt::PenStyle style = Qt::SolidLine) const;
     QPointF pixel(const PlotPoint& point) const { return toPixel(point.x, point.y); }

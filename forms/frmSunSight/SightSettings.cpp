@@ -65,16 +65,18 @@ std::vector<Kind> sightKinds()
 SightSettings settingsOf(const Record& record)
 {
     SightSettings settings;
+    std::vector<std::string> texts;
     std::size_t at = 0;
     visitFields(settings, [&](auto& field) {
         if (at >= record.size()) return;
         if constexpr (std::is_same_v<std::decay_t<decltype(field)>, bool>)
             field = tickOf(record[at]);
         else
-            field = textOf(record[at]);
+            // In a damaged file the sights may have moved up.
+            (SightList::isText(textOf(record[at])) ? texts.emplace_back() : field) =
+                textOf(record[at]);
         ++at;
     });
-    std::vector<std::string> texts;
     for (; at < record.size(); ++at)
         texts.push_back(textOf(record[at]));
     settings.list = SightList::fromTexts(texts);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/settings_record.h"
-#include "forms/frmSunSight/SightFix.h"
+#include "forms/frmSunSight/SightList.h"
 
 namespace korvel
 {

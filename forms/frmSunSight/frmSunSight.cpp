@@ -2,136 +2,156 @@
 #include "forms/frmSunSight/frmSunSight.h"
 
 #include "app/Format.h"
-#include "forms/frmSunSight/MeridianPassage.h"
-#include "forms/frmSunSight/SightPicture.h"
+#include "app/reading.h"
+#include "forms/frmSunSight/EntryPanel.h"
+#include "forms/frmSunSight/FixPanel.h"
+#include "forms/frmSunSight/LinePanel.h"
+#include "forms/frmSunSight/SightListPanel.h"
 
-#include <QCheckBox>
-#include <QListWidget>
+#include <QGridLayout>
+#include <QGroupBox>
 #include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace korvel
 {
 namespace
 {
 
-/// Boxes of the sight, in the order of txtSunSight, and where their texts belong.
-constexpr std::array sightFields = {
-    &SightTexts::date, &SightTexts::time,       &SightTexts::TD,          &SightTexts::watchError,
-    &SightTexts::Hs,   &SightTexts::indexError, &SightTexts::heightOfEye, &SightTexts::air,
-    &SightTexts::sea,  &SightTexts::pressure};
-constexpr std::size_t timeBox = 1, TDBox = 2, altitudeBox = 4;
-
 QString text(const std::string& value)
 {
     return QString::fromStdString(value);
 }
 
-template <std::size_t N>
-std::vector<ResultLabel*> asLabels(const std::array<ResultLabel*, N>& labels)
-{
-    return {labels.begin(), labels.end()};
-}
-
 } // namespace
 
-frmSunSight::frmSunSight(Program& program) : CalculatorWindow(program, "frmSunSight", "Sun sight")
+frmSunSight::frmSunSight(Program& program)
+    : CalculatorWindow(program, "frmSunSight", "Sun sight"), m_entry(new EntryPanel(body())),
+      m_lines(new LinePanel(body())), m_fixes(new FixPanel(body())),
+      m_sights(new SightListPanel(body()))
 {
-    addBoxes();
-    addOptions();
-    addResults();
-    addList();
     layOut();
-    addMenus();
+    connectPanels();
+    addSightMenu();
+    addMemoMenus();
+    menus().addLinks("mnuSunSight");
     addCalculations();
-    m_txtSunSight[TDBox]->setText(text(Format(program.saved().TD(), "0.##")));
-    record().use(
-        "KV_SunSight.ini", sightKinds(),
-        [this] {
-            return recordOf({sightTexts(), trackTexts(), fixOptions(), m_list});
-        },
-        [this](const Record& record) { showSettings(settingsOf(record)); },
-        [this](const std::string& bytes) { salvage(bytes); });
+    followTD();
+    useRecord();
     loadSettings();
-    showList();
-    m_txtSunSight[0]->setFocus();
-    m_txtSunSight[0]->selectAll();
+    if (!m_list.sights().empty()) calculations().run(m_fixCalculation);
+    m_entry->box(SightField::date)->setFocus();
+    m_entry->box(SightField::date)->selectAll();
 }
 
-void frmSunSight::addCalculations()
+void frmSunSight::layOut()
 {
-    std::vector<EntryBox*> track(m_txtSunDR.begin(), m_txtSunDR.end());
-    track.insert(track.end(), m_txtSunRun.begin(), m_txtSunRun.end());
+    auto* grid = new QGridLayout(scrollBody());
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(4);
+    auto* typed = new QVBoxLayout;
+    typed->setSpacing(4);
+    typed->addWidget(m_entry);
+    typed->addWidget(m_lines->noon());
+    typed->addStretch(1);
+    grid->addLayout(typed, 0, 0, 3, 1);
+    grid->addWidget(m_lines, 0, 1);
+    grid->addWidget(m_fixes, 0, 2);
+    grid->addWidget(m_sights, 1, 1, 1, 2);
+    grid->addWidget(m_entry->qualityRow(), 2, 1, 1, 2);
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(0, 3);
+    grid->setRowStretch(1, 1);
+}
 
-    std::vector<EntryBox*> ofLine(m_txtSunSight.begin(), m_txtSunSight.end());
-    ofLine.insert(ofLine.end(), track.begin(), track.end());
-    std::vector<ResultLabel*> results = asLabels(m_lblSunTime);
-    for (const auto& labels :
-         {asLabels(m_lblSunValue), asLabels(m_lblSunLine), asLabels(m_lblSunNoon)})
-        results.insert(results.end(), labels.begin(), labels.end());
-    m_lineCalculation =
-        calculations().add({"Line of position", ofLine, results, [this] { runLine(); }});
-
-    std::vector<EntryBox*> ofFix = track;
-    ofFix.insert(ofFix.end(), m_txtSunSigma.begin(), m_txtSunSigma.end());
-    m_fixCalculation =
-        calculations().add({"Fix", ofFix, asLabels(m_lblSunFix), [this] { runFix(); }});
-
-    const auto again = [this](int& number) {
+void frmSunSight::connectPanels()
+{
+    const auto run = [this](int& number) {
         return [this, &number] {
             if (!calculations().isHeld()) calculations().run(number);
         };
     };
-    for (QRadioButton* option : {m_optSunScale[1], m_optSunLimb[1]})
-        connect(option, &QRadioButton::toggled, this, again(m_lineCalculation));
-    connect(m_chkSunMeasured, &QCheckBox::toggled, this, again(m_fixCalculation));
+    connect(m_entry, &EntryPanel::scaleOrLimbChanged, this, run(m_lineCalculation));
+    connect(m_entry, &EntryPanel::measuredChanged, this, run(m_fixCalculation));
+    connect(m_entry, &EntryPanel::markAsked, this, &frmSunSight::cmdMark_Click);
+    connect(m_entry, &EntryPanel::recordAsked, this, &frmSunSight::cmdRecord_Click);
+    connect(m_entry, &EntryPanel::newAsked, this, &frmSunSight::cmdNew_Click);
+    connect(m_sights, &SightListPanel::switched, this, &frmSunSight::switchSight);
+    connect(m_sights, &SightListPanel::editAsked, this, &frmSunSight::cmdEdit_Click);
+    connect(m_sights, &SightListPanel::deleteAsked, this, &frmSunSight::cmdDelete_Click);
+    connect(m_sights, &SightListPanel::undoAsked, this, &frmSunSight::undo);
+    connect(&program(), &Program::TDChanged, this, &frmSunSight::followTD);
 }
 
-SightTexts frmSunSight::sightTexts() const
+void frmSunSight::addSightMenu()
 {
-    SightTexts texts;
-    for (std::size_t i = 0; i < sightFields.size(); ++i)
-        texts.*sightFields[i] = m_txtSunSight[i]->value();
-    texts.SMT = m_optSunScale[1]->isChecked();
-    texts.upperLimb = m_optSunLimb[1]->isChecked();
-    return texts;
+    QMenu* sight = menus().add("&Sight", "mnuSight");
+    const auto add = [this](QMenu* menu, const char* array, int index, const char* caption,
+                            void (frmSunSight::*action)()) {
+        return menus().addEntry(menu, array, index, caption, [this, action] { (this->*action)(); });
+    };
+    add(sight, "mnuSight", 0, "&Mark: present time into the sight", &frmSunSight::cmdMark_Click)
+        ->setShortcut(Qt::Key_F5);
+    add(sight, "mnuSight", 1, "&Record the sight", &frmSunSight::cmdRecord_Click)
+        ->setShortcut(Qt::Key_F6);
+    add(sight, "mnuSight", 2, "&Edit the chosen sight", &frmSunSight::cmdEdit_Click);
+    add(sight, "mnuSight", 3, "&Delete the chosen sight", &frmSunSight::cmdDelete_Click);
+    add(sight, "mnuSight", 4, "&Fix becomes the DR position", &frmSunSight::fixBecomesDR);
+    menus().addEntry(sight, "mnuSight", 5, "&Print", [this] { printForm(); });
+    QMenu* clear = menus().add("&Clear", "mnuAC");
+    add(clear, "mnuAC", 0, "&Sight being entered", &frmSunSight::clearSight);
+    add(clear, "mnuAC", 1, "&All recorded sights", &frmSunSight::deleteAll);
+    add(clear, "mnuAC", 2, "&Undo: bring back what was deleted last", &frmSunSight::undo);
 }
 
-TrackTexts frmSunSight::trackTexts() const
+void frmSunSight::addMemoMenus()
 {
-    return {m_txtSunDR[0]->value(), m_txtSunDR[1]->value(), m_txtSunRun[0]->value(),
-            m_txtSunRun[1]->value(), m_txtSunRun[2]->value()};
+    EntryBox* latitude = m_entry->box(SightField::DRLatitude);
+    EntryBox* longitude = m_entry->box(SightField::DRLongitude);
+    menus().addStorePosition(
+        "&Fix", [this] { return m_fix.memoLatitude; }, [this] { return m_fix.memoLongitude; });
+    menus().addStorePosition(
+        "&DR position", [latitude] { return latitude->value(); },
+        [longitude] { return longitude->value(); });
+    menus().addStoreSingle("&Azimuth Zn", [this] {
+        return m_line.azimuth ? memoText(*m_line.azimuth) : std::string();
+    });
+    menus().addRecallPosition("into &DR position", latitude, longitude);
 }
 
-SightFixOptions frmSunSight::fixOptions() const
+void frmSunSight::addCalculations()
 {
-    return {m_txtSunSigma[0]->value(), m_txtSunSigma[1]->value(), m_txtSunSigma[2]->value(),
-            m_chkSunMeasured->isChecked()};
+    std::vector<EntryBox*> ofLine = m_entry->sightBoxes(), ofFix = m_entry->qualityBoxes();
+    for (EntryBox* box : m_entry->trackBoxes()) {
+        ofLine.push_back(box);
+        ofFix.push_back(box);
+    }
+    m_lineCalculation =
+        calculations().add({"Line of position", ofLine, m_lines->results(), [this] { runLine(); }});
+    m_fixCalculation = calculations().add({"Fix", ofFix, m_fixes->results(), [this] { runFix(); }});
 }
 
-void frmSunSight::showSight(const SightTexts& sight)
+void frmSunSight::useRecord()
 {
-    for (std::size_t i = 0; i < sightFields.size(); ++i)
-        m_txtSunSight[i]->setText(text(sight.*sightFields[i]));
-    m_optSunScale[sight.SMT ? 1 : 0]->setChecked(true);
-    m_optSunLimb[sight.upperLimb ? 1 : 0]->setChecked(true);
+    record().use(
+        "KV_SunSight.ini", sightKinds(),
+        [this] {
+            return recordOf({m_entry->sight(), m_entry->track(), m_entry->options(), m_list});
+        },
+        [this](const Record& record) { takeOver(settingsOf(record)); },
+        [this](const std::string& bytes) { salvage(bytes); });
 }
 
-void frmSunSight::showSettings(const SightSettings& settings)
+void frmSunSight::takeOver(const SightSettings& settings)
 {
-    showSight(settings.sight);
-    const TrackTexts& track = settings.track;
-    m_txtSunDR[0]->setText(text(track.latitude));
-    m_txtSunDR[1]->setText(text(track.longitude));
-    m_txtSunRun[0]->setText(text(track.time));
-    m_txtSunRun[1]->setText(text(track.course));
-    m_txtSunRun[2]->setText(text(track.speed));
-    m_txtSunSigma[0]->setText(text(settings.options.sigma));
-    m_txtSunSigma[1]->setText(text(settings.options.runAlong));
-    m_txtSunSigma[2]->setText(text(settings.options.runCourse));
-    m_chkSunMeasured->setChecked(settings.options.measured);
+    SightTexts sight = settings.sight;
+    // A TD belongs to the sight that it was typed with; the next one is taken by the ship's.
+    if (!sight.isBegun()) sight.TD = m_shipsTD.toStdString();
+    m_entry->fill(sight);
+    m_entry->fill(settings.track);
+    m_entry->fill(settings.options);
     m_list = settings.list;
     if (const std::size_t count = m_list.unreadable().size())
         setNotice("list", QString("%1 of the recorded sights cannot be read; the file keeps them "
@@ -142,164 +162,100 @@ void frmSunSight::showSettings(const SightSettings& settings)
 void frmSunSight::salvage(const std::string& bytes)
 {
     m_list = SightList::salvaged(bytes);
-    setNotice("list", QString("Found in the damaged settings file: %1 recorded sights. Check them; "
-                              "the file itself is left as it is.")
+    setNotice("list", QString("Found in the damaged settings file: %1 recorded sights. Check them.")
                           .arg(m_list.sights().size()));
+}
+
+SightContext frmSunSight::context()
+{
+    return {m_list.lastOn(m_editing), program().shipsTime().UTC(),
+            NavFunc113::Hours(readNumber(m_shipsTD.toStdString()))};
 }
 
 void frmSunSight::runLine()
 {
     m_line = {};
-    m_line = CalculateLOP(sightTexts(), trackTexts());
-    const MeridianResult noon = CalculateMeridian(sightTexts(), trackTexts());
-    const auto fill = [](const auto& labels, const auto& texts) {
-        for (std::size_t i = 0; i < labels.size(); ++i)
-            labels[i]->setText(text(texts[i]));
-    };
-    fill(m_lblSunTime, std::array{m_line.UTC, m_line.SMT, m_line.watchError});
-    showWorksheet(m_line.worksheet);
-    fill(m_lblSunLine, std::array{m_line.declination, m_line.GHA, m_line.DR, m_line.Hc,
-                                  m_line.intercept, m_line.Zn});
-    fill(m_lblSunNoon, std::array{noon.noon, noon.greatest, noon.latitude, noon.note});
+    const SightTexts sight = m_entry->sight();
+    const TrackTexts track = m_entry->track();
+    m_line = CalculateLOP(sight, track, context());
+    m_lines->showResults(m_line, CalculateMeridian(sight, track, context()));
     setNotice("1 sight", text(m_line.notice));
-}
-
-void frmSunSight::showWorksheet(const std::vector<WorksheetLine>& lines)
-{
-    for (std::size_t i = 0; i < worksheetLines; ++i) {
-        const bool used = i < lines.size();
-        m_lblSunTerm[i]->setText(used ? text(lines[i].caption) : QString());
-        m_lblSunValue[i]->setText(used ? text(lines[i].text) : QString());
-    }
 }
 
 void frmSunSight::runFix()
 {
     m_fix = {};
-    m_fix = CalculateFix(m_list, trackTexts(), fixOptions());
-    const SightPlot plot = DrawLOP(m_fix);
-    const std::array texts{m_fix.latitude, m_fix.longitude, m_fix.time, m_fix.ellipseText,
-                           m_fix.sigmaText};
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        m_lblSunFix[i]->setText(text(texts[i]));
-    m_picSunSight->show(plot);
-    m_picSunSight->setAccessibleDescription(
-        text(m_fix.time + " " + m_fix.latitude + " " + m_fix.longitude + " " + m_fix.ellipseText));
-    showLinesInList();
+    m_fix = CalculateFix(m_list, m_entry->track(), m_entry->options(), program().shipsTime().UTC());
+    const std::string outside = m_fixes->showFix(m_fix);
+    m_sights->showSights(m_list, m_fix);
     setNotice("2 fix", text(m_fix.notice));
-    setNotice("3 plot", text(plot.notice));
-}
-
-void frmSunSight::showList()
-{
-    const QSignalBlocker quiet(m_lstSunSight);
-    const int row = m_lstSunSight->currentRow();
-    m_lstSunSight->clear();
-    for (const RecordedSight& sight : m_list.sights()) {
-        auto* item = new QListWidgetItem(m_lstSunSight);
-        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
-        item->setCheckState(sight.on ? Qt::Checked : Qt::Unchecked);
-    }
-    if (m_lstSunSight->count() > 0)
-        m_lstSunSight->setCurrentRow(std::clamp(row, 0, m_lstSunSight->count() - 1));
-    showLinesInList();
-}
-
-/// Each sight with its line below, as far as it is on.
-void frmSunSight::showLinesInList()
-{
-    const QSignalBlocker quiet(m_lstSunSight);
-    std::vector<std::string> lines(m_list.sights().size());
-    for (const FixLine& line : m_fix.lines)
-        if (line.index < lines.size()) lines[line.index] = line.text;
-    for (int row = 0; row < m_lstSunSight->count(); ++row) {
-        const auto at = static_cast<std::size_t>(row);
-        const std::string second = lines[at].empty() ? "off" : lines[at];
-        m_lstSunSight->item(row)->setText(text(listLine(m_list.sights()[at]) + "\n" + second));
-    }
-}
-
-void frmSunSight::showCursor(QPointF user)
-{
-    const CursorTexts texts = cursorTexts(m_picSunSight->plot(), {user.x(), user.y()});
-    m_lblSunCursor[0]->setText(text(texts.latitude));
-    m_lblSunCursor[1]->setText(text(texts.longitude));
+    setNotice("3 plot", text(outside));
 }
 
 void frmSunSight::cmdMark_Click()
 {
-    SightTexts sight = sightTexts();
+    SightTexts sight = m_entry->sight();
     Mark(sight, program().shipsTime().UTC());
-    showSight(sight);
-    m_txtSunSight[altitudeBox]->setFocus(Qt::TabFocusReason);
+    m_entry->fill(sight);
+    m_entry->turnTo(SightField::Hs);
 }
 
 void frmSunSight::cmdRecord_Click()
 {
-    const auto outcome =
-        m_editing ? m_list.replace(*m_editing, sightTexts()) : m_list.record(sightTexts());
+    const SightTexts sight = m_entry->sight();
+    const auto outcome = m_editing ? m_list.replace(*m_editing, sight) : m_list.record(sight);
     if (outcome != SightList::Outcome::Recorded) {
         program().questions().ask({outcomeText(outcome), programTitle, Buttons::Ok});
         return;
     }
     setEditing({});
     listChanged();
-    m_txtSunSight[timeBox]->setFocus(Qt::TabFocusReason);
+    m_entry->turnTo(SightField::time);
 }
 
 void frmSunSight::cmdEdit_Click()
 {
-    const int row = m_lstSunSight->currentRow();
-    if (row < 0) return;
-    setEditing(static_cast<std::size_t>(row));
-    showSight(m_list.sights()[*m_editing].texts);
-    m_txtSunSight[timeBox]->setFocus(Qt::TabFocusReason);
+    const auto chosen = m_sights->chosen();
+    if (!chosen) return;
+    setEditing(chosen);
+    m_entry->fill(m_list.sights()[*chosen].texts);
+    m_entry->turnTo(SightField::time);
 }
 
 void frmSunSight::cmdNew_Click()
 {
     setEditing({});
-    m_txtSunSight[timeBox]->setFocus(Qt::TabFocusReason);
+    m_entry->turnTo(SightField::time);
 }
 
 void frmSunSight::cmdDelete_Click()
 {
-    const int row = m_lstSunSight->currentRow();
-    if (row < 0) return;
-    const auto at = static_cast<std::size_t>(row);
-    const Message question{"Delete this sight?\r\r" + listLine(m_list.sights()[at]), programTitle,
-                           Buttons::YesNo};
+    const auto chosen = m_sights->chosen();
+    if (!chosen) return;
+    const Message question{"Delete this sight?\r\r" + listLine(m_list.sights()[*chosen]),
+                           programTitle, Buttons::YesNo};
     if (program().questions().ask(question) != Answer::Yes) return;
-    m_list.remove(at);
-    setEditing({});
+    const auto before = edited();
+    m_list.remove(*chosen);
+    m_cleared.reset();
+    keepEditing(before);
     listChanged();
 }
 
-void frmSunSight::listChanged()
+void frmSunSight::switchSight(std::size_t index, bool on)
 {
-    showList();
-    calculations().run(m_fixCalculation);
-    record().saveNow();
-}
-
-void frmSunSight::setEditing(std::optional<std::size_t> index)
-{
-    m_editing = index;
-    m_cmdRecord->setText(index ? "P&ut back" : "Rec&ord (F6)");
-    m_cmdNew->setEnabled(index.has_value());
-    setNotice("0 edit", index ? "The sight of " + text(listLine(m_list.sights()[*index])) +
-                                    " is being edited: put it back, or start a new one."
-                              : QString());
+    m_list.setOn(index, on);
+    listChanged();
 }
 
 void frmSunSight::clearSight()
 {
     setEditing({});
     SightTexts empty;
-    empty.SMT = m_optSunScale[1]->isChecked();
-    empty.TD = m_txtSunSight[TDBox]->value();
-    showSight(empty);
-    m_txtSunSight[0]->setFocus(Qt::TabFocusReason);
+    empty.SMT = m_entry->sight().SMT;
+    empty.TD = m_entry->sight().TD;
+    m_entry->fill(empty);
+    m_entry->box(SightField::date)->setFocus(Qt::TabFocusReason);
 }
 
 void frmSunSight::deleteAll()
@@ -307,27 +263,83 @@ void frmSunSight::deleteAll()
     if (program().questions().ask(
             {"Are you sure to clear all contents?", programTitle, Buttons::YesNo}) != Answer::Yes)
         return;
-    m_list = {};
+    m_list.clear();
+    m_cleared = m_entry->sight();
     clearSight();
     setNotice("list", {});
+    listChanged();
+}
+
+void frmSunSight::undo()
+{
+    if (!m_list.canTakeBack() && !m_cleared) return;
+    const auto before = edited();
+    m_list.takeBack();
+    keepEditing(before);
+    // What was typed since the clearing is not written over.
+    if (m_cleared && !m_entry->sight().isBegun()) m_entry->fill(*m_cleared);
+    m_cleared.reset();
+    setNotice("list", m_list.canTakeBack()
+                          ? "The list is full: not all of the deleted sights could come back."
+                          : QString());
     listChanged();
 }
 
 void frmSunSight::fixBecomesDR()
 {
     if (!m_fix.fix) return;
-    // All three are taken first: filling the boxes changes the fix.
-    const QString latitude = text(m_fix.memoLatitude), longitude = text(m_fix.memoLongitude);
-    const QString time = text(Format(*m_fix.UTC, "yyyy/mm/dd hh:mm:ss"));
-    m_txtSunDR[0]->setText(latitude);
-    m_txtSunDR[1]->setText(longitude);
-    m_txtSunRun[0]->setText(time);
+    m_entry->fill(TrackTexts{m_fix.memoLatitude, m_fix.memoLongitude,
+                             Format(*m_fix.UTC, "yyyy/mm/dd hh:mm:ss"), m_entry->track().course,
+                             m_entry->track().speed});
+}
+
+void frmSunSight::followTD()
+{
+    EntryBox* box = m_entry->box(SightField::TD);
+    const bool follows = box->text() == m_shipsTD;
+    m_shipsTD = text(Format(program().saved().TD(), "0.##"));
+    if (follows) box->setText(m_shipsTD);
+    if (!calculations().isHeld()) calculations().runAll();
+}
+
+void frmSunSight::listChanged()
+{
+    calculations().run(m_fixCalculation);
+    calculations().run(m_lineCalculation);
+    m_sights->setUndo(m_list.canTakeBack() || m_cleared.has_value());
+    record().saveNow();
+}
+
+std::optional<SightTexts> frmSunSight::edited() const
+{
+    if (!m_editing) return std::nullopt;
+    return m_list.sights()[*m_editing].texts;
+}
+
+/// After sights came or went: the one being edited may stand elsewhere, or be gone.
+void frmSunSight::keepEditing(const std::optional<SightTexts>& edited)
+{
+    const auto& sights = m_list.sights();
+    const auto at = std::ranges::find_if(
+        sights, [&](const RecordedSight& sight) { return edited && sight.texts == *edited; });
+    setEditing(at == sights.end()
+                   ? std::nullopt
+                   : std::optional(static_cast<std::size_t>(std::distance(sights.begin(), at))));
+}
+
+void frmSunSight::setEditing(std::optional<std::size_t> index)
+{
+    m_editing = index;
+    m_entry->setEditing(index.has_value());
+    setNotice("0 edit", index ? "The sight of " + text(listLine(m_list.sights()[*index])) +
+                                    " is being edited: put it back, or start a new one."
+                              : QString());
 }
 
 void frmSunSight::applyColours()
 {
     CalculatorWindow::applyColours();
-    m_picSunSight->setColours(program().colours());
+    m_fixes->setColours(program().colours());
 }
 
 } // namespace korvel

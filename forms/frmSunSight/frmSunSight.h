@@ -3,26 +3,23 @@
 
 #include "app/shell/CalculatorWindow.h"
 #include "forms/frmSunSight/CalculateLOP.h"
-#include "forms/frmSunSight/DrawLOP.h"
+#include "forms/frmSunSight/SightFix.h"
 #include "forms/frmSunSight/SightSettings.h"
 
 #include <optional>
 
-class QCheckBox;
-class QGroupBox;
-class QListWidget;
-class QPushButton;
-class QRadioButton;
-
 namespace korvel
 {
 
-class SightPicture;
+class EntryPanel;
+class FixPanel;
+class LinePanel;
+class SightListPanel;
 
 /// A sight of the Sun with its worksheet, the list of recorded sights, their plot, and the fix.
 ///
-/// Record of "KV_SunSight.ini": see SightSettings.h. It is written when the window closes and
-/// whenever the list of sights changes.
+/// Record of "KV_SunSight.ini": see SightSettings.h. It is written at once whenever the list of
+/// sights changes.
 class frmSunSight : public CalculatorWindow
 {
 public:
@@ -32,76 +29,46 @@ protected:
     void applyColours() override;
 
 private:
-    static constexpr std::size_t worksheetLines = 12;
-
-    void addBoxes();
-    void addOptions();
-    void addResults();
-    void addList();
-    QPushButton* addButton(const QString& name, const QString& caption, const QString& tip,
-                           void (frmSunSight::*action)());
-    void addMenus();
-    void addCalculations();
-
     void layOut();
-    QGroupBox* layOutSight();
-    QGroupBox* layOutTrack();
-    QGroupBox* layOutWorksheet();
-    QGroupBox* layOutLine();
-    QGroupBox* layOutNoon();
-    QWidget* layOutPlot();
-    QGroupBox* layOutSights();
-    QGroupBox* layOutFix();
-    QGroupBox* layOutQuality();
+    void connectPanels();
+    void addSightMenu();
+    void addMemoMenus();
+    void addCalculations();
+    void useRecord();
 
-    SightTexts sightTexts() const;
-    TrackTexts trackTexts() const;
-    SightFixOptions fixOptions() const;
-    void showSight(const SightTexts& sight);
-    void showSettings(const SightSettings& settings);
+    void takeOver(const SightSettings& settings);
     void salvage(const std::string& bytes);
 
     void runLine();
     void runFix();
-    void showWorksheet(const std::vector<WorksheetLine>& lines);
-    void showList();
-    void showLinesInList();
-    void showCursor(QPointF user);
+    SightContext context();
 
     void cmdMark_Click();
     void cmdRecord_Click();
     void cmdEdit_Click();
     void cmdNew_Click();
     void cmdDelete_Click();
-    void listChanged();
-    void setEditing(std::optional<std::size_t> index);
+    void switchSight(std::size_t index, bool on);
     void clearSight();
     void deleteAll();
+    void undo();
     void fixBecomesDR();
+    void followTD();
 
-    std::array<EntryBox*, 10> m_txtSunSight{};
-    std::array<PositionBox*, 2> m_txtSunDR{};
-    std::array<EntryBox*, 3> m_txtSunRun{};
-    std::array<EntryBox*, 3> m_txtSunSigma{};
-    std::array<QRadioButton*, 2> m_optSunScale{};
-    std::array<QRadioButton*, 2> m_optSunLimb{};
-    QCheckBox* m_chkSunMeasured = nullptr;
+    void listChanged();
+    void setEditing(std::optional<std::size_t> index);
+    void keepEditing(const std::optional<SightTexts>& edited);
+    std::optional<SightTexts> edited() const;
 
-    std::array<ResultLabel*, 3> m_lblSunTime{}; ///< UTC, SMT, watch error
-    std::array<QLabel*, worksheetLines> m_lblSunTerm{};
-    std::array<ResultLabel*, worksheetLines> m_lblSunValue{};
-    std::array<ResultLabel*, 6> m_lblSunLine{}; ///< declination, GHA, DR, Hc, intercept, Zn
-    std::array<ResultLabel*, 4> m_lblSunNoon{};
-    std::array<ResultLabel*, 5> m_lblSunFix{};    ///< latitude, longitude, time, ellipse, sigma
-    std::array<ResultLabel*, 2> m_lblSunCursor{}; ///< latitude, longitude
-
-    SightPicture* m_picSunSight = nullptr;
-    QListWidget* m_lstSunSight = nullptr;
-    QPushButton* m_cmdRecord = nullptr;
-    QPushButton* m_cmdNew = nullptr;
+    EntryPanel* m_entry;
+    LinePanel* m_lines;
+    FixPanel* m_fixes;
+    SightListPanel* m_sights;
 
     SightList m_list;
     std::optional<std::size_t> m_editing; ///< the recorded sight that stands in the boxes
+    std::optional<SightTexts> m_cleared;  ///< stood in the boxes when all was cleared
+    QString m_shipsTD;                    ///< as it was put into the box
     LOPResult m_line;
     SightFixResult m_fix;
     int m_lineCalculation = 0;

@@ -2,8 +2,6 @@
 #include "navlib/sight_fix.h"
 
 #include "navlib/angles.h"
-#include "navlib/datetime.h"
-#include "navlib/ephemeris.h"
 
 #include <gtest/gtest.h>
 
@@ -171,25 +169,6 @@ TEST(SightFix, noFixWhereThereIsNone)
     EXPECT_EQ(CutAngle(std::array{Degrees(10)}), Degrees(0));
 }
 
-TEST(SightFix, meridianPassage)
-{
-    EXPECT_NEAR(DegToDegMin(MeridianLatitude(packed(-18.347), packed(49.46), true)).packed(),
-                21.393, 1e-6);
-    EXPECT_NEAR(DegToDegMin(MeridianLatitude(packed(-13.337), packed(49.10), true)).packed(),
-                27.163, 1e-6);
-    EXPECT_NEAR(MeridianLatitude(Degrees(20), Degrees(80), false).value(), 10, 1e-12)
-        << "the Sun to the north";
-
-    const DateTime morning = MakeDateTime({2020, 12, 17}, 11.75 * 3600);
-    const Motion motion = motionOf(271, 8);
-    const Position dr = positionOf(14.02, -52.11);
-    const DateTime noon = LocalApparentNoon(morning, dr, motion);
-    const Position then = Advanced(dr, motion, Hours((noon - morning) * 24));
-    EXPECT_NEAR(WithinHalfTurn(DegMinToDeg(SunGHA(noon)) + then.longitude).value(), 0, 0.001);
-    EXPECT_NEAR((noon - morning) * 24, 3.68, 0.05);
-    EXPECT_NEAR(GreatestAltitudeDelay(Degrees(40), Degrees(-20), 0, -20), 367.7, 0.5);
-}
-
 TEST(SightFix, circleOfPosition)
 {
     const Position dr{Degrees(14), Degrees(-52)};
@@ -201,12 +180,10 @@ TEST(SightFix, circleOfPosition)
             EXPECT_NEAR(seen, 90 - std::fabs(90 - observed), 1e-9);
         }
     }
-    // The bend by formula is that of the true circle.
+    // 40 miles from its foot the circle of a Sun at 80 degrees has bent 40^2 tan 80 / (2 x 3438).
     const Sight high{Degrees(52), Degrees(5), Degrees(80), {}};
     const auto points = CirclePoints(high, {Degrees(14.9), Degrees(-52)}, Miles(40), 3);
-    EXPECT_NEAR(60 * (points[1].latitude - points[0].latitude).value(),
-                LineBend(Miles(40), Degrees(80)).value(), 0.1);
-    EXPECT_NEAR(LineBend(Miles(40), Degrees(70)).value(), 0.6, 0.05);
+    EXPECT_NEAR(60 * (points[1].latitude - points[0].latitude).value(), 1.32, 0.1);
 }
 
 TEST(SightFix, runs)

@@ -84,5 +84,16 @@ TEST(SightReduction, tablesTakeThePackedAltitude)
     EXPECT_THROW(SunAltitudeCorrection(DegMin(30), 6, Metres(-1), 10, 10, 1013), ArithmeticError);
 }
 
+TEST(SightReduction, meanRefraction)
+{
+    // The altitude correction tables of the Nautical Almanac, minutes.
+    const struct {
+        double altitude, refraction;
+    } rows[] = {{0, 34.5}, {1, 24.3}, {5, 9.9}, {10, 5.3}, {30, 1.7}, {45, 1.0}, {70, 0.4}};
+    for (const auto& [altitude, refraction] : rows)
+        EXPECT_NEAR(MeanRefraction(Degrees(altitude)), refraction, 0.1) << altitude;
+    EXPECT_EQ(MeanRefraction(Degrees(90)), 0);
+}
+
 } // namespace
 } // namespace NavFunc113

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/CalculateLOP.h"
 
+#include "app/Format.h"
+#include "app/reading.h"
 #include "forms/frmSunSight/MeridianPassage.h"
+#include "forms/frmSunSight/SightFields.h"
+#include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
+#include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
 
@@ -13,8 +18,9 @@ namespace
 {
 
 using namespace worked;
-using testing::HasSubstr;
-using testing::Not;
+using testing::golden;
+using testing::Golden;
+using ::testing::HasSubstr;
 
 std::string termOf(const LOPResult& result, const std::string& caption)
 {
@@ -23,113 +29,146 @@ std::string termOf(const LOPResult& result, const std::string& caption)
     return "none";
 }
 
+/// A shown angle, "24.-42'3" or "14-.06'0S", in tenths of minutes.
+int tenthsOf(const std::string& shown)
+{
+    std::string digits;
+    for (const char c : shown)
+        if (c >= '0' && c <= '9') digits += c;
+    const int number = std::stoi(digits);
+    const int tenths = number / 1000 * 600 + number % 1000;
+    return shown.ends_with('S') || shown.ends_with('W') ? -tenths : tenths;
+}
+
 TEST(CalculateLOP, worksheetOfAPublishedSight)
 {
-    const LOPResult first = CalculateLOP(morning2020, track2020);
+    const LOPResult first = CalculateLOP(morning2020, track2020, {});
     EXPECT_EQ(first.UTC, "2020/12/17 11:45:11 UTC");
-    EXPECT_EQ(termOf(first, "Hs"), "24.-35'0");
-    EXPECT_EQ(termOf(first, "Index error"), "-4.0'");
-    EXPECT_EQ(termOf(first, "Dip"), "-3.0'");
-    EXPECT_EQ(termOf(first, "Refraction"), "-2.1'");
-    EXPECT_EQ(termOf(first, "Semi-diameter of the month"), "+0.5'");
-    EXPECT_EQ(termOf(first, "Parallax"), "+0.1'");
+    const std::pair<const char*, const char*> terms[] = {
+        {"Hs", "24.-35'0"},      {"Index error", "-4.0'"}, {"Dip", "-3.0'"},
+        {"Refraction", "-2.1'"}, {"Parallax", "+0.1'"},    {"Semi-diameter of the month", "+0.5'"},
+        {"Ho", "24.-42'3"}};
+    for (const auto& [caption, text] : terms)
+        EXPECT_EQ(termOf(first, caption), text) << caption;
     EXPECT_EQ(first.Ho, "24.-42'3");
     EXPECT_EQ(first.GHA, "357.-13'1");
     EXPECT_EQ(first.declination, "-23.-22'6");
     EXPECT_EQ(first.Zn, "124.3");
-    EXPECT_THAT(first.intercept, testing::AnyOf("10'.9 T", "11'.0 T", "11'.1 T"));
+    EXPECT_EQ(first.intercept, "11'.1 T") << "Ho and Hc are shown 11.1 apart";
     EXPECT_EQ(first.notice, "");
 
-    const LOPResult second = CalculateLOP(noon2020, track2020);
+    const LOPResult second = CalculateLOP(noon2020, track2020, {});
     EXPECT_EQ(second.DR, "14-.02'5N 052-.41'9W") << "run on from the time of the DR position";
-    EXPECT_THAT(second.intercept, testing::EndsWith(" A"));
+    EXPECT_THAT(second.intercept, ::testing::EndsWith(" A"));
     EXPECT_EQ(second.Zn.substr(0, 3), "181");
+}
+
+TEST(CalculateLOP, worksheetAddsUp)
+{
+    bool rounded = false;
+    for (int i = 0; i < 200; ++i) {
+        SightTexts sight = noon2020;
+        sight.Hs = std::to_string(11 + i % 70) + "." + std::to_string(10 + i % 45);
+        sight.heightOfEye = std::to_string(1 + i % 23);
+        sight.upperLimb = i % 3 == 0;
+        sight.air = std::to_string(i % 40 - 10) + ".3";
+        sight.sea = "10";
+        const LOPResult result = CalculateLOP(sight, track2020, {});
+        ASSERT_GE(result.worksheet.size(), 11U);
+        int sum = tenthsOf(result.worksheet.front().text);
+        for (const WorksheetLine& line : result.worksheet)
+            if (line.text.ends_with("'"))
+                sum += static_cast<int>(std::lround(10 * readNumber(line.text)));
+        EXPECT_EQ(sum, tenthsOf(result.Ho)) << sight.Hs;
+        rounded = rounded || termOf(result, "Rounding of the above") != "none";
+        const int apart = tenthsOf(result.Ho) - tenthsOf(result.Hc);
+        EXPECT_EQ(result.intercept,
+                  Format(std::abs(apart) / 10.0, "0'.0") + (apart < 0 ? " A" : " T"));
+    }
+    EXPECT_TRUE(rounded);
+    EXPECT_EQ(termOf(CalculateLOP(morning2020, track2020, {}), "Rounding of the above"), "none");
 }
 
 TEST(CalculateLOP, watchScaleAndDate)
 {
-    const struct {
-        const char* fault;
-        const char *date, *time;
-        bool SMT;
-        const char *TD, *watchError, *UTC;
-    } rows[] = {
-        {"date goes back across midnight", "2024/03/01", "05:30:00", true, "9", "",
-         "2024/02/29 20:30:00 UTC"},
-        {"west, next year", "2024/12/31", "22:00:00", true, "-5", "", "2025/01/01 03:00:00 UTC"},
-        {"fast watch taken off", "2024/3/1", "0:00:02", false, "9", "4", "2024/02/29 23:59:58 UTC"},
-        {"slow watch added; TD of a UTC watch ignored", "2024/3/1", "12:00", false, "9", "-30",
-         "2024/03/01 12:00:30 UTC"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
+    for (const Golden& row : golden("sight_times")) {
         SightTexts texts = morning2020;
-        texts.date = row.date;
-        texts.time = row.time;
-        texts.SMT = row.SMT;
-        texts.TD = row.TD;
-        texts.watchError = row.watchError;
-        EXPECT_EQ(CalculateLOP(texts, track2020).UTC, row.UTC);
+        texts.date = row.text("date");
+        texts.time = row.text("time");
+        texts.SMT = row.text("scale") == "SMT";
+        texts.TD = row.text("TD");
+        texts.watchError = row.text("error");
+        EXPECT_EQ(CalculateLOP(texts, track2020, {}).UTC, row.text("UTC")) << row;
         Mark(texts, 45000.123456);
-        const std::string now = CalculateLOP(texts, track2020).UTC;
-        EXPECT_EQ(now, "2023/03/15 02:57:47 UTC") << "marked, whatever the watch";
+        const std::string now = CalculateLOP(texts, track2020, {}).UTC;
+        EXPECT_EQ(now, "2023/03/15 02:57:47 UTC") << "marked, whatever the watch; " << row;
     }
 }
 
 TEST(CalculateLOP, everyUnusableInputIsNamedAndTheRestShown)
 {
-    using S = SightTexts&;
-    using T = TrackTexts&;
-    const struct {
-        const char* box;
-        void (*spoil)(S, T);
-        bool sun, Ho, Hc;
-    } rows[] = {
-        {"the sight: \"2020/12/17 25:00\"", [](S s, T) { s.time = "25:00"; }, false, false, false},
-        {"of the sight: empty", [](S s, T) { s.date = s.time = ""; }, false, false, false},
-        {"TD: not within", [](S s, T) { s.SMT = true, s.TD = "13"; }, false, false, false},
-        {"Sextant altitude: empty", [](S s, T) { s.Hs = ""; }, true, false, true},
-        {"Sextant altitude: not within 0 to 90", [](S s, T) { s.Hs = "91"; }, true, false, true},
-        {"eye: not within 0 to 100", [](S s, T) { s.heightOfEye = "-1"; }, true, false, true},
-        {"Pressure: \"-\" is no number", [](S s, T) { s.pressure = "-"; }, true, false, true},
-        {"DR latitude: empty", [](S, T t) { t.latitude = ""; }, true, true, false},
-        {"Course: \"north\" is no number", [](S, T t) { t.course = "north"; }, true, true, false},
-        {"DR position: \"noon\" is none", [](S, T t) { t.time = "noon"; }, true, true, false},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.box);
+    for (const Golden& row : golden("sight_inputs")) {
         SightTexts sight = noon2020;
         TrackTexts track = track2020;
-        row.spoil(sight, track);
-        const LOPResult result = CalculateLOP(sight, track);
-        EXPECT_THAT(result.notice, HasSubstr(row.box));
-        EXPECT_EQ(!result.GHA.empty(), row.sun);
-        EXPECT_EQ(!result.Ho.empty(), row.Ho);
-        EXPECT_EQ(!result.Hc.empty(), row.Hc);
-        EXPECT_TRUE(result.intercept.empty());
+        const auto box = static_cast<std::size_t>(row.integer("box"));
+        sight.SMT = box == SightField::TD;
+        if (box < SightField::ofSight)
+            sight.*sightMembers[box] = row.text("typed");
+        else
+            track.*trackMembers[box - SightField::ofSight] = row.text("typed");
+        const LOPResult result = CalculateLOP(sight, track, {});
+        if (row.has("notice"))
+            EXPECT_THAT(result.notice, HasSubstr(row.text("notice"))) << row;
+        else
+            EXPECT_THAT(result.notice, ::testing::Not(HasSubstr("refraction"))) << row;
+        EXPECT_EQ(!result.GHA.empty(), row.tick("sun")) << row;
+        EXPECT_EQ(!result.Ho.empty(), row.tick("Ho")) << row;
+        EXPECT_EQ(!result.Hc.empty(), row.tick("Hc")) << row;
+        EXPECT_EQ(!result.intercept.empty(), row.tick("Ho") && row.tick("Hc")) << row;
     }
 }
 
-TEST(CalculateLOP, warnings)
+TEST(CalculateLOP, nothingEnteredNothingClaimed)
 {
-    const auto notice = [](const char* Hs) {
-        SightTexts sight = noon2020;
-        sight.Hs = Hs;
-        return CalculateLOP(sight, track2020).notice;
+    SightTexts sight;
+    EXPECT_EQ(CalculateLOP(sight, {}, {}).notice, "");
+    sight.TD = "9";
+    sight.heightOfEye = "16";
+    EXPECT_EQ(CalculateLOP(sight, {}, {}).notice, "") << "left from the last sight";
+    sight.Hs = "30";
+    EXPECT_THAT(
+        CalculateLOP(sight, {}, {}).notice,
+        ::testing::AllOf(HasSubstr("Date of the sight: empty"), HasSubstr("DR latitude: empty")));
+}
+
+TEST(CalculateLOP, whatTheClockSaysOfASight)
+{
+    const double taken = 44182 + (11 + 45 / 60.0 + 11 / 3600.0) / 24; // of the morning sight
+    const auto notice = [&](double now) {
+        return CalculateLOP(morning2020, track2020, {{}, now, {}}).notice;
     };
-    EXPECT_THAT(notice("9.59"), HasSubstr("below 10"));
-    EXPECT_THAT(notice("10"), Not(HasSubstr("below 10")));
-    EXPECT_THAT(notice("85.01"), HasSubstr("above 85"));
-    EXPECT_THAT(notice("52.72"), HasSubstr("read as 53.-12'0"));
-    EXPECT_THAT(notice("52,2"), HasSubstr("\"52,2\" is read as 52"));
+    EXPECT_EQ(notice(taken), "");
+    EXPECT_EQ(notice(taken - 0.5 / 1440), "") << "half a minute may be the watch";
+    EXPECT_THAT(notice(taken - 2.0 / 1440), HasSubstr("The sight lies 2 min in the future"));
+    EXPECT_THAT(notice(taken - 9.0 / 24), HasSubstr("9.0 h in the future"));
+    EXPECT_THAT(notice(taken - 2.5), HasSubstr("2.5 days in the future"));
+    SightTexts SMT = morning2020;
+    SMT.SMT = true;
+    SMT.TD = "-3";
+    SMT.time = "08:45:11";
+    const auto TDNotice = [&](double TD) {
+        return CalculateLOP(SMT, track2020, {{}, {}, NavFunc113::Hours(TD)}).notice;
+    };
+    EXPECT_EQ(TDNotice(-3), "");
+    EXPECT_EQ(TDNotice(-3.5), "TD is not the ship's, which is -3.5");
 }
 
 TEST(CalculateLOP, upperLimbIsADiameterLower)
 {
     SightTexts sight = noon2020;
-    const LOPResult lower = CalculateLOP(sight, track2020);
+    const LOPResult lower = CalculateLOP(sight, track2020, {});
     sight.upperLimb = true;
-    const LOPResult upper = CalculateLOP(sight, track2020);
+    const LOPResult upper = CalculateLOP(sight, track2020, {});
     EXPECT_EQ(termOf(lower, "Upper limb: less the diameter"), "none");
     EXPECT_EQ(termOf(upper, "Upper limb: less the diameter"), "-32.5'");
     EXPECT_EQ(lower.Ho, "52.-30'6");
@@ -138,8 +177,8 @@ TEST(CalculateLOP, upperLimbIsADiameterLower)
 
 TEST(CalculateLOP, azimuthOnTheMeridianAndThePrimeVertical)
 {
+    using namespace NavFunc113;
     const auto azimuth = [](double GHA, double declination, double latitude, double longitude) {
-        using namespace NavFunc113;
         return azimuthOfSun(DegMin(GHA), DegMin(declination),
                             {Degrees(latitude), Degrees(longitude)})
             .value();
@@ -151,14 +190,34 @@ TEST(CalculateLOP, azimuthOnTheMeridianAndThePrimeVertical)
 
 TEST(MeridianPassage, noonOfTheMovingShip)
 {
-    const MeridianResult noon = CalculateMeridian(noon2020, track2020);
-    EXPECT_THAT(noon.noon, testing::StartsWith("2020/12/17 15:2"));
-    EXPECT_THAT(noon.note, HasSubstr("after the meridian"));
-    EXPECT_THAT(noon.latitude, testing::StartsWith("14-.0")) << "close to the fix";
-    const MeridianResult morning = CalculateMeridian(morning2020, track2020);
+    const MeridianResult noon = CalculateMeridian(noon2020, track2020, {});
+    EXPECT_THAT(noon.noon, ::testing::StartsWith("2020/12/17 15:2"));
+    const MeridianResult morning = CalculateMeridian(morning2020, track2020, {});
     EXPECT_EQ(morning.noon, noon.noon) << "the same noon from either sight";
     EXPECT_EQ(morning.latitude, "");
-    EXPECT_EQ(CalculateMeridian({}, track2020).noon, "");
+    EXPECT_EQ(CalculateMeridian({}, track2020, {}).noon, "");
+}
+
+TEST(MeridianPassage, latitudeBySightsNearNoon)
+{
+    for (const Golden& row : golden("meridian_sights")) {
+        const SightTexts sight =
+            worked::sight("2020/12/17", "15:30:00", row.text("Hs").c_str(), "", "");
+        const MeridianResult result = CalculateMeridian(
+            sight, {row.text("DRLatitude"), row.text("DRLongitude"), "", "", ""}, {});
+        EXPECT_THAT(result.note, HasSubstr(row.text("note"))) << row;
+        const std::size_t split = result.latitude.find(" or ");
+        const std::string shown[] = {
+            result.latitude.substr(0, split),
+            split == std::string::npos ? std::string() : result.latitude.substr(split + 4)};
+        const char* columns[] = {"first", "second"};
+        for (std::size_t i = 0; i < 2; ++i) {
+            ASSERT_EQ(shown[i].empty(), !row.has(columns[i])) << row << result.latitude;
+            if (shown[i].empty()) continue;
+            const double expected = NavFunc113::DegMinToDeg(row.degMin(columns[i])).value() * 600;
+            EXPECT_NEAR(tenthsOf(shown[i]), expected, 3) << row << shown[i];
+        }
+    }
 }
 
 } // namespace

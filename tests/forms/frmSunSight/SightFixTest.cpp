@@ -2,7 +2,7 @@
 #include "forms/frmSunSight/SightFix.h"
 
 #include "app/reading.h"
-#include "forms/frmSunSight/DrawLOP.h"
+#include "forms/frmSunSight/CalculateLOP.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
 #include <gmock/gmock.h>
@@ -14,124 +14,155 @@ namespace
 
 using namespace worked;
 using testing::HasSubstr;
+using testing::Not;
+
+SightFixResult fixOf(const SightList& list, const TrackTexts& track,
+                     const SightFixOptions& options = {})
+{
+    return CalculateFix(list, track, options, {});
+}
 
 TEST(CalculateFix, publishedRunningFixesFromRawReadings)
 {
-    const SightFixResult first = CalculateFix(listOf({noon2020, morning2020}), track2020, {});
+    const SightFixResult first = fixOf(listOf({noon2020, morning2020}), track2020);
     ASSERT_TRUE(first.fix) << first.notice;
-    EXPECT_LT(milesBetween(*first.fix, 14.060, -52.258), 0.3);
+    EXPECT_LT(milesBetween(first.fix->position, 14.060, -52.258), 0.3);
     EXPECT_THAT(first.time, testing::StartsWith("R FIX 2020/12/17 15:30:00 UTC, run 0-03:44:49"));
     EXPECT_THAT(first.latitude, testing::StartsWith("14-.0"));
     EXPECT_NEAR(readNumber(first.memoLongitude), -52.258, 0.003);
     EXPECT_THAT(first.sigmaText, HasSubstr("assumed, not measured: 1.0 nm"));
-    EXPECT_NEAR(first.ellipse.semiMajor.value(), 5.28, 0.05) << "with the errors of the run";
+    ASSERT_TRUE(first.fix->ellipse);
+    EXPECT_NEAR(first.fix->ellipse->semiMajor.value(), 5.28, 0.05) << "with the errors of the run";
+    EXPECT_THAT(first.lines[1].text, testing::EndsWith(" nm")) << "its residual";
     EXPECT_EQ(first.notice, "");
 
-    const SightFixResult second = CalculateFix(listOf({morning1990, noon1990}), track1990, {});
+    const SightFixResult second = fixOf(listOf({morning1990, noon1990}), track1990);
     ASSERT_TRUE(second.fix) << second.notice;
-    EXPECT_LT(milesBetween(*second.fix, 13.423, -45.056), 0.3);
+    EXPECT_LT(milesBetween(second.fix->position, 13.423, -45.056), 0.3);
+}
+
+TEST(CalculateFix, oneInterceptForOneSight)
+{
+    TrackTexts timeless = track2020;
+    timeless.time = "";
+    for (const TrackTexts& track : {track2020, timeless}) {
+        const SightList list = listOf({morning2020, noon2020});
+        const SightFixResult fix = fixOf(list, track);
+        for (const FixLine& line : fix.lines) {
+            const LOPResult alone = CalculateLOP(list.sights()[line.index].texts, track,
+                                                 {list.lastOn(line.index), {}, {}});
+            EXPECT_THAT(line.text, testing::StartsWith(alone.intercept + "  Zn " + alone.Zn));
+        }
+    }
+    EXPECT_EQ(fixOf(listOf({morning2020, noon2020}), timeless).DR->latitude,
+              NavFunc113::DegMinToDeg(NavFunc113::DegMin(14.02)))
+        << "the DR position is that of the last sight";
 }
 
 TEST(CalculateFix, sightsSwitchedOffDoNotCount)
 {
     SightList list = listOf({morning2020, noon2020});
     list.setOn(0, false);
-    const SightFixResult one = CalculateFix(list, track2020, {});
+    const SightFixResult one = fixOf(list, track2020);
     EXPECT_FALSE(one.fix);
     EXPECT_EQ(one.lines.size(), 1U);
     EXPECT_THAT(one.notice, HasSubstr("two lines at least"));
 
     SightTexts again = noon2020;
     again.time = "15:30:40";
-    const SightFixResult parallel = CalculateFix(listOf({noon2020, again}), track2020, {});
+    const SightFixResult parallel = fixOf(listOf({noon2020, again}), track2020);
     EXPECT_TRUE(!parallel.fix || parallel.notice.find("Small cut angle") != std::string::npos);
 
     TrackTexts none = track2020;
     none.latitude = "";
-    EXPECT_THAT(CalculateFix(listOf({morning2020, noon2020}), none, {}).notice,
-                HasSubstr("No fix: the DR position"));
+    const SightFixResult lost = fixOf(listOf({morning2020, noon2020}), none);
+    EXPECT_THAT(lost.notice, HasSubstr("No fix: the DR position"));
+    EXPECT_TRUE(lost.lines.empty());
+}
+
+/// A day's round from a ship at anchor; one sight out by some miles.
+SightList roundWith(double miles, int sights = 5)
+{
+    const NavFunc113::Position place{NavFunc113::Degrees(14), NavFunc113::Degrees(-52)};
+    const char* times[] = {"12:00:00", "13:40:00", "15:00:00", "16:30:00", "18:30:00"};
+    SightList list;
+    for (int i = 0; i < sights; ++i)
+        list.record(seenFrom(place, "2020/12/17", times[i], i == 1 ? miles : 0));
+    return list;
+}
+const TrackTexts atAnchor{"14.05", "-52.02", "", "", ""};
+
+TEST(CalculateFix, aSightThatDoesNotFitIsNamed)
+{
+    const SightFixResult good = fixOf(roundWith(0), atAnchor);
+    EXPECT_EQ(good.notice, "");
+    EXPECT_TRUE(good.fix->ellipse);
+    EXPECT_EQ(good.withoutText, "");
+
+    const SightFixResult bad = fixOf(roundWith(-12), atAnchor);
+    EXPECT_THAT(bad.notice, HasSubstr("The sight of 13:40:00 by 12.0 miles away does not fit"));
+    EXPECT_FALSE(bad.fix->ellipse);
+    EXPECT_THAT(bad.ellipseText, HasSubstr("No ellipse"));
+    EXPECT_THAT(bad.lines[1].text, testing::EndsWith("does not fit: -12.0 nm"));
+    ASSERT_EQ(bad.without.size(), 1U);
+    EXPECT_LT(milesBetween(bad.without[0].position, 14.0, -52.0), 0.1);
+    EXPECT_THAT(bad.withoutText,
+                testing::StartsWith("Without 13:40:00: 14-.00'0N 052-.00'0W, 95 %"));
+    EXPECT_EQ(bad.without[0].label, "without 1340");
+
+    EXPECT_EQ(fixOf(roundWith(-12), atAnchor, {"8", "", "", false}).notice, "")
+        << "lines that rough may";
+    const SightFixResult scaled = fixOf(roundWith(-12), atAnchor, {"", "", "", true});
+    EXPECT_TRUE(scaled.fix->ellipse) << "made as wide as the residuals";
+    EXPECT_THAT(scaled.notice, HasSubstr("13:40:00"));
+
+    const SightFixResult three = fixOf(roundWith(20, 3), atAnchor);
+    EXPECT_THAT(three.notice, HasSubstr("cannot tell which sight is out: "));
+    EXPECT_EQ(three.without.size(), 3U);
+    for (const char* time : {"12:00:00", "13:40:00 by 20.0 miles towards", "15:00:00"})
+        EXPECT_THAT(three.notice, HasSubstr(time));
+}
+
+TEST(CalculateFix, sightsOfAnotherDayAreNamed)
+{
+    const SightFixResult same = fixOf(listOf({morning1990, noon1990}), track1990);
+    EXPECT_THAT(same.notice, Not(HasSubstr("check the date")));
+    SightTexts dayBefore = morning2020;
+    dayBefore.date = "2020/12/16";
+    EXPECT_THAT(fixOf(listOf({dayBefore, noon2020}), track2020).notice,
+                HasSubstr("The sight of 2020/12/16 11:45:11 UTC lies 1.2 days before the fix"));
+    SightTexts exactly = noon2020;
+    exactly.date = "2020/12/16";
+    EXPECT_THAT(fixOf(listOf({exactly, noon2020}), track2020).notice,
+                Not(HasSubstr("before the fix")));
+    const double noon = 44182 + 15.5 / 24;
+    const auto noticeAt = [&](double now) {
+        return CalculateFix(listOf({morning2020, noon2020}), track2020, {}, now).notice;
+    };
+    EXPECT_EQ(noticeAt(noon), "");
+    EXPECT_THAT(noticeAt(noon - 2.0 / 24),
+                HasSubstr("The sight of 2020/12/17 15:30:00 UTC lies 2.0 h in the future"));
+    EXPECT_THAT(noticeAt(noon - 1),
+                HasSubstr("The sight of 2020/12/17 11:45:11 UTC and 1 more lie 20.3 h in the"));
 }
 
 TEST(CalculateFix, sigmaIsCalledWhatItIs)
 {
-    SightTexts third = noon2020;
-    third.time = "13:30:00";
-    third.Hs = "44.10";
-    const SightList list = listOf({morning2020, third, noon2020});
-    const SightFixResult assumed = CalculateFix(list, track2020, {"0.5", "", "", false});
-    const SightFixResult measured = CalculateFix(list, track2020, {"0.5", "", "", true});
+    const SightFixResult assumed = fixOf(roundWith(1), atAnchor, {"0.5", "", "", false});
+    const SightFixResult measured = fixOf(roundWith(1), atAnchor, {"0.5", "", "", true});
     EXPECT_THAT(assumed.sigmaText, HasSubstr("assumed, not measured: 0.5 nm"));
     EXPECT_THAT(assumed.sigmaText, HasSubstr("the residuals say"));
-    EXPECT_THAT(measured.sigmaText, HasSubstr("measured from the residuals of 3 lines"));
-    EXPECT_NE(assumed.ellipse.semiMajor, measured.ellipse.semiMajor);
+    EXPECT_THAT(measured.sigmaText, HasSubstr("measured from the residuals of 5 lines"));
+    EXPECT_NE(assumed.ellipseText, measured.ellipseText);
     const SightFixResult two =
-        CalculateFix(listOf({morning2020, noon2020}), track2020, {"", "", "", true});
+        fixOf(listOf({morning2020, noon2020}), track2020, {"", "", "", true});
     EXPECT_THAT(two.sigmaText, HasSubstr("three lines at least"));
-    EXPECT_THAT(CalculateFix(list, track2020, {"0", "", "", false}).notice,
-                HasSubstr("Sigma of a line: not within"));
-}
-
-TEST(DrawLOP, linesGridAndReadOut)
-{
-    const SightFixResult fix = CalculateFix(listOf({morning2020, noon2020}), track2020, {});
-    const SightPlot plot = DrawLOP(fix);
-    ASSERT_EQ(plot.lines.size(), 2U);
-    EXPECT_EQ(plot.lines[0].label, "1145-1530");
-    EXPECT_EQ(plot.lines[1].label, "1530");
-    EXPECT_EQ(plot.fixLabel, "R FIX 1530");
-    EXPECT_TRUE(plot.lines[1].circle) << "at 52 degrees the line bends more than 0.3 miles";
-    EXPECT_FALSE(plot.lines[0].circle);
-    // Both drawn lines pass through the drawn fix.
-    for (const PlotLine& line : plot.lines) {
-        double nearest = 99;
-        for (std::size_t i = 1; i < line.points.size(); ++i) {
-            const PlotPoint a = line.points[i - 1], b = line.points[i];
-            const double length = std::hypot(b.x - a.x, b.y - a.y);
-            const double s =
-                ((plot.fix->x - a.x) * (b.x - a.x) + (plot.fix->y - a.y) * (b.y - a.y)) /
-                (length * length);
-            if (s < 0 || s > 1) continue;
-            nearest = std::min(nearest, std::fabs((plot.fix->x - a.x) * (b.y - a.y) -
-                                                  (plot.fix->y - a.y) * (b.x - a.x)) /
-                                            length);
-        }
-        EXPECT_LT(nearest, 0.3);
-        EXPECT_TRUE(line.visible);
-    }
-    EXPECT_EQ(plot.grid.size(), 16U) << "eight each way, ten minutes apart";
-    for (const PlotGridLine& line : plot.grid) {
-        EXPECT_LE(std::fabs(line.from.x), SightPlot::half);
-        EXPECT_THAT(line.label, HasSubstr("0'0"));
-    }
-    const CursorTexts cursor = cursorTexts(plot, *plot.fix);
-    EXPECT_THAT(cursor.latitude, testing::StartsWith("  14.-0"));
-    EXPECT_THAT(cursor.longitude, testing::StartsWith("052.-2"));
-    EXPECT_EQ(cursorTexts(plot, {0, 41}).latitude, "");
-    EXPECT_TRUE(DrawLOP(CalculateFix({}, track2020, {})).lines.empty());
-}
-
-TEST(DrawLOP, acrossTheDateLine)
-{
-    SightFixResult fix;
-    fix.UTC = 45000;
-    fix.DR = NavFunc113::Position{NavFunc113::Degrees(0.1), NavFunc113::Degrees(179.9)};
-    const SightPlot plot = DrawLOP(fix);
-    bool west = false, south = false;
-    for (const PlotGridLine& line : plot.grid) {
-        west = west || line.label.ends_with("W");
-        south = south || line.label.ends_with("S");
-    }
-    EXPECT_TRUE(west && south);
-    EXPECT_EQ(cursorTexts(plot, {30, -30}).longitude, "179.-36'0W");
-    EXPECT_EQ(cursorTexts(plot, {30, -30}).latitude, "  00.-24'0S");
-}
-
-TEST(DrawLOP, whatLiesOutsideIsSaid)
-{
-    TrackTexts far = track2020;
-    far.latitude = "15.30";
-    const SightPlot plot = DrawLOP(CalculateFix(listOf({morning2020, noon2020}), far, {}));
-    EXPECT_THAT(plot.notice, HasSubstr("outside the plot"));
+    const std::pair<SightFixOptions, const char*> faults[] = {
+        {{"0.09", "", "", false}, "Sigma of a line: not within 0.1 to 20 nautical miles"},
+        {{"", "101", "", false}, "Error of the run: not within 0 to 100"},
+        {{"", "", "1,5", false}, "Error of the course made good: only 1 was read, write 1.5"}};
+    for (const auto& [options, fault] : faults)
+        EXPECT_THAT(fixOf(roundWith(0), atAnchor, options).notice, HasSubstr(fault));
 }
 
 } // namespace

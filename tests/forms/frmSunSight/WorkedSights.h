@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Format.h"
 #include "forms/frmSunSight/SightFix.h"
+#include "forms/frmSunSight/SightInput.h"
 #include "navlib/angles.h"
 
 #include <cmath>
@@ -47,6 +49,25 @@ inline SightList listOf(std::initializer_list<SightTexts> sights)
     for (const SightTexts& each : sights)
         list.record(each);
     return list;
+}
+
+/// A sight as a ship lying at a place reads it, out by some miles (too great: towards the Sun).
+inline SightTexts seenFrom(const NavFunc113::Position& place, const char* date, const char* time,
+                           double miles = 0)
+{
+    using namespace NavFunc113;
+    SightTexts texts = sight(date, time, "30", "", "");
+    for (int pass = 0; pass < 5; ++pass) {
+        Remarks unheard;
+        const Observation seen = readObservation(texts, unheard);
+        const Degrees stands =
+            PlaceAboveHorizon(DegMinToDeg(*seen.GHA), DegMinToDeg(*seen.declination), place)
+                .altitude;
+        const Degrees missing =
+            stands + ArcOfMiles(Miles(miles)) - DegMinToDeg(seen.corrections->Ho);
+        texts.Hs = Format(DegToDegMin(DegMinToDeg(seen.corrections->Hs) + missing), "0.0000");
+    }
+    return texts;
 }
 
 } // namespace korvel::worked

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/ResultLabel.h"
+#include "forms/frmSunSight/SightFix.h"
+
+#include <array>
+
+class QGroupBox;
+
+namespace korvel
+{
+
+struct ColourScheme;
+class SightPicture;
+
+/// The fix from the recorded sights: its plot, its position and how good it is.
+class FixPanel : public QWidget
+{
+public:
+    explicit FixPanel(QWidget* parent);
+
+    /// @return what lies outside the plot
+    std::string showFix(const SightFixResult& fix);
+    void setColours(const ColourScheme& colours);
+
+    std::vector<ResultLabel*> results() const { return {m_lblSunFix.begin(), m_lblSunFix.end()}; }
+
+private:
+    QWidget* layOutPlot();
+    QGroupBox* layOutFix();
+    void showCursor(QPointF user);
+
+    SightPicture* m_picSunSight;
+    std::array<ResultLabel*, 6> m_lblSunFix{};    ///< latitude, longitude, time, ellipse, sigma,
+                                                  ///< without what does not fit
+    std::array<ResultLabel*, 2> m_lblSunCursor{}; ///< latitude, longitude
+};
+
+} // namespace korvel

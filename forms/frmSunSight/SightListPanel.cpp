@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/SightListPanel.h"
+
+#include "forms/frmSunSight/PanelParts.h"
+
+#include <QGridLayout>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace korvel
+{
+namespace
+{
+
+/// A round of sights is seen without scrolling.
+constexpr int linesInSight = 8;
+
+QString lineOf(const RecordedSight& sight, const std::string& line)
+{
+    return QString::fromStdString(listLine(sight) + (sight.on ? "" : "  off") +
+                                  (line.empty() ? "" : "  ") + line);
+}
+
+} // namespace
+
+SightListPanel::SightListPanel(QWidget* parent)
+    : QWidget(parent), m_lstSunSight(new QListWidget(this)),
+      m_cmdUndo(makeButton("cmdUndo", "&Undo", "Brings back what was deleted last", this))
+{
+    m_lstSunSight->setObjectName("lstSunSight");
+    m_lstSunSight->setAccessibleName("Recorded sights; the space bar switches one on and off");
+    m_lstSunSight->setTextElideMode(Qt::ElideRight);
+    m_lstSunSight->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_lstSunSight->setUniformItemSizes(true);
+    m_lstSunSight->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // A line is as high as its tick box.
+    const int line = std::max(m_lstSunSight->fontMetrics().height(),
+                              style()->pixelMetric(QStyle::PM_IndicatorHeight)) +
+                     2;
+    m_lstSunSight->setMinimumHeight(linesInSight * line + 2 * m_lstSunSight->frameWidth());
+    connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
+        emit switched(static_cast<std::size_t>(m_lstSunSight->row(item)),
+                      item->checkState() == Qt::Checked);
+    });
+
+    auto* edit = makeButton("cmdEdit", "&Edit", "The chosen sight back into the boxes", this);
+    auto* remove =
+        makeButton("cmdDelete", "&Delete", "Deletes the chosen sight, after a question", this);
+    connect(edit, &QPushButton::clicked, this, &SightListPanel::editAsked);
+    connect(remove, &QPushButton::clicked, this, &SightListPanel::deleteAsked);
+    connect(m_cmdUndo, &QPushButton::clicked, this, &SightListPanel::undoAsked);
+    m_cmdUndo->setEnabled(false);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(2);
+    auto* caption = new QLabel("Recorded\nsights");
+    caption->setBuddy(m_lstSunSight);
+    grid->addWidget(m_lstSunSight, 0, 0, 5, 1);
+    grid->addWidget(caption, 0, 1);
+    grid->addWidget(edit, 1, 1);
+    grid->addWidget(remove, 2, 1);
+    grid->addWidget(m_cmdUndo, 3, 1);
+    grid->setRowStretch(4, 1);
+    grid->setColumnStretch(0, 1);
+}
+
+void SightListPanel::showSights(const SightList& list, const SightFixResult& fix)
+{
+    const QSignalBlocker quiet(m_lstSunSight);
+    std::vector<std::string> lines(list.sights().size());
+    for (const FixLine& line : fix.lines)
+        if (line.index < lines.size()) lines[line.index] = line.text;
+    const int count = static_cast<int>(lines.size());
+    while (m_lstSunSight->count() > count)
+        delete m_lstSunSight->takeItem(m_lstSunSight->count() - 1);
+    while (m_lstSunSight->count() < count)
+        m_lstSunSight->addItem(QString());
+    for (int row = 0; row < count; ++row) {
+        const RecordedSight& sight = list.sights()[static_cast<std::size_t>(row)];
+        QListWidgetItem* item = m_lstSunSight->item(row);
+        item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+        item->setCheckState(sight.on ? Qt::Checked : Qt::Unchecked);
+        item->setText(lineOf(sight, lines[static_cast<std::size_t>(row)]));
+        item->setToolTip(item->text());
+    }
+    if (count > 0 && m_lstSunSight->currentRow() < 0) m_lstSunSight->setCurrentRow(0);
+}
+
+std::optional<std::size_t> SightListPanel::chosen() const
+{
+    const int row = m_lstSunSight->currentRow();
+    if (row < 0) return std::nullopt;
+    return static_cast<std::size_t>(row);
+}
+
+void SightListPanel::setUndo(bool canUndo)
+{
+    m_cmdUndo->setEnabled(canUndo);
+}
+
+} // namespace korvel
