@@ -60,7 +60,10 @@ private:
 std::vector<std::string> alarmDialog(KV_Savedvalue& saved, std::deque<std::string> answers)
 {
     Script script(std::move(answers));
-    setUpAlarm(2, saved, script, [] {});
+    std::string menu = alarmCaption(2, saved) + (saved.alarmEnabled(2) ? " ticked" : "");
+    setUpAlarm(2, saved, script,
+               [&] { menu = alarmCaption(2, saved) + (saved.alarmEnabled(2) ? " ticked" : ""); });
+    EXPECT_EQ(menu, alarmCaption(2, saved) + (saved.alarmEnabled(2) ? " ticked" : ""));
     return script.asked;
 }
 
