@@ -86,10 +86,11 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
 int RowTable::widthOf(const TableColumn& column) const
 {
     const QFontMetrics captions = fontMetrics();
+    const int heading = captions.size(0, column.heading).width();
     if (column.holds == Holds::Result)
-        return ResultLabel().fontMetrics().horizontalAdvance(column.widest);
-    return captions.horizontalAdvance(column.widest) +
-           (isBox(column) ? captions.horizontalAdvance('0') : 0);
+        return std::max(heading, ResultLabel().fontMetrics().horizontalAdvance(column.widest));
+    return std::max(heading, captions.horizontalAdvance(column.widest) +
+                                 (isBox(column) ? captions.horizontalAdvance('0') : 0));
 }
 
 QWidget* RowTable::layOut(const Line& line) const

@@ -36,15 +36,17 @@ void WindowRecord::use(const std::string& file, std::vector<Kind> kinds, Save sa
     m_salvage = std::move(salvage);
 }
 
-void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxes)
+void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxes,
+                            std::function<void(Record&)> settle)
 {
     std::vector<Kind> kinds(boxes.size(), Kind::Text);
     use(
         file, std::move(kinds),
-        [boxes] {
+        [boxes, settle = std::move(settle)] {
             Record record;
             for (const EntryBox* box : boxes)
                 record.emplace_back(box->value());
+            if (settle) settle(record);
             return record;
         },
         [boxes](const Record& record) {

@@ -34,7 +34,9 @@ public:
     void use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
              Salvage salvage = {});
     /// The same for a record that is the texts of boxes, in their order.
-    void useTexts(const std::string& file, std::vector<EntryBox*> boxes);
+    /// @param settle what is done to the texts before they are written
+    void useTexts(const std::string& file, std::vector<EntryBox*> boxes,
+                  std::function<void(Record&)> settle = {});
 
     /// Fills the window and from then on keeps the file as the window is.
     void load();

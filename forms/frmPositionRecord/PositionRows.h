@@ -32,4 +32,17 @@ void deleteRow(PositionRows& rows, std::size_t at);
 /// Empties a row where it stands.
 void clearRow(PositionRows& rows, std::size_t at);
 
+/// A change of rows, as much of it as is needed to take it back.
+struct RowChange {
+    enum class Kind { Inserted, Deleted, Replaced };
+    Kind kind = Kind::Replaced;
+    std::size_t at = 0;  ///< the row that was inserted or deleted
+    PositionRows before; ///< the rows when it was made
+    PositionRows after;  ///< and as it left them
+};
+
+/// Takes a change back, and only that: whatever was typed since stays as it is.
+/// @return why it cannot be taken back; empty when it was
+std::string takeBack(PositionRows& rows, const RowChange& change);
+
 } // namespace korvel

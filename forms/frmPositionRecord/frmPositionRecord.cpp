@@ -94,7 +94,7 @@ void frmPositionRecord::addCalculationOfRecord()
                                    m_lblLatestRun, m_lblSet, m_lblDrift});
     for (std::size_t i = 0; i < positionRowCount; ++i)
         m_table->row(i).satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
-    calculations().add(
+    m_calculation = calculations().add(
         {"Position record", std::move(inputs), std::move(results), [this] { run(); }});
 }
 
@@ -110,10 +110,14 @@ void frmPositionRecord::addMenus()
     };
     entry("Ship's time &now and TD into the row", "Ctrl+Shift+T", [this] { putTimeNow(); });
     entry("&Insert a row", "Ctrl+Shift+I", [this] { insertRowHere(); });
-    entry("&Delete the row", "Ctrl+Shift+D",
-          [this] { changeRows([this](PositionRows& rows) { deleteRow(rows, m_row); }); });
-    entry("C&lear the row", "Ctrl+Shift+L",
-          [this] { changeRows([this](PositionRows& rows) { clearRow(rows, m_row); }); });
+    entry("&Delete the row", "Ctrl+Shift+D", [this] {
+        changeRows(RowChange::Kind::Deleted,
+                   [this](PositionRows& rows) { deleteRow(rows, m_row); });
+    });
+    entry("C&lear the row", "Ctrl+Shift+L", [this] {
+        changeRows(RowChange::Kind::Replaced,
+                   [this](PositionRows& rows) { clearRow(rows, m_row); });
+    });
     entry("Clear &all rows...", "", [this] { clearAll(); });
     entry("&Undo the last change of rows", "Ctrl+Shift+U", [this] { undo(); });
     entry("&Copy as text", "Ctrl+Shift+C", [this] { copyAsText(); });
@@ -143,7 +147,12 @@ void frmPositionRecord::useRecordSettings()
     std::vector<EntryBox*> boxes = m_table->boxes();
     boxes.push_back(m_txtCourseSteered);
     boxes.push_back(m_txtSpeedSteered);
-    record().useTexts("KV_Position Record.ini", std::move(boxes));
+    record().useTexts("KV_Position Record.ini", std::move(boxes), [this](Record& texts) {
+        // Tomorrow 0930 would be another day.
+        constexpr std::size_t boxesOfRow = 4;
+        Value& time = texts[m_row * boxesOfRow];
+        time = NormaliseSMT(textOf(time), program().shipsTime().SMT()).text;
+    });
 }
 
 void frmPositionRecord::focusMoved(const QWidget* now)
@@ -194,25 +203,30 @@ void frmPositionRecord::normaliseTime(std::size_t row)
         calculations().runAll(); // what makes no sense is named once the box is left
 }
 
-void frmPositionRecord::changeRows(const Change& change)
+void frmPositionRecord::changeRows(RowChange::Kind kind, const Change& change)
 {
     normaliseTime(m_row); // the box is left: its text may move to another row
-    const PositionRows before = m_table->texts();
-    PositionRows rows = before;
-    change(rows);
+    RowChange made{kind, m_row, m_table->texts(), m_table->texts()};
+    change(made.after);
     setNotice("change", {});
-    if (rows == before) return;
-    m_before = before;
+    if (made.after == made.before) return;
+    fill(made.after);
+    m_lastChange = std::move(made);
+}
+
+void frmPositionRecord::fill(const PositionRows& rows)
+{
     m_filling = true;
     m_table->fill(rows);
     m_filling = false;
-    calculations().runAll();
+    calculations().run(m_calculation);
 }
 
 void frmPositionRecord::insertRowHere()
 {
     bool inserted = false;
-    changeRows([&](PositionRows& rows) { inserted = insertRow(rows, m_row); });
+    changeRows(RowChange::Kind::Inserted,
+               [&](PositionRows& rows) { inserted = insertRow(rows, m_row); });
     if (!inserted)
         setNotice("change", "Row 29 is in use: no row was inserted, it would have been lost.");
 }
@@ -222,21 +236,28 @@ void frmPositionRecord::clearAll()
     const Message question{"Clear all 29 rows of the position record?", programTitle,
                            Buttons::YesNo};
     if (program().questions().ask(question) == Answer::Yes)
-        changeRows([](PositionRows& rows) { rows = {}; });
+        changeRows(RowChange::Kind::Replaced, [](PositionRows& rows) { rows = {}; });
 }
 
 void frmPositionRecord::undo()
 {
-    if (m_before) changeRows([before = *m_before](PositionRows& rows) { rows = before; });
+    if (!m_lastChange) return;
+    normaliseTime(m_row);
+    PositionRows rows = m_table->texts();
+    const std::string refusal = takeBack(rows, *m_lastChange);
+    setNotice("change", QString::fromStdString(refusal));
+    if (!refusal.empty()) return;
+    m_lastChange.reset();
+    fill(rows);
 }
 
 void frmPositionRecord::putTimeNow()
 {
-    const PositionTable::Row row = m_table->row(m_row);
-    row.satelliteSMT->setText(
-        QString::fromStdString(Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm")));
-    row.satelliteTD->setText(QString::fromStdString(Format(program().saved().TD(), "0.0")));
-    row.latitude->setFocus(Qt::TabFocusReason);
+    changeRows(RowChange::Kind::Replaced, [this](PositionRows& rows) {
+        rows[m_row].satelliteSMT = Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm");
+        rows[m_row].satelliteTD = Format(program().saved().TD(), "0.0");
+    });
+    m_table->row(m_row).latitude->setFocus(Qt::TabFocusReason);
 }
 
 void frmPositionRecord::copyAsText() const
@@ -255,13 +276,6 @@ void frmPositionRecord::print()
     paper().print(QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
         printRecord(painter, room, record, QString::fromStdString(printed));
     });
-}
-
-void frmPositionRecord::closeEvent(QCloseEvent* event)
-{
-    // Tomorrow 0930 would be another day.
-    normaliseTime(m_row);
-    CalculatorWindow::closeEvent(event);
 }
 
 void frmPositionRecord::applyColours()

@@ -18,7 +18,6 @@ public:
     explicit frmPositionRecord(Program& program);
 
 protected:
-    void closeEvent(QCloseEvent* event) override;
     void applyColours() override;
 
 private:
@@ -33,7 +32,8 @@ private:
     void normaliseTime(std::size_t row);
 
     using Change = std::function<void(PositionRows&)>;
-    void changeRows(const Change& change);
+    void changeRows(RowChange::Kind kind, const Change& change);
+    void fill(const PositionRows& rows);
     void insertRowHere();
     void clearAll();
     void undo();
@@ -53,9 +53,10 @@ private:
     ResultLabel* m_lblDrift;
 
     PositionRecordResult m_shown;
-    std::optional<PositionRows> m_before; ///< the rows as they were before the last change of rows
-    std::size_t m_row = 0;                ///< the row that has, or last had, the focus
-    bool m_filling = false;               ///< many boxes are being filled, one calculation follows
+    std::optional<RowChange> m_lastChange; ///< of rows; what is typed is no change of rows
+    int m_calculation = 0;
+    std::size_t m_row = 0;  ///< the row that has, or last had, the focus
+    bool m_filling = false; ///< many boxes are being filled, one calculation follows
     FocusFollower m_focus;
 };
 
