@@ -42,9 +42,10 @@ void CalculationRunner::runAll()
         if (each.touched || each.calculation.claimsUnasked) runNow(each.calculation);
 }
 
-void CalculationRunner::release()
+void CalculationRunner::release(bool wasEntered)
 {
     m_held = false;
+    if (!wasEntered) return;
     for (Entered& each : m_calculations)
         each.touched |= std::ranges::any_of(
             each.calculation.inputs, [](const EntryBox* box) { return !box->text().isEmpty(); });

@@ -37,8 +37,9 @@ public:
 
     /// Keeps changes of the inputs from running anything, while the record fills them.
     void hold() { m_held = true; }
-    /// Ends that; whatever has texts then counts as entered.
-    void release();
+    /// Ends that.
+    /// @param wasEntered whatever has texts counts as entered
+    void release(bool wasEntered);
     bool isHeld() const { return m_held; }
 
 private:

@@ -38,8 +38,8 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
 void CalculatorWindow::loadSettings()
 {
     m_calculations->hold();
-    m_record->load();
-    m_calculations->release();
+    const bool wasEntered = m_record->load();
+    m_calculations->release(wasEntered);
     m_calculations->runAll();
     applyColours();
 }

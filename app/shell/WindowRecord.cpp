@@ -55,9 +55,9 @@ void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxe
         });
 }
 
-void WindowRecord::load()
+bool WindowRecord::load()
 {
-    if (!m_file) return;
+    if (!m_file) return false;
     m_isLoading = true;
     const auto record = m_file->load(m_save());
     const bool isWhole = record && !m_file->isProtected();
@@ -66,6 +66,7 @@ void WindowRecord::load()
     m_isLoading = false;
     if (isWhole) m_onDisk = m_save();
     watchControls();
+    return record || m_file->damagedText();
 }
 
 void WindowRecord::watchControls()

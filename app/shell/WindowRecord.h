@@ -39,7 +39,8 @@ public:
                   std::function<void(Record&)> settle = {});
 
     /// Fills the window and from then on keeps the file as the window is.
-    void load();
+    /// @return true when anything was found to fill it with
+    bool load();
 
     /// Writes the file when nothing more has changed for a while. Changes of the window's controls
     /// are noticed by themselves; this is for what is no control.

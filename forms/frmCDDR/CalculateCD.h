@@ -20,6 +20,7 @@ struct CDResult {
     std::string distance; ///< lblCDDR(1), nautical miles; empty blanks the label
     std::optional<NavFunc113::Degrees> courseDegrees; ///< the same with full precision
     std::optional<NavFunc113::Miles> miles;
+    std::string notice; ///< why the labels are blank, and what else is to be said of the boxes
 };
 
 /// Rhumb-line course and distance. An input out of range blanks both labels.

@@ -2,7 +2,7 @@
 #include "forms/frmCDDR/CalculateDR.h"
 
 #include "app/Format.h"
-#include "app/reading.h"
+#include "forms/frmCDDR/CDDRFields.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/sailing.h"
 
@@ -10,31 +10,22 @@
 
 namespace korvel
 {
-namespace
-{
-
-/// Half the earth's circumference: no dead reckoning goes further.
-constexpr const char* longestDistance = "10800";
-
-} // namespace
-
 DRResult CalculateDR(const DRInput& input)
 {
-    const auto& [latText, longText, courseText, distanceText] = input.txtCDDR;
-    if (!IsInRange(latText, "-90", "90") || !IsInRange(longText, "-180", "180") ||
-        !IsInRange(courseText, "0", "360") || !IsInRange(distanceText, "0", longestDistance))
-        return {};
-    const NavFunc113::DegMin lat(readNumber(latText));
-    const NavFunc113::DegMin longitude(readNumber(longText));
-    const NavFunc113::Degrees course(readNumber(courseText));
-    const NavFunc113::Miles distance(readNumber(distanceText));
-
     DRResult result;
+    Remarks remarks;
+    const auto read = readFields(input.txtCDDR, std::span(CDDRFields).last<4>(), remarks);
+    result.notice = remarks.text();
+    if (!read) return result;
+    const NavFunc113::DegMin lat((*read)[0]), longitude((*read)[1]);
+    const NavFunc113::Degrees course((*read)[2]);
+    const NavFunc113::Miles distance((*read)[3]);
+
     const NavFunc113::DegMin reached = NavFunc113::DRLatitude(lat, course, distance, input.earth);
     result.latitudeReached = reached;
     result.latitude = Format(reached, "00-.00'0N;00-.00'0S");
     if (std::fabs(reached.packed()) > 90) {
-        result.notice = "The track crosses a pole: no longitude.";
+        result.notice = joined({result.notice, "The track crosses a pole: no longitude."});
         return result;
     }
     try {
@@ -43,8 +34,9 @@ DRResult CalculateDR(const DRInput& input)
         result.longitudeReached = east;
         result.longitude = Format(east, "000-.00'0E;000-.00'0W");
     } catch (const NavFunc113::ArithmeticError& error) {
-        result.notice = std::string("The longitude cannot be calculated from these figures (") +
-                        error.what() + ").";
+        result.notice = joined(
+            {result.notice, std::string("The longitude cannot be calculated from these figures (") +
+                                error.what() + ")."});
     }
     return result;
 }

@@ -20,7 +20,7 @@ struct DRResult {
     std::string longitude;                             ///< lblCDDR(3); empty blanks the label
     std::optional<NavFunc113::DegMin> latitudeReached; ///< the same with full precision
     std::optional<NavFunc113::DegMin> longitudeReached;
-    std::string notice; ///< why there is a latitude without a longitude
+    std::string notice; ///< why labels are blank, and what else is to be said of the boxes
 };
 
 /// Position reached by dead reckoning. An input out of range blanks both labels; a track across a

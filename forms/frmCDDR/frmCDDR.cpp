@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace korvel
 {
 namespace
@@ -35,6 +37,7 @@ frmCDDR::frmCDDR(Program& program)
     columns->addWidget(layOutCD());
     columns->addWidget(layOutDR());
     addMenus();
+    setOrderOfTab();
 
     calculations().add({"Course and distance",
                         m_txtCDDR.part(courseAndDistance, 4),
@@ -92,6 +95,18 @@ void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
     grid->addWidget(m_optNSEW[2 * field], row, 2);
     grid->addWidget(m_optNSEW[2 * field + 1], row, 3);
     grid->addWidget(m_txtCDDR.position(field)->echo(), row, 4);
+}
+
+/// The boxes as by Enter, then what else can be reached without the mouse.
+void frmCDDR::setOrderOfTab()
+{
+    QWidget* before = m_txtCDDR[distance];
+    const auto follow = [&before](QWidget* next) {
+        setTabOrder(before, next);
+        before = next;
+    };
+    std::ranges::for_each(m_lblCDDR, follow);
+    std::ranges::for_each(m_optNSEW, follow);
 }
 
 QGroupBox* frmCDDR::layOutCD()
@@ -196,6 +211,7 @@ void frmCDDR::runCD()
     m_cd = CalculateCD({m_txtCDDR.texts<0, 4>(), program().earth()});
     m_lblCDDR[0]->setText(QString::fromStdString(m_cd.course));
     m_lblCDDR[1]->setText(QString::fromStdString(m_cd.distance));
+    setNotice("1 CD", QString::fromStdString(m_cd.notice));
 }
 
 void frmCDDR::runDR()
@@ -204,20 +220,35 @@ void frmCDDR::runDR()
     m_dr = CalculateDR({m_txtCDDR.texts<4, 4>(), program().earth()});
     m_lblCDDR[2]->setText(QString::fromStdString(m_dr.latitude));
     m_lblCDDR[3]->setText(QString::fromStdString(m_dr.longitude));
-    setNotice("DR longitude", QString::fromStdString(m_dr.notice));
+    setNotice("2 DR", QString::fromStdString(m_dr.notice));
 }
 
 void frmCDDR::optNSEW_Click(std::size_t index)
 {
-    EntryBox* box = m_txtCDDR[index / 2];
-    if (const auto written = withHemisphere(box->value(), index % 2 == 0))
-        box->setText(QString::fromStdString(*written));
+    const std::size_t field = index / 2;
+    const bool positive = index % 2 == 0;
+    m_chosenNegative[field] = !positive;
+    sayTurned(field, false);
+    if (const auto written = withHemisphere(m_txtCDDR[field]->value(), positive))
+        m_txtCDDR[field]->setText(QString::fromStdString(*written));
 }
 
 void frmCDDR::checkValueName(std::size_t field)
 {
-    if (const auto positive = hemisphereOf(m_txtCDDR[field]->value()))
-        m_optNSEW[2 * field + (*positive ? 0 : 1)]->setChecked(true);
+    const auto positive = hemisphereOf(m_txtCDDR[field]->value());
+    if (positive) m_optNSEW[2 * field + (*positive ? 0 : 1)]->setChecked(true);
+    sayTurned(field, positive && *positive && m_chosenNegative[field]);
+}
+
+/// South was chosen before the figure was typed, and a figure without a minus sign is north.
+void frmCDDR::sayTurned(std::size_t field, bool turned)
+{
+    const QString name = nameInWords(CDDRFields[field]);
+    setNotice("3 " + name,
+              turned
+                  ? QString("%1 is %2 as typed: %3 needs a minus sign or the button.")
+                        .arg(name, m_optNSEW[2 * field]->text(), m_optNSEW[2 * field + 1]->text())
+                  : QString());
 }
 
 void frmCDDR::copyPosition(std::size_t fromField, std::size_t toField)

@@ -22,6 +22,7 @@ private:
 
     void addLabelsOfResults();
     void addOptions();
+    void setOrderOfTab();
     QGroupBox* layOutCD();
     QGroupBox* layOutDR();
     void addPositionRow(QGridLayout* grid, int row, std::size_t field);
@@ -33,6 +34,7 @@ private:
     void runDR();
     void optNSEW_Click(std::size_t index);
     void checkValueName(std::size_t field);
+    void sayTurned(std::size_t field, bool turned);
     void copyPosition(std::size_t fromField, std::size_t toField);
     void putDRResult(std::size_t toField);
     void exchangeCD();
@@ -41,6 +43,7 @@ private:
     FieldBoxes m_txtCDDR;
     std::array<ResultLabel*, 4> m_lblCDDR{};
     std::array<QRadioButton*, 12> m_optNSEW{};
+    std::array<bool, positionFields> m_chosenNegative{}; ///< S or W was chosen last
     CDResult m_cd;
     DRResult m_dr;
 };

@@ -3,9 +3,11 @@
 
 #include "app/Format.h"
 #include "app/reading.h"
+#include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "navlib/arithmetic_error.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -19,8 +21,10 @@ std::string complaint(const ETAInput& input)
 {
     if (!isTD(input.txtTD[0])) return "TD at departure is not within -12 to 12.";
     if (!isTD(input.txtTD[1])) return "TD at arrival is not within -12 to 12.";
-    if (!readDateTime(input.departureDate)) return "The departure date is not a date.";
-    if (!readDateTime(input.departureTime)) return "The departure time is not a time.";
+    if (!readDateTime(input.departureDate))
+        return complaintOn("departure date", input.departureDate, Due::Date);
+    if (!readDateTime(input.departureTime))
+        return complaintOn("departure time", input.departureTime, Due::TimeOfDay);
     if (readNumber(input.txtDist) < 0) return "The distance is negative.";
     const double speed = readNumber(input.txtSpeed);
     if (speed < 0) return "The speed is negative.";
@@ -28,6 +32,19 @@ std::string complaint(const ETAInput& input)
         std::isinf(readNumber(input.txtDist)))
         return "A number is too large.";
     return "";
+}
+
+/// What was read in another way than it looks.
+std::string warningsOn(const ETAInput& input)
+{
+    Remarks said;
+    readField(input.txtTD[0], ETAFields[4], said);
+    readField(input.txtTD[1], ETAFields[5], said);
+    readField(input.txtDist, ETAFields[6], said);
+    readField(input.txtSpeed, ETAFields[7], said);
+    warnOfKind("departure date", input.departureDate, Due::Date, said);
+    warnOfKind("departure time", input.departureTime, Due::TimeOfDay, said);
+    return said.text();
 }
 
 std::string arrivalText(NavFunc113::DateTime arrival)
@@ -48,13 +65,17 @@ ETAResult CalculateETA(const ETAInput& input)
     ETALabels labels;
     // Single precision, as the speeds are shown: the arrivals belong to these very values.
     float speed = static_cast<float>(readNumber(input.txtSpeed));
-    if (speed == 0) return {labels, ""};
+    if (speed == 0)
+        return {labels, joined({input.txtDist.empty() ? "" : "The speed is 0: no arrivals",
+                                warningsOn(input)})};
     for (std::size_t i = 0; i < labels.lblSPD.size(); ++i, speed += 0.25F) {
         const double hours = NavFunc113::Quotient(distance, static_cast<double>(speed));
         labels.lblSPD[i] = Format(static_cast<double>(speed), "0.00 ");
         labels.lblETA[i] = arrivalText(departure + TDChange / 24 + hours / 24);
     }
-    return {labels, ""};
+    const bool isBlank = std::ranges::any_of(labels.lblETA, &std::string::empty);
+    return {labels,
+            joined({isBlank ? "An arrival lies beyond the calendar" : "", warningsOn(input)})};
 }
 
 } // namespace korvel

@@ -16,11 +16,17 @@ namespace
 /// Why the input cannot be used; empty when it can.
 std::string complaint(const ReqSpdInput& input)
 {
-    constexpr std::array complaints{
-        "The departure date is not a date.", "The departure time is not a time.",
-        "The arrival date is not a date.", "The arrival time is not a time."};
-    for (std::size_t i = 0; i < complaints.size(); ++i)
-        if (!readDateTime(input.txtTime[i])) return complaints[i];
+    struct Box {
+        const char* name;
+        Due due;
+    };
+    constexpr std::array<Box, 4> boxes = {{{"departure date", Due::Date},
+                                           {"departure time", Due::TimeOfDay},
+                                           {"arrival date", Due::Date},
+                                           {"arrival time", Due::TimeOfDay}}};
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        if (!readDateTime(input.txtTime[i]))
+            return complaintOn(boxes[i].name, input.txtTime[i], boxes[i].due);
     if (!isTD(input.txtTD[0])) return "TD at departure is not within -12 to 12.";
     if (!isTD(input.txtTD[1])) return "TD at arrival is not within -12 to 12.";
     if (readNumber(input.txtDist) < 0) return "The distance is negative.";
@@ -32,8 +38,10 @@ std::string complaint(const ReqSpdInput& input)
 
 ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
 {
-    // Nobody has asked for a speed yet.
-    if (input.txtTime[2].empty() && input.txtTime[3].empty()) return {std::nullopt, ""};
+    if (input.txtTime[2].empty() && input.txtTime[3].empty())
+        return {std::nullopt, input.txtDist.empty()
+                                  ? "" // nobody has asked for a speed yet
+                                  : "No arrival wanted is given: no required speed."};
     if (std::string notice = complaint(input); !notice.empty()) return {std::nullopt, notice};
     const double departure =
         *passageTime(input.txtTime[0], input.txtTime[1]) - readNumber(input.txtTD[0]) / 24;
@@ -42,7 +50,10 @@ ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
     // Within half a second they are one moment, whatever the last bits of their fractions are.
     const double hours = (arrival - departure) * 24;
     if (hours * 3600 < 0.5) return {std::nullopt, "The arrival does not lie after the departure."};
-    return {Format(NavFunc113::Quotient(readNumber(input.txtDist), hours), "0.00"), ""};
+    Remarks said;
+    warnOfKind("arrival date", input.txtTime[2], Due::Date, said);
+    warnOfKind("arrival time", input.txtTime[3], Due::TimeOfDay, said);
+    return {Format(NavFunc113::Quotient(readNumber(input.txtDist), hours), "0.00"), said.text()};
 }
 
 } // namespace korvel

@@ -15,11 +15,11 @@ inline constexpr std::array<Field, 8> ETAFields = {{
     {"txtTime(2)", "Arrival wanted", "Arrival date wanted, year/month/day", FieldKind::Moment},
     {"txtTime(3)", "", "Arrival time wanted, hours:minutes, local", FieldKind::Moment},
     {"txtTD(0)", "TD at departure", "Time difference TD at departure, hours, east positive",
-     FieldKind::Number, "hours"},
+     FieldKind::Number, "hours", -12, 12},
     {"txtTD(1)", "TD at arrival", "Time difference TD at arrival, hours, east positive",
-     FieldKind::Number, "hours"},
-    {"txtDist", "Distance", "Distance, nautical miles", FieldKind::Number, "miles"},
-    {"txtSpeed", "Speed", "Speed, knots", FieldKind::Number, "knots"},
+     FieldKind::Number, "hours", -12, 12},
+    {"txtDist", "Distance", "Distance, nautical miles", FieldKind::Number, "miles", 0},
+    {"txtSpeed", "Speed", "Speed, knots", FieldKind::Number, "knots", 0},
 }};
 
 } // namespace korvel

@@ -26,6 +26,17 @@ std::optional<NavFunc113::DateTime> passageTime(std::string_view date, std::stri
     return std::floor(*day) + (*clock - std::floor(*clock));
 }
 
+std::string complaintOn(std::string_view name, std::string_view box, Due due)
+{
+    return "The " + std::string(name) + ": " + readTypedTime(box, due).remark + ".";
+}
+
+void warnOfKind(std::string_view name, std::string_view box, Due due, Remarks& said)
+{
+    const std::string remark = readTypedTime(box, due).remark;
+    if (!remark.empty()) said.warn("The " + std::string(name) + ": " + remark);
+}
+
 bool isTD(std::string_view box)
 {
     return IsInRange(box, "-12", "12");

@@ -2,7 +2,7 @@
 #include "forms/frmGC2000/CalculateGC.h"
 
 #include "app/Format.h"
-#include "app/reading.h"
+#include "forms/frmGC2000/GCFields.h"
 #include "navlib/great_circle.h"
 
 #include <algorithm>
@@ -30,13 +30,6 @@ constexpr std::size_t mostWaypoints = GCResult::rowCount - 1; // after the depar
 struct Ends {
     DegMin lat1, long1, lat2, long2;
 };
-
-bool allInRange(const std::array<std::string, 4>& boxes)
-{
-    // The chart ends at 75 degrees; great circles between higher latitudes would leave it.
-    return IsInRange(boxes[0], "-65", "65") && IsInRange(boxes[1], "-180", "180") &&
-           IsInRange(boxes[2], "-65", "65") && IsInRange(boxes[3], "-180", "180");
-}
 
 /// The first whole ten degrees beyond a longitude in the direction of the route.
 DegMin firstMeridian(DegMin long1, bool eastward)
@@ -123,9 +116,11 @@ void fillTrack(GCResult& result, const Ends& ends)
 GCResult CalculateGC(const GCInput& input)
 {
     GCResult result;
-    if (!allInRange(input.txtGC)) return result;
-    const auto packed = [&](std::size_t i) { return DegMin(readNumber(input.txtGC[i])); };
-    const Ends ends{packed(0), packed(1), packed(2), packed(3)};
+    Remarks remarks;
+    const auto read = readFields(input.txtGC, std::span(GCFields), remarks);
+    result.notice = remarks.text();
+    if (!read) return result;
+    const Ends ends{DegMin((*read)[0]), DegMin((*read)[1]), DegMin((*read)[2]), DegMin((*read)[3])};
     const auto rhumbLine = [&](Earth earth) {
         return NavFunc113::RhumbDistance(ends.lat1, ends.long1, ends.lat2, ends.long2, earth);
     };

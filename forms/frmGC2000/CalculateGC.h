@@ -51,6 +51,7 @@ struct GCResult {
     std::string saving; ///< miles by which the great circle is shorter than the rhumb line
 
     GCRoute route;
+    std::string notice; ///< why everything is blank
 };
 
 /// Great-circle route with a waypoint on every tenth meridian. An input out of range blanks

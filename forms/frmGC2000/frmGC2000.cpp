@@ -255,6 +255,7 @@ void frmGC2000::runGC()
     show(m_lblVertexRemark, m_result.vertexRemark);
     show(m_lblSaving, m_result.saving);
     m_picGC->setChart(DrawWPs(m_result.route));
+    setNotice("input", QString::fromStdString(m_result.notice));
 }
 
 void frmGC2000::showRow(std::size_t row)

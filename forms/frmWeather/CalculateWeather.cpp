@@ -48,4 +48,11 @@ std::string CalculateWeatherTerm(std::size_t optWr)
            std::string(NavFunc113::WeatherName("J", letter));
 }
 
+std::string remarkOn(std::string_view text, const Field& field)
+{
+    Remarks remarks;
+    readField(text, field, remarks);
+    return remarks.text();
+}
+
 } // namespace korvel

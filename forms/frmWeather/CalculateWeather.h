@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/Field.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -27,5 +29,8 @@ VisibilityResult CalculateVisibility(std::string_view txtVISIBILITY);
 /// Letter, English and Japanese name for lblWr, separated by one blank.
 /// @param optWr number of the option button, 0 "b" to 19 "z"; any other gives an empty text
 std::string CalculateWeatherTerm(std::size_t optWr);
+
+/// What is to be said of a box of the weather window; empty when there is nothing.
+std::string remarkOn(std::string_view text, const Field& field);
 
 } // namespace korvel

@@ -95,17 +95,22 @@ QGroupBox* frmWeather::layOutLetters()
 
 void frmWeather::addCalculations()
 {
-    calculations().add({"Sea state", {m_boxes[Wave]}, {m_lblWave}, [this] {
+    const auto text = [this](std::size_t field) {
+        setNotice(WeatherFields[field].name,
+                  QString::fromStdString(remarkOn(m_boxes[field]->value(), WeatherFields[field])));
+        return m_boxes[field]->value();
+    };
+    calculations().add({"Sea state", {m_boxes[Wave]}, {m_lblWave}, [=, this] {
                             m_lblWave->setText(
-                                QString::fromStdString(CalculateSeaState(m_boxes[Wave]->value())));
+                                QString::fromStdString(CalculateSeaState(text(Wave))));
                         }});
-    calculations().add({"Swell", {m_boxes[Swell]}, {m_lblSWELL}, [this] {
+    calculations().add({"Swell", {m_boxes[Swell]}, {m_lblSWELL}, [=, this] {
                             m_lblSWELL->setText(
-                                QString::fromStdString(CalculateSwell(m_boxes[Swell]->value())));
+                                QString::fromStdString(CalculateSwell(text(Swell))));
                         }});
     calculations().add(
-        {"Visibility", {m_boxes[Visibility]}, {m_lblVISIBILITY, m_lblVISIBILITYnm}, [this] {
-             const auto result = CalculateVisibility(m_boxes[Visibility]->value());
+        {"Visibility", {m_boxes[Visibility]}, {m_lblVISIBILITY, m_lblVISIBILITYnm}, [=, this] {
+             const auto result = CalculateVisibility(text(Visibility));
              m_lblVISIBILITY->setText(QString::fromStdString(result.term));
              m_lblVISIBILITYnm->setText(QString::fromStdString(result.nauticalMiles));
          }});

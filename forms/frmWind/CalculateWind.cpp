@@ -2,32 +2,23 @@
 #include "forms/frmWind/CalculateWind.h"
 
 #include "app/Format.h"
-#include "app/reading.h"
+#include "forms/frmWind/WindFields.h"
 #include "navlib/wind.h"
 
 namespace korvel
 {
-namespace
-{
-
-/// A speed has no upper bound, so it bounds itself; what is no number is in no range.
-bool isSpeed(const std::string& box)
-{
-    return IsInRange(box, "0", box);
-}
-
-} // namespace
-
 WindResult CalculateWind(const std::array<std::string, 4>& txtWind)
 {
-    if (!IsInRange(txtWind[0], "0", "360") || !isSpeed(txtWind[1]) ||
-        !IsInRange(txtWind[2], "-180", "180") || !isSpeed(txtWind[3]))
-        return {};
+    WindResult result;
+    Remarks remarks;
+    const auto read = readFields(txtWind, std::span(WindFields), remarks);
+    result.notice = remarks.text();
+    if (!read) return result;
     WindFigures wind;
-    wind.course = NavFunc113::Degrees(readNumber(txtWind[0]));
-    wind.shipSpeed = NavFunc113::Knots(readNumber(txtWind[1]));
-    wind.relativeDirection = NavFunc113::Degrees(readNumber(txtWind[2]));
-    wind.apparentSpeed = NavFunc113::Knots(readNumber(txtWind[3]));
+    wind.course = NavFunc113::Degrees((*read)[0]);
+    wind.shipSpeed = NavFunc113::Knots((*read)[1]);
+    wind.relativeDirection = NavFunc113::Degrees((*read)[2]);
+    wind.apparentSpeed = NavFunc113::Knots((*read)[3]);
     wind.trueDirection = NavFunc113::TrueWindDirection(wind.course, wind.shipSpeed,
                                                        wind.relativeDirection, wind.apparentSpeed);
     wind.trueSpeed =
@@ -36,9 +27,11 @@ WindResult CalculateWind(const std::array<std::string, 4>& txtWind)
                                                       wind.relativeDirection, wind.apparentSpeed);
     const int beaufort = NavFunc113::BeaufortNumber(wind.trueSpeed);
 
-    return {{name + " <" + Format(wind.trueDirection, "000") + ">",
-             "Beaufort " + Format(beaufort, "0") + " (" + Format(wind.trueSpeed, "0.0Kn)")},
-            wind};
+    result.lblWind = {name + " <" + Format(wind.trueDirection, "000") + ">",
+                      "Beaufort " + Format(beaufort, "0") + " (" +
+                          Format(wind.trueSpeed, "0.0Kn)")};
+    result.figures = wind;
+    return result;
 }
 
 } // namespace korvel

@@ -13,6 +13,7 @@ namespace korvel
 struct WindResult {                     ///< an empty text blanks the label
     std::array<std::string, 2> lblWind; ///< direction of the true wind; Beaufort number and speed
     std::optional<WindFigures> figures; ///< for the picture; nothing: rings only
+    std::string notice; ///< why the labels are blank, and what else is to be said of the boxes
 };
 
 /// True wind from the apparent wind. An input that fails its check blanks both labels.

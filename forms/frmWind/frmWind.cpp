@@ -129,6 +129,7 @@ void frmWind::runWind()
     for (std::size_t i = 0; i < m_lblWind.size(); ++i)
         m_lblWind[i]->setText(QString::fromStdString(m_wind.lblWind[i]));
     m_picWind->setWind(m_wind.figures, orientation());
+    setNotice("input", QString::fromStdString(m_wind.notice));
 }
 
 void frmWind::optWind_Click()

@@ -4,11 +4,13 @@
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -49,6 +51,12 @@ void see(Stage& stage, const Words& words)
     }
     if (names.size() > 1 && words.size() != names.size() + 1)
         throw std::runtime_error("not one text for each control");
+}
+
+/// What a screen reader says of a control.
+std::string heardOf(QWidget& widget)
+{
+    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).toStdString();
 }
 
 std::string valueOf(QWidget& widget)
@@ -221,8 +229,9 @@ std::string focusedName()
 void selected(Stage&, const Words& words)
 {
     auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    if (!box) throw std::runtime_error("no box has the focus");
-    expectText(box->selectedText().toStdString(), words, 0);
+    auto* label = qobject_cast<QLabel*>(QApplication::focusWidget());
+    if (!box && !label) throw std::runtime_error("no box and no result has the focus");
+    expectText((box ? box->selectedText() : label->selectedText()).toStdString(), words, 0);
 }
 
 void count(const char* what, int seen, const Words& words)
@@ -248,6 +257,7 @@ const std::map<std::string, Verb>& eyeVerbs()
          [](S s, W w) {
              expectText(s.control(wordAt(w, 0)).accessibleName().toStdString(), w, 1);
          }},
+        {"heard", [](S s, W w) { expectText(heardOf(s.control(wordAt(w, 0))), w, 1); }},
         {"value", [](S s, W w) { expectText(valueOf(s.control(wordAt(w, 0))), w, 1); }},
         {"focus",
          [](S, W w) {

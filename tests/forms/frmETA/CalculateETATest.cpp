@@ -59,10 +59,14 @@ TEST(CalculateETA, whatKeepsTheLabelsAndWhatBlanksThem)
         ASSERT_TRUE(result.labels);
         EXPECT_THAT(result.labels->lblETA, Each(""));
         EXPECT_THAT(result.labels->lblSPD, Each(""));
-        EXPECT_EQ(result.notice, "");
+        EXPECT_THAT(result.notice, StartsWith("The speed is 0"));
     }
+    EXPECT_EQ(with(&ETAInput::txtDist, "5,000").notice,
+              "Distance: only 5 was read, write 5000 or 5.000");
+    EXPECT_THAT(with(&ETAInput::departureDate, "08:00").notice, HasSubstr("time where a date"));
     const auto never = with(&ETAInput::txtDist, "99999999999");
     EXPECT_THAT(never.labels->lblETA, Each("")) << "beyond the calendar";
+    EXPECT_THAT(never.notice, HasSubstr("beyond the calendar"));
     EXPECT_TRUE(with(&ETAInput::txtTD, TDs{"12", "-12"}).labels);
 }
 
