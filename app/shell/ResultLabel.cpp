@@ -43,6 +43,20 @@ void tellResultsToAssistiveTools()
     QAccessible::installFactory(accessibleResult);
 }
 
+void setTabOrderThrough(const std::vector<QWidget*>& controls)
+{
+    // The toolkit gives no place to a control that does not take the focus at the moment.
+    std::vector<Qt::FocusPolicy> policies;
+    for (QWidget* each : controls) {
+        policies.push_back(each->focusPolicy());
+        each->setFocusPolicy(Qt::TabFocus);
+    }
+    for (std::size_t i = 1; i < controls.size(); ++i)
+        QWidget::setTabOrder(controls[i - 1], controls[i]);
+    for (std::size_t i = 0; i < controls.size(); ++i)
+        controls[i]->setFocusPolicy(policies[i]);
+}
+
 ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);

@@ -6,6 +6,7 @@
 #include <QLabel>
 
 #include <functional>
+#include <vector>
 
 namespace korvel
 {
@@ -59,6 +60,9 @@ private:
     bool m_isTabStop = true;
     bool m_isEliding = false;
 };
+
+/// Lets Tab go through controls in this order; results that are blank as yet keep their place.
+void setTabOrderThrough(const std::vector<QWidget*>& controls);
 
 /// Lets assistive tools see the text of every result behind its name. Asked for again it does
 /// nothing.

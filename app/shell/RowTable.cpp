@@ -203,8 +203,7 @@ void RowTable::setTabOrderOfAll() const
     std::vector<QWidget*> order;
     std::ranges::copy(boxes(), std::back_inserter(order));
     std::ranges::copy(results(), std::back_inserter(order));
-    for (std::size_t i = 1; i < order.size(); ++i)
-        setTabOrder(order[i - 1], order[i]);
+    setTabOrderThrough(order);
 }
 
 } // namespace korvel

@@ -100,13 +100,11 @@ void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
 /// The boxes as by Enter, then what else can be reached without the mouse.
 void frmCDDR::setOrderOfTab()
 {
-    QWidget* before = m_txtCDDR[distance];
-    const auto follow = [&before](QWidget* next) {
-        setTabOrder(before, next);
-        before = next;
-    };
-    std::ranges::for_each(m_lblCDDR, follow);
-    std::ranges::for_each(m_optNSEW, follow);
+    std::vector<QWidget*> order;
+    std::ranges::copy(m_txtCDDR.all(), std::back_inserter(order));
+    std::ranges::copy(m_lblCDDR, std::back_inserter(order));
+    std::ranges::copy(m_optNSEW, std::back_inserter(order));
+    setTabOrderThrough(order);
 }
 
 QGroupBox* frmCDDR::layOutCD()

@@ -12,6 +12,9 @@ namespace korvel
 namespace
 {
 
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
 using testing::Each;
 using testing::ElementsAre;
 
