@@ -54,10 +54,10 @@ void measurePlaces(Body body, const std::string& name)
     for (double t = firstDay; t < lastDay; t += 1.02345) {
         const auto truth = erfareference::apparentPlace(body, t);
         const bool sun = body == Body::Sun;
-        hourAngle.add(60 *
-                      std::remainder(DegMinToDeg(sun ? SunGHA(t) : MoonGHA(t)) - truth.GHA, 360));
-        declination.add(
-            60 * (DegMinToDeg(sun ? SunDeclination(t) : MoonDeclination(t)) - truth.declination));
+        hourAngle.add(60 * std::remainder(
+                               DegMinToDeg(sun ? SunGHA(t) : MoonGHA(t)).value() - truth.GHA, 360));
+        declination.add(60 * (DegMinToDeg(sun ? SunDeclination(t) : MoonDeclination(t)).value() -
+                              truth.declination));
     }
     hourAngle.print(name + " GHA", "'");
     declination.print(name + " declination", "'");
@@ -86,7 +86,7 @@ void compare(Errors& errors, std::optional<DateTime> found, std::optional<DateTi
         errors.missed();
 }
 
-void measureEvents(const Routine& routine, Degrees greatestLatitude)
+void measureEvents(const Routine& routine, double greatestLatitude)
 {
     std::mt19937 random(20000101);
     std::uniform_real_distribution<double> unit(-1, 1);
@@ -95,17 +95,18 @@ void measureEvents(const Routine& routine, Degrees greatestLatitude)
         const double longitude = std::round(unit(random) * 180 * 60) / 60;
         const double latitude = std::round(unit(random) * greatestLatitude * 60) / 60;
         const double TD = std::clamp(std::round(longitude / 15), -12.0, 12.0);
-        const DegMin packedLongitude = DegToDegMin(longitude);
-        DegMin packedLatitude = DegToDegMin(latitude);
+        const DegMin packedLongitude = DegToDegMin(Degrees(longitude));
+        DegMin packedLatitude = DegToDegMin(Degrees(latitude));
         const erfareference::DayOfEvents events(routine.body, day, TD);
         std::optional<DateTime> found;
         try {
-            const DateTime time = routine.search(day, TD, packedLatitude, packedLongitude);
+            const DateTime time = routine.search(day, Hours(TD), packedLatitude, packedLongitude);
             if (time != 0) found = time;
         } catch (const ArithmeticError&) {
             continue;
         }
-        const auto better = routine.refined(day, TD, DegToDegMin(latitude), packedLongitude, 0);
+        const auto better =
+            routine.refined(day, Hours(TD), DegToDegMin(Degrees(latitude)), packedLongitude, 0);
         const auto same = events.event(routine.rising, latitude, longitude, Horizon::AsTheLibrary);
         compare(search, found, same);
         compare(refined, better, same);
@@ -126,6 +127,6 @@ int main()
     measurePlaces(Body::Sun, "Sun");
     measurePlaces(Body::Moon, "Moon");
     for (const Routine& routine : routines)
-        for (Degrees latitude : {50.0, 60.0})
+        for (double latitude : {50.0, 60.0})
             measureEvents(routine, latitude);
 }

@@ -92,14 +92,16 @@ FullPrediction::FullPrediction(const tidedata::Station& station, std::size_t lim
     for (const auto& [name, constant] : station.constants) {
         Part part = partOf(name);
         part.amplitude = constant.amplitude;
-        part.kappa = tidedata::reduced(constant.greenwichLag + part.speed * station.zone);
+        part.kappa = tidedata::reduced(constant.greenwichLag +
+                                       NavFunc113::Degrees(part.speed * station.zone.value()))
+                         .value();
         m_parts.push_back(std::move(part));
     }
     std::ranges::sort(m_parts, std::greater{}, &Part::amplitude);
     if (m_parts.size() > limit) m_parts.resize(limit);
 }
 
-std::vector<Wave> FullPrediction::wavesOf(long serial) const
+std::vector<Wave> FullPrediction::wavesOf(std::int64_t serial) const
 {
     const auto day = static_cast<double>(serial - 36526);
     const tidedata::MeanLongitudes at = tidedata::meanLongitudesAt(day);
@@ -112,18 +114,19 @@ std::vector<Wave> FullPrediction::wavesOf(long serial) const
             const tidedata::Node node = tidedata::nodeOf(basic->node, noon);
             const tidedata::Node midnight = tidedata::nodeOf(basic->node, at);
             factor *= std::pow(node.factor, std::fabs(power));
-            angle += power * (tidedata::argumentOf(*basic, at).angle - midnight.phase + node.phase);
+            angle += power *
+                     (tidedata::argumentOf(*basic, at).angle - midnight.phase + node.phase).value();
         }
         waves.push_back({factor * part.amplitude, angle, part.speed});
     }
     return waves;
 }
 
-NavFunc113::Metres FullPrediction::height(const std::vector<Wave>& waves, NavFunc113::Hours t) const
+double FullPrediction::height(const std::vector<Wave>& waves, double t) const
 {
     double sum = m_meanLevel;
     for (const Wave& wave : waves)
-        sum += wave.amplitude * std::cos(NavFunc113::DegToRad(wave.phase + wave.speed * t));
+        sum += wave.amplitude * cos(NavFunc113::Degrees(wave.phase + wave.speed * t));
     return sum;
 }
 

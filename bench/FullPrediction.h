@@ -13,9 +13,9 @@ namespace bench
 
 /// One constituent of one station, ready for a day.
 struct Wave {
-    double amplitude;          ///< f H, metres
-    NavFunc113::Degrees phase; ///< V + u - kappa at 00:00 of the day
-    NavFunc113::Degrees speed; ///< an hour
+    double amplitude; ///< f H, metres
+    double phase;     ///< V + u - kappa at 00:00 of the day
+    double speed;     ///< an hour
 };
 
 class FullPrediction
@@ -26,10 +26,10 @@ public:
     explicit FullPrediction(const tidedata::Station& station, std::size_t limit = 1000);
 
     /// The constituents for a day; node factors are those of noon.
-    std::vector<Wave> wavesOf(long serial) const;
+    std::vector<Wave> wavesOf(std::int64_t serial) const;
 
     /// Height above chart datum, t hours after 00:00 of that day in zone time.
-    NavFunc113::Metres height(const std::vector<Wave>& waves, NavFunc113::Hours t) const;
+    double height(const std::vector<Wave>& waves, double t) const;
 
     std::size_t size() const { return m_parts.size(); }
 
@@ -41,15 +41,15 @@ private:
     };
     struct Part {
         std::vector<Factor> factors;
-        NavFunc113::Metres amplitude;
-        NavFunc113::Degrees kappa;
-        NavFunc113::Degrees constant;
-        NavFunc113::Degrees speed;
+        double amplitude;
+        double kappa;
+        double constant;
+        double speed;
     };
     static Part partOf(std::string_view name);
 
     std::vector<Part> m_parts;
-    NavFunc113::Metres m_meanLevel;
+    double m_meanLevel;
 };
 
 } // namespace bench

@@ -61,7 +61,7 @@ struct Accuracy {
     double relative() const { return 100 * rms / deviation; }
 };
 
-TideValues fullValues(const bench::FullPrediction& full, long serial)
+TideValues fullValues(const bench::FullPrediction& full, std::int64_t serial)
 {
     const auto waves = full.wavesOf(serial);
     TideValues values;
@@ -75,8 +75,10 @@ TideExtremes extremesOf(const TideValues& values)
 {
     const auto high = std::max_element(values.begin() + 1, values.end());
     const auto low = std::min_element(values.begin() + 1, values.end());
-    return {*high, static_cast<double>(high - values.begin()) / 2, *low,
-            static_cast<double>(low - values.begin()) / 2};
+    const auto timeOf = [&](auto sample) {
+        return NavFunc113::Hours(static_cast<double>(sample - values.begin()) / 2);
+    };
+    return {*high, timeOf(high), *low, timeOf(low)};
 }
 
 Accuracy measure(const tidedata::Station& station)
@@ -89,8 +91,8 @@ Accuracy measure(const tidedata::Station& station)
     double squares = 0;
     double errorSquares = 0;
     double count = 0;
-    const long end = NavFunc113::DaySerial({2006, 1, 1});
-    for (long serial = NavFunc113::DaySerial({2003, 1, 1}); serial < end; ++serial) {
+    const std::int64_t end = NavFunc113::DaySerial({2006, 1, 1});
+    for (std::int64_t serial = NavFunc113::DaySerial({2003, 1, 1}); serial < end; ++serial) {
         const auto shown =
             korvel::PredictTide(root / "data", station.place, korvel::TideDates::label(serial), {});
         const TideValues truth = fullValues(full, serial);
@@ -103,8 +105,8 @@ Accuracy measure(const tidedata::Station& station)
         }
         const TideExtremes found = extremesOf(shown->values);
         const TideExtremes real = extremesOf(truth);
-        result.high.add(found.highest, real.highest, found.timeHigh, real.timeHigh);
-        result.low.add(found.lowest, real.lowest, found.timeLow, real.timeLow);
+        result.high.add(found.highest, real.highest, found.timeHigh.value(), real.timeHigh.value());
+        result.low.add(found.lowest, real.lowest, found.timeLow.value(), real.timeLow.value());
     }
     result.deviation = std::sqrt(squares / count - sum / count * sum / count);
     result.rms = std::sqrt(errorSquares / count);

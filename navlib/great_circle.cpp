@@ -14,6 +14,9 @@ namespace
 // Below this sine (some micrometres on the earth) two points or a point and a circle are one.
 constexpr double indistinguishable = 1e-12;
 
+// Minutes that are no exact binary fractions let opposite meridians miss half a turn by this.
+constexpr Degrees sameMeridian(1e-9);
+
 Degrees courseOf(double eastPart, double northPart)
 {
     const Degrees course = RadToDeg(Radians(std::atan2(eastPart, northPart)));
@@ -72,7 +75,7 @@ std::optional<GreatCircleTrack> TrackOfGreatCircle(DegMin lat1, DegMin long1, De
     const Radians phi1 = DegToRad(DegMinToDeg(lat1));
     const Radians phi2 = DegToRad(DegMinToDeg(lat2));
     const Degrees change = ChangeOfLongitude(long1, long2);
-    const bool acrossPole = fabs(change) == halfTurn;
+    const bool acrossPole = fabs(fabs(change) - halfTurn) < sameMeridian;
     const double sinChange = acrossPole ? 0 : sin(change);
     const double cosChange = acrossPole ? -1 : cos(change);
 

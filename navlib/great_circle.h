@@ -25,8 +25,8 @@ struct GreatCircleTrack {
     std::optional<Vertex> vertex;
 };
 
-/// Track of the shorter great circle between two positions. Meridians exactly 180 degrees apart are
-/// joined over the pole that is nearer.
+/// Track of the shorter great circle between two positions. Meridians 180 degrees apart, to
+/// within 1e-9, are joined over the pole that is nearer.
 ///
 /// Source of the formulas: spherical triangle of the two positions and the pole (four-parts
 /// formula) and Napier's rules for the right-angled triangle at the vertex; Bowditch, American

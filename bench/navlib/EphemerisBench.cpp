@@ -60,9 +60,10 @@ void SixteenPlacesByTheLibrary(benchmark::State& state)
     double date = 44197;
     for (auto _ : state) {
         for (const Place& place : places) {
-            DegMin latitude = place.latitude;
+            DegMin latitude(place.latitude);
             const auto find = [&](auto search) {
-                benchmark::DoNotOptimize(search(date, place.TD, latitude, place.longitude));
+                benchmark::DoNotOptimize(
+                    search(date, Hours(place.TD), latitude, DegMin(place.longitude)));
             };
             find(SunRiseSearch);
             find(SunSetSearch);

@@ -69,7 +69,7 @@ std::vector<Leg> packed(std::vector<Leg> legs)
 {
     for (Leg& leg : legs)
         for (double* angle : {&leg.lat1, &leg.long1, &leg.lat2, &leg.long2})
-            *angle = DegToDegMin(*angle);
+            *angle = DegToDegMin(Degrees(*angle)).packed();
     return legs;
 }
 
@@ -78,43 +78,47 @@ const std::vector<Leg> inDegMin = packed(inDegrees);
 const std::vector<Leg> routesInDegrees = longPassages();
 const std::vector<Leg> routesInDegMin = packed(routesInDegrees);
 
-double rhumbLeg(const Leg& leg, int spheroid)
+double rhumbLeg(const Leg& leg, Earth earth)
 {
-    const auto [course, distance] =
-        RhumbCourseAndDistance(leg.lat1, leg.long1, leg.lat2, leg.long2, spheroid);
-    return course + distance;
+    const auto [course, distance] = RhumbCourseAndDistance(
+        DegMin(leg.lat1), DegMin(leg.long1), DegMin(leg.lat2), DegMin(leg.long2), earth);
+    return course.value() + distance.value();
 }
 
-double deadReckoning(const Leg& leg, int spheroid)
+double deadReckoning(const Leg& leg, Earth earth)
 {
-    const double lat = DRLatitude(leg.lat1, leg.course, leg.miles, spheroid);
-    return lat + DRLongitude(leg.lat1, leg.long1, leg.course, leg.miles, spheroid, lat);
+    const DegMin lat1(leg.lat1), long1(leg.long1);
+    const Degrees course(leg.course);
+    const Miles miles(leg.miles);
+    const DegMin lat = DRLatitude(lat1, course, miles, earth);
+    return lat.packed() + DRLongitude(lat1, long1, course, miles, earth, lat).packed();
 }
 
-double greatCircle(const Leg& leg, int)
+double greatCircle(const Leg& leg, Earth)
 {
-    return GCDistance(leg.lat1, leg.long1, leg.lat2, leg.long2);
+    return GCDistance(DegMin(leg.lat1), DegMin(leg.long1), DegMin(leg.lat2), DegMin(leg.long2))
+        .value();
 }
 
-double route(const Leg& leg, int spheroid)
+double route(const Leg& leg, Earth earth)
 {
     double sum = 0;
-    double lat = leg.lat1;
-    double longitude = leg.long1;
-    const GreatCircle circle(leg.lat1, leg.long1, leg.lat2, leg.long2);
+    DegMin lat(leg.lat1);
+    DegMin longitude(leg.long1);
+    const GreatCircle circle(lat, longitude, DegMin(leg.lat2), DegMin(leg.long2));
     for (int i = 1; i <= waypoints; ++i) {
-        const double nextLong = leg.long1 + (leg.long2 - leg.long1) * i / waypoints;
-        const double nextLat = circle.latitudeAt(nextLong);
+        const DegMin nextLong(leg.long1 + (leg.long2 - leg.long1) * i / waypoints);
+        const DegMin nextLat = circle.latitudeAt(nextLong);
         const auto [course, distance] =
-            RhumbCourseAndDistance(lat, longitude, nextLat, nextLong, spheroid);
-        sum += course + distance;
+            RhumbCourseAndDistance(lat, longitude, nextLat, nextLong, earth);
+        sum += course.value() + distance.value();
         lat = nextLat;
         longitude = nextLong;
     }
     return sum;
 }
 
-double peerRhumbLeg(const Leg& leg, int)
+double peerRhumbLeg(const Leg& leg, Earth)
 {
     double metres = 0;
     double course = 0;
@@ -122,7 +126,7 @@ double peerRhumbLeg(const Leg& leg, int)
     return course + metres;
 }
 
-double peerDeadReckoning(const Leg& leg, int)
+double peerDeadReckoning(const Leg& leg, Earth)
 {
     double lat = 0;
     double longitude = 0;
@@ -131,14 +135,14 @@ double peerDeadReckoning(const Leg& leg, int)
     return lat + longitude;
 }
 
-double peerGreatCircle(const Leg& leg, int)
+double peerGreatCircle(const Leg& leg, Earth)
 {
     double metres = 0;
     Geodesic::WGS84().Inverse(leg.lat1, leg.long1, leg.lat2, leg.long2, metres);
     return metres;
 }
 
-double peerRoute(const Leg& leg, int)
+double peerRoute(const Leg& leg, Earth)
 {
     const auto line = Geodesic::WGS84().InverseLine(leg.lat1, leg.long1, leg.lat2, leg.long2);
     double sum = 0;
@@ -160,30 +164,30 @@ double peerRoute(const Leg& leg, int)
 
 struct Work {
     const char* name;
-    double (*run)(const Leg&, int spheroid);
-    int spheroid;
+    double (*run)(const Leg&, Earth earth);
+    Earth earth;
     const std::vector<Leg>& legs;
 };
 
 const std::array works{
-    Work{"peer/rhumb", peerRhumbLeg, 0, inDegrees},
-    Work{"ours/rhumb/sphere", rhumbLeg, 0, inDegMin},
-    Work{"ours/rhumb/spheroid", rhumbLeg, 1, inDegMin},
-    Work{"peer/dr", peerDeadReckoning, 0, inDegrees},
-    Work{"ours/dr/sphere", deadReckoning, 0, inDegMin},
-    Work{"ours/dr/spheroid", deadReckoning, 1, inDegMin},
-    Work{"peer/gc", peerGreatCircle, 0, inDegrees},
-    Work{"ours/gc/sphere", greatCircle, 0, inDegMin},
-    Work{"peer/route", peerRoute, 0, routesInDegrees},
-    Work{"ours/route/sphere", route, 0, routesInDegMin},
-    Work{"ours/route/spheroid", route, 1, routesInDegMin},
+    Work{"peer/rhumb", peerRhumbLeg, Earth::Sphere, inDegrees},
+    Work{"ours/rhumb/sphere", rhumbLeg, Earth::Sphere, inDegMin},
+    Work{"ours/rhumb/spheroid", rhumbLeg, Earth::Spheroid, inDegMin},
+    Work{"peer/dr", peerDeadReckoning, Earth::Sphere, inDegrees},
+    Work{"ours/dr/sphere", deadReckoning, Earth::Sphere, inDegMin},
+    Work{"ours/dr/spheroid", deadReckoning, Earth::Spheroid, inDegMin},
+    Work{"peer/gc", peerGreatCircle, Earth::Sphere, inDegrees},
+    Work{"ours/gc/sphere", greatCircle, Earth::Sphere, inDegMin},
+    Work{"peer/route", peerRoute, Earth::Sphere, routesInDegrees},
+    Work{"ours/route/sphere", route, Earth::Sphere, routesInDegMin},
+    Work{"ours/route/spheroid", route, Earth::Spheroid, routesInDegMin},
 };
 
 void measure(benchmark::State& state, const Work& work)
 {
     std::size_t i = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(work.run(work.legs[i], work.spheroid));
+        benchmark::DoNotOptimize(work.run(work.legs[i], work.earth));
         if (++i == work.legs.size()) i = 0;
     }
 }
@@ -194,7 +198,7 @@ int countOnly(std::string_view name, int rounds)
         if (name != work.name) continue;
         for (int round = 0; round < rounds; ++round)
             for (const Leg& leg : work.legs)
-                benchmark::DoNotOptimize(work.run(leg, work.spheroid));
+                benchmark::DoNotOptimize(work.run(leg, work.earth));
         return 0;
     }
     return 1;

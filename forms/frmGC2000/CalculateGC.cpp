@@ -71,10 +71,9 @@ GCRoute routeBetween(const Ends& ends, Earth earth)
     const NavFunc113::GreatCircle circle(ends.lat1, ends.long1, ends.lat2, ends.long2);
     for (const DegMin meridian : meridiansOfRoute(ends, route.eastward))
         route.waypoints.push_back({circle.latitudeAt(meridian), meridian});
-    // Along a meridian every latitude lies on it: the last waypoint is the arrival itself.
-    const Degrees change = fabs(ChangeOfLongitude(ends.long1, ends.long2));
-    if (change == Degrees(0) || change == NavFunc113::halfTurn)
-        route.waypoints.back().lat = ends.lat2;
+    // As it was typed: along a meridian every latitude lies on the circle, and elsewhere its last
+    // bits would show as 34.60'0.
+    route.waypoints.back().lat = ends.lat2;
 
     for (std::size_t i = 0; i + 1 < route.waypoints.size(); ++i) {
         const GCWaypoint& from = route.waypoints[i];
