@@ -78,13 +78,15 @@ enum class ReadWith { Hydrometer, OtherMeans };
 
 /// Density at 15 degC of a density observed at another temperature, Table 53A: found by repeated
 /// division by the correction factor until it changes by less than 1e-6 kg/m3.
-/// @throws ArithmeticError InvalidArgument unless observed > 0, or when no density fits
+/// @throws ArithmeticError InvalidArgument unless observed > 0; InvalidArgument or DivisionByZero
+///         when no density fits
 KilogramsPerCubicMetre Density15FromObserved(KilogramsPerCubicMetre observed, Celsius temperature,
                                              ReadWith means,
                                              CrudeEdition edition = CrudeEdition::Of1980);
 
 /// API gravity at 60 degF of one observed at another temperature, Table 5A.
-/// @throws ArithmeticError InvalidArgument unless observed > -131.5, or when no gravity fits
+/// @throws ArithmeticError InvalidArgument unless observed > -131.5; InvalidArgument or
+///         DivisionByZero when no gravity fits
 APIGravity API60FromObserved(APIGravity observed, Fahrenheit temperature, ReadWith means,
                              CrudeEdition edition = CrudeEdition::Of1980);
 

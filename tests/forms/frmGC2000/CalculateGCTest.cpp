@@ -99,6 +99,20 @@ TEST(CalculateGC, otherOceans)
     EXPECT_EQ(meridian.lblGC2000[2], "1200.'0");
 }
 
+TEST(CalculateGC, lastWaypointIsTheArrivalAsTyped)
+{
+    const auto arrival = [](const GCResult& result) {
+        return result.rows[result.route.waypoints.size() - 1].lat;
+    };
+    EXPECT_EQ(arrival(CalculateGC({{"-46.151", "-155.386", "-35.558", "24.214"}})), "35.55'8S")
+        << "rounding hides that the meridians are opposite";
+    for (int lat = 1; lat <= 65; ++lat) {
+        const std::string typed = std::to_string(lat);
+        EXPECT_EQ(arrival(CalculateGC({{"10", "139.39", typed, "-122.25"}})), typed + ".00'0N");
+        EXPECT_EQ(arrival(CalculateGC({{"10", "139.39", "-" + typed, "30"}})), typed + ".00'0S");
+    }
+}
+
 TEST(CalculateGC, outOfRangeBlanksEverything)
 {
     EXPECT_FALSE(CalculateGC({{"65", "180", "-65", "-170"}}).route.waypoints.empty());

@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: MIT
+#include "tests/navlib/Calls.h"
+
+#include "navlib/angles.h"
+#include "navlib/cargo.h"
+#include "navlib/datetime.h"
+#include "navlib/ephemeris.h"
+#include "navlib/great_circle.h"
+#include "navlib/meridian_passage.h"
+#include "navlib/rise_set.h"
+#include "navlib/sailing.h"
+#include "navlib/sight_fix.h"
+#include "navlib/sight_reduction.h"
+#include "navlib/tide.h"
+#include "navlib/unit_tables.h"
+#include "navlib/weather_terms.h"
+#include "navlib/wind.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+
+namespace NavFunc113::calls
+{
+namespace
+{
+
+template <typename Unit>
+std::vector<Unit> all(const Arguments& texts, std::size_t from = 0)
+{
+    std::vector<Unit> values;
+    for (std::size_t i = from; i < texts.size(); ++i)
+        values.push_back(argumentOf<Unit>(texts[i]));
+    return values;
+}
+
+template <typename... Parts>
+Result parts(const Parts&... part)
+{
+    Result result;
+    (addPart(result, part), ...);
+    return result;
+}
+
+Position positionAt(const Arguments& texts, std::size_t from)
+{
+    return {argumentOf<Degrees>(texts.at(from)), argumentOf<Degrees>(texts.at(from + 1))};
+}
+
+Result interpolated(const Arguments& texts)
+{
+    const auto numbers = all<double>(texts);
+    std::vector<TablePair> table; // "nan" stands for a coordinate that is not there
+    const auto coordinate = [](double number) {
+        return std::isnan(number) ? std::nullopt : std::optional(number);
+    };
+    for (std::size_t i = 1; i + 1 < numbers.size(); i += 2)
+        table.push_back({coordinate(numbers[i]), coordinate(numbers[i + 1])});
+    const auto value = InterpolateLagrange(numbers.at(0), table);
+    return value ? parts(*value) : parts("nothing");
+}
+
+Result track(const Arguments& texts)
+{
+    const auto at = all<DegMin>(texts);
+    const auto found = TrackOfGreatCircle(at.at(0), at.at(1), at.at(2), at.at(3));
+    if (!found) return parts("nothing");
+    Result result = parts(found->initialCourse, found->finalCourse);
+    if (!found->vertex) return result;
+    addPart(result, found->vertex->lat);
+    addPart(result, found->vertex->longitude);
+    addPart(result, found->vertex->onRoute ? "on the route" : "beyond");
+    return result;
+}
+
+Result terms(const Arguments& texts)
+{
+    const auto n = all<double>(texts);
+    const auto t = SunAltitudeTerms(DegMin(n.at(0)), static_cast<float>(n.at(1)), Metres(n.at(2)),
+                                    n.at(3), n.at(4), static_cast<float>(n.at(5)));
+    return parts(t.dip, t.refraction, t.semiDiameter, t.parallax, t.temperature, t.pressure,
+                 t.semiDiameterOfMonth, t.airSea);
+}
+
+template <typename... Parameters>
+Routine refined(std::optional<DateTime> (*function)(Parameters...))
+{
+    return [function](const Arguments& texts) {
+        const auto n = all<double>(texts);
+        const auto time = function(n.at(0), Hours(n.at(1)), DegMin(n.at(2)), DegMin(n.at(3)),
+                                   n.size() > 4 ? n[4] : 0);
+        return time ? parts(*time) : parts("nothing");
+    };
+}
+
+Result converted(const Arguments& texts)
+{
+    const std::map<std::string, Quantity> quantities = {{"length", Quantity::Length},
+                                                        {"area", Quantity::Area},
+                                                        {"volume", Quantity::Volume},
+                                                        {"pressure", Quantity::Pressure},
+                                                        {"weight", Quantity::Weight}};
+    const auto unit = [&](std::string symbol) -> const Unit& {
+        std::replace(symbol.begin(), symbol.end(), '_', ' ');
+        for (const Unit& each : UnitTable(quantities.at(texts.at(0))))
+            if (each.symbol == symbol) return each;
+        throw std::invalid_argument(symbol);
+    };
+    return parts(ConvertUnits(numberOf(texts.at(1)), unit(texts.at(2)), unit(texts.at(3))));
+}
+
+/// t; phase and amplitude of M2, S2, K1, O1; angle and factor of each this day and the next;
+/// quarter- and sixth-diurnal phase and coefficient.
+Result tide(const Arguments& texts)
+{
+    const auto n = all<double>(texts);
+    TideConstituents station;
+    DailyFactors thisDay, nextDay;
+    for (std::size_t j = 0; j < station.size(); ++j) {
+        station[j] = {Degrees(n.at(1 + 2 * j)), n.at(2 + 2 * j)};
+        thisDay[j] = {Degrees(n.at(9 + 2 * j)), n.at(10 + 2 * j)};
+        nextDay[j] = {Degrees(n.at(17 + 2 * j)), n.at(18 + 2 * j)};
+    }
+    const ShallowWaterTerms shallow{Degrees(n.at(25)), n.at(26), Degrees(n.at(27)), n.at(28)};
+    return parts(TideHarmonicSum(Hours(n[0]), station, thisDay, nextDay, shallow));
+}
+
+Result dates(const Arguments& texts)
+{
+    const auto n = all<int>(texts);
+    const CivilDate date{n.at(0), n.at(1), n.at(2)};
+    if (!IsCivilDate(date)) return parts("no date");
+    const auto serial = DaySerial(date);
+    const CivilDate back = DateOfSerial(serial);
+    return parts(serial, back.year, back.month, back.day);
+}
+
+Result dateAndTime(const Arguments& texts)
+{
+    const DateTime value = numberOf(texts.at(0));
+    const CivilDate date = DateOf(value);
+    const TimeOfDay time = TimeOf(value);
+    return parts(date.year, date.month, date.day, time.hour, time.minute, time.second);
+}
+
+Result picked(const Arguments& texts)
+{
+    const auto n = all<double>(texts, 1);
+    return parts(PickItem<double>(argumentOf<int>(texts.at(0)), n));
+}
+
+const std::map<std::string, Routine>& routines()
+{
+    static const std::map<std::string, Routine> table = {
+        {"DegMinToDeg", routine(DegMinToDeg)},
+        {"DegToDegMin", routine(DegToDegMin)},
+        {"DegToRad", routine(DegToRad)},
+        {"RadToDeg", routine(RadToDeg)},
+        {"ArcTan2", routine<Radians, double&, double>(ArcTan2)},
+        {"ArcCos", routine(ArcCos)},
+        {"ArcSin", routine(ArcSin)},
+        {"Log10", routine(Log10)},
+        {"SumDegMin", [](const Arguments& a) { return parts(SumDegMin(all<DegMin>(a))); }},
+        {"InterpolateLagrange", interpolated},
+        {"PickItem", picked},
+        {"Date", dates},
+        {"DateAndTime", dateAndTime},
+        {"NearestSecond", routine(NearestSecond)},
+        {"ChangeOfLongitude", routine(ChangeOfLongitude)},
+        {"EastWest",
+         [](const Arguments& a) {
+             const auto at = all<DegMin>(a);
+             return parts(NameOf(EastWest(at.at(0), at.at(1))));
+         }},
+        {"MeridionalParts", routine(MeridionalParts)},
+        {"LatitudeFactor", routine(LatitudeFactor)},
+        {"ParallelFactor", routine(ParallelFactor)},
+        {"RhumbCourse", routine(RhumbCourse)},
+        {"RhumbDistance", routine(RhumbDistance)},
+        {"DRLatitude", routine(DRLatitude)},
+        {"DRLongitude", routine<DegMin, DegMin, DegMin, Degrees, Miles, Earth>(DRLongitude)},
+        {"GCDistance", routine(GCDistance)},
+        {"GCLatitudeAt", routine(GCLatitudeAt)},
+        {"TrackOfGreatCircle", track},
+        {"TrueWindDirection", routine(TrueWindDirection)},
+        {"TrueWindSpeed", routine(TrueWindSpeed)},
+        {"TrueWindName", routine(TrueWindName)},
+        {"CompassName", routine(CompassName)},
+        {"BeaufortNumber", routine(BeaufortNumber)},
+        {"SeaStateCode", routine(SeaStateCode)},
+        {"SeaStateName", routine(SeaStateName)},
+        {"VisibilityCode", routine(VisibilityCode)},
+        {"VisibilityName", routine(VisibilityName)},
+        {"SwellTerm", routine(SwellTerm)},
+        {"WeatherName", routine(WeatherName)},
+        {"ConvertUnits", converted},
+        {"JulianDay", routine(JulianDay)},
+        {"SunLongitude", routine(SunLongitude)},
+        {"SunDistance", routine(SunDistance)},
+        {"SunAberration", routine(SunAberration)},
+        {"NutationLongitude", routine(NutationLongitude)},
+        {"NutationObliquity", routine(NutationObliquity)},
+        {"MoonLongitude", routine(MoonLongitude)},
+        {"MoonLatitude", routine(MoonLatitude)},
+        {"SunDeclination", routine(SunDeclination)},
+        {"SunRightAscension", routine(SunRightAscension)},
+        {"MoonDeclination", routine(MoonDeclination)},
+        {"MoonRightAscension", routine(MoonRightAscension)},
+        {"GreenwichSiderealTime", routine(GreenwichSiderealTime)},
+        {"SunGHA", routine(SunGHA)},
+        {"MoonGHA", routine(MoonGHA)},
+        {"SunHourAngleOffset", routine(SunHourAngleOffset)},
+        {"MoonHourAngleOffset", routine(MoonHourAngleOffset)},
+        {"MoonAge", routine(MoonAge)},
+        {"SunRiseHour", routine(SunRiseHour)},
+        {"SunSetHour", routine(SunSetHour)},
+        {"MoonRiseHour", routine(MoonRiseHour)},
+        {"MoonSetHour", routine(MoonSetHour)},
+        {"SunRiseAzimuth", routine(SunRiseAzimuth)},
+        {"SunSetAzimuth", routine(SunSetAzimuth)},
+        {"SunRiseSearch", routine(SunRiseSearch)},
+        {"SunSetSearch", routine(SunSetSearch)},
+        {"MoonRiseSearch", routine(MoonRiseSearch)},
+        {"MoonSetSearch", routine(MoonSetSearch)},
+        {"RefinedSunRise", refined(RefinedSunRise)},
+        {"RefinedSunSet", refined(RefinedSunSet)},
+        {"RefinedMoonRise", refined(RefinedMoonRise)},
+        {"RefinedMoonSet", refined(RefinedMoonSet)},
+        {"ComputedAltitude", routine(ComputedAltitude)},
+        {"ComputedAzimuth", routine(ComputedAzimuth)},
+        {"SunAltitudeTerms", terms},
+        {"SunAltitudeCorrection", routine(SunAltitudeCorrection)},
+        {"Advanced",
+         [](const Arguments& a) {
+             const auto [lat, longitude] = Advanced(
+                 positionAt(a, 0), {argumentOf<Degrees>(a.at(2)), argumentOf<Knots>(a.at(3))},
+                 argumentOf<Hours>(a.at(4)));
+             return parts(lat, longitude);
+         }},
+        {"PlaceAboveHorizon",
+         [](const Arguments& a) {
+             const auto [altitude, azimuth] = PlaceAboveHorizon(
+                 argumentOf<Degrees>(a.at(0)), argumentOf<Degrees>(a.at(1)), positionAt(a, 2));
+             return parts(altitude, azimuth);
+         }},
+        {"Intercept", routine(Intercept)},
+        {"EllipseOf",
+         [](const Arguments& a) {
+             const auto n = all<double>(a);
+             const ErrorEllipse e = EllipseOf({n.at(0), n.at(1), n.at(2)}, n.at(3), n.at(4));
+             return parts(e.semiMajor, e.semiMinor, e.majorAxis, e.sigmaNorth, e.sigmaEast);
+         }},
+        {"AssumedSigmaFactor", routine(AssumedSigmaFactor)},
+        {"MeasuredSigmaFactor", routine(MeasuredSigmaFactor)},
+        {"CutAngle", [](const Arguments& a) { return parts(CutAngle(all<Degrees>(a))); }},
+        {"MeridianLatitude", routine(MeridianLatitude)},
+        {"GreatestAltitudeDelay", routine(GreatestAltitudeDelay)},
+        {"MeanRefraction", routine(MeanRefraction)},
+        {"SemidiurnalChange", routine(SemidiurnalChange)},
+        {"DiurnalChange", routine(DiurnalChange)},
+        {"TideHarmonicSum", tide},
+        {"CelsiusOfFahrenheit", routine(CelsiusOfFahrenheit)},
+        {"FahrenheitOfCelsius", routine(FahrenheitOfCelsius)},
+        {"WaterDensity60F", routine(WaterDensity60F)},
+        {"Density60FromAPI", routine(Density60FromAPI)},
+        {"APIFromDensity60", routine(APIFromDensity60)},
+        {"Density15FromAPI", routine(Density15FromAPI)},
+        {"APIFromDensity15", routine(APIFromDensity15)},
+        {"VCF54A", routine(VCF54A)},
+        {"VCF6A", routine(VCF6A)},
+        {"WithinTable54A", routine(WithinTable54A)},
+        {"WithinTable6A", routine(WithinTable6A)},
+        {"Density15FromObserved", routine(Density15FromObserved)},
+        {"API60FromObserved", routine(API60FromObserved)},
+        {"KilolitresPerBarrel", routine(KilolitresPerBarrel)},
+        {"MassInVacuo", routine(MassInVacuo)},
+        {"WeightInAir", routine(WeightInAir)},
+        {"LongTonsOf", routine(LongTonsOf)},
+        {"Table56Factor", routine(Table56Factor)},
+        {"Table56FactorAsPrinted", routine(Table56FactorAsPrinted)},
+    };
+    return table;
+}
+
+/// 2024-06-21 or 2024-06-21T11:45:00; nothing for any other text.
+std::optional<double> dateTimeOf(const std::string& text)
+{
+    CivilDate date;
+    TimeOfDay time;
+    char dash = 0, letter = 0;
+    std::istringstream stream(text);
+    stream >> date.year >> dash >> date.month >> dash >> date.day;
+    if (!stream || dash != '-') return std::nullopt;
+    if (stream >> letter >> time.hour >> dash >> time.minute >> dash >> time.second)
+        return MakeDateTime(date, time.hour * 3600 + time.minute * 60 + time.second);
+    return MakeDateTime(date);
+}
+
+} // namespace
+
+void Result::add(double figure)
+{
+    texts.emplace_back(std::to_string(figure));
+    figures.push_back(figure);
+}
+
+void Result::add(std::string_view text)
+{
+    texts.emplace_back(text);
+    figures.push_back(std::numeric_limits<double>::quiet_NaN());
+}
+
+double numberOf(const std::string& argument)
+{
+    static const std::map<std::string, double> names = {
+        {"sphere", static_cast<double>(Earth::Sphere)},
+        {"spheroid", static_cast<double>(Earth::Spheroid)},
+        {"of1980", static_cast<double>(CrudeEdition::Of1980)},
+        {"of2004", static_cast<double>(CrudeEdition::Of2004)},
+        {"hydrometer", static_cast<double>(ReadWith::Hydrometer)},
+        {"other", static_cast<double>(ReadWith::OtherMeans)},
+        {"south", 1},
+        {"north", 0},
+    };
+    const auto named = names.find(argument);
+    if (named != names.end()) return named->second;
+    double value = 0;
+    const char* const end = argument.data() + argument.size();
+    const auto read = std::from_chars(argument.data(), end, value);
+    if (read.ec == std::errc() && read.ptr == end) return value;
+    if (const auto instant = dateTimeOf(argument)) return *instant;
+    throw std::invalid_argument("no argument: " + argument);
+}
+
+Result resultOf(const std::string& call)
+{
+    std::istringstream stream(call);
+    std::string name;
+    stream >> name;
+    Arguments arguments;
+    for (std::string text; stream >> text;)
+        arguments.push_back(text == "''" ? std::string() : text);
+    const auto found = routines().find(name);
+    if (found == routines().end()) throw std::invalid_argument("no routine " + name);
+    return found->second(arguments);
+}
+
+} // namespace NavFunc113::calls

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "navlib/arithmetic_error.h"
+#include "navlib/cargo.h"
+#include "navlib/datetime.h"
+#include "navlib/ephemeris_series.h"
+#include "navlib/unit_tables.h"
+#include "navlib/weather_terms.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <span>
+#include <string>
+
+namespace NavFunc113
+{
+namespace
+{
+
+TEST(UnitTables, everyUnitGoesThereAndBackAndCanBeToldApart)
+{
+    for (Quantity quantity : {Quantity::Length, Quantity::Area, Quantity::Volume,
+                              Quantity::Pressure, Quantity::Weight}) {
+        std::set<std::string_view> captions;
+        std::set<std::string_view> symbols;
+        for (const Unit& from : UnitTable(quantity)) {
+            EXPECT_TRUE(captions.insert(from.caption).second) << from.caption;
+            EXPECT_TRUE(symbols.insert(from.symbol).second) << from.symbol;
+            EXPECT_FALSE(from.definition.empty()) << from.caption;
+            for (const Unit& to : UnitTable(quantity))
+                EXPECT_NEAR(ConvertUnits(ConvertUnits(-12.5, from, to), to, from), -12.5, 1e-13)
+                    << from.caption << ", " << to.caption;
+        }
+    }
+}
+
+TEST(WeatherTerms, lettersStandInTheOrderOfTheButtons)
+{
+    std::string order;
+    for (const WeatherLetter& row : WeatherLetters())
+        order += std::string(row.letter) + ' ';
+    EXPECT_EQ(order, "b bc c d e f g h l m o p q r s t u v w z ");
+}
+
+TEST(Datetime, everyMinuteOfADaySurvivesItsFraction)
+{
+    for (int minute = 0; minute < 1440; ++minute) {
+        const TimeOfDay time = TimeOf(38000 + minute / 1440.0);
+        ASSERT_EQ(time.hour * 60 + time.minute, minute);
+        ASSERT_EQ(time.second, 0);
+    }
+}
+
+TEST(Cargo, observedDensitiesAndGravitiesLeadBack)
+{
+    for (const auto edition : {CrudeEdition::Of1980, CrudeEdition::Of2004})
+        for (const double density : {650.0, 830.0, 990.0}) {
+            const double found = Density15FromObserved(density, 40, ReadWith::OtherMeans, edition);
+            EXPECT_NEAR(found * VCF54A(found, 40, edition), density, 1e-5);
+            EXPECT_NEAR(Density15FromAPI(APIFromDensity15(density, edition), edition), density,
+                        1e-5);
+        }
+}
+
+TEST(EphemerisSeries, holdEveryTerm)
+{
+    // Sums of a column made apart from the tables: a digit lost in any row shows.
+    const auto sum = [](std::span<const SeriesTerm> terms, auto column) {
+        double total = 0;
+        for (const SeriesTerm& term : terms)
+            total += term.*column;
+        return total;
+    };
+    const struct {
+        std::span<const SeriesTerm> terms;
+        double amplitude, power, rate, phase;
+    } rows[] = {
+        {sunLongitudeTerms, 1.9428, 1, 865446.20, 3014.14},
+        {sunDistanceTerms, 0.016876, 1, 723502.10, 1519.06},
+        {moonLongitudeTerms, 9.2098, 0, 48731502.128, 9320.463},
+        {moonLatitudeTerms, 0.9556, 0, 40229453.34, 6791.68},
+    };
+    for (const auto& row : rows) {
+        EXPECT_NEAR(sum(row.terms, &SeriesTerm::amplitude), row.amplitude, 1e-9);
+        EXPECT_EQ(sum(row.terms, &SeriesTerm::power), row.power);
+        EXPECT_NEAR(sum(row.terms, &SeriesTerm::rate), row.rate, 1e-4);
+        EXPECT_NEAR(sum(row.terms, &SeriesTerm::phase), row.phase, 1e-6);
+    }
+}
+
+} // namespace
+} // namespace NavFunc113
