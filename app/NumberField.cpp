@@ -63,7 +63,7 @@ std::vector<std::string> meantNumbers(std::string_view text)
     const std::string_view whole = bare.substr(0, bare.find('.'));
     for (const char mark : {',', ' '})
         if (isGrouped(whole, mark)) meant.push_back(without(text, mark));
-    if (std::ranges::count(text, ',') == 1 && whole.size() == bare.size()) {
+    if (text.find(',') != std::string_view::npos && whole.size() == bare.size()) {
         std::string decimal(text);
         decimal[decimal.find(',')] = '.';
         meant.push_back(decimal);
