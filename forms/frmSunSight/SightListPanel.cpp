@@ -38,6 +38,10 @@ SightListPanel::SightListPanel(QWidget* parent)
     const int line = std::max(m_lstSunSight->fontMetrics().height(),
                               style()->pixelMetric(QStyle::PM_IndicatorHeight)) +
                      2;
+    m_lstSunSight->setMinimumWidth(
+        line + m_lstSunSight->fontMetrics().horizontalAdvance(
+                   "0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0  00'.0 T  Zn 000.0  "
+                   "residual -00.0 nm"));
     m_lstSunSight->setMinimumHeight(linesInSight * line + 2 * m_lstSunSight->frameWidth());
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         emit switched(static_cast<std::size_t>(m_lstSunSight->row(item)),

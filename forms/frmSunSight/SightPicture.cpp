@@ -26,8 +26,8 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     setFont(small);
-    const int side = fontMetrics().height() * 15;
-    setMinimumSize(side * 4 / 3, side);
+    const int side = fontMetrics().height() * 13;
+    setMinimumSize(side * 3 / 2, side);
     setUserScale({-half, half, half, -half});
 }
 

@@ -74,6 +74,12 @@ TEST(DrawLOP, linesLieOnTheirCirclesAtEveryLatitude)
         for (std::size_t i = 0; i < plot.lines.size(); ++i) {
             const bool near = fabs(fix.lines[i].line.intercept) < Miles(40);
             EXPECT_TRUE(plot.lines[i].visible || !near) << row << plot.lines[i].label;
+            for (const std::vector<PlotPoint>& run : plot.lines[i].runs) {
+                const PlotPoint from = run.front(), to = run.back();
+                const bool closed = std::hypot(from.x - to.x, from.y - to.y) < 0.1;
+                EXPECT_TRUE(closed || !(isInside(from) || isInside(to)))
+                    << row << "ends on the plot";
+            }
             EXPECT_LT(worstMiss(plot, plot.lines[i], fix.lines[i], fix.motion), 0.3)
                 << row << plot.lines[i].label;
         }

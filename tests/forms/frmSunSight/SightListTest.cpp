@@ -44,6 +44,19 @@ TEST(SightList, recordsEachSightOnce)
     EXPECT_EQ(list.sights().size(), 2U);
 }
 
+TEST(SightList, takesBackWhatWasRemovedLast)
+{
+    SightList list = listOf({morning2020, noon2020});
+    list.clear();
+    list.record(noon2020); // again, by hand
+    EXPECT_EQ(list.takeBack(), 1U);
+    EXPECT_EQ(list.sights().size(), 2U) << "a sight that is there again stays once";
+    EXPECT_FALSE(list.canTakeBack());
+    list.remove(0);
+    list.remove(0);
+    EXPECT_EQ(list.takeBack(), 1U) << "the last removal only";
+}
+
 TEST(SightList, fullAtForty)
 {
     SightList list;
