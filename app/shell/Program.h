@@ -44,8 +44,10 @@ public:
             ShipsTime& shipsTime);
 
     KV_Savedvalue& saved() { return m_saved; }
+    const KV_Savedvalue& saved() const { return m_saved; }
     KORVEL2000Actions& actions() { return m_actions; }
     ShipsTime& shipsTime() { return m_shipsTime; }
+    const ShipsTime& shipsTime() const { return m_shipsTime; }
     Questions& questions() { return m_machine.questions; }
     FileStore& files() { return m_machine.files; }
     ComputerClock& clock() { return m_machine.clock; }

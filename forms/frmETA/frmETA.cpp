@@ -65,8 +65,13 @@ frmETA::frmETA(Program& program)
     results5.insert(results5.end(), m_lblETA.begin(), m_lblETA.end());
     results5.push_back(m_lblReqSpd);
     calculations().add({"ETA", m_boxes.all(), results5, [this] { runETA(); }});
-    record().useTexts("KV_ETA.ini", m_boxes.all());
+    record().useTexts("KV_ETA.ini", m_boxes.all(), [this](Record& texts) {
+        for (std::size_t end = 0; end < m_TD.size(); ++end)
+            texts[4 + end] = m_TD[end]->recorded();
+    });
     loadSettings();
+    for (FollowingTD* TD : m_TD)
+        TD->settle();
     m_txtTime[0]->setFocus();
 }
 
@@ -128,9 +133,8 @@ void frmETA::addSpeedBar()
 
 void frmETA::offerDefaults()
 {
-    const QString TD = QString::fromStdString(Format(double(program().saved().TD()), "0.0"));
-    for (EntryBox* box : m_txtTD)
-        box->setText(TD);
+    for (std::size_t end = 0; end < m_TD.size(); ++end)
+        m_TD[end] = new FollowingTD(m_txtTD[end], program());
     EnterPresent();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/CalculatorWindow.h"
+#include "app/shell/FollowingTD.h"
 
 class QGroupBox;
 class QScrollBar;
@@ -48,6 +49,7 @@ private:
     FieldBoxes m_boxes;
     std::array<EntryBox*, 4> m_txtTime{};
     std::array<EntryBox*, 2> m_txtTD{};
+    std::array<FollowingTD*, 2> m_TD{}; ///< of the same boxes, which own them
     EntryBox* m_txtDist = nullptr;
     EntryBox* m_txtSpeed = nullptr;
     TimeEntry m_departure;

@@ -30,6 +30,8 @@ using NavFunc113::Miles;
 constexpr const char* distanceFormat = "0.'0";
 constexpr const char* hoursFormat = "0.0#";
 constexpr const char* speedFormat = "0.00";
+constexpr Knots fastest(40);               ///< what is faster was hardly a ship
+constexpr double clockLeeway = 2.0 / 1440; ///< days by which the ship's clock may be slow
 
 constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
 constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", NumberField::Form::Latitude};
@@ -84,10 +86,21 @@ std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, 
     return DegMin(*value);
 }
 
+/// "9 h 18 min".
+std::string hoursAndMinutes(double hours)
+{
+    const double minutes = std::round(std::fabs(hours) * 60);
+    return (hours < 0 ? "-" : "") + Format(std::floor(minutes / 60), "0") + " h " +
+           Format(std::fmod(minutes, 60), "0") + " min";
+}
+
 std::optional<double> timeDifferenceIn(const std::string& box, std::string& remark)
 {
     const auto value = numberIn(box, timeDifference, remark);
     const auto typed = readLeadingNumber(box);
+    // Zones differ by whole quarters of an hour: 9.3 was hardly meant as 9 h 18 min.
+    if (value && std::fabs(*value * 4 - std::round(*value * 4)) > 1e-9)
+        say(remark, "TD of " + hoursAndMinutes(*value));
     // Clocks of +13 show the same time of day as those of -11, a day later.
     if (!value && typed && std::fabs(*typed) <= 15)
         say(remark, *typed > 0
@@ -96,19 +109,33 @@ std::optional<double> timeDifferenceIn(const std::string& box, std::string& rema
     return value;
 }
 
+/// The time difference of a row. @param above that of the rows above; replaced by the row's own
+std::optional<double> timeDifferenceOf(const PositionRow& row, double& above,
+                                       PositionRowResult& result)
+{
+    if (row.satelliteTD.find_first_not_of(" \t") == std::string::npos) {
+        if (!row.isEmpty()) result.assumedTD = Format(above, "0.0#");
+        return above;
+    }
+    const auto td = timeDifferenceIn(row.satelliteTD, result.remark);
+    if (td) above = *td;
+    return td;
+}
+
 /// Reads a row, writes its UTC and remarks. @return the fix when the row is complete
-std::optional<Fix> fixOf(const PositionRecordInput& input, std::size_t index,
+std::optional<Fix> fixOf(const PositionRecordInput& input, std::size_t index, double& tdAbove,
                          PositionRowResult& result)
 {
     const PositionRow& row = input.rows[index];
     const auto smt = readFixTime(row.satelliteSMT);
     if (!smt && input.typingTimeIn != index) result.remark = faultOfFixTime(row.satelliteSMT);
-    const auto td = timeDifferenceIn(row.satelliteTD, result.remark);
+    const auto td = timeDifferenceOf(row, tdAbove, result);
     const auto latitude = angleIn(row.latitude, latitudeOfFix, result.remark);
     const auto longitude = angleIn(row.longitude, longitudeOfFix, result.remark);
     if (!smt || !td) return std::nullopt;
     const DateTime utc = NavFunc113::NearestSecond(*smt - *td / 24);
     result.utc = Format(utc, "yyyy/mm/dd hh:mm");
+    if (input.now && utc > *input.now + clockLeeway) say(result.remark, "lies in the future");
     if (!latitude || !longitude) return std::nullopt;
     return Fix{index, *smt, utc, *latitude, *longitude};
 }
@@ -127,6 +154,12 @@ void showLeg(const Leg& leg, PositionRowResult& row)
     row.distance = Format(leg.distance, distanceFormat);
     row.hours = Format(leg.hours, hoursFormat);
     if (leg.hours > Hours(0)) row.speed = Format(leg.distance / leg.hours, speedFormat);
+}
+
+bool isTooFast(const Leg& leg)
+{
+    return leg.hours > Hours(0) ? leg.distance / leg.hours > fastest
+                                : leg.hours == Hours(0) && leg.distance > Miles(1);
 }
 
 /// Sums of consecutive legs. Once a leg is missing or runs against time, nothing adds up any more.
@@ -229,9 +262,16 @@ std::string angleForCopy(const std::string& box, Axis axis)
     return isNumeric(box) ? positionForCopy(DegMin(readNumber(box)), axis) : box;
 }
 
-std::string timeDifferenceForCopy(const std::string& box)
+std::string timeDifferenceForCopy(const std::string& box, const std::string& assumed)
 {
-    return isNumeric(box) ? Format(readNumber(box), "+0.0#;-0.0#") : box;
+    const std::string& text = assumed.empty() ? box : assumed;
+    return isNumeric(text) ? Format(readNumber(text), "+0.0#;-0.0#") : text;
+}
+
+std::string mileText(NavFunc113::Earth earth)
+{
+    return earth == NavFunc113::Earth::Spheroid ? "1nm=1852m (spheroid)"
+                                                : "1nm=1' (of LATITUDE) (sphere)";
 }
 
 } // namespace
@@ -240,8 +280,9 @@ PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input)
 {
     PositionRecordResult result;
     std::vector<Fix> fixes;
+    double td = input.shipsTD;
     for (std::size_t i = 0; i < input.rows.size(); ++i)
-        if (const auto fix = fixOf(input, i, result.rows[i])) fixes.push_back(*fix);
+        if (const auto fix = fixOf(input, i, td, result.rows[i])) fixes.push_back(*fix);
 
     std::vector<std::optional<Leg>> legs;
     for (std::size_t i = 1; i < fixes.size(); ++i) {
@@ -253,10 +294,11 @@ PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input)
             legs.emplace_back(std::nullopt);
             say(next.remark, "no rhumb line leads here");
         }
+        const std::string from = "row " + Format(static_cast<double>(fixes[i - 1].row + 1), "0");
         next.outOfOrder = fixes[i].utc < fixes[i - 1].utc;
-        if (next.outOfOrder)
-            say(next.remark,
-                "earlier than row " + Format(static_cast<double>(fixes[i - 1].row + 1), "0"));
+        if (next.outOfOrder) say(next.remark, "earlier than " + from);
+        if (legs.back() && isTooFast(*legs.back()))
+            say(next.remark, "more than " + Format(fastest, "0") + " knots from " + from);
     }
     showRuns(fixes, legs, result);
     gatherRemarks(result);
@@ -273,7 +315,7 @@ std::string positionRecordText(const PositionRecordInput& input, const PositionR
         const PositionRowResult& shown = result.rows[i];
         if (row.isEmpty()) continue;
         text += Format(static_cast<double>(i + 1), "0") + "\t" + row.satelliteSMT + "\t" +
-                timeDifferenceForCopy(row.satelliteTD) + "\t" + shown.utc + "\t" +
+                timeDifferenceForCopy(row.satelliteTD, shown.assumedTD) + "\t" + shown.utc + "\t" +
                 angleForCopy(row.latitude, Axis::Latitude) + "\t" +
                 angleForCopy(row.longitude, Axis::Longitude) + "\t" + shown.course + "\t" +
                 shown.distance + "\t" + shown.hours + "\t" + shown.speed + "\t" + shown.dayRun +
@@ -283,7 +325,7 @@ std::string positionRecordText(const PositionRecordInput& input, const PositionR
         text += "Total\t\t\t\t\t\t\t" + result.totalDistance + "\t" + result.totalHours + "\t" +
                 result.averageSpeed + "\n";
     if (!result.drift.empty()) text += "Set and drift\t" + result.set + "\t" + result.drift + "\n";
-    return text;
+    return text + "Miles\t" + mileText(input.earth) + "\n";
 }
 
 } // namespace korvel

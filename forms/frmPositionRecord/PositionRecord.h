@@ -13,6 +13,8 @@ namespace korvel
 struct PositionRecordInput {
     PositionRows rows;
     NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
+    double shipsTD = 0;                      ///< hours, for rows that name none
+    std::optional<NavFunc113::DateTime> now; ///< UTC; nothing: no fix lies in the future
     std::string
         courseSteered;        ///< since the last fix but one, degrees true; empty: no set and drift
     std::string speedSteered; ///< knots
@@ -21,7 +23,8 @@ struct PositionRecordInput {
 
 /// Labels of a row; an empty text blanks the label.
 struct PositionRowResult {
-    std::string utc; ///< "2024/05/01 03:00", as soon as time and TD are there
+    std::string utc;       ///< "2024/05/01 03:00", as soon as time and TD are there
+    std::string assumedTD; ///< "9.0" where the row names none: that of the row above, or the ship's
 
     // To the next complete row; blank in the last complete one and in rows with gaps.
     std::string course;   ///< "<073.6>"
@@ -49,14 +52,15 @@ struct PositionRecordResult {
 
 /// Everything the record shows.
 ///
-/// A row counts when its time of fix (a full date and time, see NormaliseSMT), TD, latitude and
-/// longitude are there and make sense; rows with gaps are stepped over. Times between rows come
+/// A row counts when its time of fix (a full date and time, see NormaliseSMT), latitude and
+/// longitude are there and make sense; rows with gaps are stepped over. An empty TD is that of the
+/// row above, in the first rows the ship's. Times between rows come
 /// from UTC alone, so clock changes and the date line need no care. Courses and distances are
 /// rhumb lines.
 PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input);
 
 /// The record to be copied or printed: a heading, one line a row in use, the totals; the columns
-/// parted by tabs. What could not be read stands there as typed.
+/// parted by tabs, and which mile it is in. What could not be read stands there as typed.
 std::string positionRecordText(const PositionRecordInput& input,
                                const PositionRecordResult& result);
 

@@ -102,6 +102,9 @@ void PositionTable::show(const PositionRecordResult& record)
     for (std::size_t i = 0; i < rows(); ++i) {
         const PositionRowResult& shown = record.rows[i];
         showText(result(i, UTC), shown.utc);
+        const QString assumed = QString::fromStdString(shown.assumedTD);
+        if (row(i).satelliteTD->placeholderText() != assumed)
+            row(i).satelliteTD->setPlaceholderText(assumed);
         showText(result(i, Course), shown.course);
         showText(result(i, Distance), shown.distance);
         showText(result(i, Hours), shown.hours);

@@ -96,6 +96,7 @@ void frmPositionRecord::addCalculationOfRecord()
         m_table->row(i).satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
     m_calculation = calculations().add(
         {"Position record", std::move(inputs), std::move(results), [this] { run(); }});
+    connect(&program(), &Program::TDChanged, this, [this] { calculations().runAll(); });
 }
 
 void frmPositionRecord::addMenus()
@@ -168,6 +169,8 @@ PositionRecordInput frmPositionRecord::input() const
     PositionRecordInput typed;
     typed.rows = m_table->texts();
     typed.earth = program().earth();
+    typed.shipsTD = double(program().saved().TD());
+    typed.now = program().shipsTime().UTC();
     typed.courseSteered = m_txtCourseSteered->value();
     typed.speedSteered = m_txtSpeedSteered->value();
     if (m_table->row(m_row).satelliteSMT->hasFocus()) typed.typingTimeIn = m_row;

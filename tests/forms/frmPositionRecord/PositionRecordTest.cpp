@@ -235,7 +235,8 @@ TEST(PositionRecord, copiedText)
                                 "142°00.0'E\t<073.6>\t318.'6\t23.0\t13.85\t\t\n"));
     EXPECT_THAT(text, HasSubstr("5\thalf typed\t"));
     EXPECT_THAT(text, HasSubstr("\t980.'5\t70.0\t14.01\n"));
-    EXPECT_EQ(std::ranges::count(text, '\n'), 7);
+    EXPECT_THAT(text, HasSubstr("\nMiles\t1nm=1' (of LATITUDE) (sphere)\n"));
+    EXPECT_EQ(std::ranges::count(text, '\n'), 8);
 }
 
 } // namespace
