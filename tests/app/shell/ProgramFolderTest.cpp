@@ -94,7 +94,9 @@ TEST(ProgramFolder, refusesWhatIsNoFileWithoutWaitingForIt)
         EXPECT_EQ(files.read(name).status, Status::Unreadable) << name;
         EXPECT_NE(files.readAt(name, 0, 1).reason, "") << name;
         EXPECT_EQ(files.look(name).status, Status::Unreadable) << name;
-        if (name == "link") continue; // a save makes the file that the link means
+        // A save makes the file that a link means. What is written to a device is never tried: as
+        // root a save that does not refuse would replace the machine's own.
+        if (isSymLink) continue;
         EXPECT_NE(files.save(name, "a").value_or(""), "") << name;
         EXPECT_NE(files.rename(name, "kept").value_or(""), "") << name;
         EXPECT_NE(files.remove(name).value_or(""), "") << name;
