@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "bench/FullPrediction.h"
-
 #include "app/Format.h"
-#include "forms/frmTIDE/PredictTide.h"
-#include "forms/frmTIDE/TideDates.h"
+#include "app/shell/ProgramFolder.h"
+#include "forms/frmTIDE/Stations.h"
+#include "forms/frmTIDE/TideTables.h"
 #include "navlib/datetime.h"
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
+#include <cstdint>
 #include <iostream>
 #include <numeric>
 #include <string_view>
@@ -18,18 +17,24 @@
 /// records over 2003 to 2005.
 ///
 ///   tide_accuracy                        the table of all stations with a record, in Markdown
+///   tide_accuracy --list                 the same figures as data/accuracy.txt holds them
 ///   tide_accuracy Yokohama 2003/07/15    one day, half hour by half hour
 namespace
 {
 
+using korvel::TidePrediction;
 using NavFunc113::TideExtremes;
 using NavFunc113::TideValues;
 
-const std::filesystem::path root = KORVEL_SOURCE_DIR;
+korvel::FileStore& data()
+{
+    static korvel::ProgramFolder folder(QStringLiteral(KORVEL_SOURCE_DIR "/data"));
+    return folder;
+}
 
 // A day's highest or lowest that lies this far from the full prediction's is another one of the
 // day's tides, of almost the same height; its time says nothing about the error in time.
-constexpr double anotherTide = 3; // hours
+constexpr NavFunc113::Hours anotherTide(3);
 
 struct ExtremeErrors {
     double squares = 0;
@@ -37,13 +42,13 @@ struct ExtremeErrors {
     int same = 0;
     int days = 0;
 
-    void add(double height, double fullHeight, double time, double fullTime)
+    void add(double height, double fullHeight, NavFunc113::Hours time, NavFunc113::Hours fullTime)
     {
         ++days;
         squares += (height - fullHeight) * (height - fullHeight);
-        if (std::fabs(time - fullTime) > anotherTide) return;
+        if (fabs(time - fullTime) > anotherTide) return;
         ++same;
-        minutes += std::fabs(time - fullTime) * 60;
+        minutes += fabs(time - fullTime).value() * 60;
     }
     double rms() const { return std::sqrt(squares / days); }
     double meanMinutes() const { return minutes / same; }
@@ -61,13 +66,12 @@ struct Accuracy {
     double relative() const { return 100 * rms / deviation; }
 };
 
-TideValues fullValues(const bench::FullPrediction& full, std::int64_t serial)
+// The station as the window reads it.
+korvel::StationDays daysOf(const std::string& place)
 {
-    const auto waves = full.wavesOf(serial);
-    TideValues values;
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = full.height(waves, static_cast<double>(i) / 2);
-    return values;
+    static const korvel::StationList list(data());
+    static const korvel::FullConstants constants(data());
+    return {data(), korvel::TideKind::Tide, place, list, constants};
 }
 
 // The true extremes of the samples, without the bounds that the program's search starts with.
@@ -75,38 +79,36 @@ TideExtremes extremesOf(const TideValues& values)
 {
     const auto high = std::max_element(values.begin() + 1, values.end());
     const auto low = std::min_element(values.begin() + 1, values.end());
-    const auto timeOf = [&](auto sample) {
-        return NavFunc113::Hours(static_cast<double>(sample - values.begin()) / 2);
-    };
-    return {*high, timeOf(high), *low, timeOf(low)};
+    return {*high, NavFunc113::Hours(static_cast<double>(high - values.begin()) / 2), *low,
+            NavFunc113::Hours(static_cast<double>(low - values.begin()) / 2)};
 }
 
-Accuracy measure(const tidedata::Station& station)
+Accuracy measure(const korvel::StationNotes& notes)
 {
-    const bench::FullPrediction full(station);
+    const korvel::StationDays station = daysOf(notes.place);
     Accuracy result;
-    result.place = station.place;
-    result.grade = station.grade;
+    result.place = notes.place;
+    result.grade = notes.grade;
     double sum = 0;
     double squares = 0;
     double errorSquares = 0;
     double count = 0;
     const std::int64_t end = NavFunc113::DaySerial({2006, 1, 1});
     for (std::int64_t serial = NavFunc113::DaySerial({2003, 1, 1}); serial < end; ++serial) {
-        const auto shown =
-            korvel::PredictTide(root / "data", station.place, korvel::TideDates::label(serial), {});
-        const TideValues truth = fullValues(full, serial);
+        const korvel::TideDayShown day = station.day(serial);
+        const TidePrediction& shown = day.four;
+        const TideValues truth = day.all.value().halfHourly();
         for (std::size_t i = 0; i + 1 < truth.size(); ++i) {
-            const double error = shown->values[i] - truth[i];
+            const double error = shown.values[i] - truth[i];
             sum += truth[i];
             squares += truth[i] * truth[i];
             errorSquares += error * error;
             ++count;
         }
-        const TideExtremes found = extremesOf(shown->values);
+        const TideExtremes found = extremesOf(shown.values);
         const TideExtremes real = extremesOf(truth);
-        result.high.add(found.highest, real.highest, found.timeHigh.value(), real.timeHigh.value());
-        result.low.add(found.lowest, real.lowest, found.timeLow.value(), real.timeLow.value());
+        result.high.add(found.highest, real.highest, found.timeHigh, real.timeHigh);
+        result.low.add(found.lowest, real.lowest, found.timeLow, real.timeLow);
     }
     result.deviation = std::sqrt(squares / count - sum / count * sum / count);
     result.rms = std::sqrt(errorSquares / count);
@@ -169,36 +171,56 @@ void printSummary(const std::vector<Accuracy>& all)
               << " minutes.\n";
 }
 
-void printTable(const tidedata::Sources& sources)
+std::vector<Accuracy> measureAll()
+{
+    const korvel::StationList list(data());
+    std::vector<Accuracy> all;
+    for (const korvel::StationNotes& notes : list.all()) {
+        // A modelled place has no record whose minor constituents could be predicted in full.
+        if (notes.grade == "none" || notes.source.starts_with("modelled")) continue;
+        all.push_back(measure(notes));
+    }
+    return all;
+}
+
+void printTable()
 {
     std::cout
         << "| station | grade | standard deviation of the tide, m | RMS error, m (relative) | "
            "highest / lowest of the day: RMS error, m | their times: mean error, minutes | "
            "days with another highest / lowest, % |\n|---|---|---|---|---|---|---|\n";
-    std::vector<Accuracy> all;
-    for (const tidedata::Station& station : sources.stations) {
-        // A modelled place has no record whose minor constituents could be predicted in full.
-        if (station.source.starts_with("modelled")) continue;
-        all.push_back(measure(station));
-        printRow(all.back());
-    }
+    const std::vector<Accuracy> all = measureAll();
+    for (const Accuracy& a : all)
+        printRow(a);
     printSummary(all);
 }
 
-int printDay(const tidedata::Sources& sources, const std::string& place, const std::string& date)
+void printList()
 {
-    const auto station = std::ranges::find(sources.stations, place, &tidedata::Station::place);
+    std::cout
+        << "# The four-constituent method against the sum of all constituents, 2003 to 2005: "
+           "place,\n# RMS error (m) of the half hours, of the day's highest and of its lowest, "
+           "mean error of\n# their times (minutes) (tabs). tide_accuracy --list writes it.\n";
+    for (const Accuracy& a : measureAll())
+        std::cout << a.place << "\t" << metres(a.rms) << "\t" << metres(a.high.rms()) << "\t"
+                  << metres(a.low.rms()) << "\t" << korvel::Format(a.high.meanMinutes(), "0")
+                  << "\t" << korvel::Format(a.low.meanMinutes(), "0") << "\n";
+}
+
+int printDay(const std::string& place, const std::string& date)
+{
     const auto serial = korvel::TideDates::dateIn(date);
-    if (station == sources.stations.end() || !serial) {
-        std::cerr << "usage: tide_accuracy [PLACE yyyy/m/d]\n";
+    if (!korvel::isTideStation(place) || !serial) {
+        std::cerr << "usage: tide_accuracy [--list | PLACE yyyy/m/d]\n";
         return 2;
     }
-    const auto shown = korvel::PredictTide(root / "data", place, date, {});
-    const TideValues truth = fullValues(bench::FullPrediction(*station), *serial);
-    std::cout << shown->title << "  " << shown->lblTideInfo << "\nhour   program  full\n";
+    const korvel::TideDayShown day = daysOf(place).day(*serial);
+    const TideValues truth =
+        day.all ? day.all->halfHourly() : TideValues{}; // 0 for a modelled place
+    std::cout << day.four.title << "  " << day.four.lblTideInfo << "\nhour   program  full\n";
     for (std::size_t i = 0; i < truth.size(); ++i)
         std::cout << korvel::Format(static_cast<double>(i) / 2, "00.0") << "   "
-                  << metres(shown->values[i]) << "   " << metres(truth[i]) << "\n";
+                  << metres(day.four.values[i]) << "   " << metres(truth[i]) << "\n";
     return 0;
 }
 
@@ -206,9 +228,11 @@ int printDay(const tidedata::Sources& sources, const std::string& place, const s
 
 int main(int argc, char** argv)
 try {
-    const tidedata::Sources sources = tidedata::readSources(root / "tools/tidedata/sources.json");
-    if (argc == 3) return printDay(sources, argv[1], argv[2]);
-    printTable(sources);
+    if (argc == 3) return printDay(argv[1], argv[2]);
+    if (argc == 2 && std::string_view(argv[1]) == "--list")
+        printList();
+    else
+        printTable();
     return 0;
 } catch (const std::exception& fault) {
     std::cerr << "tide_accuracy: " << fault.what() << "\n";

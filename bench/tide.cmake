@@ -2,15 +2,13 @@
 # tide_accuracy prints how far the prediction is from the full harmonic one; tide_bench how long a
 # day takes. Bars: ours/tide_day at most 0.16 of peer/tide_day (a plain sum of 37 constituents whose
 # arguments are given); ours/tide_from_disk, which reads the day's arguments and the station, at most
-# 0.4 of peer/tide_from_disk (the same sum, which works the arguments out).
-add_library(tide_full STATIC FullPrediction.cpp)
-target_link_libraries(tide_full PUBLIC tidedata_sources)
-
+# 0.4 of peer/tide_from_disk (the same sum, which works the arguments out); ours/tide_month at most
+# 20 of peer/tide_month (a day of it).
 add_executable(tide_accuracy TideAccuracy.cpp)
-target_link_libraries(tide_accuracy PRIVATE tide_full frmTIDE_calculation)
+target_link_libraries(tide_accuracy PRIVATE frmTIDE_calculation app_shell)
 
 add_executable(tide_bench navlib/TideBench.cpp)
-target_link_libraries(tide_bench PRIVATE tide_full frmTIDE_calculation benchmark::benchmark)
+target_link_libraries(tide_bench PRIVATE tidedata_sources frmTIDE_calculation app_shell benchmark::benchmark)
 
 foreach(target tide_accuracy tide_bench)
   target_compile_definitions(${target} PRIVATE KORVEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")

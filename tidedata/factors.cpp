@@ -82,14 +82,18 @@ std::string factorsLine(std::int64_t serial)
     return line + "\r\n";
 }
 
-std::string factorsFile(int lastYear)
+std::string factorsFile(int lastYear, const std::function<void(int percent)>& progress)
 {
     if (lastYear < firstFactorYear || lastYear > lastFactorYear)
         throw std::out_of_range("the last year must lie in 2005 to 2060");
     std::string text;
     const std::int64_t lastSerial = NavFunc113::DaySerial({lastYear + 1, 1, 1});
-    for (std::int64_t serial = firstSerial; serial <= lastSerial; ++serial)
+    constexpr std::int64_t year = 365;
+    for (std::int64_t serial = firstSerial; serial <= lastSerial; ++serial) {
         text += factorsLine(serial);
+        if (progress && (serial - firstSerial) % year == 0)
+            progress(static_cast<int>(100 * (serial - firstSerial) / (lastSerial - firstSerial)));
+    }
     return text;
 }
 

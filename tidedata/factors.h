@@ -5,6 +5,7 @@
 #include "tidedata/astronomy.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 /// The daily astronomical factors: one line a day for all stations.
@@ -30,7 +31,8 @@ std::string factorsLine(std::int64_t serial);
 /// The whole file: from 2002-10-01 to 1 January after the last year, because the last day's
 /// prediction needs the day after it too.
 /// @param lastYear firstFactorYear to lastFactorYear
+/// @param progress called after every year with the percentage that is made, for who waits for it
 /// @throws std::out_of_range for another year
-std::string factorsFile(int lastYear);
+std::string factorsFile(int lastYear, const std::function<void(int percent)>& progress = {});
 
 } // namespace tidedata

@@ -69,6 +69,8 @@ signals:
     void TDChanged();
     /// Every window is to write its record now: the program may be about to end.
     void recordsWanted();
+    /// The clocks show another minute.
+    void minuteChanged();
     /// A calculator window closed; its menu entry is unticked.
     void windowClosed(const QString& name);
 

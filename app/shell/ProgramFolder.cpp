@@ -34,8 +34,10 @@ ProgramFolder::ProgramFolder(QString folder) : m_folder(std::move(folder))
     // A save writes "KV_GC.ini.AbCdEf" beside the file and renames it; one that was killed leaves
     // it.
     const QDir directory(m_folder);
-    for (const QString& remnant : directory.entryList({"KV_*.ini.??????"}, QDir::Files))
-        QFile::remove(directory.filePath(remnant));
+    const QStringList remnants = {"KV_*.ini.??????", "AF2005.txt.??????", "Tide *.csv.??????"};
+    for (const QString& remnant : directory.entryList(remnants, QDir::Files))
+        if (!remnant.endsWith(".before")) // the factors file before an extension
+            QFile::remove(directory.filePath(remnant));
 }
 
 QString ProgramFolder::pathOf(const std::string& name) const

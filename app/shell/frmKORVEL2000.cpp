@@ -56,7 +56,10 @@ ShipsTime::Hooks frmKORVEL2000::clockHooks()
 {
     return {[this](const std::string& text) { m_panel->showClock(text); },
             [this](const std::string& text) { setWindowTitle(QString::fromStdString(text)); },
-            [this](NavFunc113::DateTime smt) { m_alarmBoxes.show(m_alarms.check(smt)); }};
+            [this](NavFunc113::DateTime smt) {
+                m_alarmBoxes.show(m_alarms.check(smt));
+                emit m_program.minuteChanged();
+            }};
 }
 
 MainMenus::Actions frmKORVEL2000::menuActions()

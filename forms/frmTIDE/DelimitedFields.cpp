@@ -16,8 +16,8 @@ constexpr std::string_view separators = ", \t\r\n";
 
 } // namespace
 
-FieldReader::FieldReader(const std::string& file, std::string_view content, std::int64_t line)
-    : m_file(file), m_rest(content), m_line(line)
+FieldReader::FieldReader(std::string file, std::string_view content, std::int64_t line)
+    : m_file(std::move(file)), m_rest(content), m_line(line)
 {
 }
 
@@ -96,7 +96,7 @@ void FieldReader::skipSeparator()
 
 void FieldReader::fault(const std::string& trouble) const
 {
-    throw TideDataFault(m_file.substr(m_file.rfind('/') + 1), m_line, m_field, trouble);
+    throw TideDataFault(m_file, m_line, m_field, trouble);
 }
 
 } // namespace korvel

@@ -14,10 +14,10 @@ namespace korvel
 class FieldReader
 {
 public:
-    /// @param file path, the name of which is for faults
-    /// @param content must, like the path, outlive the reader
+    /// @param file name for faults
+    /// @param content must outlive the reader
     /// @param line number of the content's first line
-    FieldReader(const std::string& file, std::string_view content, std::int64_t line);
+    FieldReader(std::string file, std::string_view content, std::int64_t line);
 
     std::string text();
     double number();
@@ -32,7 +32,7 @@ private:
     std::string_view takeUntil(std::string_view ends);
     [[noreturn]] void fault(const std::string& trouble) const;
 
-    const std::string& m_file;
+    std::string m_file;
     std::string_view m_rest;
     std::int64_t m_line;
     int m_field = 0;

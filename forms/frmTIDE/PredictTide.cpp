@@ -2,7 +2,6 @@
 #include "forms/frmTIDE/PredictTide.h"
 
 #include "app/Format.h"
-#include "forms/frmTIDE/TideData.h"
 #include "forms/frmTIDE/TideDates.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
@@ -28,14 +27,17 @@ std::string timeText(NavFunc113::Hours time)
 }
 
 TidePrediction predict(const TideStation& station, const DaysFactors& factors, double level,
-                       const TidePrediction& shown)
+                       std::int64_t serial, const TidePrediction& shown)
 {
     TidePrediction prediction;
     prediction.title = station.title;
+    prediction.station = station;
+    prediction.serial = serial;
+    prediction.level = level;
     prediction.lblTD = Format(station.zone, "0.0hE;0.0hW");
-    const NavFunc113::TideDay day(station.constituents, factors.thisDay, factors.nextDay,
-                                  station.shallowWater);
-    prediction.values = day.halfHourly(level);
+    prediction.day.emplace(station.constituents, factors.thisDay, factors.nextDay,
+                           station.shallowWater);
+    prediction.values = prediction.day->halfHourly(level);
     prediction.extremes = NavFunc113::SearchHighestLowest(prediction.values, shown.extremes);
     return prediction;
 }
@@ -47,35 +49,39 @@ std::string info(const NavFunc113::TideExtremes& extremes, std::string_view high
            timeText(extremes.timeLow) + Format(extremes.lowest, lowFormat);
 }
 
+// The search starts at a highest of 0 and a lowest of 5, and keeps the times of the day before.
+std::string remarkOn(const TidePrediction& prediction, const std::string& unit)
+{
+    std::string remark;
+    if (prediction.extremes.highest <= 0)
+        remark = prediction.kind == TideKind::Stream
+                     ? "The stream never turns positive this day: the highest is not of this day."
+                     : "No height above 0 this day: the highest is not of this day.";
+    if (prediction.extremes.lowest >= 5)
+        remark += std::string(remark.empty() ? "" : "  ") + "Nothing below 5" + unit +
+                  " this day: the lowest is not of this day.";
+    return remark;
+}
+
 } // namespace
 
-std::optional<TidePrediction> PredictTide(const std::filesystem::path& programFolder,
-                                          const std::string& lblPlace, std::string_view lblDate,
-                                          const TidePrediction& shown)
+TidePrediction predictTideDay(const TideStation& station, const DaysFactors& factors,
+                              std::int64_t serial, const TidePrediction& shown)
 {
-    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
-    if (!date) return std::nullopt;
-    const DaysFactors factors = readDaysFactors(programFolder, *date - firstFactorsSerial);
-    const TideStation station = readTideStation(programFolder, lblPlace);
-    const int month = NavFunc113::DateOfSerial(*date).month;
+    const int month = NavFunc113::DateOfSerial(serial).month;
     const double correction = station.monthlyCorrections[static_cast<std::size_t>(month - 1)];
-
-    TidePrediction prediction = predict(station, factors, station.meanLevel + correction, shown);
+    TidePrediction prediction =
+        predict(station, factors, station.meanLevel + correction, serial, shown);
     prediction.kind = TideKind::Tide;
     prediction.lblTideInfo = info(prediction.extremes, "0.00m   ", "0.00m");
+    prediction.remark = remarkOn(prediction, " m");
     return prediction;
 }
 
-std::optional<TidePrediction> PredictCurrent(const std::filesystem::path& programFolder,
-                                             const std::string& lblPlace, std::string_view lblDate,
-                                             const TidePrediction& shown)
+TidePrediction predictStreamDay(const TideStation& station, const DaysFactors& factors,
+                                std::int64_t serial, const TidePrediction& shown)
 {
-    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
-    if (!date) return std::nullopt;
-    const DaysFactors factors = readDaysFactors(programFolder, *date - firstFactorsSerial);
-    const TideStation station = readStreamStation(programFolder, lblPlace);
-
-    TidePrediction prediction = predict(station, factors, station.meanLevel, shown);
+    TidePrediction prediction = predict(station, factors, station.meanLevel, serial, shown);
     prediction.kind = TideKind::Stream;
     prediction.floodDirection = station.floodDirection;
     // The ebb is passed on as it is, not reduced below 360: the name does that.
@@ -84,7 +90,27 @@ std::optional<TidePrediction> PredictCurrent(const std::filesystem::path& progra
     prediction.lblCuDirection = {"+ : " + NavFunc113::CompassName(flood),
                                  "- : " + NavFunc113::CompassName(ebb)};
     prediction.lblTideInfo = info(prediction.extremes, "0.0kn   ", "0.0kn");
+    prediction.remark = remarkOn(prediction, " kn");
     return prediction;
+}
+
+std::optional<TidePrediction> PredictTide(FileStore& files, const std::string& lblPlace,
+                                          std::string_view lblDate, const TidePrediction& shown,
+                                          const std::string& whyMissing)
+{
+    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
+    if (!date) return std::nullopt;
+    const DaysFactors factors = readDaysFactors(files, *date - firstFactorsSerial);
+    return predictTideDay(readTideStation(files, lblPlace, whyMissing), factors, *date, shown);
+}
+
+std::optional<TidePrediction> PredictCurrent(FileStore& files, const std::string& lblPlace,
+                                             std::string_view lblDate, const TidePrediction& shown)
+{
+    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
+    if (!date) return std::nullopt;
+    const DaysFactors factors = readDaysFactors(files, *date - firstFactorsSerial);
+    return predictStreamDay(readStreamStation(files, lblPlace), factors, *date, shown);
 }
 
 } // namespace korvel

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/frmTIDE/TideData.h"
 #include "navlib/tide.h"
 
 #include <array>
-#include <filesystem>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,26 +28,39 @@ struct TidePrediction {
     NavFunc113::Degrees floodDirection; ///< true; streams only
     std::string lblTD;
     std::string lblTideInfo;
+    std::string remark; ///< what of lblTideInfo is not of this day, in words; else empty
     std::array<std::string, 2> lblCuDirection; ///< blank for a tide station
+    std::int64_t serial = 0;                   ///< the day
+    TideStation station;
+    std::optional<NavFunc113::TideDay> day;
+    double level = 0; ///< mean level with the month's correction, or mean stream
+
+    /// The curve itself, at any instant. A prediction must have been made.
+    double at(NavFunc113::Hours t) const { return day->at(t) + level; }
 };
 
-/// Predicts the day of a tide station.
+/// The day of a station whose files have been read.
+/// @param shown the prediction that is shown now: the times of highest and lowest stay when the
+///              search finds none
+TidePrediction predictTideDay(const TideStation& station, const DaysFactors& factors,
+                              std::int64_t serial, const TidePrediction& shown);
+/// @throws ArithmeticError when the station's flood direction is no direction
+TidePrediction predictStreamDay(const TideStation& station, const DaysFactors& factors,
+                                std::int64_t serial, const TidePrediction& shown);
+
+/// Reads the files and predicts the day of a tide station.
 ///
-/// @param programFolder where the data files lie
-/// @param lblPlace the station's name
-/// @param lblDate  the date
-/// @param shown    the prediction that is shown now: the times of highest and lowest stay when the
-///                 search finds none
+/// @param lblPlace   the station's name
+/// @param lblDate    the date
+/// @param whyMissing reason for which no file of the station is shipped, or empty
 /// @return nothing when no station is chosen or lblDate holds no date: what is shown stays
 /// @throws TideDataFault when a data file is missing or malformed: what is shown stays
-std::optional<TidePrediction> PredictTide(const std::filesystem::path& programFolder,
-                                          const std::string& lblPlace, std::string_view lblDate,
-                                          const TidePrediction& shown);
+std::optional<TidePrediction> PredictTide(FileStore& files, const std::string& lblPlace,
+                                          std::string_view lblDate, const TidePrediction& shown,
+                                          const std::string& whyMissing = {});
 
 /// The same for a tidal-stream station.
-/// @throws ArithmeticError when the station's flood direction is no direction
-std::optional<TidePrediction> PredictCurrent(const std::filesystem::path& programFolder,
-                                             const std::string& lblPlace, std::string_view lblDate,
-                                             const TidePrediction& shown);
+std::optional<TidePrediction> PredictCurrent(FileStore& files, const std::string& lblPlace,
+                                             std::string_view lblDate, const TidePrediction& shown);
 
 } // namespace korvel

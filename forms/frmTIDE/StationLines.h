@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmTIDE/PredictTide.h"
-#include "forms/frmTIDE/TideData.h"
+#include "forms/frmTIDE/StationList.h"
 
 #include <optional>
 #include <string>
@@ -14,11 +14,14 @@ namespace korvel
 struct StationLines {
     std::string station;     ///< title and grade
     std::string uncertainty; ///< for beside the figures; empty when none is stated
+    std::string estimates;   ///< which parts of the height are estimates; empty when none is
+    std::string accuracy;    ///< how far the four-constituent method was out; empty for own files
     std::string source;      ///< where the constants come from
 };
 
 /// @param notes nothing for a file made from the ship's own tables, and for every stream station
-StationLines describeStation(const TidePrediction& prediction,
-                             const std::optional<StationNotes>& notes);
+/// @param error of the method at the station, where it has been measured
+StationLines describeStation(const TidePrediction& prediction, const StationNotes* notes,
+                             const std::optional<MethodError>& error);
 
 } // namespace korvel

@@ -1,22 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideData.h"
 
-#include "forms/frmTIDE/DataFile.h"
 #include "forms/frmTIDE/DelimitedFields.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <fstream>
-#include <system_error>
-#include <vector>
 
 namespace korvel
 {
 namespace
 {
 
-using std::filesystem::path;
+using Status = FileStore::Content::Status;
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t lineLength = factorsLineLength;
@@ -31,24 +26,17 @@ std::string faultText(const std::string& file, std::int64_t line, int field,
     return text + ": " + trouble;
 }
 
-std::string nameOf(const std::string& file)
-{
-    return path(file).filename().string();
-}
-
-std::string wholeFile(const std::string& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 // Called when a line is not where its number says: finds the line that is to blame, which may lie
 // long before the one wanted.
-[[noreturn]] void refuseLayout(const std::string& file, std::int64_t lineWanted)
+[[noreturn]] void refuseLayout(FileStore& files, std::int64_t lineWanted)
 {
-    const std::string content = wholeFile(file);
+    const FileStore::Content whole = files.read(factorsFileName);
+    if (whole.status != Status::Read)
+        throw TideDataFault(factorsFileName, 0, 0,
+                            "the file cannot be read: " + whole.reason + ".");
+    const std::string& content = whole.bytes;
     if (content.starts_with(byteOrderMark))
-        throw TideDataFault(nameOf(file), 1, 1,
+        throw TideDataFault(factorsFileName, 1, 1,
                             "the file begins with a byte-order mark. Save it without one: its "
                             "lines are found by their byte positions.");
     std::int64_t line = 0;
@@ -58,24 +46,23 @@ std::string wholeFile(const std::string& file)
         const std::size_t characters = end - start - (carriageReturn ? 1 : 0);
         const bool last = end == content.size();
         if (!last && !carriageReturn)
-            throw TideDataFault(nameOf(file), line + 1, 0,
+            throw TideDataFault(factorsFileName, line + 1, 0,
                                 "the line ends with LF alone. Every line must be 44 characters and "
                                 "CR LF: lines are found by their byte positions.");
         if (characters != charactersOfLine && !(last && characters == 0))
-            throw TideDataFault(nameOf(file), line + 1, 0,
+            throw TideDataFault(factorsFileName, line + 1, 0,
                                 "the line has " + std::to_string(characters) +
                                     " characters, not 44.");
         start = end + 1;
     }
-    throw TideDataFault(nameOf(file), lineWanted, 0,
+    throw TideDataFault(factorsFileName, lineWanted, 0,
                         "the line is missing: the file ends with line " + std::to_string(line) +
                             ".");
 }
 
-NavFunc113::DailyFactors factorsOfLine(const std::string& file, std::string_view text,
-                                       std::int64_t line)
+NavFunc113::DailyFactors factorsOfLine(std::string_view text, std::int64_t line)
 {
-    FieldReader reader(file, text, line);
+    FieldReader reader(factorsFileName, text, line);
     reader.number(); // the day key: the line's position says which day it is
     NavFunc113::DailyFactors factors;
     for (NavFunc113::DailyFactor& factor : factors) {
@@ -83,7 +70,7 @@ NavFunc113::DailyFactors factorsOfLine(const std::string& file, std::string_view
         factor.factor = reader.number();
     }
     if (!reader.atEnd())
-        throw TideDataFault(nameOf(file), line, 10, "the line has more than nine fields.");
+        throw TideDataFault(factorsFileName, line, 10, "the line has more than nine fields.");
     return factors;
 }
 
@@ -107,31 +94,23 @@ constexpr std::string_view streamLayout =
     "when unknown); direction of the flood stream (degrees true).";
 
 // A station's fields are some two hundred bytes; what follows them is never read.
-using StationBytes = std::array<char, 4096>;
+constexpr std::size_t stationBytes = 4096;
 
-// Nothing when the file cannot be opened.
-std::optional<std::string_view> contentOf(const std::string& path, StationBytes& bytes)
+std::string bytesOfStation(FileStore& files, const std::string& file, const std::string& whyMissing,
+                           std::string_view layout)
 {
-    const DataFile file(path);
-    if (!file.isOpen()) return std::nullopt;
-    std::string_view content(bytes.data(), file.read(bytes.data(), bytes.size(), 0));
-    if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
-    return content;
-}
-
-[[noreturn]] void refuseStation(const std::string& path, const std::string& reason,
-                                std::string_view layout)
-{
-    std::error_code unreadable;
-    if (std::filesystem::exists(path, unreadable))
-        throw TideDataFault("Harmonic Constants/" + nameOf(path), 0, 0,
-                            "the file cannot be opened.");
-    throw TideDataFault("Harmonic Constants/" + nameOf(path), 0, 0,
-                        "there is no such file, and nothing is shown for this station" +
-                            (reason.empty() ? "." : " (" + reason + ").") +
-                            " A file made from the ship's own tables and put there is used at "
-                            "once. It holds " +
-                            std::string(layout));
+    FileStore::Content content = files.readAt(file, 0, stationBytes);
+    if (content.status == Status::Unreadable)
+        throw TideDataFault(file, 0, 0, "the file cannot be read: " + content.reason + ".");
+    if (content.status == Status::Missing)
+        throw TideDataFault(file, 0, 0,
+                            "there is no such file, and nothing is shown for this station" +
+                                (whyMissing.empty() ? "." : " (" + whyMissing + ").") +
+                                " A file made from the ship's own tables and put there is used at "
+                                "once. It holds " +
+                                std::string(layout));
+    if (content.bytes.starts_with(byteOrderMark)) content.bytes.erase(0, byteOrderMark.size());
+    return std::move(content.bytes);
 }
 
 // Fields 1 to 15, which both kinds of station have.
@@ -152,13 +131,6 @@ TideStation commonFields(FieldReader& reader)
     return station;
 }
 
-// Joined as texts: a place is a name, never more path.
-std::string stationPath(const path& programFolder, std::string_view place, std::string_view ending)
-{
-    std::string file = programFolder.native();
-    return file.append("/Harmonic Constants/HC_").append(place).append(ending);
-}
-
 } // namespace
 
 TideDataFault::TideDataFault(const std::string& faultyFile, std::int64_t faultyLine,
@@ -168,96 +140,74 @@ TideDataFault::TideDataFault(const std::string& faultyFile, std::int64_t faultyL
 {
 }
 
-std::string factorsFilePath(const path& programFolder)
+std::string tideFileName(std::string_view place)
 {
-    return programFolder.native() + "/AF2005.txt";
+    return std::string("Harmonic Constants/HC_").append(place).append(".txt");
 }
 
-std::string tideFilePath(const path& programFolder, std::string_view place)
+std::string streamFileName(std::string_view place)
 {
-    return stationPath(programFolder, place, ".txt");
+    return std::string("Harmonic Constants/HC_").append(place).append("_.txt");
 }
 
-std::string streamFilePath(const path& programFolder, std::string_view place)
+DaysFactors readDaysFactors(FileStore& files, std::int64_t dayNumber)
 {
-    return stationPath(programFolder, place, "_.txt");
-}
-
-DaysFactors readDaysFactors(const path& programFolder, std::int64_t dayNumber)
-{
-    const std::string path = factorsFilePath(programFolder);
-    const DataFile file(path);
-    if (!file.isOpen()) {
-        throw TideDataFault(nameOf(path), 0, 0,
-                            "the file of the astronomical factors is missing or cannot be opened. "
-                            "It belongs beside the program.");
-    }
     const std::int64_t line = dayNumber + 1;
-    if (dayNumber < 0) throw TideDataFault(nameOf(path), 1, 0, "it begins with 2002/10/1.");
+    if (dayNumber < 0) throw TideDataFault(factorsFileName, 1, 0, "it begins with 2002/10/1.");
 
     // Byte 46 x day counted from 1 is the line end of the line before; it is read too, as proof
     // that the lines up to here have their length.
     const std::size_t before = dayNumber == 0 ? 0 : 1;
     const std::int64_t start = factorsLineLength * dayNumber - static_cast<std::int64_t>(before);
-    std::array<char, 1 + 2 * lineLength> buffer;
-    const std::string_view bytes(buffer.data(),
-                                 file.read(buffer.data(), before + 2 * lineLength, start));
+    const FileStore::Content content =
+        files.readAt(factorsFileName, start, before + 2 * lineLength);
+    if (content.status != Status::Read)
+        throw TideDataFault(factorsFileName, 0, 0,
+                            "the file of the astronomical factors " +
+                                (content.status == Status::Missing
+                                     ? std::string("is missing")
+                                     : "cannot be read: " + content.reason) +
+                                ". It belongs beside the program.");
+    const std::string_view bytes = content.bytes;
     const std::string_view lines = bytes.substr(std::min(before, bytes.size()));
     const std::string_view first = lines.substr(0, lineLength);
     const std::string_view second = lines.substr(first.size());
     if (bytes.empty() || (before == 1 && bytes[0] != '\n') || !isWholeLine(first, false) ||
         !isWholeLine(second, true) || first.starts_with(byteOrderMark))
-        refuseLayout(path, lines.size() < lineLength ? line : line + 1);
-    return {factorsOfLine(path, first.substr(0, charactersOfLine), line),
-            factorsOfLine(path, second.substr(0, charactersOfLine), line + 1)};
+        refuseLayout(files, lines.size() < lineLength ? line : line + 1);
+    return {factorsOfLine(first.substr(0, charactersOfLine), line),
+            factorsOfLine(second.substr(0, charactersOfLine), line + 1)};
 }
 
-TideStation readTideStation(const path& programFolder, const std::string& place)
+std::string tideStationBytes(FileStore& files, const std::string& place,
+                             const std::string& whyMissing)
 {
-    const std::string path = tideFilePath(programFolder, place);
-    StationBytes bytes;
-    const auto content = contentOf(path, bytes);
-    if (!content) {
-        const auto notes = readStationNotes(programFolder, place);
-        refuseStation(path, notes && notes->grade == "none" ? notes->source : "", tideLayout);
-    }
-    FieldReader reader(path, *content, 1);
+    return bytesOfStation(files, tideFileName(place), whyMissing, tideLayout);
+}
+
+std::string streamStationBytes(FileStore& files, const std::string& place)
+{
+    return bytesOfStation(files, streamFileName(place), std::string(whyNoStreams), streamLayout);
+}
+
+TideStation readTideStation(FileStore& files, const std::string& place,
+                            const std::string& whyMissing)
+{
+    const std::string bytes = tideStationBytes(files, place, whyMissing);
+    FieldReader reader(tideFileName(place), bytes, 1);
     TideStation station = commonFields(reader);
     for (double& correction : station.monthlyCorrections)
         correction = reader.number();
     return station;
 }
 
-TideStation readStreamStation(const path& programFolder, const std::string& place)
+TideStation readStreamStation(FileStore& files, const std::string& place)
 {
-    const std::string path = streamFilePath(programFolder, place);
-    StationBytes bytes;
-    const auto content = contentOf(path, bytes);
-    if (!content)
-        refuseStation(path, "no open constants of streams exist for these waters", streamLayout);
-    FieldReader reader(path, *content, 1);
+    const std::string bytes = streamStationBytes(files, place);
+    FieldReader reader(streamFileName(place), bytes, 1);
     TideStation station = commonFields(reader);
     station.floodDirection = NavFunc113::Degrees(reader.number());
     return station;
-}
-
-std::optional<StationNotes> readStationNotes(const path& programFolder, const std::string& place)
-{
-    std::ifstream stream(programFolder / "stations.txt", std::ios::binary);
-    for (std::string line; std::getline(stream, line);) {
-        if (line.starts_with('#')) continue;
-        if (line.ends_with('\r')) line.pop_back();
-        std::vector<std::string> columns;
-        for (std::size_t start = 0; start <= line.size();) {
-            const std::size_t end = std::min(line.find('\t', start), line.size());
-            columns.push_back(line.substr(start, end - start));
-            start = end + 1;
-        }
-        columns.resize(5);
-        if (columns[0] == place)
-            return StationNotes{columns[1], columns[2], columns[3], columns[4]};
-    }
-    return std::nullopt;
 }
 
 } // namespace korvel

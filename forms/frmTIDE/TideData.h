@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/FileStore.h"
 #include "navlib/tide.h"
 
 #include <array>
 #include <cstdint>
-#include <filesystem>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
-/// Reading the tide data files that lie in the program's folder: the daily astronomical factors
-/// and one file of harmonic constants a station.
+/// Reading the tide data files that lie beside the program: the daily astronomical factors and one
+/// file of harmonic constants a station.
 namespace korvel
 {
 
@@ -31,18 +30,17 @@ public:
     int field;
 };
 
+/// Name of the factors file.
+inline constexpr const char* factorsFileName = "AF2005.txt";
 /// The first day of the factors file, 2002-10-01.
 inline constexpr std::int64_t firstFactorsSerial = 37530;
 /// Bytes of a line of the factors file: 44 characters, CR and LF.
 inline constexpr std::int64_t factorsLineLength = 46;
 
-/// Path of the factors file.
-std::string factorsFilePath(const std::filesystem::path& programFolder);
-
-/// Path of a tide station's file, and of a tidal-stream station's, which is told apart by an
+/// Name of a tide station's file, and of a tidal-stream station's, which is told apart by an
 /// underscore. The place is used as it stands, blanks and apostrophes included.
-std::string tideFilePath(const std::filesystem::path& programFolder, std::string_view place);
-std::string streamFilePath(const std::filesystem::path& programFolder, std::string_view place);
+std::string tideFileName(std::string_view place);
+std::string streamFileName(std::string_view place);
 
 /// What a day's prediction needs of the factors file.
 struct DaysFactors {
@@ -56,7 +54,7 @@ struct DaysFactors {
 ///
 /// @param dayNumber 0 for 2002-10-01
 /// @throws TideDataFault
-DaysFactors readDaysFactors(const std::filesystem::path& programFolder, std::int64_t dayNumber);
+DaysFactors readDaysFactors(FileStore& files, std::int64_t dayNumber);
 
 /// A station's constants.
 struct TideStation {
@@ -71,21 +69,20 @@ struct TideStation {
 
 /// Reads a station's fields: separated by commas, blanks or line ends, the title quoted or not; a
 /// byte-order mark and fields beyond the last are passed over, any line end will do.
+/// @param whyMissing reason for which no file is shipped, or empty
 /// @throws TideDataFault; for a missing file it says how one from the ship's own tables is laid out
-TideStation readTideStation(const std::filesystem::path& programFolder, const std::string& place);
-TideStation readStreamStation(const std::filesystem::path& programFolder, const std::string& place);
+TideStation readTideStation(FileStore& files, const std::string& place,
+                            const std::string& whyMissing = {});
+TideStation readStreamStation(FileStore& files, const std::string& place);
 
-/// What is known about a tide station's constants.
-struct StationNotes {
-    std::string grade;       ///< A to D; "none" for a place without an honest source
-    std::string uncertainty; ///< in words; empty for grade A
-    std::string source;      ///< in words; for grade "none" the reason why there is none
-    std::string licence;
-};
+/// What of a station's file its fields are read from, without a byte-order mark.
+/// @throws TideDataFault as the readers above
+std::string tideStationBytes(FileStore& files, const std::string& place,
+                             const std::string& whyMissing = {});
+std::string streamStationBytes(FileStore& files, const std::string& place);
 
-/// The notes on a place from stations.txt beside the factors file; nothing when the list or its
-/// entry is missing (a file made from the ship's own tables needs none).
-std::optional<StationNotes> readStationNotes(const std::filesystem::path& programFolder,
-                                             const std::string& place);
+/// Why no file of a stream station is shipped.
+inline constexpr std::string_view whyNoStreams =
+    "no open constants of streams exist for these waters";
 
 } // namespace korvel

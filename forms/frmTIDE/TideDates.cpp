@@ -5,10 +5,9 @@
 #include "app/reading.h"
 #include "forms/frmTIDE/TideData.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <fstream>
 
 namespace korvel
 {
@@ -21,27 +20,22 @@ std::string shortDate(std::int64_t serial)
 }
 
 // Lines of a factors file whose last line stands where the layout puts it; 0 otherwise.
-std::int64_t wellFormedLines(const std::filesystem::path& file)
+std::int64_t wellFormedLines(FileStore& files)
 {
-    std::ifstream stream(file, std::ios::binary | std::ios::ate);
-    if (!stream) return 0;
     // The last line's CR LF may be missing.
-    const std::int64_t lines = (static_cast<std::int64_t>(stream.tellg()) + 2) / factorsLineLength;
+    const std::int64_t lines = (files.look(factorsFileName).size + 2) / factorsLineLength;
     if (lines < 2) return 0;
-    std::array<char, 2> end{};
-    stream.seekg((lines - 1) * factorsLineLength - 2);
-    stream.read(end.data(), end.size());
-    return end[0] == '\r' && end[1] == '\n' ? lines : 0;
+    const std::int64_t lastLine = (lines - 1) * factorsLineLength;
+    return files.readAt(factorsFileName, lastLine - 2, 2).bytes == "\r\n" ? lines : 0;
 }
 
 } // namespace
 
-TideDates TideDates::ofFolder(const std::filesystem::path& programFolder)
+TideDates TideDates::of(FileStore& files)
 {
     TideDates dates;
-    const std::int64_t last =
-        firstFactorsSerial + wellFormedLines(factorsFilePath(programFolder)) - 2;
-    if (last > dates.m_lastSerial) dates.m_lastSerial = last;
+    dates.m_lastSerial =
+        std::max(dates.m_lastSerial, firstFactorsSerial + wellFormedLines(files) - 2);
     return dates;
 }
 
@@ -98,9 +92,8 @@ std::string TideDates::aboutNotice() const
            "half hour in the station's own zone time. Weather can change levels and times by more "
            "than the figures show. Not for navigation: the official tide tables have precedence.\r"
            "\r"
-           "To predict beyond that date, run ./extend-tides with a year up to 2060 in the "
-           "program's "
-           "folder; ./extend-tides --undo takes it back.\r\r"
+           "To predict beyond that date, choose Days, Extend the predictions, or run "
+           "./extend-tides with a year up to 2060 in the program's folder.\r\r"
            "Constants: Neaps tide database and TICON-4 (Hart-Davis, Dettmering, Seitz 2025), "
            "CC BY 4.0, modified; NOAA, public domain. See stations.txt beside the program.";
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/FileStore.h"
+
 #include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,9 +20,9 @@ public:
     /// The range of the shipped file.
     TideDates() = default;
 
-    /// The range of the file in this folder. A file that is missing, shorter than the shipped one
+    /// The range of the factors file there. A file that is missing, shorter than the shipped one
     /// or not in the layout gives the shipped range: reading a day then says what is wrong with it.
-    static TideDates ofFolder(const std::filesystem::path& programFolder);
+    static TideDates of(FileStore& files);
 
     std::int64_t firstSerial() const;
     std::int64_t lastSerial() const { return m_lastSerial; }

@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "app/Questions.h"
+#include "forms/frmTIDE/PageText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,19 +13,7 @@ namespace korvel
 namespace
 {
 
-// The page is laid out in units of a thousandth of its width, whatever the paper and the printer.
-constexpr double pageWidth = 1000;
-constexpr int textSize = 17;
-constexpr int headingSize = 26;
 constexpr int tableColumns = 7; // of seven half hours each: 49 values
-
-QFont pageFont(const QPainter& painter, int size, bool bold = false)
-{
-    QFont font = painter.font();
-    font.setPixelSize(size);
-    font.setBold(bold);
-    return font;
-}
 
 QString text(const std::string& value)
 {
@@ -37,21 +26,6 @@ std::string valueText(double value, TideKind kind)
     const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
     return figures.find_first_of("123456789") == figures.npos ? figures.substr(figures.find('0'))
                                                               : figures;
-}
-
-double lineOf(const QPainter& painter)
-{
-    return QFontMetricsF(painter.font()).lineSpacing();
-}
-
-/// Writes a line, left and right, and returns where the next one begins.
-double writeLine(QPainter& painter, double top, const QString& left, const QString& right = {})
-{
-    const double height = lineOf(painter);
-    const QRectF room(0, top, pageWidth, height);
-    painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, left);
-    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, right);
-    return top + height;
 }
 
 } // namespace
@@ -79,20 +53,34 @@ void frmTIDEPage::draw(QPainter& painter, const QRect& room) const
 
 double frmTIDEPage::drawHeading(QPainter& painter) const
 {
-    const bool tide = prediction.kind == TideKind::Tide;
+    const bool tide = day.four.kind == TideKind::Tide;
     painter.setFont(pageFont(painter, headingSize, true));
     double y = writeLine(painter, 0, place + "   " + date, tide ? "Tide" : "Tidal stream");
     painter.drawLine(QPointF(0, y), QPointF(pageWidth, y));
     y += textSize / 2.0;
     painter.setFont(pageFont(painter, textSize));
-    y = writeLine(painter, y, text(lines.station), "Zone time " + text(prediction.lblTD));
+    y = writeLine(painter, y, text(lines.station), "Zone time " + text(day.four.lblTD));
     painter.setFont(pageFont(painter, textSize, true));
-    y = writeLine(painter, y, "Highest, lowest:  " + text(prediction.lblTideInfo),
-                  tide
-                      ? text(lines.uncertainty)
-                      : text(prediction.lblCuDirection[0] + "    " + prediction.lblCuDirection[1]));
+    y = writeLine(painter, y, "Highest, lowest:  " + text(day.four.lblTideInfo),
+                  tide ? text(lines.uncertainty)
+                       : text(day.four.lblCuDirection[0] + "    " + day.four.lblCuDirection[1]));
     painter.setFont(pageFont(painter, textSize));
-    return y;
+    if (!lines.estimates.empty()) y = writeLine(painter, y, text(lines.estimates));
+    if (!day.four.remark.empty()) y = writeLine(painter, y, text(day.four.remark));
+    return drawWaters(painter, y);
+}
+
+/// The waters to the minute, by both ways.
+double frmTIDEPage::drawWaters(QPainter& painter, double top) const
+{
+    const double height = lineOf(painter);
+    for (const WaterLine& water : waterLines(day)) {
+        painter.drawText(QRectF(0, top, pageWidth / 3, height), text(water.four));
+        painter.drawText(QRectF(pageWidth / 3, top, pageWidth, height),
+                         text(water.all.empty() ? "" : "all constituents " + water.all));
+        top += height;
+    }
+    return top;
 }
 
 double frmTIDEPage::tableHeight(const QPainter& painter) const
@@ -102,21 +90,21 @@ double frmTIDEPage::tableHeight(const QPainter& painter) const
 
 void frmTIDEPage::drawTable(QPainter& painter, double top) const
 {
-    const bool tide = prediction.kind == TideKind::Tide;
+    const bool tide = day.four.kind == TideKind::Tide;
     const double height = lineOf(painter);
     const double width = pageWidth / tableColumns;
     writeLine(painter, top,
               tide ? "Height above chart datum, metres"
                    : "Rate in knots, positive with the flood, negative with the ebb");
     top += 1.25 * height;
-    for (int i = 0; i < static_cast<int>(prediction.values.size()); ++i) {
+    for (int i = 0; i < static_cast<int>(day.four.values.size()); ++i) {
         const int column = i / tableColumns;
         const int row = i % tableColumns;
         const QRectF cell(column * width, top + row * height, width * 0.8, height);
         const std::string time = Format(i / 2, "00") + (i % 2 == 0 ? ":00" : ":30");
         painter.drawText(cell, Qt::AlignLeft, text(time));
-        const double value = prediction.values[static_cast<std::size_t>(i)];
-        painter.drawText(cell, Qt::AlignRight, text(valueText(value, prediction.kind)));
+        const double value = day.four.values[static_cast<std::size_t>(i)];
+        painter.drawText(cell, Qt::AlignRight, text(valueText(value, day.four.kind)));
     }
     painter.setPen(QPen(Qt::gray, 0.5));
     for (int column = 1; column < tableColumns; ++column) {
@@ -128,7 +116,8 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
 
 QString frmTIDEPage::footText() const
 {
-    return text("Not for navigation: the official tables have precedence.\n" + lines.source +
+    return text("Not for navigation: the official tables have precedence.\n" + lines.accuracy +
+                "\n" + lines.source +
                 "\nHalf-hourly prediction from four harmonic constituents and two shallow-water "
                 "terms, " +
                 programTitle + ".");

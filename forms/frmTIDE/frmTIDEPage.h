@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmTIDE/PredictTide.h"
 #include "forms/frmTIDE/StationLines.h"
+#include "forms/frmTIDE/TideWaters.h"
 
 #include <QPainter>
 
@@ -11,12 +11,12 @@
 namespace korvel
 {
 
-/// The printed page of a day: heading, figures, curve, a table of the half hours, the station's
-/// source.
+/// The printed page of a day: heading, figures, waters, curve, a table of the half hours, the
+/// station's source.
 struct frmTIDEPage {
     QString place;
     QString date;
-    TidePrediction prediction;
+    TideDayShown day;
     StationLines lines;
     /// Draws the curve at a size, in the units of the page.
     std::function<void(QPainter&, const QSize&)> drawCurve;
@@ -26,6 +26,7 @@ struct frmTIDEPage {
 
 private:
     double drawHeading(QPainter& painter) const;
+    double drawWaters(QPainter& painter, double top) const;
     double tableHeight(const QPainter& painter) const;
     void drawTable(QPainter& painter, double top) const;
     double footHeight(const QPainter& painter) const;

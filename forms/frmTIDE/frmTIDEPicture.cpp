@@ -56,9 +56,11 @@ void frmTIDEPicture::addAxisLabels()
         m_lblTime[i] = add("lblTime", i);
 }
 
-void frmTIDEPicture::showPrediction(const TidePrediction& prediction)
+void frmTIDEPicture::showPrediction(const TidePrediction& prediction,
+                                    const std::optional<NavFunc113::TideValues>& all)
 {
     m_prediction = prediction;
+    m_all = all;
     m_picture = DrawCurve(prediction);
     const CurveScale& scale = m_picture.scale;
     setUserScale({scale.left, scale.top, scale.right, scale.bottom});
@@ -68,6 +70,13 @@ void frmTIDEPicture::showPrediction(const TidePrediction& prediction)
         m_lblTime[i]->setText(QString::fromStdString(m_picture.lblTime[i].caption));
     placeLabels();
     readAt(m_hour);
+}
+
+void frmTIDEPicture::mark(const std::vector<NavFunc113::Hours>& times, std::optional<double> level)
+{
+    m_markedTimes = times;
+    m_markedLevel = level;
+    update();
 }
 
 void frmTIDEPicture::placeLabels()
@@ -200,6 +209,7 @@ void frmTIDEPicture::draw(QPainter& painter)
     drawGrid(painter, colours);
     drawFurtherLevels(painter, colours);
     drawAxisTexts(painter, colours);
+    drawAll(painter, colours);
     drawCurve(painter, colours);
 }
 
@@ -216,7 +226,9 @@ void frmTIDEPicture::drawScreen(QPainter& painter)
         drawGrid(painter, colours);
         painter.setClipping(false);
         drawFurtherLevels(painter, colours);
+        drawAll(painter, colours);
         drawCurve(painter, colours);
+        drawMarks(painter, colours);
     }
     if (m_reading) {
         const QPointF at = toPixel(m_reading->point.x, m_reading->point.y);
@@ -309,6 +321,36 @@ void frmTIDEPicture::drawCurve(QPainter& painter, const ColourScheme& colours) c
     painter.setPen(QPen(colours.curve, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.drawPolyline(curve);
     painter.restore();
+}
+
+/// Thin and with its name, so that nobody takes it for the curve of the labels.
+void frmTIDEPicture::drawAll(QPainter& painter, const ColourScheme& colours) const
+{
+    if (!m_all) return;
+    painter.save();
+    painter.setClipRect(plotArea());
+    QPolygonF curve;
+    for (std::size_t i = 0; i < m_all->size(); ++i)
+        curve << toPixel(static_cast<double>(i) / 2, (*m_all)[i]);
+    painter.setPen(QPen(colours.marker, 1));
+    painter.drawPolyline(curve);
+    const QRectF corner = plotArea().adjusted(0, 0, -painter.fontMetrics().height() / 2.0, 0);
+    painter.drawText(corner, Qt::AlignRight | Qt::AlignTop, "thin: all constituents");
+    painter.restore();
+}
+
+void frmTIDEPicture::drawMarks(QPainter& painter, const ColourScheme& colours) const
+{
+    if (!m_prediction || !m_prediction->day) return;
+    painter.setPen(QPen(colours.marker, 1, Qt::DashLine));
+    if (m_markedLevel &&
+        *m_markedLevel<m_picture.scale.top&& * m_markedLevel> m_picture.scale.bottom)
+        painter.drawLine(pixels({{0, *m_markedLevel}, {24, *m_markedLevel}}));
+    painter.setPen(QPen(colours.marker, 2));
+    painter.setBrush(Qt::NoBrush);
+    const double radius = fontMetrics().height() / 4.0;
+    for (const NavFunc113::Hours time : m_markedTimes)
+        painter.drawEllipse(toPixel(time.value(), m_prediction->at(time)), radius, radius);
 }
 
 /// In pixels, so that a scaled painter scales the letters too.

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <optional>
+#include <vector>
 
 namespace korvel
 {
@@ -21,7 +22,12 @@ class frmTIDEPicture : public PictureBox
 public:
     explicit frmTIDEPicture(Program& program, QWidget* parent = nullptr);
 
-    void showPrediction(const TidePrediction& prediction);
+    /// @param all half-hourly values of the sum of all constituents, drawn as a thin second curve
+    void showPrediction(const TidePrediction& prediction,
+                        const std::optional<NavFunc113::TideValues>& all = {});
+
+    /// Marks instants of the curve and a level across it; nothing takes the marks away.
+    void mark(const std::vector<NavFunc113::Hours>& times, std::optional<double> level);
 
     /// Draws the curve for paper: in the colours of the day, without a reading.
     void drawForPaper(QPainter& painter, const QSize& size);
@@ -50,6 +56,8 @@ private:
     void drawFurtherLevels(QPainter& painter, const ColourScheme& colours) const;
     void drawAxisTexts(QPainter& painter, const ColourScheme& colours) const;
     void drawCurve(QPainter& painter, const ColourScheme& colours) const;
+    void drawAll(QPainter& painter, const ColourScheme& colours) const;
+    void drawMarks(QPainter& painter, const ColourScheme& colours) const;
     QRegion labelsOnGrid() const;
     QLineF pixels(const CurveLine& line) const;
     QFont axisFont() const;
@@ -57,6 +65,9 @@ private:
     Program& m_program;
     std::optional<TidePrediction> m_prediction;
     CurvePicture m_picture;
+    std::optional<NavFunc113::TideValues> m_all;
+    std::vector<NavFunc113::Hours> m_markedTimes;
+    std::optional<double> m_markedLevel;
     std::optional<double> m_hour; ///< where the curve is read
     std::optional<CurveReading> m_reading;
     std::array<QLabel*, 6> m_lblHeight{};

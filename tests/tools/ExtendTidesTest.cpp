@@ -78,4 +78,22 @@ TEST_F(ExtendTides, refusesWhatItCannotDoAndChangesNothing)
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 3) << "no remnants";
 }
 
+TEST_F(ExtendTides, clearsUpAfterAKilledRunAndReplacesFilesAlone)
+{
+    for (const char* name : {".AF2005.txt.aB3dE6", ".AF2005.txt.before.aB3dE6"})
+        std::ofstream(folder / name) << "half";
+    EXPECT_EQ(run("2006"), 0);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 4);
+    for (const char* name : {"AF2005.txt", "AF2005.txt.before"}) {
+        const std::string factorsBefore = factors();
+        fs::remove(folder / name);
+        fs::create_directory(folder / name);
+        EXPECT_NE(run("2030"), 0) << name;
+        EXPECT_NE(run("--undo"), 0) << name;
+        EXPECT_TRUE(fs::is_directory(folder / name)) << name;
+        fs::remove(folder / name);
+        std::ofstream(folder / "AF2005.txt", std::ios::binary) << factorsBefore;
+    }
+}
+
 } // namespace

@@ -17,7 +17,8 @@ namespace
 constexpr std::string_view usage =
     "usage: tidedata factors LASTYEAR FILE      the astronomical factors to the end of a year\n"
     "                                           (2005 to 2060)\n"
-    "       tidedata stations SOURCES FOLDER    one file a tide station, and stations.txt\n";
+    "       tidedata stations SOURCES FOLDER    one file a tide station, stations.txt,\n"
+    "                                           constituents.txt\n";
 
 void writeFile(const std::filesystem::path& file, const std::string& content)
 {
@@ -44,6 +45,7 @@ void writeStations(const std::filesystem::path& sourcesFile, const std::filesyst
     for (const tidedata::Station& station : sources.stations)
         writeFile(constants / ("HC_" + station.place + ".txt"), tidedata::stationFile(station));
     writeFile(folder / "stations.txt", tidedata::stationsList(sources));
+    writeFile(folder / "constituents.txt", tidedata::constituentsList(sources));
 }
 
 } // namespace

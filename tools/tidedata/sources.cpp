@@ -50,6 +50,21 @@ std::string licenceOf(const json& station)
     return joined(licences);
 }
 
+void takePosition(Station& station, const json& entry)
+{
+    station.latitude = entry.at("lat");
+    station.longitude = entry.at("lon");
+}
+
+// Without one of the four the station file cannot be made.
+void requireCarriers(const Station& station)
+{
+    for (const char* name : {"M2", "S2", "K1", "O1"}) {
+        if (!station.constants.contains(name))
+            throw std::runtime_error(station.place + " has no constituent " + name);
+    }
+}
+
 Station stationFrom(const json& entry)
 {
     Station station;
@@ -60,8 +75,13 @@ Station stationFrom(const json& entry)
     station.licence = licenceOf(entry);
     station.zone = Hours(entry.at("zone_hours").get<double>());
     station.meanLevel = entry.at("z0_m");
+    station.isLevelEstimated = entry.at("z0_basis").get<std::string>().starts_with("ESTIMATE");
+    const std::string verdict = entry.at("verdict");
+    station.areMonthsEstimated = verdict == "modelled" || verdict == "interpolated";
+    takePosition(station, entry);
     for (const auto& [name, values] : entry.at("constituents").items())
         station.constants[name] = {values.at(0).get<double>(), Degrees(values.at(1).get<double>())};
+    requireCarriers(station);
     return station;
 }
 
@@ -71,6 +91,7 @@ Station missingFrom(const json& entry)
     station.place = entry.at("place");
     station.grade = "none";
     station.source = entry.at("reason");
+    takePosition(station, entry);
     return station;
 }
 
@@ -88,7 +109,7 @@ Sources readSources(const std::filesystem::path& file)
         for (const json& entry : all.at("stations_without_data"))
             sources.withoutSource.push_back(missingFrom(entry));
         return sources;
-    } catch (const json::exception& fault) {
+    } catch (const std::exception& fault) {
         throw std::runtime_error(file.string() + ": " + fault.what());
     }
 }

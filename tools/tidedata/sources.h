@@ -27,6 +27,10 @@ struct Station {
     std::string licence;     ///< licences of the records
     Hours zone;              ///< east positive
     double meanLevel = 0;    ///< metres
+    double latitude = 0;     ///< degrees, north positive
+    double longitude = 0;    ///< degrees, east positive
+    bool isLevelEstimated = false;   ///< the mean level is no record's
+    bool areMonthsEstimated = false; ///< the seasonal terms are those of other places
     std::map<std::string, Constant, std::less<>> constants;
 };
 

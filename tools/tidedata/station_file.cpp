@@ -159,12 +159,33 @@ std::string stationFile(const Station& station)
 
 std::string stationsList(const Sources& sources)
 {
-    std::string text = "# Tide stations: place, grade, uncertainty, source, licence (tabs)\n#\n";
+    std::string text = "# Tide stations: place, grade, uncertainty, source, licence, latitude, "
+                       "longitude,\n# mean level, monthly corrections (tabs)\n#\n";
     text += credit;
+    const auto basis = [](bool isEstimated) { return isEstimated ? "estimated" : "record"; };
     for (const auto* list : {&sources.stations, &sources.withoutSource}) {
         for (const Station& s : *list)
             text += s.place + "\t" + s.grade + "\t" + s.uncertainty + "\t" + s.source + "\t" +
-                    s.licence + "\n";
+                    s.licence + "\t" + shortest(s.latitude) + "\t" + shortest(s.longitude) + "\t" +
+                    basis(s.isLevelEstimated) + "\t" + basis(s.areMonthsEstimated) + "\n";
+    }
+    return text;
+}
+
+std::string constituentsList(const Sources& sources)
+{
+    std::string text =
+        "# All constituents of a record: place, zone time, mean level, then for each "
+        "its name,\n# amplitude (m) and phase lag (degrees, Greenwich) (tabs)\n#\n";
+    text += credit;
+    for (const Station& s : sources.stations) {
+        if (s.source.starts_with("modelled"))
+            continue; // the four and their seasons are all there is
+        text += s.place + "\t" + shortest(s.zone.value()) + "\t" + shortest(s.meanLevel);
+        for (const auto& [name, constant] : s.constants)
+            text += "\t" + name + " " + fixed(constant.amplitude, 4) + " " +
+                    fixed(constant.greenwichLag.value(), 1);
+        text += "\n";
     }
     return text;
 }

@@ -33,8 +33,13 @@ std::array<double, 12> monthlyCorrections(const Station& station);
 std::string stationFile(const Station& station);
 
 /// The list of stations.txt, which carries what has no field in a station file: for each place, in
-/// tab-separated columns, place, grade, uncertainty, source, licence. Lines that begin with # are
-/// comments; they hold the credits that must travel with the data.
+/// tab-separated columns, place, grade, uncertainty, source, licence, position in degrees, and
+/// whether mean level and monthly corrections are estimates. Lines that begin with # are comments;
+/// they hold the credits that must travel with the data.
 std::string stationsList(const Sources& sources);
+
+/// The list of constituents.txt: for each place with a record its zone time, its mean level and
+/// every constituent, for the sum of them all.
+std::string constituentsList(const Sources& sources);
 
 } // namespace tidedata

@@ -17,7 +17,7 @@ namespace
 
 // A folder whose every day has a semidiurnal wave of 12 hours with its crest at 00:00, factor 1,
 // and nothing else: what comes out can be worked by hand.
-class PlainTide : public testing::Test
+class PlainTide : public ::testing::Test
 {
 protected:
     PlainTide()
@@ -27,21 +27,21 @@ protected:
             factors += "20021001,000,1.00,000,1.00,000,1.00,000,1.00\r\n";
         beside.write("AF2005.txt", factors);
     }
-    void tide(const std::string& fields) const
+    void tide(const std::string& fields)
     {
         beside.write("Harmonic Constants/HC_Keling.txt", "Keling," + fields);
     }
-    void stream(const std::string& fields) const
+    void stream(const std::string& fields)
     {
         beside.write("Harmonic Constants/HC_Brothers_.txt", "Brothers," + fields);
     }
-    auto predictTide(const std::string& date, const TidePrediction& shown = {}) const
+    auto predictTide(const std::string& date, const TidePrediction& shown = {})
     {
-        return PredictTide(beside.folder, "Keling", date, shown);
+        return PredictTide(beside.files, "Keling", date, shown);
     }
-    auto predictStream(const TidePrediction& shown = {}) const
+    auto predictStream(const TidePrediction& shown = {})
     {
-        return PredictCurrent(beside.folder, "Brothers", "2003/03/31", shown);
+        return PredictCurrent(beside.files, "Brothers", "2003/03/31", shown);
     }
     TideFolder beside;
 };
@@ -57,7 +57,7 @@ TEST_F(PlainTide, heightsAndTheirTexts)
     EXPECT_EQ(shown->lblTD, "3.5hW");
     EXPECT_EQ(shown->lblTideInfo, "00.-30: 4.60m   06.-30: 1.60m");
     EXPECT_NEAR(shown->values[0], 3.1 + 1.5 * std::cos(std::acos(-1) / 12), 1e-9);
-    EXPECT_THAT(shown->lblCuDirection, testing::ElementsAre("", ""));
+    EXPECT_THAT(shown->lblCuDirection, ::testing::ElementsAre("", ""));
     EXPECT_EQ(predictTide("2003/12/01")->lblTideInfo, "00.-30: 4.70m   06.-30: 1.70m");
     EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "00.-30: 3.60m   06.-30: 0.60m");
 }
@@ -81,7 +81,7 @@ TEST_F(PlainTide, streamsHaveDirectionsAndNoMonths)
     const auto shown = predictStream();
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->lblTideInfo, "12.-00: 1.5kn   06.-00: -2.5kn");
-    EXPECT_THAT(shown->lblCuDirection, testing::ElementsAre("+ : West", "- : East"))
+    EXPECT_THAT(shown->lblCuDirection, ::testing::ElementsAre("+ : West", "- : East"))
         << "260 and, not reduced before it is named, 440";
 }
 
@@ -91,12 +91,12 @@ TEST_F(PlainTide, nothingIsPredictedWithoutPlaceOrDate)
     EXPECT_FALSE(predictTide("Date"));
     EXPECT_FALSE(predictTide(""));
     EXPECT_FALSE(predictTide("2003/02/29"));
-    EXPECT_FALSE(PredictTide(beside.folder, "Place", "2003/02/28", {}));
-    EXPECT_FALSE(PredictCurrent(beside.folder, "Place", "2003/02/28", {}));
+    EXPECT_FALSE(PredictTide(beside.files, "Place", "2003/02/28", {}));
+    EXPECT_FALSE(PredictCurrent(beside.files, "Place", "2003/02/28", {}));
     EXPECT_TRUE(predictTide("2005/12/31"));
     EXPECT_THROW(predictTide("2006/01/01"), TideDataFault);
     EXPECT_THROW(predictTide("2002/09/30"), TideDataFault);
-    EXPECT_THROW(PredictTide(beside.folder, "Bombay", "2003/02/28", {}), TideDataFault);
+    EXPECT_THROW(PredictTide(beside.files, "Bombay", "2003/02/28", {}), TideDataFault);
 }
 
 TEST_F(PlainTide, pictureAndWhatThePointerReads)
@@ -130,7 +130,7 @@ TEST_F(PlainTide, pictureAndWhatThePointerReads)
 
 TEST(TideDates, followTheFactorsFile)
 {
-    const TideFolder beside;
+    TideFolder beside;
     const std::string shipped = TideFolder::shippedFactors();
     const std::string day = "20060102,021,1.11,011,0.73,356,1.40,030,1.39\r\n";
     std::string lfOnly;
@@ -150,14 +150,14 @@ TEST(TideDates, followTheFactorsFile)
                 {"empty", "", 38717}};
     for (const auto& row : rows) {
         beside.write("AF2005.txt", row.factors);
-        EXPECT_EQ(TideDates::ofFolder(beside.folder).lastSerial(), row.last) << row.name;
+        EXPECT_EQ(TideDates::of(beside.files).lastSerial(), row.last) << row.name;
     }
 }
 
 TEST(TideDates, ofTheShippedFile)
 {
-    const TideDates dates = TideDates::ofFolder(TideFolder::shipped());
-    EXPECT_THAT(dates.aboutNotice(), testing::HasSubstr("up to the end of 2005."));
+    const TideDates dates = TideDates::of(TideFolder::shipped());
+    EXPECT_THAT(dates.aboutNotice(), ::testing::HasSubstr("up to the end of 2005."));
     EXPECT_FALSE(TideDates::dateIn("yesterday"));
 }
 

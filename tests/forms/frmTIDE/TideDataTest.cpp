@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideData.h"
 
+#include "forms/frmTIDE/StationList.h"
 #include "forms/frmTIDE/Stations.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 
@@ -11,12 +12,12 @@ namespace korvel
 namespace
 {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
-std::string stationFault(const std::filesystem::path& folder, const std::string& place)
+std::string stationFault(FileStore& files, const std::string& place)
 {
     try {
-        readTideStation(folder, place);
+        readTideStation(files, place);
         return "read";
     } catch (const TideDataFault& fault) {
         return fault.what();
@@ -70,20 +71,20 @@ TEST(Factors, malformedFilesAreReadOrRefused)
         {"ten fields", with(46 * 4 + 42, 1, ","), 4, "line 5, field 10: the line has more"},
         {"nothing", "", 0, "line 1: the line is missing"},
     };
-    const TideFolder beside;
+    TideFolder beside;
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         beside.write("AF2005.txt", row.content);
         try {
-            readDaysFactors(beside.folder, row.day);
+            readDaysFactors(beside.files, row.day);
             EXPECT_EQ(row.fault, none);
         } catch (const TideDataFault& fault) {
             EXPECT_FALSE(row.fault.empty()) << fault.what();
             EXPECT_THAT(fault.what(), HasSubstr(row.fault));
         }
     }
-    std::filesystem::remove(beside.folder / "AF2005.txt");
-    EXPECT_THROW(readDaysFactors(beside.folder, 0), TideDataFault);
+    beside.files.files.erase("AF2005.txt");
+    EXPECT_THROW(readDaysFactors(beside.files, 0), TideDataFault);
 }
 
 TEST(StationFile, readsWhatSequentialInputReads)
@@ -110,11 +111,11 @@ TEST(StationFile, readsWhatSequentialInputReads)
         {"LF, a field a line", "Cape Town\n" + lines + "\n", "Cape Town"},
         {"more fields than wanted", "Cape Town," + numbers + ",tail,1", "Cape Town"},
     };
-    const TideFolder beside;
+    TideFolder beside;
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         beside.write("Harmonic Constants/HC_3' east, of Cape.txt", row.content);
-        const TideStation station = readTideStation(beside.folder, "3' east, of Cape");
+        const TideStation station = readTideStation(beside.files, "3' east, of Cape");
         EXPECT_EQ(station.title, row.title);
         EXPECT_EQ(station.zone, NavFunc113::Hours(8));
         EXPECT_EQ(station.meanLevel, 1.5);
@@ -127,10 +128,10 @@ TEST(StationFile, readsWhatSequentialInputReads)
 
 TEST(StationFile, faultsNameFileLineAndField)
 {
-    const TideFolder beside;
+    TideFolder beside;
     const auto faultOf = [&beside](const std::string& content) {
         beside.write("Harmonic Constants/HC_X.txt", content);
-        return stationFault(beside.folder, "X");
+        return stationFault(beside.files, "X");
     };
     EXPECT_THAT(faultOf("X,8,1.5,10,l.0,20"), HasSubstr("HC_X.txt, line 1, field 5: \"l.0\""));
     EXPECT_THAT(faultOf("X\n8\n1.5\n10 m"), HasSubstr("line 4, field 5: \"m\""));
@@ -140,33 +141,33 @@ TEST(StationFile, faultsNameFileLineAndField)
     EXPECT_THAT(faultOf("\"X,8"), HasSubstr("field 1: the closing quote"));
     EXPECT_THAT(faultOf("X,inf"), HasSubstr("field 2: \"inf\""));
     EXPECT_THAT(faultOf(""), HasSubstr("field 1: the field is missing"));
-    EXPECT_THAT(stationFault(beside.folder, "Bombay"),
-                testing::AllOf(HasSubstr("HC_Bombay.txt"), HasSubstr("27 fields")));
+    EXPECT_THAT(stationFault(beside.files, "Bombay"),
+                ::testing::AllOf(HasSubstr("HC_Bombay.txt"), HasSubstr("27 fields")));
 }
 
 TEST(Stations, everyPlaceOfTheMenusHasAFileOrAReason)
 {
+    const StationList list(TideFolder::shipped());
     std::size_t places = 0;
     for (const StationArea& area : tideAreas()) {
         for (const std::string_view caption : area.places) {
             const std::string place(caption);
             ++places;
-            const auto notes = readStationNotes(TideFolder::shipped(), place);
+            const StationNotes* notes = list.notesOf(place);
             ASSERT_TRUE(notes) << place;
             EXPECT_FALSE(notes->source.empty()) << place;
             if (notes->grade == "none")
                 EXPECT_THROW(readTideStation(TideFolder::shipped(), place), TideDataFault);
             else
                 EXPECT_THAT(readTideStation(TideFolder::shipped(), place).title,
-                            testing::StartsWith(place));
+                            ::testing::StartsWith(place));
         }
     }
     EXPECT_EQ(places, 114u);
-    EXPECT_THAT(stationFault(TideFolder::shipped(), "Wonsan"),
-                HasSubstr("(no open record on the Korean or Russian coast"));
-    EXPECT_FALSE(readStationNotes(TideFolder::shipped(), "Atlantis"));
-    EXPECT_EQ(readStationNotes(TideFolder::shipped(), "Berhala")->uncertainty,
-              "amplitude +-25 %, time +-50 min");
+    EXPECT_THAT(list.notesOf("Wonsan")->source,
+                HasSubstr("no open record on the Korean or Russian coast"));
+    EXPECT_FALSE(list.notesOf("Atlantis"));
+    EXPECT_EQ(list.notesOf("Berhala")->uncertainty, "amplitude +-25 %, time +-50 min");
     EXPECT_TRUE(isTideStation("Los Angels Harbour"));
     EXPECT_FALSE(isTideStation("Philip Channel"));
     EXPECT_TRUE(isStreamStation("3' east of Berhanti"));

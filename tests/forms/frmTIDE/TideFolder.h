@@ -2,7 +2,8 @@
 #pragma once
 
 #include "tests/SourceFolder.h"
-#include <cstdlib>
+#include "tests/app/FakeMachine.h"
+
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -11,33 +12,31 @@
 namespace korvel
 {
 
-/// A program's folder of a test, empty at first and removed in the end.
+/// Data files in memory: a test's own, or copies of the shipped ones.
 class TideFolder
 {
 public:
-    TideFolder()
-    {
-        std::string pattern = (std::filesystem::temp_directory_path() / "tide XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-        std::filesystem::create_directory(folder / "Harmonic Constants");
-    }
-    ~TideFolder() { std::filesystem::remove_all(folder); }
-    TideFolder(const TideFolder&) = delete;
-    TideFolder& operator=(const TideFolder&) = delete;
+    void write(const std::string& name, const std::string& content) { files.files[name] = content; }
 
-    void write(const std::string& name, const std::string& content) const
+    /// What is shipped beside the program.
+    static korvel::testing::FakeFiles& shipped()
     {
-        std::ofstream(folder / name, std::ios::binary) << content;
+        static korvel::testing::FakeFiles all = [] {
+            const std::filesystem::path data = sourceFile("data");
+            korvel::testing::FakeFiles read;
+            for (const auto& entry : std::filesystem::recursive_directory_iterator(data)) {
+                if (!entry.is_regular_file()) continue;
+                std::ifstream stream(entry.path(), std::ios::binary);
+                read.files[std::filesystem::relative(entry.path(), data).generic_string()] = {
+                    std::istreambuf_iterator<char>(stream), {}};
+            }
+            return read;
+        }();
+        return all;
     }
-    /// The shipped factors, lines of 46 bytes.
-    static std::string shippedFactors()
-    {
-        std::ifstream stream(shipped() / "AF2005.txt", std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
-    }
-    static std::filesystem::path shipped() { return sourceFile("data"); }
+    static std::string shippedFactors() { return shipped().files["AF2005.txt"]; }
 
-    std::filesystem::path folder;
+    korvel::testing::FakeFiles files;
 };
 
 /// A stream station. The constants are made up for the tests (no open ones exist for the Singapore

@@ -30,10 +30,10 @@ protected:
     frmTIDETest()
     {
         QDir(folder.path()).mkdir("Harmonic Constants");
-        for (const char* file : {"AF2005.txt", "stations.txt", "Harmonic Constants/HC_Yokohama.txt",
-                                 "Harmonic Constants/HC_Port Dickson.txt"})
-            QFile::copy(QString::fromStdString((TideFolder::shipped() / file).string()),
-                        folder.filePath(file));
+        for (const char* file :
+             {"AF2005.txt", "stations.txt", "accuracy.txt", "constituents.txt",
+              "Harmonic Constants/HC_Yokohama.txt", "Harmonic Constants/HC_Port Dickson.txt"})
+            writeFile(file, TideFolder::shipped().files.at(file));
         writeFile("Harmonic Constants/HC_Brothers_.txt", syntheticStream);
     }
     void setDate(const QWidget& window, const std::string& date)
@@ -93,12 +93,18 @@ TEST_F(frmTIDETest, datesStayInRangeAndInStepWithTheScrollBar)
 {
     auto& window = open<frmTIDE>();
     choose(window, yokohama);
-    for (const char* answer : {"2006/1/1", "2002/9/30"}) {
+    for (const char* answer : {"2002/9/30", "2061/1/1"}) {
         questions.willAnswer(Answer::Ok);
         setDate(window, answer);
         EXPECT_EQ(questions.asked.back(), tooFar("2005/12/31"));
         EXPECT_EQ(text(window, "lblDate"), "Date");
     }
+    questions.willAnswer(Answer::Ok);
+    questions.willAnswer(Answer::No);
+    setDate(window, "2006/1/1");
+    EXPECT_THAT(questions.asked, ::testing::Contains(tooFar("2005/12/31")).Times(3));
+    EXPECT_EQ(questions.asked.back(), "Extend the predictions to 2050?");
+    EXPECT_EQ(text(window, "lblDate"), "Date");
     setDate(window, "2005/12/31");
     EXPECT_EQ(scrollValue(window), 1188);
     press(window, "scrDate", {Qt::Key_Down});
@@ -133,9 +139,8 @@ TEST_F(frmTIDETest, streamsHaveTheirOwnFilesDirectionsAndMode)
         << "that is the tide station of this name";
     EXPECT_THAT(fileText("KV_Tide.ini"), HasSubstr("#FALSE#\r\n\"Brothers\""));
     press(window, "scrDate", {Qt::Key_Down});
-    EXPECT_EQ(
-        text(window, "lblTideInfo"),
-        PredictCurrent(folder.path().toStdString(), "Brothers", "2003/07/16", {})->lblTideInfo);
+    EXPECT_EQ(text(window, "lblTideInfo"),
+              PredictCurrent(files, "Brothers", "2003/07/16", {})->lblTideInfo);
 }
 
 TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
@@ -184,11 +189,9 @@ TEST_F(frmTIDETest, faultsOfTheDataLeaveTheDisplay)
     };
     const std::string before = display();
 
-    questions.willAnswer(Answer::Ok);
-    choose(window, inchon);
-    EXPECT_THAT(questions.asked.back(), HasSubstr("HC_Inchon.txt"));
-    EXPECT_THAT(questions.asked.back(), HasSubstr("27 fields"));
-    EXPECT_EQ(display(), before);
+    EXPECT_FALSE(window.findChild<QAction*>(inchon)->isEnabled());
+    EXPECT_THAT(window.findChild<QAction*>(inchon)->toolTip().toStdString(),
+                HasSubstr("no open record on the Korean coast"));
     writeFile("Harmonic Constants/HC_Brothers_.txt", "Brothers,8,none\r\n");
     questions.willAnswer(Answer::Ok);
     choose(window, brothersStream);
@@ -253,8 +256,9 @@ TEST_F(frmTIDETest, aLongerFactorsFileIsTakenUpWhenTheWindowOpens)
     EXPECT_EQ(scrollValue(window), 1189);
     EXPECT_NE(text(window, "lblTideInfo"), "");
     questions.willAnswer(Answer::Ok);
+    questions.willAnswer(Answer::No);
     setDate(window, "2006/1/2");
-    EXPECT_EQ(questions.asked.back(), tooFar("2006/1/1"));
+    EXPECT_THAT(questions.asked, ::testing::Contains(tooFar("2006/1/1")));
     questions.willAnswer(Answer::Ok);
     choose(window, "mnuEND(2)");
     EXPECT_THAT(questions.asked.back(), HasSubstr("up to 2006/1/1."));
@@ -275,14 +279,18 @@ TEST_F(frmTIDETest, everyMnemonicOfAMenuIsItsOwn)
 
 TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
 {
-    const auto prediction = PredictTide(TideFolder::shipped(), "Port Dickson", "2003/07/15", {});
+    const StationList list(TideFolder::shipped());
+    const FullConstants constants(TideFolder::shipped());
+    const StationDays station(TideFolder::shipped(), TideKind::Tide, "Saint John NB", list,
+                              constants);
+    const TideDayShown day = station.day(37817);
     const StationLines lines =
-        describeStation(*prediction, readStationNotes(TideFolder::shipped(), "Port Dickson"));
+        describeStation(day.four, list.notesOf("Saint John NB"), list.errorOf("Saint John NB"));
     for (const QSize paper : {QSize(840, 1188), QSize(1188, 840)}) {
         frmTIDEPicture picture(program());
-        picture.showPrediction(*prediction);
+        picture.showPrediction(day.four);
         QSize curve;
-        const frmTIDEPage page{"Port Dickson", "2003/07/15", *prediction, lines,
+        const frmTIDEPage page{"Saint John NB", "2003/07/15", day, lines,
                                [&](QPainter& painter, const QSize& size) {
                                    curve = size;
                                    picture.drawForPaper(painter, size);
@@ -291,7 +299,7 @@ TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
         QPainter painter(&recorded);
         page.draw(painter, QRect(QPoint(0, 0), paper));
         painter.end();
-        EXPECT_GT(curve.height(), 200);
+        EXPECT_GT(curve.height(), 150);
         const int hair = 2; // half the width of a line, rounded up
         const QRect drawn = recorded.boundingRect();
         EXPECT_TRUE(QRect(QPoint(-hair, -hair), paper + QSize(2 * hair, 2 * hair)).contains(drawn))

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/FileStore.h"
+#include "forms/frmTIDE/PredictTide.h"
+
+#include <string>
+#include <vector>
+
+namespace korvel
+{
+
+/// A field of a station's file, as the check finds it.
+struct CheckedField {
+    int number = 0;
+    std::string name; ///< "Phase of M2"
+    std::string value;
+    std::string unit;
+    std::string verdict; ///< "good", or what is wrong with it
+    bool isGood = true;
+};
+
+/// What the check of a station's file says.
+struct StationCheck {
+    std::string file;
+    std::string fault; ///< why the file cannot be used at all; the fields before it are listed
+    std::vector<CheckedField> fields;
+
+    int questionable() const; ///< fields out of their range
+    std::string summary() const;
+};
+
+/// Checks every field of a station's file: that it can be read, and that it lies within what such a
+/// figure can be. Meant for files made from the ship's own tables, before they are used.
+StationCheck checkStation(FileStore& files, TideKind kind, const std::string& place);
+
+} // namespace korvel

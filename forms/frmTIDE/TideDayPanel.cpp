@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/TideDayPanel.h"
+
+#include "app/shell/Boxes.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr std::array<Field, 2> questionFields = {{
+    {"txtAtTime", "&Height at", "Time of the day, h:mm zone time", FieldKind::Moment, "zone time"},
+    {"txtAtHeight", "&From a height of", "Height or rate, metres or knots", FieldKind::Number,
+     "m or kn"},
+}};
+
+} // namespace
+
+TideDayPanel::TideDayPanel(QWidget* parent) : QWidget(parent), m_boxes(questionFields, this)
+{
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addLayout(layOutWaters());
+    row->addSpacing(2 * fontMetrics().height());
+    row->addLayout(layOutQuestions(), 1);
+    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+        m_boxes[i]->setMaxLength(16);
+        connect(m_boxes[i], &QLineEdit::textChanged, this, [this] { answer(); });
+    }
+}
+
+ResultLabel* TideDayPanel::addLabel(const QString& name, const QString& accessibleName)
+{
+    auto* label = new ResultLabel(this);
+    label->setObjectName(name);
+    label->setAccessibleName(accessibleName);
+    label->setFont(font()); // beside the texts of the day, which stay the largest
+    return label;
+}
+
+QGridLayout* TideDayPanel::layOutWaters()
+{
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(4 * fontMetrics().averageCharWidth());
+    grid->setVerticalSpacing(0);
+    grid->addWidget(new QLabel("Four constituents, to the minute"), 0, 0);
+    m_allHeading = new QLabel("All constituents (difference)");
+    grid->addWidget(m_allHeading, 0, 1);
+    for (std::size_t i = 0; i < rows; ++i) {
+        const int index = static_cast<int>(i);
+        m_lblWater[i] = addLabel(memberName("lblWater", index), "High or low water");
+        m_lblWaterAll[i] = addLabel(memberName("lblWaterAll", index),
+                                    "The same water by all constituents and the difference");
+        grid->addWidget(m_lblWater[i], index + 1, 0);
+        grid->addWidget(m_lblWaterAll[i], index + 1, 1);
+        m_lblWater[i]->hide();
+        m_lblWaterAll[i]->hide();
+    }
+    grid->setRowStretch(static_cast<int>(rows) + 1, 1);
+    return grid;
+}
+
+QGridLayout* TideDayPanel::layOutQuestions()
+{
+    m_lblRange = addLabel("lblRange", "Range of the day and the Moon");
+    m_lblNow = addLabel("lblNow", "At this moment");
+    m_lblAnswer = {addLabel("lblHeightAt", "Height at the time asked for"),
+                   addLabel("lblTimesOf", "When the water stands at that height or more")};
+    m_lblAnswerAll = {addLabel("lblHeightAtAll", "The same by all constituents"),
+                      addLabel("lblTimesOfAll", "The same by all constituents")};
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(0);
+    for (int row = 0; ResultLabel * label : {m_lblRange, m_lblNow}) {
+        label->setEliding();
+        grid->addWidget(label, row++, 0, 1, 4);
+    }
+    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+        const int row = 2 + 2 * static_cast<int>(i);
+        auto* caption = new QLabel(questionFields[i].caption);
+        caption->setBuddy(m_boxes[i]);
+        m_boxes[i]->setFixedWidth(9 * fontMetrics().horizontalAdvance('0'));
+        grid->addWidget(caption, row, 0);
+        grid->addWidget(m_boxes[i], row, 1);
+        grid->addWidget(new QLabel(questionFields[i].unit), row, 2);
+        m_lblAnswer[i]->setEliding();
+        m_lblAnswerAll[i]->setEliding();
+        grid->addWidget(m_lblAnswer[i], row, 3);
+        grid->addWidget(m_lblAnswerAll[i], row + 1, 3);
+    }
+    grid->setColumnStretch(3, 1);
+    grid->setRowStretch(6, 1);
+    return grid;
+}
+
+void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
+{
+    m_day = day;
+    if (!withAll) m_day->all.reset();
+    const std::vector<WaterLine> lines = waterLines(*m_day);
+    m_allHeading->setVisible(m_day->all.has_value());
+    for (std::size_t i = 0; i < rows; ++i) {
+        const WaterLine line = i < lines.size() ? lines[i] : WaterLine{};
+        m_lblWater[i]->setText(QString::fromStdString(line.four));
+        m_lblWaterAll[i]->setText(QString::fromStdString(line.all));
+        m_lblWater[i]->setVisible(!line.four.empty());
+        m_lblWaterAll[i]->setVisible(!line.all.empty());
+    }
+    m_lblRange->setText(QString::fromStdString(rangeText(*m_day)));
+    answer();
+}
+
+void TideDayPanel::showNow(const std::string& text)
+{
+    m_lblNow->setText(QString::fromStdString(text));
+}
+
+void TideDayPanel::answer()
+{
+    if (!m_day) return;
+    const std::array<CurveAnswer, 2> answers = {heightAt(*m_day, m_boxes[0]->value()),
+                                                timesOfHeight(*m_day, m_boxes[1]->value())};
+    for (std::size_t i = 0; i < answers.size(); ++i) {
+        m_lblAnswer[i]->setText(QString::fromStdString(answers[i].text));
+        m_lblAnswerAll[i]->setText(QString::fromStdString(answers[i].all));
+        m_lblAnswerAll[i]->setVisible(!answers[i].all.empty());
+    }
+    if (onAnswers) onAnswers(answers[0], answers[1]);
+}
+
+} // namespace korvel

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/TideReports.h"
+
+#include "forms/frmTIDE/StationCheck.h"
+#include "forms/frmTIDE/Stations.h"
+#include "forms/frmTIDE/TableDialog.h"
+#include "forms/frmTIDE/TideWeekPage.h"
+#include "forms/frmTIDE/frmTIDEPage.h"
+
+#include <QPointer>
+
+namespace korvel
+{
+namespace
+{
+
+QString text(const std::string& value)
+{
+    return QString::fromStdString(value);
+}
+
+std::vector<QStringList> rowsOf(const std::vector<WeekDay>& week)
+{
+    std::vector<QStringList> rows;
+    for (const WeekDay& day : week)
+        for (bool isFirst = true; const WaterLine& water : day.waters) {
+            rows.push_back({isFirst ? text(day.date) : "", isFirst ? text(day.moon) : "",
+                            text(water.four), text(water.all)});
+            isFirst = false;
+        }
+    return rows;
+}
+
+std::vector<QStringList> rowsOf(const StationCheck& check)
+{
+    std::vector<QStringList> rows;
+    for (const CheckedField& field : check.fields)
+        rows.push_back({QString::number(field.number), text(field.name), text(field.value),
+                        text(field.unit), text(field.verdict)});
+    return rows;
+}
+
+} // namespace
+
+TideReports::TideReports(Program& program, QWidget& window, const Paper& paper)
+    : m_program(program), m_window(window), m_paper(paper)
+{
+}
+
+void TideReports::say(const std::string& text) const
+{
+    m_program.questions().ask({text, programTitle, Buttons::Ok});
+}
+
+void TideReports::printDay(const TideSubject& subject, frmTIDEPicture& picture) const
+{
+    const frmTIDEPage page{
+        text(subject.place), text(TideDates::label(subject.day.four.serial)), subject.day,
+        subject.lines,
+        [&picture](QPainter& painter, const QSize& size) { picture.drawForPaper(painter, size); }};
+    m_paper.print(QPageLayout::Portrait,
+                  [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
+}
+
+void TideReports::printWeek(const TideSubject& subject) const
+{
+    const TideWeekPage page{
+        text(subject.place), subject.day.four.kind, text(subject.day.four.lblTD),
+        weekFrom(subject.station, subject.day.four.serial, subject.dates), subject.lines};
+    m_paper.print(QPageLayout::Portrait,
+                  [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
+}
+
+void TideReports::showWeek(const TideSubject& subject) const
+{
+    const auto week = weekFrom(subject.station, subject.day.four.serial, subject.dates);
+    TableDialog dialog(&m_window, "dlgWeek", text(subject.place + ", seven days"),
+                       text("Zone time " + subject.day.four.lblTD + ".  Not for navigation.  " +
+                            subject.lines.estimates),
+                       {"Date", "Moon", "Four constituents", "All constituents (difference)"},
+                       rowsOf(week), [this, &subject] { printWeek(subject); });
+    dialog.exec();
+}
+
+void TideReports::saveMonth(const TideSubject& subject) const
+{
+    const std::int64_t serial = subject.day.four.serial;
+    const std::string name = monthFileName(subject.place, subject.day.four.kind, serial);
+    const std::string table = monthTable(subject.station, subject.place, serial, subject.dates);
+    const auto fault = m_program.files().save(name, table);
+    say(fault ? name + " was not written: " + *fault + "."
+              : "The table of the month is\r" + m_program.files().path(name));
+}
+
+void TideReports::checkFile(TideKind kind, const std::string& offeredPlace) const
+{
+    const auto answer = m_program.questions().input(
+        std::string(kind == TideKind::Tide ? "Tide" : "Stream") + " station whose file is checked",
+        programTitle, offeredPlace);
+    if (!answer || answer->empty()) return;
+    const bool isKnown = kind == TideKind::Tide ? isTideStation(*answer) : isStreamStation(*answer);
+    if (!isKnown) {
+        say("There is no station \"" + *answer + "\" in the menus.");
+        return;
+    }
+    const StationCheck check = checkStation(m_program.files(), kind, *answer);
+    TableDialog dialog(&m_window, "dlgCheck", text(check.file), text(check.summary()),
+                       {"Field", "Meaning", "Value", "Unit", "Verdict"}, rowsOf(check));
+    dialog.exec();
+}
+
+} // namespace korvel

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmTIDE/FullConstants.h"
+#include "forms/frmTIDE/StationList.h"
+#include "forms/frmTIDE/TideDates.h"
+#include "forms/frmTIDE/TideWaters.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Tables of several days of one station.
+namespace korvel
+{
+
+/// A station whose files have been read, and the factors of its days.
+class StationDays
+{
+public:
+    /// @param place of the menus; its file is read once
+    /// @throws TideDataFault
+    StationDays(FileStore& files, TideKind kind, const std::string& place, const StationList& list,
+                const FullConstants& constants);
+
+    /// @throws TideDataFault for a day that the factors file does not have
+    TideDayShown day(std::int64_t serial) const;
+
+    /// The day with figures of highest and lowest that follow on what is shown.
+    TideDayShown day(std::int64_t serial, const TidePrediction& shown) const;
+
+private:
+    FileStore& m_factors;
+    TideKind m_kind;
+    TideStation m_station;
+    std::optional<tidedata::AllConstituents> m_all;
+    bool m_isEstimated;
+};
+
+/// A day of the seven-day table.
+struct WeekDay {
+    std::string date; ///< "2026/11/21"
+    std::string moon; ///< "springs"
+    std::vector<WaterLine> waters;
+};
+
+/// Seven days from one on, as far as the dates reach.
+std::vector<WeekDay> weekFrom(const StationDays& station, std::int64_t serial,
+                              const TideDates& dates);
+
+/// The month of a day as delimited text, a high or low water a line: date, time, high or low,
+/// height and unit, and by which constituents. Station and warning stand in its first lines.
+std::string monthTable(const StationDays& station, const std::string& place, std::int64_t serial,
+                       const TideDates& dates);
+
+/// Name of the month's file: "Tide Tokyo 2026-11.csv".
+std::string monthFileName(const std::string& place, TideKind kind, std::int64_t serial);
+
+} // namespace korvel

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/TideWaters.h"
+
+#include "forms/frmTIDE/StationLines.h"
+#include "forms/frmTIDE/TideTables.h"
+#include "tests/forms/frmTIDE/TideFolder.h"
+#include "tests/golden/Golden.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+using korvel::testing::Golden;
+using korvel::testing::golden;
+using NavFunc113::Hours;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+StationDays shippedStation(const std::string& place)
+{
+    static const StationList list(TideFolder::shipped());
+    static const FullConstants constants(TideFolder::shipped());
+    return {TideFolder::shipped(), TideKind::Tide, place, list, constants};
+}
+
+/// The sum of a station of constituents.txt for any day, with or without a factors file for it.
+tidedata::DayOfAllConstituents sumOf(const Golden& row)
+{
+    static const FullConstants constants(TideFolder::shipped());
+    const TideStation station = readTideStation(TideFolder::shipped(), row.text("place"));
+    return constants.of(row.text("place"), station)
+        .value()
+        .ofDay(TideDates::dateIn(row.text("date")).value());
+}
+
+TEST(AllConstituents, areTheIndependentSum)
+{
+    for (const Golden& row : golden("all_constituents")) {
+        const auto day = sumOf(row);
+        const Hours time(row.number("hours"));
+        EXPECT_NEAR(day.at(time), row.number("height"), 0.005) << row;
+        const auto half = static_cast<std::size_t>(time.value() * 2);
+        EXPECT_NEAR(day.halfHourly()[half], day.at(time), 1e-9) << row;
+    }
+}
+
+TEST(AllConstituents, turnsAreThoseOfTheIndependentSumToTheMinute)
+{
+    for (const Golden& row : golden("tide_waters")) {
+        const auto day = sumOf(row);
+        std::string turns;
+        for (const auto& turn : NavFunc113::TurnsOf([&day](Hours t) { return day.at(t); }))
+            turns += (turns.empty() ? "" : ", ") + std::string(turn.isHigh ? "High " : "Low ") +
+                     clockTime(turn.time) + " " + heightText(turn.value, TideKind::Tide);
+        EXPECT_EQ(turns, row.text("waters")) << row;
+    }
+}
+
+TEST(AllConstituents, areLeftOutBesideAShipsOwnConstants)
+{
+    const FullConstants constants(TideFolder::shipped());
+    const TideStation tokyo = readTideStation(TideFolder::shipped(), "Tokyo");
+    const auto with = [&tokyo](auto change) {
+        TideStation own = tokyo;
+        change(own);
+        return own;
+    };
+    EXPECT_TRUE(constants.of("Tokyo", tokyo));
+    EXPECT_FALSE(constants.of("Mina Saud", tokyo)) << "modelled: no record";
+    EXPECT_FALSE(constants.of("Kobe", tokyo));
+    for (const TideStation& own :
+         {with([](TideStation& s) { s.meanLevel += 0.02; }),
+          with([](TideStation& s) { s.zone = Hours(8); }),
+          with([](TideStation& s) { s.constituents[3].amplitude += 0.002; }),
+          with([](TideStation& s) { s.constituents[1].phase += NavFunc113::Degrees(0.2); })})
+        EXPECT_FALSE(constants.of("Tokyo", own));
+}
+
+/// A day of one wave of twelve hours about a level, its crest at an hour; the sum of all
+/// constituents is the same wave later and higher when asked for.
+TideDayShown plainDay(double crest, double amplitude, double level, TideKind kind = TideKind::Tide)
+{
+    TideDayShown day;
+    day.four.kind = kind;
+    day.four.serial = 37817; // 2003-07-15, the day after full Moon
+    day.four.level = level;
+    NavFunc113::TideConstituents constituents{};
+    constituents[1] = {NavFunc113::Degrees(30 * crest), amplitude};
+    NavFunc113::DailyFactors factors{};
+    for (auto& factor : factors)
+        factor.factor = 1;
+    day.four.day.emplace(constituents, factors, factors, NavFunc113::ShallowWaterTerms{});
+    day.four.values = day.four.day->halfHourly(level);
+    return day;
+}
+
+TEST(TideWaters, turnsAtAnyMinuteAndAtMidnight)
+{
+    const struct {
+        const char* fault;
+        double crest;
+        std::vector<std::string> lines;
+    } rows[] = {
+        {"between the half hours",
+         4.2,
+         {"High 04:12   3.50 m", "Low 10:12   0.50 m", "High 16:12   3.50 m",
+          "Low 22:12   0.50 m"}},
+        {"00:00 belongs to the day, 24:00 to the next",
+         0.001,
+         {"High 00:00   3.50 m", "Low 06:00   0.50 m", "High 12:00   3.50 m",
+          "Low 18:00   0.50 m"}},
+        {"just before midnight",
+         11.99,
+         {"Low 05:59   0.50 m", "High 11:59   3.50 m", "Low 17:59   0.50 m",
+          "High 23:59   3.50 m"}},
+    };
+    for (const auto& row : rows) {
+        std::vector<std::string> lines;
+        for (const WaterLine& line : waterLines(plainDay(row.crest, 1.5, 2)))
+            lines.push_back(line.four);
+        EXPECT_EQ(lines, row.lines) << row.fault;
+    }
+    EXPECT_TRUE(waterLines(plainDay(0, 0, 2)).empty()) << "no tide at all";
+}
+
+TEST(TideWaters, bothWaysStandInOneLineWithTheirDifference)
+{
+    const StationDays saintJohn = shippedStation("Saint John NB");
+    for (const WaterPair& water : watersOf(saintJohn.day(38000))) {
+        ASSERT_TRUE(water.four && water.all);
+        EXPECT_EQ(water.four->isHigh, water.all->isHigh);
+        EXPECT_LT(fabs(water.four->time - water.all->time), Hours(0.5));
+    }
+    const TideDayShown tokyo = shippedStation("Tokyo").day(37817);
+    const WaterLine line = waterLines(tokyo).front();
+    const WaterPair pair = watersOf(tokyo).front();
+    EXPECT_THAT(line.all, HasSubstr(clockTime(pair.all->time)));
+    EXPECT_THAT(line.all, HasSubstr(pair.all->time > pair.four->time ? "(+" : "(-"));
+    EXPECT_EQ(waterLines(shippedStation("Berhala").day(37817)).front().all, "");
+    EXPECT_THAT(waterLines(shippedStation("Berhala").day(37817)).front().four, HasSubstr("   ~"));
+}
+
+TEST(TideWaters, questionsOfTheOfficer)
+{
+    for (const Golden& row : golden("tide_questions")) {
+        const TideDayShown day = plainDay(row.number("crest"), 1.5, 2);
+        const bool isTime = row.text("question") == "time";
+        const std::string& typed = row.text("typed");
+        const CurveAnswer answer = isTime ? heightAt(day, typed) : timesOfHeight(day, typed);
+        EXPECT_EQ(answer.text, row.text("answer")) << row;
+        EXPECT_EQ(answer.times.size(), row.integer("marks")) << row;
+        EXPECT_EQ(answer.remark.empty(), typed.empty() || row.has("answer")) << row;
+        EXPECT_EQ(answer.level.has_value(), !isTime && row.has("answer")) << row;
+    }
+    TideDayShown both = plainDay(4, 1.5, 2);
+    both.all = shippedStation("Tokyo").day(37817).all;
+    EXPECT_THAT(heightAt(both, "4:00").all, HasSubstr("all constituents "));
+    EXPECT_THAT(timesOfHeight(both, "9").all, HasSubstr("all constituents never"));
+}
+
+TEST(TideWaters, rangeMoonAndNow)
+{
+    const std::pair<double, const char*> ages[] = {{0, "springs"},
+                                                   {2.5, "springs"},
+                                                   {3, "springs to neaps"},
+                                                   {5, "neaps"},
+                                                   {7.5, "neaps"},
+                                                   {10, "neaps"},
+                                                   {11, "neaps to springs"},
+                                                   {12.5, "springs"},
+                                                   {17, "springs"},
+                                                   {18, "springs to neaps"},
+                                                   {22, "neaps"},
+                                                   {26, "neaps to springs"},
+                                                   {29.9, "springs"}};
+    for (const auto& [age, name] : ages)
+        EXPECT_EQ(springOrNeap(age), name) << age;
+    // Full Moon 2003-07-13 19:21 UTC, new Moon 2003-07-29 06:53 (almanac).
+    EXPECT_NEAR(moonAgeOf(37815, Hours(0)), 15, 0.5);
+    EXPECT_THAT(rangeText(plainDay(4.2, 1.5, 2)), ::testing::StartsWith("Range 3.00 m, springs"));
+    EXPECT_THAT(rangeText(plainDay(4, 2, 0.5, TideKind::Stream)),
+                ::testing::StartsWith("Slack 00:31, 07:29, 12:31, 19:29;"));
+    TideDayShown day = plainDay(4, 1.5, 2);
+    day.four.station.zone = Hours(9);
+    EXPECT_EQ(nowText(day, 37816.75), "Now 2003/07/15 03:00   3.30 m rising");
+    EXPECT_EQ(nowText(day, 37816.875), "Now 2003/07/15 06:00   2.75 m falling");
+    day.isEstimated = true;
+    EXPECT_EQ(nowText(day, 37816.75), "Now 2003/07/15 03:00   ~3.30 m rising");
+}
+
+TEST(TideTables, weekAndMonthEndWhereTheDatesDo)
+{
+    const StationDays tokyo = shippedStation("Tokyo");
+    const TideDates dates;
+    const auto week = weekFrom(tokyo, 37817, dates);
+    ASSERT_EQ(week.size(), 7u);
+    EXPECT_EQ(week.back().date, "2003/07/21");
+    EXPECT_EQ(week[0].waters.size(), 3u);
+    EXPECT_EQ(weekFrom(tokyo, 38715, dates).size(), 3u) << "to 2005/12/31";
+
+    const std::string july = monthTable(tokyo, "Tokyo", 37817, dates);
+    EXPECT_THAT(july, HasSubstr("2003/07/01,"));
+    EXPECT_THAT(july, HasSubstr("2003/07/31,"));
+    EXPECT_EQ(july.find("2003/08"), july.npos);
+    EXPECT_EQ(july.find("2003/06"), july.npos);
+    const std::string first = week[0].waters[0].four; // "Low 00:46   0.12 m"
+    EXPECT_THAT(july, HasSubstr("2003/07/15," + first.substr(first.find(' ') + 1, 5)));
+    EXPECT_THAT(july, HasSubstr(",m,four,\r\n"));
+    EXPECT_THAT(july, HasSubstr(",m,all,\r\n"));
+    EXPECT_THAT(monthTable(shippedStation("Berhala"), "Berhala", 37817, dates),
+                HasSubstr(",four,estimated level\r\n"));
+    EXPECT_THAT(monthTable(tokyo, "Tokyo", 38717, dates), HasSubstr("2005/12/31"));
+    EXPECT_EQ(monthFileName("Tokyo", TideKind::Tide, 37817), "Tide Tokyo 2003-07.csv");
+    EXPECT_EQ(monthFileName("Brothers", TideKind::Stream, 37817), "Stream Brothers 2003-07.csv");
+}
+
+TEST(StationLines, gradeErrorAndEstimatesOfTheMonth)
+{
+    const StationList list(TideFolder::shipped());
+    const auto linesOf = [&list](const std::string& place) {
+        return describeStation(shippedStation(place).day(37817).four, list.notesOf(place),
+                               list.errorOf(place));
+    };
+    const StationLines tokyo = linesOf("Tokyo");
+    EXPECT_EQ(tokyo.accuracy, "Method against the sum of all constituents (2003 to 2005): heights "
+                              "0.03 m, highest 0.03 m, 6 min, lowest 0.03 m, 6 min.");
+    EXPECT_EQ(tokyo.estimates, "");
+    EXPECT_THAT(linesOf("Berhala").estimates,
+                HasSubstr("the mean level and the correction of month 7"));
+    EXPECT_THAT(linesOf("Berhala").accuracy, HasSubstr("not measured"));
+    const auto own = describeStation(shippedStation("Tokyo").day(37817).four, nullptr, {});
+    EXPECT_EQ(own.accuracy, "");
+    EXPECT_THAT(own.source, HasSubstr("ship's own"));
+}
+
+} // namespace
+} // namespace korvel
