@@ -2,6 +2,8 @@
 #include "tests/golden/Golden.h"
 #include "tests/SourceFolder.h"
 
+#include <gmock/gmock.h>
+
 #include <algorithm>
 #include <charconv>
 #include <fstream>
@@ -116,6 +118,23 @@ bool Golden::tick(std::string_view column) const
     return cell == "yes";
 }
 
+std::vector<GoldenPair> Golden::pairs(std::string_view column) const
+{
+    std::vector<GoldenPair> all;
+    const std::string& cell = text(column);
+    for (std::size_t at = 0; at < cell.size();) {
+        const std::size_t end = std::min(cell.find("; ", at), cell.size());
+        const std::string pair = cell.substr(at, end - at);
+        const std::size_t sign = pair.find_first_of("=~!");
+        if (sign == std::string::npos)
+            all.push_back({pair, '=', ""});
+        else
+            all.push_back({pair.substr(0, sign), pair[sign], pair.substr(sign + 1)});
+        at = end + 2;
+    }
+    return all;
+}
+
 NavFunc113::Earth Golden::earth() const
 {
     const std::string& cell = text("earth");
@@ -156,6 +175,23 @@ std::vector<Golden> golden(const std::string& name)
     check(sourceNamed, "no comment names the source of the figures");
     check(!rows.empty(), "there is no case");
     return rows;
+}
+
+void expectTexts(const Golden& row, std::string_view column,
+                 const std::map<std::string, std::string>& texts)
+{
+    using namespace ::testing;
+    for (const GoldenPair& pair : row.pairs(column)) {
+        const auto found = texts.find(pair.name);
+        if (found == texts.end()) {
+            ADD_FAILURE() << row << ": nothing is called " << pair.name;
+            continue;
+        }
+        Matcher<std::string> expected = pair.text;
+        if (pair.sign == '~') expected = HasSubstr(pair.text);
+        if (pair.sign == '!') expected = Not(HasSubstr(pair.text));
+        EXPECT_THAT(found->second, expected) << row << ": " << pair.name;
+    }
 }
 
 } // namespace korvel::testing

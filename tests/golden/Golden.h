@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <iosfwd>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,6 +13,13 @@
 
 namespace korvel::testing
 {
+
+/// "latitude=35.30" or "notice~no number": what a cell says of a name.
+struct GoldenPair {
+    std::string name;
+    char sign = '='; ///< '=' the whole text, '~' a part of it, '!' no part of it
+    std::string text;
+};
 
 /// A row of a table of cases. Cells are asked for by the name of their column; a cell that is not
 /// there or not what it is taken for throws std::runtime_error with file and line.
@@ -47,6 +55,8 @@ public:
     {
         return NavFunc113::Hours(number(column));
     }
+    /// "volume=10000; density=870.0; metric": a name alone has an empty text.
+    std::vector<GoldenPair> pairs(std::string_view column) const;
     /// Column "earth": "sphere" or "spheroid".
     NavFunc113::Earth earth() const;
 
@@ -71,5 +81,10 @@ private:
 /// Cells are trimmed. A cell in double quotes keeps its blanks and commas and may hold \r \n \t \"
 /// \\. @throws std::runtime_error when the file is missing, names no source or has no case
 std::vector<Golden> golden(const std::string& table);
+
+/// Expects of the texts by their names what the pairs of a column say of them. A name that is not
+/// among the texts fails.
+void expectTexts(const Golden& row, std::string_view column,
+                 const std::map<std::string, std::string>& texts);
 
 } // namespace korvel::testing

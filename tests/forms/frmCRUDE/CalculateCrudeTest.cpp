@@ -15,21 +15,6 @@ namespace
 
 using namespace korvel::testing;
 
-/// "volume=10000; density=870.0" as pairs; a name alone has an empty value.
-std::vector<std::pair<std::string, std::string>> pairs(const std::string& cell)
-{
-    std::vector<std::pair<std::string, std::string>> all;
-    for (std::size_t at = 0; at < cell.size();) {
-        const std::size_t end = std::min(cell.find("; ", at), cell.size());
-        const std::string pair = cell.substr(at, end - at);
-        const std::size_t equals = std::min(pair.find('='), pair.size());
-        all.emplace_back(pair.substr(0, equals),
-                         equals == pair.size() ? "" : pair.substr(equals + 1));
-        at = end + 2;
-    }
-    return all;
-}
-
 void type(CrudeInput& cargo, const std::string& name, const std::string& value)
 {
     static const std::map<std::string, std::string CrudeInput::*> boxes = {
@@ -73,9 +58,9 @@ void type(CrudeInput& cargo, const std::string& name, const std::string& value)
         throw std::runtime_error("no input " + name);
 }
 
-std::string shown(const CrudeResult& cargo, const std::string& name)
+std::map<std::string, std::string> shown(const CrudeResult& cargo)
 {
-    const std::map<std::string, std::string> figures = {
+    return {
         {"vcf", cargo.vcf},
         {"vcfMethod", cargo.vcfMethod},
         {"rangeFlag", cargo.rangeFlag},
@@ -104,18 +89,15 @@ std::string shown(const CrudeResult& cargo, const std::string& name)
         {"weightMethod", cargo.weightMethod},
         {"notice", cargo.notice},
     };
-    return figures.at(name);
 }
 
 TEST(CalculateCrude, figuresOfCargoes)
 {
     for (const Golden& row : golden("crude_cargo")) {
         CrudeInput input;
-        for (const auto& [name, value] : pairs(row.text("cargo")))
-            type(input, name, value);
-        const CrudeResult cargo = CalculateCrude(input);
-        for (const auto& [name, figure] : pairs(row.text("shows")))
-            EXPECT_EQ(shown(cargo, name), figure) << row << ": " << name;
+        for (const GoldenPair& box : row.pairs("cargo"))
+            type(input, box.name, box.text);
+        expectTexts(row, "shows", shown(CalculateCrude(input)));
     }
 }
 

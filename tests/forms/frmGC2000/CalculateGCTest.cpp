@@ -2,6 +2,8 @@
 #include "forms/frmGC2000/CalculateGC.h"
 #include "forms/frmGC2000/DrawWPs.h"
 
+#include "tests/golden/Golden.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
@@ -11,155 +13,72 @@ namespace korvel
 namespace
 {
 
-using testing::ElementsAre;
+using namespace korvel::testing;
+using ::testing::ElementsAre;
 
-std::vector<std::string> longitudes(const GCResult& result)
+GCResult routeOf(const Golden& row)
 {
-    std::vector<std::string> texts;
-    for (const GCRow& row : result.rows)
-        if (!row.longitude.empty()) texts.push_back(row.longitude);
+    return CalculateGC({{row.text("lat1"), row.text("long1"), row.text("lat2"), row.text("long2")},
+                        row.has("earth") ? row.earth() : NavFunc113::Earth::Sphere});
+}
+
+std::map<std::string, std::string> shown(const GCResult& result)
+{
+    std::map<std::string, std::string> texts = {
+        {"waypoints", std::to_string(result.route.waypoints.size())},
+        {"rhumb", result.lblGC2000[0]},
+        {"great", result.lblGC2000[1]},
+        {"legs", result.lblGC2000[2]},
+        {"initial", result.initialCourse},
+        {"final", result.finalCourse},
+        {"vertexLat", result.vertexLat},
+        {"vertexLong", result.vertexLong},
+        {"vertex", result.vertexRemark},
+        {"saving", result.saving},
+        {"arrival",
+         result.route.waypoints.empty() ? "" : result.rows[result.route.waypoints.size() - 1].lat},
+    };
+    for (std::size_t i = 0; i < GCResult::rowCount; ++i) {
+        const GCRow& row = result.rows[i];
+        texts[std::to_string(i + 1) + ".lat"] = row.lat;
+        texts[std::to_string(i + 1) + ".course"] = row.course;
+        texts["longitudes"] += row.longitude + (row.longitude.empty() ? "" : " ");
+    }
     return texts;
 }
 
-TEST(CalculateGC, waypointsStandOnEveryTenthMeridian)
+TEST(CalculateGC, waypointsAndFigures)
 {
-    const struct {
-        const char* fault;
-        std::array<std::string, 4> boxes;
-        std::vector<std::string> meridians;
-    } rows[] = {
-        {"no meridian between", {"35", "131.0", "36", "135.0"}, {"131.00'0E", "135.00'0E"}},
-        {"westward from a meridian",
-         {"35", "140", "36", "125.30"},
-         {"140.00'0E", "130.00'0E", "125.30'0E"}},
-        {"eastward from a meridian", {"0", "10", "1", "20"}, {"10.00'0E", "20.00'0E"}},
-        {"floor of a western longitude",
-         {"0", "-5.30", "1", "-21"},
-         {"5.30'0W", "10.00'0W", "20.00'0W", "21.00'0W"}},
-        {"180 written -180 on the way east",
-         {"35", "175.0", "36", "-175.0"},
-         {"175.00'0E", "180.00'0W", "175.00'0W"}},
-        {"-180 written 180 on the way west",
-         {"35", "-175.0", "36", "175.0"},
-         {"175.00'0W", "180.00'0E", "175.00'0E"}},
-        {"from -180 westward",
-         {"35", "-180", "36", "165"},
-         {"180.00'0W", "170.00'0E", "165.00'0E"}},
-        {"arrival at 180 eastward",
-         {"0", "165", "1", "180"},
-         {"165.00'0E", "170.00'0E", "180.00'0E"}},
-        {"no leg of length 0 at -180",
-         {"0", "-165", "1", "-180"},
-         {"165.00'0W", "170.00'0W", "180.00'0E"}},
-        {"across Greenwich", {"10", "5", "12", "-5"}, {"5.00'0E", "0.00'0E", "5.00'0W"}},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        EXPECT_EQ(longitudes(CalculateGC({row.boxes})), row.meridians);
-    }
-    EXPECT_EQ(longitudes(CalculateGC({{"10", "1", "20", "-178.59"}})).size(), 20U);
-}
-
-TEST(CalculateGC, passageAcrossThePacific)
-{
-    const GCResult result = CalculateGC({{"35.27", "139.39", "37.49", "-122.25"}});
-    ASSERT_EQ(result.route.waypoints.size(), 12U);
-    // Latitudes by the plane through the two positions and the earth's centre.
-    EXPECT_EQ(result.rows[1].lat, "35.39'2N");
-    EXPECT_EQ(result.rows[5].lat, "48.05'5N");
-    EXPECT_EQ(result.rows[10].lat, "41.18'0N");
-    EXPECT_EQ(result.rows[11].course, "") << "no leg leaves the arrival";
-    EXPECT_EQ(result.rows[10].course, "<120.7>");
-    EXPECT_EQ(result.lblGC2000[0], "4737.'2");
-    EXPECT_EQ(result.lblGC2000[1], "4471.'6");
-    EXPECT_EQ(result.initialCourse, "<054.3>");
-    EXPECT_EQ(result.finalCourse, "<123.2>");
-    EXPECT_EQ(result.vertexLat, "48.35'8N");
-    EXPECT_EQ(result.vertexLong, "169.14'0W");
-    EXPECT_EQ(result.vertexRemark, "on the route");
-    EXPECT_EQ(result.saving, "265.'6");
-    EXPECT_EQ(result.lblGC2000[2], "4487.'5"); // worked leg by leg
-
-    const GCResult spheroid =
-        CalculateGC({{"35.27", "139.39", "37.49", "-122.25"}, NavFunc113::Earth::Spheroid});
-    EXPECT_EQ(spheroid.lblGC2000[1], "4471.'6");
-    EXPECT_NE(spheroid.lblGC2000[0], "4737.'2");
-    EXPECT_EQ(spheroid.saving, result.saving) << "compared on the sphere";
-}
-
-TEST(CalculateGC, otherOceans)
-{
-    const GCResult cape = CalculateGC({{"-33.54", "18.25", "40.42", "-74"}});
-    EXPECT_EQ(cape.rows[1].lat, "28.29'8S");
-    EXPECT_EQ(cape.rows[9].lat, "39.08'0N");
-    const GCResult sydney = CalculateGC({{"-33.51", "151.13", "-33.02", "-71.38"}});
-    EXPECT_EQ(sydney.rows[3].lat, "54.23'5S");
-    const GCResult meridian = CalculateGC({{"10", "20", "30", "20"}});
-    EXPECT_EQ(meridian.rows[1].lat, "30.00'0N") << "the arrival itself";
-    EXPECT_EQ(meridian.lblGC2000[2], "1200.'0");
+    for (const Golden& row : golden("great_circle_routes"))
+        expectTexts(row, "shows", shown(routeOf(row)));
 }
 
 TEST(CalculateGC, lastWaypointIsTheArrivalAsTyped)
 {
-    const auto arrival = [](const GCResult& result) {
-        return result.rows[result.route.waypoints.size() - 1].lat;
-    };
-    EXPECT_EQ(arrival(CalculateGC({{"-46.151", "-155.386", "-35.558", "24.214"}})), "35.55'8S")
-        << "rounding hides that the meridians are opposite";
-    for (int lat = 1; lat <= 65; ++lat) {
-        const std::string typed = std::to_string(lat);
-        EXPECT_EQ(arrival(CalculateGC({{"10", "139.39", typed, "-122.25"}})), typed + ".00'0N");
-        EXPECT_EQ(arrival(CalculateGC({{"10", "139.39", "-" + typed, "30"}})), typed + ".00'0S");
-    }
-}
-
-TEST(CalculateGC, outOfRangeBlanksEverything)
-{
-    EXPECT_FALSE(CalculateGC({{"65", "180", "-65", "-170"}}).route.waypoints.empty());
-    const std::array<std::string, 4> rows[] = {{"65.1", "0", "0", "10"},
-                                               {"0", "180.01", "0", "10"},
-                                               {"0", "0", "-65.001", "10"},
-                                               {"0", "0", "10", "E"},
-                                               {"-", "0", "10", "20"}};
-    for (const auto& boxes : rows) {
-        const GCResult result = CalculateGC({boxes});
-        EXPECT_TRUE(result.route.waypoints.empty());
-        EXPECT_TRUE(longitudes(result).empty());
-        EXPECT_THAT(result.lblGC2000, ElementsAre("", "", ""));
-        EXPECT_EQ(result.saving + result.initialCourse + result.vertexLat, "");
-    }
+    for (int lat = 1; lat <= 65; ++lat)
+        for (const auto& [sign, hemisphere, longitude] :
+             {std::tuple("", "N", "-122.25"), {"-", "S", "30"}}) {
+            const std::string typed = std::to_string(lat);
+            EXPECT_EQ(shown(CalculateGC({{"10", "139.39", sign + typed, longitude}}))["arrival"],
+                      typed + ".00'0" + hemisphere);
+        }
 }
 
 TEST(DrawWPs, noRouteIsTorn)
 {
-    const struct {
-        const char* name;
-        std::array<std::string, 4> boxes;
-        double first, last, left, right;
-    } rows[] = {
-        {"across 180 eastward", {"35", "140", "37", "-122.30"}, 140, 237.5, 128, 249.5},
-        {"across 180 westward", {"35", "-122.30", "37", "140"}, 237.5, 140, 128, 249.5},
-        {"across Greenwich westward", {"-33", "18", "40", "-74"}, 18, -74, -86, 30},
-        {"across Greenwich eastward", {"40", "-74", "-33", "18"}, -74, 18, -86, 30},
-        {"west of Greenwich", {"20", "-30", "30", "-60"}, 330, 300, 288, 342},
-        {"from -180 westward", {"20", "-180", "30", "165"}, 180, 165, 153, 192},
-        {"from Greenwich to 180", {"20", "0", "30", "180"}, 0, -180, -192, 12},
-        {"from 180 to Greenwich", {"20", "-180", "30", "0"}, 180, 0, -12, 192},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const GCChart chart = DrawWPs(CalculateGC({row.boxes}).route);
-        EXPECT_NEAR(chart.route.front().longitude, row.first, 1e-9);
-        EXPECT_NEAR(chart.route.back().longitude, row.last, 1e-9);
-        EXPECT_NEAR(chart.scale.left, row.left, 1e-9);
-        EXPECT_NEAR(chart.scale.right, row.right, 1e-9);
+    for (const Golden& row : golden("great_circle_charts")) {
+        const GCChart chart = DrawWPs(routeOf(row).route);
+        EXPECT_NEAR(chart.route.front().longitude, row.number("first"), 1e-9) << row;
+        EXPECT_NEAR(chart.route.back().longitude, row.number("last"), 1e-9) << row;
+        EXPECT_NEAR(chart.scale.left, row.number("left"), 1e-9) << row;
+        EXPECT_NEAR(chart.scale.right, row.number("right"), 1e-9) << row;
         for (std::size_t i = 1; i < chart.route.size(); ++i)
             EXPECT_LE(std::fabs(chart.route[i].longitude - chart.route[i - 1].longitude), 10);
-        EXPECT_EQ(chart.rhumbLine.front().longitude, chart.route.front().longitude);
-        EXPECT_EQ(chart.rhumbLine.back().longitude, chart.route.back().longitude);
+        EXPECT_EQ(chart.rhumbLine.front().longitude, chart.route.front().longitude) << row;
+        EXPECT_EQ(chart.rhumbLine.back().longitude, chart.route.back().longitude) << row;
         for (const ChartPoint& point : chart.route) {
-            EXPECT_LE(point.lat, chart.scale.top - 2 + 1e-9);
-            EXPECT_GE(point.lat, chart.scale.bottom + 3 - 1e-9);
+            EXPECT_LE(point.lat, chart.scale.top - 2 + 1e-9) << row;
+            EXPECT_GE(point.lat, chart.scale.bottom + 3 - 1e-9) << row;
         }
     }
 }

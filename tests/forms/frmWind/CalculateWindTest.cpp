@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/CalculateWind.h"
 
-#include "navlib/arithmetic_error.h"
+#include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
 
@@ -13,35 +13,18 @@ namespace
 using NavFunc113::Degrees;
 using NavFunc113::Knots;
 
-using testing::Each;
-using testing::ElementsAre;
+using namespace korvel::testing;
 
 TEST(CalculateWind, textsOfTheTrueWind)
 {
-    const struct {
-        const char* fault;
-        std::array<std::string, 4> boxes;
-        const char* direction;
-        const char* speed;
-    } rows[] = {
-        {"port side", {"0", "10", "-90", "10"}, "SW <225>", "Beaufort 4 (14.1Kn)"},
-        {"calm", {"200", "12", "0", "12"}, "SSW <200>", "Beaufort 0 (0.0Kn)"},
-        {"empty boxes are 0", {"", "", "", ""}, "North <000>", "Beaufort 0 (0.0Kn)"},
-        {"bounds", {"360", "0", "-180", "5"}, "South <180>", "Beaufort 2 (5.0Kn)"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        EXPECT_THAT(CalculateWind(row.boxes).lblWind, ElementsAre(row.direction, row.speed));
-    }
-    const std::array<std::string, 4> refused[] = {
-        {"360.1", "0", "0", "1"}, {"-1", "0", "0", "1"},  {"0", "-0.1", "0", "1"},
-        {"0", "0", "180.1", "1"}, {"0", "0", "0", "-1"},  {"0", "0", "0", "kn"},
-        {"0", "-", "0", "1"},     {"0", "0", "-181", "1"}};
-    for (const auto& boxes : refused) {
-        const WindResult result = CalculateWind(boxes);
-        EXPECT_THAT(result.lblWind, Each(""));
-        EXPECT_FALSE(result.figures);
-        EXPECT_NE(result.notice, "");
+    for (const Golden& row : golden("true_winds")) {
+        const WindResult wind = CalculateWind(
+            {row.text("course"), row.text("speed"), row.text("relative"), row.text("apparent")});
+        expectTexts(row, "shows",
+                    {{"from", wind.lblWind[0]},
+                     {"force", wind.lblWind[1]},
+                     {"picture", wind.figures ? "wind" : "rings"},
+                     {"notice", wind.notice}});
     }
     EXPECT_EQ(CalculateWind({"0", std::string(400, '9'), "0", "1"}).notice,
               "Ship's speed: too large a number");
@@ -66,41 +49,24 @@ TEST(WindPicture, vectorsMakeAParallelogram)
 
 TEST(WindPicture, ringsHoldTheStrongestAndStayWhileDragging)
 {
-    const struct {
-        double apparent, held, radius;
-    } rows[] = {{0, 0, 20},   {20, 0, 20},   {20.1, 0, 40}, {79, 0, 80},
-                {81, 0, 200}, {900, 0, 200}, {5, 80, 80},   {45, 40, 40}};
-    for (const auto& row : rows) {
+    for (const Golden& row : golden("wind_rings")) {
         WindFigures wind;
-        wind.apparentSpeed = Knots(row.apparent);
-        const WindPicture picture = pictureOfWind(wind, WindOrientation::HeadUp, Knots(row.held));
-        EXPECT_EQ(picture.rings.back(), Knots(row.radius));
-        EXPECT_GT(picture.scale.top, row.radius);
+        wind.apparentSpeed = row.knots("apparent");
+        const WindPicture picture = pictureOfWind(wind, WindOrientation::HeadUp, row.knots("held"));
+        EXPECT_EQ(picture.rings.back(), row.knots("radius")) << row;
+        EXPECT_GT(picture.scale.top, row.number("radius")) << row;
     }
 }
 
 TEST(WindPicture, pointerSetsTheRelativeWind)
 {
-    const struct {
-        WindVector place;
-        WindOrientation orientation;
-        double course;
-        const char* text;
-        const char* relative;
-        const char* speed;
-    } rows[] = {
-        {{10, 10}, WindOrientation::HeadUp, 77, "Relative:045/14kn", "45", "14"},
-        {{-10, 0}, WindOrientation::HeadUp, 77, "Relative:-090/10kn", "-90", "10"},
-        {{0, 0}, WindOrientation::HeadUp, 0, "Relative:000/0kn", "0", "0"},
-        {{0, 30}, WindOrientation::NorthUp, 350, "Relative:010/30kn", "10", "30"},
-        {{-20, 0}, WindOrientation::NorthUp, 45, "Relative:-135/20kn", "-135", "20"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.text);
-        const WindPointer pointer = windAt(row.place, row.orientation, Degrees(row.course));
-        EXPECT_EQ(pointer.text, row.text);
-        EXPECT_EQ(pointer.relative, row.relative);
-        EXPECT_EQ(pointer.apparentSpeed, row.speed);
+    for (const Golden& row : golden("wind_pointers")) {
+        const auto up = row.tick("northUp") ? WindOrientation::NorthUp : WindOrientation::HeadUp;
+        const WindPointer pointer =
+            windAt({row.number("x"), row.number("y")}, up, row.degrees("course"));
+        EXPECT_EQ(pointer.text, row.text("text")) << row;
+        EXPECT_EQ(pointer.relative, row.text("relative")) << row;
+        EXPECT_EQ(pointer.apparentSpeed, row.text("apparent")) << row;
     }
 }
 
