@@ -4,6 +4,7 @@
 #include "app/shell/FolderLock.h"
 #include "app/shell/GuardedApplication.h"
 #include "app/shell/MessageQuestions.h"
+#include "app/shell/OwnFonts.h"
 #include "app/shell/RecordsFolder.h"
 #include "app/shell/TerminationWatch.h"
 #include "app/shell/frmKORVEL2000.h"
@@ -68,6 +69,7 @@ void listen(GuardedApplication& application, FolderLock& lock, TerminationWatch&
 
 int main(int argc, char* argv[])
 {
+    useOwnFonts();
     QApplication::setStyle("Fusion");
     GuardedApplication application(argc, argv);
     QApplication::setApplicationName(programTitle);

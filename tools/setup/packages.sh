@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-# The Debian packages that building, running and testing need. Sourced by ./run and ./test.
+# The Debian packages that building, running and testing need. Sourced by ./run,
+# ./test and ./package.
 
 build_packages="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev"
 # Fonts with Japanese and full-width glyphs, and the helpers that play the alarm's tone.
@@ -10,6 +11,10 @@ display_packages="xvfb xauth xdotool x11-utils imagemagick"
 test_packages="libgtest-dev libgmock-dev liberfa-dev poppler-utils"
 # What the tests are followed by, and the compiler for Windows that one of them uses.
 ci_packages="clang-format-14 clang-tidy-14 g++-mingw-w64-x86-64-posix"
+# What makes the packages, and what proves them in clean places.
+package_packages="dpkg-dev qt6-wayland fonts-vlgothic fonts-dejavu-core patchelf icu-devtools
+    xz-utils"
+package_check_packages="debootstrap lintian desktop-file-utils appstream openbox"
 
 # install_missing PACKAGE...  Installs those that are not there yet and says so.
 install_missing() {

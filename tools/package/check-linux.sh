@@ -1,0 +1,30 @@
+# SPDX-License-Identifier: MIT
+# Proves the portable folder: on a minimal system without any package of the toolkit, also from a
+# folder that cannot be written to.
+
+. tools/package/linux.sh
+. tools/package/clean-debian.sh
+trap drop_debian EXIT
+
+check_package() {
+    fresh_debian
+    say "Checking $folder_name.tar.xz"
+    local stick=$clean_root/officer/"stick 海図"
+    mkdir "$stick"
+    tar -C "$stick" -xf "$folder.tar.xz"
+    as_root chown -R --reference="$clean_root/officer" "$stick"
+    open_debian
+    work_there "" "$packages/linux.png"
+    same_records "$stick/$folder_name"
+
+    # The same folder on a protected stick: the records go to the officer's own folder.
+    as_root rm "$stick/$folder_name"/KV_*
+    as_root chown -R root:root "$stick"
+    work_there 1 "$packages/linux-protected.png"
+    same_records "$clean_root/officer/.local/share/korvel2000"
+}
+
+work_there() {
+    FIRST_START=$1 tools/package/work-a-case "$2" bash -c '. tools/package/common.sh
+        . tools/package/clean-debian.sh; as_officer "/officer/stick 海図/$1/korvel2000"' - "$folder_name"
+}

@@ -1,0 +1,49 @@
+# SPDX-License-Identifier: MIT
+# What the packages share. Sourced by ./package, which stands at the top of the source tree.
+
+top=$PWD
+. tools/setup/packages.sh
+
+version=$(sed -n 's/^project(KORVEL2000 VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+packages=$top/build/packages
+# What is made once and kept: a clean Debian.
+cache=${KORVEL_PACKAGE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/korvel2000-package}
+mkdir -p "$packages" "$cache"
+
+# The same source gives the same bytes: every date in a package is that of the last commit, and no
+# path of this machine gets into one.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC
+release_date=$(date -d "@$SOURCE_DATE_EPOCH" +%F)
+path_flags="-ffile-prefix-map=$top=."
+umask 022
+
+say() { echo "== $*"; }
+fail() {
+    echo "package: $*" >&2
+    exit 1
+}
+
+# as_root COMMAND..  Runs it as root, by sudo where need be.
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+# Where this machine gets Debian from: lines of address, release and component.
+debian_mirrors() {
+    apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' \
+        'Created-By: Packages' 'Origin: Debian' | sort -u
+}
+
+# build_linux  Builds the program for Debian, the same one for the package and the portable folder.
+linux_build=$top/build/packages/linux
+build_linux() {
+    # shellcheck disable=SC2086
+    install_missing $build_packages $package_packages
+    say "Building the release for Linux"
+    cmake -B "$linux_build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr \
+        -DCMAKE_CXX_FLAGS="$path_flags $(dpkg-buildflags --get CPPFLAGS) -fstack-protector-strong" \
+        -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS) -Wl,-z,now" \
+        -DKORVEL_RELEASE_DATE="$release_date" >/dev/null
+    cmake --build "$linux_build" --target korvel2000 tidedata
+}

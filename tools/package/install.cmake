@@ -1,0 +1,17 @@
+# SPDX-License-Identifier: MIT
+# What an installation for everybody on the computer consists of.
+include(GNUInstallDirs)
+set(KORVEL_RELEASE_DATE "" CACHE STRING "Day of the release, yyyy-mm-dd, for the pages that show it")
+set(desktop ${CMAKE_CURRENT_LIST_DIR}/desktop)
+set(pages ${CMAKE_BINARY_DIR}/pages)
+configure_file(${desktop}/korvel2000.metainfo.xml.in ${pages}/korvel2000.metainfo.xml @ONLY)
+configure_file(${desktop}/korvel2000.1.in ${pages}/korvel2000.1 @ONLY)
+
+install(TARGETS korvel2000 DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/korvel2000)
+install(DIRECTORY docs/manual DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/korvel2000)
+install(FILES ${desktop}/korvel2000.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${desktop}/korvel2000.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${pages}/korvel2000.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${pages}/korvel2000.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
