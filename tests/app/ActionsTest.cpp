@@ -2,6 +2,7 @@
 #include "app/KORVEL2000Actions.h"
 
 #include "tests/app/FakeMachine.h"
+#include "tests/golden/Golden.h"
 
 namespace korvel
 {
@@ -10,6 +11,7 @@ namespace
 
 using korvel::testing::FakeFiles;
 using korvel::testing::FakeQuestions;
+using korvel::testing::golden;
 using ::testing::ElementsAre;
 
 class ActionsTest : public ::testing::Test
@@ -51,31 +53,18 @@ TEST_F(ActionsTest, aPositionIsStoredInTwoHalves)
 
 TEST_F(ActionsTest, refusals)
 {
-    const struct {
-        KORVEL2000Actions::StoreKind kind;
-        const char* value;
-        const char* text;
-        const char* title;
-    } rows[] = {
-        {KORVEL2000Actions::Latitude, "90.001",
-         "Lat    ｢ 90.001｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {KORVEL2000Actions::Longitude, "-180.5",
-         "Long   ｢ -180.5｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {KORVEL2000Actions::Single, "-2",
-         "KV_Savedvalue(25)   ｢ -2｣\rThis valueis NOT AVAILABLE for MEMO", "KORVEL2000"},
-        {KORVEL2000Actions::Latitude, "0", "   ｢ 0｣\rThis valueis NOT AVAILABLE for MEMO",
-         "Brinemark"},
-        {KORVEL2000Actions::Single, "abc", "   ｢ abc｣\rThis valueis NOT AVAILABLE for MEMO",
-         "Brinemark"},
-        {KORVEL2000Actions::Single, "", "   ｢ ｣\rThis valueis NOT AVAILABLE for MEMO", "Brinemark"},
-    };
-    for (const auto& [kind, value, text, title] : rows) {
+    const std::map<std::string, KORVEL2000Actions::StoreKind> memos{
+        {"Latitude", KORVEL2000Actions::Latitude},
+        {"Longitude", KORVEL2000Actions::Longitude},
+        {"Single", KORVEL2000Actions::Single}};
+    for (const auto& row : golden("memo_refusals")) {
+        redrawn = 0;
         questions.willAnswer(Answer::Ok);
-        actions.StoreInMemo(kind, value);
-        EXPECT_EQ(questions.asked.back(), text);
-        EXPECT_EQ(questions.titles.back(), title);
+        actions.StoreInMemo(memos.at(row.text("memo")), row.text("value"));
+        EXPECT_EQ(questions.asked.back(), row.text("text")) << row;
+        EXPECT_EQ(questions.titles.back(), row.text("title")) << row;
+        EXPECT_EQ(redrawn, 1) << row;
     }
-    EXPECT_EQ(redrawn, static_cast<int>(std::size(rows)));
     EXPECT_EQ(saved.singleMemo(), 0);
 }
 

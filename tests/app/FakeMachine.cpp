@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/app/FakeMachine.h"
 
+#include <sstream>
 #include <stdexcept>
 
 namespace korvel::testing
@@ -22,10 +23,23 @@ void FakeQuestions::willType(const std::optional<std::string>& answer)
     m_typed.push_back(answer);
 }
 
+void FakeQuestions::will(const std::string& answers)
+{
+    const std::map<std::string, Answer> buttons{
+        {"Yes", Answer::Yes}, {"No", Answer::No}, {"OK", Answer::Ok}, {"Cancel", Answer::Cancel}};
+    std::istringstream each(answers);
+    for (std::string answer; std::getline(each >> std::ws, answer, ';');)
+        if (const auto button = buttons.find(answer); button != buttons.end())
+            willAnswer(button->second);
+        else
+            willType(answer == "Esc" ? std::nullopt : std::optional(answer));
+}
+
 Answer FakeQuestions::ask(const Message& message)
 {
     asked.push_back(message.text);
     titles.push_back(message.title);
+    conversation.push_back(message.text);
     if (m_answers.empty()) {
         ADD_FAILURE() << "unexpected message: " << message.text;
         return message.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
@@ -40,6 +54,7 @@ std::optional<std::string> FakeQuestions::input(const std::string& prompt, const
                                                 const std::string& defaultAnswer)
 {
     prompts.push_back(prompt);
+    conversation.push_back(prompt + " <" + defaultAnswer + ">");
     offered.push_back(defaultAnswer);
     if (m_typed.empty()) {
         // The caller repeats the question until it is satisfied: only an exception ends that.

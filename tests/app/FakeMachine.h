@@ -34,11 +34,16 @@ public:
     /// Cancel.
     void willType(const std::optional<std::string>& answer);
     static constexpr const char* acceptDefault = "\x01";
+    /// Answers a row of boxes as a table writes them: "Yes; 24:00; OK; Esc". Yes, No, OK and Cancel
+    /// answer message boxes, Esc and whatever else is typed input boxes.
+    void will(const std::string& answers);
 
     std::vector<std::string> asked;  ///< texts of the message boxes, in order
     std::vector<std::string> titles; ///< their titles
     std::vector<std::string> prompts;
     std::vector<std::string> offered; ///< default answers of the input boxes
+    std::vector<std::string>
+        conversation; ///< all boxes in order, input boxes as "prompt <default>"
     int beeps = 0;
 
 private:
