@@ -11,8 +11,6 @@ if(NOT MINGW)
 endif()
 list_targets(${BUILD} targets)
 list(FILTER targets INCLUDE REGEX "^navlib$|^app_core$|^tidedata_core$|_calculation$")
-# The tide window reads parts of its files by a call that Windows does not have.
-list(REMOVE_ITEM targets frmTIDE_calculation)
 set(count 0)
 foreach(target IN LISTS targets)
   read_target(${BUILD} ${target} sources folders)

@@ -70,6 +70,8 @@ TEST(Steps, timesMoveByWholeHours)
     const auto now = EnterPresent(45292 + 9.99 / 24);
     EXPECT_EQ(now.date, "2024/1/1");
     EXPECT_EQ(now.time, "09:00");
+    // The sum of two day fractions is a hair short of the hour.
+    EXPECT_EQ(EnterPresent(38425 + 1.0 / 24, "1", 0).time, "02:00");
 }
 
 TEST(Steps, speedsMoveByQuarterKnots)
@@ -81,6 +83,7 @@ TEST(Steps, speedsMoveByQuarterKnots)
     EXPECT_EQ(speedOnLeaving("12.625"), "12.75");
     EXPECT_EQ(speedOnLeaving("50"), "50.00");
     EXPECT_EQ(speedOnLeaving("50.1"), std::nullopt);
+    EXPECT_EQ(speedOnLeaving("-1"), std::nullopt) << "left as it was typed";
 }
 
 TEST(PassageTimes, bothSignsOfATimeDifference)

@@ -64,6 +64,15 @@ TEST(CalculateGC, lastWaypointIsTheArrivalAsTyped)
         }
 }
 
+/// Along a meridian both lines are one, and their last bits differ either way.
+TEST(CalculateGC, nothingIsSavedAlongAMeridian)
+{
+    for (int lat = -65; lat < 65; ++lat)
+        EXPECT_EQ(CalculateGC({{std::to_string(lat), "20", std::to_string(lat + 1), "20"}}).saving,
+                  "0.'0")
+            << lat;
+}
+
 TEST(DrawWPs, noRouteIsTorn)
 {
     for (const Golden& row : golden("great_circle_charts")) {

@@ -62,6 +62,7 @@ TEST(FixTime, whatMakesNoSenseIsNamedAndKept)
                 {"2/30 0930", "2/30 is no date"},
                 {"2023/2/29 0930", "\"2023/2/29\" is no date"},
                 {"9999/12/31 2359", "years from 1900 to 2199"},
+                {"2200/1/1 0930", "years from 1900 to 2199"},
                 {"1899/12/31 0930", "before 1900"},
                 {"2024/5/1", "the time is missing"},
                 {"09", "is no time"},
