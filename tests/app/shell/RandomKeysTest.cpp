@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "calculator_windows.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QTest>
+#include <QTimer>
+
+#include <random>
+
+// A child's hand on the keyboard. KORVEL_RANDOM_KEYS says how many keys each window gets; with
+// sanitizers and 10000 keys it is the trial before a release.
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+constexpr int keysOfEveryRun = 150;
+
+/// Answers whatever is asked, sensibly or not.
+class RandomQuestions : public Questions
+{
+public:
+    explicit RandomQuestions(std::mt19937& chance) : m_chance(chance) {}
+
+    Answer ask(const Message&) override
+    {
+        constexpr Answer answers[] = {Answer::Yes, Answer::No, Answer::Ok, Answer::Cancel};
+        return answers[m_chance() % 4];
+    }
+    std::optional<std::string> input(const std::string&, const std::string&,
+                                     const std::string& offered) override
+    {
+        return m_chance() % 3 == 0 ? std::nullopt : std::optional(offered);
+    }
+    void beep() override {}
+
+private:
+    std::mt19937& m_chance;
+};
+
+class RandomKeysTest : public ::testing::TestWithParam<CatalogueEntry>
+{
+protected:
+    RandomKeysTest()
+    {
+        // Dialogs of the toolkit (printing, file names) wait for somebody.
+        QObject::connect(&m_attendant, &QTimer::timeout, [] {
+            if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                dialog->reject();
+            if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+        });
+        m_attendant.start(20);
+        main.start();
+    }
+
+    void press()
+    {
+        static constexpr std::string_view typed = "0123456789.-/: 00112233NSEWabc,'\"";
+        static constexpr Qt::Key others[] = {
+            Qt::Key_Return, Qt::Key_Tab,      Qt::Key_Backtab, Qt::Key_Backspace,
+            Qt::Key_Delete, Qt::Key_Up,       Qt::Key_Down,    Qt::Key_Left,
+            Qt::Key_Right,  Qt::Key_Home,     Qt::Key_End,     Qt::Key_PageUp,
+            Qt::Key_Space,  Qt::Key_PageDown, Qt::Key_F5,      Qt::Key_F6};
+        QWidget* to = QApplication::focusWidget();
+        if (!to) to = window;
+        const auto kind = chance() % 20;
+        if (kind < 12)
+            QTest::keyClick(to, typed[chance() % typed.size()]);
+        else if (kind < 17)
+            QTest::keyClick(to, others[chance() % std::size(others)]);
+        else if (kind < 19)
+            QTest::keyClick(to, static_cast<Qt::Key>(Qt::Key_A + chance() % 26),
+                            Qt::ControlModifier);
+        else
+            QTest::keyClick(to, static_cast<Qt::Key>(Qt::Key_A + chance() % 26),
+                            Qt::ControlModifier | Qt::ShiftModifier);
+    }
+
+    /// Chooses one of the window's own entries: those that lead elsewhere are nobody's key.
+    void chooseEntry()
+    {
+        const auto entries = window->findChildren<QAction*>(QRegularExpression("^mnu.*\\)$"));
+        QAction* entry = entries[static_cast<int>(chance() % unsigned(entries.size()))];
+        if (entry->isEnabled() && !entry->menu()) entry->trigger();
+    }
+
+    QTemporaryDir folder;
+    std::mt19937 chance{20261121};
+    RandomQuestions questions{chance};
+    FakeClock clock;
+    FakeBell bell;
+    ProgramFolder files{folder.path()};
+    frmKORVEL2000 main{{questions, clock, files, bell}, calculatorWindows()};
+    QPointer<QWidget> window;
+
+private:
+    QTimer m_attendant;
+};
+
+TEST_P(RandomKeysTest, nothingEndsTheProgram)
+{
+    bool set = false;
+    const int asked = qEnvironmentVariableIntValue("KORVEL_RANDOM_KEYS", &set);
+    const int keys = set ? asked : keysOfEveryRun;
+    QApplication::clipboard()->setText("35°30.5'N 139-45.2E\t1,5\n");
+    for (int i = 0; i < keys; ++i) {
+        if (!window) {
+            main.openWindow(GetParam().name);
+            window = QApplication::activeWindow();
+            for (QWidget* each : QApplication::topLevelWidgets())
+                if (each->objectName() == GetParam().name && each->isVisible()) window = each;
+            ASSERT_TRUE(window);
+        }
+        chance() % 40 == 0 ? chooseEntry() : press();
+        if (i % 50 == 0) QApplication::processEvents();
+        clock.time += 1.0 / 86400;
+    }
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (each->isVisible() && each->objectName().startsWith("frm") && each != &main)
+            each->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, RandomKeysTest, ::testing::ValuesIn(calculatorWindows()),
+                         [](const auto& tested) { return tested.param.name.toStdString(); });
+
+} // namespace
+} // namespace korvel
