@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
-#include "forms/frmPositionRecord/PrintRecord.h"
-#include "navlib/datetime.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QScrollArea>
 #include <QTest>
 
@@ -16,8 +13,6 @@ namespace
 {
 
 using namespace korvel::testing;
-using ::testing::HasSubstr;
-using ::testing::Not;
 
 class frmPositionRecordTest : public WindowTest
 {
