@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
+#include "tests/golden/Golden.h"
+
 #include <gmock/gmock.h>
 
 namespace korvel
@@ -8,7 +10,8 @@ namespace korvel
 namespace
 {
 
-using testing::HasSubstr;
+using namespace korvel::testing;
+using ::testing::HasSubstr;
 
 RiseSetResult calculate(RiseSetInput input)
 {
@@ -25,28 +28,14 @@ TEST(CalculateRiseSet, ageOfTheMoonAtNoon)
 
 TEST(CalculateRiseSet, whatBlanksARow)
 {
-    const struct {
-        const char* fault;
-        RiseSetInput input;
-        bool computed, ageShown;
-    } rows[] = {
-        {"limits are inclusive", {"2024/6/21", "", "-12", "63.00", "-180"}, true, true},
-        {"the Moon's limit of latitude", {"2024/6/21", "", "9", "63.01", "139"}, false, true},
-        {"time difference", {"2024/6/21", "", "12.1", "35", "139"}, false, true},
-        {"empty is not 0 here", {"2024/6/21", "", "", "35", "139"}, false, true},
-        {"letters", {"2024/6/21", "", "9", "x", "139"}, false, true},
-        {"no date", {"2024/6/31", "", "9", "35", "139"}, false, false},
-        {"a time is no date", {"06:00", "", "9", "35", "139"}, false, false},
-        {"before the first day", {"1899/12/30", "", "9", "35", "139"}, false, false},
-        {"full-width digits", {"２０２４/6/21", "", "９", "35", "139"}, true, true},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.fault);
-        const auto result = calculate(row.input);
-        EXPECT_EQ(result.successful, row.computed);
-        EXPECT_EQ(result.moonAge.has_value(), row.ageShown);
-        EXPECT_EQ(result.sunRiseTime.text.empty(), !row.computed);
-        EXPECT_EQ(result.moonSetTime.text.empty() && result.moonSetTime.tip.empty(), !row.computed);
+    for (const Golden& row : golden("rise_set_rows")) {
+        const auto result = calculate(
+            {row.text("date"), "", row.text("TD"), row.text("latitude"), row.text("longitude")});
+        const bool shown = row.tick("computed");
+        EXPECT_EQ(result.successful, shown) << row;
+        EXPECT_EQ(result.moonAge.has_value(), row.tick("age")) << row;
+        EXPECT_EQ(result.sunRiseTime.text.empty(), !shown) << row;
+        EXPECT_EQ(result.moonSetTime.text.empty() && result.moonSetTime.tip.empty(), !shown) << row;
     }
 }
 
