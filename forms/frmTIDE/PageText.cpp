@@ -3,8 +3,15 @@
 
 #include <QFontMetricsF>
 
+#include <algorithm>
+
 namespace korvel
 {
+
+int sizeOn(double pageHeight, int size)
+{
+    return qRound(size * std::min(1.0, pageHeight / pageWidth));
+}
 
 QFont pageFont(const QPainter& painter, int size, bool bold)
 {

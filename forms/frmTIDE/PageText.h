@@ -14,6 +14,10 @@ inline constexpr double pageWidth = 1000;
 inline constexpr int textSize = 17;
 inline constexpr int headingSize = 26;
 
+/// A size of letters on a page of this height. The page that lies is wider: letters of the same
+/// share of it would be larger on the paper, and leave no room for the curve.
+int sizeOn(double pageHeight, int size);
+
 QFont pageFont(const QPainter& painter, int size, bool bold = false);
 
 /// Height of a line in the painter's font.

@@ -2,7 +2,6 @@
 #include "forms/frmTIDE/PredictTide.h"
 
 #include "app/Format.h"
-#include "forms/frmTIDE/TideDates.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
 #include "navlib/wind.h"
@@ -13,12 +12,6 @@ namespace korvel
 {
 namespace
 {
-
-std::optional<std::int64_t> chosenDate(const std::string& lblPlace, std::string_view lblDate)
-{
-    if (lblPlace == noPlace || lblPlace.empty()) return std::nullopt;
-    return TideDates::dateIn(lblDate);
-}
 
 std::string timeText(NavFunc113::Hours time)
 {
@@ -92,25 +85,6 @@ TidePrediction predictStreamDay(const TideStation& station, const DaysFactors& f
     prediction.lblTideInfo = info(prediction.extremes, "0.0kn   ", "0.0kn");
     prediction.remark = remarkOn(prediction, " kn");
     return prediction;
-}
-
-std::optional<TidePrediction> PredictTide(FileStore& files, const std::string& lblPlace,
-                                          std::string_view lblDate, const TidePrediction& shown,
-                                          const std::string& whyMissing)
-{
-    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
-    if (!date) return std::nullopt;
-    const DaysFactors factors = readDaysFactors(files, *date - firstFactorsSerial);
-    return predictTideDay(readTideStation(files, lblPlace, whyMissing), factors, *date, shown);
-}
-
-std::optional<TidePrediction> PredictCurrent(FileStore& files, const std::string& lblPlace,
-                                             std::string_view lblDate, const TidePrediction& shown)
-{
-    const std::optional<std::int64_t> date = chosenDate(lblPlace, lblDate);
-    if (!date) return std::nullopt;
-    const DaysFactors factors = readDaysFactors(files, *date - firstFactorsSerial);
-    return predictStreamDay(readStreamStation(files, lblPlace), factors, *date, shown);
 }
 
 } // namespace korvel

@@ -48,19 +48,4 @@ TidePrediction predictTideDay(const TideStation& station, const DaysFactors& fac
 TidePrediction predictStreamDay(const TideStation& station, const DaysFactors& factors,
                                 std::int64_t serial, const TidePrediction& shown);
 
-/// Reads the files and predicts the day of a tide station.
-///
-/// @param lblPlace   the station's name
-/// @param lblDate    the date
-/// @param whyMissing reason for which no file of the station is shipped, or empty
-/// @return nothing when no station is chosen or lblDate holds no date: what is shown stays
-/// @throws TideDataFault when a data file is missing or malformed: what is shown stays
-std::optional<TidePrediction> PredictTide(FileStore& files, const std::string& lblPlace,
-                                          std::string_view lblDate, const TidePrediction& shown,
-                                          const std::string& whyMissing = {});
-
-/// The same for a tidal-stream station.
-std::optional<TidePrediction> PredictCurrent(FileStore& files, const std::string& lblPlace,
-                                             std::string_view lblDate, const TidePrediction& shown);
-
 } // namespace korvel

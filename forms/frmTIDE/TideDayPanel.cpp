@@ -21,11 +21,15 @@ constexpr std::array<Field, 2> questionFields = {{
 
 TideDayPanel::TideDayPanel(QWidget* parent) : QWidget(parent), m_boxes(questionFields, this)
 {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    auto* row = new QHBoxLayout;
     row->addLayout(layOutWaters());
     row->addSpacing(2 * fontMetrics().height());
     row->addLayout(layOutQuestions(), 1);
+    column->addLayout(row);
+    column->addLayout(layOutAnswers());
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
         m_boxes[i]->setMaxLength(16);
         connect(m_boxes[i], &QLineEdit::textChanged, this, [this] { answer(); });
@@ -65,6 +69,27 @@ QGridLayout* TideDayPanel::layOutWaters()
 
 QGridLayout* TideDayPanel::layOutQuestions()
 {
+    auto* grid = new QGridLayout;
+    grid->setVerticalSpacing(0);
+    grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
+    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+        const int row = static_cast<int>(i);
+        auto* caption = new QLabel(questionFields[i].caption);
+        caption->setBuddy(m_boxes[i]);
+        m_boxes[i]->setFixedWidth(9 * fontMetrics().horizontalAdvance('0'));
+        grid->addWidget(caption, row, 0);
+        grid->addWidget(m_boxes[i], row, 1);
+        grid->addWidget(new QLabel(questionFields[i].unit), row, 2);
+    }
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(static_cast<int>(m_boxes.size()), 1);
+    return grid;
+}
+
+/// What is longer than a line of figures takes the whole width: four spans and the same by all
+/// constituents have no room beside the waters.
+QGridLayout* TideDayPanel::layOutAnswers()
+{
     m_lblRange = addLabel("lblRange", "Range of the day and the Moon");
     m_lblNow = addLabel("lblNow", "At this moment");
     m_lblAnswer = {addLabel("lblHeightAt", "Height at the time asked for"),
@@ -73,25 +98,21 @@ QGridLayout* TideDayPanel::layOutQuestions()
                       addLabel("lblTimesOfAll", "The same by all constituents")};
     auto* grid = new QGridLayout;
     grid->setVerticalSpacing(0);
-    for (int row = 0; ResultLabel * label : {m_lblRange, m_lblNow}) {
+    grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
+    grid->addWidget(m_lblRange, 0, 0, 1, 3);
+    grid->addWidget(m_lblNow, 1, 0, 1, 3);
+    grid->addWidget(new QLabel("Height then"), 2, 0);
+    grid->addWidget(m_lblAnswer[0], 2, 1);
+    grid->addWidget(m_lblAnswerAll[0], 2, 2);
+    grid->addWidget(new QLabel("That or more"), 3, 0);
+    grid->addWidget(m_lblAnswer[1], 3, 1, 1, 2);
+    grid->addWidget(m_lblAnswerAll[1], 4, 1, 1, 2);
+    for (ResultLabel* label :
+         {m_lblRange, m_lblNow, m_lblAnswerAll[0], m_lblAnswer[1], m_lblAnswerAll[1]})
         label->setEliding();
-        grid->addWidget(label, row++, 0, 1, 4);
-    }
-    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
-        const int row = 2 + 2 * static_cast<int>(i);
-        auto* caption = new QLabel(questionFields[i].caption);
-        caption->setBuddy(m_boxes[i]);
-        m_boxes[i]->setFixedWidth(9 * fontMetrics().horizontalAdvance('0'));
-        grid->addWidget(caption, row, 0);
-        grid->addWidget(m_boxes[i], row, 1);
-        grid->addWidget(new QLabel(questionFields[i].unit), row, 2);
-        m_lblAnswer[i]->setEliding();
-        m_lblAnswerAll[i]->setEliding();
-        grid->addWidget(m_lblAnswer[i], row, 3);
-        grid->addWidget(m_lblAnswerAll[i], row + 1, 3);
-    }
-    grid->setColumnStretch(3, 1);
-    grid->setRowStretch(6, 1);
+    // A line stays where it is, asked or not: the curve must not jump while a question is typed.
+    m_lblAnswerAll[1]->setMinimumHeight(fontMetrics().height());
+    grid->setColumnStretch(2, 1);
     return grid;
 }
 
@@ -115,6 +136,7 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
 void TideDayPanel::showNow(const std::string& text)
 {
     m_lblNow->setText(QString::fromStdString(text));
+    m_lblNow->setVisible(!text.empty());
 }
 
 void TideDayPanel::answer()
@@ -125,7 +147,7 @@ void TideDayPanel::answer()
     for (std::size_t i = 0; i < answers.size(); ++i) {
         m_lblAnswer[i]->setText(QString::fromStdString(answers[i].text));
         m_lblAnswerAll[i]->setText(QString::fromStdString(answers[i].all));
-        m_lblAnswerAll[i]->setVisible(!answers[i].all.empty());
+        m_lblAnswerAll[i]->setVisible(m_day->all.has_value());
     }
     if (onAnswers) onAnswers(answers[0], answers[1]);
 }

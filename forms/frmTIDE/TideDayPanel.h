@@ -36,6 +36,7 @@ private:
     ResultLabel* addLabel(const QString& name, const QString& accessibleName);
     QGridLayout* layOutWaters();
     QGridLayout* layOutQuestions();
+    QGridLayout* layOutAnswers();
     void answer();
 
     FieldBoxes m_boxes;

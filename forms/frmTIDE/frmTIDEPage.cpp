@@ -37,8 +37,8 @@ void frmTIDEPage::draw(QPainter& painter, const QRect& room) const
     painter.scale(scale, scale);
     painter.setPen(Qt::black);
 
-    const double gap = textSize;
-    const double curveTop = drawHeading(painter) + gap;
+    const double gap = sizeOn(pageHeight, textSize);
+    const double curveTop = drawHeading(painter, pageHeight) + gap;
     const double below = tableHeight(painter) + footHeight(painter) + 3 * gap;
     const double curveHeight = std::min(0.62 * pageWidth, pageHeight - curveTop - below);
     painter.save();
@@ -51,20 +51,21 @@ void frmTIDEPage::draw(QPainter& painter, const QRect& room) const
     drawFoot(painter, tableTop + tableHeight(painter) + gap);
 }
 
-double frmTIDEPage::drawHeading(QPainter& painter) const
+double frmTIDEPage::drawHeading(QPainter& painter, double pageHeight) const
 {
     const bool tide = day.four.kind == TideKind::Tide;
-    painter.setFont(pageFont(painter, headingSize, true));
+    const int size = sizeOn(pageHeight, textSize);
+    painter.setFont(pageFont(painter, sizeOn(pageHeight, headingSize), true));
     double y = writeLine(painter, 0, place + "   " + date, tide ? "Tide" : "Tidal stream");
     painter.drawLine(QPointF(0, y), QPointF(pageWidth, y));
-    y += textSize / 2.0;
-    painter.setFont(pageFont(painter, textSize));
+    y += size / 2.0;
+    painter.setFont(pageFont(painter, size));
     y = writeLine(painter, y, text(lines.station), "Zone time " + text(day.four.lblTD));
-    painter.setFont(pageFont(painter, textSize, true));
+    painter.setFont(pageFont(painter, size, true));
     y = writeLine(painter, y, "Highest, lowest:  " + text(day.four.lblTideInfo),
                   tide ? text(lines.uncertainty)
                        : text(day.four.lblCuDirection[0] + "    " + day.four.lblCuDirection[1]));
-    painter.setFont(pageFont(painter, textSize));
+    painter.setFont(pageFont(painter, size));
     if (!lines.estimates.empty()) y = writeLine(painter, y, text(lines.estimates));
     if (!day.four.remark.empty()) y = writeLine(painter, y, text(day.four.remark));
     return drawWaters(painter, y);
@@ -132,7 +133,7 @@ double frmTIDEPage::footHeight(const QPainter& painter) const
 void frmTIDEPage::drawFoot(QPainter& painter, double top) const
 {
     painter.drawLine(QPointF(0, top), QPointF(pageWidth, top));
-    painter.drawText(QRectF(0, top + textSize / 2.0, pageWidth, footHeight(painter)),
+    painter.drawText(QRectF(0, top + lineOf(painter) / 3, pageWidth, footHeight(painter)),
                      Qt::TextWordWrap, footText());
 }
 

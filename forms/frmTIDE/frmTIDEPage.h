@@ -25,7 +25,7 @@ struct frmTIDEPage {
     void draw(QPainter& painter, const QRect& room) const;
 
 private:
-    double drawHeading(QPainter& painter) const;
+    double drawHeading(QPainter& painter, double pageHeight) const;
     double drawWaters(QPainter& painter, double top) const;
     double tableHeight(const QPainter& painter) const;
     void drawTable(QPainter& painter, double top) const;

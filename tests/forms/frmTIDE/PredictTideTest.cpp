@@ -4,6 +4,7 @@
 #include "forms/frmTIDE/DrawCurve.h"
 #include "forms/frmTIDE/TideData.h"
 #include "forms/frmTIDE/TideDates.h"
+#include "forms/frmTIDE/TideTables.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 
 #include <gmock/gmock.h>
@@ -35,14 +36,18 @@ protected:
     {
         beside.write("Harmonic Constants/HC_Brothers_.txt", "Brothers," + fields);
     }
-    auto predictTide(const std::string& date, const TidePrediction& shown = {})
+    TidePrediction predict(TideKind kind, const std::string& place, const std::string& date,
+                           const TidePrediction& shown = {})
     {
-        return PredictTide(beside.files, "Keling", date, shown);
+        const StationDays station(beside.files, kind, place, StationList(beside.files),
+                                  FullConstants(beside.files));
+        return station.day(TideDates::dateIn(date).value(), shown).four;
     }
-    auto predictStream(const TidePrediction& shown = {})
+    TidePrediction predictTide(const std::string& date, const TidePrediction& shown = {})
     {
-        return PredictCurrent(beside.files, "Brothers", "2003/03/31", shown);
+        return predict(TideKind::Tide, "Keling", date, shown);
     }
+    TidePrediction predictStream() { return predict(TideKind::Stream, "Brothers", "2003/03/31"); }
     TideFolder beside;
 };
 
@@ -52,58 +57,51 @@ TEST_F(PlainTide, heightsAndTheirTexts)
 {
     tide("-3.5,2,0,0,15,1.5,0,0,0,0" + corrections);
     const auto shown = predictTide("2003/11/30");
-    ASSERT_TRUE(shown);
     // Crests half an hour after 00:00 and 12:00, mean level 2 and November's 1.1.
-    EXPECT_EQ(shown->lblTD, "3.5hW");
-    EXPECT_EQ(shown->lblTideInfo, "00.-30: 4.60m   06.-30: 1.60m");
-    EXPECT_NEAR(shown->values[0], 3.1 + 1.5 * std::cos(std::acos(-1) / 12), 1e-9);
-    EXPECT_THAT(shown->lblCuDirection, ::testing::ElementsAre("", ""));
-    EXPECT_EQ(predictTide("2003/12/01")->lblTideInfo, "00.-30: 4.70m   06.-30: 1.70m");
-    EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "00.-30: 3.60m   06.-30: 0.60m");
+    EXPECT_EQ(shown.lblTD, "3.5hW");
+    EXPECT_EQ(shown.lblTideInfo, "00.-30: 4.60m   06.-30: 1.60m");
+    EXPECT_NEAR(shown.values[0], 3.1 + 1.5 * std::cos(std::acos(-1) / 12), 1e-9);
+    EXPECT_THAT(shown.lblCuDirection, ::testing::ElementsAre("", ""));
+    EXPECT_EQ(predictTide("2003/12/01").lblTideInfo, "00.-30: 4.70m   06.-30: 1.70m");
+    EXPECT_EQ(predictTide("2003/01/31").lblTideInfo, "00.-30: 3.60m   06.-30: 0.60m");
 }
 
 TEST_F(PlainTide, twentyFourHoursAndNothingAboveTheStart)
 {
     tide("9,2,0,0,0,0,0,0,345,1" + corrections); // a diurnal crest at 23:00, trough at 11:00
-    EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "23.-00: 3.10m   11.-00: 1.10m");
+    EXPECT_EQ(predictTide("2003/01/31").lblTideInfo, "23.-00: 3.10m   11.-00: 1.10m");
     tide("9,2,0,0,0,0,0,0,0,1" + corrections); // at 24:00, and the same at 00:00 does not count
-    EXPECT_EQ(predictTide("2003/01/31")->lblTideInfo, "24.-00: 3.10m   12.-00: 1.10m");
+    EXPECT_EQ(predictTide("2003/01/31").lblTideInfo, "24.-00: 3.10m   12.-00: 1.10m");
 
     TidePrediction earlier;
     earlier.extremes = {3, NavFunc113::Hours(5.5), 1, NavFunc113::Hours(11.5)};
     tide("9,-4,0,0,0,0,0,0,0,0" + corrections);
-    EXPECT_EQ(predictTide("2003/01/31", earlier)->lblTideInfo, "05.-30: 0.00m   00.-30: -3.90m");
+    EXPECT_EQ(predictTide("2003/01/31", earlier).lblTideInfo, "05.-30: 0.00m   00.-30: -3.90m");
 }
 
 TEST_F(PlainTide, streamsHaveDirectionsAndNoMonths)
 {
     stream("8,-.5,0,0,0,2,0,0,0,0,0,0,0,0,260");
     const auto shown = predictStream();
-    ASSERT_TRUE(shown);
-    EXPECT_EQ(shown->lblTideInfo, "12.-00: 1.5kn   06.-00: -2.5kn");
-    EXPECT_THAT(shown->lblCuDirection, ::testing::ElementsAre("+ : West", "- : East"))
+    EXPECT_EQ(shown.lblTideInfo, "12.-00: 1.5kn   06.-00: -2.5kn");
+    EXPECT_THAT(shown.lblCuDirection, ::testing::ElementsAre("+ : West", "- : East"))
         << "260 and, not reduced before it is named, 440";
 }
 
-TEST_F(PlainTide, nothingIsPredictedWithoutPlaceOrDate)
+TEST_F(PlainTide, isThatOfTheDaysAndStationsInTheFiles)
 {
     tide("8,2,0,0,0,1,0,0,0,0" + corrections);
-    EXPECT_FALSE(predictTide("Date"));
-    EXPECT_FALSE(predictTide(""));
-    EXPECT_FALSE(predictTide("2003/02/29"));
-    EXPECT_FALSE(PredictTide(beside.files, "Place", "2003/02/28", {}));
-    EXPECT_FALSE(PredictCurrent(beside.files, "Place", "2003/02/28", {}));
-    EXPECT_TRUE(predictTide("2005/12/31"));
+    EXPECT_NO_THROW(predictTide("2005/12/31"));
     EXPECT_THROW(predictTide("2006/01/01"), TideDataFault);
     EXPECT_THROW(predictTide("2002/09/30"), TideDataFault);
-    EXPECT_THROW(PredictTide(beside.files, "Bombay", "2003/02/28", {}), TideDataFault);
+    EXPECT_THROW(predict(TideKind::Tide, "Bombay", "2003/02/28"), TideDataFault);
 }
 
 TEST_F(PlainTide, pictureAndWhatThePointerReads)
 {
     tide("9,2,0,0,0,1.5,0,0,0,0" + corrections);
     const auto shown = predictTide("2003/01/31"); // 0.6 to 3.6 m
-    CurvePicture picture = DrawCurve(*shown);
+    CurvePicture picture = DrawCurve(shown);
     EXPECT_NEAR(picture.scale.top, 5.1, 1e-9);
     EXPECT_NEAR(picture.scale.bottom, -0.6, 1e-9) << "from 0, the lowest being above it";
     EXPECT_EQ(picture.lblHeight[5].caption, "5 m");
@@ -111,21 +109,21 @@ TEST_F(PlainTide, pictureAndWhatThePointerReads)
     EXPECT_EQ(picture.fineLevelLines.size(), 3u + 20 + 0) << "-0.6 to 5.1 in fifths";
     EXPECT_EQ(picture.curve[48].x, 24);
 
-    EXPECT_EQ(readCurve(*shown, 24)->text, "24:00  3.60m");
-    EXPECT_EQ(readCurve(*shown, 5.999)->text, "06:00  0.60m");
-    EXPECT_NEAR(readCurve(*shown, 0.25)->point.y, (shown->values[0] + shown->values[1]) / 2, 1e-9);
-    EXPECT_FALSE(readCurve(*shown, -0.1));
-    EXPECT_FALSE(readCurve(*shown, 24.1));
-    EXPECT_FALSE(readCurve(*shown, std::nan("")));
+    EXPECT_EQ(readCurve(shown, 24)->text, "24:00  3.60m");
+    EXPECT_EQ(readCurve(shown, 5.999)->text, "06:00  0.60m");
+    EXPECT_NEAR(readCurve(shown, 0.25)->point.y, (shown.values[0] + shown.values[1]) / 2, 1e-9);
+    EXPECT_FALSE(readCurve(shown, -0.1));
+    EXPECT_FALSE(readCurve(shown, 24.1));
+    EXPECT_FALSE(readCurve(shown, std::nan("")));
 
     stream("8,0,0,0,0,2,0,0,0,0,0,0,0,0,260");
     const auto stream = predictStream();
-    picture = DrawCurve(*stream);
+    picture = DrawCurve(stream);
     EXPECT_NEAR(picture.scale.bottom, -2.6, 1e-9);
     EXPECT_EQ(picture.lblHeight[0].caption, "0 kn.");
-    EXPECT_EQ(readCurve(*stream, 0)->text, "00:00  2.0kn West");
-    EXPECT_EQ(readCurve(*stream, 6)->text, "06:00  2.0kn East") << "an ebb sets the other way";
-    EXPECT_EQ(readCurve(*stream, 3)->text, "03:00  0.0kn slack");
+    EXPECT_EQ(readCurve(stream, 0)->text, "00:00  2.0kn West");
+    EXPECT_EQ(readCurve(stream, 6)->text, "06:00  2.0kn East") << "an ebb sets the other way";
+    EXPECT_EQ(readCurve(stream, 3)->text, "03:00  0.0kn slack");
 }
 
 TEST(TideDates, followTheFactorsFile)
@@ -158,7 +156,8 @@ TEST(TideDates, ofTheShippedFile)
 {
     const TideDates dates = TideDates::of(TideFolder::shipped());
     EXPECT_THAT(dates.aboutNotice(), ::testing::HasSubstr("up to the end of 2005."));
-    EXPECT_FALSE(TideDates::dateIn("yesterday"));
+    for (const char* noDate : {"", "Date", "yesterday", "2003/02/29"})
+        EXPECT_FALSE(TideDates::dateIn(noDate)) << noDate;
 }
 
 } // namespace
