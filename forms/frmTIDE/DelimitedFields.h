@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/DelimitedText.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -26,14 +28,11 @@ public:
     bool atEnd();
 
 private:
-    void skipBlanks();
-    void skipLineEnds();
-    void skipSeparator();
-    std::string_view takeUntil(std::string_view ends);
+    DelimitedText::Item next(bool blanksPart);
     [[noreturn]] void fault(const std::string& trouble) const;
 
     std::string m_file;
-    std::string_view m_rest;
+    DelimitedText m_text;
     std::int64_t m_line;
     int m_field = 0;
 };
