@@ -72,7 +72,7 @@ void FollowingScrollArea::placeHeading()
     const int left = horizontalScrollBar()->value();
     const int height = m_heading->sizeHint().height();
     m_heading->setGeometry(seen.left() - left, seen.top() - height,
-                           std::max(seen.width(), widget()->sizeHint().width()), height);
+                           std::max(seen.width(), widget()->width()), height);
     // What has scrolled out on the left must not cover its neighbours.
     m_heading->setMask(QRect(left, 0, seen.width(), height));
 }

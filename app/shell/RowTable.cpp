@@ -19,6 +19,18 @@ bool isBox(const TableColumn& column)
            column.holds == Holds::Latitude || column.holds == Holds::Longitude;
 }
 
+bool isResult(const TableColumn& column)
+{
+    return column.holds == Holds::Result || column.holds == Holds::Correction;
+}
+
+/// Letters of a correction: smaller than captions, so that nobody takes it for the result.
+QFont small(QFont letters)
+{
+    letters.setPointSizeF(letters.pointSizeF() * 0.85);
+    return letters;
+}
+
 } // namespace
 
 RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
@@ -55,6 +67,10 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
     case Holds::Result:
         made = new ResultLabel(this);
         break;
+    case Holds::Correction:
+        made = new ResultLabel(this);
+        made->setFont(small(font()));
+        break;
     case Holds::Text:
         made = new EntryBox(this);
         break;
@@ -89,6 +105,8 @@ int RowTable::widthOf(const TableColumn& column) const
     const int heading = captions.size(0, column.heading).width();
     if (column.holds == Holds::Result)
         return std::max(heading, ResultLabel().fontMetrics().horizontalAdvance(column.widest));
+    if (column.holds == Holds::Correction)
+        return std::max(heading, QFontMetrics(small(font())).horizontalAdvance(column.widest));
     return std::max(heading, captions.horizontalAdvance(column.widest) +
                                  (isBox(column) ? captions.horizontalAdvance('0') : 0));
 }
@@ -99,10 +117,13 @@ QWidget* RowTable::layOut(const Line& line) const
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(m_spacing);
+    layout->setSpacing(0);
     bool isFilled = false;
     for (std::size_t i = 0; i < line.size(); ++i) {
         const int width = widthOf(m_columns[i]);
+        // A correction stands close by its result.
+        const bool isCorrection = m_columns[i].holds == Holds::Correction;
+        if (i > 0) layout->addSpacing(isCorrection ? m_spacing / 3 : m_spacing);
         if (!line[i]) {
             layout->addSpacing(width);
             continue;
@@ -178,7 +199,7 @@ std::vector<ResultLabel*> RowTable::results() const
     std::vector<ResultLabel*> all;
     for (std::size_t row = 0; row < rows(); ++row)
         for (std::size_t i = 0; i < m_columns.size(); ++i)
-            if (m_columns[i].holds == Holds::Result) all.push_back(result(row, i));
+            if (isResult(m_columns[i])) all.push_back(result(row, i));
     return all;
 }
 

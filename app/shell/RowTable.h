@@ -11,7 +11,17 @@ namespace korvel
 
 /// A column of a table of rows.
 struct TableColumn {
-    enum class Holds { Gap, Number, Text, Figure, Latitude, Longitude, Echo, Result };
+    enum class Holds {
+        Gap,
+        Number,
+        Text,
+        Figure,
+        Latitude,
+        Longitude,
+        Echo,
+        Result,
+        Correction ///< of the result before it, in small letters
+    };
 
     const char* name; ///< of its controls, a control array; the echo takes the name of its box
     const char* heading;

@@ -10,6 +10,14 @@
 
 namespace korvel
 {
+namespace
+{
+
+// Points. Twelve columns stand side by side; below the smallest a print is hard to read.
+constexpr double largestLetters = 6.75;
+constexpr double smallestLetters = 5.5;
+
+} // namespace
 
 QString recordAsPage(const QString& record, const QString& printed)
 {
@@ -33,13 +41,18 @@ void printRecord(QPainter& painter, const QRect& room, const QString& record,
                  const QString& printed)
 {
     QTextDocument page;
-    QFont font = page.defaultFont();
-    font.setPointSizeF(font.pointSizeF() * 0.75); // twelve columns side by side
-    page.setDefaultFont(font);
+    page.setDocumentMargin(0); // the paper has margins of its own
     page.documentLayout()->setPaintDevice(painter.device());
-    page.setHtml(recordAsPage(record, printed));
-    page.setTextWidth(room.width());
-    // All 29 rows on one sheet: a record that is a little too high is drawn smaller.
+    // All 29 rows on one sheet: a record that is too high is set in smaller letters over the whole
+    // width, where its remarks take fewer lines, before it is drawn smaller.
+    for (double points = largestLetters; points >= smallestLetters; points -= 0.25) {
+        QFont font = page.defaultFont();
+        font.setPointSizeF(points);
+        page.setDefaultFont(font);
+        page.setHtml(recordAsPage(record, printed));
+        page.setTextWidth(room.width());
+        if (page.size().height() <= room.height()) break;
+    }
     const double scale = std::min(1.0, room.height() / page.size().height());
     painter.scale(scale, scale);
     page.drawContents(&painter);

@@ -39,7 +39,7 @@ std::string localTime(DateTime time)
 }
 
 /// A refined time: an event at midnight must not look like the mark of a missing one.
-std::string refinedText(DateTime time)
+std::string refinedInWords(DateTime time)
 {
     const std::string text = localTime(time);
     return text == "0000LT" ? text + " (at midnight)" : text;
@@ -98,13 +98,11 @@ public:
         try {
             const DegMin declination = SunDeclination(m_date + ofDay);
             const Degrees azimuth = routine(m_row.latitude, declination);
-            RiseSetLabel label{courseText(azimuth), "True azimuth, degrees", false, azimuth};
+            RiseSetLabel label{courseText(azimuth), "True azimuth, degrees", "", azimuth};
             const Degrees asTyped = routine(m_typedLatitude, declination);
             if (fabs(azimuth - asTyped) >= Degrees(0.1)) {
+                label.refined = Format(asTyped.value(), "000.0");
                 label.tip = "At the latitude as typed " + courseText(asTyped);
-                label.doubtful = true;
-                m_remarks.warn(std::string(name) + " azimuth at the latitude as typed " +
-                               courseText(asTyped));
             }
             return label;
         } catch (const ArithmeticError&) {
@@ -125,26 +123,28 @@ private:
 
     RiseSetLabel faulty(const EventRoutines& event, std::optional<DateTime> refined)
     {
-        std::string sentence = std::string("no ") + event.name + " that day at this latitude";
-        if (refined) sentence += ", refined search " + refinedText(*refined);
+        const std::string sentence = std::string("no ") + event.name + " that day at this latitude";
         m_remarks.warn(sentence);
-        return {"", sentence, false, {}};
+        if (!refined) return {"", sentence, "", {}};
+        return {"",
+                sentence + ", refined search " + refinedInWords(*refined),
+                Format(*refined, "hhmm"),
+                {}};
     }
 
-    RiseSetLabel shown(const EventRoutines& event, DateTime found, std::optional<DateTime> refined)
+    static RiseSetLabel shown(const EventRoutines& event, DateTime found,
+                              std::optional<DateTime> refined)
     {
-        RiseSetLabel label{localTime(found), "", false, {}};
+        RiseSetLabel label{localTime(found), "", "", {}};
         const std::string name = event.name;
         if (found == 0 && !refined) {
             label.tip = "0000LT here means: no " + name + " on this date";
         } else if (!refined) {
             label.tip = "Refined search: no " + name + " on this date";
-            label.doubtful = true;
-            m_remarks.warn(name + " refined: none on this date");
+            label.refined = "none";
         } else if (found == 0 || std::fabs(found - *refined) * 1440 > event.worthTelling) {
-            label.tip = "Refined time of " + name + ": " + refinedText(*refined);
-            label.doubtful = true;
-            m_remarks.warn(name + " refined " + refinedText(*refined));
+            label.refined = Format(*refined, "hhmm");
+            label.tip = "Refined time of " + name + ": " + refinedInWords(*refined);
         } else if (label.text == "0000LT") {
             label.tip = "At midnight";
         }

@@ -28,7 +28,7 @@ struct RiseSetRow {
 struct RiseSetLabel {
     std::string text;
     std::string tip;
-    bool doubtful = false;                     ///< the notice names a better figure
+    std::string refined; ///< the better figure for beside the label; empty: the label's own is good
     std::optional<NavFunc113::Degrees> figure; ///< an azimuth in full
 };
 
@@ -49,7 +49,7 @@ struct RiseSetResult {
 /// A date that is none, or a time difference, latitude or longitude that is no number or out of
 /// range, blanks the six labels. An event that ends in an arithmetic error is blank and named in
 /// the notice; the others are shown. Where the refined time differs from the one shown by more than
-/// 5 minutes (Moon) or 1 minute (Sun), the notice and the label's tip give it.
+/// 5 minutes (Moon) or 1 minute (Sun), it stands beside the label and in its tip.
 /// @param row  numbers of the row; each is replaced as it is accepted
 RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row);
 

@@ -19,6 +19,7 @@ namespace
 {
 
 constexpr int daysEachWay = 366; // of the scroll bar
+constexpr int longestPlace = 24; ///< characters of a name in the notice line
 
 constexpr std::array<Field, 1> dateFields = {
     {{"txtSunMoon", "&Date", "Date, year/month/day", FieldKind::Moment, "yyyy/m/d"}}};
@@ -26,17 +27,25 @@ constexpr std::array<Field, 1> dateFields = {
 using Holds = TableColumn::Holds;
 enum : std::size_t { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Results };
 
-constexpr const char* widestResult = "<000.0> ";
-
-constexpr TableColumn eventColumn(const char* name, const char* heading, const char* words)
+constexpr TableColumn timeColumn(const char* name, const char* heading, const char* words)
 {
-    return {name, heading, widestResult, Holds::Result, words, Qt::AlignRight};
+    return {name, heading, "0000LT", Holds::Result, words, Qt::AlignRight};
 }
 
-constexpr std::array<TableColumn, 14> tableColumns = {{
+constexpr TableColumn azimuthColumn(const char* name, const char* heading, const char* words)
+{
+    return {name, heading, "<000.0>", Holds::Result, words, Qt::AlignRight};
+}
+
+/// Of the event before it.
+constexpr TableColumn refinedColumn(const char* name, const char* words)
+{
+    return {name, "", "000.0", Holds::Correction, words, Qt::AlignLeft};
+}
+
+constexpr std::array<TableColumn, 19> tableColumns = {{
     {"lblNumber", "", "16", Holds::Number, "Row %1", Qt::AlignRight},
-    {"txtLocation", "Place", "Port of somewhere0", Holds::Text, "Place name, row %1", Qt::AlignLeft,
-     true},
+    {"txtLocation", "Place", "Yokohama", Holds::Text, "Place name, row %1", Qt::AlignLeft, true},
     {"txtTD", "TD\nhours", "-12.000", Holds::Figure,
      "Time difference from UTC, hours, east positive, row %1"},
     {"txtLatitude", "Latitude\ndeg.min", "-62.30.550", Holds::Latitude,
@@ -45,27 +54,32 @@ constexpr std::array<TableColumn, 14> tableColumns = {{
     {"txtLongitude", "Longitude\ndeg.min", "-179.30.550", Holds::Longitude,
      "Longitude, degrees.minutes, east positive, row %1"},
     {"", "east +", "179°30.55' W !", Holds::Echo},
-    eventColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1"),
-    eventColumn("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth, row %1"),
-    eventColumn("lblSunSetTime", "Sun\nset", "Sunset, row %1"),
-    eventColumn("lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth, row %1"),
-    {"", "", " ", Holds::Gap},
-    eventColumn("lblMoonRiseTime", "Moon\nrise", "Moonrise, row %1"),
-    eventColumn("lblMoonSetTime", "Moon\nset", "Moonset, row %1"),
+    timeColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1"),
+    refinedColumn("lblSunRiseRefined", "Sunrise refined, row %1"),
+    azimuthColumn("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth, row %1"),
+    refinedColumn("lblSunRiseAzRefined", "Sunrise azimuth at the latitude as typed, row %1"),
+    timeColumn("lblSunSetTime", "Sun\nset", "Sunset, row %1"),
+    refinedColumn("lblSunSetRefined", "Sunset refined, row %1"),
+    azimuthColumn("lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth, row %1"),
+    refinedColumn("lblSunSetAzRefined", "Sunset azimuth at the latitude as typed, row %1"),
+    timeColumn("lblMoonRiseTime", "Moon\nrise", "Moonrise, row %1"),
+    refinedColumn("lblMoonRiseRefined", "Moonrise refined, row %1"),
+    timeColumn("lblMoonSetTime", "Moon\nset", "Moonset, row %1"),
+    refinedColumn("lblMoonSetRefined", "Moonset refined, row %1"),
 }};
 
-/// The result that a column shows.
+/// The result that a column shows; the column behind it shows its refined figure.
 struct Event {
     std::size_t column;
     RiseSetLabel RiseSetResult::*result;
 };
 constexpr std::array<Event, 6> events = {{
     {Results, &RiseSetResult::sunRiseTime},
-    {Results + 1, &RiseSetResult::sunRiseAz},
-    {Results + 2, &RiseSetResult::sunSetTime},
-    {Results + 3, &RiseSetResult::sunSetAz},
-    {Results + 5, &RiseSetResult::moonRiseTime},
-    {Results + 6, &RiseSetResult::moonSetTime},
+    {Results + 2, &RiseSetResult::sunRiseAz},
+    {Results + 4, &RiseSetResult::sunSetTime},
+    {Results + 6, &RiseSetResult::sunSetAz},
+    {Results + 8, &RiseSetResult::moonRiseTime},
+    {Results + 10, &RiseSetResult::moonSetTime},
 }};
 
 QString text(const std::string& value)
@@ -201,7 +215,9 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
 {
     bool successful = false;
     for (std::size_t row = first; row < last; ++row) {
-        const QString place = m_table->box(row, Place)->text().trimmed();
+        QString place = m_table->box(row, Place)->text().trimmed();
+        // A long name would leave the notice line no room for what is at fault.
+        if (place.size() > longestPlace) place = place.left(longestPlace - 1) + "…";
         m_results[row] = CalculateRiseSet(
             {m_txtSunMoon->value(),
              (place.isEmpty() ? QString("Row %1").arg(row + 1) : place).toStdString(),
@@ -223,20 +239,23 @@ void frmSunMoon::showRow(std::size_t row)
     for (const auto& [column, event] : events) {
         const RiseSetLabel& shown = result.*event;
         m_table->result(row, column)->setText(text(shown.text));
+        m_table->result(row, column + 1)->setText(text(shown.refined));
         m_table->result(row, column)->setToolTip(text(shown.tip));
+        m_table->result(row, column + 1)
+            ->setToolTip(shown.refined.empty() ? QString() : text(shown.tip));
     }
     showDoubts(row);
 }
 
-/// A figure that the notice line corrects has the notice line's colour.
+/// A figure with a refined one beside it has the notice line's colour, and so has that one.
 void frmSunMoon::showDoubts(std::size_t row)
 {
     const ColourScheme& colours = program().colours();
     for (const auto& [column, event] : events)
         setTextColour(m_table->result(row, column),
-                      (m_results[row].*event).doubtful
-                          ? colours.notice
-                          : colours.palette.color(QPalette::WindowText));
+                      (m_results[row].*event).refined.empty()
+                          ? colours.palette.color(QPalette::WindowText)
+                          : colours.notice);
 }
 
 void frmSunMoon::showNotices()
@@ -305,8 +324,11 @@ std::string frmSunMoon::azimuth(RiseSetLabel RiseSetResult::*label) const
 void frmSunMoon::applyColours()
 {
     CalculatorWindow::applyColours();
-    for (std::size_t row = 0; row < rows; ++row)
+    for (std::size_t row = 0; row < rows; ++row) {
         showDoubts(row);
+        for (const auto& [column, event] : events)
+            setTextColour(m_table->result(row, column + 1), program().colours().notice);
+    }
 }
 
 } // namespace korvel

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cmath>
@@ -240,6 +241,18 @@ void count(const char* what, int seen, const Words& words)
         throw std::runtime_error(std::to_string(seen) + " " + what);
 }
 
+void sheets(Stage& stage, const Words& words)
+{
+    const QString boxes = QString::fromStdString(stage.printedBoxes());
+    count("sheets", static_cast<int>(boxes.count("<page ")), words);
+    static const QRegularExpression word("<word .*yMin=\"([0-9.]+)\".*yMax=\"([0-9.]+)\"");
+    double lowest = 1000;
+    for (const QRegularExpressionMatch& each : word.globalMatch(boxes))
+        lowest = std::min(lowest, each.captured(2).toDouble() - each.captured(1).toDouble());
+    if (lowest < numberAt(words, 1))
+        throw std::runtime_error("a word of " + Format(lowest, "0.00") + " points");
+}
+
 } // namespace
 
 const std::map<std::string, Verb>& eyeVerbs()
@@ -282,6 +295,7 @@ const std::map<std::string, Verb>& eyeVerbs()
         {"not-drawn", drawn<false>},
         {"contrast", contrast},
         {"printed", [](S s, W w) { expectText(s.printedText(), w, 0); }},
+        {"sheets", sheets},
         {"asked", [](S s, W w) { expectText(s.questions.asked.back(), w, 0); }},
         {"offered", [](S s, W w) { expectText(s.questions.offered.back(), w, 0); }},
         {"saves",

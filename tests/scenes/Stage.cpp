@@ -92,10 +92,10 @@ std::string Stage::filePath(const std::string& name) const
     return folder.filePath(QString::fromStdString(name)).toStdString();
 }
 
-std::string Stage::printedText() const
+std::string Stage::readPage(const QString& as) const
 {
     QProcess reader;
-    reader.start("pdftotext", {"-layout", folder.filePath("page.pdf"), "-"});
+    reader.start("pdftotext", {as, folder.filePath("page.pdf"), "-"});
     if (!reader.waitForFinished()) throw std::runtime_error("pdftotext is not there");
     if (reader.exitCode() != 0)
         throw std::runtime_error("no page: " + reader.readAllStandardError().toStdString());

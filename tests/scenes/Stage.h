@@ -56,7 +56,9 @@ public:
     };
     std::deque<ExpectedBox> boxes;
     /// Text of the pages printed last.
-    std::string printedText() const;
+    std::string printedText() const { return readPage("-layout"); }
+    /// The pages printed last with the box of every word, as XML.
+    std::string printedBoxes() const { return readPage("-bbox"); }
 
     QTemporaryDir folder;
     FakeQuestions questions;
@@ -66,6 +68,7 @@ public:
     StageFiles files{folder.path()};
 
 private:
+    std::string readPage(const QString& as) const;
     /// Looks after boxes that wait for an answer: an unexpected one would wait for ever.
     void attend();
     void answer(QDialog& box);
