@@ -91,9 +91,8 @@ TEST_F(ActionsTest, singleMemoAndRecall)
     saved(25) = 12.5;
     saved(23) = -5.3;
     saved(24) = 139.4523;
-    questions.willAnswer(Answer::Yes);
+    questions.will("Yes; No");
     EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::SinM), Answer::Yes);
-    questions.willAnswer(Answer::No);
     EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::PsnM), Answer::No);
     EXPECT_EQ(questions.asked[1], "Following value is stored in SINGLE MEMO now.\r\r    12.50\r\r"
                                   "Are you sure to input this value?");
@@ -108,19 +107,17 @@ TEST_F(ActionsTest, singleMemoAndRecall)
 TEST_F(ActionsTest, exitSavesOnlyWhenConfirmed)
 {
     saved.setTD(-9.5f);
-    questions.willAnswer(Answer::No);
+    questions.will("No; Yes");
     EXPECT_EQ(actions.ExitApplication(), 1);
     EXPECT_TRUE(files.files.empty());
     EXPECT_EQ(questions.asked.back(), "Application：KORVEL2000\r\r          Are you sure to exit?");
-    questions.willAnswer(Answer::Yes);
     EXPECT_EQ(actions.ExitApplication(), 0);
     EXPECT_EQ(ended, 1);
     EXPECT_EQ(valuesSaved, 1);
     EXPECT_TRUE(files.files["KV_KORVEL.ini"].ends_with("\r\n-9.5\r\n"));
 
     files.refusal = "disk full";
-    questions.willAnswer(Answer::Yes);
-    questions.willAnswer(Answer::No);
+    questions.will("Yes; No");
     EXPECT_EQ(actions.ExitApplication(), 0);
     EXPECT_EQ(ended, 2);
     EXPECT_EQ(valuesSaved, 1) << "the officer left without saving";

@@ -18,9 +18,9 @@ void FakeQuestions::willAnswer(Answer answer, std::function<void()> run)
     m_answers.push_back({answer, std::move(run)});
 }
 
-void FakeQuestions::willType(const std::optional<std::string>& answer)
+void FakeQuestions::willType(const std::optional<std::string>& answer, std::function<void()> run)
 {
-    m_typed.push_back(answer);
+    m_typed.push_back({answer, std::move(run)});
 }
 
 void FakeQuestions::will(const std::string& answers)
@@ -60,8 +60,9 @@ std::optional<std::string> FakeQuestions::input(const std::string& prompt, const
         // The caller repeats the question until it is satisfied: only an exception ends that.
         throw std::runtime_error("unexpected input box: " + prompt);
     }
-    const std::optional<std::string> answer = std::move(m_typed.front());
+    const auto [answer, run] = std::move(m_typed.front());
     m_typed.pop_front();
+    if (run) run();
     return answer == acceptDefault ? defaultAnswer : answer;
 }
 

@@ -31,8 +31,8 @@ public:
     /// Answers the next message box, in order. @param run happens while the box is open
     void willAnswer(Answer answer, std::function<void()> run = {});
     /// Answers the next input box. An answer of acceptDefault takes what is offered, nothing is
-    /// Cancel.
-    void willType(const std::optional<std::string>& answer);
+    /// Cancel. @param run happens while the box is open
+    void willType(const std::optional<std::string>& answer, std::function<void()> run = {});
     static constexpr const char* acceptDefault = "\x01";
     /// Answers a row of boxes as a table writes them: "Yes; 24:00; OK; Esc". Yes, No, OK and Cancel
     /// answer message boxes, Esc and whatever else is typed input boxes.
@@ -51,8 +51,12 @@ private:
         Answer answer;
         std::function<void()> run;
     };
+    struct Typed {
+        std::optional<std::string> answer;
+        std::function<void()> run;
+    };
     std::deque<Prepared> m_answers;
-    std::deque<std::optional<std::string>> m_typed;
+    std::deque<Typed> m_typed;
 };
 
 /// A clock that shows what the test wants and can be set without touching the machine's.

@@ -99,14 +99,12 @@ TEST_F(RecoveryFileTest, bringsBackWhatAKilledProgramHadSet)
         files.files["KV_KORVEL recovery.ini"].starts_with("\"2005/03/14 09:45\"\r\n#TRUE#"));
 
     clock.time += 1;
-    questions.willAnswer(Answer::Yes);
+    questions.will("Yes; Yes; No");
     EXPECT_TRUE(run(doNothing).alarmEnabled(3));
     EXPECT_THAT(questions.asked.back(), HasSubstr("as they were at 2005/03/14 09:45"));
     EXPECT_EQ(files.saves, 1) << "what was taken over lies there already";
 
-    questions.willAnswer(Answer::Yes);
     EXPECT_TRUE(run([](KV_Savedvalue& saved) { saved.setTD(-5); }).alarmEnabled(3));
-    questions.willAnswer(Answer::No);
     EXPECT_FALSE(run(doNothing).alarmEnabled(3));
     EXPECT_TRUE(files.files.empty()) << "what was declined is not asked for again";
 }

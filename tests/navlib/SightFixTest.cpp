@@ -2,6 +2,7 @@
 #include "navlib/sight_fix.h"
 
 #include "navlib/angles.h"
+#include "tests/golden/Golden.h"
 
 #include <gtest/gtest.h>
 
@@ -11,21 +12,6 @@ namespace NavFunc113
 {
 namespace
 {
-
-Degrees packed(double value)
-{
-    return DegMinToDeg(DegMin(value));
-}
-
-Sight sightOf(double GHA, double declination, double observed, double sinceFix)
-{
-    return {packed(GHA), packed(declination), packed(observed), Hours(sinceFix)};
-}
-
-Position positionOf(double latitude, double longitude)
-{
-    return {packed(latitude), packed(longitude)};
-}
 
 double milesApart(const Position& a, const Position& b)
 {
@@ -38,59 +24,35 @@ Motion motionOf(double course, double speed)
     return {Degrees(course), Knots(speed)};
 }
 
-constexpr double clock(int h, int m, int s)
-{
-    return h + m / 60.0 + s / 3600.0;
-}
-
 struct Example {
-    const char* name;
     std::vector<Sight> sights;
     Position atFix;
     Motion motion;
     Position fix;
 };
 
-const std::vector<Example>& examples()
+std::vector<Example> examples()
 {
-    static const std::vector<Example> list = {
-        {"sun, run, sun; first",
-         {sightOf(357.132, -23.226, 24.4208, clock(11, 45, 11) - 15.5),
-          sightOf(53.243, -23.228, 52.3048, 0)},
-         positionOf(14.0252, -52.417),
-         motionOf(271, 8),
-         positionOf(14.060, -52.258)},
-        {"sun, run, sun; second",
-         {sightOf(343.238, -23.189, 19.297, clock(10, 49, 6) - clock(14, 37, 10)),
-          sightOf(40.237, -23.193, 52.413, 0)},
-         positionOf(13.53, -44.586),
-         motionOf(270, 19 / (clock(14, 37, 10) - clock(10, 49, 6))),
-         positionOf(13.423, -45.056)},
-        {"high altitudes",
-         {sightOf(351.554, -18.004, 88.080, -48.0 / 60),
-          sightOf(354.104, -18.005, 88.339, -39.0 / 60)},
-         positionOf(-19.203, 6.3922),
-         motionOf(164, 12),
-         positionOf(-19.224, 6.376)},
-        {"four stars",
-         {sightOf(317.352, -60.497, 35.0797, clock(23, 41, 56) - clock(23, 45, 22)),
-          sightOf(350.508, -63.056, 48.3391, clock(23, 42, 6) - clock(23, 45, 22)),
-          sightOf(108.485, 16.303, 13.4222, clock(23, 43, 12) - clock(23, 45, 22)),
-          sightOf(231.557, -56.441, 22.1698, 0)},
-         positionOf(-53.3868, -74.437),
-         motionOf(119.3, 10.3),
-         positionOf(-53.598, -74.432)},
-    };
+    std::vector<Example> list;
+    for (const auto& row : korvel::testing::golden("navlib_fixes")) {
+        const auto angle = [&](const char* column) { return DegMinToDeg(row.degMin(column)); };
+        if (row.has("fault"))
+            list.push_back({{},
+                            {angle("dr lat"), angle("dr long")},
+                            {row.degrees("course"), row.knots("speed")},
+                            {angle("lat"), angle("long")}});
+        list.back().sights.push_back(
+            {angle("GHA"), angle("declination"), angle("observed"), row.hours("since")});
+    }
     return list;
 }
 
 TEST(SightFix, publishedFixes)
 {
     for (const Example& example : examples()) {
-        SCOPED_TRACE(example.name);
         const Fix fix = LeastSquaresFix(example.sights, example.atFix, example.motion, {});
         ASSERT_EQ(fix.outcome, FixOutcome::Found);
-        EXPECT_LT(milesApart(fix.position, example.fix), 0.2);
+        EXPECT_LT(milesApart(fix.position, example.fix), 0.2) << example.fix.latitude.value();
     }
 }
 
@@ -99,27 +61,22 @@ TEST(SightFix, ellipses)
     const auto fixOf = [](const Example& example, const ErrorModel& errors) {
         return LeastSquaresFix(example.sights, example.atFix, example.motion, errors);
     };
-    const Fix two = fixOf(examples()[0], {});
-    const ErrorEllipse plain = EllipseOf(two.matrix, AssumedSigmaFactor());
-    EXPECT_NEAR(plain.semiMajor.value(), 3.63, 0.01);
-    EXPECT_NEAR(plain.semiMinor.value(), 1.97, 0.01);
-    EXPECT_NEAR(plain.majorAxis.value(), 63, 0.5);
-    const ErrorEllipse run =
-        EllipseOf(fixOf(examples()[0], {Miles(1), 0.05, Degrees(2)}).matrix, AssumedSigmaFactor());
-    EXPECT_NEAR(run.semiMajor.value(), 5.28, 0.02);
-    EXPECT_NEAR(run.semiMinor.value(), 2.30, 0.01);
-    EXPECT_NEAR(run.majorAxis.value(), 81, 0.5);
-
-    const Fix four = fixOf(examples()[3], {});
+    const auto expectEllipse = [](const Fix& fix, double major, double minor, double axis) {
+        const ErrorEllipse ellipse = EllipseOf(fix.matrix, AssumedSigmaFactor());
+        EXPECT_NEAR(ellipse.semiMajor.value(), major, 0.01);
+        EXPECT_NEAR(ellipse.semiMinor.value(), minor, 0.01);
+        EXPECT_NEAR(ellipse.majorAxis.value(), axis, 0.5);
+    };
+    const std::vector<Example> list = examples();
+    expectEllipse(fixOf(list[0], {}), 3.63, 1.97, 63);
+    expectEllipse(fixOf(list[0], {Miles(1), 0.05, Degrees(2)}), 5.28, 2.30, 81);
+    const Fix four = fixOf(list[3], {});
+    expectEllipse(four, 3.42, 1.31, 64);
     EXPECT_NEAR(four.weightedSquares, 0.394, 0.02);
     EXPECT_NEAR(MeasuredScale(four), 0.44, 0.01);
     const double residuals[] = {-0.47, 0.03, -0.42, 0.03};
     for (std::size_t i = 0; i < 4; ++i)
         EXPECT_NEAR(four.residuals[i].value(), residuals[i], 0.02);
-    const ErrorEllipse stars = EllipseOf(four.matrix, AssumedSigmaFactor());
-    EXPECT_NEAR(stars.semiMajor.value(), 3.42, 0.01);
-    EXPECT_NEAR(stars.semiMinor.value(), 1.31, 0.01);
-    EXPECT_NEAR(stars.majorAxis.value(), 64, 0.5);
 }
 
 TEST(SightFix, heavierLineIsTrustedMore)

@@ -15,19 +15,6 @@ namespace
 
 using namespace korvel::testing;
 
-/// Lets time pass before it answers, as an officer does who looks something up.
-class SlowOfficer : public FakeQuestions
-{
-public:
-    std::optional<std::string> input(const std::string& prompt, const std::string& title,
-                                     const std::string& answer) override
-    {
-        if (meanwhile) meanwhile();
-        return FakeQuestions::input(prompt, title, answer);
-    }
-    std::function<void()> meanwhile;
-};
-
 /// A calculator of one box, to be opened from the menu.
 class frmProbe : public CalculatorWindow
 {
@@ -68,7 +55,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    SlowOfficer questions;
+    FakeQuestions questions;
     FakeClock clock;
     FakeBell bell;
     ProgramFolder files{folder.path()};
@@ -81,8 +68,7 @@ TEST_F(MainWindowTest, anAlarmRingsByTheStoredTDWhileTDIsAskedFor)
     saved.setTD(8);
     saved.setAlarmTime(1, "08:45");
     saved.setAlarmEnabled(1, true);
-    questions.meanwhile = [&] { EXPECT_TRUE(QTest::qWaitFor([&] { return bell.ringing; })); };
-    questions.willType("9");
+    questions.willType("9", [&] { EXPECT_TRUE(QTest::qWaitFor([&] { return bell.ringing; })); });
     window->start();
     ASSERT_NE(shown("alarmBox"), nullptr);
     shown("alarmBox")->close();
@@ -139,8 +125,7 @@ TEST_F(MainWindowTest, theEndOfTheSessionWritesRecordsAndAsksNothing)
     window->program().saved()(25) = 12.5;
     QSignalSpy ended(window.get(), &frmKORVEL2000::ended);
     // The session ends under a question that would be asked again and again.
-    questions.meanwhile = [&] { window->endSession(); };
-    questions.willType("99");
+    questions.willType("99", [&] { window->endSession(); });
     EXPECT_ANY_THROW(window->program().shipsTime().inputTD());
     window->endSession();
     EXPECT_EQ(ended.count(), 1);
