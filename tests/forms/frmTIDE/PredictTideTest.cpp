@@ -77,6 +77,8 @@ TEST_F(PlainTide, twentyFourHoursAndNothingAboveTheStart)
     earlier.extremes = {3, NavFunc113::Hours(5.5), 1, NavFunc113::Hours(11.5)};
     tide("9,-4,0,0,0,0,0,0,0,0" + corrections);
     EXPECT_EQ(predictTide("2003/01/31", earlier).lblTideInfo, "05.-30: 0.00m   00.-30: -3.90m");
+    EXPECT_EQ(predictTide("2003/01/31", earlier).remark,
+              "No height above 0 this day: the highest is not of this day.");
 }
 
 TEST_F(PlainTide, streamsHaveDirectionsAndNoMonths)
