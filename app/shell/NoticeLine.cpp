@@ -20,7 +20,7 @@ NoticeLine::NoticeLine()
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    setMinimumHeight(sizeHint().height());
+    setMinimumHeight(NoticeLine::sizeHint().height());
 }
 
 void NoticeLine::say(const QString& key, const QString& text)

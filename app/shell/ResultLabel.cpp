@@ -22,7 +22,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString figure = static_cast<QLabel*>(widget())->text();
+        QString figure = static_cast<QLabel*>(widget())->text();
         if (kind == QAccessible::Value) return figure;
         if (kind != QAccessible::Name) return QAccessibleWidget::text(kind);
         const QString name = widget()->accessibleName();

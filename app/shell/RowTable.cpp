@@ -72,8 +72,6 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
         made->setFont(small(font()));
         break;
     case Holds::Text:
-        made = new EntryBox(this);
-        break;
     case Holds::Figure:
         made = new EntryBox(this);
         break;

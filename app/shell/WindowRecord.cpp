@@ -40,19 +40,18 @@ void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxe
                             std::function<void(Record&)> settle)
 {
     std::vector<Kind> kinds(boxes.size(), Kind::Text);
-    use(
-        file, std::move(kinds),
-        [boxes, settle = std::move(settle)] {
-            Record record;
-            for (const EntryBox* box : boxes)
-                record.emplace_back(box->value());
-            if (settle) settle(record);
-            return record;
-        },
-        [boxes](const Record& record) {
-            for (std::size_t i = 0; i < boxes.size(); ++i)
-                boxes[i]->setText(QString::fromStdString(textOf(record[i])));
-        });
+    const Load load = [boxes](const Record& record) {
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            boxes[i]->setText(QString::fromStdString(textOf(record[i])));
+    };
+    const Save save = [boxes = std::move(boxes), settle = std::move(settle)] {
+        Record record;
+        for (const EntryBox* box : boxes)
+            record.emplace_back(box->value());
+        if (settle) settle(record);
+        return record;
+    };
+    use(file, std::move(kinds), save, load);
 }
 
 bool WindowRecord::load()

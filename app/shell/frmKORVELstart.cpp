@@ -46,9 +46,9 @@ void drawSea(QPainter& painter)
 {
     for (int wave = 0; wave < 3; ++wave) {
         QPainterPath path(QPointF(0, pictureHeight));
-        for (double x = 0; x <= pictureWidth; x += 6)
+        for (int x = 0; x <= static_cast<int>(pictureWidth); x += 6)
             path.lineTo(x, pictureHeight - 42 + wave * 14 +
-                               5 * std::sin(x / 38 + wave * 1.9 * std::numbers::pi / 2));
+                               5 * std::sin(x / 38.0 + wave * 1.9 * std::numbers::pi / 2));
         path.lineTo(pictureWidth, pictureHeight);
         painter.fillPath(path, QColor(20, 70 - wave * 14, 110 - wave * 20, 190));
     }

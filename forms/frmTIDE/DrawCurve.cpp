@@ -99,7 +99,8 @@ std::optional<CurveReading> readCurve(const TidePrediction& prediction, double h
     const double y = prediction.values[before] +
                      share * (prediction.values[before + 1] - prediction.values[before]);
     // By hand, because 24:00 is a time of this curve and of no clock.
-    const std::string time = Format(minute / 60, "00") + ":" + Format(minute % 60, "00") + "  ";
+    const int hours = minute / 60;
+    const std::string time = Format(hours, "00") + ":" + Format(minute % 60, "00") + "  ";
     if (prediction.kind == TideKind::Tide) return CurveReading{{x, y}, time + Format(y, "0.00m")};
     return CurveReading{{x, y}, time + Format(std::fabs(y), "0.0kn") + setOf(prediction, y)};
 }
