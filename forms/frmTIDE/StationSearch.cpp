@@ -87,6 +87,7 @@ std::vector<FoundStation> findStations(std::string_view typed)
     }
     std::ranges::stable_sort(found, {}, [](const auto& entry) { return entry.first; });
     std::vector<FoundStation> stations;
+    stations.reserve(found.size());
     for (auto& [match, station] : found)
         stations.push_back(std::move(station));
     return stations;

@@ -21,7 +21,7 @@ std::optional<std::string> replace(FileStore& files, const std::string& bytes)
     const FileStore::Content old = files.read(factorsFileName);
     if (old.status == Status::Unreadable) return old.reason;
     if (old.status == Status::Read) {
-        if (const auto fault = files.save(fileBefore, old.bytes)) return fault;
+        if (auto fault = files.save(fileBefore, old.bytes)) return fault;
     }
     return files.save(factorsFileName, bytes);
 }

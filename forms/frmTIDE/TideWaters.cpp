@@ -88,7 +88,8 @@ std::string clockTime(Hours time)
 {
     // By hand, because 24:00 is a time of this curve and of no clock.
     const auto minutes = std::lround(time.value() * 60);
-    return Format(static_cast<double>(minutes / 60), "00") + ":" +
+    const auto hours = minutes / 60;
+    return Format(static_cast<double>(hours), "00") + ":" +
            Format(static_cast<double>(minutes % 60), "00");
 }
 

@@ -102,7 +102,8 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
         const int column = i / tableColumns;
         const int row = i % tableColumns;
         const QRectF cell(column * width, top + row * height, width * 0.8, height);
-        const std::string time = Format(i / 2, "00") + (i % 2 == 0 ? ":00" : ":30");
+        const int hour = i / 2;
+        const std::string time = Format(hour, "00") + (i % 2 == 0 ? ":00" : ":30");
         painter.drawText(cell, Qt::AlignLeft, text(time));
         const double value = day.four.values[static_cast<std::size_t>(i)];
         painter.drawText(cell, Qt::AlignRight, text(valueText(value, day.four.kind)));

@@ -48,8 +48,9 @@ QGroupBox* frmWeather::layOutTerms()
 {
     auto* group = new QGroupBox("Sea, swell and visibility");
     auto* grid = new QGridLayout(group);
-    ResultLabel* const terms[] = {m_lblWave, m_lblSWELL, m_lblVISIBILITY};
-    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
+    const std::array<ResultLabel*, WeatherFields.size()> terms = {m_lblWave, m_lblSWELL,
+                                                                  m_lblVISIBILITY};
+    for (std::size_t i = 0; i < terms.size(); ++i) {
         const int row = static_cast<int>(i);
         auto* caption = new QLabel(WeatherFields[i].caption);
         caption->setBuddy(m_boxes[i]);
