@@ -62,11 +62,11 @@ std::vector<TideTurn> TurnsOf(const TideCurve& curve)
 {
     // One sample before 00:00 and one after 24:00, so that a turn at midnight has neighbours.
     std::array<double, stepsOfDay + 3> samples;
-    for (int step = -1; step <= stepsOfDay + 1; ++step)
-        samples[static_cast<std::size_t>(step + 1)] = curve(timeOf(step));
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        samples[i] = curve(timeOf(static_cast<int>(i) - 1));
     std::vector<TideTurn> turns;
     for (int step = 0; step <= stepsOfDay; ++step) {
-        const auto i = static_cast<std::size_t>(step + 1);
+        const std::size_t i = static_cast<std::size_t>(step) + 1;
         const bool isHigh = samples[i] > samples[i - 1] && samples[i] >= samples[i + 1];
         const bool isLow = samples[i] < samples[i - 1] && samples[i] <= samples[i + 1];
         if (!isHigh && !isLow) continue;
