@@ -37,20 +37,13 @@ char escaped(char letter)
         return '\n';
     case 't':
         return '\t';
+    case 'b':
+        return '\b';
+    case '0':
+        return '\0';
     default:
         return letter;
     }
-}
-
-/// Reads the text after an opening quote; pos ends behind the closing one.
-std::string quotedCell(const std::string& line, std::size_t& pos)
-{
-    std::string text;
-    for (; pos < line.size() && line[pos] != '"'; ++pos)
-        text += line[pos] == '\\' && pos + 1 < line.size() ? escaped(line[++pos]) : line[pos];
-    if (pos == line.size()) throw std::runtime_error("a quote is not closed");
-    ++pos;
-    return text;
 }
 
 std::vector<std::string> cellsOf(const std::string& line)
@@ -59,7 +52,7 @@ std::vector<std::string> cellsOf(const std::string& line)
     for (std::size_t pos = 0; pos <= line.size(); ++pos) {
         pos = std::min(line.find_first_not_of(" \t", pos), line.size());
         std::string cell;
-        if (pos < line.size() && line[pos] == '"') cell = quotedCell(line, ++pos);
+        if (pos < line.size() && line[pos] == '"') cell = quotedText(line, ++pos);
         const std::size_t comma = std::min(line.find(',', pos), line.size());
         const std::string rest = trimmed(line.substr(pos, comma - pos));
         if (!cell.empty() && !rest.empty()) throw std::runtime_error("text after a quoted cell");
@@ -77,6 +70,16 @@ bool isRead(const std::string& text, Number& value)
 }
 
 } // namespace
+
+std::string quotedText(const std::string& line, std::size_t& pos)
+{
+    std::string text;
+    for (; pos < line.size() && line[pos] != '"'; ++pos)
+        text += line[pos] == '\\' && pos + 1 < line.size() ? escaped(line[++pos]) : line[pos];
+    if (pos == line.size()) throw std::runtime_error("a quote is not closed");
+    ++pos;
+    return text;
+}
 
 Golden::Golden(std::shared_ptr<const Table> table, int line, std::vector<std::string> cells)
     : m_table(std::move(table)), m_line(line), m_cells(std::move(cells))

@@ -74,6 +74,11 @@ private:
     std::vector<std::string> m_cells;
 };
 
+/// Reads a quoted text with its escapes \r \n \t \b \0 \" \\.
+/// @param pos stands behind the opening quote and ends behind the closing one
+/// @throws std::runtime_error when the quote is not closed
+std::string quotedText(const std::string& line, std::size_t& pos);
+
 /// Reads tests/golden/<table>.csv. Lines that begin with # are comments, and one of them names the
 /// source of the figures ("source: .."). The first other line names the columns; in the rest, one
 /// case a line, the first column says which fault the case would catch.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/scenes/Script.h"
 #include "tests/SourceFolder.h"
+#include "tests/golden/Golden.h"
 
 #include <fstream>
 #include <map>
@@ -10,35 +11,6 @@ namespace korvel::testing
 {
 namespace
 {
-
-char escaped(char letter)
-{
-    switch (letter) {
-    case 'r':
-        return '\r';
-    case 'n':
-        return '\n';
-    case 't':
-        return '\t';
-    case 'b':
-        return '\b';
-    case '0':
-        return '\0';
-    default:
-        return letter;
-    }
-}
-
-/// Reads a quoted text; pos stands behind the opening quote and ends behind the closing one.
-std::string quotedText(const std::string& line, std::size_t& pos)
-{
-    std::string text;
-    for (; pos < line.size() && line[pos] != '"'; ++pos)
-        text += line[pos] == '\\' && pos + 1 < line.size() ? escaped(line[++pos]) : line[pos];
-    if (pos == line.size()) throw std::runtime_error("a quote is not closed");
-    ++pos;
-    return text;
-}
 
 /// How often a word stands there: "x"*3 is three words.
 std::size_t repetitions(const std::string& line, std::size_t& pos)
