@@ -13,6 +13,7 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QIcon>
 #include <QTimer>
 
 #include <algorithm>
@@ -32,6 +33,23 @@ void tellAboutTheOther(Questions& questions, const QString& folder, bool isInFro
                                   : "\r\rIt does not answer. It has to end before another can "
                                     "start here."),
                    programTitle, Buttons::Ok});
+}
+
+/// Drawn for each size: one picture made smaller blurs at 16 pixels.
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icon/korvel2000-%1.png").arg(size));
+    return icon;
+}
+
+void introduceToDesktop()
+{
+    QApplication::setApplicationName(programTitle);
+    QApplication::setWindowIcon(programIcon());
+    // A desktop whose windows bring no icon takes the one of the menu entry.
+    QApplication::setDesktopFileName("korvel2000");
 }
 
 bool isAnythingShown()
@@ -72,7 +90,7 @@ int main(int argc, char* argv[])
     useOwnFonts();
     QApplication::setStyle("Fusion");
     GuardedApplication application(argc, argv);
-    QApplication::setApplicationName(programTitle);
+    introduceToDesktop();
     QApplication::setQuitOnLastWindowClosed(false);
 
     MessageQuestions questions;

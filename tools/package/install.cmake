@@ -11,7 +11,11 @@ install(TARGETS korvel2000 DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/korvel2000)
 install(DIRECTORY docs/manual DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/korvel2000)
 install(FILES ${desktop}/korvel2000.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${desktop}/korvel2000.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+install(FILES app/shell/icon/korvel2000.svg DESTINATION ${icons}/scalable/apps)
+foreach(size 16 24 32 48 64 128 256)
+  install(FILES app/shell/icon/korvel2000-${size}.png DESTINATION ${icons}/${size}x${size}/apps
+          RENAME korvel2000.png)
+endforeach()
 install(FILES ${pages}/korvel2000.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${pages}/korvel2000.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
