@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-constexpr std::string_view blanks = " \t";
+constexpr std::string_view spaceAndTab = " \t";
 
 } // namespace
 
@@ -41,7 +41,7 @@ DelimitedText::Item DelimitedText::next(bool blanksPart)
     } else {
         item.text = m_rest.substr(0, m_rest.find_first_of(blanksPart ? ", \t\r\n" : ",\r\n"));
         m_rest.remove_prefix(item.text.size());
-        item.text = item.text.substr(0, item.text.find_last_not_of(blanks) + 1);
+        item.text = item.text.substr(0, item.text.find_last_not_of(spaceAndTab) + 1);
         skipBlanks();
     }
     takeSeparator();
@@ -69,7 +69,7 @@ void DelimitedText::skipEmptyLines()
 
 void DelimitedText::skipBlanks()
 {
-    m_rest.remove_prefix(std::min(m_rest.find_first_not_of(blanks), m_rest.size()));
+    m_rest.remove_prefix(std::min(m_rest.find_first_not_of(spaceAndTab), m_rest.size()));
 }
 
 void DelimitedText::takeSeparator()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/Format.h"
 
+#include "app/ascii.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
 
@@ -166,11 +167,6 @@ std::string formatNumber(double value, std::string_view format)
     if (point != std::string_view::npos)
         text += layOutDecimals(section.substr(point + 1), decimal.decimals);
     return text;
-}
-
-char lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 std::string padded(std::int64_t number, std::size_t width)

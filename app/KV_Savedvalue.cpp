@@ -66,7 +66,7 @@ std::array<SavedValueRow, KV_Savedvalue::count> makeTable()
     return table;
 }
 
-std::string inWords(const Value& value)
+std::string valueInWords(const Value& value)
 {
     const std::string line = writeRecord(std::span(&value, 1));
     return line.substr(0, line.find('\r'));
@@ -130,7 +130,7 @@ std::vector<std::string> KV_Savedvalue::take(const Record& record)
         const SavedValueRow& row = table()[i];
         const bool sound = row.isSound(record[i]);
         m_values[i] = sound ? record[i] : row.initial;
-        if (!sound) refused.push_back(row.name + " " + inWords(record[i]));
+        if (!sound) refused.push_back(row.name + " " + valueInWords(record[i]));
     }
     // Half of a position is none.
     const auto soundAt = [&](SavedValue which) {

@@ -13,9 +13,9 @@ namespace korvel
 namespace
 {
 
-using Kind = NumberReading::Kind;
+using ReadingKind = NumberReading::Kind;
 
-constexpr std::string_view blanks = " \t\r\n";
+constexpr std::string_view whiteSpace = " \t\r\n";
 
 std::string withUnit(const NumberField& field)
 {
@@ -103,24 +103,24 @@ std::string advice(std::string_view text, const NumberField& field)
 NumberReading readField(std::string_view text, const NumberField& field)
 {
     const std::string ascii = asciiForms(text);
-    const std::size_t first = ascii.find_first_not_of(blanks);
+    const std::size_t first = ascii.find_first_not_of(whiteSpace);
     if (first == std::string::npos) {
-        if (!field.ifEmpty) return {Kind::Empty, std::nullopt, "empty"};
+        if (!field.ifEmpty) return {ReadingKind::Empty, std::nullopt, "empty"};
         const std::string fault = rangeRemark(*field.ifEmpty, field);
-        return {Kind::Empty, fault.empty() ? field.ifEmpty : std::nullopt, fault};
+        return {ReadingKind::Empty, fault.empty() ? field.ifEmpty : std::nullopt, fault};
     }
-    const std::size_t last = ascii.find_last_not_of(blanks);
+    const std::size_t last = ascii.find_last_not_of(whiteSpace);
     const std::string typed = ascii.substr(first, last + 1 - first);
     const auto value = readLeadingNumber(typed);
     if (!value && typed.find_first_not_of("+-.") == std::string::npos)
-        return {Kind::HalfTyped, std::nullopt, "no number yet"};
-    if (!value) return {Kind::NoNumber, std::nullopt, quotation(text) + " is no number"};
+        return {ReadingKind::HalfTyped, std::nullopt, "no number yet"};
+    if (!value) return {ReadingKind::NoNumber, std::nullopt, quotation(text) + " is no number"};
     if (std::string fault = rangeRemark(*value, field); !fault.empty())
-        return {Kind::OutOfRange, std::nullopt, fault};
-    if (isNumeric(typed)) return {Kind::Whole, value, {}};
+        return {ReadingKind::OutOfRange, std::nullopt, fault};
+    if (isNumeric(typed)) return {ReadingKind::Whole, value, {}};
     if (const auto angle = meantAngle(typed, field); angle && readNumber(*angle) == *value)
-        return {Kind::Beginning, value, {}}; // 35.305N: the letter says what the number says
-    return {Kind::Beginning, value,
+        return {ReadingKind::Beginning, value, {}}; // 35.305N: the letter says what the number says
+    return {ReadingKind::Beginning, value,
             "only " + Format(*value, "0.########") + " was read" + advice(typed, field)};
 }
 
@@ -136,8 +136,8 @@ std::optional<double> readField(std::string_view text, const NumberField& field,
 
 std::optional<double> readIfTyped(std::string_view text, const NumberField& field, Remarks& remarks)
 {
-    const Kind kind = readField(text, field).kind;
-    if (kind == Kind::Empty || kind == Kind::HalfTyped) return std::nullopt;
+    const ReadingKind kind = readField(text, field).kind;
+    if (kind == ReadingKind::Empty || kind == ReadingKind::HalfTyped) return std::nullopt;
     return readField(text, field, remarks);
 }
 

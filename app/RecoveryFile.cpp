@@ -62,8 +62,9 @@ std::string RecoveryFile::keep(const KV_Savedvalue& saved)
 {
     std::string values = bytesOf(saved);
     if (values == m_kept) return {};
-    Record record = saved.record();
-    record.insert(record.begin(), Format(m_clock.now(), "yyyy/mm/dd hh:mm"));
+    Record record{Format(m_clock.now(), "yyyy/mm/dd hh:mm")};
+    const Record savedValues = saved.record();
+    record.insert(record.end(), savedValues.begin(), savedValues.end());
     std::string fault = m_file.saveQuietly(record);
     if (fault.empty()) m_kept = std::move(values);
     return fault;

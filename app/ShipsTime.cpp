@@ -29,7 +29,7 @@ bool isOnCalendar(NavFunc113::DateTime utc)
 constexpr const char* zoneNames[] = {"JST", "SMT", "UTC"};
 constexpr double zoneTolerance = 2.0 / 60; // hours
 
-std::int64_t minuteOf(NavFunc113::DateTime value)
+std::int64_t wholeMinute(NavFunc113::DateTime value)
 {
     return std::llround(std::floor(NavFunc113::NearestSecond(value) * 1440 + 1e-6));
 }
@@ -189,7 +189,7 @@ void ShipsTime::show()
 
 void ShipsTime::JikokuHyouji()
 {
-    const std::int64_t minute = minuteOf(std::clamp(now(), firstUTC, lastUTC));
+    const std::int64_t minute = wholeMinute(std::clamp(now(), firstUTC, lastUTC));
     if (m_minuteShown == minute) return;
     m_minuteShown = minute;
     show();

@@ -170,7 +170,7 @@ void Alarms::watch(std::int64_t minute)
     m_last = minute;
 }
 
-std::vector<Due> Alarms::check(NavFunc113::DateTime smt)
+std::vector<DueAlarm> Alarms::check(NavFunc113::DateTime smt)
 {
     const auto minute = minuteOf(smt);
     if (!minute) return {};
@@ -181,7 +181,7 @@ std::vector<Due> Alarms::check(NavFunc113::DateTime smt)
 
     std::stable_sort(m_due.begin(), m_due.end(),
                      [](const Rung& a, const Rung& b) { return a.minute < b.minute; });
-    std::vector<Due> result;
+    std::vector<DueAlarm> result;
     for (Rung& rung : m_due)
         result.push_back(std::move(rung.due));
     m_due.clear();

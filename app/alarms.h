@@ -31,11 +31,11 @@ void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
 void setUpTimeSignal(KV_Savedvalue& saved, Questions& questions);
 
 /// What has fallen due.
-struct Due {
+struct DueAlarm {
     std::string text; ///< to be shown
     bool alarm;       ///< to be repeated until it is acknowledged; false: a time signal, once
 
-    bool operator==(const Due&) const = default;
+    bool operator==(const DueAlarm&) const = default;
 };
 
 /// Minutes that have been rung.
@@ -68,7 +68,7 @@ public:
     /// To be called once per new minute; calling more often does no harm.
     /// @param smt ship's mean time; any second of the minute
     /// @return what is to be shown, in the order of its own times, alarms before the time signal
-    std::vector<Due> check(NavFunc113::DateTime smt);
+    std::vector<DueAlarm> check(NavFunc113::DateTime smt);
 
     /// To be called when the officer has changed TD or set the clock. Shows nothing: what the
     /// change passed over by less than an hour comes with the next check, by when a whole hour
@@ -86,7 +86,7 @@ private:
     };
     struct Rung {
         std::int64_t minute;
-        Due due;
+        DueAlarm due;
     };
 
     void watch(std::int64_t minute);

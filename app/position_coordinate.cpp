@@ -8,7 +8,7 @@ namespace korvel
 namespace
 {
 
-using Kind = PositionToken::Kind;
+using TokenKind = PositionToken::Kind;
 
 class CoordinateReader
 {
@@ -16,7 +16,7 @@ public:
     explicit CoordinateReader(std::vector<PositionToken> tokens) : m_tokens(std::move(tokens)) {}
 
     bool atEnd() const { return m_next == m_tokens.size(); }
-    bool skip(Kind kind)
+    bool skip(TokenKind kind)
     {
         if (!is(kind)) return false;
         ++m_next;
@@ -27,20 +27,21 @@ public:
     {
         Coordinate c;
         takePrefix(c);
-        if (is(Kind::Dash) || is(Kind::Plus)) {
+        if (is(TokenKind::Dash) || is(TokenKind::Plus)) {
             c.sign = true;
-            c.negative = is(Kind::Dash);
+            c.negative = is(TokenKind::Dash);
             ++m_next;
         }
-        if (!is(Kind::Number)) return std::nullopt;
+        if (!is(TokenKind::Number)) return std::nullopt;
         c.numbers.push_back(m_tokens[m_next++]);
         if (isOwnForm(c)) {
             takeOwnForm(c);
         } else {
-            c.degreeSign = skip(Kind::Degree);
+            c.degreeSign = skip(TokenKind::Degree);
             if (c.numbers[0].decimals.empty()) takeMinutes(c);
         }
-        if (is(Kind::Minute) || is(Kind::Second)) return std::nullopt; // belongs to no number
+        if (is(TokenKind::Minute) || is(TokenKind::Second))
+            return std::nullopt; // belongs to no number
         takeSuffix(c);
         if (c.letter && (c.sign || (c.word && axisOfLetter(c.word) != axisOfLetter(c.letter))))
             return std::nullopt;
@@ -48,21 +49,21 @@ public:
     }
 
 private:
-    bool is(Kind kind, std::size_t ahead = 0) const
+    bool is(TokenKind kind, std::size_t ahead = 0) const
     {
         return m_next + ahead < m_tokens.size() && m_tokens[m_next + ahead].kind == kind;
     }
 
     void takePrefix(Coordinate& c)
     {
-        if (is(Kind::AxisWord)) {
+        if (is(TokenKind::AxisWord)) {
             c.word = m_tokens[m_next++].letter;
-            while (is(Kind::Colon) || is(Kind::Separator))
+            while (is(TokenKind::Colon) || is(TokenKind::Separator))
                 ++m_next;
         }
-        if (is(Kind::Hemisphere)) {
+        if (is(TokenKind::Hemisphere)) {
             c.letter = m_tokens[m_next++].letter;
-            skip(Kind::Colon);
+            skip(TokenKind::Colon);
         }
     }
 
@@ -70,16 +71,17 @@ private:
     bool isOwnForm(const Coordinate& c) const
     {
         const auto fractionAt = [&](std::size_t ahead) {
-            return is(Kind::Number, ahead) && m_tokens[m_next + ahead].attached &&
+            return is(TokenKind::Number, ahead) && m_tokens[m_next + ahead].attached &&
                    m_tokens[m_next + ahead].decimals.empty();
         };
-        if (is(Kind::OwnDegree)) return is(Kind::Number, 1) && is(Kind::Minute, 2) && fractionAt(3);
-        return c.numbers[0].decimals.size() == 2 && is(Kind::Minute) && fractionAt(1);
+        if (is(TokenKind::OwnDegree))
+            return is(TokenKind::Number, 1) && is(TokenKind::Minute, 2) && fractionAt(3);
+        return c.numbers[0].decimals.size() == 2 && is(TokenKind::Minute) && fractionAt(1);
     }
 
     void takeOwnForm(Coordinate& c)
     {
-        if (skip(Kind::OwnDegree)) {
+        if (skip(TokenKind::OwnDegree)) {
             c.numbers.push_back(m_tokens[m_next++]);
         } else {
             PositionToken minutes = c.numbers[0];
@@ -93,37 +95,37 @@ private:
 
     void takeMinutes(Coordinate& c)
     {
-        const bool dash = is(Kind::Dash) && is(Kind::Number, 1);
-        c.colon = !c.degreeSign && is(Kind::Colon) && is(Kind::Number, 1);
+        const bool dash = is(TokenKind::Dash) && is(TokenKind::Number, 1);
+        c.colon = !c.degreeSign && is(TokenKind::Colon) && is(TokenKind::Number, 1);
         if (dash || c.colon) ++m_next;
         if (!startsPart()) return;
         c.onlyBlanks = !c.degreeSign && !dash && !c.colon;
         c.numbers.push_back(m_tokens[m_next++]);
-        const bool minuteSign = takeUnit(Kind::Minute, c.numbers.back());
+        const bool minuteSign = takeUnit(TokenKind::Minute, c.numbers.back());
         c.onlyBlanks = c.onlyBlanks && !minuteSign;
         if (!c.numbers.back().decimals.empty()) return;
 
         // Seconds follow as the minutes did; 35-30 139-45 are two coordinates.
         if (!minuteSign && (dash || c.colon)) {
-            if (!is(dash ? Kind::Dash : Kind::Colon) || !is(Kind::Number, 1)) return;
+            if (!is(dash ? TokenKind::Dash : TokenKind::Colon) || !is(TokenKind::Number, 1)) return;
             ++m_next;
         }
         if (!startsPart()) return;
         c.numbers.push_back(m_tokens[m_next++]);
-        takeUnit(Kind::Second, c.numbers.back());
+        takeUnit(TokenKind::Second, c.numbers.back());
     }
 
     /// A number that is not the degrees of the next coordinate.
     bool startsPart() const
     {
-        return is(Kind::Number) && !is(Kind::Degree, 1) && !is(Kind::OwnDegree, 1);
+        return is(TokenKind::Number) && !is(TokenKind::Degree, 1) && !is(TokenKind::OwnDegree, 1);
     }
 
     /// The unit of a number; 30'.5 means 30.5'.
-    bool takeUnit(Kind unit, PositionToken& number)
+    bool takeUnit(TokenKind unit, PositionToken& number)
     {
         if (!skip(unit)) return false;
-        if (number.decimals.empty() && is(Kind::Number) && m_tokens[m_next].attached &&
+        if (number.decimals.empty() && is(TokenKind::Number) && m_tokens[m_next].attached &&
             m_tokens[m_next].digits.empty())
             number.decimals = m_tokens[m_next++].decimals;
         return true;
@@ -133,10 +135,10 @@ private:
     {
         if (c.letter) return;
         // Instruments' sentences set the letter apart: 3530.5,N,13945.2,E
-        const bool apart = is(Kind::Separator) && is(Kind::Hemisphere, 1) &&
-                           (is(Kind::Separator, 2) || m_next + 2 == m_tokens.size());
+        const bool apart = is(TokenKind::Separator) && is(TokenKind::Hemisphere, 1) &&
+                           (is(TokenKind::Separator, 2) || m_next + 2 == m_tokens.size());
         if (apart) ++m_next;
-        if (!is(Kind::Hemisphere)) return;
+        if (!is(TokenKind::Hemisphere)) return;
         c.letter = m_tokens[m_next++].letter;
         c.suffix = true;
     }
@@ -156,19 +158,19 @@ std::optional<std::vector<Coordinate>> readCoordinates(std::string_view text)
 {
     auto tokens = positionTokens(text);
     if (!tokens) return std::nullopt;
-    while (!tokens->empty() && tokens->back().kind == Kind::Separator)
+    while (!tokens->empty() && tokens->back().kind == TokenKind::Separator)
         tokens->pop_back();
     CoordinateReader reader(std::move(*tokens));
     std::vector<Coordinate> found;
-    while (reader.skip(Kind::Separator)) {
+    while (reader.skip(TokenKind::Separator)) {
     }
     while (!reader.atEnd()) {
         const auto coordinate = reader.coordinate();
         if (!coordinate || found.size() == 2) return std::nullopt;
         found.push_back(*coordinate);
-        while (reader.skip(Kind::Separator)) {
+        while (reader.skip(TokenKind::Separator)) {
         }
-        if (coordinate->suffix) reader.skip(Kind::Dash); // 35-30.5N - 139-45.2E
+        if (coordinate->suffix) reader.skip(TokenKind::Dash); // 35-30.5N - 139-45.2E
     }
     if (found.empty()) return std::nullopt;
     return found;

@@ -22,7 +22,7 @@ int wholeOf(std::string_view digits)
     return value;
 }
 
-double valueOf(const PositionToken& number)
+double valueOfToken(const PositionToken& number)
 {
     return readNumber((number.digits.empty() ? "0" : number.digits) + "." + number.decimals + "0");
 }
@@ -109,7 +109,7 @@ std::optional<std::string> packed(const Coordinate& c, Axis axis, bool plainIsDe
     if (numbers.size() == 3) {
         const int decimals = static_cast<int>(numbers[2].decimals.size());
         text = packedOf(wholeOf(numbers[0].digits),
-                        wholeOf(numbers[1].digits) + valueOf(numbers[2]) / 60,
+                        wholeOf(numbers[1].digits) + valueOfToken(numbers[2]) / 60,
                         std::min(decimals + 3, 9));
     } else if (numbers.size() == 2) {
         // The digits themselves, so that the box holds what the instrument gave.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/position_tokens.h"
 
+#include "app/ascii.h"
 #include "app/reading.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace korvel
 namespace
 {
 
-using Kind = PositionToken::Kind;
+using TokenKind = PositionToken::Kind;
 
 constexpr std::size_t longestText = 400;
 constexpr std::size_t mostTokens = 40;
@@ -18,111 +19,101 @@ constexpr std::size_t mostDigits = 15; // what a double can tell apart
 
 struct Sign {
     std::string_view text;
-    Kind kind;
+    TokenKind kind;
     char letter = 0;
 };
 
 // The first that fits is taken: longer signs stand before their beginnings.
 constexpr Sign signs[] = {
-    {".-", Kind::OwnDegree},
-    {"''", Kind::Second},
-    {"′′", Kind::Second},
-    {"’’", Kind::Second},
-    {"-", Kind::Dash},
-    {"–", Kind::Dash},
-    {"—", Kind::Dash},
-    {"‐", Kind::Dash},
-    {"‑", Kind::Dash},
-    {"ー", Kind::Dash},
-    {"ｰ", Kind::Dash},
-    {"+", Kind::Plus},
-    {"°", Kind::Degree},
-    {"º", Kind::Degree},
-    {"˚", Kind::Degree},
-    {"⁰", Kind::Degree},
-    {"ﾟ", Kind::Degree},
-    {"゜", Kind::Degree},
-    {"*", Kind::Degree},
-    {"度", Kind::Degree},
-    {"'", Kind::Minute},
-    {"′", Kind::Minute},
-    {"’", Kind::Minute},
-    {"‘", Kind::Minute},
-    {"´", Kind::Minute},
-    {"`", Kind::Minute},
-    {"ʹ", Kind::Minute},
-    {"ʼ", Kind::Minute},
-    {"分", Kind::Minute},
-    {"\"", Kind::Second},
-    {"″", Kind::Second},
-    {"”", Kind::Second},
-    {"“", Kind::Second},
-    {"ʺ", Kind::Second},
-    {"〃", Kind::Second},
-    {"秒", Kind::Second},
-    {":", Kind::Colon},
-    {"=", Kind::Colon},
-    {",", Kind::Separator},
-    {";", Kind::Separator},
-    {"/", Kind::Separator},
-    {"|", Kind::Separator},
-    {"\n", Kind::Separator},
-    {"\r", Kind::Separator},
-    {"\t", Kind::Separator},
-    {"、", Kind::Separator},
-    {"北緯", Kind::Hemisphere, 'N'},
-    {"南緯", Kind::Hemisphere, 'S'},
-    {"東経", Kind::Hemisphere, 'E'},
-    {"西経", Kind::Hemisphere, 'W'},
-    {"緯度", Kind::AxisWord, 'N'},
-    {"経度", Kind::AxisWord, 'E'},
+    {".-", TokenKind::OwnDegree},
+    {"''", TokenKind::Second},
+    {"′′", TokenKind::Second},
+    {"’’", TokenKind::Second},
+    {"-", TokenKind::Dash},
+    {"–", TokenKind::Dash},
+    {"—", TokenKind::Dash},
+    {"‐", TokenKind::Dash},
+    {"‑", TokenKind::Dash},
+    {"ー", TokenKind::Dash},
+    {"ｰ", TokenKind::Dash},
+    {"+", TokenKind::Plus},
+    {"°", TokenKind::Degree},
+    {"º", TokenKind::Degree},
+    {"˚", TokenKind::Degree},
+    {"⁰", TokenKind::Degree},
+    {"ﾟ", TokenKind::Degree},
+    {"゜", TokenKind::Degree},
+    {"*", TokenKind::Degree},
+    {"度", TokenKind::Degree},
+    {"'", TokenKind::Minute},
+    {"′", TokenKind::Minute},
+    {"’", TokenKind::Minute},
+    {"‘", TokenKind::Minute},
+    {"´", TokenKind::Minute},
+    {"`", TokenKind::Minute},
+    {"ʹ", TokenKind::Minute},
+    {"ʼ", TokenKind::Minute},
+    {"分", TokenKind::Minute},
+    {"\"", TokenKind::Second},
+    {"″", TokenKind::Second},
+    {"”", TokenKind::Second},
+    {"“", TokenKind::Second},
+    {"ʺ", TokenKind::Second},
+    {"〃", TokenKind::Second},
+    {"秒", TokenKind::Second},
+    {":", TokenKind::Colon},
+    {"=", TokenKind::Colon},
+    {",", TokenKind::Separator},
+    {";", TokenKind::Separator},
+    {"/", TokenKind::Separator},
+    {"|", TokenKind::Separator},
+    {"\n", TokenKind::Separator},
+    {"\r", TokenKind::Separator},
+    {"\t", TokenKind::Separator},
+    {"、", TokenKind::Separator},
+    {"北緯", TokenKind::Hemisphere, 'N'},
+    {"南緯", TokenKind::Hemisphere, 'S'},
+    {"東経", TokenKind::Hemisphere, 'E'},
+    {"西経", TokenKind::Hemisphere, 'W'},
+    {"緯度", TokenKind::AxisWord, 'N'},
+    {"経度", TokenKind::AxisWord, 'E'},
 };
 
-constexpr std::string_view blanks[] = {" ",      "(",      ")",      "[",      "]",
-                                       "\u00A0", "\u2009", "\u202F", "\u200B", "\uFEFF"};
+constexpr std::string_view blankSigns[] = {" ",      "(",      ")",      "[",      "]",
+                                           "\u00A0", "\u2009", "\u202F", "\u200B", "\uFEFF"};
 
 // Longest first: a run of letters such as "degN" or "mN" is taken apart from the left.
 constexpr Sign words[] = {
-    {"longitude", Kind::AxisWord, 'E'},
-    {"latitude", Kind::AxisWord, 'N'},
-    {"degrees", Kind::Degree},
-    {"minutes", Kind::Minute},
-    {"seconds", Kind::Second},
-    {"degree", Kind::Degree},
-    {"minute", Kind::Minute},
-    {"second", Kind::Second},
-    {"north", Kind::Hemisphere, 'N'},
-    {"south", Kind::Hemisphere, 'S'},
-    {"east", Kind::Hemisphere, 'E'},
-    {"west", Kind::Hemisphere, 'W'},
-    {"long", Kind::AxisWord, 'E'},
-    {"lat", Kind::AxisWord, 'N'},
-    {"lon", Kind::AxisWord, 'E'},
-    {"lng", Kind::AxisWord, 'E'},
-    {"deg", Kind::Degree},
-    {"min", Kind::Minute},
-    {"sec", Kind::Second},
-    {"d", Kind::Degree},
-    {"m", Kind::Minute},
-    {"n", Kind::Hemisphere, 'N'},
-    {"s", Kind::Hemisphere, 'S'},
-    {"e", Kind::Hemisphere, 'E'},
-    {"w", Kind::Hemisphere, 'W'},
+    {"longitude", TokenKind::AxisWord, 'E'},
+    {"latitude", TokenKind::AxisWord, 'N'},
+    {"degrees", TokenKind::Degree},
+    {"minutes", TokenKind::Minute},
+    {"seconds", TokenKind::Second},
+    {"degree", TokenKind::Degree},
+    {"minute", TokenKind::Minute},
+    {"second", TokenKind::Second},
+    {"north", TokenKind::Hemisphere, 'N'},
+    {"south", TokenKind::Hemisphere, 'S'},
+    {"east", TokenKind::Hemisphere, 'E'},
+    {"west", TokenKind::Hemisphere, 'W'},
+    {"long", TokenKind::AxisWord, 'E'},
+    {"lat", TokenKind::AxisWord, 'N'},
+    {"lon", TokenKind::AxisWord, 'E'},
+    {"lng", TokenKind::AxisWord, 'E'},
+    {"deg", TokenKind::Degree},
+    {"min", TokenKind::Minute},
+    {"sec", TokenKind::Second},
+    {"d", TokenKind::Degree},
+    {"m", TokenKind::Minute},
+    {"n", TokenKind::Hemisphere, 'N'},
+    {"s", TokenKind::Hemisphere, 'S'},
+    {"e", TokenKind::Hemisphere, 'E'},
+    {"w", TokenKind::Hemisphere, 'W'},
 };
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 bool isLetter(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
-
-char lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
 class Lexer
@@ -150,14 +141,14 @@ public:
 private:
     bool takeBlank()
     {
-        const auto* blank = std::find_if(std::begin(blanks), std::end(blanks),
+        const auto* blank = std::find_if(std::begin(blankSigns), std::end(blankSigns),
                                          [&](auto text) { return m_rest.starts_with(text); });
-        if (blank == std::end(blanks)) return false;
+        if (blank == std::end(blankSigns)) return false;
         m_rest.remove_prefix(blank->size());
         return m_blankBefore = true;
     }
 
-    PositionToken& add(Kind kind)
+    PositionToken& add(TokenKind kind)
     {
         m_tokens.push_back({.kind = kind, .digits = {}, .decimals = {}});
         m_tokens.back().attached = !m_blankBefore && m_tokens.size() > 1;
@@ -181,7 +172,7 @@ private:
 
     bool takeNumber()
     {
-        PositionToken& number = add(Kind::Number);
+        PositionToken& number = add(TokenKind::Number);
         number.digits = takeDigits();
         if (m_rest.size() > 1 && isDigit(m_rest[1]) && (m_rest[0] == '.' || isDecimalComma())) {
             m_rest.remove_prefix(1);
@@ -205,16 +196,16 @@ private:
         if (after.empty() || isLetter(after.front())) return m_anyLetter;
         return std::any_of(std::begin(signs), std::end(signs), [&](const Sign& sign) {
             return after.starts_with(sign.text) &&
-                   (sign.kind == Kind::Degree || sign.kind == Kind::Minute ||
-                    sign.kind == Kind::Second);
+                   (sign.kind == TokenKind::Degree || sign.kind == TokenKind::Minute ||
+                    sign.kind == TokenKind::Second);
         });
     }
 
     bool takeSign()
     {
         if (m_rest.starts_with("-.") && !m_tokens.empty() && !m_blankBefore &&
-            m_tokens.back().kind == Kind::Number) {
-            add(Kind::OwnDegree);
+            m_tokens.back().kind == TokenKind::Number) {
+            add(TokenKind::OwnDegree);
             m_rest.remove_prefix(2);
             return true;
         }
@@ -258,12 +249,12 @@ private:
     /// South, or seconds in 35d30m30s. What could be either is refused: it decides a hemisphere.
     bool takeLetterS(bool last)
     {
-        const bool secondsDue = m_tokens.size() > 1 && m_tokens.back().kind == Kind::Number &&
-                                m_tokens[m_tokens.size() - 2].kind == Kind::Minute &&
+        const bool secondsDue = m_tokens.size() > 1 && m_tokens.back().kind == TokenKind::Number &&
+                                m_tokens[m_tokens.size() - 2].kind == TokenKind::Minute &&
                                 m_tokens[m_tokens.size() - 2].spelled;
-        if (!secondsDue) return takeWord({"s", Kind::Hemisphere, 'S'});
+        if (!secondsDue) return takeWord({"s", TokenKind::Hemisphere, 'S'});
         if (last && m_rest.front() == 'S') return false;
-        return takeWord({"s", Kind::Second});
+        return takeWord({"s", TokenKind::Second});
     }
 
     std::string_view m_rest;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading.h"
 
+#include "app/ascii.h"
 #include "navlib/datetime.h"
 
 #include <charconv>
@@ -18,11 +19,6 @@ constexpr int firstYear = 1900; // before it dates and their times of day run in
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
 }
 
 void skipBlanks(std::string_view& text)
@@ -73,7 +69,7 @@ std::optional<Leading> leadingNumber(std::string_view text)
     return Leading{negative ? -value : value, before - text.size() + end};
 }
 
-std::optional<int> wholeNumber(std::string_view& text, std::size_t fewest, std::size_t most)
+std::optional<int> digitsOfNumber(std::string_view& text, std::size_t fewest, std::size_t most)
 {
     std::size_t length = 0;
     while (length < text.size() && isDigit(text[length]))
@@ -96,11 +92,11 @@ std::optional<double> readDate(std::string_view text)
 {
     const std::size_t yearDigits = text.find('/');
     if (yearDigits != 2 && yearDigits != 4) return std::nullopt;
-    const auto year = wholeNumber(text, 2, 4);
+    const auto year = digitsOfNumber(text, 2, 4);
     if (!year || !take(text, '/')) return std::nullopt;
-    const auto month = wholeNumber(text, 1, 2);
+    const auto month = digitsOfNumber(text, 1, 2);
     if (!month || !take(text, '/')) return std::nullopt;
-    const auto day = wholeNumber(text, 1, 2);
+    const auto day = digitsOfNumber(text, 1, 2);
     if (!day || !text.empty()) return std::nullopt;
     const CivilDate date{yearDigits == 2 ? 2000 + *year : *year, *month, *day};
     if (date.year < firstYear || !NavFunc113::IsCivilDate(date)) return std::nullopt;
@@ -109,12 +105,12 @@ std::optional<double> readDate(std::string_view text)
 
 std::optional<double> readTimeOfDay(std::string_view text)
 {
-    const auto hour = wholeNumber(text, 1, 2);
+    const auto hour = digitsOfNumber(text, 1, 2);
     if (!hour || !take(text, ':')) return std::nullopt;
-    const auto minute = wholeNumber(text, 1, 2);
+    const auto minute = digitsOfNumber(text, 1, 2);
     if (!minute) return std::nullopt;
     std::optional<int> second = 0;
-    if (take(text, ':')) second = wholeNumber(text, 1, 2);
+    if (take(text, ':')) second = digitsOfNumber(text, 1, 2);
     if (!second || !text.empty()) return std::nullopt;
     if (*hour > 23 || *minute > 59 || *second > 59) return std::nullopt;
     return (*hour * 3600 + *minute * 60 + *second) / 86400.0;

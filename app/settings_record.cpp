@@ -41,7 +41,7 @@ struct ItemWriter {
 };
 
 /// The item as the value that it looks like.
-std::optional<Value> valueOf(const DelimitedText::Item& item)
+std::optional<Value> valueOfItem(const DelimitedText::Item& item)
 {
     if (item.quoted) return std::string(item.text);
     if (item.text.empty()) return Value();
@@ -111,7 +111,7 @@ std::string flawOf(const DelimitedText::Item& item)
 /// @return nothing when the item is no value of the kind
 std::optional<Value> valueOfKind(const DelimitedText::Item& item, Kind kind)
 {
-    auto value = valueOf(item);
+    auto value = valueOfItem(item);
     if (!value) return std::nullopt;
     if (fits(*value, kind) || std::holds_alternative<std::monostate>(*value)) return value;
     // A number that stands where a text is due is what somebody typed without quotes.

@@ -76,7 +76,7 @@ std::string timeRemark(const std::string& typed)
     return quotation(typed) + " is no time, write " + (meant ? Format(*meant, "hh:mm") : "hh:mm");
 }
 
-std::string remarkOn(std::string typed, Due due)
+std::string remarkOnTyped(std::string typed, Due due)
 {
     typed.erase(0, typed.find_first_not_of(" \t\r\n"));
     typed.erase(typed.find_last_not_of(" \t\r\n") + 1);
@@ -96,7 +96,7 @@ TypedTime readTypedTime(std::string_view text, Due due)
     const bool date = typed.find('/') != std::string::npos;
     const bool time = typed.find(':') != std::string::npos;
     const bool serves = due == Due::Date ? date : due == Due::TimeOfDay ? time : date && time;
-    if (!value || !serves) return {std::nullopt, remarkOn(typed, due)};
+    if (!value || !serves) return {std::nullopt, remarkOnTyped(typed, due)};
     if (due == Due::Date) return {std::floor(*value), {}};
     if (due == Due::TimeOfDay) return {*value - std::floor(*value), {}};
     return {value, {}};

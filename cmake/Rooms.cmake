@@ -44,3 +44,9 @@ function(use_headers target name)
     target_precompile_headers(${target} REUSE_FROM ${name})
   endif()
 endfunction()
+
+# The files of a room are compiled some at once: they read the same headers. What is unnamed in one
+# file must not be named alike in another file of its room. KORVEL_UNITY=OFF compiles each alone.
+option(KORVEL_UNITY "Compile the files of a room several at once" ON)
+set(CMAKE_UNITY_BUILD ${KORVEL_UNITY})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)

@@ -11,8 +11,6 @@ namespace NavFunc113
 namespace
 {
 
-using Condition = ArithmeticError::Condition;
-
 struct Node {
     double lat; // degrees
     double factor;
@@ -55,7 +53,7 @@ double factorAt(Degrees lat, const std::array<Node, n>& table)
     double sum = 0;
     for (std::size_t j = 0; j < n; ++j)
         sum += table[j].factor * weights[j];
-    if (!std::isfinite(sum)) throw ArithmeticError(Condition::Overflow);
+    if (!std::isfinite(sum)) throw ArithmeticError(ArithmeticError::Condition::Overflow);
     return sum;
 }
 
@@ -122,7 +120,8 @@ Miles distanceBetween(const Place& from, const Place& to, DegMin lat1, Earth ear
     }
     const Degrees angle = course();
     // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
-    if (angle == dueEast || angle == dueWest) throw ArithmeticError(Condition::DivisionByZero);
+    if (angle == dueEast || angle == dueWest)
+        throw ArithmeticError(ArithmeticError::Condition::DivisionByZero);
     return MilesOfArc(fabs(Quotient(change, cos(angle))));
 }
 
@@ -206,7 +205,8 @@ DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Ea
     Degrees change;
     if (course == dueEast || course == dueWest) {
         // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
-        if (fabs(phi1) == quarterTurn) throw ArithmeticError(Condition::DivisionByZero);
+        if (fabs(phi1) == quarterTurn)
+            throw ArithmeticError(ArithmeticError::Condition::DivisionByZero);
         const Miles run = course == dueEast ? distance : -distance;
         change = ArcOfMiles(Quotient(run, cos(phi1)));
         if (earth == Earth::Spheroid)

@@ -11,8 +11,6 @@ namespace NavFunc113
 namespace
 {
 
-using Condition = ArithmeticError::Condition;
-
 // The last repeats the first, so that the sector across north needs no case of its own.
 constexpr std::array<const char*, 17> compassNames{"North", "NNE", "NE",    "ENE", "East", "ESE",
                                                    "SE",    "SSE", "South", "SSW", "SW",   "WSW",
@@ -42,7 +40,7 @@ Knots TrueWindSpeed(Knots shipSpeed, Degrees relativeDirection, Knots apparentSp
     const double ship = shipSpeed.value() + 1e-5; // a stopped ship still has a direction
     const double speed = SquareRoot(std::pow(apparent, 2.0) + std::pow(ship, 2.0) -
                                     2 * apparent * ship * cos(relativeDirection));
-    if (!std::isfinite(speed)) throw ArithmeticError(Condition::Overflow);
+    if (!std::isfinite(speed)) throw ArithmeticError(ArithmeticError::Condition::Overflow);
     return Knots(speed);
 }
 
@@ -55,9 +53,10 @@ std::string TrueWindName(Degrees course, Knots shipSpeed, Degrees relativeDirect
 
 std::string CompassName(Degrees& direction)
 {
-    if (std::isnan(direction.value())) throw ArithmeticError(Condition::InvalidArgument);
+    if (std::isnan(direction.value()))
+        throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
     const double whole = std::nearbyint(direction.value());
-    if (std::fabs(whole) > 2147483647) throw ArithmeticError(Condition::Overflow);
+    if (std::fabs(whole) > 2147483647) throw ArithmeticError(ArithmeticError::Condition::Overflow);
     direction = Degrees(std::fmod(whole, 360));
     const int sector = static_cast<int>(std::floor((direction.value() + 33.75) / 22.5));
     return PickItem<const char*>(sector, compassNames);
@@ -65,7 +64,8 @@ std::string CompassName(Degrees& direction)
 
 int BeaufortNumber(Knots speed)
 {
-    if (std::isnan(speed.value())) throw ArithmeticError(Condition::InvalidArgument);
+    if (std::isnan(speed.value()))
+        throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
     int number = 9;
     while (number > 0 && speed.value() < beaufortLowerBounds[static_cast<std::size_t>(number)])
         --number;

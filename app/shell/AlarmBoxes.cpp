@@ -30,7 +30,7 @@ AlarmBoxes::~AlarmBoxes()
     delete m_box;
 }
 
-void AlarmBoxes::show(const std::vector<Due>& due)
+void AlarmBoxes::show(const std::vector<DueAlarm>& due)
 {
     m_waiting.insert(m_waiting.end(), due.begin(), due.end());
     if (!m_box) showNext();

@@ -31,7 +31,7 @@ public:
     explicit AlarmBoxes(Bell& bell);
     ~AlarmBoxes() override;
 
-    void show(const std::vector<Due>& due);
+    void show(const std::vector<DueAlarm>& due);
 
     /// Also takes keys that a window manager, which gives new windows the keyboard, sends to the
     /// box in its first second.
@@ -44,8 +44,8 @@ private:
     bool passOn(const QKeyEvent& key);
 
     Bell& m_bell;
-    std::deque<Due> m_waiting;
-    Due m_shown{};
+    std::deque<DueAlarm> m_waiting;
+    DueAlarm m_shown{};
     QPointer<QMessageBox> m_box;
     QTimer m_firstSecond;
     QPointer<QWidget> m_acknowledged; ///< on its way out, but it may be the active window still

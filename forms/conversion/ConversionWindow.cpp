@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/ConversionWindow.h"
+#include "app/shell/asQString.h"
 
 #include "forms/conversion/CalculateConversion.h"
 #include "navlib/arithmetic_error.h"
@@ -17,16 +18,13 @@ namespace
 
 using NavFunc113::Quantity;
 
-QString text(std::string_view utf8)
-{
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 /// A menu caption with a mnemonic of its own, 1 to 9 and A to Z, whatever the unit is called.
 QString numbered(std::size_t index, const NavFunc113::Unit& unit)
 {
     constexpr std::string_view marks = "123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
-    return QString("&%1  %2 (%3)").arg(marks.at(index)).arg(text(unit.caption), text(unit.symbol));
+    return QString("&%1  %2 (%3)")
+        .arg(marks.at(index))
+        .arg(asQString(unit.caption), asQString(unit.symbol));
 }
 
 } // namespace
@@ -50,7 +48,7 @@ void ConversionWindow::addBoxes(const char* name)
         const std::size_t index = m_boxes.size();
         auto* box = new KeyUpBox(body());
         box->setObjectName(memberName(name, static_cast<int>(index)));
-        box->setAccessibleName(text(unit.caption) + ", " + text(unit.symbol));
+        box->setAccessibleName(asQString(unit.caption) + ", " + asQString(unit.symbol));
         box->setToolTip(QString::fromStdString(unitToolTip(m_quantity, index)));
         box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));
         m_boxes.push_back(box);
@@ -77,8 +75,8 @@ void ConversionWindow::layOut()
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         const int row = static_cast<int>(i);
-        auto* caption = new QLabel(text(units[i].caption));
-        auto* symbol = new QLabel(text(units[i].symbol));
+        auto* caption = new QLabel(asQString(units[i].caption));
+        auto* symbol = new QLabel(asQString(units[i].symbol));
         caption->setBuddy(m_boxes[i]);
         caption->setToolTip(m_boxes[i]->toolTip());
         symbol->setToolTip(m_boxes[i]->toolTip());

@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "app/shell/FollowingScrollArea.h"
+#include "app/shell/asQString.h"
 #include "app/shell/widget_colours.h"
 
 #include <QGridLayout>
@@ -82,11 +83,6 @@ constexpr std::array<Event, 6> events = {{
     {Results + 10, &RiseSetResult::moonSetTime},
 }};
 
-QString text(const std::string& value)
-{
-    return QString::fromStdString(value);
-}
-
 } // namespace
 
 frmSunMoon::frmSunMoon(Program& program)
@@ -110,7 +106,7 @@ frmSunMoon::frmSunMoon(Program& program)
                 if (!calculations().isHeld()) runRows(row, row + 1);
             });
     record().useTexts("KV_SunMoon.ini", m_table->boxes());
-    m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
+    m_txtSunMoon->setText(asQString(Format(today(), "yyyy/m/d")));
     calculations().add({"Rise and set", {m_txtSunMoon}, {}, [this] { runRows(0, rows); }, true});
     loadSettings();
     m_txtSunMoon->setFocus();
@@ -131,7 +127,7 @@ void frmSunMoon::addControls()
     m_scrMoonSun->setInvertedControls(false); // the right arrow key is the next day
     m_scrMoonSun->setFocusPolicy(Qt::StrongFocus);
     connect(m_scrMoonSun, &QScrollBar::valueChanged, this,
-            [this](int value) { m_txtSunMoon->setText(text(scrolledDate(today(), value))); });
+            [this](int value) { m_txtSunMoon->setText(asQString(scrolledDate(today(), value))); });
     m_table = new RowTable(tableColumns, rows);
     m_txtSunMoon->setNext(m_table->box(0, Place));
     for (std::size_t row = 0; row < rows; ++row)
@@ -235,14 +231,14 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
 void frmSunMoon::showRow(std::size_t row)
 {
     const RiseSetResult& result = m_results[row];
-    if (result.moonAge) m_lblMoonAge->setText(text(*result.moonAge));
+    if (result.moonAge) m_lblMoonAge->setText(asQString(*result.moonAge));
     for (const auto& [column, event] : events) {
         const RiseSetLabel& shown = result.*event;
-        m_table->result(row, column)->setText(text(shown.text));
-        m_table->result(row, column + 1)->setText(text(shown.refined));
-        m_table->result(row, column)->setToolTip(text(shown.tip));
+        m_table->result(row, column)->setText(asQString(shown.text));
+        m_table->result(row, column + 1)->setText(asQString(shown.refined));
+        m_table->result(row, column)->setToolTip(asQString(shown.tip));
         m_table->result(row, column + 1)
-            ->setToolTip(shown.refined.empty() ? QString() : text(shown.tip));
+            ->setToolTip(shown.refined.empty() ? QString() : asQString(shown.tip));
     }
     showDoubts(row);
 }
@@ -262,7 +258,7 @@ void frmSunMoon::showNotices()
 {
     QStringList all;
     for (const RiseSetResult& result : m_results)
-        if (!result.notice.empty()) all << text(result.notice);
+        if (!result.notice.empty()) all << asQString(result.notice);
     all.removeDuplicates(); // what the date alone causes is the same in every row
     setNotice("rows", all.join(".  "));
 }
@@ -297,8 +293,8 @@ void frmSunMoon::leaveDate()
 
 void frmSunMoon::cmdToday_Click()
 {
-    m_txtSunMoon->setText(text(Format(today(), "yyyy/m/d")));
-    m_table->box(0, TD)->setText(text(Format(program().saved().TD(), "0.##")));
+    m_txtSunMoon->setText(asQString(Format(today(), "yyyy/m/d")));
+    m_table->box(0, TD)->setText(asQString(Format(program().saved().TD(), "0.##")));
     m_table->box(0, Place)->setText("Today");
     m_table->position(0, Latitude)->setFocus(Qt::TabFocusReason);
     leaveDate();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightPicture.h"
+#include "app/shell/asQString.h"
 
 #include <QPainterPath>
 
@@ -10,12 +11,7 @@ namespace korvel
 namespace
 {
 
-constexpr double half = SightPlot::half;
-
-QString text(const std::string& value)
-{
-    return QString::fromStdString(value);
-}
+constexpr double halfWidth = SightPlot::half;
 
 } // namespace
 
@@ -28,7 +24,7 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
     setFont(small);
     const int side = fontMetrics().height() * 13;
     setMinimumSize(side * 3 / 2, side);
-    setUserScale({-half, half, half, -half});
+    setUserScale({-halfWidth, halfWidth, halfWidth, -halfWidth});
 }
 
 void SightPicture::showPlot(const SightPlot& plot)
@@ -118,7 +114,7 @@ void SightPicture::paintGrid(QPainter& painter) const
         const QPointF from = pixel(line.from), to = pixel(line.to);
         painter.drawLine(from, to);
         painter.setPen(m_colours.ink);
-        const QString label = text(line.label);
+        const QString label = asQString(line.label);
         const double width = metrics.horizontalAdvance(label);
         if (line.from.x != line.to.x) {
             painter.drawText(
@@ -144,7 +140,7 @@ void SightPicture::paintScale(QPainter& painter) const
     painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
     painter.drawText(foot + QPointF(-unit(), 3 * unit()), "N");
 
-    const QPointF end = pixel({half, -half}) + QPointF(-2 * unit(), -2 * unit());
+    const QPointF end = pixel({halfWidth, -halfWidth}) + QPointF(-2 * unit(), -2 * unit());
     const QPointF start = end - QPointF(pixel({10, 0}).x() - pixel({0, 0}).x(), 0);
     painter.setPen(pen(m_colours.ink, 1.5));
     painter.drawLine(start, end);
@@ -169,7 +165,7 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
     painter.setPen(pen(m_colours.route, 2.5));
     for (const std::vector<PlotPoint>& run : line.runs)
         painter.drawPolyline(polygon(run));
-    paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), text(line.label));
+    paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), asQString(line.label));
 }
 
 void SightPicture::paintDR(QPainter& painter) const
@@ -179,7 +175,7 @@ void SightPicture::paintDR(QPainter& painter) const
     const double arm = 2 * unit();
     painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
     painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
-    paintText(painter, middle + QPointF(1.5 * unit(), 4.5 * unit()), text(m_plot.DRLabel));
+    paintText(painter, middle + QPointF(1.5 * unit(), 4.5 * unit()), asQString(m_plot.DRLabel));
 }
 
 void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
@@ -193,7 +189,8 @@ void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithou
         painter.drawRect(QRectF(at - QPointF(arm, arm), at + QPointF(arm, arm)));
     else
         painter.drawEllipse(at, 1.5 * unit(), 1.5 * unit());
-    paintText(painter, at + QPointF(2.5 * unit(), (isWithout ? 3 : -2) * unit()), text(fix.label));
+    paintText(painter, at + QPointF(2.5 * unit(), (isWithout ? 3 : -2) * unit()),
+              asQString(fix.label));
 }
 
 } // namespace korvel

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/frmSunSight.h"
+#include "app/shell/asQString.h"
 
 #include "app/Format.h"
 #include "app/reading.h"
@@ -19,11 +20,6 @@ namespace korvel
 {
 namespace
 {
-
-QString text(const std::string& value)
-{
-    return QString::fromStdString(value);
-}
 
 } // namespace
 
@@ -179,7 +175,7 @@ void frmSunSight::runLine()
     const TrackTexts track = m_entry->track();
     m_line = CalculateLOP(sight, track, context());
     m_lines->showResults(m_line, CalculateMeridian(sight, track, context()));
-    setNotice("1 sight", text(m_line.notice));
+    setNotice("1 sight", asQString(m_line.notice));
 }
 
 void frmSunSight::runFix()
@@ -188,8 +184,8 @@ void frmSunSight::runFix()
     m_fix = CalculateFix(m_list, m_entry->track(), m_entry->options(), program().shipsTime().UTC());
     const std::string outside = m_fixes->showFix(m_fix);
     m_sights->showSights(m_list, m_fix);
-    setNotice("2 fix", text(m_fix.notice));
-    setNotice("3 plot", text(outside));
+    setNotice("2 fix", asQString(m_fix.notice));
+    setNotice("3 plot", asQString(outside));
 }
 
 void frmSunSight::cmdMark_Click()
@@ -297,7 +293,7 @@ void frmSunSight::followTD()
 {
     EntryBox* box = m_entry->box(SightField::TD);
     const bool follows = box->text() == m_shipsTD;
-    m_shipsTD = text(Format(program().saved().TD(), "0.##"));
+    m_shipsTD = asQString(Format(program().saved().TD(), "0.##"));
     if (follows) box->setText(m_shipsTD);
     if (!calculations().isHeld()) calculations().runAll();
 }
@@ -331,7 +327,7 @@ void frmSunSight::setEditing(std::optional<std::size_t> index)
 {
     m_editing = index;
     m_entry->setEditing(index.has_value());
-    setNotice("0 edit", index ? "The sight of " + text(listLine(m_list.sights()[*index])) +
+    setNotice("0 edit", index ? "The sight of " + asQString(listLine(m_list.sights()[*index])) +
                                     " is being edited: put it back, or start a new one."
                               : QString());
 }

@@ -11,16 +11,14 @@ namespace korvel
 namespace
 {
 
-using Status = FileStore::Content::Status;
-
 constexpr const char* fileBefore = "AF2005.txt.before";
 
 // Keeps the file that is replaced. What is no file stays where it is.
 std::optional<std::string> replace(FileStore& files, const std::string& bytes)
 {
     const FileStore::Content old = files.read(factorsFileName);
-    if (old.status == Status::Unreadable) return old.reason;
-    if (old.status == Status::Read) {
+    if (old.status == FileStore::Content::Status::Unreadable) return old.reason;
+    if (old.status == FileStore::Content::Status::Read) {
         if (auto fault = files.save(fileBefore, old.bytes)) return fault;
     }
     return files.save(factorsFileName, bytes);
@@ -55,14 +53,14 @@ ExtensionResult extendFactors(FileStore& files, int lastYear, const Progress& pr
 
 bool canUndoExtension(FileStore& files)
 {
-    return files.look(fileBefore).status == Status::Read;
+    return files.look(fileBefore).status == FileStore::Content::Status::Read;
 }
 
 ExtensionResult undoExtension(FileStore& files)
 {
     const FileStore::Content before = files.read(fileBefore);
     std::optional<std::string> fault;
-    if (before.status != Status::Read)
+    if (before.status != FileStore::Content::Status::Read)
         fault = "there is no " + std::string(fileBefore);
     else if (!(fault = files.save(factorsFileName, before.bytes)))
         fault = files.remove(fileBefore);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideReports.h"
+#include "app/shell/asQString.h"
 
 #include "forms/frmTIDE/StationCheck.h"
 #include "forms/frmTIDE/Stations.h"
@@ -14,18 +15,13 @@ namespace korvel
 namespace
 {
 
-QString text(const std::string& value)
-{
-    return QString::fromStdString(value);
-}
-
 std::vector<QStringList> rowsOf(const std::vector<WeekDay>& week)
 {
     std::vector<QStringList> rows;
     for (const WeekDay& day : week)
         for (bool isFirst = true; const WaterLine& water : day.waters) {
-            rows.push_back({isFirst ? text(day.date) : "", isFirst ? text(day.moon) : "",
-                            text(water.four), text(water.all)});
+            rows.push_back({isFirst ? asQString(day.date) : "", isFirst ? asQString(day.moon) : "",
+                            asQString(water.four), asQString(water.all)});
             isFirst = false;
         }
     return rows;
@@ -35,8 +31,8 @@ std::vector<QStringList> rowsOf(const StationCheck& check)
 {
     std::vector<QStringList> rows;
     for (const CheckedField& field : check.fields)
-        rows.push_back({QString::number(field.number), text(field.name), text(field.value),
-                        text(field.unit), text(field.verdict)});
+        rows.push_back({QString::number(field.number), asQString(field.name),
+                        asQString(field.value), asQString(field.unit), asQString(field.verdict)});
     return rows;
 }
 
@@ -55,7 +51,7 @@ void TideReports::say(const std::string& text) const
 void TideReports::printDay(const TideSubject& subject, frmTIDEPicture& picture) const
 {
     const frmTIDEPage page{
-        text(subject.place), text(TideDates::label(subject.day.four.serial)), subject.day,
+        asQString(subject.place), asQString(TideDates::label(subject.day.four.serial)), subject.day,
         subject.lines,
         [&picture](QPainter& painter, const QSize& size) { picture.drawForPaper(painter, size); }};
     m_paper.print(QPageLayout::Portrait,
@@ -65,7 +61,7 @@ void TideReports::printDay(const TideSubject& subject, frmTIDEPicture& picture) 
 void TideReports::printWeek(const TideSubject& subject) const
 {
     const TideWeekPage page{
-        text(subject.place), subject.day.four.kind, text(subject.day.four.lblTD),
+        asQString(subject.place), subject.day.four.kind, asQString(subject.day.four.lblTD),
         weekFrom(subject.station, subject.day.four.serial, subject.dates), subject.lines};
     m_paper.print(QPageLayout::Portrait,
                   [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
@@ -74,9 +70,9 @@ void TideReports::printWeek(const TideSubject& subject) const
 void TideReports::showWeek(const TideSubject& subject) const
 {
     const auto week = weekFrom(subject.station, subject.day.four.serial, subject.dates);
-    TableDialog dialog(&m_window, "dlgWeek", text(subject.place + ", seven days"),
-                       text("Zone time " + subject.day.four.lblTD + ".  Not for navigation.  " +
-                            subject.lines.estimates),
+    TableDialog dialog(&m_window, "dlgWeek", asQString(subject.place + ", seven days"),
+                       asQString("Zone time " + subject.day.four.lblTD +
+                                 ".  Not for navigation.  " + subject.lines.estimates),
                        {"Date", "Moon", "Four constituents", "All constituents (difference)"},
                        rowsOf(week), [this, &subject] { printWeek(subject); });
     dialog.exec();
@@ -104,7 +100,7 @@ void TideReports::checkFile(TideKind kind, const std::string& offeredPlace) cons
         return;
     }
     const StationCheck check = checkStation(m_program.files(), kind, *answer);
-    TableDialog dialog(&m_window, "dlgCheck", text(check.file), text(check.summary()),
+    TableDialog dialog(&m_window, "dlgCheck", asQString(check.file), asQString(check.summary()),
                        {"Field", "Meaning", "Value", "Unit", "Verdict"}, rowsOf(check));
     dialog.exec();
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideWeekPage.h"
+#include "app/shell/asQString.h"
 
 #include "forms/frmTIDE/PageText.h"
 
@@ -22,11 +23,6 @@ int linesOf(const std::vector<WeekDay>& week)
     return lines;
 }
 
-QString text(const std::string& value)
-{
-    return QString::fromStdString(value);
-}
-
 double drawDay(QPainter& painter, double top, const WeekDay& day)
 {
     const double height = lineOf(painter);
@@ -35,11 +31,11 @@ double drawDay(QPainter& painter, double top, const WeekDay& day)
     painter.setPen(Qt::black);
     top += height / 2;
     double y = top;
-    painter.drawText(QPointF(0, y + height * 0.8), text(day.date));
-    painter.drawText(QPointF(0, y + height * 1.8), text(day.moon));
+    painter.drawText(QPointF(0, y + height * 0.8), asQString(day.date));
+    painter.drawText(QPointF(0, y + height * 1.8), asQString(day.moon));
     for (const WaterLine& water : day.waters) {
-        painter.drawText(QPointF(waterColumn, y + height * 0.8), text(water.four));
-        painter.drawText(QPointF(allColumn, y + height * 0.8), text(water.all));
+        painter.drawText(QPointF(waterColumn, y + height * 0.8), asQString(water.four));
+        painter.drawText(QPointF(allColumn, y + height * 0.8), asQString(water.all));
         y += height;
     }
     return std::max(y, top + 2 * height) + height / 2;
@@ -59,9 +55,9 @@ void TideWeekPage::draw(QPainter& painter, const QRect& room) const
     double y = writeLine(painter, 0, place + "   seven days",
                          kind == TideKind::Tide ? "Tide" : "Tidal stream");
     painter.setFont(pageFont(painter, size));
-    y = writeLine(painter, y, text(lines.station), "Zone time " + zone);
+    y = writeLine(painter, y, asQString(lines.station), "Zone time " + zone);
     if (!lines.uncertainty.empty() || !lines.estimates.empty())
-        y = writeLine(painter, y, text(lines.uncertainty + "   " + lines.estimates));
+        y = writeLine(painter, y, asQString(lines.uncertainty + "   " + lines.estimates));
     painter.setFont(pageFont(painter, size, true));
     painter.drawText(QPointF(waterColumn, y + lineOf(painter)), "Four constituents");
     painter.drawText(QPointF(allColumn, y + lineOf(painter)), "All constituents (difference)");
@@ -70,8 +66,8 @@ void TideWeekPage::draw(QPainter& painter, const QRect& room) const
     for (const WeekDay& day : week)
         y = drawDay(painter, y, day);
     painter.drawLine(QPointF(0, y), QPointF(pageWidth, y));
-    const QString foot = text("Not for navigation: the official tables have precedence.\n" +
-                              lines.accuracy + "\n" + lines.source);
+    const QString foot = asQString("Not for navigation: the official tables have precedence.\n" +
+                                   lines.accuracy + "\n" + lines.source);
     painter.drawText(QRectF(0, y + size / 2.0, pageWidth, 8 * lineOf(painter)), Qt::TextWordWrap,
                      foot);
 }

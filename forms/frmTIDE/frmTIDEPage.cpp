@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDEPage.h"
+#include "app/shell/asQString.h"
 
 #include "app/Format.h"
 #include "app/Questions.h"
@@ -14,11 +15,6 @@ namespace
 {
 
 constexpr int tableColumns = 7; // of seven half hours each: 49 values
-
-QString text(const std::string& value)
-{
-    return QString::fromStdString(value);
-}
 
 /// A value of the table. One that rounds to 0 has no sign: neither flood nor ebb.
 std::string valueText(double value, TideKind kind)
@@ -60,14 +56,15 @@ double frmTIDEPage::drawHeading(QPainter& painter, double pageHeight) const
     painter.drawLine(QPointF(0, y), QPointF(pageWidth, y));
     y += size / 2.0;
     painter.setFont(pageFont(painter, size));
-    y = writeLine(painter, y, text(lines.station), "Zone time " + text(day.four.lblTD));
+    y = writeLine(painter, y, asQString(lines.station), "Zone time " + asQString(day.four.lblTD));
     painter.setFont(pageFont(painter, size, true));
-    y = writeLine(painter, y, "Highest, lowest:  " + text(day.four.lblTideInfo),
-                  tide ? text(lines.uncertainty)
-                       : text(day.four.lblCuDirection[0] + "    " + day.four.lblCuDirection[1]));
+    y = writeLine(
+        painter, y, "Highest, lowest:  " + asQString(day.four.lblTideInfo),
+        tide ? asQString(lines.uncertainty)
+             : asQString(day.four.lblCuDirection[0] + "    " + day.four.lblCuDirection[1]));
     painter.setFont(pageFont(painter, size));
-    if (!lines.estimates.empty()) y = writeLine(painter, y, text(lines.estimates));
-    if (!day.four.remark.empty()) y = writeLine(painter, y, text(day.four.remark));
+    if (!lines.estimates.empty()) y = writeLine(painter, y, asQString(lines.estimates));
+    if (!day.four.remark.empty()) y = writeLine(painter, y, asQString(day.four.remark));
     return drawWaters(painter, y);
 }
 
@@ -76,9 +73,9 @@ double frmTIDEPage::drawWaters(QPainter& painter, double top) const
 {
     const double height = lineOf(painter);
     for (const WaterLine& water : waterLines(day)) {
-        painter.drawText(QRectF(0, top, pageWidth / 3, height), text(water.four));
+        painter.drawText(QRectF(0, top, pageWidth / 3, height), asQString(water.four));
         painter.drawText(QRectF(pageWidth / 3, top, pageWidth, height),
-                         text(water.all.empty() ? "" : "all constituents " + water.all));
+                         asQString(water.all.empty() ? "" : "all constituents " + water.all));
         top += height;
     }
     return top;
@@ -104,9 +101,9 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
         const QRectF cell(column * width, top + row * height, width * 0.8, height);
         const int hour = i / 2;
         const std::string time = Format(hour, "00") + (i % 2 == 0 ? ":00" : ":30");
-        painter.drawText(cell, Qt::AlignLeft, text(time));
+        painter.drawText(cell, Qt::AlignLeft, asQString(time));
         const double value = day.four.values[static_cast<std::size_t>(i)];
-        painter.drawText(cell, Qt::AlignRight, text(valueText(value, day.four.kind)));
+        painter.drawText(cell, Qt::AlignRight, asQString(valueText(value, day.four.kind)));
     }
     painter.setPen(QPen(Qt::gray, 0.5));
     for (int column = 1; column < tableColumns; ++column) {
@@ -118,11 +115,12 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
 
 QString frmTIDEPage::footText() const
 {
-    return text("Not for navigation: the official tables have precedence.\n" + lines.accuracy +
-                "\n" + lines.source +
-                "\nHalf-hourly prediction from four harmonic constituents and two shallow-water "
-                "terms, " +
-                programTitle + ".");
+    return asQString(
+        "Not for navigation: the official tables have precedence.\n" + lines.accuracy + "\n" +
+        lines.source +
+        "\nHalf-hourly prediction from four harmonic constituents and two shallow-water "
+        "terms, " +
+        programTitle + ".");
 }
 
 double frmTIDEPage::footHeight(const QPainter& painter) const

@@ -99,7 +99,7 @@ TEST(AlarmSetUp, asksInOrder)
 std::vector<std::string> check(Alarms& alarms, NavFunc113::DateTime smt)
 {
     std::vector<std::string> texts;
-    for (const Due& due : alarms.check(smt)) {
+    for (const DueAlarm& due : alarms.check(smt)) {
         texts.push_back(due.text);
         EXPECT_EQ(due.alarm, !due.text.starts_with("Time Signal")) << due.text;
     }

@@ -18,7 +18,7 @@ TEST(Sailing, aRunMeasuredComesBackAsItsCourseAndDistance)
     for (const double lat : {-59.30, -20.155, 0.0, 0.05, 33.45, 58.0})
         for (const double longitude : {-179.50, -0.10, 0.0, 139.45, 180.0})
             for (const double course : {0.5, 45.0, 89.0, 135.0, 180.5, 226.0, 271.0, 359.0}) {
-                SCOPED_TRACE(testing::Message() << lat << ' ' << longitude << ' ' << course);
+                SCOPED_TRACE(::testing::Message() << lat << ' ' << longitude << ' ' << course);
                 const DegMin lat1(lat), long1(longitude);
                 const Degrees steered(course);
                 const DegMin lat2 = DRLatitude(lat1, steered, run, Earth::Sphere);
@@ -37,7 +37,7 @@ TEST(GreatCircleTrack, noMeridianOfTheRouteReachesBeyondTheVertex)
     for (const double lat1 : {-60.0, -20.0, 5.0, 45.0})
         for (const double lat2 : {-50.0, 0.0, 33.0, 64.0})
             for (const double change : {-170.0, -35.0, 20.0, 100.0, 175.0}) {
-                SCOPED_TRACE(testing::Message() << lat1 << ' ' << lat2 << ' ' << change);
+                SCOPED_TRACE(::testing::Message() << lat1 << ' ' << lat2 << ' ' << change);
                 const DegMin from(lat1), to(lat2), meridian(change);
                 const auto track = TrackOfGreatCircle(from, {}, to, meridian);
                 ASSERT_TRUE(track && track->vertex);

@@ -50,6 +50,13 @@ void WindowTest::writeFile(const std::string& name, const std::string& bytes)
     file.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
+QWidget* shown(const QString& name)
+{
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (each->objectName() == name && each->isVisible()) return each;
+    return nullptr;
+}
+
 QWidget& control(const QWidget& window, const std::string& name)
 {
     if (auto* found = window.findChild<QWidget*>(QString::fromStdString(name))) return *found;

@@ -66,6 +66,9 @@ private:
     std::vector<QPointer<QWidget>> m_opened;
 };
 
+/// A window on the screen by its object name; none when it is not there.
+QWidget* shown(const QString& name);
+
 /// A control of a window by its object name; fails the test when it is not there.
 QWidget& control(const QWidget& window, const std::string& name);
 

@@ -7,7 +7,7 @@
 
 int main(int argc, char* argv[])
 {
-    testing::InitGoogleMock(&argc, argv);
+    ::testing::InitGoogleMock(&argc, argv);
     QApplication::setStyle("Fusion");
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -17,12 +17,6 @@ namespace
 
 const std::filesystem::path root = korvel::sourceFile("");
 
-std::string contentOf(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 const Sources& sources()
 {
     static const Sources read = readSources(root / "tools/tidedata/sources.json");
@@ -31,12 +25,13 @@ const Sources& sources()
 
 TEST(CommittedData, isWhatTheGeneratorWritesToday)
 {
-    EXPECT_EQ(contentOf(root / "data/AF2005.txt"), factorsFile(2005));
-    EXPECT_EQ(contentOf(root / "data/stations.txt"), stationsList(sources()));
-    EXPECT_EQ(contentOf(root / "data/constituents.txt"), constituentsList(sources()));
+    EXPECT_EQ(korvel::contentOf(root / "data/AF2005.txt"), factorsFile(2005));
+    EXPECT_EQ(korvel::contentOf(root / "data/stations.txt"), stationsList(sources()));
+    EXPECT_EQ(korvel::contentOf(root / "data/constituents.txt"), constituentsList(sources()));
     const std::filesystem::path folder = root / "data/Harmonic Constants";
     for (const Station& station : sources().stations)
-        EXPECT_EQ(contentOf(folder / ("HC_" + station.place + ".txt")), stationFile(station));
+        EXPECT_EQ(korvel::contentOf(folder / ("HC_" + station.place + ".txt")),
+                  stationFile(station));
     const auto files = std::distance(std::filesystem::directory_iterator(folder), {});
     EXPECT_EQ(static_cast<std::size_t>(files), sources().stations.size())
         << "a file that the generator does not write";
@@ -45,38 +40,38 @@ TEST(CommittedData, isWhatTheGeneratorWritesToday)
 TEST(Sources, aPlaceWithoutOneOfTheFourIsRefusedByName)
 {
     const auto file = std::filesystem::temp_directory_path() / "sources without S2.json";
-    std::string json = contentOf(root / "tools/tidedata/sources.json");
+    std::string json = korvel::contentOf(root / "tools/tidedata/sources.json");
     json.replace(json.find("\"S2\":"), 5, "\"X2\":");
     std::ofstream(file, std::ios::binary) << json;
     try {
         readSources(file);
         ADD_FAILURE() << "taken";
     } catch (const std::runtime_error& fault) {
-        EXPECT_THAT(fault.what(), testing::HasSubstr("Berhala has no constituent S2"));
+        EXPECT_THAT(fault.what(), ::testing::HasSubstr("Berhala has no constituent S2"));
     }
     std::filesystem::remove(file);
 }
 
 TEST(CommittedData, theMethodsErrorIsListedForEveryRecord)
 {
-    const std::string accuracy = contentOf(root / "data/accuracy.txt");
+    const std::string accuracy = korvel::contentOf(root / "data/accuracy.txt");
     for (const Station& s : sources().stations) {
         const bool isListed = accuracy.find("\n" + s.place + "\t") != std::string::npos;
         EXPECT_EQ(isListed, !s.source.starts_with("modelled")) << s.place;
     }
     // The manual's table and the list come from one run.
-    const std::string manual = contentOf(root / "docs/manual/frmTIDE.md");
-    EXPECT_THAT(accuracy, testing::HasSubstr("\nTokyo\t0.029\t0.025\t0.030\t6\t6\n"));
-    EXPECT_THAT(manual, testing::HasSubstr(
+    const std::string manual = korvel::contentOf(root / "docs/manual/frmTIDE.md");
+    EXPECT_THAT(accuracy, ::testing::HasSubstr("\nTokyo\t0.029\t0.025\t0.030\t6\t6\n"));
+    EXPECT_THAT(manual, ::testing::HasSubstr(
                             "| Tokyo | A | 0.466 | 0.029 (6.2 %) | 0.025 / 0.030 | 6 / 6 |"));
 }
 
 TEST(CommittedData, everyPlaceIsDescribedWithItsGrade)
 {
-    const std::string readme = contentOf(root / "data/README.md");
+    const std::string readme = korvel::contentOf(root / "data/README.md");
     for (const auto* list : {&sources().stations, &sources().withoutSource}) {
         for (const Station& s : *list)
-            EXPECT_THAT(readme, testing::HasSubstr("| " + s.place + " | " + s.grade + " |"));
+            EXPECT_THAT(readme, ::testing::HasSubstr("| " + s.place + " | " + s.grade + " |"));
     }
 }
 
@@ -113,8 +108,8 @@ TEST(StationFile, angleThatRoundsToAWholeTurnIsZeroAndMissingTermsAreNothing)
                          {"O1", {0.1, Degrees(0)}},
                          {"M4", {0.02, Degrees(2 * (359.97 + 3.5 * 28.9841042) + 359.8)}}};
     EXPECT_THAT(stationFile(station),
-                testing::StartsWith("Nowhere at all,-3.5,0.00,0.0,1.000,0.0,0.500,"));
-    EXPECT_THAT(stationFile(station), testing::HasSubstr(",0,0.0200,0,0.0000,0.00,0.00,"));
+                ::testing::StartsWith("Nowhere at all,-3.5,0.00,0.0,1.000,0.0,0.500,"));
+    EXPECT_THAT(stationFile(station), ::testing::HasSubstr(",0,0.0200,0,0.0000,0.00,0.00,"));
 }
 
 TEST(Sources, faultsNameTheFile)

@@ -15,14 +15,8 @@ namespace
 
 namespace fs = std::filesystem;
 
-std::string contentOf(const fs::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
 // A program's folder, with a blank in its name as officers have them.
-class ExtendTides : public testing::Test
+class ExtendTides : public ::testing::Test
 {
 protected:
     ExtendTides()
@@ -32,7 +26,7 @@ protected:
         fs::copy(korvel::sourceFile("tools/extend-tides"), folder);
         fs::copy(korvel::sourceFile("data/AF2005.txt"), folder);
         fs::create_symlink(KORVEL_TIDEDATA, folder / "tidedata");
-        shipped = contentOf(folder / "AF2005.txt");
+        shipped = korvel::contentOf(folder / "AF2005.txt");
     }
     ~ExtendTides() override { fs::remove_all(folder); }
 
@@ -42,7 +36,7 @@ protected:
             "'" + (folder / "extend-tides").string() + "' " + arguments + " >/dev/null 2>&1";
         return WEXITSTATUS(std::system(command.c_str()));
     }
-    std::string factors() const { return contentOf(folder / "AF2005.txt"); }
+    std::string factors() const { return korvel::contentOf(folder / "AF2005.txt"); }
 
     fs::path folder;
     std::string shipped;
@@ -53,7 +47,7 @@ TEST_F(ExtendTides, longerFileKeepsTheDaysThereWereAndCanBeUndone)
     EXPECT_EQ(run("2030"), 0);
     EXPECT_EQ(factors().size(), 46u * 10320) << "to 2031-01-01";
     EXPECT_TRUE(factors().starts_with(shipped));
-    EXPECT_EQ(contentOf(folder / "AF2005.txt.before"), shipped);
+    EXPECT_EQ(korvel::contentOf(folder / "AF2005.txt.before"), shipped);
     EXPECT_EQ(run("--undo"), 0);
     EXPECT_EQ(factors(), shipped);
     EXPECT_NE(run("--undo"), 0) << "nothing left to undo";

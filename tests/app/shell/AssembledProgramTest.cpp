@@ -18,13 +18,6 @@ namespace
 
 using namespace korvel::testing;
 
-QWidget* shown(const QString& name)
-{
-    for (QWidget* each : QApplication::topLevelWidgets())
-        if (each->objectName() == name && each->isVisible()) return each;
-    return nullptr;
-}
-
 /// No two entries of a menu may want the same key; entries without one are left alone.
 void expectUniqueMnemonics(const QString& window, const QList<QAction*>& entries)
 {

@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 /// A machine whose only programs are the players that a test puts there. Each writes its name into
 /// a log when the file it was given has something in it.
-class BellTest : public testing::Test
+class BellTest : public ::testing::Test
 {
 protected:
     BellTest() : m_path(qgetenv("PATH")) { qputenv("PATH", m_folder.path().toLocal8Bit()); }

@@ -29,13 +29,6 @@ public:
     FieldBoxes fields{{}, nullptr};
 };
 
-QWidget* shown(const QString& name)
-{
-    for (QWidget* each : QApplication::topLevelWidgets())
-        if (each->objectName() == name && each->isVisible()) return each;
-    return nullptr;
-}
-
 class MainWindowTest : public ::testing::Test
 {
 protected:

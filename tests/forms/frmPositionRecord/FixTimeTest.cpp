@@ -10,7 +10,7 @@ namespace korvel
 namespace
 {
 
-using testing::HasSubstr;
+using ::testing::HasSubstr;
 
 NavFunc113::DateTime at(int year, int month, int day)
 {

@@ -13,8 +13,8 @@ namespace
 {
 
 using namespace worked;
-using testing::HasSubstr;
-using testing::Not;
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 SightFixResult fixOf(const SightList& list, const TrackTexts& track,
                      const SightFixOptions& options = {})
@@ -27,13 +27,13 @@ TEST(CalculateFix, publishedRunningFixesFromRawReadings)
     const SightFixResult first = fixOf(listOf({noon2020, morning2020}), track2020);
     ASSERT_TRUE(first.fix) << first.notice;
     EXPECT_LT(milesBetween(first.fix->position, 14.060, -52.258), 0.3);
-    EXPECT_THAT(first.time, testing::StartsWith("R FIX 2020/12/17 15:30:00 UTC, run 0-03:44:49"));
-    EXPECT_THAT(first.latitude, testing::StartsWith("14-.0"));
+    EXPECT_THAT(first.time, ::testing::StartsWith("R FIX 2020/12/17 15:30:00 UTC, run 0-03:44:49"));
+    EXPECT_THAT(first.latitude, ::testing::StartsWith("14-.0"));
     EXPECT_NEAR(readNumber(first.memoLongitude), -52.258, 0.003);
     EXPECT_THAT(first.sigmaText, HasSubstr("assumed, not measured: 1.0 nm"));
     ASSERT_TRUE(first.fix->ellipse);
     EXPECT_NEAR(first.fix->ellipse->semiMajor.value(), 5.28, 0.05) << "with the errors of the run";
-    EXPECT_THAT(first.lines[1].text, testing::EndsWith(" nm")) << "its residual";
+    EXPECT_THAT(first.lines[1].text, ::testing::EndsWith(" nm")) << "its residual";
     EXPECT_EQ(first.notice, "");
 
     const SightFixResult second = fixOf(listOf({morning1990, noon1990}), track1990);
@@ -51,7 +51,7 @@ TEST(CalculateFix, oneInterceptForOneSight)
         for (const FixLine& line : fix.lines) {
             const LOPResult alone = CalculateLOP(list.sights()[line.index].texts, track,
                                                  {list.lastOn(line.index), {}, {}});
-            EXPECT_THAT(line.text, testing::StartsWith(alone.intercept + "  Zn " + alone.Zn));
+            EXPECT_THAT(line.text, ::testing::StartsWith(alone.intercept + "  Zn " + alone.Zn));
         }
     }
     EXPECT_EQ(fixOf(listOf({morning2020, noon2020}), timeless).DR->latitude,
@@ -103,11 +103,11 @@ TEST(CalculateFix, aSightThatDoesNotFitIsNamed)
     EXPECT_THAT(bad.notice, HasSubstr("The sight of 13:40:00 by 12.0 miles away does not fit"));
     EXPECT_FALSE(bad.fix->ellipse);
     EXPECT_THAT(bad.ellipseText, HasSubstr("No ellipse"));
-    EXPECT_THAT(bad.lines[1].text, testing::EndsWith("does not fit: -12.0 nm"));
+    EXPECT_THAT(bad.lines[1].text, ::testing::EndsWith("does not fit: -12.0 nm"));
     ASSERT_EQ(bad.without.size(), 1U);
     EXPECT_LT(milesBetween(bad.without[0].position, 14.0, -52.0), 0.1);
     EXPECT_THAT(bad.withoutText,
-                testing::StartsWith("Without 13:40:00: 14-.00'0N 052-.00'0W, 95 %"));
+                ::testing::StartsWith("Without 13:40:00: 14-.00'0N 052-.00'0W, 95 %"));
     EXPECT_EQ(bad.without[0].label, "without 1340");
 
     EXPECT_EQ(fixOf(roundWith(-12), atAnchor, {"8", "", "", false}).notice, "")

@@ -92,7 +92,7 @@ TEST(SightSettings, damageLosesNoReadableSight)
     const SightSettings back = settingsOf(readRecord(writeRecord(record), sightKinds()).record);
     EXPECT_EQ(back.list.sights().size(), 2U);
     ASSERT_EQ(back.list.unreadable().size(), 1U);
-    EXPECT_THAT(back.list.texts(), testing::Contains(back.list.unreadable()[0]))
+    EXPECT_THAT(back.list.texts(), ::testing::Contains(back.list.unreadable()[0]))
         << "written back as it stands";
 
     // A file cut off in the middle of a line, its head gone too.
