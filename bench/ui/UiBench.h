@@ -17,7 +17,8 @@ class NoQuestions : public Questions
 {
 public:
     Answer ask(const Message& message) override { throw std::runtime_error(message.text); }
-    std::string input(const std::string&, const std::string&, const std::string& offered) override
+    std::optional<std::string> input(const std::string&, const std::string&,
+                                     const std::string& offered) override
     {
         return offered;
     }
@@ -28,6 +29,7 @@ class StoppedClock : public ComputerClock
 {
 public:
     NavFunc113::DateTime now() const override { return 38425.40625; }
+    double hoursAheadOfUTC() const override { return 9; }
     std::optional<std::string> set(NavFunc113::DateTime) override { return "not in a bench"; }
 };
 
