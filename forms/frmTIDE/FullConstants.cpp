@@ -69,17 +69,20 @@ FullConstants::FullConstants(FileStore& files) : m_list(files.read("constituents
 std::optional<tidedata::AllConstituents> FullConstants::of(std::string_view place,
                                                            const TideStation& station) const
 {
-    for (const std::string_view line : linesOf(m_list)) {
-        if (line.substr(0, line.find('\t')) != place) continue;
-        const std::optional<Entry> entry = entryIn(line);
-        if (!entry || !isSameRecord(*entry, station)) return std::nullopt;
-        try {
-            return tidedata::AllConstituents(entry->constants, station.zone, entry->meanLevel);
-        } catch (const std::out_of_range&) {
-            return std::nullopt; // a constituent of a later list
-        }
+    const std::optional<Entry> entry = entryIn(lineOf(place));
+    if (!entry || !isSameRecord(*entry, station)) return std::nullopt;
+    try {
+        return tidedata::AllConstituents(entry->constants, station.zone, entry->meanLevel);
+    } catch (const std::out_of_range&) {
+        return std::nullopt; // a constituent of a later list
     }
-    return std::nullopt;
+}
+
+std::string_view FullConstants::lineOf(std::string_view place) const
+{
+    for (const std::string_view line : linesOf(m_list))
+        if (line.substr(0, line.find('\t')) == place) return line;
+    return {};
 }
 
 } // namespace korvel

@@ -26,7 +26,13 @@ public:
     std::optional<tidedata::AllConstituents> of(std::string_view place,
                                                 const TideStation& station) const;
 
+    /// Whether there is no list, and whether it has a place, with whatever constants.
+    bool isEmpty() const { return m_list.empty(); }
+    bool has(std::string_view place) const { return !lineOf(place).empty(); }
+
 private:
+    std::string_view lineOf(std::string_view place) const;
+
     std::string m_list;
 };
 

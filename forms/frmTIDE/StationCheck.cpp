@@ -37,8 +37,10 @@ std::vector<FieldRule> rulesOf(TideKind kind)
     }
     for (const char* term : {"quarter-diurnal", "sixth-diurnal"}) {
         rules.push_back({std::string("Phase of the ") + term + " term", "degrees", 0, 360});
+        // Where the tide is small the sixth-diurnal one is large.
+        const bool isQuarter = term[0] == 'q';
         rules.push_back({std::string("Coefficient of the ") + term + " term",
-                         term[0] == 'q' ? "per " + unit : "per square " + unit, 0, 2});
+                         (isQuarter ? "per " : "per square ") + unit, 0, isQuarter ? 2.0 : 6.0});
     }
     if (!tide) {
         rules.push_back({"Direction of the flood", "degrees true", 0, 360});
@@ -85,13 +87,24 @@ std::string StationCheck::summary() const
     const int count = questionable();
     if (count == 0) return file + ": all " + std::to_string(fields.size()) + " fields are good.";
     return file + ": " + std::to_string(count) + " of " + std::to_string(fields.size()) +
-           " fields lie outside what such a figure can be.";
+           (count == 1 ? " fields lies" : " fields lie") + " outside what such a figure can be.";
+}
+
+std::string StationCheck::doubts() const
+{
+    if (!isReadable || (questionable() == 0 && fault.empty())) return {};
+    std::string text = summary();
+    for (const CheckedField& field : fields)
+        if (!field.isGood)
+            text += " Field " + std::to_string(field.number) + ", " + field.name +
+                    (field.value.empty() ? "" : " " + field.value) + ": " + field.verdict + ".";
+    return text;
 }
 
 StationCheck checkStation(FileStore& files, TideKind kind, const std::string& place)
 {
     const bool tide = kind == TideKind::Tide;
-    StationCheck check{tide ? tideFileName(place) : streamFileName(place), {}, {}};
+    StationCheck check{tide ? tideFileName(place) : streamFileName(place), {}, {}, true};
     try {
         const std::string bytes =
             tide ? tideStationBytes(files, place) : streamStationBytes(files, place);
@@ -104,6 +117,7 @@ StationCheck checkStation(FileStore& files, TideKind kind, const std::string& pl
                           std::to_string(check.fields.size()) + " fields.";
     } catch (const TideDataFault& fault) {
         check.fault = fault.what();
+        check.isReadable = false;
     }
     return check;
 }

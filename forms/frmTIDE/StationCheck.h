@@ -23,11 +23,15 @@ struct CheckedField {
 /// What the check of a station's file says.
 struct StationCheck {
     std::string file;
-    std::string fault; ///< why the file cannot be used at all; the fields before it are listed
+    std::string fault; ///< what is wrong with the file as a whole; the fields before it are listed
     std::vector<CheckedField> fields;
+    bool isReadable = true; ///< a prediction can be made of it, whatever is doubtful
 
     int questionable() const; ///< fields out of their range
     std::string summary() const;
+    /// What of a readable file cannot be right, the fields with their values and bounds; empty when
+    /// nothing is doubtful, and for a file that is refused when it is read.
+    std::string doubts() const;
 };
 
 /// Checks every field of a station's file: that it can be read, and that it lies within what such a

@@ -46,12 +46,13 @@ std::string estimatesText(const StationNotes& notes, std::int64_t serial)
 } // namespace
 
 StationLines describeStation(const TidePrediction& prediction, const StationNotes* notes,
-                             const std::optional<MethodError>& error)
+                             const std::optional<MethodError>& error, const std::string& doubts)
 {
     StationLines lines;
     if (!notes || notes->grade == "none") {
         lines.station = prediction.title + ": no grade";
-        lines.source = "Constants: a file of the ship's own.";
+        lines.source = "Constants: a file of the ship's own." +
+                       (doubts.empty() ? "" : "  Doubtful: " + doubts);
         return lines;
     }
     lines.station = prediction.title + ": grade " + notes->grade;

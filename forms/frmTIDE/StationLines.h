@@ -21,7 +21,9 @@ struct StationLines {
 
 /// @param notes nothing for a file made from the ship's own tables, and for every stream station
 /// @param error of the method at the station, where it has been measured
+/// @param doubts what the check of its file says; empty for a good one
 StationLines describeStation(const TidePrediction& prediction, const StationNotes* notes,
-                             const std::optional<MethodError>& error);
+                             const std::optional<MethodError>& error,
+                             const std::string& doubts = {});
 
 } // namespace korvel

@@ -93,9 +93,13 @@ void StationMenus::fillNearest(QMenu* menu)
     menu->clear();
     menu->setToolTipsVisible(true);
     const KV_Savedvalue& saved = m_program.saved();
-    std::vector<NearStation> near;
-    if (!std::holds_alternative<std::monostate>(saved(23)))
-        near = nearestStations(m_list, saved.memoLatitude(), saved.memoLongitude(), nearestShown);
+    QAction* from = menu->addAction(
+        QString::fromStdString("from " + Format(saved.memoLatitude(), "00.-00'0N;00.-00'0S") + " " +
+                               Format(saved.memoLongitude(), "000.-00'0E;000.-00'0W")));
+    from->setObjectName("mnuNearestFrom");
+    from->setEnabled(false);
+    const std::vector<NearStation> near =
+        nearestStations(m_list, saved.memoLatitude(), saved.memoLongitude(), nearestShown);
     for (int index = 0; const NearStation& station : near) {
         const QString distance =
             QString::fromStdString(Format(station.distance.value(), "0") + " nm");

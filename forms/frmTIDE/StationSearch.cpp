@@ -93,6 +93,21 @@ std::vector<FoundStation> findStations(std::string_view typed)
     return stations;
 }
 
+SearchAnswer answerSearch(std::string_view typed)
+{
+    const std::vector<FoundStation> found = findStations(typed);
+    if (found.empty())
+        return {{},
+                typed.empty()
+                    ? ""
+                    : "No station has \"" + std::string(typed) + "\" (three letters at least)"};
+    std::string others;
+    for (std::size_t i = 1; i < found.size(); ++i)
+        others += (i == 1 ? "Found too: " : ", ") + found[i].place +
+                  (found[i].TideMode ? "" : " (stream)");
+    return {found.front(), others};
+}
+
 std::vector<NearStation> nearestStations(const StationList& list, NavFunc113::DegMin latitude,
                                          NavFunc113::DegMin longitude, std::size_t count)
 {

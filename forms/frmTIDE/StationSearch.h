@@ -4,6 +4,7 @@
 #include "forms/frmTIDE/StationList.h"
 #include "navlib/units.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,13 @@ std::vector<FoundStation> allStations();
 /// a word that does. Capitals, blanks and apostrophes do not matter.
 /// @return nothing for less than three letters, unless they are a whole name
 std::vector<FoundStation> findStations(std::string_view typed);
+
+/// What the officer is told of typed letters.
+struct SearchAnswer {
+    std::optional<FoundStation> first; ///< the best one; nothing when there is none
+    std::string notice;                ///< what else was found, or that nothing was
+};
+SearchAnswer answerSearch(std::string_view typed);
 
 /// A station and how far it is.
 struct NearStation {

@@ -36,6 +36,7 @@ TableDialog::TableDialog(QWidget* parent, const QString& name, const QString& ti
     }
     m_table->resizeColumnsToContents();
     m_table->resizeRowsToContents();
+    m_table->horizontalHeader()->setStretchLastSection(true);
     auto* copying = new QShortcut(QKeySequence::Copy, m_table);
     connect(copying, &QShortcut::activated, this, [this] { copy(); });
 

@@ -74,12 +74,13 @@ QGridLayout* TideDayPanel::layOutQuestions()
     grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
         const int row = static_cast<int>(i);
-        auto* caption = new QLabel(questionFields[i].caption);
-        caption->setBuddy(m_boxes[i]);
+        m_captions[i] = new QLabel(questionFields[i].caption);
+        m_captions[i]->setBuddy(m_boxes[i]);
         m_boxes[i]->setFixedWidth(9 * fontMetrics().horizontalAdvance('0'));
-        grid->addWidget(caption, row, 0);
+        grid->addWidget(m_captions[i], row, 0);
         grid->addWidget(m_boxes[i], row, 1);
-        grid->addWidget(new QLabel(questionFields[i].unit), row, 2);
+        m_unit = new QLabel(questionFields[i].unit);
+        grid->addWidget(m_unit, row, 2);
     }
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(static_cast<int>(m_boxes.size()), 1);
@@ -101,7 +102,8 @@ QGridLayout* TideDayPanel::layOutAnswers()
     grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
     grid->addWidget(m_lblRange, 0, 0, 1, 3);
     grid->addWidget(m_lblNow, 1, 0, 1, 3);
-    grid->addWidget(new QLabel("Height then"), 2, 0);
+    m_answerHeading = new QLabel("Height then");
+    grid->addWidget(m_answerHeading, 2, 0);
     grid->addWidget(m_lblAnswer[0], 2, 1);
     grid->addWidget(m_lblAnswerAll[0], 2, 2);
     grid->addWidget(new QLabel("That or more"), 3, 0);
@@ -120,6 +122,11 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
 {
     m_day = day;
     if (!withAll) m_day->all.reset();
+    const bool tide = day.four.kind == TideKind::Tide;
+    m_captions[0]->setText(tide ? "&Height at" : "&Rate at");
+    m_captions[1]->setText(tide ? "&From a height of" : "&From a rate of");
+    m_answerHeading->setText(tide ? "Height then" : "Rate then");
+    m_unit->setText(tide ? "m" : "kn");
     const std::vector<WaterLine> lines = waterLines(*m_day);
     m_allHeading->setVisible(m_day->all.has_value());
     for (std::size_t i = 0; i < rows; ++i) {

@@ -44,6 +44,9 @@ private:
     std::array<ResultLabel*, rows> m_lblWater{};
     std::array<ResultLabel*, rows> m_lblWaterAll{};
     QLabel* m_allHeading = nullptr;
+    std::array<QLabel*, 2> m_captions{}; ///< of the two questions
+    QLabel* m_unit = nullptr;            ///< of the second one
+    QLabel* m_answerHeading = nullptr;
     ResultLabel* m_lblRange = nullptr;
     ResultLabel* m_lblNow = nullptr;
     /// Of the two questions: by the four constituents, and by all.

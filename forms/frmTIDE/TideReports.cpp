@@ -88,6 +88,14 @@ void TideReports::saveMonth(const TideSubject& subject) const
               : "The table of the month is\r" + m_program.files().path(name));
 }
 
+bool TideReports::isToBeUsed(TideKind kind, const std::string& place) const
+{
+    const std::string doubts = checkStation(m_program.files(), kind, place).doubts();
+    if (doubts.empty()) return true;
+    const Message question{doubts + "\r\rUse it all the same?", programTitle, Buttons::YesNo};
+    return m_program.questions().ask(question) == Answer::Yes;
+}
+
 void TideReports::checkFile(TideKind kind, const std::string& offeredPlace) const
 {
     const auto answer = m_program.questions().input(

@@ -5,6 +5,7 @@
 #include "navlib/datetime.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace korvel
 {
@@ -17,7 +18,7 @@ void addLine(std::string& table, const TideDayShown& day, const NavFunc113::Tide
     const bool tide = day.four.kind == TideKind::Tide;
     table += TideDates::label(day.four.serial) + "," + clockTime(turn.time) + ",";
     table += tide ? (turn.isHigh ? "high" : "low") : (turn.isHigh ? "flood" : "ebb");
-    table += "," + Format(turn.value, "0.00") + (tide ? ",m," : ",kn,") + method +
+    table += "," + plainFigure(turn.value, TideKind::Tide) + (tide ? ",m," : ",kn,") + method +
              (day.isEstimated ? ",estimated level\r\n" : ",\r\n");
 }
 
@@ -29,6 +30,16 @@ TideStation readStation(FileStore& files, TideKind kind, const std::string& plac
     return readTideStation(files, place, notes && notes->grade == "none" ? notes->source : "");
 }
 
+// A shipped file holds the four constants of its record. One without a record is an estimate, which
+// its title says.
+bool isOwnFile(const TideStation& station, const StationNotes& notes,
+               const FullConstants& constants, bool isOfRecord)
+{
+    if (notes.grade == "none") return true;
+    if (constants.has(notes.place)) return !isOfRecord;
+    return !constants.isEmpty() && !station.title.ends_with("(est.)");
+}
+
 } // namespace
 
 StationDays::StationDays(FileStore& files, TideKind kind, const std::string& place,
@@ -37,7 +48,8 @@ StationDays::StationDays(FileStore& files, TideKind kind, const std::string& pla
 {
     const StationNotes* notes = kind == TideKind::Tide ? list.notesOf(place) : nullptr;
     if (notes) m_all = constants.of(place, m_station);
-    m_isEstimated = notes && (notes->isLevelEstimated || notes->areMonthsEstimated);
+    m_isOwn = !notes || isOwnFile(m_station, *notes, constants, m_all.has_value());
+    m_isEstimated = !m_isOwn && (notes->isLevelEstimated || notes->areMonthsEstimated);
 }
 
 TideDayShown StationDays::day(std::int64_t serial) const
@@ -52,6 +64,21 @@ TideDayShown StationDays::day(std::int64_t serial, const TidePrediction& shown) 
     TideDayShown day{predict(m_station, factors, serial, shown), {}, m_isEstimated};
     if (m_all) day.all = m_all->ofDay(serial);
     return day;
+}
+
+std::string nowText(const StationDays& station, NavFunc113::Hours zone, const TideDates& dates,
+                    NavFunc113::DateTime utc, bool withAll)
+{
+    const auto date = static_cast<std::int64_t>(std::floor(utc + NavFunc113::DaysOfHours(zone)));
+    if (!dates.contains(date)) return {};
+    try {
+        TideDayShown day = station.day(date);
+        if (!withAll) day.all.reset();
+        return nowText(day, utc);
+    } catch (const TideDataFault&) {
+        return {}; // the day that is shown is another one; this one's fault is told when it is
+                   // chosen
+    }
 }
 
 std::vector<WeekDay> weekFrom(const StationDays& station, std::int64_t serial,

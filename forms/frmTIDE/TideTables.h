@@ -30,13 +30,23 @@ public:
     /// The day with figures of highest and lowest that follow on what is shown.
     TideDayShown day(std::int64_t serial, const TidePrediction& shown) const;
 
+    /// Whether the station's file is the ship's own: one that is not shipped, or that was put in
+    /// the place of a shipped one. What is known about the shipped one does not hold for it.
+    bool isOwn() const { return m_isOwn; }
+
 private:
     FileStore& m_factors;
     TideKind m_kind;
     TideStation m_station;
     std::optional<tidedata::AllConstituents> m_all;
+    bool m_isOwn;
     bool m_isEstimated;
 };
+
+/// What the water does at this moment, where the dates hold the present; else nothing.
+/// @param withAll whether all constituents are told beside the four
+std::string nowText(const StationDays& station, NavFunc113::Hours zone, const TideDates& dates,
+                    NavFunc113::DateTime utc, bool withAll);
 
 /// A day of the seven-day table.
 struct WeekDay {

@@ -48,11 +48,24 @@ std::string lineOf(const TideTurn& turn, const TideDayShown& day)
     return clockTime(turn.time) + "   " + markedHeight(turn.value, day);
 }
 
+long minutesOf(Hours time)
+{
+    return std::lround(time.value() * 60);
+}
+
+std::string signedText(double value, const std::string& format)
+{
+    return value == 0 ? Format(0, format) : Format(value, "+" + format + ";-" + format);
+}
+
+// Of the figures as they are shown: whoever subtracts them finds the same.
 std::string differenceText(const WaterPair& water)
 {
-    const double minutes = (water.all->time - water.four->time).value() * 60;
-    return "   (" + Format(std::round(minutes), "+0;-0") + " min, " +
-           Format(water.all->value - water.four->value, "+0.00;-0.00") + " m)";
+    const auto centimetres = [](double value) { return std::round(value * 100); };
+    const auto minutes = minutesOf(water.all->time) - minutesOf(water.four->time);
+    const double height = centimetres(water.all->value) - centimetres(water.four->value);
+    return "   (" + signedText(static_cast<double>(minutes), "0") + " min, " +
+           signedText(height / 100, "0.00") + " m)";
 }
 
 Hours timeOf(const WaterPair& water)
@@ -87,15 +100,22 @@ std::string spansAbove(const NavFunc113::TideCurve& curve, double level,
 std::string clockTime(Hours time)
 {
     // By hand, because 24:00 is a time of this curve and of no clock.
-    const auto minutes = std::lround(time.value() * 60);
-    const auto hours = minutes / 60;
+    const long minutes = minutesOf(time);
+    const long hours = minutes / 60;
     return Format(static_cast<double>(hours), "00") + ":" +
            Format(static_cast<double>(minutes % 60), "00");
 }
 
+std::string plainFigure(double value, TideKind kind)
+{
+    const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
+    const bool isZero = figures.find_first_of("123456789") == figures.npos;
+    return isZero ? figures.substr(figures.find('0')) : figures;
+}
+
 std::string heightText(double value, TideKind kind)
 {
-    return kind == TideKind::Tide ? Format(value, "0.00") + " m" : Format(value, "0.0") + " kn";
+    return plainFigure(value, kind) + (kind == TideKind::Tide ? " m" : " kn");
 }
 
 std::vector<WaterPair> watersOf(const TideDayShown& day)

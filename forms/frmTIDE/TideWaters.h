@@ -51,6 +51,9 @@ double moonAgeOf(std::int64_t serial, NavFunc113::Hours zone);
 /// hh:mm of a day, rounded to the minute; 24:00 is a time of it.
 std::string clockTime(NavFunc113::Hours time);
 
+/// "1.88" or "1.2"; one that rounds to 0 has no sign: neither flood nor ebb.
+std::string plainFigure(double value, TideKind kind);
+
 /// "1.88 m" or "1.2 kn".
 std::string heightText(double value, TideKind kind);
 

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDE.h"
 
+#include "forms/frmTIDE/StationCheck.h"
 #include "forms/frmTIDE/StationSearch.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
 
-#include <QSignalBlocker>
+#include <QVBoxLayout>
 
 #include <cmath>
 #include <cstdint>
+#include <functional>
 
 namespace korvel
 {
@@ -26,14 +28,12 @@ frmTIDE::frmTIDE(Program& program)
       m_constants(program.files()), m_dates(TideDates::of(program.files())),
       m_habitsFile(program.files(), program.questions(), program.clock(), "KV_TideOwn.ini",
                    habitKinds()),
-      m_stationMenus(program, menus(), m_list,
-                     [this](const StationChoice& station) { choose(station); }),
-      m_progress(new QProgressBar(body())),
-      m_extender(program, *m_progress, [this] { readDates(); }), m_reports(program, *this, paper())
+      m_habits(loadedHabits()), m_sheet(new TideSheet(program, body())),
+      m_extender(program, m_sheet->foot().progress(), [this] { readDates(); }),
+      m_reports(program, *this, paper()),
+      m_tideMenus(program, menus(), *menuBar(), m_list, m_habits, actions())
 {
-    loadHabits();
     addControls();
-    addMenus();
     m_save.setSingleShot(true);
     connect(&m_save, &QTimer::timeout, this, [this] { record().saveNow(); });
     connect(&program, &Program::minuteChanged, this, &frmTIDE::showNow);
@@ -49,36 +49,75 @@ frmTIDE::frmTIDE(Program& program)
     loadSettings();
     readDates();
     take(m_choice, Telling::Box, AfterFault::Stay);
-    m_scrDate->setFocus();
+    m_sheet->dateBar().setFocus();
     fitToScreen();
+}
+
+void frmTIDE::addControls()
+{
+    m_sheet->head().onDate = [this] { askDate(); };
+    m_sheet->head().onToday = [this] { chooseDate(today()); };
+    m_sheet->head().onFind = [this](const std::string& typed) { findStation(typed); };
+    m_sheet->onDay = [this](std::int64_t date) { stepTo(date); };
+    m_sheet->onNotice = [this](const QString& key, const std::string& notice) {
+        setNotice(key, QString::fromStdString(notice));
+    };
+    m_sheet->showDates(m_dates, program().files().path(factorsFileName));
+    auto* column = new QVBoxLayout(body());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(m_sheet);
+}
+
+TideActions frmTIDE::actions()
+{
+    const auto reported = [this](auto make) {
+        return [this, make] {
+            report([this, make](const TideSubject& day) { make(m_reports, day); });
+        };
+    };
+    return {
+        .choose = [this](const StationChoice& station) { choose(station); },
+        .askDate = [this] { askDate(); },
+        .print =
+            [this] {
+                report([this](const TideSubject& day) {
+                    m_reports.printDay(day, m_sheet->picture());
+                });
+            },
+        .close = [this] { close(); },
+        .about =
+            [this] {
+                program().questions().ask({m_dates.aboutNotice(), programTitle, Buttons::Ok});
+            },
+        .find = [this] { m_sheet->head().txtFind()->setFocus(); },
+        .checkFile = [this](TideKind kind) { m_reports.checkFile(kind, m_choice.lblPlace); },
+        .extend = [this] { m_extender.extend(offeredYear); },
+        .takeBack = [this] { m_extender.takeBack(); },
+        .showWeek = reported(std::mem_fn(&TideReports::showWeek)),
+        .printWeek = reported(std::mem_fn(&TideReports::printWeek)),
+        .saveMonth = reported(std::mem_fn(&TideReports::saveMonth)),
+        .drawAll = [this](bool isWanted) { drawAll(isWanted); },
+    };
 }
 
 void frmTIDE::choose(const StationChoice& station)
 {
-    take({station.TideMode, station.place, m_choice.lblDate}, Telling::Box, AfterFault::GoBack);
+    const TideKind asked = station.TideMode ? TideKind::Tide : TideKind::Stream;
+    if (m_reports.isToBeUsed(asked, station.place))
+        take({station.TideMode, station.place, m_choice.lblDate}, Telling::Box, AfterFault::GoBack);
 }
 
-void frmTIDE::findStation()
+void frmTIDE::findStation(const std::string& typed)
 {
-    const std::string typed = m_txtFind->value();
-    const std::vector<FoundStation> found = findStations(typed);
-    std::string others;
-    for (std::size_t i = 1; i < found.size(); ++i)
-        others += (i == 1 ? "" : ", ") + found[i].place + (found[i].TideMode ? "" : " (stream)");
-    if (found.empty()) {
-        setNotice("find",
-                  QString::fromStdString(typed.empty() ? ""
-                                                       : "No station has \"" + typed +
-                                                             "\" (three letters at least)"));
-        return;
-    }
-    setNotice("find", QString::fromStdString(others.empty() ? "" : "Found too: " + others));
-    const StationChoice first{found[0].TideMode, found[0].place};
-    if (const QString reason = m_stationMenus.reasonAgainst(first); !reason.isEmpty()) {
+    const SearchAnswer answer = answerSearch(typed);
+    setNotice("find", QString::fromStdString(answer.notice));
+    if (!answer.first) return;
+    const StationChoice first{answer.first->TideMode, answer.first->place};
+    const QString reason = m_tideMenus.stations().reasonAgainst(first);
+    if (reason.isEmpty())
+        choose(first);
+    else
         setNotice("find", QString::fromStdString(first.place) + ": " + reason);
-        return;
-    }
-    choose(first);
 }
 
 std::int64_t frmTIDE::today()
@@ -108,9 +147,9 @@ void frmTIDE::chooseDate(std::int64_t date)
          AfterFault::GoBack);
 }
 
-void frmTIDE::scrDate_Change(int value)
+/// A day of the date bar.
+void frmTIDE::stepTo(std::int64_t date)
 {
-    const std::int64_t date = m_dates.serialOfScrollValue(value);
     take({m_choice.TideMode, m_choice.lblPlace, TideDates::label(date)}, Telling::Line,
          AfterFault::GoBack);
 }
@@ -119,14 +158,8 @@ void frmTIDE::scrDate_Change(int value)
 void frmTIDE::readDates()
 {
     m_dates = TideDates::of(program().files());
-    const QSignalBlocker quiet(m_scrDate);
-    m_scrDate->setRange(m_dates.scrollMinimum(), m_dates.scrollMaximum());
-    m_mnuUndo->setEnabled(m_extender.canTakeBack());
-    const bool isShipped = m_dates.lastSerial() == TideDates().lastSerial();
-    m_lblInUse->setVisible(!isShipped);
-    m_lblInUse->setText(QString::fromStdString("Predictions to " +
-                                               TideDates::label(m_dates.lastSerial()) + " with " +
-                                               program().files().path(factorsFileName)));
+    m_tideMenus.enableUndo(m_extender.canTakeBack());
+    m_sheet->showDates(m_dates, program().files().path(factorsFileName));
     const auto shown = TideDates::dateIn(m_choice.lblDate);
     if (shown && !m_dates.contains(*shown))
         take({m_choice.TideMode, m_choice.lblPlace, TideDates::label(m_dates.lastSerial())},
@@ -177,12 +210,7 @@ void frmTIDE::take(const TideChoice& wanted, Telling telling, AfterFault afterFa
 void frmTIDE::put(const TideChoice& choice)
 {
     m_choice = choice;
-    m_lblPlace->setText(QString::fromStdString(choice.lblPlace));
-    m_lblDate->setText(QString::fromStdString(choice.lblDate));
-    if (const auto date = TideDates::dateIn(choice.lblDate)) {
-        const QSignalBlocker quiet(m_scrDate);
-        m_scrDate->setValue(m_dates.scrollValueOf(*date));
-    }
+    m_sheet->showChoice(choice, m_dates);
 }
 
 /// Reads the station anew unless the date alone runs, and shows the day. @return whether there is
@@ -198,7 +226,10 @@ bool frmTIDE::predict(const TideChoice& wanted, Telling telling)
     if (!date) return false;
     const StationDays& source = station ? *station : *m_station;
     const TideDayShown day = source.day(*date, m_shown ? m_shown->four : TidePrediction{});
-    if (station) m_station = std::move(station);
+    if (station) {
+        m_station = std::move(station);
+        m_doubts = checkStation(program().files(), kind(), wanted.lblPlace).doubts();
+    }
     showDay(day);
     const StationChoice choice{wanted.TideMode, wanted.lblPlace};
     if (m_habits.stations.empty() || m_habits.stations.front() != choice) {
@@ -211,56 +242,20 @@ bool frmTIDE::predict(const TideChoice& wanted, Telling telling)
 void frmTIDE::showDay(const TideDayShown& day)
 {
     m_shown = day;
-    const TidePrediction& four = day.four;
     setNotice("saved", {});
-    m_lblTD->setText(QString::fromStdString(four.lblTD));
-    m_lblTideInfo->setText(QString::fromStdString(four.lblTideInfo));
-    for (std::size_t i = 0; i < m_lblCuDirection.size(); ++i) {
-        m_lblCuDirection[i]->setText(QString::fromStdString(four.lblCuDirection[i]));
-        m_lblCuDirection[i]->setVisible(four.kind == TideKind::Stream);
-    }
-    showStation();
-    std::optional<NavFunc113::TideValues> all;
-    if (day.all && m_habits.drawsAll) all = day.all->halfHourly();
-    m_picTIDE->showPrediction(four, all);
-    m_day->showDay(day, m_habits.drawsAll);
+    // The notes are about shipped tide stations; a stream station may bear the same name.
+    const bool isShipped = m_choice.TideMode && !m_station->isOwn();
+    m_lines = describeStation(day.four, isShipped ? m_list.notesOf(m_choice.lblPlace) : nullptr,
+                              m_list.errorOf(m_choice.lblPlace), m_doubts);
+    m_sheet->showDay(day, m_lines, m_habits.drawsAll);
     showNow();
-}
-
-void frmTIDE::showStation()
-{
-    // The notes are about tide stations; a stream station may bear the same name.
-    const StationNotes* notes = m_choice.TideMode ? m_list.notesOf(m_choice.lblPlace) : nullptr;
-    m_lines = describeStation(m_shown->four, notes, m_list.errorOf(m_choice.lblPlace));
-    const auto show = [](QLabel* label, const std::string& text) {
-        label->setText(QString::fromStdString(text));
-        label->setVisible(!text.empty());
-    };
-    show(m_lblRemark, m_shown->four.remark);
-    show(m_lblUncertainty, m_lines.uncertainty);
-    show(m_lblEstimates, m_lines.estimates);
-    show(m_lblAccuracy, m_lines.accuracy);
-    m_lblStation->setText(QString::fromStdString(m_lines.station) + ".  Not for navigation.");
-    m_lblSource->setText(QString::fromStdString(m_lines.source));
 }
 
 void frmTIDE::showNow()
 {
     if (!m_station || !m_shown) return;
-    const NavFunc113::DateTime utc = program().shipsTime().UTC();
-    const auto date = static_cast<std::int64_t>(
-        std::floor(utc + NavFunc113::DaysOfHours(m_shown->four.station.zone)));
-    std::string text;
-    try {
-        if (m_dates.contains(date)) {
-            TideDayShown day = m_station->day(date);
-            if (!m_habits.drawsAll) day.all.reset();
-            text = nowText(day, utc);
-        }
-    } catch (const TideDataFault&) {
-        // The day that is shown is another one; that of the present is told when it is chosen.
-    }
-    m_day->showNow(text);
+    m_sheet->showNow(nowText(*m_station, m_shown->four.station.zone, m_dates,
+                             program().shipsTime().UTC(), m_habits.drawsAll));
 }
 
 void frmTIDE::drawAll(bool isWanted)
@@ -270,9 +265,10 @@ void frmTIDE::drawAll(bool isWanted)
     if (m_shown) showDay(TideDayShown(*m_shown));
 }
 
-void frmTIDE::loadHabits()
+TideHabits frmTIDE::loadedHabits()
 {
-    if (const std::optional<Record> record = m_habitsFile.load()) m_habits = habitsOf(*record);
+    const std::optional<Record> record = m_habitsFile.load();
+    return record ? habitsOf(*record) : TideHabits{};
 }
 
 void frmTIDE::storeHabits()
@@ -310,7 +306,7 @@ void frmTIDE::report(const Report& make)
 void frmTIDE::applyColours()
 {
     CalculatorWindow::applyColours();
-    m_picTIDE->applyColours();
+    m_sheet->picture().applyColours();
 }
 
 } // namespace korvel

@@ -3,23 +3,18 @@
 
 #include "app/SettingsFile.h"
 #include "app/shell/CalculatorWindow.h"
-#include "forms/frmTIDE/DateControls.h"
 #include "forms/frmTIDE/FullConstants.h"
 #include "forms/frmTIDE/StationLines.h"
 #include "forms/frmTIDE/StationList.h"
-#include "forms/frmTIDE/StationMenus.h"
 #include "forms/frmTIDE/TideChoice.h"
-#include "forms/frmTIDE/TideDayPanel.h"
 #include "forms/frmTIDE/TideExtender.h"
 #include "forms/frmTIDE/TideHabits.h"
+#include "forms/frmTIDE/TideMenus.h"
 #include "forms/frmTIDE/TideReports.h"
-#include "forms/frmTIDE/frmTIDEPicture.h"
+#include "forms/frmTIDE/TideSheet.h"
 
-#include <QProgressBar>
 #include <QTimer>
-#include <QVBoxLayout>
 
-#include <array>
 #include <memory>
 #include <optional>
 
@@ -46,20 +41,13 @@ private:
     enum class Telling { Box, Line };
 
     void addControls();
-    QWidget* headLine();
-    QWidget* figuresLine();
-    QWidget* pictureRow();
-    void addFoot(QVBoxLayout* column);
-    QLabel* wrappedLabel(const QString& name);
-    void addMenus();
-    void addOwnMenus();
-    void addBarEntry(int index, const QString& caption, std::function<void()> action);
+    TideActions actions();
 
     void choose(const StationChoice& station);
-    void findStation();
+    void findStation(const std::string& typed);
     void askDate();
     void chooseDate(std::int64_t date);
-    void scrDate_Change(int value);
+    void stepTo(std::int64_t date);
     void drawAll(bool isWanted);
     void offerUnasked();
     void readDates();
@@ -75,13 +63,12 @@ private:
     void put(const TideChoice& choice);
     bool predict(const TideChoice& wanted, Telling telling);
     void showDay(const TideDayShown& day);
-    void showStation();
     void showNow();
     void storeSettings(Telling telling);
     void tell(const std::string& fault, Telling telling);
     std::int64_t today();
     TideKind kind() const { return m_choice.TideMode ? TideKind::Tide : TideKind::Stream; }
-    void loadHabits();
+    TideHabits loadedHabits();
     void storeHabits();
 
     StationList m_list;
@@ -90,34 +77,17 @@ private:
     TideChoice m_choice;
     std::optional<TideDayShown> m_shown;
     std::unique_ptr<StationDays> m_station; ///< the station that is shown
+    std::string m_doubts;                   ///< of the check of its file
     StationLines m_lines;
     SettingsFile m_habitsFile;
     TideHabits m_habits;
     QTimer m_save; ///< one write for a run of the scroll bar
     bool m_hasBeenShown = false;
 
-    StationMenus m_stationMenus;
-    QProgressBar* m_progress;
+    TideSheet* m_sheet;
     TideExtender m_extender;
     TideReports m_reports;
-    ResultLabel* m_lblPlace = nullptr;
-    DateLabel* m_lblDate = nullptr;
-    ResultLabel* m_lblTD = nullptr;
-    ResultLabel* m_lblTideInfo = nullptr;
-    std::array<ResultLabel*, 2> m_lblCuDirection{};
-    QLabel* m_lblRemark = nullptr;
-    QLabel* m_lblInUse = nullptr;
-    QLabel* m_lblUncertainty = nullptr;
-    QLabel* m_lblEstimates = nullptr;
-    QLabel* m_lblStation = nullptr;
-    QLabel* m_lblAccuracy = nullptr;
-    QLabel* m_lblSource = nullptr;
-    EntryBox* m_txtFind = nullptr;
-    DateScrollBar* m_scrDate = nullptr;
-    frmTIDEPicture* m_picTIDE = nullptr;
-    TideDayPanel* m_day = nullptr;
-    QAction* m_mnuDrawAll = nullptr;
-    QAction* m_mnuUndo = nullptr;
+    TideMenus m_tideMenus;
 };
 
 } // namespace korvel

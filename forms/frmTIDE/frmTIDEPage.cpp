@@ -16,14 +16,6 @@ namespace
 
 constexpr int tableColumns = 7; // of seven half hours each: 49 values
 
-/// A value of the table. One that rounds to 0 has no sign: neither flood nor ebb.
-std::string valueText(double value, TideKind kind)
-{
-    const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
-    return figures.find_first_of("123456789") == figures.npos ? figures.substr(figures.find('0'))
-                                                              : figures;
-}
-
 } // namespace
 
 void frmTIDEPage::draw(QPainter& painter, const QRect& room) const
@@ -103,7 +95,7 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
         const std::string time = Format(hour, "00") + (i % 2 == 0 ? ":00" : ":30");
         painter.drawText(cell, Qt::AlignLeft, asQString(time));
         const double value = day.four.values[static_cast<std::size_t>(i)];
-        painter.drawText(cell, Qt::AlignRight, asQString(valueText(value, day.four.kind)));
+        painter.drawText(cell, Qt::AlignRight, asQString(plainFigure(value, day.four.kind)));
     }
     painter.setPen(QPen(Qt::gray, 0.5));
     for (int column = 1; column < tableColumns; ++column) {

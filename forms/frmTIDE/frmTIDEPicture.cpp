@@ -2,12 +2,12 @@
 #include "forms/frmTIDE/frmTIDEPicture.h"
 
 #include "app/shell/Boxes.h"
+#include "forms/frmTIDE/CurvePainter.h"
 
 #include <QFontInfo>
 #include <QKeyEvent>
 
 #include <algorithm>
-#include <cmath>
 
 namespace korvel
 {
@@ -79,32 +79,29 @@ void frmTIDEPicture::mark(const std::vector<NavFunc113::Hours>& times, std::opti
     update();
 }
 
+CurvePlace frmTIDEPicture::place() const
+{
+    return {[this](double hour, double value) { return toPixel(hour, value); }, plotArea(),
+            fontMetrics()};
+}
+
 void frmTIDEPicture::placeLabels()
 {
     if (!m_prediction) return;
+    const CurvePlace here = place();
     const int gap = fontMetrics().horizontalAdvance(' ');
     for (std::size_t i = 0; i < m_lblHeight.size(); ++i) {
         QLabel* label = m_lblHeight[i];
         label->adjustSize();
         const QPointF at = toPixel(0, m_picture.lblHeight[i].top);
         label->move(static_cast<int>(at.x()) - gap - label->width(), qRound(at.y()));
-        label->setVisible(isLabelled(m_picture.lblHeight[i].top));
+        label->setVisible(isLevelLabelled(m_picture.lblHeight[i].top, m_picture, here));
     }
     for (std::size_t i = 0; i < m_lblTime.size(); ++i) {
         m_lblTime[i]->adjustSize();
         m_lblTime[i]->move(toPixel(m_picture.lblTime[i].left, m_picture.lblTime[i].top).toPoint());
         m_lblTime[i]->show();
     }
-}
-
-/// Levels outside the scale lie outside the picture; where great tides meet a small window only
-/// every second or third one is written.
-bool frmTIDEPicture::isLabelled(double level) const
-{
-    if (level > m_picture.scale.top) return false;
-    const double unit = toPixel(0, 0).y() - toPixel(0, 1).y();
-    const double every = std::ceil(fontMetrics().height() / std::max(unit, 1.0));
-    return std::fmod(level, every) == 0;
 }
 
 void frmTIDEPicture::readAt(std::optional<double> hour)
@@ -205,12 +202,14 @@ void frmTIDEPicture::draw(QPainter& painter)
         return;
     }
     const ColourScheme colours = ColourScheme::day();
+    const CurvePlace there = place();
+    const CurvePainter curve(painter, m_picture, colours, there);
     painter.setFont(axisFont());
-    drawGrid(painter, colours);
-    drawFurtherLevels(painter, colours);
-    drawAxisTexts(painter, colours);
-    drawAll(painter, colours);
-    drawCurve(painter, colours);
+    curve.drawGrid();
+    curve.drawFurtherLevels();
+    curve.drawAxisTexts();
+    if (m_all) curve.drawAllConstituents(*m_all);
+    curve.drawCurve();
 }
 
 void frmTIDEPicture::drawScreen(QPainter& painter)
@@ -222,13 +221,15 @@ void frmTIDEPicture::drawScreen(QPainter& painter)
         painter.drawText(rect(), Qt::AlignCenter,
                          QString::fromUtf8(emptyHint.data(), qsizetype(emptyHint.size())));
     } else {
+        const CurvePlace here = place();
+        const CurvePainter curve(painter, m_picture, colours, here);
         painter.setClipRegion(QRegion(rect()) - labelsOnGrid());
-        drawGrid(painter, colours);
+        curve.drawGrid();
         painter.setClipping(false);
-        drawFurtherLevels(painter, colours);
-        drawAll(painter, colours);
-        drawCurve(painter, colours);
-        drawMarks(painter, colours);
+        curve.drawFurtherLevels();
+        if (m_all) curve.drawAllConstituents(*m_all);
+        curve.drawCurve();
+        curve.drawMarks(marks(), m_markedLevel);
     }
     if (m_reading) {
         const QPointF at = toPixel(m_reading->point.x, m_reading->point.y);
@@ -254,103 +255,13 @@ QRegion frmTIDEPicture::labelsOnGrid() const
     return region;
 }
 
-QLineF frmTIDEPicture::pixels(const CurveLine& line) const
+std::vector<CurvePoint> frmTIDEPicture::marks() const
 {
-    return {toPixel(line.from.x, line.from.y), toPixel(line.to.x, line.to.y)};
-}
-
-void frmTIDEPicture::drawGrid(QPainter& painter, const ColourScheme& colours) const
-{
-    // Level and upright lines are crisper without smoothing, and much quicker.
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    const auto dotted = [&](const std::vector<CurveLine>& lines, const QColor& colour) {
-        painter.setPen(QPen(colour, 1, Qt::DotLine));
-        for (const CurveLine& line : lines)
-            painter.drawLine(pixels(line));
-    };
-    QColor fine = colours.grid;
-    fine.setAlphaF(0.4f);
-    dotted(m_picture.fineLevelLines, fine);
-    dotted(m_picture.levelLines, colours.grid);
-    dotted(m_picture.hourLines, colours.grid);
-    painter.setPen(QPen(colours.grid, 1));
-    painter.drawLine(plotArea().topLeft(), plotArea().bottomLeft());
-    painter.setPen(QPen(colours.datum, 1));
-    painter.drawLine(pixels(m_picture.zeroLine));
-    painter.setRenderHint(QPainter::Antialiasing);
-}
-
-void frmTIDEPicture::drawFurtherLevels(QPainter& painter, const ColourScheme& colours) const
-{
-    painter.setPen(colours.ink);
-    const double gap = fontMetrics().horizontalAdvance(' ');
-    for (const HeightLabel& level : m_picture.furtherLevels) {
-        if (!isLabelled(level.top)) continue;
-        const QPointF at = toPixel(0, level.top);
-        painter.drawText(QRectF(0, at.y(), at.x() - gap, fontMetrics().height()),
-                         Qt::AlignRight | Qt::AlignTop, QString::fromStdString(level.caption));
-    }
-}
-
-void frmTIDEPicture::drawAxisTexts(QPainter& painter, const ColourScheme& colours) const
-{
-    painter.setPen(colours.ink);
-    const double gap = fontMetrics().horizontalAdvance(' ');
-    const double line = fontMetrics().height();
-    for (const HeightLabel& label : m_picture.lblHeight) {
-        if (!isLabelled(label.top)) continue;
-        const QPointF at = toPixel(0, label.top);
-        painter.drawText(QRectF(0, at.y(), at.x() - gap, line), Qt::AlignRight | Qt::AlignTop,
-                         QString::fromStdString(label.caption));
-    }
-    for (const HourLabel& label : m_picture.lblTime)
-        painter.drawText(QRectF(toPixel(label.left, label.top), QSizeF(4 * line, line)),
-                         Qt::AlignLeft | Qt::AlignTop, QString::fromStdString(label.caption));
-}
-
-void frmTIDEPicture::drawCurve(QPainter& painter, const ColourScheme& colours) const
-{
-    painter.save();
-    painter.setClipRect(plotArea());
-    painter.setPen(QPen(colours.curve, 1));
-    for (const CurveLine& tick : m_picture.ticks)
-        painter.drawLine(pixels(tick));
-    QPolygonF curve;
-    for (const CurvePoint& point : m_picture.curve)
-        curve << toPixel(point.x, point.y);
-    painter.setPen(QPen(colours.curve, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(curve);
-    painter.restore();
-}
-
-/// Thin and with its name, so that nobody takes it for the curve of the labels.
-void frmTIDEPicture::drawAll(QPainter& painter, const ColourScheme& colours) const
-{
-    if (!m_all) return;
-    painter.save();
-    painter.setClipRect(plotArea());
-    QPolygonF curve;
-    for (std::size_t i = 0; i < m_all->size(); ++i)
-        curve << toPixel(static_cast<double>(i) / 2, (*m_all)[i]);
-    painter.setPen(QPen(colours.marker, 1));
-    painter.drawPolyline(curve);
-    const QRectF corner = plotArea().adjusted(0, 0, -painter.fontMetrics().height() / 2.0, 0);
-    painter.drawText(corner, Qt::AlignRight | Qt::AlignTop, "thin: all constituents");
-    painter.restore();
-}
-
-void frmTIDEPicture::drawMarks(QPainter& painter, const ColourScheme& colours) const
-{
-    if (!m_prediction || !m_prediction->day) return;
-    painter.setPen(QPen(colours.marker, 1, Qt::DashLine));
-    if (m_markedLevel &&
-        *m_markedLevel<m_picture.scale.top&& * m_markedLevel> m_picture.scale.bottom)
-        painter.drawLine(pixels({{0, *m_markedLevel}, {24, *m_markedLevel}}));
-    painter.setPen(QPen(colours.marker, 2));
-    painter.setBrush(Qt::NoBrush);
-    const double radius = fontMetrics().height() / 4.0;
+    std::vector<CurvePoint> points;
+    if (!m_prediction || !m_prediction->day) return points;
     for (const NavFunc113::Hours time : m_markedTimes)
-        painter.drawEllipse(toPixel(time.value(), m_prediction->at(time)), radius, radius);
+        points.push_back({time.value(), m_prediction->at(time)});
+    return points;
 }
 
 /// In pixels, so that a scaled painter scales the letters too.

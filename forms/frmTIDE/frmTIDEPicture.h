@@ -3,7 +3,7 @@
 
 #include "app/shell/PictureBox.h"
 #include "app/shell/Program.h"
-#include "forms/frmTIDE/DrawCurve.h"
+#include "forms/frmTIDE/CurvePainter.h"
 
 #include <QLabel>
 
@@ -46,20 +46,14 @@ protected:
 
 private:
     void addAxisLabels();
+    CurvePlace place() const;
     void placeLabels();
-    bool isLabelled(double level) const;
     void placeReading();
     void readAt(std::optional<double> hour);
 
     void drawScreen(QPainter& painter);
-    void drawGrid(QPainter& painter, const ColourScheme& colours) const;
-    void drawFurtherLevels(QPainter& painter, const ColourScheme& colours) const;
-    void drawAxisTexts(QPainter& painter, const ColourScheme& colours) const;
-    void drawCurve(QPainter& painter, const ColourScheme& colours) const;
-    void drawAll(QPainter& painter, const ColourScheme& colours) const;
-    void drawMarks(QPainter& painter, const ColourScheme& colours) const;
     QRegion labelsOnGrid() const;
-    QLineF pixels(const CurveLine& line) const;
+    std::vector<CurvePoint> marks() const;
     QFont axisFont() const;
 
     Program& m_program;

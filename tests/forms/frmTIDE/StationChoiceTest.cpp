@@ -3,6 +3,7 @@
 #include "forms/frmTIDE/StationSearch.h"
 #include "forms/frmTIDE/TideExtension.h"
 #include "forms/frmTIDE/TideHabits.h"
+#include "forms/frmTIDE/TideTables.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
@@ -97,6 +98,23 @@ TEST(StationCheck, everyFieldIsNamedAndJudged)
                 HasSubstr("there is no such file"));
 }
 
+TEST(StationCheck, whatIsShippedIsGoodAndNoneOfTheShipsOwn)
+{
+    const StationList list(TideFolder::shipped());
+    const FullConstants constants(TideFolder::shipped());
+    int files = 0;
+    for (const StationNotes& notes : list.all()) {
+        if (notes.grade == "none") continue;
+        ++files;
+        EXPECT_EQ(checkStation(TideFolder::shipped(), TideKind::Tide, notes.place).doubts(), "");
+        EXPECT_FALSE(
+            StationDays(TideFolder::shipped(), TideKind::Tide, notes.place, list, constants)
+                .isOwn())
+            << notes.place;
+    }
+    EXPECT_EQ(files, 108);
+}
+
 TEST(TideExtension, isMadeKeptAndTakenBack)
 {
     TideFolder beside;
@@ -136,6 +154,7 @@ TEST(TideHabits, theLastFiveStationsOutliveTheWindow)
     for (const char* place : {"Kobe", "Ube", "Otaru", "Kobe", "Irago", "Sasebo", "Tokyo"})
         habits.remember({true, place});
     habits.remember({false, "Brothers"});
+    EXPECT_EQ(habits.stations.size(), 5u) << "as many as the menu shows";
     const TideHabits read =
         habitsOf(readRecord(writeRecord(recordOf(habits)), habitKinds()).record);
     std::string places;

@@ -8,6 +8,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <sstream>
 
 namespace korvel
 {
@@ -216,6 +218,66 @@ TEST(TideTables, weekAndMonthEndWhereTheDatesDo)
     EXPECT_THAT(monthTable(tokyo, "Tokyo", 38717, dates), HasSubstr("2005/12/31"));
     EXPECT_EQ(monthFileName("Tokyo", TideKind::Tide, 37817), "Tide Tokyo 2003-07.csv");
     EXPECT_EQ(monthFileName("Brothers", TideKind::Stream, 37817), "Stream Brothers 2003-07.csv");
+}
+
+/// The next water of a month's table by one of the sums: date, time, water, height.
+std::vector<std::string> nextWater(const std::string& table, const std::string& sum,
+                                   std::size_t& at)
+{
+    const std::size_t end = table.find(",m," + sum, at);
+    if (end == table.npos) return {};
+    at = end + 1;
+    std::istringstream line(table.substr(table.rfind('\n', end) + 1, at));
+    std::vector<std::string> cells(4);
+    for (std::string& cell : cells)
+        std::getline(line, cell, ',');
+    return cells;
+}
+
+TEST(TideTables, areTheIndependentSumsWaterByWater)
+{
+    std::map<std::string, std::string> months;
+    std::map<std::pair<std::string, std::string>, std::size_t> read;
+    std::string week;
+    for (const Golden& row : golden("tide_days")) {
+        const std::string& place = row.text("place");
+        const std::int64_t serial = TideDates::dateIn(row.text("date")).value();
+        std::string& month = months[place];
+        if (month.empty()) {
+            const StationDays station = shippedStation(place);
+            month = monthTable(station, place, serial, {});
+            week.clear();
+            for (const WeekDay& day : weekFrom(station, serial, {}))
+                for (const WaterLine& water : day.waters)
+                    week += water.four + "  " + water.all;
+        }
+        const std::string& sum = row.text("sum");
+        const auto water = nextWater(month, sum, read[{place, sum}]);
+        ASSERT_EQ(water.size(), 4u) << row;
+        const bool isFour = sum == "four";
+        EXPECT_EQ(water[0] + water[2], row.text("date") + row.text("water")) << row;
+        const double minutes = 60 * std::stoi(water[1]) + std::stoi(water[1].substr(3));
+        EXPECT_NEAR(minutes, row.number("minutes"), isFour ? 0.51 : 0.8) << row;
+        EXPECT_NEAR(std::stod(water[3]), row.number("height"), isFour ? 0.0051 : 0.007) << row;
+        if (row.text("date").substr(8) <= "07") {
+            EXPECT_THAT(week, HasSubstr(water[1] + "   " + water[3] + " m")) << row;
+        }
+    }
+    for (auto& [key, at] : read)
+        EXPECT_TRUE(nextWater(months[key.first], key.second, at).empty()) << key.first;
+}
+
+TEST(TideTables, answersAreThoseOfTheIndependentSums)
+{
+    for (const Golden& row : golden("tide_answers")) {
+        const TideDayShown day =
+            shippedStation(row.text("place")).day(TideDates::dateIn(row.text("date")).value());
+        const auto ask = row.text("question") == "time" ? heightAt : timesOfHeight;
+        const CurveAnswer answer = ask(day, row.text("typed"));
+        EXPECT_EQ(answer.text, row.text("four")) << row;
+        EXPECT_EQ(answer.all, row.text("all")) << row;
+    }
+    EXPECT_EQ(heightText(-0.004, TideKind::Tide), "0.00 m") << "neither above nor below";
 }
 
 TEST(StationLines, gradeErrorAndEstimatesOfTheMonth)
