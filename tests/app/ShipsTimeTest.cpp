@@ -134,10 +134,13 @@ TEST_F(ShipsTimeTest, aClockThatCannotBeSetIsKeptAsAnOffsetAndToldOnce)
     EXPECT_EQ(shown(ship.SMT()), "2005/03/14 11:00:00");
     EXPECT_EQ(shown(ship.UTC()), "2005/03/14 01:00:00");
     EXPECT_EQ(ship.offsetText(), "0 h 30 min 00 s ahead");
-    setUp("Yes; 05/03/14 10:30; OK; 10");
+    setUp("Yes; 10:30; OK; 10"); // of the day that it is
     EXPECT_EQ(ship.offsetText(), "");
     setUp("Yes; 05/03/13 22:29; OK; 10");
     EXPECT_EQ(ship.offsetText(), "12 h 01 min 00 s behind");
+    clock.refusal.reset();
+    setUp("Yes; 05/03/14 10:31; OK; 10");
+    EXPECT_EQ(ship.offsetText(), "") << "the clock itself is right";
 }
 
 TEST_F(ShipsTimeTest, staysOnTheCalendarWithAnyTD)
