@@ -3,6 +3,7 @@
 
 #include "app/DelimitedText.h"
 #include "app/Remarks.h"
+#include "app/shifted_record.h"
 
 #include <algorithm>
 #include <array>
@@ -53,32 +54,17 @@ std::optional<Value> valueOfItem(const DelimitedText::Item& item)
 
 bool fits(const Value& value, Kind kind)
 {
-    switch (kind) {
-    case Kind::Any:
-        return true;
-    case Kind::Text:
-        return std::holds_alternative<std::string>(value);
-    case Kind::Number:
-        return std::holds_alternative<double>(value);
-    case Kind::Tick:
-        return std::holds_alternative<bool>(value);
-    }
-    return false;
+    if (kind == Kind::Any) return true;
+    if (kind == Kind::Number) return std::holds_alternative<double>(value);
+    if (kind == Kind::Tick) return std::holds_alternative<bool>(value);
+    return std::holds_alternative<std::string>(value);
 }
 
 const char* inWords(Kind kind)
 {
-    switch (kind) {
-    case Kind::Text:
-        return "a text in quotes";
-    case Kind::Number:
-        return "a number";
-    case Kind::Tick:
-        return "#TRUE# or #FALSE#";
-    case Kind::Any:
-        break;
-    }
-    return "a value";
+    if (kind == Kind::Number) return "a number";
+    if (kind == Kind::Tick) return "#TRUE# or #FALSE#";
+    return kind == Kind::Any ? "a value" : "a text in quotes";
 }
 
 bool isUtf8(std::string_view text)
@@ -115,8 +101,39 @@ std::optional<Value> valueOfKind(const DelimitedText::Item& item, Kind kind)
     if (!value) return std::nullopt;
     if (fits(*value, kind) || std::holds_alternative<std::monostate>(*value)) return value;
     // A number that stands where a text is due is what somebody typed without quotes.
-    if (kind == Kind::Text && std::holds_alternative<double>(*value)) return std::string(item.text);
+    if (kind != Kind::Tick && std::holds_alternative<double>(*value)) return std::string(item.text);
     return std::nullopt;
+}
+
+/// All values of a text as they come.
+std::vector<PerhapsValue> valuesAsTheyCome(std::string_view text)
+{
+    std::vector<PerhapsValue> values;
+    for (DelimitedText items(text); !items.atEnd();) {
+        const DelimitedText::Item item = items.next();
+        values.push_back(flawOf(item).empty() ? valueOf(item) : std::nullopt);
+        if (!values.back()) items.skipLine();
+    }
+    return values;
+}
+
+/// A record that has lost lines, or got some, within it.
+void settle(ReadRecord& record, std::string_view text, std::span<const Kind> kinds)
+{
+    std::vector<PerhapsValue> values = valuesAsTheyCome(text);
+    while (values.size() > kinds.size() && values.back() == Value())
+        values.pop_back();
+    if (values.size() == kinds.size()) return;
+    const auto placed = putIntoPlaces(values, kinds);
+    if (!placed) return;
+    record.damage.push_back(values.size() < kinds.size()
+                                ? "lines are missing within it, not at its end"
+                                : "lines within it are none of its own");
+    for (std::size_t i = 0; i < kinds.size(); ++i) {
+        const PerhapsValue& value = (*placed)[i];
+        record.wasRead[i] = value && fits(*value, kinds[i]);
+        record.record[i] = record.wasRead[i] ? *value : Value();
+    }
 }
 
 } // namespace
@@ -176,6 +193,7 @@ ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds)
     if (!items.atEnd())
         result.damage.push_back("it goes on behind its " + std::to_string(kinds.size()) +
                                 " values");
+    if (!cutOff) settle(result, text, kinds);
     return result;
 }
 

@@ -149,6 +149,14 @@ void KeyUpBox::settle()
     if (onKeyUp) onKeyUp();
 }
 
+std::vector<Kind> recordKinds(const std::vector<EntryBox*>& boxes)
+{
+    std::vector<Kind> kinds;
+    for (const EntryBox* box : boxes)
+        kinds.push_back(box->recordKind);
+    return kinds;
+}
+
 void setEntryOrder(const std::vector<EntryBox*>& boxes)
 {
     for (std::size_t i = 0; i < boxes.size(); ++i)

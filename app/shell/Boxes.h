@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/settings_record.h"
+
 #include <QLineEdit>
 
 #include <functional>
@@ -28,6 +30,9 @@ public:
     /// Greatest number of characters of a number, a date or a position; of a text for the log.
     static constexpr int longestFigure = 40;
     static constexpr int longestText = 100;
+
+    /// What its text looks like in the window's record.
+    Kind recordKind = Kind::Text;
 
     /// Where Enter goes; nullptr leaves it in the box, all selected.
     void setNext(EntryBox* next) { m_next = next; }
@@ -77,6 +82,9 @@ private:
     QString m_held;
     bool m_keyGoingDown = false;
 };
+
+/// The kinds of their texts in a record.
+std::vector<Kind> recordKinds(const std::vector<EntryBox*>& boxes);
 
 /// Lets Enter go through the boxes in this order, from the last back to the first.
 void setEntryOrder(const std::vector<EntryBox*>& boxes);

@@ -25,6 +25,24 @@ EntryBox* boxOf(const Field& field, QWidget* parent)
     return new EntryBox(parent);
 }
 
+Kind recordKindOf(FieldKind kind)
+{
+    switch (kind) {
+    case FieldKind::Text:
+        return Kind::Text;
+    case FieldKind::Moment:
+        return Kind::Moment;
+    case FieldKind::Latitude:
+        return Kind::Latitude;
+    case FieldKind::Longitude:
+        return Kind::Longitude;
+    case FieldKind::Number:
+    case FieldKind::KeyUp:
+        break;
+    }
+    return Kind::Figure;
+}
+
 } // namespace
 
 FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(table)
@@ -33,6 +51,7 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
         EntryBox* box = boxOf(field, parent);
         box->setObjectName(field.name);
         box->setAccessibleName(field.accessibleName);
+        box->recordKind = recordKindOf(field.kind);
         if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
         if (field.kind == FieldKind::Longitude && !m_boxes.empty())
             if (auto* latitude = dynamic_cast<PositionBox*>(m_boxes.back()))

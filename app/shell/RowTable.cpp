@@ -13,10 +13,28 @@ namespace
 
 using Holds = TableColumn::Holds;
 
+/// Nothing for what is no box.
+std::optional<Kind> recordKindOf(Holds holds)
+{
+    switch (holds) {
+    case Holds::Text:
+        return Kind::Text;
+    case Holds::Figure:
+        return Kind::Figure;
+    case Holds::Moment:
+        return Kind::Moment;
+    case Holds::Latitude:
+        return Kind::Latitude;
+    case Holds::Longitude:
+        return Kind::Longitude;
+    default:
+        return std::nullopt;
+    }
+}
+
 bool isBox(const TableColumn& column)
 {
-    return column.holds == Holds::Text || column.holds == Holds::Figure ||
-           column.holds == Holds::Latitude || column.holds == Holds::Longitude;
+    return recordKindOf(column.holds).has_value();
 }
 
 bool isResult(const TableColumn& column)
@@ -73,6 +91,7 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
         break;
     case Holds::Text:
     case Holds::Figure:
+    case Holds::Moment:
         made = new EntryBox(this);
         break;
     case Holds::Latitude:
@@ -84,6 +103,7 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
     }
     made->setObjectName(memberName(column.name, static_cast<int>(row)));
     made->setAccessibleName(QString(column.accessibleName).replace("%1", QString::number(row + 1)));
+    if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = *recordKindOf(column.holds);
     if (column.holds == Holds::Text)
         static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
     auto* position = dynamic_cast<PositionBox*>(made);

@@ -16,6 +16,7 @@ struct TableColumn {
         Number,
         Text,
         Figure,
+        Moment,
         Latitude,
         Longitude,
         Echo,

@@ -39,7 +39,7 @@ void WindowRecord::use(const std::string& file, std::vector<Kind> kinds, Save sa
 void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxes,
                             std::function<void(Record&)> settle)
 {
-    std::vector<Kind> kinds(boxes.size(), Kind::Text);
+    std::vector<Kind> kinds = recordKinds(boxes);
     const Load load = [boxes](const Record& record) {
         for (std::size_t i = 0; i < boxes.size(); ++i)
             boxes[i]->setText(QString::fromStdString(textOf(record[i])));

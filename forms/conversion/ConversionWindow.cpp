@@ -105,7 +105,7 @@ void ConversionWindow::addMenus()
 
 void ConversionWindow::useConversionSettings(const char* file)
 {
-    std::vector<Kind> kinds(m_boxes.size(), Kind::Text);
+    std::vector<Kind> kinds(m_boxes.size(), Kind::Figure);
     kinds.push_back(Kind::Number);
     const auto save = [this] {
         Record values;

@@ -188,7 +188,7 @@ void frmCRUDE::addMemoMenus()
 
 void frmCRUDE::useCrudeSettings()
 {
-    std::vector<Kind> kinds(m_boxes.size(), Kind::Text);
+    std::vector<Kind> kinds = recordKinds(m_boxes.all());
     kinds.insert(kinds.end(), m_choices.size(), Kind::Number);
     kinds.push_back(Kind::Tick);
     const auto save = [this] {

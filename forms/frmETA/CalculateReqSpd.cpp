@@ -34,6 +34,14 @@ std::string complaint(const ReqSpdInput& input)
     return "";
 }
 
+std::string remarksOnArrival(const ReqSpdInput& input)
+{
+    Remarks said;
+    warnOfKind("arrival date", input.txtTime[2], Due::Date, said);
+    warnOfKind("arrival time", input.txtTime[3], Due::TimeOfDay, said);
+    return said.text();
+}
+
 } // namespace
 
 ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
@@ -42,18 +50,20 @@ ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
         return {std::nullopt, input.txtDist.empty()
                                   ? "" // nobody has asked for a speed yet
                                   : "No arrival wanted is given: no required speed."};
-    if (std::string notice = complaint(input); !notice.empty()) return {std::nullopt, notice};
+    const std::string onArrival = remarksOnArrival(input);
+    // What disturbs the table of arrivals too is said with that.
+    const auto refused = [&](const std::string& why) -> ReqSpdResult {
+        return {std::nullopt, onArrival.empty() ? why : onArrival + "."};
+    };
+    if (const std::string notice = complaint(input); !notice.empty()) return refused(notice);
     const double departure =
         *passageTime(input.txtTime[0], input.txtTime[1]) - readNumber(input.txtTD[0]) / 24;
     const double arrival =
         *passageTime(input.txtTime[2], input.txtTime[3]) - readNumber(input.txtTD[1]) / 24;
     // Within half a second they are one moment, whatever the last bits of their fractions are.
     const double hours = (arrival - departure) * 24;
-    if (hours * 3600 < 0.5) return {std::nullopt, "The arrival does not lie after the departure."};
-    Remarks said;
-    warnOfKind("arrival date", input.txtTime[2], Due::Date, said);
-    warnOfKind("arrival time", input.txtTime[3], Due::TimeOfDay, said);
-    return {Format(NavFunc113::Quotient(readNumber(input.txtDist), hours), "0.00"), said.text()};
+    if (hours * 3600 < 0.5) return refused("The arrival does not lie after the departure.");
+    return {Format(NavFunc113::Quotient(readNumber(input.txtDist), hours), "0.00"), onArrival};
 }
 
 } // namespace korvel

@@ -29,7 +29,7 @@ constexpr double smaller = 0.85; ///< letters of the heading: thirteen columns s
 
 constexpr std::array<TableColumn, 13> columns = {{
     {"lblRow", "No.", "29 !", Holds::Number, "Row %1, number", Qt::AlignRight},
-    {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", Holds::Figure,
+    {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", Holds::Moment,
      "Row %1, ship's mean time of the fix, 0930 or 14-0930 or 2024/5/14 0930"},
     {"txtSatelliteTD", "TD h", "-00.0", Holds::Figure,
      "Row %1, time difference, hours, east positive"},

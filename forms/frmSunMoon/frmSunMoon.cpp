@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace korvel
@@ -162,6 +163,7 @@ void frmSunMoon::addMenus()
 {
     QMenu* clear = menus().add("&Clear", "mnuAC");
     menus().addEntry(clear, "mnuAC", 0, "&All rows", [this] { clearAll(); });
+    menus().addEntry(clear, "mnuAC", 1, "&Undo", [this] { undoClear(); });
 
     QMenu* memo = menus().add("&Memo", "mnuSUNMOON");
     struct Entry {
@@ -305,9 +307,30 @@ void frmSunMoon::clearAll()
     if (program().questions().ask(
             {"Are you sure to clear all contents?", programTitle, Buttons::YesNo}) != Answer::Yes)
         return;
+    std::vector<QString> texts;
+    for (const EntryBox* box : m_table->boxes())
+        texts.push_back(box->text());
+    if (!std::ranges::all_of(texts, &QString::isEmpty)) m_cleared = std::move(texts);
     for (EntryBox* box : m_table->boxes())
         box->clear();
     m_table->box(0, Place)->setFocus(Qt::TabFocusReason);
+    record().saveSoon();
+}
+
+/// Brings back the rows in which nothing was typed since they were cleared.
+void frmSunMoon::undoClear()
+{
+    auto before = m_cleared.begin();
+    for (std::size_t row = 0; row < rows && before != m_cleared.end(); ++row) {
+        const std::vector<EntryBox*> boxes = m_table->boxesOfRow(row);
+        const bool isFree =
+            std::ranges::all_of(boxes, [](const EntryBox* box) { return box->text().isEmpty(); });
+        for (EntryBox* box : boxes) {
+            if (isFree) box->setText(*before);
+            ++before;
+        }
+    }
+    m_cleared.clear();
     record().saveSoon();
 }
 

@@ -100,8 +100,10 @@ void frmWind::connectPicture()
 
 void frmWind::nameSettings()
 {
+    std::vector<Kind> kinds = recordKinds(m_txtWind.all());
+    kinds.push_back(Kind::Number);
     record().use(
-        "KV_Wind.ini", {Kind::Text, Kind::Text, Kind::Text, Kind::Text, Kind::Number},
+        "KV_Wind.ini", std::move(kinds),
         [this] {
             Record values;
             for (const EntryBox* box : m_txtWind.all())

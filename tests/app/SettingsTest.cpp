@@ -66,6 +66,21 @@ TEST(SettingsRecord, takesWhatCanBeReadAndNamesTheDamage)
     }
 }
 
+TEST(SettingsRecord, putsRightWhatALostLineHasShifted)
+{
+    using enum Kind;
+    constexpr Kind kinds[] = {Text,   Figure,   Latitude,  Longitude, Text,
+                              Figure, Latitude, Longitude, Moment};
+    for (const Golden& row : golden("shifted_records")) {
+        std::string file = '"' + row.text("file") + "\"\r\n";
+        for (std::size_t at = 0; (at = file.find('|', at)) != std::string::npos;)
+            file.replace(at, 1, "\"\r\n\"");
+        std::string taken = values(readRecord(file, kinds).record);
+        std::erase(taken, '"');
+        EXPECT_EQ(taken, row.text("taken")) << row;
+    }
+}
+
 TEST(SettingsRecord, isUtf8)
 {
     const struct {

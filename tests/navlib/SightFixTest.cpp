@@ -131,6 +131,10 @@ TEST(SightFix, circleOfPosition)
     const auto points = CirclePoints(high, {Degrees(14.9), Degrees(-52)}, Miles(40), 3);
     EXPECT_NEAR(60 * (points[1].latitude - points[0].latitude).value(), 1.32, 0.1);
     EXPECT_LT(points[0].longitude, points[2].longitude) << "clockwise, the ship to the north";
+    // A circle that is shorter than asked for is drawn once round, from its far side on.
+    const Sight overhead{Degrees(52), Degrees(5), Degrees(89.8), {}};
+    const auto whole = CirclePoints(overhead, {Degrees(14.9), Degrees(-52)}, Miles(60), 5);
+    EXPECT_NEAR(whole.front().latitude.value(), 4.8, 1e-3);
 }
 
 TEST(SightFix, aRunBackLeadsBack)

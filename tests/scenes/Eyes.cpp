@@ -253,6 +253,14 @@ void sheets(Stage& stage, const Words& words)
         throw std::runtime_error("a word of " + Format(lowest, "0.00") + " points");
 }
 
+void size(Stage& stage, const Words& words)
+{
+    const QSize now = stage.window().size();
+    if (wordAt(words, 0) == "noted") stage.notedSize = now;
+    if (now != stage.notedSize)
+        throw std::runtime_error("it is " + std::to_string(now.width()) + " wide now");
+}
+
 } // namespace
 
 const std::map<std::string, Verb>& eyeVerbs()
@@ -296,6 +304,7 @@ const std::map<std::string, Verb>& eyeVerbs()
         {"contrast", contrast},
         {"printed", [](S s, W w) { expectText(s.printedText(), w, 0); }},
         {"sheets", sheets},
+        {"size", size},
         {"asked", [](S s, W w) { expectText(s.questions.asked.back(), w, 0); }},
         {"offered", [](S s, W w) { expectText(s.questions.offered.back(), w, 0); }},
         {"saves",

@@ -8,6 +8,10 @@
 #include <QFile>
 #include <QTest>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 namespace korvel::testing
 {
 namespace
@@ -79,7 +83,21 @@ void takeData(Stage& stage, const Words& words)
         throw std::runtime_error("no data " + words[0].text);
 }
 
-/// Refuses to save, or to set the clock, with a reason; no reason ends that.
+/// The limit on file sizes makes every further byte fail, as a full disk does.
+std::shared_ptr<void> makeDiskFull()
+{
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit full{1024, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &full);
+    return {nullptr, [before, handler](void*) {
+                setrlimit(RLIMIT_FSIZE, &before);
+                std::signal(SIGXFSZ, handler);
+            }};
+}
+
+/// Refuses to save, to set the clock or to take a page, with a reason; no reason ends that.
 void refuse(Stage& stage, const Words& words)
 {
     const std::string& what = wordAt(words, 0);
@@ -89,6 +107,8 @@ void refuse(Stage& stage, const Words& words)
         stage.files.refusal = reason;
     else if (what == "clock")
         stage.clock.refusal = reason;
+    else if (what == "paper")
+        stage.fullDisk = reason ? makeDiskFull() : nullptr;
     else
         throw std::runtime_error("nothing refuses " + what);
 }

@@ -66,6 +66,8 @@ public:
     FakeClock clock;
     FakeBell bell;
     StageFiles files{folder.path()};
+    std::shared_ptr<void> fullDisk; ///< while it lives, no file gets longer than 1 kB
+    QSize notedSize;                ///< of the window in hand
 
 private:
     std::string readPage(const QString& as) const;
