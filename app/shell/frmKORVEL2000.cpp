@@ -162,8 +162,10 @@ void frmKORVEL2000::timeChanged()
 void frmKORVEL2000::showClockRemarks()
 {
     const std::string offset = m_shipsTime.offsetText();
-    m_panel->showOffset(
-        offset.empty() ? "" : "Ship's time is kept " + offset + " of the computer's clock");
+    m_panel->showOffset(offset.empty() ? ""
+                                       : "Ship's time is kept " + offset +
+                                             (m_shipsTime.offsetSeconds() > 0 ? " of" : "") +
+                                             " the computer's clock");
     m_panel->showZoneNotice(m_shipsTime.zoneNotice());
 }
 
