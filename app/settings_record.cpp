@@ -111,7 +111,7 @@ std::vector<PerhapsValue> valuesAsTheyCome(std::string_view text)
     std::vector<PerhapsValue> values;
     for (DelimitedText items(text); !items.atEnd();) {
         const DelimitedText::Item item = items.next();
-        values.push_back(flawOf(item).empty() ? valueOf(item) : std::nullopt);
+        values.push_back(flawOf(item).empty() ? valueOfItem(item) : std::nullopt);
         if (!values.back()) items.skipLine();
     }
     return values;

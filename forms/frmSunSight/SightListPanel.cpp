@@ -22,6 +22,19 @@ QString lineOf(const RecordedSight& sight, const std::string& line)
                                   (line.empty() ? "" : "  ") + line);
 }
 
+/// Room for a line with a residual that is out by far: that is the one to be read.
+int widthOfLines(QListWidget& list)
+{
+    auto* widest = new QListWidgetItem(
+        "0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0  000'.0 T  Zn 000.0  "
+        "residual -000.0 nm",
+        &list);
+    widest->setCheckState(Qt::Checked);
+    const int width = list.sizeHintForColumn(0);
+    list.clear();
+    return width;
+}
+
 } // namespace
 
 SightListPanel::SightListPanel(QWidget* parent)
@@ -38,10 +51,7 @@ SightListPanel::SightListPanel(QWidget* parent)
     const int line = std::max(m_lstSunSight->fontMetrics().height(),
                               style()->pixelMetric(QStyle::PM_IndicatorHeight)) +
                      2;
-    m_lstSunSight->setMinimumWidth(
-        line + m_lstSunSight->fontMetrics().horizontalAdvance(
-                   "0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0  00'.0 T  Zn 000.0  "
-                   "residual -00.0 nm"));
+    m_lstSunSight->setMinimumWidth(widthOfLines(*m_lstSunSight) + 2 * m_lstSunSight->frameWidth());
     m_lstSunSight->setMinimumHeight(linesInSight * line + 2 * m_lstSunSight->frameWidth());
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         emit switched(static_cast<std::size_t>(m_lstSunSight->row(item)),

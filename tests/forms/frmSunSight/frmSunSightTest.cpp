@@ -60,6 +60,7 @@ TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)
     const auto& sights = static_cast<QListWidget&>(control(window, "lstSunSight"));
     EXPECT_TRUE(sights.viewport()->rect().contains(sights.visualItemRect(sights.item(7))));
     EXPECT_GE(control(window, "picSunSight").height(), 240);
+    EXPECT_LE(sights.sizeHintForColumn(0), sights.viewport()->width()) << "residuals cut off";
 }
 
 } // namespace
