@@ -145,10 +145,10 @@ TEST(Alarms, ringInTheirMinuteAndNoOtherWithEveryTD)
         }
         const std::int64_t first =
             NavFunc113::DaySerial({2001 + (tenths + 120) % 10, 2, 28}) * 1440;
-        for (std::int64_t minute = first; minute < first + 2 * 1440; ++minute) {
+        for (std::int64_t minute = first; minute < first + std::int64_t(2) * 1440; ++minute) {
             const double utc =
                 double(minute * 60 + std::max(second(random), std::int64_t(0))) / 86400;
-            const auto expected = due.find((minute + tenths * 6) % 1440);
+            const auto expected = due.find((minute + std::int64_t(tenths) * 6) % 1440);
             ASSERT_EQ(check(alarms, utc + TD / 24),
                       expected == due.end() ? std::vector<std::string>() : expected->second)
                 << TD << " " << minute;

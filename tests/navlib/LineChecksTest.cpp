@@ -27,6 +27,7 @@ std::vector<double> numbersOf(const std::string& text)
 std::vector<double> indicesOf(const std::vector<LineCheck>& checks)
 {
     std::vector<double> indices;
+    indices.reserve(checks.size());
     for (const LineCheck& check : checks)
         indices.push_back(static_cast<double>(check.index));
     return indices;

@@ -13,7 +13,7 @@ namespace
 using namespace korvel::testing;
 using ::testing::HasSubstr;
 
-RiseSetResult calculate(RiseSetInput input)
+RiseSetResult calculate(const RiseSetInput& input)
 {
     RiseSetRow row;
     return CalculateRiseSet(input, row);

@@ -55,7 +55,7 @@ TEST(Factors, malformedFilesAreReadOrRefused)
     } rows[] = {
         {"no line end after the last line", lines.substr(0, 46 * 8 - 2), 6, none},
         {"blanks for commas", with(46 * 3 + 8, 1, " "), 3, none},
-        {"an old-style key", with(46 * 3, 8, "00000004"), 3, none},
+        {"an old-style key", with(46UL * 3, 8, "00000004"), 3, none},
         {"trouble elsewhere is none of this day's", with(0, 1, "x"), 3, none},
         {"short by its last line", lines, 7, "AF2005.txt, line 9: the line is missing"},
         {"a short line before", with(46 * 2 + 5, 1, ""), 4, "AF2005.txt, line 3: the line has 43"},
