@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace korvel
 {
@@ -51,6 +52,23 @@ public:
     /// Removes a file; one that is missing is removed already.
     /// @return nothing on success, otherwise the reason in words
     virtual std::optional<std::string> remove(const std::string& name) = 0;
+
+    /// Adds to the end of a file, which is made when it is missing. What is there stays as it is:
+    /// an addition that cannot be written whole is taken back.
+    /// @return nothing on success, otherwise the reason in words
+    virtual std::optional<std::string> append(const std::string& name,
+                                              const std::string& bytes) = 0;
+
+    /// Names of the files that begin and end so, in their order.
+    virtual std::vector<std::string> names(const std::string& beginning,
+                                           const std::string& ending) const = 0;
+
+    /// Reads a file that the officer chose, anywhere.
+    /// @param path in full, as the system writes it
+    virtual Content readAnywhere(const std::string& path) = 0;
+    /// Replaces a file that the officer chose whole or not at all, as save() does.
+    virtual std::optional<std::string> saveAnywhere(const std::string& path,
+                                                    const std::string& bytes) = 0;
 
     /// Full path of a file as the system writes it, for messages.
     virtual std::string path(const std::string& name) const = 0;

@@ -32,6 +32,16 @@ public:
     virtual std::optional<std::string> input(const std::string& prompt, const std::string& title,
                                              const std::string& defaultAnswer) = 0;
 
+    /// Asks for a file to write; the officer has agreed to replace one that is there.
+    /// @param offered name with its ending, "Course 2026-11-21.pdf"
+    /// @return its full path; nothing when the officer cancelled
+    virtual std::optional<std::string> fileToWrite(const std::string& title,
+                                                   const std::string& offered) = 0;
+    /// Asks for a file to read.
+    /// @param ending of the files that are shown, "csv"
+    virtual std::optional<std::string> fileToRead(const std::string& title,
+                                                  const std::string& ending) = 0;
+
     virtual void beep() = 0;
 };
 

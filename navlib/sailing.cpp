@@ -11,17 +11,12 @@ namespace NavFunc113
 namespace
 {
 
-struct Node {
-    double lat; // degrees
-    double factor;
-};
-
-constexpr std::array<Node, 5> latitudeFactors{
+constexpr std::array<FactorNode, 5> latitudeFactors{
     {{0, 0.99509}, {20, 0.99627}, {40, 0.99924}, {65, 1.00335}, {90, 1.00518}}};
-constexpr std::array<Node, 4> parallelFactors{
+constexpr std::array<FactorNode, 4> parallelFactors{
     {{0, 1.00178}, {30, 1.00263}, {60, 1.00432}, {90, 1.00518}}};
 // Dead reckoning has its own value at the pole, on purpose.
-constexpr std::array<Node, 4> runFactors{
+constexpr std::array<FactorNode, 4> runFactors{
     {{0, 1.00178}, {30, 1.00263}, {60, 1.00432}, {90, 1.00513}}};
 
 // Deliberately not 2, and the same for distance and dead reckoning.
@@ -41,7 +36,7 @@ Degrees asItStands(DegMin lat)
 // The steps of InterpolateLagrange over a table whose nodes the compiler knows, so that it can
 // unroll them and work on several weights at once.
 template <std::size_t n>
-double factorAt(Degrees lat, const std::array<Node, n>& table)
+double factorAt(Degrees lat, const std::array<FactorNode, n>& table)
 {
     std::array<double, n> weights;
     weights.fill(1);
@@ -87,10 +82,13 @@ bool eastward(Degrees lambda1, Degrees lambda2)
     return fabs(lambda2 - lambda1) != halfTurn && shorterWay(lambda1, lambda2) > Degrees(0);
 }
 
-Degrees courseBetween(const Place& from, const Place& to)
+Degrees courseBetween(const Place& from, const Place& to, RhumbSteps& steps)
 {
     const Degrees change = shorterWay(from.lambda, to.lambda);
-    const double parts = MeridionalParts(to.phi) - MeridionalParts(from.phi);
+    steps.changeOfLongitude = change;
+    steps.parts1 = MeridionalParts(from.phi);
+    steps.parts2 = MeridionalParts(to.phi);
+    const double parts = steps.parts2 - steps.parts1;
     if (parts == 0) {
         if (change == Degrees(0)) return Degrees(0);
         return eastward(from.lambda, to.lambda) ? dueEast : dueWest;
@@ -109,14 +107,22 @@ Miles alongParallel(const Place& from, const Place& to)
 
 // The course is asked for only where the distance needs it: along a parallel it may not exist.
 template <typename Course>
-Miles distanceBetween(const Place& from, const Place& to, DegMin lat1, Earth earth, Course course)
+Miles distanceBetween(const Place& from, const Place& to, DegMin lat1, Earth earth, Course course,
+                      RhumbSteps& steps)
 {
     Degrees change = to.phi - from.phi;
-    if (earth == Earth::Spheroid)
-        change *= LatitudeFactor(fabs(from.phi + to.phi) / latitudeFactorDivisor);
+    if (earth == Earth::Spheroid) {
+        steps.lookup = fabs(from.phi + to.phi) / latitudeFactorDivisor;
+        steps.latitudeFactor = LatitudeFactor(steps.lookup);
+        change *= steps.latitudeFactor;
+    }
+    steps.changeOfLatitude = change;
     if (fabs(change) < sameParallel) {
+        steps.alongParallel = true;
         const Miles distance = alongParallel(from, to);
-        return earth == Earth::Spheroid ? distance * ParallelFactor(asItStands(lat1)) : distance;
+        if (earth == Earth::Sphere) return distance;
+        steps.parallelFactor = ParallelFactor(asItStands(lat1));
+        return distance * steps.parallelFactor;
     }
     const Degrees angle = course();
     // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
@@ -158,37 +164,68 @@ double ParallelFactor(Degrees lat)
     return factorAt(lat, parallelFactors);
 }
 
+std::span<const FactorNode> LatitudeFactorTable()
+{
+    return latitudeFactors;
+}
+
+std::span<const FactorNode> ParallelFactorTable()
+{
+    return parallelFactors;
+}
+
+std::span<const FactorNode> RunFactorTable()
+{
+    return runFactors;
+}
+
 Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)
 {
-    return courseBetween(placeOf(lat1, long1), placeOf(lat2, long2));
+    RhumbSteps steps;
+    return courseBetween(placeOf(lat1, long1), placeOf(lat2, long2), steps);
 }
 
 RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth)
 {
     const Place from = placeOf(lat1, long1);
     const Place to = placeOf(lat2, long2);
-    const Degrees course = courseBetween(from, to);
-    return {course, distanceBetween(from, to, lat1, earth, [course] { return course; })};
+    RhumbLeg leg;
+    leg.course = courseBetween(from, to, leg.steps);
+    leg.distance = distanceBetween(
+        from, to, lat1, earth, [&leg] { return leg.course; }, leg.steps);
+    return leg;
 }
 
 Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth)
 {
     const Place from = placeOf(lat1, long1);
     const Place to = placeOf(lat2, long2);
-    return distanceBetween(from, to, lat1, earth, [&] { return courseBetween(from, to); });
+    RhumbSteps steps;
+    return distanceBetween(
+        from, to, lat1, earth, [&] { return courseBetween(from, to, steps); }, steps);
+}
+
+LatitudeRun RunInLatitude(DegMin lat, Degrees course, Miles distance, Earth earth)
+{
+    LatitudeRun steps;
+    steps.reached = lat;
+    if (distance <= Miles(0)) return steps;
+    steps.run = ArcOfMiles(distance) * cos(course);
+    steps.change = steps.run;
+    if (earth == Earth::Spheroid) {
+        // lat enters as it is packed: the factor varies too slowly for the difference to show.
+        steps.lookup =
+            Degrees(std::fabs(2 * lat.packed() + steps.run.value()) / latitudeFactorDivisor);
+        steps.factor = LatitudeFactor(steps.lookup);
+        steps.change = Quotient(steps.run, steps.factor);
+    }
+    steps.reached = DegToDegMin(DegMinToDeg(lat) + steps.change);
+    return steps;
 }
 
 DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, Earth earth)
 {
-    if (distance <= Miles(0)) return lat;
-    Degrees change = ArcOfMiles(distance) * cos(course);
-    if (earth == Earth::Spheroid) {
-        // lat enters as it is packed: the factor varies too slowly for the difference to show.
-        const Degrees lookup =
-            Degrees(std::fabs(2 * lat.packed() + change.value()) / latitudeFactorDivisor);
-        change = Quotient(change, LatitudeFactor(lookup));
-    }
-    return DegToDegMin(DegMinToDeg(lat) + change);
+    return RunInLatitude(lat, course, distance, earth).reached;
 }
 
 DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth)
@@ -200,30 +237,42 @@ DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Ea
 DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth,
                    DegMin latReached)
 {
-    if (distance <= Miles(0)) return long1;
+    return RunInLongitude(lat1, long1, course, distance, earth, latReached).reached;
+}
+
+LongitudeRun RunInLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth,
+                            DegMin latReached)
+{
+    LongitudeRun steps;
+    steps.reached = long1;
+    if (distance <= Miles(0)) return steps;
     const Degrees phi1 = DegMinToDeg(lat1);
-    Degrees change;
     if (course == dueEast || course == dueWest) {
         // The cosine of a right angle is not quite 0 in binary, the fault is one all the same.
         if (fabs(phi1) == quarterTurn)
             throw ArithmeticError(ArithmeticError::Condition::DivisionByZero);
         const Miles run = course == dueEast ? distance : -distance;
-        change = ArcOfMiles(Quotient(run, cos(phi1)));
-        if (earth == Earth::Spheroid)
-            change = Quotient(change, factorAt(asItStands(lat1), runFactors));
+        steps.alongParallel = true;
+        steps.change = ArcOfMiles(Quotient(run, cos(phi1)));
+        if (earth == Earth::Spheroid) {
+            steps.factor = factorAt(asItStands(lat1), runFactors);
+            steps.change = Quotient(steps.change, steps.factor);
+        }
     } else {
         // First what does not wait for the latitude reached.
         const double slope = tan(course);
-        const double partsLeft = MeridionalParts(phi1);
-        const double parts = MeridionalParts(DegMinToDeg(latReached)) - partsLeft;
-        change = Degrees(slope * parts / 60);
+        steps.parts1 = MeridionalParts(phi1);
+        steps.parts2 = MeridionalParts(DegMinToDeg(latReached));
+        const double parts = steps.parts2 - steps.parts1;
+        steps.change = Degrees(slope * parts / 60);
     }
-    Degrees lambda = DegMinToDeg(long1) + change;
+    Degrees lambda = DegMinToDeg(long1) + steps.change;
     // Close to a pole a run can go round the earth many times.
     if (fabs(lambda) > halfTurn + fullTurn) lambda = Degrees(std::fmod(lambda.value(), 360));
     if (lambda > halfTurn) lambda -= fullTurn;
     if (lambda < -halfTurn) lambda += fullTurn;
-    return DegToDegMin(lambda);
+    steps.reached = DegToDegMin(lambda);
+    return steps;
 }
 
 Miles GCDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2)

@@ -3,6 +3,7 @@
 
 #include "navlib/units.h"
 
+#include <span>
 #include <string_view>
 
 /// Sailing formulas: rhumb line by meridional parts, dead reckoning and great circle.
@@ -44,6 +45,16 @@ double LatitudeFactor(Degrees lat);
 /// @param lat decimal degrees, 0 .. 90
 double ParallelFactor(Degrees lat);
 
+/// A node of the tables between which the factors are interpolated by Lagrange's formula.
+struct FactorNode {
+    double lat; ///< degrees
+    double factor;
+};
+std::span<const FactorNode> LatitudeFactorTable();
+std::span<const FactorNode> ParallelFactorTable();
+/// That of dead reckoning along a parallel.
+std::span<const FactorNode> RunFactorTable();
+
 /// Rhumb-line course from one position to another.
 /// @return true, 0 <= course < 360; 0 for equal positions
 /// @throws ArithmeticError as MeridionalParts
@@ -55,10 +66,23 @@ Degrees RhumbCourse(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2);
 ///         between different latitudes
 Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth earth);
 
+/// What a rhumb-line leg was calculated from, in the order of its working.
+struct RhumbSteps {
+    Degrees changeOfLongitude; ///< by the shorter way, east positive
+    double parts1 = 0;         ///< meridional parts of either latitude
+    double parts2 = 0;
+    Degrees lookup;             ///< latitude with which latitudeFactor was looked up
+    double latitudeFactor = 1;  ///< miles of a minute of latitude; 1 on the sphere
+    Degrees changeOfLatitude;   ///< times that factor
+    bool alongParallel = false; ///< the distance is that along the parallel
+    double parallelFactor = 1;  ///< miles of a minute of longitude by its cosine; 1 on the sphere
+};
+
 /// A rhumb-line leg.
 struct RhumbLeg {
     Degrees course; ///< true, 0 <= course < 360
     Miles distance;
+    RhumbSteps steps;
 };
 
 /// RhumbCourse and RhumbDistance of one leg in one go, for whoever wants both.
@@ -72,6 +96,16 @@ RhumbLeg RhumbCourseAndDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin l
 /// @param distance 0 or less: not under way, lat comes back untouched
 /// @return latitude reached; beyond 90 when the run crosses a pole (the caller decides)
 DegMin DRLatitude(DegMin lat, Degrees course, Miles distance, Earth earth);
+
+/// DRLatitude with what it was calculated from.
+struct LatitudeRun {
+    Degrees run;       ///< distance x cos course, as arc
+    Degrees lookup;    ///< latitude with which the factor was looked up
+    double factor = 1; ///< miles of a minute of latitude; 1 on the sphere
+    Degrees change;    ///< of latitude
+    DegMin reached;
+};
+LatitudeRun RunInLatitude(DegMin lat, Degrees course, Miles distance, Earth earth);
 
 /// Longitude reached by dead reckoning. On courses of exactly 90 and 270 by the length of the
 /// parallel, otherwise by meridional parts up to the latitude that DRLatitude reaches.
@@ -87,6 +121,18 @@ DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Ea
 /// @param latReached what DRLatitude gives for lat1, course, distance and earth
 DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth,
                    DegMin latReached);
+
+/// DRLongitude with what it was calculated from.
+struct LongitudeRun {
+    bool alongParallel = false;
+    double factor = 1; ///< along a parallel: miles of a minute of longitude by its cosine
+    double parts1 = 0; ///< otherwise: meridional parts of either latitude
+    double parts2 = 0;
+    Degrees change; ///< of longitude
+    DegMin reached;
+};
+LongitudeRun RunInLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Earth earth,
+                            DegMin latReached);
 
 /// Great-circle distance on the sphere, one mile a minute of arc.
 /// @return 0 .. 10800

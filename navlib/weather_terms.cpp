@@ -63,6 +63,11 @@ int SeaStateCode(Metres waveHeight)
     return 1 + static_cast<int>(bound - greatestHeight.begin());
 }
 
+std::span<const double> SeaStateHeights()
+{
+    return greatestHeight;
+}
+
 std::string_view SeaStateName(Metres waveHeight)
 {
     return seaStateNames[static_cast<std::size_t>(SeaStateCode(waveHeight))];
@@ -72,6 +77,11 @@ int VisibilityCode(Kilometres visibility)
 {
     const auto bound = std::ranges::upper_bound(leastVisibility, visibility.value());
     return static_cast<int>(bound - leastVisibility.begin());
+}
+
+std::span<const double> VisibilityDistances()
+{
+    return leastVisibility;
 }
 
 std::string_view VisibilityName(Kilometres visibility)

@@ -16,12 +16,18 @@ namespace NavFunc113
 /// @return 0 (exactly 0 m) to 9 (above 14 m)
 int SeaStateCode(Metres waveHeight);
 
+/// Greatest height of the states 1 to 8, metres.
+std::span<const double> SeaStateHeights();
+
 /// Name of that state, "Calm" to "Phenomenal".
 std::string_view SeaStateName(Metres waveHeight);
 
 /// Visibility scale. Unlike the sea state, each lower bound belongs to its own code (0.2 km is 2).
 /// @return 0 (below 0.05 km) to 9 (50 km and more)
 int VisibilityCode(Kilometres visibility);
+
+/// Least visibility of the codes 1 to 9, kilometres.
+std::span<const double> VisibilityDistances();
 
 /// Name of that code, "Dence fog" to "Visivility exceptional".
 std::string_view VisibilityName(Kilometres visibility);

@@ -21,17 +21,27 @@ constexpr std::array<double, 10> beaufortLowerBounds{0, 1, 4, 7, 11, 17, 22, 28,
 
 } // namespace
 
+TrueWindSteps TrueWindFromBow(Degrees course, Knots shipSpeed, Degrees relativeDirection,
+                              Knots apparentSpeed)
+{
+    TrueWindSteps steps;
+    const Degrees nudgedCourse = course + Degrees(1e-10);
+    const Radians theta = DegToRad(relativeDirection);
+    steps.ahead = cos(theta) * apparentSpeed - shipSpeed;
+    steps.abeam = sin(theta) * apparentSpeed;
+    steps.fromBow = RadToDeg(ArcTan2(steps.ahead.value(), steps.abeam.value()));
+    steps.direction = nudgedCourse + steps.fromBow;
+    if (steps.direction > fullTurn)
+        steps.direction -= fullTurn;
+    else if (steps.direction < Degrees(0))
+        steps.direction += fullTurn;
+    return steps;
+}
+
 Degrees TrueWindDirection(Degrees course, Knots shipSpeed, Degrees relativeDirection,
                           Knots apparentSpeed)
 {
-    const Degrees nudgedCourse = course + Degrees(1e-10);
-    const Radians theta = DegToRad(relativeDirection);
-    const Knots ahead = cos(theta) * apparentSpeed - shipSpeed;
-    const Knots abeam = sin(theta) * apparentSpeed;
-    const Degrees direction = nudgedCourse + RadToDeg(ArcTan2(ahead.value(), abeam.value()));
-    if (direction > fullTurn) return direction - fullTurn;
-    if (direction < Degrees(0)) return direction + fullTurn;
-    return direction;
+    return TrueWindFromBow(course, shipSpeed, relativeDirection, apparentSpeed).direction;
 }
 
 Knots TrueWindSpeed(Knots shipSpeed, Degrees relativeDirection, Knots apparentSpeed)

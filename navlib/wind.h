@@ -21,6 +21,16 @@ namespace NavFunc113
 Degrees TrueWindDirection(Degrees course, Knots shipSpeed, Degrees relativeDirection,
                           Knots apparentSpeed);
 
+/// TrueWindDirection with what it was calculated from.
+struct TrueWindSteps {
+    Knots ahead;       ///< true wind along the ship's course, a wind from ahead positive
+    Knots abeam;       ///< and across it, from starboard positive
+    Degrees fromBow;   ///< of the true wind, clockwise positive
+    Degrees direction; ///< true
+};
+TrueWindSteps TrueWindFromBow(Degrees course, Knots shipSpeed, Degrees relativeDirection,
+                              Knots apparentSpeed);
+
 /// Speed of the true wind, by the cosine rule. Arguments and faults as TrueWindDirection.
 /// @return about 1e-5 in a true calm
 Knots TrueWindSpeed(Knots shipSpeed, Degrees relativeDirection, Knots apparentSpeed);

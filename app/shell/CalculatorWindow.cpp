@@ -2,6 +2,8 @@
 #include "app/shell/CalculatorWindow.h"
 
 #include "app/shell/FollowingScrollArea.h"
+#include "app/shell/PaperWindow.h"
+#include "app/shell/PictureBox.h"
 #include "app/shell/widget_colours.h"
 
 #include <QCloseEvent>
@@ -12,12 +14,25 @@
 
 namespace korvel
 {
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr const char* doneKey = "~done"; // behind all notices
+constexpr auto shownFor = 6s;
+constexpr int pictureWidth = 640; // pixels of a screen: the width of a sheet less its margins
+
+} // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
     : m_program(program), m_body(new QWidget), m_notices(new NoticeLine),
       m_calculations(new CalculationRunner(*m_notices, this)),
       m_record(new WindowRecord(program, *m_notices, *this)), m_menus(program, *this),
-      m_paper(program, *this)
+      m_printer(program, *this),
+      m_paperMenu(new PaperMenu(program, *this,
+                                {[this] { return paperDocument(); },
+                                 [this](const QString& said) { sayForAWhile(said); }}))
 {
     setObjectName(name);
     setWindowTitle(caption);
@@ -42,17 +57,92 @@ void CalculatorWindow::loadSettings()
     m_calculations->release(wasEntered);
     m_calculations->runAll();
     applyColours();
+    addPaperMenu();
+}
+
+void CalculatorWindow::addPaperMenu()
+{
+    auto* open = new QAction("&Working paper", this);
+    open->setShortcut(Qt::Key_F2);
+    connect(open, &QAction::triggered, this, &CalculatorWindow::openPaper);
+    m_paperMenu->setParent(this);
+    m_paperMenu->addTo(*menuBar(), open);
+}
+
+/// What was done is no remark on the figures: it goes after a moment, and before a paper is made.
+void CalculatorWindow::sayForAWhile(const QString& said)
+{
+    setNotice(doneKey, said);
+    QTimer::singleShot(shownFor, this, [this] { setNotice(doneKey, {}); });
+}
+
+PaperDocument CalculatorWindow::paperDocument()
+{
+    setNotice(doneKey, {});
+    const Program::PaperColours colours(m_program);
+    return {m_program.paperHeading(), paper(), paperPictures()};
+}
+
+void CalculatorWindow::openPaper()
+{
+    if (m_paperWindow)
+        m_paperWindow->showPaper(paperDocument());
+    else
+        m_paperWindow = new PaperWindow(m_program, paperDocument(), this);
+}
+
+WorkingPaper CalculatorWindow::paper() const
+{
+    WorkingPaper paper;
+    paper.kind = windowTitle().toStdString();
+    for (const FieldBoxes& fields : m_fields)
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            paper.inputs.push_back(fields.paperFigure(i));
+    for (const ResultLabel* label : m_labels)
+        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
+    if (!notice().isEmpty()) paper.remarks.push_back(notice().toStdString());
+    return paper;
+}
+
+PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& caption,
+                                            double shape)
+{
+    const QSize size(pictureWidth, static_cast<int>(pictureWidth * shape));
+    return makePaperPicture(caption, size, [&picture](QPainter& painter, const QSize& room) {
+        picture.drawOn(painter, room);
+    });
+}
+
+PaperFigure CalculatorWindow::paperFigure(const ResultLabel& label, const std::string& inFull)
+{
+    const std::string shown = label.text().toStdString();
+    const bool isOther = !inFull.empty() && inFull != shown;
+    return {label.accessibleName().section(',', 0, 0).toStdString(), isOther ? inFull : shown,
+            label.accessibleName().section(',', 1).trimmed().toStdString(), isOther ? shown : ""};
+}
+
+FieldBoxes CalculatorWindow::addFields(std::span<const Field> table)
+{
+    m_fields.emplace_back(table, m_body);
+    return m_fields.back();
 }
 
 void CalculatorWindow::printForm()
 {
-    m_paper.printWidget(m_scrollArea ? *m_scrollArea->widget() : *centralWidget());
+    QWidget& shown = m_scrollArea ? *m_scrollArea->widget() : *centralWidget();
+    m_printer.print(QPageLayout::Portrait, [&](QPainter& painter, const QRect& room) {
+        const double scale =
+            std::min(double(room.width()) / shown.width(), double(room.height()) / shown.height());
+        painter.scale(scale, scale);
+        shown.render(&painter);
+    });
 }
 
 ResultLabel* CalculatorWindow::addLabel(const QString& name)
 {
     auto* label = new ResultLabel(m_body);
     label->setObjectName(name);
+    m_labels.push_back(label);
     return label;
 }
 

@@ -4,12 +4,14 @@
 #include "app/shell/CalculationRunner.h"
 #include "app/shell/FieldBoxes.h"
 #include "app/shell/NoticeLine.h"
-#include "app/shell/Paper.h"
+#include "app/shell/PagePrinter.h"
+#include "app/shell/PaperMenu.h"
 #include "app/shell/Program.h"
 #include "app/shell/WindowMenus.h"
 #include "app/shell/WindowRecord.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <array>
 #include <set>
@@ -21,6 +23,8 @@ namespace korvel
 {
 
 class FollowingScrollArea;
+class PaperWindow;
+class PictureBox;
 
 /// A calculator window: its body, its notice line at the foot, and the parts that it is made of.
 ///
@@ -47,7 +51,23 @@ protected:
     CalculationRunner& calculations() { return *m_calculations; }
     WindowRecord& record() { return *m_record; }
     WindowMenus& menus() { return m_menus; }
-    const Paper& paper() const { return m_paper; }
+    const PagePrinter& printer() const { return m_printer; }
+
+    // The working paper.
+
+    /// What the paper says. The base tells all fields as inputs, all results that are there and
+    /// the notice line; a window adds what it calculated.
+    virtual WorkingPaper paper() const;
+    /// The pictures of the paper, drawn in the colours of paper.
+    virtual std::vector<PaperPicture> paperPictures() { return {}; }
+    /// A picture as wide as the paper.
+    /// @param shape height for a width of 1
+    static PaperPicture paperPicture(PictureBox& picture, const QString& caption, double shape);
+    /// A result as it goes into a paper.
+    /// @param inFull how the figure is written out, when the label shows it otherwise
+    static PaperFigure paperFigure(const ResultLabel& label, const std::string& inFull = {});
+    /// Shows the pages of the paper, and prints them when the officer wants it.
+    void printPaper() { m_paperMenu->print(); }
 
     /// Says something in the notice line under a key of the caller's; an empty text takes it back.
     void setNotice(const QString& key, const QString& text) { m_notices->say(key, text); }
@@ -60,7 +80,7 @@ protected:
     // Controls. They have no place yet: put them into layouts.
 
     /// The boxes of a table of fields, which lasts as long as the program.
-    FieldBoxes addFields(std::span<const Field> table) { return {table, m_body}; }
+    FieldBoxes addFields(std::span<const Field> table);
 
     /// Result labels name(0) .. name(N - 1).
     template <std::size_t N>
@@ -102,13 +122,22 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    PaperDocument paperDocument();
+    void addPaperMenu();
+    void openPaper();
+    void sayForAWhile(const QString& said);
+
     Program& m_program;
     QWidget* m_body;
     NoticeLine* m_notices;
     CalculationRunner* m_calculations;
     WindowRecord* m_record;
     WindowMenus m_menus;
-    Paper m_paper;
+    PagePrinter m_printer;
+    PaperMenu* m_paperMenu;
+    QPointer<PaperWindow> m_paperWindow;
+    std::vector<FieldBoxes> m_fields;
+    std::vector<ResultLabel*> m_labels;
     std::set<QLabel*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
     bool m_fitsScreen = false;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/FieldBoxes.h"
 
+#include "app/KORVEL2000Actions.h"
+#include "app/reading.h"
+
 #include <QGridLayout>
 
 namespace korvel
@@ -81,6 +84,37 @@ void FieldBoxes::clear(std::size_t first, std::size_t count)
 {
     for (EntryBox* box : part(first, count))
         box->clear();
+}
+
+PaperFigure FieldBoxes::paperFigure(std::size_t field) const
+{
+    const Field& declared = m_table[field];
+    const std::string typed = m_boxes.at(field)->value();
+    PaperFigure figure{nameInWords(declared).toStdString(), typed, declared.unit};
+    switch (declared.kind) {
+    case FieldKind::Latitude:
+        figure.value = positionEcho(typed, Axis::Latitude).text;
+        figure.unit.clear();
+        break;
+    case FieldKind::Longitude:
+        figure.value = positionEcho(typed, Axis::Longitude).text;
+        figure.unit.clear();
+        break;
+    case FieldKind::KeyUp:
+    case FieldKind::Number:
+        if (const auto number = readLeadingNumber(typed)) figure.value = memoText(*number);
+        break;
+    case FieldKind::Text:
+    case FieldKind::Moment:
+        break;
+    }
+    if (typed.empty())
+        figure.value = "nothing entered";
+    else if (figure.value.empty())
+        figure.value = "not understood";
+    if (typed.empty() || figure.value == "not understood") figure.unit.clear();
+    if (figure.value != typed) figure.shown = typed;
+    return figure;
 }
 
 void FieldBoxes::addRow(QGridLayout* grid, int row, std::size_t field) const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/Field.h"
+#include "app/WorkingPaper.h"
 #include "app/shell/PositionBox.h"
 
 #include <array>
@@ -41,6 +42,10 @@ public:
     }
 
     void clear(std::size_t first, std::size_t count);
+
+    /// A field as it goes into a working paper: what was understood, and what was typed where that
+    /// is another text.
+    PaperFigure paperFigure(std::size_t field) const;
 
     /// A row of a grid: caption, box, then the unit or what was understood of a position.
     void addRow(QGridLayout* grid, int row, std::size_t field) const;

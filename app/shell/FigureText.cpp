@@ -2,6 +2,7 @@
 #include "app/shell/FigureText.h"
 
 #include <QGlyphRun>
+#include <QPaintEngine>
 
 #include <algorithm>
 #include <cmath>
@@ -43,7 +44,9 @@ void FigureText::draw(QPainter& painter, const QRectF& room, Qt::Alignment align
 {
     if (text.isEmpty()) return;
     useFont(painter.font());
-    if (!isSimple(text) || !m_rawFont.isValid()) {
+    // A recorded picture keeps texts, not glyphs.
+    const bool isRecorded = painter.paintEngine()->type() == QPaintEngine::Picture;
+    if (isRecorded || !isSimple(text) || !m_rawFont.isValid()) {
         painter.drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine, text);
         return;
     }

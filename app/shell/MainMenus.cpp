@@ -69,6 +69,9 @@ void MainMenus::addProperty()
         ->setCheckable(true);
     addEntry(property, "mnuBackColor", "&Night colours", m_actions.chooseColours)
         ->setCheckable(true);
+    property->addSeparator();
+    addEntry(property, "mnuShip", "Ship and &voyage..", m_actions.setShip);
+    addEntry(property, "mnuJournal", "&Journal of kept papers", m_actions.openJournal);
 }
 
 void MainMenus::addAlarms(QMenu* property)

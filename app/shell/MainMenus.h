@@ -30,6 +30,8 @@ public:
         std::function<void()> setUpTimeSignal;
         std::function<void()> chooseDistanceUnit;
         std::function<void()> chooseColours;
+        std::function<void()> setShip;
+        std::function<void()> openJournal;
         std::function<void()> end;
     };
 

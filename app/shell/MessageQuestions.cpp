@@ -3,10 +3,13 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 namespace korvel
 {
@@ -68,6 +71,11 @@ void placeBelowStartWindow(QDialog& dialog)
 
 } // namespace
 
+MessageQuestions::MessageQuestions()
+    : m_lastFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
+{
+}
+
 QWidget* MessageQuestions::asker()
 {
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
@@ -120,6 +128,39 @@ std::optional<std::string> MessageQuestions::input(const std::string& prompt,
     placeBelowStartWindow(dialog);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     return dialog.textValue().toStdString();
+}
+
+namespace
+{
+
+QString filterOf(const QString& ending)
+{
+    return QString("%1 (*.%2)").arg(ending.toUpper(), ending);
+}
+
+} // namespace
+
+std::optional<std::string> MessageQuestions::chosen(const QString& path)
+{
+    if (path.isEmpty()) return std::nullopt;
+    m_lastFolder = QFileInfo(path).path();
+    return path.toStdString();
+}
+
+std::optional<std::string> MessageQuestions::fileToWrite(const std::string& title,
+                                                         const std::string& offered)
+{
+    const QString name = QString::fromStdString(offered);
+    return chosen(QFileDialog::getSaveFileName(asker(), shown(title),
+                                               QDir(m_lastFolder).filePath(name),
+                                               filterOf(QFileInfo(name).suffix())));
+}
+
+std::optional<std::string> MessageQuestions::fileToRead(const std::string& title,
+                                                        const std::string& ending)
+{
+    return chosen(QFileDialog::getOpenFileName(asker(), shown(title), m_lastFolder,
+                                               filterOf(QString::fromStdString(ending))));
 }
 
 void MessageQuestions::beep()

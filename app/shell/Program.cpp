@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/Program.h"
 
+#include "app/ProgramVersion.h"
+
 namespace korvel
 {
 
@@ -12,7 +14,13 @@ Program::Program(const Machine& machine, KV_Savedvalue& saved, KORVEL2000Actions
 
 const ColourScheme& Program::colours() const
 {
-    return m_saved.nightColours() ? m_night : m_day;
+    return m_saved.nightColours() && !m_onPaper ? m_night : m_day;
+}
+
+PaperHeading Program::paperHeading() const
+{
+    return {ship.name,         ship.voyage,  m_shipsTime.SMT(),
+            m_shipsTime.UTC(), m_saved.TD(), std::string(programTitle) + ' ' + programVersion};
 }
 
 } // namespace korvel

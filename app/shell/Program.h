@@ -6,6 +6,7 @@
 #include "app/KV_Savedvalue.h"
 #include "app/Questions.h"
 #include "app/ShipsTime.h"
+#include "app/WorkingPaper.h"
 #include "app/shell/Bell.h"
 #include "app/shell/ColourScheme.h"
 
@@ -57,6 +58,27 @@ public:
 
     /// The colours in force, by KV_Savedvalue(21).
     const ColourScheme& colours() const;
+    /// While one lives, the colours in force are those of paper.
+    class PaperColours
+    {
+    public:
+        explicit PaperColours(Program& program) : m_program(program) { m_program.m_onPaper = true; }
+        ~PaperColours() { m_program.m_onPaper = false; }
+        PaperColours(const PaperColours&) = delete;
+        PaperColours& operator=(const PaperColours&) = delete;
+
+    private:
+        Program& m_program;
+    };
+
+    /// Ship and voyage as the officer set them once; empty until then.
+    struct Ship {
+        std::string name;
+        std::string voyage;
+    };
+    Ship ship;
+    /// The heading of a working paper that is made at this moment.
+    PaperHeading paperHeading() const;
 
     /// The other windows that can be opened, in menu order.
     std::vector<WindowLink> links;
@@ -81,6 +103,7 @@ private:
     ShipsTime& m_shipsTime;
     ColourScheme m_day = ColourScheme::day();
     ColourScheme m_night = ColourScheme::night();
+    bool m_onPaper = false;
 };
 
 } // namespace korvel

@@ -27,6 +27,54 @@ std::string whatItIs(const QFileInfo& info)
     return info.exists() ? "it is no plain file" : "it is a link that leads nowhere";
 }
 
+FileStore::Content readPiece(const QString& path, std::int64_t offset, std::size_t length)
+{
+    using Status = FileStore::Content::Status;
+    const QFileInfo info(path);
+    if (isMissing(info)) return {Status::Missing, {}, {}};
+    // Looked at before it is opened: opening a pipe waits for somebody who writes into it.
+    if (!info.isFile()) return {Status::Unreadable, {}, whatItIs(info)};
+    QFile file(info.filePath());
+    FileStore::Content content{Status::Read, {}, {}, info.size()};
+    const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    const std::int64_t there = std::max<std::int64_t>(content.size - offset, 0);
+    const auto wanted = static_cast<qint64>(std::min<std::uint64_t>(length, std::uint64_t(there)));
+    if (opened && wanted > 0 && file.seek(offset)) content.bytes = file.read(wanted).toStdString();
+    if (file.error() != QFileDevice::NoError)
+        return {Status::Unreadable, {}, file.errorString().toStdString()};
+    return content;
+}
+
+FileStore::Content readWhole(const QString& path)
+{
+    FileStore::Content content = readPiece(path, 0, largestFile);
+    if (content.size > largestFile)
+        return {FileStore::Content::Status::Unreadable, {}, "it is far too large"};
+    return content;
+}
+
+/// Replaces a file whole or not at all.
+std::optional<std::string> replace(const QString& path, const std::string& bytes)
+{
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) return whatItIs(info);
+    QSaveFile file(info.filePath());
+    file.setDirectWriteFallback(false);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString().toStdString();
+    // commit() alone answers true on a full disk and leaves an empty file: flush first and look.
+    const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
+                             static_cast<qint64>(bytes.size()) &&
+                         file.flush();
+    if (!written) {
+        const std::string reason = file.errorString().toStdString();
+        file.cancelWriting();
+        file.commit();
+        return reason;
+    }
+    if (!file.commit()) return file.errorString().toStdString();
+    return std::nullopt;
+}
+
 } // namespace
 
 ProgramFolder::ProgramFolder(QString folder) : m_folder(std::move(folder))
@@ -52,49 +100,54 @@ std::string ProgramFolder::path(const std::string& name) const
 
 FileStore::Content ProgramFolder::read(const std::string& name)
 {
-    Content content = readAt(name, 0, largestFile);
-    if (content.size > largestFile) return {Content::Status::Unreadable, {}, "it is far too large"};
-    return content;
+    return readWhole(pathOf(name));
+}
+
+FileStore::Content ProgramFolder::readAnywhere(const std::string& path)
+{
+    return readWhole(QString::fromStdString(path));
 }
 
 FileStore::Content ProgramFolder::readAt(const std::string& name, std::int64_t offset,
                                          std::size_t length)
 {
-    using Status = Content::Status;
-    const QFileInfo info(pathOf(name));
-    if (isMissing(info)) return {Status::Missing, {}, {}};
-    // Looked at before it is opened: opening a pipe waits for somebody who writes into it.
-    if (!info.isFile()) return {Status::Unreadable, {}, whatItIs(info)};
-    QFile file(info.filePath());
-    Content content{Status::Read, {}, {}, info.size()};
-    const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
-    const std::int64_t there = std::max<std::int64_t>(content.size - offset, 0);
-    const auto wanted = static_cast<qint64>(std::min<std::uint64_t>(length, std::uint64_t(there)));
-    if (opened && wanted > 0 && file.seek(offset)) content.bytes = file.read(wanted).toStdString();
-    if (file.error() != QFileDevice::NoError)
-        return {Status::Unreadable, {}, file.errorString().toStdString()};
-    return content;
+    return readPiece(pathOf(name), offset, length);
 }
 
 std::optional<std::string> ProgramFolder::save(const std::string& name, const std::string& bytes)
 {
+    return replace(pathOf(name), bytes);
+}
+
+std::optional<std::string> ProgramFolder::saveAnywhere(const std::string& path,
+                                                       const std::string& bytes)
+{
+    return replace(QString::fromStdString(path), bytes);
+}
+
+std::optional<std::string> ProgramFolder::append(const std::string& name, const std::string& bytes)
+{
     const QFileInfo info(pathOf(name));
     if (info.exists() && !info.isFile()) return whatItIs(info);
-    QSaveFile file(info.filePath());
-    file.setDirectWriteFallback(false);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString().toStdString();
-    // commit() alone answers true on a full disk and leaves an empty file: flush first and look.
-    const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
-                             static_cast<qint64>(bytes.size()) &&
-                         file.flush();
-    if (!written) {
-        const std::string reason = file.errorString().toStdString();
-        file.cancelWriting();
-        file.commit();
-        return reason;
-    }
-    if (!file.commit()) return file.errorString().toStdString();
-    return std::nullopt;
+    const qint64 before = info.exists() ? info.size() : 0;
+    QFile file(info.filePath());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        return file.errorString().toStdString();
+    const auto length = static_cast<qint64>(bytes.size());
+    if (file.write(bytes.data(), length) == length) return std::nullopt;
+    const std::string reason = file.errorString().toStdString();
+    file.resize(before);
+    return reason;
+}
+
+std::vector<std::string> ProgramFolder::names(const std::string& beginning,
+                                              const std::string& ending) const
+{
+    const QString pattern = QString::fromStdString(beginning + '*' + ending);
+    std::vector<std::string> found;
+    for (const QString& name : QDir(m_folder).entryList({pattern}, QDir::Files, QDir::Name))
+        found.push_back(name.toStdString());
+    return found;
 }
 
 std::optional<std::string> ProgramFolder::rename(const std::string& name,

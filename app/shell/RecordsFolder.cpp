@@ -91,6 +91,28 @@ std::optional<std::string> RecordsFolder::remove(const std::string& name)
     return m_records.remove(name);
 }
 
+std::optional<std::string> RecordsFolder::append(const std::string& name, const std::string& bytes)
+{
+    return m_records.append(name, bytes);
+}
+
+std::vector<std::string> RecordsFolder::names(const std::string& beginning,
+                                              const std::string& ending) const
+{
+    return m_records.names(beginning, ending);
+}
+
+FileStore::Content RecordsFolder::readAnywhere(const std::string& path)
+{
+    return m_records.readAnywhere(path);
+}
+
+std::optional<std::string> RecordsFolder::saveAnywhere(const std::string& path,
+                                                       const std::string& bytes)
+{
+    return m_records.saveAnywhere(path, bytes);
+}
+
 std::string RecordsFolder::path(const std::string& name) const
 {
     return (isOnlyShipped(name) ? m_shipped : m_records).path(name);

@@ -39,6 +39,12 @@ public:
     std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
     std::optional<std::string> rename(const std::string& name, const std::string& newName) override;
     std::optional<std::string> remove(const std::string& name) override;
+    std::optional<std::string> append(const std::string& name, const std::string& bytes) override;
+    std::vector<std::string> names(const std::string& beginning,
+                                   const std::string& ending) const override;
+    Content readAnywhere(const std::string& path) override;
+    std::optional<std::string> saveAnywhere(const std::string& path,
+                                            const std::string& bytes) override;
     std::string path(const std::string& name) const override;
 
 private:

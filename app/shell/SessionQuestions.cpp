@@ -22,4 +22,18 @@ std::optional<std::string> SessionQuestions::input(const std::string& prompt,
     return answer;
 }
 
+std::optional<std::string> SessionQuestions::fileToWrite(const std::string& title,
+                                                         const std::string& offered)
+{
+    if (m_ended) return std::nullopt;
+    return m_questions.fileToWrite(title, offered);
+}
+
+std::optional<std::string> SessionQuestions::fileToRead(const std::string& title,
+                                                        const std::string& ending)
+{
+    if (m_ended) return std::nullopt;
+    return m_questions.fileToRead(title, ending);
+}
+
 } // namespace korvel

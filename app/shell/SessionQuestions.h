@@ -25,6 +25,10 @@ public:
     /// @throws SessionEnded when the session has ended, or ends while the box is open
     std::optional<std::string> input(const std::string& prompt, const std::string& title,
                                      const std::string& defaultAnswer) override;
+    std::optional<std::string> fileToWrite(const std::string& title,
+                                           const std::string& offered) override;
+    std::optional<std::string> fileToRead(const std::string& title,
+                                          const std::string& ending) override;
     void beep() override { m_questions.beep(); }
 
 private:

@@ -22,6 +22,8 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
       m_settings(machine.files, m_questions, machine.clock, "KV_KORVEL.ini",
                  KV_Savedvalue::kinds()),
       m_offsetSettings(machine.files, m_questions, machine.clock, "KV_Clock.ini", {Kind::Number}),
+      m_shipSettings(machine.files, m_questions, machine.clock, "KV_Ship.ini",
+                     {Kind::Text, Kind::Text}),
       m_recovery(machine.files, m_questions, machine.clock), m_panel(new MainPanel),
       m_shipsTime(m_saved, m_questions, machine.clock, clockHooks()),
       m_actions(m_saved, m_questions, m_settings,
@@ -105,6 +107,8 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         m_saved.setNightColours(!m_saved.nightColours());
         applyColours();
     });
+    actions.openJournal = [this] { openJournal(); };
+    actions.setShip = [this] { setShip(); };
     actions.end = [this] { m_actions.ExitApplication(); };
     return actions;
 }
@@ -114,12 +118,36 @@ void frmKORVEL2000::loadSavedValues()
     if (const auto record = m_settings.load(m_saved.record()))
         takeAndTell(m_saved, *record, m_settings.name(), m_questions);
     m_recovery.offer(m_saved);
+    if (const auto ship = m_shipSettings.load())
+        m_program.ship = {textOf(ship->front()), textOf(ship->back())};
     const auto offset = m_offsetSettings.load();
     if (offset && !m_shipsTime.takeOffset(numberOf(offset->front())))
         m_questions.ask({"The offset of ship's time in \"KV_Clock.ini\" is refused: with it "
                          "ship's time would be beyond the calendar, which reaches from "
                          "1900 to 9999.\rShip's time goes by the computer's clock.",
                          programTitle, Buttons::Ok});
+}
+
+void frmKORVEL2000::setShip()
+{
+    const char* const title = "Ship and voyage";
+    Program::Ship& ship = m_program.ship;
+    const auto name = m_questions.input("Name of the ship, as papers show it", title, ship.name);
+    if (!name) return;
+    const auto voyage = m_questions.input("Voyage, as papers show it", title, ship.voyage);
+    if (!voyage) return;
+    ship = {*name, *voyage};
+    const std::string fault = m_shipSettings.saveQuietly({ship.name, ship.voyage});
+    if (!fault.empty()) m_questions.ask({fault, programTitle, Buttons::Ok});
+}
+
+void frmKORVEL2000::openJournal()
+{
+    if (!m_journal) m_journal = std::make_unique<JournalWindow>(m_program);
+    m_journal->refresh();
+    m_journal->show();
+    m_journal->raise();
+    m_journal->activateWindow();
 }
 
 bool frmKORVEL2000::hasOffsetFile() const
@@ -209,6 +237,7 @@ void frmKORVEL2000::closeEverything()
     m_ending = true;
     m_tmrClock->stop();
     m_windows.closeAll();
+    m_journal.reset();
     close();
     emit ended();
 }

@@ -5,12 +5,15 @@
 #include "app/alarms.h"
 #include "app/shell/AlarmBoxes.h"
 #include "app/shell/CalculatorWindows.h"
+#include "app/shell/JournalWindow.h"
 #include "app/shell/MainMenus.h"
 #include "app/shell/MainPanel.h"
 #include "app/shell/Program.h"
 #include "app/shell/SessionQuestions.h"
 
 #include <QMainWindow>
+
+#include <memory>
 
 class QTimer;
 
@@ -61,6 +64,8 @@ private:
     bool hasOffsetFile() const;
     void MemoHyoujiAtStart();
     void showClockRemarks();
+    void setShip();
+    void openJournal();
     void timeChanged();
     void keepValues();
     void applyColours();
@@ -72,6 +77,7 @@ private:
     KV_Savedvalue m_saved;
     SettingsFile m_settings;
     SettingsFile m_offsetSettings; ///< offset of ship's time where the clock cannot be set
+    SettingsFile m_shipSettings;   ///< ship and voyage, for the heading of papers
     RecoveryFile m_recovery;
     MainPanel* m_panel;
     ShipsTime m_shipsTime;
@@ -82,6 +88,7 @@ private:
     AlarmBoxes m_alarmBoxes;
     MainMenus m_menus;
     QTimer* m_tmrClock;
+    std::unique_ptr<JournalWindow> m_journal; ///< once it was opened
     bool m_ending = false;
 };
 

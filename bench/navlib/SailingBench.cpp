@@ -80,7 +80,7 @@ const std::vector<Leg> routesInDegMin = packed(routesInDegrees);
 
 double rhumbLeg(const Leg& leg, Earth earth)
 {
-    const auto [course, distance] = RhumbCourseAndDistance(
+    const auto [course, distance, steps] = RhumbCourseAndDistance(
         DegMin(leg.lat1), DegMin(leg.long1), DegMin(leg.lat2), DegMin(leg.long2), earth);
     return course.value() + distance.value();
 }
@@ -109,7 +109,7 @@ double route(const Leg& leg, Earth earth)
     for (int i = 1; i <= waypoints; ++i) {
         const DegMin nextLong(leg.long1 + (leg.long2 - leg.long1) * i / waypoints);
         const DegMin nextLat = circle.latitudeAt(nextLong);
-        const auto [course, distance] =
+        const auto [course, distance, steps] =
             RhumbCourseAndDistance(lat, longitude, nextLat, nextLong, earth);
         sum += course.value() + distance.value();
         lat = nextLat;

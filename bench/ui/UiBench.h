@@ -22,6 +22,14 @@ public:
     {
         return offered;
     }
+    std::optional<std::string> fileToWrite(const std::string&, const std::string&) override
+    {
+        return std::nullopt;
+    }
+    std::optional<std::string> fileToRead(const std::string&, const std::string&) override
+    {
+        return std::nullopt;
+    }
     void beep() override {}
 };
 

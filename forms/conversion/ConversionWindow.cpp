@@ -3,6 +3,7 @@
 #include "app/shell/asQString.h"
 
 #include "forms/conversion/CalculateConversion.h"
+#include "forms/conversion/ConversionWorking.h"
 #include "navlib/arithmetic_error.h"
 
 #include <QGridLayout>
@@ -92,7 +93,7 @@ void ConversionWindow::addMenus()
 {
     QMenu* figures = menus().add("&Data", "mnuData");
     menus().addEntry(figures, "mnuData", 0, "&Clear", [this] { clearBoxes(); });
-    menus().addEntry(figures, "mnuData", 1, "&Print...", [this] { printForm(); });
+    menus().addEntry(figures, "mnuData", 1, "&Print...", [this] { printPaper(); });
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         menus().addStoreSingle(numbered(i, units[i]), [this, i] {
@@ -140,6 +141,21 @@ void ConversionWindow::convert()
             if (i != m_lead) show(i, {});
         throw;
     }
+}
+
+WorkingPaper ConversionWindow::paper() const
+{
+    std::vector<std::string> boxes;
+    for (const KeyUpBox* box : m_boxes)
+        boxes.push_back(box->value());
+    const std::string typed = boxes[m_lead];
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.kind = "Conversion of " + windowTitle().toLower().toStdString();
+    paper.inputs = {convertedFrom(m_quantity, m_lead, typed)};
+    paper.results = convertedInto(m_quantity, m_lead, boxes);
+    paper.workings = {conversionWorking(m_quantity, m_lead, typed, boxes)};
+    paper.limits = {"Figures are shown with seven significant digits, whole digits always in full"};
+    return paper;
 }
 
 void ConversionWindow::clearBoxes()

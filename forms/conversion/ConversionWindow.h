@@ -25,6 +25,9 @@ class ConversionWindow : public CalculatorWindow
 public:
     ConversionWindow(Program& program, const ConversionKind& kind);
 
+protected:
+    WorkingPaper paper() const override;
+
 private:
     void addBoxes(const char* name);
     void addCalculation();

@@ -18,13 +18,12 @@ CDResult CalculateCD(const CDInput& input)
     const NavFunc113::DegMin lat1((*read)[0]), long1((*read)[1]), lat2((*read)[2]),
         long2((*read)[3]);
 
-    const auto [course, miles] =
-        NavFunc113::RhumbCourseAndDistance(lat1, long1, lat2, long2, input.earth);
-    result.course = courseText(course);
+    const auto leg = NavFunc113::RhumbCourseAndDistance(lat1, long1, lat2, long2, input.earth);
+    result.course = courseText(leg.course);
     // The apostrophe stands before the point here and after it in frmGC2000: both on purpose.
-    result.distance = Format(miles, "0'.0");
-    result.courseDegrees = course;
-    result.miles = miles;
+    result.distance = Format(leg.distance, "0'.0");
+    result.leg = leg;
+    result.ends = {lat1, long1, lat2, long2};
     return result;
 }
 

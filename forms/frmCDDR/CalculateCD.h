@@ -16,10 +16,10 @@ struct CDInput {
 };
 
 struct CDResult {
-    std::string course;   ///< lblCDDR(0), degrees true; empty blanks the label
-    std::string distance; ///< lblCDDR(1), nautical miles; empty blanks the label
-    std::optional<NavFunc113::Degrees> courseDegrees; ///< the same with full precision
-    std::optional<NavFunc113::Miles> miles;
+    std::string course;                      ///< lblCDDR(0), degrees true; empty blanks the label
+    std::string distance;                    ///< lblCDDR(1), nautical miles; empty blanks the label
+    std::optional<NavFunc113::RhumbLeg> leg; ///< the same with full precision, and its steps
+    std::array<NavFunc113::DegMin, 4> ends;  ///< lat1, long1, lat2, long2 as read
     std::string notice; ///< why the labels are blank, and what else is to be said of the boxes
 };
 

@@ -21,7 +21,11 @@ DRResult CalculateDR(const DRInput& input)
     const NavFunc113::Degrees course((*read)[2]);
     const NavFunc113::Miles distance((*read)[3]);
 
-    const NavFunc113::DegMin reached = NavFunc113::DRLatitude(lat, course, distance, input.earth);
+    result.start = {lat, longitude};
+    result.course = course;
+    result.distance = distance;
+    result.latitudeRun = NavFunc113::RunInLatitude(lat, course, distance, input.earth);
+    const NavFunc113::DegMin reached = result.latitudeRun->reached;
     result.latitudeReached = reached;
     result.latitude = Format(reached, "00-.00'0N;00-.00'0S");
     if (std::fabs(reached.packed()) > 90) {
@@ -29,8 +33,9 @@ DRResult CalculateDR(const DRInput& input)
         return result;
     }
     try {
-        const NavFunc113::DegMin east =
-            NavFunc113::DRLongitude(lat, longitude, course, distance, input.earth, reached);
+        result.longitudeRun =
+            NavFunc113::RunInLongitude(lat, longitude, course, distance, input.earth, reached);
+        const NavFunc113::DegMin east = result.longitudeRun->reached;
         result.longitudeReached = east;
         result.longitude = Format(east, "000-.00'0E;000-.00'0W");
     } catch (const NavFunc113::ArithmeticError& error) {

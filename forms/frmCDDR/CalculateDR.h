@@ -20,6 +20,12 @@ struct DRResult {
     std::string longitude;                             ///< lblCDDR(3); empty blanks the label
     std::optional<NavFunc113::DegMin> latitudeReached; ///< the same with full precision
     std::optional<NavFunc113::DegMin> longitudeReached;
+    /// What they were calculated from; nothing where there is no latitude, or no longitude.
+    std::optional<NavFunc113::LatitudeRun> latitudeRun;
+    std::optional<NavFunc113::LongitudeRun> longitudeRun;
+    std::array<NavFunc113::DegMin, 2> start; ///< as read
+    NavFunc113::Degrees course;              ///< as read
+    NavFunc113::Miles distance;              ///< as read
     std::string notice; ///< why labels are blank, and what else is to be said of the boxes
 };
 

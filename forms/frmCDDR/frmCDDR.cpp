@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "forms/frmCDDR/CDDRFields.h"
+#include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
 
 #include <QAction>
@@ -187,10 +188,13 @@ void frmCDDR::addMemoMenus()
         return [box = m_txtCDDR[field]] { return box->value(); };
     };
     const auto figure = [](const auto& value) { return value ? memoText(*value) : std::string(); };
+    const auto ofLeg = [this](auto member) {
+        return [this, member] { return m_cd.leg ? memoText((*m_cd.leg).*member) : std::string(); };
+    };
     menus().addStorePosition("CD &departure", boxText(0), boxText(1));
     menus().addStorePosition("CD &arrival", boxText(2), boxText(3));
-    menus().addStoreSingle("CD &course", [this, figure] { return figure(m_cd.courseDegrees); });
-    menus().addStoreSingle("CD dis&tance", [this, figure] { return figure(m_cd.miles); });
+    menus().addStoreSingle("CD &course", ofLeg(&NavFunc113::RhumbLeg::course));
+    menus().addStoreSingle("CD dis&tance", ofLeg(&NavFunc113::RhumbLeg::distance));
     menus().addStorePosition("DR &start", boxText(4), boxText(5));
     menus().addStorePosition(
         "DR &result", [this, figure] { return figure(m_dr.latitudeReached); },
@@ -219,6 +223,23 @@ void frmCDDR::runDR()
     m_lblCDDR[2]->setText(QString::fromStdString(m_dr.latitude));
     m_lblCDDR[3]->setText(QString::fromStdString(m_dr.longitude));
     setNotice("2 DR", QString::fromStdString(m_dr.notice));
+}
+
+WorkingPaper frmCDDR::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.results.clear();
+    for (const ResultLabel* label : std::span(m_lblCDDR).first<2>())
+        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
+    const auto addReached = [&](const ResultLabel& label, const auto& angle, Axis axis) {
+        if (angle) paper.results.push_back(paperFigure(label, positionForCopy(*angle, axis)));
+    };
+    addReached(*m_lblCDDR[2], m_dr.latitudeReached, Axis::Latitude);
+    addReached(*m_lblCDDR[3], m_dr.longitudeReached, Axis::Longitude);
+    paper.workings = {courseAndDistanceWorking(m_cd, program().earth()),
+                      deadReckoningWorking(m_dr, program().earth())};
+    paper.limits = sailingLimits(program().earth());
+    return paper;
 }
 
 void frmCDDR::optNSEW_Click(std::size_t index)

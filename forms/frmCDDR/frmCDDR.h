@@ -17,6 +17,9 @@ class frmCDDR : public CalculatorWindow
 public:
     explicit frmCDDR(Program& program);
 
+protected:
+    WorkingPaper paper() const override;
+
 private:
     static constexpr std::size_t positionFields = 6; ///< txtCDDR(0) .. (5)
 

@@ -63,6 +63,7 @@ ETAResult CalculateETA(const ETAInput& input)
     const double distance = readNumber(input.txtDist);
 
     ETALabels labels;
+    Passage passage{departure, TDChange, distance, {}, {}};
     // Single precision, as the speeds are shown: the arrivals belong to these very values.
     float speed = static_cast<float>(readNumber(input.txtSpeed));
     if (speed == 0)
@@ -70,12 +71,15 @@ ETAResult CalculateETA(const ETAInput& input)
                                 warningsOn(input)})};
     for (std::size_t i = 0; i < labels.lblSPD.size(); ++i, speed += 0.25F) {
         const double hours = NavFunc113::Quotient(distance, static_cast<double>(speed));
+        passage.speeds[i] = static_cast<double>(speed);
+        passage.hours[i] = hours;
         labels.lblSPD[i] = Format(static_cast<double>(speed), "0.00 ");
         labels.lblETA[i] = arrivalText(departure + TDChange / 24 + hours / 24);
     }
     const bool isBlank = std::ranges::any_of(labels.lblETA, &std::string::empty);
     return {labels,
-            joined({isBlank ? "An arrival lies beyond the calendar" : "", warningsOn(input)})};
+            joined({isBlank ? "An arrival lies beyond the calendar" : "", warningsOn(input)}),
+            passage};
 }
 
 } // namespace korvel

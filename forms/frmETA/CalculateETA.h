@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/units.h"
+
 #include <array>
 #include <optional>
 #include <string>
@@ -21,9 +23,19 @@ struct ETALabels { ///< an empty text blanks the label
     std::array<std::string, 5> lblETA;
 };
 
+/// What the arrivals were calculated from.
+struct Passage {
+    NavFunc113::DateTime departure; ///< local
+    double TDChange;                ///< hours
+    double distance;                ///< nautical miles
+    std::array<double, 5> speeds;   ///< knots
+    std::array<double, 5> hours;
+};
+
 struct ETAResult {
-    std::optional<ETALabels> labels; ///< nothing: the labels stay as they were, shown dimmed
-    std::string notice;              ///< why they stay; empty when they do not
+    std::optional<ETALabels> labels;     ///< nothing: the labels stay as they were, shown dimmed
+    std::string notice;                  ///< why they stay; empty when they do not
+    std::optional<Passage> passage = {}; ///< nothing: there are no arrivals
 };
 
 /// Arrival times at the typed speed and the next four quarter knots. Input that cannot be used

@@ -63,7 +63,13 @@ ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
     // Within half a second they are one moment, whatever the last bits of their fractions are.
     const double hours = (arrival - departure) * 24;
     if (hours * 3600 < 0.5) return refused("The arrival does not lie after the departure.");
-    return {Format(NavFunc113::Quotient(readNumber(input.txtDist), hours), "0.00"), onArrival};
+    const double distance = readNumber(input.txtDist);
+    return {Format(NavFunc113::Quotient(distance, hours), "0.00"),
+            onArrival,
+            departure,
+            arrival,
+            distance,
+            hours};
 }
 
 } // namespace korvel

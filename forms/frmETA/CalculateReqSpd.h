@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/units.h"
+
 #include <array>
 #include <optional>
 #include <string>
@@ -15,8 +17,12 @@ struct ReqSpdInput {
 };
 
 struct ReqSpdResult {
-    std::optional<std::string> speed; ///< knots; nothing: the label stays as it was, shown dimmed
-    std::string notice;               ///< why it stays; empty when it does not
+    std::optional<std::string> speed;   ///< knots; nothing: the label stays as it was, shown dimmed
+    std::string notice;                 ///< why it stays; empty when it does not
+    NavFunc113::DateTime departure = 0; ///< UTC, when there is a speed
+    NavFunc113::DateTime arrival = 0;   ///< UTC, when there is a speed
+    double distance = 0;                ///< nautical miles
+    double hours = 0;
 };
 
 /// Speed that covers the distance between two local times. Input that cannot be used, an arrival

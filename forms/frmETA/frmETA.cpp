@@ -2,9 +2,8 @@
 #include "forms/frmETA/frmETA.h"
 
 #include "app/Format.h"
-#include "forms/frmETA/CalculateETA.h"
-#include "forms/frmETA/CalculateReqSpd.h"
 #include "forms/frmETA/ETAFields.h"
+#include "forms/frmETA/ETAWorking.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "forms/frmETA/Steps.h"
 
@@ -224,7 +223,7 @@ void frmETA::addMenus()
                      [=, this] { store(m_txtDist->value()); });
     menus().addEntry(memo, "mnuETA", 1, "Store &speed", [=, this] { store(m_txtSpeed->value()); });
     menus().addEntry(memo, "mnuETA", 2, "Store &required speed",
-                     [=, this] { store(m_requiredSpeed); });
+                     [=, this] { store(m_required.speed.value_or("")); });
     memo->addSeparator();
     menus().addEntry(memo, "mnuETA", 3, "Recall into d&istance",
                      [this] { menus().recallSingle(m_txtDist); });
@@ -235,11 +234,12 @@ void frmETA::addMenus()
 
 void frmETA::runETA()
 {
-    const auto arrivals =
-        CalculateETA({m_txtTime[0]->value(), m_txtTime[1]->value(), m_boxes.texts<4, 2>(),
-                      m_txtDist->value(), m_txtSpeed->value()});
-    const auto required =
+    m_arrivals = CalculateETA({m_txtTime[0]->value(), m_txtTime[1]->value(), m_boxes.texts<4, 2>(),
+                               m_txtDist->value(), m_txtSpeed->value()});
+    m_required =
         CalculateReqSpd({m_boxes.texts<0, 4>(), m_boxes.texts<4, 2>(), m_txtDist->value()});
+    const ETAResult& arrivals = m_arrivals;
+    const ReqSpdResult& required = m_required;
 
     for (std::size_t i = 0; i < m_lblSPD.size(); ++i) {
         if (arrivals.labels) {
@@ -248,13 +248,23 @@ void frmETA::runETA()
         }
         setDimmed({m_lblSPD[i], m_lblETA[i]}, !arrivals.labels);
     }
-    m_requiredSpeed = required.speed.value_or("");
-    if (required.speed) m_lblReqSpd->setText(QString::fromStdString(m_requiredSpeed));
+    if (required.speed) m_lblReqSpd->setText(QString::fromStdString(*required.speed));
     setDimmed({m_lblReqSpd}, !required.speed);
     setNotice("arrivals", QString::fromStdString(arrivals.notice));
     // What disturbs both is said once.
     setNotice("required speed",
               required.notice == arrivals.notice ? "" : QString::fromStdString(required.notice));
+}
+
+WorkingPaper frmETA::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.results.clear(); // labels may show results of older inputs
+    if (m_required.speed) paper.results.push_back(paperFigure(*m_lblReqSpd));
+    if (m_arrivals.passage) paper.tables = {arrivalsTable(m_arrivals)};
+    paper.workings = {arrivalsWorking(m_arrivals), requiredSpeedWorking(m_required)};
+    paper.limits = {"The speed is that made good over the whole distance"};
+    return paper;
 }
 
 void frmETA::showTD(std::size_t end)

@@ -3,6 +3,8 @@
 
 #include "app/shell/CalculatorWindow.h"
 #include "app/shell/FollowingTD.h"
+#include "forms/frmETA/CalculateETA.h"
+#include "forms/frmETA/CalculateReqSpd.h"
 
 class QGroupBox;
 class QScrollBar;
@@ -17,6 +19,9 @@ class frmETA : public CalculatorWindow
 {
 public:
     explicit frmETA(Program& program);
+
+protected:
+    WorkingPaper paper() const override;
 
 private:
     /// A date box and a time box with the scroll bar that moves them by hours from what was typed.
@@ -59,7 +64,8 @@ private:
     std::array<ResultLabel*, 5> m_lblSPD{};
     std::array<ResultLabel*, 5> m_lblETA{};
     ResultLabel* m_lblReqSpd = nullptr;
-    std::string m_requiredSpeed; ///< empty while the label shows an older one
+    ETAResult m_arrivals;
+    ReqSpdResult m_required; ///< without a speed while the label shows an older one
 };
 
 } // namespace korvel

@@ -69,6 +69,7 @@ GCRoute routeBetween(const Ends& ends, Earth earth)
     route.eastward = EastWest(ends.long1, ends.long2) == EastOrWest::East;
     route.waypoints.push_back({ends.lat1, ends.long1});
     const NavFunc113::GreatCircle circle(ends.lat1, ends.long1, ends.lat2, ends.long2);
+    route.initialAngle = circle.initialAngle();
     for (const DegMin meridian : meridiansOfRoute(ends, route.eastward))
         route.waypoints.push_back({circle.latitudeAt(meridian), meridian});
     // As it was typed: along a meridian every latitude lies on the circle, and elsewhere its last
@@ -97,9 +98,8 @@ void fillTable(GCResult& result)
     }
 }
 
-void fillTrack(GCResult& result, const Ends& ends)
+void fillTrack(GCResult& result, const std::optional<NavFunc113::GreatCircleTrack>& track)
 {
-    const auto track = NavFunc113::TrackOfGreatCircle(ends.lat1, ends.long1, ends.lat2, ends.long2);
     if (!track) return;
     result.initialCourse = courseText(track->initialCourse);
     result.finalCourse = courseText(track->finalCourse);
@@ -120,22 +120,27 @@ GCResult CalculateGC(const GCInput& input)
     result.notice = remarks.text();
     if (!read) return result;
     const Ends ends{DegMin((*read)[0]), DegMin((*read)[1]), DegMin((*read)[2]), DegMin((*read)[3])};
-    const auto rhumbLine = [&](Earth earth) {
-        return NavFunc113::RhumbDistance(ends.lat1, ends.long1, ends.lat2, ends.long2, earth);
-    };
-    const Miles greatCircle = NavFunc113::GCDistance(ends.lat1, ends.long1, ends.lat2, ends.long2);
-    const Miles rhumb = rhumbLine(input.earth);
+    GCFigures figures;
+    figures.ends = {ends.lat1, ends.long1, ends.lat2, ends.long2};
+    figures.greatCircle = NavFunc113::GCDistance(ends.lat1, ends.long1, ends.lat2, ends.long2);
+    figures.rhumbLine = NavFunc113::RhumbCourseAndDistance(ends.lat1, ends.long1, ends.lat2,
+                                                           ends.long2, input.earth);
     result.route = routeBetween(ends, input.earth);
-    Miles sumOfLegs;
     for (const auto& leg : result.route.legs)
-        sumOfLegs += leg.distance;
+        figures.sumOfLegs += leg.distance;
+    figures.track = NavFunc113::TrackOfGreatCircle(ends.lat1, ends.long1, ends.lat2, ends.long2);
+    // The great circle is measured on the sphere, so the line it is compared with is too.
+    figures.rhumbLineOnSphere =
+        NavFunc113::RhumbDistance(ends.lat1, ends.long1, ends.lat2, ends.long2, Earth::Sphere);
 
     fillTable(result);
-    result.lblGC2000 = {Format(rhumb, milesFormat), Format(greatCircle, milesFormat),
-                        Format(sumOfLegs, milesFormat)};
-    fillTrack(result, ends);
-    // The great circle is measured on the sphere, so the line it is compared with is too.
-    result.saving = Format(std::max(Miles(0), rhumbLine(Earth::Sphere) - greatCircle), milesFormat);
+    result.lblGC2000 = {Format(figures.rhumbLine.distance, milesFormat),
+                        Format(figures.greatCircle, milesFormat),
+                        Format(figures.sumOfLegs, milesFormat)};
+    fillTrack(result, figures.track);
+    result.saving =
+        Format(std::max(Miles(0), figures.rhumbLineOnSphere - figures.greatCircle), milesFormat);
+    result.figures = figures;
     return result;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/great_circle.h"
 #include "navlib/sailing.h"
 #include "navlib/units.h"
 
@@ -27,6 +28,7 @@ struct GCRoute {
     std::vector<GCWaypoint> waypoints;      ///< departure first, 2 to 20; empty: nothing to draw
     std::vector<NavFunc113::RhumbLeg> legs; ///< leg i runs from waypoint i to waypoint i + 1
     bool eastward = false;
+    NavFunc113::Radians initialAngle; ///< of the circle on which the waypoints lie
 };
 
 struct GCRow {             ///< texts of one row of the table; an empty text blanks the label
@@ -34,6 +36,16 @@ struct GCRow {             ///< texts of one row of the table; an empty text bla
     std::string longitude; ///< lblWpLong
     std::string course;    ///< lblWpCo
     std::string distance;  ///< lblWpDist
+};
+
+/// What the results beside the table were calculated from.
+struct GCFigures {
+    std::array<NavFunc113::DegMin, 4> ends; ///< lat1, long1, lat2, long2
+    NavFunc113::RhumbLeg rhumbLine;
+    NavFunc113::Miles rhumbLineOnSphere;
+    NavFunc113::Miles greatCircle;
+    NavFunc113::Miles sumOfLegs;
+    std::optional<NavFunc113::GreatCircleTrack> track;
 };
 
 struct GCResult {
@@ -51,7 +63,8 @@ struct GCResult {
     std::string saving; ///< miles by which the great circle is shorter than the rhumb line
 
     GCRoute route;
-    std::string notice; ///< why everything is blank
+    std::optional<GCFigures> figures; ///< of the results with full precision
+    std::string notice;               ///< why everything is blank
 };
 
 /// Great-circle route with a waypoint on every tenth meridian. An input out of range blanks

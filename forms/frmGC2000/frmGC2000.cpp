@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/frmGC2000.h"
 
+#include "app/sailing_working.h"
 #include "app/shell/FollowingScrollArea.h"
 #include "forms/frmGC2000/DrawWPs.h"
 #include "forms/frmGC2000/GCFields.h"
 #include "forms/frmGC2000/GCPicture.h"
+#include "forms/frmGC2000/GCWorking.h"
 #include "navlib/arithmetic_error.h"
 
 #include <QAction>
@@ -256,6 +258,28 @@ void frmGC2000::runGC()
     show(m_lblSaving, m_result.saving);
     m_picGC->setChart(DrawWPs(m_result.route));
     setNotice("input", QString::fromStdString(m_result.notice));
+}
+
+WorkingPaper frmGC2000::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.workings = {greatCircleWorking(m_result, program().earth())};
+    paper.limits = {"The great circle is that of the sphere: against the spheroid its distance can "
+                    "be 0.5 % out, its courses some tenths of a degree"};
+    for (const std::string& sentence : sailingLimits(program().earth()))
+        paper.limits.push_back(sentence);
+    if (!m_result.figures) return paper;
+    paper.workings.push_back(waypointsWorking(m_result, program().earth()));
+    paper.tables = {waypointTable(m_result)};
+    paper.list = waypointList(m_result);
+    paper.line = routeOf(m_result);
+    return paper;
+}
+
+std::vector<PaperPicture> frmGC2000::paperPictures()
+{
+    if (!m_result.figures) return {};
+    return {paperPicture(*m_picGC, "Great circle and rhumb line. No navigational chart.", 0.6)};
 }
 
 void frmGC2000::showRow(std::size_t row)

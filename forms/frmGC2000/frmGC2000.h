@@ -18,6 +18,10 @@ class frmGC2000 : public CalculatorWindow
 public:
     explicit frmGC2000(Program& program);
 
+protected:
+    WorkingPaper paper() const override;
+    std::vector<PaperPicture> paperPictures() override;
+
 private:
     static constexpr int rowCount = GCResult::rowCount;
 

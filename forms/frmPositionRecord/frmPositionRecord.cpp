@@ -276,7 +276,7 @@ void frmPositionRecord::print()
                                 " SMT, TD " + Format(TD, "+0.0;-0.0") + " (ZD " +
                                 Format(-TD, "+0.0;-0.0") + ")";
     const QString record = QString::fromStdString(positionRecordText(input(), m_shown));
-    paper().print(QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
+    printer().print(QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
         printRecord(painter, room, record, QString::fromStdString(printed));
     });
 }

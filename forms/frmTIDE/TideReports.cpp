@@ -38,8 +38,8 @@ std::vector<QStringList> rowsOf(const StationCheck& check)
 
 } // namespace
 
-TideReports::TideReports(Program& program, QWidget& window, const Paper& paper)
-    : m_program(program), m_window(window), m_paper(paper)
+TideReports::TideReports(Program& program, QWidget& window, const PagePrinter& printer)
+    : m_program(program), m_window(window), m_printer(printer)
 {
 }
 
@@ -54,8 +54,8 @@ void TideReports::printDay(const TideSubject& subject, frmTIDEPicture& picture) 
         asQString(subject.place), asQString(TideDates::label(subject.day.four.serial)), subject.day,
         subject.lines,
         [&picture](QPainter& painter, const QSize& size) { picture.drawForPaper(painter, size); }};
-    m_paper.print(QPageLayout::Portrait,
-                  [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
+    m_printer.print(QPageLayout::Portrait,
+                    [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
 }
 
 void TideReports::printWeek(const TideSubject& subject) const
@@ -63,8 +63,8 @@ void TideReports::printWeek(const TideSubject& subject) const
     const TideWeekPage page{
         asQString(subject.place), subject.day.four.kind, asQString(subject.day.four.lblTD),
         weekFrom(subject.station, subject.day.four.serial, subject.dates), subject.lines};
-    m_paper.print(QPageLayout::Portrait,
-                  [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
+    m_printer.print(QPageLayout::Portrait,
+                    [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
 }
 
 void TideReports::showWeek(const TideSubject& subject) const

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Paper.h"
+#include "app/shell/PagePrinter.h"
 #include "app/shell/Program.h"
 #include "forms/frmTIDE/StationLines.h"
 #include "forms/frmTIDE/TideTables.h"
@@ -25,7 +25,7 @@ struct TideSubject {
 class TideReports
 {
 public:
-    TideReports(Program& program, QWidget& window, const Paper& paper);
+    TideReports(Program& program, QWidget& window, const PagePrinter& printer);
 
     void printDay(const TideSubject& subject, frmTIDEPicture& picture) const;
     void printWeek(const TideSubject& subject) const;
@@ -44,7 +44,7 @@ private:
 
     Program& m_program;
     QWidget& m_window;
-    const Paper& m_paper;
+    const PagePrinter& m_printer;
 };
 
 } // namespace korvel

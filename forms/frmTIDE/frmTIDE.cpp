@@ -30,7 +30,7 @@ frmTIDE::frmTIDE(Program& program)
                    habitKinds()),
       m_habits(loadedHabits()), m_sheet(new TideSheet(program, body())),
       m_extender(program, m_sheet->foot().progress(), [this] { readDates(); }),
-      m_reports(program, *this, paper()),
+      m_reports(program, *this, printer()),
       m_tideMenus(program, menus(), *menuBar(), m_list, m_habits, actions())
 {
     addControls();

@@ -3,6 +3,7 @@
 
 #include "forms/frmWeather/CalculateWeather.h"
 #include "forms/frmWeather/WeatherFields.h"
+#include "forms/frmWeather/WeatherWorking.h"
 #include "navlib/weather_terms.h"
 
 #include <QGridLayout>
@@ -60,6 +61,7 @@ QGroupBox* frmWeather::layOutTerms()
         grid->addWidget(new QLabel(WeatherFields[i].unit), row, 2);
         grid->addWidget(terms[i], row, 3);
     }
+    m_lblVISIBILITYnm->setAccessibleName("Visibility in miles");
     grid->addWidget(m_lblVISIBILITYnm, 2, 4);
     // Room for the longest terms, so that nothing moves while the officer types.
     const QFontMetrics metrics(m_lblVISIBILITY->font());
@@ -90,8 +92,20 @@ QGroupBox* frmWeather::layOutLetters()
         });
         grid->addWidget(option, index % rows, index / rows);
     }
+    m_lblWr->setAccessibleName("Weather");
     grid->addWidget(m_lblWr, rows, 0, 1, columns);
     return group;
+}
+
+WorkingPaper frmWeather::paper() const
+{
+    const auto shown = [](const ResultLabel* label) { return label->text().toStdString(); };
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.workings = {weatherWorking(m_boxes[Wave]->value(), m_boxes[Swell]->value(),
+                                     m_boxes[Visibility]->value(),
+                                     {shown(m_lblWave), shown(m_lblSWELL), shown(m_lblVISIBILITY),
+                                      shown(m_lblVISIBILITYnm), shown(m_lblWr)})};
+    return paper;
 }
 
 void frmWeather::addCalculations()

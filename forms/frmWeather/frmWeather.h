@@ -14,6 +14,9 @@ class frmWeather : public CalculatorWindow
 public:
     explicit frmWeather(Program& program);
 
+protected:
+    WorkingPaper paper() const override;
+
 private:
     QGroupBox* layOutTerms();
     QGroupBox* layOutLetters();

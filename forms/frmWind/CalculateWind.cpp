@@ -19,8 +19,9 @@ WindResult CalculateWind(const std::array<std::string, 4>& txtWind)
     wind.shipSpeed = NavFunc113::Knots((*read)[1]);
     wind.relativeDirection = NavFunc113::Degrees((*read)[2]);
     wind.apparentSpeed = NavFunc113::Knots((*read)[3]);
-    wind.trueDirection = NavFunc113::TrueWindDirection(wind.course, wind.shipSpeed,
-                                                       wind.relativeDirection, wind.apparentSpeed);
+    const auto steps = NavFunc113::TrueWindFromBow(wind.course, wind.shipSpeed,
+                                                   wind.relativeDirection, wind.apparentSpeed);
+    wind.trueDirection = steps.direction;
     wind.trueSpeed =
         NavFunc113::TrueWindSpeed(wind.shipSpeed, wind.relativeDirection, wind.apparentSpeed);
     const std::string name = NavFunc113::TrueWindName(wind.course, wind.shipSpeed,
@@ -31,6 +32,7 @@ WindResult CalculateWind(const std::array<std::string, 4>& txtWind)
                       "Beaufort " + Format(beaufort, "0") + " (" +
                           Format(wind.trueSpeed, "0.0Kn)")};
     result.figures = wind;
+    result.steps = steps;
     return result;
 }
 

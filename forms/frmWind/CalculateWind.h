@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/frmWind/WindPicture.h"
+#include "navlib/wind.h"
 
 #include <array>
 #include <optional>
@@ -13,6 +14,7 @@ namespace korvel
 struct WindResult {                     ///< an empty text blanks the label
     std::array<std::string, 2> lblWind; ///< direction of the true wind; Beaufort number and speed
     std::optional<WindFigures> figures; ///< for the picture; nothing: rings only
+    std::optional<NavFunc113::TrueWindSteps> steps; ///< of the direction
     std::string notice; ///< why the labels are blank, and what else is to be said of the boxes
 };
 

@@ -4,6 +4,7 @@
 #include "app/reading.h"
 #include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"
+#include "forms/frmWind/WindWorking.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -65,6 +66,8 @@ QGroupBox* frmWind::layOutResults()
 {
     auto* group = new QGroupBox("True wind");
     auto* grid = new QGridLayout(group);
+    m_lblWind[0]->setAccessibleName("True wind from");
+    m_lblWind[1]->setAccessibleName("Force of the true wind");
     grid->addWidget(new QLabel("From"), 0, 0);
     grid->addWidget(m_lblWind[0], 0, 1);
     grid->addWidget(new QLabel("Force"), 1, 0);
@@ -132,6 +135,23 @@ void frmWind::runWind()
         m_lblWind[i]->setText(QString::fromStdString(m_wind.lblWind[i]));
     m_picWind->setWind(m_wind.figures, orientation());
     setNotice("input", QString::fromStdString(m_wind.notice));
+}
+
+WorkingPaper frmWind::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.workings = {trueWindWorking(m_wind)};
+    paper.limits = {"True north is that of the course: a gyro or compass error goes into the "
+                    "direction of the wind whole",
+                    "Leeway and current are not allowed for: the wind is that over the water"};
+    return paper;
+}
+
+std::vector<PaperPicture> frmWind::paperPictures()
+{
+    if (!m_wind.figures) return {};
+    const QString up = orientation() == WindOrientation::NorthUp ? "north up" : "head up";
+    return {paperPicture(*m_picWind, "Wind triangle, knots, " + up, 0.8)};
 }
 
 void frmWind::optWind_Click()

@@ -20,6 +20,10 @@ class frmWind : public CalculatorWindow
 public:
     explicit frmWind(Program& program);
 
+protected:
+    WorkingPaper paper() const override;
+    std::vector<PaperPicture> paperPictures() override;
+
 private:
     void addOptions();
     QGroupBox* layOutInputs();

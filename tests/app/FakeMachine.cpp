@@ -113,4 +113,13 @@ std::optional<std::string> FakeFiles::remove(const std::string& name)
     return std::nullopt;
 }
 
+std::vector<std::string> FakeFiles::names(const std::string& beginning,
+                                          const std::string& ending) const
+{
+    std::vector<std::string> found;
+    for (const auto& [name, bytes] : files)
+        if (name.starts_with(beginning) && name.ends_with(ending)) found.push_back(name);
+    return found;
+}
+
 } // namespace korvel::testing

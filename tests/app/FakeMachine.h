@@ -26,6 +26,16 @@ public:
     Answer ask(const Message& message) override;
     std::optional<std::string> input(const std::string& prompt, const std::string& title,
                                      const std::string& defaultAnswer) override;
+    std::optional<std::string> fileToWrite(const std::string& title,
+                                           const std::string& name) override
+    {
+        return input(title, {}, name);
+    }
+    std::optional<std::string> fileToRead(const std::string& title,
+                                          const std::string& ending) override
+    {
+        return input(title, {}, ending);
+    }
     void beep() override { ++beeps; }
 
     /// Answers the next message box, in order. @param run happens while the box is open
@@ -82,6 +92,18 @@ public:
     std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
     std::optional<std::string> rename(const std::string& name, const std::string& newName) override;
     std::optional<std::string> remove(const std::string& name) override;
+    std::optional<std::string> append(const std::string& name, const std::string& bytes) override
+    {
+        return refusal ? refusal : (files[name] += bytes, std::nullopt);
+    }
+    std::vector<std::string> names(const std::string& beginning,
+                                   const std::string& ending) const override;
+    Content readAnywhere(const std::string& path) override { return read(path); }
+    std::optional<std::string> saveAnywhere(const std::string& path,
+                                            const std::string& bytes) override
+    {
+        return save(path, bytes);
+    }
     std::string path(const std::string& name) const override { return "folder/" + name; }
 
     std::map<std::string, std::string> files;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/Format.h"
+#include "app/shell/ResultLabel.h"
 #include "tests/scenes/Steps.h"
 
 #include <QAbstractButton>
@@ -15,6 +16,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
+#include <QTextEdit>
 
 #include <algorithm>
 #include <cmath>
@@ -31,6 +33,7 @@ std::string shownBy(QWidget& widget)
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return button->text().toStdString();
     if (auto* texts = qobject_cast<QPlainTextEdit*>(&widget))
         return texts->toPlainText().toStdString();
+    if (auto* paper = qobject_cast<QTextEdit*>(&widget)) return paper->toPlainText().toStdString();
     if (auto* list = qobject_cast<QListWidget*>(&widget)) {
         std::string rows;
         for (int row = 0; row < list->count(); ++row)
@@ -241,6 +244,27 @@ void count(const char* what, int seen, const Words& words)
         throw std::runtime_error(std::to_string(seen) + " " + what);
 }
 
+/// Every result of the window in hand stands in the working of its paper as it is shown.
+void worked(Stage& stage, const Words& words)
+{
+    const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*)$");
+    pressKey("F2");
+    auto& text = dynamic_cast<QTextEdit&>(stage.control("txtPaper"));
+    const QString working = text.toPlainText().section("Working: ", 1);
+    for (const auto* label : stage.window().findChildren<ResultLabel*>()) {
+        const std::string name = label->objectName().toStdString();
+        const bool isExcepted =
+            std::ranges::any_of(words, [&](const Word& each) { return each.text == name; });
+        if (label->text().isEmpty() || isExcepted || others.match(label->objectName()).hasMatch())
+            continue;
+        if (!working.contains(label->text().trimmed()))
+            throw std::runtime_error("no step leads to " + name + ", " +
+                                     label->text().toStdString());
+    }
+    text.window()->close();
+    stage.turnTo(stage.window().objectName().toStdString());
+}
+
 void sheets(Stage& stage, const Words& words)
 {
     const QString boxes = QString::fromStdString(stage.printedBoxes());
@@ -302,6 +326,7 @@ const std::map<std::string, Verb>& eyeVerbs()
         {"drawn", drawn<true>},
         {"not-drawn", drawn<false>},
         {"contrast", contrast},
+        {"worked", worked},
         {"printed", [](S s, W w) { expectText(s.printedText(), w, 0); }},
         {"sheets", sheets},
         {"size", size},

@@ -22,6 +22,16 @@ class StageFiles : public ProgramFolder
 public:
     using ProgramFolder::ProgramFolder;
     std::optional<std::string> save(const std::string& name, const std::string& bytes) override;
+    std::optional<std::string> append(const std::string& name, const std::string& bytes) override
+    {
+        return refusal ? refusal : ProgramFolder::append(name, bytes);
+    }
+    std::optional<std::string> saveAnywhere(const std::string& path,
+                                            const std::string& bytes) override
+    {
+        return refusal ? refusal : save(path, bytes);
+    }
+    Content readAnywhere(const std::string& path) override { return read(path); }
 
     int saves = 0;
     std::optional<std::string> refusal; ///< reason for which nothing can be saved

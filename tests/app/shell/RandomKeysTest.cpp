@@ -41,6 +41,14 @@ public:
     {
         return m_chance() % 3 == 0 ? std::nullopt : std::optional(offered);
     }
+    std::optional<std::string> fileToWrite(const std::string&, const std::string&) override
+    {
+        return std::nullopt;
+    }
+    std::optional<std::string> fileToRead(const std::string&, const std::string&) override
+    {
+        return std::nullopt;
+    }
     void beep() override {}
 
 private:

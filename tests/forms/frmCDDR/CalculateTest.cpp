@@ -44,8 +44,8 @@ TEST(CalculateDR, comesBackToWhereTheCourseAndDistanceLead)
         const std::array<std::string, 4> route = {"35.08", "139.46", "37.45", "-122.42"};
         const CDResult cd = CalculateCD({route, earth});
         const DRResult dr =
-            CalculateDR({{route[0], route[1], std::to_string(cd.courseDegrees->value()),
-                          std::to_string(cd.miles->value())},
+            CalculateDR({{route[0], route[1], std::to_string(cd.leg->course.value()),
+                          std::to_string(cd.leg->distance.value())},
                          earth});
         EXPECT_NEAR(dr.latitudeReached->packed(), 37.45, 0.0005);
         EXPECT_NEAR(dr.longitudeReached->packed(), -122.42, 0.003);

@@ -6,21 +6,24 @@
 #include <functional>
 
 class QPainter;
+class QPrinter;
 class QWidget;
 
 namespace korvel
 {
 
+class PaperDocument;
 class Program;
 
-/// Printing of a window, through the system's print dialog.
-class Paper
+/// Printing from a window, through the system's print dialog.
+class PagePrinter
 {
 public:
-    Paper(Program& program, QWidget& window);
+    /// @param program, window must outlive this object
+    PagePrinter(Program& program, QWidget& window);
 
-    /// Prints a widget as it stands, as large as the page allows.
-    void printWidget(QWidget& widget) const;
+    /// Shows the pages of a paper, and prints them when the officer wants it.
+    void print(const PaperDocument& document) const;
 
     /// Prints a page of the window's own making.
     /// @param draw gets a painter in device pixels and the room of the page in them
@@ -28,6 +31,9 @@ public:
     void print(QPageLayout::Orientation orientation, const Draw& draw) const;
 
 private:
+    void setUp(QPrinter& printer, QPageLayout::Orientation orientation) const;
+    bool letChoose(QPrinter& printer) const;
+    void paint(QPrinter& printer, const std::function<void(QPainter&)>& draw) const;
     void say(const QString& text) const;
 
     Program& m_program;

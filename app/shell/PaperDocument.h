@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/WorkingPaper.h"
+
+#include <QPicture>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QPagedPaintDevice;
+class QPainter;
+class QTextDocument;
+
+namespace korvel
+{
+
+/// A picture of a paper: what was drawn, as vectors, at the moment of drawing.
+struct PaperPicture {
+    QString caption;
+    QSize size; ///< in pixels of a screen of 96 dots an inch
+    QPicture drawing;
+};
+
+/// Draws a picture for a paper. Fonts are set in pixels, so that letters grow with the lines.
+PaperPicture makePaperPicture(const QString& caption, const QSize& size,
+                              const std::function<void(QPainter&, const QSize&)>& draw);
+
+/// A working paper as a document of the toolkit: real text with pictures of lines, black on white
+/// whatever the colours of the screen.
+class PaperDocument
+{
+public:
+    PaperDocument(PaperHeading heading, WorkingPaper paper, std::vector<PaperPicture> pictures);
+    /// A plain text as a paper: a day of the journal.
+    PaperDocument(QString title, QString plainText);
+
+    const PaperHeading& heading() const { return m_heading; }
+    const WorkingPaper& paper() const { return m_paper; }
+    QString title() const { return m_title; }
+
+    /// The document, for a screen.
+    std::unique_ptr<QTextDocument> make() const;
+
+    /// Draws pages, each with its number, onto paper or into a file.
+    /// @param painter is active on the device
+    /// @param last page, 0 for all
+    void drawPages(QPagedPaintDevice& device, QPainter& painter, int first = 1, int last = 0) const;
+
+    /// The whole paper as the bytes of a PDF file, its fonts embedded.
+    QByteArray PDF() const;
+
+private:
+    QString m_title;
+    PaperHeading m_heading{};
+    WorkingPaper m_paper;
+    std::vector<PaperPicture> m_pictures;
+    QString m_plainText;
+};
+
+} // namespace korvel

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/PaperWindow.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTextBrowser>
+#include <QTextDocument>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr QSize paperWindowSize(820, 900);
+
+} // namespace
+
+PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* parent)
+    : QMainWindow(parent, Qt::Window), m_paper(paper), m_text(new QTextBrowser),
+      m_menu(program, *this,
+             {[this] { return m_paper; },
+              [this](const QString& said) { statusBar()->showMessage(said); }})
+{
+    setObjectName("frmPaper");
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_text->setObjectName("txtPaper");
+    m_text->setAccessibleName("Working paper");
+    // Paper is black on white, whatever the colours of the screen.
+    m_text->setPalette(QPalette(Qt::black, Qt::white));
+    setCentralWidget(m_text);
+    QMenu* menu = m_menu.addTo(*menuBar(), nullptr);
+    menu->addSeparator();
+    menu->addAction("Clos&e", this, &QWidget::close)->setShortcut(Qt::Key_Escape);
+    resize(paperWindowSize);
+    showPaper(paper);
+}
+
+void PaperWindow::showPaper(const PaperDocument& paper)
+{
+    m_paper = paper;
+    setWindowTitle("Paper: " + paper.title());
+    QTextDocument* document = paper.make().release();
+    document->setParent(m_text);
+    m_text->setDocument(document);
+    delete m_document; // nobody shows it any more
+    m_document = document;
+    show();
+    raise();
+    activateWindow();
+}
+
+} // namespace korvel

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/shell/PaperMenu.h"
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QTextDocument>
+
+class QTextBrowser;
+
+namespace korvel
+{
+
+/// The working paper of a calculator window as it stood when it was asked for. It belongs to that
+/// window and goes with it.
+class PaperWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// @param program must outlive the window
+    PaperWindow(Program& program, const PaperDocument& paper, QWidget* parent);
+
+    /// Shows another paper.
+    void showPaper(const PaperDocument& paper);
+
+private:
+    PaperDocument m_paper;
+    QTextBrowser* m_text;
+    QPointer<QTextDocument> m_document; ///< the one that it shows
+    PaperMenu m_menu;
+};
+
+} // namespace korvel

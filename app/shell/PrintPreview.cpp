@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/PrintPreview.h"
+
+#include "app/shell/PaperDocument.h"
+
+#include <QDialogButtonBox>
+#include <QPainter>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr QSize previewSize(720, 900);
+
+} // namespace
+
+PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent)
+    : QDialog(parent), m_pages(new QPrintPreviewWidget(&printer))
+{
+    setObjectName("dlgPreview");
+    setWindowTitle("Pages of \"" + document.title() + '"');
+    connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [&document](QPrinter* onto) {
+        QPainter painter(onto);
+        document.drawPages(*onto, painter);
+    });
+    m_pages->fitToWidth();
+
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    const auto add = [&](const char* caption, const char* name, QDialogButtonBox::ButtonRole role) {
+        QPushButton* button = buttons->addButton(caption, role);
+        button->setObjectName(name);
+        return button;
+    };
+    connect(add("P&revious page", "cmdPrevious", QDialogButtonBox::ActionRole),
+            &QPushButton::clicked, this, [this] { turn(-1); });
+    connect(add("&Next page", "cmdNext", QDialogButtonBox::ActionRole), &QPushButton::clicked, this,
+            [this] { turn(1); });
+    QPushButton* print = add("&Print..", "cmdPrint", QDialogButtonBox::AcceptRole);
+    print->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(m_pages, 1);
+    column->addWidget(buttons);
+    resize(previewSize);
+    print->setFocus();
+}
+
+void PrintPreview::turn(int pages)
+{
+    m_pages->setCurrentPage(m_pages->currentPage() + pages);
+}
+
+} // namespace korvel

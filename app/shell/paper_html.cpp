@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/paper_html.h"
+
+#include "app/shell/asQString.h"
+
+#include <QStringList>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr const char* signatureLine = "______________________________";
+
+QString escaped(const std::string& text)
+{
+    return asQString(text).toHtmlEscaped();
+}
+
+QString figureHtml(const PaperFigure& each)
+{
+    return escaped(each.value) + (each.unit.empty() ? "" : ' ' + escaped(each.unit));
+}
+
+QString titleHtml(const std::string& text)
+{
+    return "<h3>" + escaped(text) + "</h3>";
+}
+
+QString rowHtml(const QStringList& cells, const QString& tag = "td")
+{
+    QString html = "<tr>";
+    for (const QString& cell : cells)
+        html += '<' + tag + '>' + cell + "</" + tag + '>';
+    return html + "</tr>";
+}
+
+/// A table whose heading is repeated where a page ends.
+QString tableHtml(const QStringList& headings, const QString& rows)
+{
+    return "<table border='1' cellspacing='0' cellpadding='2' width='100%'><thead>" +
+           rowHtml(headings, "th") + "</thead><tbody>" + rows + "</tbody></table>";
+}
+
+QString figuresHtml(const std::vector<PaperFigure>& all, const QStringList& headings)
+{
+    QString rows;
+    for (const PaperFigure& each : all)
+        rows += rowHtml({escaped(each.name), figureHtml(each), escaped(each.shown)});
+    return tableHtml(headings, rows);
+}
+
+QString sentencesHtml(const std::vector<std::string>& all)
+{
+    QString html = "<ul>";
+    for (const std::string& each : all)
+        html += "<li>" + escaped(each) + "</li>";
+    return html + "</ul>";
+}
+
+QString listHtml(const PaperTable& each)
+{
+    const auto escapedAll = [](const std::vector<std::string>& texts) {
+        QStringList cells;
+        for (const std::string& text : texts)
+            cells << escaped(text);
+        return cells;
+    };
+    QString rows;
+    for (const auto& cells : each.rows)
+        rows += rowHtml(escapedAll(cells));
+    return titleHtml(each.title) + tableHtml(escapedAll(each.headings), rows);
+}
+
+QString workingHtml(const Working& each)
+{
+    QString html = titleHtml("Working: " + each.title) + sentencesHtml(each.method);
+    QString rows;
+    int number = 0;
+    for (const WorkingStep& step : each.steps)
+        rows +=
+            rowHtml({QString::number(++number), escaped(step.name), escaped(step.formula),
+                     escaped(step.figures),
+                     escaped(step.value) + (step.unit.empty() ? "" : ' ' + escaped(step.unit))});
+    if (number > 0) html += tableHtml({"", "Step", "Formula", "Figures", "Value"}, rows);
+    for (const PaperTable& alike : each.tables)
+        html += listHtml(alike);
+    if (!each.whyNone.empty()) html += "<p>" + escaped(each.whyNone) + "</p>";
+    return html;
+}
+
+/// Ship and voyage, times: two captions a line.
+QString headingHtml(const PaperHeading& heading)
+{
+    QString rows;
+    const std::vector<PaperFigure> lines = headingLines(heading);
+    for (std::size_t i = 0; i + 1 < lines.size(); i += 2)
+        rows += rowHtml({escaped(lines[i].name), "<b>" + figureHtml(lines[i]) + "</b>",
+                         escaped(lines[i + 1].name), "<b>" + figureHtml(lines[i + 1]) + "</b>"});
+    return "<table cellspacing='0' cellpadding='2' width='100%'>" + rows + "</table>";
+}
+
+} // namespace
+
+QString pictureMark(std::size_t picture)
+{
+    return QString("[picture %1]").arg(picture);
+}
+
+QString paperHtml(const PaperHeading& heading, const WorkingPaper& paper, std::size_t pictures)
+{
+    QString html = "<h2>" + escaped(paper.kind) + "</h2>" + headingHtml(heading);
+    if (!paper.inputs.empty())
+        html += titleHtml("Inputs as understood") +
+                figuresHtml(paper.inputs, {"Input", "Understood as", "Typed as"});
+    html += titleHtml("Results");
+    if (const std::string why = whyNoResults(paper); !why.empty())
+        html += "<p>" + escaped(why) + "</p>";
+    if (!paper.results.empty())
+        html += figuresHtml(paper.results, {"Result", "Value", "In the window"});
+    for (std::size_t i = 0; i < pictures; ++i)
+        html += "<p>" + pictureMark(i) + "</p>";
+    for (const PaperTable& each : paper.tables)
+        html += listHtml(each);
+    for (const Working& each : paper.workings)
+        html += workingHtml(each);
+    if (!paper.remarks.empty()) html += titleHtml("Remarks") + sentencesHtml(paper.remarks);
+    if (!paper.limits.empty())
+        html += titleHtml("Limits of accuracy") + sentencesHtml(paper.limits);
+    return html + "<p>&nbsp;</p><p>Signature " + signatureLine + " &nbsp; Date ______________</p>";
+}
+
+} // namespace korvel

@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmETA/ETAWorking.h"
+
+#include "app/Format.h"
+
+namespace korvel
+{
+namespace
+{
+
+constexpr const char* inFull = "yyyy-mm-dd hh:mm";
+
+NavFunc113::DateTime arrivalOf(const Passage& passage, std::size_t speed)
+{
+    return passage.departure + passage.TDChange / 24 + passage.hours[speed] / 24;
+}
+
+} // namespace
+
+Working arrivalsWorking(const ETAResult& result)
+{
+    Working working{"Arrival at five speeds",
+                    {"Local time at arrival = local time at departure + change of TD + distance / "
+                     "speed; TD = local time - UTC, east positive"},
+                    {}};
+    if (!result.passage) {
+        working.whyNone = "Nothing was entered, or the remarks say why there is no arrival.";
+        return working;
+    }
+    const Passage& passage = *result.passage;
+    working.step("Local time at departure", "date and time as typed", "",
+                 Format(passage.departure, inFull), "LT");
+    working.step("Change of TD", "ΔTD = TD at arrival - TD at departure", "",
+                 figure(passage.TDChange, 2), "h");
+    PaperTable table{"Hours = distance / speed; arrival = departure + ΔTD + hours, rounded to the "
+                     "nearest second, then cut to the minute",
+                     {"Knots", "Distance, miles", "Hours", "ΔTD, h", "Arrival, local time",
+                      "In the window"},
+                     {}};
+    for (std::size_t i = 0; i < passage.speeds.size(); ++i)
+        table.rows.push_back({result.labels->lblSPD[i], figure(passage.distance, 2),
+                              figure(passage.hours[i], 5), figure(passage.TDChange, 2),
+                              Format(arrivalOf(passage, i), "yyyy-mm-dd hh:mm:ss"),
+                              result.labels->lblETA[i]});
+    working.tables = {table};
+    return working;
+}
+
+PaperTable arrivalsTable(const ETAResult& result)
+{
+    PaperTable table{
+        "Arrivals", {"Speed, knots", "Local time at arrival", "In the window"}, {}};
+    for (std::size_t i = 0; i < result.passage->speeds.size(); ++i)
+        table.rows.push_back({result.labels->lblSPD[i], Format(arrivalOf(*result.passage, i), inFull),
+                              result.labels->lblETA[i]});
+    return table;
+}
+
+Working requiredSpeedWorking(const ReqSpdResult& result)
+{
+    Working working{"Required speed",
+                    {"Speed = distance / hours between departure and arrival, both by UTC"},
+                    {}};
+    if (!result.speed) {
+        working.whyNone = "No arrival wanted was entered, or the remarks say why there is no speed.";
+        return working;
+    }
+    working.step("Departure", "UTC = local time - TD", "", Format(result.departure, inFull), "UTC");
+    working.step("Arrival wanted", "UTC = local time - TD", "", Format(result.arrival, inFull),
+                 "UTC");
+    working.step("Hours", "(arrival - departure) × 24", "", figure(result.hours, 5), "h");
+    working.step("Required speed", "distance / hours",
+                 figure(result.distance, 2) + " / " + figure(result.hours, 5), *result.speed,
+                 "knots");
+    return working;
+}
+
+} // namespace korvel

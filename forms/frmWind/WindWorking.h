@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/Working.h"
+#include "forms/frmWind/CalculateWind.h"
+
+namespace korvel
+{
+
+/// How the true wind came about.
+Working trueWindWorking(const WindResult& result);
+
+} // namespace korvel
