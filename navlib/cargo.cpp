@@ -37,11 +37,12 @@ KilogramsPerCubicMetre densityThatGives(KilogramsPerCubicMetre target, Factor fa
     throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
 }
 
-double factorOf1980(double K0, KilogramsPerCubicMetre density, double temperatureDifference)
+VolumeCorrection correctionOf1980(double K0, KilogramsPerCubicMetre density,
+                                  double temperatureDifference)
 {
     const double alpha = K0 / (density * density);
     const double x = alpha * temperatureDifference;
-    return std::exp(-x * (1 + 0.8 * x));
+    return {density, K0, alpha, temperatureDifference, 0, 1, std::exp(-x * (1 + 0.8 * x))};
 }
 
 /// Temperature of the scale of 1968, in which the expansion was measured, from today's scale.
@@ -57,7 +58,7 @@ Fahrenheit onScaleOf1968(Fahrenheit temperature)
     return FahrenheitOfCelsius(t90 - difference);
 }
 
-double factorOf2004(KilogramsPerCubicMetre density60, Fahrenheit temperature)
+VolumeCorrection correctionOf2004(KilogramsPerCubicMetre density60, Fahrenheit temperature)
 {
     // 60 degF lies at 60.0068749 on the scale of 1968; the base density moves by that much.
     constexpr double shiftOf60F = 0.01374979547;
@@ -67,25 +68,25 @@ double factorOf2004(KilogramsPerCubicMetre density60, Fahrenheit temperature)
         density60 * (1 + (std::exp(A * (1 + 0.8 * A)) - 1) / (1 + A * (1 + 1.6 * A) * B));
     const double alpha = K0of6A / (base * base);
     const double dt = onScaleOf1968(temperature) - 60.0068749;
-    return std::exp(-alpha * dt * (1 + 0.8 * alpha * (dt + shiftOf60F)));
+    return {base,
+            K0of6A,
+            alpha,
+            dt,
+            shiftOf60F,
+            1,
+            std::exp(-alpha * dt * (1 + 0.8 * alpha * (dt + shiftOf60F)))};
 }
 
-double factorTo60F(KilogramsPerCubicMetre density60, Fahrenheit temperature, CrudeEdition edition)
+double factorOf2004(KilogramsPerCubicMetre density60, Fahrenheit temperature)
 {
-    if (edition == CrudeEdition::Of2004) return factorOf2004(density60, temperature);
-    return factorOf1980(K0of6A, density60, temperature - 60);
+    return correctionOf2004(density60, temperature).factor;
 }
 
-double hydrometerCorrection(Celsius temperature)
+VolumeCorrection correctionTo60F(KilogramsPerCubicMetre density60, Fahrenheit temperature,
+                                 CrudeEdition edition)
 {
-    const double dt = temperature - 15;
-    return 1 - 0.000023 * dt - 0.00000002 * dt * dt;
-}
-
-double hydrometerCorrectionF(Fahrenheit temperature)
-{
-    const double dt = temperature - 60;
-    return 1 - 0.00001278 * dt - 0.0000000062 * dt * dt;
+    if (edition == CrudeEdition::Of2004) return correctionOf2004(density60, temperature);
+    return correctionOf1980(K0of6A, density60, temperature - 60);
 }
 
 } // namespace
@@ -129,20 +130,46 @@ APIGravity APIFromDensity15(KilogramsPerCubicMetre density15, CrudeEdition editi
     return APIFromDensity60(density15 * VCF54A(density15, reference60F, edition), edition);
 }
 
-double VCF54A(KilogramsPerCubicMetre density15, Celsius temperature, CrudeEdition edition)
+double HydrometerCorrection(Celsius temperature)
+{
+    const double dt = temperature - 15;
+    return 1 - 0.000023 * dt - 0.00000002 * dt * dt;
+}
+
+double HydrometerCorrectionF(Fahrenheit temperature)
+{
+    const double dt = temperature - 60;
+    return 1 - 0.00001278 * dt - 0.0000000062 * dt * dt;
+}
+
+VolumeCorrection CorrectionBy54A(KilogramsPerCubicMetre density15, Celsius temperature,
+                                 CrudeEdition edition)
 {
     requirePositive(density15);
-    if (edition == CrudeEdition::Of1980) return factorOf1980(K0of54A, density15, temperature - 15);
+    if (edition == CrudeEdition::Of1980)
+        return correctionOf1980(K0of54A, density15, temperature - 15);
     // The revision knows one base, 60 degF; the way to 15 degC leads over it.
     const KilogramsPerCubicMetre density60 = densityThatGives(
         density15, [](auto density) { return factorOf2004(density, reference15C); });
-    return Quotient(factorOf2004(density60, FahrenheitOfCelsius(temperature)),
-                    factorOf2004(density60, reference15C));
+    VolumeCorrection correction = correctionOf2004(density60, FahrenheitOfCelsius(temperature));
+    correction.atReference = factorOf2004(density60, reference15C);
+    correction.factor = Quotient(correction.factor, correction.atReference);
+    return correction;
+}
+
+VolumeCorrection CorrectionBy6A(APIGravity api, Fahrenheit temperature, CrudeEdition edition)
+{
+    return correctionTo60F(Density60FromAPI(api, edition), temperature, edition);
+}
+
+double VCF54A(KilogramsPerCubicMetre density15, Celsius temperature, CrudeEdition edition)
+{
+    return CorrectionBy54A(density15, temperature, edition).factor;
 }
 
 double VCF6A(APIGravity api, Fahrenheit temperature, CrudeEdition edition)
 {
-    return factorTo60F(Density60FromAPI(api, edition), temperature, edition);
+    return CorrectionBy6A(api, temperature, edition).factor;
 }
 
 bool WithinTable54A(KilogramsPerCubicMetre density15, Celsius temperature, CrudeEdition edition)
@@ -169,7 +196,7 @@ bool WithinTable6A(APIGravity api, Fahrenheit temperature, CrudeEdition edition)
 KilogramsPerCubicMetre Density15FromObserved(KilogramsPerCubicMetre observed, Celsius temperature,
                                              ReadWith means, CrudeEdition edition)
 {
-    if (means == ReadWith::Hydrometer) observed *= hydrometerCorrection(temperature);
+    if (means == ReadWith::Hydrometer) observed *= HydrometerCorrection(temperature);
     requirePositive(observed);
     return densityThatGives(observed, [temperature, edition](auto density15) {
         return VCF54A(density15, temperature, edition);
@@ -180,11 +207,11 @@ APIGravity API60FromObserved(APIGravity observed, Fahrenheit temperature, ReadWi
                              CrudeEdition edition)
 {
     KilogramsPerCubicMetre density = Density60FromAPI(observed, edition);
-    if (means == ReadWith::Hydrometer) density *= hydrometerCorrectionF(temperature);
+    if (means == ReadWith::Hydrometer) density *= HydrometerCorrectionF(temperature);
     requirePositive(density);
     const KilogramsPerCubicMetre density60 =
         densityThatGives(density, [temperature, edition](auto candidate) {
-            return factorTo60F(candidate, temperature, edition);
+            return correctionTo60F(candidate, temperature, edition).factor;
         });
     return APIFromDensity60(density60, edition);
 }

@@ -50,6 +50,26 @@ KilogramsPerCubicMetre Density15FromAPI(APIGravity api,
 APIGravity APIFromDensity15(KilogramsPerCubicMetre density15,
                             CrudeEdition edition = CrudeEdition::Of1980);
 
+/// A volume correction factor with what it was calculated from:
+/// exp(-alpha x difference x (1 + 0.8 alpha (difference + shift))) / atReference.
+struct VolumeCorrection {
+    KilogramsPerCubicMetre density = 0; ///< at the base of the formula
+    double K0 = 0;
+    double alpha = 0;       ///< K0 / density^2, per degree of the base
+    double difference = 0;  ///< of temperature from the base
+    double shift = 0;       ///< of the base itself on the scale of 1968; 0 in the edition of 1980
+    double atReference = 1; ///< 54A of 2004: the factor at 15 degC, for the base is 60 degF
+    double factor = 1;
+};
+VolumeCorrection CorrectionBy54A(KilogramsPerCubicMetre density15, Celsius temperature,
+                                 CrudeEdition edition = CrudeEdition::Of1980);
+VolumeCorrection CorrectionBy6A(APIGravity api, Fahrenheit temperature,
+                                CrudeEdition edition = CrudeEdition::Of1980);
+
+/// Correction of a glass hydrometer for its own expansion: what its reading is multiplied with.
+double HydrometerCorrection(Celsius temperature);
+double HydrometerCorrectionF(Fahrenheit temperature);
+
 /// Volume correction factor to 15 degC, Table 54A; not rounded.
 ///
 /// @param density15 at 15 degC; the table covers 610 to 1075 (see WithinTable54A), beyond it the

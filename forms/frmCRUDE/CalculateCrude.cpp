@@ -56,22 +56,27 @@ struct Oil {
 };
 
 /// The density or gravity box, reduced to its reference temperature when it was observed.
-std::optional<double> referenceValue(const CrudeInput& input, double typed, Remarks& remarks)
+std::optional<double> referenceValue(const CrudeInput& input, double typed, Remarks& remarks,
+                                     CrudeFigures& figures)
 {
+    figures.typedDensity = typed;
     if (!input.densityObserved) return typed;
     const std::string& box =
         input.observedTemperature.empty() ? input.temperature : input.observedTemperature;
     const auto at =
         temperatureIn(box, input.temperatureUnit, "temperature of the density", remarks);
     if (!at) return std::nullopt;
-    if (input.densityBase == DensityBase::Density15)
-        return NavFunc113::Density15FromObserved(typed, celsius(*at, input.temperatureUnit),
-                                                 input.readWith, input.edition);
-    return NavFunc113::API60FromObserved(typed, fahrenheit(*at, input.temperatureUnit),
-                                         input.readWith, input.edition);
+    if (input.densityBase == DensityBase::Density15) {
+        figures.densityTakenAt = celsius(*at, input.temperatureUnit);
+        return NavFunc113::Density15FromObserved(typed, *figures.densityTakenAt, input.readWith,
+                                                 input.edition);
+    }
+    figures.densityTakenAt = fahrenheit(*at, input.temperatureUnit);
+    return NavFunc113::API60FromObserved(typed, *figures.densityTakenAt, input.readWith,
+                                         input.edition);
 }
 
-std::optional<Oil> oilOf(const CrudeInput& input, Remarks& remarks)
+std::optional<Oil> oilOf(const CrudeInput& input, Remarks& remarks, CrudeFigures& figures)
 {
     const bool metric = input.densityBase == DensityBase::Density15;
     std::optional<double> typed =
@@ -87,7 +92,7 @@ std::optional<Oil> oilOf(const CrudeInput& input, Remarks& remarks)
         remarks.warn("density taken as kg/L: " + Format(*typed, "0.0##") + " kg/m³");
     }
     try {
-        const auto value = referenceValue(input, *typed, remarks);
+        const auto value = referenceValue(input, *typed, remarks, figures);
         if (!value) return std::nullopt;
         if (metric) return Oil{*value, NavFunc113::APIFromDensity15(*value, input.edition)};
         return Oil{NavFunc113::Density15FromAPI(*value, input.edition), *value};
@@ -98,7 +103,7 @@ std::optional<Oil> oilOf(const CrudeInput& input, Remarks& remarks)
 }
 
 struct Correction {
-    double factor;
+    NavFunc113::VolumeCorrection correction;
     bool withinTable;
 };
 
@@ -107,11 +112,11 @@ Correction correctionOf(const CrudeInput& input, const Oil& oil, double temperat
 {
     if (input.densityBase == DensityBase::Density15) {
         const double t = celsius(temperature, input.temperatureUnit);
-        return {NavFunc113::VCF54A(oil.density15, t, input.edition),
+        return {NavFunc113::CorrectionBy54A(oil.density15, t, input.edition),
                 NavFunc113::WithinTable54A(oil.density15, t, input.edition)};
     }
     const double t = fahrenheit(temperature, input.temperatureUnit);
-    return {NavFunc113::VCF6A(oil.api60, t, input.edition),
+    return {NavFunc113::CorrectionBy6A(oil.api60, t, input.edition),
             NavFunc113::WithinTable6A(oil.api60, t, input.edition)};
 }
 
@@ -120,10 +125,12 @@ Correction correctionOf(const CrudeInput& input, const Oil& oil, double temperat
 void showCorrection(const CrudeInput& input, const Correction& correction, CrudeResult& result)
 {
     const bool metric = input.densityBase == DensityBase::Density15;
-    result.vcf = Format(correction.factor, input.vcfDecimals == 4 ? "0.0000" : "0.00000");
+    result.vcf =
+        Format(correction.correction.factor, input.vcfDecimals == 4 ? "0.0000" : "0.00000");
     const std::string table = metric ? "Table 54A" : "Table 6A";
     const bool of2004 = input.edition == NavFunc113::CrudeEdition::Of2004;
     result.vcfMethod = table + (of2004 ? ", 2004" : ", 1980") + (metric ? ", 15 °C" : ", 60 °F");
+    result.figures.correction = correction.correction;
     if (!correction.withinTable) result.rangeFlag = "outside " + table;
 }
 
@@ -290,7 +297,7 @@ CrudeResult CalculateCrude(const CrudeInput& input)
     const auto observed = observedOf(input, remarks);
     const auto temperature = temperatureIn(input.temperature, input.temperatureUnit,
                                            "temperature of the cargo", remarks);
-    const auto oil = oilOf(input, remarks);
+    const auto oil = oilOf(input, remarks, result.figures);
     const auto netPart = netPartOf(input, remarks);
     const BarrelFactor factor = barrelFactorOf(input, remarks);
     nameMissing(input, remarks);
@@ -300,6 +307,9 @@ CrudeResult CalculateCrude(const CrudeInput& input)
     const char* const volumeFormat = inKilolitres ? kilolitreFormat : barrelFormat;
     if (observed) showObserved(*observed, volumeFormat, result);
     if (!oil) return result;
+    result.figures.density15 = oil->density15;
+    result.figures.api60 = oil->api60;
+    result.figures.temperature = temperature;
     result.density15 = Format(oil->density15, "0.0##");
     result.api60 = Format(oil->api60, "0.00");
     if (!temperature) return result;
@@ -310,12 +320,18 @@ CrudeResult CalculateCrude(const CrudeInput& input)
     result.standardMethod =
         std::string(inKilolitres ? "kL" : "bbl") +
         (input.densityBase == DensityBase::Density15 ? " at 15 °C" : " at 60 °F");
-    result.gross = tonsOf(input.weightRule, *oil, volumesOf(input, *oil, standard).kilolitres15,
-                          result.weightMethod);
+    result.figures.kilolitres15OfGross = volumesOf(input, *oil, standard).kilolitres15;
+    result.gross =
+        tonsOf(input.weightRule, *oil, result.figures.kilolitres15OfGross, result.weightMethod);
     if (!netPart) return result;
     const double net = standard * *netPart;
     result.netStandard = Format(net, volumeFormat);
     const Volumes volumes = volumesOf(input, *oil, net);
+    result.figures.percent = (1 - *netPart) * 100;
+    result.figures.klPerBarrel = NavFunc113::KilolitresPerBarrel(oil->density15, input.edition);
+    result.figures.typedFactor = factor.typed;
+    result.figures.kilolitres15 = volumes.kilolitres15;
+    result.figures.kilolitres60 = volumes.kilolitres60;
     showByDensity(volumes, result);
     showHeadline(input, *oil, volumes, factor, result);
     result.net = tonsOf(input.weightRule, *oil, volumes.kilolitres15, result.weightMethod);
@@ -325,7 +341,8 @@ CrudeResult CalculateCrude(const CrudeInput& input)
 std::string KLPerBarrelFromDensity(const CrudeInput& input)
 {
     Remarks unsaid;
-    const auto oil = oilOf(input, unsaid);
+    CrudeFigures unshown;
+    const auto oil = oilOf(input, unsaid, unshown);
     if (!oil) return {};
     try {
         return Format(NavFunc113::KilolitresPerBarrel(oil->density15, input.edition), factorFormat);

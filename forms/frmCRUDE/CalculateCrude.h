@@ -3,6 +3,7 @@
 
 #include "navlib/cargo.h"
 
+#include <optional>
 #include <string>
 
 /// The crude-oil window: from the observed volume, temperature and density to the figures of the
@@ -45,6 +46,22 @@ struct CrudeTons {           ///< an empty text blanks the label
     std::string longInVacuo;
 };
 
+/// What the figures were calculated from; nothing for what was not reached.
+struct CrudeFigures {
+    std::optional<double> typedDensity;   ///< kg/m3 or API, before it was reduced
+    std::optional<double> densityTakenAt; ///< degC or degF, by the base; of an observed density
+    std::optional<double> density15;
+    std::optional<double> api60;
+    std::optional<double> temperature; ///< of the cargo, in the unit of its box
+    std::optional<NavFunc113::VolumeCorrection> correction;
+    std::optional<double> percent;     ///< sediment and water
+    std::optional<double> klPerBarrel; ///< by the density
+    std::optional<double> typedFactor; ///< KL/Bbl as typed
+    double kilolitres15OfGross = 0;
+    double kilolitres15 = 0; ///< of the net volume
+    double kilolitres60 = 0;
+};
+
 struct CrudeResult {           // an empty text blanks the label
     std::string density15;     ///< kg/m3 at 15 degC
     std::string api60;         ///< API at 60 degF
@@ -68,7 +85,8 @@ struct CrudeResult {           // an empty text blanks the label
     CrudeTons gross;          ///< of the gross standard volume
     CrudeTons net;            ///< of the net standard volume
     std::string weightMethod; ///< "density - 1.1", "Table 56, 0.99875"
-    std::string notice;       ///< what is missing or makes no sense; empty when all is well
+    CrudeFigures figures;
+    std::string notice; ///< what is missing or makes no sense; empty when all is well
 };
 
 /// All figures of the cargo.

@@ -3,6 +3,7 @@
 
 #include "app/shell/widget_colours.h"
 #include "forms/frmCRUDE/CrudeFields.h"
+#include "forms/frmCRUDE/CrudeWorking.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -149,7 +150,7 @@ void frmCRUDE::addMenus()
 {
     QMenu* cargo = menus().add("&Cargo", "mnuCargo");
     menus().addEntry(cargo, "mnuCargo", 0, "&Clear", [this] { clearCargo(); });
-    menus().addEntry(cargo, "mnuCargo", 1, "&Print...", [this] { printForm(); });
+    menus().addEntry(cargo, "mnuCargo", 1, "&Print...", [this] { printPaper(); });
     addMemoMenus();
     menus().addLinks("mnuLinks");
 }
@@ -237,6 +238,27 @@ void frmCRUDE::run()
     m_shown = CalculateCrude(input());
     m_results->show(m_shown);
     setNotice("input", QString::fromStdString(m_shown.notice));
+}
+
+WorkingPaper frmCRUDE::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    for (std::size_t i = 0; i < paper.inputs.size(); ++i)
+        if (m_boxes[i]->text().isEmpty() == false)
+            paper.inputs[i].unit =
+                m_boxes[i]->accessibleName().section(", ", 1).section(',', 0, 0).toStdString();
+    for (const QComboBox* choice : m_choices)
+        paper.inputs.push_back(
+            {choice->accessibleName().toStdString(), choice->currentText().toStdString()});
+    if (m_chkObserved->isChecked())
+        paper.inputs.push_back({"Density", "observed, reduced to the reference temperature"});
+    paper.results = cargoFigures(m_shown);
+    paper.workings = {cargoWorking(input(), m_shown)};
+    paper.limits = {"The factor is used as it is shown, so that a pocket calculator comes to the "
+                    "same volume",
+                    "Outside the range of its table the formula is carried on and the result is "
+                    "marked"};
+    return paper;
 }
 
 void frmCRUDE::showUnits()

@@ -24,6 +24,9 @@ class frmCRUDE : public CalculatorWindow
 public:
     explicit frmCRUDE(Program& program);
 
+protected:
+    WorkingPaper paper() const override;
+
 private:
     void addChoices();
     QComboBox* addChoice(const QString& name, const QString& accessibleName,

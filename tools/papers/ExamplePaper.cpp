@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "tools/papers/ExamplePaper.h"
+
+#include "app/reading.h"
+#include "app/shell/ResultLabel.h"
+#include "calculator_windows.h"
+#include "tools/papers/ExampleMachine.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QMainWindow>
+#include <QRegularExpression>
+#include <QTextEdit>
+
+#include <sstream>
+
+namespace korvel
+{
+namespace
+{
+
+struct ExampleLine {
+    std::string word;
+    QString rest;
+};
+
+std::vector<ExampleLine> linesOf(const std::string& example)
+{
+    std::vector<ExampleLine> lines;
+    std::istringstream all(example);
+    for (std::string line; std::getline(all, line);) {
+        if (line.empty() || line.front() == '#') continue;
+        const std::size_t end = line.find(' ');
+        const std::string rest = end == line.npos ? "" : line.substr(end);
+        lines.push_back({line.substr(0, end), QString::fromStdString(rest).trimmed()});
+    }
+    return lines;
+}
+
+void use(QWidget& window, const ExampleLine& line)
+{
+    const QString name = QString::fromStdString(line.word);
+    auto* control = window.findChild<QObject*>(name);
+    if (auto* box = qobject_cast<QLineEdit*>(control))
+        box->setText(line.rest);
+    else if (auto* list = qobject_cast<QComboBox*>(control))
+        list->setCurrentIndex(line.rest.toInt());
+    else if (auto* button = qobject_cast<QAbstractButton*>(control))
+        button->click();
+    else if (auto* entry = qobject_cast<QAction*>(control))
+        entry->trigger();
+    else
+        throw std::runtime_error("no control " + line.word);
+    QApplication::processEvents();
+}
+
+QMainWindow& windowNamed(const QString& name)
+{
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (auto* window = qobject_cast<QMainWindow*>(each); window && each->objectName() == name)
+            return *window;
+    throw std::runtime_error("no window " + name.toStdString());
+}
+
+void writeFile(FileStore& files, const QString& rest)
+{
+    const QString name = rest.section('"', 1, 1);
+    const QString text = rest.section('"', 2).trimmed().replace("\\n", "\r\n");
+    if (const auto reason = files.save(name.toStdString(), text.toStdString()))
+        throw std::runtime_error(*reason);
+}
+
+/// What the machine has before the program starts.
+void prepare(ExampleMachine& machine, const std::vector<ExampleLine>& lines)
+{
+    for (const ExampleLine& line : lines) {
+        if (line.word == "clock") machine.clock.UTC = readDateTime(line.rest.toStdString()).value();
+        if (line.word == "file") writeFile(machine.files, line.rest);
+    }
+}
+
+/// What the officer does.
+QMainWindow& work(frmKORVEL2000& main, const std::vector<ExampleLine>& lines, std::string& source)
+{
+    QMainWindow* window = nullptr;
+    main.program().saved().setClockZone(ClockZone::UTC);
+    for (const ExampleLine& line : lines) {
+        if (line.word == "source")
+            source = line.rest.toStdString();
+        else if (line.word == "TD")
+            main.program().saved().setTD(line.rest.toFloat());
+        else if (line.word == "window") {
+            main.openWindow(line.rest);
+            window = &windowNamed(line.rest);
+        } else if (line.word != "clock" && line.word != "file") {
+            if (!window) throw std::runtime_error("no window for " + line.word);
+            use(*window, line);
+        }
+    }
+    if (!window) throw std::runtime_error("the example opens no window");
+    return *window;
+}
+
+std::vector<std::string> missingIn(const QString& working, const QMainWindow& window)
+{
+    static const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*)$");
+    std::vector<std::string> missing;
+    for (const auto* label : window.findChildren<ResultLabel*>())
+        if (!others.match(label->objectName()).hasMatch() &&
+            !working.contains(label->text().trimmed()))
+            missing.push_back(label->objectName().toStdString());
+    return missing;
+}
+
+} // namespace
+
+ExamplePaper workExample(const std::string& example, const QString& data)
+{
+    const std::vector<ExampleLine> lines = linesOf(example);
+    ExampleMachine machine(data);
+    prepare(machine, lines);
+    frmKORVEL2000 main({machine.officer, machine.clock, machine.files, machine.bell},
+                       calculatorWindows());
+    std::string source;
+    QMainWindow& window = work(main, lines, source);
+    window.findChild<QAction*>("mnuPaper(0)")->trigger();
+    QTextDocument& paper = *window.findChild<QTextEdit*>("txtPaper")->document();
+    return {"Source: " + source + "\n\n" + paper.toMarkdown().toStdString(),
+            missingIn(paper.toPlainText().section("Working: ", 1), window)};
+}
+
+} // namespace korvel
