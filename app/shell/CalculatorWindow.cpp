@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 
 constexpr const char* doneKey = "~done"; // behind all notices
 constexpr auto shownFor = 6s;
-constexpr int pictureWidth = 640; // pixels of a screen: the width of a sheet less its margins
+constexpr QSize roomOfPicture(640, 480); // pixels of a screen: as wide as a sheet
 
 } // namespace
 
@@ -104,10 +104,9 @@ WorkingPaper CalculatorWindow::paper() const
     return paper;
 }
 
-PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& caption,
-                                            double shape)
+PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& caption)
 {
-    const QSize size(pictureWidth, static_cast<int>(pictureWidth * shape));
+    const QSize size = picture.size().scaled(roomOfPicture, Qt::KeepAspectRatio);
     return makePaperPicture(caption, size, [&picture](QPainter& painter, const QSize& room) {
         picture.drawOn(painter, room);
     });

@@ -60,9 +60,8 @@ protected:
     virtual WorkingPaper paper() const;
     /// The pictures of the paper, drawn in the colours of paper.
     virtual std::vector<PaperPicture> paperPictures() { return {}; }
-    /// A picture as wide as the paper.
-    /// @param shape height for a width of 1
-    static PaperPicture paperPicture(PictureBox& picture, const QString& caption, double shape);
+    /// A picture in the shape that it has in the window, as large as the paper allows.
+    static PaperPicture paperPicture(PictureBox& picture, const QString& caption);
     /// A result as it goes into a paper.
     /// @param inFull how the figure is written out, when the label shows it otherwise
     static PaperFigure paperFigure(const ResultLabel& label, const std::string& inFull = {});

@@ -51,9 +51,12 @@ public:
     {
         const PaperPicture& picture = pictureOf(format);
         painter->save();
+        painter->setClipRect(room, Qt::IntersectClip);
         painter->translate(room.topLeft());
-        painter->scale(room.width() / picture.size.width(), room.height() / picture.size.height());
-        painter->setClipRect(QRect(QPoint(0, 0), picture.size), Qt::IntersectClip);
+        // A recorded picture grows with the dots of its device by itself.
+        const double dots = painter->device()->logicalDpiX() / screenDots;
+        const double scale = room.width() / picture.size.width() / dots;
+        painter->scale(scale, scale);
         QPicture(picture.drawing).play(painter);
         painter->restore();
     }

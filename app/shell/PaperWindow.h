@@ -25,6 +25,8 @@ public:
     /// Shows another paper.
     void showPaper(const PaperDocument& paper);
 
+    const PaperDocument& paper() const { return m_paper; }
+
 private:
     PaperDocument m_paper;
     QTextBrowser* m_text;

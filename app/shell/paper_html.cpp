@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 namespace korvel
 {
 namespace
@@ -42,11 +44,19 @@ QString tableHtml(const QStringList& headings, const QString& rows)
            rowHtml(headings, "th") + "</thead><tbody>" + rows + "</tbody></table>";
 }
 
-QString figuresHtml(const std::vector<PaperFigure>& all, const QStringList& headings)
+/// Figures with their name; the last column only where a figure is shown or typed in another way.
+QString figuresHtml(const std::vector<PaperFigure>& all, QStringList headings)
 {
+    const bool isShown = std::any_of(all.begin(), all.end(), [](const PaperFigure& each) {
+        return !each.shown.empty();
+    });
+    if (!isShown) headings.removeLast();
     QString rows;
-    for (const PaperFigure& each : all)
-        rows += rowHtml({escaped(each.name), figureHtml(each), escaped(each.shown)});
+    for (const PaperFigure& each : all) {
+        QStringList cells{escaped(each.name), figureHtml(each)};
+        if (isShown) cells << escaped(each.shown);
+        rows += rowHtml(cells);
+    }
     return tableHtml(headings, rows);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCDDR/CDDRWorking.h"
 
+#include "app/KORVEL2000Actions.h"
 #include "navlib/angles.h"
 
 namespace korvel
@@ -24,7 +25,7 @@ void addLatitude(Working& working, const DRResult& result, Earth earth)
     const NavFunc113::LatitudeRun& run = *result.latitudeRun;
     const Degrees left = DegMinToDeg(result.start[0]);
     working.step("Run to the north", "r = D cos C / 60",
-                 figure(result.distance, 4) + " × cos " + degrees(result.course) + " / 60",
+                 memoText(result.distance) + " × cos " + memoText(result.course) + "°" + " / 60",
                  figure(run.run, decimals), "°");
     if (earth == Earth::Spheroid) {
         working.step("Latitude for the length of the minute of latitude",
@@ -56,7 +57,7 @@ void addLongitude(Working& working, const DRResult& result, Earth earth)
         addParts(working, "1", DegMinToDeg(result.start[0]), run.parts1);
         addParts(working, "2", DegMinToDeg(result.latitudeRun->reached), run.parts2);
         working.step("Change of longitude", "Δλ = tan C (M2 - M1) / 60",
-                     "tan " + degrees(result.course) + " × (" + term(run.parts2, 5) + " - " +
+                     "tan " + memoText(result.course) + "° × (" + term(run.parts2, 5) + " - " +
                          term(run.parts1, 5) + ") / 60",
                      figure(run.change, decimals), "°");
     }

@@ -69,14 +69,17 @@ void addCorrection(Working& working, const CrudeResult& result)
                  c.shift != 0 ? "ΔT from 60.0068749 °F, temperatures on the scale of 1968"
                               : "ΔT from the reference temperature",
                  "", figure(c.difference, 5), "degrees");
-    const std::string product = figure(c.alpha, 10) + " × " + term(c.difference, 5);
+    const std::string x = term(c.alpha * c.difference, 10);
+    working.step("Their product", "x = α ΔT", figure(c.alpha, 10) + " × " + term(c.difference, 5),
+                 figure(c.alpha * c.difference, 10));
     if (c.shift != 0)
-        working.step("VCF", "exp(-α ΔT (1 + 0.8 α (ΔT + δ))) / factor at the reference",
-                     "α ΔT = " + product + ", δ = " + figure(c.shift, 8) + ", factor " +
-                         figure(c.atReference, 8),
+        working.step("VCF", "exp(-x (1 + 0.8 (x + α δ))) / factor of the reference temperature",
+                     "exp(-" + x + " × (1 + 0.8 × (" + x + " + " + figure(c.alpha, 10) + " × " +
+                         figure(c.shift, 8) + "))) / " + figure(c.atReference, 8),
                      figure(c.factor, 8));
     else
-        working.step("VCF", "exp(-α ΔT (1 + 0.8 α ΔT))", "α ΔT = " + product, figure(c.factor, 8));
+        working.step("VCF", "exp(-x (1 + 0.8 x))", "exp(-" + x + " × (1 + 0.8 × " + x + "))",
+                     figure(c.factor, 8));
     working.resultStep("VCF", "rounded, and so used: " + result.vcfMethod, result.vcf);
     if (!result.rangeFlag.empty())
         working.resultStep("Range", "of the printed table", result.rangeFlag);
@@ -112,10 +115,10 @@ void addBarrels(Working& working, const CrudeInput& input, const CrudeResult& re
     working.step("Kilolitres at 60 °F, net",
                  isMetric(input) ? "kL at 15 °C / (k / " + barrel + ")" : "net standard volume", "",
                  result.kilolitres60, "kL");
-    working.step("Barrels at 15 °C, net", "kL at 15 °C / " + barrel, result.kilolitres15,
-                 result.barrels15, "bbl");
-    working.step("Barrels at 60 °F, net", "kL at 60 °F / " + barrel, result.kilolitres60,
-                 result.barrels60, "bbl");
+    working.step("Barrels at 15 °C, net", "kL at 15 °C / " + barrel,
+                 result.kilolitres15 + " / " + barrel, result.barrels15, "bbl");
+    working.step("Barrels at 60 °F, net", "kL at 60 °F / " + barrel,
+                 result.kilolitres60 + " / " + barrel, result.barrels60, "bbl");
     if (!result.barrels.empty())
         working.step("Barrels", result.barrelsMethod, "", result.barrels, "bbl");
     if (!result.kilolitres.empty())
@@ -137,10 +140,10 @@ void addTons(Working& working, const CrudeInput& input, const CrudeResult& resul
                      "tons in vacuo × (1 - 1.22/ρ15) / (1 - 1.22/8100), as " + result.weightMethod,
                      tons.metricInVacuo, tons.metricInAir, "t");
     const std::string perLongTon = " / " + figure(NavFunc113::metricTonsPerLongTon, 10);
-    working.step("Long tons in vacuo, " + name, "metric tons" + perLongTon, tons.metricInVacuo,
-                 tons.longInVacuo, "long tons");
-    working.step("Long tons in air, " + name, "metric tons" + perLongTon, tons.metricInAir,
-                 tons.longInAir, "long tons");
+    working.step("Long tons in vacuo, " + name, "metric tons" + perLongTon,
+                 tons.metricInVacuo + perLongTon, tons.longInVacuo, "long tons");
+    working.step("Long tons in air, " + name, "metric tons" + perLongTon,
+                 tons.metricInAir + perLongTon, tons.longInAir, "long tons");
 }
 
 } // namespace

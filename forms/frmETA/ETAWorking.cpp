@@ -2,6 +2,7 @@
 #include "forms/frmETA/ETAWorking.h"
 
 #include "app/Format.h"
+#include "app/KORVEL2000Actions.h"
 
 namespace korvel
 {
@@ -31,15 +32,15 @@ Working arrivalsWorking(const ETAResult& result)
     working.step("Local time at departure", "date and time as typed", "",
                  Format(passage.departure, inFull), "LT");
     working.step("Change of TD", "ΔTD = TD at arrival - TD at departure", "",
-                 figure(passage.TDChange, 2), "h");
-    PaperTable table{"Hours = distance / speed; arrival = departure + ΔTD + hours, rounded to the "
-                     "nearest second, then cut to the minute",
-                     {"Knots", "Distance, miles", "Hours", "ΔTD, h", "Arrival, local time",
-                      "In the window"},
-                     {}};
+                 memoText(passage.TDChange), "h");
+    PaperTable table{
+        "Hours = distance / speed; arrival = departure + ΔTD + hours, rounded to the "
+        "nearest second, then cut to the minute",
+        {"Knots", "Distance, miles", "Hours", "ΔTD, h", "Arrival, local time", "In the window"},
+        {}};
     for (std::size_t i = 0; i < passage.speeds.size(); ++i)
-        table.rows.push_back({result.labels->lblSPD[i], figure(passage.distance, 2),
-                              figure(passage.hours[i], 5), figure(passage.TDChange, 2),
+        table.rows.push_back({result.labels->lblSPD[i], memoText(passage.distance),
+                              figure(passage.hours[i], 5), memoText(passage.TDChange),
                               Format(arrivalOf(passage, i), "yyyy-mm-dd hh:mm:ss"),
                               result.labels->lblETA[i]});
     working.tables = {table};
@@ -48,10 +49,10 @@ Working arrivalsWorking(const ETAResult& result)
 
 PaperTable arrivalsTable(const ETAResult& result)
 {
-    PaperTable table{
-        "Arrivals", {"Speed, knots", "Local time at arrival", "In the window"}, {}};
+    PaperTable table{"Arrivals", {"Speed, knots", "Local time at arrival", "In the window"}, {}};
     for (std::size_t i = 0; i < result.passage->speeds.size(); ++i)
-        table.rows.push_back({result.labels->lblSPD[i], Format(arrivalOf(*result.passage, i), inFull),
+        table.rows.push_back({result.labels->lblSPD[i],
+                              Format(arrivalOf(*result.passage, i), inFull),
                               result.labels->lblETA[i]});
     return table;
 }
@@ -62,7 +63,8 @@ Working requiredSpeedWorking(const ReqSpdResult& result)
                     {"Speed = distance / hours between departure and arrival, both by UTC"},
                     {}};
     if (!result.speed) {
-        working.whyNone = "No arrival wanted was entered, or the remarks say why there is no speed.";
+        working.whyNone =
+            "No arrival wanted was entered, or the remarks say why there is no speed.";
         return working;
     }
     working.step("Departure", "UTC = local time - TD", "", Format(result.departure, inFull), "UTC");
@@ -70,7 +72,7 @@ Working requiredSpeedWorking(const ReqSpdResult& result)
                  "UTC");
     working.step("Hours", "(arrival - departure) × 24", "", figure(result.hours, 5), "h");
     working.step("Required speed", "distance / hours",
-                 figure(result.distance, 2) + " / " + figure(result.hours, 5), *result.speed,
+                 memoText(result.distance) + " / " + figure(result.hours, 5), *result.speed,
                  "knots");
     return working;
 }

@@ -149,6 +149,9 @@ QWidget* frmGC2000::layOutTrack()
     const QFontMetrics metrics(m_lblSaving->font());
     addResultRow(grid, 0, "Initial course", m_lblInitialCourse, "degrees true");
     addResultRow(grid, 1, "Final course", m_lblFinalCourse, "degrees true");
+    m_lblVertexLat->setAccessibleName("Latitude of the vertex");
+    m_lblVertexLong->setAccessibleName("Longitude of the vertex");
+    m_lblVertexRemark->setAccessibleName("Place of the vertex");
     grid->addWidget(new QLabel("Vertex"), 2, 0);
     grid->addWidget(m_lblVertexLat, 2, 1);
     grid->addWidget(m_lblVertexLong, 2, 2);
@@ -269,6 +272,14 @@ WorkingPaper frmGC2000::paper() const
     for (const std::string& sentence : sailingLimits(program().earth()))
         paper.limits.push_back(sentence);
     if (!m_result.figures) return paper;
+    for (PaperFigure& each : paper.results) {
+        if (each.name == m_lblVertexLat->accessibleName().toStdString())
+            each =
+                paperFigure(*m_lblVertexLat, positionForCopy(m_result.vertex->lat, Axis::Latitude));
+        if (each.name == m_lblVertexLong->accessibleName().toStdString())
+            each = paperFigure(*m_lblVertexLong,
+                               positionForCopy(m_result.vertex->longitude, Axis::Longitude));
+    }
     paper.workings.push_back(waypointsWorking(m_result, program().earth()));
     paper.tables = {waypointTable(m_result)};
     paper.list = waypointList(m_result);
@@ -279,7 +290,7 @@ WorkingPaper frmGC2000::paper() const
 std::vector<PaperPicture> frmGC2000::paperPictures()
 {
     if (!m_result.figures) return {};
-    return {paperPicture(*m_picGC, "Great circle and rhumb line. No navigational chart.", 0.6)};
+    return {paperPicture(*m_picGC, "Great circle and rhumb line. No navigational chart.")};
 }
 
 void frmGC2000::showRow(std::size_t row)

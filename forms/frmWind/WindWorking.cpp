@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/WindWorking.h"
 
+#include "app/KORVEL2000Actions.h"
+
 namespace korvel
 {
 
@@ -16,9 +18,9 @@ Working trueWindWorking(const WindResult& result)
     }
     const WindFigures& wind = *result.figures;
     const NavFunc113::TrueWindSteps& steps = *result.steps;
-    const std::string apparent = figure(wind.apparentSpeed, 2);
-    const std::string theta = term(wind.relativeDirection, 2) + "°";
-    const std::string ship = figure(wind.shipSpeed, 2);
+    const std::string apparent = memoText(wind.apparentSpeed);
+    const std::string theta = '(' + memoText(wind.relativeDirection) + "°)";
+    const std::string ship = memoText(wind.shipSpeed);
     working.step("True wind along the course, from ahead", "x = Va cos θ - Vs",
                  apparent + " × cos " + theta + " - " + ship, figure(steps.ahead, 5), "knots");
     working.step("True wind across the course, from starboard", "y = Va sin θ",
@@ -27,7 +29,7 @@ Working trueWindWorking(const WindResult& result)
                  "arctan(" + term(steps.abeam, 5) + " / " + term(steps.ahead, 5) + ")",
                  figure(steps.fromBow, 5), "°");
     working.step("True wind", "course + β, less or plus 360°",
-                 figure(wind.course, 2) + "° + " + term(steps.fromBow, 5) + "°",
+                 memoText(wind.course) + "° + " + term(steps.fromBow, 5) + "°",
                  figure(steps.direction, 5), "°");
     working.resultStep("True wind from", "point of the compass and whole degrees",
                        result.lblWind[0]);

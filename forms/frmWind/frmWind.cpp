@@ -151,7 +151,7 @@ std::vector<PaperPicture> frmWind::paperPictures()
 {
     if (!m_wind.figures) return {};
     const QString up = orientation() == WindOrientation::NorthUp ? "north up" : "head up";
-    return {paperPicture(*m_picWind, "Wind triangle, knots, " + up, 0.8)};
+    return {paperPicture(*m_picWind, "Wind triangle, knots, " + up)};
 }
 
 void frmWind::optWind_Click()

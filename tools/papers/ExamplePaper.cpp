@@ -2,6 +2,7 @@
 #include "tools/papers/ExamplePaper.h"
 
 #include "app/reading.h"
+#include "app/shell/PaperWindow.h"
 #include "app/shell/ResultLabel.h"
 #include "calculator_windows.h"
 #include "tools/papers/ExampleMachine.h"
@@ -11,6 +12,7 @@
 #include <QComboBox>
 #include <QMainWindow>
 #include <QRegularExpression>
+#include <QTextCursor>
 #include <QTextEdit>
 
 #include <sstream>
@@ -113,6 +115,19 @@ std::vector<std::string> missingIn(const QString& working, const QMainWindow& wi
     return missing;
 }
 
+/// The toolkit's Markdown, in which a stroke of a formula would end its cell of a table.
+std::string markdownOf(const QTextDocument& paper)
+{
+    constexpr char16_t stroke = 0xe000; // for private use: in no text
+    const std::unique_ptr<QTextDocument> copy(paper.clone());
+    for (QTextCursor at = copy->find("|"); !at.isNull(); at = copy->find("|", at))
+        at.insertText(QString(QChar(stroke)));
+    return copy->toMarkdown()
+        .remove(QChar::ObjectReplacementCharacter)
+        .replace(QChar(stroke), "\\|")
+        .toStdString();
+}
+
 } // namespace
 
 ExamplePaper workExample(const std::string& example, const QString& data)
@@ -125,9 +140,11 @@ ExamplePaper workExample(const std::string& example, const QString& data)
     std::string source;
     QMainWindow& window = work(main, lines, source);
     window.findChild<QAction*>("mnuPaper(0)")->trigger();
-    QTextDocument& paper = *window.findChild<QTextEdit*>("txtPaper")->document();
-    return {"Source: " + source + "\n\n" + paper.toMarkdown().toStdString(),
-            missingIn(paper.toPlainText().section("Working: ", 1), window)};
+    const auto& paper = *window.findChild<PaperWindow*>("frmPaper");
+    const QTextDocument& text = *paper.findChild<QTextEdit*>("txtPaper")->document();
+    const std::string head = "Worked by the program (see examples). Source: " + source + ".\n\n";
+    return {head + markdownOf(text), paper.paper().PDF(),
+            missingIn(text.toPlainText().section("Working: ", 1), window)};
 }
 
 } // namespace korvel

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 #include <string>
@@ -11,7 +12,8 @@ namespace korvel
 
 /// The paper of an example of the manual.
 struct ExamplePaper {
-    std::string text;                 ///< Markdown
+    std::string text; ///< Markdown
+    QByteArray PDF;
     std::vector<std::string> missing; ///< results of the window that no step of the working has
 };
 

@@ -12,7 +12,8 @@ namespace
 {
 
 /// Works one example. @return false when it cannot be worked or written
-bool writePaper(const QFileInfo& example, const QDir& manual, const QString& data)
+bool writePaper(const QFileInfo& example, const QDir& manual, const QString& data,
+                const QString& folderOfPDF)
 {
     QFile from(example.filePath());
     QFile to(manual.filePath("papers/" + example.baseName() + ".md"));
@@ -23,6 +24,11 @@ bool writePaper(const QFileInfo& example, const QDir& manual, const QString& dat
     try {
         const auto paper = korvel::workExample(from.readAll().toStdString(), data);
         to.write(paper.text.c_str());
+        if (!folderOfPDF.isEmpty()) {
+            QFile file(QDir(folderOfPDF).filePath(example.baseName() + ".pdf"));
+            if (!file.open(QIODevice::WriteOnly) || file.write(paper.PDF) != paper.PDF.size())
+                std::fprintf(stderr, "%s: cannot be written\n", qPrintable(file.fileName()));
+        }
         for (const std::string& name : paper.missing)
             std::fprintf(stderr, "%s: no step leads to %s\n", qPrintable(example.fileName()),
                          name.c_str());
@@ -37,8 +43,9 @@ bool writePaper(const QFileInfo& example, const QDir& manual, const QString& dat
 
 int main(int argc, char* argv[])
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "papers MANUAL DATA: folders of the manual and of the tide data\n");
+    if (argc < 3) {
+        std::fprintf(stderr, "papers MANUAL DATA [PDF]: folders of the manual, of the tide data, "
+                             "and for the same as PDF\n");
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -49,6 +56,6 @@ int main(int argc, char* argv[])
     bool isWhole = true;
     for (const QFileInfo& each :
          QDir(manual.filePath("examples")).entryInfoList({"*.example"}, QDir::Files, QDir::Name))
-        isWhole = writePaper(each, manual, argv[2]) && isWhole;
+        isWhole = writePaper(each, manual, argv[2], argc > 3 ? argv[3] : "") && isWhole;
     return isWhole ? 0 : 1;
 }
