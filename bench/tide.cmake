@@ -2,8 +2,8 @@
 # tide_accuracy prints how far the prediction is from the full harmonic one; tide_bench how long a
 # day takes. Bars: ours/tide_day at most 0.16 of peer/tide_day (a plain sum of 37 constituents whose
 # arguments are given); ours/tide_from_disk, which reads the day's arguments and the station, at most
-# 0.4 of peer/tide_from_disk (the same sum, which works the arguments out); ours/tide_month at most
-# 20 of peer/tide_month (a day of it).
+# 0.4 of peer/tide_from_disk (a plain sum, which reads its record and works the arguments out);
+# ours/tide_month at most 20 of peer/tide_month (a day of it).
 add_executable(tide_accuracy TideAccuracy.cpp)
 target_link_libraries(tide_accuracy PRIVATE frmTIDE_calculation app_shell)
 

@@ -93,22 +93,28 @@ double TideDay::at(Hours t) const
 
 TideValues TideDay::halfHourly(double level) const
 {
+    TideValues values;
+    turnOn(Hours(0), Hours(0.5), level, values);
+    return values;
+}
+
+void TideDay::turnOn(Hours from, Hours step, double level, std::span<double> values) const
+{
     struct Turning {
         double cosine, sine;
         double stepCosine, stepSine;
     };
     std::array<Turning, 4> turning;
     for (std::size_t j = 0; j < m_waves.size(); ++j) {
-        const Radians phase = DegToRad(m_waves[j].phase);
-        const Radians step = DegToRad(-m_waves[j].speed / 2);
-        turning[j] = {cos(phase), sin(phase), cos(step), sin(step)};
+        const Radians phase = DegToRad(m_waves[j].phase - m_waves[j].speed * from.value());
+        const Radians turn = DegToRad(-m_waves[j].speed * step.value());
+        turning[j] = {cos(phase), sin(phase), cos(turn), sin(turn)};
     }
-    TideValues values;
     for (std::size_t i = 0; i < values.size(); ++i) {
         std::array<double, 4> c;
         std::array<double, 4> s;
         for (std::size_t j = 0; j < m_waves.size(); ++j) {
-            const double amplitude = amplitudeAt(m_waves[j], timeOfSample(i));
+            const double amplitude = amplitudeAt(m_waves[j], from + static_cast<double>(i) * step);
             auto& [cosine, sine, stepCosine, stepSine] = turning[j];
             c[j] = amplitude * cosine;
             s[j] = amplitude * sine;
@@ -118,7 +124,6 @@ TideValues TideDay::halfHourly(double level) const
         }
         values[i] = sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]) + level;
     }
-    return values;
 }
 
 double TideHarmonicSum(Hours t, const TideConstituents& station, const DailyFactors& thisDay,

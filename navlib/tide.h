@@ -4,6 +4,7 @@
 #include "navlib/units.h"
 
 #include <array>
+#include <span>
 
 /// Tide and tidal stream of one station and one day, from four harmonic constituents.
 ///
@@ -65,6 +66,9 @@ public:
     /// turned on by half an hour at a time, so that a day takes a few sines instead of hundreds.
     /// @param level mean level with its monthly correction, or mean stream
     TideValues halfHourly(double level) const;
+
+    /// The same from any time of the day on in steps of any length.
+    void turnOn(Hours from, Hours step, double level, std::span<double> values) const;
 
 private:
     struct Wave {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/tide_turns.h"
 
-#include <array>
 #include <cstddef>
 
 namespace NavFunc113
@@ -17,31 +16,36 @@ constexpr Hours timeOf(int step)
     return Hours(step / 6.0);
 }
 
-// Golden section: the curve has one turn between the two times.
-Hours turnBetween(const TideCurve& curve, Hours from, Hours to, bool isHigh)
+using ThreeHeights = std::array<double, 3>; // before, at and after a time
+
+ThreeHeights heightsAround(const TideCurve& curve, Hours time, Hours step)
 {
-    constexpr double golden = 0.6180339887498949;
-    const auto height = [&](Hours t) { return isHigh ? curve(t) : -curve(t); };
-    Hours left = to - golden * (to - from);
-    Hours right = from + golden * (to - from);
-    double atLeft = height(left);
-    double atRight = height(right);
-    while (to - from > Hours(second)) {
-        if (atLeft >= atRight) {
-            to = right;
-            right = left;
-            atRight = atLeft;
-            left = to - golden * (to - from);
-            atLeft = height(left);
-        } else {
-            from = left;
-            left = right;
-            atLeft = atRight;
-            right = from + golden * (to - from);
-            atRight = height(right);
+    return {curve(time - step), curve(time), curve(time + step)};
+}
+
+// How many steps from the middle the turn lies by the parabola through the three heights.
+double vertexOf(const ThreeHeights& heights)
+{
+    const double bend = heights[0] - 2 * heights[1] + heights[2];
+    return bend == 0 ? 0 : (heights[0] - heights[2]) / (2 * bend);
+}
+
+// The vertices of ever narrower parabolas close in on the turn: the last one, over twenty seconds,
+// has it to a small part of a second.
+Hours turnNear(const TideCurve& curve, Hours time, ThreeHeights heights, bool isHigh)
+{
+    const double sign = isHigh ? 1 : -1;
+    for (Hours step = tenMinutes; step > 5 * Hours(second);) {
+        time = time + vertexOf(heights) * step;
+        step = step / 8;
+        heights = heightsAround(curve, time, step);
+        // Where the curve is no parabola a neighbour may stand nearer to the turn.
+        while (sign * heights[0] > sign * heights[1] || sign * heights[2] > sign * heights[1]) {
+            time = sign * heights[2] > sign * heights[1] ? time + step : time - step;
+            heights = heightsAround(curve, time, step);
         }
     }
-    return from + 0.5 * (to - from);
+    return time;
 }
 
 Hours passageBetween(const TideCurve& curve, Hours from, Hours to, double value, bool isRising)
@@ -58,22 +62,27 @@ Hours passageBetween(const TideCurve& curve, Hours from, Hours to, double value,
 
 } // namespace
 
-std::vector<TideTurn> TurnsOf(const TideCurve& curve)
+std::vector<TideTurn> TurnsOf(const TideCurve& curve, const TenMinutely& samples)
 {
-    // One sample before 00:00 and one after 24:00, so that a turn at midnight has neighbours.
-    std::array<double, stepsOfDay + 3> samples;
-    for (std::size_t i = 0; i < samples.size(); ++i)
-        samples[i] = curve(timeOf(static_cast<int>(i) - 1));
     std::vector<TideTurn> turns;
-    for (int step = 0; step <= stepsOfDay; ++step) {
-        const std::size_t i = static_cast<std::size_t>(step) + 1;
+    // The samples before 00:00 and after 24:00 are the neighbours of a turn at midnight.
+    for (std::size_t i = 1; i + 1 < samples.size(); ++i) {
         const bool isHigh = samples[i] > samples[i - 1] && samples[i] >= samples[i + 1];
         const bool isLow = samples[i] < samples[i - 1] && samples[i] <= samples[i + 1];
         if (!isHigh && !isLow) continue;
-        const Hours time = turnBetween(curve, timeOf(step - 1), timeOf(step + 1), isHigh);
+        const Hours time = turnNear(curve, timeOf(static_cast<int>(i) - 1),
+                                    {samples[i - 1], samples[i], samples[i + 1]}, isHigh);
         if (time >= Hours(0) && time < Hours(24)) turns.push_back({time, curve(time), isHigh});
     }
     return turns;
+}
+
+std::vector<TideTurn> TurnsOf(const TideCurve& curve)
+{
+    TenMinutely samples;
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        samples[i] = curve(timeOf(static_cast<int>(i) - 1));
+    return TurnsOf(curve, samples);
 }
 
 std::vector<TidePassage> PassagesOf(const TideCurve& curve, double value)

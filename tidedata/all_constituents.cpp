@@ -170,12 +170,21 @@ double DayOfAllConstituents::at(NavFunc113::Hours t) const
 NavFunc113::TideValues DayOfAllConstituents::halfHourly() const
 {
     NavFunc113::TideValues values;
-    values.fill(m_level);
+    turnOn(NavFunc113::Hours(0), NavFunc113::Hours(0.5), values);
+    return values;
+}
+
+void DayOfAllConstituents::turnOn(NavFunc113::Hours from, NavFunc113::Hours step,
+                                  std::span<double> values) const
+{
+    std::ranges::fill(values, m_level);
     for (const Wave& wave : m_waves) {
-        double cosine = wave.amplitude * std::cos(wave.phase);
-        double sine = wave.amplitude * std::sin(wave.phase);
-        const double stepCosine = std::cos(wave.speed / 2);
-        const double stepSine = std::sin(wave.speed / 2);
+        const double phase = wave.phase + wave.speed * from.value();
+        const double turn = wave.speed * step.value();
+        double cosine = wave.amplitude * std::cos(phase);
+        double sine = wave.amplitude * std::sin(phase);
+        const double stepCosine = std::cos(turn);
+        const double stepSine = std::sin(turn);
         for (double& value : values) {
             value += cosine;
             const double next = cosine * stepCosine - sine * stepSine;
@@ -183,7 +192,6 @@ NavFunc113::TideValues DayOfAllConstituents::halfHourly() const
             cosine = next;
         }
     }
-    return values;
 }
 
 AllConstituents::Part AllConstituents::partOf(std::string_view name)

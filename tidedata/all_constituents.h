@@ -48,6 +48,9 @@ public:
     /// The half-hourly heights: at() to within rounding, every wave turned on by half an hour.
     NavFunc113::TideValues halfHourly() const;
 
+    /// The same from any time of the day on in steps of any length.
+    void turnOn(NavFunc113::Hours from, NavFunc113::Hours step, std::span<double> values) const;
+
 private:
     friend class AllConstituents;
     struct Wave {

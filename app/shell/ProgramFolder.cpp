@@ -31,15 +31,17 @@ FileStore::Content readPiece(const QString& path, std::int64_t offset, std::size
 {
     using Status = FileStore::Content::Status;
     const QFileInfo info(path);
-    if (isMissing(info)) return {Status::Missing, {}, {}};
     // Looked at before it is opened: opening a pipe waits for somebody who writes into it.
-    if (!info.isFile()) return {Status::Unreadable, {}, whatItIs(info)};
+    if (!info.isFile())
+        return isMissing(info) ? FileStore::Content{Status::Missing, {}, {}}
+                               : FileStore::Content{Status::Unreadable, {}, whatItIs(info)};
     QFile file(info.filePath());
     FileStore::Content content{Status::Read, {}, {}, info.size()};
     const bool opened = file.open(QIODevice::ReadOnly | QIODevice::Unbuffered);
     const std::int64_t there = std::max<std::int64_t>(content.size - offset, 0);
     const auto wanted = static_cast<qint64>(std::min<std::uint64_t>(length, std::uint64_t(there)));
-    if (opened && wanted > 0 && file.seek(offset)) content.bytes = file.read(wanted).toStdString();
+    if (opened && wanted > 0 && (offset == 0 || file.seek(offset)))
+        content.bytes = file.read(wanted).toStdString();
     if (file.error() != QFileDevice::NoError)
         return {Status::Unreadable, {}, file.errorString().toStdString()};
     return content;

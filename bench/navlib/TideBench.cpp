@@ -57,14 +57,31 @@ void plainSumOf37Constituents(benchmark::State& state)
 }
 BENCHMARK(plainSumOf37Constituents)->Name("peer/tide_day");
 
-// The same with the day's arguments and node factors worked out: what the daily file saves.
-void plainDayOf37Constituents(benchmark::State& state)
+// A folder with the record of the station alone, as a plain program would read it.
+struct PlainFolder {
+    QTemporaryDir folder;
+    korvel::ProgramFolder files{folder.path()};
+
+    PlainFolder()
+    {
+        const std::string list = data().read("constituents.txt").bytes;
+        const std::size_t line = list.find("\nYokohama\t") + 1;
+        files.save("constituents.txt", list.substr(line, list.find('\n', line) - line));
+    }
+};
+
+// The record from the disk, the day's arguments and node factors worked out: what the daily file
+// saves.
+void plainDayFromDisk(benchmark::State& state)
 {
-    const auto full = plainStation();
-    for (auto _ : state)
-        benchmark::DoNotOptimize(valuesOf(full.ofDay(serial)));
+    PlainFolder plain;
+    const auto station = korvel::readTideStation(data(), "Yokohama");
+    for (auto _ : state) {
+        const auto full = korvel::FullConstants(plain.files).of("Yokohama", station);
+        benchmark::DoNotOptimize(valuesOf(full.value().ofDay(serial)));
+    }
 }
-BENCHMARK(plainDayOf37Constituents)->Name("peer/tide_from_disk");
+BENCHMARK(plainDayFromDisk)->Name("peer/tide_from_disk");
 
 void dayOfValues(benchmark::State& state)
 {

@@ -22,13 +22,17 @@ constexpr Hours sameWater(3);
 
 std::vector<TideTurn> turnsOfFour(const TideDayShown& day)
 {
-    return NavFunc113::TurnsOf([&day](Hours t) { return day.four.at(t); });
+    NavFunc113::TenMinutely samples;
+    day.four.day->turnOn(-NavFunc113::tenMinutes, NavFunc113::tenMinutes, day.four.level, samples);
+    return NavFunc113::TurnsOf([&day](Hours t) { return day.four.at(t); }, samples);
 }
 
 std::vector<TideTurn> turnsOfAll(const TideDayShown& day)
 {
     if (!day.all) return {};
-    return NavFunc113::TurnsOf([&day](Hours t) { return day.all->at(t); });
+    NavFunc113::TenMinutely samples;
+    day.all->turnOn(-NavFunc113::tenMinutes, NavFunc113::tenMinutes, samples);
+    return NavFunc113::TurnsOf([&day](Hours t) { return day.all->at(t); }, samples);
 }
 
 std::string nameOf(const TideTurn& turn, TideKind kind)
