@@ -3,7 +3,7 @@
 # day takes. Bars: ours/tide_day at most 0.16 of peer/tide_day (a plain sum of 37 constituents whose
 # arguments are given); ours/tide_from_disk, which reads the day's arguments and the station, at most
 # 0.4 of peer/tide_from_disk (a plain sum, which reads its record and works the arguments out);
-# ours/tide_month at most 20 of peer/tide_month (a day of it).
+# ours/tide_month at most 20 of peer/tide_month (a day of it as the window shows it).
 add_executable(tide_accuracy TideAccuracy.cpp)
 target_link_libraries(tide_accuracy PRIVATE frmTIDE_calculation app_shell)
 

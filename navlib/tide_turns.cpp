@@ -30,22 +30,20 @@ double vertexOf(const ThreeHeights& heights)
     return bend == 0 ? 0 : (heights[0] - heights[2]) / (2 * bend);
 }
 
-// The vertices of ever narrower parabolas close in on the turn: the last one, over twenty seconds,
-// has it to a small part of a second.
+// The vertex of a parabola over twenty minutes is a second or two from the turn, that of one over a
+// minute around it a small part of a second.
 Hours turnNear(const TideCurve& curve, Hours time, ThreeHeights heights, bool isHigh)
 {
     const double sign = isHigh ? 1 : -1;
-    for (Hours step = tenMinutes; step > 5 * Hours(second);) {
-        time = time + vertexOf(heights) * step;
-        step = step / 8;
+    const Hours step = tenMinutes / 16;
+    time = time + vertexOf(heights) * tenMinutes;
+    heights = heightsAround(curve, time, step);
+    // Where the curve is no parabola a neighbour may stand nearer to the turn.
+    while (sign * heights[0] > sign * heights[1] || sign * heights[2] > sign * heights[1]) {
+        time = sign * heights[2] > sign * heights[1] ? time + step : time - step;
         heights = heightsAround(curve, time, step);
-        // Where the curve is no parabola a neighbour may stand nearer to the turn.
-        while (sign * heights[0] > sign * heights[1] || sign * heights[2] > sign * heights[1]) {
-            time = sign * heights[2] > sign * heights[1] ? time + step : time - step;
-            heights = heightsAround(curve, time, step);
-        }
     }
-    return time;
+    return time + vertexOf(heights) * step;
 }
 
 Hours passageBetween(const TideCurve& curve, Hours from, Hours to, double value, bool isRising)

@@ -109,7 +109,7 @@ void dayOfValuesFromDisk(benchmark::State& state)
 }
 BENCHMARK(dayOfValuesFromDisk)->Name("ours/tide_from_disk");
 
-// A month as a table file against a day of it from the disk to its list of high and low waters.
+// A month as a table file against a day of it from the disk to the texts that the window shows.
 void aMonth(benchmark::State& state)
 {
     const korvel::StationList list(data());
@@ -128,7 +128,9 @@ void aDay(benchmark::State& state)
     const korvel::FullConstants constants(data());
     for (auto _ : state) {
         const korvel::StationDays days(data(), korvel::TideKind::Tide, "Yokohama", list, constants);
-        benchmark::DoNotOptimize(korvel::waterLines(days.day(serial)));
+        const korvel::TideDayShown day = days.day(serial);
+        benchmark::DoNotOptimize(korvel::waterLines(day));
+        benchmark::DoNotOptimize(korvel::rangeText(day));
     }
 }
 BENCHMARK(aDay)->Name("peer/tide_month");

@@ -12,11 +12,11 @@ namespace korvel
 namespace
 {
 
-void addLine(std::string& table, const TideDayShown& day, const NavFunc113::TideTurn& turn,
-             const char* method)
+void addLine(std::string& table, const std::string& date, const TideDayShown& day,
+             const NavFunc113::TideTurn& turn, const char* method)
 {
     const bool tide = day.four.kind == TideKind::Tide;
-    table += TideDates::label(day.four.serial) + "," + clockTime(turn.time) + ",";
+    table += date + "," + clockTime(turn.time) + ",";
     table += tide ? (turn.isHigh ? "high" : "low") : (turn.isHigh ? "flood" : "ebb");
     table += "," + plainFigure(turn.value, TideKind::Tide) + (tide ? ",m," : ",kn,") + method +
              (day.isEstimated ? ",estimated level\r\n" : ",\r\n");
@@ -104,9 +104,10 @@ std::string monthTable(const StationDays& station, const std::string& place, std
                         "date,time,water,value,unit,constituents,level\r\n";
     for (; day <= dates.lastSerial() && NavFunc113::DateOfSerial(day).month == date.month; ++day) {
         const TideDayShown shown = station.day(day);
+        const std::string label = TideDates::label(day);
         for (const WaterPair& water : watersOf(shown)) {
-            if (water.four) addLine(table, shown, *water.four, "four");
-            if (water.all) addLine(table, shown, *water.all, "all");
+            if (water.four) addLine(table, label, shown, *water.four, "four");
+            if (water.all) addLine(table, label, shown, *water.all, "all");
         }
     }
     return table;

@@ -105,9 +105,11 @@ std::string clockTime(Hours time)
 {
     // By hand, because 24:00 is a time of this curve and of no clock.
     const long minutes = minutesOf(time);
-    const long hours = minutes / 60;
-    return Format(static_cast<double>(hours), "00") + ":" +
-           Format(static_cast<double>(minutes % 60), "00");
+    const auto twoDigits = [](long value) {
+        return std::string{static_cast<char>('0' + value / 10),
+                           static_cast<char>('0' + value % 10)};
+    };
+    return twoDigits(minutes / 60) + ":" + twoDigits(minutes % 60);
 }
 
 std::string plainFigure(double value, TideKind kind)
