@@ -24,7 +24,7 @@ ThreeHeights heightsAround(const TideCurve& curve, Hours time, Hours step)
 }
 
 // How many steps from the middle the turn lies by the parabola through the three heights.
-double vertexOf(const ThreeHeights& heights)
+double stepsToTurn(const ThreeHeights& heights)
 {
     const double bend = heights[0] - 2 * heights[1] + heights[2];
     return bend == 0 ? 0 : (heights[0] - heights[2]) / (2 * bend);
@@ -36,14 +36,14 @@ Hours turnNear(const TideCurve& curve, Hours time, ThreeHeights heights, bool is
 {
     const double sign = isHigh ? 1 : -1;
     const Hours step = tenMinutes / 16;
-    time = time + vertexOf(heights) * tenMinutes;
+    time = time + stepsToTurn(heights) * tenMinutes;
     heights = heightsAround(curve, time, step);
     // Where the curve is no parabola a neighbour may stand nearer to the turn.
     while (sign * heights[0] > sign * heights[1] || sign * heights[2] > sign * heights[1]) {
         time = sign * heights[2] > sign * heights[1] ? time + step : time - step;
         heights = heightsAround(curve, time, step);
     }
-    return time + vertexOf(heights) * step;
+    return time + stepsToTurn(heights) * step;
 }
 
 Hours passageBetween(const TideCurve& curve, Hours from, Hours to, double value, bool isRising)
