@@ -65,6 +65,8 @@ QMessageBox* AlarmBoxes::makeBox()
     box->setObjectName("alarmBox");
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);
+    // A message box is modal of itself: a key on its way to another window would be dropped.
+    box->setModal(false);
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
     connect(box, &QMessageBox::finished, this, [this] {
         m_firstSecond.stop();

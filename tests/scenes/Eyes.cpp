@@ -109,6 +109,13 @@ bool isDimmed(Stage& stage, const std::string& name)
            stage.program().colours().dimmed;
 }
 
+/// Whether keys and clicks come to a window: an open question keeps them from all others.
+bool isWithinReach(Stage&, const std::string& name)
+{
+    const QWidget* question = QApplication::activeModalWidget();
+    return !question || question->objectName().toStdString() == name;
+}
+
 bool isOpen(Stage&, const std::string& name)
 {
     for (QWidget* each : QApplication::topLevelWidgets())
@@ -321,6 +328,8 @@ const std::map<std::string, Verb>& eyeVerbs()
         {"undimmed", expectAll<isDimmed, false>},
         {"is-open", expectAll<isOpen, true>},
         {"is-closed", expectAll<isOpen, false>},
+        {"within-reach", expectAll<isWithinReach, true>},
+        {"out-of-reach", expectAll<isWithinReach, false>},
         {"file", file},
         {"memory", memory},
         {"drawn", drawn<true>},
