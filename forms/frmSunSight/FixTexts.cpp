@@ -119,8 +119,10 @@ void describeAgreement(const Agreement& agreement, SightFixResult& result, Remar
         out += (out.empty() ? "" : " and ") + timeOf(result.lines[check.index], result);
         remarks.warn("The sight of " + misfitText(check, result) + " does not fit the others (" +
                      Format(std::fabs(check.ratio), "0.0") + " standard deviations)");
-        result.lines[check.index].text +=
-            ", does not fit: " + Format(check.misfit, "+0.0;-0.0") + " nm";
+        // In the place of its residual: the list has room for one of them.
+        std::string& line = result.lines[check.index].text;
+        line.erase(std::min(line.find("  residual"), line.size()));
+        line += "  does not fit: " + Format(check.misfit, "+0.0;-0.0") + " nm";
     }
     if (!agreement.out.empty()) addWithout(agreement.out, out, result);
     for (const LineCheck& check : agreement.suspects) {

@@ -22,12 +22,12 @@ QString lineOf(const RecordedSight& sight, const std::string& line)
                                   (line.empty() ? "" : "  ") + line);
 }
 
-/// Room for a line with a residual that is out by far: that is the one to be read.
+/// Room for the longest line: that of a sight that does not fit is the one to be read.
 int widthOfLines(QListWidget& list)
 {
     auto* widest = new QListWidgetItem(
         "0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0  000'.0 T  Zn 000.0  "
-        "residual -000.0 nm",
+        "does not fit: -00.0 nm",
         &list);
     widest->setCheckState(Qt::Checked);
     const int width = list.sizeHintForColumn(0);
