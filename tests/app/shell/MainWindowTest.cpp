@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include "app/shell/AlarmBoxes.h"
 #include "app/shell/CalculatorWindow.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
@@ -67,6 +69,33 @@ TEST_F(MainWindowTest, anAlarmRingsByTheStoredTDWhileTDIsAskedFor)
     shown("alarmBox")->close();
 }
 
+/// An officer at work in a box; counts what he has let go.
+struct Hand : QLineEdit {
+    void keyReleaseEvent(QKeyEvent*) override { ++released; }
+    int released = 0;
+};
+
+TEST(AlarmBoxes, aBoxStaysInFrontAndTakesTheKeyboardAfterItsFirstSecond)
+{
+    FakeBell bell;
+    AlarmBoxes boxes(bell);
+    Hand hand;
+    hand.show();
+    hand.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&hand));
+    boxes.show({{"08:45", true}});
+    QTest::keyPress(shown("alarmBox"), Qt::Key_7);
+    EXPECT_EQ(hand.text(), "7");
+    const QPointer<QWidget> first = shown("alarmBox");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+    EXPECT_EQ(shown("alarmBox")->windowModality(), Qt::ApplicationModal);
+    EXPECT_TRUE(shown("alarmBox")->windowFlags() & Qt::WindowStaysOnTopHint);
+    QTest::keyRelease(shown("alarmBox"), Qt::Key_7);
+    EXPECT_EQ(hand.released, 1) << "a key that it saw go down";
+    QTest::keyClick(shown("alarmBox"), Qt::Key_Return);
+    EXPECT_EQ(shown("alarmBox"), nullptr);
+}
+
 TEST_F(MainWindowTest, aWindowClosedAndChosenInOneBurstComesUpAnew)
 {
     const auto window = start();
@@ -125,6 +154,7 @@ TEST_F(MainWindowTest, theEndOfTheSessionWritesRecordsAndAsksNothing)
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(shown("frmProbe"), nullptr);
     EXPECT_EQ(files.read("KV_Probe.ini").bytes, "\"35\"\r\n");
+    EXPECT_THAT(files.read("KV_KORVEL recovery.ini").bytes, ::testing::HasSubstr("12.5"));
     EXPECT_EQ(files.look("KV_KORVEL.ini").status, FileStore::Content::Status::Missing);
 }
 
