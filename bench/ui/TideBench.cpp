@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QScrollBar>
 
 namespace
 {
@@ -48,6 +49,21 @@ void chooseStation(const Rounds& round)
     delete window;
 }
 
+/// A day on and a day back: predicting, the lists below the picture, painting.
+void stepDate(const Rounds& round)
+{
+    TideProgram program;
+    auto* window = new frmTIDE(program.program());
+    prepare(*window);
+    auto& dates = *window->findChild<QScrollBar*>("scrDate");
+    int turn = 0;
+    round([&] {
+        dates.setValue(dates.value() + (turn++ % 2 ? -1 : 1));
+        QApplication::processEvents();
+    });
+    delete window;
+}
+
 /// The same picture with nothing on it.
 void emptyRepaint(const Rounds& round)
 {
@@ -66,7 +82,9 @@ void emptyRepaint(const Rounds& round)
 
 int main(int argc, char* argv[])
 {
-    return runUiBench(
-        argc, argv,
-        {{"ours/frmTIDE station", chooseStation}, {"peer/frmTIDE station", emptyRepaint}});
+    return runUiBench(argc, argv,
+                      {{"ours/frmTIDE station", chooseStation},
+                       {"peer/frmTIDE station", emptyRepaint},
+                       {"ours/frmTIDE date", stepDate},
+                       {"peer/frmTIDE date", emptyRepaint}});
 }
