@@ -32,6 +32,9 @@ public:
     /// @param blanksPart whether a blank parts items too
     Item next(bool blanksPart = false);
 
+    /// True when another item stands on the line of the last one taken.
+    bool lineGoesOn() const { return m_lineGoesOn; }
+
     /// True when the next item stands between quotes.
     bool atQuote();
 

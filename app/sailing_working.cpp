@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/sailing_working.h"
 
+#include "app/KORVEL2000Actions.h"
 #include "navlib/angles.h"
 
 namespace korvel
@@ -102,14 +103,19 @@ std::vector<std::string> sailingLimits(Earth earth)
         "four latitudes; the course is that of the meridional parts"};
 }
 
+std::string factorNodes(std::span<const NavFunc113::FactorNode> table)
+{
+    std::string nodes;
+    for (const NavFunc113::FactorNode& node : table)
+        nodes += (nodes.empty() ? "" : ", ") + figure(node.factor, 5) + " at " +
+                 figure(node.lat, 0) + "°";
+    return nodes;
+}
+
 void addFactor(Working& working, const std::string& name, const std::string& formula,
                std::span<const NavFunc113::FactorNode> table, double factor)
 {
-    std::string from;
-    for (const NavFunc113::FactorNode& node : table)
-        from += (from.empty() ? "" : ", ") + figure(node.factor, 5) + " at " + figure(node.lat, 0) +
-                "°";
-    working.step(name, formula + " by Lagrange's formula", "from " + from,
+    working.step(name, formula + " by Lagrange's formula", "from " + factorNodes(table),
                  figure(factor, factorDecimals), "miles");
 }
 
@@ -134,6 +140,51 @@ void addRhumbLeg(Working& working, const std::array<NavFunc113::DegMin, 4>& ends
     addParts(working, "2", DegMinToDeg(ends[2]), leg.steps.parts2);
     addCourse(working, leg);
     addDistance(working, ends, leg, earth);
+}
+
+void addRunInLatitude(Working& working, const ReckonedRun& from, const NavFunc113::LatitudeRun& run,
+                      Earth earth)
+{
+    working.step("Run to the north", "r = D cos C / 60",
+                 memoText(from.distance) + " × cos " + memoText(from.course) + "°" + " / 60",
+                 figure(run.run, angleDecimals), "°");
+    if (earth == Earth::Spheroid) {
+        working.step("Latitude for the length of the minute of latitude",
+                     "φm = |2 φ1 + r| / 2.05, φ1 as it is written", "",
+                     figure(run.lookup, angleDecimals), "°");
+        addFactor(working, "Length of the minute of latitude", "m(φm)",
+                  NavFunc113::LatitudeFactorTable(), run.factor);
+    }
+    working.step("Change of latitude", earth == Earth::Spheroid ? "Δφ = r / m" : "Δφ = r", "",
+                 figure(run.change, angleDecimals), "°");
+    working.step("Latitude reached", "φ2 = φ1 + Δφ",
+                 degreesTerm(DegMinToDeg(from.start[0])) + " + " + degreesTerm(run.change),
+                 figure(DegMinToDeg(run.reached), angleDecimals), "°");
+}
+
+void addRunInLongitude(Working& working, const ReckonedRun& from,
+                       const NavFunc113::LatitudeRun& latitude, const NavFunc113::LongitudeRun& run,
+                       Earth earth)
+{
+    if (run.alongParallel) {
+        const bool isSpheroid = earth == Earth::Spheroid;
+        if (isSpheroid)
+            addFactor(working, "Length of the minute of longitude divided by cos φ",
+                      "p(φ1), φ1 as it is written", NavFunc113::RunFactorTable(), run.factor);
+        working.step("Change of longitude along the parallel, west negative",
+                     isSpheroid ? "Δλ = D / (60 cos φ1 p)" : "Δλ = D / (60 cos φ1)", "",
+                     figure(run.change, angleDecimals), "°");
+    } else if (from.distance > NavFunc113::Miles(0)) {
+        addParts(working, "1", DegMinToDeg(from.start[0]), run.parts1);
+        addParts(working, "2", DegMinToDeg(latitude.reached), run.parts2);
+        working.step("Change of longitude", "Δλ = tan C (M2 - M1) / 60",
+                     "tan " + memoText(from.course) + "° × (" + term(run.parts2, partsDecimals) +
+                         " - " + term(run.parts1, partsDecimals) + ") / 60",
+                     figure(run.change, angleDecimals), "°");
+    }
+    working.step("Longitude reached", "λ2 = λ1 + Δλ, less whole turns",
+                 degreesTerm(DegMinToDeg(from.start[1])) + " + " + degreesTerm(run.change),
+                 figure(DegMinToDeg(run.reached), angleDecimals), "°");
 }
 
 } // namespace korvel

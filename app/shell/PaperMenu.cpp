@@ -30,15 +30,9 @@ QMenu* PaperMenu::addTo(QMenuBar& bar, QAction* first)
         menu->addAction(first);
         first->setObjectName(memberName("mnuPaper", 0));
     }
-    // A window that prints a page of its own keeps the key for it.
-    const QList<QAction*> others = m_window.findChildren<QAction*>();
-    const bool isTaken = std::any_of(others.begin(), others.end(), [](const QAction* each) {
-        return each->shortcut() == QKeySequence(QKeySequence::Print);
-    });
-    add(menu, "&Print..", isTaken ? QKeySequence() : QKeySequence(QKeySequence::Print),
-        &PaperMenu::print);
+    add(menu, "&Print..", ifFree(QKeySequence::Print), &PaperMenu::print);
     add(menu, "Save as P&DF..", {}, &PaperMenu::savePDF);
-    add(menu, "&Copy results", Qt::CTRL | Qt::SHIFT | Qt::Key_C, &PaperMenu::copyResults);
+    add(menu, "&Copy results", ifFree(Qt::CTRL | Qt::SHIFT | Qt::Key_C), &PaperMenu::copyResults);
     add(menu, "&Keep in the journal", {}, &PaperMenu::keep);
     QAction* list = add(menu, "Save the &list as CSV..", {}, &PaperMenu::exportList);
     QAction* line = add(menu, "Save the &route or track as GPX..", {}, &PaperMenu::exportLine);
@@ -48,6 +42,15 @@ QMenu* PaperMenu::addTo(QMenuBar& bar, QAction* first)
         line->setEnabled(document.paper().line.has_value());
     });
     return menu;
+}
+
+/// A window that prints or copies in a way of its own keeps the key for it.
+QKeySequence PaperMenu::ifFree(const QKeySequence& keys) const
+{
+    const QList<QAction*> others = m_window.findChildren<QAction*>();
+    const bool isTaken = std::any_of(others.begin(), others.end(),
+                                     [&](const QAction* each) { return each->shortcut() == keys; });
+    return isTaken ? QKeySequence() : keys;
 }
 
 QAction* PaperMenu::add(QMenu* menu, const QString& caption, const QKeySequence& keys,

@@ -38,6 +38,7 @@ private:
     void exportList() const;
     void exportLine() const;
     void save(const std::string& title, const std::string& offered, const std::string& bytes) const;
+    QKeySequence ifFree(const QKeySequence& keys) const;
     QAction* add(QMenu* menu, const QString& caption, const QKeySequence& keys,
                  void (PaperMenu::*run)() const);
 

@@ -5,6 +5,7 @@
 #include "navlib/sailing.h"
 
 #include <optional>
+#include <vector>
 
 /// The position record: what lies between the recorded fixes.
 namespace korvel
@@ -21,6 +22,48 @@ struct PositionRecordInput {
     std::optional<std::size_t> typingTimeIn; ///< row whose time is still being typed: no word on it
 };
 
+/// A row as it was understood; nothing where a box makes no sense or is empty.
+struct ReadRow {
+    std::optional<NavFunc113::DateTime> smt;
+    std::optional<double> td; ///< hours, also when it is that of the row above or the ship's
+    std::optional<NavFunc113::DateTime> utc;
+    std::optional<NavFunc113::DegMin> latitude;
+    std::optional<NavFunc113::DegMin> longitude;
+};
+
+/// A row that counts.
+struct RecordedFix {
+    std::size_t row; ///< its index
+    NavFunc113::DateTime smt;
+    NavFunc113::DateTime utc;
+    NavFunc113::DegMin latitude;
+    NavFunc113::DegMin longitude;
+};
+
+/// From one fix to the next.
+struct RecordLeg {
+    NavFunc113::RhumbLeg sailed;
+    NavFunc113::Hours hours;
+};
+
+/// The sum of the legs between two fixes, told by their places among the fixes.
+struct RecordRun {
+    std::size_t from;
+    std::size_t to;
+    NavFunc113::Miles distance;
+    NavFunc113::Hours hours;
+};
+
+/// What the current was calculated from.
+struct RecordCurrent {
+    NavFunc113::Degrees courseSteered;
+    NavFunc113::Knots speedSteered;
+    NavFunc113::Miles run; ///< by speed steered
+    NavFunc113::LatitudeRun latitude;
+    NavFunc113::LongitudeRun longitude;
+    RecordLeg leg; ///< from the position reckoned to the last fix
+};
+
 /// Labels of a row; an empty text blanks the label.
 struct PositionRowResult {
     std::string utc;       ///< "2024/05/01 03:00", as soon as time and TD are there
@@ -35,6 +78,7 @@ struct PositionRowResult {
     std::string dayRun;      ///< in a row at 12:00 SMT: run since the noon row before it
     bool outOfOrder = false; ///< earlier by UTC than the complete row before it
     std::string remark;      ///< what makes no sense in the row, in words
+    ReadRow read;
 };
 
 struct PositionRecordResult {
@@ -48,6 +92,13 @@ struct PositionRecordResult {
     std::string set;                    ///< "259", degrees true, towards which the current sets
     std::string drift;                  ///< "26.'4 = 1.15 kn"
     std::string notice;                 ///< remarks of the first rows and what else makes no sense
+
+    // The same in full.
+    std::vector<RecordedFix> fixes;
+    std::vector<std::optional<RecordLeg>> legs; ///< legs[i] leads from fixes[i] to fixes[i + 1]
+    std::vector<RecordRun> dayRuns;
+    std::optional<RecordRun> total;
+    std::optional<RecordCurrent> current;
 };
 
 /// Everything the record shows.
@@ -58,10 +109,5 @@ struct PositionRecordResult {
 /// from UTC alone, so clock changes and the date line need no care. Courses and distances are
 /// rhumb lines.
 PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input);
-
-/// The record to be copied or printed: a heading, one line a row in use, the totals; the columns
-/// parted by tabs, and which mile it is in. What could not be read stands there as typed.
-std::string positionRecordText(const PositionRecordInput& input,
-                               const PositionRecordResult& result);
 
 } // namespace korvel

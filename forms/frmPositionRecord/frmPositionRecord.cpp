@@ -5,6 +5,9 @@
 #include "app/shell/FollowingScrollArea.h"
 #include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/PrintRecord.h"
+#include "forms/frmPositionRecord/RecordList.h"
+#include "forms/frmPositionRecord/RecordPaper.h"
+#include "forms/frmPositionRecord/RecordText.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,6 +53,8 @@ void frmPositionRecord::addTotals()
     grid->setContentsMargins(0, 0, 0, 0);
     int column = 0;
     const auto put = [&](int row, const QString& caption, QWidget* field, const QString& unit) {
+        if (field->accessibleName().isEmpty())
+            field->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
         auto* label = new QLabel(caption);
         label->setBuddy(field);
         grid->addWidget(label, row, column);
@@ -123,6 +128,7 @@ void frmPositionRecord::addMenus()
     entry("&Undo the last change of rows", "Ctrl+Shift+U", [this] { undo(); });
     entry("&Copy as text", "Ctrl+Shift+C", [this] { copyAsText(); });
     entry("&Print...", "Ctrl+P", [this] { print(); });
+    entry("I&mport a saved list (CSV)...", "", [this] { importList(); });
 
     const auto figure = [](const std::optional<double>& value) {
         return value ? memoText(*value) : std::string();
@@ -279,6 +285,32 @@ void frmPositionRecord::print()
     printer().print(QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
         printRecord(painter, room, record, QString::fromStdString(printed));
     });
+}
+
+void frmPositionRecord::importList()
+{
+    const auto path = program().questions().fileToRead("Import a position record", "csv");
+    if (!path) return;
+    const FileStore::Content file = program().files().readAnywhere(*path);
+    const bool isRead = file.status == FileStore::Content::Status::Read;
+    const ReadList list = isRead ? readRecordList(file.bytes) : ReadList{};
+    const std::string fault = isRead                ? list.fault
+                              : file.reason.empty() ? "it is missing"
+                                                    : file.reason;
+    if (!fault.empty()) {
+        program().questions().ask(
+            {'"' + *path + "\" was not imported: " + fault + ".\rThe record is as it was.",
+             programTitle, Buttons::Ok});
+        return;
+    }
+    changeRows(RowChange::Kind::Replaced, [&list](PositionRows& rows) { rows = list.rows; });
+}
+
+WorkingPaper frmPositionRecord::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    tellRecord(paper, input(), m_shown);
+    return paper;
 }
 
 void frmPositionRecord::applyColours()

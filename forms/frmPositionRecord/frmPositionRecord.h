@@ -18,6 +18,7 @@ public:
     explicit frmPositionRecord(Program& program);
 
 protected:
+    WorkingPaper paper() const override;
     void applyColours() override;
 
 private:
@@ -40,6 +41,7 @@ private:
     void putTimeNow();
     void copyAsText() const;
     void print();
+    void importList();
 
     PositionTable* m_table;
     FieldBoxes m_steered;

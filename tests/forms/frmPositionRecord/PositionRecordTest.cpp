@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmPositionRecord/PositionRecord.h"
+#include "forms/frmPositionRecord/RecordList.h"
+#include "forms/frmPositionRecord/RecordText.h"
 
 #include "tests/golden/Golden.h"
 
@@ -141,6 +142,22 @@ TEST(PositionRecord, copiedText)
     EXPECT_THAT(text, HasSubstr("\t980.'5\t70.0\t14.01\n"));
     EXPECT_THAT(text, HasSubstr("\nMiles\t1nm=1' (of LATITUDE) (sphere)\n"));
     EXPECT_EQ(std::ranges::count(text, '\n'), 8);
+}
+
+TEST(PositionRecord, aSavedListIsReadWholeOrNotAtAll)
+{
+    auto input = fourDays();
+    for (std::size_t i : {0, 1, 3})
+        input.rows[i] = {};
+    const std::string list = csvText(recordList(input, CalculatePositionRecord(input)));
+    EXPECT_EQ(readRecordList(list).rows[2].latitude, "38.05");
+    for (const Golden& row : golden("record_lists")) {
+        std::string line = row.text("line");
+        std::ranges::replace(line, '\'', '"');
+        const ReadList read = readRecordList(list + line + "\r\n");
+        EXPECT_EQ(read.rows == PositionRows{}, !row.text("says").empty()) << row << read.fault;
+        EXPECT_THAT(read.fault, HasSubstr(row.text("says"))) << row;
+    }
 }
 
 } // namespace

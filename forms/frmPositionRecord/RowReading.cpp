@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmPositionRecord/RowReading.h"
+
+#include "app/Format.h"
+#include "app/NumberField.h"
+#include "app/reading.h"
+#include "forms/frmPositionRecord/FixTime.h"
+#include "navlib/datetime.h"
+
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::DateTime;
+using NavFunc113::DegMin;
+
+constexpr double clockLeeway = 2.0 / 1440; ///< days by which the ship's clock may be slow
+
+constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
+constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", NumberField::Form::Latitude};
+constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees",
+                                     NumberField::Form::Longitude};
+constexpr NumberField courseSteered{"course steered", 0, 360, "degrees"};
+constexpr NumberField speedSteered{"speed steered", 0, 999, "knots"};
+
+std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
+{
+    const auto value = numberIn(box, field, remark);
+    if (!value) return std::nullopt;
+    const double minutes = (std::fabs(*value) - std::trunc(std::fabs(*value))) * 100;
+    if (minutes > 60 - 1e-7) { // the last bits of 35.6 may fall short of 60 minutes
+        say(remark, std::string(field.name) + ": minutes of " + Format(minutes, "0.####"));
+        return std::nullopt;
+    }
+    return DegMin(*value);
+}
+
+/// "9 h 18 min".
+std::string hoursAndMinutes(double hours)
+{
+    const double minutes = std::round(std::fabs(hours) * 60);
+    return (hours < 0 ? "-" : "") + Format(std::floor(minutes / 60), "0") + " h " +
+           Format(std::fmod(minutes, 60), "0") + " min";
+}
+
+std::optional<double> timeDifferenceIn(const std::string& box, std::string& remark)
+{
+    const auto value = numberIn(box, timeDifference, remark);
+    const auto typed = readLeadingNumber(box);
+    // Zones differ by whole quarters of an hour: 9.3 was hardly meant as 9 h 18 min.
+    if (value && std::fabs(*value * 4 - std::round(*value * 4)) > 1e-9)
+        say(remark, "TD of " + hoursAndMinutes(*value));
+    // Clocks of +13 show the same time of day as those of -11, a day later.
+    if (!value && typed && std::fabs(*typed) <= 15)
+        say(remark, *typed > 0
+                        ? "take " + Format(*typed - 24, "0.0#") + " and the date a day earlier"
+                        : "take " + Format(*typed + 24, "0.0#") + " and the date a day later");
+    return value;
+}
+
+/// The time difference of a row. @param above that of the rows above; replaced by the row's own
+std::optional<double> timeDifferenceOf(const PositionRow& row, double& above,
+                                       PositionRowResult& result)
+{
+    if (row.satelliteTD.find_first_not_of(" \t") == std::string::npos) {
+        if (!row.isEmpty()) result.assumedTD = Format(above, "0.0#");
+        return above;
+    }
+    const auto td = timeDifferenceIn(row.satelliteTD, result.remark);
+    if (td) above = *td;
+    return td;
+}
+
+} // namespace
+
+void say(std::string& text, const std::string& sentence)
+{
+    text = joined({text, sentence});
+}
+
+std::optional<double> numberIn(const std::string& box, const NumberField& field,
+                               std::string& remark)
+{
+    Remarks remarks;
+    const auto value = readIfTyped(box, field, remarks);
+    say(remark, remarks.text());
+    return value;
+}
+
+std::optional<RecordedFix> readRow(const PositionRecordInput& input, std::size_t index,
+                                   double& tdAbove, PositionRowResult& result)
+{
+    const PositionRow& row = input.rows[index];
+    const auto smt = readFixTime(row.satelliteSMT);
+    if (!smt && input.typingTimeIn != index) result.remark = faultOfFixTime(row.satelliteSMT);
+    const auto td = timeDifferenceOf(row, tdAbove, result);
+    const auto latitude = angleIn(row.latitude, latitudeOfFix, result.remark);
+    const auto longitude = angleIn(row.longitude, longitudeOfFix, result.remark);
+    result.read = {smt, td, {}, latitude, longitude};
+    if (!smt || !td) return std::nullopt;
+    const DateTime utc = NavFunc113::NearestSecond(*smt - *td / 24);
+    result.read.utc = utc;
+    result.utc = Format(utc, "yyyy/mm/dd hh:mm");
+    if (input.now && utc > *input.now + clockLeeway) say(result.remark, "lies in the future");
+    if (!latitude || !longitude) return std::nullopt;
+    return RecordedFix{index, *smt, utc, *latitude, *longitude};
+}
+
+} // namespace korvel
