@@ -37,6 +37,10 @@ public:
     /// Where Enter goes; nullptr leaves it in the box, all selected.
     void setNext(EntryBox* next) { m_next = next; }
 
+    /// What the calculations accept, in words: "-90 to 90"; told to whoever comes to the box.
+    void setLimits(const QString& limits) { m_limits = limits; }
+    const QString& limits() const { return m_limits; }
+
     /// What Enter does on top, before it moves on.
     std::function<void()> onEnter;
     /// What is done with the text when the focus has gone to another control of the program; a look
@@ -52,6 +56,7 @@ protected:
 
 private:
     EntryBox* m_next = nullptr;
+    QString m_limits;
     bool m_focusedByMouse = false;
     bool m_interrupted = false; ///< a question or an alarm took the focus while somebody typed
 };

@@ -5,9 +5,11 @@
 #include "app/shell/PaperWindow.h"
 #include "app/shell/PictureBox.h"
 #include "app/shell/widget_colours.h"
+#include "app/shell/window_glyphs.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
+#include <QMenuBar>
 #include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -36,6 +38,7 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
 {
     setObjectName(name);
     setWindowTitle(caption);
+    setWindowIcon(windowGlyph(name));
     setAttribute(Qt::WA_DeleteOnClose);
     tellResultsToAssistiveTools();
 
@@ -58,6 +61,7 @@ void CalculatorWindow::loadSettings()
     m_calculations->runAll();
     applyColours();
     addPaperMenu();
+    m_program.addHelpMenu(*menuBar());
 }
 
 void CalculatorWindow::addPaperMenu()
@@ -195,6 +199,7 @@ void CalculatorWindow::applyColours()
 {
     const ColourScheme& colours = m_program.colours();
     setTextColour(m_notices, colours.notice);
+    m_notices->setHintColour(colours.echo);
     for (PositionBox* box : findChildren<PositionBox*>())
         setTextColour(box->echo(), colours.echo);
     for (QLabel* label : m_dimmed)

@@ -46,6 +46,14 @@ Kind recordKindOf(FieldKind kind)
     return Kind::Figure;
 }
 
+QString limitsInWords(const Field& field)
+{
+    const QString low = QString::number(field.low);
+    const QString high = QString::number(field.high, 'g', 10);
+    if (std::isinf(field.low)) return std::isinf(field.high) ? QString() : "to " + high;
+    return std::isinf(field.high) ? "from " + low : low + " to " + high;
+}
+
 } // namespace
 
 FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(table)
@@ -55,6 +63,9 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
         box->setObjectName(field.name);
         box->setAccessibleName(field.accessibleName);
         box->recordKind = recordKindOf(field.kind);
+        box->setLimits(limitsInWords(field));
+        // A position box tells what was understood in this place.
+        if (!qobject_cast<PositionBox*>(box)) box->setAccessibleDescription(box->limits());
         if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
         if (field.kind == FieldKind::Longitude && !m_boxes.empty())
             if (auto* latitude = dynamic_cast<PositionBox*>(m_boxes.back()))

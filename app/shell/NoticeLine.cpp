@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/NoticeLine.h"
 
+#include "app/shell/Boxes.h"
+
+#include <QApplication>
+#include <QPaintEngine>
 #include <QTextLayout>
 
 namespace korvel
@@ -21,6 +25,20 @@ NoticeLine::NoticeLine()
     setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setMinimumHeight(NoticeLine::sizeHint().height());
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* now) { hintAt(now); });
+}
+
+void NoticeLine::hintAt(const QWidget* control)
+{
+    if (!control || control->window() != window() || control == this) return;
+    QString what = control->accessibleName();
+    if (auto* box = qobject_cast<const EntryBox*>(control); box && !box->limits().isEmpty())
+        what += "; " + box->limits();
+    const QString hint = what + "\nF1: the manual, at this place";
+    if (what.isEmpty() || hint == m_hint) return;
+    m_hint = hint;
+    if (text().isEmpty()) update();
 }
 
 void NoticeLine::say(const QString& key, const QString& text)
@@ -52,6 +70,14 @@ void NoticeLine::paintEvent(QPaintEvent* event)
         ResultLabel::paintEvent(event);
         return;
     }
+    QPainter painter(this);
+    if (text().isEmpty()) {
+        // A printed form has no box to type into.
+        if (painter.paintEngine()->type() != QPaintEngine::Raster) return;
+        painter.setPen(m_hintColour);
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, m_hint);
+        return;
+    }
     QTextLayout layout(text(), font());
     layout.beginLayout();
     QStringList lines;
@@ -65,7 +91,6 @@ void NoticeLine::paintEvent(QPaintEvent* event)
         lines << text().mid(line.textStart(), line.textLength());
     }
     layout.endLayout();
-    QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(rect(), static_cast<int>(alignment()), lines.join('\n'));
 }

@@ -10,7 +10,8 @@ namespace korvel
 
 /// The line at the foot of a window that says what is wrong with the figures above it, quiet when
 /// empty. It keeps its two lines of room whatever it says, so that a notice never moves the boxes
-/// under the officer's hand; what does not fit is in the tool tip.
+/// under the officer's hand; what does not fit is in the tool tip. While there is nothing to say
+/// the room tells what the box with the focus takes.
 class NoticeLine : public ResultLabel
 {
 public:
@@ -20,6 +21,13 @@ public:
     /// is in the order of the keys.
     void say(const QString& key, const QString& text);
 
+    /// The notice that stands first; empty when there is none.
+    QString firstSaid() const { return m_said.empty() ? QString() : m_said.begin()->second; }
+
+    /// What the box with the focus takes, as it stands here while there is nothing to say.
+    const QString& hint() const { return m_hint; }
+    void setHintColour(const QColor& colour) { m_hintColour = colour; }
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     int heightForWidth(int) const override { return sizeHint().height(); }
@@ -28,6 +36,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void hintAt(const QWidget* control);
+
+    QString m_hint; ///< two lines
+    QColor m_hintColour;
     std::map<QString, QString> m_said;
 };
 

@@ -16,6 +16,8 @@
 #include <functional>
 #include <vector>
 
+class QMenuBar;
+
 namespace korvel
 {
 
@@ -84,6 +86,8 @@ public:
     std::vector<WindowLink> links;
     /// Opens a window by its name, as its menu entry does.
     std::function<void(const QString&)> openWindow = [](const QString&) {};
+    /// Adds the menu of the manual to a window.
+    std::function<void(QMenuBar&)> addHelpMenu = [](QMenuBar&) {};
 
 signals:
     void distanceUnitChanged();

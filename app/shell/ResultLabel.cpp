@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ResultLabel.h"
 
+#include "app/packed_text.h"
+#include "app/shell/asQString.h"
+
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMenu>
+#include <QToolTip>
 
 namespace korvel
 {
@@ -120,6 +125,16 @@ void ResultLabel::showReserved(const QString& text)
     const int wide = fontMetrics().horizontalAdvance(text.left(widestReserved));
     if (wide > minimumWidth()) setFixedWidth(wide);
     setText(text);
+}
+
+bool ResultLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || (!toolTip().isEmpty() && toolTip() != text()))
+        return QLabel::event(event);
+    const QString full = asQString(inFullForm(text().toStdString()));
+    if (full == text()) return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), full.trimmed(), this);
+    return true;
 }
 
 void ResultLabel::paintEvent(QPaintEvent* event)

@@ -13,7 +13,8 @@ namespace korvel
 
 /// A label with a result: one step larger than captions, selectable and copyable, by mouse and from
 /// the keyboard: Tab stops at it while it shows something. Assistive tools get its text behind its
-/// accessible name.
+/// accessible name. The tip of a label without one of its own shows its figures in full form where
+/// the label keeps the program's packed writing.
 class ResultLabel : public QLabel
 {
     Q_OBJECT
@@ -44,6 +45,7 @@ protected:
     /// True while the toolkit's own text document shows the text.
     bool isBeingSelected() const { return textInteractionFlags() != Qt::NoTextInteraction; }
 
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

@@ -32,9 +32,12 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
                      keepValues();
                  },
                  [this] { endProgram(); }, [this] { m_recovery.remove(); }}),
-      m_program(m_machine, m_saved, m_actions, m_shipsTime),
+      m_program(m_machine, m_saved, m_actions, m_shipsTime), m_help(machine.files),
       m_windows(m_program, std::move(catalogue)), m_alarmBoxes(machine.bell),
-      m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this))
+      m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this)),
+      m_greeted(machine.files, m_questions, machine.clock, "KV_Help.ini", {Kind::Number}),
+      m_isFirstStart(!hasFile("KV_KORVEL.ini") && !hasFile(RecoveryFile::name) &&
+                     !hasFile(m_greeted.name()))
 {
     setObjectName("frmKORVEL2000");
     setCentralWidget(m_panel);
@@ -43,6 +46,9 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
             [this](const QString& name) { m_menus.tickWindow(name, true); });
     connect(&m_windows, &CalculatorWindows::closed, this,
             [this](const QString& name) { m_menus.tickWindow(name, false); });
+
+    m_program.addHelpMenu = [this](QMenuBar& bar) { m_help.addMenu(bar); };
+    m_help.addMenu(*menuBar());
 
     loadSavedValues();
     m_menus.show(m_saved);
@@ -78,7 +84,7 @@ MainMenus::Actions frmKORVEL2000::menuActions()
     actions.openWindow = [this](const QString& name) { openWindow(name); };
     actions.setUpTime = choice([this] {
         m_shipsTime.setUp();
-        if (m_shipsTime.offsetSeconds() != 0 || hasOffsetFile())
+        if (m_shipsTime.offsetSeconds() != 0 || hasFile("KV_Clock.ini"))
             m_offsetSettings.saveQuietly({m_shipsTime.offsetSeconds()});
         timeChanged();
     });
@@ -150,9 +156,9 @@ void frmKORVEL2000::openJournal()
     m_journal->activateWindow();
 }
 
-bool frmKORVEL2000::hasOffsetFile() const
+bool frmKORVEL2000::hasFile(const std::string& name) const
 {
-    return m_machine.files.look("KV_Clock.ini").status != FileStore::Content::Status::Missing;
+    return m_machine.files.look(name).status != FileStore::Content::Status::Missing;
 }
 
 void frmKORVEL2000::start()
@@ -164,6 +170,16 @@ void frmKORVEL2000::start()
     MemoHyoujiAtStart();
     keepValues();
     show();
+    if (m_isFirstStart) QTimer::singleShot(0, this, &frmKORVEL2000::greet);
+}
+
+/// What an officer needs to know before the first figure: beside the main window, not before it,
+/// and gone with one key.
+void frmKORVEL2000::greet()
+{
+    if (!m_help.manual().has("first-start")) return;
+    m_help.openBelow(*this, "first-start");
+    m_greeted.saveQuietly({1.0});
 }
 
 void frmKORVEL2000::tmrClock_Timer()
@@ -219,7 +235,7 @@ void frmKORVEL2000::closeEvent(QCloseEvent* event)
 
 void frmKORVEL2000::endProgram()
 {
-    if (m_shipsTime.offsetSeconds() != 0 || hasOffsetFile())
+    if (m_shipsTime.offsetSeconds() != 0 || hasFile("KV_Clock.ini"))
         m_offsetSettings.saveAtClose({m_shipsTime.offsetSeconds()});
     closeEverything();
 }

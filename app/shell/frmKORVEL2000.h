@@ -5,6 +5,7 @@
 #include "app/alarms.h"
 #include "app/shell/AlarmBoxes.h"
 #include "app/shell/CalculatorWindows.h"
+#include "app/shell/HelpDesk.h"
 #include "app/shell/JournalWindow.h"
 #include "app/shell/MainMenus.h"
 #include "app/shell/MainPanel.h"
@@ -50,6 +51,8 @@ public:
     /// Called by the clock timer, and by tests.
     void tmrClock_Timer();
 
+    HelpDesk& help() { return m_help; }
+
 signals:
     /// Every window is closed and all is saved.
     void ended();
@@ -61,7 +64,8 @@ private:
     ShipsTime::Hooks clockHooks();
     MainMenus::Actions menuActions();
     void loadSavedValues();
-    bool hasOffsetFile() const;
+    bool hasFile(const std::string& name) const;
+    void greet();
     void MemoHyoujiAtStart();
     void showClockRemarks();
     void setShip();
@@ -83,12 +87,15 @@ private:
     ShipsTime m_shipsTime;
     KORVEL2000Actions m_actions;
     Program m_program;
+    HelpDesk m_help;
     CalculatorWindows m_windows;
     Alarms m_alarms{m_saved};
     AlarmBoxes m_alarmBoxes;
     MainMenus m_menus;
     QTimer* m_tmrClock;
     std::unique_ptr<JournalWindow> m_journal; ///< once it was opened
+    SettingsFile m_greeted;                   ///< there once the page of the first start was shown
+    bool m_isFirstStart;
     bool m_ending = false;
 };
 

@@ -26,8 +26,8 @@ public:
 private:
     using Figure = const std::string& (*)(const CrudeResult&);
 
-    ResultLabel* add(const char* name, Figure figure);
-    ResultLabel* addNote(const char* name, Figure figure); ///< words beside a figure
+    ResultLabel* add(const char* name, const QString& words, Figure figure);
+    ResultLabel* addNote(const char* name, const QString& words, Figure figure); ///< words beside a figure
     void layOutVolumes(QGridLayout* grid, int& row);
     void layOutByDensity(QGridLayout* grid, int& row);
     void layOutTons(QGridLayout* grid, int& row);

@@ -86,6 +86,10 @@ void frmETA::addResults()
 {
     m_lblSPD = addLabels<5>("lblSPD");
     m_lblETA = addLabels<5>("lblETA");
+    for (std::size_t i = 0; i < m_lblETA.size(); ++i) {
+        m_lblSPD[i]->setAccessibleName(QString("Speed %1, knots").arg(i + 1));
+        m_lblETA[i]->setAccessibleName(QString("Arrival %1, local time").arg(i + 1));
+    }
     m_lblReqSpd = addLabel("lblReqSpd");
     for (std::size_t end = 0; end < m_txtTD.size(); ++end) {
         m_lblZD[end] = new QLabel;

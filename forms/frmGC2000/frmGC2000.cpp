@@ -88,6 +88,9 @@ void frmGC2000::addResults()
     m_lblVertexLong = addLabel("lblVertexLong");
     m_lblVertexRemark = addLabel("lblVertexRemark");
     m_lblSaving = addLabel("lblSaving");
+    m_lblVertexLat->setAccessibleName("Vertex latitude");
+    m_lblVertexLong->setAccessibleName("Vertex longitude");
+    m_lblVertexRemark->setAccessibleName("Vertex");
     m_picGC = new GCPicture(program());
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.

@@ -57,6 +57,8 @@ void frmPositionRecord::addTotals()
             field->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
         auto* label = new QLabel(caption);
         label->setBuddy(field);
+        if (field->accessibleName().isEmpty())
+            field->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
         grid->addWidget(label, row, column);
         grid->addWidget(field, row, column + 1);
         grid->addWidget(new QLabel(unit), row, column + 2);

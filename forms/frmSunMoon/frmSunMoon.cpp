@@ -96,6 +96,7 @@ frmSunMoon::frmSunMoon(Program& program)
     area->setHeading(m_table->makeHeading());
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, dateRow());
     m_lblRow = addLabel("lblRow");
+    m_lblRow->setAccessibleName("Row in hand");
     m_lblRow->setFont(font());
     m_lblRow->setEliding();
     addBelow(m_lblRow);
@@ -119,6 +120,7 @@ void frmSunMoon::addControls()
     m_txtSunMoon = addFields(dateFields)[0];
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
     m_lblMoonAge = addLabel("lblMoonAge");
+    m_lblMoonAge->setAccessibleName("Moon's age, days");
     m_lblMoonAge->reserve("00.0 ");
     m_scrMoonSun = new QScrollBar(Qt::Horizontal, body());
     m_scrMoonSun->setObjectName("scrMoonSun");

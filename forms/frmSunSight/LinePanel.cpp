@@ -51,7 +51,7 @@ QGroupBox* LinePanel::layOutWorksheet()
     for (std::size_t i = 0; i < worksheetLines; ++i, ++row) {
         m_lblSunTerm[i] = new QLabel;
         m_lblSunTerm[i]->setObjectName(memberName("lblSunTerm", static_cast<int>(i)));
-        m_lblSunValue[i] = makeResult("lblSunValue", static_cast<int>(i), {}, this);
+        m_lblSunValue[i] = makeResult("lblSunValue", static_cast<int>(i), "Worksheet", this);
         m_lblSunValue[i]->setFont(QFont()); // a column of figures that is added up, not results
         m_lblSunValue[i]->setMinimumHeight(0);
         m_lblSunValue[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -120,7 +120,8 @@ void LinePanel::showWorksheet(const std::vector<WorksheetLine>& lines)
     for (std::size_t i = 0; i < worksheetLines; ++i) {
         const WorksheetLine line = i < lines.size() ? lines[i] : WorksheetLine{};
         m_lblSunTerm[i]->setText(QString::fromStdString(line.caption));
-        m_lblSunValue[i]->setAccessibleName(m_lblSunTerm[i]->text());
+        m_lblSunValue[i]->setAccessibleName(line.caption.empty() ? "Worksheet"
+                                                                 : m_lblSunTerm[i]->text());
         showText(m_lblSunValue[i], line.text);
     }
 }

@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "app/NumberField.h"
+#include "app/packed_text.h"
 #include "app/reading.h"
 #include "app/typed_time.h"
 #include "forms/frmSunSight/SightFields.h"
@@ -135,7 +136,7 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
     }
     if (*inputs.Hs - std::floor(*inputs.Hs) >= 0.6)
         remarks.warn("Sextant altitude: minutes of 60 and more, read as " +
-                     Format(DegToDegMin(DegMinToDeg(corrections.Hs)), "0.-00'0"));
+                     inFullForm(Format(DegToDegMin(DegMinToDeg(corrections.Hs)), "0.00'0")));
     warnOfRefraction(observed, corrections.terms, remarks);
     return corrections;
 }

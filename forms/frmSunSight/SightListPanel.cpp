@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightListPanel.h"
 
+#include "app/packed_text.h"
+#include "app/shell/asQString.h"
 #include "forms/frmSunSight/PanelParts.h"
 
 #include <QGridLayout>
@@ -96,7 +98,7 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(sight.on ? Qt::Checked : Qt::Unchecked);
         item->setText(lineOf(sight, lines[static_cast<std::size_t>(row)]));
-        item->setToolTip(item->text());
+        item->setToolTip(asQString(inFullForm(item->text().toStdString())));
     }
     if (count > 0 && m_lstSunSight->currentRow() < 0) m_lstSunSight->setCurrentRow(0);
 }

@@ -3,6 +3,7 @@
 
 #include "app/Format.h"
 #include "app/KV_Savedvalue.h"
+#include "app/packed_text.h"
 #include "app/shell/Boxes.h"
 #include "forms/frmTIDE/TideData.h"
 
@@ -94,8 +95,8 @@ void StationMenus::fillNearest(QMenu* menu)
     menu->setToolTipsVisible(true);
     const KV_Savedvalue& saved = m_program.saved();
     QAction* from = menu->addAction(
-        QString::fromStdString("from " + Format(saved.memoLatitude(), "00.-00'0N;00.-00'0S") + " " +
-                               Format(saved.memoLongitude(), "000.-00'0E;000.-00'0W")));
+        shown("from " + inFullForm(Format(saved.memoLatitude(), "00.00'0N;00.00'0S") + " " +
+                                   Format(saved.memoLongitude(), "000.00'0E;000.00'0W"))));
     from->setObjectName("mnuNearestFrom");
     from->setEnabled(false);
     const std::vector<NearStation> near =

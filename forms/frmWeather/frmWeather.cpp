@@ -34,6 +34,8 @@ frmWeather::frmWeather(Program& program)
     m_lblVISIBILITY = addLabel("lblVISIBILITY");
     m_lblVISIBILITYnm = addLabel("lblVISIBILITYnm");
     m_lblWr = addLabel("lblWr");
+    m_lblVISIBILITYnm->setAccessibleName("Visibility in nautical miles");
+    m_lblWr->setAccessibleName("Weather");
 
     auto* column = new QVBoxLayout(scrollBody());
     column->addWidget(layOutTerms());

@@ -18,6 +18,8 @@ frmWind::frmWind(Program& program)
     : CalculatorWindow(program, "frmWind", "True wind"), m_txtWind(addFields(WindFields))
 {
     m_lblWind = addLabels<2>("lblWind");
+    m_lblWind[0]->setAccessibleName("True wind from");
+    m_lblWind[1]->setAccessibleName("Beaufort number and speed");
     m_picWind = new WindPictureBox(program);
     addOptions();
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/Format.h"
+#include "app/packed_text.h"
 #include "tests/golden/Golden.h"
 
 #include <gtest/gtest.h>
@@ -13,6 +14,12 @@ TEST(Format, masks)
 {
     for (const testing::Golden& row : testing::golden("format"))
         EXPECT_EQ(Format(row.number("value"), row.text("mask")), row.text("text")) << row;
+}
+
+TEST(Format, fullForms)
+{
+    for (const testing::Golden& row : testing::golden("full_forms"))
+        EXPECT_EQ(inFullForm(row.text("packed")), row.text("full")) << row;
 }
 
 } // namespace

@@ -9,7 +9,8 @@ configure_file(${desktop}/korvel2000.1.in ${pages}/korvel2000.1 @ONLY)
 
 install(TARGETS korvel2000 DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/korvel2000)
-install(DIRECTORY docs/manual DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/korvel2000)
+# The program shows it, so it is no document that may be left out of an installation.
+install(DIRECTORY docs/manual DESTINATION ${CMAKE_INSTALL_DATADIR}/korvel2000)
 install(FILES ${desktop}/korvel2000.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES app/shell/icon/korvel2000.svg DESTINATION ${icons}/scalable/apps)
