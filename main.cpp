@@ -6,9 +6,11 @@
 #include "app/shell/MessageQuestions.h"
 #include "app/shell/OwnFonts.h"
 #include "app/shell/RecordsFolder.h"
+#include "app/shell/ScreenStyle.h"
 #include "app/shell/TerminationWatch.h"
 #include "app/shell/frmKORVEL2000.h"
 #include "app/shell/frmKORVELstart.h"
+#include "app/shell/looks.h"
 #include "calculator_windows.h"
 
 #include <QDir>
@@ -88,13 +90,16 @@ void listen(GuardedApplication& application, FolderLock& lock, TerminationWatch&
 int main(int argc, char* argv[])
 {
     useOwnFonts();
-    QApplication::setStyle("Fusion");
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // those know nothing of the night
+    QApplication::setStyle(new ScreenStyle);
     GuardedApplication application(argc, argv);
     introduceToDesktop();
     QApplication::setQuitOnLastWindowClosed(false);
 
     MessageQuestions questions;
     const Places places = choosePlaces(QApplication::applicationDirPath(), officersFolder());
+    const Looks looks = looksOfLastRun(places.records);
+    applyLooks(looks, looks.colours());
     FolderLock lock(places.records);
     if (lock.isHeldByAnother()) {
         tellAboutTheOther(questions, places.records, lock.callTheOther(3s));
@@ -103,7 +108,6 @@ int main(int argc, char* argv[])
     const auto clock = makeComputerClock();
     SystemBell bell;
     RecordsFolder folder(places);
-
     auto startWindow = std::make_unique<frmKORVELstart>();
     startWindow->show();
     questions.beep();

@@ -140,6 +140,7 @@ std::vector<std::string> KV_Savedvalue::take(const Record& record)
     if (!soundAt(SavedValue::MemoLatitude) || !soundAt(SavedValue::MemoLongitude))
         setPositionMemo({}, {});
     setClockZone(clockZone());
+    setNightColours(nightColours());
     // Kept in single precision, as it is set.
     setTD(TD());
     return refused;

@@ -48,6 +48,7 @@ struct SavedValueRow {
 class KV_Savedvalue
 {
 public:
+    static constexpr const char* file = "KV_KORVEL.ini";
     static constexpr int count = 27;
     static constexpr int alarms = 5;
 
@@ -95,7 +96,11 @@ public:
 
     /// True for the night scheme.
     bool nightColours() const { return numberOf((*this)(SavedValue::BackColor)) != 0; }
-    void setNightColours(bool night) { (*this)(SavedValue::BackColor) = night ? 1.0 : 0.0; }
+    /// Day leaves the value as a new installation has it, so that there and back is no change.
+    void setNightColours(bool night)
+    {
+        (*this)(SavedValue::BackColor) = night ? Value(1.0) : Value();
+    }
 
     /// True: "1nm=1' (of LATITUDE)", false: "1nm=1852m".
     bool unitOfLatitude() const { return numberOf((*this)(SavedValue::DistanceUnit)) != 0; }

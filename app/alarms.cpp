@@ -87,6 +87,25 @@ std::string alarmCaption(int n, const KV_Savedvalue& saved)
     return "Alarm&" + std::to_string(n) + ": " + saved.alarmTime(n);
 }
 
+std::string nextAlarmText(const KV_Savedvalue& saved, NavFunc113::DateTime smt)
+{
+    const auto present = minuteOf(smt);
+    std::int64_t nearest = minutesOfDay + 1;
+    int next = 0;
+    for (int n = 1; present && n <= KV_Savedvalue::alarms; ++n) {
+        const auto time = timeOfDay(saved.alarmTime(n));
+        const auto minute = time ? minuteOf(*time) : std::nullopt;
+        if (!saved.alarmEnabled(n) || !minute) continue;
+        const std::int64_t away = dayMinute(*minute - *present - 1) + 1;
+        if (away >= nearest) continue;
+        nearest = away;
+        next = n;
+    }
+    if (next == 0) return "No alarm";
+    const std::string comment = saved.alarmComment(next);
+    return "Next alarm " + saved.alarmTime(next) + (comment.empty() ? "" : " " + comment);
+}
+
 void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
                 const std::function<void()>& menuChanged)
 {

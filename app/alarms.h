@@ -18,6 +18,11 @@ namespace korvel
 /// Caption of an alarm's menu entry: "Alarm&1: 06:30".
 std::string alarmCaption(int n, const KV_Savedvalue& saved);
 
+/// The enabled alarm that comes next, in words: "Next alarm 06:30 call the master"; "No alarm" when
+/// none is enabled.
+/// @param smt ship's mean time; an alarm of this very minute has rung and is a day away
+std::string nextAlarmText(const KV_Savedvalue& saved, NavFunc113::DateTime smt);
+
 /// Asks for time, comment and use of alarm n. An answer that is no time brings a message and the
 /// question again with the old time. Cancel in any question leaves the alarm as it was, and so does
 /// an empty time. Times are stored as hh:mm whatever was typed.

@@ -4,8 +4,11 @@
 #include "app/shell/FollowingScrollArea.h"
 #include "app/shell/PaperWindow.h"
 #include "app/shell/PictureBox.h"
+#include "app/shell/reading_order.h"
 #include "app/shell/widget_colours.h"
 #include "app/shell/window_glyphs.h"
+#include "app/shell/window_places.h"
+#include "app/shell/zoom_sizes.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -51,6 +54,7 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
     connect(&m_program, &Program::distanceUnitChanged, m_calculations, &CalculationRunner::runAll);
     connect(&m_program, &Program::recordsWanted, m_record, &WindowRecord::saveNow);
     connect(&m_program, &Program::coloursChanged, this, [this] { applyColours(); });
+    connect(&m_program.screen(), &Screen::zoomChanged, this, &CalculatorWindow::zoom);
 }
 
 void CalculatorWindow::loadSettings()
@@ -61,7 +65,9 @@ void CalculatorWindow::loadSettings()
     m_calculations->runAll();
     applyColours();
     addPaperMenu();
+    m_menus.addView();
     m_program.addHelpMenu(*menuBar());
+    setTabOrderByReading(*this);
 }
 
 void CalculatorWindow::addPaperMenu()
@@ -175,6 +181,11 @@ void CalculatorWindow::setScrollArea(FollowingScrollArea* area)
     column->addWidget(area);
 }
 
+void CalculatorWindow::foldColumns()
+{
+    m_scrollArea->foldColumns();
+}
+
 void CalculatorWindow::addBelow(QWidget* widget)
 {
     auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
@@ -192,6 +203,10 @@ void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed
             m_dimmed.erase(label);
             resetTextColour(label);
         }
+        // Seen without colours too.
+        QFont letters = label->font();
+        letters.setItalic(dimmed);
+        label->setFont(letters);
     }
 }
 
@@ -209,6 +224,7 @@ void CalculatorWindow::applyColours()
 void CalculatorWindow::closeEvent(QCloseEvent* event)
 {
     m_record->saveAtClose();
+    keepPlace(m_program.screen(), *this, false);
     emit m_program.windowClosed(objectName());
     event->accept();
 }
@@ -217,18 +233,40 @@ void CalculatorWindow::showEvent(QShowEvent* event)
 {
     // The toolkit gives a new window two thirds of the screen at most; a window that can scroll, or
     // whose picture can shrink, would take that where all of it could be shown.
-    if (m_fitsScreen) {
-        m_fitsScreen = false; // once; afterwards the officer's size holds
-        for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
-            each->invalidate(); // what they remember is from before the controls had their fonts
-        const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
-        const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
-        QSize wanted = sizeHint();
-        if (wanted.width() > room.width())
-            wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-        resize(wanted.boundedTo(room));
+    if (!m_wasShown) { // once; afterwards the officer's size and place hold
+        m_wasShown = true;
+        if (m_fitsScreen) fit();
+        putInPlace(m_program.screen(), *this);
     }
     QMainWindow::showEvent(event);
+}
+
+void CalculatorWindow::fit()
+{
+    for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
+        each->invalidate(); // what they remember is from before the controls had their fonts
+    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
+    if (m_scrollArea) m_scrollArea->foldFor(QWIDGETSIZE_MAX);
+    QSize wanted = sizeHint();
+    if (wanted.width() > room.width() && m_scrollArea) {
+        m_scrollArea->foldFor(room.width());
+        wanted = sizeHint();
+    }
+    if (wanted.width() > room.width())
+        wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    resize(wanted.boundedTo(room));
+}
+
+void CalculatorWindow::zoom(double ratio)
+{
+    scaleSizes(*this, ratio);
+    // From the innermost layout to the outermost, before the window asks what it wants and after.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    fit();
+    if (m_scrollArea) m_scrollArea->widget()->updateGeometry();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (isVisible()) bringOntoScreen(*this);
 }
 
 } // namespace korvel

@@ -102,6 +102,9 @@ protected:
     QWidget* body() const { return m_body; }
     /// Makes the body scroll where the screen is too small for it. @return what takes the controls
     QWidget* scrollBody();
+    /// Lets the groups in it stand one below the other where the window is narrow; called when they
+    /// are laid out.
+    void foldColumns();
     /// Puts a scroll area of the window's own into the body.
     void setScrollArea(FollowingScrollArea* area);
     /// Opens the window as large as it wants and the screen allows. A scroll area asks for this by
@@ -125,6 +128,8 @@ private:
     void addPaperMenu();
     void openPaper();
     void sayForAWhile(const QString& said);
+    void fit();
+    void zoom(double ratio);
 
     Program& m_program;
     QWidget* m_body;
@@ -140,6 +145,7 @@ private:
     std::set<QLabel*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
     bool m_fitsScreen = false;
+    bool m_wasShown = false;
 };
 
 } // namespace korvel

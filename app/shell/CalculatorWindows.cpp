@@ -42,6 +42,29 @@ void CalculatorWindows::open(const QString& name)
     emit opened(name);
 }
 
+std::vector<CalculatorWindow*> CalculatorWindows::all() const
+{
+    std::vector<CalculatorWindow*> windows;
+    for (const CatalogueEntry& entry : m_catalogue) {
+        const auto window = m_open.find(entry.name);
+        if (window != m_open.end() && window->second) windows.push_back(window->second);
+    }
+    return windows;
+}
+
+void CalculatorWindows::openNext(const QWidget& from, QWidget& mainWindow)
+{
+    std::vector<QWidget*> windows = {&mainWindow};
+    for (CalculatorWindow* each : all())
+        windows.push_back(each);
+    const auto here = std::find(windows.begin(), windows.end(), &from);
+    const bool isLast = here == windows.end() || here + 1 == windows.end();
+    QWidget* next = isLast ? windows.front() : *(here + 1);
+    next->setWindowState(next->windowState() & ~Qt::WindowMinimized);
+    next->raise();
+    next->activateWindow();
+}
+
 void CalculatorWindows::forget(const QString& name)
 {
     // The window lives until the event loop comes round. Chosen again before that, it is made anew.

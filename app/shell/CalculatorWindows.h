@@ -27,6 +27,11 @@ public:
     /// Makes a window, or brings the one that is open to the front, minimised or not. An unknown
     /// name does nothing.
     void open(const QString& name);
+    /// Gives the keyboard to the open window after one of them, in the order of the catalogue; the
+    /// main window stands before the first.
+    void openNext(const QWidget& from, QWidget& mainWindow);
+    /// Those that are open, in the order of the catalogue.
+    std::vector<CalculatorWindow*> all() const;
     /// Closes every window as its cross does.
     void closeAll();
 

@@ -9,7 +9,7 @@ namespace korvel
 
 /// Every colour of the program, by day or by night.
 struct ColourScheme {
-    QPalette palette;
+    QPalette palette; ///< Dark is the outline of controls
 
     QColor clock;  ///< text of lblTime
     QColor memo;   ///< text of lblMEMO
@@ -30,7 +30,21 @@ struct ColourScheme {
     QColor datum;     ///< chart datum, or slack water, under that curve
 
     static ColourScheme day();
-    static ColourScheme night();
+    /// @param step 0 the brightest, 2 the dimmest; see nightPeak
+    static ColourScheme night(int step);
+
+    /// Relative luminance that no pixel of the night colours exceeds at a step, 1 being white.
+    static double nightPeak(int step);
 };
+
+/// True for a palette that is light on dark.
+bool isNight(const QPalette& palette);
+
+/// Relative luminance of a colour of the screen, 0 black to 1 white. Source: IEC 61966-2-1 (sRGB).
+double relativeLuminance(const QColor& colour);
+
+/// A colour of the same hue with another relative luminance; the brightest there is of that hue
+/// where it cannot be had.
+QColor atLuminance(const QColor& hue, double luminance);
 
 } // namespace korvel

@@ -37,7 +37,6 @@ void FollowingScrollArea::setHeading(QWidget* heading)
 {
     m_heading = heading;
     heading->setParent(this);
-    setViewportMargins(0, heading->sizeHint().height(), 0, 0);
     placeHeading();
 }
 
@@ -46,6 +45,19 @@ void FollowingScrollArea::setStrip()
     m_isStrip = true;
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFixedHeight(widget()->sizeHint().height());
+}
+
+void FollowingScrollArea::foldColumns()
+{
+    m_fold = std::make_unique<ColumnFold>(*widget()->layout());
+}
+
+void FollowingScrollArea::foldFor(int width)
+{
+    if (!m_fold) return;
+    // As if the bar were there: what it takes away must not bring it back and forth.
+    const int room = width - verticalScrollBar()->sizeHint().width();
+    m_fold->fold(room < m_fold->widthUnfolded());
 }
 
 QSize FollowingScrollArea::sizeHint() const
@@ -57,6 +69,7 @@ QSize FollowingScrollArea::sizeHint() const
 void FollowingScrollArea::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
+    foldFor(width());
     placeHeading();
     follow(QApplication::focusWidget());
     if (!m_isStrip) return;
@@ -65,12 +78,22 @@ void FollowingScrollArea::resizeEvent(QResizeEvent* event)
     setFixedHeight(content.height() + (scrolls ? horizontalScrollBar()->sizeHint().height() : 0));
 }
 
+/// Of a heading that wraps as its table does.
+int FollowingScrollArea::headingHeight() const
+{
+    const int wide = std::max(viewport()->width(), widget()->minimumSizeHint().width());
+    const int wrapped = m_heading->heightForWidth(wide);
+    return wrapped > 0 ? wrapped : m_heading->sizeHint().height();
+}
+
 void FollowingScrollArea::placeHeading()
 {
     if (!m_heading) return;
+    const int height = headingHeight();
+    const QMargins margins(0, height, 0, 0);
+    if (viewportMargins() != margins) setViewportMargins(margins); // letters of another size too
     const QRect seen = viewport()->geometry();
     const int left = horizontalScrollBar()->value();
-    const int height = m_heading->sizeHint().height();
     m_heading->setGeometry(seen.left() - left, seen.top() - height,
                            std::max(seen.width(), widget()->width()), height);
     // What has scrolled out on the left must not cover its neighbours.

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/ColumnFold.h"
 #include "app/shell/FocusFollower.h"
 
 #include <QScrollArea>
+
+#include <memory>
 
 namespace korvel
 {
@@ -23,6 +26,12 @@ public:
     /// Makes it a strip: always as high as its content, scrolling sideways only.
     void setStrip();
 
+    /// Puts the groups that stand side by side in the content one below the other where the area is
+    /// too narrow for them.
+    void foldColumns();
+    /// Folds or unfolds them for a width of the area.
+    void foldFor(int width);
+
     QSize sizeHint() const override;
 
 protected:
@@ -31,9 +40,11 @@ protected:
 private:
     void follow(QWidget* focus);
     void placeHeading();
+    int headingHeight() const;
 
     QWidget* m_heading = nullptr;
     bool m_isStrip = false;
+    std::unique_ptr<ColumnFold> m_fold;
     FocusFollower m_focus;
 };
 

@@ -3,6 +3,7 @@
 
 #include "app/alarms.h"
 #include "app/shell/Boxes.h"
+#include "app/shell/shortcuts.h"
 
 #include <QAction>
 #include <QMenu>
@@ -16,6 +17,7 @@ MainMenus::MainMenus(QMenuBar& bar, const WindowCatalogue& catalogue, Actions ac
 {
     addCalculators(catalogue);
     addProperty();
+    m_view = addMenu(m_bar.addMenu("&View"), "mnuView");
     QAction* end = m_bar.addAction("&End", this, m_actions.end);
     end->setObjectName("mnuEND");
 }
@@ -42,10 +44,12 @@ void MainMenus::addCalculators(const WindowCatalogue& catalogue)
     menus["mnuWATCH"] = addMenu(m_bar.addMenu("&Watch"), "mnuWATCH");
     menus["mnuTide"] = addMenu(m_bar.addMenu("&Utilities"), "mnuUTIL");
     menus["mnuCONV"] = addMenu(menus["mnuTide"]->addMenu("&Conversion"), "mnuCONV");
+    int key = 0;
     for (const CatalogueEntry& window : catalogue) {
         QAction* entry = addEntry(menus.at(window.menu), window.entryName(), window.caption,
                                   [this, name = window.name] { m_actions.openWindow(name); });
         entry->setCheckable(true);
+        entry->setShortcut(QKeySequence(windowKey(key++)));
         m_windows[window.name] = entry;
     }
 }
@@ -67,7 +71,18 @@ void MainMenus::addProperty()
     property->addSeparator();
     addEntry(property, "mnuDIST", "1nm=1' of &latitude", m_actions.chooseDistanceUnit)
         ->setCheckable(true);
-    addEntry(property, "mnuBackColor", "&Night colours", m_actions.chooseColours)
+    addScreen(property);
+}
+
+void MainMenus::addScreen(QMenu* property)
+{
+    QAction* night = addEntry(property, "mnuBackColor", "&Night colours", m_actions.chooseColours);
+    night->setCheckable(true);
+    night->setShortcut(Qt::Key_F8);
+    addEntry(property, "mnuClockOnTop", "&Keep this window on top", m_actions.chooseClockOnTop)
+        ->setCheckable(true);
+    addEntry(property, "mnuReopen", "&Open these windows again at the next start",
+             m_actions.chooseReopening)
         ->setCheckable(true);
     property->addSeparator();
     addEntry(property, "mnuShip", "Ship and &voyage..", m_actions.setShip);
@@ -85,7 +100,7 @@ void MainMenus::addAlarms(QMenu* property)
         ->setCheckable(true);
 }
 
-void MainMenus::show(const KV_Savedvalue& saved)
+void MainMenus::show(const KV_Savedvalue& saved, const ScreenChoices& screen)
 {
     for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
         QAction* alarm = m_entries.at(memberName("mnuALARM", n));
@@ -98,6 +113,8 @@ void MainMenus::show(const KV_Savedvalue& saved)
             ->setChecked(saved.clockZone() == static_cast<ClockZone>(i));
     m_entries.at("mnuDIST")->setChecked(saved.unitOfLatitude());
     m_entries.at("mnuBackColor")->setChecked(saved.nightColours());
+    m_entries.at("mnuClockOnTop")->setChecked(screen.clockOnTop);
+    m_entries.at("mnuReopen")->setChecked(screen.reopensWindows);
 }
 
 void MainMenus::tickWindow(const QString& name, bool ticked)

@@ -4,7 +4,6 @@
 #include "app/shell/ColourScheme.h"
 #include "app/shell/widget_colours.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -12,13 +11,13 @@ namespace korvel
 namespace
 {
 
-void write(QLabel& label, const std::string& text)
+void write(ResultLabel& label, const std::string& text)
 {
     const QString shown = QString::fromStdString(text);
     if (label.text() != shown) label.setText(shown);
 }
 
-void showIfAny(QLabel& label, const std::string& text)
+void showIfAny(ResultLabel& label, const std::string& text)
 {
     write(label, text);
     label.setVisible(!text.empty());
@@ -27,28 +26,40 @@ void showIfAny(QLabel& label, const std::string& text)
 } // namespace
 
 MainPanel::MainPanel()
+    : m_lblTime(makeLabel("lblTime", "Clocks", 1.45)),
+      m_lblAlarm(makeLabel("lblAlarm", "Next alarm", 1.1)),
+      m_lblOffset(makeLabel("lblOffset", "Offset of ship's time", 1.0)),
+      m_lblZone(makeLabel("lblZone", "Zone of the computer", 1.0)),
+      m_lblMEMO(makeLabel("lblMEMO", "Memories", 1.0)),
+      m_lbl1NM(makeLabel("lbl1NM", "Distance unit", 1.1)),
+      m_lblTD(makeLabel("lblTD", "Time difference", 1.1)),
+      m_lblFault(makeLabel("lblFault", "Fault", 1.0))
 {
-    new QVBoxLayout(this);
-    m_lblTime = addLabel("lblTime", "Clocks", 1.8);
-    m_lblOffset = addLabel("lblOffset", "Offset of ship's time", 1.0);
-    m_lblZone = addLabel("lblZone", "Zone of the computer", 1.0);
-    m_lblMEMO = addLabel("lblMEMO", "Memories", 1.1);
-    m_lbl1NM = addLabel("lbl1NM", "Distance unit", 1.1);
-    m_lblFault = addLabel("lblFault", "Fault", 1.0);
-    for (QLabel* label : {m_lblOffset, m_lblZone, m_lblFault})
-        label->hide();
+    auto* column = new QVBoxLayout(this);
+    auto* last = new QHBoxLayout;
+    last->addWidget(m_lbl1NM);
+    last->addStretch();
+    last->addWidget(m_lblTD);
+    m_lblAlarm->setEliding(); // a comment may be long, and the window is to stay small
+    for (QLabel* remark : {m_lblOffset, m_lblZone, m_lblFault}) {
+        remark->setWordWrap(true);
+        remark->hide();
+    }
+    for (QLabel* label : {m_lblTime, m_lblAlarm, m_lblOffset, m_lblZone, m_lblMEMO})
+        column->addWidget(label);
+    column->addLayout(last);
+    column->addWidget(m_lblFault);
 }
 
-QLabel* MainPanel::addLabel(const QString& name, const QString& accessibleName, double size)
+ResultLabel* MainPanel::makeLabel(const QString& name, const QString& accessibleName, double size)
 {
-    auto* label = new QLabel;
+    auto* label = new ResultLabel(this);
     label->setObjectName(name);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setAccessibleDescription(accessibleName); // a name would hide the text from a reader
-    QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * size);
-    label->setFont(font);
-    layout()->addWidget(label);
+    label->setAccessibleName(accessibleName);
+    QFont letters = font();
+    letters.setPointSizeF(letters.pointSizeF() * size);
+    label->setFont(letters);
+    label->setMinimumHeight(0);
     return label;
 }
 
@@ -65,6 +76,16 @@ void MainPanel::showMemories(const std::string& text)
 void MainPanel::showUnit(const std::string& text)
 {
     write(*m_lbl1NM, text);
+}
+
+void MainPanel::showTD(const std::string& text)
+{
+    write(*m_lblTD, text);
+}
+
+void MainPanel::showAlarm(const std::string& text)
+{
+    write(*m_lblAlarm, text);
 }
 
 void MainPanel::showOffset(const std::string& text)
@@ -87,6 +108,8 @@ void MainPanel::applyColours(const ColourScheme& colours)
     setTextColour(m_lblTime, colours.clock);
     setTextColour(m_lblMEMO, colours.memo);
     setTextColour(m_lbl1NM, colours.unit);
+    setTextColour(m_lblTD, colours.unit);
+    setTextColour(m_lblAlarm, colours.memo);
     setTextColour(m_lblOffset, colours.notice);
     setTextColour(m_lblZone, colours.notice);
     setTextColour(m_lblFault, colours.notice);

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/ResultLabel.h"
+
 #include <QWidget>
 
 #include <string>
-
-class QLabel;
 
 namespace korvel
 {
 
 struct ColourScheme;
 
-/// What the main window shows: clocks, memories, distance unit, and what is to be said about the
-/// computer's clock.
+/// What the main window shows: clocks, next alarm, memories, distance unit, TD, and what is to be
+/// said about the computer's clock.
 class MainPanel : public QWidget
 {
 public:
@@ -22,6 +22,8 @@ public:
     void showClock(const std::string& text);
     void showMemories(const std::string& text);
     void showUnit(const std::string& text);
+    void showTD(const std::string& text);
+    void showAlarm(const std::string& text);
     /// Lines that are there only while they have something to say.
     void showOffset(const std::string& text);
     void showZoneNotice(const std::string& text);
@@ -30,14 +32,16 @@ public:
     void applyColours(const ColourScheme& colours);
 
 private:
-    QLabel* addLabel(const QString& name, const QString& accessibleName, double size);
+    ResultLabel* makeLabel(const QString& name, const QString& accessibleName, double size);
 
-    QLabel* m_lblTime;
-    QLabel* m_lblOffset;
-    QLabel* m_lblZone;
-    QLabel* m_lblMEMO;
-    QLabel* m_lbl1NM;
-    QLabel* m_lblFault;
+    ResultLabel* m_lblTime;
+    ResultLabel* m_lblAlarm;
+    ResultLabel* m_lblOffset;
+    ResultLabel* m_lblZone;
+    ResultLabel* m_lblMEMO;
+    ResultLabel* m_lbl1NM;
+    ResultLabel* m_lblTD;
+    ResultLabel* m_lblFault;
 };
 
 } // namespace korvel

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/PaperWindow.h"
 
+#include "app/shell/NightSheet.h"
+
 #include <QAction>
 #include <QMenuBar>
 #include <QStatusBar>
@@ -26,8 +28,10 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     setAttribute(Qt::WA_DeleteOnClose);
     m_text->setObjectName("txtPaper");
     m_text->setAccessibleName("Working paper");
-    // Paper is black on white, whatever the colours of the screen.
+    // Paper is black on white, whatever the colours of the screen; the night only sees it
+    // otherwise.
     m_text->setPalette(QPalette(Qt::black, Qt::white));
+    m_text->setGraphicsEffect(new NightSheet(m_text));
     setCentralWidget(m_text);
     QMenu* menu = m_menu.addTo(*menuBar(), nullptr);
     menu->addSeparator();

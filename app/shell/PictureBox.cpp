@@ -7,7 +7,8 @@
 namespace korvel
 {
 
-PictureBox::PictureBox(QWidget* parent) : QWidget(parent)
+PictureBox::PictureBox(QWidget* parent)
+    : QWidget(parent), m_lineHeight(QFontMetricsF(font()).height())
 {
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -57,6 +58,12 @@ void PictureBox::drawOn(QPainter& painter, const QSize& size)
     painter.setRenderHint(QPainter::Antialiasing);
     draw(painter);
     m_drawnSize = QSize();
+}
+
+void PictureBox::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) m_lineHeight = QFontMetricsF(font()).height();
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)

@@ -25,6 +25,7 @@ public:
 
     /// Room in pixels around the area that the user scale covers, for labels.
     void setPlotMargins(const QMargins& margins);
+    void scalePlotMargins(double ratio) { setPlotMargins(m_margins * ratio); }
     QRectF plotArea() const;
 
     QPointF toPixel(double x, double y) const;
@@ -46,9 +47,12 @@ signals:
 protected:
     /// Draws the picture; called with a painter in pixels, antialiasing on.
     virtual void draw(QPainter& painter) = 0;
+    /// Height of a line of text on the screen, which the sizes in a picture follow.
+    double lineHeight() const { return m_lineHeight; }
     /// True while it is drawn at another size than the widget's.
     bool isOnPaper() const { return m_drawnSize.isValid(); }
 
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -58,6 +62,7 @@ protected:
 private:
     UserScale m_scale;
     QMargins m_margins;
+    double m_lineHeight;
     QRegion m_painted; ///< the part that is being painted
     QSize m_drawnSize; ///< set while the picture is drawn at another size than the widget's
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/PrintPreview.h"
 
+#include "app/shell/NightSheet.h"
 #include "app/shell/PaperDocument.h"
 
 #include <QDialogButtonBox>
@@ -29,6 +30,7 @@ PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWi
         document.drawPages(*onto, painter);
     });
     m_pages->fitToWidth();
+    m_pages->setGraphicsEffect(new NightSheet(m_pages));
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     const auto add = [&](const char* caption, const char* name, QDialogButtonBox::ButtonRole role) {

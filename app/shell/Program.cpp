@@ -6,15 +6,18 @@
 namespace korvel
 {
 
-Program::Program(const Machine& machine, KV_Savedvalue& saved, KORVEL2000Actions& actions,
-                 ShipsTime& shipsTime)
-    : m_machine(machine), m_saved(saved), m_actions(actions), m_shipsTime(shipsTime)
+Program::Program(const Machine& machine, KV_Savedvalue& saved, Screen& screen,
+                 KORVEL2000Actions& actions, ShipsTime& shipsTime)
+    : m_machine(machine), m_saved(saved), m_screen(screen), m_actions(actions),
+      m_shipsTime(shipsTime)
 {
+    connect(&screen, &Screen::coloursChanged, this, &Program::coloursChanged);
 }
 
 const ColourScheme& Program::colours() const
 {
-    return m_saved.nightColours() && !m_onPaper ? m_night : m_day;
+    static const ColourScheme ofPaper = ColourScheme::day();
+    return m_onPaper ? ofPaper : m_screen.colours();
 }
 
 PaperHeading Program::paperHeading() const

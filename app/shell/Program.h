@@ -8,7 +8,7 @@
 #include "app/ShipsTime.h"
 #include "app/WorkingPaper.h"
 #include "app/shell/Bell.h"
-#include "app/shell/ColourScheme.h"
+#include "app/shell/Screen.h"
 
 #include <QObject>
 #include <QString>
@@ -43,8 +43,8 @@ class Program : public QObject
 
 public:
     /// All references must outlive this object.
-    Program(const Machine& machine, KV_Savedvalue& saved, KORVEL2000Actions& actions,
-            ShipsTime& shipsTime);
+    Program(const Machine& machine, KV_Savedvalue& saved, Screen& screen,
+            KORVEL2000Actions& actions, ShipsTime& shipsTime);
 
     KV_Savedvalue& saved() { return m_saved; }
     const KV_Savedvalue& saved() const { return m_saved; }
@@ -58,7 +58,8 @@ public:
     /// Spheroid option of the sailing routines, by the distance unit that is chosen.
     NavFunc113::Earth earth() const { return m_saved.earth(); }
 
-    /// The colours in force, by KV_Savedvalue(21).
+    Screen& screen() { return m_screen; }
+    /// The colours in force.
     const ColourScheme& colours() const;
     /// While one lives, the colours in force are those of paper.
     class PaperColours
@@ -88,6 +89,8 @@ public:
     std::function<void(const QString&)> openWindow = [](const QString&) {};
     /// Adds the menu of the manual to a window.
     std::function<void(QMenuBar&)> addHelpMenu = [](QMenuBar&) {};
+    /// Gives the keyboard to the open window after this one, the main window among them.
+    std::function<void(const QWidget&)> nextWindow = [](const QWidget&) {};
 
 signals:
     void distanceUnitChanged();
@@ -103,10 +106,9 @@ signals:
 private:
     Machine m_machine;
     KV_Savedvalue& m_saved;
+    Screen& m_screen;
     KORVEL2000Actions& m_actions;
     ShipsTime& m_shipsTime;
-    ColourScheme m_day = ColourScheme::day();
-    ColourScheme m_night = ColourScheme::night();
     bool m_onPaper = false;
 };
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/RowTable.h"
 
-#include <QHBoxLayout>
+#include "app/shell/WrappingRow.h"
+
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -68,7 +69,6 @@ RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
     }
     lines->addStretch();
     setEntryOrder(boxes());
-    setTabOrderOfAll();
 }
 
 QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const Line& before)
@@ -133,10 +133,7 @@ QWidget* RowTable::layOut(const Line& line) const
 {
     // A widget a row: what is painted anew is looked up among the neighbours in the same widget.
     auto* widget = new QWidget;
-    auto* layout = new QHBoxLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    bool isFilled = false;
+    auto* layout = new WrappingRow(widget);
     for (std::size_t i = 0; i < line.size(); ++i) {
         const int width = widthOf(m_columns[i]);
         // A correction stands close by its result.
@@ -149,10 +146,8 @@ QWidget* RowTable::layOut(const Line& line) const
         line[i]->setFixedHeight(m_rowHeight);
         line[i]->setMinimumWidth(width);
         if (!m_columns[i].stretches) line[i]->setMaximumWidth(width);
-        layout->addWidget(line[i], m_columns[i].stretches ? 1 : 0);
-        isFilled |= m_columns[i].stretches;
+        layout->addWidget(line[i]);
     }
-    if (!isFilled) layout->addStretch();
     return widget;
 }
 
@@ -235,14 +230,6 @@ void RowTable::markRow(std::size_t row)
         shown.setBold(each == row);
         number(each)->setFont(shown);
     }
-}
-
-void RowTable::setTabOrderOfAll() const
-{
-    std::vector<QWidget*> order;
-    std::ranges::copy(boxes(), std::back_inserter(order));
-    std::ranges::copy(results(), std::back_inserter(order));
-    setTabOrderThrough(order);
 }
 
 } // namespace korvel

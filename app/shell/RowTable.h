@@ -35,8 +35,8 @@ struct TableColumn {
 };
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
-/// repaints the labels that change and never lays the table out anew. Enter and Tab go through the
-/// boxes row by row, Tab then through the results.
+/// repaints the labels that change and never lays the table out anew. Enter goes through the
+/// boxes row by row, Tab through the results between them too.
 class RowTable : public QWidget
 {
 public:
@@ -69,7 +69,6 @@ private:
 
     QWidget* makeControl(const TableColumn& column, std::size_t row, const Line& before);
     QWidget* layOut(const Line& line) const;
-    void setTabOrderOfAll() const;
     int widthOf(const TableColumn& column) const;
 
     std::span<const TableColumn> m_columns;

@@ -3,6 +3,7 @@
 
 #include "app/shell/Boxes.h"
 #include "app/shell/Program.h"
+#include "app/shell/shortcuts.h"
 
 #include <QMenuBar>
 
@@ -86,12 +87,31 @@ void WindowMenus::recallPosition(QLineEdit* latitude, QLineEdit* longitude)
 
 void WindowMenus::addLinks(const QString& array)
 {
-    QMenu* menu = add("&Windows", array);
+    fillWithLinks(add("&Windows", array), array);
+}
+
+void WindowMenus::fillWithLinks(QMenu* menu, const QString& array)
+{
+    m_hasLinks = true;
     int index = 0;
-    for (const WindowLink& link : m_program.links)
-        if (link.name != m_window.objectName())
-            addEntry(menu, array, index++, link.caption,
-                     [this, name = link.name] { m_program.openWindow(name); });
+    int key = 0;
+    for (const WindowLink& link : m_program.links) {
+        const QString keys = windowKey(key++);
+        if (link.name == m_window.objectName()) continue;
+        addEntry(menu, array, index++, link.caption, [this, name = link.name] {
+            m_program.openWindow(name);
+        })->setShortcut(QKeySequence(keys));
+    }
+}
+
+void WindowMenus::addView()
+{
+    QMenu* view = add("&View", "mnuView");
+    addShortcuts(*view, m_program, m_window, true);
+    if (m_hasLinks) return;
+    QMenu* links = view->addMenu("&Windows");
+    links->setObjectName("mnuViewWindows");
+    fillWithLinks(links, "mnuViewWindows");
 }
 
 } // namespace korvel

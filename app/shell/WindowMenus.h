@@ -43,12 +43,18 @@ public:
     /// A menu array that opens the other windows of the program.
     void addLinks(const QString& array);
 
+    /// The last menu of every window: what it has in common with all others, and the links where
+    /// the window has no menu of them.
+    void addView();
+
 private:
+    void fillWithLinks(QMenu* menu, const QString& array);
     QAction* addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
                           const QString& caption, std::function<void()> action);
 
     Program& m_program;
     QMainWindow& m_window;
+    bool m_hasLinks = false;
     QMenu* m_mnuMemo = nullptr;
     QMenu* m_mnuRem = nullptr;
 };

@@ -1,6 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/frmKORVEL2000.h"
 
+#include "app/Format.h"
+#include "app/shell/CalculatorWindow.h"
+#include "app/shell/shortcuts.h"
+#include "app/shell/window_places.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLayout>
@@ -19,8 +24,8 @@ constexpr int clockInterval = 500; // milliseconds: the minute display is never 
 frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
     : m_questions(machine.questions), m_machine{m_questions, machine.clock, machine.files,
                                                 machine.bell},
-      m_settings(machine.files, m_questions, machine.clock, "KV_KORVEL.ini",
-                 KV_Savedvalue::kinds()),
+      m_screen(m_machine, m_saved), m_settings(machine.files, m_questions, machine.clock,
+                                               KV_Savedvalue::file, KV_Savedvalue::kinds()),
       m_offsetSettings(machine.files, m_questions, machine.clock, "KV_Clock.ini", {Kind::Number}),
       m_shipSettings(machine.files, m_questions, machine.clock, "KV_Ship.ini",
                      {Kind::Text, Kind::Text}),
@@ -32,7 +37,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
                      keepValues();
                  },
                  [this] { endProgram(); }, [this] { m_recovery.remove(); }}),
-      m_program(m_machine, m_saved, m_actions, m_shipsTime), m_help(machine.files),
+      m_program(m_machine, m_saved, m_screen, m_actions, m_shipsTime), m_help(machine.files),
       m_windows(m_program, std::move(catalogue)), m_alarmBoxes(machine.bell),
       m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this)),
       m_greeted(machine.files, m_questions, machine.clock, "KV_Help.ini", {Kind::Number}),
@@ -49,9 +54,23 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
 
     m_program.addHelpMenu = [this](QMenuBar& bar) { m_help.addMenu(bar); };
     m_help.addMenu(*menuBar());
+    addShortcuts(*m_menus.view(), m_program, *this, false);
+    m_program.nextWindow = [this](const QWidget& from) { m_windows.openNext(from, *this); };
+    connect(&m_screen, &Screen::coloursChanged, this, &frmKORVEL2000::applyColours);
+    connect(&m_screen, &Screen::zoomChanged, this, [this] {
+        QTimer::singleShot(0, this, [this] { // its layout comes first
+            adjustSize();
+            if (isVisible()) bringOntoScreen(*this);
+        });
+    });
+    connect(&m_screen, &Screen::chosen, this, [this] {
+        m_menus.show(m_saved, m_screen.choices());
+        keepValues();
+    });
 
     loadSavedValues();
-    m_menus.show(m_saved);
+    m_menus.show(m_saved, m_screen.choices());
+    m_screen.apply();
     applyColours();
     setWindowTitle(QString::fromStdString(ShipsTime::caption(m_saved.TD())));
 
@@ -76,7 +95,7 @@ MainMenus::Actions frmKORVEL2000::menuActions()
     const auto choice = [this](auto run) {
         return [this, run] {
             run();
-            m_menus.show(m_saved);
+            m_menus.show(m_saved, m_screen.choices());
             keepValues();
         };
     };
@@ -94,13 +113,15 @@ MainMenus::Actions frmKORVEL2000::menuActions()
     });
     actions.chooseClockZone = [this](ClockZone zone) {
         m_saved.setClockZone(zone);
-        m_menus.show(m_saved);
+        m_menus.show(m_saved, m_screen.choices());
         timeChanged();
         keepValues();
     };
     actions.setUpAlarm = [this](int n) {
-        setUpAlarm(n, m_saved, m_questions, [this] { m_menus.show(m_saved); });
-        m_menus.show(m_saved);
+        const auto show = [this] { m_menus.show(m_saved, m_screen.choices()); };
+        setUpAlarm(n, m_saved, m_questions, show);
+        show();
+        showClockRemarks();
         keepValues();
     };
     actions.setUpTimeSignal = choice([this] { setUpTimeSignal(m_saved, m_questions); });
@@ -109,10 +130,13 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         MemoHyoujiAtStart();
         emit m_program.distanceUnitChanged();
     });
-    actions.chooseColours = choice([this] {
-        m_saved.setNightColours(!m_saved.nightColours());
-        applyColours();
-    });
+    actions.chooseColours = [this] { m_screen.toggleNight(); };
+    actions.chooseReopening = [this] { m_screen.toggleReopening(); };
+    actions.chooseClockOnTop = [this] {
+        m_screen.toggleClockOnTop();
+        setWindowFlag(Qt::WindowStaysOnTopHint, m_screen.choices().clockOnTop);
+        show(); // the flag has hidden it
+    };
     actions.openJournal = [this] { openJournal(); };
     actions.setShip = [this] { setShip(); };
     actions.end = [this] { m_actions.ExitApplication(); };
@@ -123,6 +147,7 @@ void frmKORVEL2000::loadSavedValues()
 {
     if (const auto record = m_settings.load(m_saved.record()))
         takeAndTell(m_saved, *record, m_settings.name(), m_questions);
+    m_screen.apply(); // before the first box
     m_recovery.offer(m_saved);
     if (const auto ship = m_shipSettings.load())
         m_program.ship = {textOf(ship->front()), textOf(ship->back())};
@@ -169,7 +194,10 @@ void frmKORVEL2000::start()
     tmrClock_Timer();
     MemoHyoujiAtStart();
     keepValues();
+    setWindowFlag(Qt::WindowStaysOnTopHint, m_screen.choices().clockOnTop);
+    putInPlace(m_screen, *this, false);
     show();
+    placeWindows();
     if (m_isFirstStart) QTimer::singleShot(0, this, &frmKORVEL2000::greet);
 }
 
@@ -180,6 +208,17 @@ void frmKORVEL2000::greet()
     if (!m_help.manual().has("first-start")) return;
     m_help.openBelow(*this, "first-start");
     m_greeted.saveQuietly({1.0});
+}
+
+/// Brings the windows of the last exit back, and the keyboard to the main window.
+void frmKORVEL2000::placeWindows()
+{
+    if (!m_screen.choices().reopensWindows) return;
+    for (const CatalogueEntry& entry : m_windows.catalogue()) {
+        const auto place = m_screen.placeOf(entry.name);
+        if (place && place->open) openWindow(entry.name);
+    }
+    activateWindow();
 }
 
 void frmKORVEL2000::tmrClock_Timer()
@@ -211,6 +250,8 @@ void frmKORVEL2000::showClockRemarks()
                                              (m_shipsTime.offsetSeconds() > 0 ? " of" : "") +
                                              " the computer's clock");
     m_panel->showZoneNotice(m_shipsTime.zoneNotice());
+    m_panel->showAlarm(nextAlarmText(m_saved, m_shipsTime.SMT()));
+    m_panel->showTD((m_saved.TD() < 0 ? "TD " : "TD +") + Format(m_saved.TD(), "0.0") + " hours");
 }
 
 void frmKORVEL2000::MemoHyoujiAtStart()
@@ -221,10 +262,7 @@ void frmKORVEL2000::MemoHyoujiAtStart()
 
 void frmKORVEL2000::applyColours()
 {
-    const ColourScheme& colours = m_program.colours();
-    QApplication::setPalette(colours.palette);
-    m_panel->applyColours(colours);
-    emit m_program.coloursChanged();
+    m_panel->applyColours(m_program.colours());
 }
 
 void frmKORVEL2000::closeEvent(QCloseEvent* event)
@@ -252,10 +290,25 @@ void frmKORVEL2000::closeEverything()
 {
     m_ending = true;
     m_tmrClock->stop();
+    keepPlaces();
     m_windows.closeAll();
     m_journal.reset();
     close();
     emit ended();
+}
+
+void frmKORVEL2000::keepPlaces()
+{
+    for (const CatalogueEntry& entry : m_windows.catalogue()) {
+        auto place = m_screen.placeOf(entry.name);
+        if (!place) continue;
+        place->open = false;
+        m_screen.keepPlace(entry.name, *place);
+    }
+    for (CalculatorWindow* each : m_windows.all())
+        keepPlace(m_screen, *each, true);
+    if (isVisible()) keepPlace(m_screen, *this, true);
+    m_screen.save();
 }
 
 void frmKORVEL2000::comeToFront()

@@ -72,13 +72,16 @@ private:
     void openJournal();
     void timeChanged();
     void keepValues();
+    void placeWindows();
     void applyColours();
+    void keepPlaces();
     void endProgram();
     void closeEverything();
 
     SessionQuestions m_questions;
     Machine m_machine;
     KV_Savedvalue m_saved;
+    Screen m_screen;
     SettingsFile m_settings;
     SettingsFile m_offsetSettings; ///< offset of ship's time where the clock cannot be set
     SettingsFile m_shipSettings;   ///< ship and voyage, for the heading of papers

@@ -3,6 +3,7 @@
 
 #include "app/Questions.h"
 #include "app/shell/ColourScheme.h"
+#include "app/shell/ScreenStyle.h"
 
 #include <QGuiApplication>
 #include <QLinearGradient>
@@ -87,6 +88,17 @@ frmKORVELstart::frmKORVELstart() : QWidget(nullptr, Qt::SplashScreen | Qt::Frame
 void frmKORVELstart::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (!isNight(palette())) return draw(painter);
+    QPixmap picture(size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    QPainter inside(&picture);
+    draw(inside);
+    inside.end();
+    painter.drawPixmap(0, 0, tinted(picture, palette().color(QPalette::WindowText)));
+}
+
+void frmKORVELstart::draw(QPainter& painter) const
+{
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(width() / pictureWidth, height() / pictureHeight);
 

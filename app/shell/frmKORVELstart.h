@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+class QPainter;
+
 namespace korvel
 {
 
@@ -14,6 +16,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    void draw(QPainter& painter) const;
 };
 
 } // namespace korvel

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "bench/ui/main.h"
 
+#include "app/shell/ScreenStyle.h"
 #include "bench/ui/Keystroke.h"
 
 #include <benchmark/benchmark.h>
@@ -25,7 +26,7 @@ Work bareTextBox(const char* text)
 int runUiBench(int argc, char* argv[], const std::vector<std::pair<std::string, Work>>& works)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new ScreenStyle);
     QApplication application(argc, argv);
 
     if (argc == 4 && std::string(argv[1]) == "count") {

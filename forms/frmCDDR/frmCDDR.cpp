@@ -37,8 +37,8 @@ frmCDDR::frmCDDR(Program& program)
     columns->setContentsMargins(0, 0, 0, 0);
     columns->addWidget(layOutCD());
     columns->addWidget(layOutDR());
+    foldColumns();
     addMenus();
-    setOrderOfTab();
 
     calculations().add({"Course and distance",
                         m_txtCDDR.part(courseAndDistance, 4),
@@ -96,16 +96,6 @@ void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
     grid->addWidget(m_optNSEW[2 * field], row, 2);
     grid->addWidget(m_optNSEW[2 * field + 1], row, 3);
     grid->addWidget(m_txtCDDR.position(field)->echo(), row, 4);
-}
-
-/// The boxes as by Enter, then what else can be reached without the mouse.
-void frmCDDR::setOrderOfTab()
-{
-    std::vector<QWidget*> order;
-    std::ranges::copy(m_txtCDDR.all(), std::back_inserter(order));
-    std::ranges::copy(m_lblCDDR, std::back_inserter(order));
-    std::ranges::copy(m_optNSEW, std::back_inserter(order));
-    setTabOrderThrough(order);
 }
 
 QGroupBox* frmCDDR::layOutCD()

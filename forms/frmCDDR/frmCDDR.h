@@ -25,7 +25,6 @@ private:
 
     void addLabelsOfResults();
     void addOptions();
-    void setOrderOfTab();
     QGroupBox* layOutCD();
     QGroupBox* layOutDR();
     void addPositionRow(QGridLayout* grid, int row, std::size_t field);

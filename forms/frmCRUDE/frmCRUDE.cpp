@@ -50,6 +50,7 @@ frmCRUDE::frmCRUDE(Program& program)
     left->addStretch();
     columns->addLayout(left);
     columns->addWidget(m_results, 1);
+    foldColumns();
     addMenus();
 
     const int calculation =

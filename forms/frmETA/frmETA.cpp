@@ -57,6 +57,7 @@ frmETA::frmETA(Program& program)
     results->addWidget(layOutArrivals());
     results->addWidget(layOutRequiredSpeed());
     columns->addLayout(results);
+    foldColumns();
     addMenus();
     offerDefaults();
 

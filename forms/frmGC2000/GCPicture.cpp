@@ -26,7 +26,7 @@ std::size_t labelStride(const std::vector<double>& places, double room)
 
 } // namespace
 
-GCPicture::GCPicture(Program& program) : m_program(program), m_unit(QFontMetricsF(font()).height())
+GCPicture::GCPicture(Program& program) : m_program(program)
 {
     setObjectName("picGC");
     setAccessibleName("Chart of the great circle and the rhumb line");
@@ -72,13 +72,13 @@ void GCPicture::draw(QPainter& painter)
 
 QRectF GCPicture::legendStrip() const
 {
-    return {0, plotArea().top() / 2 - m_unit / 2, double(width()), m_unit};
+    return {0, plotArea().top() / 2 - lineHeight() / 2, double(width()), lineHeight()};
 }
 
 QPen GCPicture::pen(const QColor& colour, double width) const
 {
     // Whole widths: the painter has a short way for a line of one pixel.
-    return {colour, std::max(1.0, std::floor(width * m_unit)), Qt::SolidLine, Qt::SquareCap,
+    return {colour, std::max(1.0, std::floor(width * lineHeight())), Qt::SolidLine, Qt::SquareCap,
             Qt::MiterJoin};
 }
 
@@ -127,7 +127,7 @@ void GCPicture::drawLines(QPainter& painter) const
 
 void GCPicture::drawMark(QPainter& painter, QPointF at, Mark mark) const
 {
-    const double radius = m_unit * (mark == Mark::Waypoint ? 0.2 : 0.34);
+    const double radius = lineHeight() * (mark == Mark::Waypoint ? 0.2 : 0.34);
     painter.setPen(pen(colours().marker, thick));
     painter.setBrush(mark == Mark::Departure ? colours().paper : colours().marker);
     if (mark == Mark::Arrival) {
@@ -171,11 +171,11 @@ void GCPicture::drawNumbers(QPainter& painter) const
     for (std::size_t i = 1; i + 1 < route.size(); i += stride) {
         // Beside an end there is no room for it.
         const auto isAtEnd = [&](const ChartPoint& end) {
-            return QLineF(pixel(end), pixel(route[i])).length() < m_unit;
+            return QLineF(pixel(end), pixel(route[i])).length() < lineHeight();
         };
         if (isAtEnd(route.front()) || isAtEnd(route.back())) continue;
-        const QPointF at = pixel(route[i]) + 0.8 * m_unit * outward(i);
-        m_figures.draw(painter, {at.x() - wide, at.y() - m_unit / 2, 2 * wide, m_unit},
+        const QPointF at = pixel(route[i]) + 0.8 * lineHeight() * outward(i);
+        m_figures.draw(painter, {at.x() - wide, at.y() - lineHeight() / 2, 2 * wide, lineHeight()},
                        Qt::AlignCenter, QString::number(i));
     }
 }
@@ -183,7 +183,7 @@ void GCPicture::drawNumbers(QPainter& painter) const
 void GCPicture::drawEdges(QPainter& painter) const
 {
     const QRectF area = plotArea();
-    const double tick = m_unit / 3;
+    const double tick = lineHeight() / 3;
     const double wide = fontMetrics().horizontalAdvance("000°W");
     painter.setPen(pen(palette().color(QPalette::WindowText), thin));
     const auto label = [&](const QRectF& room, Qt::Alignment alignment, const ChartLabel& each) {
@@ -196,17 +196,17 @@ void GCPicture::drawEdges(QPainter& painter) const
     for (std::size_t i = 0; i < places.size(); ++i) {
         painter.drawLine(QPointF(places[i], area.bottom()), {places[i], area.bottom() - tick});
         if (i % stride == 0)
-            label({places[i] - wide, area.bottom() + tick / 2, 2 * wide, m_unit}, Qt::AlignCenter,
-                  m_chart.meridianLabels[i]);
+            label({places[i] - wide, area.bottom() + tick / 2, 2 * wide, lineHeight()},
+                  Qt::AlignCenter, m_chart.meridianLabels[i]);
     }
     places.clear();
     for (const ChartLabel& each : m_chart.parallelLabels)
         places.push_back(toPixel(0, each.at).y());
-    const std::size_t rows = labelStride(places, 1.1 * m_unit);
+    const std::size_t rows = labelStride(places, 1.1 * lineHeight());
     for (std::size_t i = 0; i < places.size(); ++i) {
         painter.drawLine(QPointF(area.left(), places[i]), {area.left() + tick, places[i]});
         if (i % rows == 0)
-            label({0, places[i] - m_unit / 2, area.left() - tick, m_unit},
+            label({0, places[i] - lineHeight() / 2, area.left() - tick, lineHeight()},
                   Qt::AlignRight | Qt::AlignVCenter, m_chart.parallelLabels[i]);
     }
 }

@@ -41,7 +41,6 @@ private:
     Program& m_program;
     GCChart m_chart;
     mutable FigureText m_figures; ///< glyphs that it has drawn before
-    double m_unit;                ///< height of a line of text, which every size follows
 };
 
 } // namespace korvel

@@ -68,6 +68,7 @@ frmGC2000::frmGC2000(Program& program)
     grid->addWidget(m_picGC, 1, 1, 1, 2);
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(1, 1);
+    foldColumns();
     addMenus();
 
     calculations().add({"Great circle", m_txtGC.all(), allResults(), [this] { runGC(); }});

@@ -16,7 +16,7 @@ namespace
 
 using namespace NavFunc113;
 
-constexpr double half = SightPlot::half;
+constexpr double nearestView = 2, farthestView = 200; // miles each way
 
 double milesOfDegree(const Position& middle)
 {
@@ -30,36 +30,34 @@ PlotPoint inPlane(const Position& position, const Position& middle)
             MilesOfArc(position.latitude - middle.latitude).value()};
 }
 
-bool isInside(const PlotPoint& point)
-{
-    return std::fabs(point.x) <= half && std::fabs(point.y) <= half;
-}
-
 /// Ten lines at most, on round minutes.
 int gridStep(double minutesWide)
 {
-    for (int step : {10, 20, 30, 60, 120, 300})
+    for (int step : {1, 2, 5, 10, 20, 30, 60, 120, 300})
         if (minutesWide / step <= 10) return step;
     return 600;
 }
 
-std::vector<PlotGridLine> gridAround(const Position& middle)
+std::vector<PlotGridLine> gridAround(const Position& middle, const PlotView& view)
 {
     std::vector<PlotGridLine> grid;
-    const double wide = half / milesOfDegree(middle) * 60;
-    const int step = gridStep(2 * wide);
-    const double centre = middle.longitude.value() * 60;
-    for (double minute = std::ceil((centre - wide) / step) * step; minute <= centre + wide;
-         minute += step) {
-        const double x = (minute - centre) / 60 * milesOfDegree(middle);
-        grid.push_back(
-            {{x, -half}, {x, half}, longitudeText(WithinHalfTurn(Degrees(minute / 60)))});
+    const double left = view.centre.x - view.half, right = view.centre.x + view.half;
+    const double foot = view.centre.y - view.half, top = view.centre.y + view.half;
+    const double minutesOfMile = 60 / milesOfDegree(middle);
+    const int meridians = gridStep(2 * view.half * minutesOfMile);
+    const double east = middle.longitude.value() * 60;
+    for (double minute = std::ceil((east + left * minutesOfMile) / meridians) * meridians;
+         minute <= east + right * minutesOfMile; minute += meridians) {
+        const double x = (minute - east) / minutesOfMile;
+        grid.push_back({{x, foot}, {x, top}, longitudeText(WithinHalfTurn(Degrees(minute / 60)))});
     }
-    const double base = middle.latitude.value() * 60;
-    for (double minute = std::ceil((base - half) / 10) * 10; minute <= base + half; minute += 10) {
+    const int parallels = gridStep(2 * view.half);
+    const double north = middle.latitude.value() * 60;
+    for (double minute = std::ceil((north + foot) / parallels) * parallels; minute <= north + top;
+         minute += parallels) {
         if (std::fabs(minute) > 90 * 60) continue;
-        const double y = minute - base;
-        grid.push_back({{-half, y}, {half, y}, latitudeText(Degrees(minute / 60))});
+        const double y = minute - north;
+        grid.push_back({{left, y}, {right, y}, latitudeText(Degrees(minute / 60))});
     }
     return grid;
 }
@@ -93,7 +91,7 @@ std::string timeLabel(const FixLine& line, const SightFixResult& fix)
     return moved ? taken + "-" + advanced : taken;
 }
 
-PlotLine plotLine(const FixLine& line, const SightFixResult& fix)
+PlotLine plotLine(const FixLine& line, const SightFixResult& fix, const PlotView& view)
 {
     const double sinZ = sin(line.line.azimuth), cosZ = cos(line.line.azimuth);
     const double intercept = line.line.intercept.value();
@@ -104,7 +102,8 @@ PlotLine plotLine(const FixLine& line, const SightFixResult& fix)
     plot.arrowTo = {plot.foot.x + 6 * sinZ, plot.foot.y + 6 * cosZ};
     plot.runs = circleOf(line, *fix.DR, fix.motion);
     for (const std::vector<PlotPoint>& run : plot.runs) {
-        const auto inside = std::ranges::find_if(run, isInside);
+        const auto inside = std::ranges::find_if(
+            run, [&view](const PlotPoint& point) { return view.shows(point); });
         if (inside == run.end()) continue;
         plot.visible = true;
         // A little further on, so that the time does not lie on the frame.
@@ -131,22 +130,55 @@ PlotFix plotFix(const FixPoint& fix, const Position& middle)
 
 } // namespace
 
-SightPlot DrawLOP(const SightFixResult& fix)
+bool PlotView::shows(const PlotPoint& point) const
+{
+    return std::fabs(point.x - centre.x) <= half && std::fabs(point.y - centre.y) <= half;
+}
+
+PlotView viewOfAll(const SightPlot& plot)
+{
+    PlotPoint least, most;
+    const auto take = [&](const PlotPoint& point) {
+        least = {std::min(least.x, point.x), std::min(least.y, point.y)};
+        most = {std::max(most.x, point.x), std::max(most.y, point.y)};
+    };
+    for (const PlotLine& line : plot.lines) {
+        take(line.foot);
+        take(line.arrowTo);
+    }
+    if (plot.fix) take(plot.fix->at);
+    constexpr double rim = 1.2;
+    const double half = rim * std::max(most.x - least.x, most.y - least.y) / 2;
+    return {{(least.x + most.x) / 2, (least.y + most.y) / 2},
+            std::clamp(half, nearestView, farthestView)};
+}
+
+PlotView zoomed(const PlotView& view, double factor, const PlotPoint& around)
+{
+    const double half = std::clamp(view.half * factor, nearestView, farthestView);
+    const double taken = half / view.half;
+    return {{around.x + (view.centre.x - around.x) * taken,
+             around.y + (view.centre.y - around.y) * taken},
+            half};
+}
+
+SightPlot DrawLOP(const SightFixResult& fix, const PlotView& view)
 {
     SightPlot plot;
+    plot.view = view;
     plot.middle = fix.DR;
     if (!plot.middle) return plot;
     plot.DRLabel = fix.UTC ? "DR " + Format(*fix.UTC, "hhmm") : "DR";
-    plot.grid = gridAround(*plot.middle);
+    plot.grid = gridAround(*plot.middle, view);
     Remarks outside;
     if (fix.fix) {
         plot.fix = plotFix(*fix.fix, *plot.middle);
-        if (!isInside(plot.fix->at)) outside.warn("The fix lies outside the plot");
+        if (!view.shows(plot.fix->at)) outside.warn("The fix lies outside the plot");
     }
     for (const FixPoint& other : fix.without)
         plot.without.push_back(plotFix(other, *plot.middle));
     for (const FixLine& line : fix.lines) {
-        plot.lines.push_back(plotLine(line, fix));
+        plot.lines.push_back(plotLine(line, fix, view));
         if (!plot.lines.back().visible)
             outside.warn("Line " + plot.lines.back().label + " lies outside the plot");
     }
@@ -156,7 +188,7 @@ SightPlot DrawLOP(const SightFixResult& fix)
 
 CursorTexts cursorTexts(const SightPlot& plot, PlotPoint at)
 {
-    if (!plot.middle || !isInside(at)) return {};
+    if (!plot.middle || !plot.view.shows(at)) return {};
     const Degrees latitude = plot.middle->latitude + ArcOfMiles(Miles(at.y));
     if (fabs(latitude) > quarterTurn) return {};
     const Degrees longitude =

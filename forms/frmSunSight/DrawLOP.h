@@ -40,8 +40,16 @@ struct PlotFix {
     std::string label;
 };
 
+/// The part of the chart that is shown: a square around a point.
+struct PlotView {
+    PlotPoint centre; ///< the DR position at first
+    double half = 40; ///< miles each way
+
+    bool shows(const PlotPoint& point) const;
+};
+
 struct SightPlot {
-    static constexpr double half = 40; ///< miles each way
+    PlotView view;
     std::optional<NavFunc113::Position> middle;
     std::string DRLabel;
     std::vector<PlotGridLine> grid;
@@ -52,7 +60,15 @@ struct SightPlot {
 };
 
 /// The plot of the lines of a fix, around its DR position; empty when there is none.
-SightPlot DrawLOP(const SightFixResult& fix);
+SightPlot DrawLOP(const SightFixResult& fix, const PlotView& view = {});
+
+/// The smallest view, of 2 miles at least, that shows the DR position, the feet of all intercepts
+/// and the fix.
+PlotView viewOfAll(const SightPlot& plot);
+
+/// A view nearer to or farther from a point, which stays where it is on the screen.
+/// @param factor below 1: nearer; the view has 2 to 200 miles each way
+PlotView zoomed(const PlotView& view, double factor, const PlotPoint& around);
 
 struct CursorTexts {
     std::string latitude;  ///< "  14.-06'0N"

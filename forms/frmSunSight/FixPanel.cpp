@@ -44,6 +44,9 @@ QWidget* FixPanel::layOutPlot()
     grid->setRowStretch(0, 1);
     connect(m_picSunSight, &PictureBox::pointed, this,
             [this](QPointF user, Qt::MouseButtons) { showCursor(user); });
+    connect(m_picSunSight, &SightPicture::viewWanted, this, &FixPanel::showView);
+    connect(m_picSunSight, &SightPicture::allWanted, this,
+            [this] { showView(viewOfAll(m_picSunSight->plot())); });
     connect(m_picSunSight, &PictureBox::left, this, [this] {
         for (ResultLabel* label : m_lblSunCursor)
             label->clear();
@@ -72,7 +75,8 @@ QGroupBox* FixPanel::layOutFix()
 
 std::string FixPanel::showFix(const SightFixResult& fix)
 {
-    const SightPlot plot = DrawLOP(fix);
+    m_fix = fix;
+    const SightPlot plot = DrawLOP(fix, m_view);
     const std::array texts{fix.latitude,    fix.longitude, fix.time,
                            fix.ellipseText, fix.sigmaText, fix.withoutText};
     for (std::size_t i = 0; i < texts.size(); ++i)
@@ -81,6 +85,14 @@ std::string FixPanel::showFix(const SightFixResult& fix)
     m_picSunSight->setAccessibleDescription(QString::fromStdString(
         fix.time + " " + fix.latitude + " " + fix.longitude + " " + fix.ellipseText));
     return plot.notice;
+}
+
+void FixPanel::showView(const PlotView& view)
+{
+    m_view = view;
+    const SightPlot plot = DrawLOP(m_fix, m_view);
+    m_picSunSight->showPlot(plot);
+    if (onView) onView(plot.notice);
 }
 
 void FixPanel::setColours(const ColourScheme& colours)

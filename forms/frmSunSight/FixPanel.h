@@ -2,9 +2,10 @@
 #pragma once
 
 #include "app/shell/ResultLabel.h"
-#include "forms/frmSunSight/SightFix.h"
+#include "forms/frmSunSight/DrawLOP.h"
 
 #include <array>
+#include <functional>
 
 class QGroupBox;
 
@@ -24,13 +25,19 @@ public:
     std::string showFix(const SightFixResult& fix);
     void setColours(const ColourScheme& colours);
 
+    /// Called with what lies outside the plot when the officer has looked at another part of it.
+    std::function<void(const std::string&)> onView;
+
     std::vector<ResultLabel*> results() const { return {m_lblSunFix.begin(), m_lblSunFix.end()}; }
 
 private:
     QWidget* layOutPlot();
     QGroupBox* layOutFix();
     void showCursor(QPointF user);
+    void showView(const PlotView& view);
 
+    SightFixResult m_fix;
+    PlotView m_view;
     SightPicture* m_picSunSight;
     std::array<ResultLabel*, 6> m_lblSunFix{};    ///< latitude, longitude, time, ellipse, sigma,
                                                   ///< without what does not fit

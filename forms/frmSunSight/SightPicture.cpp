@@ -2,7 +2,9 @@
 #include "forms/frmSunSight/SightPicture.h"
 #include "app/shell/asQString.h"
 
+#include <QKeyEvent>
 #include <QPainterPath>
+#include <QWheelEvent>
 
 #include <cmath>
 
@@ -11,25 +13,111 @@ namespace korvel
 namespace
 {
 
-constexpr double halfWidth = SightPlot::half;
+constexpr double zoomStep = 1.25;
+constexpr double panStep = 0.25; // of the half width
+
+UserScale scaleOf(const PlotView& view)
+{
+    return {view.centre.x - view.half, view.centre.x + view.half, view.centre.y + view.half,
+            view.centre.y - view.half};
+}
+
+/// A round number of miles, about a quarter of the width.
+int milesOfScale(const PlotView& view)
+{
+    for (int miles : {1, 2, 5, 10, 20, 50})
+        if (miles * 4 >= view.half) return miles;
+    return 100;
+}
 
 } // namespace
 
 SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
 {
     setObjectName("picSunSight");
-    setAccessibleName("Plot of the lines of position, 40 miles each way around the DR position");
+    setAccessibleName("Plot of the lines of position, around the DR position; plus and minus zoom, "
+                      "arrows move, Home shows 40 miles each way, End all lines");
+    setToolTip("Wheel or + and -: zoom. Drag or arrows: move. Home: 40 miles each way. End: all "
+               "lines");
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &PictureBox::pointed, this, &SightPicture::drag);
+    connect(this, &PictureBox::pressed, this, [this](QPointF user) { m_dragged = user; });
+    connect(this, &PictureBox::released, this, [this] { m_dragged.reset(); });
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     setFont(small);
     const int side = fontMetrics().height() * 13;
     setMinimumSize(side * 3 / 2, side);
-    setUserScale({-halfWidth, halfWidth, halfWidth, -halfWidth});
+    setUserScale(scaleOf({}));
 }
 
 void SightPicture::showPlot(const SightPlot& plot)
 {
     m_plot = plot;
+    setUserScale(scaleOf(plot.view));
+    update();
+}
+
+void SightPicture::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return emit viewWanted(zoomed(m_plot.view, 1 / zoomStep, m_plot.view.centre));
+    case Qt::Key_Minus:
+        return emit viewWanted(zoomed(m_plot.view, zoomStep, m_plot.view.centre));
+    case Qt::Key_Left:
+        return pan(-panStep, 0);
+    case Qt::Key_Right:
+        return pan(panStep, 0);
+    case Qt::Key_Up:
+        return pan(0, panStep);
+    case Qt::Key_Down:
+        return pan(0, -panStep);
+    case Qt::Key_Home:
+        return emit viewWanted({});
+    case Qt::Key_End:
+        return emit allWanted();
+    default:
+        PictureBox::keyPressEvent(event);
+    }
+}
+
+void SightPicture::pan(double right, double up)
+{
+    PlotView view = m_plot.view;
+    view.centre.x += right * view.half;
+    view.centre.y += up * view.half;
+    emit viewWanted(view);
+}
+
+void SightPicture::wheelEvent(QWheelEvent* event)
+{
+    constexpr double notch = 120;
+    const QPointF at = toUser(event->position());
+    emit viewWanted(zoomed(m_plot.view, std::pow(zoomStep, -event->angleDelta().y() / notch),
+                           {at.x(), at.y()}));
+    event->accept(); // the window is not to scroll with it
+}
+
+void SightPicture::drag(QPointF user, Qt::MouseButtons buttons)
+{
+    if (!m_dragged || !(buttons & Qt::LeftButton)) return;
+    PlotView view = m_plot.view;
+    view.centre.x += m_dragged->x() - user.x();
+    view.centre.y += m_dragged->y() - user.y();
+    emit viewWanted(view); // what the pointer holds is under it again
+}
+
+void SightPicture::focusInEvent(QFocusEvent* event)
+{
+    PictureBox::focusInEvent(event);
+    update();
+}
+
+void SightPicture::focusOutEvent(QFocusEvent* event)
+{
+    PictureBox::focusOutEvent(event);
     update();
 }
 
@@ -125,11 +213,12 @@ void SightPicture::paintGrid(QPainter& painter) const
             free = from.x() + width / 2 + unit();
         }
     }
-    painter.setPen(pen(m_colours.ink, 1));
+    painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
+                                              : pen(m_colours.ink, 1));
     painter.drawRect(area);
 }
 
-/// North arrow, on the margin, and ten miles.
+/// North arrow, on the margin, and a round number of miles.
 void SightPicture::paintScale(QPainter& painter) const
 {
     painter.setPen(pen(m_colours.ink, 1));
@@ -140,13 +229,14 @@ void SightPicture::paintScale(QPainter& painter) const
     painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
     painter.drawText(foot + QPointF(-unit(), 3 * unit()), "N");
 
-    const QPointF end = pixel({halfWidth, -halfWidth}) + QPointF(-2 * unit(), -2 * unit());
-    const QPointF start = end - QPointF(pixel({10, 0}).x() - pixel({0, 0}).x(), 0);
+    const int miles = milesOfScale(m_plot.view);
+    const QPointF end = plotArea().bottomRight() + QPointF(-2 * unit(), -2 * unit());
+    const QPointF start = end - QPointF(pixel({double(miles), 0}).x() - pixel({0, 0}).x(), 0);
     painter.setPen(pen(m_colours.ink, 1.5));
     painter.drawLine(start, end);
     for (const QPointF& tick : {start, end})
         painter.drawLine(tick, tick - QPointF(0, unit()));
-    paintText(painter, start - QPointF(0, 1.5 * unit()), "10 nm");
+    paintText(painter, start - QPointF(0, 1.5 * unit()), QString("%1 nm").arg(miles));
 }
 
 void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const

@@ -21,7 +21,17 @@ public:
     const SightPlot& plot() const { return m_plot; }
     void setColours(const ColourScheme& colours);
 
+signals:
+    /// The officer wants another part of the chart: by wheel, drag or key.
+    void viewWanted(const PlotView& view);
+    /// The scale that shows all lines is wanted.
+    void allWanted();
+
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void draw(QPainter& painter) override;
     void resizeEvent(QResizeEvent* event) override;
 
@@ -37,7 +47,11 @@ private:
     QPolygonF polygon(const std::vector<PlotPoint>& points) const;
     double unit() const; ///< a length of the picture's font, for marks and pens
 
+    void pan(double right, double up);
+    void drag(QPointF user, Qt::MouseButtons buttons);
+
     SightPlot m_plot;
+    std::optional<QPointF> m_dragged; ///< what the pointer holds, in the picture's units
     ColourScheme m_colours = ColourScheme::day();
 };
 

@@ -60,6 +60,7 @@ void frmSunSight::layOut()
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(0, 3);
     grid->setRowStretch(1, 1);
+    foldColumns();
 }
 
 void frmSunSight::connectPanels()
@@ -79,6 +80,9 @@ void frmSunSight::connectPanels()
     connect(m_sights, &SightListPanel::deleteAsked, this, &frmSunSight::cmdDelete_Click);
     connect(m_sights, &SightListPanel::undoAsked, this, &frmSunSight::undo);
     connect(&program(), &Program::TDChanged, this, &frmSunSight::followTD);
+    m_fixes->onView = [this](const std::string& outside) {
+        setNotice("3 plot", asQString(outside));
+    };
 }
 
 void frmSunSight::addSightMenu()

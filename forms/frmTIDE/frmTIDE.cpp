@@ -63,7 +63,7 @@ void frmTIDE::addControls()
         setNotice(key, QString::fromStdString(notice));
     };
     m_sheet->showDates(m_dates, program().files().path(factorsFileName));
-    auto* column = new QVBoxLayout(body());
+    auto* column = new QVBoxLayout(scrollBody());
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(m_sheet);
 }

@@ -17,8 +17,7 @@ constexpr double thick = 0.16;
 
 } // namespace
 
-WindPictureBox::WindPictureBox(Program& program)
-    : m_program(program), m_unit(QFontMetricsF(font()).height())
+WindPictureBox::WindPictureBox(Program& program) : m_program(program)
 {
     setObjectName("picWind");
     setAccessibleName("Ship's heading, apparent and true wind; press and drag to set the apparent "
@@ -55,7 +54,7 @@ void WindPictureBox::setPointerText(QPointF user, const QString& text)
 void WindPictureBox::resizeEvent(QResizeEvent*)
 {
     // A knot is as long to the right as ahead: the plot is square, the legend stands above it.
-    const int top = static_cast<int>(1.5 * m_unit);
+    const int top = static_cast<int>(1.5 * lineHeight());
     const int side = std::min(width(), height() - top);
     const int left = (width() - side) / 2;
     setPlotMargins({left, top, width() - side - left, height() - top - side});
@@ -77,7 +76,8 @@ void WindPictureBox::draw(QPainter& painter)
 QPen WindPictureBox::pen(const QColor& colour, double width, Qt::PenStyle style) const
 {
     // Whole widths: the painter has a short way for a line of one pixel.
-    return {colour, std::max(1.0, std::floor(width * m_unit)), style, Qt::FlatCap, Qt::RoundJoin};
+    return {colour, std::max(1.0, std::floor(width * lineHeight())), style, Qt::FlatCap,
+            Qt::RoundJoin};
 }
 
 QPen WindPictureBox::headingPen() const
@@ -116,16 +116,18 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
     for (const WindLabel& label : m_picture.compass) {
         // Just outside the outermost ring.
         const QPointF out = pixel(label.at) - centre;
-        const QPointF at = centre + out * (1 + 0.7 * m_unit / std::hypot(out.x(), out.y()));
-        m_figureText.draw(painter, {at.x() - 2 * m_unit, at.y() - m_unit / 2, 4 * m_unit, m_unit},
-                          Qt::AlignCenter, QString::fromStdString(label.text));
+        const QPointF at = centre + out * (1 + 0.7 * lineHeight() / std::hypot(out.x(), out.y()));
+        m_figureText.draw(
+            painter,
+            {at.x() - 2 * lineHeight(), at.y() - lineHeight() / 2, 4 * lineHeight(), lineHeight()},
+            Qt::AlignCenter, QString::fromStdString(label.text));
     }
     for (const NavFunc113::Knots ring : m_picture.rings) {
         // Between two spokes, so that no line runs through the figure.
         const QPointF at = pixel({ring.value() * std::sqrt(0.5), ring.value() * std::sqrt(0.5)});
         const QString text = QString::number(ring.value()) + (ring == outermost ? " kn" : "");
         const double wide = QFontMetricsF(font()).horizontalAdvance(text);
-        const QRectF room(at.x() - wide / 2 - 1, at.y() - m_unit / 2, wide + 2, m_unit);
+        const QRectF room(at.x() - wide / 2 - 1, at.y() - lineHeight() / 2, wide + 2, lineHeight());
         painter.fillRect(room, colours().paper);
         m_figureText.draw(painter, room, Qt::AlignCenter, text);
     }
@@ -135,7 +137,7 @@ void WindPictureBox::drawArrow(QPainter& painter, QPointF tail, QPointF head,
                                const QPen& look) const
 {
     QLineF line(tail, head);
-    const double length = std::min(0.9 * m_unit, line.length());
+    const double length = std::min(0.9 * lineHeight(), line.length());
     if (length < 1) return;
     const QPointF along = (head - tail) / line.length();
     const QPointF across(-along.y(), along.x());
@@ -160,7 +162,8 @@ void WindPictureBox::VectrHyouji(QPainter& painter) const
     // They stop at the hull, so that their heads do not lie upon each other.
     const auto blow = [&](const WindVector& wind, const QPen& look) {
         const QLineF line(pixel(wind), centre);
-        const double share = line.length() > 2.5 * m_unit ? 1 - 1.1 * m_unit / line.length() : 1;
+        const double share =
+            line.length() > 2.5 * lineHeight() ? 1 - 1.1 * lineHeight() / line.length() : 1;
         drawArrow(painter, line.p1(), line.pointAt(share), look);
     };
     blow(m_picture.apparentWind, apparentPen());
@@ -173,7 +176,7 @@ void WindPictureBox::drawShip(QPainter& painter) const
     painter.save();
     painter.translate(pixel({}));
     painter.rotate(turned ? m_figures->course.value() : 0);
-    painter.scale(m_unit, m_unit);
+    painter.scale(lineHeight(), lineHeight());
     painter.setPen(QPen(colours().ink, thin * 1.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolygon(QPolygonF{{0, -0.9}, {0.3, -0.35}, {0.3, 0.8}, {-0.3, 0.8}, {-0.3, -0.35}});
@@ -182,7 +185,7 @@ void WindPictureBox::drawShip(QPainter& painter) const
 
 void WindPictureBox::drawLegend(QPainter& painter) const
 {
-    Legend legend(painter, m_figureText, {m_unit / 2, 0.75 * m_unit},
+    Legend legend(painter, m_figureText, {lineHeight() / 2, 0.75 * lineHeight()},
                   palette().color(QPalette::WindowText));
     legend.line(headingPen(), "Ship's heading");
     legend.line(apparentPen(), "Apparent wind");
@@ -192,8 +195,8 @@ void WindPictureBox::drawLegend(QPainter& painter) const
 void WindPictureBox::drawPointerText(QPainter& painter) const
 {
     const QSizeF text = QFontMetricsF(painter.font()).size(Qt::TextSingleLine, m_pointerText);
-    QRectF room(toPixel(m_pointer.x(), m_pointer.y()) + QPointF(m_unit, -1.5 * m_unit),
-                text + QSizeF(m_unit, 0.2 * m_unit));
+    QRectF room(toPixel(m_pointer.x(), m_pointer.y()) + QPointF(lineHeight(), -1.5 * lineHeight()),
+                text + QSizeF(lineHeight(), 0.2 * lineHeight()));
     // Beside the pointer, and never outside the picture.
     room.moveLeft(std::clamp(room.left(), 0.0, std::max(0.0, width() - room.width())));
     room.moveTop(std::clamp(room.top(), 0.0, std::max(0.0, height() - room.height())));

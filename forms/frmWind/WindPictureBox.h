@@ -53,7 +53,6 @@ private:
     NavFunc113::Knots m_heldRadius;
     QPointF m_pointer;
     QString m_pointerText;
-    double m_unit; ///< height of a line of text, which every size follows
 };
 
 } // namespace korvel

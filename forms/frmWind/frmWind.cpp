@@ -32,6 +32,7 @@ frmWind::frmWind(Program& program)
     left->addStretch();
     columns->addLayout(left);
     columns->addWidget(m_picWind, 1);
+    foldColumns();
     menus().addLinks("mnuWind");
 
     m_calculation = calculations().add(

@@ -2,6 +2,7 @@
 #include "app/Format.h"
 #include "app/shell/ResultLabel.h"
 #include "tests/scenes/Steps.h"
+#include "tests/shell/Pixels.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -170,57 +171,29 @@ QColor schemeColour(const ColourScheme& colours, const std::string& name)
     return found->second;
 }
 
-std::map<QRgb, int> pixelsOf(QWidget& widget)
+QImage imageOf(QWidget& widget)
 {
-    const QImage image = widget.grab().toImage();
-    std::map<QRgb, int> counts;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ++counts[image.pixel(x, y)];
-    return counts;
+    return widget.grab().toImage();
 }
 
 template <bool Wanted>
 void drawn(Stage& stage, const Words& words)
 {
-    auto counts = pixelsOf(stage.control(wordAt(words, 0)));
+    const QImage image = imageOf(stage.control(wordAt(words, 0)));
+    auto counts = coloursOf(image, image.rect());
     for (std::size_t i = 1; i < words.size(); ++i)
         if ((counts[schemeColour(stage.program().colours(), words[i].text).rgb()] > 0) != Wanted)
             throw std::runtime_error(words[i].text + (Wanted ? " is not drawn" : " is drawn"));
 }
 
-/// Relative luminance as WCAG 2 defines it.
-double luminance(QRgb colour)
-{
-    const auto linear = [](int part) {
-        const double value = part / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
-           0.0722 * linear(qBlue(colour));
-}
-
-/// How far the strongest pixels of a control stand off its background.
-double contrastOf(QWidget& widget)
-{
-    const auto counts = pixelsOf(widget);
-    const auto most = std::max_element(counts.begin(), counts.end(),
-                                       [](auto& a, auto& b) { return a.second < b.second; });
-    double best = 1;
-    for (const auto& [colour, count] : counts) {
-        const auto [dark, light] = std::minmax(luminance(colour), luminance(most->first));
-        best = std::max(best, (light + 0.05) / (dark + 0.05));
-    }
-    return best;
-}
-
 /// In both colour schemes; the one in force is put back.
-void contrast(Stage& stage, const Words& words)
+void contrasts(Stage& stage, const Words& words)
 {
     for (int scheme = 0; scheme < 2; ++scheme) {
         for (std::size_t i = 1; i < words.size(); ++i)
             for (const std::string& name : membersOf(words[i].text)) {
-                const double seen = contrastOf(stage.control(name));
+                const QImage image = imageOf(stage.control(name));
+                const double seen = strongestContrast(image, image.rect());
                 if (seen < numberAt(words, 0))
                     throw std::runtime_error(
                         name + " has a contrast of " + Format(seen, "0.0") +
@@ -334,7 +307,7 @@ const std::map<std::string, Verb>& eyeVerbs()
         {"memory", memory},
         {"drawn", drawn<true>},
         {"not-drawn", drawn<false>},
-        {"contrast", contrast},
+        {"contrast", contrasts},
         {"worked", worked},
         {"printed", [](S s, W w) { expectText(s.printedText(), w, 0); }},
         {"sheets", sheets},

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/shell/ScreenStyle.h"
 #include "tests/scenes/SceneTest.h"
 
 #include <gmock/gmock.h>
@@ -8,7 +9,8 @@
 int main(int argc, char* argv[])
 {
     ::testing::InitGoogleMock(&argc, argv);
-    QApplication::setStyle("Fusion");
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setStyle(new korvel::ScreenStyle);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     korvel::testing::registerScenes();

@@ -34,7 +34,7 @@ Position onChart(const SightPlot& plot, const PlotPoint& point)
 
 bool isInside(const PlotPoint& point)
 {
-    return std::fabs(point.x) <= SightPlot::half && std::fabs(point.y) <= SightPlot::half;
+    return std::fabs(point.x) <= 40 && std::fabs(point.y) <= 40;
 }
 
 /// The worst miss of a drawn line on the plot, between its points as well as at them.
@@ -97,7 +97,7 @@ TEST(DrawLOP, labelsGridAndReadOut)
     EXPECT_EQ(plot.fix->ellipse.size(), 73U);
     EXPECT_EQ(plot.grid.size(), 16U) << "eight each way, ten minutes apart";
     for (const PlotGridLine& line : plot.grid) {
-        EXPECT_LE(std::fabs(line.from.x), SightPlot::half);
+        EXPECT_LE(std::fabs(line.from.x), 40);
         EXPECT_THAT(line.label, HasSubstr("0'0"));
     }
     const CursorTexts cursor = cursorTexts(plot, plot.fix->at);
@@ -130,6 +130,27 @@ TEST(DrawLOP, whatLiesOutsideIsSaid)
     far.latitude = "15.30";
     const SightPlot plot = DrawLOP(fixOf({morning2020, noon2020}, far));
     EXPECT_THAT(plot.notice, ::testing::StartsWith("The fix lies outside the plot; Line"));
+
+    // The scale that fits all lines shows them, with a grid that can still be read.
+    const PlotView all = viewOfAll(plot);
+    const SightPlot seen = DrawLOP(fixOf({morning2020, noon2020}, far), all);
+    EXPECT_EQ(seen.notice, "");
+    EXPECT_TRUE(all.shows(seen.fix->at) && all.shows({}) && seen.lines[1].visible);
+    EXPECT_LE(seen.grid.size(), 24u);
+    EXPECT_NE(cursorTexts(seen, seen.fix->at).latitude, "");
+}
+
+TEST(DrawLOP, zoomKeepsThePointUnderThePointer)
+{
+    const PlotPoint held{12, -30};
+    const PlotView near = zoomed({}, 0.5, held);
+    EXPECT_EQ(near.half, 20);
+    EXPECT_EQ((held.x - near.centre.x) / near.half, 12.0 / 40);
+    EXPECT_EQ((held.y - near.centre.y) / near.half, -30.0 / 40);
+    EXPECT_EQ(zoomed(near, 1e-6, held).half, 2);
+    EXPECT_EQ(zoomed(near, 1e6, held).half, 200);
+    const SightPlot plot = DrawLOP(fixOf({morning2020}, track2020), zoomed({}, 0.1, {}));
+    EXPECT_GE(plot.grid.size(), 8u);
 }
 
 } // namespace

@@ -49,6 +49,8 @@ TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)
         type(window, "txtSunSight(4)", "52.220");
         click(window, "cmdRecord");
     }
+    window.resize(1016, 730); // the test's own screen is narrower
+    QApplication::processEvents();
     auto* area = window.findChild<QScrollArea*>();
     const QSize asked = area->widget()->minimumSizeHint();
     const QSize around = window.minimumSizeHint() - area->minimumSizeHint();

@@ -149,6 +149,8 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     auto& window = open<frmTIDE>();
     setDate(window, "2003/7/15");
     choose(window, yokohama);
+    window.resize(1200, 800); // wide enough for a pixel to be three minutes
+    QApplication::processEvents();
     auto& picture = static_cast<PictureBox&>(control(window, "picTIDE"));
     QTest::mouseMove(&picture, picture.toPixel(5, 0).toPoint());
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("1.87m"));

@@ -1,0 +1,361 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/ScreenStyle.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <array>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int focusWidth = 2;
+constexpr int caretWidth = 2;
+
+QColor outlineOf(const QStyleOption& option)
+{
+    return option.palette.color(QPalette::Dark);
+}
+
+/// Draws a flat panel: its ground, and an outline that is broader and in another colour while the
+/// control has the focus, so that not the colour alone shows it.
+void drawPanel(QPainter& painter, const QStyleOption& option, const QBrush& ground, bool focus)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    const int width = focus ? focusWidth : 1;
+    painter.fillRect(option.rect, ground);
+    const QColor outline = focus ? option.palette.color(QPalette::Highlight) : outlineOf(option);
+    for (int i = 0; i < width; ++i) {
+        painter.setPen(outline);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(option.rect.adjusted(i, i, -i - 1, -i - 1));
+    }
+    painter.restore();
+}
+
+bool hasFocus(const QStyleOption& option)
+{
+    return option.state & QStyle::State_HasFocus;
+}
+
+QColor markColour(const QStyleOption& option)
+{
+    const auto group = option.state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled;
+    return option.palette.color(group, QPalette::WindowText);
+}
+
+/// The toolkit's own caret inverts the ground, which is white at night.
+void drawCaret(QPainter& painter, const QStyleOption& option, const QWidget& box)
+{
+    if (!hasFocus(option) || !(option.state & QStyle::State_Enabled)) return;
+    const QRect place = box.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    const QRect caret(place.center().x(), place.top(), caretWidth, place.height());
+    painter.fillRect(caret & option.rect, option.palette.text());
+}
+
+void drawTick(QPainter& painter, const QStyleOption& option)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF box = option.rect;
+    if (option.state & QStyle::State_NoChange) {
+        painter.fillRect(box.adjusted(box.width() / 4, box.height() * 0.4, -box.width() / 4,
+                                      -box.height() * 0.4),
+                         markColour(option));
+    } else {
+        painter.setPen(QPen(markColour(option), box.width() / 7, Qt::SolidLine, Qt::RoundCap));
+        const auto at = [&](double x, double y) {
+            return box.topLeft() + QPointF(x * box.width(), y * box.height());
+        };
+        painter.drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.72), at(0.77, 0.28)});
+    }
+    painter.restore();
+}
+
+void drawCheckBox(QPainter& painter, const QStyleOption& option)
+{
+    drawPanel(painter, option, option.palette.base(), false);
+    if (option.state & (QStyle::State_On | QStyle::State_NoChange)) drawTick(painter, option);
+}
+
+void drawRadioButton(QPainter& painter, const QStyleOption& option)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF ring = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(outlineOf(option), 1.3));
+    painter.setBrush(option.palette.base());
+    painter.drawEllipse(ring);
+    if (option.state & QStyle::State_On) {
+        const double gap = ring.width() / 4;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(markColour(option));
+        painter.drawEllipse(ring.adjusted(gap, gap, -gap, -gap));
+    }
+    painter.restore();
+}
+
+void drawArrow(QPainter& painter, const QStyleOption& option, int degrees)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF room = option.rect;
+    const double half = std::min({room.width(), room.height(), 16.0}) * 0.3;
+    painter.translate(room.center());
+    painter.rotate(degrees);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(markColour(option));
+    painter.drawPolygon(QPolygonF{{-half, -half / 2}, {half, -half / 2}, {0, half / 2}});
+    painter.restore();
+}
+
+/// Degrees that an arrow which points down is turned by.
+std::optional<int> turnOf(QStyle::PrimitiveElement element)
+{
+    switch (element) {
+    case QStyle::PE_IndicatorArrowDown:
+    case QStyle::PE_IndicatorSpinDown:
+        return 0;
+    case QStyle::PE_IndicatorArrowUp:
+    case QStyle::PE_IndicatorSpinUp:
+        return 180;
+    case QStyle::PE_IndicatorArrowLeft:
+        return 90;
+    case QStyle::PE_IndicatorArrowRight:
+        return -90;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// What a message box is about, in the colours of the palette.
+QPixmap messageIcon(QStyle::StandardPixmap which, const QPalette& palette, int side)
+{
+    const QString sign = which == QStyle::SP_MessageBoxQuestion      ? "?"
+                         : which == QStyle::SP_MessageBoxInformation ? "i"
+                                                                     : "!";
+    const double ratio = qApp->devicePixelRatio();
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = palette.color(QPalette::WindowText);
+    const double pen = side / 16.0;
+    painter.setPen(QPen(ink, pen));
+    painter.drawEllipse(QRectF(0, 0, side, side).adjusted(pen, pen, -pen, -pen));
+    QFont letters = QApplication::font();
+    letters.setPixelSize(side * 5 / 8);
+    letters.setBold(true);
+    painter.setFont(letters);
+    painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, sign);
+    return picture;
+}
+
+bool isMessageIcon(QStyle::StandardPixmap which)
+{
+    return which >= QStyle::SP_MessageBoxInformation && which <= QStyle::SP_MessageBoxQuestion;
+}
+
+} // namespace
+
+QPixmap tinted(const QPixmap& picture, const QColor& brightest)
+{
+    QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            const int grey = qGray(line[x]);
+            line[x] = qRgba(brightest.red() * grey / 255, brightest.green() * grey / 255,
+                            brightest.blue() * grey / 255, qAlpha(line[x]));
+        }
+    }
+    QPixmap made = QPixmap::fromImage(image);
+    made.setDevicePixelRatio(picture.devicePixelRatio());
+    return made;
+}
+
+QIcon tinted(const QIcon& icon, const QColor& brightest)
+{
+    QIcon made;
+    for (int side : {16, 24, 32, 64})
+        made.addPixmap(tinted(icon.pixmap(side, side), brightest));
+    return made;
+}
+
+ScreenStyle::ScreenStyle() : QProxyStyle("Fusion") {}
+
+void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const
+{
+    if (const auto turn = turnOf(element)) return drawArrow(*painter, *option, *turn);
+    switch (element) {
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit: {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        if (element == PE_PanelLineEdit && frame && frame->lineWidth == 0)
+            painter->fillRect(option->rect, option->palette.base());
+        else
+            drawPanel(*painter, *option, option->palette.base(), hasFocus(*option));
+        if (element == PE_PanelLineEdit && widget) drawCaret(*painter, *option, *widget);
+        return;
+    }
+    case PE_PanelButtonCommand:
+    case PE_PanelButtonBevel:
+    case PE_PanelButtonTool: {
+        const bool down = option->state & (State_Sunken | State_On);
+        drawPanel(*painter, *option,
+                  down ? option->palette.brush(QPalette::AlternateBase) : option->palette.button(),
+                  hasFocus(*option));
+        return;
+    }
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        return drawCheckBox(*painter, *option);
+    case PE_IndicatorRadioButton:
+        return drawRadioButton(*painter, *option);
+    case PE_IndicatorMenuCheckMark:
+        return drawTick(*painter, *option);
+    case PE_FrameFocusRect:
+        painter->save();
+        painter->setPen(QPen(option->palette.color(QPalette::Highlight), focusWidth));
+        painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
+        painter->restore();
+        return;
+    case PE_FrameGroupBox: {
+        QStyleOption frame = *option;
+        const auto* group = qobject_cast<const QGroupBox*>(widget);
+        if (group && !group->title().isEmpty()) // which stands above it
+            frame.rect.setTop(frame.rect.top() + option->fontMetrics.height() + 1);
+        return drawPanel(*painter, frame, Qt::NoBrush, false);
+    }
+    case PE_Frame:
+    case PE_FrameMenu:
+    case PE_PanelTipLabel: {
+        const QBrush ground = element == PE_PanelTipLabel
+                                  ? option->palette.brush(QPalette::ToolTipBase)
+                                  : QBrush(Qt::NoBrush);
+        drawPanel(*painter, *option, ground, element == PE_Frame && hasFocus(*option));
+        return;
+    }
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void ScreenStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    if (element == CE_Splitter || element == CE_SizeGrip) {
+        const QPoint middle = option->rect.center();
+        const QSize half(std::min(1, option->rect.width() / 2), option->rect.height() / 8);
+        painter->fillRect(QRect(middle - QPoint(half.width(), half.height()),
+                                middle + QPoint(half.width(), half.height())),
+                          outlineOf(*option));
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+    if (element != CE_HeaderSection) return;
+    painter->setPen(outlineOf(*option));
+    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+    painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
+}
+
+void ScreenStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const
+{
+    if (control == CC_ScrollBar) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return drawScrollBar(*bar, *painter, widget);
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_SpinBox || control == CC_ComboBox)
+        drawPanel(*painter, *option, Qt::NoBrush, hasFocus(*option));
+}
+
+void ScreenStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
+                                const QWidget* widget) const
+{
+    QStyleOption part = option;
+    part.state &= ~State_HasFocus;
+    drawPanel(painter, part, option.palette.base(), hasFocus(option));
+    const auto rectOf = [&](SubControl which) {
+        return proxy()->subControlRect(CC_ScrollBar, &option, which, widget);
+    };
+    painter.fillRect(rectOf(SC_ScrollBarSlider).adjusted(2, 2, -2, -2), outlineOf(option));
+    const bool level = option.orientation == Qt::Horizontal;
+    part.rect = rectOf(SC_ScrollBarSubLine);
+    drawArrow(painter, part, level ? 90 : 180);
+    part.rect = rectOf(SC_ScrollBarAddLine);
+    drawArrow(painter, part, level ? -90 : 0);
+}
+
+int ScreenStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const
+{
+    const int own = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_TextCursorWidth:
+        return 0; // it is drawn with the panel
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_ScrollBarExtent:
+    case PM_ScrollBarSliderMin:
+    case PM_SmallIconSize:
+    case PM_ButtonIconSize:
+    case PM_ListViewIconSize:
+    case PM_LargeIconSize:
+    case PM_MessageBoxIconSize:
+    case PM_MenuButtonIndicator:
+        return own * m_zoom / 100;
+    default:
+        return own;
+    }
+}
+
+int ScreenStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const
+{
+    if (hint == SH_Table_GridLineColor)
+        return static_cast<int>(
+            (option ? option->palette : QApplication::palette()).color(QPalette::Dark).rgba());
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0; // their words say it
+    return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+QPixmap ScreenStyle::standardPixmap(StandardPixmap which, const QStyleOption* option,
+                                    const QWidget* widget) const
+{
+    const QPalette palette = option ? option->palette : QApplication::palette();
+    if (isMessageIcon(which))
+        return messageIcon(which, palette, pixelMetric(PM_MessageBoxIconSize, option, widget));
+    const QPixmap own = QProxyStyle::standardPixmap(which, option, widget);
+    return m_tintsIcons ? tinted(own, palette.color(QPalette::WindowText)) : own;
+}
+
+QPixmap ScreenStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture,
+                                         const QStyleOption* option) const
+{
+    const QPixmap own = QProxyStyle::generatedIconPixmap(mode, picture, option);
+    if (!m_tintsIcons || mode == QIcon::Normal) return own;
+    return tinted(own, option->palette.color(QPalette::Disabled, QPalette::WindowText));
+}
+
+QIcon ScreenStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    const QPalette palette = option ? option->palette : QApplication::palette();
+    if (isMessageIcon(which))
+        return messageIcon(which, palette, pixelMetric(PM_MessageBoxIconSize, option, widget));
+    const QIcon own = QProxyStyle::standardIcon(which, option, widget);
+    return m_tintsIcons ? tinted(own, palette.color(QPalette::WindowText)) : own;
+}
+
+} // namespace korvel

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QProxyStyle>
+
+class QStyleOptionSlider;
+
+namespace korvel
+{
+
+/// How controls are drawn: flat, with an outline that can be told from the ground in every colour
+/// scheme and a broader one for the focus. The toolkit's own outlines are shades of the ground,
+/// which is nothing at all on a dark one, and its icons are white.
+class ScreenStyle : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    ScreenStyle();
+
+    /// Sizes of boxes, bars and icons in percent of the toolkit's own; letters are not its matter.
+    void setZoom(int percent) { m_zoom = percent; }
+    /// Lets icons be drawn in the colours of the palette, for the night.
+    void setTintedIcons(bool tinted) { m_tintsIcons = tinted; }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override;
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                       const QWidget* widget) const override;
+    QPixmap standardPixmap(StandardPixmap which, const QStyleOption* option,
+                           const QWidget* widget) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture,
+                                const QStyleOption* option) const override;
+
+private:
+    void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
+                       const QWidget* widget) const;
+
+    int m_zoom = 100;
+    bool m_tintsIcons = false;
+};
+
+/// The same picture in the shades of one colour, its brightest part as bright as that.
+QPixmap tinted(const QPixmap& picture, const QColor& brightest);
+
+/// An icon of pictures that are tinted.
+QIcon tinted(const QIcon& icon, const QColor& brightest);
+
+} // namespace korvel

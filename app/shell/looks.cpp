@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "app/shell/looks.h"
+
+#include "app/KV_Savedvalue.h"
+#include "app/RecoveryFile.h"
+#include "app/ScreenChoices.h"
+#include "app/shell/ScreenStyle.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QToolTip>
+#include <QWidget>
+
+namespace korvel
+{
+namespace
+{
+
+/// @return a record of what was never set where there is no such file
+Record quietlyRead(const QString& path, const std::vector<Kind>& kinds)
+{
+    constexpr qint64 longest = 1 << 16;
+    QFile file(path);
+    const bool isFile = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
+    return readRecord(isFile ? file.read(longest).toStdString() : "", kinds).record;
+}
+
+/// Letters that widgets have in a size of their own keep it in proportion.
+void scaleOwnLetters(double ratio)
+{
+    for (QWidget* widget : QApplication::allWidgets()) {
+        QFont font = widget->font();
+        if (!widget->testAttribute(Qt::WA_SetFont) || !(font.resolveMask() & QFont::SizeResolved) ||
+            font.pointSizeF() <= 0)
+            continue;
+        font.setPointSizeF(font.pointSizeF() * ratio);
+        widget->setFont(font);
+    }
+}
+
+double widthOfLetters()
+{
+    return QFontMetricsF(QApplication::font()).horizontalAdvance("0123456789 degrees N");
+}
+
+/// @return as of applyLooks
+double applyZoom(int percent)
+{
+    static const double own = QApplication::font().pointSizeF();
+    QFont font = QApplication::font();
+    const double wanted = own * percent / 100;
+    if (own <= 0 || qFuzzyCompare(font.pointSizeF(), wanted)) return 1;
+    const double before = widthOfLetters();
+    if (auto* style = dynamic_cast<ScreenStyle*>(QApplication::style())) style->setZoom(percent);
+    const double ratio = wanted / font.pointSizeF();
+    font.setPointSizeF(wanted);
+    QApplication::setFont(font);
+    QToolTip::setFont(font);
+    scaleOwnLetters(ratio);
+    return widthOfLetters() / before;
+}
+
+} // namespace
+
+Looks looksOfLastRun(const QString& folder)
+{
+    const auto pathOf = [&](const char* name) { return folder + '/' + name; };
+    KV_Savedvalue saved;
+    saved.take(quietlyRead(pathOf(KV_Savedvalue::file), KV_Savedvalue::kinds()));
+    if (QFileInfo::exists(pathOf(RecoveryFile::name))) {
+        std::vector<Kind> kinds = KV_Savedvalue::kinds();
+        kinds.insert(kinds.begin(), Kind::Text); // when it was kept
+        Record record = quietlyRead(pathOf(RecoveryFile::name), kinds);
+        record.erase(record.begin());
+        saved.take(record);
+    }
+    const auto screen =
+        ScreenChoices::of(quietlyRead(pathOf(ScreenChoices::file), ScreenChoices::kinds()));
+    return {saved.nightColours(), screen.dimStep, screen.zoom};
+}
+
+double applyLooks(const Looks& looks, const ColourScheme& colours)
+{
+    if (auto* style = dynamic_cast<ScreenStyle*>(QApplication::style()))
+        style->setTintedIcons(looks.night);
+    if (QApplication::palette() != colours.palette) {
+        QApplication::setPalette(colours.palette);
+        QToolTip::setPalette(colours.palette);
+    }
+    return applyZoom(looks.zoom);
+}
+
+} // namespace korvel

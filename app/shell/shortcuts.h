@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <span>
+
+class QMainWindow;
+class QMenu;
+
+namespace korvel
+{
+
+class Program;
+
+/// A key that does the same in every window. This table is the one place that declares them: the
+/// menu that shows them and the keys themselves are made of it.
+struct Shortcut {
+    const char* name;     ///< of its entry, "mnuView(0)"
+    const char* caption;  ///< with its mnemonic; nullptr for a separator
+    const char* keys;     ///< the first is shown: "Ctrl+W; Esc"
+    bool calculatorsOnly; ///< the main window has it in a menu of its own, or not at all
+    void (*run)(Program& program, QMainWindow& window);
+};
+
+std::span<const Shortcut> shortcuts();
+
+/// Fills a menu with the shortcuts that a window has.
+/// @param isCalculator false for the main window
+void addShortcuts(QMenu& menu, Program& program, QMainWindow& window, bool isCalculator);
+
+/// The key of the nth window of the catalogue, from 0: "Ctrl+1" .. "Ctrl+9"; empty for the rest.
+QString windowKey(int index);
+
+} // namespace korvel

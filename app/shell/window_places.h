@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class QWidget;
+
+namespace korvel
+{
+
+class Screen;
+
+/// Remembers where a window stands and how large it is.
+/// @param open whether it is to come back at the next start, if the officer wants that at all
+void keepPlace(Screen& screen, const QWidget& window, bool open);
+
+/// Puts a window where it was last, and when the size of everything is still the same as large as
+/// it was. What would be off the screen is moved and made smaller until it is on it.
+/// @param resizes false for a window whose content alone gives its size
+/// @return false when nothing is known of the window
+bool putInPlace(const Screen& screen, QWidget& window, bool resizes = true);
+
+/// Moves and shrinks a window until it lies on its screen, frame and all.
+void bringOntoScreen(QWidget& window);
+
+} // namespace korvel

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "tests/shell/Pixels.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel::testing
+{
+
+double luminance(QRgb colour)
+{
+    const auto linear = [](int part) {
+        const double value = part / 255.0;
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
+           0.0722 * linear(qBlue(colour));
+}
+
+std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part)
+{
+    const QRect seen = part & image.rect();
+    std::map<QRgb, int> counts;
+    for (int y = seen.top(); y <= seen.bottom(); ++y)
+        for (int x = seen.left(); x <= seen.right(); ++x)
+            ++counts[image.pixel(x, y)];
+    return counts;
+}
+
+double contrast(QRgb one, QRgb other, double strayLight)
+{
+    const double first = luminance(one), second = luminance(other);
+    return (std::max(first, second) + strayLight) / (std::min(first, second) + strayLight);
+}
+
+double strongestContrast(const QImage& image, const QRect& part, double strayLight)
+{
+    const auto counts = coloursOf(image, part);
+    if (counts.empty()) return 1;
+    const auto most = std::max_element(counts.begin(), counts.end(),
+                                       [](auto& a, auto& b) { return a.second < b.second; });
+    double best = 1;
+    for (const auto& [colour, count] : counts)
+        best = std::max(best, contrast(colour, most->first, strayLight));
+    return best;
+}
+
+} // namespace korvel::testing

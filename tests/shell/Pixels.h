@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QRect>
+
+#include <map>
+
+/// What tests see of the screen.
+namespace korvel::testing
+{
+
+/// Relative luminance as WCAG 2 defines it.
+double luminance(QRgb colour);
+
+/// How often each colour stands in a part of a picture.
+std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part);
+
+/// @param strayLight that is added to both luminances; 0.05 by the definition
+double contrast(QRgb one, QRgb other, double strayLight = 0.05);
+
+/// How far the strongest pixels of a part of a picture stand off the colour that most of it has.
+double strongestContrast(const QImage& image, const QRect& part, double strayLight = 0.05);
+
+} // namespace korvel::testing
