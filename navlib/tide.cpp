@@ -66,29 +66,38 @@ double TideDay::amplitudeAt(const Wave& wave, Hours t)
 // C and S are cosine and sine part of the combined semidiurnal wave: R and theta with
 // C = R cos theta, S = R sin theta. Squaring and cubing C + iS gives R^2 and R^3 with the doubled
 // and tripled angle, in every quadrant and without a quotient that could meet a zero.
-double TideDay::sum(double C, double S, double diurnal) const
+void TideDay::addUp(TideSums& sums) const
 {
+    const double C = sums.cosine;
+    const double S = sums.sine;
     const double quarterCosine = C * C - S * S;
     const double quarterSine = 2 * C * S;
     const double sixthCosine = quarterCosine * C - quarterSine * S;
     const double sixthSine = quarterSine * C + quarterCosine * S;
-    const double quarter = quarterCosine * m_quarter.cosine - quarterSine * m_quarter.sine;
-    const double sixth = sixthCosine * m_sixth.cosine - sixthSine * m_sixth.sine;
-    return diurnal + C + quarter + sixth;
+    sums.quarter = quarterCosine * m_quarter.cosine - quarterSine * m_quarter.sine;
+    sums.sixth = sixthCosine * m_sixth.cosine - sixthSine * m_sixth.sine;
+    sums.sum = sums.diurnal + C + sums.quarter + sums.sixth;
 }
 
-double TideDay::at(Hours t) const
+TideSteps TideDay::stepsAt(Hours t) const
 {
-    std::array<double, 4> c;
-    std::array<double, 4> s;
-    for (std::size_t j = 0; j < m_waves.size(); ++j) {
-        const double amplitude = amplitudeAt(m_waves[j], t);
-        const Degrees phase = m_waves[j].phase - m_waves[j].speed * t.value();
-        const Radians psi(phase.value() * Pi() / 180);
-        c[j] = amplitude * cos(psi);
-        s[j] = amplitude * sin(psi);
+    TideSteps steps;
+    auto& waves = steps.waves;
+    for (std::size_t j = 0; j < waves.size(); ++j) {
+        TideSteps::Wave& wave = waves[j];
+        wave.phaseAtMidnight = m_waves[j].phase;
+        wave.speed = m_waves[j].speed;
+        wave.amplitude = amplitudeAt(m_waves[j], t);
+        wave.phase = wave.phaseAtMidnight - wave.speed * t.value();
+        const Radians psi(wave.phase.value() * Pi() / 180);
+        wave.cosine = wave.amplitude * cos(psi);
+        wave.sine = wave.amplitude * sin(psi);
     }
-    return sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]);
+    steps.cosine = waves[0].cosine + waves[1].cosine;
+    steps.sine = waves[0].sine + waves[1].sine;
+    steps.diurnal = waves[2].cosine + waves[3].cosine;
+    addUp(steps);
+    return steps;
 }
 
 TideValues TideDay::halfHourly(double level) const
@@ -122,7 +131,12 @@ void TideDay::turnOn(Hours from, Hours step, double level, std::span<double> val
             sine = sine * stepCosine + cosine * stepSine;
             cosine = next;
         }
-        values[i] = sum(c[0] + c[1], s[0] + s[1], c[2] + c[3]) + level;
+        TideSums sums;
+        sums.cosine = c[0] + c[1];
+        sums.sine = s[0] + s[1];
+        sums.diurnal = c[2] + c[3];
+        addUp(sums);
+        values[i] = sums.sum + level;
     }
 }
 

@@ -52,6 +52,29 @@ Degrees SemidiurnalChange(Degrees thisDay, Degrees nextDay);
 /// The same for a diurnal constituent: up to two turns, until it is more than 300.
 Degrees DiurnalChange(Degrees thisDay, Degrees nextDay);
 
+/// The parts of a value of the harmonic part.
+struct TideSums {
+    double cosine = 0; ///< C, of the combined semidiurnal wave
+    double sine = 0;   ///< S
+    double diurnal = 0;
+    double quarter = 0; ///< quarter- and sixth-diurnal term
+    double sixth = 0;
+    double sum = 0;
+};
+
+/// What a value of the harmonic part was calculated from.
+struct TideSteps : TideSums {
+    struct Wave {
+        Degrees phaseAtMidnight; ///< angle of the day and phase lag of the station
+        Degrees speed;           ///< by which the phase goes back in an hour
+        double amplitude = 0;    ///< of the station by the factor at that time
+        Degrees phase;           ///< at that time
+        double cosine = 0;       ///< amplitude times cosine and sine of the phase
+        double sine = 0;
+    };
+    std::array<Wave, 4> waves;
+};
+
 /// The harmonic part of a day's values, what does not depend on the time of day worked out once.
 class TideDay
 {
@@ -60,7 +83,8 @@ public:
             const DailyFactors& nextDay, const ShallowWaterTerms& shallowWater);
 
     /// Harmonic part at t, without the mean level.
-    double at(Hours t) const;
+    double at(Hours t) const { return stepsAt(t).sum; }
+    TideSteps stepsAt(Hours t) const;
 
     /// The half-hourly values of the day: at() plus the level, to within rounding. Each wave is
     /// turned on by half an hour at a time, so that a day takes a few sines instead of hundreds.
@@ -83,7 +107,7 @@ private:
         double sine;
     };
     static double amplitudeAt(const Wave& wave, Hours t);
-    double sum(double C, double S, double diurnal) const;
+    void addUp(TideSums& sums) const;
 
     std::array<Wave, 4> m_waves;
     Turned m_quarter;

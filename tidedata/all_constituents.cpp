@@ -197,6 +197,7 @@ void DayOfAllConstituents::turnOn(NavFunc113::Hours from, NavFunc113::Hours step
 AllConstituents::Part AllConstituents::partOf(std::string_view name)
 {
     Part part{};
+    part.name = name;
     const auto add = [&part](std::string_view basic, double power) {
         const std::size_t index = basicOf(basic);
         part.factors.push_back({index, power});
@@ -248,8 +249,8 @@ DayOfAllConstituents AllConstituents::ofDay(std::int64_t serial) const
             V += power * argumentAtMidnight(basic, midnight);
             u += power * node.u;
         }
-        result.m_waves.push_back(
-            {f * part.amplitude, radians(std::remainder(V, 360)) + u, radians(part.speed)});
+        result.m_waves.push_back({part.name, f * part.amplitude,
+                                  radians(std::remainder(V, 360)) + u, radians(part.speed)});
     }
     return result;
 }

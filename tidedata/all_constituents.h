@@ -42,6 +42,16 @@ struct LunarNode {
 class DayOfAllConstituents
 {
 public:
+    struct Wave {
+        std::string name;
+        double amplitude; ///< f H, metres
+        double phase;     ///< radians at 00:00
+        double speed;     ///< radians an hour
+    };
+    /// What the heights are the sum of, and the mean level.
+    const std::vector<Wave>& waves() const { return m_waves; }
+    double level() const { return m_level; }
+
     /// Height above chart datum at t hours of zone time after 00:00.
     double at(NavFunc113::Hours t) const;
 
@@ -53,11 +63,6 @@ public:
 
 private:
     friend class AllConstituents;
-    struct Wave {
-        double amplitude; // f H
-        double phase;     // radians at 00:00
-        double speed;     // radians an hour
-    };
     double m_level = 0;
     std::vector<Wave> m_waves;
 };
@@ -87,6 +92,7 @@ private:
         double power;
     };
     struct Part {
+        std::string name;
         std::vector<Factor> factors;
         double amplitude;
         double kappa;    // degrees, phase lag referred to zone time

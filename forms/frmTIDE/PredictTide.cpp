@@ -26,6 +26,7 @@ TidePrediction predict(const TideStation& station, const DaysFactors& factors, d
     prediction.title = station.title;
     prediction.station = station;
     prediction.serial = serial;
+    prediction.factors = factors;
     prediction.level = level;
     prediction.lblTD = Format(station.zone, "0.0hE;0.0hW");
     prediction.day.emplace(station.constituents, factors.thisDay, factors.nextDay,

@@ -33,6 +33,7 @@ struct TidePrediction {
     std::int64_t serial = 0;                   ///< the day
     TideStation station;
     std::optional<NavFunc113::TideDay> day;
+    DaysFactors factors;
     double level = 0; ///< mean level with the month's correction, or mean stream
 
     /// The curve itself, at any instant. A prediction must have been made.

@@ -149,14 +149,21 @@ void TideDayPanel::showNow(const std::string& text)
 void TideDayPanel::answer()
 {
     if (!m_day) return;
-    const std::array<CurveAnswer, 2> answers = {heightAt(*m_day, m_boxes[0]->value()),
-                                                timesOfHeight(*m_day, m_boxes[1]->value())};
-    for (std::size_t i = 0; i < answers.size(); ++i) {
-        m_lblAnswer[i]->setText(QString::fromStdString(answers[i].text));
-        m_lblAnswerAll[i]->setText(QString::fromStdString(answers[i].all));
+    m_answers = {heightAt(*m_day, m_boxes[0]->value()), timesOfHeight(*m_day, m_boxes[1]->value())};
+    for (std::size_t i = 0; i < m_answers.size(); ++i) {
+        m_lblAnswer[i]->setText(QString::fromStdString(m_answers[i].text));
+        m_lblAnswerAll[i]->setText(QString::fromStdString(m_answers[i].all));
         m_lblAnswerAll[i]->setVisible(m_day->all.has_value());
     }
-    if (onAnswers) onAnswers(answers[0], answers[1]);
+    if (onAnswers) onAnswers(m_answers[0], m_answers[1]);
+}
+
+std::vector<PaperFigure> TideDayPanel::questions() const
+{
+    std::vector<PaperFigure> asked;
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        if (!m_boxes[i]->value().empty()) asked.push_back(m_boxes.paperFigure(i));
+    return asked;
 }
 
 } // namespace korvel

@@ -28,6 +28,10 @@ public:
     /// What is asked; called when a box changes and when another day is shown.
     std::function<void(const CurveAnswer& height, const CurveAnswer& times)> onAnswers;
 
+    /// What is asked, as understood, and the answers that are shown.
+    std::vector<PaperFigure> questions() const;
+    const std::array<CurveAnswer, 2>& answers() const { return m_answers; }
+
     QWidget* firstBox() const { return m_boxes[0]; }
 
 private:
@@ -41,6 +45,7 @@ private:
 
     FieldBoxes m_boxes;
     std::optional<TideDayShown> m_day;
+    std::array<CurveAnswer, 2> m_answers; ///< height at a time, times of a height
     std::array<ResultLabel*, rows> m_lblWater{};
     std::array<ResultLabel*, rows> m_lblWaterAll{};
     QLabel* m_allHeading = nullptr;

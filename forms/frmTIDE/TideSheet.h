@@ -34,6 +34,7 @@ public:
 
     TideHead& head() { return *m_head; }
     frmTIDEPicture& picture() { return *m_picTIDE; }
+    const TideDayPanel& dayPanel() const { return *m_day; }
     TideFoot& foot() { return *m_foot; }
     /// The date bar, which has the focus first.
     QWidget& dateBar() { return *m_scrDate; }

@@ -175,6 +175,17 @@ double moonAgeOf(std::int64_t serial, Hours zone)
     return NavFunc113::MoonAge(static_cast<double>(serial) + 0.5 - NavFunc113::DaysOfHours(zone));
 }
 
+DaysRange rangeOf(const TideDayShown& day)
+{
+    const auto [low, high] = std::ranges::minmax_element(day.four.values);
+    DaysRange range{*high, *low};
+    for (const TideTurn& turn : turnsOfFour(day)) {
+        range.highest = std::max(range.highest, turn.value);
+        range.lowest = std::min(range.lowest, turn.value);
+    }
+    return range;
+}
+
 std::string rangeText(const TideDayShown& day)
 {
     const double age = moonAgeOf(day.four.serial, day.four.station.zone);
@@ -186,14 +197,8 @@ std::string rangeText(const TideDayShown& day)
             slack += (slack.empty() ? "" : ", ") + clockTime(passage.time);
         return "Slack " + (slack.empty() ? "never" : slack) + "; " + moon;
     }
-    const auto [low, high] = std::ranges::minmax_element(day.four.values);
-    double highest = *high;
-    double lowest = *low;
-    for (const TideTurn& turn : turnsOfFour(day)) {
-        highest = std::max(highest, turn.value);
-        lowest = std::min(lowest, turn.value);
-    }
-    return "Range " + heightText(highest - lowest, TideKind::Tide) + ", " + moon;
+    const DaysRange range = rangeOf(day);
+    return "Range " + heightText(range.highest - range.lowest, TideKind::Tide) + ", " + moon;
 }
 
 CurveAnswer heightAt(const TideDayShown& day, const std::string& typedTime)

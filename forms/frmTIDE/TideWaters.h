@@ -39,6 +39,13 @@ struct WaterLine {
 };
 std::vector<WaterLine> waterLines(const TideDayShown& day);
 
+/// The highest and the lowest water of a day, its ends included.
+struct DaysRange {
+    double highest = 0; ///< metres
+    double lowest = 0;
+};
+DaysRange rangeOf(const TideDayShown& day);
+
 /// "Range 1.90 m, springs (Moon's age 15.1 days)"; streams: when the water is slack.
 std::string rangeText(const TideDayShown& day);
 

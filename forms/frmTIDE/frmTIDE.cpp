@@ -3,6 +3,7 @@
 
 #include "forms/frmTIDE/StationCheck.h"
 #include "forms/frmTIDE/StationSearch.h"
+#include "forms/frmTIDE/TidePaper.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
 
@@ -301,6 +302,30 @@ void frmTIDE::report(const Report& make)
         return;
     }
     make({m_choice.lblPlace, *m_station, *m_shown, m_dates, m_lines});
+}
+
+/// What the water does at this moment is left out: it belongs to no day that is chosen.
+WorkingPaper frmTIDE::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    if (!m_shown) {
+        paper.remarks.push_back("Choose a place and a date first.");
+        return paper;
+    }
+    const TideDayPanel& panel = m_sheet->dayPanel();
+    for (PaperFigure& each : panel.questions())
+        paper.inputs.push_back(std::move(each));
+    TideAsked asked{*m_shown, panel.answers()[0], panel.answers()[1]};
+    if (!m_habits.drawsAll) asked.day.all.reset();
+    if (!m_shown->four.remark.empty()) paper.remarks.push_back(m_shown->four.remark);
+    tellDay(paper, m_choice.lblPlace, asked, m_lines);
+    return paper;
+}
+
+std::vector<PaperPicture> frmTIDE::paperPictures()
+{
+    if (!m_shown) return {};
+    return {paperPicture(m_sheet->picture(), "The day's curve, zone time")};
 }
 
 void frmTIDE::applyColours()

@@ -32,6 +32,8 @@ public:
     explicit frmTIDE(Program& program);
 
 protected:
+    WorkingPaper paper() const override;
+    std::vector<PaperPicture> paperPictures() override;
     void showEvent(QShowEvent* event) override;
     void applyColours() override;
 

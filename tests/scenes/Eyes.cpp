@@ -230,14 +230,14 @@ void worked(Stage& stage, const Words& words)
     const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*)$");
     pressKey("F2");
     auto& text = dynamic_cast<QTextEdit&>(stage.control("txtPaper"));
-    const QString working = text.toPlainText().section("Working: ", 1);
+    const QString working = text.toPlainText().section("Working: ", 1).simplified();
     for (const auto* label : stage.window().findChildren<ResultLabel*>()) {
         const std::string name = label->objectName().toStdString();
         const bool isExcepted =
             std::ranges::any_of(words, [&](const Word& each) { return each.text == name; });
         if (label->text().isEmpty() || isExcepted || others.match(label->objectName()).hasMatch())
             continue;
-        if (!working.contains(label->text().trimmed()))
+        if (!working.contains(label->text().simplified()))
             throw std::runtime_error("no step leads to " + name + ", " +
                                      label->text().toStdString());
     }
