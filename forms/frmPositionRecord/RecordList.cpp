@@ -50,9 +50,10 @@ std::string packedText(double degrees)
 {
     constexpr long long unitsOfMinute = 100000;
     const long long all = std::llround(std::fabs(degrees) * 60 * unitsOfMinute);
+    const long long whole = all / (60 * unitsOfMinute);
     const long long minutes = all % (60 * unitsOfMinute);
-    const double packed = static_cast<double>(all / (60 * unitsOfMinute)) +
-                          static_cast<double>(minutes) / (100 * unitsOfMinute);
+    const double packed =
+        static_cast<double>(whole) + static_cast<double>(minutes) / (100 * unitsOfMinute);
     return Format(degrees < 0 ? -packed : packed, "0.0######");
 }
 
