@@ -57,13 +57,16 @@ void FollowingScrollArea::foldFor(int width)
     if (!m_fold) return;
     // As if the bar were there: what it takes away must not bring it back and forth.
     const int room = width - verticalScrollBar()->sizeHint().width();
-    m_fold->fold(room < m_fold->widthUnfolded());
+    // A rim that is out of sight is less trouble than another order of the groups.
+    constexpr double hardly = 1.1;
+    m_fold->fold(hardly * room < m_fold->widthUnfolded());
 }
 
 QSize FollowingScrollArea::sizeHint() const
 {
     const int heading = m_heading ? m_heading->sizeHint().height() : 0;
-    return widget()->sizeHint() + QSize(verticalScrollBar()->sizeHint().width(), heading);
+    return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) +
+           QSize(verticalScrollBar()->sizeHint().width(), heading);
 }
 
 void FollowingScrollArea::resizeEvent(QResizeEvent* event)

@@ -103,6 +103,12 @@ void MainPanel::showFault(const std::string& text)
     showIfAny(*m_lblFault, text);
 }
 
+void MainPanel::setLeastWidth(int width)
+{
+    m_leastWidth = width;
+    updateGeometry();
+}
+
 void MainPanel::applyColours(const ColourScheme& colours)
 {
     setTextColour(m_lblTime, colours.clock);

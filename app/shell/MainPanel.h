@@ -31,9 +31,18 @@ public:
 
     void applyColours(const ColourScheme& colours);
 
+    /// What is above it needs that much room, however short its own texts are.
+    void setLeastWidth(int width);
+    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({m_leastWidth, 0}); }
+    QSize minimumSizeHint() const override
+    {
+        return QWidget::minimumSizeHint().expandedTo({m_leastWidth, 0});
+    }
+
 private:
     ResultLabel* makeLabel(const QString& name, const QString& accessibleName, double size);
 
+    int m_leastWidth = 0;
     ResultLabel* m_lblTime;
     ResultLabel* m_lblAlarm;
     ResultLabel* m_lblOffset;

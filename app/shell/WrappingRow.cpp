@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/WrappingRow.h"
 
+#include <QScreen>
 #include <QSpacerItem>
+#include <QWidget>
 
 #include <algorithm>
 #include <numeric>
@@ -49,8 +51,18 @@ QSize WrappingRow::sizeHint() const
     return all;
 }
 
+/// A row that is hardly too wide for the screen is easier to read in one line, with its end
+/// scrolled in, than in two.
+bool WrappingRow::staysWhole() const
+{
+    constexpr double hardly = 1.05;
+    const QWidget* table = parentWidget();
+    return table && sizeHint().width() <= hardly * table->screen()->availableSize().width();
+}
+
 QSize WrappingRow::minimumSize() const
 {
+    if (staysWhole()) return sizeHint();
     QSize least;
     for (const auto& item : m_items)
         least = least.expandedTo(item->minimumSize());
@@ -69,6 +81,7 @@ std::vector<WrappingRow::Line> WrappingRow::linesFor(int width) const
     std::vector<Line> lines;
     Line line{0, 0, 0, 0};
     int pending = 0; // gaps since the last control
+    const bool wraps = !staysWhole();
     for (std::size_t i = 0; i < m_items.size(); ++i) {
         const QSize size(m_items[i]->minimumSize().width(), m_items[i]->sizeHint().height());
         if (m_items[i]->spacerItem()) {
@@ -76,7 +89,7 @@ std::vector<WrappingRow::Line> WrappingRow::linesFor(int width) const
             continue;
         }
         const bool isFirst = line.height == 0;
-        if (!isFirst && line.width + pending + size.width() > width) {
+        if (wraps && !isFirst && line.width + pending + size.width() > width) {
             lines.push_back(line);
             line = {i, i, 0, 0};
             pending = 0;

@@ -28,7 +28,7 @@ public:
 
     /// All in one line, each as wide as it has to be.
     QSize sizeHint() const override;
-    /// The widest control alone.
+    /// The widest control alone, or the whole row while it stays in one line.
     QSize minimumSize() const override;
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
@@ -40,6 +40,7 @@ private:
         std::size_t first, end; ///< items, gaps at the ends left out
         int width, height;
     };
+    bool staysWhole() const;
     std::vector<Line> linesFor(int width) const;
     void place(const Line& line, QPoint at, int width);
 

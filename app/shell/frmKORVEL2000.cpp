@@ -59,6 +59,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
     connect(&m_screen, &Screen::coloursChanged, this, &frmKORVEL2000::applyColours);
     connect(&m_screen, &Screen::zoomChanged, this, [this] {
         QTimer::singleShot(0, this, [this] { // its layout comes first
+            m_panel->setLeastWidth(menuBar()->sizeHint().width());
             adjustSize();
             if (isVisible()) bringOntoScreen(*this);
         });
@@ -195,6 +196,7 @@ void frmKORVEL2000::start()
     MemoHyoujiAtStart();
     keepValues();
     setWindowFlag(Qt::WindowStaysOnTopHint, m_screen.choices().clockOnTop);
+    m_panel->setLeastWidth(menuBar()->sizeHint().width()); // all its menus in sight
     putInPlace(m_screen, *this, false);
     show();
     placeWindows();
