@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QAction;
 class QMenuBar;
 
 namespace korvel

@@ -5,6 +5,7 @@
 #include "bench/ui/main.h"
 #include "calculator_windows.h"
 
+#include <QApplication>
 #include <QFile>
 
 namespace
