@@ -46,7 +46,10 @@ private:
         local.wHour = static_cast<WORD>(time.hour);
         local.wMinute = static_cast<WORD>(time.minute);
         local.wSecond = static_cast<WORD>(time.second);
-        if (SetLocalTime(&local)) return std::nullopt;
+        // Not SetLocalTime: it takes summer time from the clock as it stands, not as it will stand.
+        SYSTEMTIME utc{};
+        if (TzSpecificLocalTimeToSystemTime(nullptr, &local, &utc) && SetSystemTime(&utc))
+            return std::nullopt;
         return std::system_category().message(static_cast<int>(GetLastError()));
     }
 #else

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/Bell.h"
 
+#include "app/shell/soundCall.h"
 #include "app/tone.h"
 
 #include <QApplication>
@@ -34,6 +35,7 @@ SystemBell::SystemBell(Settings settings) : m_settings(std::move(settings))
 
 SystemBell::~SystemBell()
 {
+    stopSoundCall();
     // Also those that stop() has killed and nobody has buried yet. They are dead when this waits.
     for (QProcess* process : findChildren<QProcess*>()) {
         process->disconnect();
@@ -47,19 +49,20 @@ void SystemBell::start()
     if (m_timer.isActive()) return;
     m_timer.start(m_settings.repeat);
     m_player = 0; // the sound system may have come up since
-    if (!m_process) playWithNextPlayer();
+    if (!m_process) play();
 }
 
 void SystemBell::ringOnce()
 {
     if (m_timer.isActive() || m_process) return;
     m_player = 0;
-    playWithNextPlayer();
+    play();
 }
 
 void SystemBell::stop()
 {
     m_timer.stop();
+    stopSoundCall();
     if (!m_process) return;
     // The officer has acknowledged: silence at once, and no word from this player any more.
     QProcess* process = std::exchange(m_process, nullptr);
@@ -73,7 +76,12 @@ void SystemBell::tick()
     if (m_process)
         m_process->kill(); // hangs: it counts as failed, and the next player takes over
     else
-        playWithNextPlayer();
+        play();
+}
+
+void SystemBell::play()
+{
+    if (!startSoundCall()) playWithNextPlayer();
 }
 
 void SystemBell::playWithNextPlayer()

@@ -27,9 +27,9 @@ public:
     virtual void ringOnce() = 0;
 };
 
-/// Plays the tone through the sound system's own player, because desktops mute the bell; where no
-/// player works the bell is all there is. Everything runs beside the event loop. Nothing is looked
-/// for or written before the first tone.
+/// Plays the tone by the system's call for sounds or through the sound system's own player, because
+/// desktops mute the bell; where neither works the bell is all there is. Everything runs beside the
+/// event loop. Nothing is looked for or written before the first tone.
 class SystemBell : public QObject, public Bell
 {
 public:
@@ -48,6 +48,7 @@ public:
 
 private:
     void tick();
+    void play();
     void playWithNextPlayer();
     void playerEnded(bool played);
     QString toneFile();

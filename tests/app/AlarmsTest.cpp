@@ -7,6 +7,7 @@
 #include "tests/app/FakeMachine.h"
 #include "tests/golden/Golden.h"
 
+#include <cstdint>
 #include <map>
 #include <random>
 #include <set>
@@ -161,22 +162,22 @@ TEST(Alarms, ringInTheirMinuteAndNoOtherWithEveryTD)
 class Model
 {
 public:
-    void set(int alarm, std::optional<long> minuteOfDay)
+    void set(int alarm, std::optional<std::int64_t> minuteOfDay)
     {
         m_time[alarm] = minuteOfDay;
         m_passed[alarm].clear();
     }
 
-    std::multiset<std::string> step(long now)
+    std::multiset<std::string> step(std::int64_t now)
     {
         std::multiset<std::string> texts;
-        const long before = m_now && now >= *m_now ? *m_now : now - 1;
+        const std::int64_t before = m_now && now >= *m_now ? *m_now : now - 1;
         for (const auto& [alarm, time] : m_time) {
             if (!time) continue;
-            for (long day = before / 1440; day <= now / 1440; ++day)
+            for (std::int64_t day = before / 1440; day <= now / 1440; ++day)
                 if (day * 1440 + *time > before && day * 1440 + *time <= now)
                     m_passed[alarm].insert(day * 1440 + *time);
-            for (const long own : m_passed[alarm])
+            for (const std::int64_t own : m_passed[alarm])
                 if (own <= now && now - own < 60 && m_rung.insert({alarm, own}).second)
                     texts.insert(std::to_string(alarm) + " " + std::to_string(*time));
         }
@@ -185,10 +186,10 @@ public:
     }
 
 private:
-    std::map<int, std::optional<long>> m_time;
-    std::map<int, std::set<long>> m_passed;
-    std::set<std::pair<int, long>> m_rung;
-    std::optional<long> m_now;
+    std::map<int, std::optional<std::int64_t>> m_time;
+    std::map<int, std::set<std::int64_t>> m_passed;
+    std::set<std::pair<int, std::int64_t>> m_rung;
+    std::optional<std::int64_t> m_now;
 };
 
 TEST(Alarms, thousandSequencesOfClockJumpsFollowTheRule)
@@ -196,14 +197,14 @@ TEST(Alarms, thousandSequencesOfClockJumpsFollowTheRule)
     int rung = 0;
     for (unsigned seed = 0; seed < 1000; ++seed) {
         std::mt19937 random(seed);
-        const auto draw = [&](long low, long high) {
-            return std::uniform_int_distribution<long>(low, high)(random);
+        const auto draw = [&](std::int64_t low, std::int64_t high) {
+            return std::uniform_int_distribution<std::int64_t>(low, high)(random);
         };
         KV_Savedvalue saved;
         Alarms alarms{saved};
         Model model;
         const auto drawAlarm = [&](int n) {
-            const long minute = draw(0, 3) ? draw(0, 1439) : draw(0, 1) * 1439;
+            const std::int64_t minute = draw(0, 3) ? draw(0, 1439) : draw(0, 1) * 1439;
             const std::string time = Format(double(minute) / 1440, "hh:mm");
             const bool enabled = draw(0, 4) != 0;
             if (time == saved.alarmTime(n) && enabled == saved.alarmEnabled(n)) return;
@@ -217,23 +218,23 @@ TEST(Alarms, thousandSequencesOfClockJumpsFollowTheRule)
         // Near month ends, leap day and new year, at any second.
         const NavFunc113::CivilDate dates[] = {
             {2004, 2, 28}, {2005, 2, 28}, {2009, 12, 31}, {2007, 4, 30}};
-        long second = NavFunc113::DaySerial(dates[seed % 4]) * 86400 + draw(0, 86399);
+        std::int64_t second = NavFunc113::DaySerial(dates[seed % 4]) * 86400 + draw(0, 86399);
         for (int step = 0; step < 150; ++step) {
             // Ticks, short naps, TD, half days, the date line, days, sleep.
-            const long jumps[] = {draw(1, 90),
-                                  draw(1, 90),
-                                  draw(1, 3599),
-                                  draw(-3700, 3700),
-                                  draw(0, 1) * 7200 - 3600,
-                                  draw(-43200, 43200),
-                                  draw(0, 1) * 172800 - 86400,
-                                  draw(-864000, 864000),
-                                  draw(3500, 40000)};
+            const std::int64_t jumps[] = {draw(1, 90),
+                                          draw(1, 90),
+                                          draw(1, 3599),
+                                          draw(-3700, 3700),
+                                          draw(0, 1) * 7200 - 3600,
+                                          draw(-43200, 43200),
+                                          draw(0, 1) * 172800 - 86400,
+                                          draw(-864000, 864000),
+                                          draw(3500, 40000)};
             second += jumps[draw(0, 8)];
             if (draw(0, 20) == 0) drawAlarm(static_cast<int>(draw(1, 5)));
             std::multiset<std::string> texts;
             for (const std::string& text : check(alarms, static_cast<double>(second) / 86400)) {
-                const long minute = std::stol(text.substr(8));
+                const std::int64_t minute = std::stol(text.substr(8));
                 ASSERT_EQ(text.substr(0, 6), Format(double(minute) / 1440, "hh:mm "));
                 texts.insert(text.substr(6));
             }
