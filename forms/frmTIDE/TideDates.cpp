@@ -92,8 +92,7 @@ std::string TideDates::aboutNotice() const
            "half hour in the station's own zone time. Weather can change levels and times by more "
            "than the figures show. Not for navigation: the official tide tables have precedence.\r"
            "\r"
-           "To predict beyond that date, choose Days, Extend the predictions, or run "
-           "./extend-tides with a year up to 2060 in the program's folder.\r\r"
+           "To predict beyond that date, choose Days, Extend the predictions.\r\r"
            "Constants: Neaps tide database and TICON-4 (Hart-Davis, Dettmering, Seitz 2025), "
            "CC BY 4.0, modified; NOAA, public domain. See stations.txt beside the program.";
 }
