@@ -3,6 +3,7 @@
 
 . tools/package/deb.sh
 . tools/package/clean-debian.sh
+. tools/package/reference.sh
 trap drop_debian EXIT
 
 check_package() {

@@ -4,6 +4,7 @@
 
 . tools/package/linux.sh
 . tools/package/clean-debian.sh
+. tools/package/reference.sh
 trap drop_debian EXIT
 
 check_package() {

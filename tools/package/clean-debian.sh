@@ -3,7 +3,6 @@
 # user in it. Sourced by the proofs.
 
 clean_root=$packages/clean-debian
-case_place=$packages/case
 
 # fresh_debian  Leaves a fresh minimal system in $clean_root, of the release of this machine.
 fresh_debian() {
@@ -49,20 +48,4 @@ open_debian() {
 as_officer() {
     as_root chroot --userspec=officer:officer "$clean_root" \
         env -i HOME=/officer PATH=/usr/bin:/bin LANG=C.UTF-8 DISPLAY="${DISPLAY:-}" "$@"
-}
-
-# same_records FOLDER  The records of a worked case are those that the developer's build leaves.
-same_records() {
-    local reference=$case_place/reference name
-    if [ ! -e "$reference/KV_CDDR.ini" ]; then
-        rm -rf "$reference"
-        mkdir -p "$case_place"
-        cp -R "$linux_build/korvel2000" "$reference"
-        rm -f "$reference"/KV_*
-        tools/package/work-a-case "$case_place/reference.png" "$reference/korvel2000"
-    fi
-    for name in KV_KORVEL.ini KV_CDDR.ini; do
-        cmp "$reference/$name" "$1/$name" || fail "the records of the worked case differ: $name"
-    done
-    say "The case was worked; its records are the developer build's, byte for byte"
 }

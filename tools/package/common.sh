@@ -12,7 +12,8 @@ mkdir -p "$packages" "$cache"
 
 # The same source gives the same bytes: every date in a package is that of the last commit, and no
 # path of this machine gets into one.
-SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct)}
+# An archive of the source bears that date on its files.
+SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CMakeLists.txt)}
 export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC
 release_date=$(date -d "@$SOURCE_DATE_EPOCH" +%F)
 path_flags="-ffile-prefix-map=$top=."
@@ -35,7 +36,16 @@ debian_mirrors() {
         'Created-By: Packages' 'Origin: Debian' | sort -u
 }
 
-# build_linux  Builds the program for Debian, the same one for the package and the portable folder.
+# add_common_licences FOLDER  The licences that the copyright files in a folder only refer to.
+add_common_licences() {
+    local name
+    grep -rhoE '/usr/share/common-licenses/[A-Z][A-Za-z0-9.-]*[A-Za-z0-9]' "$1" | sort -u | while read -r name; do
+        [ ! -e "$name" ] || cp -L "$name" "$1"
+    done
+}
+
+# build_linux [TARGET..]  Builds the program for Debian, the same one for the package and the portable
+# folder, and what else is named.
 linux_build=$top/build/packages/linux
 build_linux() {
     # shellcheck disable=SC2086
@@ -45,5 +55,5 @@ build_linux() {
         -DCMAKE_CXX_FLAGS="$path_flags $(dpkg-buildflags --get CPPFLAGS) -fstack-protector-strong" \
         -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS) -Wl,-z,now" \
         -DKORVEL_RELEASE_DATE="$release_date" >/dev/null
-    cmake --build "$linux_build" --target korvel2000 tidedata
+    cmake --build "$linux_build" --target korvel2000 tidedata "$@"
 }

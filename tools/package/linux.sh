@@ -114,5 +114,6 @@ add_licences() {
             "$package" | head -1
     done <"$folder/licences/packages" >"$folder/licences/versions"
     mv "$folder/licences/versions" "$folder/licences/packages"
+    add_common_licences "$folder/licences"
     cp tools/package/linux/libraries.txt "$folder/licences/README"
 }

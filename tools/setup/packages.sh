@@ -14,6 +14,8 @@ ci_packages="clang-format-14 clang-tidy-14 g++-mingw-w64-x86-64-posix"
 # What makes the packages, and what proves them in clean places.
 package_packages="dpkg-dev qt6-wayland fonts-vlgothic fonts-dejavu-core patchelf icu-devtools
     xz-utils"
+windows_packages="g++-mingw-w64-x86-64-posix icoutils dpkg-dev zip"
+windows_check_packages="googletest wine64 alsa-utils libasound2 unzip openbox fonts-vlgothic"
 package_check_packages="debootstrap lintian desktop-file-utils appstream openbox"
 
 # install_missing PACKAGE...  Installs those that are not there yet and says so.
