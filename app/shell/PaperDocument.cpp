@@ -70,6 +70,13 @@ private:
     std::vector<PaperPicture> m_pictures;
 };
 
+QFont paperFont(double points)
+{
+    QFont font;
+    font.setPointSizeF(points);
+    return font;
+}
+
 void insertPictures(QTextDocument& document, const std::vector<PaperPicture>& pictures)
 {
     if (pictures.empty()) return;
@@ -112,40 +119,39 @@ PaperDocument::PaperDocument(QString title, QString plainText)
 {
 }
 
-std::unique_ptr<QTextDocument> PaperDocument::make() const
+void PaperDocument::fill(QTextDocument& document) const
 {
-    auto document = std::make_unique<QTextDocument>();
-    document->setUndoRedoEnabled(false);
-    QFont font = document->defaultFont();
-    font.setPointSizeF(paperLetters);
-    document->setDefaultFont(font);
+    document.setUndoRedoEnabled(false);
+    document.setDefaultFont(paperFont(paperLetters));
     if (!m_plainText.isNull()) {
-        document->setPlainText(m_plainText);
-        return document;
+        document.setPlainText(m_plainText);
+        return;
     }
-    document->setDefaultStyleSheet("h2 { font-size: large } h3 { font-size: medium; "
-                                   "margin-top: 8px; margin-bottom: 2px } th { text-align: left; "
-                                   "background-color: #eeeeee } table { border-collapse: collapse; "
-                                   "border-color: #888888 } ul { margin-top: 0px }");
-    document->setHtml(paperHtml(m_heading, m_paper, m_pictures.size()));
-    insertPictures(*document, m_pictures);
-    return document;
+    document.setDefaultStyleSheet("h2 { font-size: large } h3 { font-size: medium; "
+                                  "margin-top: 8px; margin-bottom: 2px } th { text-align: left; "
+                                  "background-color: #e0e0e0 } ul { margin-top: 0px }");
+    // In one edit, which is laid out once: where a picture is put into a document that has its
+    // layout already, texts between the tables behind it are lost.
+    QTextCursor all(&document);
+    all.beginEditBlock();
+    document.setHtml(paperHtml(m_heading, m_paper, m_pictures.size()));
+    insertPictures(document, m_pictures);
+    all.endEditBlock();
 }
 
 void PaperDocument::drawPages(QPagedPaintDevice& device, QPainter& painter, int first,
                               int last) const
 {
-    const auto document = make();
-    document->setDocumentMargin(0); // the paper has margins of its own
-    document->documentLayout()->setPaintDevice(&device);
-    QFont footFont = document->defaultFont();
-    footFont.setPointSizeF(footLetters);
+    const QFont footFont = paperFont(footLetters);
     painter.setFont(footFont);
     const QRectF room(0, 0, device.width(), device.height());
-    const double foot = 2.0 * painter.fontMetrics().height();
-    const QSizeF page(room.width(), room.height() - foot);
-    document->setPageSize(page);
-    const int pages = document->pageCount();
+    const QSizeF page(room.width(), room.height() - 2.0 * painter.fontMetrics().height());
+    QTextDocument document;
+    document.setDocumentMargin(0); // the paper has margins of its own
+    document.documentLayout()->setPaintDevice(&device);
+    document.setPageSize(page);
+    fill(document);
+    const int pages = document.pageCount();
 
     QAbstractTextDocumentLayout::PaintContext context;
     context.palette = QPalette(Qt::black, Qt::white);
@@ -156,7 +162,7 @@ void PaperDocument::drawPages(QPagedPaintDevice& device, QPainter& painter, int 
         context.clip = QRectF(0, (number - 1) * page.height(), page.width(), page.height());
         painter.translate(0, -context.clip.top());
         painter.setClipRect(context.clip);
-        document->documentLayout()->draw(&painter, context);
+        document.documentLayout()->draw(&painter, context);
         painter.restore();
         painter.setFont(footFont);
         painter.setPen(Qt::black);

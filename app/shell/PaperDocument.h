@@ -7,7 +7,6 @@
 #include <QString>
 
 #include <functional>
-#include <memory>
 #include <vector>
 
 class QPagedPaintDevice;
@@ -41,8 +40,9 @@ public:
     const WorkingPaper& paper() const { return m_paper; }
     QString title() const { return m_title; }
 
-    /// The document, for a screen.
-    std::unique_ptr<QTextDocument> make() const;
+    /// Writes the paper into an empty document. One that knows its width already is laid out once
+    /// only, which is most of the time that a paper takes.
+    void fill(QTextDocument& document) const;
 
     /// Draws pages, each with its number, onto paper or into a file.
     /// @param painter is active on the device

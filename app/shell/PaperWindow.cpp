@@ -28,6 +28,7 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     setAttribute(Qt::WA_DeleteOnClose);
     m_text->setObjectName("txtPaper");
     m_text->setAccessibleName("Working paper");
+    m_text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // its coming would change the width
     // Paper is black on white, whatever the colours of the screen; the night only sees it
     // otherwise.
     m_text->setPalette(QPalette(Qt::black, Qt::white));
@@ -44,14 +45,13 @@ void PaperWindow::showPaper(const PaperDocument& paper)
 {
     m_paper = paper;
     setWindowTitle("Paper: " + paper.title());
-    QTextDocument* document = paper.make().release();
-    document->setParent(m_text);
-    m_text->setDocument(document);
-    delete m_document; // nobody shows it any more
-    m_document = document;
+    // Shown first: then the document knows its width before it is written.
+    m_text->clear();
     show();
     raise();
     activateWindow();
+    paper.fill(*m_text->document());
+    m_text->moveCursor(QTextCursor::Start);
 }
 
 } // namespace korvel

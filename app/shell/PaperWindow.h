@@ -4,8 +4,6 @@
 #include "app/shell/PaperMenu.h"
 
 #include <QMainWindow>
-#include <QPointer>
-#include <QTextDocument>
 
 class QTextBrowser;
 
@@ -30,7 +28,6 @@ public:
 private:
     PaperDocument m_paper;
     QTextBrowser* m_text;
-    QPointer<QTextDocument> m_document; ///< the one that it shows
     PaperMenu m_menu;
 };
 

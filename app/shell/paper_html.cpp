@@ -29,33 +29,37 @@ QString titleHtml(const std::string& text)
     return "<h3>" + escaped(text) + "</h3>";
 }
 
-QString rowHtml(const QStringList& cells, const QString& tag = "td")
+using Rows = std::vector<QStringList>;
+
+QString rowHtml(const QStringList& cells, const QString& tag, const QString& attributes = {})
 {
-    QString html = "<tr>";
+    QString html = "<tr" + attributes + '>';
     for (const QString& cell : cells)
         html += '<' + tag + '>' + cell + "</" + tag + '>';
     return html + "</tr>";
 }
 
-/// A table whose heading is repeated where a page ends.
-QString tableHtml(const QStringList& headings, const QString& rows)
+/// A table whose heading is repeated where a page ends. Shade leads the eye along its rows: lines
+/// around cells would take as long to draw as all the rest.
+QString tableHtml(const QStringList& headings, const Rows& rows)
 {
-    return "<table border='1' cellspacing='0' cellpadding='2' width='100%'><thead>" +
-           rowHtml(headings, "th") + "</thead><tbody>" + rows + "</tbody></table>";
+    QString html = "<table cellspacing='0' cellpadding='2' width='100%'><thead>" +
+                   rowHtml(headings, "th") + "</thead><tbody>";
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        html += rowHtml(rows[i], "td", i % 2 == 0 ? QString() : " bgcolor='#f2f2f2'");
+    return html + "</tbody></table>";
 }
 
 /// Figures with their name; the last column only where a figure is shown or typed in another way.
 QString figuresHtml(const std::vector<PaperFigure>& all, QStringList headings)
 {
-    const bool isShown = std::any_of(all.begin(), all.end(), [](const PaperFigure& each) {
-        return !each.shown.empty();
-    });
+    const bool isShown = std::any_of(all.begin(), all.end(),
+                                     [](const PaperFigure& each) { return !each.shown.empty(); });
     if (!isShown) headings.removeLast();
-    QString rows;
+    Rows rows;
     for (const PaperFigure& each : all) {
-        QStringList cells{escaped(each.name), figureHtml(each)};
-        if (isShown) cells << escaped(each.shown);
-        rows += rowHtml(cells);
+        rows.push_back({escaped(each.name), figureHtml(each)});
+        if (isShown) rows.back() << escaped(each.shown);
     }
     return tableHtml(headings, rows);
 }
@@ -76,23 +80,21 @@ QString listHtml(const PaperTable& each)
             cells << escaped(text);
         return cells;
     };
-    QString rows;
+    Rows rows;
     for (const auto& cells : each.rows)
-        rows += rowHtml(escapedAll(cells));
+        rows.push_back(escapedAll(cells));
     return titleHtml(each.title) + tableHtml(escapedAll(each.headings), rows);
 }
 
 QString workingHtml(const Working& each)
 {
     QString html = titleHtml("Working: " + each.title) + sentencesHtml(each.method);
-    QString rows;
-    int number = 0;
+    Rows rows;
     for (const WorkingStep& step : each.steps)
-        rows +=
-            rowHtml({QString::number(++number), escaped(step.name), escaped(step.formula),
-                     escaped(step.figures),
-                     escaped(step.value) + (step.unit.empty() ? "" : ' ' + escaped(step.unit))});
-    if (number > 0) html += tableHtml({"", "Step", "Formula", "Figures", "Value"}, rows);
+        rows.push_back({QString::number(rows.size() + 1) + ". " + escaped(step.name),
+                        escaped(step.formula), escaped(step.figures),
+                        escaped(step.value) + (step.unit.empty() ? "" : ' ' + escaped(step.unit))});
+    if (!rows.empty()) html += tableHtml({"Step", "Formula", "Figures", "Value"}, rows);
     for (const PaperTable& alike : each.tables)
         html += listHtml(alike);
     if (!each.whyNone.empty()) html += "<p>" + escaped(each.whyNone) + "</p>";
@@ -106,7 +108,8 @@ QString headingHtml(const PaperHeading& heading)
     const std::vector<PaperFigure> lines = headingLines(heading);
     for (std::size_t i = 0; i + 1 < lines.size(); i += 2)
         rows += rowHtml({escaped(lines[i].name), "<b>" + figureHtml(lines[i]) + "</b>",
-                         escaped(lines[i + 1].name), "<b>" + figureHtml(lines[i + 1]) + "</b>"});
+                         escaped(lines[i + 1].name), "<b>" + figureHtml(lines[i + 1]) + "</b>"},
+                        "td");
     return "<table cellspacing='0' cellpadding='2' width='100%'>" + rows + "</table>";
 }
 

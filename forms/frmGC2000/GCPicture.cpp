@@ -185,7 +185,7 @@ void GCPicture::drawEdges(QPainter& painter) const
     const QRectF area = plotArea();
     const double tick = lineHeight() / 3;
     const double wide = fontMetrics().horizontalAdvance("000°W");
-    painter.setPen(pen(palette().color(QPalette::WindowText), thin));
+    painter.setPen(pen(colours().palette.color(QPalette::WindowText), thin));
     const auto label = [&](const QRectF& room, Qt::Alignment alignment, const ChartLabel& each) {
         m_figures.draw(painter, room, alignment, QString::fromStdString(each.text));
     };
@@ -214,7 +214,7 @@ void GCPicture::drawEdges(QPainter& painter) const
 void GCPicture::drawLegend(QPainter& painter) const
 {
     Legend legend(painter, m_figures, {plotArea().left(), plotArea().top() / 2},
-                  palette().color(QPalette::WindowText));
+                  colours().palette.color(QPalette::WindowText));
     const auto mark = [&](Mark kind, const QString& words) {
         legend.mark([&](QPointF at) { drawMark(painter, at, kind); }, words);
     };

@@ -25,7 +25,7 @@ struct Pieces {
 };
 
 /// A number of at most four digits and nothing else; nothing for anything else.
-std::optional<int> wholeNumber(std::string_view text)
+std::optional<int> digitsOnly(std::string_view text)
 {
     if (text.empty() || text.size() > 4) return std::nullopt;
     int value = 0;
@@ -49,14 +49,14 @@ void readClock(std::string_view text, Pieces& pieces)
     std::optional<int> hour, minute, second = 0;
     if (text.find(':') == std::string_view::npos) {
         if (text.size() == 3 || text.size() == 4) {
-            hour = wholeNumber(text.substr(0, text.size() - 2));
-            minute = wholeNumber(text.substr(text.size() - 2));
+            hour = digitsOnly(text.substr(0, text.size() - 2));
+            minute = digitsOnly(text.substr(text.size() - 2));
         }
     } else {
-        hour = wholeNumber(takeUntil(text, ':'));
+        hour = digitsOnly(takeUntil(text, ':'));
         const bool withSeconds = text.find(':') != std::string_view::npos;
-        minute = wholeNumber(takeUntil(text, ':'));
-        if (withSeconds) second = wholeNumber(text);
+        minute = digitsOnly(takeUntil(text, ':'));
+        if (withSeconds) second = digitsOnly(text);
     }
     if (!hour || !minute || !second)
         pieces.fault = "\"" + typed + "\" is no time; type 0930 or 09:30";
@@ -86,8 +86,8 @@ void readDate(std::string_view text, Pieces& pieces)
         pieces.day = civil.day;
         return;
     }
-    if (marks == 1) pieces.month = wholeNumber(takeUntil(text, '/'));
-    pieces.day = wholeNumber(text);
+    if (marks == 1) pieces.month = digitsOnly(takeUntil(text, '/'));
+    pieces.day = digitsOnly(text);
     // 2000 is a leap year: 2/29 is a date of some year.
     if (!pieces.day || marks > 1 || (marks == 1 && !pieces.month) ||
         !NavFunc113::IsCivilDate({2000, pieces.month.value_or(1), *pieces.day}))

@@ -19,7 +19,7 @@ namespace
 
 using NavFunc113::DateTime;
 
-enum : std::size_t { Row, SMT, TD, Latitude, Longitude, UTC, Course, Distance, Hours, Speed };
+enum : std::size_t { Row, SMT, TD, Latitude, Longitude, UTC, Course, Distance, HoursOfLeg, Speed };
 
 const std::vector<std::string> headings = {"row",
                                            "SMT (ship's mean time)",
@@ -145,7 +145,7 @@ std::string takeLine(Line line, PositionRows& rows, double& above)
         (utc && std::fabs(*utc - NavFunc113::NearestSecond(*smt - *td / 24)) > 0.5 / 86400))
         line.refuse(UTC, "it is not SMT less TD");
     line.number(Course, 0, 360);
-    for (const std::size_t field : {Distance, Hours, Speed})
+    for (const std::size_t field : {Distance, HoursOfLeg, Speed})
         line.number(field, -1e9, 1e9);
     if (!line.fault().empty()) return line.fault();
     above = *number;
@@ -186,7 +186,7 @@ ExportTable recordList(const PositionRecordInput& input, const PositionRecordRes
         if (const RecordLeg* leg = legFrom[i]) {
             cells[Course] = figure(leg->sailed.course, 4);
             cells[Distance] = figure(leg->sailed.distance, 4);
-            cells[Hours] = figure(leg->hours, 4);
+            cells[HoursOfLeg] = figure(leg->hours, 4);
             if (leg->hours > NavFunc113::Hours(0))
                 cells[Speed] = figure(leg->sailed.distance / leg->hours, 4);
         }

@@ -23,8 +23,6 @@ constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
 constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", NumberField::Form::Latitude};
 constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees",
                                      NumberField::Form::Longitude};
-constexpr NumberField courseSteered{"course steered", 0, 360, "degrees"};
-constexpr NumberField speedSteered{"speed steered", 0, 999, "knots"};
 
 std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
 {

@@ -241,7 +241,7 @@ void frmTIDEPicture::drawScreen(QPainter& painter)
     }
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        painter.setPen(QPen(m_program.colours().palette.color(QPalette::Highlight), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }

@@ -186,7 +186,7 @@ void WindPictureBox::drawShip(QPainter& painter) const
 void WindPictureBox::drawLegend(QPainter& painter) const
 {
     Legend legend(painter, m_figureText, {lineHeight() / 2, 0.75 * lineHeight()},
-                  palette().color(QPalette::WindowText));
+                  colours().palette.color(QPalette::WindowText));
     legend.line(headingPen(), "Ship's heading");
     legend.line(apparentPen(), "Apparent wind");
     legend.line(truePen(), "True wind");

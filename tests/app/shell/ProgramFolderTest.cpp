@@ -127,6 +127,7 @@ TEST(ProgramFolder, aSaveThatFailsAtAnyStepLeavesTheOldFile)
     const QTemporaryDir folder;
     ProgramFolder files(folder.path());
     ASSERT_EQ(files.save("KV_X.ini", "old\r\n"), std::nullopt);
+    ASSERT_EQ(files.append("Journal.txt", "kept\n"), std::nullopt);
 
     // The limit on file sizes makes every further byte fail, as a full disk does.
     rlimit before{};
@@ -136,6 +137,7 @@ TEST(ProgramFolder, aSaveThatFailsAtAnyStepLeavesTheOldFile)
     setrlimit(RLIMIT_FSIZE, &full);
     const auto whileWriting = files.save("KV_X.ini", std::string(100000, 'x'));
     const auto whileFlushing = files.save("KV_X.ini", std::string(5000, 'x'));
+    const auto whileAdding = files.append("Journal.txt", std::string(5000, 'x'));
     setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
 
@@ -146,6 +148,11 @@ TEST(ProgramFolder, aSaveThatFailsAtAnyStepLeavesTheOldFile)
     EXPECT_NE(whileWriting.value_or(""), "");
     EXPECT_NE(whileFlushing.value_or(""), "");
     EXPECT_NE(whileRenaming.value_or(""), "");
+    EXPECT_NE(whileAdding.value_or(""), "");
+    EXPECT_EQ(files.append("Journal.txt", "more\n"), std::nullopt);
+    EXPECT_EQ(files.read("Journal.txt").bytes, "kept\nmore\n");
+    EXPECT_EQ(files.names("Jour", ".txt"), std::vector<std::string>{"Journal.txt"});
+    EXPECT_EQ(files.remove("Journal.txt"), std::nullopt);
     EXPECT_EQ(files.read("KV_X.ini").bytes, "old\r\n");
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{"KV_X.ini"});
 }
