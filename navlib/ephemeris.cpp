@@ -70,13 +70,17 @@ struct EclipticPlace {
     Degrees latitude;
 };
 
-EclipticPlace apparentSun(const Frame& frame)
+EclipticPlace apparentSun(const Frame& frame, Degrees longitude, Degrees aberration)
 {
     // The two small corrections may carry the longitude just out of 0 .. 360; sine and cosine
     // do not mind.
-    return {SunLongitude(frame.julianDay) + SunAberration(SunDistance(frame.julianDay)) +
-                frame.nutation,
-            Degrees(0)};
+    return {longitude + aberration + frame.nutation, Degrees(0)};
+}
+
+EclipticPlace apparentSun(const Frame& frame)
+{
+    return apparentSun(frame, SunLongitude(frame.julianDay),
+                       SunAberration(SunDistance(frame.julianDay)));
 }
 
 EclipticPlace apparentMoon(const Frame& frame)
@@ -121,9 +125,9 @@ Hours siderealTime(const Frame& frame)
                  fraction(frame.instant) * 24 + equationOfEquinoxes);
 }
 
-DegMin hourAngle(const Frame& frame, DegMin rightAscension)
+DegMin hourAngle(Hours siderealTime, DegMin rightAscension)
 {
-    Degrees x = ArcOfHours(siderealTime(frame)) - DegMinToDeg(rightAscension);
+    Degrees x = ArcOfHours(siderealTime) - DegMinToDeg(rightAscension);
     // An angle between -360 and 0 gets 0 added here and stays negative, on purpose: callers add a
     // longitude and take sine and cosine, or reduce it for display.
     if (x > fullTurn)
@@ -240,13 +244,13 @@ Hours GreenwichSiderealTime(DateTime instant)
 DegMin SunGHA(DateTime instant)
 {
     const Frame frame(instant);
-    return hourAngle(frame, sunRightAscension(frame, apparentSun(frame)));
+    return hourAngle(siderealTime(frame), sunRightAscension(frame, apparentSun(frame)));
 }
 
 DegMin MoonGHA(DateTime instant)
 {
     const Frame frame(instant);
-    return hourAngle(frame, moonRightAscension(frame, apparentMoon(frame)));
+    return hourAngle(siderealTime(frame), moonRightAscension(frame, apparentMoon(frame)));
 }
 
 Degrees SunHourAngleOffset(DateTime instant)
@@ -263,7 +267,7 @@ BodyPlace SunPlace(DateTime instant)
 {
     const Frame frame(instant);
     const EclipticPlace sun = apparentSun(frame);
-    const DegMin GHA = hourAngle(frame, sunRightAscension(frame, sun));
+    const DegMin GHA = hourAngle(siderealTime(frame), sunRightAscension(frame, sun));
     return {sunDeclination(frame, sun), hourAngleOffset(instant, GHA)};
 }
 
@@ -271,16 +275,42 @@ BodyPlace MoonPlace(DateTime instant)
 {
     const Frame frame(instant);
     const EclipticPlace moon = apparentMoon(frame);
-    const DegMin GHA = hourAngle(frame, moonRightAscension(frame, moon));
+    const DegMin GHA = hourAngle(siderealTime(frame), moonRightAscension(frame, moon));
     return {moonDeclination(frame, moon), hourAngleOffset(instant, GHA)};
+}
+
+SunFigures FiguresOfSun(DateTime instant)
+{
+    const Frame frame(instant);
+    SunFigures sun;
+    sun.julianDay = frame.julianDay;
+    sun.centuries = frame.T;
+    sun.longitude = SunLongitude(frame.julianDay);
+    sun.aberration = SunAberration(SunDistance(frame.julianDay));
+    sun.nutation = frame.nutation;
+    sun.obliquity = frame.obliquity;
+    const EclipticPlace apparent = apparentSun(frame, sun.longitude, sun.aberration);
+    sun.apparentLongitude = apparent.longitude;
+    sun.declination = sunDeclination(frame, apparent);
+    sun.rightAscension = sunRightAscension(frame, apparent);
+    sun.siderealTime = siderealTime(frame);
+    sun.GHA = hourAngle(sun.siderealTime, sun.rightAscension);
+    return sun;
+}
+
+MoonPhase PhaseOfMoon(DateTime instant)
+{
+    const double julianDay = JulianDay(instant);
+    MoonPhase phase{MoonLongitude(julianDay), SunLongitude(julianDay), 0};
+    const Degrees elongation = phase.moonLongitude - phase.sunLongitude;
+    const double turns = (elongation + fullTurn) / fullTurn;
+    phase.age = 30 * (turns - std::floor(turns));
+    return phase;
 }
 
 double MoonAge(DateTime instant)
 {
-    const double julianDay = JulianDay(instant);
-    const Degrees elongation = MoonLongitude(julianDay) - SunLongitude(julianDay);
-    const double turns = (elongation + fullTurn) / fullTurn;
-    return 30 * (turns - std::floor(turns));
+    return PhaseOfMoon(instant).age;
 }
 
 } // namespace NavFunc113

@@ -65,6 +65,31 @@ struct BodyPlace {
 BodyPlace SunPlace(DateTime instant);
 BodyPlace MoonPlace(DateTime instant);
 
+/// The Sun's declination and GHA at one instant with all that they follow from, bit for bit those
+/// of the single routines.
+struct SunFigures {
+    double julianDay = 0;
+    double centuries = 0; ///< Julian centuries from 2000 January 1.5, dynamical time
+    Degrees longitude;    ///< ecliptic, referred to the mean equinox
+    Degrees aberration;
+    Degrees nutation;          ///< in longitude
+    Degrees apparentLongitude; ///< the sum of the three
+    Degrees obliquity;         ///< of the date, nutation included
+    DegMin declination;
+    DegMin rightAscension;
+    Hours siderealTime; ///< at Greenwich, not reduced to 24
+    DegMin GHA;
+};
+SunFigures FiguresOfSun(DateTime instant);
+
+/// Age of the Moon with the ecliptic longitudes that it follows from.
+struct MoonPhase {
+    Degrees moonLongitude;
+    Degrees sunLongitude;
+    double age = 0; ///< as MoonAge
+};
+MoonPhase PhaseOfMoon(DateTime instant);
+
 /// Age of the Moon in days, 0 at new Moon to just under 30. The month counts 30 days, so the age
 /// tells the phase: 7.5 first quarter, 15 full, 22.5 last quarter.
 double MoonAge(DateTime instant);

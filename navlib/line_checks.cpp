@@ -55,15 +55,24 @@ bool isWorse(const LineCheck& a, const LineCheck& b)
     return std::fabs(a.ratio) > std::fabs(b.ratio);
 }
 
-bool agree(const Round& round)
+/// How often good lines would disagree as much as these do; more than 1 counts as 1.
+double chanceOf(const std::vector<LineCheck>& checks, std::size_t sights)
 {
-    const std::vector<LineCheck> checks =
-        CheckLines(round.sights, round.atFix, round.motion, round.errors);
-    if (checks.empty()) return true;
+    if (checks.empty()) return 1;
     const double worst = std::ranges::min(checks, isWorse).ratio;
     const double chance = std::erfc(std::fabs(worst) / std::sqrt(2.0));
     // Three lines have one misclosure between them, not three.
-    return chance * (round.sights.size() == 3 ? 1.0 : static_cast<double>(checks.size())) >= 0.05;
+    return chance * (sights == 3 ? 1.0 : static_cast<double>(checks.size()));
+}
+
+bool agree(double chance)
+{
+    return chance >= 0.05;
+}
+
+std::vector<LineCheck> checksOf(const Round& round)
+{
+    return CheckLines(round.sights, round.atFix, round.motion, round.errors);
 }
 
 void omit(const Round& round, std::vector<std::size_t> left, std::vector<Omission>& omissions)
@@ -111,14 +120,16 @@ Agreement AgreementOfLines(std::span<const Sight> sights, const Position& atFix,
 {
     const Round round{sights, atFix, motion, errors};
     Agreement agreement;
-    agreement.agrees = agree(round);
+    agreement.checks = checksOf(round);
+    agreement.chance = chanceOf(agreement.checks, sights.size());
+    agreement.agrees = agree(agreement.chance);
     if (agreement.agrees) return agreement;
     for (int lines = 1; lines <= 2 && sights.size() >= static_cast<std::size_t>(lines) + 2;
          ++lines) {
         const std::vector<Omission> best = bestOmissions(round, lines);
         if (best.empty()) continue;
         const std::vector<Sight> rest = without(sights, best[0].left);
-        if (!agree({rest, atFix, motion, errors})) continue;
+        if (!agree(chanceOf(checksOf({rest, atFix, motion, errors}), rest.size()))) continue;
         std::vector<LineCheck> checks;
         for (const Omission& each : best)
             for (std::size_t index : each.left)

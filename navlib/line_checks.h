@@ -31,6 +31,8 @@ std::vector<LineCheck> CheckLines(std::span<const Sight> sights, const Position&
 
 struct Agreement {
     bool agrees = true;
+    std::vector<LineCheck> checks;   ///< of every line against all others
+    double chance = 1;               ///< of as much disagreement in good lines; below 0.05: none
     std::vector<LineCheck> out;      ///< one or two lines without which the rest agree, against
                                      ///< the fix from the rest; the worst first
     std::vector<LineCheck> suspects; ///< one of these is out and the lines cannot tell which; each

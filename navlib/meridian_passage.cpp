@@ -40,10 +40,19 @@ bool IsNearMeridian(Degrees hourAngle, Degrees observedAltitude)
 
 DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion)
 {
+    std::vector<NoonStep> unheard;
+    return LocalApparentNoon(near, position, motion, unheard);
+}
+
+DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion,
+                           std::vector<NoonStep>& steps)
+{
     DateTime passage = near;
     for (int pass = 0; pass < 8; ++pass) {
         const Position ship = Advanced(position, motion, Hours((passage - near) * 24));
-        const Degrees toGo = WithinHalfTurn(-ship.longitude - DegMinToDeg(SunGHA(passage)));
+        const Degrees GHA = DegMinToDeg(SunGHA(passage));
+        const Degrees toGo = WithinHalfTurn(-ship.longitude - GHA);
+        steps.push_back({passage, ship.longitude, GHA, toGo});
         passage += toGo / fullTurn;
         if (fabs(toGo) < Degrees(0.001)) break;
     }

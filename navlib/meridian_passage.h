@@ -33,9 +33,20 @@ std::optional<MeridianLatitudes> LatitudesByAltitude(Degrees declination, Degree
 /// much.
 bool IsNearMeridian(Degrees hourAngle, Degrees observedAltitude);
 
+/// One step towards the passage over the meridian.
+struct NoonStep {
+    DateTime instant = 0;
+    Degrees longitude; ///< of the ship then
+    Degrees GHA;       ///< of the Sun then
+    Degrees toGo;      ///< to the meridian; the next instant lies toGo / 360 days later
+};
+
 /// UTC of the Sun's passage over the meridian of a moving ship, the one nearest to an instant.
 /// @param near    instant at which the ship stands at position
 DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion);
+/// The same, its steps added to a list.
+DateTime LocalApparentNoon(DateTime near, const Position& position, const Motion& motion,
+                           std::vector<NoonStep>& steps);
 
 /// Seconds by which the greatest altitude comes after the passage over the ship's meridian.
 /// @param sunNorthward, shipNorthward rates in minutes of arc an hour

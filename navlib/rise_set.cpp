@@ -2,7 +2,6 @@
 #include "navlib/rise_set.h"
 
 #include "navlib/angles.h"
-#include "navlib/ephemeris.h"
 
 #include <cmath>
 
@@ -15,23 +14,6 @@ constexpr Degrees sunEventAltitude(-0.9033);
 constexpr Degrees moonEventAltitude(0);
 constexpr double rising = -1;
 constexpr double setting = 1;
-
-/// What the search of one event needs of its body.
-struct Event {
-    BodyPlace (*place)(DateTime instant);
-    DateTime (*hour)(Hours TD, Degrees hourAngleOffset, DegMin declination, DegMin latitude,
-                     DegMin longitude);
-    Degrees altitude;
-    double side;          ///< rising or setting
-    Degrees motionInADay; ///< of the body's hour angle
-};
-
-constexpr Degrees sunMotion(360);
-constexpr Degrees moonMotion(347.8); ///< mean; it varies by about 3 degrees
-constexpr Event sunRise{SunPlace, SunRiseHour, sunEventAltitude, rising, sunMotion};
-constexpr Event sunSet{SunPlace, SunSetHour, sunEventAltitude, setting, sunMotion};
-constexpr Event moonRise{MoonPlace, MoonRiseHour, moonEventAltitude, rising, moonMotion};
-constexpr Event moonSet{MoonPlace, MoonSetHour, moonEventAltitude, setting, moonMotion};
 
 struct Triangle {
     double sineProduct;
@@ -66,19 +48,72 @@ Degrees moonEventHourAngle(DegMin latitude, DegMin declination)
     return RadToDeg(ArcCos(Quotient(-sineProduct, cosineProduct)));
 }
 
-DateTime search(const Event& event, DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
+/// What the search of one event needs of its body.
+struct Event {
+    BodyPlace (*place)(DateTime instant);
+    Degrees (*hourAngle)(DegMin latitude, DegMin declination);
+    RiseSetRule rule;
+};
+
+constexpr Degrees sunMotion(360);
+constexpr Degrees moonMotion(347.8); ///< mean; it varies by about 3 degrees
+constexpr Event sunRise{SunPlace, sunEventHourAngle, {sunEventAltitude, rising, 1, sunMotion}};
+constexpr Event sunSet{SunPlace, sunEventHourAngle, {sunEventAltitude, setting, 1, sunMotion}};
+constexpr Event moonRise{MoonPlace, moonEventHourAngle, {moonEventAltitude, rising, 3, moonMotion}};
+constexpr Event moonSet{MoonPlace, moonEventHourAngle, {moonEventAltitude, setting, 2, moonMotion}};
+
+const Event& eventOf(RiseSet event)
 {
-    latitude = DegMin(latitude.packed() + 1e-10);
+    switch (event) {
+    case RiseSet::SunRise:
+        return sunRise;
+    case RiseSet::SunSet:
+        return sunSet;
+    case RiseSet::MoonRise:
+        return moonRise;
+    case RiseSet::MoonSet:
+        break;
+    }
+    return moonSet;
+}
+
+DateTime hourOf(const Event& event, Hours TD, Degrees hourAngleOffset, DegMin declination,
+                DegMin latitude, DegMin longitude)
+{
+    return dayCount(event.rule.wholeDays, event.rule.side * event.hourAngle(latitude, declination),
+                    TD, hourAngleOffset, longitude);
+}
+
+/// A place, and what the search is for there; where its steps go.
+struct Quest {
+    const Event& event;
+    Hours TD;
+    DegMin latitude;
+    DegMin longitude;
+    std::vector<EventStep>& steps;
+};
+
+DateTime eventAfter(const Quest& quest, int i, DateTime date, DateTime instant)
+{
+    const Event& event = quest.event;
+    const BodyPlace body = event.place(instant);
+    quest.steps.push_back({i, instant, body, std::nullopt, 0});
+    EventStep& step = quest.steps.back();
+    step.hourAngle = event.hourAngle(quest.latitude, body.declination);
+    step.event = i + date +
+                 dayCount(event.rule.wholeDays, event.rule.side * *step.hourAngle, quest.TD,
+                          body.hourAngleOffset, quest.longitude) -
+                 1;
+    return step.event;
+}
+
+DateTime search(const Quest& quest, DateTime date)
+{
     for (int i = -1; i <= 1; ++i) {
-        const auto eventAfter = [&](DateTime instant) {
-            const BodyPlace body = event.place(instant);
-            return i + date +
-                   event.hour(TD, body.hourAngleOffset, body.declination, latitude, longitude) - 1;
-        };
         // TD enters the first estimate with the other sign than the second, on purpose: it only
         // says where the iteration starts.
-        DateTime found = eventAfter(i + date + 0.5 + DaysOfHours(TD));
-        found = eventAfter(found - DaysOfHours(TD));
+        DateTime found = eventAfter(quest, i, date, i + date + 0.5 + DaysOfHours(quest.TD));
+        found = eventAfter(quest, i, date, found - DaysOfHours(quest.TD));
         if (std::floor(found) == date) return found;
     }
     return 0;
@@ -87,26 +122,30 @@ DateTime search(const Event& event, DateTime date, Hours TD, DegMin& latitude, D
 /// Days from an instant to the event nearest to it, by the body's place at that instant; nothing
 /// when the body does not meet the altitude at that declination. Only the difference of two hour
 /// angles is reduced, so no jump of the offset can carry it into another day.
-std::optional<double> stepToEvent(const Event& event, DateTime instant, DegMin latitude,
-                                  DegMin longitude)
+std::optional<double> stepToEvent(const Quest& quest, int round, DateTime instant)
 {
+    const Event& event = quest.event;
     const BodyPlace body = event.place(instant);
-    const auto [sineProduct, cosineProduct] = triangleOf(latitude, body.declination);
-    const double cosine = (sin(event.altitude) - sineProduct) / cosineProduct;
+    quest.steps.push_back({round, instant, body, std::nullopt, 0});
+    const auto [sineProduct, cosineProduct] = triangleOf(quest.latitude, body.declination);
+    const double cosine = (sin(event.rule.altitude) - sineProduct) / cosineProduct;
     if (!(std::fabs(cosine) <= 1)) return std::nullopt;
-    const Degrees hourAngle =
-        (instant - std::floor(instant)) * fullTurn + body.hourAngleOffset + DegMinToDeg(longitude);
-    const Degrees atEvent = event.side * RadToDeg(Radians(std::acos(cosine)));
-    return WithinHalfTurn(atEvent - hourAngle) / event.motionInADay;
+    const Degrees hourAngle = (instant - std::floor(instant)) * fullTurn + body.hourAngleOffset +
+                              DegMinToDeg(quest.longitude);
+    const Degrees eventHourAngle = RadToDeg(Radians(std::acos(cosine)));
+    const Degrees atEvent = event.rule.side * eventHourAngle;
+    const double days = WithinHalfTurn(atEvent - hourAngle) / event.rule.motionInADay;
+    quest.steps.back().hourAngle = eventHourAngle;
+    quest.steps.back().event = instant + days + DaysOfHours(quest.TD);
+    return days;
 }
 
-std::optional<DateTime> iterate(const Event& event, DateTime start, DegMin latitude,
-                                DegMin longitude)
+std::optional<DateTime> iterate(const Quest& quest, int round, DateTime start)
 {
     constexpr double halfSecond = 0.5 / 86400;
     DateTime instant = start;
     for (int pass = 0; pass < 12; ++pass) {
-        const auto step = stepToEvent(event, instant, latitude, longitude);
+        const auto step = stepToEvent(quest, round, instant);
         if (!step) return std::nullopt;
         instant += *step;
         if (std::fabs(*step) < halfSecond) return instant;
@@ -114,23 +153,36 @@ std::optional<DateTime> iterate(const Event& event, DateTime start, DegMin latit
     return std::nullopt;
 }
 
-std::optional<DateTime> refine(const Event& event, DateTime date, Hours TD, DegMin latitude,
-                               DegMin longitude, DateTime found)
+std::optional<DateTime> refine(const Quest& quest, DateTime date, DateTime found)
 {
     constexpr double minute = 1.0 / 1440;
     if (found != 0) {
-        const auto step = stepToEvent(event, found - DaysOfHours(TD), latitude, longitude);
+        const auto step = stepToEvent(quest, 0, found - DaysOfHours(quest.TD));
         if (step && std::fabs(*step) < minute) return found;
     }
     // From both ends and the middle of the day: whatever falls on it is reached from one of them.
     std::optional<DateTime> earliest;
-    for (double start : {0.0, 0.5, 1.0}) {
-        const auto instant = iterate(event, date + start - DaysOfHours(TD), latitude, longitude);
+    for (int round : {1, 2, 3}) {
+        const double start = 0.5 * (round - 1);
+        const auto instant = iterate(quest, round, date + start - DaysOfHours(quest.TD));
         if (!instant) continue;
-        const DateTime local = *instant + DaysOfHours(TD);
+        const DateTime local = *instant + DaysOfHours(quest.TD);
         if (std::floor(local) == date && (!earliest || local < *earliest)) earliest = local;
     }
     return earliest;
+}
+
+std::optional<DateTime> refined(RiseSet event, DateTime date, Hours TD, DegMin latitude,
+                                DegMin longitude, DateTime found)
+{
+    std::vector<EventStep> unheard;
+    return RefineRiseSet(event, date, TD, latitude, longitude, found, unheard);
+}
+
+DateTime searched(RiseSet event, DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
+{
+    std::vector<EventStep> unheard;
+    return SearchRiseSet(event, date, TD, latitude, longitude, unheard);
 }
 
 } // namespace
@@ -138,25 +190,25 @@ std::optional<DateTime> refine(const Event& event, DateTime date, Hours TD, DegM
 DateTime SunRiseHour(Hours TD, Degrees hourAngleOffset, DegMin declination, DegMin latitude,
                      DegMin longitude)
 {
-    return dayCount(1, -sunEventHourAngle(latitude, declination), TD, hourAngleOffset, longitude);
+    return hourOf(sunRise, TD, hourAngleOffset, declination, latitude, longitude);
 }
 
 DateTime SunSetHour(Hours TD, Degrees hourAngleOffset, DegMin declination, DegMin latitude,
                     DegMin longitude)
 {
-    return dayCount(1, sunEventHourAngle(latitude, declination), TD, hourAngleOffset, longitude);
+    return hourOf(sunSet, TD, hourAngleOffset, declination, latitude, longitude);
 }
 
 DateTime MoonRiseHour(Hours TD, Degrees hourAngleOffset, DegMin declination, DegMin latitude,
                       DegMin longitude)
 {
-    return dayCount(3, -moonEventHourAngle(latitude, declination), TD, hourAngleOffset, longitude);
+    return hourOf(moonRise, TD, hourAngleOffset, declination, latitude, longitude);
 }
 
 DateTime MoonSetHour(Hours TD, Degrees hourAngleOffset, DegMin declination, DegMin latitude,
                      DegMin longitude)
 {
-    return dayCount(2, moonEventHourAngle(latitude, declination), TD, hourAngleOffset, longitude);
+    return hourOf(moonSet, TD, hourAngleOffset, declination, latitude, longitude);
 }
 
 Degrees SunRiseAzimuth(DegMin latitude, DegMin declination)
@@ -173,46 +225,65 @@ Degrees SunSetAzimuth(DegMin latitude, DegMin declination)
 
 DateTime SunRiseSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
 {
-    return search(sunRise, date, TD, latitude, longitude);
+    return searched(RiseSet::SunRise, date, TD, latitude, longitude);
 }
 
 DateTime SunSetSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
 {
-    return search(sunSet, date, TD, latitude, longitude);
+    return searched(RiseSet::SunSet, date, TD, latitude, longitude);
 }
 
 DateTime MoonRiseSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
 {
-    return search(moonRise, date, TD, latitude, longitude);
+    return searched(RiseSet::MoonRise, date, TD, latitude, longitude);
 }
 
 DateTime MoonSetSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitude)
 {
-    return search(moonSet, date, TD, latitude, longitude);
+    return searched(RiseSet::MoonSet, date, TD, latitude, longitude);
 }
 
 std::optional<DateTime> RefinedSunRise(DateTime date, Hours TD, DegMin latitude, DegMin longitude,
                                        DateTime found)
 {
-    return refine(sunRise, date, TD, latitude, longitude, found);
+    return refined(RiseSet::SunRise, date, TD, latitude, longitude, found);
 }
 
 std::optional<DateTime> RefinedSunSet(DateTime date, Hours TD, DegMin latitude, DegMin longitude,
                                       DateTime found)
 {
-    return refine(sunSet, date, TD, latitude, longitude, found);
+    return refined(RiseSet::SunSet, date, TD, latitude, longitude, found);
 }
 
 std::optional<DateTime> RefinedMoonRise(DateTime date, Hours TD, DegMin latitude, DegMin longitude,
                                         DateTime found)
 {
-    return refine(moonRise, date, TD, latitude, longitude, found);
+    return refined(RiseSet::MoonRise, date, TD, latitude, longitude, found);
 }
 
 std::optional<DateTime> RefinedMoonSet(DateTime date, Hours TD, DegMin latitude, DegMin longitude,
                                        DateTime found)
 {
-    return refine(moonSet, date, TD, latitude, longitude, found);
+    return refined(RiseSet::MoonSet, date, TD, latitude, longitude, found);
+}
+
+RiseSetRule RuleOf(RiseSet event)
+{
+    return eventOf(event).rule;
+}
+
+DateTime SearchRiseSet(RiseSet event, DateTime date, Hours TD, DegMin& latitude, DegMin longitude,
+                       std::vector<EventStep>& steps)
+{
+    latitude = DegMin(latitude.packed() + 1e-10);
+    return search({eventOf(event), TD, latitude, longitude, steps}, date);
+}
+
+std::optional<DateTime> RefineRiseSet(RiseSet event, DateTime date, Hours TD, DegMin latitude,
+                                      DegMin longitude, DateTime found,
+                                      std::vector<EventStep>& steps)
+{
+    return refine({eventOf(event), TD, latitude, longitude, steps}, date, found);
 }
 
 } // namespace NavFunc113

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/units.h"
+#include "navlib/ephemeris.h"
 
 #include <optional>
+#include <vector>
 
 /// Rising and setting of the Sun and the Moon.
 ///
@@ -77,5 +78,33 @@ std::optional<DateTime> RefinedMoonRise(DateTime date, Hours TD, DegMin latitude
                                         DateTime found = 0);
 std::optional<DateTime> RefinedMoonSet(DateTime date, Hours TD, DegMin latitude, DegMin longitude,
                                        DateTime found = 0);
+
+/// The events, and what their searches hold fixed.
+enum class RiseSet { SunRise, SunSet, MoonRise, MoonSet };
+struct RiseSetRule {
+    Degrees altitude;     ///< of the body's centre
+    double side;          ///< -1 rising, 1 setting
+    double wholeDays;     ///< in the day count of the hour
+    Degrees motionInADay; ///< of the body's hour angle, in the refined search
+};
+RiseSetRule RuleOf(RiseSet event);
+
+/// One step of a search: the body's place at an instant, and the event that follows from it.
+struct EventStep {
+    int round =
+        0; ///< of the search: -1, 0, 1 days from the date; of the refined one 0 for the
+           ///< check of a time found, then 1, 2, 3 from the start, middle and end of the day
+    DateTime instant = 0; ///< UTC
+    BodyPlace body;
+    std::optional<Degrees> hourAngle; ///< of the event; absent: the body does not meet the altitude
+    DateTime event = 0;               ///< local time; valid when there is an hour angle
+};
+
+/// The searches above, their steps added to a list; those before a fault stay in it.
+DateTime SearchRiseSet(RiseSet event, DateTime date, Hours TD, DegMin& latitude, DegMin longitude,
+                       std::vector<EventStep>& steps);
+std::optional<DateTime> RefineRiseSet(RiseSet event, DateTime date, Hours TD, DegMin latitude,
+                                      DegMin longitude, DateTime found,
+                                      std::vector<EventStep>& steps);
 
 } // namespace NavFunc113

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace NavFunc113
 {
@@ -32,9 +33,7 @@ Position moved(const Position& from, Miles north, Miles east)
 
 /// One pass of the least squares from a position.
 struct Pass {
-    NormalMatrix matrix;
-    double D = 0;
-    double E = 0;
+    FixPass sums;
     std::vector<LineOfPosition> lines;
     std::vector<double> weights;
 };
@@ -43,16 +42,18 @@ Pass passFrom(std::span<const Sight> sights, const Position& atFix, const Motion
               const ErrorModel& errors)
 {
     Pass pass;
+    pass.sums.from = atFix;
+    NormalMatrix& matrix = pass.sums.matrix;
     for (const Sight& sight : sights) {
         const LineOfPosition line = LineAt(sight, atFix, motion);
         const double w = Quotient(1, LineVariance(errors, motion, sight.sinceFix, line.azimuth));
         const double cosZ = cos(line.azimuth);
         const double sinZ = sin(line.azimuth);
-        pass.matrix.A += w * cosZ * cosZ;
-        pass.matrix.B += w * cosZ * sinZ;
-        pass.matrix.C += w * sinZ * sinZ;
-        pass.D += w * line.intercept.value() * cosZ;
-        pass.E += w * line.intercept.value() * sinZ;
+        matrix.A += w * cosZ * cosZ;
+        matrix.B += w * cosZ * sinZ;
+        matrix.C += w * sinZ * sinZ;
+        pass.sums.D += w * line.intercept.value() * cosZ;
+        pass.sums.E += w * line.intercept.value() * sinZ;
         pass.lines.push_back(line);
         pass.weights.push_back(w);
     }
@@ -63,6 +64,22 @@ Pass passFrom(std::span<const Sight> sights, const Position& atFix, const Motion
 bool isParallel(const NormalMatrix& matrix)
 {
     return !(matrix.determinant() >= 1e-6 * square(matrix.A + matrix.C));
+}
+
+/// What the last pass leaves of each line.
+void setResiduals(Pass pass, Fix& fix)
+{
+    const FixPass& sums = pass.sums;
+    fix.outcome = FixOutcome::Found;
+    fix.matrix = sums.matrix;
+    for (std::size_t i = 0; i < pass.lines.size(); ++i) {
+        const auto& line = pass.lines[i];
+        fix.residuals.push_back(line.intercept -
+                                (sums.north * cos(line.azimuth) + sums.east * sin(line.azimuth)));
+        fix.weightedSquares += pass.weights[i] * square(fix.residuals.back().value());
+    }
+    fix.lines = std::move(pass.lines);
+    fix.weights = std::move(pass.weights);
 }
 
 } // namespace
@@ -117,28 +134,24 @@ Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const 
     if (sights.size() < 2) return fix;
     while (fix.passes < mostPasses) {
         ++fix.passes;
-        const Pass pass = passFrom(sights, fix.position, motion, errors);
-        const NormalMatrix& m = pass.matrix;
+        Pass pass = passFrom(sights, fix.position, motion, errors);
+        const NormalMatrix& m = pass.sums.matrix;
         if (isParallel(m)) {
             fix.outcome = FixOutcome::Parallel;
             return fix;
         }
-        const Miles north(Quotient(m.C * pass.D - m.B * pass.E, m.determinant()));
-        const Miles east(Quotient(m.A * pass.E - m.B * pass.D, m.determinant()));
+        const Miles north(Quotient(m.C * pass.sums.D - m.B * pass.sums.E, m.determinant()));
+        const Miles east(Quotient(m.A * pass.sums.E - m.B * pass.sums.D, m.determinant()));
+        pass.sums.north = north;
+        pass.sums.east = east;
+        fix.steps.push_back(pass.sums);
         const Position next{fix.position.latitude + ArcOfMiles(north),
                             fix.position.longitude +
                                 changeOfLongitude(east, fix.position.latitude)};
         if (fabs(next.latitude) >= quarterTurn) break;
         fix.position = {next.latitude, WithinHalfTurn(next.longitude)};
         if (std::hypot(north.value(), east.value()) >= 0.01) continue;
-        fix.outcome = FixOutcome::Found;
-        fix.matrix = m;
-        for (std::size_t i = 0; i < sights.size(); ++i) {
-            const auto& line = pass.lines[i];
-            fix.residuals.push_back(line.intercept -
-                                    (north * cos(line.azimuth) + east * sin(line.azimuth)));
-            fix.weightedSquares += pass.weights[i] * square(fix.residuals.back().value());
-        }
+        setResiduals(std::move(pass), fix);
         return fix;
     }
     fix.outcome = FixOutcome::NoConvergence;
@@ -153,6 +166,10 @@ ErrorEllipse EllipseOf(const NormalMatrix& matrix, double factor, double scale)
     const double q = std::hypot((matrix.A - matrix.C) / 2, matrix.B);
     const double determinant = matrix.determinant();
     ErrorEllipse ellipse;
+    ellipse.mean = m;
+    ellipse.spread = q;
+    ellipse.factor = factor;
+    ellipse.scale = scale;
     ellipse.semiMinor = Miles(Quotient(factor * scale, std::sqrt(m + q)));
     // (m - q)(m + q) is the determinant: no cancellation in m - q for a long ellipse.
     ellipse.semiMajor = Miles(factor * scale * SquareRoot(Quotient(m + q, determinant)));

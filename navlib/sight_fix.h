@@ -84,6 +84,16 @@ enum class FixOutcome {
     NoConvergence ///< the circles do not meet near the dead-reckoned position
 };
 
+/// One pass of the least squares.
+struct FixPass {
+    Position from;       ///< position at the time of the fix that the lines are reduced from
+    NormalMatrix matrix; ///< miles^-2
+    double D = 0;        ///< sum of intercept cos Z / sigma^2
+    double E = 0;        ///< sum of intercept sin Z / sigma^2
+    Miles north;         ///< move to the next position
+    Miles east;
+};
+
 struct Fix {
     FixOutcome outcome = FixOutcome::TooFewLines;
     Position position;            ///< valid when Found, as is all below
@@ -91,6 +101,9 @@ struct Fix {
     std::vector<Miles> residuals; ///< in the order of the sights; positive towards the body
     double weightedSquares = 0;   ///< sum of (residual / sigma)^2
     int passes = 0;
+    std::vector<FixPass> steps;        ///< the passes
+    std::vector<LineOfPosition> lines; ///< of the last pass, in the order of the sights
+    std::vector<double> weights;       ///< of these, 1 / sigma^2
 };
 
 /// Most probable position at the time of the fix, by least squares.
@@ -104,6 +117,10 @@ Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const 
 
 /// Error ellipse in miles.
 struct ErrorEllipse {
+    double mean = 0;   ///< of the eigenvalues of the matrix: (A + C) / 2
+    double spread = 0; ///< half their difference
+    double factor = 1; ///< k of the axes
+    double scale = 1;  ///< of the sigmas
     Miles semiMajor;
     Miles semiMinor;
     Degrees majorAxis; ///< bearing, 0 <= bearing < 180

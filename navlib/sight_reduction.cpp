@@ -25,43 +25,37 @@ Radians localHourAngle(DegMin GHA, DegMin longitude)
 /// Above this altitude the corrections for temperature and pressure no longer show.
 constexpr DegMin lowAltitude(30);
 
-double refractionOf(DegMin altitude)
+constexpr std::array<TablePair, 7> refractions{
+    {{10, 5.3}, {22, 2.378}, {34, 1.43}, {46, 0.933}, {58, 0.6}, {70, 0.352}, {85, 0.085}}};
+
+constexpr std::array<TablePair, 7> ofFrost{
+    {{0, -3.6}, {5, -0.3}, {10, -0.3}, {15, -0.2}, {20, -0.2}, {25, -0.1}, {30, -0.1}}};
+constexpr std::array<TablePair, 7> ofWarmth{
+    {{0, 2.5}, {5, 0.5}, {10, 0.25}, {15, 0.15}, {20, 0.13}, {25, 0.1}, {30, 0.1}}};
+constexpr std::array<TablePair, 7> ofHeat{
+    {{0, 4.9}, {5, 0.9}, {10, 0.5}, {15, 0.3}, {20, 0.2}, {25, 0.2}, {30, 0.1}}};
+
+constexpr std::array<TablePair, 7> ofLows{
+    {{0, 2}, {5, 0.5}, {10, 0.3}, {15, 0.2}, {20, 0.15}, {25, 0.1}, {30, 0.1}}};
+constexpr std::array<TablePair, 3> ofHighs{{{0, -0.6}, {15, 0.1}, {30, 0}}};
+
+double lookedUp(CorrectionTable table, DegMin altitude)
 {
-    return *InterpolateLagrange(
-        altitude.packed(),
-        {{10, 5.3}, {22, 2.378}, {34, 1.43}, {46, 0.933}, {58, 0.6}, {70, 0.352}, {85, 0.085}});
+    return *InterpolateLagrange(altitude.packed(), table);
 }
 
 double temperatureTerm(DegMin altitude, double temperature)
 {
-    if (altitude > lowAltitude) return 0;
-    if (temperature < -5)
-        return *InterpolateLagrange(
-            altitude.packed(),
-            {{0, -3.6}, {5, -0.3}, {10, -0.3}, {15, -0.2}, {20, -0.2}, {25, -0.1}, {30, -0.1}});
-    if (temperature < 17) return 0;
-    if (temperature < 27)
-        return *InterpolateLagrange(
-            altitude.packed(),
-            {{0, 2.5}, {5, 0.5}, {10, 0.25}, {15, 0.15}, {20, 0.13}, {25, 0.1}, {30, 0.1}});
-    return *InterpolateLagrange(
-        altitude.packed(),
-        {{0, 4.9}, {5, 0.9}, {10, 0.5}, {15, 0.3}, {20, 0.2}, {25, 0.2}, {30, 0.1}});
+    const CorrectionTable table = TemperatureTable(altitude, temperature);
+    return table.empty() ? 0 : lookedUp(table, altitude);
 }
 
 double pressureTerm(DegMin altitude, float pressure)
 {
-    if (altitude > lowAltitude) return 0;
-    if (pressure < 975)
-        return *InterpolateLagrange(
-            altitude.packed(),
-            {{0, 2}, {5, 0.5}, {10, 0.3}, {15, 0.2}, {20, 0.15}, {25, 0.1}, {30, 0.1}});
-    if (pressure < 985) return 0.1;
-    if (pressure < 1025) return 0;
-    if (pressure < 1045)
-        return *InterpolateLagrange(altitude.packed(), {{0, -0.6}, {15, 0.1}, {30, 0}});
-    // Nothing above 1045 hPa: a rule of the program, not of the air.
-    return 0;
+    if (const CorrectionTable table = PressureTable(altitude, pressure); !table.empty())
+        return lookedUp(table, altitude);
+    const bool isSomewhatLow = altitude <= lowAltitude && pressure >= 975 && pressure < 985;
+    return isSomewhatLow ? 0.1 : 0;
 }
 
 double semiDiameterOfMonth(float month)
@@ -74,6 +68,30 @@ double semiDiameterOfMonth(float month)
 }
 
 } // namespace
+
+CorrectionTable RefractionTable()
+{
+    return refractions;
+}
+
+CorrectionTable TemperatureTable(DegMin altitude, double temperature)
+{
+    if (altitude > lowAltitude) return {};
+    if (temperature < -5) return ofFrost;
+    if (temperature < 17) return {};
+    if (temperature < 27) return ofWarmth;
+    return ofHeat;
+}
+
+CorrectionTable PressureTable(DegMin altitude, float pressure)
+{
+    if (altitude > lowAltitude) return {};
+    if (pressure < 975) return ofLows;
+    if (pressure < 1025) return {};
+    if (pressure < 1045) return ofHighs;
+    // Nothing above 1045 hPa: a rule of the program, not of the air.
+    return {};
+}
 
 DegMin ComputedAltitude(DegMin GHA, DegMin declination, DegMin latitude, DegMin longitude)
 {
@@ -101,7 +119,7 @@ AltitudeCorrectionTerms SunAltitudeTerms(DegMin observedAltitude, float month, M
 {
     AltitudeCorrectionTerms terms;
     terms.dip = -1.776 * SquareRoot(heightOfEye.value());
-    terms.refraction = refractionOf(observedAltitude);
+    terms.refraction = lookedUp(refractions, observedAltitude);
     terms.semiDiameter = 15.75;
     terms.parallax = 0.15 * cos(radiansOf(observedAltitude));
     terms.temperature = temperatureTerm(observedAltitude, airTemperature);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/angles.h"
 #include "navlib/units.h"
+
+#include <span>
 
 namespace NavFunc113
 {
@@ -46,6 +49,14 @@ struct AltitudeCorrectionTerms {
 AltitudeCorrectionTerms SunAltitudeTerms(DegMin observedAltitude, float month, Metres heightOfEye,
                                          double airTemperature, double seaTemperature,
                                          float pressure);
+
+/// An entry of a correction table: altitude in degrees, correction in minutes of arc. Between the
+/// entries, and beyond them, Lagrange's formula holds.
+using CorrectionTable = std::span<const TablePair>;
+CorrectionTable RefractionTable();
+/// Tables of the terms that depend on the air; empty where there is nothing to look up.
+CorrectionTable TemperatureTable(DegMin altitude, double temperature);
+CorrectionTable PressureTable(DegMin altitude, float pressure);
 
 /// Refraction in minutes of arc in mean air (10 degrees, 1010 hPa), good to 0.1' from the horizon
 /// to the zenith, where it is 0: for altitudes that the table of the correction does not cover.

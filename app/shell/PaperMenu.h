@@ -9,6 +9,7 @@
 class QAction;
 class QMainWindow;
 class QMenu;
+class QMenuBar;
 
 namespace korvel
 {

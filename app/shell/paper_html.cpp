@@ -16,7 +16,8 @@ constexpr const char* signatureLine = "______________________________";
 
 QString escaped(const std::string& text)
 {
-    return asQString(text).toHtmlEscaped();
+    // Two blanks part the figures of a line in a window; here they would run together.
+    return asQString(text).toHtmlEscaped().replace("  ", "&nbsp; ");
 }
 
 QString figureHtml(const PaperFigure& each)

@@ -18,20 +18,18 @@ namespace
 using namespace NavFunc113;
 
 /// One of the four events of a row.
-struct EventRoutines {
+struct RowEvent {
     const char* name;
-    DateTime (*search)(DateTime date, Hours TD, DegMin& latitude, DegMin longitude);
-    std::optional<DateTime> (*refined)(DateTime date, Hours TD, DegMin latitude, DegMin longitude,
-                                       DateTime found);
+    RiseSet event;
     double worthTelling; ///< minutes
 };
 
 // The Sun's search is good to a second except at southern latitudes of whole degrees; the Moon's
 // two steps leave a few minutes that are nothing to report.
-constexpr EventRoutines sunrise{"sunrise", SunRiseSearch, RefinedSunRise, 1};
-constexpr EventRoutines sunset{"sunset", SunSetSearch, RefinedSunSet, 1};
-constexpr EventRoutines moonrise{"moonrise", MoonRiseSearch, RefinedMoonRise, 5};
-constexpr EventRoutines moonset{"moonset", MoonSetSearch, RefinedMoonSet, 5};
+constexpr RowEvent sunrise{"sunrise", RiseSet::SunRise, 1};
+constexpr RowEvent sunset{"sunset", RiseSet::SunSet, 1};
+constexpr RowEvent moonrise{"moonrise", RiseSet::MoonRise, 5};
+constexpr RowEvent moonset{"moonset", RiseSet::MoonSet, 5};
 
 std::string localTime(DateTime time)
 {
@@ -80,24 +78,29 @@ public:
     {
     }
 
-    RiseSetLabel time(const EventRoutines& event)
+    RiseSetLabel time(const RowEvent& event, RiseSetFigures& figures)
     {
-        std::optional<DateTime> found;
+        figures.event = event.event;
         try {
-            found = event.search(m_date, m_row.TD, m_row.latitude, m_row.longitude);
+            figures.found = SearchRiseSet(event.event, m_date, m_row.TD, m_row.latitude,
+                                          m_row.longitude, figures.search);
         } catch (const ArithmeticError&) {
             // The body stays above or below the horizon: said below, with the refined search.
         }
-        const auto refined = refinedTime(event, found.value_or(0));
-        if (!found) return faulty(event, refined);
-        return shown(event, *found, refined);
+        figures.latitude = m_row.latitude;
+        refine(figures);
+        if (!figures.found) return faulty(event, figures.refined);
+        return shown(event, *figures.found, figures.refined);
     }
 
-    RiseSetLabel azimuth(const char* name, Degrees (*routine)(DegMin, DegMin), double ofDay)
+    RiseSetLabel azimuth(const char* name, Degrees (*routine)(DegMin, DegMin), double ofDay,
+                         AzimuthFigures& figures)
     {
         try {
             const DegMin declination = SunDeclination(m_date + ofDay);
+            figures = {m_row.latitude, m_date + ofDay, declination, {}};
             const Degrees azimuth = routine(m_row.latitude, declination);
+            figures.azimuth = azimuth;
             RiseSetLabel label{courseText(azimuth), "True azimuth, degrees", "", azimuth};
             const Degrees asTyped = routine(m_typedLatitude, declination);
             if (fabs(azimuth - asTyped) >= Degrees(0.1)) {
@@ -112,16 +115,18 @@ public:
     }
 
 private:
-    std::optional<DateTime> refinedTime(const EventRoutines& event, DateTime found) const
+    void refine(RiseSetFigures& figures) const
     {
         try {
-            return event.refined(m_date, m_row.TD, m_typedLatitude, m_row.longitude, found);
+            figures.refined =
+                RefineRiseSet(figures.event, m_date, m_row.TD, m_typedLatitude, m_row.longitude,
+                              figures.found.value_or(0), figures.refinement);
         } catch (const ArithmeticError&) {
-            return std::nullopt; // beyond the calendar: the search has said so already
+            // Beyond the calendar: the search has said so already.
         }
     }
 
-    RiseSetLabel faulty(const EventRoutines& event, std::optional<DateTime> refined)
+    RiseSetLabel faulty(const RowEvent& event, std::optional<DateTime> refined)
     {
         const std::string sentence = std::string("no ") + event.name + " that day at this latitude";
         m_remarks.warn(sentence);
@@ -132,7 +137,7 @@ private:
                 {}};
     }
 
-    static RiseSetLabel shown(const EventRoutines& event, DateTime found,
+    static RiseSetLabel shown(const RowEvent& event, DateTime found,
                               std::optional<DateTime> refined)
     {
         RiseSetLabel label{localTime(found), "", "", {}};
@@ -177,7 +182,9 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
         result.notice = "Dates before 1900/1/2 cannot be computed";
         return result;
     }
-    result.moonAge = Format(MoonAge(*date + 0.5), "0.0");
+    result.date = *date;
+    result.phase = PhaseOfMoon(*date + 0.5);
+    result.moonAge = Format(result.phase->age, "0.0");
     if (isBlank(input.txtTD) && isBlank(input.txtLatitude) && isBlank(input.txtLongitude))
         return result;
     Remarks remarks;
@@ -189,14 +196,16 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
         return result;
     }
 
+    RowFigures& figures = result.figures.emplace();
+    figures.typed = row;
     Row events(*date, row, remarks);
-    result.sunRiseTime = events.time(sunrise);
-    result.sunSetTime = events.time(sunset);
+    result.sunRiseTime = events.time(sunrise, figures.events[0]);
+    result.sunSetTime = events.time(sunset, figures.events[1]);
     // At 06:00 and 18:00 of the date as UTC, wherever the place is.
-    result.sunRiseAz = events.azimuth("sunrise", SunRiseAzimuth, 0.25);
-    result.sunSetAz = events.azimuth("sunset", SunSetAzimuth, 0.75);
-    result.moonRiseTime = events.time(moonrise);
-    result.moonSetTime = events.time(moonset);
+    result.sunRiseAz = events.azimuth("sunrise", SunRiseAzimuth, 0.25, figures.azimuths[0]);
+    result.sunSetAz = events.azimuth("sunset", SunSetAzimuth, 0.75, figures.azimuths[1]);
+    result.moonRiseTime = events.time(moonrise, figures.events[2]);
+    result.moonSetTime = events.time(moonset, figures.events[3]);
     result.notice = withPlace(input.txtLocation, remarks);
     result.successful = true;
     return result;

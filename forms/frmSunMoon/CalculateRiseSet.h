@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/units.h"
+#include "navlib/rise_set.h"
 
+#include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace korvel
 {
@@ -32,6 +34,32 @@ struct RiseSetLabel {
     std::optional<NavFunc113::Degrees> figure; ///< an azimuth in full
 };
 
+/// What one event of a row was calculated from.
+struct RiseSetFigures {
+    NavFunc113::RiseSet event = NavFunc113::RiseSet::SunRise;
+    NavFunc113::DegMin latitude;               ///< as the search moved it
+    std::optional<NavFunc113::DateTime> found; ///< by the search; 0: not on this date; nothing: it
+                                               ///< faulted at its last step
+    std::vector<NavFunc113::EventStep> search;
+    std::optional<NavFunc113::DateTime> refined;
+    std::vector<NavFunc113::EventStep> refinement;
+};
+
+/// What an azimuth was calculated from.
+struct AzimuthFigures {
+    NavFunc113::DegMin latitude; ///< as the searches before it moved it
+    NavFunc113::DateTime instant = 0;
+    NavFunc113::DegMin declination;
+    std::optional<NavFunc113::Degrees> azimuth;
+};
+
+/// What a row was calculated from.
+struct RowFigures {
+    RiseSetRow typed;
+    std::array<RiseSetFigures, 4> events; ///< sunrise, sunset, moonrise, moonset
+    std::array<AzimuthFigures, 2> azimuths;
+};
+
 struct RiseSetResult {
     bool successful = false;            ///< the row was computed: its settings are to be written
     std::optional<std::string> moonAge; ///< lblMoonAge; no value leaves it as it was
@@ -42,6 +70,9 @@ struct RiseSetResult {
     RiseSetLabel moonRiseTime;
     RiseSetLabel moonSetTime;
     std::string notice; ///< for the notice line, the row's place in front; empty: nothing to say
+    NavFunc113::DateTime date = 0;              ///< valid when there is an age of the Moon
+    std::optional<NavFunc113::MoonPhase> phase; ///< at 12:00 UTC of the date
+    std::optional<RowFigures> figures;          ///< when successful
 };
 
 /// One row of the sun and moon window.

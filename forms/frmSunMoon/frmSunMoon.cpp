@@ -5,6 +5,7 @@
 #include "app/shell/FollowingScrollArea.h"
 #include "app/shell/asQString.h"
 #include "app/shell/widget_colours.h"
+#include "forms/frmSunMoon/RiseSetWorking.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -211,6 +212,13 @@ NavFunc113::DateTime frmSunMoon::today()
     return std::floor(program().shipsTime().SMT());
 }
 
+RiseSetInput frmSunMoon::input(std::size_t row) const
+{
+    return {m_txtSunMoon->value(), m_table->box(row, Place)->text().trimmed().toStdString(),
+            m_table->box(row, TD)->value(), m_table->position(row, Latitude)->value(),
+            m_table->position(row, Longitude)->value()};
+}
+
 void frmSunMoon::runRows(std::size_t first, std::size_t last)
 {
     bool successful = false;
@@ -218,12 +226,10 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
         QString place = m_table->box(row, Place)->text().trimmed();
         // A long name would leave the notice line no room for what is at fault.
         if (place.size() > longestPlace) place = place.left(longestPlace - 1) + "…";
-        m_results[row] = CalculateRiseSet(
-            {m_txtSunMoon->value(),
-             (place.isEmpty() ? QString("Row %1").arg(row + 1) : place).toStdString(),
-             m_table->box(row, TD)->value(), m_table->position(row, Latitude)->value(),
-             m_table->position(row, Longitude)->value()},
-            m_numbers[row]);
+        RiseSetInput typed = input(row);
+        typed.txtLocation =
+            (place.isEmpty() ? QString("Row %1").arg(row + 1) : place).toStdString();
+        m_results[row] = CalculateRiseSet(typed, m_numbers[row]);
         successful |= m_results[row].successful;
         showRow(row);
     }
@@ -265,6 +271,26 @@ void frmSunMoon::showNotices()
         if (!result.notice.empty()) all << asQString(result.notice);
     all.removeDuplicates(); // what the date alone causes is the same in every row
     setNotice("rows", all.join(".  "));
+}
+
+WorkingPaper frmSunMoon::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.place = m_table->box(m_row, Place)->text().trimmed().toStdString();
+    paper.results.clear(); // the line of the row in focus tells inputs
+    if (const std::string age = m_lblMoonAge->text().toStdString(); !age.empty())
+        paper.results.push_back({"Moon's age at 12:00 UTC", age, "days"});
+    std::vector<RiseSetTableRow> typed;
+    for (std::size_t row = 0; row < rows; ++row)
+        if (std::ranges::any_of(m_table->boxesOfRow(row),
+                                [](const EntryBox* box) { return !box->text().isEmpty(); }))
+            typed.push_back({row + 1, input(row), &m_results[row]});
+    if (!typed.empty()) paper.tables = {riseSetTable(typed)};
+    paper.workings = riseSetWorkings(
+        {m_row + 1, input(m_row), &m_results[m_row], m_lblRow->text().toStdString()});
+    paper.limits = riseSetLimits();
+    paper.list = riseSetList(typed);
+    return paper;
 }
 
 void frmSunMoon::showRowInFocus()

@@ -24,6 +24,7 @@ public:
 
 protected:
     void applyColours() override;
+    WorkingPaper paper() const override;
 
 private:
     void addControls();
@@ -31,6 +32,7 @@ private:
     void addMenus();
 
     NavFunc113::DateTime today();
+    RiseSetInput input(std::size_t row) const;
     void runRows(std::size_t first, std::size_t last);
     void showRow(std::size_t row);
     void showDoubts(std::size_t row);

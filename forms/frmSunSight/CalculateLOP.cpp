@@ -58,12 +58,6 @@ std::vector<WorksheetLine> worksheetOf(const SightCorrections& sight)
     return lines;
 }
 
-DegMin withinCircle(DegMin GHA)
-{
-    const Degrees degrees = DegMinToDeg(GHA);
-    return DegToDegMin(degrees < Degrees(0) ? degrees + fullTurn : degrees);
-}
-
 void showTimes(const SightTexts& sight, DateTime UTC, LOPResult& result)
 {
     result.UTC = Format(UTC, "yyyy/mm/dd hh:mm:ss") + " UTC";
@@ -82,7 +76,10 @@ void showLine(const Observation& observation, const Position& DR, LOPResult& res
         PlaceAboveHorizon(DegMinToDeg(*observation.GHA), DegMinToDeg(*observation.declination), DR);
     const DegMin Hc = DegToDegMin(sun.altitude);
     result.Hc = angleText(Hc);
-    result.azimuth = azimuthOfSun(*observation.GHA, *observation.declination, DR);
+    const auto quotient = azimuthByQuotient(*observation.GHA, *observation.declination, DR);
+    result.azimuth = quotient.value_or(sun.azimuth);
+    result.figures.sun = sun;
+    result.figures.isByQuotient = quotient.has_value();
     result.Zn = courseText(*result.azimuth, "000.0");
     if (sun.altitude < Degrees(0))
         remarks.warn("The Sun is below the horizon of the DR position: check date, time and "
@@ -126,6 +123,9 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
         showLine(observation, *DR, result, remarks);
     else if (track.position && track.timeUsable && track.motion && observation.UTC)
         remarks.fault("DR position: the run from its time ends beyond latitude 89");
+    result.figures.observation = observation;
+    result.figures.track = track;
+    result.figures.DR = DR;
     result.notice = remarks.text();
     return result;
 }

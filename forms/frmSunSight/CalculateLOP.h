@@ -15,6 +15,15 @@ struct WorksheetLine {
     std::string text; ///< minutes with sign, "-2.9'"; angles "24.-31'3"
 };
 
+/// What the line of position was calculated from; absent is what an unusable input left out.
+struct LOPFigures {
+    Observation observation;
+    Track track;
+    std::optional<NavFunc113::Position> DR;      ///< run to the time of the sight
+    std::optional<NavFunc113::HorizonPlace> sun; ///< from there
+    bool isByQuotient = true;                    ///< the azimuth; else by the four-quadrant form
+};
+
 struct LOPResult {                        ///< an empty text blanks the label
     std::string UTC;                      ///< resolved, with its date
     std::string SMT;                      ///< the same with TD, when the watch keeps SMT
@@ -28,6 +37,7 @@ struct LOPResult {                        ///< an empty text blanks the label
     std::string intercept; ///< "10'.8 T" towards, "3'.8 A" away
     std::string Zn;
     std::optional<NavFunc113::Degrees> azimuth; ///< the same in full
+    LOPFigures figures;
     std::string notice; ///< every input that cannot be used, then what the officer should know
 };
 

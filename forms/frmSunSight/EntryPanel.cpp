@@ -179,11 +179,47 @@ SightFixOptions EntryPanel::options() const
     return texts;
 }
 
+std::vector<PaperFigure> EntryPanel::paperFigures() const
+{
+    using namespace SightField;
+    std::vector<PaperFigure> figures = {
+        {"The watch keeps", m_optSunScale[1]->isChecked() ? "SMT, ship's mean time" : "UTC"},
+        {"Limb", m_optSunLimb[1]->isChecked() ? "upper" : "lower"}};
+    const auto add = [&](const FieldBoxes& boxes, std::size_t field, const QString& empty) {
+        PaperFigure figure = boxes.paperFigure(field);
+        if (boxes[field]->value().empty() && !empty.isEmpty())
+            figure.value = empty.toStdString() + " (nothing entered)";
+        figures.push_back(figure);
+    };
+    for (std::size_t field = 0; field < m_entry.size(); ++field) {
+        if (field == TD && !m_optSunScale[1]->isChecked()) continue;
+        const bool isZero = field == TD || field == watchError || field == indexError ||
+                            field == heightOfEye || field == course || field == speed;
+        add(m_entry, field,
+            isZero            ? QString("0")
+            : field == DRTime ? QString("time of the last sight")
+                              : m_entry[field]->placeholderText());
+    }
+    for (std::size_t field = 0; field < m_quality.size(); ++field)
+        add(m_quality, field, m_quality[field]->placeholderText());
+    figures.push_back({"Ellipse", m_chkSunMeasured->isChecked() ? "scaled by the residuals"
+                                                                : "with the assumed sigma"});
+    return figures;
+}
+
 void EntryPanel::fill(const SightTexts& sight)
 {
     fillBoxes(sight, sightMembers, m_entry, 0);
     m_optSunScale[sight.SMT ? 1 : 0]->setChecked(true);
     m_optSunLimb[sight.upperLimb ? 1 : 0]->setChecked(true);
+}
+
+void EntryPanel::clearSight()
+{
+    SightTexts empty;
+    empty.SMT = sight().SMT;
+    empty.TD = sight().TD;
+    fill(empty);
 }
 
 void EntryPanel::fill(const TrackTexts& track)
@@ -195,6 +231,14 @@ void EntryPanel::fill(const SightFixOptions& options)
 {
     fillBoxes(options, qualityMembers, m_quality, 0);
     m_chkSunMeasured->setChecked(options.measured);
+}
+
+std::vector<EntryBox*> EntryPanel::fixBoxes() const
+{
+    std::vector<EntryBox*> boxes = m_quality.all();
+    for (EntryBox* box : m_entry.part(SightField::ofSight, SightField::ofTrack))
+        boxes.push_back(box);
+    return boxes;
 }
 
 void EntryPanel::turnTo(std::size_t field)

@@ -27,16 +27,19 @@ public:
     TrackTexts track() const;
     SightFixOptions options() const;
     void fill(const SightTexts& sight);
+    /// Empties the sight; scale and TD stay for the next one.
+    void clearSight();
     void fill(const TrackTexts& track);
     void fill(const SightFixOptions& options);
 
+    /// All that is typed, as it is understood; empty boxes with what they stand for.
+    std::vector<PaperFigure> paperFigures() const;
+
     EntryBox* box(std::size_t field) const { return m_entry[field]; }
-    std::vector<EntryBox*> sightBoxes() const { return m_entry.part(0, SightField::ofSight); }
-    std::vector<EntryBox*> trackBoxes() const
-    {
-        return m_entry.part(SightField::ofSight, SightField::ofTrack);
-    }
-    std::vector<EntryBox*> qualityBoxes() const { return m_quality.all(); }
+    /// What the line of position depends on: sight and track.
+    std::vector<EntryBox*> lineBoxes() const { return m_entry.all(); }
+    /// What the fix depends on: how good the lines are, and the track.
+    std::vector<EntryBox*> fixBoxes() const;
 
     /// The row of boxes that lies beside the fix.
     QWidget* qualityRow() const { return m_qualityRow; }

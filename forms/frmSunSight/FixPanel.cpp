@@ -100,6 +100,17 @@ void FixPanel::setColours(const ColourScheme& colours)
     m_picSunSight->setColours(colours);
 }
 
+std::vector<PaperPicture> FixPanel::paperPictures()
+{
+    constexpr int side = 540; // pixels of a screen: the plot stays square
+    if (!m_picSunSight->plot().middle) return {};
+    return {makePaperPicture("Lines of position, 40 miles each way around the DR position",
+                             QSize(side * 10 / 9, side),
+                             [this](QPainter& painter, const QSize& size) {
+                                 m_picSunSight->drawOnPaper(painter, size);
+                             })};
+}
+
 void FixPanel::showCursor(QPointF user)
 {
     const CursorTexts texts = cursorTexts(m_picSunSight->plot(), {user.x(), user.y()});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/PaperDocument.h"
 #include "app/shell/ResultLabel.h"
 #include "forms/frmSunSight/DrawLOP.h"
 
@@ -24,6 +25,8 @@ public:
     /// @return what lies outside the plot
     std::string showFix(const SightFixResult& fix);
     void setColours(const ColourScheme& colours);
+    /// The plot for a working paper; nothing before there is a DR position.
+    std::vector<PaperPicture> paperPictures();
 
     /// Called with what lies outside the plot when the officer has looked at another part of it.
     std::function<void(const std::string&)> onView;

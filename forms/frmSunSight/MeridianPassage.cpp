@@ -35,13 +35,17 @@ std::string noonText(DateTime noon, const SightTexts& sight)
     return text;
 }
 
-std::string greatestText(DateTime noon, const Position& ship, const Motion& motion)
+std::string greatestText(DateTime noon, const Position& ship, const Motion& motion,
+                         MeridianFigures& figures)
 {
-    const double delay =
-        GreatestAltitudeDelay(ship.latitude, DegMinToDeg(SunDeclination(noon)), sunNorthward(noon),
-                              motion.speed.value() * cos(motion.course));
-    return "greatest altitude " + Format(std::fabs(delay), "0") + " s " +
-           (delay < 0 ? "earlier" : "later");
+    figures.atNoon = ship;
+    figures.declinationAtNoon = DegMinToDeg(SunDeclination(noon));
+    figures.sunNorthward = sunNorthward(noon);
+    figures.shipNorthward = motion.speed.value() * cos(motion.course);
+    figures.delay = GreatestAltitudeDelay(ship.latitude, figures.declinationAtNoon,
+                                          figures.sunNorthward, figures.shipNorthward);
+    return "greatest altitude " + Format(std::fabs(figures.delay), "0") + " s " +
+           (figures.delay < 0 ? "earlier" : "later");
 }
 
 /// A DR position is trusted as far as the plot reaches, forty miles each way: the other latitude is
@@ -68,6 +72,10 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     const Degrees declination = DegMinToDeg(*observation.declination);
     const Degrees Ho = DegMinToDeg(observation.corrections->Ho);
     const Degrees hourAngle = WithinHalfTurn(DegMinToDeg(*observation.GHA) + ship.longitude);
+    MeridianFigures& figures = result.figures;
+    figures.Ho = Ho;
+    figures.declination = declination;
+    figures.hourAngle = hourAngle;
     if (!IsNearMeridian(hourAngle, Ho)) {
         result.note = "No latitude: the sight is not near the meridian, " +
                       Format(fabs(hourAngle).value() * 4, "0.0") + " min from it";
@@ -82,8 +90,10 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     const bool isSouth = ship.latitude > latitudes->between;
     const Degrees reduced = isSouth ? latitudes->bodyToTheSouth : latitudes->bodyToTheNorth;
     result.latitude = latitudeText(reduced);
-    result.note =
-        meridianNote(hourAngle, MilesOfArc(reduced - MeridianLatitude(declination, Ho, isSouth)));
+    figures.latitudes = latitudes;
+    figures.isSouth = isSouth;
+    figures.reduction = MilesOfArc(reduced - MeridianLatitude(declination, Ho, isSouth));
+    result.note = meridianNote(hourAngle, figures.reduction);
     if (!isSideInDoubt(*latitudes, ship.latitude)) return;
     result.latitude =
         latitudeText(latitudes->bodyToTheSouth) + " or " + latitudeText(latitudes->bodyToTheNorth);
@@ -105,11 +115,13 @@ MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trac
     if (!ship) return result;
     try {
         if (track.motion) {
-            const DateTime noon = LocalApparentNoon(*observation.UTC, *ship, *track.motion);
+            const DateTime noon =
+                LocalApparentNoon(*observation.UTC, *ship, *track.motion, result.figures.steps);
+            result.figures.noon = noon;
             const Position then =
                 Advanced(*ship, *track.motion, Hours((noon - *observation.UTC) * 24));
             result.noon = noonText(noon, sight);
-            result.greatest = greatestText(noon, then, *track.motion);
+            result.greatest = greatestText(noon, then, *track.motion, result.figures);
         }
         if (observation.complete()) latitudeBySight(observation, *ship, result);
     } catch (const ArithmeticError& error) {

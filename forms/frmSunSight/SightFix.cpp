@@ -93,10 +93,13 @@ void takeFix(const ErrorModel& errors, const SightFixOptions& options, SightFixR
         return;
     }
     const Agreement agreement = AgreementOfLines(sights, *result.DR, result.motion, errors);
+    result.solution = fix;
+    result.errors = errors;
     describeFix(fix, result);
     describeEllipse(fix, errors, options, agreement.agrees, result);
     describeAgreement(agreement, result, remarks);
     warnOfGeometry(fix, result, remarks);
+    result.agreement = agreement;
 }
 
 } // namespace
@@ -129,6 +132,12 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
     }
     result.notice = remarks.text();
     return result;
+}
+
+TrackTexts trackFrom(const SightFixResult& fix, const TrackTexts& before)
+{
+    return {fix.memoLatitude, fix.memoLongitude, Format(*fix.UTC, "yyyy/mm/dd hh:mm:ss"),
+            before.course, before.speed};
 }
 
 } // namespace korvel

@@ -35,6 +35,10 @@ struct SightFixResult {
     NavFunc113::Motion motion;
     std::vector<FixLine> lines;
 
+    std::optional<NavFunc113::Fix> solution; ///< what all below follows from
+    NavFunc113::Agreement agreement;
+    NavFunc113::ErrorModel errors;
+
     std::optional<FixPoint> fix;
     std::vector<FixPoint> without; ///< when lines do not agree: the fix of the rest, or the fixes
                                    ///< without one each that may be out
@@ -54,5 +58,9 @@ struct SightFixResult {
 SightFixResult CalculateFix(const SightList& list, const TrackTexts& track,
                             const SightFixOptions& options,
                             std::optional<NavFunc113::DateTime> now);
+
+/// The track that goes on from a fix, with the course and speed of the one before.
+/// @param fix with a position
+TrackTexts trackFrom(const SightFixResult& fix, const TrackTexts& before);
 
 } // namespace korvel

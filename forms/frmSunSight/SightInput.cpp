@@ -9,7 +9,6 @@
 #include "forms/frmSunSight/SightFields.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
-#include "navlib/ephemeris.h"
 
 #include <cmath>
 
@@ -118,6 +117,12 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
     const auto month = static_cast<float>(DateOf(*UTC).month);
     const Metres eye(*inputs.eye);
     const auto pressure = static_cast<float>(*inputs.pressure);
+    corrections.observed = observed;
+    corrections.month = DateOf(*UTC).month;
+    corrections.heightOfEye = eye;
+    corrections.air = *inputs.air;
+    corrections.sea = *inputs.sea;
+    corrections.pressure = pressure;
     try {
         corrections.terms =
             SunAltitudeTerms(observed, month, eye, *inputs.air, *inputs.sea, pressure);
@@ -169,8 +174,9 @@ Observation readObservation(const SightTexts& texts, Remarks& remarks)
     observation.corrections = correct(texts, observation.UTC, remarks);
     if (observation.UTC) {
         try {
-            observation.GHA = SunGHA(*observation.UTC);
-            observation.declination = SunDeclination(*observation.UTC);
+            observation.sun = FiguresOfSun(*observation.UTC);
+            observation.GHA = observation.sun->GHA;
+            observation.declination = observation.sun->declination;
         } catch (const ArithmeticError& error) {
             remarks.fault(std::string("Place of the Sun: ") + error.what());
         }

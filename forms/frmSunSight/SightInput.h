@@ -3,6 +3,7 @@
 
 #include "app/Remarks.h"
 #include "forms/frmSunSight/SightTexts.h"
+#include "navlib/ephemeris.h"
 #include "navlib/sight_fix.h"
 #include "navlib/sight_reduction.h"
 #include "navlib/units.h"
@@ -25,7 +26,13 @@ struct SightContext {
 /// Corrections of a sight, those of the library and what stands before and after them.
 struct SightCorrections {
     NavFunc113::DegMin Hs;
-    double indexError = 0; ///< minutes, as taken off
+    double indexError = 0;       ///< minutes, as taken off
+    NavFunc113::DegMin observed; ///< index error taken off: the altitude above the sea horizon
+    int month = 0;
+    NavFunc113::Metres heightOfEye;
+    double air = 0;     ///< degrees Celsius
+    double sea = 0;     ///< degrees Celsius
+    float pressure = 0; ///< hectopascals
     NavFunc113::AltitudeCorrectionTerms terms;
     double upperLimb = 0; ///< minutes; 0 for the lower limb
     NavFunc113::DegMin Ho;
@@ -34,7 +41,8 @@ struct SightCorrections {
 /// A sight with its inputs resolved; what could not be resolved is absent.
 struct Observation {
     std::optional<NavFunc113::DateTime> UTC;
-    std::optional<NavFunc113::DegMin> GHA; ///< as the library gives it
+    std::optional<NavFunc113::SunFigures> sun; ///< what the two below follow from
+    std::optional<NavFunc113::DegMin> GHA;     ///< as the library gives it
     std::optional<NavFunc113::DegMin> declination;
     std::optional<SightCorrections> corrections;
 

@@ -13,19 +13,38 @@ namespace korvel
 
 using namespace NavFunc113;
 
-Degrees azimuthOfSun(DegMin GHA, DegMin declination, const Position& position)
+std::optional<Degrees> azimuthByQuotient(DegMin GHA, DegMin declination, const Position& position)
 {
     try {
         return ComputedAzimuth(GHA, declination, DegToDegMin(position.latitude),
                                DegToDegMin(position.longitude));
     } catch (const ArithmeticError&) {
-        return PlaceAboveHorizon(DegMinToDeg(GHA), DegMinToDeg(declination), position).azimuth;
+        return std::nullopt;
     }
+}
+
+Degrees azimuthOfSun(DegMin GHA, DegMin declination, const Position& position)
+{
+    if (const auto azimuth = azimuthByQuotient(GHA, declination, position)) return *azimuth;
+    return PlaceAboveHorizon(DegMinToDeg(GHA), DegMinToDeg(declination), position).azimuth;
+}
+
+DegMin withinCircle(DegMin GHA)
+{
+    const Degrees degrees = DegMinToDeg(GHA);
+    return DegToDegMin(degrees < Degrees(0) ? degrees + fullTurn : degrees);
 }
 
 std::string angleText(DegMin angle)
 {
     return Format(angle, "0.-00'0");
+}
+
+std::string angleInFull(DegMin angle)
+{
+    const int tenths = tenthsShown(angle);
+    return (tenths < 0 ? "-" : "") + std::to_string(std::abs(tenths) / 600) + "°" +
+           Format(std::abs(tenths) % 600 / 10.0, "00.0") + "'";
 }
 
 int tenthsShown(DegMin angle)

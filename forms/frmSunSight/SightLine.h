@@ -16,8 +16,19 @@ namespace korvel
 NavFunc113::Degrees azimuthOfSun(NavFunc113::DegMin GHA, NavFunc113::DegMin declination,
                                  const NavFunc113::Position& position);
 
+/// The same, nothing where the library's quotient faults.
+std::optional<NavFunc113::Degrees> azimuthByQuotient(NavFunc113::DegMin GHA,
+                                                     NavFunc113::DegMin declination,
+                                                     const NavFunc113::Position& position);
+
+/// A GHA of the library as it is shown, 0 to 360.
+NavFunc113::DegMin withinCircle(NavFunc113::DegMin GHA);
+
 /// "24.-31'3".
 std::string angleText(NavFunc113::DegMin angle);
+
+/// "24°31.3'", the same figure as angleText() in full.
+std::string angleInFull(NavFunc113::DegMin angle);
 
 /// An angle in tenths of minutes as angleText() shows it.
 int tenthsShown(NavFunc113::DegMin angle);

@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace korvel
 {
@@ -135,15 +136,29 @@ double SightPicture::unit() const
 void SightPicture::resizeEvent(QResizeEvent* event)
 {
     PictureBox::resizeEvent(event);
+    setPlotMargins(marginsFor(size()));
+}
+
+QMargins SightPicture::marginsFor(const QSize& size) const
+{
     const QFontMetrics metrics = fontMetrics();
     const int left = metrics.horizontalAdvance("00-.00'0N ");
     const int bottom = metrics.height() * 5 / 4;
     const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-.00'0W") * 5 / 9;
-    const int side = std::max(1, std::min(width() - left - right, height() - top - bottom));
-    const int aside = (width() - left - right - side) / 2;
-    const int above = (height() - top - bottom - side) / 2;
-    setPlotMargins(
-        {left + aside, top + above, width() - left - aside - side, height() - top - above - side});
+    const int wide = size.width(), high = size.height();
+    const int side = std::max(1, std::min(wide - left - right, high - top - bottom));
+    const int aside = (wide - left - right - side) / 2;
+    const int above = (high - top - bottom - side) / 2;
+    return {left + aside, top + above, wide - left - aside - side, high - top - above - side};
+}
+
+void SightPicture::drawOnPaper(QPainter& painter, const QSize& size)
+{
+    const ColourScheme onScreen = std::exchange(m_colours, ColourScheme::day());
+    setPlotMargins(marginsFor(size));
+    drawOn(painter, size);
+    setPlotMargins(marginsFor(this->size()));
+    m_colours = onScreen;
 }
 
 QPen SightPicture::pen(const QColor& colour, double widths, Qt::PenStyle style) const
@@ -171,13 +186,20 @@ void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words
     QPainterPath path;
     path.addText(at, painter.font(), words);
     painter.strokePath(path, pen(m_colours.paper, 3));
-    painter.fillPath(path, m_colours.ink);
+    if (!isOnPaper()) {
+        painter.fillPath(path, m_colours.ink);
+        return;
+    }
+    painter.setPen(m_colours.ink); // letters, to be found in the file
+    painter.drawText(at, words);
 }
 
 void SightPicture::draw(QPainter& painter)
 {
-    painter.fillRect(painter.viewport(), m_colours.paper);
-    painter.setFont(font());
+    if (!isOnPaper()) {
+        painter.fillRect(painter.viewport(), m_colours.paper);
+        painter.setFont(font());
+    }
     paintGrid(painter);
     if (!m_plot.middle) return;
     paintScale(painter);

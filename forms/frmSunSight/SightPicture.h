@@ -20,6 +20,8 @@ public:
     void showPlot(const SightPlot& plot);
     const SightPlot& plot() const { return m_plot; }
     void setColours(const ColourScheme& colours);
+    /// Draws the plot at another size in the colours of the day.
+    void drawOnPaper(QPainter& painter, const QSize& size);
 
 signals:
     /// The officer wants another part of the chart: by wheel, drag or key.
@@ -44,6 +46,7 @@ private:
     void paintText(QPainter& painter, QPointF at, const QString& text) const;
     QPen pen(const QColor& colour, double widths, Qt::PenStyle style = Qt::SolidLine) const;
     QPointF pixel(const PlotPoint& point) const { return toPixel(point.x, point.y); }
+    QMargins marginsFor(const QSize& size) const;
     QPolygonF polygon(const std::vector<PlotPoint>& points) const;
     double unit() const; ///< a length of the picture's font, for marks and pens
 

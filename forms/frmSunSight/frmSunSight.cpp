@@ -1,34 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/frmSunSight.h"
-#include "app/shell/asQString.h"
 
 #include "app/Format.h"
 #include "app/reading.h"
+#include "app/shell/asQString.h"
 #include "forms/frmSunSight/EntryPanel.h"
 #include "forms/frmSunSight/FixPanel.h"
 #include "forms/frmSunSight/LinePanel.h"
+#include "forms/frmSunSight/SightLayout.h"
 #include "forms/frmSunSight/SightListPanel.h"
+#include "forms/frmSunSight/SightPaper.h"
 
-#include <QGridLayout>
-#include <QGroupBox>
 #include <QMenu>
-#include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace korvel
 {
-namespace
-{
-
-} // namespace
 
 frmSunSight::frmSunSight(Program& program)
     : CalculatorWindow(program, "frmSunSight", "Sun sight"), m_entry(new EntryPanel(body())),
       m_lines(new LinePanel(body())), m_fixes(new FixPanel(body())),
       m_sights(new SightListPanel(body()))
 {
-    layOut();
+    layOut({*m_entry, *m_lines, *m_fixes, *m_sights}, *scrollBody());
+    foldColumns();
     connectPanels();
     addSightMenu();
     addMemoMenus();
@@ -37,30 +31,9 @@ frmSunSight::frmSunSight(Program& program)
     followTD();
     useRecord();
     loadSettings();
-    if (!m_list.sights().empty()) calculations().run(m_fixCalculation);
+    if (!m_list.list().sights().empty()) calculations().run(m_fixCalculation);
     m_entry->box(SightField::date)->setFocus();
     m_entry->box(SightField::date)->selectAll();
-}
-
-void frmSunSight::layOut()
-{
-    auto* grid = new QGridLayout(scrollBody());
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(4);
-    auto* typed = new QVBoxLayout;
-    typed->setSpacing(4);
-    typed->addWidget(m_entry);
-    typed->addWidget(m_lines->noon());
-    typed->addStretch(1);
-    grid->addLayout(typed, 0, 0, 3, 1);
-    grid->addWidget(m_lines, 0, 1);
-    grid->addWidget(m_fixes, 0, 2);
-    grid->addWidget(m_sights, 1, 1, 1, 2);
-    grid->addWidget(m_entry->qualityRow(), 2, 1, 1, 2);
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(0, 3);
-    grid->setRowStretch(1, 1);
-    foldColumns();
 }
 
 void frmSunSight::connectPanels()
@@ -99,7 +72,7 @@ void frmSunSight::addSightMenu()
     add(sight, "mnuSight", 2, "&Edit the chosen sight", &frmSunSight::cmdEdit_Click);
     add(sight, "mnuSight", 3, "&Delete the chosen sight", &frmSunSight::cmdDelete_Click);
     add(sight, "mnuSight", 4, "&Fix becomes the DR position", &frmSunSight::fixBecomesDR);
-    menus().addEntry(sight, "mnuSight", 5, "&Print", [this] { printForm(); });
+    menus().addEntry(sight, "mnuSight", 5, "&Print", [this] { printPaper(); });
     QMenu* clear = menus().add("&Clear", "mnuAC");
     add(clear, "mnuAC", 0, "&Sight being entered", &frmSunSight::clearSight);
     add(clear, "mnuAC", 1, "&All recorded sights", &frmSunSight::deleteAll);
@@ -123,14 +96,10 @@ void frmSunSight::addMemoMenus()
 
 void frmSunSight::addCalculations()
 {
-    std::vector<EntryBox*> ofLine = m_entry->sightBoxes(), ofFix = m_entry->qualityBoxes();
-    for (EntryBox* box : m_entry->trackBoxes()) {
-        ofLine.push_back(box);
-        ofFix.push_back(box);
-    }
-    m_lineCalculation =
-        calculations().add({"Line of position", ofLine, m_lines->results(), [this] { runLine(); }});
-    m_fixCalculation = calculations().add({"Fix", ofFix, m_fixes->results(), [this] { runFix(); }});
+    m_lineCalculation = calculations().add(
+        {"Line of position", m_entry->lineBoxes(), m_lines->results(), [this] { runLine(); }});
+    m_fixCalculation =
+        calculations().add({"Fix", m_entry->fixBoxes(), m_fixes->results(), [this] { runFix(); }});
 }
 
 void frmSunSight::useRecord()
@@ -138,7 +107,8 @@ void frmSunSight::useRecord()
     record().use(
         "KV_SunSight.ini", sightKinds(),
         [this] {
-            return recordOf({m_entry->sight(), m_entry->track(), m_entry->options(), m_list});
+            return recordOf(
+                {m_entry->sight(), m_entry->track(), m_entry->options(), m_list.list()});
         },
         [this](const Record& record) { takeOver(settingsOf(record)); },
         [this](const std::string& bytes) { salvage(bytes); });
@@ -152,8 +122,8 @@ void frmSunSight::takeOver(const SightSettings& settings)
     m_entry->fill(sight);
     m_entry->fill(settings.track);
     m_entry->fill(settings.options);
-    m_list = settings.list;
-    if (const std::size_t count = m_list.unreadable().size())
+    m_list.take(settings.list);
+    if (const std::size_t count = settings.list.unreadable().size())
         setNotice("list", QString("%1 of the recorded sights cannot be read; the file keeps them "
                                   "as they stand.")
                               .arg(count));
@@ -161,33 +131,36 @@ void frmSunSight::takeOver(const SightSettings& settings)
 
 void frmSunSight::salvage(const std::string& bytes)
 {
-    m_list = SightList::salvaged(bytes);
+    m_list.take(SightList::salvaged(bytes));
     setNotice("list", QString("Found in the damaged settings file: %1 recorded sights. Check them.")
-                          .arg(m_list.sights().size()));
+                          .arg(m_list.list().sights().size()));
 }
 
 SightContext frmSunSight::context()
 {
-    return {m_list.lastOn(m_editing), program().shipsTime().UTC(),
+    return {m_list.list().lastOn(m_list.edited()), program().shipsTime().UTC(),
             NavFunc113::Hours(readNumber(m_shipsTD.toStdString()))};
 }
 
 void frmSunSight::runLine()
 {
     m_line = {};
+    m_noon = {};
     const SightTexts sight = m_entry->sight();
     const TrackTexts track = m_entry->track();
     m_line = CalculateLOP(sight, track, context());
-    m_lines->showResults(m_line, CalculateMeridian(sight, track, context()));
+    m_noon = CalculateMeridian(sight, track, context());
+    m_lines->showResults(m_line, m_noon);
     setNotice("1 sight", asQString(m_line.notice));
 }
 
 void frmSunSight::runFix()
 {
     m_fix = {};
-    m_fix = CalculateFix(m_list, m_entry->track(), m_entry->options(), program().shipsTime().UTC());
+    m_fix = CalculateFix(m_list.list(), m_entry->track(), m_entry->options(),
+                         program().shipsTime().UTC());
     const std::string outside = m_fixes->showFix(m_fix);
-    m_sights->showSights(m_list, m_fix);
+    m_sights->showSights(m_list.list(), m_fix);
     setNotice("2 fix", asQString(m_fix.notice));
     setNotice("3 plot", asQString(outside));
 }
@@ -202,13 +175,12 @@ void frmSunSight::cmdMark_Click()
 
 void frmSunSight::cmdRecord_Click()
 {
-    const SightTexts sight = m_entry->sight();
-    const auto outcome = m_editing ? m_list.replace(*m_editing, sight) : m_list.record(sight);
+    const auto outcome = m_list.put(m_entry->sight());
     if (outcome != SightList::Outcome::Recorded) {
         program().questions().ask({outcomeText(outcome), programTitle, Buttons::Ok});
         return;
     }
-    setEditing({});
+    showEditing();
     listChanged();
     m_entry->turnTo(SightField::time);
 }
@@ -217,14 +189,16 @@ void frmSunSight::cmdEdit_Click()
 {
     const auto chosen = m_sights->chosen();
     if (!chosen) return;
-    setEditing(chosen);
-    m_entry->fill(m_list.sights()[*chosen].texts);
+    m_list.edit(chosen);
+    showEditing();
+    m_entry->fill(m_list.list().sights()[*chosen].texts);
     m_entry->turnTo(SightField::time);
 }
 
 void frmSunSight::cmdNew_Click()
 {
-    setEditing({});
+    m_list.edit({});
+    showEditing();
     m_entry->turnTo(SightField::time);
 }
 
@@ -232,13 +206,11 @@ void frmSunSight::cmdDelete_Click()
 {
     const auto chosen = m_sights->chosen();
     if (!chosen) return;
-    const Message question{"Delete this sight?\r\r" + listLine(m_list.sights()[*chosen]),
+    const Message question{"Delete this sight?\r\r" + listLine(m_list.list().sights()[*chosen]),
                            programTitle, Buttons::YesNo};
     if (program().questions().ask(question) != Answer::Yes) return;
-    const auto before = edited();
     m_list.remove(*chosen);
-    m_cleared.reset();
-    keepEditing(before);
+    showEditing();
     listChanged();
 }
 
@@ -250,11 +222,9 @@ void frmSunSight::switchSight(std::size_t index, bool on)
 
 void frmSunSight::clearSight()
 {
-    setEditing({});
-    SightTexts empty;
-    empty.SMT = m_entry->sight().SMT;
-    empty.TD = m_entry->sight().TD;
-    m_entry->fill(empty);
+    m_list.edit({});
+    showEditing();
+    m_entry->clearSight();
     m_entry->box(SightField::date)->setFocus(Qt::TabFocusReason);
 }
 
@@ -263,8 +233,7 @@ void frmSunSight::deleteAll()
     if (program().questions().ask(
             {"Are you sure to clear all contents?", programTitle, Buttons::YesNo}) != Answer::Yes)
         return;
-    m_list.clear();
-    m_cleared = m_entry->sight();
+    m_list.clear(m_entry->sight());
     clearSight();
     setNotice("list", {});
     listChanged();
@@ -272,14 +241,10 @@ void frmSunSight::deleteAll()
 
 void frmSunSight::undo()
 {
-    if (!m_list.canTakeBack() && !m_cleared) return;
-    const auto before = edited();
-    m_list.takeBack();
-    keepEditing(before);
-    // What was typed since the clearing is not written over.
-    if (m_cleared && !m_entry->sight().isBegun()) m_entry->fill(*m_cleared);
-    m_cleared.reset();
-    setNotice("list", m_list.canTakeBack()
+    if (!m_list.canUndo()) return;
+    if (const auto cleared = m_list.undo(!m_entry->sight().isBegun())) m_entry->fill(*cleared);
+    showEditing();
+    setNotice("list", m_list.list().canTakeBack()
                           ? "The list is full: not all of the deleted sights could come back."
                           : QString());
     listChanged();
@@ -287,10 +252,7 @@ void frmSunSight::undo()
 
 void frmSunSight::fixBecomesDR()
 {
-    if (!m_fix.fix) return;
-    m_entry->fill(TrackTexts{m_fix.memoLatitude, m_fix.memoLongitude,
-                             Format(*m_fix.UTC, "yyyy/mm/dd hh:mm:ss"), m_entry->track().course,
-                             m_entry->track().speed});
+    if (m_fix.fix) m_entry->fill(trackFrom(m_fix, m_entry->track()));
 }
 
 void frmSunSight::followTD()
@@ -306,34 +268,31 @@ void frmSunSight::listChanged()
 {
     calculations().run(m_fixCalculation);
     calculations().run(m_lineCalculation);
-    m_sights->setUndo(m_list.canTakeBack() || m_cleared.has_value());
+    m_sights->setUndo(m_list.canUndo());
     record().saveNow();
 }
 
-std::optional<SightTexts> frmSunSight::edited() const
+void frmSunSight::showEditing()
 {
-    if (!m_editing) return std::nullopt;
-    return m_list.sights()[*m_editing].texts;
-}
-
-/// After sights came or went: the one being edited may stand elsewhere, or be gone.
-void frmSunSight::keepEditing(const std::optional<SightTexts>& edited)
-{
-    const auto& sights = m_list.sights();
-    const auto at = std::ranges::find_if(
-        sights, [&](const RecordedSight& sight) { return edited && sight.texts == *edited; });
-    setEditing(at == sights.end()
-                   ? std::nullopt
-                   : std::optional(static_cast<std::size_t>(std::distance(sights.begin(), at))));
-}
-
-void frmSunSight::setEditing(std::optional<std::size_t> index)
-{
-    m_editing = index;
+    const auto index = m_list.edited();
     m_entry->setEditing(index.has_value());
-    setNotice("0 edit", index ? "The sight of " + asQString(listLine(m_list.sights()[*index])) +
+    setNotice("0 edit", index ? "The sight of " +
+                                    asQString(listLine(m_list.list().sights()[*index])) +
                                     " is being edited: put it back, or start a new one."
                               : QString());
+}
+
+WorkingPaper frmSunSight::paper() const
+{
+    WorkingPaper paper = CalculatorWindow::paper();
+    paper.inputs = m_entry->paperFigures();
+    addSights({m_entry->sight(), m_line, m_noon, m_list.list(), m_fix}, paper);
+    return paper;
+}
+
+std::vector<PaperPicture> frmSunSight::paperPictures()
+{
+    return m_fixes->paperPictures();
 }
 
 void frmSunSight::applyColours()

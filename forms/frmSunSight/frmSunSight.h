@@ -3,6 +3,8 @@
 
 #include "app/shell/CalculatorWindow.h"
 #include "forms/frmSunSight/CalculateLOP.h"
+#include "forms/frmSunSight/MeridianPassage.h"
+#include "forms/frmSunSight/SightEditing.h"
 #include "forms/frmSunSight/SightFix.h"
 #include "forms/frmSunSight/SightSettings.h"
 
@@ -27,9 +29,10 @@ public:
 
 protected:
     void applyColours() override;
+    WorkingPaper paper() const override;
+    std::vector<PaperPicture> paperPictures() override;
 
 private:
-    void layOut();
     void connectPanels();
     void addSightMenu();
     void addMemoMenus();
@@ -56,20 +59,17 @@ private:
     void followTD();
 
     void listChanged();
-    void setEditing(std::optional<std::size_t> index);
-    void keepEditing(const std::optional<SightTexts>& edited);
-    std::optional<SightTexts> edited() const;
+    void showEditing();
 
     EntryPanel* m_entry;
     LinePanel* m_lines;
     FixPanel* m_fixes;
     SightListPanel* m_sights;
 
-    SightList m_list;
-    std::optional<std::size_t> m_editing; ///< the recorded sight that stands in the boxes
-    std::optional<SightTexts> m_cleared;  ///< stood in the boxes when all was cleared
-    QString m_shipsTD;                    ///< as it was put into the box
+    SightEditing m_list;
+    QString m_shipsTD; ///< as it was put into the box
     LOPResult m_line;
+    MeridianResult m_noon;
     SightFixResult m_fix;
     int m_lineCalculation = 0;
     int m_fixCalculation = 0;

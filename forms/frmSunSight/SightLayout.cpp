@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/SightLayout.h"
+
+#include "forms/frmSunSight/EntryPanel.h"
+#include "forms/frmSunSight/FixPanel.h"
+#include "forms/frmSunSight/LinePanel.h"
+#include "forms/frmSunSight/SightListPanel.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+
+void layOut(const SightPanels& panels, QWidget& content)
+{
+    auto* grid = new QGridLayout(&content);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setVerticalSpacing(4);
+    auto* typed = new QVBoxLayout;
+    typed->setSpacing(4);
+    typed->addWidget(&panels.entry);
+    typed->addWidget(panels.lines.noon());
+    typed->addStretch(1);
+    grid->addLayout(typed, 0, 0, 3, 1);
+    grid->addWidget(&panels.lines, 0, 1);
+    grid->addWidget(&panels.fixes, 0, 2);
+    grid->addWidget(&panels.sights, 1, 1, 1, 2);
+    grid->addWidget(panels.entry.qualityRow(), 2, 1, 1, 2);
+    grid->setColumnStretch(2, 1);
+    grid->setRowStretch(0, 3);
+    grid->setRowStretch(1, 1);
+}
+
+} // namespace korvel
