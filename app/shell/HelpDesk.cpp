@@ -78,9 +78,9 @@ void HelpDesk::open(const HelpTopic& topic)
     QPointer<HelpWindow> window = question ? question->findChild<HelpWindow*>() : m_window.data();
     if (!window) window = new HelpWindow(m_manual, question);
     if (!question) m_window = window;
-    window->openAt(topic.pages, topic.name);
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
-    window->show();
+    window->show(); // first: a page that is not laid out has no place to scroll to
+    window->openAt(topic.pages, topic.name);
     window->raise();
     window->activateWindow();
 }

@@ -8,6 +8,7 @@
 
 class QAction;
 class QMenuBar;
+class QWidget;
 
 namespace korvel
 {

@@ -90,9 +90,10 @@ void HelpWindow::layOut()
 
     const int letter = fontMetrics().averageCharWidth();
     const int line = fontMetrics().lineSpacing();
-    beside->setSizes({28 * letter, 92 * letter});
     const QSize room = screen()->availableSize() - QSize(2 * line, 4 * line);
     resize(QSize(126 * letter, 36 * line).boundedTo(room));
+    const int list = std::min(28 * letter, width() / 4);
+    beside->setSizes({list, width() - list});
 }
 
 void HelpWindow::addKeys()

@@ -53,6 +53,7 @@ MainPanel::MainPanel()
 
 ResultLabel* MainPanel::makeLabel(const QString& name, const QString& accessibleName, double size)
 {
+    tellResultsToAssistiveTools(); // a name that is set makes the toolkit look at once
     auto* label = new ResultLabel(this);
     label->setObjectName(name);
     label->setAccessibleName(accessibleName);

@@ -22,8 +22,9 @@ const ColourScheme& Program::colours() const
 
 PaperHeading Program::paperHeading() const
 {
-    return {ship.name,         ship.voyage,  m_shipsTime.SMT(),
-            m_shipsTime.UTC(), m_saved.TD(), std::string(programTitle) + ' ' + programVersion};
+    std::string program = programTitle;
+    program.append(" ").append(programVersion);
+    return {ship.name, ship.voyage, m_shipsTime.SMT(), m_shipsTime.UTC(), m_saved.TD(), program};
 }
 
 } // namespace korvel

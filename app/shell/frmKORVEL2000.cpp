@@ -18,6 +18,7 @@ namespace
 {
 
 constexpr int clockInterval = 500; // milliseconds: the minute display is never a second late
+constexpr int placingTime = 200; // milliseconds in which a desktop places a new window
 
 } // namespace
 
@@ -200,7 +201,7 @@ void frmKORVEL2000::start()
     putInPlace(m_screen, *this, false);
     show();
     placeWindows();
-    if (m_isFirstStart) QTimer::singleShot(0, this, &frmKORVEL2000::greet);
+    if (m_isFirstStart) QTimer::singleShot(placingTime, this, &frmKORVEL2000::greet);
 }
 
 /// What an officer needs to know before the first figure: beside the main window, not before it,

@@ -44,8 +44,9 @@ protected:
         main = std::make_unique<frmKORVEL2000>(Machine{questions, clock, files, bell},
                                                calculatorWindows());
         main->start();
-        QCoreApplication::processEvents();
-        if (!help()) return;
+        if (!QTest::qWaitFor([] { return help() != nullptr; })) return;
+        help()->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(help()));
         firstPage = help()->view().toPlainText().toStdString();
         QTest::keyClick(help(), Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -181,7 +182,7 @@ TEST_F(HelpTest, comesOnceAtTheFirstStartAndGoesWithOneKey)
     main = std::make_unique<frmKORVEL2000>(Machine{questions, clock, files, bell},
                                            calculatorWindows());
     main->start();
-    QCoreApplication::processEvents();
+    QTest::qWait(300);
     EXPECT_EQ(help(), nullptr);
 }
 
@@ -189,6 +190,8 @@ TEST_F(HelpTest, opensAtTheBoxTheEntryAndTheQuestionInHand)
 {
     main->openWindow("frmWind");
     QWidget& wind = *shown("frmWind");
+    wind.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&wind));
     control(wind, "txtWind(2)").setFocus();
     QTest::keyClick(&control(wind, "txtWind(2)"), Qt::Key_F1);
     EXPECT_EQ(lineInHand(), "Apparent wind from the bow");
