@@ -204,7 +204,7 @@ void SightPicture::draw(QPainter& painter)
     if (!m_plot.middle) return;
     paintScale(painter);
     painter.save();
-    painter.setClipRect(plotArea());
+    painter.setClipRect(plotArea(), Qt::IntersectClip); // within the page
     for (const PlotLine& line : m_plot.lines)
         paintLine(painter, line);
     paintDR(painter);
