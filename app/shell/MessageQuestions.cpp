@@ -7,8 +7,8 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QStandardPaths>
 
 namespace korvel
@@ -89,21 +89,24 @@ QWidget* MessageQuestions::asker()
 
 Answer MessageQuestions::ask(const Message& message)
 {
-    MessageBox box(asker());
-    box.setWindowTitle(shown(message.title));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(shown(message.text));
-    box.setStandardButtons(buttonsOf(message.buttons));
+    // The window that it belongs to may be gone before, as at the end of the session.
+    const QPointer<MessageBox> box = new MessageBox(asker());
+    box->setWindowTitle(shown(message.title));
+    box->setTextFormat(Qt::PlainText);
+    box->setText(shown(message.text));
+    box->setStandardButtons(buttonsOf(message.buttons));
     if (message.buttons != Buttons::Ok) {
         const bool yesNo = message.buttons == Buttons::YesNo;
-        box.setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Cancel);
-        box.setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
-        box.setIcon(QMessageBox::Question);
+        box->setEscapeButton(yesNo ? QMessageBox::No : QMessageBox::Cancel);
+        box->setDefaultButton(yesNo ? QMessageBox::Yes : QMessageBox::Ok);
+        box->setIcon(QMessageBox::Question);
     } else {
-        box.setIcon(QMessageBox::Information);
+        box->setIcon(QMessageBox::Information);
     }
-    const int pressed = box.exec();
-    if (box.wasLeft() && message.buttons != Buttons::Ok) return Answer::Cancel;
+    const int pressed = box->exec();
+    const bool wasLeft = !box || box->wasLeft();
+    delete box.data();
+    if (wasLeft && message.buttons != Buttons::Ok) return Answer::Cancel;
     switch (pressed) {
     case QMessageBox::Yes:
         return Answer::Yes;
@@ -120,14 +123,16 @@ std::optional<std::string> MessageQuestions::input(const std::string& prompt,
                                                    const std::string& title,
                                                    const std::string& defaultAnswer)
 {
-    QInputDialog dialog(asker());
-    dialog.setWindowTitle(shown(title));
-    dialog.setLabelText(shown(prompt));
-    dialog.setTextValue(QString::fromStdString(defaultAnswer));
-    if (auto* box = dialog.findChild<QLineEdit*>()) box->selectAll();
-    placeBelowStartWindow(dialog);
-    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    return dialog.textValue().toStdString();
+    const QPointer<QInputDialog> dialog = new QInputDialog(asker());
+    dialog->setWindowTitle(shown(title));
+    dialog->setLabelText(shown(prompt));
+    dialog->setTextValue(QString::fromStdString(defaultAnswer));
+    placeBelowStartWindow(*dialog);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    std::optional<std::string> answer;
+    if (dialog && accepted) answer = dialog->textValue().toStdString();
+    delete dialog.data();
+    return answer;
 }
 
 namespace

@@ -4,6 +4,7 @@
 #include "app/shell/PaperDocument.h"
 #include "app/shell/PrintPreview.h"
 #include "app/shell/Program.h"
+#include "app/shell/execOwned.h"
 
 #include <QFileInfo>
 #include <QPainter>
@@ -43,15 +44,15 @@ void PagePrinter::setUp(QPrinter& printer, QPageLayout::Orientation orientation)
 
 bool PagePrinter::letChoose(QPrinter& printer) const
 {
-    QPrintDialog dialog(&printer, &m_window);
-    return dialog.exec() == QDialog::Accepted;
+    return execOwned(new QPrintDialog(&printer, &m_window)) == QDialog::Accepted;
 }
 
 void PagePrinter::print(const PaperDocument& document) const
 {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, QPageLayout::Portrait);
-    if (!PrintPreview(document, printer, &m_window).isWanted() || !letChoose(printer)) return;
+    const int wanted = execOwned(new PrintPreview(document, printer, &m_window));
+    if (wanted != QDialog::Accepted || !letChoose(printer)) return;
     paint(printer, [&](QPainter& painter) {
         const int first = std::max(printer.fromPage(), 1);
         document.drawPages(printer, painter, first, printer.toPage());

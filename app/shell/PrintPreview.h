@@ -11,15 +11,12 @@ namespace korvel
 
 class PaperDocument;
 
-/// The pages as they will be printed, before they are.
+/// The pages as they will be printed, before they are. Accepted when the officer wants them.
 class PrintPreview : public QDialog
 {
 public:
     /// @param document, printer must outlive the dialog
     PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent);
-
-    /// Shows the pages. @return true when the officer wants them printed
-    bool isWanted() { return exec() == Accepted; }
 
 private:
     void turn(int pages);

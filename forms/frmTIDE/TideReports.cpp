@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideReports.h"
 #include "app/shell/asQString.h"
+#include "app/shell/execOwned.h"
 
 #include "forms/frmTIDE/StationCheck.h"
 #include "forms/frmTIDE/Stations.h"
@@ -70,12 +71,12 @@ void TideReports::printWeek(const TideSubject& subject) const
 void TideReports::showWeek(const TideSubject& subject) const
 {
     const auto week = weekFrom(subject.station, subject.day.four.serial, subject.dates);
-    TableDialog dialog(&m_window, "dlgWeek", asQString(subject.place + ", seven days"),
-                       asQString("Zone time " + subject.day.four.lblTD +
-                                 ".  Not for navigation.  " + subject.lines.estimates),
-                       {"Date", "Moon", "Four constituents", "All constituents (difference)"},
-                       rowsOf(week), [this, &subject] { printWeek(subject); });
-    dialog.exec();
+    execOwned(
+        new TableDialog(&m_window, "dlgWeek", asQString(subject.place + ", seven days"),
+                        asQString("Zone time " + subject.day.four.lblTD +
+                                  ".  Not for navigation.  " + subject.lines.estimates),
+                        {"Date", "Moon", "Four constituents", "All constituents (difference)"},
+                        rowsOf(week), [this, &subject] { printWeek(subject); }));
 }
 
 void TideReports::saveMonth(const TideSubject& subject) const
@@ -108,9 +109,9 @@ void TideReports::checkFile(TideKind kind, const std::string& offeredPlace) cons
         return;
     }
     const StationCheck check = checkStation(m_program.files(), kind, *answer);
-    TableDialog dialog(&m_window, "dlgCheck", asQString(check.file), asQString(check.summary()),
-                       {"Field", "Meaning", "Value", "Unit", "Verdict"}, rowsOf(check));
-    dialog.exec();
+    execOwned(new TableDialog(&m_window, "dlgCheck", asQString(check.file),
+                              asQString(check.summary()),
+                              {"Field", "Meaning", "Value", "Unit", "Verdict"}, rowsOf(check)));
 }
 
 } // namespace korvel
