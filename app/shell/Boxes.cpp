@@ -152,6 +152,7 @@ void KeyUpBox::settle()
 std::vector<Kind> recordKinds(const std::vector<EntryBox*>& boxes)
 {
     std::vector<Kind> kinds;
+    kinds.reserve(boxes.size());
     for (const EntryBox* box : boxes)
         kinds.push_back(box->recordKind);
     return kinds;

@@ -74,6 +74,7 @@ QFont paperFont(double points)
 {
     QFont font;
     font.setPointSizeF(points);
+    font.setStyleStrategy(QFont::PreferNoShaping); // a search for "fix" finds no ligature
     return font;
 }
 

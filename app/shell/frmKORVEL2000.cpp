@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr int clockInterval = 500; // milliseconds: the minute display is never a second late
-constexpr int placingTime = 200; // milliseconds in which a desktop places a new window
+constexpr int placingTime = 200;   // milliseconds in which a desktop places a new window
 
 } // namespace
 

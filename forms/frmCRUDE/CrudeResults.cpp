@@ -77,9 +77,11 @@ void CrudeResults::layOutVolumes(QGridLayout* grid, int& row)
         ++row;
     };
     addHeading(grid, row++, "Oil");
-    figureRow("Density at 15 °C", add("lblDensity15", "Density at 15 °C, kg/m³", figure<&CrudeResult::density15>),
+    figureRow("Density at 15 °C",
+              add("lblDensity15", "Density at 15 °C, kg/m³", figure<&CrudeResult::density15>),
               new QLabel("kg/m³"));
-    figureRow("API at 60 °F", add("lblAPI60", "API at 60 °F", figure<&CrudeResult::api60>), new QLabel("°API"));
+    figureRow("API at 60 °F", add("lblAPI60", "API at 60 °F", figure<&CrudeResult::api60>),
+              new QLabel("°API"));
     figureRow("VCF", add("lblVCF", "VCF", figure<&CrudeResult::vcf>),
               addNote("lblVCFMethod", "Method of the VCF", figure<&CrudeResult::vcfMethod>));
     m_rangeFlag = addNote("lblRangeFlag", "Range of the table", figure<&CrudeResult::rangeFlag>);
@@ -87,18 +89,27 @@ void CrudeResults::layOutVolumes(QGridLayout* grid, int& row)
     grid->addWidget(m_rangeFlag, row - 1, 1, 1, 3);
 
     addHeading(grid, row++, "Volume");
-    figureRow("Total observed", add("lblTotalObserved", "Total observed", figure<&CrudeResult::totalObserved>),
+    figureRow("Total observed",
+              add("lblTotalObserved", "Total observed", figure<&CrudeResult::totalObserved>),
               nullptr);
-    figureRow("Free water", add("lblFreeWater", "Free water taken off", figure<&CrudeResult::freeWater>), nullptr);
-    figureRow("Gross observed", add("lblGrossObserved", "Gross observed", figure<&CrudeResult::grossObserved>),
+    figureRow("Free water",
+              add("lblFreeWater", "Free water taken off", figure<&CrudeResult::freeWater>),
               nullptr);
-    figureRow("Gross standard", add("lblGrossStandard", "Gross standard", figure<&CrudeResult::grossStandard>),
-              addNote("lblStandardMethod", "Method of the standard volume", figure<&CrudeResult::standardMethod>));
-    figureRow("Net standard", add("lblNetStandard", "Net standard", figure<&CrudeResult::netStandard>), nullptr);
-    figureRow("Barrels", add("lblBarrels", "Barrels", figure<&CrudeResult::barrels>),
-              addNote("lblBarrelsMethod", "Method of the barrels", figure<&CrudeResult::barrelsMethod>));
+    figureRow("Gross observed",
+              add("lblGrossObserved", "Gross observed", figure<&CrudeResult::grossObserved>),
+              nullptr);
+    figureRow("Gross standard",
+              add("lblGrossStandard", "Gross standard", figure<&CrudeResult::grossStandard>),
+              addNote("lblStandardMethod", "Method of the standard volume",
+                      figure<&CrudeResult::standardMethod>));
+    figureRow("Net standard",
+              add("lblNetStandard", "Net standard", figure<&CrudeResult::netStandard>), nullptr);
+    figureRow(
+        "Barrels", add("lblBarrels", "Barrels", figure<&CrudeResult::barrels>),
+        addNote("lblBarrelsMethod", "Method of the barrels", figure<&CrudeResult::barrelsMethod>));
     figureRow("Kilolitres", add("lblKilolitres", "Kilolitres", figure<&CrudeResult::kilolitres>),
-              addNote("lblKilolitresMethod", "Method of the kilolitres", figure<&CrudeResult::kilolitresMethod>));
+              addNote("lblKilolitresMethod", "Method of the kilolitres",
+                      figure<&CrudeResult::kilolitresMethod>));
 }
 
 void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
@@ -107,11 +118,19 @@ void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
     grid->addWidget(new QLabel("at 15 °C"), row, 1, Qt::AlignRight);
     grid->addWidget(new QLabel("at 60 °F"), row++, 2, Qt::AlignRight);
     grid->addWidget(new QLabel("Kilolitres"), row, 0);
-    grid->addWidget(add("lblKilolitres15", "Kilolitres by density, at 15 °C", figure<&CrudeResult::kilolitres15>), row, 1);
-    grid->addWidget(add("lblKilolitres60", "Kilolitres by density, at 60 °F", figure<&CrudeResult::kilolitres60>), row++, 2);
+    grid->addWidget(add("lblKilolitres15", "Kilolitres by density, at 15 °C",
+                        figure<&CrudeResult::kilolitres15>),
+                    row, 1);
+    grid->addWidget(add("lblKilolitres60", "Kilolitres by density, at 60 °F",
+                        figure<&CrudeResult::kilolitres60>),
+                    row++, 2);
     grid->addWidget(new QLabel("Barrels"), row, 0);
-    grid->addWidget(add("lblBarrels15", "Barrels by density, at 15 °C", figure<&CrudeResult::barrels15>), row, 1);
-    grid->addWidget(add("lblBarrels60", "Barrels by density, at 60 °F", figure<&CrudeResult::barrels60>), row++, 2);
+    grid->addWidget(
+        add("lblBarrels15", "Barrels by density, at 15 °C", figure<&CrudeResult::barrels15>), row,
+        1);
+    grid->addWidget(
+        add("lblBarrels60", "Barrels by density, at 60 °F", figure<&CrudeResult::barrels60>), row++,
+        2);
 }
 
 void CrudeResults::layOutTons(QGridLayout* grid, int& row)
@@ -126,17 +145,28 @@ void CrudeResults::layOutTons(QGridLayout* grid, int& row)
     };
     using Result = CrudeResult;
     using Tons = CrudeTons;
-    grid->addWidget(addNote("lblWeightMethod", "Method of the weight", figure<&Result::weightMethod>), row, 3);
+    grid->addWidget(
+        addNote("lblWeightMethod", "Method of the weight", figure<&Result::weightMethod>), row, 3);
     tonsRow("Metric tons, gross",
-            add("lblGrossMetricTonsInAir", "Metric tons gross, in air", figure<&Result::gross, &Tons::metricInAir>),
-            add("lblGrossMetricTonsInVacuo", "Metric tons gross, in vacuo", figure<&Result::gross, &Tons::metricInVacuo>));
-    tonsRow("Metric tons, net", add("lblMetricTonsInAir", "Metric tons net, in air", figure<&Result::net, &Tons::metricInAir>),
-            add("lblMetricTonsInVacuo", "Metric tons net, in vacuo", figure<&Result::net, &Tons::metricInVacuo>));
+            add("lblGrossMetricTonsInAir", "Metric tons gross, in air",
+                figure<&Result::gross, &Tons::metricInAir>),
+            add("lblGrossMetricTonsInVacuo", "Metric tons gross, in vacuo",
+                figure<&Result::gross, &Tons::metricInVacuo>));
+    tonsRow("Metric tons, net",
+            add("lblMetricTonsInAir", "Metric tons net, in air",
+                figure<&Result::net, &Tons::metricInAir>),
+            add("lblMetricTonsInVacuo", "Metric tons net, in vacuo",
+                figure<&Result::net, &Tons::metricInVacuo>));
     tonsRow("Long tons, gross",
-            add("lblGrossLongTonsInAir", "Long tons gross, in air", figure<&Result::gross, &Tons::longInAir>),
-            add("lblGrossLongTonsInVacuo", "Long tons gross, in vacuo", figure<&Result::gross, &Tons::longInVacuo>));
-    tonsRow("Long tons, net", add("lblLongTonsInAir", "Long tons net, in air", figure<&Result::net, &Tons::longInAir>),
-            add("lblLongTonsInVacuo", "Long tons net, in vacuo", figure<&Result::net, &Tons::longInVacuo>));
+            add("lblGrossLongTonsInAir", "Long tons gross, in air",
+                figure<&Result::gross, &Tons::longInAir>),
+            add("lblGrossLongTonsInVacuo", "Long tons gross, in vacuo",
+                figure<&Result::gross, &Tons::longInVacuo>));
+    tonsRow(
+        "Long tons, net",
+        add("lblLongTonsInAir", "Long tons net, in air", figure<&Result::net, &Tons::longInAir>),
+        add("lblLongTonsInVacuo", "Long tons net, in vacuo",
+            figure<&Result::net, &Tons::longInVacuo>));
 }
 
 void CrudeResults::show(const CrudeResult& result)

@@ -27,7 +27,8 @@ private:
     using Figure = const std::string& (*)(const CrudeResult&);
 
     ResultLabel* add(const char* name, const QString& words, Figure figure);
-    ResultLabel* addNote(const char* name, const QString& words, Figure figure); ///< words beside a figure
+    ResultLabel* addNote(const char* name, const QString& words,
+                         Figure figure); ///< words beside a figure
     void layOutVolumes(QGridLayout* grid, int& row);
     void layOutByDensity(QGridLayout* grid, int& row);
     void layOutTons(QGridLayout* grid, int& row);

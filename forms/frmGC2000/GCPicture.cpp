@@ -55,7 +55,7 @@ void GCPicture::draw(QPainter& painter)
     painter.fillRect(plotArea(), colours().paper);
     if (!m_chart.route.empty()) {
         painter.save();
-        painter.setClipRect(plotArea());
+        painter.setClipRect(plotArea(), Qt::IntersectClip);
         drawGrid(painter);
         drawLines(painter);
         drawPoints(painter);

@@ -72,7 +72,7 @@ void CurvePainter::drawAxisTexts() const
 void CurvePainter::drawCurve() const
 {
     m_painter.save();
-    m_painter.setClipRect(m_place.plot);
+    m_painter.setClipRect(m_place.plot, Qt::IntersectClip);
     m_painter.setPen(QPen(m_colours.curve, 1));
     for (const CurveLine& tick : m_picture.ticks)
         m_painter.drawLine(pixels(tick));
@@ -87,7 +87,7 @@ void CurvePainter::drawCurve() const
 void CurvePainter::drawAllConstituents(const NavFunc113::TideValues& values) const
 {
     m_painter.save();
-    m_painter.setClipRect(m_place.plot);
+    m_painter.setClipRect(m_place.plot, Qt::IntersectClip);
     QPolygonF curve;
     for (std::size_t i = 0; i < values.size(); ++i)
         curve << m_place.toPixel(static_cast<double>(i) / 2, values[i]);

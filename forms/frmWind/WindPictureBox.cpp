@@ -64,7 +64,7 @@ void WindPictureBox::draw(QPainter& painter)
 {
     painter.fillRect(plotArea(), colours().paper);
     painter.save();
-    painter.setClipRect(plotArea());
+    painter.setClipRect(plotArea(), Qt::IntersectClip);
     PictureHyouji(painter);
     if (m_figures) VectrHyouji(painter);
     drawShip(painter);

@@ -106,11 +106,11 @@ QMainWindow& work(frmKORVEL2000& main, const std::vector<ExampleLine>& lines, st
 
 std::vector<std::string> missingIn(const QString& working, const QMainWindow& window)
 {
-    static const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*)$");
+    static const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*|lblPlace|lblDate|lblTD|lblNow)$");
     std::vector<std::string> missing;
     for (const auto* label : window.findChildren<ResultLabel*>())
         if (!others.match(label->objectName()).hasMatch() &&
-            !working.contains(label->text().trimmed()))
+            !working.contains(label->text().simplified()))
             missing.push_back(label->objectName().toStdString());
     return missing;
 }
@@ -144,7 +144,7 @@ ExamplePaper workExample(const std::string& example, const QString& data)
     const QTextDocument& text = *paper.findChild<QTextEdit*>("txtPaper")->document();
     const std::string head = "Worked by the program (see examples). Source: " + source + ".\n\n";
     return {head + markdownOf(text), paper.paper().PDF(),
-            missingIn(text.toPlainText().section("Working: ", 1), window)};
+            missingIn(text.toPlainText().section("Working: ", 1).simplified(), window)};
 }
 
 } // namespace korvel
