@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/PaperDocument.h"
 
+#include "app/shell/PictureObjects.h"
 #include "app/shell/asQString.h"
 #include "app/shell/paper_html.h"
 
@@ -19,56 +20,8 @@ namespace
 constexpr double paperLetters = 8.5;  // points
 constexpr double footLetters = 7.5;   // points
 constexpr double pictureLetters = 11; // pixels
-constexpr double screenDots = 96;     // an inch
 constexpr int PDFDots = 1200;
 constexpr QMarginsF paperMargins(18, 15, 15, 12); // millimetres; the left one for the file
-
-enum { PictureObject = QTextFormat::UserObject + 1, PictureNumber = QTextFormat::UserProperty + 1 };
-
-/// Draws the pictures of a document, as large as its device needs them.
-class PictureObjects : public QObject, public QTextObjectInterface
-{
-    Q_OBJECT
-    Q_INTERFACES(QTextObjectInterface)
-
-public:
-    PictureObjects(std::vector<PaperPicture> pictures, QObject* parent)
-        : QObject(parent), m_pictures(std::move(pictures))
-    {
-    }
-
-    QSizeF intrinsicSize(QTextDocument* document, int, const QTextFormat& format) override
-    {
-        const QPaintDevice* device = document->documentLayout()->paintDevice();
-        const double scale = device ? device->logicalDpiX() / screenDots : 1;
-        const QSizeF size = QSizeF(pictureOf(format).size) * scale;
-        const double width = document->textWidth() - 2 * document->documentMargin();
-        return width > 0 && size.width() > width ? size * (width / size.width()) : size;
-    }
-
-    void drawObject(QPainter* painter, const QRectF& room, QTextDocument*, int,
-                    const QTextFormat& format) override
-    {
-        const PaperPicture& picture = pictureOf(format);
-        painter->save();
-        painter->setClipRect(room, Qt::IntersectClip);
-        painter->translate(room.topLeft());
-        // A recorded picture grows with the dots of its device by itself.
-        const double dots = painter->device()->logicalDpiX() / screenDots;
-        const double scale = room.width() / picture.size.width() / dots;
-        painter->scale(scale, scale);
-        QPicture(picture.drawing).play(painter);
-        painter->restore();
-    }
-
-private:
-    const PaperPicture& pictureOf(const QTextFormat& format) const
-    {
-        return m_pictures.at(static_cast<std::size_t>(format.intProperty(PictureNumber)));
-    }
-
-    std::vector<PaperPicture> m_pictures;
-};
 
 QFont paperFont(double points)
 {
@@ -191,5 +144,3 @@ QByteArray PaperDocument::PDF() const
 }
 
 } // namespace korvel
-
-#include "PaperDocument.moc"

@@ -7,9 +7,11 @@
 #include "calculator_windows.h"
 #include "tools/papers/ExampleMachine.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QTextCursor>
