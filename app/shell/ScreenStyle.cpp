@@ -343,7 +343,7 @@ QPixmap ScreenStyle::standardPixmap(StandardPixmap which, const QStyleOption* op
 QPixmap ScreenStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture,
                                          const QStyleOption* option) const
 {
-    const QPixmap own = QProxyStyle::generatedIconPixmap(mode, picture, option);
+    QPixmap own = QProxyStyle::generatedIconPixmap(mode, picture, option);
     if (!m_tintsIcons || mode == QIcon::Normal) return own;
     return tinted(own, option->palette.color(QPalette::Disabled, QPalette::WindowText));
 }

@@ -34,6 +34,7 @@ std::vector<QLayoutItem*> itemsOf(const QLayout& layout)
     std::ranges::stable_sort(placed, {},
                              [](const Placed& p) { return std::pair(p.row, p.column); });
     std::vector<QLayoutItem*> items;
+    items.reserve(placed.size());
     for (const Placed& each : placed)
         items.push_back(each.item);
     return items;

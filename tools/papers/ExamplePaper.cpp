@@ -108,7 +108,8 @@ QMainWindow& work(frmKORVEL2000& main, const std::vector<ExampleLine>& lines, st
 
 std::vector<std::string> missingIn(const QString& working, const QMainWindow& window)
 {
-    static const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*|lblPlace|lblDate|lblTD|lblNow)$");
+    static const QRegularExpression others(
+        "^(echo .*|lblNotice|lblWpNo.*|lblPlace|lblDate|lblTD|lblNow)$");
     std::vector<std::string> missing;
     for (const auto* label : window.findChildren<ResultLabel*>())
         if (!others.match(label->objectName()).hasMatch() &&
