@@ -24,11 +24,12 @@ bool TideExtender::extend(int year)
 {
     const auto show = [this](int percent) {
         m_bar.setValue(percent);
-        // The file is made in one go; what is typed meanwhile waits.
-        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        // The file is made in one go: whatever else happens waits, a window that closes too.
+        m_bar.repaint();
     };
     m_bar.setFormat("Making the predictions to " + QString::number(year) + ": %p %");
     m_bar.show();
+    QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     const ExtensionResult result = extendFactors(m_program.files(), year, show);
     m_bar.hide();
     return tell(result);

@@ -147,7 +147,7 @@ TEST(PositionRecord, copiedText)
 TEST(PositionRecord, aSavedListIsReadWholeOrNotAtAll)
 {
     auto input = fourDays();
-    for (std::size_t i : {0, 1, 3})
+    for (std::size_t i : {0U, 1U, 3U})
         input.rows[i] = {};
     const std::string list = csvText(recordList(input, CalculatePositionRecord(input)));
     EXPECT_EQ(readRecordList(list).rows[2].latitude, "38.05");
