@@ -136,17 +136,6 @@ FieldBoxes CalculatorWindow::addFields(std::span<const Field> table)
     return m_fields.back();
 }
 
-void CalculatorWindow::printForm()
-{
-    QWidget& shown = m_scrollArea ? *m_scrollArea->widget() : *centralWidget();
-    m_printer.print(QPageLayout::Portrait, [&](QPainter& painter, const QRect& room) {
-        const double scale =
-            std::min(double(room.width()) / shown.width(), double(room.height()) / shown.height());
-        painter.scale(scale, scale);
-        shown.render(&painter);
-    });
-}
-
 ResultLabel* CalculatorWindow::addLabel(const QString& name)
 {
     auto* label = new ResultLabel(m_body);

@@ -73,8 +73,6 @@ protected:
 
     /// Fills the window from its record, then calculates everything once.
     void loadSettings();
-    /// Prints the window as it stands.
-    void printForm();
 
     // Controls. They have no place yet: put them into layouts.
 

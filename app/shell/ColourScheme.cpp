@@ -97,11 +97,6 @@ QColor atLuminance(const QColor& hue, double luminance)
     return QColor::fromRgbF(channel(hue.redF()), channel(hue.greenF()), channel(hue.blueF()));
 }
 
-double ColourScheme::nightPeak(int step)
-{
-    return nightStep(step).peak;
-}
-
 ColourScheme ColourScheme::day()
 {
     ColourScheme scheme;

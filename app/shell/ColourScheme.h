@@ -30,11 +30,8 @@ struct ColourScheme {
     QColor datum;     ///< chart datum, or slack water, under that curve
 
     static ColourScheme day();
-    /// @param step 0 the brightest, 2 the dimmest; see nightPeak
+    /// @param step 0 the brightest, 2 the dimmest
     static ColourScheme night(int step);
-
-    /// Relative luminance that no pixel of the night colours exceeds at a step, 1 being white.
-    static double nightPeak(int step);
 };
 
 /// True for a palette that is light on dark.

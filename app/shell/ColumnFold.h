@@ -16,7 +16,6 @@ public:
     /// @param columns the layout of the groups: a row of them, or a grid
     explicit ColumnFold(QLayout& columns) : m_columns(columns) {}
 
-    bool isFolded() const { return m_folded; }
     void fold(bool folded);
     /// The room that the groups need side by side, as it was when they last stood so.
     int widthUnfolded();

@@ -330,14 +330,24 @@ int ScreenStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
-QPixmap ScreenStyle::standardPixmap(StandardPixmap which, const QStyleOption* option,
-                                    const QWidget* widget) const
+/// A picture of the toolkit, the icons of message boxes in the program's own drawing.
+template <typename Make>
+auto ScreenStyle::inColours(StandardPixmap which, const QStyleOption* option, const QWidget* widget,
+                            Make make) const -> decltype(make())
 {
     const QPalette palette = option ? option->palette : QApplication::palette();
     if (isMessageIcon(which))
         return messageIcon(which, palette, pixelMetric(PM_MessageBoxIconSize, option, widget));
-    const QPixmap own = QProxyStyle::standardPixmap(which, option, widget);
-    return m_tintsIcons ? tinted(own, palette.color(QPalette::WindowText)) : own;
+    auto own = make();
+    if (!m_tintsIcons) return own;
+    return tinted(own, palette.color(QPalette::WindowText));
+}
+
+QPixmap ScreenStyle::standardPixmap(StandardPixmap which, const QStyleOption* option,
+                                    const QWidget* widget) const
+{
+    return inColours(which, option, widget,
+                     [&] { return QProxyStyle::standardPixmap(which, option, widget); });
 }
 
 QPixmap ScreenStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture,
@@ -351,11 +361,8 @@ QPixmap ScreenStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pictur
 QIcon ScreenStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                 const QWidget* widget) const
 {
-    const QPalette palette = option ? option->palette : QApplication::palette();
-    if (isMessageIcon(which))
-        return messageIcon(which, palette, pixelMetric(PM_MessageBoxIconSize, option, widget));
-    const QIcon own = QProxyStyle::standardIcon(which, option, widget);
-    return m_tintsIcons ? tinted(own, palette.color(QPalette::WindowText)) : own;
+    return inColours(which, option, widget,
+                     [&] { return QProxyStyle::standardIcon(which, option, widget); });
 }
 
 } // namespace korvel

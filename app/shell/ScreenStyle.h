@@ -41,6 +41,10 @@ public:
                                 const QStyleOption* option) const override;
 
 private:
+    template <typename Make>
+    auto inColours(StandardPixmap which, const QStyleOption* option, const QWidget* widget,
+                   Make make) const -> decltype(make());
+
     void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
                        const QWidget* widget) const;
 

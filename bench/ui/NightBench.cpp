@@ -31,7 +31,7 @@ struct OpenProgram {
     ~OpenProgram() { main->endSession(); }
 
     QTemporaryDir folder;
-    NoQuestions questions;
+    NoOfficer questions;
     StoppedClock clock;
     SilentBell bell;
     ProgramFolder files{folder.path()};

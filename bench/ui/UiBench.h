@@ -4,6 +4,7 @@
 #include "app/shell/ProgramFolder.h"
 #include "app/shell/frmKORVEL2000.h"
 #include "bench/ui/Keystroke.h"
+#include "tools/unattended/Unattended.h"
 
 #include <QTemporaryDir>
 
@@ -11,27 +12,6 @@
 
 namespace korvel::bench
 {
-
-/// Nobody is there to answer while something is measured.
-class NoQuestions : public Questions
-{
-public:
-    Answer ask(const Message& message) override { throw std::runtime_error(message.text); }
-    std::optional<std::string> input(const std::string&, const std::string&,
-                                     const std::string& offered) override
-    {
-        return offered;
-    }
-    std::optional<std::string> fileToWrite(const std::string&, const std::string&) override
-    {
-        return std::nullopt;
-    }
-    std::optional<std::string> fileToRead(const std::string&, const std::string&) override
-    {
-        return std::nullopt;
-    }
-    void beep() override {}
-};
 
 class StoppedClock : public ComputerClock
 {
@@ -41,18 +21,10 @@ public:
     std::optional<std::string> set(NavFunc113::DateTime) override { return "not in a bench"; }
 };
 
-class SilentBell : public Bell
-{
-public:
-    void start() override {}
-    void stop() override {}
-    void ringOnce() override {}
-};
-
 /// A program in a folder of its own, for windows to be measured in.
 struct BenchProgram {
     QTemporaryDir folder;
-    NoQuestions questions;
+    NoOfficer questions;
     StoppedClock clock;
     SilentBell bell;
     ProgramFolder files{folder.path()};

@@ -159,6 +159,15 @@ void frmTIDEPicture::resizeEvent(QResizeEvent* event)
     placeReading();
 }
 
+/// Escape takes a reading away; without one it closes the window, as everywhere.
+bool frmTIDEPicture::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && m_reading &&
+        static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        event->accept();
+    return PictureBox::event(event);
+}
+
 void frmTIDEPicture::keyPressEvent(QKeyEvent* event)
 {
     const double hour = m_reading ? m_reading->point.x : 12;

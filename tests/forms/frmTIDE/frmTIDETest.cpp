@@ -161,6 +161,7 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30")) << "the new curve is read there";
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("WSW")) << "an ebb";
     press(window, "picTIDE", {Qt::Key_Escape});
+    EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(control(window, "lblReading").isVisible());
 }
 
