@@ -11,7 +11,7 @@ namespace korvel
 
 /// Where a window stood on the screen and how large it was, in pixels, without its frame's size.
 struct WindowPlace {
-    int x = 0;
+    int x = 0; ///< upper left corner inside the frame
     int y = 0;
     int width = 0;
     int height = 0;

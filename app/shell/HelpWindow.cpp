@@ -2,13 +2,13 @@
 #include "app/shell/HelpWindow.h"
 
 #include "app/shell/Manual.h"
+#include "app/shell/window_places.h"
 
 #include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTextDocument>
@@ -88,11 +88,8 @@ void HelpWindow::layOut()
     column->addLayout(top);
     column->addWidget(beside, 1);
 
-    const int letter = fontMetrics().averageCharWidth();
-    const int line = fontMetrics().lineSpacing();
-    const QSize room = screen()->availableSize() - QSize(2 * line, 4 * line);
-    resize(QSize(126 * letter, 36 * line).boundedTo(room));
-    const int list = std::min(28 * letter, width() / 4);
+    resizeForText(*this, 126, 36);
+    const int list = std::min(28 * fontMetrics().averageCharWidth(), width() / 4);
     beside->setSizes({list, width() - list});
 }
 

@@ -4,6 +4,7 @@
 #include "app/shell/PaperDocument.h"
 #include "app/shell/Program.h"
 #include "app/shell/asQString.h"
+#include "app/shell/window_places.h"
 
 #include <QFontDatabase>
 #include <QHBoxLayout>
@@ -19,7 +20,6 @@ namespace korvel
 namespace
 {
 
-constexpr QSize journalSize(860, 640);
 constexpr const char* widestDay = "0000-00-00 00";
 
 } // namespace
@@ -52,7 +52,7 @@ JournalWindow::JournalWindow(Program& program)
     row->addWidget(m_days);
     row->addWidget(m_text, 1);
     setCentralWidget(centre);
-    resize(journalSize);
+    resizeForText(*this, 124, 36);
     addMenus();
 
     connect(m_search, &QLineEdit::textChanged, this, &JournalWindow::refresh);

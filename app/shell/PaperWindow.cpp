@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/PaperWindow.h"
 
+#include "app/shell/ColourScheme.h"
 #include "app/shell/NightSheet.h"
+#include "app/shell/window_places.h"
 
 #include <QAction>
 #include <QMenuBar>
@@ -11,13 +13,6 @@
 
 namespace korvel
 {
-namespace
-{
-
-constexpr QSize paperWindowSize(820, 900);
-
-} // namespace
-
 PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* parent)
     : QMainWindow(parent, Qt::Window), m_paper(paper), m_text(new QTextBrowser),
       m_menu(program, *this,
@@ -31,13 +26,16 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     m_text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // its coming would change the width
     // Paper is black on white, whatever the colours of the screen; the night only sees it
     // otherwise.
-    m_text->setPalette(QPalette(Qt::black, Qt::white));
+    QPalette blackOnWhite = ColourScheme::day().palette;
+    blackOnWhite.setColor(QPalette::Base, Qt::white);
+    blackOnWhite.setColor(QPalette::Text, Qt::black);
+    m_text->setPalette(blackOnWhite);
     m_text->setGraphicsEffect(new NightSheet(m_text));
     setCentralWidget(m_text);
     QMenu* menu = m_menu.addTo(*menuBar(), nullptr);
     menu->addSeparator();
     menu->addAction("Clos&e", this, &QWidget::close)->setShortcut(Qt::Key_Escape);
-    resize(paperWindowSize);
+    resizeForText(*this, 118, 50);
     showPaper(paper);
 }
 

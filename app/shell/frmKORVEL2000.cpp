@@ -198,8 +198,10 @@ void frmKORVEL2000::start()
     keepValues();
     setWindowFlag(Qt::WindowStaysOnTopHint, m_screen.choices().clockOnTop);
     m_panel->setLeastWidth(menuBar()->sizeHint().width()); // all its menus in sight
+    adjustSize(); // first: a window that changes its size while it is placed would move
     putInPlace(m_screen, *this, false);
     show();
+    QTimer::singleShot(placingTime, this, [this] { bringOntoScreen(*this); });
     placeWindows();
     if (m_isFirstStart) QTimer::singleShot(placingTime, this, &frmKORVEL2000::greet);
 }

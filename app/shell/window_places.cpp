@@ -3,9 +3,8 @@
 
 #include "app/shell/Screen.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
-#include <QStyle>
 #include <QWidget>
 
 namespace korvel
@@ -13,13 +12,21 @@ namespace korvel
 namespace
 {
 
-/// What a window manager puts around a window; known for sure only when it is shown.
-QSize frameOf(const QWidget& window)
+/// What a window manager puts around a window. It is known of a window that is shown, and the same
+/// for all; nothing is guessed before, for a guess would move a window at every start.
+QMargins frameOf(const QWidget& window)
 {
-    const QSize known = window.frameSize() - window.size();
-    if (!known.isEmpty()) return known;
-    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    return {title / 2, title * 3 / 2};
+    const auto known = [](const QWidget& each) {
+        const QRect inside = each.geometry();
+        const QRect frame = each.frameGeometry();
+        const QMargins margins(inside.left() - frame.left(), inside.top() - frame.top(),
+                               frame.right() - inside.right(), frame.bottom() - inside.bottom());
+        return margins.right() < 0 ? QMargins() : margins; // the toolkit's sign for "unknown"
+    };
+    if (!known(window).isNull()) return known(window);
+    for (const QWidget* each : QApplication::topLevelWidgets())
+        if (each->isVisible() && !known(*each).isNull()) return known(*each);
+    return {};
 }
 
 QRect screenAt(const QRect& place)
@@ -29,18 +36,16 @@ QRect screenAt(const QRect& place)
     return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
 }
 
-/// @param place the upper left corner of the frame, and the size inside it
+/// @param place the window without its frame: where the frame comes to lie is up to the window
+/// manager, and not the same before and after a window is shown
 void putAt(QWidget& window, const QRect& place, bool resizes)
 {
-    const QRect room = screenAt(place);
-    const QSize frame = frameOf(window);
-    const QSize size = place.size().boundedTo(room.size() - frame);
-    if (resizes && window.size() != size) window.resize(size);
-    const QSize outside = size + frame;
+    const QRect room = screenAt(place).marginsRemoved(frameOf(window));
+    const QSize size = resizes ? place.size().boundedTo(room.size()) : place.size();
     const QPoint corner(
-        std::max(room.left(), std::min(place.left(), room.right() + 1 - outside.width())),
-        std::max(room.top(), std::min(place.top(), room.bottom() + 1 - outside.height())));
-    if (window.pos() != corner) window.move(corner);
+        std::max(room.left(), std::min(place.left(), room.right() + 1 - size.width())),
+        std::max(room.top(), std::min(place.top(), room.bottom() + 1 - size.height())));
+    window.setGeometry({corner, size});
 }
 
 } // namespace
@@ -48,9 +53,8 @@ void putAt(QWidget& window, const QRect& place, bool resizes)
 void keepPlace(Screen& screen, const QWidget& window, bool open)
 {
     const bool enlarged = window.isMaximized() || window.isFullScreen();
-    const QSize size = enlarged ? window.normalGeometry().size() : window.size();
-    const QPoint corner = enlarged ? window.normalGeometry().topLeft() : window.pos();
-    screen.keepPlace(window.objectName(), {corner.x(), corner.y(), size.width(), size.height(),
+    const QRect place = enlarged ? window.normalGeometry() : window.geometry();
+    screen.keepPlace(window.objectName(), {place.x(), place.y(), place.width(), place.height(),
                                            screen.choices().zoom, open});
 }
 
@@ -64,9 +68,17 @@ bool putInPlace(const Screen& screen, QWidget& window, bool resizes)
     return true;
 }
 
+void resizeForText(QWidget& window, int letters, int lines)
+{
+    const QFontMetrics metrics = window.fontMetrics();
+    const QSize wanted(letters * metrics.averageCharWidth(), lines * metrics.lineSpacing());
+    const QRect room = window.screen()->availableGeometry().marginsRemoved(frameOf(window));
+    window.resize(wanted.boundedTo(room.size()));
+}
+
 void bringOntoScreen(QWidget& window)
 {
-    putAt(window, QRect(window.pos(), window.size()), true);
+    putAt(window, window.geometry(), true);
 }
 
 } // namespace korvel

@@ -18,6 +18,10 @@ void keepPlace(Screen& screen, const QWidget& window, bool open);
 /// @return false when nothing is known of the window
 bool putInPlace(const Screen& screen, QWidget& window, bool resizes = true);
 
+/// Makes a window of text so large that it shows the lines and the letters in each of them, as far
+/// as its screen has room.
+void resizeForText(QWidget& window, int letters, int lines);
+
 /// Moves and shrinks a window until it lies on its screen, frame and all.
 void bringOntoScreen(QWidget& window);
 

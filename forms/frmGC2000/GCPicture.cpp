@@ -158,6 +158,17 @@ QPointF GCPicture::outward(std::size_t waypoint) const
     return bend < 0 || (bend == 0 && normal.y() > 0) ? -normal : normal;
 }
 
+/// Outside the bend of the route, where no line crosses the number; inside it where the chart ends.
+QRectF GCPicture::numberRoom(std::size_t waypoint, double wide) const
+{
+    const QPointF away = 0.8 * lineHeight() * outward(waypoint);
+    const auto roomAt = [&](QPointF at) {
+        return QRectF(at.x() - wide, at.y() - lineHeight() / 2, 2 * wide, lineHeight());
+    };
+    const QRectF outside = roomAt(pixel(m_chart.route[waypoint]) + away);
+    return plotArea().contains(outside) ? outside : roomAt(pixel(m_chart.route[waypoint]) - away);
+}
+
 void GCPicture::drawNumbers(QPainter& painter) const
 {
     const auto& route = m_chart.route;
@@ -174,9 +185,7 @@ void GCPicture::drawNumbers(QPainter& painter) const
             return QLineF(pixel(end), pixel(route[i])).length() < lineHeight();
         };
         if (isAtEnd(route.front()) || isAtEnd(route.back())) continue;
-        const QPointF at = pixel(route[i]) + 0.8 * lineHeight() * outward(i);
-        m_figures.draw(painter, {at.x() - wide, at.y() - lineHeight() / 2, 2 * wide, lineHeight()},
-                       Qt::AlignCenter, QString::number(i));
+        m_figures.draw(painter, numberRoom(i, wide), Qt::AlignCenter, QString::number(i));
     }
 }
 

@@ -26,6 +26,9 @@ private:
     void drawPoints(QPainter& painter) const;
     /// Away from the route at the outside of its bend, where no line runs; length 1.
     QPointF outward(std::size_t waypoint) const;
+    /// The room of a waypoint's number.
+    /// @param wide half its width, pixels
+    QRectF numberRoom(std::size_t waypoint, double wide) const;
     void drawNumbers(QPainter& painter) const;
     void drawEdges(QPainter& painter) const;
     void drawLegend(QPainter& painter) const;

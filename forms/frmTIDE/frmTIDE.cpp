@@ -180,12 +180,12 @@ void frmTIDE::offerUnasked()
          AfterFault::GoBack);
 }
 
-void frmTIDE::showEvent(QShowEvent* event)
+void frmTIDE::changeEvent(QEvent* event)
 {
-    CalculatorWindow::showEvent(event);
-    if (m_hasBeenShown) return;
-    m_hasBeenShown = true;
-    // A question would keep the window from appearing.
+    CalculatorWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_hasBeenSeen) return;
+    m_hasBeenSeen = true;
+    // A question asked before would keep the window behind the one that it was opened from.
     QTimer::singleShot(0, this, &frmTIDE::offerUnasked);
 }
 

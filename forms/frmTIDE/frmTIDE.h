@@ -34,7 +34,7 @@ public:
 protected:
     WorkingPaper paper() const override;
     std::vector<PaperPicture> paperPictures() override;
-    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void applyColours() override;
 
 private:
@@ -84,7 +84,7 @@ private:
     SettingsFile m_habitsFile;
     TideHabits m_habits;
     QTimer m_save; ///< one write for a run of the scroll bar
-    bool m_hasBeenShown = false;
+    bool m_hasBeenSeen = false;
 
     TideSheet* m_sheet;
     TideExtender m_extender;
