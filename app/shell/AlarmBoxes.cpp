@@ -2,6 +2,7 @@
 #include "app/shell/AlarmBoxes.h"
 
 #include "app/Questions.h"
+#include "app/shell/wholeLines.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -68,6 +69,7 @@ QMessageBox* AlarmBoxes::makeBox()
     // A message box is modal of itself: a key on its way to another window would be dropped.
     box->setModal(false);
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
+    keepLinesWhole(*box);
     connect(box, &QMessageBox::finished, this, [this] {
         m_firstSecond.stop();
         m_bell.stop();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/MessageQuestions.h"
 
+#include "app/shell/wholeLines.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
@@ -103,6 +105,7 @@ Answer MessageQuestions::ask(const Message& message)
     } else {
         box->setIcon(QMessageBox::Information);
     }
+    keepLinesWhole(*box);
     const int pressed = box->exec();
     const bool wasLeft = !box || box->wasLeft();
     delete box.data();

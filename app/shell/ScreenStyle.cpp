@@ -320,6 +320,16 @@ int ScreenStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     }
 }
 
+QSize ScreenStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const
+{
+    QSize own = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    // The toolkit draws the column of ticks as broad as the entry is high, and reckons with a fixed
+    // breadth: large letters would not fit.
+    if (type == CT_MenuItem) own.rwidth() += own.height();
+    return own;
+}
+
 int ScreenStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* data) const
 {
