@@ -3,6 +3,7 @@
 
 #include "app/shell/NightSheet.h"
 #include "app/shell/PaperDocument.h"
+#include "app/shell/window_places.h"
 
 #include <QDialogButtonBox>
 #include <QPainter>
@@ -13,13 +14,6 @@
 
 namespace korvel
 {
-namespace
-{
-
-constexpr QSize previewSize(720, 900);
-
-} // namespace
-
 PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent)
     : QDialog(parent), m_pages(new QPrintPreviewWidget(&printer))
 {
@@ -50,7 +44,7 @@ PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWi
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_pages, 1);
     column->addWidget(buttons);
-    resize(previewSize);
+    resizeForText(*this, 104, 50);
     print->setFocus();
 }
 
