@@ -49,7 +49,6 @@ QIcon programIcon()
 void introduceToDesktop()
 {
     QApplication::setApplicationName(programTitle);
-    QApplication::setWindowIcon(programIcon());
     // A desktop whose windows bring no icon takes the one of the menu entry.
     QApplication::setDesktopFileName("korvel2000");
 }
@@ -100,18 +99,20 @@ int main(int argc, char* argv[])
     const Places places = choosePlaces(QApplication::applicationDirPath(), officersFolder());
     const Looks looks = looksOfLastRun(places.records);
     applyLooks(looks, looks.colours());
+    // The officer sees that the program starts before it waits for the disk and makes its icons.
+    auto startWindow = std::make_unique<frmKORVELstart>();
+    startWindow->show();
+    QApplication::processEvents();
+    QApplication::setWindowIcon(programIcon());
     FolderLock lock(places.records);
     if (lock.isHeldByAnother()) {
         tellAboutTheOther(questions, places.records, lock.callTheOther(3s));
         return 0;
     }
+    questions.beep();
     const auto clock = makeComputerClock();
     SystemBell bell;
     RecordsFolder folder(places);
-    auto startWindow = std::make_unique<frmKORVELstart>();
-    startWindow->show();
-    questions.beep();
-    QApplication::processEvents();
 
     std::unique_ptr<frmKORVEL2000> mainWindow;
     TerminationWatch termination;

@@ -55,22 +55,32 @@ void drawSea(QPainter& painter)
     }
 }
 
-/// Draws a line of text from a base line on, not scaled: the font that every window uses is there
-/// anyway, and another size of it is all that the title costs the start.
-void drawLine(QPainter& painter, const QPointF& base, const QString& text)
+/// Draws a line of text from a base line on with a given width, or unscaled. Another size of the
+/// font that every window uses would be another font to be looked for before anything is seen.
+void drawLine(QPainter& painter, const QPointF& base, const QString& text, double width = 0)
 {
     const QPointF place = painter.transform().map(base);
+    const double scale =
+        width > 0 ? width / QFontMetricsF(painter.font()).horizontalAdvance(text) : 1;
     painter.save();
     painter.resetTransform();
-    painter.drawText(place, text);
+    painter.translate(place);
+    painter.scale(scale, scale);
+    painter.drawText(QPointF(), text);
     painter.restore();
 }
 
-/// The font in the size at which a text has a given width.
-QFont fittedFont(QFont font, const QString& text, double wanted)
+/// From night to dawn. In bands, for the toolkit gives a larger gradient to threads, and to make
+/// those takes longer than to fill it.
+void drawSky(QPainter& painter)
 {
-    font.setPointSizeF(font.pointSizeF() * wanted / QFontMetricsF(font).horizontalAdvance(text));
-    return font;
+    constexpr double band = 15;
+    QLinearGradient sky(0, 0, 0, pictureHeight);
+    sky.setColorAt(0, "#06121f");
+    sky.setColorAt(0.75, "#1d4a70");
+    sky.setColorAt(1, "#d58a4a");
+    for (double top = 0; top < pictureHeight; top += band)
+        painter.fillRect(QRectF(0, top, pictureWidth, band), sky);
 }
 
 } // namespace
@@ -99,14 +109,9 @@ void frmKORVELstart::paintEvent(QPaintEvent*)
 
 void frmKORVELstart::draw(QPainter& painter) const
 {
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(width() / pictureWidth, height() / pictureHeight);
-
-    QLinearGradient sky(0, 0, 0, pictureHeight);
-    sky.setColorAt(0, "#06121f");
-    sky.setColorAt(0.75, "#1d4a70");
-    sky.setColorAt(1, "#d58a4a");
-    painter.fillRect(QRectF(0, 0, pictureWidth, pictureHeight), sky);
+    drawSky(painter); // its bands meet at whole pixels
+    painter.setRenderHint(QPainter::Antialiasing);
     drawSea(painter);
 
     painter.save();
@@ -122,8 +127,7 @@ void frmKORVELstart::draw(QPainter& painter) const
     painter.setPen(QColor(245, 235, 215));
     drawLine(painter, {216, 146}, "Calculators for the");
     drawLine(painter, {216, 168}, "officer of the watch");
-    painter.setFont(fittedFont(font(), programTitle, width() * 0.52));
-    drawLine(painter, {214, 120}, programTitle);
+    drawLine(painter, {214, 120}, programTitle, width() * 0.52);
 }
 
 } // namespace korvel
