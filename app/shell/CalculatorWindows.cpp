@@ -4,10 +4,30 @@
 #include "app/shell/CalculatorWindow.h"
 #include "app/shell/Program.h"
 
+#include <QApplication>
+
 #include <algorithm>
 
 namespace korvel
 {
+namespace
+{
+
+/// The windows on the screen that are neither among some nor questions, by their titles.
+std::vector<QWidget*> othersThan(const std::vector<QWidget*>& windows)
+{
+    std::vector<QWidget*> others;
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (each->isVisible() && each->windowType() == Qt::Window &&
+            std::find(windows.begin(), windows.end(), each) == windows.end())
+            others.push_back(each);
+    std::sort(others.begin(), others.end(), [](const QWidget* one, const QWidget* other) {
+        return one->windowTitle() < other->windowTitle();
+    });
+    return others;
+}
+
+} // namespace
 
 CalculatorWindows::CalculatorWindows(Program& program, WindowCatalogue catalogue)
     : m_program(program), m_catalogue(std::move(catalogue))
@@ -56,6 +76,8 @@ void CalculatorWindows::openNext(const QWidget& from, QWidget& mainWindow)
 {
     std::vector<QWidget*> windows = {&mainWindow};
     for (CalculatorWindow* each : all())
+        windows.push_back(each);
+    for (QWidget* each : othersThan(windows))
         windows.push_back(each);
     const auto here = std::find(windows.begin(), windows.end(), &from);
     const bool isLast = here == windows.end() || here + 1 == windows.end();

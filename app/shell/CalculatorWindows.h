@@ -27,8 +27,8 @@ public:
     /// Makes a window, or brings the one that is open to the front, minimised or not. An unknown
     /// name does nothing.
     void open(const QString& name);
-    /// Gives the keyboard to the open window after one of them, in the order of the catalogue; the
-    /// main window stands before the first.
+    /// Gives the keyboard to the open window after one of them: the main window, those of the
+    /// catalogue in its order, then papers, journal and manual by their titles.
     void openNext(const QWidget& from, QWidget& mainWindow);
     /// Those that are open, in the order of the catalogue.
     std::vector<CalculatorWindow*> all() const;

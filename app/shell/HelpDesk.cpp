@@ -12,7 +12,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
-#include <QStyle>
 
 namespace korvel
 {
@@ -45,7 +44,7 @@ QStringList pagesOf(const QWidget& window)
 
 HelpDesk::HelpDesk(FileStore& files) : m_manual(files)
 {
-    m_manual.facts = programFacts(files);
+    m_manual.facts = [&files] { return programFacts(files); };
     qApp->installEventFilter(this);
 }
 
@@ -76,7 +75,10 @@ void HelpDesk::open(const HelpTopic& topic)
     // A question takes the keyboard from all windows but its own children.
     QWidget* question = QApplication::activeModalWidget();
     QPointer<HelpWindow> window = question ? question->findChild<HelpWindow*>() : m_window.data();
-    if (!window) window = new HelpWindow(m_manual, question);
+    if (!window) {
+        window = new HelpWindow(m_manual, question);
+        if (!question) dress(*window);
+    }
     if (!question) m_window = window;
     window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show(); // first: a page that is not laid out has no place to scroll to
@@ -85,16 +87,22 @@ void HelpDesk::open(const HelpTopic& topic)
     window->activateWindow();
 }
 
-void HelpDesk::openBelow(const QWidget& window, const QString& page)
+void HelpDesk::openBelow(QWidget& window, const QString& page)
 {
     openPage(page);
     const QRect screen = window.screen()->availableGeometry();
-    const int frame = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect taken = window.frameGeometry();
+    // Both have the same frame, that of the new window is not known yet.
+    const QSize frame = taken.size() - window.size();
+    const int least = m_window->minimumSizeHint().height() + frame.height();
+    if (screen.height() - taken.height() < least) return;
+    if (screen.bottom() - taken.bottom() < screen.height() / 2)
+        window.move(taken.x(), screen.top());
     const int top = window.frameGeometry().bottom() + 1;
-    const int room = screen.bottom() - top - 2 * frame;
-    if (!m_window || room < screen.height() / 2) return;
-    m_window->resize(m_window->width(), std::min(m_window->height(), room));
-    m_window->move(window.frameGeometry().left(), top);
+    const QSize room(screen.width(), screen.bottom() + 1 - top);
+    m_window->resize(m_window->size().boundedTo(room - frame));
+    const int left = std::min(taken.x(), screen.right() + 1 - m_window->width() - frame.width());
+    m_window->move(left, top);
 }
 
 void HelpDesk::openAtFocus()

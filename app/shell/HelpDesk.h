@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
+
 class QAction;
 class QMenuBar;
 class QWidget;
@@ -31,15 +33,18 @@ public:
 
     Manual& manual() { return m_manual; }
 
+    /// Gives the program's keys to a window of the manual that no question stands behind.
+    std::function<void(QWidget&)> dress = [](QWidget&) {};
+
     /// The topic of a control that has the focus, and of an entry of a menu.
     static HelpTopic topicOf(const QWidget& control);
     static HelpTopic topicOf(const QAction& entry, const QWidget& window);
 
     void open(const HelpTopic& topic);
     void openPage(const QString& page) { open({{page}, {}}); }
-    /// Opens a page below a window, where the screen has room for both: it is there to be read
-    /// beside it.
-    void openBelow(const QWidget& window, const QString& page);
+    /// Opens a page below a window, which moves up for it where it must: the page is there to be
+    /// read beside it.
+    void openBelow(QWidget& window, const QString& page);
     /// The page of the window in hand, at the control that has the focus.
     void openAtFocus();
 

@@ -25,8 +25,9 @@ constexpr const char* widestDay = "0000-00-00 00";
 } // namespace
 
 JournalWindow::JournalWindow(Program& program)
-    : m_journal(program.files()), m_printer(program, *this), m_search(new QLineEdit),
-      m_days(new QListWidget), m_text(new QPlainTextEdit), m_found(new QLabel)
+    : m_journal(program.files()), m_printer(program, *this), m_menus(program, *this),
+      m_search(new QLineEdit), m_days(new QListWidget), m_text(new QPlainTextEdit),
+      m_found(new QLabel)
 {
     setObjectName("frmJournal");
     setWindowTitle("Journal of kept papers");
@@ -53,7 +54,7 @@ JournalWindow::JournalWindow(Program& program)
     row->addWidget(m_text, 1);
     setCentralWidget(centre);
     resizeForText(*this, 124, 36);
-    addMenus();
+    addMenus(program);
 
     connect(m_search, &QLineEdit::textChanged, this, &JournalWindow::refresh);
     connect(m_search, &QLineEdit::returnPressed, this, &JournalWindow::findNext);
@@ -62,7 +63,7 @@ JournalWindow::JournalWindow(Program& program)
     m_search->setFocus();
 }
 
-void JournalWindow::addMenus()
+void JournalWindow::addMenus(Program& program)
 {
     QMenu* menu = menuBar()->addMenu("&Journal");
     menu->setObjectName("mnuJournal");
@@ -74,7 +75,8 @@ void JournalWindow::addMenus()
     add("&Print the day..", QKeySequence::Print, [this] { print(); });
     add("&Find next", Qt::Key_F3, [this] { findNext(); });
     add("&Read again", Qt::Key_F5, [this] { refresh(); });
-    add("&Close", Qt::Key_Escape, [this] { close(); });
+    m_menus.addView();
+    program.addHelpMenu(*menuBar());
 }
 
 QString JournalWindow::day() const

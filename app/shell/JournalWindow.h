@@ -3,6 +3,7 @@
 
 #include "app/Journal.h"
 #include "app/shell/PagePrinter.h"
+#include "app/shell/WindowMenus.h"
 
 #include <QMainWindow>
 
@@ -29,7 +30,7 @@ public:
     void refresh();
 
 private:
-    void addMenus();
+    void addMenus(Program& program);
     void showDay();
     void findNext();
     void print() const;
@@ -37,6 +38,7 @@ private:
 
     Journal m_journal;
     PagePrinter m_printer;
+    WindowMenus m_menus;
     QLineEdit* m_search;
     QListWidget* m_days;
     QPlainTextEdit* m_text;

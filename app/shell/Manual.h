@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <map>
 
 namespace korvel
@@ -29,11 +30,12 @@ public:
     /// The first heading of a page.
     QString title(const QString& page) const;
 
-    /// What a page says as {version}, {records} and the like.
-    std::map<QString, QString> facts;
+    /// What a page says as {version}, {records} and the like; asked for by the first such page.
+    std::function<std::map<QString, QString>()> facts = [] { return std::map<QString, QString>(); };
 
 private:
     FileStore& m_files;
+    mutable std::map<QString, QString> m_facts;
 };
 
 } // namespace korvel

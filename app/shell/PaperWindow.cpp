@@ -3,9 +3,9 @@
 
 #include "app/shell/ColourScheme.h"
 #include "app/shell/NightSheet.h"
+#include "app/shell/Program.h"
 #include "app/shell/window_places.h"
 
-#include <QAction>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTextBrowser>
@@ -17,7 +17,8 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     : QMainWindow(parent, Qt::Window), m_paper(paper), m_text(new QTextBrowser),
       m_menu(program, *this,
              {[this] { return m_paper; },
-              [this](const QString& said) { statusBar()->showMessage(said); }})
+              [this](const QString& said) { statusBar()->showMessage(said); }}),
+      m_menus(program, *this)
 {
     setObjectName("frmPaper");
     setAttribute(Qt::WA_DeleteOnClose);
@@ -32,9 +33,9 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     m_text->setPalette(blackOnWhite);
     m_text->setGraphicsEffect(new NightSheet(m_text));
     setCentralWidget(m_text);
-    QMenu* menu = m_menu.addTo(*menuBar(), nullptr);
-    menu->addSeparator();
-    menu->addAction("Clos&e", this, &QWidget::close)->setShortcut(Qt::Key_Escape);
+    m_menu.addTo(*menuBar(), nullptr);
+    m_menus.addView();
+    program.addHelpMenu(*menuBar());
     resizeForText(*this, 118, 50);
     showPaper(paper);
 }

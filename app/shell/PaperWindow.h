@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/PaperMenu.h"
+#include "app/shell/WindowMenus.h"
 
 #include <QMainWindow>
 
@@ -29,6 +30,7 @@ private:
     PaperDocument m_paper;
     QTextBrowser* m_text;
     PaperMenu m_menu;
+    WindowMenus m_menus;
 };
 
 } // namespace korvel

@@ -107,7 +107,7 @@ void WindowMenus::fillWithLinks(QMenu* menu, const QString& array)
 void WindowMenus::addView()
 {
     QMenu* view = add("&View", "mnuView");
-    addShortcuts(*view, m_program, m_window, true);
+    addShortcuts(*view, m_program, m_window, false);
     if (m_hasLinks) return;
     QMenu* links = view->addMenu("&Windows");
     links->setObjectName("mnuViewWindows");

@@ -3,7 +3,10 @@
 
 #include "app/ProgramVersion.h"
 #include "app/shell/asQString.h"
+#include "app/shell/libraries_in_use.h"
 
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QSysInfo>
 
 // The build gives it to this file alone: another day of release compiles nothing else again.
@@ -13,8 +16,40 @@
 
 namespace korvel
 {
+namespace
+{
 
-std::map<QString, QString> programFacts(const FileStore& files)
+QString listOfLibraries()
+{
+    const QStringList loaded = librariesInUse();
+    if (!loaded.isEmpty()) return loaded.join(", ");
+    return QString("in the program itself: Qt %1 with the zlib, libpng, FreeType, HarfBuzz, PCRE2 "
+                   "and double-conversion that it brings")
+        .arg(qVersion());
+}
+
+/// What the folder of the program brings along, from the list that lies with its terms.
+QString listOfPackages(FileStore& files)
+{
+    const FileStore::Content content = files.read("licences/packages");
+    if (content.status != FileStore::Content::Status::Read) return "the system's own";
+    QStringList packages;
+    for (const QString& line : asQString(content.bytes).split('\n', Qt::SkipEmptyParts))
+        packages << line.section(" (", 0, 0);
+    return packages.join(", ");
+}
+
+QString fontsInUse()
+{
+    const auto family = [](QFontDatabase::SystemFont which) {
+        return QFontInfo(QFontDatabase::systemFont(which)).family();
+    };
+    return family(QFontDatabase::GeneralFont) + ", " + family(QFontDatabase::FixedFont);
+}
+
+} // namespace
+
+std::map<QString, QString> programFacts(FileStore& files)
 {
     QString folder = asQString(files.path(""));
     while (folder.size() > 1 && (folder.endsWith('/') || folder.endsWith('\\')))
@@ -22,6 +57,10 @@ std::map<QString, QString> programFacts(const FileStore& files)
     return {{"version", programVersion},
             {"build", QString(KORVEL_BUILD) + ", " + QSysInfo::buildAbi()},
             {"toolkit", QString("Qt %1 (built with %2)").arg(qVersion(), QT_VERSION_STR)},
+            {"compiler", compilerInUse()},
+            {"libraries", listOfLibraries()},
+            {"packages", listOfPackages(files)},
+            {"fonts", fontsInUse()},
             {"records", folder}};
 }
 

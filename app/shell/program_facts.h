@@ -11,7 +11,7 @@ namespace korvel
 {
 
 /// What the manual says about this very program: version, build, libraries, where its records lie.
-/// By the names that stand in braces in its pages.
-std::map<QString, QString> programFacts(const FileStore& files);
+/// By the names that stand in braces in its pages. To gather them takes a moment.
+std::map<QString, QString> programFacts(FileStore& files);
 
 } // namespace korvel

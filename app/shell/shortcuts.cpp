@@ -3,7 +3,6 @@
 
 #include "app/shell/Program.h"
 
-#include <QMainWindow>
 #include <QMenu>
 
 #include <array>
@@ -15,24 +14,34 @@ namespace
 
 const std::array tableOfKeys = {
     Shortcut{"mnuNight", "N&ight colours", "F8", true,
-             [](Program& program, QMainWindow&) { program.screen().toggleNight(); }},
+             [](Program& program, QWidget&) { program.screen().toggleNight(); }},
     Shortcut{"mnuDim", "&Dimmer", "Shift+F8", false,
-             [](Program& program, QMainWindow&) { program.screen().dim(); }},
+             [](Program& program, QWidget&) { program.screen().dim(); }},
     Shortcut{"mnuView(2)", nullptr, "", false, nullptr},
     Shortcut{"mnuLarger", "&Larger", "Ctrl++; Ctrl+=", false,
-             [](Program& program, QMainWindow&) { program.screen().zoom(1); }},
+             [](Program& program, QWidget&) { program.screen().zoom(1); }},
     Shortcut{"mnuSmaller", "&Smaller", "Ctrl+-", false,
-             [](Program& program, QMainWindow&) { program.screen().zoom(-1); }},
+             [](Program& program, QWidget&) { program.screen().zoom(-1); }},
     Shortcut{"mnuNormalSize", "&Normal size", "Ctrl+0", false,
-             [](Program& program, QMainWindow&) { program.screen().zoom(0); }},
+             [](Program& program, QWidget&) { program.screen().zoom(0); }},
     Shortcut{"mnuView(6)", nullptr, "", false, nullptr},
     Shortcut{"mnuNextWindow", "Ne&xt window", "Ctrl+Tab", false,
-             [](Program& program, QMainWindow& window) { program.nextWindow(window); }},
+             [](Program& program, QWidget& window) { program.nextWindow(window); }},
     Shortcut{"mnuClose", "&Close", "Ctrl+W; Esc", true,
-             [](Program&, QMainWindow& window) { window.close(); }},
+             [](Program&, QWidget& window) { window.close(); }},
     Shortcut{"mnuQuit", "&End KORVEL2000", "Ctrl+Q", false,
-             [](Program& program, QMainWindow&) { program.actions().ExitApplication(); }},
+             [](Program& program, QWidget&) { program.actions().ExitApplication(); }},
 };
+
+QAction* makeAction(const Shortcut& shortcut, Program& program, QWidget& window)
+{
+    auto* action = new QAction(shortcut.caption, &window);
+    action->setObjectName(shortcut.name);
+    action->setShortcuts(QKeySequence::listFromString(shortcut.keys));
+    QObject::connect(action, &QAction::triggered, &window,
+                     [&program, &window, run = shortcut.run] { run(program, window); });
+    return action;
+}
 
 } // namespace
 
@@ -41,19 +50,29 @@ std::span<const Shortcut> shortcuts()
     return tableOfKeys;
 }
 
-void addShortcuts(QMenu& menu, Program& program, QMainWindow& window, bool isCalculator)
+void addShortcuts(QMenu& menu, Program& program, QWidget& window, bool isMain)
 {
     for (const Shortcut& each : shortcuts()) {
-        if (each.calculatorsOnly && !isCalculator) continue;
+        if (each.notInMain && isMain) continue;
         if (!each.caption) {
             menu.addSeparator()->setObjectName(each.name);
             continue;
         }
-        QAction* entry = menu.addAction(each.caption);
-        entry->setObjectName(each.name);
-        entry->setShortcuts(QKeySequence::listFromString(each.keys));
-        QObject::connect(entry, &QAction::triggered, &window,
-                         [&program, &window, run = each.run] { run(program, window); });
+        menu.addAction(makeAction(each, program, window));
+    }
+}
+
+void addKeys(QWidget& window, Program& program)
+{
+    for (const Shortcut& each : shortcuts())
+        if (each.caption && !each.notInMain) window.addAction(makeAction(each, program, window));
+    int key = 0;
+    for (const WindowLink& link : program.links) {
+        auto* opens = new QAction(link.caption, &window);
+        opens->setShortcut(QKeySequence(windowKey(key++)));
+        QObject::connect(opens, &QAction::triggered, &window,
+                         [&program, name = link.name] { program.openWindow(name); });
+        window.addAction(opens);
     }
 }
 

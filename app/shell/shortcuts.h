@@ -5,8 +5,8 @@
 
 #include <span>
 
-class QMainWindow;
 class QMenu;
+class QWidget;
 
 namespace korvel
 {
@@ -16,18 +16,22 @@ class Program;
 /// A key that does the same in every window. This table is the one place that declares them: the
 /// menu that shows them and the keys themselves are made of it.
 struct Shortcut {
-    const char* name;     ///< of its entry, "mnuView(0)"
-    const char* caption;  ///< with its mnemonic; nullptr for a separator
-    const char* keys;     ///< the first is shown: "Ctrl+W; Esc"
-    bool calculatorsOnly; ///< the main window has it in a menu of its own, or not at all
-    void (*run)(Program& program, QMainWindow& window);
+    const char* name;    ///< of its entry, "mnuView(0)"
+    const char* caption; ///< with its mnemonic; nullptr for a separator
+    const char* keys;    ///< the first is shown: "Ctrl+W; Esc"
+    bool notInMain;      ///< the main window has it in a menu of its own, or not at all
+    void (*run)(Program& program, QWidget& window);
 };
 
 std::span<const Shortcut> shortcuts();
 
 /// Fills a menu with the shortcuts that a window has.
-/// @param isCalculator false for the main window
-void addShortcuts(QMenu& menu, Program& program, QMainWindow& window, bool isCalculator);
+/// @param isMain whether it is that of the main window
+void addShortcuts(QMenu& menu, Program& program, QWidget& window, bool isMain);
+
+/// Gives the keys to a window without menus that closes by keys of its own, those of the windows
+/// included.
+void addKeys(QWidget& window, Program& program);
 
 /// The key of the nth window of the catalogue, from 0: "Ctrl+1" .. "Ctrl+9"; empty for the rest.
 QString windowKey(int index);

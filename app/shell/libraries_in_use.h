@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+namespace korvel
+{
+
+/// The libraries that this process has loaded, as "icuuc 72.1", in alphabetical order: what lies
+/// beside the program or in the system, not what it was built with. Empty where everything is in
+/// the program itself.
+QStringList librariesInUse();
+
+/// Compiler and standard library of the program.
+QString compilerInUse();
+
+} // namespace korvel
