@@ -17,12 +17,6 @@ std::string orLine(const std::string& text)
     return text.empty() ? "____________________" : text;
 }
 
-std::string figureText(const std::string& value, const std::string& unit)
-{
-    if (unit.empty()) return value;
-    return unit.starts_with("°") || unit.starts_with("'") ? value + unit : value + ' ' + unit;
-}
-
 /// A heading of the plain text, underlined.
 void addTitle(std::string& text, const std::string& title)
 {
@@ -95,6 +89,13 @@ std::string csvLine(const std::vector<std::string>& cells)
 }
 
 } // namespace
+
+std::string figureText(const std::string& value, const std::string& unit)
+{
+    if (unit.empty()) return value;
+    const bool isAngle = unit == "°" || unit.starts_with("° ") || unit.starts_with("'");
+    return isAngle ? value + unit : value + ' ' + unit;
+}
 
 std::vector<PaperFigure> headingLines(const PaperHeading& heading)
 {

@@ -60,6 +60,9 @@ struct PaperHeading {
     std::string program;
 };
 
+/// A figure with its unit, as it is written: "10 knots", "35.5°", "20 °C".
+std::string figureText(const std::string& value, const std::string& unit);
+
 /// The lines of the heading: caption and text.
 std::vector<PaperFigure> headingLines(const PaperHeading& heading);
 

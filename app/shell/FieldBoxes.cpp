@@ -97,11 +97,22 @@ void FieldBoxes::clear(std::size_t first, std::size_t count)
         box->clear();
 }
 
+std::string FieldBoxes::unitOnPaper(std::size_t field) const
+{
+    // What stands behind a box may tell how to write in it; behind a figure of a paper it would be
+    // taken for its unit.
+    const std::string unit = m_table[field].unit;
+    if (m_table[field].kind == FieldKind::Moment && unit.find_first_of("/:") != unit.npos)
+        return {};
+    const std::size_t sign = unit.find(", ");
+    return sign == unit.npos ? unit : unit.substr(0, sign) + " (" + unit.substr(sign + 2) + ')';
+}
+
 PaperFigure FieldBoxes::paperFigure(std::size_t field) const
 {
     const Field& declared = m_table[field];
     const std::string typed = m_boxes.at(field)->value();
-    PaperFigure figure{nameInWords(declared).toStdString(), typed, declared.unit};
+    PaperFigure figure{nameInWords(declared).toStdString(), typed, unitOnPaper(field)};
     switch (declared.kind) {
     case FieldKind::Latitude:
         figure.value = positionEcho(typed, Axis::Latitude).text;

@@ -46,6 +46,8 @@ public:
     /// A field as it goes into a working paper: what was understood, and what was typed where that
     /// is another text.
     PaperFigure paperFigure(std::size_t field) const;
+    /// The unit of a field behind a figure of a paper.
+    std::string unitOnPaper(std::size_t field) const;
 
     /// A row of a grid: caption, box, then the unit or what was understood of a position.
     void addRow(QGridLayout* grid, int row, std::size_t field) const;

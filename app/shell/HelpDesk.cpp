@@ -22,7 +22,7 @@ namespace
 const QWidget& ownerOf(const QWidget& widget)
 {
     const QWidget* owner = widget.window();
-    while (owner->parentWidget() && Manual::pageOf(owner->objectName()) != owner->objectName())
+    while (owner->parentWidget() && Manual::pageOf(owner->objectName()) == Manual::pages().front())
         owner = owner->parentWidget()->window();
     return *owner;
 }

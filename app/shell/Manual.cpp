@@ -37,7 +37,9 @@ QString Manual::pageOf(const QString& window)
 {
     static const QStringList conversions = {"frmLength", "frmVolume", "frmArea", "frmWeight",
                                             "frmPressure"};
+    static const QStringList papers = {"frmPaper", "frmJournal", "dlgPreview"};
     if (conversions.contains(window)) return "conversion";
+    if (papers.contains(window)) return "paper";
     return pages().contains(window) ? window : pages().front();
 }
 

@@ -159,9 +159,16 @@ std::optional<std::string> MessageQuestions::fileToWrite(const std::string& titl
                                                          const std::string& offered)
 {
     const QString name = QString::fromStdString(offered);
-    return chosen(QFileDialog::getSaveFileName(asker(), shown(title),
-                                               QDir(m_lastFolder).filePath(name),
-                                               filterOf(QFileInfo(name).suffix())));
+    const QString ending = QFileInfo(name).suffix();
+    const QPointer<QFileDialog> dialog =
+        new QFileDialog(asker(), shown(title), m_lastFolder, filterOf(ending));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(ending); // before it asks whether a file may be replaced
+    dialog->selectFile(name);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    const QStringList files = dialog && accepted ? dialog->selectedFiles() : QStringList();
+    delete dialog.data();
+    return chosen(files.value(0));
 }
 
 std::optional<std::string> MessageQuestions::fileToRead(const std::string& title,

@@ -5,8 +5,8 @@
 #include "app/shell/PrintPreview.h"
 #include "app/shell/Program.h"
 #include "app/shell/execOwned.h"
+#include "app/shell/pdf_bytes.h"
 
-#include <QFileInfo>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -17,17 +17,6 @@ namespace
 {
 
 constexpr QMarginsF printMargins(15, 15, 15, 15); // millimetres
-
-/// The printer's engine answers that all is well also when the disk is full: a page that is there
-/// ends with the mark that every such file ends with.
-bool isWholePDF(const QString& name)
-{
-    QFile file(name);
-    constexpr qint64 tail = 16;
-    if (!file.open(QIODevice::ReadOnly) || file.size() < tail || !file.seek(file.size() - tail))
-        return false;
-    return file.readAll().contains("%%EOF");
-}
 
 } // namespace
 
@@ -53,9 +42,8 @@ void PagePrinter::print(const PaperDocument& document) const
     setUp(printer, QPageLayout::Portrait);
     const int wanted = execOwned(new PrintPreview(document, printer, &m_window));
     if (wanted != QDialog::Accepted || !letChoose(printer)) return;
-    paint(printer, [&](QPainter& painter) {
-        const int first = std::max(printer.fromPage(), 1);
-        document.drawPages(printer, painter, first, printer.toPage());
+    paint(printer, [&](QPagedPaintDevice& device, QPainter& painter) {
+        document.drawPages(device, painter, std::max(printer.fromPage(), 1), printer.toPage());
     });
 }
 
@@ -64,27 +52,36 @@ void PagePrinter::print(QPageLayout::Orientation orientation, const Draw& draw) 
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, orientation);
     if (!letChoose(printer)) return;
-    paint(printer, [&](QPainter& painter) { draw(painter, painter.viewport()); });
+    paint(printer,
+          [&](QPagedPaintDevice&, QPainter& painter) { draw(painter, painter.viewport()); });
 }
 
-void PagePrinter::paint(QPrinter& printer, const std::function<void(QPainter&)>& draw) const
+void PagePrinter::paint(QPrinter& printer, const DrawPages& draw) const
 {
     const QString file = printer.outputFileName();
-    QPainter painter;
-    if (!painter.begin(&printer)) {
-        say(file.isEmpty() ? QString("The printer cannot be used.")
-                           : QString("\"%1\" cannot be written.").arg(file));
+    if (printer.outputFormat() == QPrinter::PdfFormat && !file.isEmpty()) {
+        // The printer's own engine would empty a file that exists before the first page, and
+        // answer that all is well also when the disk is full.
+        write(file.toStdString(),
+              pdfBytes(printer.docName(), programTitle, printer.pageLayout(), draw).toStdString());
         return;
     }
-    draw(painter);
-    const bool printed = painter.end();
-    if (!file.isEmpty() && (!printed || !isWholePDF(file)))
-        say(QString("\"%1\" could not be written whole.").arg(file));
+    QPainter painter;
+    if (!painter.begin(&printer)) return say("The printer cannot be used.");
+    draw(printer, painter);
+    if (!painter.end()) say("The printer did not take all pages.");
 }
 
-void PagePrinter::say(const QString& text) const
+bool PagePrinter::write(const std::string& path, const std::string& bytes) const
 {
-    m_program.questions().ask({text.toStdString(), programTitle, Buttons::Ok});
+    const auto reason = m_program.files().saveAnywhere(path, bytes);
+    if (reason) say('"' + path + "\" could not be written: " + *reason);
+    return !reason;
+}
+
+void PagePrinter::say(const std::string& text) const
+{
+    m_program.questions().ask({text, programTitle, Buttons::Ok});
 }
 
 } // namespace korvel

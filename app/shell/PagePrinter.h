@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QPageLayout>
+#include "app/shell/pdf_bytes.h"
 
 #include <functional>
+#include <string>
 
-class QPainter;
 class QPrinter;
 class QWidget;
 
@@ -30,11 +30,14 @@ public:
     using Draw = std::function<void(QPainter&, const QRect& room)>;
     void print(QPageLayout::Orientation orientation, const Draw& draw) const;
 
+    /// Writes a file that the officer chose, whole or not at all, and tells when it cannot be.
+    bool write(const std::string& path, const std::string& bytes) const;
+
 private:
     void setUp(QPrinter& printer, QPageLayout::Orientation orientation) const;
     bool letChoose(QPrinter& printer) const;
-    void paint(QPrinter& printer, const std::function<void(QPainter&)>& draw) const;
-    void say(const QString& text) const;
+    void paint(QPrinter& printer, const DrawPages& draw) const;
+    void say(const std::string& text) const;
 
     Program& m_program;
     QWidget& m_window;

@@ -4,11 +4,13 @@
 #include "app/shell/PictureObjects.h"
 #include "app/shell/asQString.h"
 #include "app/shell/paper_html.h"
+#include "app/shell/paper_pages.h"
+#include "app/shell/pdf_bytes.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QBuffer>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPdfWriter>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 
@@ -17,11 +19,24 @@ namespace korvel
 namespace
 {
 
-constexpr double paperLetters = 8.5;  // points
-constexpr double footLetters = 7.5;   // points
-constexpr double pictureLetters = 11; // pixels
-constexpr int PDFDots = 1200;
+constexpr double paperLetters = 8.5;              // points
+constexpr double footLetters = 7.5;               // points
+constexpr double pictureLetters = 11;             // pixels
 constexpr QMarginsF paperMargins(18, 15, 15, 12); // millimetres; the left one for the file
+
+constexpr std::size_t linesOfWindow = 40; // what the paper's window shows at first, about
+constexpr int aboveTitle = 8;             // pixels
+constexpr int belowTitle = 2;
+
+QString paperStyle()
+{
+    return QString("h2 { font-size: large } "
+                   "h3 { font-size: medium; margin-top: %1px; margin-bottom: %2px } "
+                   "th { text-align: left; background-color: #e0e0e0; padding-right: 6px } "
+                   "td { padding-right: 6px } ul { margin-top: 0px }")
+        .arg(aboveTitle)
+        .arg(belowTitle);
+}
 
 QFont paperFont(double points)
 {
@@ -45,6 +60,21 @@ void insertPictures(QTextDocument& document, const std::vector<PaperPicture>& pi
         at.insertBlock();
         at.insertText(pictures[i].caption);
     }
+}
+
+/// Draws a stretch of a document at a height of the page.
+void drawSlice(QTextDocument& document, QPainter& painter, const PaperSlice& slice, double top)
+{
+    if (slice.height() <= 0) return;
+    QAbstractTextDocumentLayout::PaintContext context;
+    context.palette = QPalette(Qt::black, Qt::white);
+    const QRectF room(0, slice.top, document.textWidth(), slice.height());
+    context.clip = room.adjusted(0, 1, 0, -1); // what only touches it would be in the file, unseen
+    painter.save();
+    painter.translate(0, top - slice.top);
+    painter.setClipRect(room);
+    document.documentLayout()->draw(&painter, context);
+    painter.restore();
 }
 
 } // namespace
@@ -73,7 +103,53 @@ PaperDocument::PaperDocument(QString title, QString plainText)
 {
 }
 
+QString PaperDocument::htmlFrom(std::size_t part) const
+{
+    QString html;
+    const std::vector<PaperPart> parts = paperParts(m_heading, m_paper, m_pictures.size());
+    for (std::size_t i = part; i < parts.size(); ++i)
+        html += parts[i].html();
+    return html;
+}
+
 void PaperDocument::fill(QTextDocument& document) const
+{
+    write(document, m_plainText.isNull() ? htmlFrom(0) : QString());
+}
+
+std::size_t PaperDocument::fillBeginning(QTextDocument& document) const
+{
+    const std::vector<PaperPart> parts = paperParts(m_heading, m_paper, m_pictures.size());
+    QString html = parts.front().html();
+    std::size_t lines = parts.front().lines;
+    std::size_t part = 1;
+    for (; part < parts.size() && lines + parts[part].lines <= linesOfWindow; ++part) {
+        html += parts[part].html();
+        lines += parts[part].lines;
+    }
+    write(document, html);
+    return part;
+}
+
+void PaperDocument::fillRest(QTextDocument& document, std::size_t from) const
+{
+    QTextCursor end(&document);
+    end.movePosition(QTextCursor::End);
+    const int before = end.position();
+    const QString html = htmlFrom(from);
+    end.beginEditBlock();
+    end.insertHtml(html);
+    if (html.startsWith("<h3")) { // its text went into the paragraph that was there
+        QTextBlockFormat title;
+        title.setHeadingLevel(3);
+        title.setTopMargin(aboveTitle);
+        title.setBottomMargin(belowTitle);
+        QTextCursor(document.findBlock(before)).mergeBlockFormat(title);
+    }
+    end.endEditBlock();
+}
+
+void PaperDocument::write(QTextDocument& document, const QString& html) const
 {
     document.setUndoRedoEnabled(false);
     document.setDefaultFont(paperFont(paperLetters));
@@ -81,14 +157,12 @@ void PaperDocument::fill(QTextDocument& document) const
         document.setPlainText(m_plainText);
         return;
     }
-    document.setDefaultStyleSheet("h2 { font-size: large } h3 { font-size: medium; "
-                                  "margin-top: 8px; margin-bottom: 2px } th { text-align: left; "
-                                  "background-color: #e0e0e0 } ul { margin-top: 0px }");
+    document.setDefaultStyleSheet(paperStyle());
     // In one edit, which is laid out once: where a picture is put into a document that has its
     // layout already, texts between the tables behind it are lost.
     QTextCursor all(&document);
     all.beginEditBlock();
-    document.setHtml(paperHtml(m_heading, m_paper, m_pictures.size()));
+    document.setHtml(html);
     insertPictures(document, m_pictures);
     all.endEditBlock();
 }
@@ -99,48 +173,36 @@ void PaperDocument::drawPages(QPagedPaintDevice& device, QPainter& painter, int 
     const QFont footFont = paperFont(footLetters);
     painter.setFont(footFont);
     const QRectF room(0, 0, device.width(), device.height());
-    const QSizeF page(room.width(), room.height() - 2.0 * painter.fontMetrics().height());
     QTextDocument document;
     document.setDocumentMargin(0); // the paper has margins of its own
     document.documentLayout()->setPaintDevice(&device);
-    document.setPageSize(page);
+    document.setTextWidth(room.width());
     fill(document);
-    const int pages = document.pageCount();
+    const std::vector<PaperPage> pages =
+        pagesOf(document, room.height() - 2.0 * painter.fontMetrics().height());
 
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.palette = QPalette(Qt::black, Qt::white);
-    const int end = last > 0 ? std::min(last, pages) : pages;
+    const int all = static_cast<int>(pages.size());
+    const int end = last > 0 ? std::min(last, all) : all;
     for (int number = first; number <= end; ++number) {
         if (number > first) device.newPage();
-        painter.save();
-        context.clip = QRectF(0, (number - 1) * page.height(), page.width(), page.height());
-        painter.translate(0, -context.clip.top());
-        painter.setClipRect(context.clip);
-        document.documentLayout()->draw(&painter, context);
-        painter.restore();
+        const PaperPage& page = pages[static_cast<std::size_t>(number - 1)];
+        drawSlice(document, painter, page.heading, 0);
+        drawSlice(document, painter, page.body, page.heading.height());
         painter.setFont(footFont);
         painter.setPen(Qt::black);
         painter.drawText(room, Qt::AlignBottom | Qt::AlignLeft, m_title);
         painter.drawText(room, Qt::AlignBottom | Qt::AlignRight,
-                         QString("Page %1 of %2").arg(number).arg(pages));
+                         QString("Page %1 of %2").arg(number).arg(all));
     }
 }
 
 QByteArray PaperDocument::PDF() const
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setTitle(m_title);
-    writer.setCreator(asQString(m_heading.program));
-    writer.setResolution(PDFDots);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    writer.setPageMargins(paperMargins, QPageLayout::Millimeter);
-    QPainter painter(&writer);
-    drawPages(writer, painter);
-    painter.end();
-    return bytes;
+    const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, paperMargins,
+                             QPageLayout::Millimeter);
+    return pdfBytes(
+        m_title, asQString(m_heading.program), layout,
+        [this](QPagedPaintDevice& device, QPainter& painter) { drawPages(device, painter); });
 }
 
 } // namespace korvel

@@ -44,6 +44,11 @@ public:
     /// only, which is most of the time that a paper takes.
     void fill(QTextDocument& document) const;
 
+    /// Writes as much of it into an empty document as a window shows at first.
+    /// @return the part that fillRest() goes on with
+    std::size_t fillBeginning(QTextDocument& document) const;
+    void fillRest(QTextDocument& document, std::size_t from) const;
+
     /// Draws pages, each with its number, onto paper or into a file.
     /// @param painter is active on the device
     /// @param last page, 0 for all
@@ -53,6 +58,9 @@ public:
     QByteArray PDF() const;
 
 private:
+    QString htmlFrom(std::size_t part) const;
+    void write(QTextDocument& document, const QString& html) const;
+
     QString m_title;
     PaperHeading m_heading{};
     WorkingPaper m_paper;

@@ -66,14 +66,8 @@ QAction* PaperMenu::add(QMenu* menu, const QString& caption, const QKeySequence&
 void PaperMenu::save(const std::string& title, const std::string& offered,
                      const std::string& bytes) const
 {
-    Questions& questions = m_program.questions();
-    const auto path = questions.fileToWrite(title, offered);
-    if (!path) return;
-    if (const auto reason = m_program.files().saveAnywhere(*path, bytes)) {
-        questions.ask(
-            {'"' + *path + "\" could not be written: " + *reason, programTitle, Buttons::Ok});
-        return;
-    }
+    const auto path = m_program.questions().fileToWrite(title, offered);
+    if (!path || !m_printer.write(*path, bytes)) return;
     m_hooks.tell(QString("Saved as %1.").arg(QFileInfo(asQString(*path)).fileName()));
 }
 

@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <QTextBrowser>
 #include <QTextDocument>
+#include <QTimer>
 
 namespace korvel
 {
@@ -32,6 +33,7 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     blackOnWhite.setColor(QPalette::Text, Qt::black);
     m_text->setPalette(blackOnWhite);
     m_text->setGraphicsEffect(new NightSheet(m_text));
+    m_text->viewport()->installEventFilter(this);
     setCentralWidget(m_text);
     m_menu.addTo(*menuBar(), nullptr);
     m_menus.addView();
@@ -49,8 +51,21 @@ void PaperWindow::showPaper(const PaperDocument& paper)
     show();
     raise();
     activateWindow();
-    paper.fill(*m_text->document());
+    m_rest = m_paper.fillBeginning(*m_text->document());
     m_text->moveCursor(QTextCursor::Start);
+}
+
+void PaperWindow::finish()
+{
+    if (m_rest > 0) m_paper.fillRest(*m_text->document(), m_rest);
+    m_rest = 0;
+}
+
+bool PaperWindow::eventFilter(QObject*, QEvent* event)
+{
+    // A long paper is read from its beginning: what does not show comes after what does.
+    if (event->type() == QEvent::Paint) QTimer::singleShot(0, this, &PaperWindow::finish);
+    return false;
 }
 
 } // namespace korvel

@@ -26,9 +26,16 @@ public:
 
     const PaperDocument& paper() const { return m_paper; }
 
+    /// Writes what was put off until the beginning of the paper could be read.
+    void finish();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     PaperDocument m_paper;
     QTextBrowser* m_text;
+    std::size_t m_rest = 0; ///< part of the paper that is still to be written; 0 for none
     PaperMenu m_menu;
     WindowMenus m_menus;
 };

@@ -12,6 +12,8 @@ namespace korvel
 namespace
 {
 
+constexpr std::size_t linesOfTitles = 2; // of a table and of its columns
+constexpr std::size_t linesOfStep = 2;   // its formula seldom has room in one
 constexpr const char* signatureLine = "______________________________";
 
 QString escaped(const std::string& text)
@@ -22,7 +24,7 @@ QString escaped(const std::string& text)
 
 QString figureHtml(const PaperFigure& each)
 {
-    return escaped(each.value) + (each.unit.empty() ? "" : ' ' + escaped(each.unit));
+    return escaped(figureText(each.value, each.unit));
 }
 
 QString titleHtml(const std::string& text)
@@ -42,8 +44,10 @@ QString rowHtml(const QStringList& cells, const QString& tag, const QString& att
 
 /// A table whose heading is repeated where a page ends. Shade leads the eye along its rows: lines
 /// around cells would take as long to draw as all the rest.
-QString tableHtml(const QStringList& headings, const Rows& rows)
+QString tableHtml(const QStringList& headings, Rows rows)
 {
+    // Behind a table that ends with an empty cell the next title would lose the room above it.
+    if (!rows.empty() && rows.back().back().isEmpty()) rows.back().back() = "&nbsp;";
     QString html = "<table cellspacing='0' cellpadding='2' width='100%'><thead>" +
                    rowHtml(headings, "th") + "</thead><tbody>";
     for (std::size_t i = 0; i < rows.size(); ++i)
@@ -62,7 +66,7 @@ QString figuresHtml(const std::vector<PaperFigure>& all, QStringList headings)
         rows.push_back({escaped(each.name), figureHtml(each)});
         if (isShown) rows.back() << escaped(each.shown);
     }
-    return tableHtml(headings, rows);
+    return tableHtml(headings, std::move(rows));
 }
 
 QString sentencesHtml(const std::vector<std::string>& all)
@@ -94,7 +98,7 @@ QString workingHtml(const Working& each)
     for (const WorkingStep& step : each.steps)
         rows.push_back({QString::number(rows.size() + 1) + ". " + escaped(step.name),
                         escaped(step.formula), escaped(step.figures),
-                        escaped(step.value) + (step.unit.empty() ? "" : ' ' + escaped(step.unit))});
+                        escaped(figureText(step.value, step.unit))});
     if (!rows.empty()) html += tableHtml({"Step", "Formula", "Figures", "Value"}, rows);
     for (const PaperTable& alike : each.tables)
         html += listHtml(alike);
@@ -114,14 +118,13 @@ QString headingHtml(const PaperHeading& heading)
     return "<table cellspacing='0' cellpadding='2' width='100%'>" + rows + "</table>";
 }
 
-} // namespace
-
-QString pictureMark(std::size_t picture)
+std::size_t linesOf(const PaperTable& table)
 {
-    return QString("[picture %1]").arg(picture);
+    return linesOfTitles + table.rows.size();
 }
 
-QString paperHtml(const PaperHeading& heading, const WorkingPaper& paper, std::size_t pictures)
+/// What is read first, with all pictures.
+QString beginningHtml(const PaperHeading& heading, const WorkingPaper& paper, std::size_t pictures)
 {
     QString html = "<h2>" + escaped(paper.kind) + "</h2>" + headingHtml(heading);
     if (!paper.inputs.empty())
@@ -134,14 +137,41 @@ QString paperHtml(const PaperHeading& heading, const WorkingPaper& paper, std::s
         html += figuresHtml(paper.results, {"Result", "Value", "In the window"});
     for (std::size_t i = 0; i < pictures; ++i)
         html += "<p>" + pictureMark(i) + "</p>";
-    for (const PaperTable& each : paper.tables)
-        html += listHtml(each);
-    for (const Working& each : paper.workings)
-        html += workingHtml(each);
+    return html;
+}
+
+QString endHtml(const WorkingPaper& paper)
+{
+    QString html;
     if (!paper.remarks.empty()) html += titleHtml("Remarks") + sentencesHtml(paper.remarks);
     if (!paper.limits.empty())
         html += titleHtml("Limits of accuracy") + sentencesHtml(paper.limits);
     return html + "<p>&nbsp;</p><p>Signature " + signatureLine + " &nbsp; Date ______________</p>";
+}
+
+} // namespace
+
+QString pictureMark(std::size_t picture)
+{
+    return QString("[picture %1]").arg(picture);
+}
+
+std::vector<PaperPart> paperParts(const PaperHeading& heading, const WorkingPaper& paper,
+                                  std::size_t pictures)
+{
+    std::vector<PaperPart> parts;
+    parts.push_back({paper.inputs.size() + paper.results.size(),
+                     [&, pictures] { return beginningHtml(heading, paper, pictures); }});
+    for (const PaperTable& each : paper.tables)
+        parts.push_back({linesOf(each), [&] { return listHtml(each); }});
+    for (const Working& each : paper.workings) {
+        std::size_t lines = linesOfTitles + each.method.size() + linesOfStep * each.steps.size();
+        for (const PaperTable& alike : each.tables)
+            lines += linesOf(alike);
+        parts.push_back({lines, [&] { return workingHtml(each); }});
+    }
+    parts.push_back({paper.remarks.size() + paper.limits.size(), [&] { return endHtml(paper); }});
+    return parts;
 }
 
 } // namespace korvel

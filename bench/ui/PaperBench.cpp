@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "bench/ui/UiBench.h"
+#include "app/shell/PaperWindow.h"
 #include "bench/ui/main.h"
-#include "forms/frmCDDR/frmCDDR.h"
+#include "tools/papers/ExamplePaper.h"
 
-#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMainWindow>
 #include <QTextBrowser>
 
 namespace
@@ -12,29 +15,14 @@ namespace
 using namespace korvel;
 using namespace korvel::bench;
 
-/// The course window with everything filled, and its paper.
-struct PaperOfCourse {
-    PaperOfCourse() : window(new frmCDDR(program.program()))
-    {
-        const char* const texts[] = {"35.08", "139.4", "37.45", "-122.42",
-                                     "35.08", "139.4", "88.1",  "600"};
-        for (int i = 0; i < 8; ++i)
-            find<QLineEdit>(*window, memberName("txtCDDR", i).toUtf8().constData())
-                .setText(texts[i]);
-        prepare(*window, find<QLineEdit>(*window, "txtCDDR(0)"));
-    }
-    ~PaperOfCourse() { delete window; }
+const QString source = KORVEL_SOURCE_DIR;
 
-    QWidget& open() const
-    {
-        find<QAction>(*window, "mnuPaper(0)").trigger();
-        QApplication::processEvents();
-        return find<QWidget>(*window, "frmPaper");
-    }
-
-    BenchProgram program;
-    frmCDDR* window;
-};
+WorkedExample worked(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error(path.toStdString());
+    return {file.readAll().toStdString(), source + "/data"};
+}
 
 void close(QWidget& window)
 {
@@ -43,21 +31,53 @@ void close(QWidget& window)
     QApplication::processEvents();
 }
 
-/// F2 until the paper is painted.
-void openPaper(const Rounds& round)
+/// Waits until a text is on the screen.
+class Painted : public QObject
 {
-    const PaperOfCourse course;
-    round([&] { close(course.open()); });
+public:
+    explicit Painted(QTextBrowser& text) { text.viewport()->installEventFilter(this); }
+    void wait() const
+    {
+        while (!m_painted)
+            QApplication::processEvents();
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        m_painted = m_painted || event->type() == QEvent::Paint;
+        return false;
+    }
+
+private:
+    bool m_painted = false;
+};
+
+/// F2 until the paper can be read, or until all of it is there.
+void openPaper(const QString& example, bool whole, const Rounds& round)
+{
+    const WorkedExample window = worked(example);
+    round([&] {
+        PaperWindow& paper = window.openPaper();
+        auto& text = *paper.findChild<QTextBrowser*>();
+        Painted(text).wait();
+        if (whole) {
+            paper.finish();
+            text.document()->pageCount(); // wants all of it laid out
+        }
+        close(paper);
+    });
 }
 
 /// The baseline: a window with a bare text document of the same length.
-void openBareText(const Rounds& round)
+void openBareText(const QString& example, bool whole, const Rounds& round)
 {
     QString text;
     {
-        const PaperOfCourse course;
-        QWidget& paper = course.open();
-        text = find<QTextBrowser>(paper, "txtPaper").toPlainText();
+        const WorkedExample window = worked(example);
+        PaperWindow& paper = window.openPaper();
+        paper.finish();
+        text = paper.findChild<QTextBrowser*>()->toPlainText();
         close(paper);
     }
     round([&] {
@@ -68,15 +88,33 @@ void openBareText(const Rounds& round)
         window->setCentralWidget(browser);
         window->resize(820, 900);
         window->show();
-        QApplication::processEvents();
+        Painted(*browser).wait();
+        if (whole) browser->document()->pageCount();
         close(*window);
     });
 }
 
 } // namespace
 
+/// Every example of the manual, and the long papers of the tests.
 int main(int argc, char* argv[])
 {
-    return runUiBench(argc, argv,
-                      {{"ours/paper open", openPaper}, {"peer/paper open", openBareText}});
+    std::vector<std::pair<std::string, Work>> works;
+    const std::pair<const char*, const char*> folders[] = {{"/docs/manual/examples", ""},
+                                                           {"/tests/papers", " long"}};
+    for (const auto& [folder, mark] : folders)
+        for (const QFileInfo& each : QDir(source + folder).entryInfoList({"*.example"})) {
+            const QString path = each.filePath();
+            for (const bool whole : {false, true}) {
+                const std::string name = (whole ? "/paper whole/" : "/paper open/") +
+                                         each.baseName().toStdString() + mark;
+                works.emplace_back("ours" + name, [path, whole](const Rounds& round) {
+                    openPaper(path, whole, round);
+                });
+                works.emplace_back("peer" + name, [path, whole](const Rounds& round) {
+                    openBareText(path, whole, round);
+                });
+            }
+        }
+    return runUiBench(argc, argv, works);
 }

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/EntryPanel.h"
 
+#include "app/reading.h"
 #include "forms/frmSunSight/PanelParts.h"
+#include "forms/frmSunSight/SightLine.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -187,8 +189,12 @@ std::vector<PaperFigure> EntryPanel::paperFigures() const
         {"Limb", m_optSunLimb[1]->isChecked() ? "upper" : "lower"}};
     const auto add = [&](const FieldBoxes& boxes, std::size_t field, const QString& empty) {
         PaperFigure figure = boxes.paperFigure(field);
-        if (boxes[field]->value().empty() && !empty.isEmpty())
-            figure.value = empty.toStdString() + " (nothing entered)";
+        if (boxes[field]->value().empty() && !empty.isEmpty()) {
+            const std::string assumed = empty.toStdString();
+            const bool isNumber = readLeadingNumber(assumed).has_value();
+            figure.value = figureText(assumed, isNumber ? boxes.unitOnPaper(field) : "") +
+                           " (nothing entered)";
+        }
         figures.push_back(figure);
     };
     for (std::size_t field = 0; field < m_entry.size(); ++field) {
@@ -199,6 +205,10 @@ std::vector<PaperFigure> EntryPanel::paperFigures() const
             isZero            ? QString("0")
             : field == DRTime ? QString("time of the last sight")
                               : m_entry[field]->placeholderText());
+        const auto altitude = readLeadingNumber(m_entry[field]->value());
+        if (field == Hs && altitude)
+            figures.back() = {figures.back().name, angleInFull(NavFunc113::DegMin(*altitude)), "",
+                              m_entry[field]->value()};
     }
     for (std::size_t field = 0; field < m_quality.size(); ++field)
         add(m_quality, field, m_quality[field]->placeholderText());

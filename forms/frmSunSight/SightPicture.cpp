@@ -183,15 +183,17 @@ void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words
     const double width = painter.fontMetrics().horizontalAdvance(words);
     at.setX(std::clamp(at.x(), area.left(), std::max(area.left(), area.right() - width)));
     at.setY(std::clamp(at.y(), area.top() + painter.fontMetrics().ascent(), area.bottom()));
+    if (isOnPaper()) { // letters, to be found in the file
+        const QRectF room = painter.fontMetrics().tightBoundingRect(words);
+        painter.fillRect(room.translated(at).adjusted(-1, -1, 1, 1), m_colours.paper);
+        painter.setPen(m_colours.ink);
+        painter.drawText(at, words);
+        return;
+    }
     QPainterPath path;
     path.addText(at, painter.font(), words);
     painter.strokePath(path, pen(m_colours.paper, 3));
-    if (!isOnPaper()) {
-        painter.fillPath(path, m_colours.ink);
-        return;
-    }
-    painter.setPen(m_colours.ink); // letters, to be found in the file
-    painter.drawText(at, words);
+    painter.fillPath(path, m_colours.ink);
 }
 
 void SightPicture::draw(QPainter& painter)

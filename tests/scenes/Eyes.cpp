@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/Format.h"
-#include "app/shell/ResultLabel.h"
+#include "app/shell/PaperWindow.h"
 #include "tests/scenes/Steps.h"
 #include "tests/shell/Pixels.h"
+#include "tools/papers/ExamplePaper.h"
 
 #include <QAbstractButton>
 #include <QAbstractSlider>
@@ -27,6 +28,13 @@ namespace korvel::testing
 namespace
 {
 
+/// With the end of a long paper, which is written when its beginning has been painted.
+QString wholePaper(QTextEdit& text)
+{
+    dynamic_cast<PaperWindow&>(*text.window()).finish();
+    return text.toPlainText();
+}
+
 std::string shownBy(QWidget& widget)
 {
     if (auto* choice = qobject_cast<QComboBox*>(&widget))
@@ -34,7 +42,7 @@ std::string shownBy(QWidget& widget)
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return button->text().toStdString();
     if (auto* texts = qobject_cast<QPlainTextEdit*>(&widget))
         return texts->toPlainText().toStdString();
-    if (auto* paper = qobject_cast<QTextEdit*>(&widget)) return paper->toPlainText().toStdString();
+    if (auto* paper = qobject_cast<QTextEdit*>(&widget)) return wholePaper(*paper).toStdString();
     if (auto* list = qobject_cast<QListWidget*>(&widget)) {
         std::string rows;
         for (int row = 0; row < list->count(); ++row)
@@ -225,22 +233,12 @@ void count(const char* what, int seen, const Words& words)
 }
 
 /// Every result of the window in hand stands in the working of its paper as it is shown.
-void worked(Stage& stage, const Words& words)
+void worked(Stage& stage, const Words&)
 {
-    const QRegularExpression others("^(echo .*|lblNotice|lblWpNo.*)$");
     pressKey("F2");
     auto& text = dynamic_cast<QTextEdit&>(stage.control("txtPaper"));
-    const QString working = text.toPlainText().section("Working: ", 1).simplified();
-    for (const auto* label : stage.window().findChildren<ResultLabel*>()) {
-        const std::string name = label->objectName().toStdString();
-        const bool isExcepted =
-            std::ranges::any_of(words, [&](const Word& each) { return each.text == name; });
-        if (label->text().isEmpty() || isExcepted || others.match(label->objectName()).hasMatch())
-            continue;
-        if (!working.contains(label->text().simplified()))
-            throw std::runtime_error("no step leads to " + name + ", " +
-                                     label->text().toStdString());
-    }
+    for (const std::string& name : resultsWithoutStep(stage.window(), wholePaper(text)))
+        throw std::runtime_error("no step leads to " + name);
     text.window()->close();
     stage.turnTo(stage.window().objectName().toStdString());
 }

@@ -5,6 +5,7 @@
 #include "tests/scenes/Script.h"
 #include "tests/shell/ShellTesting.h"
 
+#include <QDir>
 #include <QTimer>
 
 #include <deque>
@@ -29,7 +30,10 @@ public:
     std::optional<std::string> saveAnywhere(const std::string& path,
                                             const std::string& bytes) override
     {
-        return refusal ? refusal : save(path, bytes);
+        const bool isWhole = QDir::isAbsolutePath(QString::fromStdString(path));
+        return refusal   ? refusal
+               : isWhole ? ProgramFolder::saveAnywhere(path, bytes)
+                         : save(path, bytes);
     }
     Content readAnywhere(const std::string& path) override { return read(path); }
 

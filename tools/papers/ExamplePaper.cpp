@@ -5,7 +5,6 @@
 #include "app/shell/PaperWindow.h"
 #include "app/shell/ResultLabel.h"
 #include "calculator_windows.h"
-#include "tools/papers/ExampleMachine.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -75,13 +74,14 @@ void writeFile(FileStore& files, const QString& rest)
         throw std::runtime_error(*reason);
 }
 
-/// What the machine has before the program starts.
-void prepare(ExampleMachine& machine, const std::vector<ExampleLine>& lines)
+/// The files of the machine as they are before the program starts, and its clock.
+FileStore& prepared(ExampleMachine& machine, const std::string& example)
 {
-    for (const ExampleLine& line : lines) {
+    for (const ExampleLine& line : linesOf(example)) {
         if (line.word == "clock") machine.clock.UTC = readDateTime(line.rest.toStdString()).value();
         if (line.word == "file") writeFile(machine.files, line.rest);
     }
+    return machine.files;
 }
 
 /// What the officer does.
@@ -106,18 +106,6 @@ QMainWindow& work(frmKORVEL2000& main, const std::vector<ExampleLine>& lines, st
     return *window;
 }
 
-std::vector<std::string> missingIn(const QString& working, const QMainWindow& window)
-{
-    static const QRegularExpression others(
-        "^(echo .*|lblNotice|lblWpNo.*|lblPlace|lblDate|lblTD|lblNow)$");
-    std::vector<std::string> missing;
-    for (const auto* label : window.findChildren<ResultLabel*>())
-        if (!others.match(label->objectName()).hasMatch() &&
-            !working.contains(label->text().simplified()))
-            missing.push_back(label->objectName().toStdString());
-    return missing;
-}
-
 /// The toolkit's Markdown, in which a stroke of a formula would end its cell of a table.
 std::string markdownOf(const QTextDocument& paper)
 {
@@ -133,21 +121,44 @@ std::string markdownOf(const QTextDocument& paper)
 
 } // namespace
 
+WorkedExample::WorkedExample(const std::string& example, const QString& data)
+    : m_machine(data),
+      m_main({m_machine.officer, m_machine.clock, prepared(m_machine, example), m_machine.bell},
+             calculatorWindows()),
+      m_window(&work(m_main, linesOf(example), m_source))
+{
+}
+
+PaperWindow& WorkedExample::openPaper() const
+{
+    m_window->findChild<QAction*>("mnuPaper(0)")->trigger();
+    return *m_window->findChild<PaperWindow*>("frmPaper");
+}
+
 ExamplePaper workExample(const std::string& example, const QString& data)
 {
-    const std::vector<ExampleLine> lines = linesOf(example);
-    ExampleMachine machine(data);
-    prepare(machine, lines);
-    frmKORVEL2000 main({machine.officer, machine.clock, machine.files, machine.bell},
-                       calculatorWindows());
-    std::string source;
-    QMainWindow& window = work(main, lines, source);
-    window.findChild<QAction*>("mnuPaper(0)")->trigger();
-    const auto& paper = *window.findChild<PaperWindow*>("frmPaper");
+    const WorkedExample worked(example, data);
+    PaperWindow& paper = worked.openPaper();
+    paper.finish();
     const QTextDocument& text = *paper.findChild<QTextEdit*>("txtPaper")->document();
-    const std::string head = "Worked by the program (see examples). Source: " + source + ".\n\n";
+    const std::string head =
+        "Worked by the program (see examples). Source: " + worked.source() + ".\n\n";
     return {head + markdownOf(text), paper.paper().PDF(),
-            missingIn(text.toPlainText().section("Working: ", 1).simplified(), window)};
+            resultsWithoutStep(worked.window(), text.toPlainText())};
+}
+
+std::vector<std::string> resultsWithoutStep(const QWidget& window, const QString& paperText)
+{
+    // They tell inputs, where nothing has to be worked out, or what is said beside a result.
+    static const QRegularExpression others(
+        "^(echo .*|lblNotice|lblWpNo.*|lblPlace|lblDate|lblTD|lblNow)$");
+    const QString working = paperText.section("Working: ", 1).simplified();
+    std::vector<std::string> missing;
+    for (const auto* label : window.findChildren<ResultLabel*>())
+        if (!others.match(label->objectName()).hasMatch() &&
+            !working.contains(label->text().simplified()))
+            missing.push_back(label->objectName().toStdString());
+    return missing;
 }
 
 } // namespace korvel

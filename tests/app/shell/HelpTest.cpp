@@ -59,6 +59,12 @@ protected:
             main->openWindow(entry.name);
             windows.push_back(qobject_cast<QMainWindow*>(shown(entry.name)));
         }
+        main->findChild<QAction*>("mnuJournal")->trigger();
+        windows.back()->findChild<QAction*>("mnuPaper(0)")->trigger();
+        for (const char* name : {"frmJournal", "frmPaper"}) {
+            windows.push_back(qobject_cast<QMainWindow*>(shown(name)));
+            EXPECT_EQ(HelpDesk::topicOf(*windows.back()).pages.front(), "paper") << name;
+        }
         return windows;
     }
 
