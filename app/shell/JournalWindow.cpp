@@ -40,7 +40,9 @@ JournalWindow::JournalWindow(Program& program)
     m_text->setObjectName("txtDay");
     m_text->setAccessibleName("What was kept on the day");
     m_text->setReadOnly(true);
-    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont fixed; // as large as all letters
+    fixed.setFamilies(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
+    m_text->setFont(fixed);
     m_found->setObjectName("lblFound");
     m_found->setAccessibleName("What was found");
 

@@ -117,7 +117,12 @@ void PaperDocument::fill(QTextDocument& document) const
     write(document, m_plainText.isNull() ? htmlFrom(0) : QString());
 }
 
-std::size_t PaperDocument::fillBeginning(QTextDocument& document) const
+QFont PaperDocument::letters(int zoom)
+{
+    return paperFont(paperLetters * zoom / 100);
+}
+
+std::size_t PaperDocument::fillBeginning(QTextDocument& document, int zoom) const
 {
     const std::vector<PaperPart> parts = paperParts(m_heading, m_paper, m_pictures.size());
     QString html = parts.front().html();
@@ -127,7 +132,7 @@ std::size_t PaperDocument::fillBeginning(QTextDocument& document) const
         html += parts[part].html();
         lines += parts[part].lines;
     }
-    write(document, html);
+    write(document, html, zoom);
     return part;
 }
 
@@ -149,10 +154,10 @@ void PaperDocument::fillRest(QTextDocument& document, std::size_t from) const
     end.endEditBlock();
 }
 
-void PaperDocument::write(QTextDocument& document, const QString& html) const
+void PaperDocument::write(QTextDocument& document, const QString& html, int zoom) const
 {
     document.setUndoRedoEnabled(false);
-    document.setDefaultFont(paperFont(paperLetters));
+    document.setDefaultFont(letters(zoom));
     if (!m_plainText.isNull()) {
         document.setPlainText(m_plainText);
         return;

@@ -3,6 +3,7 @@
 
 #include "app/WorkingPaper.h"
 
+#include <QFont>
 #include <QPicture>
 #include <QString>
 
@@ -45,9 +46,14 @@ public:
     void fill(QTextDocument& document) const;
 
     /// Writes as much of it into an empty document as a window shows at first.
+    /// @param zoom percent of the letters' size on paper
     /// @return the part that fillRest() goes on with
-    std::size_t fillBeginning(QTextDocument& document) const;
+    std::size_t fillBeginning(QTextDocument& document, int zoom) const;
     void fillRest(QTextDocument& document, std::size_t from) const;
+
+    /// The letters of a paper.
+    /// @param zoom percent of their size on paper
+    static QFont letters(int zoom);
 
     /// Draws pages, each with its number, onto paper or into a file.
     /// @param painter is active on the device
@@ -59,7 +65,7 @@ public:
 
 private:
     QString htmlFrom(std::size_t part) const;
-    void write(QTextDocument& document, const QString& html) const;
+    void write(QTextDocument& document, const QString& html, int zoom = 100) const;
 
     QString m_title;
     PaperHeading m_heading{};

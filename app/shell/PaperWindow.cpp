@@ -14,8 +14,9 @@
 
 namespace korvel
 {
+
 PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* parent)
-    : QMainWindow(parent, Qt::Window), m_paper(paper), m_text(new QTextBrowser),
+    : QMainWindow(parent, Qt::Window), m_program(program), m_paper(paper), m_text(new QTextBrowser),
       m_menu(program, *this,
              {[this] { return m_paper; },
               [this](const QString& said) { statusBar()->showMessage(said); }}),
@@ -38,6 +39,7 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     m_menu.addTo(*menuBar(), nullptr);
     m_menus.addView();
     program.addHelpMenu(*menuBar());
+    connect(&program.screen(), &Screen::zoomChanged, this, &PaperWindow::zoom);
     resizeForText(*this, 118, 50);
     showPaper(paper);
 }
@@ -51,8 +53,15 @@ void PaperWindow::showPaper(const PaperDocument& paper)
     show();
     raise();
     activateWindow();
-    m_rest = m_paper.fillBeginning(*m_text->document());
+    m_rest = m_paper.fillBeginning(*m_text->document(), m_program.screen().choices().zoom);
     m_text->moveCursor(QTextCursor::Start);
+}
+
+void PaperWindow::zoom()
+{
+    m_text->document()->setDefaultFont(PaperDocument::letters(m_program.screen().choices().zoom));
+    resizeForText(*this, 118, 50);
+    bringOntoScreen(*this);
 }
 
 void PaperWindow::finish()

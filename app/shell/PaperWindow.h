@@ -33,6 +33,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void zoom();
+
+    Program& m_program;
     PaperDocument m_paper;
     QTextBrowser* m_text;
     std::size_t m_rest = 0; ///< part of the paper that is still to be written; 0 for none
