@@ -88,6 +88,14 @@ bool isNight(const QPalette& palette)
            relativeLuminance(palette.color(QPalette::Window));
 }
 
+double strayLight(const QPalette& palette)
+{
+    const bool isLastStep =
+        isNight(palette) &&
+        relativeLuminance(palette.color(QPalette::WindowText)) < 2 * nightSteps.back().peak;
+    return isLastStep ? 0.005 : 0.05;
+}
+
 QColor atLuminance(const QColor& hue, double luminance)
 {
     const double factor = luminance / relativeLuminance(hue);

@@ -37,6 +37,10 @@ struct ColourScheme {
 /// True for a palette that is light on dark.
 bool isNight(const QPalette& palette);
 
+/// What the formula of contrast adds to both luminances for the light that falls on the screen:
+/// 0.05, and a tenth of that where a palette is of the last step of the night.
+double strayLight(const QPalette& palette);
+
 /// Relative luminance of a colour of the screen, 0 black to 1 white. Source: IEC 61966-2-1 (sRGB).
 double relativeLuminance(const QColor& colour);
 

@@ -90,6 +90,7 @@ void HelpDesk::open(const HelpTopic& topic)
 void HelpDesk::openBelow(QWidget& window, const QString& page)
 {
     openPage(page);
+    if (!m_window) return; // a question has it
     const QRect screen = window.screen()->availableGeometry();
     const QRect taken = window.frameGeometry();
     // Both have the same frame, that of the new window is not known yet.

@@ -2,6 +2,7 @@
 #include "app/shell/HelpWindow.h"
 
 #include "app/shell/Manual.h"
+#include "app/shell/reading_order.h"
 #include "app/shell/window_places.h"
 
 #include <QBoxLayout>
@@ -108,9 +109,7 @@ void HelpWindow::addKeys()
     });
     key(Qt::Key_F3, [this] { findInPage(false); });
     key(QKeySequence("Shift+F3"), [this] { findInPage(true); });
-    setTabOrder(m_txtFind, m_lstFound);
-    setTabOrder(m_lstFound, m_view);
-    setTabOrder(m_view, m_cmdBack);
+    setTabOrderByReading(*this);
 }
 
 void HelpWindow::openAt(const QStringList& pages, const QString& name)

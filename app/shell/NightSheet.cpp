@@ -2,7 +2,7 @@
 #include "app/shell/NightSheet.h"
 
 #include "app/shell/ColourScheme.h"
-#include "app/shell/ScreenStyle.h"
+#include "app/shell/night_tint.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -15,10 +15,7 @@ void NightSheet::draw(QPainter* painter)
     if (!isNight(QApplication::palette())) return drawSource(painter);
     QPoint offset;
     const QPixmap sheet = sourcePixmap(Qt::LogicalCoordinates, &offset, PadToEffectiveBoundingRect);
-    QImage inverse = sheet.toImage();
-    inverse.invertPixels();
-    painter->drawPixmap(offset, tinted(QPixmap::fromImage(inverse),
-                                       QApplication::palette().color(QPalette::WindowText)));
+    painter->drawPixmap(offset, sheetAtNight(sheet, QApplication::palette()));
 }
 
 } // namespace korvel

@@ -6,6 +6,7 @@
 #include "app/shell/window_places.h"
 
 #include <QDialogButtonBox>
+#include <QGraphicsView>
 #include <QPainter>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -14,6 +15,12 @@
 
 namespace korvel
 {
+namespace
+{
+
+constexpr QRgb aroundPages = qRgb(208, 212, 216); // a shade that stays dim by night
+
+} // namespace
 PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent)
     : QDialog(parent), m_pages(new QPrintPreviewWidget(&printer))
 {
@@ -24,7 +31,10 @@ PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWi
         document.drawPages(*onto, painter);
     });
     m_pages->fitToWidth();
-    m_pages->setGraphicsEffect(new NightSheet(m_pages));
+    if (auto* view = m_pages->findChild<QGraphicsView*>()) {
+        view->scene()->setBackgroundBrush(QColor(aroundPages));
+        view->viewport()->setGraphicsEffect(new NightSheet(view->viewport()));
+    }
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     const auto add = [&](const char* caption, const char* name, QDialogButtonBox::ButtonRole role) {

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMessageBox>
 
 namespace korvel
 {
@@ -29,7 +30,11 @@ void Screen::apply()
     m_applied = wanted;
     if (recoloured) m_colours = wanted.colours();
     const double ratio = applyLooks(wanted, m_colours);
-    if (recoloured) emit coloursChanged();
+    if (recoloured) {
+        for (QWidget* each : QApplication::topLevelWidgets()) // whose icon is a picture
+            if (auto* box = qobject_cast<QMessageBox*>(each)) box->setIcon(box->icon());
+        emit coloursChanged();
+    }
     if (zoomed) emit zoomChanged(ratio);
 }
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ScreenStyle.h"
 
+#include "app/shell/ColourScheme.h"
+#include "app/shell/night_tint.h"
+
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QGroupBox>
 #include <QPainter>
@@ -134,7 +138,7 @@ std::optional<int> turnOf(QStyle::PrimitiveElement element)
 }
 
 /// What a message box is about, in the colours of the palette.
-QPixmap messageIcon(QStyle::StandardPixmap which, const QPalette& palette, int side)
+QPixmap drawnMessageIcon(QStyle::StandardPixmap which, const QPalette& palette, int side)
 {
     const QString sign = which == QStyle::SP_MessageBoxQuestion      ? "?"
                          : which == QStyle::SP_MessageBoxInformation ? "i"
@@ -157,36 +161,25 @@ QPixmap messageIcon(QStyle::StandardPixmap which, const QPalette& palette, int s
     return picture;
 }
 
+/// Draws a control that has an icon with one in the colours of the palette, whoever made it and
+/// whenever. @return false when the control is not of that kind
+template <typename Option, typename Draw>
+bool drawTinted(const QStyleOption& option, QIcon Option::*icon, Draw draw)
+{
+    const auto* own = qstyleoption_cast<const Option*>(&option);
+    if (!own || (own->*icon).isNull()) return false;
+    Option copy(*own);
+    copy.*icon = tinted(own->*icon, option.palette.color(QPalette::WindowText));
+    draw(copy);
+    return true;
+}
+
 bool isMessageIcon(QStyle::StandardPixmap which)
 {
     return which >= QStyle::SP_MessageBoxInformation && which <= QStyle::SP_MessageBoxQuestion;
 }
 
 } // namespace
-
-QPixmap tinted(const QPixmap& picture, const QColor& brightest)
-{
-    QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int grey = qGray(line[x]);
-            line[x] = qRgba(brightest.red() * grey / 255, brightest.green() * grey / 255,
-                            brightest.blue() * grey / 255, qAlpha(line[x]));
-        }
-    }
-    QPixmap made = QPixmap::fromImage(image);
-    made.setDevicePixelRatio(picture.devicePixelRatio());
-    return made;
-}
-
-QIcon tinted(const QIcon& icon, const QColor& brightest)
-{
-    QIcon made;
-    for (int side : {16, 24, 32, 64})
-        made.addPixmap(tinted(icon.pixmap(side, side), brightest));
-    return made;
-}
 
 ScreenStyle::ScreenStyle() : QProxyStyle("Fusion") {}
 
@@ -259,7 +252,16 @@ void ScreenStyle::drawControl(ControlElement element, const QStyleOption* option
                           outlineOf(*option));
         return;
     }
-    QProxyStyle::drawControl(element, option, painter, widget);
+    const auto draw = [&](const QStyleOption& with) {
+        QProxyStyle::drawControl(element, &with, painter, widget);
+    };
+    const bool done =
+        isNight(option->palette) && (drawTinted(*option, &QStyleOptionViewItem::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionToolButton::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionButton::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionMenuItem::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionComboBox::currentIcon, draw));
+    if (!done) draw(*option);
     if (element != CE_HeaderSection) return;
     painter->setPen(outlineOf(*option));
     painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
@@ -300,6 +302,9 @@ int ScreenStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
 {
     const int own = QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
+    case PM_DefaultFrameWidth:
+        // Lists and pages have room for the outline of the focus beside what they show.
+        return qobject_cast<const QAbstractScrollArea*>(widget) ? std::max(own, focusWidth) : own;
     case PM_TextCursorWidth:
         return 0; // it is drawn with the panel
     case PM_IndicatorWidth:
@@ -340,39 +345,27 @@ int ScreenStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
     return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
-/// A picture of the toolkit, the icons of message boxes in the program's own drawing.
-template <typename Make>
-auto ScreenStyle::inColours(StandardPixmap which, const QStyleOption* option, const QWidget* widget,
-                            Make make) const -> decltype(make())
+/// The icons of message boxes are the program's own drawing in the colours of the palette: the
+/// toolkit's are white bubbles.
+QPixmap ScreenStyle::messageIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const
 {
-    const QPalette palette = option ? option->palette : QApplication::palette();
-    if (isMessageIcon(which))
-        return messageIcon(which, palette, pixelMetric(PM_MessageBoxIconSize, option, widget));
-    auto own = make();
-    if (!m_tintsIcons) return own;
-    return tinted(own, palette.color(QPalette::WindowText));
+    return drawnMessageIcon(which, option ? option->palette : QApplication::palette(),
+                            pixelMetric(PM_MessageBoxIconSize, option, widget));
 }
 
 QPixmap ScreenStyle::standardPixmap(StandardPixmap which, const QStyleOption* option,
                                     const QWidget* widget) const
 {
-    return inColours(which, option, widget,
-                     [&] { return QProxyStyle::standardPixmap(which, option, widget); });
-}
-
-QPixmap ScreenStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture,
-                                         const QStyleOption* option) const
-{
-    QPixmap own = QProxyStyle::generatedIconPixmap(mode, picture, option);
-    if (!m_tintsIcons || mode == QIcon::Normal) return own;
-    return tinted(own, option->palette.color(QPalette::Disabled, QPalette::WindowText));
+    return isMessageIcon(which) ? messageIcon(which, option, widget)
+                                : QProxyStyle::standardPixmap(which, option, widget);
 }
 
 QIcon ScreenStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                 const QWidget* widget) const
 {
-    return inColours(which, option, widget,
-                     [&] { return QProxyStyle::standardIcon(which, option, widget); });
+    return isMessageIcon(which) ? QIcon(messageIcon(which, option, widget))
+                                : QProxyStyle::standardIcon(which, option, widget);
 }
 
 } // namespace korvel

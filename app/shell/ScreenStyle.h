@@ -20,8 +20,6 @@ public:
 
     /// Sizes of boxes, bars and icons in percent of the toolkit's own; letters are not its matter.
     void setZoom(int percent) { m_zoom = percent; }
-    /// Lets icons be drawn in the colours of the palette, for the night.
-    void setTintedIcons(bool tinted) { m_tintsIcons = tinted; }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
@@ -39,25 +37,14 @@ public:
                        const QWidget* widget) const override;
     QPixmap standardPixmap(StandardPixmap which, const QStyleOption* option,
                            const QWidget* widget) const override;
-    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& picture,
-                                const QStyleOption* option) const override;
 
 private:
-    template <typename Make>
-    auto inColours(StandardPixmap which, const QStyleOption* option, const QWidget* widget,
-                   Make make) const -> decltype(make());
-
+    QPixmap messageIcon(StandardPixmap which, const QStyleOption* option,
+                        const QWidget* widget) const;
     void drawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
                        const QWidget* widget) const;
 
     int m_zoom = 100;
-    bool m_tintsIcons = false;
 };
-
-/// The same picture in the shades of one colour, its brightest part as bright as that.
-QPixmap tinted(const QPixmap& picture, const QColor& brightest);
-
-/// An icon of pictures that are tinted.
-QIcon tinted(const QIcon& icon, const QColor& brightest);
 
 } // namespace korvel

@@ -211,6 +211,10 @@ void frmKORVEL2000::start()
 /// and gone with one key.
 void frmKORVEL2000::greet()
 {
+    if (QApplication::activeModalWidget()) { // first things first
+        QTimer::singleShot(placingTime, this, &frmKORVEL2000::greet);
+        return;
+    }
     if (!m_help.manual().has("first-start")) return;
     m_help.openBelow(*this, "first-start");
     m_greeted.saveQuietly({1.0});

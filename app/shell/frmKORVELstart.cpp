@@ -3,7 +3,7 @@
 
 #include "app/Questions.h"
 #include "app/shell/ColourScheme.h"
-#include "app/shell/ScreenStyle.h"
+#include "app/shell/night_tint.h"
 
 #include <QGuiApplication>
 #include <QLinearGradient>
@@ -124,7 +124,7 @@ void frmKORVELstart::draw(QPainter& painter) const
     drawCompassRose(painter, QColor(245, 225, 185), QColor(160, 110, 60));
     painter.restore();
 
-    painter.setPen(QColor(245, 235, 215));
+    painter.setPen(QColor(255, 250, 235));
     drawLine(painter, {216, 146}, "Calculators for the");
     drawLine(painter, {216, 168}, "officer of the watch");
     drawLine(painter, {214, 120}, programTitle, width() * 0.52);

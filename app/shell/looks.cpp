@@ -81,8 +81,6 @@ Looks looksOfLastRun(const QString& folder)
 
 double applyLooks(const Looks& looks, const ColourScheme& colours)
 {
-    if (auto* style = dynamic_cast<ScreenStyle*>(QApplication::style()))
-        style->setTintedIcons(looks.night);
     if (QApplication::palette() != colours.palette) {
         QApplication::setPalette(colours.palette);
         QToolTip::setPalette(colours.palette);

@@ -19,11 +19,16 @@ double luminance(QRgb colour)
 
 std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part)
 {
-    const QRect seen = part & image.rect();
+    const QImage seen = image.copy(part & image.rect()).convertToFormat(QImage::Format_ARGB32);
     std::map<QRgb, int> counts;
-    for (int y = seen.top(); y <= seen.bottom(); ++y)
-        for (int x = seen.left(); x <= seen.right(); ++x)
-            ++counts[image.pixel(x, y)];
+    for (int y = 0; y < seen.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(seen.constScanLine(y));
+        for (int x = 0, end = 0; x < seen.width(); x = end) { // in runs: most of it is ground
+            while (end < seen.width() && line[end] == line[x])
+                ++end;
+            counts[line[x]] += end - x;
+        }
+    }
     return counts;
 }
 
