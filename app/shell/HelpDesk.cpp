@@ -58,6 +58,8 @@ HelpTopic HelpDesk::topicOf(const QWidget& control)
     const QStringList pages = pagesOf(ownerOf(control));
     if (const QString question = questionOf(*control.window()); !question.isEmpty())
         return {QStringList("messages") + pages, question.simplified()};
+    if (dynamic_cast<const HelpWindow*>(control.window()))
+        return {{Manual::pages().front()}, "In the manual"};
     if (auto* notices = dynamic_cast<const NoticeLine*>(&control))
         return {{"messages"}, notices->firstSaid()};
     for (const QWidget* each = &control; each && !each->isWindow(); each = each->parentWidget())

@@ -180,6 +180,9 @@ TEST_F(KeysTest, helpComesAtItsPageAndGoes)
         auto& help = dynamic_cast<HelpWindow&>(onScreen("frmHelp"));
         EXPECT_EQ(help.view().page(), Manual::pageOf(entry.name)) << nameOf(each);
     }
+    press(onScreen("frmHelp"), Qt::Key_F1);
+    auto& view = dynamic_cast<HelpWindow&>(onScreen("frmHelp")).view();
+    EXPECT_EQ(view.textCursor().selectedText(), "In the manual");
     press(onScreen("frmHelp"), Qt::Key_Escape);
     EXPECT_EQ(shown("frmHelp"), nullptr);
 }
