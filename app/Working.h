@@ -60,4 +60,13 @@ std::string term(Number value, int decimals)
     return digits.starts_with('-') ? '(' + digits + ')' : digits;
 }
 
+/// The same of an angle in degrees: "(-97.9333°)". The sign of degrees stands within the brackets,
+/// where a line does not end between the digits.
+template <typename Number>
+std::string angleTerm(Number degrees, int decimals)
+{
+    const std::string digits = figure(degrees, decimals) + "°";
+    return digits.starts_with('-') ? '(' + digits + ')' : digits;
+}
+
 } // namespace korvel

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/sailing_working.h"
 
+#include "app/Format.h"
 #include "app/KORVEL2000Actions.h"
 #include "navlib/angles.h"
 
@@ -18,7 +19,7 @@ constexpr int factorDecimals = 7;
 
 std::string degreesTerm(Degrees angle)
 {
-    return term(angle, angleDecimals) + "°";
+    return angleTerm(angle, angleDecimals);
 }
 
 void addCourse(Working& working, const NavFunc113::RhumbLeg& leg)
@@ -146,7 +147,8 @@ void addRunInLatitude(Working& working, const ReckonedRun& from, const NavFunc11
                       Earth earth)
 {
     working.step("Run to the north", "r = D cos C / 60",
-                 memoText(from.distance) + " × cos " + memoText(from.course) + "°" + " / 60",
+                 Format(from.distance.value(), "0.#####") + " × cos " + memoText(from.course) +
+                     "°" + " / 60",
                  figure(run.run, angleDecimals), "°");
     if (earth == Earth::Spheroid) {
         working.step("Latitude for the length of the minute of latitude",

@@ -6,6 +6,7 @@
 #include "app/shell/Program.h"
 #include "app/shell/window_places.h"
 
+#include <QEvent>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTextBrowser>

@@ -87,7 +87,9 @@ void addRows(std::vector<Piece>& pieces, QTextTable& table)
         if (!isLast) next = textsOfRow(table, row + 1);
         const double bottom = isLast ? all.bottom : (texts.bottom + next.top) / 2;
         const bool isHeading = row < headings;
-        pieces.push_back({{top, bottom}, isHeading, isHeading ? PaperSlice() : heading});
+        // One row alone, at the foot of a page or at the head of the next, is soon overlooked.
+        const bool isKept = !isLast && (row <= headings || row + 2 == table.rows());
+        pieces.push_back({{top, bottom}, isKept, isHeading ? PaperSlice() : heading});
         if (isHeading) heading.bottom = bottom;
         top = bottom;
     }

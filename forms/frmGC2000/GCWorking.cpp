@@ -20,7 +20,7 @@ constexpr int milesDecimals = 4;
 
 std::string degrees(Degrees angle)
 {
-    return term(angle, decimals) + "°";
+    return angleTerm(angle, decimals);
 }
 
 struct EndTexts {

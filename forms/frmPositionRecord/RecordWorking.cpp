@@ -207,7 +207,7 @@ std::vector<Working> currentWorkings(const PositionRecordInput& input,
                   figure(current.leg.hours, hoursDecimals), "h");
     reckoned.step("Run by speed steered", "D = V t",
                   memoText(current.speedSteered) + " × " + figure(current.leg.hours, hoursDecimals),
-                  memoText(current.run), "miles");
+                  Format(current.run.value(), "0.#####"), "miles");
     addRunInLatitude(reckoned, run, current.latitude, input.earth);
     addRunInLongitude(reckoned, run, current.latitude, current.longitude, input.earth);
 

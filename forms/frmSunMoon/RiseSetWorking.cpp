@@ -32,7 +32,7 @@ constexpr std::array<EventWords, 4> eventWords = {{
 
 std::string degreesText(Degrees angle)
 {
-    return term(angle, decimals) + "°";
+    return angleTerm(angle, decimals);
 }
 
 std::string instantText(DateTime instant)
@@ -154,9 +154,9 @@ void addLastStep(Working& working, const RiseSetFigures& figures, const RowFigur
                  figure(*last.hourAngle, decimals), "°");
     working.step("Hours from 0h of the date", "t = 24 (i + n - 1) + (±H - E - λ) / 15 + TD",
                  "24 × (" + std::to_string(last.round) + " + " + figure(rule.wholeDays, 0) +
-                     " - 1) + (" + term(rule.side * *last.hourAngle, decimals) + "° - " +
-                     term(last.body.hourAngleOffset, decimals) + "° - " +
-                     term(DegMinToDeg(row.typed.longitude), decimals) + "°) / 15 + " +
+                     " - 1) + (" + degreesText(rule.side * *last.hourAngle) + " - " +
+                     degreesText(last.body.hourAngleOffset) + " - " +
+                     degreesText(DegMinToDeg(row.typed.longitude)) + ") / 15 + " +
                      term(row.typed.TD.value(), 5),
                  figure((last.event - date) * 24, 5), "h");
 }

@@ -31,6 +31,17 @@ std::string inFull(const std::optional<DegMin>& angle)
     return angle ? angleInFull(*angle) : std::string();
 }
 
+/// The latitude by the sight; nothing where the side of the Sun is in doubt and two are shown.
+std::string latitudeInFull(const MeridianResult& noon)
+{
+    const auto& latitudes = noon.figures.latitudes;
+    if (!latitudes || noon.latitude.empty() || noon.latitude.find(' ') != std::string::npos)
+        return {};
+    return positionForCopy(
+        DegToDegMin(noon.figures.isSouth ? latitudes->bodyToTheSouth : latitudes->bodyToTheNorth),
+        Axis::Latitude);
+}
+
 void addLineResults(const SightPaperParts& parts, WorkingPaper& paper)
 {
     const LOPResult& line = parts.line;
@@ -54,7 +65,7 @@ void addLineResults(const SightPaperParts& parts, WorkingPaper& paper)
     addResult(paper, "Azimuth Zn", line.Zn, "", "degrees true");
     addResult(paper, "Local apparent noon", parts.noon.noon);
     addResult(paper, "Greatest altitude", parts.noon.greatest);
-    addResult(paper, "Latitude by the sight", parts.noon.latitude);
+    addResult(paper, "Latitude by the sight", parts.noon.latitude, latitudeInFull(parts.noon));
     addResult(paper, "The sight and the meridian", parts.noon.note);
 }
 

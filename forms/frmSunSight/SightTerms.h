@@ -16,7 +16,7 @@ inline std::string sightFigure(NavFunc113::Degrees angle)
 /// As a term of a formula.
 inline std::string sightTerm(NavFunc113::Degrees angle)
 {
-    return term(angle, 6) + "°";
+    return angleTerm(angle, 6);
 }
 
 inline std::string sightInstant(NavFunc113::DateTime instant)

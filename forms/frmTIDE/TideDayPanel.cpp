@@ -163,6 +163,10 @@ std::vector<PaperFigure> TideDayPanel::questions() const
     std::vector<PaperFigure> asked;
     for (std::size_t i = 0; i < m_boxes.size(); ++i)
         if (!m_boxes[i]->value().empty()) asked.push_back(m_boxes.paperFigure(i));
+    const bool isStream = m_day && m_day->four.kind == TideKind::Stream;
+    if (!m_boxes[1]->value().empty())
+        asked.back() = {isStream ? "Rate asked for" : "Height asked for", asked.back().value,
+                        isStream ? "kn" : "m", asked.back().shown};
     return asked;
 }
 

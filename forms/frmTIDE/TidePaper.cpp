@@ -73,13 +73,14 @@ void tellResults(WorkingPaper& paper, const TideAsked& asked)
     const TidePrediction& four = asked.day.four;
     paper.results = {
         {"Highest and lowest of the half-hourly values, hours.minutes", four.lblTideInfo}};
+    const bool isTide = four.kind == TideKind::Tide;
     for (const std::string& direction : four.lblCuDirection)
         if (!direction.empty()) paper.results.push_back({"Direction", direction});
-    paper.results.push_back(
-        {four.kind == TideKind::Tide ? "Range and Moon" : "Slack and Moon", rangeText(asked.day)});
+    paper.results.push_back({isTide ? "Range and Moon" : "Slack and Moon", rangeText(asked.day)});
     for (const CurveAnswer* answer : {&asked.height, &asked.times}) {
         const char* name = answer == &asked.height ? "At the time asked for"
-                                                   : "At the height asked for or above it";
+                           : isTide                ? "At the height asked for or above it"
+                                                   : "At the rate asked for or above it";
         if (!answer->text.empty()) paper.results.push_back({name, answer->text});
         if (!answer->all.empty()) paper.results.push_back({name, answer->all});
     }

@@ -186,15 +186,23 @@ DaysRange rangeOf(const TideDayShown& day)
     return range;
 }
 
+std::vector<Hours> slackTimesOf(const TideDayShown& day)
+{
+    std::vector<Hours> times;
+    for (const NavFunc113::TidePassage& passage :
+         NavFunc113::PassagesOf([&day](Hours t) { return day.four.at(t); }, 0))
+        times.push_back(passage.time);
+    return times;
+}
+
 std::string rangeText(const TideDayShown& day)
 {
     const double age = moonAgeOf(day.four.serial, day.four.station.zone);
     const std::string moon = springOrNeap(age) + " (Moon's age " + Format(age, "0.0") + " days)";
     if (day.four.kind == TideKind::Stream) {
         std::string slack;
-        for (const NavFunc113::TidePassage& passage :
-             NavFunc113::PassagesOf([&day](Hours t) { return day.four.at(t); }, 0))
-            slack += (slack.empty() ? "" : ", ") + clockTime(passage.time);
+        for (const Hours time : slackTimesOf(day))
+            slack += (slack.empty() ? "" : ", ") + clockTime(time);
         return "Slack " + (slack.empty() ? "never" : slack) + "; " + moon;
     }
     const DaysRange range = rangeOf(day);

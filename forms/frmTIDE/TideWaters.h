@@ -46,6 +46,9 @@ struct DaysRange {
 };
 DaysRange rangeOf(const TideDayShown& day);
 
+/// When the water of a stream is slack.
+std::vector<NavFunc113::Hours> slackTimesOf(const TideDayShown& day);
+
 /// "Range 1.90 m, springs (Moon's age 15.1 days)"; streams: when the water is slack.
 std::string rangeText(const TideDayShown& day);
 

@@ -47,10 +47,14 @@ std::vector<Instant> instantsOf(const TideAsked& asked)
             instants.push_back({isTide ? (water.four->isHigh ? "High water" : "Low water")
                                        : (water.four->isHigh ? "Greatest flood" : "Greatest ebb"),
                                 water.four->time, heightText(water.four->value, four.kind)});
+    if (!isTide)
+        for (const Hours time : slackTimesOf(asked.day))
+            instants.push_back({"Slack", time, clockTime(time)});
     for (const Hours time : asked.height.times)
         instants.push_back({"Time asked for", time, asked.height.text});
     for (const Hours time : asked.times.times)
-        instants.push_back({"Height asked for is passed", time, clockTime(time)});
+        instants.push_back({isTide ? "Height asked for is passed" : "Rate asked for is passed",
+                            time, clockTime(time)});
     return instants;
 }
 
@@ -132,8 +136,10 @@ void addRange(Working& working, const TideDayShown& day)
                          term(range.lowest, heightDecimals),
                      figure(range.highest - range.lowest, heightDecimals), "m");
     }
-    working.resultStep("Range and Moon",
-                       "springs up to 2.5 days from new or full Moon, neaps from 5 days on",
+    const bool isTide = day.four.kind == TideKind::Tide;
+    working.resultStep(isTide ? "Range and Moon" : "Slack and Moon",
+                       std::string(isTide ? "" : "slack where h is 0; ") +
+                           "springs up to 2.5 days from new or full Moon, neaps from 5 days on",
                        rangeText(day));
 }
 
@@ -162,6 +168,11 @@ Working constituentsWorking(const TideDayShown& day)
                      figure(four.level, heightDecimals), unit);
     } else {
         working.step("Mean stream", "Z = Z0", "", figure(four.level, heightDecimals), unit);
+        const std::string flood = memoText(four.floodDirection.value()) + "°";
+        working.resultStep("Direction of the flood stream, +", "compass point of " + flood,
+                           four.lblCuDirection[0]);
+        working.resultStep("Direction of the ebb stream, -",
+                           "compass point of " + flood + " + 180°", four.lblCuDirection[1]);
     }
     const NavFunc113::ShallowWaterTerms& shallow = four.station.shallowWater;
     working.step("Quarter-diurnal term", "k4, θ4", "",
@@ -190,7 +201,8 @@ Working heightsWorking(const TideAsked& asked)
     if (!asked.height.text.empty())
         working.resultStep("At the time asked for", "h of the table", asked.height.text);
     if (!asked.times.text.empty())
-        working.resultStep("At the height asked for or above it",
+        working.resultStep(four.kind == TideKind::Tide ? "At the height asked for or above it"
+                                                       : "At the rate asked for or above it",
                            "between the times of the table at which it is passed",
                            asked.times.text);
     working.tables = {wavesAt(asked.day, instants), sumsAt(asked.day, instants)};

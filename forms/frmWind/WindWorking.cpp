@@ -29,7 +29,7 @@ Working trueWindWorking(const WindResult& result)
                  "arctan(" + term(steps.abeam, 5) + " / " + term(steps.ahead, 5) + ")",
                  figure(steps.fromBow, 5), "°");
     working.step("True wind", "course + β, less or plus 360°",
-                 memoText(wind.course) + "° + " + term(steps.fromBow, 5) + "°",
+                 memoText(wind.course) + "° + " + angleTerm(steps.fromBow, 5),
                  figure(steps.direction, 5), "°");
     working.resultStep("True wind from", "point of the compass and whole degrees",
                        result.lblWind[0]);

@@ -10,6 +10,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDir>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QRegularExpression>
@@ -70,6 +71,7 @@ void writeFile(FileStore& files, const QString& rest)
 {
     const QString name = rest.section('"', 1, 1);
     const QString text = rest.section('"', 2).trimmed().replace("\\n", "\r\n");
+    QDir().mkpath(QFileInfo(QString::fromStdString(files.path(name.toStdString()))).path());
     if (const auto reason = files.save(name.toStdString(), text.toStdString()))
         throw std::runtime_error(*reason);
 }
@@ -94,6 +96,8 @@ QMainWindow& work(frmKORVEL2000& main, const std::vector<ExampleLine>& lines, st
             source = line.rest.toStdString();
         else if (line.word == "TD")
             main.program().saved().setTD(line.rest.toFloat());
+        else if (line.word == "mile")
+            main.program().saved().setUnitOfLatitude(line.rest != "1852");
         else if (line.word == "window") {
             main.openWindow(line.rest);
             window = &windowNamed(line.rest);

@@ -22,6 +22,7 @@ class PaperWindow;
 ///     source  where the figures come from
 ///     clock   2024/5/1 03:00, UTC
 ///     TD      9
+///     mile    1852, the distance unit in metres; without this line it is a minute of latitude
 ///     file    "NAME" text of a file beside the program, \n for a line end
 ///     window  frmCDDR
 ///     NAME    what is typed into that box; for a list the number of the entry; buttons and menu
