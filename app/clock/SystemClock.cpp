@@ -6,9 +6,11 @@
 
 #include <cerrno>
 #include <ctime>
+#include <string_view>
 #include <system_error>
 
 #ifdef _WIN32
+#include <array>
 #include <windows.h>
 #endif
 
@@ -20,6 +22,27 @@ namespace
 using NavFunc113::CivilDate;
 using NavFunc113::DateTime;
 using NavFunc113::TimeOfDay;
+
+#ifdef _WIN32
+/// Why the system refused, in its own language. The library's message is English or, where the
+/// system has no English texts, none at all.
+std::string reasonOf(DWORD error)
+{
+    std::array<wchar_t, 512> wide{};
+    const DWORD length = FormatMessageW(
+        FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK,
+        nullptr, error, 0, wide.data(), static_cast<DWORD>(wide.size()), nullptr);
+    std::array<char, 3 * 512> text{};
+    const int bytes =
+        WideCharToMultiByte(CP_UTF8, 0, wide.data(), static_cast<int>(length), text.data(),
+                            static_cast<int>(text.size()), nullptr, nullptr);
+    std::string reason(text.data(), static_cast<std::size_t>(bytes));
+    // What is said of it ends in a stop of its own.
+    reason.erase(reason.find_last_not_of(" .") + 1);
+    if (reason.ends_with("。")) reason.resize(reason.size() - std::string_view("。").size());
+    return reason.empty() ? "error " + std::to_string(error) : reason;
+}
+#endif
 
 class SystemClock : public ComputerClock
 {
@@ -50,7 +73,7 @@ private:
         SYSTEMTIME utc{};
         if (TzSpecificLocalTimeToSystemTime(nullptr, &local, &utc) && SetSystemTime(&utc))
             return std::nullopt;
-        return std::system_category().message(static_cast<int>(GetLastError()));
+        return reasonOf(GetLastError());
     }
 #else
     static std::optional<std::string> setCivil(const CivilDate& date, const TimeOfDay& time)

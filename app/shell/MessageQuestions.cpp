@@ -71,12 +71,17 @@ void placeBelowStartWindow(QDialog& dialog)
                 parent->geometry().bottom() + dialog.fontMetrics().height());
 }
 
+/// Where files of the officer's own go first. The folder for documents need not be there, and the
+/// toolkit would offer the one that the program was started in, which may be anybody's.
+QString ownFolder()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo::exists(documents) ? documents : QDir::homePath();
+}
+
 } // namespace
 
-MessageQuestions::MessageQuestions()
-    : m_lastFolder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation))
-{
-}
+MessageQuestions::MessageQuestions() : m_lastFolder(ownFolder()) {}
 
 QWidget* MessageQuestions::asker()
 {

@@ -61,7 +61,14 @@ void keepPlace(Screen& screen, const QWidget& window, bool open)
 bool putInPlace(const Screen& screen, QWidget& window, bool resizes)
 {
     const auto place = screen.placeOf(window.objectName());
-    if (!place) return false;
+    if (!place) {
+#ifdef Q_OS_WIN
+        // That system gives a window a corner without a look at its size; a window manager finds
+        // room for all of it.
+        bringOntoScreen(window);
+#endif
+        return false;
+    }
     const bool sameZoom = place->zoom == screen.choices().zoom;
     const QSize size = sameZoom && resizes ? QSize(place->width, place->height) : window.size();
     putAt(window, QRect(QPoint(place->x, place->y), size), resizes);

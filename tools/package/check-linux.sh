@@ -15,17 +15,24 @@ check_package() {
     tar -C "$stick" -xf "$folder.tar.xz"
     as_root chown -R --reference="$clean_root/officer" "$stick"
     open_debian
-    work_there "" "$packages/linux.png"
+    there work-a-case linux
     same_records "$stick/$folder_name"
+    saved_paper "$clean_root/officer"
+
+    as_root rm "$stick/$folder_name"/KV_*
+    there try-the-clock linux-clock
+    kept_offset "$stick/$folder_name"
 
     # The same folder on a protected stick: the records go to the officer's own folder.
     as_root rm "$stick/$folder_name"/KV_*
     as_root chown -R root:root "$stick"
-    work_there 1 "$packages/linux-protected.png"
+    FIRST_START=1 there work-a-case linux-protected
     same_records "$clean_root/officer/.local/share/korvel2000"
+    saved_paper "$clean_root/officer"
 }
 
-work_there() {
-    FIRST_START=$1 tools/package/work-a-case "$2" bash -c '. tools/package/common.sh
+# there SCRIPT PICTURE  Works the folder's program by the script, as the ordinary user.
+there() {
+    "tools/package/$1" "$packages/$2.png" bash -c '. tools/package/common.sh
         . tools/package/clean-debian.sh; as_officer "/officer/stick 海図/$1/korvel2000"' - "$folder_name"
 }

@@ -17,6 +17,7 @@ check_package() {
     run_suites
     open_windows "$place/officer"
     work_in_folder
+    ask_for_clock
     hear_alarm
     work_in_protected_folder
 }
@@ -53,6 +54,15 @@ exec ${visitor[*]} env -i HOME="$home" WINEPREFIX="$home/wine" WINEDEBUG=-all \\
 END
     chmod 755 "$home/run"
     "$home/run" wineboot --init >"$packages/wine.log" 2>&1
+    give_fonts
+}
+
+# give_fonts  Windows has a Tahoma and, for Japanese and full-width letters, an MS UI Gothic. Wine has
+# neither and shows gaps; fonts of Debian stand in for them.
+give_fonts() {
+    printf '%s\n' REGEDIT4 '' '[HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]' \
+        '"Tahoma"="DejaVu Sans"' '"MS UI Gothic"="VL Gothic"' >"$home/fonts.reg"
+    "$home/run" regedit /S "$home/fonts.reg" >>"$packages/wine.log" 2>&1
 }
 
 # Its server stays in memory for a while after the last program.
@@ -83,6 +93,14 @@ work_in_folder() {
     [ ${#visitor[@]} -eq 0 ] || chown -R nobody "$stick"
     tools/package/work-a-case "$packages/windows.png" "$home/run" "$stick/$folder_name/korvel2000.exe"
     same_records "$stick/$folder_name"
+    saved_paper "$home"
+}
+
+ask_for_clock() {
+    rm "$stick/$folder_name"/KV_*
+    tools/package/try-the-clock "$packages/windows-clock.png" \
+        "$home/run" "$stick/$folder_name/korvel2000.exe"
+    kept_offset "$stick/$folder_name"
 }
 
 # hear_alarm  By the clock of another zone, and with the program that cannot set a clock: what it
@@ -121,5 +139,6 @@ work_in_protected_folder() {
     FIRST_START=1 tools/package/work-a-case "$packages/windows-protected.png" \
         "$home/run" "$stick/$folder_name/korvel2000.exe"
     same_records "$home"/wine/drive_c/users/*/AppData/Local/korvel2000
+    saved_paper "$home"
     chmod -R u+w "$stick"
 }

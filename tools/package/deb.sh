@@ -20,7 +20,7 @@ make_package() {
 add_documents() {
     local share=$1 day
     day=$(date -R -d "@$SOURCE_DATE_EPOCH")
-    install -m 644 "$debian/copyright" "$share/doc/korvel2000/copyright"
+    install -D -m 644 "$debian/copyright" "$share/doc/korvel2000/copyright"
     gzip -9n "$share/man/man1/korvel2000.1"
     gzip -9nc CHANGELOG.md >"$share/doc/korvel2000/changelog.gz"
     install -D -m 644 "$debian/lintian-overrides" "$share/lintian/overrides/korvel2000"

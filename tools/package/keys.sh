@@ -12,9 +12,10 @@ start_program() {
     for _ in $(seq 100); do [ -s "$log" ] && break; sleep 0.1; done
     DISPLAY=:$(cat "$log")
     export DISPLAY
-    openbox >/dev/null 2>&1 &
+    openbox &
+    manager=$!
     # Without it nothing takes the keys, and on a busy machine it is slower than the program.
-    for _ in $(seq 100); do
+    for _ in $(seq 600); do
         xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
         sleep 0.1
     done
@@ -27,6 +28,7 @@ start_program() {
 
 stop_with_picture() {
     import -window root "$picture"
+    kill -0 "$manager" 2>/dev/null || echo "The window manager has ended" >&2
     echo "$1; see $picture" >&2
     exit 1
 }
@@ -68,14 +70,18 @@ open_main_window() {
         press alt+n
         await '^KORVEL2000$'
     fi
+    answer_time_difference "$1"
+    await 'KORVEL2000 manual$'
+    press Escape
+    activate "$main"
+}
+
+answer_time_difference() {
     enter "$1"
     await "^KORVEL \\($1"
     main=$window
     echo "Main window after $((($(date +%s%N) - began) / 1000000)) ms, the script's own waiting included;" \
         "resident memory $(awk '/^VmRSS/ {print int($2 / 1024)}' "/proc/$(xdotool getwindowpid "$main")/status") MB"
-    await 'KORVEL2000 manual$'
-    press Escape
-    activate "$main"
 }
 
 # end_program  As an officer does.

@@ -63,7 +63,8 @@ add_libraries() {
 }
 
 # The Unicode library's data are half of everything, in two hundred languages. The texts here are
-# English with Japanese terms: names of currencies, countries, units and other languages stay out.
+# English with Japanese terms: names of currencies, countries, units and other languages stay out, and
+# so do the words of languages without blanks, for the toolkit breaks lines by tables of its own.
 shorten_unicode_data() {
     local library work number
     library=$(echo "$folder"/lib/libicudata.so.*)
@@ -72,21 +73,24 @@ shorten_unicode_data() {
     objcopy -O binary --only-section=.rodata "$library" "$work/icudt${number}l.dat"
     # icupkg takes nothing but .txt for a list.
     icupkg -l "$work/icudt${number}l.dat" |
-        grep -E '^(curr|lang|region|unit|rbnf|translit|zone)/|\.(cnv|spp|cfu)$|^unames|^(coll/)?[a-z]{2,3}(_[A-Za-z0-9_]*)?\.res$' |
+        grep -E '^(brkitr|curr|lang|region|unit|rbnf|translit|zone)/|\.(cnv|spp|cfu)$|^unames|^(coll/)?[a-z]{2,3}(_[A-Za-z0-9_]*)?\.res$' |
         grep -vE '^(coll/)?(en|ja)(_|\.res)' >"$work/left-out.txt"
-    icupkg -r "$work/left-out.txt" "$work/icudt${number}l.dat" "$work/short.dat"
+    # The file's name is part of every name in it, and the library looks for that one.
+    mkdir "$work/short"
+    icupkg -r "$work/left-out.txt" "$work/icudt${number}l.dat" "$work/short/icudt${number}l.dat"
     cat >"$work/data.s" <<END
 .section .rodata
 .balign 16
 .globl icudt${number}_dat
 .type icudt${number}_dat, %object
-icudt${number}_dat: .incbin "$work/short.dat"
+icudt${number}_dat: .incbin "$work/short/icudt${number}l.dat"
 .size icudt${number}_dat, . - icudt${number}_dat
 .section .note.GNU-stack,"",%progbits
 END
     gcc -shared -nostdlib -Wl,-soname,"libicudata.so.$number" -Wl,--build-id=none -s \
         -o "$library" "$work/data.s"
     rm -rf "$work"
+    ! LD_LIBRARY_PATH=$folder/lib icuinfo | grep ERROR || fail "the Unicode library does not find its data"
 }
 
 # DejaVu for the windows, a Gothic for Japanese terms and full-width figures; the system's fonts

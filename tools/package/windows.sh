@@ -57,5 +57,5 @@ add_licences() {
 archive_source() {
     { git ls-files -z 2>/dev/null || find . -path ./build -prune -o -type f -printf '%P\0'; } |
         tar --null -T - --sort=name --mtime="@$SOURCE_DATE_EPOCH" --owner=0 --group=0 --numeric-owner \
-            --transform "s,^,korvel2000-$version/," -c | xz -9 -T1 >"$1"
+            --mode=u=rwX,go=rX --transform "s,^,korvel2000-$version/," -c | xz -9 -T1 >"$1"
 }

@@ -15,8 +15,10 @@ ci_packages="clang-format-14 clang-tidy-14 g++-mingw-w64-x86-64-posix"
 package_packages="dpkg-dev qt6-wayland fonts-vlgothic fonts-dejavu-core patchelf icu-devtools
     xz-utils"
 windows_packages="g++-mingw-w64-x86-64-posix icoutils dpkg-dev zip"
-windows_check_packages="googletest wine64 alsa-utils libasound2 unzip openbox fonts-vlgothic"
-package_check_packages="debootstrap lintian desktop-file-utils appstream openbox"
+windows_check_packages="googletest wine64 alsa-utils libasound2 unzip openbox
+    poppler-utils fonts-vlgothic fonts-dejavu-core"
+package_check_packages="debootstrap lintian desktop-file-utils appstream openbox
+    poppler-utils"
 
 # install_missing PACKAGE...  Installs those that are not there yet and says so.
 install_missing() {

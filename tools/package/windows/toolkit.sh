@@ -13,11 +13,24 @@ toolkit_options=(
     -DFEATURE_{pkg_config,glib,icu,zstd,jpeg,gif}=OFF
     -DFEATURE_system_{zlib,png,freetype,harfbuzz,pcre2,doubleconversion}=OFF
     -DQT_BUILD_{EXAMPLES,TESTS}=OFF
+    # It looks for its parts from the program's folder on: no path of this machine is in it.
+    -DFEATURE_relocatable=ON
 )
 
+# What the toolkit's bytes come from beside its source.
+toolkit_recipe() {
+    printf '%s\n' "${toolkit_options[@]}"
+    cat tools/package/windows/mingw.cmake
+    x86_64-w64-mingw32-g++-posix --version
+}
+
 build_toolkit() {
-    [ ! -e "$toolkit/complete" ] || return 0
+    if [ -e "$toolkit/complete" ]; then
+        [ "$(cat "$toolkit/complete")" != "$(toolkit_recipe)" ] || return 0
+        say "The toolkit for Windows in the cache was made otherwise"
+    fi
     local source=$toolkit/source/qt6-base build=$toolkit/build
+    rm -rf "$toolkit/complete" "$toolkit/installed"
     say "Building the toolkit for Windows: once, about half an hour on two cores"
     [ -d "$source" ] || fetch_debian_source "qt6-base=$toolkit_version" "$toolkit/source"
     # A build that was stopped goes on where it was, from whatever checkout.
@@ -35,5 +48,5 @@ build_toolkit() {
         fail "the toolkit could not be built, see $toolkit/build.log"
     cmake --install "$build" >"$toolkit/install.log"
     rm -rf "$build"
-    touch "$toolkit/complete"
+    toolkit_recipe >"$toolkit/complete"
 }
