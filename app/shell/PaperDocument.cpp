@@ -138,19 +138,18 @@ std::size_t PaperDocument::fillBeginning(QTextDocument& document, int zoom) cons
 
 void PaperDocument::fillRest(QTextDocument& document, std::size_t from) const
 {
+    const QString html = htmlFrom(from);
+    QTextBlockFormat first; // the first text goes into the paragraph that is there
+    if (html.startsWith("<h3")) {
+        first.setHeadingLevel(3);
+        first.setTopMargin(aboveTitle);
+        first.setBottomMargin(belowTitle);
+    }
     QTextCursor end(&document);
     end.movePosition(QTextCursor::End);
-    const int before = end.position();
-    const QString html = htmlFrom(from);
     end.beginEditBlock();
+    end.insertBlock(first); // the one behind a table has no room above it
     end.insertHtml(html);
-    if (html.startsWith("<h3")) { // its text went into the paragraph that was there
-        QTextBlockFormat title;
-        title.setHeadingLevel(3);
-        title.setTopMargin(aboveTitle);
-        title.setBottomMargin(belowTitle);
-        QTextCursor(document.findBlock(before)).mergeBlockFormat(title);
-    }
     end.endEditBlock();
 }
 

@@ -41,6 +41,8 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     m_menus.addView();
     program.addHelpMenu(*menuBar());
     connect(&program.screen(), &Screen::zoomChanged, this, &PaperWindow::zoom);
+    // Its palette stays, so nothing else shows the sheet anew.
+    connect(&program, &Program::coloursChanged, m_text->viewport(), qOverload<>(&QWidget::update));
     resizeForText(*this, 118, 50);
     showPaper(paper);
 }

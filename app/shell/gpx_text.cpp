@@ -22,7 +22,9 @@ void writePoint(QXmlStreamWriter& xml, const QString& element, const ExportLine:
 {
     xml.writeStartElement(element);
     xml.writeAttribute("lat", decimalDegrees(point.latitude));
-    xml.writeAttribute("lon", decimalDegrees(point.longitude));
+    // The format wants a longitude below 180.
+    const QString longitude = decimalDegrees(point.longitude);
+    xml.writeAttribute("lon", longitude.startsWith("180.") ? '-' + longitude : longitude);
     if (point.UTC)
         xml.writeTextElement("time", asQString(Format(*point.UTC, "yyyy-mm-ddThh:mm:ss") + 'Z'));
     if (!point.name.empty()) xml.writeTextElement("name", asQString(point.name));

@@ -42,13 +42,13 @@ TEST(GpxText, isReadBackAsItWas)
     EXPECT_EQ(
         elementsOf(gpxText(line, "Korvel")),
         QStringList({"gpx 1.1 Korvel", "rte", "name=A & B <C>", "rtept 35.5000000 -122.2500000",
-                     "name=Dep.", "rtept -0.1000000 180.0000000"}));
+                     "name=Dep.", "rtept -0.1000000 -180.0000000"}));
     line.kind = ExportLine::Kind::Track;
     line.points.front().UTC = 38425.40625;
     EXPECT_EQ(elementsOf(gpxText(line, "Korvel")),
               QStringList({"gpx 1.1 Korvel", "trk", "name=A & B <C>", "trkseg",
                            "trkpt 35.5000000 -122.2500000", "time=2005-03-14T09:45:00Z",
-                           "name=Dep.", "trkpt -0.1000000 180.0000000"}));
+                           "name=Dep.", "trkpt -0.1000000 -180.0000000"}));
 }
 
 } // namespace
