@@ -97,15 +97,16 @@ void HelpDesk::openBelow(QWidget& window, const QString& page)
     const QRect taken = window.frameGeometry();
     // Both have the same frame, that of the new window is not known yet.
     const QSize frame = taken.size() - window.size();
+    const QPoint corner = window.geometry().topLeft() - taken.topLeft();
     const int least = m_window->minimumSizeHint().height() + frame.height();
     if (screen.height() - taken.height() < least) return;
-    if (screen.bottom() - taken.bottom() < screen.height() / 2)
-        window.move(taken.x(), screen.top());
-    const int top = window.frameGeometry().bottom() + 1;
+    const bool moves = screen.bottom() - taken.bottom() < screen.height() / 2;
+    if (moves) window.move(taken.x(), screen.top());
+    const int top = (moves ? screen.top() : taken.top()) + taken.height();
     const QSize room(screen.width(), screen.bottom() + 1 - top);
-    m_window->resize(m_window->size().boundedTo(room - frame));
-    const int left = std::min(taken.x(), screen.right() + 1 - m_window->width() - frame.width());
-    m_window->move(left, top);
+    const QSize size = m_window->size().boundedTo(room - frame);
+    const int left = std::min(taken.x(), screen.right() + 1 - size.width() - frame.width());
+    m_window->setGeometry({QPoint(left, top) + corner, size});
 }
 
 void HelpDesk::openAtFocus()

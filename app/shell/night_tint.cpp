@@ -31,6 +31,34 @@ QPixmap inShades(const QPixmap& picture, const Shades& shades)
     return made;
 }
 
+/// Whether a picture is dark on nothing, as arrows and crosses are: its shades turned round, it is
+/// seen on a dark ground.
+bool isDark(const QPixmap& picture)
+{
+    const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    qint64 shades = 0, opaque = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            shades += qint64{qGray(pixel)} * qAlpha(pixel);
+            opaque += qAlpha(pixel);
+        }
+    constexpr int middle = 128;
+    return shades < middle * opaque;
+}
+
+QPixmap iconAtNight(QPixmap picture, const QColor& brightest)
+{
+    if (isDark(picture)) {
+        const double ratio = picture.devicePixelRatio();
+        QImage inverse = picture.toImage();
+        inverse.invertPixels();
+        picture = QPixmap::fromImage(inverse);
+        picture.setDevicePixelRatio(ratio);
+    }
+    return tinted(picture, brightest);
+}
+
 class TintedIcon : public QIconEngine
 {
 public:
@@ -40,12 +68,13 @@ public:
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        return tinted(m_own.pixmap(size, mode, state), m_brightest);
+        return iconAtNight(m_own.pixmap(size, mode, state), m_brightest);
     }
     void paint(QPainter* painter, const QRect& room, QIcon::Mode mode, QIcon::State state) override
     {
         const double ratio = painter->device()->devicePixelRatioF();
-        QPixmap picture = tinted(m_own.pixmap(room.size(), ratio, mode, state), m_brightest);
+        const QPixmap picture =
+            iconAtNight(m_own.pixmap(room.size(), ratio, mode, state), m_brightest);
         QRect place(QPoint(), picture.deviceIndependentSize().toSize());
         place.moveCenter(room.center());
         painter->drawPixmap(place, picture);

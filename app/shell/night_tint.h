@@ -13,7 +13,7 @@ namespace korvel
 /// The same picture in the shades of one colour, its brightest part as bright as that.
 QPixmap tinted(const QPixmap& picture, const QColor& brightest);
 
-/// An icon whose pictures are tinted when they are drawn.
+/// An icon whose pictures are tinted when they are drawn; dark ones are turned round first.
 QIcon tinted(const QIcon& icon, const QColor& brightest);
 
 /// A sheet that is dark on white as light on dark in the colours of a palette of the night. What
