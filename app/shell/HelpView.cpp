@@ -16,13 +16,46 @@ HelpView::HelpView(const Manual& manual, QWidget* parent) : QTextBrowser(parent)
     setAccessibleName("Page of the manual");
     setOpenExternalLinks(false);
     setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
-    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl& url) {
-        m_page = url.path().section('.', 0, 0); // the toolkit's own source() is the old one yet
-        dressPage(*document(), palette());
-        if (const auto place = placeOf(*document(), url.fragment(QUrl::FullyDecoded)))
-            scrollTo(*place);
-        emit pageShown(m_page);
-    });
+    // The toolkit's own source() is the old one yet.
+    connect(this, &QTextBrowser::sourceChanged, this,
+            [this](const QUrl& url) { m_page = url.path().section('.', 0, 0); });
+}
+
+/// In one edit, which is laid out once: a long table would be laid out with every cell.
+void HelpView::changePage(const std::function<void()>& change)
+{
+    m_leftAt[m_page] = verticalScrollBar()->value();
+    QTextCursor all(document());
+    all.beginEditBlock();
+    change();
+    dressPage(*document(), palette());
+    all.endEditBlock();
+}
+
+void HelpView::doSetSource(const QUrl& name, QTextDocument::ResourceType type)
+{
+    changePage([&] { QTextBrowser::doSetSource(name, type); });
+    if (const auto place = placeOf(*document(), name.fragment(QUrl::FullyDecoded)))
+        scrollTo(*place);
+    emit pageShown(m_page);
+}
+
+/// A page is seen again where it was left; the toolkit would scroll before it is laid out.
+void HelpView::showAgain(const std::function<void()>& step)
+{
+    changePage(step);
+    verticalScrollBar()->setValue(m_leftAt[m_page]);
+    emit pageShown(m_page);
+}
+
+void HelpView::backward()
+{
+    showAgain([this] { QTextBrowser::backward(); });
+}
+
+void HelpView::forward()
+{
+    showAgain([this] { QTextBrowser::forward(); });
 }
 
 QVariant HelpView::loadResource(int, const QUrl& name)
@@ -105,7 +138,7 @@ void HelpView::changeEvent(QEvent* event)
 {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
-        dressPage(*document(), palette());
+        changePage([] {});
 }
 
 } // namespace korvel

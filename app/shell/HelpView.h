@@ -5,6 +5,9 @@
 
 #include <QTextBrowser>
 
+#include <functional>
+#include <map>
+
 namespace korvel
 {
 
@@ -29,6 +32,9 @@ public:
     /// Opens a page with a place at the top of the view and the words marked.
     void openAt(const QString& page, const PagePlace& place, const QString& words);
 
+    void backward() override;
+    void forward() override;
+
     /// Goes to the next place that holds a text, round the page's end. @return false: there is none
     bool findNext(const QString& words, bool backwards);
     /// Marks words wherever they stand in the page.
@@ -40,14 +46,18 @@ signals:
 
 protected:
     QVariant loadResource(int type, const QUrl& name) override;
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent* event) override;
 
 private:
+    void changePage(const std::function<void()>& change);
+    void showAgain(const std::function<void()>& step);
     void showPage(const QString& page);
     void scrollTo(const PagePlace& place);
 
     const Manual& m_manual;
     QString m_page;
+    std::map<QString, int> m_leftAt; ///< how far each page was scrolled
 };
 
 } // namespace korvel
