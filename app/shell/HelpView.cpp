@@ -28,6 +28,8 @@ void HelpView::changePage(const std::function<void()>& change)
     QTextCursor all(document());
     all.beginEditBlock();
     change();
+    all.endEditBlock();
+    all.beginEditBlock(); // a second one: the tables are known only now
     dressPage(*document(), palette());
     all.endEditBlock();
 }

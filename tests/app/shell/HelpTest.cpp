@@ -12,6 +12,8 @@
 #include <QInputDialog>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QToolTip>
@@ -47,6 +49,8 @@ protected:
         if (!QTest::qWaitFor([] { return help() != nullptr; })) return;
         help()->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(help()));
+        coversNothing = !help()->frameGeometry().intersects(main->frameGeometry()) &&
+                        help()->screen()->geometry().contains(help()->frameGeometry());
         firstPage = help()->view().toPlainText().toStdString();
         QTest::keyClick(help(), Qt::Key_Escape);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -82,6 +86,7 @@ protected:
     }
 
     std::string firstPage;
+    bool coversNothing = false;
     QTemporaryDir folder;
     FakeQuestions questions;
     FakeClock clock;
@@ -182,6 +187,7 @@ std::string lineInHand()
 TEST_F(HelpTest, comesOnceAtTheFirstStartAndGoesWithOneKey)
 {
     EXPECT_THAT(firstPage, ::testing::HasSubstr(folder.path().toStdString()));
+    EXPECT_TRUE(coversNothing) << "the clocks, or the edge of the screen";
     EXPECT_EQ(help(), nullptr);
     main.reset(); // killed: what it kept is the recovery file
     questions.willType(FakeQuestions::acceptDefault);
@@ -190,6 +196,29 @@ TEST_F(HelpTest, comesOnceAtTheFirstStartAndGoesWithOneKey)
     main->start();
     QTest::qWait(300);
     EXPECT_EQ(help(), nullptr);
+}
+
+TEST_F(HelpTest, saysWhatTheProgramIsMadeOf)
+{
+    const std::string about = main->help().manual().text("about").toStdString();
+    for (const char* part : {"Version | 1.", "Qt " QT_VERSION_STR, "GCC ", "libstdc++", "icuuc ",
+                             "Qt6Widgets ", "| Fonts | ", "TICON-4 (2025)", "CC BY 4.0",
+                             "Not a substitute for approved means of navigation"})
+        EXPECT_THAT(about, ::testing::HasSubstr(part));
+    EXPECT_THAT(about, ::testing::Not(::testing::HasSubstr("{")));
+}
+
+TEST_F(HelpTest, aPageIsSeenAgainWhereItWasLeft)
+{
+    main->help().openPage("frmTIDE");
+    QScrollBar& bar = *help()->view().verticalScrollBar();
+    bar.setValue(bar.maximum() / 2);
+    const int before = bar.value();
+    main->help().openPage("frmWind");
+    QTest::keyClick(&help()->view(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(help()->view().page(), "frmTIDE");
+    EXPECT_GT(before, 0);
+    EXPECT_EQ(bar.value(), before);
 }
 
 TEST_F(HelpTest, opensAtTheBoxTheEntryAndTheQuestionInHand)

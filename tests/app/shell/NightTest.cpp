@@ -94,10 +94,12 @@ QRect textPart(const QWidget& widget)
     return {};
 }
 
-/// Where a control has a mark that tells its state: a tick box, a round one, a handle.
+/// Where a control has a mark: a tick box, a round one, a handle, the icon of a message.
 QRect markPart(const QWidget& widget)
 {
-    if (qobject_cast<const QScrollBar*>(&widget)) return seenPart(widget);
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    if (qobject_cast<const QScrollBar*>(&widget) || (label && !label->pixmap().isNull()))
+        return seenPart(widget);
     const bool isRound = qobject_cast<const QRadioButton*>(&widget);
     if (!isRound && !qobject_cast<const QCheckBox*>(&widget)) return {};
     QStyleOptionButton option;

@@ -68,6 +68,8 @@ TEST_F(ScreenTest, windowsStandWhereTheyWere)
     EXPECT_TRUE(screen.contains(window("frmETA").geometry()));
     onScreen("frmETA").close();
     choose(main, "mnuReopen");
+    choose(main, "mnuClockOnTop");
+    EXPECT_TRUE(main.isVisible());
     main.endSession();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     questions.willType(FakeQuestions::acceptDefault);
@@ -75,6 +77,7 @@ TEST_F(ScreenTest, windowsStandWhereTheyWere)
     next.start();
     EXPECT_EQ(onScreen("frmWind").geometry(), place);
     EXPECT_TRUE(isTicked(next, "mnuWATCH(4)"));
+    EXPECT_TRUE(next.windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_FALSE(isTicked(next, "mnuWATCH(3)"));
     next.endSession();
 }
