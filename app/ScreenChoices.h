@@ -9,7 +9,7 @@
 namespace korvel
 {
 
-/// Where a window stood on the screen and how large it was, in pixels, without its frame's size.
+/// Where a window stood on the screen and how large it was, in pixels, without its frame.
 struct WindowPlace {
     int x = 0; ///< upper left corner inside the frame
     int y = 0;

@@ -104,6 +104,12 @@ Echo positionEcho(std::string_view boxText, Axis axis)
     return echo;
 }
 
+std::string positionInFull(NavFunc113::DegMin value, Axis axis)
+{
+    if (!(std::fabs(value.packed()) < longestEcho)) return {};
+    return inFull(value, axis, 1, " ");
+}
+
 std::string positionForCopy(NavFunc113::DegMin value, Axis axis)
 {
     if (!(std::fabs(value.packed()) < longestEcho)) return {};

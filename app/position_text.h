@@ -28,6 +28,9 @@ struct Echo {
 /// half-typed sign or letters give an empty echo.
 Echo positionEcho(std::string_view boxText, Axis axis);
 
+/// A packed value as the echo writes it: "35°30.5' N", minutes with one decimal carried at 60.
+std::string positionInFull(NavFunc113::DegMin value, Axis axis);
+
 /// A packed value to be copied or printed: "35°30.5'N", minutes with one decimal carried at 60.
 std::string positionForCopy(NavFunc113::DegMin value, Axis axis);
 

@@ -8,13 +8,10 @@
 #include "app/shell/widget_colours.h"
 #include "app/shell/window_glyphs.h"
 #include "app/shell/window_places.h"
-#include "app/shell/zoom_sizes.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QMenuBar>
-#include <QScreen>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -37,7 +34,8 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
       m_printer(program, *this),
       m_paperMenu(new PaperMenu(program, *this,
                                 {[this] { return paperDocument(); },
-                                 [this](const QString& said) { sayForAWhile(said); }}))
+                                 [this](const QString& said) { sayForAWhile(said); }})),
+      m_sizes(program.screen().choices().zoom)
 {
     setObjectName(name);
     setWindowTitle(caption);
@@ -55,6 +53,7 @@ CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const 
     connect(&m_program, &Program::recordsWanted, m_record, &WindowRecord::saveNow);
     connect(&m_program, &Program::coloursChanged, this, [this] { applyColours(); });
     connect(&m_program.screen(), &Screen::zoomChanged, this, &CalculatorWindow::zoom);
+    new PlaceWatch(m_program.screen(), *this);
 }
 
 void CalculatorWindow::loadSettings()
@@ -156,7 +155,7 @@ void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& c
 
 QWidget* CalculatorWindow::scrollBody()
 {
-    auto* content = new QWidget;
+    auto* content = new ScrolledBody;
     setScrollArea(new FollowingScrollArea(content));
     return content;
 }
@@ -179,6 +178,23 @@ void CalculatorWindow::addBelow(QWidget* widget)
 {
     auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
     column->insertWidget(column->count() - 1, widget);
+}
+
+void CalculatorWindow::addStrip(QWidget* content)
+{
+    m_strip = new FollowingScrollArea(content);
+    m_strip->setFixedHeight(content->sizeHint().height());
+    addBelow(m_strip);
+}
+
+void CalculatorWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (!m_strip) return;
+    constexpr int part = 3;
+    const int wanted =
+        m_strip->widget()->heightForWidth(centralWidget()->layout()->contentsRect().width());
+    m_strip->setFixedHeight(std::min(wanted, height() / part));
 }
 
 void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
@@ -226,34 +242,34 @@ void CalculatorWindow::showEvent(QShowEvent* event)
         m_wasShown = true;
         if (m_fitsScreen) fit();
         putInPlace(m_program.screen(), *this);
+        m_notices->hintAt(focusWidget()); // also behind another window
     }
     QMainWindow::showEvent(event);
 }
 
 void CalculatorWindow::fit()
 {
-    for (QLayout* each : {m_body->layout(), centralWidget()->layout(), layout()})
-        each->invalidate(); // what they remember is from before the controls had their fonts
-    const int frame = style()->pixelMetric(QStyle::PM_TitleBarHeight);
-    const QSize room = screen()->availableSize() - QSize(frame, 2 * frame);
-    if (m_scrollArea) m_scrollArea->foldFor(QWIDGETSIZE_MAX);
-    QSize wanted = sizeHint();
-    if (wanted.width() > room.width() && m_scrollArea) {
-        m_scrollArea->foldFor(room.width());
-        wanted = sizeHint();
+    const QSize room = roomOnScreen(*this);
+    if (!m_scrollArea) {
+        settleLayouts(*this);
+        resize(sizeHint().boundedTo(room));
+        return;
     }
-    if (wanted.width() > room.width())
-        wanted.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    m_scrollArea->foldByHand(true);
+    m_scrollArea->foldFor(QWIDGETSIZE_MAX);
+    if (m_strip) m_strip->setFixedHeight(m_strip->widget()->sizeHint().height());
+    settleLayouts(*this);
+    const QSize around = sizeHint() - m_scrollArea->sizeHint();
+    const QSize wanted = m_scrollArea->sizeFor(room.width() - around.width()) + around;
+    settleLayouts(*this);
+    m_scrollArea->foldByHand(false);
     resize(wanted.boundedTo(room));
 }
 
-void CalculatorWindow::zoom(double ratio)
+void CalculatorWindow::zoom()
 {
-    scaleSizes(*this, ratio);
-    // From the innermost layout to the outermost, before the window asks what it wants and after.
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    m_sizes.follow(*this, m_program.screen().choices().zoom);
     fit();
-    if (m_scrollArea) m_scrollArea->widget()->updateGeometry();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     if (isVisible()) bringOntoScreen(*this);
 }

@@ -9,6 +9,7 @@
 #include "app/shell/Program.h"
 #include "app/shell/WindowMenus.h"
 #include "app/shell/WindowRecord.h"
+#include "app/shell/zoom_sizes.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -110,6 +111,9 @@ protected:
     void fitToScreen() { m_fitsScreen = true; }
     /// Puts a row of controls between the body and the notice line.
     void addBelow(QWidget* widget);
+    /// The same for what may need many lines: it is as high as its content, up to a third of the
+    /// window, and scrolls beyond that.
+    void addStrip(QWidget* content);
 
     // Colours.
 
@@ -120,6 +124,7 @@ protected:
 
     void closeEvent(QCloseEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     PaperDocument paperDocument();
@@ -127,7 +132,7 @@ private:
     void openPaper();
     void sayForAWhile(const QString& said);
     void fit();
-    void zoom(double ratio);
+    void zoom();
 
     Program& m_program;
     QWidget* m_body;
@@ -142,6 +147,8 @@ private:
     std::vector<ResultLabel*> m_labels;
     std::set<QLabel*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
+    FollowingScrollArea* m_strip = nullptr;
+    ZoomSizes m_sizes;
     bool m_fitsScreen = false;
     bool m_wasShown = false;
 };

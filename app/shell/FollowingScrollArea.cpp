@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/FollowingScrollArea.h"
 
+#include "app/shell/zoom_sizes.h"
+
 #include <QApplication>
 #include <QScrollBar>
 
@@ -40,13 +42,6 @@ void FollowingScrollArea::setHeading(QWidget* heading)
     placeHeading();
 }
 
-void FollowingScrollArea::setStrip()
-{
-    m_isStrip = true;
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFixedHeight(widget()->sizeHint().height());
-}
-
 void FollowingScrollArea::foldColumns()
 {
     m_fold = std::make_unique<ColumnFold>(*widget()->layout());
@@ -56,10 +51,25 @@ void FollowingScrollArea::foldFor(int width)
 {
     if (!m_fold) return;
     // As if the bar were there: what it takes away must not bring it back and forth.
-    const int room = width - verticalScrollBar()->sizeHint().width();
-    // A rim that is out of sight is less trouble than another order of the groups.
-    constexpr double hardly = 1.1;
-    m_fold->fold(hardly * room < m_fold->widthUnfolded());
+    m_fold->fold(width - verticalScrollBar()->sizeHint().width() < m_fold->widthUnfolded());
+}
+
+QSize FollowingScrollArea::sizeFor(int width)
+{
+    foldFor(width);
+    settleLayouts(*widget());
+    QSize wanted = sizeHint().boundedTo(QSize(width, QWIDGETSIZE_MAX));
+    const int bar = verticalScrollBar()->sizeHint().width();
+    const QLayout* content = widget()->layout();
+    if (content->hasHeightForWidth()) {
+        const int heading = m_heading ? headingHeight(wanted.width() - bar) : 0;
+        const int room = wanted.width() - bar;
+        // Preferred heights are rounded otherwise than least ones.
+        wanted.setHeight(std::max(content->totalHeightForWidth(room),
+                                  content->totalMinimumHeightForWidth(room)) +
+                         heading);
+    }
+    return wanted;
 }
 
 QSize FollowingScrollArea::sizeHint() const
@@ -72,27 +82,23 @@ QSize FollowingScrollArea::sizeHint() const
 void FollowingScrollArea::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
-    foldFor(width());
+    if (!m_isFoldedByHand) foldFor(width());
     placeHeading();
     follow(QApplication::focusWidget());
-    if (!m_isStrip) return;
-    const QSize content = widget()->sizeHint();
-    const bool scrolls = width() < widget()->minimumSizeHint().width();
-    setFixedHeight(content.height() + (scrolls ? horizontalScrollBar()->sizeHint().height() : 0));
 }
 
 /// Of a heading that wraps as its table does.
-int FollowingScrollArea::headingHeight() const
+int FollowingScrollArea::headingHeight(int width) const
 {
-    const int wide = std::max(viewport()->width(), widget()->minimumSizeHint().width());
-    const int wrapped = m_heading->heightForWidth(wide);
+    const int wrapped = m_heading->heightForWidth(width);
     return wrapped > 0 ? wrapped : m_heading->sizeHint().height();
 }
 
 void FollowingScrollArea::placeHeading()
 {
     if (!m_heading) return;
-    const int height = headingHeight();
+    const int height =
+        headingHeight(std::max(viewport()->width(), widget()->minimumSizeHint().width()));
     const QMargins margins(0, height, 0, 0);
     if (viewportMargins() != margins) setViewportMargins(margins); // letters of another size too
     const QRect seen = viewport()->geometry();

@@ -4,12 +4,26 @@
 #include "app/shell/ColumnFold.h"
 #include "app/shell/FocusFollower.h"
 
+#include <QLayout>
 #include <QScrollArea>
 
 #include <memory>
 
 namespace korvel
 {
+
+/// Content that lets its pictures shrink before anything scrolls: a scroll area would ask for the
+/// height that is preferred.
+class ScrolledBody : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+    int heightForWidth(int width) const override
+    {
+        return layout() ? layout()->totalMinimumHeightForWidth(width) : -1;
+    }
+};
 
 /// A scroll area that asks for as much room as its content wants, and where there is less keeps the
 /// control with the focus in sight, whatever moved the focus: Tab, Enter or a menu.
@@ -23,15 +37,16 @@ public:
     /// Puts a heading above the content. It moves sideways with it and never up.
     void setHeading(QWidget* heading);
 
-    /// Makes it a strip: always as high as its content, scrolling sideways only.
-    void setStrip();
-
     /// Puts the groups that stand side by side in the content one below the other where the area is
     /// too narrow for them.
     void foldColumns();
     /// Folds or unfolds them for a width of the area.
     void foldFor(int width);
+    /// Leaves them as they are whatever width the area gets, while a window measures itself.
+    void foldByHand(bool byHand) { m_isFoldedByHand = byHand; }
 
+    /// What the area wants at a width and at that width or less.
+    QSize sizeFor(int width);
     QSize sizeHint() const override;
 
 protected:
@@ -40,11 +55,11 @@ protected:
 private:
     void follow(QWidget* focus);
     void placeHeading();
-    int headingHeight() const;
+    int headingHeight(int width) const;
 
     QWidget* m_heading = nullptr;
-    bool m_isStrip = false;
     std::unique_ptr<ColumnFold> m_fold;
+    bool m_isFoldedByHand = false;
     FocusFollower m_focus;
 };
 

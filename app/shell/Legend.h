@@ -10,7 +10,7 @@
 namespace korvel
 {
 
-/// Says in one line, from left to right, what the lines and marks of a picture are.
+/// Says from left to right what the lines and marks of a picture are.
 class Legend
 {
 public:
@@ -18,6 +18,8 @@ public:
     Legend(QPainter& painter, FigureText& figures, QPointF start, const QColor& textColour);
 
     void line(const QPen& pen, const QString& words);
+    /// Goes on in another line of text.
+    void goOnAt(QPointF start) { m_at = start; }
     /// @param draw draws the mark around a point
     void mark(const std::function<void(QPointF)>& draw, const QString& words);
 

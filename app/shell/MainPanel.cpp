@@ -36,6 +36,9 @@ MainPanel::MainPanel()
       m_lblFault(makeLabel("lblFault", "Fault", 1.0))
 {
     auto* column = new QVBoxLayout(this);
+    // Small with every remark there is.
+    column->setSpacing(2);
+    column->setContentsMargins(8, 4, 8, 4);
     auto* last = new QHBoxLayout;
     last->addWidget(m_lbl1NM);
     last->addStretch();
@@ -102,6 +105,11 @@ void MainPanel::showZoneNotice(const std::string& text)
 void MainPanel::showFault(const std::string& text)
 {
     showIfAny(*m_lblFault, text);
+}
+
+bool MainPanel::hasRemarks() const
+{
+    return !m_lblOffset->text().isEmpty() || !m_lblZone->text().isEmpty();
 }
 
 void MainPanel::setLeastWidth(int width)

@@ -28,6 +28,7 @@ public:
     void showOffset(const std::string& text);
     void showZoneNotice(const std::string& text);
     void showFault(const std::string& text);
+    bool hasRemarks() const;
 
     void applyColours(const ColourScheme& colours);
 

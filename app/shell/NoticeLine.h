@@ -24,6 +24,9 @@ public:
     /// The notice that stands first; empty when there is none.
     QString firstSaid() const { return m_said.empty() ? QString() : m_said.begin()->second; }
 
+    /// Tells of a control of the window, as of the one that comes to have the focus.
+    void hintAt(const QWidget* control);
+
     /// What the box with the focus takes, as it stands here while there is nothing to say.
     const QString& hint() const { return m_hint; }
     void setHintColour(const QColor& colour) { m_hintColour = colour; }
@@ -36,8 +39,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void hintAt(const QWidget* control);
-
     QString m_hint; ///< two lines
     QColor m_hintColour;
     std::map<QString, QString> m_said;

@@ -63,7 +63,15 @@ void PictureBox::drawOn(QPainter& painter, const QSize& size)
 void PictureBox::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange) m_lineHeight = QFontMetricsF(font()).height();
+    if (event->type() != QEvent::FontChange) return;
+    m_lineHeight = QFontMetricsF(font()).height();
+    placeMargins();
+}
+
+void PictureBox::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    placeMargins();
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)

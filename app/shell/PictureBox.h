@@ -25,7 +25,6 @@ public:
 
     /// Room in pixels around the area that the user scale covers, for labels.
     void setPlotMargins(const QMargins& margins);
-    void scalePlotMargins(double ratio) { setPlotMargins(m_margins * ratio); }
     QRectF plotArea() const;
 
     QPointF toPixel(double x, double y) const;
@@ -47,12 +46,15 @@ signals:
 protected:
     /// Draws the picture; called with a painter in pixels, antialiasing on.
     virtual void draw(QPainter& painter) = 0;
+    /// Sets the plot margins where they depend on the size of the picture or of its letters.
+    virtual void placeMargins() {}
     /// Height of a line of text on the screen, which the sizes in a picture follow.
     double lineHeight() const { return m_lineHeight; }
     /// True while it is drawn at another size than the widget's.
     bool isOnPaper() const { return m_drawnSize.isValid(); }
 
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

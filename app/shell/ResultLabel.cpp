@@ -69,7 +69,9 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
     setFont(larger);
-    setMinimumHeight(fontMetrics().lineSpacing()); // an empty one keeps its room
+    // An empty one keeps its room: what the toolkit gives a text can be more than a line of the
+    // font.
+    setMinimumHeight(std::max(fontMetrics().lineSpacing(), fontMetrics().size(0, "0").height()));
 }
 
 void ResultLabel::setText(const QString& text)

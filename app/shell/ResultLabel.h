@@ -41,6 +41,12 @@ public:
     /// Takes the label out of the way of Tab: its text is told elsewhere too.
     void passByTab();
 
+    /// A label of a fixed height has it at every width.
+    bool hasHeightForWidth() const override
+    {
+        return minimumHeight() < maximumHeight() && QLabel::hasHeightForWidth();
+    }
+
 protected:
     /// True while the toolkit's own text document shows the text.
     bool isBeingSelected() const { return textInteractionFlags() != Qt::NoTextInteraction; }

@@ -2,6 +2,7 @@
 #include "app/shell/RowTable.h"
 
 #include "app/shell/WrappingRow.h"
+#include "app/shell/panels.h"
 
 #include <QVBoxLayout>
 
@@ -52,11 +53,8 @@ QFont small(QFont letters)
 
 } // namespace
 
-RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
-    : m_columns(columns), m_rowHeight(ResultLabel().fontMetrics().height()),
-      m_spacing(fontMetrics().averageCharWidth())
+RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows) : m_columns(columns)
 {
-    if (std::ranges::any_of(columns, isBox)) m_rowHeight = QLineEdit().sizeHint().height();
     auto* lines = new QVBoxLayout(this);
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(0);
@@ -64,19 +62,22 @@ RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
         Line line;
         for (const TableColumn& column : m_columns)
             line.push_back(makeControl(column, row, line));
-        lines->addWidget(layOut(line));
+        // A widget a row: what is painted anew is looked up among the neighbours in the same
+        // widget.
+        auto* widget = new QWidget;
+        layOut(line, *widget);
+        lines->addWidget(widget);
         m_lines.push_back(std::move(line));
     }
     lines->addStretch();
     setEntryOrder(boxes());
+    sizeByLetters();
 }
 
 QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const Line& before)
 {
     QWidget* made = nullptr;
     switch (column.holds) {
-    case Holds::Gap:
-        return nullptr;
     case Holds::Echo:
         return static_cast<PositionBox*>(before.back())->echo();
     case Holds::Number:
@@ -129,46 +130,65 @@ int RowTable::widthOf(const TableColumn& column) const
                                  (isBox(column) ? captions.horizontalAdvance('0') : 0));
 }
 
-QWidget* RowTable::layOut(const Line& line) const
+void RowTable::layOut(const Line& line, QWidget& widget) const
 {
-    // A widget a row: what is painted anew is looked up among the neighbours in the same widget.
-    auto* widget = new QWidget;
-    auto* layout = new WrappingRow(widget);
+    auto* layout = new WrappingRow(&widget);
     for (std::size_t i = 0; i < line.size(); ++i) {
-        const int width = widthOf(m_columns[i]);
+        if (i == 0 || m_columns[i].startsGroup) layout->startGroup();
         // A correction stands close by its result.
-        const bool isCorrection = m_columns[i].holds == Holds::Correction;
-        if (i > 0) layout->addSpacing(isCorrection ? m_spacing / 3 : m_spacing);
-        if (!line[i]) {
-            layout->addSpacing(width);
-            continue;
-        }
-        line[i]->setFixedHeight(m_rowHeight);
-        line[i]->setMinimumWidth(width);
-        if (!m_columns[i].stretches) line[i]->setMaximumWidth(width);
+        if (m_columns[i].holds == Holds::Correction) layout->stayClose();
         layout->addWidget(line[i]);
     }
-    return widget;
 }
 
-QWidget* RowTable::makeHeading(double size) const
+void RowTable::giveWidths(const Line& line, QWidget& widget) const
 {
-    QFont letters = font();
-    letters.setPointSizeF(letters.pointSizeF() * size);
-    Line line;
-    for (const TableColumn& column : m_columns) {
-        auto* label = column.holds == Holds::Gap ? nullptr : new QLabel(column.heading);
-        if (label) label->setFont(letters);
-        if (label) label->setAlignment(column.side | Qt::AlignBottom);
-        line.push_back(label);
+    static_cast<WrappingRow*>(widget.layout())->setGap(fontMetrics().averageCharWidth());
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const int width = widthOf(m_columns[i]);
+        line[i]->setMinimumWidth(width);
+        line[i]->setMaximumWidth(m_columns[i].stretches ? QWIDGETSIZE_MAX : width);
     }
-    QWidget* heading = layOut(line);
-    for (QWidget* label : line) {
-        if (!label) continue;
-        label->setMinimumHeight(0);
-        label->setMaximumHeight(QWIDGETSIZE_MAX);
+}
+
+void RowTable::sizeByLetters()
+{
+    const bool hasBoxes = std::ranges::any_of(m_columns, isBox);
+    const int height =
+        hasBoxes ? QLineEdit().sizeHint().height() : ResultLabel().fontMetrics().height();
+    for (const Line& line : m_lines) {
+        giveWidths(line, *line.front()->parentWidget());
+        for (QWidget* each : line)
+            each->setFixedHeight(height);
     }
-    return heading;
+}
+
+/// Names of the columns, as wide as these.
+class RowTable::Heading : public QWidget, public SizedByLetters
+{
+public:
+    explicit Heading(const RowTable& table) : m_table(table)
+    {
+        for (const TableColumn& column : table.m_columns) {
+            QLabel* label = columnHead(column.heading, column.side);
+            label->setSizePolicy(column.stretches ? QSizePolicy::Expanding : QSizePolicy::Preferred,
+                                 QSizePolicy::Preferred);
+            m_line.push_back(label);
+        }
+        table.layOut(m_line, *this);
+        sizeByLetters();
+    }
+
+    void sizeByLetters() override { m_table.giveWidths(m_line, *this); }
+
+private:
+    const RowTable& m_table;
+    Line m_line;
+};
+
+QWidget* RowTable::makeHeading() const
+{
+    return new Heading(*this);
 }
 
 EntryBox* RowTable::box(std::size_t row, std::size_t column) const

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/PositionBox.h"
+#include "app/shell/zoom_sizes.h"
 
 #include <optional>
 #include <span>
@@ -12,7 +13,6 @@ namespace korvel
 /// A column of a table of rows.
 struct TableColumn {
     enum class Holds {
-        Gap,
         Number,
         Text,
         Figure,
@@ -32,12 +32,14 @@ struct TableColumn {
     const char* accessibleName = "";
     Qt::Alignment side = Qt::AlignLeft;
     bool stretches = false; ///< takes the room that is left
+    /// The columns from here on come in a line of their own where the row does not fit into one.
+    bool startsGroup = false;
 };
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
 /// repaints the labels that change and never lays the table out anew. Enter goes through the
 /// boxes row by row, Tab through the results between them too.
-class RowTable : public QWidget
+class RowTable : public QWidget, public SizedByLetters
 {
 public:
     /// @param columns outlives the table. An echo stands behind its position box, a longitude box
@@ -45,8 +47,9 @@ public:
     RowTable(std::span<const TableColumn> columns, std::size_t rows);
 
     /// A line with the names of the columns, for above the table.
-    /// @param size of its letters against those of captions
-    QWidget* makeHeading(double size = 1) const;
+    QWidget* makeHeading() const;
+
+    void sizeByLetters() override;
 
     std::size_t rows() const { return m_lines.size(); }
     EntryBox* box(std::size_t row, std::size_t column) const;
@@ -65,16 +68,16 @@ public:
     void markRow(std::size_t row);
 
 private:
-    using Line = std::vector<QWidget*>; ///< by column, nullptr for a gap
+    class Heading;
+    using Line = std::vector<QWidget*>; ///< by column
 
     QWidget* makeControl(const TableColumn& column, std::size_t row, const Line& before);
-    QWidget* layOut(const Line& line) const;
+    void layOut(const Line& line, QWidget& widget) const;
+    void giveWidths(const Line& line, QWidget& widget) const;
     int widthOf(const TableColumn& column) const;
 
     std::span<const TableColumn> m_columns;
     std::vector<Line> m_lines;
-    int m_rowHeight;
-    int m_spacing;
 };
 
 } // namespace korvel

@@ -7,8 +7,18 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 
+#include <chrono>
+
 namespace korvel
 {
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr auto savingDelay = 1s; // places change in bursts
+
+} // namespace
 
 Screen::Screen(const Machine& machine, KV_Savedvalue& saved)
     : m_file(machine.files, machine.questions, machine.clock, ScreenChoices::file,
@@ -17,6 +27,9 @@ Screen::Screen(const Machine& machine, KV_Savedvalue& saved)
 {
     if (const auto record = m_file.load(m_choices.record())) m_choices = ScreenChoices::of(*record);
     m_onDisk = m_choices;
+    m_saveSoon.setSingleShot(true);
+    m_saveSoon.setInterval(savingDelay);
+    connect(&m_saveSoon, &QTimer::timeout, this, &Screen::save);
     qApp->installEventFilter(this);
 }
 
@@ -29,13 +42,13 @@ void Screen::apply()
     const bool zoomed = wanted.zoom != m_applied.zoom;
     m_applied = wanted;
     if (recoloured) m_colours = wanted.colours();
-    const double ratio = applyLooks(wanted, m_colours);
+    applyLooks(wanted, m_colours);
     if (recoloured) {
         for (QWidget* each : QApplication::topLevelWidgets()) // whose icon is a picture
             if (auto* box = qobject_cast<QMessageBox*>(each)) box->setIcon(box->icon());
         emit coloursChanged();
     }
-    if (zoomed) emit zoomChanged(ratio);
+    if (zoomed) emit zoomChanged();
 }
 
 void Screen::toggleNight()
@@ -77,6 +90,7 @@ void Screen::toggleClockOnTop()
 void Screen::keepPlace(const QString& window, const WindowPlace& place)
 {
     m_choices.places[window.toStdString()] = place;
+    if (m_choices != m_onDisk && !m_saveSoon.isActive()) m_saveSoon.start();
 }
 
 std::optional<WindowPlace> Screen::placeOf(const QString& window) const
@@ -88,6 +102,7 @@ std::optional<WindowPlace> Screen::placeOf(const QString& window) const
 
 void Screen::save()
 {
+    m_saveSoon.stop();
     // How the screen looks is not worth a box: a disk that fails is said by the windows' records.
     if (m_choices != m_onDisk && m_file.saveQuietly(m_choices.record()).empty())
         m_onDisk = m_choices;

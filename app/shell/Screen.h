@@ -7,6 +7,7 @@
 #include "app/shell/looks.h"
 
 #include <QObject>
+#include <QTimer>
 
 namespace korvel
 {
@@ -40,8 +41,7 @@ public:
     void toggleReopening();
     void toggleClockOnTop();
 
-    /// Keeps the place of a window for its next opening. Written with the next choice, and when the
-    /// program ends.
+    /// Keeps the place of a window for its next opening; written shortly afterwards.
     void keepPlace(const QString& window, const WindowPlace& place);
     std::optional<WindowPlace> placeOf(const QString& window) const;
     /// Writes what is not written yet.
@@ -53,8 +53,7 @@ public:
 
 signals:
     void coloursChanged();
-    /// @param ratio of the letters' width to what it was before
-    void zoomChanged(double ratio);
+    void zoomChanged();
     /// A tick in a menu is to be shown anew.
     void chosen();
 
@@ -65,6 +64,7 @@ private:
     ScreenChoices m_onDisk;
     Looks m_applied;
     ColourScheme m_colours;
+    QTimer m_saveSoon;
 };
 
 } // namespace korvel

@@ -47,6 +47,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
 {
     setObjectName("frmKORVEL2000");
     setCentralWidget(m_panel);
+    new PlaceWatch(m_screen, *this);
     layout()->setSizeConstraint(QLayout::SetMinimumSize);
     connect(&m_windows, &CalculatorWindows::opened, this,
             [this](const QString& name) { m_menus.tickWindow(name, true); });
@@ -255,11 +256,13 @@ void frmKORVEL2000::timeChanged()
 void frmKORVEL2000::showClockRemarks()
 {
     const std::string offset = m_shipsTime.offsetText();
+    const bool before = m_panel->hasRemarks();
     m_panel->showOffset(offset.empty() ? ""
                                        : "Ship's time is kept " + offset +
                                              (m_shipsTime.offsetSeconds() > 0 ? " of" : "") +
                                              " the computer's clock");
     m_panel->showZoneNotice(m_shipsTime.zoneNotice());
+    if (before != m_panel->hasRemarks()) QTimer::singleShot(0, this, [this] { adjustSize(); });
     m_panel->showAlarm(nextAlarmText(m_saved, m_shipsTime.SMT()));
     m_panel->showTD((m_saved.TD() < 0 ? "TD " : "TD +") + Format(m_saved.TD(), "0.0") + " hours");
 }
@@ -300,24 +303,26 @@ void frmKORVEL2000::closeEverything()
 {
     m_ending = true;
     m_tmrClock->stop();
-    keepPlaces();
+    if (isVisible()) keepPlace(m_screen, *this, true);
+    std::set<QString> open;
+    for (const CalculatorWindow* each : m_windows.all())
+        open.insert(each->objectName());
     m_windows.closeAll();
+    keepOpen(open);
     m_journal.reset();
     close();
     emit ended();
 }
 
-void frmKORVEL2000::keepPlaces()
+/// Closing has said of every window that it is not to come back.
+void frmKORVEL2000::keepOpen(const std::set<QString>& windows)
 {
     for (const CatalogueEntry& entry : m_windows.catalogue()) {
         auto place = m_screen.placeOf(entry.name);
         if (!place) continue;
-        place->open = false;
+        place->open = windows.contains(entry.name);
         m_screen.keepPlace(entry.name, *place);
     }
-    for (CalculatorWindow* each : m_windows.all())
-        keepPlace(m_screen, *each, true);
-    if (isVisible()) keepPlace(m_screen, *this, true);
     m_screen.save();
 }
 

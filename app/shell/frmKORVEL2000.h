@@ -15,6 +15,7 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <set>
 
 class QTimer;
 
@@ -74,7 +75,7 @@ private:
     void keepValues();
     void placeWindows();
     void applyColours();
-    void keepPlaces();
+    void keepOpen(const std::set<QString>& windows);
     void endProgram();
     void closeEverything();
 

@@ -11,6 +11,8 @@
 #include <QToolTip>
 #include <QWidget>
 
+#include <cmath>
+
 namespace korvel
 {
 namespace
@@ -26,38 +28,34 @@ Record quietlyRead(const QString& path, const std::vector<Kind>& kinds)
 }
 
 /// Letters that widgets have in a size of their own keep it in proportion.
-void scaleOwnLetters(double ratio)
+void scaleOwnLetters(double before, double now)
 {
+    // Proportions are of two decimals: there and back is the same size again.
+    const auto scaled = [=](double size) { return std::round(size / before * 100) / 100 * now; };
     for (QWidget* widget : QApplication::allWidgets()) {
         QFont font = widget->font();
         if (!widget->testAttribute(Qt::WA_SetFont) || !(font.resolveMask() & QFont::SizeResolved) ||
             font.pointSizeF() <= 0)
             continue;
-        font.setPointSizeF(font.pointSizeF() * ratio);
+        font.setPointSizeF(scaled(font.pointSizeF()));
         widget->setFont(font);
     }
 }
 
-double widthOfLetters()
-{
-    return QFontMetricsF(QApplication::font()).horizontalAdvance("0123456789 degrees N");
-}
-
-/// @return as of applyLooks
-double applyZoom(int percent)
+void applyZoom(int percent)
 {
     static const double own = QApplication::font().pointSizeF();
     QFont font = QApplication::font();
     const double wanted = own * percent / 100;
-    if (own <= 0 || qFuzzyCompare(font.pointSizeF(), wanted)) return 1;
-    const double before = widthOfLetters();
+    if (own <= 0 || qFuzzyCompare(font.pointSizeF(), wanted)) return;
     if (auto* style = dynamic_cast<ScreenStyle*>(QApplication::style())) style->setZoom(percent);
-    const double ratio = wanted / font.pointSizeF();
+    const double before = font.pointSizeF();
     font.setPointSizeF(wanted);
     QApplication::setFont(font);
+    // At once: whoever hears of the zoom measures by the letters in force.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::ApplicationFontChange);
     QToolTip::setFont(font);
-    scaleOwnLetters(ratio);
-    return widthOfLetters() / before;
+    scaleOwnLetters(before, wanted);
 }
 
 } // namespace
@@ -79,13 +77,13 @@ Looks looksOfLastRun(const QString& folder)
     return {saved.nightColours(), screen.dimStep, screen.zoom};
 }
 
-double applyLooks(const Looks& looks, const ColourScheme& colours)
+void applyLooks(const Looks& looks, const ColourScheme& colours)
 {
     if (QApplication::palette() != colours.palette) {
         QApplication::setPalette(colours.palette);
         QToolTip::setPalette(colours.palette);
     }
-    return applyZoom(looks.zoom);
+    applyZoom(looks.zoom);
 }
 
 } // namespace korvel

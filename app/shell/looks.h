@@ -27,7 +27,6 @@ Looks looksOfLastRun(const QString& folder);
 
 /// Gives it to the application: every window, menu, box and tool tip that there is and that will
 /// be. Needs ScreenStyle to be the application's style for all of it.
-/// @return ratio of the letters' width to what it was before
-double applyLooks(const Looks& looks, const ColourScheme& colours);
+void applyLooks(const Looks& looks, const ColourScheme& colours);
 
 } // namespace korvel

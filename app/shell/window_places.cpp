@@ -4,13 +4,21 @@
 #include "app/shell/Screen.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QScreen>
 #include <QWidget>
+
+#include <chrono>
 
 namespace korvel
 {
 namespace
 {
+
+using namespace std::chrono_literals;
+
+// A desktop puts its frame around a window some time after it is shown.
+constexpr auto settlingTime = 400ms;
 
 /// What a window manager puts around a window. It is known of a window that is shown, and the same
 /// for all; nothing is guessed before, for a guess would move a window at every start.
@@ -31,9 +39,9 @@ QMargins frameOf(const QWidget& window)
 
 QRect screenAt(const QRect& place)
 {
-    const QScreen* screen = QGuiApplication::screenAt(place.center());
-    if (!screen) screen = QGuiApplication::screenAt(place.topLeft());
-    return (screen ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+    const QScreen* screen = QApplication::screenAt(place.center());
+    if (!screen) screen = QApplication::screenAt(place.topLeft());
+    return (screen ? screen : QApplication::primaryScreen())->availableGeometry();
 }
 
 /// @param place the window without its frame: where the frame comes to lie is up to the window
@@ -52,10 +60,36 @@ void putAt(QWidget& window, const QRect& place, bool resizes)
 
 void keepPlace(Screen& screen, const QWidget& window, bool open)
 {
+    // Without its frame: what is set before a window is shown is taken so by every desktop.
     const bool enlarged = window.isMaximized() || window.isFullScreen();
     const QRect place = enlarged ? window.normalGeometry() : window.geometry();
     screen.keepPlace(window.objectName(), {place.x(), place.y(), place.width(), place.height(),
                                            screen.choices().zoom, open});
+}
+
+PlaceWatch::PlaceWatch(Screen& screen, QWidget& window) : QObject(&window)
+{
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(settlingTime);
+    connect(&m_settled, &QTimer::timeout, this, [&screen, &window] {
+        if (window.isVisible()) keepPlace(screen, window, true);
+    });
+    window.installEventFilter(this);
+}
+
+bool PlaceWatch::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::WindowStateChange:
+        m_settled.start();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 bool putInPlace(const Screen& screen, QWidget& window, bool resizes)
@@ -75,12 +109,16 @@ bool putInPlace(const Screen& screen, QWidget& window, bool resizes)
     return true;
 }
 
+QSize roomOnScreen(const QWidget& window)
+{
+    return window.screen()->availableGeometry().marginsRemoved(frameOf(window)).size();
+}
+
 void resizeForText(QWidget& window, int letters, int lines)
 {
     const QFontMetrics metrics = window.fontMetrics();
     const QSize wanted(letters * metrics.averageCharWidth(), lines * metrics.lineSpacing());
-    const QRect room = window.screen()->availableGeometry().marginsRemoved(frameOf(window));
-    window.resize(wanted.boundedTo(room.size()));
+    window.resize(wanted.boundedTo(roomOnScreen(window)));
 }
 
 void bringOntoScreen(QWidget& window)

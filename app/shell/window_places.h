@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QObject>
+#include <QTimer>
+
+class QSize;
 class QWidget;
 
 namespace korvel
@@ -12,6 +16,22 @@ class Screen;
 /// @param open whether it is to come back at the next start, if the officer wants that at all
 void keepPlace(Screen& screen, const QWidget& window, bool open);
 
+/// Remembers the place of a window shortly after it was moved, made larger or smaller, so that a
+/// program that is ended by force has it too. Belongs to the window.
+class PlaceWatch : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param screen outlives the window
+    PlaceWatch(Screen& screen, QWidget& window);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QTimer m_settled;
+};
+
 /// Puts a window where it was last, and when the size of everything is still the same as large as
 /// it was. What would be off the screen is moved and made smaller until it is on it.
 /// @param resizes false for a window whose content alone gives its size
@@ -21,6 +41,9 @@ bool putInPlace(const Screen& screen, QWidget& window, bool resizes = true);
 /// Makes a window of text so large that it shows the lines and the letters in each of them, as far
 /// as its screen has room.
 void resizeForText(QWidget& window, int letters, int lines);
+
+/// The largest size of a window that leaves its frame on the screen.
+QSize roomOnScreen(const QWidget& window);
 
 /// Moves and shrinks a window until it lies on its screen, frame and all.
 void bringOntoScreen(QWidget& window);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/ConversionWindow.h"
-#include "app/shell/asQString.h"
 
+#include "app/shell/asQString.h"
+#include "app/shell/panels.h"
 #include "forms/conversion/CalculateConversion.h"
 #include "forms/conversion/ConversionWorking.h"
 #include "navlib/arithmetic_error.h"
@@ -73,6 +74,7 @@ void ConversionWindow::addCalculation()
 void ConversionWindow::layOut()
 {
     auto* grid = new QGridLayout(scrollBody());
+    layOutBody(*grid);
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         const int row = static_cast<int>(i);

@@ -2,6 +2,7 @@
 #include "forms/frmCDDR/frmCDDR.h"
 
 #include "app/Format.h"
+#include "app/shell/panels.h"
 #include "forms/frmCDDR/CDDRFields.h"
 #include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
@@ -34,7 +35,7 @@ frmCDDR::frmCDDR(Program& program)
     addLabelsOfResults();
     addOptions();
     auto* columns = new QHBoxLayout(scrollBody());
-    columns->setContentsMargins(0, 0, 0, 0);
+    layOutBody(*columns);
     columns->addWidget(layOutCD());
     columns->addWidget(layOutDR());
     foldColumns();
@@ -101,7 +102,7 @@ void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
 QGroupBox* frmCDDR::layOutCD()
 {
     auto* group = new QGroupBox("Course and distance (rhumb line)");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     addPositionRow(grid, 0, 0);
     addPositionRow(grid, 1, 1);
     addPositionRow(grid, 2, 2);
@@ -115,7 +116,7 @@ QGroupBox* frmCDDR::layOutCD()
 QGroupBox* frmCDDR::layOutDR()
 {
     auto* group = new QGroupBox("Dead reckoning");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     addPositionRow(grid, 0, deadReckoning);
     addPositionRow(grid, 1, deadReckoning + 1);
     m_txtCDDR.addRow(grid, 2, course);
@@ -156,7 +157,7 @@ void frmCDDR::addDataMenu()
     QMenu* menu = menus().add("&Data", "mnuData");
     auto* buttons = new QWidget;
     auto* row = new QGridLayout(buttons);
-    row->setContentsMargins(0, 0, 0, 0);
+    layOutBody(*row);
     int index = 0;
     for (const auto& [caption, text, action] : entries) {
         QAction* entry = menus().addEntry(menu, "mnuData", index, caption, action);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCRUDE/CrudeResults.h"
 
+#include "app/shell/panels.h"
+
 #include <QGridLayout>
 
 namespace korvel
@@ -22,11 +24,7 @@ const std::string& figure(const CrudeResult& result)
 
 void addHeading(QGridLayout* grid, int row, const QString& text)
 {
-    auto* heading = new QLabel(text);
-    QFont font = heading->font();
-    font.setBold(true);
-    heading->setFont(font);
-    grid->addWidget(heading, row, 0, 1, -1);
+    grid->addWidget(panelTitle(text), row, 0, 1, -1);
 }
 
 } // namespace
@@ -34,6 +32,7 @@ void addHeading(QGridLayout* grid, int row, const QString& text)
 CrudeResults::CrudeResults()
 {
     auto* grid = new QGridLayout(this);
+    layOutBody(*grid);
     grid->setVerticalSpacing(fontMetrics().leading() + fontMetrics().descent());
     int row = 0;
     layOutVolumes(grid, row);
@@ -45,9 +44,11 @@ CrudeResults::CrudeResults()
     const int figure = rangeFlag()->fontMetrics().horizontalAdvance("00000000.000");
     grid->setColumnMinimumWidth(1, figure);
     grid->setColumnMinimumWidth(2, figure);
-    grid->setColumnMinimumWidth(
-        3, fontMetrics().horizontalAdvance(
-               "at 60 °F = kL at 15 °C / 0.15899 as typed (by density 0.1589141) "));
+    grid->setColumnMinimumWidth(3, fontMetrics().horizontalAdvance("Table 56 exact, 0.999999 "));
+    // Where there is room for it the usual note of the barrels stands in one line.
+    const int note =
+        fontMetrics().horizontalAdvance("at 60 °F = kL at 15 °C / 0.1589156, by density ");
+    grid->addItem(new QSpacerItem(note - figure, 0, QSizePolicy::Preferred), row, 3);
 }
 
 ResultLabel* CrudeResults::add(const char* name, const QString& words, Figure figure)
@@ -65,6 +66,15 @@ ResultLabel* CrudeResults::addNote(const char* name, const QString& words, Figur
     ResultLabel* label = add(name, words, figure);
     label->setFont(font());
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    label->setWordWrap(true);
+    return label;
+}
+
+/// Two lines: the rows below stand still when a factor of one's own makes it long.
+ResultLabel* CrudeResults::addLongNote(const char* name, const QString& words, Figure figure)
+{
+    ResultLabel* label = addNote(name, words, figure);
+    label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
     return label;
 }
 
@@ -104,19 +114,19 @@ void CrudeResults::layOutVolumes(QGridLayout* grid, int& row)
                       figure<&CrudeResult::standardMethod>));
     figureRow("Net standard",
               add("lblNetStandard", "Net standard", figure<&CrudeResult::netStandard>), nullptr);
-    figureRow(
-        "Barrels", add("lblBarrels", "Barrels", figure<&CrudeResult::barrels>),
-        addNote("lblBarrelsMethod", "Method of the barrels", figure<&CrudeResult::barrelsMethod>));
+    figureRow("Barrels", add("lblBarrels", "Barrels", figure<&CrudeResult::barrels>),
+              addLongNote("lblBarrelsMethod", "Method of the barrels",
+                          figure<&CrudeResult::barrelsMethod>));
     figureRow("Kilolitres", add("lblKilolitres", "Kilolitres", figure<&CrudeResult::kilolitres>),
-              addNote("lblKilolitresMethod", "Method of the kilolitres",
-                      figure<&CrudeResult::kilolitresMethod>));
+              addLongNote("lblKilolitresMethod", "Method of the kilolitres",
+                          figure<&CrudeResult::kilolitresMethod>));
 }
 
 void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
 {
     addHeading(grid, row++, "Net, by density, whatever KL/Bbl says");
-    grid->addWidget(new QLabel("at 15 °C"), row, 1, Qt::AlignRight);
-    grid->addWidget(new QLabel("at 60 °F"), row++, 2, Qt::AlignRight);
+    grid->addWidget(columnHead("at 15 °C", Qt::AlignRight), row, 1);
+    grid->addWidget(columnHead("at 60 °F", Qt::AlignRight), row++, 2);
     grid->addWidget(new QLabel("Kilolitres"), row, 0);
     grid->addWidget(add("lblKilolitres15", "Kilolitres by density, at 15 °C",
                         figure<&CrudeResult::kilolitres15>),
@@ -136,8 +146,8 @@ void CrudeResults::layOutByDensity(QGridLayout* grid, int& row)
 void CrudeResults::layOutTons(QGridLayout* grid, int& row)
 {
     addHeading(grid, row++, "Weight");
-    grid->addWidget(new QLabel("in air"), row, 1, Qt::AlignRight);
-    grid->addWidget(new QLabel("in vacuo"), row++, 2, Qt::AlignRight);
+    grid->addWidget(columnHead("in air", Qt::AlignRight), row, 1);
+    grid->addWidget(columnHead("in vacuo", Qt::AlignRight), row++, 2);
     const auto tonsRow = [&](const char* caption, ResultLabel* inAir, ResultLabel* inVacuo) {
         grid->addWidget(new QLabel(caption), row, 0);
         grid->addWidget(inAir, row, 1);

@@ -29,6 +29,7 @@ private:
     ResultLabel* add(const char* name, const QString& words, Figure figure);
     ResultLabel* addNote(const char* name, const QString& words,
                          Figure figure); ///< words beside a figure
+    ResultLabel* addLongNote(const char* name, const QString& words, Figure figure);
     void layOutVolumes(QGridLayout* grid, int& row);
     void layOutByDensity(QGridLayout* grid, int& row);
     void layOutTons(QGridLayout* grid, int& row);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCRUDE/frmCRUDE.h"
 
+#include "app/shell/panels.h"
 #include "app/shell/widget_colours.h"
 #include "forms/frmCRUDE/CrudeFields.h"
 #include "forms/frmCRUDE/CrudeWorking.h"
@@ -44,6 +45,7 @@ frmCRUDE::frmCRUDE(Program& program)
     addChoices();
     m_results = new CrudeResults;
     auto* columns = new QHBoxLayout(scrollBody());
+    layOutBody(*columns);
     auto* left = new QVBoxLayout;
     left->addWidget(layOutInputs());
     left->addWidget(layOutMethods());
@@ -109,7 +111,7 @@ void frmCRUDE::addChoices()
 QWidget* frmCRUDE::layOutInputs()
 {
     auto* group = new QGroupBox("Observed");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     int row = 0;
     const auto line = [&](std::size_t field, QWidget* beside) {
         auto* label = new QLabel(CrudeFields[field].caption);
@@ -133,7 +135,7 @@ QWidget* frmCRUDE::layOutInputs()
 QWidget* frmCRUDE::layOutMethods()
 {
     auto* group = new QGroupBox("Methods");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     int row = 0;
     for (const auto& [caption, choice] :
          {std::pair("VCF decima&ls", m_cboVCFDecimals),

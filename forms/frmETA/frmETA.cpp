@@ -2,6 +2,7 @@
 #include "forms/frmETA/frmETA.h"
 
 #include "app/Format.h"
+#include "app/shell/panels.h"
 #include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/ETAWorking.h"
 #include "forms/frmETA/PassageTimes.h"
@@ -51,7 +52,7 @@ frmETA::frmETA(Program& program)
     nameBoxes();
     addResults();
     auto* columns = new QHBoxLayout(scrollBody());
-    columns->setContentsMargins(0, 0, 0, 0);
+    layOutBody(*columns);
     columns->addWidget(layOutPassage(), 1);
     auto* results = new QVBoxLayout;
     results->addWidget(layOutArrivals());
@@ -145,15 +146,15 @@ void frmETA::offerDefaults()
 QGroupBox* frmETA::layOutPassage()
 {
     auto* group = new QGroupBox("Passage");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     const auto caption = [grid](int row, const char* text, EntryBox* box) {
         auto* label = new QLabel(text);
         label->setBuddy(box);
         grid->addWidget(label, row, 0);
     };
-    grid->addWidget(new QLabel("Date, year/month/day"), 0, 1);
-    grid->addWidget(new QLabel("Local time, h:mm"), 0, 2);
-    grid->addWidget(new QLabel("Hours earlier or later"), 0, 3);
+    grid->addWidget(columnHead("Date, year/month/day"), 0, 1);
+    grid->addWidget(columnHead("Local time, h:mm"), 0, 2);
+    grid->addWidget(columnHead("Hours earlier or later"), 0, 3, 1, 2);
     int row = 1;
     for (const TimeEntry* entry : {&m_departure, &m_arrival}) {
         caption(row, row == 1 ? "Departure" : "Arrival wanted", entry->date);
@@ -183,7 +184,10 @@ QGroupBox* frmETA::layOutPassage()
     grid->addWidget(m_txtSpeed, row, 1);
     grid->addWidget(new QLabel("knots"), row, 2);
     grid->addWidget(m_scrSpeed, row++, 3);
-    grid->setColumnMinimumWidth(3, fontMetrics().horizontalAdvance("TD +9.5, ZD -9.5") * 3 / 2);
+    const int ofTD = fontMetrics().horizontalAdvance("TD +9.5, ZD -9.5");
+    grid->setColumnMinimumWidth(3, ofTD);
+    // Bars that are easy to hit, where there is room.
+    grid->addItem(new QSpacerItem(ofTD * 3 / 2, 0, QSizePolicy::Preferred), row, 3);
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(row, 1);
     return group;
@@ -192,9 +196,9 @@ QGroupBox* frmETA::layOutPassage()
 QGroupBox* frmETA::layOutArrivals()
 {
     auto* group = new QGroupBox("Arrival at five speeds");
-    auto* grid = new QGridLayout(group);
-    grid->addWidget(new QLabel("Knots"), 0, 0);
-    grid->addWidget(new QLabel("Local time at arrival, month/day"), 0, 1);
+    auto* grid = gridOf(group);
+    grid->addWidget(columnHead("Knots"), 0, 0);
+    grid->addWidget(columnHead("Local time at arrival, month/day"), 0, 1);
     for (int row = 0; row < 5; ++row) {
         const auto at = static_cast<std::size_t>(row);
         grid->addWidget(m_lblSPD[at], row + 1, 0);
@@ -211,7 +215,7 @@ QGroupBox* frmETA::layOutArrivals()
 QGroupBox* frmETA::layOutRequiredSpeed()
 {
     auto* group = new QGroupBox("Required for the arrival wanted");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     addResultRow(grid, 0, "Speed", m_lblReqSpd, "knots");
     grid->setColumnMinimumWidth(1, QFontMetrics(m_lblReqSpd->font()).horizontalAdvance("0000.00"));
     grid->setColumnStretch(2, 1);

@@ -2,6 +2,7 @@
 #include "forms/frmGC2000/CalculateGC.h"
 
 #include "app/Format.h"
+#include "app/position_text.h"
 #include "forms/frmGC2000/GCFields.h"
 #include "navlib/great_circle.h"
 
@@ -105,8 +106,8 @@ void fillTrack(GCResult& result, const std::optional<NavFunc113::GreatCircleTrac
     result.finalCourse = courseText(track->finalCourse);
     if (!track->vertex) return;
     result.vertex = GCWaypoint{track->vertex->lat, track->vertex->longitude};
-    result.vertexLat = Format(track->vertex->lat, latFormat);
-    result.vertexLong = Format(track->vertex->longitude, longFormat);
+    result.vertexLat = positionInFull(track->vertex->lat, Axis::Latitude);
+    result.vertexLong = positionInFull(track->vertex->longitude, Axis::Longitude);
     result.vertexRemark = track->vertex->onRoute ? "on the route" : "beyond the route";
 }
 

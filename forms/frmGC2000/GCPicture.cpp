@@ -30,15 +30,33 @@ GCPicture::GCPicture(Program& program) : m_program(program)
 {
     setObjectName("picGC");
     setAccessibleName("Chart of the great circle and the rhumb line");
+}
+
+QSize GCPicture::sizeHint() const
+{
     const QFontMetrics metrics = fontMetrics();
-    const int gap = metrics.height() / 2;
-    // Above the chart the legend, and below it half the height of the topmost label.
-    setPlotMargins({metrics.horizontalAdvance("00°N") + gap, 2 * metrics.height(),
-                    metrics.horizontalAdvance("000°W") / 2, metrics.height() + gap});
-    // The legend in one line, and a chart that still shows a curve.
     const int legend =
         Legend::width(metrics, "Departure Waypoint Arrival Great circle Rhumb line", 2, 3);
-    setMinimumSize(legend + 3 * metrics.height(), 12 * metrics.height());
+    return {legend + 3 * metrics.height(), 12 * metrics.height()};
+}
+
+/// The legend in two lines, and a chart that still shows a curve.
+QSize GCPicture::minimumSizeHint() const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int legend = std::max(Legend::width(metrics, "Departure Waypoint Arrival", 0, 3),
+                                Legend::width(metrics, "Great circle Rhumb line", 2, 0));
+    return {legend + 3 * metrics.height(), 12 * metrics.height()};
+}
+
+void GCPicture::placeMargins()
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int gap = metrics.height() / 2;
+    m_legendLines = width() >= sizeHint().width() ? 1 : 2;
+    // Above the chart the legend, and below it half the height of the topmost label.
+    setPlotMargins({metrics.horizontalAdvance("00°N") + gap, (1 + m_legendLines) * metrics.height(),
+                    metrics.horizontalAdvance("000°W") / 2, metrics.height() + gap});
 }
 
 void GCPicture::setChart(GCChart chart)
@@ -72,7 +90,8 @@ void GCPicture::draw(QPainter& painter)
 
 QRectF GCPicture::legendStrip() const
 {
-    return {0, plotArea().top() / 2 - lineHeight() / 2, double(width()), lineHeight()};
+    const double high = m_legendLines * lineHeight();
+    return {0, plotArea().top() / 2 - high / 2, double(width()), high};
 }
 
 QPen GCPicture::pen(const QColor& colour, double width) const
@@ -222,14 +241,17 @@ void GCPicture::drawEdges(QPainter& painter) const
 
 void GCPicture::drawLegend(QPainter& painter) const
 {
-    Legend legend(painter, m_figures, {plotArea().left(), plotArea().top() / 2},
-                  colours().palette.color(QPalette::WindowText));
+    const QColor ink = colours().palette.color(QPalette::WindowText);
+    QPointF start(plotArea().left(), legendStrip().top() + lineHeight() / 2);
+    Legend legend(painter, m_figures, start, ink);
     const auto mark = [&](Mark kind, const QString& words) {
         legend.mark([&](QPointF at) { drawMark(painter, at, kind); }, words);
     };
     mark(Mark::Departure, "Departure");
     mark(Mark::Waypoint, "Waypoint");
     mark(Mark::Arrival, "Arrival");
+    start.ry() += lineHeight();
+    if (m_legendLines == 2) legend.goOnAt(start);
     legend.line(pen(colours().route, thick), "Great circle");
     legend.line(rhumbPen(), "Rhumb line");
 }

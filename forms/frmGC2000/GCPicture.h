@@ -17,8 +17,12 @@ public:
 
     void setChart(GCChart chart);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void draw(QPainter& painter) override;
+    void placeMargins() override;
 
 private:
     void drawGrid(QPainter& painter) const;
@@ -43,6 +47,7 @@ private:
 
     Program& m_program;
     GCChart m_chart;
+    int m_legendLines = 1;
     mutable FigureText m_figures; ///< glyphs that it has drawn before
 };
 

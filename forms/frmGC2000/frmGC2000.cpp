@@ -3,6 +3,7 @@
 
 #include "app/sailing_working.h"
 #include "app/shell/FollowingScrollArea.h"
+#include "app/shell/panels.h"
 #include "forms/frmGC2000/DrawWPs.h"
 #include "forms/frmGC2000/GCFields.h"
 #include "forms/frmGC2000/GCPicture.h"
@@ -23,6 +24,7 @@ constexpr const char* widestCourse = "<000.0>";
 constexpr const char* widestLatitude = "00.00'0N";
 constexpr const char* widestLongitude = "000.00'0W";
 constexpr const char* widestDistance = "00000.'0";
+constexpr const char* widestVertex[] = {"00°00.0' N", "000°00.0' W"};
 
 using Holds = TableColumn::Holds;
 enum : std::size_t { Number, Latitude, Longitude, Course, Distance };
@@ -43,11 +45,8 @@ constexpr std::array<TableColumn, 5> waypointColumns = {{
 QGridLayout* addPanel(QWidget* panel, const QString& title)
 {
     auto* column = new QVBoxLayout(panel);
-    auto* heading = new QLabel(title);
-    QFont bold = heading->font();
-    bold.setBold(true);
-    heading->setFont(bold);
-    column->addWidget(heading);
+    layOutBody(*column);
+    column->addWidget(panelTitle(title));
     auto* grid = new QGridLayout;
     column->addLayout(grid, 1);
     return grid;
@@ -60,7 +59,7 @@ frmGC2000::frmGC2000(Program& program)
 {
     addResults();
     auto* grid = new QGridLayout(scrollBody());
-    grid->setContentsMargins(0, 0, 0, 0);
+    layOutBody(*grid, Spacing::Frameless);
     grid->addWidget(layOutPositions(), 0, 0);
     grid->addWidget(layOutDistances(), 0, 1);
     grid->addWidget(layOutTrack(), 0, 2);
@@ -100,8 +99,8 @@ void frmGC2000::addResults()
     m_lblSaving->reserve(widestDistance);
     m_lblInitialCourse->reserve(widestCourse);
     m_lblFinalCourse->reserve(widestCourse);
-    m_lblVertexLat->reserve(widestLatitude);
-    m_lblVertexLong->reserve(widestLongitude);
+    m_lblVertexLat->reserve(widestVertex[0]);
+    m_lblVertexLong->reserve(widestVertex[1]);
     m_lblVertexRemark->setFont(font());
     m_lblVertexRemark->reserve("beyond the route");
 
@@ -161,8 +160,8 @@ QWidget* frmGC2000::layOutTrack()
     grid->addWidget(m_lblVertexLong, 2, 2);
     grid->addWidget(m_lblVertexRemark, 2, 3);
     addResultRow(grid, 3, "Saves", m_lblSaving, "miles against the rhumb line");
-    grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(widestLatitude));
-    grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(widestLongitude));
+    grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(widestVertex[0]));
+    grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(widestVertex[1]));
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(4, 1);
     return group;
@@ -276,14 +275,6 @@ WorkingPaper frmGC2000::paper() const
     for (const std::string& sentence : sailingLimits(program().earth()))
         paper.limits.push_back(sentence);
     if (!m_result.figures) return paper;
-    for (PaperFigure& each : paper.results) {
-        if (each.name == m_lblVertexLat->accessibleName().toStdString())
-            each =
-                paperFigure(*m_lblVertexLat, positionForCopy(m_result.vertex->lat, Axis::Latitude));
-        if (each.name == m_lblVertexLong->accessibleName().toStdString())
-            each = paperFigure(*m_lblVertexLong,
-                               positionForCopy(m_result.vertex->longitude, Axis::Longitude));
-    }
     paper.workings.push_back(waypointsWorking(m_result, program().earth()));
     paper.tables = {waypointTable(m_result)};
     paper.list = waypointList(m_result);

@@ -25,8 +25,6 @@ enum : std::size_t {
     DayRun
 };
 
-constexpr double smaller = 0.85; ///< letters of the heading: thirteen columns side by side
-
 constexpr std::array<TableColumn, 13> columns = {{
     {"lblRow", "No.", "29 !", Holds::Number, "Row %1, number", Qt::AlignRight},
     {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", Holds::Moment,
@@ -39,7 +37,7 @@ constexpr std::array<TableColumn, 13> columns = {{
     {"txtLong", "Longitude", "-000.00000", Holds::Longitude,
      "Row %1, longitude, degrees.minutes, east positive"},
     {"", "", "000°00.000' W", Holds::Echo},
-    {"lblUTC", "UTC", "2000/00/00 00:00", Holds::Result, "Row %1, UTC"},
+    {"lblUTC", "UTC", "2000/00/00 00:00", Holds::Result, "Row %1, UTC", Qt::AlignLeft, false, true},
     {"lblCourse", "Course", "<000.0>", Holds::Result,
      "Row %1, course to the next fix, degrees true"},
     {"lblDistance", "Dist. nm", "00000.'0", Holds::Result,
@@ -60,11 +58,6 @@ void showText(ResultLabel* label, const std::string& text)
 } // namespace
 
 PositionTable::PositionTable() : RowTable(columns, positionRowCount) {}
-
-QWidget* PositionTable::makeHeading() const
-{
-    return RowTable::makeHeading(smaller);
-}
 
 PositionTable::Row PositionTable::row(std::size_t index) const
 {

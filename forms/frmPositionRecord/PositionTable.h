@@ -23,9 +23,6 @@ public:
     };
     Row row(std::size_t index) const;
 
-    /// A line with the names of the columns and their units.
-    QWidget* makeHeading() const;
-
     PositionRows texts() const;
     void fill(const PositionRows& rows);
     void show(const PositionRecordResult& record);

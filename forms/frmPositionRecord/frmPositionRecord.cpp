@@ -2,6 +2,7 @@
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
 #include "app/Format.h"
+#include "app/shell/CellLayout.h"
 #include "app/shell/FollowingScrollArea.h"
 #include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/PrintRecord.h"
@@ -12,7 +13,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QGridLayout>
 #include <QMenu>
 
 namespace korvel
@@ -47,22 +47,15 @@ frmPositionRecord::frmPositionRecord(Program& program)
 void frmPositionRecord::addTotals()
 {
     for (EntryBox* box : {m_txtCourseSteered, m_txtSpeedSteered})
-        box->setMaximumWidth(box->fontMetrics().horizontalAdvance("000000000"));
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance("000000000"));
     auto* below = new QWidget;
-    auto* grid = new QGridLayout(below);
-    grid->setContentsMargins(0, 0, 0, 0);
-    int column = 0;
-    const auto put = [&](int row, const QString& caption, QWidget* field, const QString& unit) {
+    auto* cells = new CellLayout(below, 4, Qt::Horizontal);
+    const auto put = [&](const QString& caption, QWidget* field, const QString& unit) {
         if (field->accessibleName().isEmpty())
             field->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
         auto* label = new QLabel(caption);
         label->setBuddy(field);
-        if (field->accessibleName().isEmpty())
-            field->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
-        grid->addWidget(label, row, column);
-        grid->addWidget(field, row, column + 1);
-        grid->addWidget(new QLabel(unit), row, column + 2);
-        column += 3;
+        cells->addCell({label, field, new QLabel(unit)});
     };
     const auto figure = [&](const char* name, const QString& widest) {
         ResultLabel* label = addLabel(name);
@@ -75,21 +68,17 @@ void frmPositionRecord::addTotals()
     m_lblTotalHours = figure("lblTotalHours", "00000.00");
     m_lblAverageSpeed = figure("lblAverageSpeed", "000.00");
     m_lblLatestRun = figure("lblLatestRun", "0000.'0 in 000.0 h");
-    put(0, "Total distance", m_lblTotalDistance, "nm");
-    put(0, "Hours", m_lblTotalHours, "h");
-    put(0, "Average speed", m_lblAverageSpeed, "kn");
-    put(0, "Latest day's run", m_lblLatestRun, "");
-    column = 0;
+    put("Total distance", m_lblTotalDistance, "nm");
+    put("Hours", m_lblTotalHours, "h");
+    put("Average speed", m_lblAverageSpeed, "kn");
+    put("Latest day's run", m_lblLatestRun, "");
     m_lblSet = figure("lblSet", "000");
     m_lblDrift = figure("lblDrift", "0000.'0 = 00.00 kn");
-    put(1, "&Course steered", m_txtCourseSteered, "°");
-    put(1, "&Speed steered", m_txtSpeedSteered, "kn");
-    put(1, "Set towards", m_lblSet, "°");
-    put(1, "Drift", m_lblDrift, "");
-    grid->setColumnStretch(column, 1);
-    auto* strip = new FollowingScrollArea(below);
-    strip->setStrip();
-    addBelow(strip);
+    put("&Course steered", m_txtCourseSteered, "°");
+    put("&Speed steered", m_txtSpeedSteered, "kn");
+    put("Set towards", m_lblSet, "°");
+    put("Drift", m_lblDrift, "");
+    addStrip(below);
 }
 
 void frmPositionRecord::addCalculationOfRecord()

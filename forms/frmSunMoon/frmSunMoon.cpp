@@ -3,12 +3,12 @@
 
 #include "app/Format.h"
 #include "app/shell/FollowingScrollArea.h"
+#include "app/shell/WrappingRow.h"
 #include "app/shell/asQString.h"
 #include "app/shell/widget_colours.h"
 #include "forms/frmSunMoon/RiseSetWorking.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollBar>
@@ -30,9 +30,10 @@ constexpr std::array<Field, 1> dateFields = {
 using Holds = TableColumn::Holds;
 enum : std::size_t { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Results };
 
-constexpr TableColumn timeColumn(const char* name, const char* heading, const char* words)
+constexpr TableColumn timeColumn(const char* name, const char* heading, const char* words,
+                                 bool startsGroup = false)
 {
-    return {name, heading, "0000LT", Holds::Result, words, Qt::AlignRight};
+    return {name, heading, "0000LT", Holds::Result, words, Qt::AlignRight, false, startsGroup};
 }
 
 constexpr TableColumn azimuthColumn(const char* name, const char* heading, const char* words)
@@ -57,7 +58,7 @@ constexpr std::array<TableColumn, 19> tableColumns = {{
     {"txtLongitude", "Longitude\ndeg.min", "-179.30.550", Holds::Longitude,
      "Longitude, degrees.minutes, east positive, row %1"},
     {"", "east +", "179°30.55' W !", Holds::Echo},
-    timeColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1"),
+    timeColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1", true),
     refinedColumn("lblSunRiseRefined", "Sunrise refined, row %1"),
     azimuthColumn("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth, row %1"),
     refinedColumn("lblSunRiseAzRefined", "Sunrise azimuth at the latitude as typed, row %1"),
@@ -65,7 +66,7 @@ constexpr std::array<TableColumn, 19> tableColumns = {{
     refinedColumn("lblSunSetRefined", "Sunset refined, row %1"),
     azimuthColumn("lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth, row %1"),
     refinedColumn("lblSunSetAzRefined", "Sunset azimuth at the latitude as typed, row %1"),
-    timeColumn("lblMoonRiseTime", "Moon\nrise", "Moonrise, row %1"),
+    timeColumn("lblMoonRiseTime", "Moon\nrise", "Moonrise, row %1", true),
     refinedColumn("lblMoonRiseRefined", "Moonrise refined, row %1"),
     timeColumn("lblMoonSetTime", "Moon\nset", "Moonset, row %1"),
     refinedColumn("lblMoonSetRefined", "Moonset refined, row %1"),
@@ -141,8 +142,7 @@ void frmSunMoon::addControls()
 QWidget* frmSunMoon::dateRow()
 {
     auto* bar = new QWidget(body());
-    auto* line = new QHBoxLayout(bar);
-    line->setContentsMargins(0, 0, 0, 0);
+    auto* line = new WrappingRow(bar);
     auto* caption = new QLabel("&Date");
     caption->setBuddy(m_txtSunMoon);
     auto* today = new QPushButton("&Today");
@@ -150,15 +150,17 @@ QWidget* frmSunMoon::dateRow()
     today->setToolTip("Today's date, and the ship's time difference into row 1");
     today->setAutoDefault(false);
     connect(today, &QPushButton::clicked, this, &frmSunMoon::cmdToday_Click);
-    m_txtSunMoon->setMaximumWidth(m_txtSunMoon->fontMetrics().horizontalAdvance("0000/00/00 00"));
-    line->addWidget(caption);
-    line->addWidget(m_txtSunMoon);
-    line->addWidget(new QLabel("yyyy/m/d"));
-    line->addWidget(m_scrMoonSun, 1);
-    line->addWidget(today);
-    line->addWidget(new QLabel("Moon's age"));
-    line->addWidget(m_lblMoonAge);
-    line->addWidget(new QLabel("days"));
+    const int wide = m_txtSunMoon->fontMetrics().horizontalAdvance("0000/00/00 00");
+    m_txtSunMoon->setFixedWidth(wide);
+    m_scrMoonSun->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_scrMoonSun->setMinimumWidth(wide);
+    for (QWidget* each : {static_cast<QWidget*>(caption), static_cast<QWidget*>(m_txtSunMoon),
+                          static_cast<QWidget*>(new QLabel("yyyy/m/d")),
+                          static_cast<QWidget*>(m_scrMoonSun), static_cast<QWidget*>(today)})
+        line->addWidget(each);
+    for (QWidget* each :
+         {new QLabel("Moon's age"), static_cast<QLabel*>(m_lblMoonAge), new QLabel("days")})
+        line->addWidget(each);
     return bar;
 }
 

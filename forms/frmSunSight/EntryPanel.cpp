@@ -2,6 +2,7 @@
 #include "forms/frmSunSight/EntryPanel.h"
 
 #include "app/reading.h"
+#include "app/shell/WrappingRow.h"
 #include "forms/frmSunSight/PanelParts.h"
 #include "forms/frmSunSight/SightLine.h"
 
@@ -68,8 +69,7 @@ EntryPanel::EntryPanel(QWidget* parent)
     m_quality[2]->setPlaceholderText("2");
     addOptions();
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
+    layOutBody(*column, Spacing::Dense);
     column->addWidget(layOutSight());
     column->addWidget(layOutTrack());
     layOutQuality();
@@ -94,7 +94,7 @@ QGroupBox* EntryPanel::layOutSight()
 {
     using namespace SightField;
     auto* group = new QGroupBox("Sight of the Sun");
-    auto* grid = gridOf(group);
+    auto* grid = gridOf(group, Spacing::Dense);
     int row = 0;
     const auto addOptionRow = [&](const char* caption, const auto& buttons) {
         auto* line = new QHBoxLayout;
@@ -127,7 +127,7 @@ QGroupBox* EntryPanel::layOutTrack()
 {
     using namespace SightField;
     auto* group = new QGroupBox("Dead reckoning");
-    auto* grid = gridOf(group);
+    auto* grid = gridOf(group, Spacing::Dense);
     m_entry.position(DRLatitude)->setBriefEcho();
     m_entry.position(DRLongitude)->setBriefEcho();
     for (std::size_t field = DRLatitude; field <= speed; ++field)
@@ -139,21 +139,22 @@ QGroupBox* EntryPanel::layOutTrack()
 
 void EntryPanel::layOutQuality()
 {
-    auto* line = new QHBoxLayout(m_qualityRow);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(fontMetrics().averageCharWidth() / 2);
+    auto* line = new WrappingRow(m_qualityRow);
+    line->startGroup();
     line->addWidget(new QLabel("How good the lines are:"));
-    line->addStretch(1);
+    line->addStretch();
     for (std::size_t i = 0; i < qualityFields.size(); ++i) {
         auto* caption = new QLabel(qualityFields[i].caption);
         caption->setBuddy(m_quality[i]);
         m_quality[i]->setMinimumWidth(0);
         m_quality[i]->setFixedWidth(m_quality[i]->fontMetrics().horizontalAdvance("00.000"));
+        line->startGroup();
         line->addWidget(caption);
         line->addWidget(m_quality[i]);
         line->addWidget(new QLabel(qualityFields[i].unit));
-        line->addStretch(1);
+        line->addStretch();
     }
+    line->startGroup();
     line->addWidget(m_chkSunMeasured);
 }
 

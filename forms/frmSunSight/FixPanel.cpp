@@ -22,8 +22,7 @@ FixPanel::FixPanel(QWidget* parent)
                                     {"Latitude at the pointer", "Longitude at the pointer"}, this))
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
+    layOutBody(*column, Spacing::Dense);
     column->addWidget(layOutPlot(), 1);
     column->addWidget(layOutFix());
 }
@@ -32,8 +31,7 @@ QWidget* FixPanel::layOutPlot()
 {
     auto* part = new QWidget;
     auto* grid = new QGridLayout(part);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(1);
+    layOutLines(*grid);
     grid->addWidget(m_picSunSight, 0, 0, 1, 4);
     grid->addWidget(new QLabel("At the pointer"), 1, 0);
     grid->addWidget(m_lblSunCursor[0], 1, 1);
@@ -57,7 +55,7 @@ QWidget* FixPanel::layOutPlot()
 QGroupBox* FixPanel::layOutFix()
 {
     auto* group = new QGroupBox("Fix");
-    auto* grid = gridOf(group);
+    auto* grid = gridOf(group, Spacing::Dense);
     auto* position = new QHBoxLayout;
     setRoom(m_lblSunFix[0], "00-.00'0N ");
     setRoom(m_lblSunFix[1], "000-.00'0W");

@@ -31,8 +31,7 @@ LinePanel::LinePanel(QWidget* parent)
                                   this))
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
+    layOutBody(*column, Spacing::Dense);
     column->addWidget(layOutWorksheet());
     column->addWidget(layOutLine());
     column->addStretch(1);
@@ -42,7 +41,7 @@ LinePanel::LinePanel(QWidget* parent)
 QGroupBox* LinePanel::layOutWorksheet()
 {
     auto* group = new QGroupBox("Worksheet");
-    auto* grid = gridOf(group);
+    auto* grid = gridOf(group, Spacing::Dense);
     int row = 0;
     for (ResultLabel* label : m_lblSunTime) {
         makeSentence(label, 1);
@@ -67,7 +66,7 @@ QGroupBox* LinePanel::layOutWorksheet()
 QGroupBox* LinePanel::layOutLine()
 {
     auto* group = new QGroupBox("Line of position");
-    auto* grid = gridOf(group);
+    auto* grid = gridOf(group, Spacing::Dense);
     for (std::size_t i = 0; i < m_lblSunLine.size(); ++i) {
         setRoom(m_lblSunLine[i], "00-.00'0N 000-.00'0W");
         grid->addWidget(new QLabel(lineCaptions[i]), static_cast<int>(i), 0);
@@ -79,7 +78,7 @@ QGroupBox* LinePanel::layOutLine()
 
 void LinePanel::layOutNoon()
 {
-    auto* grid = gridOf(m_noon);
+    auto* grid = gridOf(m_noon, Spacing::Dense);
     makeSentence(m_lblSunNoon[0], 1);
     makeSentence(m_lblSunNoon[1], 1);
     makeSentence(m_lblSunNoon[3], 2);

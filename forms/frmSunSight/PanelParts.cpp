@@ -3,19 +3,10 @@
 
 #include "app/shell/Boxes.h"
 
-#include <QGridLayout>
 #include <QPushButton>
 
 namespace korvel
 {
-
-QGridLayout* gridOf(QGroupBox* group)
-{
-    auto* grid = new QGridLayout(group);
-    grid->setVerticalSpacing(0);
-    grid->setContentsMargins(6, 1, 6, 1);
-    return grid;
-}
 
 ResultLabel* makeResult(const QString& array, int index, const QString& words, QWidget* parent)
 {

@@ -2,21 +2,18 @@
 #pragma once
 
 #include "app/shell/ResultLabel.h"
+#include "app/shell/panels.h"
 
 #include <QGroupBox>
 
 #include <array>
 #include <string>
 
-class QGridLayout;
 class QPushButton;
 
 /// What the panels of the sun sight window are built from.
 namespace korvel
 {
-
-/// The grid of a group, as tight as a screen of 1024 x 768 asks for.
-QGridLayout* gridOf(QGroupBox* group);
 
 /// A result with its name, in words for assistive tools.
 ResultLabel* makeResult(const QString& array, int index, const QString& words, QWidget* parent);

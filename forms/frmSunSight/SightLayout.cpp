@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightLayout.h"
 
+#include "app/shell/panels.h"
 #include "forms/frmSunSight/EntryPanel.h"
 #include "forms/frmSunSight/FixPanel.h"
 #include "forms/frmSunSight/LinePanel.h"
@@ -16,10 +17,9 @@ namespace korvel
 void layOut(const SightPanels& panels, QWidget& content)
 {
     auto* grid = new QGridLayout(&content);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(4);
+    layOutBody(*grid, Spacing::Dense);
     auto* typed = new QVBoxLayout;
-    typed->setSpacing(4);
+    layOutBody(*typed, Spacing::Dense);
     typed->addWidget(&panels.entry);
     typed->addWidget(panels.lines.noon());
     typed->addStretch(1);

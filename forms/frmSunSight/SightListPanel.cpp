@@ -4,9 +4,9 @@
 #include "app/packed_text.h"
 #include "app/shell/asQString.h"
 #include "forms/frmSunSight/PanelParts.h"
+#include "forms/frmSunSight/SightLines.h"
 
 #include <QGridLayout>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
 
@@ -15,46 +15,20 @@ namespace korvel
 namespace
 {
 
-/// A round of sights is seen without scrolling.
-constexpr int linesInSight = 8;
-
-QString lineOf(const RecordedSight& sight, const std::string& line)
+/// What was observed.
+QString sightOf(const RecordedSight& sight)
 {
-    return QString::fromStdString(listLine(sight) + (sight.on ? "" : "  off") +
-                                  (line.empty() ? "" : "  ") + line);
-}
-
-/// Room for the longest line: that of a sight that does not fit is the one to be read.
-int widthOfLines(QListWidget& list)
-{
-    auto* widest = new QListWidgetItem(
-        "0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0  000'.0 T  Zn 000.0  "
-        "does not fit: -00.0 nm",
-        &list);
-    widest->setCheckState(Qt::Checked);
-    const int width = list.sizeHintForColumn(0);
-    list.clear();
-    return width;
+    return asQString(listLine(sight) + (sight.on ? "" : "  off"));
 }
 
 } // namespace
 
 SightListPanel::SightListPanel(QWidget* parent)
-    : QWidget(parent), m_lstSunSight(new QListWidget(this)),
+    : QWidget(parent), m_lstSunSight(new SightLines(this)),
       m_cmdUndo(makeButton("cmdUndo", "&Undo", "Brings back what was deleted last", this))
 {
     m_lstSunSight->setObjectName("lstSunSight");
     m_lstSunSight->setAccessibleName("Recorded sights; the space bar switches one on and off");
-    m_lstSunSight->setTextElideMode(Qt::ElideRight);
-    m_lstSunSight->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_lstSunSight->setUniformItemSizes(true);
-    m_lstSunSight->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    // A line is as high as its tick box.
-    const int line = std::max(m_lstSunSight->fontMetrics().height(),
-                              style()->pixelMetric(QStyle::PM_IndicatorHeight)) +
-                     2;
-    m_lstSunSight->setMinimumWidth(widthOfLines(*m_lstSunSight) + 2 * m_lstSunSight->frameWidth());
-    m_lstSunSight->setMinimumHeight(linesInSight * line + 2 * m_lstSunSight->frameWidth());
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
         emit switched(static_cast<std::size_t>(m_lstSunSight->row(item)),
                       item->checkState() == Qt::Checked);
@@ -68,8 +42,7 @@ SightListPanel::SightListPanel(QWidget* parent)
     connect(m_cmdUndo, &QPushButton::clicked, this, &SightListPanel::undoAsked);
     m_cmdUndo->setEnabled(false);
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setVerticalSpacing(2);
+    layOutBody(*grid, Spacing::Dense);
     auto* caption = new QLabel("Recorded\nsights");
     caption->setBuddy(m_lstSunSight);
     grid->addWidget(m_lstSunSight, 0, 0, 5, 1);
@@ -97,8 +70,10 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
         QListWidgetItem* item = m_lstSunSight->item(row);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
         item->setCheckState(sight.on ? Qt::Checked : Qt::Unchecked);
-        item->setText(lineOf(sight, lines[static_cast<std::size_t>(row)]));
-        item->setToolTip(asQString(inFullForm(item->text().toStdString())));
+        const QString result = asQString(lines[static_cast<std::size_t>(row)]);
+        const QString whole = sightOf(sight) + "  " + result;
+        m_lstSunSight->showSight(row, sightOf(sight), result,
+                                 asQString(inFullForm(whole.trimmed().toStdString())));
     }
     if (count > 0 && m_lstSunSight->currentRow() < 0) m_lstSunSight->setCurrentRow(0);
 }

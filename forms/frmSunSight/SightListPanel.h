@@ -7,11 +7,12 @@
 
 #include <optional>
 
-class QListWidget;
 class QPushButton;
 
 namespace korvel
 {
+
+class SightLines;
 
 /// The recorded sights, a line each, and what can be done with the chosen one.
 class SightListPanel : public QWidget
@@ -35,7 +36,7 @@ signals:
     void undoAsked();
 
 private:
-    QListWidget* m_lstSunSight;
+    SightLines* m_lstSunSight;
     QPushButton* m_cmdUndo;
 };
 

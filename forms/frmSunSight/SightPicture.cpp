@@ -52,6 +52,12 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
     setUserScale(scaleOf({}));
 }
 
+/// As high as it is wide, where the screen has room for that.
+QSize SightPicture::sizeHint() const
+{
+    return {minimumWidth(), minimumWidth() * 5 / 4};
+}
+
 void SightPicture::showPlot(const SightPlot& plot)
 {
     m_plot = plot;
@@ -133,9 +139,8 @@ double SightPicture::unit() const
     return fontMetrics().height() / 4.0;
 }
 
-void SightPicture::resizeEvent(QResizeEvent* event)
+void SightPicture::placeMargins()
 {
-    PictureBox::resizeEvent(event);
     setPlotMargins(marginsFor(size()));
 }
 
@@ -157,7 +162,7 @@ void SightPicture::drawOnPaper(QPainter& painter, const QSize& size)
     const ColourScheme onScreen = std::exchange(m_colours, ColourScheme::day());
     setPlotMargins(marginsFor(size));
     drawOn(painter, size);
-    setPlotMargins(marginsFor(this->size()));
+    placeMargins();
     m_colours = onScreen;
 }
 

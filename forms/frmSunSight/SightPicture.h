@@ -19,6 +19,7 @@ public:
 
     void showPlot(const SightPlot& plot);
     const SightPlot& plot() const { return m_plot; }
+    QSize sizeHint() const override;
     void setColours(const ColourScheme& colours);
     /// Draws the plot at another size in the colours of the day.
     void drawOnPaper(QPainter& painter, const QSize& size);
@@ -35,7 +36,7 @@ protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void draw(QPainter& painter) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void placeMargins() override;
 
 private:
     void paintGrid(QPainter& painter) const;

@@ -2,9 +2,11 @@
 #include "forms/frmTIDE/TideDayPanel.h"
 
 #include "app/shell/Boxes.h"
+#include "app/shell/WrappingRow.h"
+#include "app/shell/panels.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace korvel
 {
@@ -22,12 +24,12 @@ constexpr std::array<Field, 2> questionFields = {{
 TideDayPanel::TideDayPanel(QWidget* parent) : QWidget(parent), m_boxes(questionFields, this)
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    layOutBody(*column);
     column->setSpacing(0);
-    auto* row = new QHBoxLayout;
+    auto* row = new WrappingRow;
+    row->setGap(2 * fontMetrics().height());
     row->addLayout(layOutWaters());
-    row->addSpacing(2 * fontMetrics().height());
-    row->addLayout(layOutQuestions(), 1);
+    row->addLayout(layOutQuestions());
     column->addLayout(row);
     column->addLayout(layOutAnswers());
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
@@ -48,10 +50,10 @@ ResultLabel* TideDayPanel::addLabel(const QString& name, const QString& accessib
 QGridLayout* TideDayPanel::layOutWaters()
 {
     auto* grid = new QGridLayout;
+    layOutLines(*grid);
     grid->setHorizontalSpacing(4 * fontMetrics().averageCharWidth());
-    grid->setVerticalSpacing(0);
-    grid->addWidget(new QLabel("Four constituents, to the minute"), 0, 0);
-    m_allHeading = new QLabel("All constituents (difference)");
+    grid->addWidget(columnHead("Four constituents, to the minute"), 0, 0);
+    m_allHeading = columnHead("All constituents (difference)");
     grid->addWidget(m_allHeading, 0, 1);
     for (std::size_t i = 0; i < rows; ++i) {
         const int index = static_cast<int>(i);
@@ -70,8 +72,7 @@ QGridLayout* TideDayPanel::layOutWaters()
 QGridLayout* TideDayPanel::layOutQuestions()
 {
     auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(0);
-    grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
+    layOutLines(*grid);
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
         const int row = static_cast<int>(i);
         m_captions[i] = new QLabel(questionFields[i].caption);
@@ -98,8 +99,7 @@ QGridLayout* TideDayPanel::layOutAnswers()
     m_lblAnswerAll = {addLabel("lblHeightAtAll", "The same by all constituents"),
                       addLabel("lblTimesOfAll", "The same by all constituents")};
     auto* grid = new QGridLayout;
-    grid->setVerticalSpacing(0);
-    grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
+    layOutLines(*grid);
     grid->addWidget(m_lblRange, 0, 0, 1, 3);
     grid->addWidget(m_lblNow, 1, 0, 1, 3);
     m_answerHeading = new QLabel("Height then");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideFoot.h"
 
+#include "app/shell/panels.h"
 #include "forms/frmTIDE/NoteLabel.h"
 
 #include <QVBoxLayout>
@@ -15,8 +16,7 @@ TideFoot::TideFoot(QWidget* parent)
       m_progress(new QProgressBar(this))
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(fontMetrics().height() / 4);
+    layOutBody(*column, Spacing::Dense);
     for (QLabel* label : {m_lblStation, m_lblAccuracy, m_lblSource, m_lblInUse})
         column->addWidget(label);
     m_lblAccuracy->hide();

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideHead.h"
 
+#include "app/shell/WrappingRow.h"
+#include "app/shell/panels.h"
 #include "forms/frmTIDE/NoteLabel.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -13,8 +14,7 @@ namespace korvel
 TideHead::TideHead(QWidget* parent) : QWidget(parent)
 {
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(fontMetrics().height() / 4);
+    layOutBody(*column, Spacing::Dense);
     column->addWidget(headLine());
     column->addWidget(figuresLine());
     m_lblRemark = addNoteLabel(this, "lblRemark");
@@ -67,14 +67,16 @@ QWidget* TideHead::headLine()
     find->setBuddy(m_txtFind);
 
     auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addWidget(m_lblPlace);
-    row->addWidget(m_lblDate);
-    row->addWidget(cmdToday);
-    row->addStretch(1);
+    auto* row = new WrappingRow(line);
+    row->startGroup();
+    for (QWidget* each : {static_cast<QWidget*>(m_lblPlace), static_cast<QWidget*>(m_lblDate),
+                          static_cast<QWidget*>(cmdToday)})
+        row->addWidget(each);
+    row->addStretch();
+    row->startGroup();
     row->addWidget(find);
     row->addWidget(m_txtFind);
+    row->startGroup();
     row->addWidget(new QLabel("Zone time"));
     row->addWidget(m_lblTD);
     return line;
@@ -88,11 +90,12 @@ QWidget* TideHead::figuresLine()
                         addLabel("lblCuDirection(1)", "Direction of the ebb stream")};
 
     auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* row = new WrappingRow(line);
+    row->startGroup();
     row->addWidget(new QLabel("Highest, lowest"));
     row->addWidget(m_lblTideInfo);
-    row->addStretch(1);
+    row->addStretch();
+    row->startGroup();
     row->addWidget(m_lblCuDirection[0]);
     row->addWidget(m_lblCuDirection[1]);
     return line;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideSheet.h"
 
+#include "app/shell/panels.h"
+
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -9,8 +11,9 @@ namespace korvel
 {
 
 TideSheet::TideSheet(Program& program, QWidget* parent)
-    : QWidget(parent), m_head(new TideHead(this)), m_picTIDE(new frmTIDEPicture(program, this)),
-      m_scrDate(new DateScrollBar(this)), m_day(new TideDayPanel(this)), m_foot(new TideFoot(this))
+    : ScrolledBody(parent), m_head(new TideHead(this)),
+      m_picTIDE(new frmTIDEPicture(program, this)), m_scrDate(new DateScrollBar(this)),
+      m_day(new TideDayPanel(this)), m_foot(new TideFoot(this))
 {
     m_scrDate->setObjectName("scrDate");
     m_scrDate->setAccessibleName("Date, a step is a day");
@@ -24,8 +27,7 @@ TideSheet::TideSheet(Program& program, QWidget* parent)
     row->addWidget(m_picTIDE, 1);
     row->addWidget(m_scrDate);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(fontMetrics().height() / 4);
+    layOutBody(*column, Spacing::Dense);
     column->addWidget(m_head);
     column->addLayout(row, 1);
     column->addWidget(m_day);

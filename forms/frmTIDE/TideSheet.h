@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/shell/FollowingScrollArea.h"
 #include "forms/frmTIDE/TideDayPanel.h"
 #include "forms/frmTIDE/TideFoot.h"
 #include "forms/frmTIDE/TideHead.h"
 #include "forms/frmTIDE/frmTIDEPicture.h"
-
-#include <QWidget>
 
 #include <cstdint>
 #include <functional>
@@ -15,7 +14,7 @@ namespace korvel
 {
 
 /// Everything that the tide window shows, from place and date down to the factors file in use.
-class TideSheet : public QWidget
+class TideSheet : public ScrolledBody
 {
 public:
     TideSheet(Program& program, QWidget* parent);

@@ -7,8 +7,6 @@
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
 
-#include <QVBoxLayout>
-
 #include <cmath>
 #include <cstdint>
 #include <functional>
@@ -64,9 +62,7 @@ void frmTIDE::addControls()
         setNotice(key, QString::fromStdString(notice));
     };
     m_sheet->showDates(m_dates, program().files().path(factorsFileName));
-    auto* column = new QVBoxLayout(scrollBody());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(m_sheet);
+    setScrollArea(new FollowingScrollArea(m_sheet));
 }
 
 TideActions frmTIDE::actions()

@@ -33,10 +33,6 @@ frmTIDEPicture::frmTIDEPicture(Program& program, QWidget* parent)
     m_lblReading->setMargin(fontMetrics().descent());
     m_lblReading->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_lblReading->hide();
-
-    const int space = fontMetrics().horizontalAdvance(' ');
-    setPlotMargins({fontMetrics().horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space,
-                    fontMetrics().height()});
     connect(this, &PictureBox::pointed, this, [this](QPointF user) { readAt(user.x()); });
     connect(this, &PictureBox::left, this, [this] { readAt(std::nullopt); });
 }
@@ -152,9 +148,11 @@ QSize frmTIDEPicture::minimumSizeHint() const
     return {fontMetrics().horizontalAdvance('0') * 40, fontMetrics().lineSpacing() * 6};
 }
 
-void frmTIDEPicture::resizeEvent(QResizeEvent* event)
+void frmTIDEPicture::placeMargins()
 {
-    PictureBox::resizeEvent(event);
+    const int space = fontMetrics().horizontalAdvance(' ');
+    setPlotMargins({fontMetrics().horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space,
+                    fontMetrics().height()});
     placeLabels();
     placeReading();
 }

@@ -39,7 +39,7 @@ public:
 
 protected:
     void draw(QPainter& painter) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void placeMargins() override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

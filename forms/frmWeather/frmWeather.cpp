@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWeather/frmWeather.h"
 
+#include "app/shell/CellLayout.h"
+#include "app/shell/panels.h"
 #include "forms/frmWeather/CalculateWeather.h"
 #include "forms/frmWeather/WeatherFields.h"
 #include "forms/frmWeather/WeatherWorking.h"
@@ -38,6 +40,7 @@ frmWeather::frmWeather(Program& program)
     m_lblWr->setAccessibleName("Weather");
 
     auto* column = new QVBoxLayout(scrollBody());
+    layOutBody(*column);
     column->addWidget(layOutTerms());
     column->addWidget(layOutLetters());
     column->addStretch();
@@ -50,7 +53,7 @@ frmWeather::frmWeather(Program& program)
 QGroupBox* frmWeather::layOutTerms()
 {
     auto* group = new QGroupBox("Sea, swell and visibility");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     const std::array<ResultLabel*, WeatherFields.size()> terms = {m_lblWave, m_lblSWELL,
                                                                   m_lblVISIBILITY};
     for (std::size_t i = 0; i < terms.size(); ++i) {
@@ -77,9 +80,10 @@ QGroupBox* frmWeather::layOutLetters()
 {
     constexpr int columns = 4;
     auto* group = new QGroupBox("Weather letter");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
+    auto* cells = new CellLayout(nullptr, columns, Qt::Vertical);
+    grid->addLayout(cells, 0, 0);
     const auto letters = NavFunc113::WeatherLetters();
-    const int rows = (static_cast<int>(letters.size()) + columns - 1) / columns;
     for (int index = 0; index < static_cast<int>(letters.size()); ++index) {
         const auto& each = letters[static_cast<std::size_t>(index)];
         auto* option = new QRadioButton(textOfTerm(each.letter) + "   " + textOfTerm(each.english));
@@ -92,10 +96,10 @@ QGroupBox* frmWeather::layOutLetters()
                 m_lblWr->setText(
                     QString::fromStdString(CalculateWeatherTerm(static_cast<std::size_t>(index))));
         });
-        grid->addWidget(option, index % rows, index / rows);
+        cells->addCell({option});
     }
     m_lblWr->setAccessibleName("Weather");
-    grid->addWidget(m_lblWr, rows, 0, 1, columns);
+    grid->addWidget(m_lblWr, 1, 0);
     return group;
 }
 

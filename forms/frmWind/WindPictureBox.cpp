@@ -51,7 +51,7 @@ void WindPictureBox::setPointerText(QPointF user, const QString& text)
     update();
 }
 
-void WindPictureBox::resizeEvent(QResizeEvent*)
+void WindPictureBox::placeMargins()
 {
     // A knot is as long to the right as ahead: the plot is square, the legend stands above it.
     const int top = static_cast<int>(1.5 * lineHeight());

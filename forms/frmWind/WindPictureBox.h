@@ -28,7 +28,7 @@ public:
 
 protected:
     void draw(QPainter& painter) override;
-    void resizeEvent(QResizeEvent* event) override;
+    void placeMargins() override;
 
 private:
     void PictureHyouji(QPainter& painter) const;

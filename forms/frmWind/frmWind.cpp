@@ -2,6 +2,7 @@
 #include "forms/frmWind/frmWind.h"
 
 #include "app/reading.h"
+#include "app/shell/panels.h"
 #include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"
 #include "forms/frmWind/WindWorking.h"
@@ -24,7 +25,7 @@ frmWind::frmWind(Program& program)
     addOptions();
 
     auto* columns = new QHBoxLayout(scrollBody());
-    columns->setContentsMargins(0, 0, 0, 0);
+    layOutBody(*columns);
     auto* left = new QVBoxLayout;
     left->addWidget(layOutInputs());
     left->addWidget(layOutResults());
@@ -59,7 +60,7 @@ void frmWind::addOptions()
 QGroupBox* frmWind::layOutInputs()
 {
     auto* group = new QGroupBox("Ship and apparent wind");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     for (std::size_t i = 0; i < m_txtWind.size(); ++i)
         m_txtWind.addRow(grid, static_cast<int>(i), i);
     return group;
@@ -68,7 +69,7 @@ QGroupBox* frmWind::layOutInputs()
 QGroupBox* frmWind::layOutResults()
 {
     auto* group = new QGroupBox("True wind");
-    auto* grid = new QGridLayout(group);
+    auto* grid = gridOf(group);
     m_lblWind[0]->setAccessibleName("True wind from");
     m_lblWind[1]->setAccessibleName("Force of the true wind");
     grid->addWidget(new QLabel("From"), 0, 0);
