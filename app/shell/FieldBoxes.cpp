@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/FieldBoxes.h"
 
+#include "app/Format.h"
 #include "app/KORVEL2000Actions.h"
 #include "app/reading.h"
 
 #include <QGridLayout>
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -52,6 +55,18 @@ QString limitsInWords(const Field& field)
     const QString high = QString::number(field.high, 'g', 10);
     if (std::isinf(field.low)) return std::isinf(field.high) ? QString() : "to " + high;
     return std::isinf(field.high) ? "from " + low : low + " to " + high;
+}
+
+/// A date, a time of day or both as they were read; empty when they could not be.
+std::string momentInFull(const std::string& typed)
+{
+    const auto moment = readDateTime(typed);
+    if (!moment) return {};
+    const auto colons = std::ranges::count(asciiForms(typed), ':');
+    const std::string time = colons == 0 ? "" : colons == 1 ? "hh:mm" : "hh:mm:ss";
+    const bool hasDate = *moment >= 1; // a time alone belongs to day 0
+    if (!hasDate) return Format(*moment, time);
+    return Format(*moment, "yyyy-mm-dd" + (time.empty() ? time : ' ' + time));
 }
 
 } // namespace
@@ -126,8 +141,10 @@ PaperFigure FieldBoxes::paperFigure(std::size_t field) const
     case FieldKind::Number:
         if (const auto number = readLeadingNumber(typed)) figure.value = memoText(*number);
         break;
-    case FieldKind::Text:
     case FieldKind::Moment:
+        figure.value = momentInFull(typed);
+        break;
+    case FieldKind::Text:
         break;
     }
     if (typed.empty())

@@ -96,25 +96,24 @@ void openBareText(const QString& example, bool whole, const Rounds& round)
 
 } // namespace
 
-/// Every example of the manual, and the long papers of the tests.
+/// Windows of each kind, and the long papers of the tests, these also until their end.
 int main(int argc, char* argv[])
 {
     std::vector<std::pair<std::string, Work>> works;
-    const std::pair<const char*, const char*> folders[] = {{"/docs/manual/examples", ""},
-                                                           {"/tests/papers", " long"}};
-    for (const auto& [folder, mark] : folders)
-        for (const QFileInfo& each : QDir(source + folder).entryInfoList({"*.example"})) {
-            const QString path = each.filePath();
-            for (const bool whole : {false, true}) {
-                const std::string name = (whole ? "/paper whole/" : "/paper open/") +
-                                         each.baseName().toStdString() + mark;
-                works.emplace_back("ours" + name, [path, whole](const Rounds& round) {
-                    openPaper(path, whole, round);
-                });
-                works.emplace_back("peer" + name, [path, whole](const Rounds& round) {
-                    openBareText(path, whole, round);
-                });
-            }
-        }
+    const auto add = [&](const char* what, const QFileInfo& example, const char* mark, bool whole) {
+        const QString path = example.filePath();
+        const std::string name = what + example.baseName().toStdString() + mark;
+        works.emplace_back("ours/" + name,
+                           [=](const Rounds& round) { openPaper(path, whole, round); });
+        works.emplace_back("peer/" + name,
+                           [=](const Rounds& round) { openBareText(path, whole, round); });
+    };
+    for (const char* window : {"frmCDDR", "frmETA", "frmSunMoon", "frmWind"})
+        add("paper open/", QFileInfo(source + "/docs/manual/examples/" + window + ".example"), "",
+            false);
+    for (const QFileInfo& each : QDir(source + "/tests/papers").entryInfoList({"*.example"})) {
+        add("paper open/", each, " long", false);
+        add("paper whole/", each, " long", true);
+    }
     return runUiBench(argc, argv, works);
 }
