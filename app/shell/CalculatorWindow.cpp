@@ -250,9 +250,10 @@ void CalculatorWindow::showEvent(QShowEvent* event)
 void CalculatorWindow::fit()
 {
     const QSize room = roomOnScreen(*this);
+    const QSize menus(menuBar()->sizeHint().width(), 0); // all of them in sight
     if (!m_scrollArea) {
         settleLayouts(*this);
-        resize(sizeHint().boundedTo(room));
+        resize(sizeHint().expandedTo(menus).boundedTo(room));
         return;
     }
     m_scrollArea->foldByHand(true);
@@ -263,7 +264,7 @@ void CalculatorWindow::fit()
     const QSize wanted = m_scrollArea->sizeFor(room.width() - around.width()) + around;
     settleLayouts(*this);
     m_scrollArea->foldByHand(false);
-    resize(wanted.boundedTo(room));
+    resize(wanted.expandedTo(menus).boundedTo(room));
 }
 
 void CalculatorWindow::zoom()
