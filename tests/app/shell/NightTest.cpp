@@ -310,5 +310,23 @@ TEST_F(NightTest, linesOfPicturesStandOffTheirGround)
     }
 }
 
+/// A sheet that stays white by night until something else paints it.
+TEST_F(NightTest, aSheetOfPaperFollowsAtOnce)
+{
+    struct Paints : QObject {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            seen += event->type() == QEvent::Paint;
+            return false;
+        }
+        int seen = 0;
+    } paints;
+    choose(window("frmWind"), "mnuPaper(0)");
+    QTest::qWait(20); // until all of it is written
+    onScreen("frmPaper").findChild<QTextEdit*>()->viewport()->installEventFilter(&paints);
+    show(looksOfAll[1], onScreen("frmPaper"));
+    EXPECT_GT(paints.seen, 0);
+}
+
 } // namespace
 } // namespace korvel
