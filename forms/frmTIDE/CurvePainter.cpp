@@ -94,7 +94,11 @@ void CurvePainter::drawAllConstituents(const NavFunc113::TideValues& values) con
     m_painter.setPen(QPen(m_colours.marker, 1));
     m_painter.drawPolyline(curve);
     const QRectF corner = m_place.plot.adjusted(0, 0, -m_painter.fontMetrics().height() / 2.0, 0);
-    m_painter.drawText(corner, Qt::AlignRight | Qt::AlignTop, "thin: all constituents");
+    const QString legend = "thin: all constituents";
+    const int place = Qt::AlignRight | Qt::AlignTop;
+    // No line of the grid goes through it.
+    m_painter.fillRect(m_painter.boundingRect(corner, place, legend), m_colours.paper);
+    m_painter.drawText(corner, place, legend);
     m_painter.restore();
 }
 
