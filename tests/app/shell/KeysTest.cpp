@@ -233,8 +233,10 @@ TEST_F(KeysTest, whatTakesTheMouseAndWhatShowsAResultTakesTabAndIsCopied)
 {
     for (QWidget* window : openAll()) {
         for (QWidget* each : window->findChildren<QWidget*>()) {
+            // Of the toolkit's own parts the arrow of a menu bar that is cut short has no keys.
+            const QString name = each->objectName();
             if (each->window() != window || !each->isVisible() || !each->isEnabled() ||
-                each->objectName().startsWith("qt_"))
+                (name.startsWith("qt_") && name != "qt_menubar_ext_button"))
                 continue;
             const bool isControl =
                 qobject_cast<QAbstractButton*>(each) || qobject_cast<QLineEdit*>(each) ||
