@@ -7,6 +7,7 @@
 #include <QValidator>
 
 #include <algorithm>
+#include <utility>
 
 namespace korvel
 {
@@ -55,6 +56,12 @@ EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
     setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
     setMaxLength(longestFigure);
     setValidator(new WithoutControls(this));
+    // What is too long for the box shows its beginning: 142 degrees are not to be read as 42.
+    // Never under a hand that types, whether the window is the active one or not.
+    connect(this, &QLineEdit::textEdited, this, [this] { m_isEdited = true; });
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!std::exchange(m_isEdited, false) && !hasFocus()) setCursorPosition(0);
+    });
 }
 
 void EntryBox::focusInEvent(QFocusEvent* event)
@@ -72,9 +79,10 @@ void EntryBox::focusOutEvent(QFocusEvent* event)
     QLineEdit::focusOutEvent(event);
     m_interrupted =
         event->reason() == Qt::ActiveWindowFocusReason && QApplication::activeModalWidget();
-    if (onLeave && event->reason() != Qt::PopupFocusReason &&
-        event->reason() != Qt::ActiveWindowFocusReason)
-        onLeave();
+    const bool leaves =
+        event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (leaves) setCursorPosition(0);
+    if (leaves && onLeave) onLeave();
 }
 
 void EntryBox::mousePressEvent(QMouseEvent* event)

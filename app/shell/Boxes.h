@@ -57,6 +57,7 @@ protected:
 private:
     EntryBox* m_next = nullptr;
     QString m_limits;
+    bool m_isEdited = false; ///< the text is being changed by hand
     bool m_focusedByMouse = false;
     bool m_interrupted = false; ///< a question or an alarm took the focus while somebody typed
 };

@@ -190,11 +190,15 @@ void CalculatorWindow::addStrip(QWidget* content)
 void CalculatorWindow::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
+    placeStrip();
+}
+
+void CalculatorWindow::placeStrip()
+{
     if (!m_strip) return;
     constexpr int part = 3;
-    const int wanted =
-        m_strip->widget()->heightForWidth(centralWidget()->layout()->contentsRect().width());
-    m_strip->setFixedHeight(std::min(wanted, height() / part));
+    const int room = centralWidget()->layout()->contentsRect().width();
+    m_strip->setFixedHeight(std::min(m_strip->widget()->heightForWidth(room), height() / part));
 }
 
 void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
@@ -265,6 +269,7 @@ void CalculatorWindow::fit()
     settleLayouts(*this);
     m_scrollArea->foldByHand(false);
     resize(wanted.expandedTo(menus).boundedTo(room));
+    placeStrip();
 }
 
 void CalculatorWindow::zoom()

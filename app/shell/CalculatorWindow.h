@@ -132,6 +132,7 @@ private:
     void openPaper();
     void sayForAWhile(const QString& said);
     void fit();
+    void placeStrip();
     void zoom();
 
     Program& m_program;

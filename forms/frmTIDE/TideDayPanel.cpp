@@ -100,6 +100,7 @@ QGridLayout* TideDayPanel::layOutAnswers()
                       addLabel("lblTimesOfAll", "The same by all constituents")};
     auto* grid = new QGridLayout;
     layOutLines(*grid);
+    grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
     grid->addWidget(m_lblRange, 0, 0, 1, 3);
     grid->addWidget(m_lblNow, 1, 0, 1, 3);
     m_answerHeading = new QLabel("Height then");
