@@ -23,6 +23,7 @@ struct Piece {
     PaperSlice room;
     bool staysWithNext = false;
     PaperSlice heading = {}; ///< of the table that it is a row of
+    bool isRow = false;
 };
 
 bool isRule(const QTextBlock& block)
@@ -74,8 +75,18 @@ PaperSlice textsOfRow(const QTextTable& table, int row)
     return room;
 }
 
+/// A title and what is said below it stay with the table that is meant.
+void keepWithTable(std::vector<Piece>& pieces)
+{
+    for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece) {
+        if (piece->isRow || piece->staysWithNext) return;
+        piece->staysWithNext = true;
+    }
+}
+
 void addRows(std::vector<Piece>& pieces, QTextTable& table)
 {
+    keepWithTable(pieces);
     const PaperSlice all = slice(table.document()->documentLayout()->frameBoundingRect(&table));
     const int headings = table.format().headerRowCount();
     PaperSlice heading{all.top, all.top};
@@ -89,7 +100,7 @@ void addRows(std::vector<Piece>& pieces, QTextTable& table)
         const bool isHeading = row < headings;
         // One row alone, at the foot of a page or at the head of the next, is soon overlooked.
         const bool isKept = !isLast && (row <= headings || row + 2 == table.rows());
-        pieces.push_back({{top, bottom}, isKept, isHeading ? PaperSlice() : heading});
+        pieces.push_back({{top, bottom}, isKept, isHeading ? PaperSlice() : heading, true});
         if (isHeading) heading.bottom = bottom;
         top = bottom;
     }

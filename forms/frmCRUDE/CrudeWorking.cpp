@@ -172,17 +172,18 @@ Working cargoWorking(const CrudeInput& input, const CrudeResult& result)
     return working;
 }
 
-std::vector<PaperFigure> cargoFigures(const CrudeResult& result)
+std::vector<PaperFigure> cargoFigures(const CrudeInput& input, const CrudeResult& result)
 {
     const std::string& volume = result.standardMethod;
+    const std::string observed = volumeUnitText(input);
     const PaperFigure all[] = {
         {"Density at 15 °C", result.density15, "kg/m³"},
         {"API at 60 °F", result.api60, "°API"},
         {"VCF", result.vcf, result.vcfMethod},
         {"Range", result.rangeFlag},
-        {"Total observed", result.totalObserved},
-        {"Free water", result.freeWater},
-        {"Gross observed", result.grossObserved},
+        {"Total observed", result.totalObserved, observed},
+        {"Free water", result.freeWater, observed},
+        {"Gross observed", result.grossObserved, observed},
         {"Gross standard", result.grossStandard, volume},
         {"Net standard", result.netStandard, volume},
         {"Barrels", result.barrels, result.barrelsMethod},

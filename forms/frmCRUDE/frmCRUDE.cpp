@@ -255,7 +255,7 @@ WorkingPaper frmCRUDE::paper() const
             {choice->accessibleName().toStdString(), choice->currentText().toStdString()});
     if (m_chkObserved->isChecked())
         paper.inputs.push_back({"Density", "observed, reduced to the reference temperature"});
-    paper.results = cargoFigures(m_shown);
+    paper.results = cargoFigures(input(), m_shown);
     paper.workings = {cargoWorking(input(), m_shown)};
     paper.limits = {"The factor is used as it is shown, so that a pocket calculator comes to the "
                     "same volume",

@@ -91,6 +91,12 @@ TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
         for (const QStringList& page : pages) {
             for (const QRegularExpression& title : titles)
                 EXPECT_FALSE(title.match(page.back()).hasMatch()) << page.back().toStdString();
+            if (const auto at = page.lastIndexOf(QRegularExpression("^Working: ")); at >= 0) {
+                const auto holds = [&](const QRegularExpression& heading) {
+                    return page.indexOf(heading, at + 1) >= 0;
+                };
+                EXPECT_TRUE(std::ranges::any_of(titles, holds)) << page[at].toStdString();
+            }
             // Steps go on with a number: the rest of one that was cut would stand further in.
             if (page.front().contains("Formula")) {
                 EXPECT_THAT(page[1].toStdString(), ::testing::ContainsRegex("^ ?[0-9]+\\. "));
