@@ -10,7 +10,7 @@
 #include <QRegularExpression>
 #include <QTextEdit>
 
-// The pages of papers that are long (tests/papers), as a reader gets them out of their PDF.
+// The pages of papers, long ones too (tests/papers), as a reader gets them out of their PDF.
 
 namespace korvel
 {
@@ -64,11 +64,13 @@ void expectWhole(const PaperTable& table, const QList<QStringList>& pages)
 
 TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
 {
-    const QDir folder(QString::fromStdString(sourceFile("tests/papers")));
+    QFileInfoList examples;
+    for (const char* folder : {"tests/papers", "docs/manual/examples"})
+        examples += QDir(QString::fromStdString(sourceFile(folder))).entryInfoList({"*.example"});
     int tables = 0;
-    for (const QString& each : folder.entryList({"*.example"})) {
-        SCOPED_TRACE(each.toStdString());
-        const WorkedExample example(contentOf(folder.filePath(each).toStdString()),
+    for (const QFileInfo& each : examples) {
+        SCOPED_TRACE(each.filePath().toStdString());
+        const WorkedExample example(contentOf(each.filePath().toStdString()),
                                     QString::fromStdString(sourceFile("data")));
         PaperWindow& paper = example.openPaper();
         const auto& text = *paper.findChild<QTextEdit*>();
@@ -76,7 +78,7 @@ TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
             << "the end does not come after the beginning";
         const PaperDocument& document = paper.paper();
         const QList<QStringList> pages = pagesOfPDF(document.PDF());
-        ASSERT_GE(pages.size(), 4);
+        ASSERT_FALSE(pages.isEmpty());
 
         std::vector<PaperTable> all = document.paper().tables;
         std::vector<QRegularExpression> titles = {lineOf({"Step Formula Figures Value"})};
@@ -91,7 +93,7 @@ TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
         for (const QStringList& page : pages) {
             for (const QRegularExpression& title : titles)
                 EXPECT_FALSE(title.match(page.back()).hasMatch()) << page.back().toStdString();
-            if (const auto at = page.lastIndexOf(QRegularExpression("^Working: ")); at >= 0) {
+            if (const auto at = page.lastIndexOf(QRegularExpression("Working: .*")); at >= 0) {
                 const auto holds = [&](const QRegularExpression& heading) {
                     return page.indexOf(heading, at + 1) >= 0;
                 };
@@ -106,7 +108,7 @@ TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
         EXPECT_GE(pages.back().size(), 2);
         tables += static_cast<int>(all.size());
     }
-    EXPECT_GE(tables, 12);
+    EXPECT_GE(tables, 30);
 }
 
 } // namespace
