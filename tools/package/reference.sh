@@ -36,7 +36,7 @@ saved_paper() {
 # seconds that a typed minute lacks.
 kept_offset() {
     local seconds
-    seconds=$(cat "$1/KV_Clock.ini")
+    seconds=$(tr -dc '0-9-' <"$1/KV_Clock.ini")
     [ "${seconds:-0}" -gt 7100 ] && [ "$seconds" -le 7200 ] || fail "the offset kept is $seconds seconds"
     say "The program was refused the clock, said so and keeps the ship's time itself"
 }
