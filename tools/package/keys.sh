@@ -6,7 +6,8 @@ start_program() {
     picture=$1
     shift
     log=$(mktemp)
-    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$log" 2>/dev/null &
+    # Without the last word it starts anew, and drops who is just coming, when the last client goes.
+    Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset 3>"$log" 2>/dev/null &
     server=$!
     trap 'kill $server 2>/dev/null; rm -f "$log"' EXIT
     for _ in $(seq 100); do [ -s "$log" ] && break; sleep 0.1; done
