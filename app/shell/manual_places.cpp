@@ -24,7 +24,7 @@ bool bearsName(const QString& words, const QString& name)
 {
     for (const QString& each : words.split(" / ")) {
         if (each.compare(name, Qt::CaseInsensitive) == 0) return true;
-        if (!each.contains(QChar(u'…'))) continue;
+        if (!each.contains(QChar(u'…')) || each.size() == 1) continue; // any name is no name
         QStringList parts = each.split(QChar(u'…'));
         for (QString& part : parts)
             part = QRegularExpression::escape(part);

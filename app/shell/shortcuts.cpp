@@ -33,9 +33,10 @@ const std::array tableOfKeys = {
              [](Program& program, QWidget&) { program.actions().ExitApplication(); }},
 };
 
-QAction* makeAction(const Shortcut& shortcut, Program& program, QWidget& window)
+/// @param owner the menu that shows it, by which the manual knows it, or the window
+QAction* makeAction(const Shortcut& shortcut, Program& program, QWidget& window, QObject& owner)
 {
-    auto* action = new QAction(shortcut.caption, &window);
+    auto* action = new QAction(shortcut.caption, &owner);
     action->setObjectName(shortcut.name);
     action->setShortcuts(QKeySequence::listFromString(shortcut.keys));
     QObject::connect(action, &QAction::triggered, &window,
@@ -58,14 +59,15 @@ void addShortcuts(QMenu& menu, Program& program, QWidget& window, bool isMain)
             menu.addSeparator()->setObjectName(each.name);
             continue;
         }
-        menu.addAction(makeAction(each, program, window));
+        menu.addAction(makeAction(each, program, window, menu));
     }
 }
 
 void addKeys(QWidget& window, Program& program)
 {
     for (const Shortcut& each : shortcuts())
-        if (each.caption && !each.notInMain) window.addAction(makeAction(each, program, window));
+        if (each.caption && !each.notInMain)
+            window.addAction(makeAction(each, program, window, window));
     int key = 0;
     for (const WindowLink& link : program.links) {
         auto* opens = new QAction(link.caption, &window);

@@ -154,10 +154,15 @@ TEST_F(KeysTest, eachKeyDoesTheSameInEveryWindow)
         EXPECT_LT(zoomAfter(Qt::Key_Minus), 110) << where;
         EXPECT_LT(zoomAfter(Qt::Key_Minus), 100) << where;
         EXPECT_EQ(zoomAfter(Qt::Key_0), 100) << where;
-        for (const bool isNight : {true, false}) {
-            press(*each, Qt::Key_F8);
+        const int step = screen.choices().dimStep;
+        for (const auto& [modifiers, isNight] : {std::pair(Qt::ShiftModifier, true),
+                                                 {Qt::NoModifier, false},
+                                                 {Qt::NoModifier, true}}) {
+            press(*each, Qt::Key_F8, modifiers);
             EXPECT_EQ(main.program().saved().nightColours(), isNight) << where;
+            EXPECT_EQ(screen.choices().dimStep, step) << where;
         }
+        press(*each, Qt::Key_F8);
         questions.willAnswer(Answer::No);
         const auto asked = questions.asked.size();
         press(*each, Qt::Key_Q, Qt::ControlModifier);

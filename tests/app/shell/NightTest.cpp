@@ -234,6 +234,7 @@ TEST_F(NightTest, everyDialogToo)
 
 TEST_F(NightTest, whateverElseComesUp)
 {
+    QToolTip::setPalette(QPalette(Qt::black, Qt::white)); // as a desktop gives it
     QWidget& weather = window("frmWeather");
     QWidget& oil = window("frmCRUDE");
     for (const Look& look : looksOfAll) {

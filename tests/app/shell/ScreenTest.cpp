@@ -172,5 +172,17 @@ TEST_F(ScreenTest, windowsStandWhereTheyWere)
     next.endSession();
 }
 
+TEST_F(ScreenTest, windowsStayClosedAsLongAsNobodyTickedIt)
+{
+    window("frmWind");
+    main.endSession();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    questions.willType(FakeQuestions::acceptDefault);
+    frmKORVEL2000 next({questions, clock, files, bell}, calculatorWindows());
+    next.start();
+    EXPECT_EQ(shown("frmWind"), nullptr);
+    next.endSession();
+}
+
 } // namespace
 } // namespace korvel
