@@ -124,8 +124,6 @@ TEST_F(ScreenTest, everyWindowComesBackFromEveryZoomAsItWas)
         before[each] = layoutOf(*each);
     }
     EXPECT_EQ(before.size(), 16u);
-    EXPECT_LE(main.width(), 480);
-    EXPECT_LE(main.height(), 170);
     for (int zoom : {200, 80, 100})
         zoomTo(zoom);
     for (const auto& [window, layout] : before)
@@ -137,6 +135,20 @@ TEST_F(ScreenTest, everyWindowComesBackFromEveryZoomAsItWas)
     QTest::qWait(20);
     for (const auto& [window, layout] : before)
         expectSame(layout, *window);
+}
+
+TEST_F(ScreenTest, theMainWindowIsSmallWithARemarkAndWithout)
+{
+    const QSize before = main.size();
+    for (const double zone : {9.0, 0.0, 9.0}) { // the clock is to keep JST
+        clock.zone = zone;
+        main.tmrClock_Timer();
+        QTest::qWait(20);
+        EXPECT_EQ(main.size() == before, zone == 9);
+        EXPECT_LE(main.width(), 480);
+        EXPECT_LE(main.height(), 170);
+        expectTextsFit(main, 100);
+    }
 }
 
 TEST_F(ScreenTest, windowsStandWhereTheyWere)
