@@ -201,7 +201,8 @@ void WrappingRow::place(const Line& line, QPoint at, int width)
         if (!std::exchange(isFirst, false) && size.width() > 0)
             thirds += m_parts[i].staysClose ? 1 : whole;
         if (mayBeWider(item)) {
-            const int more = std::min(left / wider--, item.maximumSize().width() - size.width());
+            const int more =
+                std::min(left / std::max(1, wider--), item.maximumSize().width() - size.width());
             left -= more;
             size.rwidth() += more;
         }

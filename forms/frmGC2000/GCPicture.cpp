@@ -15,6 +15,8 @@ namespace
 
 constexpr double thin = 0.06; // widths of lines in heights of a line of text
 constexpr double thick = 0.14;
+constexpr double rhumbDashes[] = {5, 3}; // dash and gap in widths of the line
+constexpr double longestPiece = 100000;  // pixels
 
 /// Every how many labels one is drawn, so that none touches its neighbour.
 std::size_t labelStride(const std::vector<double>& places, double room)
@@ -22,6 +24,30 @@ std::size_t labelStride(const std::vector<double>& places, double room)
     if (places.size() < 2) return 1;
     const double apart = std::fabs(places[1] - places[0]);
     return apart > 0 ? static_cast<std::size_t>(std::ceil(room / apart)) : 1;
+}
+
+/// The dashes of a line of many pieces. The toolkit begins anew at every piece, which makes a solid
+/// line of pieces that are shorter than a dash.
+QList<QLineF> dashed(const QList<QLineF>& pieces, double dash, double gap)
+{
+    QList<QLineF> dashes;
+    double at = 0; // since the last dash began
+    for (const QLineF& piece : pieces) {
+        const double length = piece.length();
+        if (!(length < longestPiece)) continue; // no chart has it
+        for (double from = 0; from < length;) {
+            const bool isDash = at < dash;
+            const double step = std::min(length - from, (isDash ? dash : dash + gap) - at);
+            if (isDash)
+                dashes << QLineF(piece.pointAt(from / length),
+                                 piece.pointAt((from + step) / length));
+            from += step;
+            at += step;
+            if (at >= dash + gap) at = 0;
+            if (step <= 0) break; // nothing is left but what rounding leaves
+        }
+    }
+    return dashes;
 }
 
 } // namespace
@@ -105,7 +131,7 @@ QPen GCPicture::rhumbPen() const
 {
     QPen dashed = pen(colours().secondary, 0.12);
     dashed.setCapStyle(Qt::FlatCap);
-    dashed.setDashPattern({5, 3});
+    dashed.setDashPattern({rhumbDashes[0], rhumbDashes[1]});
     return dashed;
 }
 
@@ -132,16 +158,19 @@ void GCPicture::drawGrid(QPainter& painter) const
 void GCPicture::drawLines(QPainter& painter) const
 {
     // Line by line, without joins: a path of joined lines takes the painter ten times as long.
-    const auto drawLeg = [&](const std::vector<ChartPoint>& points) {
+    const auto legs = [&](const std::vector<ChartPoint>& points) {
         QList<QLineF> lines;
         for (std::size_t i = 0; i + 1 < points.size(); ++i)
             lines << QLineF(pixel(points[i]), pixel(points[i + 1]));
-        painter.drawLines(lines);
+        return lines;
     };
-    painter.setPen(rhumbPen());
-    drawLeg(m_chart.rhumbLine);
+    QPen solid = rhumbPen();
+    solid.setStyle(Qt::SolidLine);
+    painter.setPen(solid);
+    painter.drawLines(dashed(legs(m_chart.rhumbLine), rhumbDashes[0] * solid.widthF(),
+                             rhumbDashes[1] * solid.widthF()));
     painter.setPen(pen(colours().route, thick));
-    drawLeg(m_chart.route);
+    painter.drawLines(legs(m_chart.route));
 }
 
 void GCPicture::drawMark(QPainter& painter, QPointF at, Mark mark) const

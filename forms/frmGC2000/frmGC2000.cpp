@@ -24,7 +24,7 @@ constexpr const char* widestCourse = "<000.0>";
 constexpr const char* widestLatitude = "00.00'0N";
 constexpr const char* widestLongitude = "000.00'0W";
 constexpr const char* widestDistance = "00000.'0";
-constexpr const char* widestVertex[] = {"00°00.0' N", "000°00.0' W"};
+constexpr const char* widestVertex[] = {"00°00.0' N  ", "000°00.0' W"};
 
 using Holds = TableColumn::Holds;
 enum : std::size_t { Number, Latitude, Longitude, Course, Distance };
