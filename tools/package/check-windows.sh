@@ -54,7 +54,15 @@ exec ${visitor[*]} env -i HOME="$home" WINEPREFIX="$home/wine" WINEDEBUG=-all \\
 END
     chmod 755 "$home/run"
     "$home/run" wineboot --init >"$packages/wine.log" 2>&1
+    let_wine_settle
     give_fonts
+    let_wine_settle
+}
+
+# let_wine_settle  Services and a desktop without a display linger after a program of its own; one that
+# is started while they end waits for them for ever.
+let_wine_settle() {
+    timeout 60 "${visitor[@]}" env WINEPREFIX="$home/wine" "$wine/wineserver64" --wait || close_wine
 }
 
 # give_fonts  Windows has a Tahoma and, for Japanese and full-width letters, an MS UI Gothic. Wine has
