@@ -298,7 +298,7 @@ TEST_F(NightTest, focusAndSelectionAreSeen)
     }
 }
 
-TEST_F(NightTest, linesOfPicturesStandOffTheirGround)
+TEST_F(NightTest, linesOfPicturesStandOffAndTheMainWindowHasItsColours)
 {
     for (const Look& look : looksOfAll) {
         show(look, main);
@@ -308,6 +308,13 @@ TEST_F(NightTest, linesOfPicturesStandOffTheirGround)
                                    colours.tertiary, colours.marker, colours.curve, colours.datum})
             EXPECT_GE(contrast(line.rgb(), colours.paper.rgb(), look.strayLight), ofControls)
                 << look.name << ": " << line.name().toStdString();
+        for (const auto& [name, colour] : {std::pair("lblTime", colours.clock),
+                                           {"lblMEMO", colours.memo},
+                                           {"lbl1NM", colours.unit}}) {
+            const QImage label = control(main, name).grab().toImage();
+            EXPECT_EQ(coloursOf(label, label.rect()).count(colour.rgb()), 1u)
+                << look.name << ": " << name;
+        }
     }
 }
 
