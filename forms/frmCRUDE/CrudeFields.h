@@ -15,7 +15,7 @@ inline constexpr std::array<Field, 7> CrudeFields = {{
     {"txtFreeWater", "Fr&ee water", "Free water", FieldKind::KeyUp},
     {"txtTemperature", "Cargo &temperature", "Temperature of the cargo", FieldKind::KeyUp},
     {"txtDensity", "&Density", "Density", FieldKind::KeyUp},
-    {"txtObservedTemperature", "Density taken &at", "Temperature at which the density was observed",
+    {"txtObservedTemperature", "Density take&n at", "Temperature at which the density was observed",
      FieldKind::KeyUp},
     {"txtSedimentAndWater", "&Sediment and water", "Sediment and water, per cent",
      FieldKind::KeyUp},

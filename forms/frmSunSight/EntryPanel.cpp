@@ -259,7 +259,7 @@ void EntryPanel::turnTo(std::size_t field)
 
 void EntryPanel::setEditing(bool isEditing)
 {
-    m_cmdRecord->setText(isEditing ? "P&ut back" : "Rec&ord (F6)");
+    m_cmdRecord->setText(isEditing ? "Put &back" : "Rec&ord (F6)");
     m_cmdNew->setEnabled(isEditing);
 }
 

@@ -14,8 +14,8 @@ namespace
 {
 
 constexpr std::array<Field, 2> questionFields = {{
-    {"txtAtTime", "&Height at", "Time of the day, h:mm zone time", FieldKind::Moment, "zone time"},
-    {"txtAtHeight", "&From a height of", "Height or rate, metres or knots", FieldKind::Number,
+    {"txtAtTime", "Hei&ght at", "Time of the day, h:mm zone time", FieldKind::Moment, "zone time"},
+    {"txtAtHeight", "Fro&m a height of", "Height or rate, metres or knots", FieldKind::Number,
      "m or kn"},
 }};
 
@@ -124,8 +124,8 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
     m_day = day;
     if (!withAll) m_day->all.reset();
     const bool tide = day.four.kind == TideKind::Tide;
-    m_captions[0]->setText(tide ? "&Height at" : "&Rate at");
-    m_captions[1]->setText(tide ? "&From a height of" : "&From a rate of");
+    m_captions[0]->setText(tide ? "Hei&ght at" : "&Rate at");
+    m_captions[1]->setText(tide ? "Fro&m a height of" : "Fro&m a rate of");
     m_answerHeading->setText(tide ? "Height then" : "Rate then");
     m_unit->setText(tide ? "m" : "kn");
     const std::vector<WaterLine> lines = waterLines(*m_day);

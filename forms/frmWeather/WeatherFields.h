@@ -10,7 +10,7 @@ namespace korvel
 
 /// The boxes of the weather window, which keeps no record.
 inline constexpr std::array<Field, 3> WeatherFields = {{
-    {"txtWave", "Wa&ve height", "Wave height, metres", FieldKind::Number, "m"},
+    {"txtWave", "Wav&e height", "Wave height, metres", FieldKind::Number, "m"},
     {"txtSWELL", "&Swell height", "Swell height, metres", FieldKind::Number, "m"},
     {"txtVISIBILITY", "Visi&bility", "Visibility, kilometres", FieldKind::KeyUp, "km"},
 }};

@@ -48,7 +48,7 @@ frmWind::frmWind(Program& program)
 
 void frmWind::addOptions()
 {
-    const char* const captions[] = {"&Head up", "&North up"};
+    const char* const captions[] = {"Head &up", "&North up"};
     for (std::size_t i = 0; i < m_optWind.size(); ++i) {
         m_optWind[i] = new QRadioButton(captions[i]);
         m_optWind[i]->setObjectName(memberName("optWind", static_cast<int>(i)));

@@ -9,6 +9,9 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -54,6 +57,24 @@ std::map<std::string, int> keysOf(const QWidget& window)
     return keys;
 }
 
+/// What Alt and a letter lead to in a window: its menus, buttons and captions.
+using Letters = std::map<std::string, std::vector<std::string>>;
+Letters lettersOf(const QMainWindow& window)
+{
+    Letters letters;
+    const auto note = [&](const QString& caption) {
+        const QKeySequence key = QKeySequence::mnemonic(caption);
+        if (!key.isEmpty()) letters[key.toString().toStdString()].push_back(caption.toStdString());
+    };
+    for (const QAction* menu : window.menuBar()->actions())
+        if (menu->isVisible()) note(menu->text());
+    for (const auto* each : window.findChildren<QAbstractButton*>())
+        if (each->window() == &window && each->isVisible()) note(each->text());
+    for (const auto* each : window.findChildren<QLabel*>())
+        if (each->window() == &window && each->isVisible() && each->buddy()) note(each->text());
+    return letters;
+}
+
 std::vector<QWidget*> tabStops(QWidget& window)
 {
     std::vector<QWidget*> stops;
@@ -97,6 +118,10 @@ TEST_F(KeysTest, keysAreOneOfAKindAndTabGoesAsOneReads)
             EXPECT_EQ(count, 1) << nameOf(*each) << " " << key;
         for (const char* key : {"Shift+F8", "Ctrl+Q", "Ctrl++", "Ctrl+-", "Ctrl+0", "Ctrl+Tab"})
             EXPECT_EQ(keys.count(key), 1u) << nameOf(*each) << " " << key;
+        const auto* window = qobject_cast<QMainWindow*>(each);
+        for (const auto& [letter, captions] : window ? lettersOf(*window) : Letters()) {
+            EXPECT_THAT(captions, ::testing::SizeIs(1)) << nameOf(*each) << " " << letter;
+        }
         const auto stops = tabStops(*each);
         for (std::size_t i = 1; i < stops.size(); ++i) {
             const auto [before, here] = placesOf(*stops[i - 1], *stops[i]);
