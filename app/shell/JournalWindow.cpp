@@ -56,6 +56,7 @@ JournalWindow::JournalWindow(Program& program)
     row->addWidget(m_text, 1);
     setCentralWidget(centre);
     resizeForText(*this, 124, 36);
+    holdInPlace(program.screen(), *this);
     addMenus(program);
 
     connect(m_search, &QLineEdit::textChanged, this, &JournalWindow::refresh);

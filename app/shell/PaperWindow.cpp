@@ -44,6 +44,7 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     // Its palette stays, so nothing else shows the sheet anew.
     connect(&program, &Program::coloursChanged, m_text->viewport(), qOverload<>(&QWidget::update));
     resizeForText(*this, 118, 50);
+    holdInPlace(program.screen(), *this);
     showPaper(paper);
 }
 

@@ -57,7 +57,10 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
     m_program.addHelpMenu = [this](QMenuBar& bar) { m_help.addMenu(bar); };
     m_help.addMenu(*menuBar());
     addShortcuts(*m_menus.view(), m_program, *this, true);
-    m_help.dress = [this](QWidget& manual) { addKeys(manual, m_program); };
+    m_help.dress = [this](QWidget& manual) {
+        addKeys(manual, m_program);
+        holdInPlace(m_screen, manual);
+    };
     m_program.nextWindow = [this](const QWidget& from) { m_windows.openNext(from, *this); };
     connect(&m_screen, &Screen::coloursChanged, this, &frmKORVEL2000::applyColours);
     connect(&m_screen, &Screen::zoomChanged, this, [this] {

@@ -109,6 +109,12 @@ bool putInPlace(const Screen& screen, QWidget& window, bool resizes)
     return true;
 }
 
+void holdInPlace(Screen& screen, QWidget& window)
+{
+    putInPlace(screen, window);
+    new PlaceWatch(screen, window);
+}
+
 QSize roomOnScreen(const QWidget& window)
 {
     return window.screen()->availableGeometry().marginsRemoved(frameOf(window)).size();

@@ -42,6 +42,9 @@ bool putInPlace(const Screen& screen, QWidget& window, bool resizes = true);
 /// as its screen has room.
 void resizeForText(QWidget& window, int letters, int lines);
 
+/// Puts a window of text where it was last and remembers where it goes.
+void holdInPlace(Screen& screen, QWidget& window);
+
 /// The largest size of a window that leaves its frame on the screen.
 QSize roomOnScreen(const QWidget& window);
 
