@@ -55,7 +55,7 @@ std::map<QString, QString> programFacts(FileStore& files)
     while (folder.size() > 1 && (folder.endsWith('/') || folder.endsWith('\\')))
         folder.chop(1);
     return {{"version", programVersion},
-            {"build", QString(KORVEL_BUILD) + ", " + QSysInfo::buildAbi()},
+            {"build", QString(KORVEL_BUILD).trimmed() + ", " + QSysInfo::buildAbi()},
             {"toolkit", QString("Qt %1 (built with %2)").arg(qVersion(), QT_VERSION_STR)},
             {"compiler", compilerInUse()},
             {"libraries", listOfLibraries()},

@@ -319,6 +319,20 @@ TEST_F(NightTest, linesOfPicturesStandOffAndTheMainWindowHasItsColours)
 }
 
 /// A sheet that stays white by night until something else paints it.
+TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
+{
+    EXPECT_FALSE(looksOfLastRun(folder.path()).night);
+    Screen& screen = main.program().screen();
+    screen.toggleNight();
+    screen.dim();
+    screen.zoom(1);
+    const Looks last{true, screen.choices().dimStep, screen.choices().zoom};
+    EXPECT_NE(last, (Looks{true, 0, 100}));
+    EXPECT_EQ(looksOfLastRun(folder.path()), last) << "after a run that was killed";
+    main.endSession();
+    EXPECT_EQ(looksOfLastRun(folder.path()), last) << "after the end of the session";
+}
+
 TEST_F(NightTest, aSheetOfPaperFollowsAtOnce)
 {
     struct Paints : QObject {
