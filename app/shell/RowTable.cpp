@@ -164,7 +164,7 @@ void RowTable::sizeByLetters()
 }
 
 /// Names of the columns, as wide as these.
-class RowTable::Heading : public QWidget, public SizedByLetters
+class RowTable::Heading final : public QWidget, public SizedByLetters
 {
 public:
     explicit Heading(const RowTable& table) : m_table(table)

@@ -49,7 +49,7 @@ public:
     /// A line with the names of the columns, for above the table.
     QWidget* makeHeading() const;
 
-    void sizeByLetters() override;
+    void sizeByLetters() final;
 
     std::size_t rows() const { return m_lines.size(); }
     EntryBox* box(std::size_t row, std::size_t column) const;
