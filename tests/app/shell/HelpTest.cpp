@@ -201,9 +201,9 @@ TEST_F(HelpTest, comesOnceAtTheFirstStartAndGoesWithOneKey)
 TEST_F(HelpTest, saysWhatTheProgramIsMadeOf)
 {
     const std::string about = main->help().manual().text("about").toStdString();
-    for (const char* part : {"Version | 1.", "Qt " QT_VERSION_STR, "GCC ", "libstdc++", "icuuc ",
-                             "Qt6Widgets ", "| Fonts | ", "TICON-4 (2025)", "CC BY 4.0",
-                             "Not a substitute for approved means of navigation"})
+    for (const char* part :
+         {"Version | 1.", "Qt 6.", "GCC ", "libstdc++", "icuuc ", "Qt6Widgets ", "| Fonts | ",
+          "TICON-4 (2025)", "CC BY 4.0", "Not a substitute for approved means of navigation"})
         EXPECT_THAT(about, ::testing::HasSubstr(part));
     EXPECT_THAT(about, ::testing::Not(::testing::HasSubstr("{")));
 }
