@@ -148,7 +148,7 @@ void addRunInLatitude(Working& working, const ReckonedRun& from, const NavFunc11
 {
     working.step("Run to the north", "r = D cos C / 60",
                  Format(from.distance.value(), "0.#####") + " × cos " + memoText(from.course) +
-                     "°" + " / 60",
+                     "° / 60",
                  figure(run.run, angleDecimals), "°");
     if (earth == Earth::Spheroid) {
         working.step("Latitude for the length of the minute of latitude",

@@ -73,7 +73,7 @@ CellLayout::Place CellLayout::placeOf(std::size_t item, const Shape& shape) cons
 
 CellLayout::Shape CellLayout::shapeOf(std::size_t columns) const
 {
-    Shape shape{columns, (m_cells + columns - 1) / columns, {}, {}, {}};
+    Shape shape{columns, (m_cells + columns - 1) / columns, {}, {}, {}, {}};
     shape.widths.resize(columns);
     shape.heights.resize(shape.rows);
     for (std::size_t i = 0; i < m_parts.size(); ++i) {
@@ -83,10 +83,9 @@ CellLayout::Shape CellLayout::shapeOf(std::size_t columns) const
         widths[at.part] = std::max(widths[at.part], m_parts[i]->minimumSize().width());
         shape.heights[at.row] = std::max(shape.heights[at.row], m_parts[i]->sizeHint().height());
     }
-    std::vector<int> cells;
     for (const std::vector<int>& widths : shape.widths)
-        cells.push_back(sum(widths, levelGap(*this)));
-    shape.size = {sum(cells, cellGap(*this)), sum(shape.heights, uprightGap(*this))};
+        shape.cells.push_back(sum(widths, levelGap(*this)));
+    shape.size = {sum(shape.cells, cellGap(*this)), sum(shape.heights, uprightGap(*this))};
     return shape;
 }
 
@@ -122,12 +121,9 @@ void CellLayout::setGeometry(const QRect& room)
                                0) +
                gap * static_cast<int>(count);
     };
-    std::vector<int> cells;
-    for (const std::vector<int>& widths : shape.widths)
-        cells.push_back(sum(widths, levelGap(*this)));
     for (std::size_t i = 0; i < m_parts.size(); ++i) {
         const Place at = placeOf(i, shape);
-        const int x = before(cells, at.column, cellGap(*this)) +
+        const int x = before(shape.cells, at.column, cellGap(*this)) +
                       before(shape.widths[at.column], at.part, levelGap(*this));
         const int y = before(shape.heights, at.row, uprightGap(*this));
         m_parts[i]->setGeometry(

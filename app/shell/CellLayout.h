@@ -41,6 +41,7 @@ private:
     struct Shape {
         std::size_t columns, rows;
         std::vector<std::vector<int>> widths; ///< of the parts of the cells of a column
+        std::vector<int> cells;               ///< widths of the columns
         std::vector<int> heights;             ///< of the rows
         QSize size;
     };

@@ -133,7 +133,7 @@ std::size_t PaperDocument::fillBeginning(QTextDocument& document, int zoom) cons
         lines += parts[part].lines;
     }
     write(document, html, zoom);
-    return part;
+    return part < parts.size() ? part : 0;
 }
 
 void PaperDocument::fillRest(QTextDocument& document, std::size_t from) const

@@ -47,7 +47,7 @@ public:
 
     /// Writes as much of it into an empty document as a window shows at first.
     /// @param zoom percent of the letters' size on paper
-    /// @return the part that fillRest() goes on with
+    /// @return the part that fillRest() goes on with; 0 when nothing is left
     std::size_t fillBeginning(QTextDocument& document, int zoom) const;
     void fillRest(QTextDocument& document, std::size_t from) const;
 

@@ -77,7 +77,8 @@ void PaperWindow::finish()
 bool PaperWindow::eventFilter(QObject*, QEvent* event)
 {
     // A long paper is read from its beginning: what does not show comes after what does.
-    if (event->type() == QEvent::Paint) QTimer::singleShot(0, this, &PaperWindow::finish);
+    if (event->type() == QEvent::Paint && m_rest > 0)
+        QTimer::singleShot(0, this, &PaperWindow::finish);
     return false;
 }
 

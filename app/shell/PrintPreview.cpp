@@ -21,6 +21,7 @@ namespace
 constexpr QRgb aroundPages = qRgb(208, 212, 216); // a shade that stays dim by night
 
 } // namespace
+
 PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent)
     : QDialog(parent), m_pages(new QPrintPreviewWidget(&printer))
 {

@@ -8,6 +8,7 @@
 #include <QTextTable>
 
 #include <algorithm>
+#include <cmath>
 
 namespace korvel
 {
@@ -109,11 +110,11 @@ void addRows(std::vector<Piece>& pieces, QTextTable& table)
 std::vector<Piece> piecesOf(const QTextDocument& document)
 {
     std::vector<Piece> pieces;
+    // What is empty stands anywhere, beside a table too.
     for (auto at = document.rootFrame()->begin(); !at.atEnd(); ++at)
         if (auto* table = qobject_cast<QTextTable*>(at.currentFrame()))
             addRows(pieces, *table);
-        else if (at.currentBlock().length() >
-                 1) // what is empty stands anywhere, beside a table too
+        else if (at.currentBlock().length() > 1)
             addLines(pieces, at.currentBlock());
     const std::size_t kept = std::min(leastOnLastPage, pieces.size());
     for (std::size_t i = pieces.size() - kept; i + 1 < pieces.size(); ++i)

@@ -36,7 +36,7 @@ public:
     void follow(QWidget& window, int zoom);
 
 private:
-    enum Which { LeastWidth, LeastHeight, MostWidth, MostHeight, Gap, Row, Column };
+    enum Which { LeastWidth, LeastHeight, MostWidth, MostHeight, Row, Column };
     using Owner = std::pair<const void*, int>;
     struct Size {
         double normal; ///< at 100 %

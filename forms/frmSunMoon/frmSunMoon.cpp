@@ -154,13 +154,14 @@ QWidget* frmSunMoon::dateRow()
     m_txtSunMoon->setFixedWidth(wide);
     m_scrMoonSun->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_scrMoonSun->setMinimumWidth(wide);
-    for (QWidget* each : {static_cast<QWidget*>(caption), static_cast<QWidget*>(m_txtSunMoon),
-                          static_cast<QWidget*>(new QLabel("yyyy/m/d")),
-                          static_cast<QWidget*>(m_scrMoonSun), static_cast<QWidget*>(today)})
-        line->addWidget(each);
-    for (QWidget* each :
-         {new QLabel("Moon's age"), static_cast<QLabel*>(m_lblMoonAge), new QLabel("days")})
-        line->addWidget(each);
+    line->addWidget(caption);
+    line->addWidget(m_txtSunMoon);
+    line->addWidget(new QLabel("yyyy/m/d"));
+    line->addWidget(m_scrMoonSun);
+    line->addWidget(today);
+    line->addWidget(new QLabel("Moon's age"));
+    line->addWidget(m_lblMoonAge);
+    line->addWidget(new QLabel("days"));
     return bar;
 }
 

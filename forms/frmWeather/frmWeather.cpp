@@ -98,7 +98,6 @@ QGroupBox* frmWeather::layOutLetters()
         });
         cells->addCell({option});
     }
-    m_lblWr->setAccessibleName("Weather");
     grid->addWidget(m_lblWr, 1, 0);
     return group;
 }

@@ -318,7 +318,6 @@ TEST_F(NightTest, linesOfPicturesStandOffAndTheMainWindowHasItsColours)
     }
 }
 
-/// A sheet that stays white by night until something else paints it.
 TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
 {
     EXPECT_FALSE(looksOfLastRun(folder.path()).night);
@@ -333,6 +332,7 @@ TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
     EXPECT_EQ(looksOfLastRun(folder.path()), last) << "after the end of the session";
 }
 
+/// A sheet that stays white by night until something else paints it.
 TEST_F(NightTest, aSheetOfPaperFollowsAtOnce)
 {
     struct Paints : QObject {
