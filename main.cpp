@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/clock/makeComputerClock.h"
+#include "app/watch/clock/MakeComputerClock.h"
 #include "app/shell/EarlierRecords.h"
 #include "app/shell/FolderLock.h"
 #include "app/shell/GuardedApplication.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Measures the accuracy of the ephemeris and of the rise and set searches against ERFA over 2000 to
 // 2050, and prints the figures that the headers and the manual state.
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
 #include "navlib/ephemeris.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/ProgramFolder.h"
 #include "forms/frmTIDE/Stations.h"
 #include "forms/frmTIDE/TideTables.h"

@@ -50,3 +50,22 @@ endfunction()
 option(KORVEL_UNITY "Compile the files of a room several at once" ON)
 set(CMAKE_UNITY_BUILD ${KORVEL_UNITY})
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 10)
+
+# A room: a library of the files of a folder, its headers for whoever links it.
+#   add_room(app_reading reading LINK navlib)
+function(add_room name folder)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LINK")
+  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+  file(GLOB headers CONFIGURE_DEPENDS ${folder}/*.h)
+  add_library(${name} STATIC ${sources} ${headers})
+  give_headers(${name} PUBLIC ${headers})
+  target_link_libraries(${name} PUBLIC ${arg_LINK})
+endfunction()
+
+# The same for a room that knows the toolkit.
+function(add_toolkit_room name folder)
+  add_room(${name} ${folder} ${ARGN})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${name} PUBLIC Qt6::Widgets)
+  use_headers(${name} toolkit_headers)
+endfunction()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/AlarmBoxes.h"
 
-#include "app/Questions.h"
+#include "app/machine/Questions.h"
 #include "app/shell/wholeLines.h"
 
 #include <QApplication>

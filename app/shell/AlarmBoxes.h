@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/alarms.h"
+#include "app/watch/Alarms.h"
 #include "app/shell/Bell.h"
 
 #include <QObject>

@@ -2,7 +2,7 @@
 #include "app/shell/Bell.h"
 
 #include "app/shell/soundCall.h"
-#include "app/tone.h"
+#include "app/watch/Tone.h"
 
 #include <QApplication>
 #include <QDir>

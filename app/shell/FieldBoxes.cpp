@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/FieldBoxes.h"
 
-#include "app/Format.h"
-#include "app/KORVEL2000Actions.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/records/KORVEL2000Actions.h"
+#include "app/reading/Reading.h"
 
 #include <QGridLayout>
 

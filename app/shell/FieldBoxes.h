@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Field.h"
-#include "app/WorkingPaper.h"
+#include "app/reading/Field.h"
+#include "app/working/WorkingPaper.h"
 #include "app/shell/PositionBox.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/FollowingTD.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/Program.h"
 
 namespace korvel

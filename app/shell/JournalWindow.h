@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Journal.h"
+#include "app/working/Journal.h"
 #include "app/shell/PagePrinter.h"
 #include "app/shell/WindowMenus.h"
 

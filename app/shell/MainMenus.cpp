@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/MainMenus.h"
 
-#include "app/alarms.h"
+#include "app/watch/Alarms.h"
 #include "app/shell/Boxes.h"
 #include "app/shell/shortcuts.h"
 

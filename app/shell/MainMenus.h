@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/KV_Savedvalue.h"
-#include "app/ScreenChoices.h"
+#include "app/records/KV_Savedvalue.h"
+#include "app/records/ScreenChoices.h"
 #include "app/shell/WindowCatalogue.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/PaperMenu.h"
 
-#include "app/Journal.h"
+#include "app/working/Journal.h"
 #include "app/shell/Boxes.h"
 #include "app/shell/Program.h"
 #include "app/shell/asQString.h"

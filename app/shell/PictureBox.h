@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/UserScale.h"
+#include "app/reading/UserScale.h"
 
 #include <QPainter>
 #include <QWidget>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/PositionBox.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 
 #include <QAction>
 #include <QApplication>

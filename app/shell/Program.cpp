@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/Program.h"
 
-#include "app/ProgramVersion.h"
+#include "app/working/ProgramVersion.h"
 
 namespace korvel
 {

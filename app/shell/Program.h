@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/FileStore.h"
-#include "app/KORVEL2000Actions.h"
-#include "app/KV_Savedvalue.h"
-#include "app/Questions.h"
-#include "app/ShipsTime.h"
-#include "app/WorkingPaper.h"
+#include "app/records/FileStore.h"
+#include "app/records/KORVEL2000Actions.h"
+#include "app/records/KV_Savedvalue.h"
+#include "app/machine/Questions.h"
+#include "app/watch/ShipsTime.h"
+#include "app/working/WorkingPaper.h"
 #include "app/shell/Bell.h"
 #include "app/shell/Screen.h"
 

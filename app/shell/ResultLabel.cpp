@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/ResultLabel.h"
 
-#include "app/packed_text.h"
+#include "app/reading/PackedText.h"
 #include "app/shell/asQString.h"
 
 #include <QAccessibleWidget>

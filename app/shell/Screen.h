@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/KV_Savedvalue.h"
-#include "app/ScreenChoices.h"
-#include "app/SettingsFile.h"
+#include "app/records/KV_Savedvalue.h"
+#include "app/records/ScreenChoices.h"
+#include "app/records/SettingsFile.h"
 #include "app/shell/looks.h"
 
 #include <QObject>

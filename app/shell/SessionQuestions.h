@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Questions.h"
+#include "app/machine/Questions.h"
 
 namespace korvel
 {

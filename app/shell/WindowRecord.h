@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/SettingsFile.h"
+#include "app/records/SettingsFile.h"
 #include "app/shell/Boxes.h"
 #include "app/shell/NoticeLine.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/frmKORVEL2000.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/CalculatorWindow.h"
 #include "app/shell/shortcuts.h"
 #include "app/shell/window_places.h"

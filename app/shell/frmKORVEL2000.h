@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/RecoveryFile.h"
-#include "app/alarms.h"
+#include "app/records/RecoveryFile.h"
+#include "app/watch/Alarms.h"
 #include "app/shell/AlarmBoxes.h"
 #include "app/shell/CalculatorWindows.h"
 #include "app/shell/HelpDesk.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/frmKORVELstart.h"
 
-#include "app/Questions.h"
+#include "app/machine/Questions.h"
 #include "app/shell/ColourScheme.h"
 #include "app/shell/night_tint.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/gpx_text.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/asQString.h"
 
 #include <QXmlStreamWriter>

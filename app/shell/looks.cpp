@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/looks.h"
 
-#include "app/KV_Savedvalue.h"
-#include "app/RecoveryFile.h"
-#include "app/ScreenChoices.h"
+#include "app/records/KV_Savedvalue.h"
+#include "app/records/RecoveryFile.h"
+#include "app/records/ScreenChoices.h"
 #include "app/shell/ScreenStyle.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/shell/program_facts.h"
 
-#include "app/ProgramVersion.h"
+#include "app/working/ProgramVersion.h"
 #include "app/shell/asQString.h"
 #include "app/shell/libraries_in_use.h"
 

@@ -2,7 +2,7 @@
 #include "app/shell/soundCall.h"
 
 #ifdef _WIN32
-#include "app/tone.h"
+#include "app/watch/Tone.h"
 
 #include <windows.h>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/CalculateConversion.h"
 
-#include "app/Format.h"
-#include "app/KORVEL2000Actions.h"
-#include "app/NumberField.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/records/KORVEL2000Actions.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/Reading.h"
 #include "navlib/arithmetic_error.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/sailing_working.h"
+#include "app/working/SailingWorking.h"
 #include "forms/frmCDDR/CalculateCD.h"
 #include "forms/frmCDDR/CalculateDR.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCDDR/CalculateDR.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "forms/frmCDDR/CDDRFields.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/sailing.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCDDR/frmCDDR.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/panels.h"
 #include "forms/frmCDDR/CDDRFields.h"
 #include "forms/frmCDDR/CDDRWorking.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCRUDE/CrudeWorking.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 
 namespace korvel
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmETA/ETAWorking.h"
 
-#include "app/Format.h"
-#include "app/KORVEL2000Actions.h"
+#include "app/reading/Format.h"
+#include "app/records/KORVEL2000Actions.h"
 
 namespace korvel
 {

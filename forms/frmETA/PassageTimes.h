@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Remarks.h"
-#include "app/typed_time.h"
+#include "app/reading/Remarks.h"
+#include "app/reading/TypedTime.h"
 #include "navlib/units.h"
 
 #include <optional>

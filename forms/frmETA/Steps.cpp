@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmETA/Steps.h"
 
-#include "app/Format.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "navlib/datetime.h"
 

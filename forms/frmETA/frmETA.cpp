@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmETA/frmETA.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/panels.h"
 #include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/ETAWorking.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/CalculateGC.h"
 
-#include "app/Format.h"
-#include "app/position_text.h"
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "forms/frmGC2000/GCFields.h"
 #include "navlib/great_circle.h"
 

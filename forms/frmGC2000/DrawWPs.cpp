@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/DrawWPs.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "navlib/angles.h"
 
 #include <algorithm>

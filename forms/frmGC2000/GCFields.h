@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Field.h"
+#include "app/reading/Field.h"
 
 #include <array>
 

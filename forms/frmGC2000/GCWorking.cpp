@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/GCWorking.h"
 
-#include "app/position_text.h"
-#include "app/sailing_working.h"
+#include "app/reading/PositionText.h"
+#include "app/working/SailingWorking.h"
 #include "navlib/angles.h"
 
 namespace korvel

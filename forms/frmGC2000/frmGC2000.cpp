@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/frmGC2000.h"
 
-#include "app/sailing_working.h"
+#include "app/working/SailingWorking.h"
 #include "app/shell/FollowingScrollArea.h"
 #include "app/shell/panels.h"
 #include "forms/frmGC2000/DrawWPs.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/FixTime.h"
 
-#include "app/Format.h"
-#include "app/reading.h"
-#include "app/typed_time.h"
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
+#include "app/reading/TypedTime.h"
 #include "navlib/datetime.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/PositionRecord.h"
 
-#include "app/Format.h"
-#include "app/NumberField.h"
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
 #include "forms/frmPositionRecord/RowReading.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/RecordPaper.h"
 
-#include "app/sailing_working.h"
+#include "app/working/SailingWorking.h"
 #include "forms/frmPositionRecord/RecordList.h"
 #include "forms/frmPositionRecord/RecordText.h"
 #include "forms/frmPositionRecord/RecordWorking.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/position_text.h"
+#include "app/reading/PositionText.h"
 #include "forms/frmPositionRecord/PositionRecord.h"
 
 namespace korvel

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/RecordWorking.h"
 
-#include "app/Format.h"
-#include "app/KORVEL2000Actions.h"
-#include "app/sailing_working.h"
+#include "app/reading/Format.h"
+#include "app/records/KORVEL2000Actions.h"
+#include "app/working/SailingWorking.h"
 #include "navlib/angles.h"
 
 namespace korvel

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/RowReading.h"
 
-#include "app/Format.h"
-#include "app/NumberField.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/Reading.h"
 #include "forms/frmPositionRecord/FixTime.h"
 #include "navlib/datetime.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/NumberField.h"
+#include "app/reading/NumberField.h"
 #include "forms/frmPositionRecord/PositionRecord.h"
 
 namespace korvel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/CellLayout.h"
 #include "app/shell/FollowingScrollArea.h"
 #include "forms/frmPositionRecord/FixTime.h"

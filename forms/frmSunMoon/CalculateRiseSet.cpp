@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
-#include "app/Format.h"
-#include "app/NumberField.h"
-#include "app/typed_time.h"
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/TypedTime.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/ephemeris.h"
 #include "navlib/rise_set.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunMoon/frmSunMoon.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/FollowingScrollArea.h"
 #include "app/shell/WrappingRow.h"
 #include "app/shell/asQString.h"

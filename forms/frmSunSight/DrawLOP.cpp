@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/DrawLOP.h"
 
-#include "app/Format.h"
-#include "app/Remarks.h"
+#include "app/reading/Format.h"
+#include "app/reading/Remarks.h"
 #include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/EntryPanel.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "app/shell/WrappingRow.h"
 #include "forms/frmSunSight/PanelParts.h"
 #include "forms/frmSunSight/SightLine.h"

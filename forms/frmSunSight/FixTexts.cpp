@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/FixTexts.h"
 
-#include "app/Format.h"
-#include "app/KORVEL2000Actions.h"
+#include "app/reading/Format.h"
+#include "app/records/KORVEL2000Actions.h"
 #include "forms/frmSunSight/SightLine.h"
 #include "navlib/angles.h"
 

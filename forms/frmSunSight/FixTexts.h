@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Remarks.h"
+#include "app/reading/Remarks.h"
 #include "forms/frmSunSight/SightFix.h"
 
 /// What the window says of a fix that was found.

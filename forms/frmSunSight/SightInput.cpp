@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightInput.h"
 
-#include "app/Format.h"
-#include "app/NumberField.h"
-#include "app/packed_text.h"
-#include "app/reading.h"
-#include "app/typed_time.h"
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/PackedText.h"
+#include "app/reading/Reading.h"
+#include "app/reading/TypedTime.h"
 #include "forms/frmSunSight/SightFields.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"

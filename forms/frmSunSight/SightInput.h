@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Remarks.h"
+#include "app/reading/Remarks.h"
 #include "forms/frmSunSight/SightTexts.h"
 #include "navlib/ephemeris.h"
 #include "navlib/sight_fix.h"

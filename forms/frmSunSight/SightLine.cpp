@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightLine.h"
 
-#include "app/Format.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "navlib/angles.h"
 #include "navlib/sight_reduction.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightList.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "forms/frmSunSight/SightFields.h"
 #include "forms/frmSunSight/SightInput.h"
 #include "forms/frmSunSight/SightLine.h"

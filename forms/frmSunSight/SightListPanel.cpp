@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightListPanel.h"
 
-#include "app/packed_text.h"
+#include "app/reading/PackedText.h"
 #include "app/shell/asQString.h"
 #include "forms/frmSunSight/PanelParts.h"
 #include "forms/frmSunSight/SightLines.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightPaper.h"
 
-#include "app/Format.h"
-#include "app/position_text.h"
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "forms/frmSunSight/SightFields.h"
 #include "forms/frmSunSight/SightLine.h"
 #include "forms/frmSunSight/SightWorking.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/WorkingPaper.h"
+#include "app/working/WorkingPaper.h"
 #include "forms/frmSunSight/CalculateLOP.h"
 #include "forms/frmSunSight/MeridianPassage.h"
 #include "forms/frmSunSight/SightFix.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/settings_record.h"
+#include "app/records/SettingsRecord.h"
 #include "forms/frmSunSight/SightList.h"
 
 namespace korvel

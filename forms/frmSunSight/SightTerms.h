@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Format.h"
-#include "app/Working.h"
+#include "app/reading/Format.h"
+#include "app/working/Working.h"
 
 /// How the workings of the sun sight window write figures.
 namespace korvel

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightWorking.h"
 
-#include "app/position_text.h"
-#include "app/reading.h"
+#include "app/reading/PositionText.h"
+#include "app/reading/Reading.h"
 #include "forms/frmSunSight/SightLine.h"
 #include "forms/frmSunSight/SightTerms.h"
 #include "navlib/angles.h"

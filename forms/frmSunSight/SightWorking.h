@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Working.h"
+#include "app/working/Working.h"
 #include "forms/frmSunSight/CalculateLOP.h"
 #include "forms/frmSunSight/MeridianPassage.h"
 #include "forms/frmSunSight/SightFix.h"

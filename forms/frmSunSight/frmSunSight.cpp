@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/frmSunSight.h"
 
-#include "app/Format.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "app/shell/asQString.h"
 #include "forms/frmSunSight/EntryPanel.h"
 #include "forms/frmSunSight/FixPanel.h"

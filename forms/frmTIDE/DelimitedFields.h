@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/DelimitedText.h"
+#include "app/records/DelimitedText.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/DrawCurve.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "navlib/wind.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/FullConstants.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "forms/frmTIDE/StationList.h"
 #include "tidedata/astronomy.h"
 

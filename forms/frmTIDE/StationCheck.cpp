@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/StationCheck.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "forms/frmTIDE/DelimitedFields.h"
 
 #include <algorithm>

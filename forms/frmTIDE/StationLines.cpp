@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/StationLines.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "navlib/datetime.h"
 
 namespace korvel

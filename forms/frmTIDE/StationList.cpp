@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/StationList.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 
 #include <algorithm>
 

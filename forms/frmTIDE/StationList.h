@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/FileStore.h"
+#include "app/records/FileStore.h"
 #include "navlib/units.h"
 
 #include <optional>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/StationMenus.h"
 
-#include "app/Format.h"
-#include "app/KV_Savedvalue.h"
-#include "app/packed_text.h"
+#include "app/reading/Format.h"
+#include "app/records/KV_Savedvalue.h"
+#include "app/reading/PackedText.h"
 #include "app/shell/Boxes.h"
 #include "forms/frmTIDE/TideData.h"
 

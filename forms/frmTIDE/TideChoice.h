@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Value.h"
+#include "app/records/Value.h"
 #include "forms/frmTIDE/PredictTide.h"
 #include "forms/frmTIDE/TideDates.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideDates.h"
 
-#include "app/Format.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "forms/frmTIDE/TideData.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Value.h"
-#include "app/settings_record.h"
+#include "app/records/Value.h"
+#include "app/records/SettingsRecord.h"
 
 #include <string>
 #include <vector>

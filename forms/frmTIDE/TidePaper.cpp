@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TidePaper.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "forms/frmTIDE/TideDates.h"
 
 namespace korvel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideTables.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "navlib/datetime.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideWaters.h"
 
-#include "app/Format.h"
-#include "app/NumberField.h"
-#include "app/typed_time.h"
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/TypedTime.h"
 #include "forms/frmTIDE/TideDates.h"
 #include "navlib/ephemeris.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Working.h"
+#include "app/working/Working.h"
 #include "forms/frmTIDE/TideWaters.h"
 
 namespace korvel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/SettingsFile.h"
+#include "app/records/SettingsFile.h"
 #include "app/shell/CalculatorWindow.h"
 #include "forms/frmTIDE/FullConstants.h"
 #include "forms/frmTIDE/StationLines.h"

@@ -2,8 +2,8 @@
 #include "forms/frmTIDE/frmTIDEPage.h"
 #include "app/shell/asQString.h"
 
-#include "app/Format.h"
-#include "app/Questions.h"
+#include "app/reading/Format.h"
+#include "app/machine/Questions.h"
 #include "forms/frmTIDE/PageText.h"
 
 #include <algorithm>

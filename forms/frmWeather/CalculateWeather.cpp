@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWeather/CalculateWeather.h"
 
-#include "app/Format.h"
-#include "app/reading.h"
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "navlib/weather_terms.h"
 
 namespace korvel

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/CalculateWind.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "forms/frmWind/WindFields.h"
 #include "navlib/wind.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/WindWorking.h"
 
-#include "app/KORVEL2000Actions.h"
+#include "app/records/KORVEL2000Actions.h"
 
 namespace korvel
 {

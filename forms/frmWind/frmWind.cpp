@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/frmWind.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "app/shell/panels.h"
 #include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"

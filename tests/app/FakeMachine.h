@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/ComputerClock.h"
-#include "app/FileStore.h"
-#include "app/Questions.h"
+#include "app/machine/ComputerClock.h"
+#include "app/records/FileStore.h"
+#include "app/machine/Questions.h"
 
 #include <gmock/gmock.h>
 

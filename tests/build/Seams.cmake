@@ -42,7 +42,7 @@ function(check_seam target)
 endfunction()
 
 set(library navlib/angles.h)
-set(shared app/Format.h)
+set(shared app/reading/Format.h)
 set(shell app/shell/Program.h)
 set(toolkit QString)
 set(fakes tests/app/FakeMachine.h tests/golden/Golden.h)

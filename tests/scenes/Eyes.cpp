@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "app/shell/PaperWindow.h"
 #include "tests/scenes/Steps.h"
 #include "tests/shell/Pixels.h"

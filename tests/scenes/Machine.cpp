@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "tests/SourceFolder.h"
 #include "tests/scenes/Steps.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/papers/ExamplePaper.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "app/shell/PaperWindow.h"
 #include "app/shell/ResultLabel.h"
 #include "calculator_windows.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/CalculateConversion.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "navlib/arithmetic_error.h"
 
 #include <gtest/gtest.h>

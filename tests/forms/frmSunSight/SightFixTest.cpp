@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightFix.h"
 
-#include "app/reading.h"
+#include "app/reading/Reading.h"
 #include "forms/frmSunSight/CalculateLOP.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 

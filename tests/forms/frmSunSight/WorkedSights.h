@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "forms/frmSunSight/SightFix.h"
 #include "forms/frmSunSight/SightInput.h"
 #include "navlib/angles.h"

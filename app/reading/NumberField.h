@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/reading/Remarks.h"
+
+#include <cmath>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// Reading the number in a box together with what the officer should be told about it. A number is
+/// taken as far as it goes ("35,305" is 35): whoever is not told so sails on it.
+namespace korvel
+{
+
+/// A number that a box takes, declared once for reading, limits and remarks.
+struct NumberField {
+    enum class Form { Plain, Angle, Latitude, Longitude }; ///< the last three are packed degrees
+
+    std::string_view name; ///< in front of its remarks: "Latitude of departure"
+    double low = -HUGE_VAL;
+    double high = HUGE_VAL;            ///< both limits belong to the range
+    std::string_view unit = {};        ///< in words: "degrees", "knots"; empty for a bare number
+    Form form = Form::Plain;           ///< what else than a number it may have been meant as
+    std::optional<double> ifEmpty = 0; ///< what an empty box stands for; nothing: it must be filled
+};
+
+/// What a box says.
+struct NumberReading {
+    enum class Kind {
+        Empty,      ///< value is what an empty box stands for
+        HalfTyped,  ///< a sign or a point alone
+        NoNumber,   ///< begins with something else
+        OutOfRange, ///< a number beyond the field's limits, or too large for any
+        Beginning,  ///< only its beginning is a number, and that is the value
+        Whole
+    };
+    Kind kind;
+    std::optional<double> value; ///< nothing when it cannot be used
+    std::string remark;          ///< without the field's name; empty when there is nothing to say
+};
+
+/// Reads a box: the leading number, as readNumber() does. The remark says at once when only the
+/// beginning was read and how the rest can be written ("only 35 was read, write 35.305"), or why
+/// there is no value ("not within -90 to 90 degrees").
+NumberReading readField(std::string_view text, const NumberField& field);
+
+/// The same, its remark added under the field's name: a fault without a value, a warning with one.
+/// @return the value; nothing when the box cannot be used
+std::optional<double> readField(std::string_view text, const NumberField& field, Remarks& remarks);
+
+/// The same for a box that may stay empty: while it is empty or half typed it gives nothing and no
+/// word.
+std::optional<double> readIfTyped(std::string_view text, const NumberField& field,
+                                  Remarks& remarks);
+
+} // namespace korvel

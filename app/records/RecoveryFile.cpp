@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "app/records/RecoveryFile.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/Remarks.h"
+
+namespace korvel
+{
+namespace
+{
+
+/// When the values were kept, then the values.
+std::vector<Kind> kindsOfFile()
+{
+    std::vector<Kind> kinds = KV_Savedvalue::kinds();
+    kinds.insert(kinds.begin(), Kind::Text);
+    return kinds;
+}
+
+std::string bytesOf(const KV_Savedvalue& saved)
+{
+    return writeRecord(saved.record());
+}
+
+/// The same values have the same bytes once they were taken over: ticks that were never set are no.
+std::string bytesAsTaken(const Record& record)
+{
+    KV_Savedvalue saved;
+    saved.take(record);
+    return bytesOf(saved);
+}
+
+} // namespace
+
+RecoveryFile::RecoveryFile(FileStore& files, Questions& questions, const ComputerClock& clock)
+    : m_files(files), m_questions(questions), m_clock(clock),
+      m_file(files, questions, clock, name, kindsOfFile())
+{
+}
+
+void RecoveryFile::offer(KV_Savedvalue& saved)
+{
+    m_kept = bytesOf(saved);
+    auto record = m_file.load();
+    if (!record) return;
+    const std::string when = textOf(record->front());
+    record->erase(record->begin());
+    const bool isNews = bytesAsTaken(*record) != bytesAsTaken(saved.record());
+    if (isNews && m_questions.ask({"The program did not end by its own exit. The alarms, memories "
+                                   "and choices as they were at " +
+                                       when + " (the computer's clock) are kept in \"" + name +
+                                       "\".\r\rTake them over?",
+                                   programTitle, Buttons::YesNo}) == Answer::Yes) {
+        takeAndTell(saved, *record, name, m_questions);
+        m_kept = bytesOf(saved);
+    } else if (!m_file.isProtected()) {
+        remove();
+    }
+}
+
+std::string RecoveryFile::keep(const KV_Savedvalue& saved)
+{
+    std::string values = bytesOf(saved);
+    if (values == m_kept) return {};
+    Record record{Format(m_clock.now(), "yyyy/mm/dd hh:mm")};
+    const Record savedValues = saved.record();
+    record.insert(record.end(), savedValues.begin(), savedValues.end());
+    std::string fault = m_file.saveQuietly(record);
+    if (fault.empty()) m_kept = std::move(values);
+    return fault;
+}
+
+std::string RecoveryFile::remove()
+{
+    const auto reason = m_files.remove(name);
+    return reason ? '"' + std::string(name) + "\" could not be removed: " + *reason : std::string();
+}
+
+void takeAndTell(KV_Savedvalue& saved, const Record& record, const std::string& file,
+                 Questions& questions)
+{
+    const std::vector<std::string> refused = saved.take(record);
+    if (refused.empty()) return;
+    questions.ask({"\"" + file +
+                       "\" holds values that are out of range and were not taken over:\r" +
+                       joined(refused),
+                   programTitle, Buttons::Ok});
+}
+
+} // namespace korvel

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "app/reading/Reading.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/TypedTime.h"
+#include "tests/golden/Golden.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <map>
+
+namespace korvel
+{
+namespace
+{
+
+using korvel::testing::Golden;
+using korvel::testing::golden;
+
+TEST(Reading, leadingNumbers)
+{
+    for (const Golden& row : golden("leading_numbers"))
+        EXPECT_EQ(readNumber(row.text("text")), row.number("value")) << row;
+}
+
+TEST(Reading, isTheSameInEveryLocale)
+{
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    for (const char* commaLocale : {"de_DE.UTF-8", "fr_FR.UTF-8", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, commaLocale);
+        EXPECT_EQ(readNumber("35.5"), 35.5);
+        EXPECT_EQ(Format(35.5, "0.0"), "35.5");
+    }
+    std::setlocale(LC_ALL, before.c_str());
+}
+
+TEST(Reading, ranges)
+{
+    EXPECT_TRUE(IsInRange("90", "-90", "90"));
+    EXPECT_FALSE(IsInRange("90.001", "-90", "90"));
+    EXPECT_TRUE(IsInRange("", "-90", "90")) << "an empty box counts as 0";
+    EXPECT_FALSE(IsInRange("", "1", "90"));
+    EXPECT_FALSE(IsInRange("abc", "-90", "90")) << "no number is in no range";
+    EXPECT_TRUE(IsInRange("12abc", "-90", "90"));
+    EXPECT_TRUE(isNumeric(" -9.5 "));
+    EXPECT_FALSE(isNumeric("9h"));
+}
+
+TEST(Reading, numbersWithTheirRemarks)
+{
+    using Form = NumberField::Form;
+    const std::map<std::string, Form> forms{{"plain", Form::Plain},
+                                            {"angle", Form::Angle},
+                                            {"latitude", Form::Latitude},
+                                            {"longitude", Form::Longitude}};
+    for (const Golden& row : golden("number_reading")) {
+        NumberField field{.name = "Box", .unit = row.text("unit")};
+        field.form = forms.at(row.text("form"));
+        if (row.has("low")) field.low = row.number("low");
+        if (row.has("high")) field.high = row.number("high");
+        field.ifEmpty.reset();
+        if (row.text("empty") != "none") field.ifEmpty = row.number("empty");
+
+        const NumberReading reading = readField(row.text("text"), field);
+        const auto value = row.has("value") ? std::optional(row.number("value")) : std::nullopt;
+        EXPECT_EQ(reading.value, value) << row;
+        EXPECT_EQ(reading.remark, row.text("remark")) << row;
+        Remarks remarks;
+        EXPECT_EQ(readField(row.text("text"), field, remarks), reading.value) << row;
+        EXPECT_EQ(remarks.text(), row.has("remark") ? "Box: " + row.text("remark") : "") << row;
+        EXPECT_EQ(remarks.faults.empty(), reading.value.has_value()) << row;
+    }
+    EXPECT_EQ(readField(std::string(400, '9'), {}).remark, "too large a number");
+}
+
+TEST(Reading, kindsOfANumber)
+{
+    using Kind = NumberReading::Kind;
+    const NumberField field{.name = "Box", .low = 0, .high = 90};
+    const std::pair<const char*, Kind> rows[] = {{" ", Kind::Empty},       {"-", Kind::HalfTyped},
+                                                 {"N35", Kind::NoNumber},  {"91", Kind::OutOfRange},
+                                                 {"3,5", Kind::Beginning}, {" 35 ", Kind::Whole}};
+    for (const auto& [text, kind] : rows)
+        EXPECT_EQ(readField(text, field).kind, kind) << text;
+}
+
+TEST(Reading, typedTimes)
+{
+    const std::map<std::string, Due> dues{
+        {"date", Due::Date}, {"time", Due::TimeOfDay}, {"both", Due::DateAndTime}};
+    for (const Golden& row : golden("typed_times")) {
+        const TypedTime time = readTypedTime(row.text("text"), dues.at(row.text("due")));
+        EXPECT_EQ(time.value ? Format(*time.value, "yyyy/mm/dd hh:mm:ss") : "", row.text("shown"))
+            << row;
+        EXPECT_EQ(time.remark, row.text("remark")) << row;
+    }
+    EXPECT_DOUBLE_EQ(readDateTime("6:00").value(), 0.25) << "a time alone has no date";
+    EXPECT_FALSE(readDateTime("1899/12/31"));
+}
+
+TEST(Remarks, aLineOfThem)
+{
+    Remarks remarks;
+    remarks.warn("TD is 9.25");
+    remarks.fault("no date");
+    remarks.fault("");
+    remarks.fault("no time");
+    remarks.fault("no date");
+    EXPECT_EQ(remarks.text(), "no date; no time; TD is 9.25") << "faults first, each once";
+    EXPECT_EQ(Remarks().text(), "");
+    EXPECT_EQ(quotation(std::string(23, 'x') + "°°"), '"' + std::string(23, 'x') + "…\"")
+        << "no character is cut in two";
+    EXPECT_EQ(quotation(std::string(22, 'x') + "°"), '"' + std::string(22, 'x') + "°\"");
+}
+
+TEST(CourseText, thereIsNoCourse360)
+{
+    for (const Golden& row : golden("course_text"))
+        EXPECT_EQ(courseText(row.degrees("degrees"), row.text("mask")), row.text("text")) << row;
+}
+
+} // namespace
+} // namespace korvel

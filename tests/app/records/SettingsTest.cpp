@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "app/records/SettingsFile.h"
+#include "tests/app/FakeMachine.h"
+#include "tests/golden/Golden.h"
+
+#include <limits>
+
+namespace korvel
+{
+namespace
+{
+
+using korvel::testing::FakeClock;
+using korvel::testing::FakeFiles;
+using korvel::testing::FakeQuestions;
+using korvel::testing::Golden;
+using korvel::testing::golden;
+using ::testing::HasSubstr;
+
+TEST(SettingsRecord, writesEachKindOfValue)
+{
+    const struct {
+        Value value;
+        const char* text;
+    } rows[] = {{Value(), ""},
+                {true, "#TRUE#"},
+                {false, "#FALSE#"},
+                {-9.5, "-9.5"},
+                {9.3f, "9.3"},
+                {1e-7, "0.0000001"},
+                {123456789.0, "123456789"},
+                {-0.0, "0"},
+                {std::numeric_limits<double>::infinity(), "0"},
+                {std::string("a,\"港\"\r\nc\td"), "\"a,'港'  c d\""},
+                {std::string("a\0b\x1B\x7F\xC2\x85°", 9), "\"ab°\""}};
+    for (const auto& row : rows)
+        EXPECT_EQ(writeRecord(Record{row.value}), row.text + std::string("\r\n"));
+}
+
+TEST(SettingsRecord, readsBackWhatItWrites)
+{
+    const Record record = {std::string("a, b"), 139.4523, true, Value(), 1.0 / 3, std::string()};
+    const std::vector<Kind> kinds = {Kind::Text,   Kind::Number, Kind::Tick,
+                                     Kind::Number, Kind::Number, Kind::Text};
+    EXPECT_EQ(readRecord(writeRecord(record), kinds).record, record);
+}
+
+/// The values of a record between bars.
+std::string values(const Record& record)
+{
+    std::string text = writeRecord(record);
+    text.erase(text.size() - 2);
+    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;)
+        text.replace(at, 2, "|");
+    return text;
+}
+
+constexpr Kind textNumberTick[] = {Kind::Text, Kind::Number, Kind::Tick};
+
+TEST(SettingsRecord, takesWhatCanBeReadAndNamesTheDamage)
+{
+    for (const Golden& row : golden("settings_records")) {
+        const ReadRecord read = readRecord(row.text("file"), textNumberTick);
+        EXPECT_EQ(values(read.record), row.text("taken")) << row;
+        EXPECT_EQ(read.damageText(), row.text("damage")) << row;
+    }
+}
+
+TEST(SettingsRecord, putsRightWhatALostLineHasShifted)
+{
+    using enum Kind;
+    constexpr Kind kinds[] = {Text,   Figure,   Latitude,  Longitude, Text,
+                              Figure, Latitude, Longitude, Moment};
+    for (const Golden& row : golden("shifted_records")) {
+        std::string file = '"' + row.text("file") + "\"\r\n";
+        for (std::size_t at = 0; (at = file.find('|', at)) != std::string::npos;)
+            file.replace(at, 1, "\"\r\n\"");
+        std::string taken = values(readRecord(file, kinds).record);
+        std::erase(taken, '"');
+        EXPECT_EQ(taken, row.text("taken")) << row;
+    }
+}
+
+TEST(SettingsRecord, isUtf8)
+{
+    const struct {
+        std::string file;
+        const char* taken;
+    } rows[] = {{"\xEF\xBB\xBF\"°港😀\"", "\"°港😀\""},
+                {"\"\xC3(\"", ""},
+                {"\"\xE6\xB8\"", ""},
+                {"\"\x80\"", ""},
+                {"\"\xC0\x80\"", ""},
+                {std::string("\"a\0b\"", 5), ""}};
+    for (const auto& [file, taken] : rows)
+        EXPECT_EQ(values(readRecord(file + "\r\n", std::span(textNumberTick, 1)).record), taken);
+}
+
+class SettingsFileTest : public ::testing::Test
+{
+protected:
+    FakeFiles files;
+    FakeQuestions questions;
+    FakeClock clock; // 2005-03-14 09:45
+    SettingsFile settings{files, questions, clock, "KV_X.ini", {Kind::Number, Kind::Text}};
+};
+
+TEST_F(SettingsFileTest, keepsADamagedFileAsideBeforeItIsOverwritten)
+{
+    const std::string damaged = "7\r\n\"cut o";
+    files.files["KV_X.ini"] = damaged;
+    files.files["KV_X damaged 2005-03-14 0945.ini"] = "of a minute ago";
+    questions.willAnswer(Answer::Ok);
+    EXPECT_EQ(values(settings.load({1.0, std::string("default")}).value()), "7|\"default\"");
+    EXPECT_EQ(questions.asked.back(),
+              "The settings file \"KV_X.ini\" is damaged: value 2 has no closing quote.\r"
+              "What could be read is taken over: check every value.\rBefore anything is written "
+              "over the file, it is kept as \"KV_X damaged 2005-03-14 0945 2.ini\".");
+    EXPECT_EQ(files.files["KV_X.ini"], damaged) << "looking at it changes nothing";
+    EXPECT_TRUE(settings.isProtected());
+
+    files.renameRefusal = "no right";
+    EXPECT_THAT(settings.saveQuietly({1.0, Value()}), HasSubstr("0945 2.ini\": no right"));
+    EXPECT_EQ(files.files["KV_X.ini"], damaged);
+    files.renameRefusal.reset();
+    EXPECT_EQ(settings.saveQuietly({2.0, Value()}), "");
+    EXPECT_EQ(settings.saveQuietly({3.0, Value()}), "");
+    EXPECT_EQ(files.files["KV_X.ini"], "3\r\n\r\n");
+    EXPECT_EQ(files.files["KV_X damaged 2005-03-14 0945 2.ini"], damaged);
+    EXPECT_EQ(files.files.size(), 3u) << "kept aside once";
+}
+
+TEST_F(SettingsFileTest, opensWithDefaultsWhenNothingCanBeRead)
+{
+    EXPECT_FALSE(settings.load()) << "a missing file is no message";
+    files.files["KV_X.ini"] = std::string(50, '\0');
+    questions.willAnswer(Answer::Ok);
+    EXPECT_FALSE(settings.load({1.0, Value()}));
+    EXPECT_THAT(questions.asked.back(), HasSubstr("opens with its defaults"));
+    EXPECT_EQ(settings.damagedText(), std::string(50, '\0'));
+}
+
+TEST_F(SettingsFileTest, aFailedSaveMayBeTriedAgainOrLeft)
+{
+    files.refusal = "disk full";
+    EXPECT_THAT(settings.saveQuietly({1.0}), HasSubstr("KV_X.ini\" could not be saved: disk full"));
+    questions.willAnswer(Answer::Yes, [&] { files.refusal.reset(); });
+    EXPECT_TRUE(settings.saveAtClose({2.0}));
+    EXPECT_EQ(files.files["KV_X.ini"], "2\r\n");
+    files.refusal = "disk full";
+    questions.willAnswer(Answer::Yes);
+    questions.willAnswer(Answer::No);
+    EXPECT_FALSE(settings.saveAtClose({3.0}));
+    EXPECT_EQ(files.files["KV_X.ini"], "2\r\n");
+}
+
+} // namespace
+} // namespace korvel
