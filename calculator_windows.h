@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/WindowCatalogue.h"
+#include "shell/program/WindowCatalogue.h"
 
 namespace korvel
 {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
-#include "app/shell/ProgramFolder.h"
 #include "forms/frmTIDE/Stations.h"
 #include "forms/frmTIDE/TideTables.h"
 #include "navlib/datetime.h"
+#include "shell/machine/ProgramFolder.h"
 
 #include <algorithm>
 #include <cmath>

@@ -11,7 +11,7 @@ target_link_libraries(ephemeris_bench PRIVATE navlib benchmark::benchmark ${ERFA
 add_executable(ephemeris_accuracy
   ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp
   ${CMAKE_SOURCE_DIR}/tests/navlib/accuracy/ErfaReference.cpp)
-target_link_libraries(ephemeris_accuracy PRIVATE app_core ${ERFA_LIBRARY})
+target_link_libraries(ephemeris_accuracy PRIVATE app_reading ${ERFA_LIBRARY})
 
 # A change of date with sixteen rows filled, its one save included: at most 40 times the bare box.
 add_executable(sunmoon_bench ${CMAKE_CURRENT_LIST_DIR}/ui/SunMoonBench.cpp)

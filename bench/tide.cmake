@@ -5,10 +5,10 @@
 # 0.4 of peer/tide_from_disk (a plain sum, which reads its record and works the arguments out);
 # ours/tide_month at most 20 of peer/tide_month (a day of it as the window shows it).
 add_executable(tide_accuracy TideAccuracy.cpp)
-target_link_libraries(tide_accuracy PRIVATE frmTIDE_calculation app_shell)
+target_link_libraries(tide_accuracy PRIVATE frmTIDE_calculation shell_main)
 
 add_executable(tide_bench navlib/TideBench.cpp)
-target_link_libraries(tide_bench PRIVATE tidedata_sources frmTIDE_calculation app_shell benchmark::benchmark)
+target_link_libraries(tide_bench PRIVATE tidedata_sources frmTIDE_calculation shell_main benchmark::benchmark)
 
 foreach(target tide_accuracy tide_bench)
   target_compile_definitions(${target} PRIVATE KORVEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")

@@ -2,8 +2,8 @@
 #include "app/reading/TypedTime.h"
 
 #include "app/reading/Format.h"
-#include "app/reading/Remarks.h"
 #include "app/reading/Reading.h"
+#include "app/reading/Remarks.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/records/KV_Savedvalue.h"
 #include "app/machine/Questions.h"
-#include "app/records/SettingsFile.h"
 #include "app/reading/Reading.h"
+#include "app/records/KV_Savedvalue.h"
+#include "app/records/SettingsFile.h"
 #include "navlib/units.h"
 
 #include <functional>

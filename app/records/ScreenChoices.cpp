@@ -40,7 +40,7 @@ std::string_view nextWord(std::string_view& text, char end)
     return word;
 }
 
-std::optional<int> wholeNumber(std::string_view word)
+std::optional<int> integerOf(std::string_view word)
 {
     int number = 0;
     const auto [end, fault] = std::from_chars(word.data(), word.data() + word.size(), number);
@@ -53,7 +53,7 @@ std::optional<WindowPlace> placeOf(std::string_view words)
     WindowPlace place;
     int open = 0;
     for (int* each : {&place.x, &place.y, &place.width, &place.height, &place.zoom, &open}) {
-        const auto number = wholeNumber(nextWord(words, ' '));
+        const auto number = integerOf(nextWord(words, ' '));
         if (!number) return std::nullopt;
         *each = *number;
     }

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/machine/ComputerClock.h"
-#include "app/records/FileStore.h"
 #include "app/machine/Questions.h"
+#include "app/records/FileStore.h"
 #include "app/records/SettingsRecord.h"
 
 #include <optional>

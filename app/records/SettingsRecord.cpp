@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/records/SettingsRecord.h"
 
-#include "app/records/DelimitedText.h"
 #include "app/reading/Remarks.h"
+#include "app/records/DelimitedText.h"
 #include "app/records/ShiftedRecord.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/records/KV_Savedvalue.h"
 #include "app/machine/Questions.h"
+#include "app/records/KV_Savedvalue.h"
 #include "navlib/units.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/working/Journal.h"
 
-#include "app/reading/Format.h"
 #include "app/reading/Ascii.h"
+#include "app/reading/Format.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/shell/ProgramFolder.h"
 #include "forms/frmTIDE/TideData.h"
 #include "forms/frmTIDE/TideExtension.h"
 #include "forms/frmTIDE/TideTables.h"
+#include "shell/machine/ProgramFolder.h"
 #include "tools/tidedata/sources.h"
 
 #include <benchmark/benchmark.h>

@@ -2,7 +2,7 @@
 // save_killed FOLDER ROUNDS: kills a process at a random moment of saving a settings file, again
 // and again, and looks at what is left: the old file or the new one byte for byte, never less.
 
-#include "app/shell/ProgramFolder.h"
+#include "shell/machine/ProgramFolder.h"
 
 #include <QDir>
 

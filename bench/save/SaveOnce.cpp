@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // save_once FOLDER TEXT: saves a settings file once; on failure says why and ends with 1.
 
-#include "app/shell/ProgramFolder.h"
+#include "shell/machine/ProgramFolder.h"
 
 #include <cstdio>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "app/shell/PaperWindow.h"
 #include "bench/ui/main.h"
+#include "shell/paper/PaperWindow.h"
 #include "tools/papers/ExamplePaper.h"
 
 #include <QApplication>

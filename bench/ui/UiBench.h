@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ProgramFolder.h"
-#include "app/shell/frmKORVEL2000.h"
 #include "bench/ui/Keystroke.h"
+#include "shell/machine/ProgramFolder.h"
+#include "shell/main/frmKORVEL2000.h"
 #include "tools/unattended/Unattended.h"
 
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/shell/PictureBox.h"
 #include "bench/ui/UiBench.h"
 #include "bench/ui/main.h"
 #include "forms/frmWind/frmWind.h"
+#include "shell/controls/PictureBox.h"
 
 #include <QMouseEvent>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "bench/ui/main.h"
 
-#include "app/shell/ScreenStyle.h"
 #include "bench/ui/Keystroke.h"
+#include "shell/screen/ScreenStyle.h"
 
 #include <benchmark/benchmark.h>
 

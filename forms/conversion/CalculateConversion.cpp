@@ -2,9 +2,9 @@
 #include "forms/conversion/CalculateConversion.h"
 
 #include "app/reading/Format.h"
-#include "app/records/KORVEL2000Actions.h"
 #include "app/reading/NumberField.h"
 #include "app/reading/Reading.h"
+#include "app/records/KORVEL2000Actions.h"
 #include "navlib/arithmetic_error.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/ConversionWindow.h"
 
-#include "app/shell/asQString.h"
-#include "app/shell/panels.h"
 #include "forms/conversion/CalculateConversion.h"
 #include "forms/conversion/ConversionWorking.h"
 #include "navlib/arithmetic_error.h"
+#include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
 #include "navlib/unit_tables.h"
+#include "shell/window/CalculatorWindow.h"
 
 namespace korvel
 {

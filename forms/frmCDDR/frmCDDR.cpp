@@ -2,10 +2,10 @@
 #include "forms/frmCDDR/frmCDDR.h"
 
 #include "app/reading/Format.h"
-#include "app/shell/panels.h"
 #include "forms/frmCDDR/CDDRFields.h"
 #include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
+#include "shell/controls/Panels.h"
 
 #include <QAction>
 #include <QButtonGroup>

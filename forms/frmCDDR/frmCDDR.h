@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
 #include "forms/frmCDDR/CalculateCD.h"
 #include "forms/frmCDDR/CalculateDR.h"
+#include "shell/window/CalculatorWindow.h"
 
 class QGroupBox;
 class QRadioButton;

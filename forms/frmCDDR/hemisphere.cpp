@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCDDR/hemisphere.h"
 
-#include "app/records/KORVEL2000Actions.h"
 #include "app/reading/Reading.h"
+#include "app/records/KORVEL2000Actions.h"
 
 namespace korvel
 {

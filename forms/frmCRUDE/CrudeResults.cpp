@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCRUDE/CrudeResults.h"
 
-#include "app/shell/panels.h"
+#include "shell/controls/Panels.h"
 
 #include <QGridLayout>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ResultLabel.h"
 #include "forms/frmCRUDE/CalculateCrude.h"
+#include "shell/controls/ResultLabel.h"
 
 #include <vector>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCRUDE/frmCRUDE.h"
 
-#include "app/shell/panels.h"
-#include "app/shell/widget_colours.h"
 #include "forms/frmCRUDE/CrudeFields.h"
 #include "forms/frmCRUDE/CrudeWorking.h"
+#include "shell/controls/Panels.h"
+#include "shell/screen/WidgetColours.h"
 
 #include <QAction>
 #include <QCheckBox>

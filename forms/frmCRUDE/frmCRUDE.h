@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
 #include "forms/frmCRUDE/CrudeResults.h"
+#include "shell/window/CalculatorWindow.h"
 
 #include <functional>
 

@@ -2,11 +2,11 @@
 #include "forms/frmETA/frmETA.h"
 
 #include "app/reading/Format.h"
-#include "app/shell/panels.h"
 #include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/ETAWorking.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "forms/frmETA/Steps.h"
+#include "shell/controls/Panels.h"
 
 #include <QAction>
 #include <QGridLayout>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
-#include "app/shell/FollowingTD.h"
 #include "forms/frmETA/CalculateETA.h"
 #include "forms/frmETA/CalculateReqSpd.h"
+#include "shell/window/CalculatorWindow.h"
+#include "shell/window/FollowingTD.h"
 
 class QGroupBox;
 class QScrollBar;

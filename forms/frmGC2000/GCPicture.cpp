@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/GCPicture.h"
 
-#include "app/shell/Legend.h"
+#include "shell/controls/Legend.h"
 
 #include <QLineF>
 #include <QtMath>

@@ -2,13 +2,13 @@
 #include "forms/frmGC2000/frmGC2000.h"
 
 #include "app/working/SailingWorking.h"
-#include "app/shell/FollowingScrollArea.h"
-#include "app/shell/panels.h"
 #include "forms/frmGC2000/DrawWPs.h"
 #include "forms/frmGC2000/GCFields.h"
 #include "forms/frmGC2000/GCPicture.h"
 #include "forms/frmGC2000/GCWorking.h"
 #include "navlib/arithmetic_error.h"
+#include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/Panels.h"
 
 #include <QAction>
 #include <QGridLayout>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
-#include "app/shell/RowTable.h"
 #include "forms/frmGC2000/CalculateGC.h"
+#include "shell/controls/RowTable.h"
+#include "shell/window/CalculatorWindow.h"
 
 namespace korvel
 {

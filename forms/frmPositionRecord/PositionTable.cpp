@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/PositionTable.h"
 
-#include "app/shell/widget_colours.h"
+#include "shell/screen/WidgetColours.h"
 
 namespace korvel
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/RowTable.h"
 #include "forms/frmPositionRecord/PositionRecord.h"
+#include "shell/controls/RowTable.h"
 
 #include <array>
 

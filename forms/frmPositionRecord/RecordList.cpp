@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/RecordList.h"
 
-#include "app/records/DelimitedText.h"
 #include "app/reading/Format.h"
-#include "app/records/KORVEL2000Actions.h"
 #include "app/reading/Remarks.h"
+#include "app/records/DelimitedText.h"
+#include "app/records/KORVEL2000Actions.h"
 #include "forms/frmPositionRecord/FixTime.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"

@@ -2,13 +2,13 @@
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
 #include "app/reading/Format.h"
-#include "app/shell/CellLayout.h"
-#include "app/shell/FollowingScrollArea.h"
 #include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/PrintRecord.h"
 #include "forms/frmPositionRecord/RecordList.h"
 #include "forms/frmPositionRecord/RecordPaper.h"
 #include "forms/frmPositionRecord/RecordText.h"
+#include "shell/controls/CellLayout.h"
+#include "shell/controls/FollowingScrollArea.h"
 
 #include <QAction>
 #include <QApplication>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
-#include "app/shell/FocusFollower.h"
 #include "forms/frmPositionRecord/PositionTable.h"
+#include "shell/controls/FocusFollower.h"
+#include "shell/window/CalculatorWindow.h"
 
 namespace korvel
 {

@@ -2,11 +2,11 @@
 #include "forms/frmSunMoon/frmSunMoon.h"
 
 #include "app/reading/Format.h"
-#include "app/shell/FollowingScrollArea.h"
-#include "app/shell/WrappingRow.h"
-#include "app/shell/asQString.h"
-#include "app/shell/widget_colours.h"
 #include "forms/frmSunMoon/RiseSetWorking.h"
+#include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/WrappingRow.h"
+#include "shell/machine/AsQString.h"
+#include "shell/screen/WidgetColours.h"
 
 #include <QGridLayout>
 #include <QMenu>

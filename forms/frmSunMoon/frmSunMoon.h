@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
-#include "app/shell/FocusFollower.h"
-#include "app/shell/RowTable.h"
 #include "forms/frmSunMoon/CalculateRiseSet.h"
+#include "shell/controls/FocusFollower.h"
+#include "shell/controls/RowTable.h"
+#include "shell/window/CalculatorWindow.h"
 
 class QScrollBar;
 

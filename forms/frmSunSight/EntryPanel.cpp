@@ -2,9 +2,9 @@
 #include "forms/frmSunSight/EntryPanel.h"
 
 #include "app/reading/Reading.h"
-#include "app/shell/WrappingRow.h"
 #include "forms/frmSunSight/PanelParts.h"
 #include "forms/frmSunSight/SightLine.h"
+#include "shell/controls/WrappingRow.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

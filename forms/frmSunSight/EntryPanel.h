@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/FieldBoxes.h"
 #include "forms/frmSunSight/SightFields.h"
+#include "shell/controls/FieldBoxes.h"
 
 #include <QWidget>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/PaperDocument.h"
-#include "app/shell/ResultLabel.h"
 #include "forms/frmSunSight/DrawLOP.h"
+#include "shell/controls/ResultLabel.h"
+#include "shell/paper/PaperDocument.h"
 
 #include <array>
 #include <functional>

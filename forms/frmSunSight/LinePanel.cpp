@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/LinePanel.h"
 
-#include "app/shell/Boxes.h"
 #include "forms/frmSunSight/PanelParts.h"
+#include "shell/controls/Boxes.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ResultLabel.h"
 #include "forms/frmSunSight/CalculateLOP.h"
 #include "forms/frmSunSight/MeridianPassage.h"
+#include "shell/controls/ResultLabel.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/PanelParts.h"
 
-#include "app/shell/Boxes.h"
+#include "shell/controls/Boxes.h"
 
 #include <QPushButton>
 

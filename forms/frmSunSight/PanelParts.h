@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ResultLabel.h"
-#include "app/shell/panels.h"
+#include "shell/controls/Panels.h"
+#include "shell/controls/ResultLabel.h"
 
 #include <QGroupBox>
 

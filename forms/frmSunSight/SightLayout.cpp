@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightLayout.h"
 
-#include "app/shell/panels.h"
 #include "forms/frmSunSight/EntryPanel.h"
 #include "forms/frmSunSight/FixPanel.h"
 #include "forms/frmSunSight/LinePanel.h"
 #include "forms/frmSunSight/SightListPanel.h"
+#include "shell/controls/Panels.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

@@ -2,9 +2,9 @@
 #include "forms/frmSunSight/SightListPanel.h"
 
 #include "app/reading/PackedText.h"
-#include "app/shell/asQString.h"
 #include "forms/frmSunSight/PanelParts.h"
 #include "forms/frmSunSight/SightLines.h"
+#include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
 #include <QPushButton>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightPicture.h"
-#include "app/shell/asQString.h"
+#include "shell/machine/AsQString.h"
 
 #include <QKeyEvent>
 #include <QPainterPath>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ColourScheme.h"
-#include "app/shell/PictureBox.h"
 #include "forms/frmSunSight/DrawLOP.h"
+#include "shell/controls/PictureBox.h"
+#include "shell/screen/ColourScheme.h"
 
 namespace korvel
 {

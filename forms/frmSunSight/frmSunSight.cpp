@@ -3,13 +3,13 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
-#include "app/shell/asQString.h"
 #include "forms/frmSunSight/EntryPanel.h"
 #include "forms/frmSunSight/FixPanel.h"
 #include "forms/frmSunSight/LinePanel.h"
 #include "forms/frmSunSight/SightLayout.h"
 #include "forms/frmSunSight/SightListPanel.h"
 #include "forms/frmSunSight/SightPaper.h"
+#include "shell/machine/AsQString.h"
 
 #include <QMenu>
 

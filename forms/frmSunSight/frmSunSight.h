@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
 #include "forms/frmSunSight/CalculateLOP.h"
 #include "forms/frmSunSight/MeridianPassage.h"
 #include "forms/frmSunSight/SightEditing.h"
 #include "forms/frmSunSight/SightFix.h"
 #include "forms/frmSunSight/SightSettings.h"
+#include "shell/window/CalculatorWindow.h"
 
 #include <optional>
 

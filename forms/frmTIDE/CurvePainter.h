@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ColourScheme.h"
 #include "forms/frmTIDE/DrawCurve.h"
+#include "shell/screen/ColourScheme.h"
 
 #include <QFontMetrics>
 #include <QPainter>

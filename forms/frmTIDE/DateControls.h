@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ResultLabel.h"
+#include "shell/controls/ResultLabel.h"
 
 #include <QScrollBar>
 

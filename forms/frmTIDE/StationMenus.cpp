@@ -2,10 +2,10 @@
 #include "forms/frmTIDE/StationMenus.h"
 
 #include "app/reading/Format.h"
-#include "app/records/KV_Savedvalue.h"
 #include "app/reading/PackedText.h"
-#include "app/shell/Boxes.h"
+#include "app/records/KV_Savedvalue.h"
 #include "forms/frmTIDE/TideData.h"
+#include "shell/controls/Boxes.h"
 
 namespace korvel
 {

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Program.h"
-#include "app/shell/WindowMenus.h"
 #include "forms/frmTIDE/StationList.h"
 #include "forms/frmTIDE/StationSearch.h"
 #include "forms/frmTIDE/Stations.h"
 #include "forms/frmTIDE/TideHabits.h"
+#include "shell/program/Program.h"
+#include "shell/program/WindowMenus.h"
 
 #include <QAction>
 #include <QMenu>

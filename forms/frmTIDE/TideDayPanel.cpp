@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideDayPanel.h"
 
-#include "app/shell/Boxes.h"
-#include "app/shell/WrappingRow.h"
-#include "app/shell/panels.h"
+#include "shell/controls/Boxes.h"
+#include "shell/controls/Panels.h"
+#include "shell/controls/WrappingRow.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>

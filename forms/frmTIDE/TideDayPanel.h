@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/FieldBoxes.h"
-#include "app/shell/ResultLabel.h"
 #include "forms/frmTIDE/TideWaters.h"
+#include "shell/controls/FieldBoxes.h"
+#include "shell/controls/ResultLabel.h"
 
 #include <QWidget>
 

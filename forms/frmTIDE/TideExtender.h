@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Program.h"
 #include "forms/frmTIDE/TideExtension.h"
+#include "shell/program/Program.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideFoot.h"
 
-#include "app/shell/panels.h"
 #include "forms/frmTIDE/NoteLabel.h"
+#include "shell/controls/Panels.h"
 
 #include <QVBoxLayout>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/records/Value.h"
 #include "app/records/SettingsRecord.h"
+#include "app/records/Value.h"
 
 #include <string>
 #include <vector>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideHead.h"
 
-#include "app/shell/WrappingRow.h"
-#include "app/shell/panels.h"
 #include "forms/frmTIDE/NoteLabel.h"
+#include "shell/controls/Panels.h"
+#include "shell/controls/WrappingRow.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Boxes.h"
-#include "app/shell/ResultLabel.h"
 #include "forms/frmTIDE/DateControls.h"
 #include "forms/frmTIDE/StationLines.h"
 #include "forms/frmTIDE/TideChoice.h"
+#include "shell/controls/Boxes.h"
+#include "shell/controls/ResultLabel.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideReports.h"
-#include "app/shell/asQString.h"
-#include "app/shell/execOwned.h"
+#include "shell/machine/AsQString.h"
+#include "shell/machine/ExecOwned.h"
 
 #include "forms/frmTIDE/StationCheck.h"
 #include "forms/frmTIDE/Stations.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/PagePrinter.h"
-#include "app/shell/Program.h"
 #include "forms/frmTIDE/StationLines.h"
 #include "forms/frmTIDE/TideTables.h"
 #include "forms/frmTIDE/frmTIDEPicture.h"
+#include "shell/paper/PagePrinter.h"
+#include "shell/program/Program.h"
 
 #include <QWidget>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/FollowingScrollArea.h"
 #include "forms/frmTIDE/TideDayPanel.h"
 #include "forms/frmTIDE/TideFoot.h"
 #include "forms/frmTIDE/TideHead.h"
 #include "forms/frmTIDE/frmTIDEPicture.h"
+#include "shell/controls/FollowingScrollArea.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/TideWeekPage.h"
-#include "app/shell/asQString.h"
+#include "shell/machine/AsQString.h"
 
 #include "forms/frmTIDE/PageText.h"
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "app/records/SettingsFile.h"
-#include "app/shell/CalculatorWindow.h"
 #include "forms/frmTIDE/FullConstants.h"
 #include "forms/frmTIDE/StationLines.h"
 #include "forms/frmTIDE/StationList.h"
@@ -12,6 +11,7 @@
 #include "forms/frmTIDE/TideMenus.h"
 #include "forms/frmTIDE/TideReports.h"
 #include "forms/frmTIDE/TideSheet.h"
+#include "shell/window/CalculatorWindow.h"
 
 #include <QTimer>
 

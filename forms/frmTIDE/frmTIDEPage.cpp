@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDEPage.h"
-#include "app/shell/asQString.h"
+#include "shell/machine/AsQString.h"
 
-#include "app/reading/Format.h"
 #include "app/machine/Questions.h"
+#include "app/reading/Format.h"
 #include "forms/frmTIDE/PageText.h"
 
 #include <algorithm>

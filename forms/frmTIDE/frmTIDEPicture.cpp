@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDEPicture.h"
 
-#include "app/shell/Boxes.h"
 #include "forms/frmTIDE/CurvePainter.h"
+#include "shell/controls/Boxes.h"
 
 #include <QFontInfo>
 #include <QKeyEvent>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/PictureBox.h"
-#include "app/shell/Program.h"
 #include "forms/frmTIDE/CurvePainter.h"
+#include "shell/controls/PictureBox.h"
+#include "shell/program/Program.h"
 
 #include <QLabel>
 

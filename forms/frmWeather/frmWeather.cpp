@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWeather/frmWeather.h"
 
-#include "app/shell/CellLayout.h"
-#include "app/shell/panels.h"
 #include "forms/frmWeather/CalculateWeather.h"
 #include "forms/frmWeather/WeatherFields.h"
 #include "forms/frmWeather/WeatherWorking.h"
 #include "navlib/weather_terms.h"
+#include "shell/controls/CellLayout.h"
+#include "shell/controls/Panels.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

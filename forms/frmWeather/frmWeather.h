@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
+#include "shell/window/CalculatorWindow.h"
 
 class QGroupBox;
 

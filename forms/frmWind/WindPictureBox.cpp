@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/WindPictureBox.h"
 
-#include "app/shell/Legend.h"
+#include "shell/controls/Legend.h"
 
 #include <QLineF>
 

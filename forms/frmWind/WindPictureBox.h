@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/FigureText.h"
-#include "app/shell/PictureBox.h"
-#include "app/shell/Program.h"
 #include "forms/frmWind/WindPicture.h"
+#include "shell/controls/FigureText.h"
+#include "shell/controls/PictureBox.h"
+#include "shell/program/Program.h"
 
 #include <optional>
 

@@ -2,10 +2,10 @@
 #include "forms/frmWind/frmWind.h"
 
 #include "app/reading/Reading.h"
-#include "app/shell/panels.h"
 #include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"
 #include "forms/frmWind/WindWorking.h"
+#include "shell/controls/Panels.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/CalculatorWindow.h"
 #include "forms/frmWind/CalculateWind.h"
+#include "shell/window/CalculatorWindow.h"
 
 class QGroupBox;
 class QRadioButton;

@@ -43,7 +43,7 @@ endfunction()
 
 set(library navlib/angles.h)
 set(shared app/reading/Format.h)
-set(shell app/shell/Program.h)
+set(shell shell/program/Program.h)
 set(toolkit QString)
 set(fakes tests/app/FakeMachine.h tests/golden/Golden.h)
 

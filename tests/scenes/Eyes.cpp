@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
-#include "app/shell/PaperWindow.h"
+#include "shell/paper/PaperWindow.h"
 #include "tests/scenes/Steps.h"
 #include "tests/shell/Pixels.h"
 #include "tools/papers/ExamplePaper.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/shell/PictureBox.h"
+#include "shell/controls/PictureBox.h"
 #include "tests/scenes/Steps.h"
 
 #include <QAbstractButton>

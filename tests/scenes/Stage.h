@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/MessageQuestions.h"
+#include "shell/machine/MessageQuestions.h"
 #include "tests/scenes/Script.h"
 #include "tests/shell/ShellTesting.h"
 

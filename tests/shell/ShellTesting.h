@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/ProgramFolder.h"
-#include "app/shell/frmKORVEL2000.h"
+#include "shell/machine/ProgramFolder.h"
+#include "shell/main/frmKORVEL2000.h"
 #include "tests/app/FakeMachine.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/Boxes.h"
 #include "calculator_windows.h"
+#include "shell/controls/Boxes.h"
 #include "tests/SourceFolder.h"
 #include "tests/shell/ShellTesting.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/shell/ScreenStyle.h"
+#include "shell/screen/ScreenStyle.h"
 #include "tests/scenes/SceneTest.h"
 
 #include <gmock/gmock.h>

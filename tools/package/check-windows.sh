@@ -87,7 +87,7 @@ run_suites() {
     say "The suites of the library and the calculations under Wine"
     configure_for_windows /usr/src/googletest "$test_library/build" -DCMAKE_INSTALL_PREFIX="$test_library"
     cmake --build "$test_library/build" --target install >/dev/null
-    local suite suites="navlib_test app_core_test calculations_test"
+    local suite suites="navlib_test app_test calculations_test"
     # shellcheck disable=SC2086
     build_windows $suites
     for suite in $suites; do

@@ -13,9 +13,9 @@ install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/korvel2000)
 install(DIRECTORY docs/manual DESTINATION ${CMAKE_INSTALL_DATADIR}/korvel2000)
 install(FILES ${desktop}/korvel2000.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
-install(FILES app/shell/icon/korvel2000.svg DESTINATION ${icons}/scalable/apps)
+install(FILES shell/main/icon/korvel2000.svg DESTINATION ${icons}/scalable/apps)
 foreach(size 16 24 32 48 64 128 256)
-  install(FILES app/shell/icon/korvel2000-${size}.png DESTINATION ${icons}/${size}x${size}/apps
+  install(FILES shell/main/icon/korvel2000-${size}.png DESTINATION ${icons}/${size}x${size}/apps
           RENAME korvel2000.png)
 endforeach()
 install(FILES ${pages}/korvel2000.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

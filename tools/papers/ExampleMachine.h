@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/shell/RecordsFolder.h"
-#include "app/shell/frmKORVEL2000.h"
+#include "shell/machine/RecordsFolder.h"
+#include "shell/main/frmKORVEL2000.h"
 #include "tools/unattended/Unattended.h"
 
 #include <QTemporaryDir>

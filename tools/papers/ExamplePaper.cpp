@@ -2,9 +2,9 @@
 #include "tools/papers/ExamplePaper.h"
 
 #include "app/reading/Reading.h"
-#include "app/shell/PaperWindow.h"
-#include "app/shell/ResultLabel.h"
 #include "calculator_windows.h"
+#include "shell/controls/ResultLabel.h"
+#include "shell/paper/PaperWindow.h"
 
 #include <QAbstractButton>
 #include <QAction>

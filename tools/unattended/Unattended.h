@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/machine/Questions.h"
-#include "app/shell/Bell.h"
+#include "shell/machine/Bell.h"
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "app/reading/Remarks.h"
 #include "app/records/KV_Savedvalue.h"
 #include "app/records/RecoveryFile.h"
-#include "app/reading/Remarks.h"
 #include "tests/app/FakeMachine.h"
 #include "tests/golden/Golden.h"
 

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/Boxes.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QMouseEvent>
+#include <QValidator>
+
+#include <algorithm>
+#include <utility>
+
+namespace korvel
+{
+namespace
+{
+
+/// Every way into a box leads through its validator: keys, paste, drop, middle click, an input
+/// method. A control character in a record would make all of it unreadable.
+class WithoutControls : public QValidator
+{
+public:
+    using QValidator::QValidator;
+
+    State validate(QString& text, int& cursor) const override
+    {
+        const auto isControl = [](QChar each) {
+            return each.category() == QChar::Other_Control ||
+                   each.category() == QChar::Separator_Line ||
+                   each.category() == QChar::Separator_Paragraph;
+        };
+        if (std::none_of(text.begin(), text.end(), isControl)) return Acceptable;
+        QString clean;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const QChar each = text[i];
+            if (!isControl(each))
+                clean += each;
+            else if (each.isSpace())
+                clean += u' ';
+            else if (i < cursor)
+                --cursor;
+        }
+        text = clean;
+        return Acceptable;
+    }
+};
+
+} // namespace
+
+QString memberName(const QString& array, int index)
+{
+    return QString("%1(%2)").arg(array).arg(index);
+}
+
+EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
+{
+    setMinimumWidth(fontMetrics().horizontalAdvance("-139.4523000"));
+    setMaxLength(longestFigure);
+    setValidator(new WithoutControls(this));
+    // What is too long for the box shows its beginning: 142 degrees are not to be read as 42.
+    // Never under a hand that types, whether the window is the active one or not.
+    connect(this, &QLineEdit::textEdited, this, [this] { m_isEdited = true; });
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!std::exchange(m_isEdited, false) && !hasFocus()) setCursorPosition(0);
+    });
+}
+
+void EntryBox::focusInEvent(QFocusEvent* event)
+{
+    QLineEdit::focusInEvent(event);
+    m_focusedByMouse = event->reason() == Qt::MouseFocusReason;
+    // A context menu that closes must not undo what was selected for it, and an alarm in the middle
+    // of a number must not make the next digit replace the ones before it.
+    if (event->reason() != Qt::PopupFocusReason && !m_interrupted) selectAll();
+    m_interrupted = false;
+}
+
+void EntryBox::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    m_interrupted =
+        event->reason() == Qt::ActiveWindowFocusReason && QApplication::activeModalWidget();
+    const bool leaves =
+        event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
+    if (leaves) setCursorPosition(0);
+    if (leaves && onLeave) onLeave();
+}
+
+void EntryBox::mousePressEvent(QMouseEvent* event)
+{
+    // The click that brings the focus selects all; its own cursor placement would undo that.
+    if (m_focusedByMouse && event->button() == Qt::LeftButton) return;
+    QLineEdit::mousePressEvent(event);
+}
+
+void EntryBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_focusedByMouse && event->button() == Qt::LeftButton) {
+        m_focusedByMouse = false;
+        selectAll();
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void EntryBox::keyPressEvent(QKeyEvent* event)
+{
+    m_focusedByMouse = false;
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    if (onEnter) onEnter();
+    if (m_next && m_next != this)
+        m_next->setFocus(Qt::TabFocusReason);
+    else
+        selectAll();
+}
+
+KeyUpBox::KeyUpBox(QWidget* parent) : EntryBox(parent)
+{
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (!m_keyGoingDown) settle();
+    });
+}
+
+void KeyUpBox::fill(const QString& text)
+{
+    m_held = text;
+    // A result is shown in full, however long; the limit is for what is typed.
+    setMaxLength(std::max<int>(longestFigure, static_cast<int>(text.size())));
+    setText(text);
+}
+
+void KeyUpBox::keyPressEvent(QKeyEvent* event)
+{
+    m_keyGoingDown = true;
+    EntryBox::keyPressEvent(event);
+    m_keyGoingDown = false;
+}
+
+void KeyUpBox::keyReleaseEvent(QKeyEvent* event)
+{
+    EntryBox::keyReleaseEvent(event);
+    settle();
+}
+
+void KeyUpBox::focusOutEvent(QFocusEvent* event)
+{
+    settle(); // a key may be released in the next box
+    EntryBox::focusOutEvent(event);
+}
+
+void KeyUpBox::settle()
+{
+    if (text() == m_held) return;
+    m_held = text();
+    if (onKeyUp) onKeyUp();
+}
+
+std::vector<Kind> recordKinds(const std::vector<EntryBox*>& boxes)
+{
+    std::vector<Kind> kinds;
+    kinds.reserve(boxes.size());
+    for (const EntryBox* box : boxes)
+        kinds.push_back(box->recordKind);
+    return kinds;
+}
+
+void setEntryOrder(const std::vector<EntryBox*>& boxes)
+{
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        boxes[i]->setNext(boxes[(i + 1) % boxes.size()]);
+}
+
+} // namespace korvel

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/FieldBoxes.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
+#include "app/records/KORVEL2000Actions.h"
+
+#include <QGridLayout>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+EntryBox* boxOf(const Field& field, QWidget* parent)
+{
+    switch (field.kind) {
+    case FieldKind::Latitude:
+        return new PositionBox(Axis::Latitude, parent);
+    case FieldKind::Longitude:
+        return new PositionBox(Axis::Longitude, parent);
+    case FieldKind::KeyUp:
+        return new KeyUpBox(parent);
+    case FieldKind::Text:
+    case FieldKind::Moment:
+    case FieldKind::Number:
+        break;
+    }
+    return new EntryBox(parent);
+}
+
+Kind recordKindOf(FieldKind kind)
+{
+    switch (kind) {
+    case FieldKind::Text:
+        return Kind::Text;
+    case FieldKind::Moment:
+        return Kind::Moment;
+    case FieldKind::Latitude:
+        return Kind::Latitude;
+    case FieldKind::Longitude:
+        return Kind::Longitude;
+    case FieldKind::Number:
+    case FieldKind::KeyUp:
+        break;
+    }
+    return Kind::Figure;
+}
+
+QString limitsInWords(const Field& field)
+{
+    const QString low = QString::number(field.low);
+    const QString high = QString::number(field.high, 'g', 10);
+    if (std::isinf(field.low)) return std::isinf(field.high) ? QString() : "to " + high;
+    return std::isinf(field.high) ? "from " + low : low + " to " + high;
+}
+
+/// A date, a time of day or both as they were read; empty when they could not be.
+std::string momentInFull(const std::string& typed)
+{
+    const auto moment = readDateTime(typed);
+    if (!moment) return {};
+    const auto colons = std::ranges::count(asciiForms(typed), ':');
+    const std::string time = colons == 0 ? "" : colons == 1 ? "hh:mm" : "hh:mm:ss";
+    const bool hasDate = *moment >= 1; // a time alone belongs to day 0
+    if (!hasDate) return Format(*moment, time);
+    return Format(*moment, "yyyy-mm-dd" + (time.empty() ? time : ' ' + time));
+}
+
+} // namespace
+
+FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(table)
+{
+    for (const Field& field : table) {
+        EntryBox* box = boxOf(field, parent);
+        box->setObjectName(field.name);
+        box->setAccessibleName(field.accessibleName);
+        box->recordKind = recordKindOf(field.kind);
+        box->setLimits(limitsInWords(field));
+        // A position box tells what was understood in this place.
+        if (!qobject_cast<PositionBox*>(box)) box->setAccessibleDescription(box->limits());
+        if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
+        if (field.kind == FieldKind::Longitude && !m_boxes.empty())
+            if (auto* latitude = dynamic_cast<PositionBox*>(m_boxes.back()))
+                PositionBox::pair(latitude, static_cast<PositionBox*>(box));
+        m_boxes.push_back(box);
+    }
+    setEntryOrder(m_boxes);
+}
+
+PositionBox* FieldBoxes::position(std::size_t field) const
+{
+    return static_cast<PositionBox*>(m_boxes.at(field));
+}
+
+KeyUpBox* FieldBoxes::keyUp(std::size_t field) const
+{
+    return static_cast<KeyUpBox*>(m_boxes.at(field));
+}
+
+std::vector<EntryBox*> FieldBoxes::part(std::size_t first, std::size_t count) const
+{
+    const auto from = m_boxes.begin() + static_cast<std::ptrdiff_t>(first);
+    return {from, from + static_cast<std::ptrdiff_t>(count)};
+}
+
+void FieldBoxes::clear(std::size_t first, std::size_t count)
+{
+    for (EntryBox* box : part(first, count))
+        box->clear();
+}
+
+std::string FieldBoxes::unitOnPaper(std::size_t field) const
+{
+    // What stands behind a box may tell how to write in it; behind a figure of a paper it would be
+    // taken for its unit.
+    const std::string unit = m_table[field].unit;
+    if (m_table[field].kind == FieldKind::Moment && unit.find_first_of("/:") != unit.npos)
+        return {};
+    const std::size_t sign = unit.find(", ");
+    return sign == unit.npos ? unit : unit.substr(0, sign) + " (" + unit.substr(sign + 2) + ')';
+}
+
+PaperFigure FieldBoxes::paperFigure(std::size_t field) const
+{
+    const Field& declared = m_table[field];
+    const std::string typed = m_boxes.at(field)->value();
+    PaperFigure figure{nameInWords(declared).toStdString(), typed, unitOnPaper(field)};
+    switch (declared.kind) {
+    case FieldKind::Latitude:
+        figure.value = positionEcho(typed, Axis::Latitude).text;
+        figure.unit.clear();
+        break;
+    case FieldKind::Longitude:
+        figure.value = positionEcho(typed, Axis::Longitude).text;
+        figure.unit.clear();
+        break;
+    case FieldKind::KeyUp:
+    case FieldKind::Number:
+        if (const auto number = readLeadingNumber(typed)) figure.value = memoText(*number);
+        break;
+    case FieldKind::Moment:
+        figure.value = momentInFull(typed);
+        break;
+    case FieldKind::Text:
+        break;
+    }
+    if (typed.empty())
+        figure.value = "nothing entered";
+    else if (figure.value.empty())
+        figure.value = "not understood";
+    if (typed.empty() || figure.value == "not understood") figure.unit.clear();
+    if (figure.value != typed) figure.shown = typed;
+    return figure;
+}
+
+void FieldBoxes::addRow(QGridLayout* grid, int row, std::size_t field) const
+{
+    EntryBox* box = m_boxes.at(field);
+    auto* caption = new QLabel(m_table[field].caption);
+    caption->setBuddy(box);
+    grid->addWidget(caption, row, 0);
+    grid->addWidget(box, row, 1);
+    if (auto* position = dynamic_cast<PositionBox*>(box))
+        grid->addWidget(position->echo(), row, 2);
+    else
+        grid->addWidget(new QLabel(m_table[field].unit), row, 2, 1, -1);
+}
+
+QString nameInWords(const Field& field)
+{
+    return QString(field.accessibleName).section(',', 0, 0);
+}
+
+} // namespace korvel

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/NoticeLine.h"
+
+#include "shell/controls/Boxes.h"
+
+#include <QApplication>
+#include <QPaintEngine>
+#include <QTextLayout>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int lineCount = 2;
+
+} // namespace
+
+NoticeLine::NoticeLine()
+{
+    setObjectName("lblNotice");
+    setAccessibleName("Notice");
+    setFont(QFont()); // copied like a result, read like a caption
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMinimumHeight(NoticeLine::sizeHint().height());
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget*, const QWidget* now) { hintAt(now); });
+}
+
+void NoticeLine::hintAt(const QWidget* control)
+{
+    if (!control || control->window() != window() || control == this) return;
+    QString what = control->accessibleName();
+    if (auto* box = qobject_cast<const EntryBox*>(control); box && !box->limits().isEmpty())
+        what += "; " + box->limits();
+    const QString hint = what + "\nF1: the manual, at this place";
+    if (what.isEmpty() || hint == m_hint) return;
+    m_hint = hint;
+    if (text().isEmpty()) update();
+}
+
+void NoticeLine::say(const QString& key, const QString& text)
+{
+    if (text.isEmpty())
+        m_said.erase(key);
+    else
+        m_said[key] = text;
+    QStringList all;
+    for (const auto& [each, words] : m_said)
+        all << words;
+    setText(all.join("  "));
+    setToolTip(this->text());
+}
+
+QSize NoticeLine::sizeHint() const
+{
+    return {0, lineCount * fontMetrics().lineSpacing()};
+}
+
+QSize NoticeLine::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+void NoticeLine::paintEvent(QPaintEvent* event)
+{
+    if (isBeingSelected()) {
+        ResultLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    if (text().isEmpty()) {
+        // A printed form has no box to type into.
+        if (painter.paintEngine()->type() != QPaintEngine::Raster) return;
+        painter.setPen(m_hintColour);
+        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, m_hint);
+        return;
+    }
+    QTextLayout layout(text(), font());
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width());
+        if (lines.size() + 1 == lineCount) {
+            lines << fontMetrics().elidedText(text().mid(line.textStart()), Qt::ElideRight,
+                                              width());
+            break;
+        }
+        lines << text().mid(line.textStart(), line.textLength());
+    }
+    layout.endLayout();
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), static_cast<int>(alignment()), lines.join('\n'));
+}
+
+} // namespace korvel

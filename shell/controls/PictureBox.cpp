@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/PictureBox.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+
+namespace korvel
+{
+
+PictureBox::PictureBox(QWidget* parent)
+    : QWidget(parent), m_lineHeight(QFontMetricsF(font()).height())
+{
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void PictureBox::setUserScale(const UserScale& scale, const QRect& changing)
+{
+    m_scale = scale;
+    update(changing);
+}
+
+bool PictureBox::isToBeDrawn(const QRectF& part) const
+{
+    return isOnPaper() || m_painted.intersects(part.toAlignedRect());
+}
+
+void PictureBox::setPlotMargins(const QMargins& margins)
+{
+    m_margins = margins;
+    update();
+}
+
+QRectF PictureBox::plotArea() const
+{
+    const QSize whole = isOnPaper() ? m_drawnSize : size();
+    return QRectF(QPointF(0, 0), QSizeF(whole)).marginsRemoved(m_margins);
+}
+
+QPointF PictureBox::toPixel(double x, double y) const
+{
+    const QRectF area = plotArea();
+    return {area.left() + (x - m_scale.left) / (m_scale.right - m_scale.left) * area.width(),
+            area.top() + (y - m_scale.top) / (m_scale.bottom - m_scale.top) * area.height()};
+}
+
+QPointF PictureBox::toUser(QPointF pixel) const
+{
+    const QRectF area = plotArea();
+    return {
+        m_scale.left + (pixel.x() - area.left()) / area.width() * (m_scale.right - m_scale.left),
+        m_scale.top + (pixel.y() - area.top()) / area.height() * (m_scale.bottom - m_scale.top)};
+}
+
+void PictureBox::drawOn(QPainter& painter, const QSize& size)
+{
+    m_drawnSize = size;
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter);
+    m_drawnSize = QSize();
+}
+
+void PictureBox::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange) return;
+    m_lineHeight = QFontMetricsF(font()).height();
+    placeMargins();
+}
+
+void PictureBox::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    placeMargins();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event)
+{
+    m_painted = event->region();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    draw(painter);
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event)
+{
+    emit pressed(toUser(event->position()), event->buttons());
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event)
+{
+    emit pointed(toUser(event->position()), event->buttons());
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event)
+{
+    emit released(toUser(event->position()));
+}
+
+void PictureBox::leaveEvent(QEvent*)
+{
+    emit left();
+}
+
+} // namespace korvel

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/ResultLabel.h"
+
+#include "app/reading/PackedText.h"
+#include "shell/machine/AsQString.h"
+
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QMenu>
+#include <QToolTip>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int widestReserved = 60; ///< characters; a pasted text must not widen a window
+
+/// The toolkit tells a label's text or its accessible name, never both.
+class AccessibleResult : public QAccessibleWidget
+{
+public:
+    explicit AccessibleResult(QWidget* label) : QAccessibleWidget(label, QAccessible::StaticText) {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        QString figure = static_cast<QLabel*>(widget())->text();
+        if (kind == QAccessible::Value) return figure;
+        if (kind != QAccessible::Name) return QAccessibleWidget::text(kind);
+        const QString name = widget()->accessibleName();
+        return name.isEmpty() || figure.isEmpty() ? name + figure : name + ": " + figure;
+    }
+};
+
+QAccessibleInterface* accessibleResult(const QString&, QObject* object)
+{
+    auto* label = qobject_cast<ResultLabel*>(object);
+    return label ? new AccessibleResult(label) : nullptr;
+}
+
+} // namespace
+
+void tellResultsToAssistiveTools()
+{
+    QAccessible::installFactory(accessibleResult);
+}
+
+void setTabOrderThrough(const std::vector<QWidget*>& controls)
+{
+    // The toolkit gives no place to a control that does not take the focus at the moment.
+    std::vector<Qt::FocusPolicy> policies;
+    for (QWidget* each : controls) {
+        policies.push_back(each->focusPolicy());
+        each->setFocusPolicy(Qt::TabFocus);
+    }
+    for (std::size_t i = 1; i < controls.size(); ++i)
+        QWidget::setTabOrder(controls[i - 1], controls[i]);
+    for (std::size_t i = 0; i < controls.size(); ++i)
+        controls[i]->setFocusPolicy(policies[i]);
+}
+
+ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSelectable(false);
+    QFont larger = font();
+    larger.setPointSizeF(larger.pointSizeF() * 1.2);
+    setFont(larger);
+    // An empty one keeps its room: what the toolkit gives a text can be more than a line of the
+    // font.
+    setMinimumHeight(std::max(fontMetrics().lineSpacing(), fontMetrics().size(0, "0").height()));
+}
+
+void ResultLabel::setText(const QString& text)
+{
+    if (text == this->text()) return;
+    QLabel::setText(text);
+    if (m_isEliding) setToolTip(text);
+    if (focusPolicy() == Qt::NoFocus || focusPolicy() == Qt::TabFocus) stopTabHere();
+    if (!QAccessible::isActive() || accessibleName().isEmpty()) return; // the label tells it itself
+    QAccessibleEvent told(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&told);
+}
+
+/// The toolkit keeps a text document behind a label that can be selected or take the focus. It is
+/// most of the time from a key to the painted labels, so it is there only while somebody selects.
+void ResultLabel::setSelectable(bool selectable)
+{
+    setTextInteractionFlags(selectable ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                       : Qt::NoTextInteraction);
+    // The flags have brought a focus policy of their own.
+    if (selectable)
+        setFocusPolicy(Qt::StrongFocus);
+    else
+        stopTabHere();
+}
+
+void ResultLabel::stopTabHere()
+{
+    setFocusPolicy(m_isTabStop && !text().isEmpty() ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void ResultLabel::passByTab()
+{
+    m_isTabStop = false;
+    stopTabHere();
+}
+
+void ResultLabel::setEliding()
+{
+    m_isEliding = true;
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    setMinimumWidth(0);
+}
+
+void ResultLabel::reserve(const QString& longest)
+{
+    setFixedSize(fontMetrics().horizontalAdvance(longest), fontMetrics().height());
+}
+
+void ResultLabel::showReserved(const QString& text)
+{
+    if (text == this->text()) return;
+    const int wide = fontMetrics().horizontalAdvance(text.left(widestReserved));
+    if (wide > minimumWidth()) setFixedWidth(wide);
+    setText(text);
+}
+
+bool ResultLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || (!toolTip().isEmpty() && toolTip() != text()))
+        return QLabel::event(event);
+    const QString full = asQString(inFullForm(text().toStdString()));
+    if (full == text()) return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), full.trimmed(), this);
+    return true;
+}
+
+void ResultLabel::paintEvent(QPaintEvent* event)
+{
+    if (isBeingSelected() || textFormat() != Qt::PlainText || wordWrap() || text().contains('\n')) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    const QString shown = m_isEliding || text().size() > widestReserved
+                              ? fontMetrics().elidedText(text(), Qt::ElideRight, width())
+                              : text();
+    m_figures.draw(painter, contentsRect(), alignment(), shown);
+}
+
+void ResultLabel::mousePressEvent(QMouseEvent* event)
+{
+    setSelectable(true);
+    setFocus(Qt::MouseFocusReason);
+    QLabel::mousePressEvent(event);
+}
+
+void ResultLabel::focusInEvent(QFocusEvent* event)
+{
+    QLabel::focusInEvent(event);
+    if (event->reason() != Qt::TabFocusReason && event->reason() != Qt::BacktabFocusReason) return;
+    // Selected from end to end, as a box is: where the focus is can be seen.
+    setSelectable(true);
+    setSelection(0, static_cast<int>(text().size()));
+}
+
+void ResultLabel::focusOutEvent(QFocusEvent* event)
+{
+    QLabel::focusOutEvent(event);
+    // Its own context menu and a look into another program leave the selection alone.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        setSelectable(false);
+}
+
+void ResultLabel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copy();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
+{
+    QMenu menu(this);
+    menu.addAction("&Copy", this, [this] { copy(); });
+    menu.exec(event->globalPos());
+}
+
+void ResultLabel::copy()
+{
+    const bool part = hasSelectedText() && selectedText() != text();
+    const QString copied = part ? selectedText() : copyText ? copyText() : text();
+    if (!copied.isEmpty()) QApplication::clipboard()->setText(copied);
+}
+
+} // namespace korvel

@@ -1,0 +1,255 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/RowTable.h"
+
+#include "shell/controls/Panels.h"
+#include "shell/controls/WrappingRow.h"
+
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+using Holds = TableColumn::Holds;
+
+/// Nothing for what is no box.
+std::optional<Kind> recordKindOf(Holds holds)
+{
+    switch (holds) {
+    case Holds::Text:
+        return Kind::Text;
+    case Holds::Figure:
+        return Kind::Figure;
+    case Holds::Moment:
+        return Kind::Moment;
+    case Holds::Latitude:
+        return Kind::Latitude;
+    case Holds::Longitude:
+        return Kind::Longitude;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool isBox(const TableColumn& column)
+{
+    return recordKindOf(column.holds).has_value();
+}
+
+bool isResult(const TableColumn& column)
+{
+    return column.holds == Holds::Result || column.holds == Holds::Correction;
+}
+
+/// Letters of a correction: smaller than captions, so that nobody takes it for the result.
+QFont small(QFont letters)
+{
+    letters.setPointSizeF(letters.pointSizeF() * 0.85);
+    return letters;
+}
+
+} // namespace
+
+RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows) : m_columns(columns)
+{
+    auto* lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
+    for (std::size_t row = 0; row < rows; ++row) {
+        Line line;
+        for (const TableColumn& column : m_columns)
+            line.push_back(makeControl(column, row, line));
+        // A widget a row: what is painted anew is looked up among the neighbours in the same
+        // widget.
+        auto* widget = new QWidget;
+        layOut(line, *widget);
+        lines->addWidget(widget);
+        m_lines.push_back(std::move(line));
+    }
+    lines->addStretch();
+    setEntryOrder(boxes());
+    sizeByLetters();
+}
+
+QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const Line& before)
+{
+    QWidget* made = nullptr;
+    switch (column.holds) {
+    case Holds::Echo:
+        return static_cast<PositionBox*>(before.back())->echo();
+    case Holds::Number:
+        made = new QLabel(QString::number(row + 1), this);
+        break;
+    case Holds::Result:
+        made = new ResultLabel(this);
+        break;
+    case Holds::Correction:
+        made = new ResultLabel(this);
+        made->setFont(small(font()));
+        break;
+    case Holds::Text:
+    case Holds::Figure:
+    case Holds::Moment:
+        made = new EntryBox(this);
+        break;
+    case Holds::Latitude:
+        made = new PositionBox(Axis::Latitude, this);
+        break;
+    case Holds::Longitude:
+        made = new PositionBox(Axis::Longitude, this);
+        break;
+    }
+    made->setObjectName(memberName(column.name, static_cast<int>(row)));
+    made->setAccessibleName(QString(column.accessibleName).replace("%1", QString::number(row + 1)));
+    if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = *recordKindOf(column.holds);
+    if (column.holds == Holds::Text)
+        static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
+    auto* position = dynamic_cast<PositionBox*>(made);
+    if (position) position->setBriefEcho();
+    if (column.holds == Holds::Longitude)
+        for (QWidget* each : before)
+            if (auto* latitude = dynamic_cast<PositionBox*>(each))
+                PositionBox::pair(latitude, position);
+    if (auto* label = qobject_cast<QLabel*>(made))
+        label->setAlignment(column.side | Qt::AlignVCenter);
+    return made;
+}
+
+int RowTable::widthOf(const TableColumn& column) const
+{
+    const QFontMetrics captions = fontMetrics();
+    const int heading = captions.size(0, column.heading).width();
+    if (column.holds == Holds::Result)
+        return std::max(heading, ResultLabel().fontMetrics().horizontalAdvance(column.widest));
+    if (column.holds == Holds::Correction)
+        return std::max(heading, QFontMetrics(small(font())).horizontalAdvance(column.widest));
+    return std::max(heading, captions.horizontalAdvance(column.widest) +
+                                 (isBox(column) ? captions.horizontalAdvance('0') : 0));
+}
+
+void RowTable::layOut(const Line& line, QWidget& widget) const
+{
+    auto* layout = new WrappingRow(&widget);
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (i == 0 || m_columns[i].startsGroup) layout->startGroup();
+        // A correction stands close by its result.
+        if (m_columns[i].holds == Holds::Correction) layout->stayClose();
+        layout->addWidget(line[i]);
+    }
+}
+
+void RowTable::giveWidths(const Line& line, QWidget& widget) const
+{
+    static_cast<WrappingRow*>(widget.layout())->setGap(fontMetrics().averageCharWidth());
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const int width = widthOf(m_columns[i]);
+        line[i]->setMinimumWidth(width);
+        line[i]->setMaximumWidth(m_columns[i].stretches ? QWIDGETSIZE_MAX : width);
+    }
+}
+
+void RowTable::sizeByLetters()
+{
+    const bool hasBoxes = std::ranges::any_of(m_columns, isBox);
+    const int height =
+        hasBoxes ? QLineEdit().sizeHint().height() : ResultLabel().fontMetrics().height();
+    for (const Line& line : m_lines) {
+        giveWidths(line, *line.front()->parentWidget());
+        for (QWidget* each : line)
+            each->setFixedHeight(height);
+    }
+}
+
+/// Names of the columns, as wide as these.
+class RowTable::Heading final : public QWidget, public SizedByLetters
+{
+public:
+    explicit Heading(const RowTable& table) : m_table(table)
+    {
+        for (const TableColumn& column : table.m_columns) {
+            QLabel* label = columnHead(column.heading, column.side);
+            label->setSizePolicy(column.stretches ? QSizePolicy::Expanding : QSizePolicy::Preferred,
+                                 QSizePolicy::Preferred);
+            m_line.push_back(label);
+        }
+        table.layOut(m_line, *this);
+        sizeByLetters();
+    }
+
+    void sizeByLetters() override { m_table.giveWidths(m_line, *this); }
+
+private:
+    const RowTable& m_table;
+    Line m_line;
+};
+
+QWidget* RowTable::makeHeading() const
+{
+    return new Heading(*this);
+}
+
+EntryBox* RowTable::box(std::size_t row, std::size_t column) const
+{
+    return static_cast<EntryBox*>(m_lines.at(row).at(column));
+}
+
+PositionBox* RowTable::position(std::size_t row, std::size_t column) const
+{
+    return static_cast<PositionBox*>(m_lines.at(row).at(column));
+}
+
+ResultLabel* RowTable::result(std::size_t row, std::size_t column) const
+{
+    return static_cast<ResultLabel*>(m_lines.at(row).at(column));
+}
+
+QLabel* RowTable::number(std::size_t row) const
+{
+    return static_cast<QLabel*>(m_lines.at(row).front());
+}
+
+std::vector<EntryBox*> RowTable::boxesOfRow(std::size_t row) const
+{
+    std::vector<EntryBox*> all;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (isBox(m_columns[i])) all.push_back(box(row, i));
+    return all;
+}
+
+std::vector<EntryBox*> RowTable::boxes() const
+{
+    std::vector<EntryBox*> all;
+    for (std::size_t row = 0; row < rows(); ++row)
+        std::ranges::copy(boxesOfRow(row), std::back_inserter(all));
+    return all;
+}
+
+std::vector<ResultLabel*> RowTable::results() const
+{
+    std::vector<ResultLabel*> all;
+    for (std::size_t row = 0; row < rows(); ++row)
+        for (std::size_t i = 0; i < m_columns.size(); ++i)
+            if (isResult(m_columns[i])) all.push_back(result(row, i));
+    return all;
+}
+
+std::optional<std::size_t> RowTable::rowOf(const QWidget* control) const
+{
+    for (std::size_t row = 0; control && row < rows(); ++row)
+        if (std::ranges::find(m_lines[row], control) != m_lines[row].end()) return row;
+    return std::nullopt;
+}
+
+void RowTable::markRow(std::size_t row)
+{
+    for (std::size_t each = 0; each < rows(); ++each) {
+        QFont shown = font();
+        shown.setBold(each == row);
+        number(each)->setFont(shown);
+    }
+}
+
+} // namespace korvel

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/controls/PositionBox.h"
+#include "shell/screen/ZoomSizes.h"
+
+#include <optional>
+#include <span>
+
+namespace korvel
+{
+
+/// A column of a table of rows.
+struct TableColumn {
+    enum class Holds {
+        Number,
+        Text,
+        Figure,
+        Moment,
+        Latitude,
+        Longitude,
+        Echo,
+        Result,
+        Correction ///< of the result before it, in small letters
+    };
+
+    const char* name; ///< of its controls, a control array; the echo takes the name of its box
+    const char* heading;
+    const char* widest; ///< what has to fit
+    Holds holds;
+    /// For assistive tools, with %1 for the number of the row.
+    const char* accessibleName = "";
+    Qt::Alignment side = Qt::AlignLeft;
+    bool stretches = false; ///< takes the room that is left
+    /// The columns from here on come in a line of their own where the row does not fit into one.
+    bool startsGroup = false;
+};
+
+/// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
+/// repaints the labels that change and never lays the table out anew. Enter goes through the
+/// boxes row by row, Tab through the results between them too.
+class RowTable : public QWidget, public SizedByLetters
+{
+public:
+    /// @param columns outlives the table. An echo stands behind its position box, a longitude box
+    ///                behind the latitude box that it makes a position with.
+    RowTable(std::span<const TableColumn> columns, std::size_t rows);
+
+    /// A line with the names of the columns, for above the table.
+    QWidget* makeHeading() const;
+
+    void sizeByLetters() final;
+
+    std::size_t rows() const { return m_lines.size(); }
+    EntryBox* box(std::size_t row, std::size_t column) const;
+    PositionBox* position(std::size_t row, std::size_t column) const;
+    ResultLabel* result(std::size_t row, std::size_t column) const;
+    QLabel* number(std::size_t row) const;
+
+    /// The boxes row by row, in their Enter order.
+    std::vector<EntryBox*> boxes() const;
+    std::vector<EntryBox*> boxesOfRow(std::size_t row) const;
+    std::vector<ResultLabel*> results() const;
+
+    /// Row of a control; nothing when it is none of the table's.
+    std::optional<std::size_t> rowOf(const QWidget* control) const;
+    /// Sets the number of one row apart: the one that the menus speak of.
+    void markRow(std::size_t row);
+
+private:
+    class Heading;
+    using Line = std::vector<QWidget*>; ///< by column
+
+    QWidget* makeControl(const TableColumn& column, std::size_t row, const Line& before);
+    void layOut(const Line& line, QWidget& widget) const;
+    void giveWidths(const Line& line, QWidget& widget) const;
+    int widthOf(const TableColumn& column) const;
+
+    std::span<const TableColumn> m_columns;
+    std::vector<Line> m_lines;
+};
+
+} // namespace korvel

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "shell/machine/FaultGuard.h"
+
+#include "shell/machine/SessionQuestions.h"
+
+#include <exception>
+
+namespace korvel
+{
+
+bool FaultGuard::run(const std::function<bool()>& deliver)
+{
+    try {
+        return deliver();
+    } catch (const SessionEnded&) {
+        return true; // whoever asked is to go away without an answer
+    } catch (const std::exception& error) {
+        met(error.what());
+    } catch (...) {
+        met("unknown");
+    }
+    return false;
+}
+
+void FaultGuard::met(const std::string& fault)
+{
+    if (!m_met.insert(fault).second) return;
+    QMetaObject::invokeMethod(
+        this,
+        [this, fault] {
+            saveEverything();
+            tell(fault);
+        },
+        Qt::QueuedConnection);
+}
+
+} // namespace korvel

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/machine/FaultGuard.h"
+
+#include <QApplication>
+
+namespace korvel
+{
+
+/// The application with a guard around every event.
+class GuardedApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    FaultGuard guard;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        return guard.run([&] { return QApplication::notify(receiver, event); });
+    }
+};
+
+} // namespace korvel

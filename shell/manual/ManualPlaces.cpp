@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "shell/manual/ManualPlaces.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QFontMetricsF>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPalette>
+#include <QRegularExpression>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+bool bearsName(const QString& words, const QString& name)
+{
+    for (const QString& each : words.split(" / ")) {
+        if (each.compare(name, Qt::CaseInsensitive) == 0) return true;
+        if (!each.contains(QChar(u'…')) || each.size() == 1) continue; // any name is no name
+        QStringList parts = each.split(QChar(u'…'));
+        for (QString& part : parts)
+            part = QRegularExpression::escape(part);
+        const QRegularExpression pattern(QRegularExpression::anchoredPattern(parts.join(".+")),
+                                         QRegularExpression::CaseInsensitiveOption |
+                                             QRegularExpression::DotMatchesEverythingOption);
+        if (pattern.match(name).hasMatch()) return true;
+    }
+    return false;
+}
+
+/// Calls a function with every block: its row's whole text, and whether it is one that gives
+/// names. It ends with the first call that returns true.
+template <typename Function>
+void forEachBlock(const QTextDocument& page, Function function)
+{
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
+        QTextTable* table = QTextCursor(block).currentTable();
+        if (!table) {
+            const int level = block.blockFormat().headingLevel();
+            if (function(block, block.text(), level > 0)) return;
+            continue;
+        }
+        const QTextTableCell cell = table->cellAt(block.position());
+        if (cell.column() > 0) continue;
+        QStringList row;
+        for (int column = 0; column < table->columns(); ++column)
+            row << table->cellAt(cell.row(), column).firstCursorPosition().block().text();
+        row.removeAll("");
+        if (function(block, row.join(" – "), cell.row() > 0)) return;
+    }
+}
+
+QString withoutMnemonic(QString text)
+{
+    text.remove(QRegularExpression("\\(&\\w\\)|&(?=[^&])"));
+    text.remove(QRegularExpression("\\s*(\\.\\.+|…)$"));
+    return text.section('\t', 0, 0).trimmed();
+}
+
+} // namespace
+
+std::optional<PagePlace> placeOf(const QTextDocument& page, const QString& name)
+{
+    std::optional<PagePlace> place;
+    std::optional<PagePlace> entry; // a button does what an entry of its name does
+    if (name.isEmpty()) return place;
+    forEachBlock(page, [&](const QTextBlock& block, const QString& text, bool givesName) {
+        if (!givesName) return false;
+        const QString words = block.text();
+        if (bearsName(words, name)) place = {block.position(), text};
+        if (!entry && words.contains(": ") && bearsName(words.section(": ", 1), name))
+            entry = {block.position(), text};
+        return place.has_value();
+    });
+    return place ? place : entry;
+}
+
+std::vector<PagePlace> sectionsOf(const QTextDocument& page)
+{
+    std::vector<PagePlace> sections;
+    forEachBlock(page, [&](const QTextBlock& block, const QString& text, bool) {
+        if (block.blockFormat().headingLevel() == 2) sections.push_back({block.position(), text});
+        return false;
+    });
+    return sections;
+}
+
+std::vector<PagePlace> linesOf(const QTextDocument& page)
+{
+    std::vector<PagePlace> lines;
+    forEachBlock(page, [&](const QTextBlock& block, const QString& text, bool) {
+        if (!text.isEmpty()) lines.push_back({block.position(), text});
+        return false;
+    });
+    return lines;
+}
+
+bool holdsWords(const QString& text, const QStringList& words)
+{
+    return std::all_of(words.begin(), words.end(), [&](const QString& word) {
+        return text.contains(word, Qt::CaseInsensitive);
+    });
+}
+
+QString manualName(const QWidget& control)
+{
+    static const QRegularExpression howItIsWritten("[,;:].*$");
+    static const QRegularExpression row("^Row \\d+, ");
+    const QString name = QString(control.accessibleName()).remove(row);
+    if (!name.isEmpty()) return QString(name).remove(howItIsWritten).trimmed();
+    if (auto* button = qobject_cast<const QAbstractButton*>(&control))
+        return withoutMnemonic(button->text());
+    if (auto* group = qobject_cast<const QGroupBox*>(&control))
+        return withoutMnemonic(group->title());
+    return {};
+}
+
+QString manualName(const QAction& entry)
+{
+    QStringList path(withoutMnemonic(entry.text()));
+    for (const QObject* above = entry.parent(); above; above = above->parent())
+        if (auto* menu = qobject_cast<const QMenu*>(above))
+            path.prepend(withoutMnemonic(menu->title()));
+    return path.join(": ");
+}
+
+void dressPage(QTextDocument& page, const QPalette& palette)
+{
+    const double room = QFontMetricsF(page.defaultFont()).height() / 4;
+    for (QTextBlock block = page.begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part) {
+            if (!part.fragment().charFormat().isAnchor()) continue;
+            QTextCursor link(block);
+            link.setPosition(part.fragment().position());
+            link.setPosition(part.fragment().position() + part.fragment().length(),
+                             QTextCursor::KeepAnchor);
+            QTextCharFormat colour;
+            colour.setForeground(palette.link());
+            link.mergeCharFormat(colour);
+        }
+    for (QTextFrame* frame : page.rootFrame()->childFrames()) {
+        auto* table = qobject_cast<QTextTable*>(frame);
+        if (!table) continue;
+        QTextTableFormat format = table->format();
+        format.setBorder(1);
+        format.setBorderCollapse(true);
+        format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+        format.setBorderBrush(palette.placeholderText()); // seen by night too
+        format.setCellPadding(room);
+        format.setTopMargin(2 * room);
+        format.setBottomMargin(2 * room);
+        table->setFormat(format);
+    }
+}
+
+} // namespace korvel

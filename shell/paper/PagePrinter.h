@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/paper/PdfBytes.h"
+
+#include <functional>
+#include <string>
+
+class QPrinter;
+class QWidget;
+
+namespace korvel
+{
+
+class PaperDocument;
+class Program;
+
+/// Printing from a window, through the system's print dialog.
+class PagePrinter
+{
+public:
+    /// @param program, window must outlive this object
+    PagePrinter(Program& program, QWidget& window);
+
+    /// Shows the pages of a paper, and prints them when the officer wants it.
+    void print(const PaperDocument& document) const;
+
+    /// Prints a page of the window's own making.
+    /// @param draw gets a painter in device pixels and the room of the page in them
+    using Draw = std::function<void(QPainter&, const QRect& room)>;
+    void print(QPageLayout::Orientation orientation, const Draw& draw) const;
+
+    /// Writes a file that the officer chose, whole or not at all, and tells when it cannot be.
+    bool write(const std::string& path, const std::string& bytes) const;
+
+private:
+    void setUp(QPrinter& printer, QPageLayout::Orientation orientation) const;
+    bool letChoose(QPrinter& printer) const;
+    void paint(QPrinter& printer, const DrawPages& draw) const;
+    void say(const std::string& text) const;
+
+    Program& m_program;
+    QWidget& m_window;
+};
+
+} // namespace korvel

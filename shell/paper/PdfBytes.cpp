@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "shell/paper/PdfBytes.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QPdfWriter>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int dotsOfPDF = 1200; // an inch, as the toolkit's printers have
+
+} // namespace
+
+QByteArray pdfBytes(const QString& title, const QString& creator, const QPageLayout& layout,
+                    const DrawPages& draw)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(title);
+    writer.setCreator(creator);
+    writer.setResolution(dotsOfPDF);
+    writer.setPageLayout(layout);
+    QPainter painter(&writer);
+    draw(writer, painter);
+    painter.end();
+    return bytes;
+}
+
+} // namespace korvel

@@ -1,0 +1,371 @@
+// SPDX-License-Identifier: MIT
+#include "shell/screen/ScreenStyle.h"
+
+#include "shell/screen/ColourScheme.h"
+#include "shell/screen/NightTint.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QGroupBox>
+#include <QPainter>
+#include <QStyleOption>
+
+#include <array>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int focusWidth = 2;
+constexpr int caretWidth = 2;
+
+QColor outlineOf(const QStyleOption& option)
+{
+    return option.palette.color(QPalette::Dark);
+}
+
+/// Draws a flat panel: its ground, and an outline that is broader and in another colour while the
+/// control has the focus, so that not the colour alone shows it.
+void drawPanel(QPainter& painter, const QStyleOption& option, const QBrush& ground, bool focus)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    const int width = focus ? focusWidth : 1;
+    painter.fillRect(option.rect, ground);
+    const QColor outline = focus ? option.palette.color(QPalette::Highlight) : outlineOf(option);
+    for (int i = 0; i < width; ++i) {
+        painter.setPen(outline);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(option.rect.adjusted(i, i, -i - 1, -i - 1));
+    }
+    painter.restore();
+}
+
+bool hasFocus(const QStyleOption& option)
+{
+    return option.state & QStyle::State_HasFocus;
+}
+
+QColor markColour(const QStyleOption& option)
+{
+    const auto group = option.state & QStyle::State_Enabled ? QPalette::Active : QPalette::Disabled;
+    return option.palette.color(group, QPalette::WindowText);
+}
+
+/// The toolkit's own caret inverts the ground, which is white at night.
+void drawCaret(QPainter& painter, const QStyleOption& option, const QWidget& box)
+{
+    if (!hasFocus(option) || !(option.state & QStyle::State_Enabled)) return;
+    const QRect place = box.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    const QRect caret(place.center().x(), place.top(), caretWidth, place.height());
+    painter.fillRect(caret & option.rect, option.palette.text());
+}
+
+void drawTick(QPainter& painter, const QStyleOption& option)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF box = option.rect;
+    if (option.state & QStyle::State_NoChange) {
+        painter.fillRect(box.adjusted(box.width() / 4, box.height() * 0.4, -box.width() / 4,
+                                      -box.height() * 0.4),
+                         markColour(option));
+    } else {
+        painter.setPen(QPen(markColour(option), box.width() / 7, Qt::SolidLine, Qt::RoundCap));
+        const auto at = [&](double x, double y) {
+            return box.topLeft() + QPointF(x * box.width(), y * box.height());
+        };
+        painter.drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.72), at(0.77, 0.28)});
+    }
+    painter.restore();
+}
+
+void drawCheckBox(QPainter& painter, const QStyleOption& option)
+{
+    drawPanel(painter, option, option.palette.base(), false);
+    if (option.state & (QStyle::State_On | QStyle::State_NoChange)) drawTick(painter, option);
+}
+
+void drawRadioButton(QPainter& painter, const QStyleOption& option)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF ring = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    painter.setPen(QPen(outlineOf(option), 1.3));
+    painter.setBrush(option.palette.base());
+    painter.drawEllipse(ring);
+    if (option.state & QStyle::State_On) {
+        const double gap = ring.width() / 4;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(markColour(option));
+        painter.drawEllipse(ring.adjusted(gap, gap, -gap, -gap));
+    }
+    painter.restore();
+}
+
+void drawArrow(QPainter& painter, const QStyleOption& option, int degrees)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF room = option.rect;
+    const double half = std::min({room.width(), room.height(), 16.0}) * 0.3;
+    painter.translate(room.center());
+    painter.rotate(degrees);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(markColour(option));
+    painter.drawPolygon(QPolygonF{{-half, -half / 2}, {half, -half / 2}, {0, half / 2}});
+    painter.restore();
+}
+
+/// Degrees that an arrow which points down is turned by.
+std::optional<int> turnOf(QStyle::PrimitiveElement element)
+{
+    switch (element) {
+    case QStyle::PE_IndicatorArrowDown:
+    case QStyle::PE_IndicatorSpinDown:
+        return 0;
+    case QStyle::PE_IndicatorArrowUp:
+    case QStyle::PE_IndicatorSpinUp:
+        return 180;
+    case QStyle::PE_IndicatorArrowLeft:
+        return 90;
+    case QStyle::PE_IndicatorArrowRight:
+        return -90;
+    default:
+        return std::nullopt;
+    }
+}
+
+/// What a message box is about, in the colours of the palette.
+QPixmap drawnMessageIcon(QStyle::StandardPixmap which, const QPalette& palette, int side)
+{
+    const QString sign = which == QStyle::SP_MessageBoxQuestion      ? "?"
+                         : which == QStyle::SP_MessageBoxInformation ? "i"
+                                                                     : "!";
+    const double ratio = qApp->devicePixelRatio();
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = palette.color(QPalette::WindowText);
+    const double pen = side / 16.0;
+    painter.setPen(QPen(ink, pen));
+    painter.drawEllipse(QRectF(0, 0, side, side).adjusted(pen, pen, -pen, -pen));
+    QFont letters = QApplication::font();
+    letters.setPixelSize(side * 5 / 8);
+    letters.setBold(true);
+    painter.setFont(letters);
+    painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, sign);
+    return picture;
+}
+
+/// Draws a control that has an icon with one in the colours of the palette, whoever made it and
+/// whenever. @return false when the control is not of that kind
+template <typename Option, typename Draw>
+bool drawTinted(const QStyleOption& option, QIcon Option::*icon, Draw draw)
+{
+    const auto* own = qstyleoption_cast<const Option*>(&option);
+    if (!own || (own->*icon).isNull()) return false;
+    Option copy(*own);
+    copy.*icon = tinted(own->*icon, option.palette.color(QPalette::WindowText));
+    draw(copy);
+    return true;
+}
+
+bool isMessageIcon(QStyle::StandardPixmap which)
+{
+    return which >= QStyle::SP_MessageBoxInformation && which <= QStyle::SP_MessageBoxQuestion;
+}
+
+} // namespace
+
+ScreenStyle::ScreenStyle() : QProxyStyle("Fusion") {}
+
+void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const
+{
+    if (const auto turn = turnOf(element)) return drawArrow(*painter, *option, *turn);
+    switch (element) {
+    case PE_FrameLineEdit:
+    case PE_PanelLineEdit: {
+        const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        if (element == PE_PanelLineEdit && frame && frame->lineWidth == 0)
+            painter->fillRect(option->rect, option->palette.base());
+        else
+            drawPanel(*painter, *option, option->palette.base(), hasFocus(*option));
+        if (element == PE_PanelLineEdit && widget) drawCaret(*painter, *option, *widget);
+        return;
+    }
+    case PE_PanelButtonCommand:
+    case PE_PanelButtonBevel:
+    case PE_PanelButtonTool: {
+        const bool down = option->state & (State_Sunken | State_On);
+        drawPanel(*painter, *option,
+                  down ? option->palette.brush(QPalette::AlternateBase) : option->palette.button(),
+                  hasFocus(*option));
+        return;
+    }
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        return drawCheckBox(*painter, *option);
+    case PE_IndicatorRadioButton:
+        return drawRadioButton(*painter, *option);
+    case PE_IndicatorMenuCheckMark:
+        return drawTick(*painter, *option);
+    case PE_FrameFocusRect:
+        painter->save();
+        painter->setPen(QPen(option->palette.color(QPalette::Highlight), focusWidth));
+        painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
+        painter->restore();
+        return;
+    case PE_FrameGroupBox: {
+        QStyleOption frame = *option;
+        const auto* group = qobject_cast<const QGroupBox*>(widget);
+        if (group && !group->title().isEmpty()) // which stands above it
+            frame.rect.setTop(frame.rect.top() + option->fontMetrics.height() + 1);
+        return drawPanel(*painter, frame, Qt::NoBrush, false);
+    }
+    case PE_Frame:
+    case PE_FrameMenu:
+    case PE_PanelTipLabel: {
+        const QBrush ground = element == PE_PanelTipLabel
+                                  ? option->palette.brush(QPalette::ToolTipBase)
+                                  : QBrush(Qt::NoBrush);
+        drawPanel(*painter, *option, ground, element == PE_Frame && hasFocus(*option));
+        return;
+    }
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void ScreenStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                              const QWidget* widget) const
+{
+    if (element == CE_Splitter || element == CE_SizeGrip) {
+        const QPoint middle = option->rect.center();
+        const QSize half(std::min(1, option->rect.width() / 2), option->rect.height() / 8);
+        painter->fillRect(QRect(middle - QPoint(half.width(), half.height()),
+                                middle + QPoint(half.width(), half.height())),
+                          outlineOf(*option));
+        return;
+    }
+    const auto draw = [&](const QStyleOption& with) {
+        QProxyStyle::drawControl(element, &with, painter, widget);
+    };
+    const bool done =
+        isNight(option->palette) && (drawTinted(*option, &QStyleOptionViewItem::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionToolButton::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionButton::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionMenuItem::icon, draw) ||
+                                     drawTinted(*option, &QStyleOptionComboBox::currentIcon, draw));
+    if (!done) draw(*option);
+    if (element != CE_HeaderSection) return;
+    painter->setPen(outlineOf(*option));
+    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+    painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
+}
+
+void ScreenStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const
+{
+    if (control == CC_ScrollBar) {
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
+            return drawScrollBar(*bar, *painter, widget);
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_SpinBox || control == CC_ComboBox)
+        drawPanel(*painter, *option, Qt::NoBrush, hasFocus(*option));
+}
+
+void ScreenStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& painter,
+                                const QWidget* widget) const
+{
+    QStyleOption part = option;
+    part.state &= ~State_HasFocus;
+    drawPanel(painter, part, option.palette.base(), hasFocus(option));
+    const auto rectOf = [&](SubControl which) {
+        return proxy()->subControlRect(CC_ScrollBar, &option, which, widget);
+    };
+    painter.fillRect(rectOf(SC_ScrollBarSlider).adjusted(2, 2, -2, -2), outlineOf(option));
+    const bool level = option.orientation == Qt::Horizontal;
+    part.rect = rectOf(SC_ScrollBarSubLine);
+    drawArrow(painter, part, level ? 90 : 180);
+    part.rect = rectOf(SC_ScrollBarAddLine);
+    drawArrow(painter, part, level ? -90 : 0);
+}
+
+int ScreenStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const
+{
+    const int own = QProxyStyle::pixelMetric(metric, option, widget);
+    switch (metric) {
+    case PM_DefaultFrameWidth:
+        // Lists and pages have room for the outline of the focus beside what they show.
+        return qobject_cast<const QAbstractScrollArea*>(widget) ? std::max(own, focusWidth) : own;
+    case PM_TextCursorWidth:
+        return 0; // it is drawn with the panel
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+    case PM_ScrollBarExtent:
+    case PM_ScrollBarSliderMin:
+    case PM_SmallIconSize:
+    case PM_ButtonIconSize:
+    case PM_ListViewIconSize:
+    case PM_LargeIconSize:
+    case PM_MessageBoxIconSize:
+    case PM_MenuButtonIndicator:
+        return own * m_zoom / 100;
+    default:
+        return own;
+    }
+}
+
+QSize ScreenStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const
+{
+    QSize own = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    // The toolkit draws the column of ticks as broad as the entry is high, and reckons with a fixed
+    // breadth: large letters would not fit.
+    if (type == CT_MenuItem) own.rwidth() += own.height();
+    return own;
+}
+
+int ScreenStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* data) const
+{
+    if (hint == SH_Table_GridLineColor)
+        return static_cast<int>(
+            (option ? option->palette : QApplication::palette()).color(QPalette::Dark).rgba());
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0; // their words say it
+    return QProxyStyle::styleHint(hint, option, widget, data);
+}
+
+/// The icons of message boxes are the program's own drawing in the colours of the palette: the
+/// toolkit's are white bubbles.
+QPixmap ScreenStyle::messageIcon(StandardPixmap which, const QStyleOption* option,
+                                 const QWidget* widget) const
+{
+    return drawnMessageIcon(which, option ? option->palette : QApplication::palette(),
+                            pixelMetric(PM_MessageBoxIconSize, option, widget));
+}
+
+QPixmap ScreenStyle::standardPixmap(StandardPixmap which, const QStyleOption* option,
+                                    const QWidget* widget) const
+{
+    return isMessageIcon(which) ? messageIcon(which, option, widget)
+                                : QProxyStyle::standardPixmap(which, option, widget);
+}
+
+QIcon ScreenStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    return isMessageIcon(which) ? QIcon(messageIcon(which, option, widget))
+                                : QProxyStyle::standardIcon(which, option, widget);
+}
+
+} // namespace korvel

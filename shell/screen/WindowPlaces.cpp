@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+#include "shell/screen/WindowPlaces.h"
+
+#include "shell/screen/Screen.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QWidget>
+
+#include <chrono>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+// A desktop puts its frame around a window some time after it is shown.
+constexpr auto settlingTime = 400ms;
+
+/// What a window manager puts around a window. It is known of a window that is shown, and the same
+/// for all; nothing is guessed before, for a guess would move a window at every start.
+QMargins frameOf(const QWidget& window)
+{
+    const auto known = [](const QWidget& each) {
+        const QRect inside = each.geometry();
+        const QRect frame = each.frameGeometry();
+        const QMargins margins(inside.left() - frame.left(), inside.top() - frame.top(),
+                               frame.right() - inside.right(), frame.bottom() - inside.bottom());
+        return margins.right() < 0 ? QMargins() : margins; // the toolkit's sign for "unknown"
+    };
+    if (!known(window).isNull()) return known(window);
+    for (const QWidget* each : QApplication::topLevelWidgets())
+        if (each->isVisible() && !known(*each).isNull()) return known(*each);
+    return {};
+}
+
+QRect screenAt(const QRect& place)
+{
+    const QScreen* screen = QApplication::screenAt(place.center());
+    if (!screen) screen = QApplication::screenAt(place.topLeft());
+    return (screen ? screen : QApplication::primaryScreen())->availableGeometry();
+}
+
+/// @param place the window without its frame: where the frame comes to lie is up to the window
+/// manager, and not the same before and after a window is shown
+void putAt(QWidget& window, const QRect& place, bool resizes)
+{
+    const QRect room = screenAt(place).marginsRemoved(frameOf(window));
+    const QSize size = resizes ? place.size().boundedTo(room.size()) : place.size();
+    const QPoint corner(
+        std::max(room.left(), std::min(place.left(), room.right() + 1 - size.width())),
+        std::max(room.top(), std::min(place.top(), room.bottom() + 1 - size.height())));
+    window.setGeometry({corner, size});
+}
+
+} // namespace
+
+void keepPlace(Screen& screen, const QWidget& window, bool open)
+{
+    // Without its frame: what is set before a window is shown is taken so by every desktop.
+    const bool enlarged = window.isMaximized() || window.isFullScreen();
+    const QRect place = enlarged ? window.normalGeometry() : window.geometry();
+    screen.keepPlace(window.objectName(), {place.x(), place.y(), place.width(), place.height(),
+                                           screen.choices().zoom, open});
+}
+
+PlaceWatch::PlaceWatch(Screen& screen, QWidget& window) : QObject(&window)
+{
+    m_settled.setSingleShot(true);
+    m_settled.setInterval(settlingTime);
+    connect(&m_settled, &QTimer::timeout, this, [&screen, &window] {
+        if (window.isVisible()) keepPlace(screen, window, true);
+    });
+    window.installEventFilter(this);
+}
+
+bool PlaceWatch::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::Show:
+    case QEvent::WindowStateChange:
+        m_settled.start();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+bool putInPlace(const Screen& screen, QWidget& window, bool resizes)
+{
+    const auto place = screen.placeOf(window.objectName());
+    if (!place) {
+#ifdef Q_OS_WIN
+        // That system gives a window a corner without a look at its size; a window manager finds
+        // room for all of it.
+        bringOntoScreen(window);
+#endif
+        return false;
+    }
+    const bool sameZoom = place->zoom == screen.choices().zoom;
+    const QSize size = sameZoom && resizes ? QSize(place->width, place->height) : window.size();
+    putAt(window, QRect(QPoint(place->x, place->y), size), resizes);
+    return true;
+}
+
+void holdInPlace(Screen& screen, QWidget& window)
+{
+    putInPlace(screen, window);
+    new PlaceWatch(screen, window);
+}
+
+QSize roomOnScreen(const QWidget& window)
+{
+    return window.screen()->availableGeometry().marginsRemoved(frameOf(window)).size();
+}
+
+void resizeForText(QWidget& window, int letters, int lines)
+{
+    const QFontMetrics metrics = window.fontMetrics();
+    const QSize wanted(letters * metrics.averageCharWidth(), lines * metrics.lineSpacing());
+    window.resize(wanted.boundedTo(roomOnScreen(window)));
+}
+
+void bringOntoScreen(QWidget& window)
+{
+    putAt(window, window.geometry(), true);
+}
+
+} // namespace korvel

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: MIT
+#include "shell/window/CalculatorWindow.h"
+
+#include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/PictureBox.h"
+#include "shell/controls/ReadingOrder.h"
+#include "shell/paper/PaperWindow.h"
+#include "shell/screen/WidgetColours.h"
+#include "shell/screen/WindowGlyphs.h"
+#include "shell/screen/WindowPlaces.h"
+
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+
+constexpr const char* doneKey = "~done"; // behind all notices
+constexpr auto shownFor = 6s;
+constexpr QSize roomOfPicture(640, 480); // pixels of a screen: as wide as a sheet
+
+} // namespace
+
+CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
+    : m_program(program), m_body(new QWidget), m_notices(new NoticeLine),
+      m_calculations(new CalculationRunner(*m_notices, this)),
+      m_record(new WindowRecord(program, *m_notices, *this)), m_menus(program, *this),
+      m_printer(program, *this),
+      m_paperMenu(new PaperMenu(program, *this,
+                                {[this] { return paperDocument(); },
+                                 [this](const QString& said) { sayForAWhile(said); }})),
+      m_sizes(program.screen().choices().zoom)
+{
+    setObjectName(name);
+    setWindowTitle(caption);
+    setWindowIcon(windowGlyph(name));
+    setAttribute(Qt::WA_DeleteOnClose);
+    tellResultsToAssistiveTools();
+
+    auto* centre = new QWidget;
+    auto* column = new QVBoxLayout(centre);
+    column->addWidget(m_body, 1);
+    column->addWidget(m_notices);
+    setCentralWidget(centre);
+
+    connect(&m_program, &Program::distanceUnitChanged, m_calculations, &CalculationRunner::runAll);
+    connect(&m_program, &Program::recordsWanted, m_record, &WindowRecord::saveNow);
+    connect(&m_program, &Program::coloursChanged, this, [this] { applyColours(); });
+    connect(&m_program.screen(), &Screen::zoomChanged, this, &CalculatorWindow::zoom);
+    new PlaceWatch(m_program.screen(), *this);
+}
+
+void CalculatorWindow::loadSettings()
+{
+    m_calculations->hold();
+    const bool wasEntered = m_record->load();
+    m_calculations->release(wasEntered);
+    m_calculations->runAll();
+    applyColours();
+    addPaperMenu();
+    m_menus.addView();
+    m_program.addHelpMenu(*menuBar());
+    setTabOrderByReading(*this);
+}
+
+void CalculatorWindow::addPaperMenu()
+{
+    auto* open = new QAction("&Working paper", this);
+    open->setShortcut(Qt::Key_F2);
+    connect(open, &QAction::triggered, this, &CalculatorWindow::openPaper);
+    m_paperMenu->setParent(this);
+    m_paperMenu->addTo(*menuBar(), open);
+}
+
+/// What was done is no remark on the figures: it goes after a moment, and before a paper is made.
+void CalculatorWindow::sayForAWhile(const QString& said)
+{
+    setNotice(doneKey, said);
+    QTimer::singleShot(shownFor, this, [this] { setNotice(doneKey, {}); });
+}
+
+PaperDocument CalculatorWindow::paperDocument()
+{
+    setNotice(doneKey, {});
+    const Program::PaperColours colours(m_program);
+    return {m_program.paperHeading(), paper(), paperPictures()};
+}
+
+void CalculatorWindow::openPaper()
+{
+    if (m_paperWindow)
+        m_paperWindow->showPaper(paperDocument());
+    else
+        m_paperWindow = new PaperWindow(m_program, paperDocument(), this);
+}
+
+WorkingPaper CalculatorWindow::paper() const
+{
+    WorkingPaper paper;
+    paper.kind = windowTitle().toStdString();
+    for (const FieldBoxes& fields : m_fields)
+        for (std::size_t i = 0; i < fields.size(); ++i)
+            paper.inputs.push_back(fields.paperFigure(i));
+    for (const ResultLabel* label : m_labels)
+        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
+    if (!notice().isEmpty()) paper.remarks.push_back(notice().toStdString());
+    return paper;
+}
+
+PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& caption)
+{
+    const QSize size = picture.size().scaled(roomOfPicture, Qt::KeepAspectRatio);
+    return makePaperPicture(caption, size, [&picture](QPainter& painter, const QSize& room) {
+        picture.drawOn(painter, room);
+    });
+}
+
+PaperFigure CalculatorWindow::paperFigure(const ResultLabel& label, const std::string& inFull)
+{
+    const std::string shown = label.text().toStdString();
+    const bool isOther = !inFull.empty() && inFull != shown;
+    return {label.accessibleName().section(',', 0, 0).toStdString(), isOther ? inFull : shown,
+            label.accessibleName().section(',', 1).trimmed().toStdString(), isOther ? shown : ""};
+}
+
+FieldBoxes CalculatorWindow::addFields(std::span<const Field> table)
+{
+    m_fields.emplace_back(table, m_body);
+    return m_fields.back();
+}
+
+ResultLabel* CalculatorWindow::addLabel(const QString& name)
+{
+    auto* label = new ResultLabel(m_body);
+    label->setObjectName(name);
+    m_labels.push_back(label);
+    return label;
+}
+
+void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& caption,
+                                    ResultLabel* label, const QString& unit)
+{
+    // Out of its row the figure would be a bare number.
+    label->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
+    grid->addWidget(new QLabel(caption), row, 0);
+    grid->addWidget(label, row, 1);
+    grid->addWidget(new QLabel(unit), row, 2, 1, -1);
+}
+
+QWidget* CalculatorWindow::scrollBody()
+{
+    auto* content = new ScrolledBody;
+    setScrollArea(new FollowingScrollArea(content));
+    return content;
+}
+
+void CalculatorWindow::setScrollArea(FollowingScrollArea* area)
+{
+    m_scrollArea = area;
+    fitToScreen();
+    auto* column = new QVBoxLayout(m_body);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(area);
+}
+
+void CalculatorWindow::foldColumns()
+{
+    m_scrollArea->foldColumns();
+}
+
+void CalculatorWindow::addBelow(QWidget* widget)
+{
+    auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
+    column->insertWidget(column->count() - 1, widget);
+}
+
+void CalculatorWindow::addStrip(QWidget* content)
+{
+    m_strip = new FollowingScrollArea(content);
+    m_strip->setFixedHeight(content->sizeHint().height());
+    addBelow(m_strip);
+}
+
+void CalculatorWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    placeStrip();
+}
+
+void CalculatorWindow::placeStrip()
+{
+    if (!m_strip) return;
+    constexpr int part = 3;
+    const int room = centralWidget()->layout()->contentsRect().width();
+    m_strip->setFixedHeight(std::min(m_strip->widget()->heightForWidth(room), height() / part));
+}
+
+void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
+{
+    for (QLabel* label : labels) {
+        if (dimmed == (m_dimmed.count(label) > 0)) continue;
+        if (dimmed) {
+            m_dimmed.insert(label);
+            setTextColour(label, m_program.colours().dimmed);
+        } else {
+            m_dimmed.erase(label);
+            resetTextColour(label);
+        }
+        // Seen without colours too.
+        QFont letters = label->font();
+        letters.setItalic(dimmed);
+        label->setFont(letters);
+    }
+}
+
+void CalculatorWindow::applyColours()
+{
+    const ColourScheme& colours = m_program.colours();
+    setTextColour(m_notices, colours.notice);
+    m_notices->setHintColour(colours.echo);
+    for (PositionBox* box : findChildren<PositionBox*>())
+        setTextColour(box->echo(), colours.echo);
+    for (QLabel* label : m_dimmed)
+        setTextColour(label, colours.dimmed);
+}
+
+void CalculatorWindow::closeEvent(QCloseEvent* event)
+{
+    m_record->saveAtClose();
+    keepPlace(m_program.screen(), *this, false);
+    emit m_program.windowClosed(objectName());
+    event->accept();
+}
+
+void CalculatorWindow::showEvent(QShowEvent* event)
+{
+    // The toolkit gives a new window two thirds of the screen at most; a window that can scroll, or
+    // whose picture can shrink, would take that where all of it could be shown.
+    if (!m_wasShown) { // once; afterwards the officer's size and place hold
+        m_wasShown = true;
+        if (m_fitsScreen) fit();
+        putInPlace(m_program.screen(), *this);
+        m_notices->hintAt(focusWidget()); // also behind another window
+    }
+    QMainWindow::showEvent(event);
+}
+
+void CalculatorWindow::fit()
+{
+    const QSize room = roomOnScreen(*this);
+    const QSize menus(menuBar()->sizeHint().width(), 0); // all of them in sight
+    if (!m_scrollArea) {
+        settleLayouts(*this);
+        resize(sizeHint().expandedTo(menus).boundedTo(room));
+        return;
+    }
+    m_scrollArea->foldByHand(true);
+    m_scrollArea->foldFor(QWIDGETSIZE_MAX);
+    if (m_strip) m_strip->setFixedHeight(m_strip->widget()->sizeHint().height());
+    settleLayouts(*this);
+    const QSize around = sizeHint() - m_scrollArea->sizeHint();
+    const QSize wanted = m_scrollArea->sizeFor(room.width() - around.width()) + around;
+    settleLayouts(*this);
+    m_scrollArea->foldByHand(false);
+    resize(wanted.expandedTo(menus).boundedTo(room));
+    placeStrip();
+}
+
+void CalculatorWindow::zoom()
+{
+    m_sizes.follow(*this, m_program.screen().choices().zoom);
+    fit();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    if (isVisible()) bringOntoScreen(*this);
+}
+
+} // namespace korvel

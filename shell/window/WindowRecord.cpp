@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: MIT
+#include "shell/window/WindowRecord.h"
+
+#include "shell/program/Program.h"
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QComboBox>
+
+namespace korvel
+{
+namespace
+{
+
+/// A killed program loses no more than this and what was typed in it.
+constexpr std::chrono::milliseconds burst{1500};
+
+} // namespace
+
+WindowRecord::WindowRecord(Program& program, NoticeLine& notices, QWidget& window)
+    : QObject(&window), m_program(program), m_notices(notices), m_window(window), m_burst(this)
+{
+    m_burst.setObjectName("tmrRecord");
+    m_burst.setSingleShot(true);
+    m_burst.setInterval(burst);
+    connect(&m_burst, &QTimer::timeout, this, &WindowRecord::saveNow);
+}
+
+void WindowRecord::use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
+                       Salvage salvage)
+{
+    m_file = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(),
+                                            m_program.clock(), file, std::move(kinds));
+    m_save = std::move(save);
+    m_load = std::move(load);
+    m_salvage = std::move(salvage);
+}
+
+void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxes,
+                            std::function<void(Record&)> settle)
+{
+    std::vector<Kind> kinds = recordKinds(boxes);
+    const Load load = [boxes](const Record& record) {
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            boxes[i]->setText(QString::fromStdString(textOf(record[i])));
+    };
+    const Save save = [boxes = std::move(boxes), settle = std::move(settle)] {
+        Record record;
+        for (const EntryBox* box : boxes)
+            record.emplace_back(box->value());
+        if (settle) settle(record);
+        return record;
+    };
+    use(file, std::move(kinds), save, load);
+}
+
+bool WindowRecord::load()
+{
+    if (!m_file) return false;
+    m_isLoading = true;
+    const auto record = m_file->load(m_save());
+    const bool isWhole = record && !m_file->isProtected();
+    if (record) m_load(*record);
+    if (m_salvage && m_file->damagedText()) m_salvage(*m_file->damagedText());
+    m_isLoading = false;
+    if (isWhole) m_onDisk = m_save();
+    watchControls();
+    return record || m_file->damagedText();
+}
+
+void WindowRecord::watchControls()
+{
+    const auto watch = [this](auto* control, auto signal) {
+        connect(control, signal, this, &WindowRecord::changed);
+    };
+    for (auto* box : m_window.findChildren<QLineEdit*>())
+        watch(box, &QLineEdit::textChanged);
+    for (auto* button : m_window.findChildren<QAbstractButton*>())
+        watch(button, &QAbstractButton::toggled);
+    for (auto* choice : m_window.findChildren<QComboBox*>())
+        watch(choice, &QComboBox::currentIndexChanged);
+    for (auto* bar : m_window.findChildren<QAbstractSlider*>())
+        watch(bar, &QAbstractSlider::valueChanged);
+}
+
+void WindowRecord::changed()
+{
+    if (m_file && !m_isLoading) m_burst.start();
+}
+
+void WindowRecord::saveNow()
+{
+    if (!m_file || m_isLoading) return;
+    m_burst.stop();
+    Record record = m_save();
+    if (record == m_onDisk) return; // typed and taken back, or only looked at
+    const std::string fault = m_file->saveQuietly(record);
+    if (fault.empty() && !m_file->isProtected()) m_onDisk = std::move(record);
+    m_notices.say("save", QString::fromStdString(fault));
+}
+
+void WindowRecord::saveSoon()
+{
+    if (m_file && !m_isLoading)
+        QMetaObject::invokeMethod(this, &WindowRecord::saveNow, Qt::QueuedConnection);
+}
+
+void WindowRecord::saveAtClose()
+{
+    m_burst.stop();
+    if (m_file) m_file->saveAtClose(m_save());
+}
+
+} // namespace korvel

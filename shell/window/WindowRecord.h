@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/records/SettingsFile.h"
+#include "shell/controls/Boxes.h"
+#include "shell/controls/NoticeLine.h"
+
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+namespace korvel
+{
+
+class Program;
+
+/// The settings file of a window: filled when the window loads, written shortly after the last of a
+/// burst of changes and when the window closes.
+class WindowRecord : public QObject
+{
+public:
+    using Save = std::function<Record()>;
+    using Load = std::function<void(const Record&)>;
+    using Salvage = std::function<void(const std::string& bytes)>;
+
+    /// @param window whose controls are watched for changes
+    WindowRecord(Program& program, NoticeLine& notices, QWidget& window);
+
+    /// Names the file and how the record is filled and taken over. A window without a record never
+    /// calls it.
+    /// @param salvage what is done with the bytes of a damaged file after that, where the window
+    ///                knows more of them than the values that could be read one by one
+    void use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
+             Salvage salvage = {});
+    /// The same for a record that is the texts of boxes, in their order.
+    /// @param settle what is done to the texts before they are written
+    void useTexts(const std::string& file, std::vector<EntryBox*> boxes,
+                  std::function<void(Record&)> settle = {});
+
+    /// Fills the window and from then on keeps the file as the window is.
+    /// @return true when anything was found to fill it with
+    bool load();
+
+    /// Writes the file when nothing more has changed for a while. Changes of the window's controls
+    /// are noticed by themselves; this is for what is no control.
+    void changed();
+    /// Writes the file while the window stays open; a fault goes to the notice line.
+    void saveNow();
+    /// The same when the present user action is over: however often it is called meanwhile, the
+    /// file is written once.
+    void saveSoon();
+    /// Writes the file for the last time, asking where there is something to ask.
+    void saveAtClose();
+
+private:
+    void watchControls();
+
+    Program& m_program;
+    NoticeLine& m_notices;
+    QWidget& m_window;
+    QTimer m_burst; ///< runs from a change to the write
+    std::unique_ptr<SettingsFile> m_file;
+    Save m_save;
+    Load m_load;
+    Salvage m_salvage;
+    std::optional<Record> m_onDisk; ///< what the file holds for sure
+    bool m_isLoading = false;
+};
+
+} // namespace korvel

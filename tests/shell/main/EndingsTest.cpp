@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#include "shell/machine/FaultGuard.h"
+#include "shell/machine/FolderLock.h"
+#include "shell/machine/SessionQuestions.h"
+#include "shell/machine/TerminationWatch.h"
+#include "tests/app/FakeMachine.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <filesystem>
+#include <thread>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using korvel::testing::FakeQuestions;
+
+TEST(TerminationWatch, saysSoFromTheEventLoop)
+{
+    const auto before = std::signal(SIGTERM, SIG_DFL);
+    TerminationWatch watch;
+    QSignalSpy requested(&watch, &TerminationWatch::requested);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        std::raise(signal);
+        EXPECT_EQ(requested.count(), 0) << "not from within the signal";
+        EXPECT_TRUE(requested.wait(1000)) << signal;
+        requested.clear();
+    }
+    EXPECT_FALSE(requested.wait(700)) << "once";
+    std::signal(SIGTERM, before);
+}
+
+TEST(SessionQuestions, nobodyIsAskedWhenTheSessionHasEnded)
+{
+    FakeQuestions officer;
+    SessionQuestions questions(officer);
+    officer.willAnswer(Answer::Yes);
+    EXPECT_EQ(questions.ask({"", "", Buttons::YesNo}), Answer::Yes);
+    officer.willType("9");
+    EXPECT_EQ(questions.input("", "", ""), "9");
+    officer.willAnswer(Answer::Yes, [&] { questions.endSession(); });
+    EXPECT_EQ(questions.ask({"", "", Buttons::YesNo}), Answer::Cancel) << "ended under the box";
+    EXPECT_EQ(questions.ask({"", "", Buttons::OkCancel}), Answer::Cancel);
+    EXPECT_EQ(questions.ask({"", "", Buttons::Ok}), Answer::Ok);
+    EXPECT_THROW(questions.input("", "", ""), SessionEnded);
+}
+
+TEST(FaultGuard, savesAndTellsOnceForEachFault)
+{
+    FaultGuard guard;
+    std::vector<std::string> done;
+    guard.saveEverything = [&] { done.emplace_back("saved"); };
+    guard.tell = [&](const std::string& fault) { done.push_back(fault); };
+    EXPECT_TRUE(guard.run([] { return true; }));
+    EXPECT_FALSE(guard.run([] { return false; }));
+    EXPECT_TRUE(guard.run([]() -> bool { throw SessionEnded(); }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(done, std::vector<std::string>());
+    for (int i = 0; i < 2; ++i)
+        EXPECT_FALSE(guard.run([]() -> bool { throw std::runtime_error("no disk"); }));
+    EXPECT_EQ(done.size(), 0u) << "not in the middle of an event";
+    EXPECT_FALSE(guard.run([]() -> bool { throw 1; }));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(done, (std::vector<std::string>{"saved", "no disk", "saved", "unknown"}));
+}
+
+class FolderLockTest : public ::testing::Test
+{
+protected:
+    void leaveLock(const QByteArray& content, std::chrono::hours age)
+    {
+        const QString name = folder.filePath("KV_KORVEL.lock");
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        std::filesystem::last_write_time(name.toStdString(),
+                                         std::filesystem::file_time_type::clock::now() - age);
+    }
+    QTemporaryDir folder;
+};
+
+TEST_F(FolderLockTest, oneProgramAFolder)
+{
+    FolderLock first(folder.path());
+    EXPECT_FALSE(first.isHeldByAnother());
+    // However long it has been running.
+    std::filesystem::last_write_time(folder.filePath("KV_KORVEL.lock").toStdString(),
+                                     std::filesystem::file_time_type::clock::now() - 100h);
+    FolderLock second(folder.path());
+    EXPECT_TRUE(second.isHeldByAnother());
+    EXPECT_FALSE(second.callTheOther(200ms)) << "it does not answer";
+
+    int calls = 0;
+    first.answerCalls([&] { ++calls; });
+    bool answered = false;
+    std::thread other([&] { answered = second.callTheOther(5s); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return calls > 0; }));
+    other.join();
+    EXPECT_TRUE(answered);
+    QTest::qWait(900);
+    EXPECT_EQ(calls, 1);
+
+    const QTemporaryDir elsewhere;
+    EXPECT_FALSE(FolderLock(elsewhere.path()).isHeldByAnother());
+    EXPECT_FALSE(FolderLock(folder.filePath("missing")).isHeldByAnother()) << "nothing to guard";
+}
+
+TEST_F(FolderLockTest, theLockOfACrashedProgramDoesNotStand)
+{
+    const QByteArray dead = "999999\nkorvel2000\n" + QSysInfo::machineHostName().toUtf8() + "\n";
+    for (const auto& [content, age] : {std::pair(dead, 0h), {dead, 100h}, {QByteArray(), 0h}}) {
+        leaveLock(content, age);
+        EXPECT_FALSE(FolderLock(folder.path()).isHeldByAnother()) << content.toStdString();
+    }
+    QFile call(folder.filePath("KV_KORVEL.call"));
+    ASSERT_TRUE(call.open(QIODevice::WriteOnly));
+    FolderLock next(folder.path());
+    int calls = 0;
+    next.answerCalls([&] { ++calls; });
+    QTest::qWait(600);
+    EXPECT_EQ(calls, 0) << "a call to the one before";
+}
+
+} // namespace
+} // namespace korvel

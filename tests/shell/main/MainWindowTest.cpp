@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "shell/main/AlarmBoxes.h"
+#include "shell/window/CalculatorWindow.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+/// A calculator of one box, to be opened from the menu.
+class frmProbe : public CalculatorWindow
+{
+public:
+    explicit frmProbe(Program& program) : CalculatorWindow(program, "frmProbe", "Probe")
+    {
+        static constexpr Field table[] = {{"txtProbe", "Probe", "Probe", FieldKind::Text}};
+        fields = addFields(table);
+        record().useTexts("KV_Probe.ini", fields.all());
+        loadSettings();
+    }
+    FieldBoxes fields{{}, nullptr};
+};
+
+class MainWindowTest : public ::testing::Test
+{
+protected:
+    std::unique_ptr<frmKORVEL2000> make()
+    {
+        return std::make_unique<frmKORVEL2000>(
+            Machine{questions, clock, files, bell},
+            WindowCatalogue{{"mnuNAV", 1, "frmProbe", "&Probe",
+                             [](Program& program) { return new frmProbe(program); }}});
+    }
+    std::unique_ptr<frmKORVEL2000> start()
+    {
+        auto window = make();
+        questions.willType(FakeQuestions::acceptDefault);
+        window->start();
+        return window;
+    }
+
+    QTemporaryDir folder;
+    FakeQuestions questions;
+    FakeClock clock;
+    FakeBell bell;
+    ProgramFolder files{folder.path()};
+};
+
+TEST_F(MainWindowTest, anAlarmRingsByTheStoredTDWhileTDIsAskedFor)
+{
+    const auto window = make();
+    KV_Savedvalue& saved = window->program().saved();
+    saved.setTD(8);
+    saved.setAlarmTime(1, "08:45");
+    saved.setAlarmEnabled(1, true);
+    questions.willType("9", [&] { EXPECT_TRUE(QTest::qWaitFor([&] { return bell.ringing; })); });
+    window->start();
+    ASSERT_NE(shown("alarmBox"), nullptr);
+    shown("alarmBox")->close();
+}
+
+/// An officer at work in a box; counts what he has let go.
+struct Hand : QLineEdit {
+    void keyReleaseEvent(QKeyEvent*) override { ++released; }
+    int released = 0;
+};
+
+TEST(AlarmBoxes, aBoxStaysInFrontAndTakesTheKeyboardAfterItsFirstSecond)
+{
+    FakeBell bell;
+    AlarmBoxes boxes(bell);
+    Hand hand;
+    hand.show();
+    hand.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&hand));
+    boxes.show({{"08:45", true}});
+    QTest::keyPress(shown("alarmBox"), Qt::Key_7);
+    EXPECT_EQ(hand.text(), "7");
+    const QPointer<QWidget> first = shown("alarmBox");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+    EXPECT_EQ(shown("alarmBox")->windowModality(), Qt::ApplicationModal);
+    EXPECT_TRUE(shown("alarmBox")->windowFlags() & Qt::WindowStaysOnTopHint);
+    QTest::keyRelease(shown("alarmBox"), Qt::Key_7);
+    EXPECT_EQ(hand.released, 1) << "a key that it saw go down";
+    QTest::keyClick(shown("alarmBox"), Qt::Key_Return);
+    EXPECT_EQ(shown("alarmBox"), nullptr);
+}
+
+TEST_F(MainWindowTest, aWindowClosedAndChosenInOneBurstComesUpAnew)
+{
+    const auto window = start();
+    const auto burst = [&] {
+        choose(*window, "mnuNAV(1)");
+        const QPointer<QWidget> first = shown("frmProbe");
+        first->close();
+        choose(*window, "mnuNAV(1)");
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(first.isNull());
+        return shown("frmProbe");
+    };
+    ASSERT_NE(burst(), nullptr);
+    EXPECT_TRUE(isTicked(*window, "mnuNAV(1)"));
+    shown("frmProbe")->close();
+    EXPECT_FALSE(isTicked(*window, "mnuNAV(1)"));
+    burst();
+    window->openWindow("frmNobody");
+}
+
+TEST_F(MainWindowTest, whatIsMinimisedIsRestoredWhenItIsChosenOrCalled)
+{
+    const auto window = start();
+    choose(*window, "mnuNAV(1)");
+    QWidget* probe = shown("frmProbe");
+    ASSERT_NE(probe, nullptr);
+    probe->showMinimized();
+    window->openWindow("frmProbe");
+    EXPECT_FALSE(probe->isMinimized());
+    window->showMinimized();
+    window->comeToFront();
+    EXPECT_FALSE(window->isMinimized());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == window.get(); }));
+}
+
+TEST_F(MainWindowTest, itsCrossAsks)
+{
+    const auto window = start();
+    questions.willAnswer(Answer::No);
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(MainWindowTest, theEndOfTheSessionWritesRecordsAndAsksNothing)
+{
+    const auto window = start();
+    choose(*window, "mnuNAV(1)");
+    type(*shown("frmProbe"), "txtProbe", "35");
+    window->program().saved()(25) = 12.5;
+    QSignalSpy ended(window.get(), &frmKORVEL2000::ended);
+    // The session ends under a question that would be asked again and again.
+    questions.willType("99", [&] { window->endSession(); });
+    EXPECT_ANY_THROW(window->program().shipsTime().inputTD());
+    window->endSession();
+    EXPECT_EQ(ended.count(), 1);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(shown("frmProbe"), nullptr);
+    EXPECT_EQ(files.read("KV_Probe.ini").bytes, "\"35\"\r\n");
+    EXPECT_THAT(files.read("KV_KORVEL recovery.ini").bytes, ::testing::HasSubstr("12.5"));
+    EXPECT_EQ(files.look("KV_KORVEL.ini").status, FileStore::Content::Status::Missing);
+}
+
+} // namespace
+} // namespace korvel

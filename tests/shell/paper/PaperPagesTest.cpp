@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "shell/paper/PaperWindow.h"
+#include "tests/SourceFolder.h"
+#include "tools/papers/ExamplePaper.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTextEdit>
+
+// The pages of papers, long ones too (tests/papers), as a reader gets them out of their PDF.
+
+namespace korvel
+{
+namespace
+{
+
+QList<QStringList> pagesOfPDF(const QByteArray& PDF)
+{
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", "-", "-"});
+    reader.write(PDF);
+    reader.closeWriteChannel();
+    EXPECT_TRUE(reader.waitForFinished()) << "pdftotext is not there";
+    QList<QStringList> pages;
+    for (const QString& page :
+         QString::fromUtf8(reader.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts)) {
+        pages << page.split('\n', Qt::SkipEmptyParts);
+        EXPECT_THAT(pages.back().back().toStdString(),
+                    ::testing::HasSubstr("Page " + std::to_string(pages.size()) + " of "));
+        pages.back().removeLast();
+    }
+    return pages;
+}
+
+/// The cells of a row as they stand side by side.
+QRegularExpression lineOf(const std::vector<std::string>& cells)
+{
+    QStringList parts;
+    for (const std::string& each : cells)
+        for (const QString& word : QString::fromStdString(each).split(' ', Qt::SkipEmptyParts))
+            parts << QRegularExpression::escape(word);
+    return QRegularExpression("^\\s*" + parts.join("\\s*") + "\\s*$");
+}
+
+/// Every row once, whole, below the heading of its table on its own page.
+void expectWhole(const PaperTable& table, const QList<QStringList>& pages)
+{
+    const QRegularExpression heading = lineOf(table.headings);
+    for (const auto& row : table.rows) {
+        const QRegularExpression line = lineOf(row);
+        int seen = 0;
+        for (const QStringList& page : pages)
+            if (const auto at = page.indexOf(line); at >= 0) {
+                ++seen;
+                const auto above = page.lastIndexOf(heading, at);
+                EXPECT_GE(above, 0) << "no heading above " << page[at].toStdString();
+            }
+        EXPECT_EQ(seen, 1) << table.title << ": " << row.front();
+    }
+}
+
+TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
+{
+    QFileInfoList examples;
+    for (const char* folder : {"tests/papers", "docs/manual/examples"})
+        examples += QDir(QString::fromStdString(sourceFile(folder))).entryInfoList({"*.example"});
+    int tables = 0;
+    for (const QFileInfo& each : examples) {
+        SCOPED_TRACE(each.filePath().toStdString());
+        const WorkedExample example(contentOf(each.filePath().toStdString()),
+                                    QString::fromStdString(sourceFile("data")));
+        PaperWindow& paper = example.openPaper();
+        const auto& text = *paper.findChild<QTextEdit*>();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return text.toPlainText().contains("Signature"); }))
+            << "the end does not come after the beginning";
+        const PaperDocument& document = paper.paper();
+        const QList<QStringList> pages = pagesOfPDF(document.PDF());
+        ASSERT_FALSE(pages.isEmpty());
+
+        std::vector<PaperTable> all = document.paper().tables;
+        std::vector<QRegularExpression> titles = {lineOf({"Step Formula Figures Value"})};
+        for (const Working& working : document.paper().workings) {
+            all.insert(all.end(), working.tables.begin(), working.tables.end());
+            titles.push_back(lineOf({"Working: " + working.title}));
+        }
+        for (const PaperTable& table : all) {
+            expectWhole(table, pages);
+            titles.insert(titles.end(), {lineOf({table.title}), lineOf(table.headings)});
+        }
+        for (const QStringList& page : pages) {
+            for (const QRegularExpression& title : titles)
+                EXPECT_FALSE(title.match(page.back()).hasMatch()) << page.back().toStdString();
+            if (const auto at = page.lastIndexOf(QRegularExpression("Working: .*")); at >= 0) {
+                const auto holds = [&](const QRegularExpression& heading) {
+                    return page.indexOf(heading, at + 1) >= 0;
+                };
+                EXPECT_TRUE(std::ranges::any_of(titles, holds)) << page[at].toStdString();
+            }
+            // Steps go on with a number: the rest of one that was cut would stand further in.
+            if (page.front().contains("Formula")) {
+                EXPECT_THAT(page[1].toStdString(), ::testing::ContainsRegex("^ ?[0-9]+\\. "));
+            }
+        }
+        EXPECT_THAT(pages.back().filter("Signature"), ::testing::SizeIs(1));
+        EXPECT_GE(pages.back().size(), 2);
+        tables += static_cast<int>(all.size());
+    }
+    EXPECT_GE(tables, 30);
+}
+
+} // namespace
+} // namespace korvel

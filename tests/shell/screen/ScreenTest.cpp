@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/NoticeLine.h"
+#include "tests/shell/WholeProgram.h"
+
+#include <QAbstractButton>
+#include <QScrollArea>
+#include <QScrollBar>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+/// Size and place of everything.
+class ScreenTest : public WholeProgram
+{
+protected:
+    void zoomTo(int percent)
+    {
+        Screen& screen = main.program().screen();
+        while (screen.choices().zoom != percent)
+            screen.zoom(screen.choices().zoom < percent ? 1 : -1);
+        QTest::qWait(20);
+    }
+};
+
+/// Where every control of a window stands, and how large it is.
+using Layout = std::vector<std::pair<std::string, QRect>>;
+
+Layout layoutOf(const QWidget& window)
+{
+    Layout all;
+    for (const auto* each : window.findChildren<QWidget*>())
+        if (each->isVisible() && each->window() == &window)
+            all.emplace_back(nameOf(*each), QRect(each->mapTo(&window, QPoint()), each->size()));
+    return all;
+}
+
+std::string textOf(const QRect& place)
+{
+    return QString("%1 %2 %3 %4")
+        .arg(place.x())
+        .arg(place.y())
+        .arg(place.width())
+        .arg(place.height())
+        .toStdString();
+}
+
+void expectSame(const Layout& before, const QWidget& window)
+{
+    const auto after = layoutOf(window);
+    ASSERT_EQ(before.size(), after.size()) << nameOf(window);
+    for (std::size_t i = 0; i < before.size(); ++i)
+        EXPECT_TRUE(before[i] == after[i]) << before[i].first << ": " << textOf(before[i].second)
+                                           << " became " << textOf(after[i].second);
+}
+
+/// A window that is as wide as the screen may be scrolled up and down only.
+void expectOneDirection(const QWidget& window)
+{
+    EXPECT_LE(window.minimumSizeHint().width(), window.width()) << nameOf(window);
+    for (const auto* area : window.findChildren<QScrollArea*>())
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0)
+            << nameOf(*area) << " needs " << area->widget()->minimumSizeHint().width() << " of "
+            << area->viewport()->width();
+}
+
+/// No figure, caption or button may have less room than it needs.
+void expectTextsFit(QWidget& window, int zoom)
+{
+    for (auto* each : window.findChildren<QWidget*>()) {
+        const auto* caption = qobject_cast<QLabel*>(each);
+        const auto* button = qobject_cast<QAbstractButton*>(each);
+        if (!each->isVisible() || each->window() != &window || (!caption && !button)) continue;
+        if (caption &&
+            (caption->wordWrap() || caption->text().isEmpty() || qobject_cast<ResultLabel*>(each)))
+            continue;
+        // What a label asks for is never less than its least size.
+        const QSize needed =
+            caption ? caption->fontMetrics().size(Qt::TextShowMnemonic, caption->text())
+                    : button->minimumSizeHint();
+        EXPECT_EQ(needed.boundedTo(each->size() + QSize(1, 1)), needed)
+            << zoom << " %: " << nameOf(*each) << " " << needed.width() << " x " << needed.height()
+            << " in " << each->width() << " x " << each->height();
+    }
+    for (auto* label : window.findChildren<ResultLabel*>()) {
+        if (!label->isVisible() || label->text().trimmed().isEmpty() || label->wordWrap() ||
+            label->text().contains('\n') ||
+            label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored ||
+            label->text().size() > 60)
+            continue;
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width() + 2)
+            << zoom << " %: " << nameOf(*label) << " " << label->text().toStdString();
+    }
+}
+
+TEST_F(ScreenTest, everyWindowAtEveryZoom)
+{
+    const auto windows = openAll();
+    for (int zoom : ScreenChoices::zoomSteps()) {
+        zoomTo(zoom);
+        for (QWidget* each : windows) {
+            expectTextsFit(*each, zoom);
+            if (zoom != 200) continue;
+            each->resize(1024 - 8, 768 - 34); // with a frame
+            QTest::qWait(20);
+            EXPECT_LE(each->width(), 1024) << nameOf(*each);
+            EXPECT_LE(each->height(), 768) << nameOf(*each);
+            expectOneDirection(*each);
+        }
+    }
+}
+
+TEST_F(ScreenTest, everyWindowComesBackFromEveryZoomAsItWas)
+{
+    openAll();
+    std::map<QWidget*, Layout> before = {{&main, layoutOf(main)}};
+    for (QWidget* each : QApplication::topLevelWidgets()) {
+        const auto* foot = dynamic_cast<NoticeLine*>(each->findChild<QWidget*>("lblNotice"));
+        if (!foot || !each->isVisible()) continue;
+        EXPECT_FALSE((foot->text() + foot->hint()).isEmpty()) << nameOf(*each);
+        before[each] = layoutOf(*each);
+    }
+    EXPECT_EQ(before.size(), 16u);
+    for (int zoom : {200, 80, 100})
+        zoomTo(zoom);
+    for (const auto& [window, layout] : before)
+        expectSame(layout, *window);
+    main.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+    zoomTo(300);
+    QTest::keyClick(&main, Qt::Key_0, Qt::ControlModifier);
+    QTest::qWait(20);
+    for (const auto& [window, layout] : before)
+        expectSame(layout, *window);
+}
+
+TEST_F(ScreenTest, theMainWindowIsSmallWithARemarkAndWithout)
+{
+    const QSize before = main.size();
+    for (const double zone : {9.0, 0.0, 9.0}) { // the clock is to keep JST
+        clock.zone = zone;
+        main.tmrClock_Timer();
+        QTest::qWait(20);
+        EXPECT_EQ(main.size() == before, zone == 9);
+        EXPECT_LE(main.width(), 480);
+        EXPECT_LE(main.height(), 170);
+        expectTextsFit(main, 100);
+    }
+}
+
+TEST_F(ScreenTest, windowsStandWhereTheyWere)
+{
+    const QRect place(60, 70, 520, 420);
+    QWidget& wind = window("frmWind");
+    wind.setGeometry(place);
+    const auto isKept = [&] {
+        return files.read(ScreenChoices::file).bytes.find("frmWind 60 70 520 420") !=
+               std::string::npos;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isKept, 3000)) << "lost by a program that is killed";
+    wind.close();
+    EXPECT_EQ(window("frmWind").geometry(), place);
+    // A screen that is gone, and a window larger than the screen.
+    window("frmETA").close();
+    main.program().screen().keepPlace("frmETA", {5000, -4000, 3000, 2500, 100, false});
+    const QRect screen = main.screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(window("frmETA").geometry()));
+    onScreen("frmETA").close();
+    choose(main, "mnuReopen");
+    choose(main, "mnuClockOnTop");
+    EXPECT_TRUE(main.isVisible());
+    main.endSession();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    questions.willType(FakeQuestions::acceptDefault);
+    frmKORVEL2000 next({questions, clock, files, bell}, calculatorWindows());
+    next.start();
+    EXPECT_EQ(onScreen("frmWind").geometry(), place);
+    EXPECT_TRUE(isTicked(next, "mnuWATCH(4)"));
+    EXPECT_TRUE(next.windowFlags() & Qt::WindowStaysOnTopHint);
+    EXPECT_FALSE(isTicked(next, "mnuWATCH(3)"));
+    next.endSession();
+}
+
+TEST_F(ScreenTest, windowsStayClosedAsLongAsNobodyTickedIt)
+{
+    window("frmWind");
+    main.endSession();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    questions.willType(FakeQuestions::acceptDefault);
+    frmKORVEL2000 next({questions, clock, files, bell}, calculatorWindows());
+    next.start();
+    EXPECT_EQ(shown("frmWind"), nullptr);
+    next.endSession();
+}
+
+} // namespace
+} // namespace korvel
