@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
-#include "forms/frmTIDE/Stations.h"
-#include "forms/frmTIDE/TideTables.h"
+#include "forms/frmTIDE/day/TideTables.h"
+#include "forms/frmTIDE/stations/Stations.h"
 #include "navlib/datetime.h"
 #include "shell/machine/ProgramFolder.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmTIDE/TideData.h"
-#include "forms/frmTIDE/TideExtension.h"
-#include "forms/frmTIDE/TideTables.h"
+#include "forms/frmTIDE/data/TideData.h"
+#include "forms/frmTIDE/data/TideExtension.h"
+#include "forms/frmTIDE/day/TideTables.h"
 #include "shell/machine/ProgramFolder.h"
 #include "tools/tidedata/sources.h"
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/SightLayout.h"
 
-#include "forms/frmSunSight/EntryPanel.h"
-#include "forms/frmSunSight/FixPanel.h"
-#include "forms/frmSunSight/LinePanel.h"
-#include "forms/frmSunSight/SightListPanel.h"
+#include "forms/frmSunSight/panels/EntryPanel.h"
+#include "forms/frmSunSight/panels/FixPanel.h"
+#include "forms/frmSunSight/panels/LinePanel.h"
+#include "forms/frmSunSight/panels/SightListPanel.h"
 #include "shell/controls/Panels.h"
 
 #include <QGridLayout>

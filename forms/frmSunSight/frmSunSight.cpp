@@ -3,12 +3,12 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
-#include "forms/frmSunSight/EntryPanel.h"
-#include "forms/frmSunSight/FixPanel.h"
-#include "forms/frmSunSight/LinePanel.h"
 #include "forms/frmSunSight/SightLayout.h"
-#include "forms/frmSunSight/SightListPanel.h"
-#include "forms/frmSunSight/SightPaper.h"
+#include "forms/frmSunSight/panels/EntryPanel.h"
+#include "forms/frmSunSight/panels/FixPanel.h"
+#include "forms/frmSunSight/panels/LinePanel.h"
+#include "forms/frmSunSight/panels/SightListPanel.h"
+#include "forms/frmSunSight/paper/SightPaper.h"
 #include "shell/machine/AsQString.h"
 
 #include <QMenu>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmSunSight/CalculateLOP.h"
-#include "forms/frmSunSight/MeridianPassage.h"
-#include "forms/frmSunSight/SightEditing.h"
-#include "forms/frmSunSight/SightFix.h"
-#include "forms/frmSunSight/SightSettings.h"
+#include "forms/frmSunSight/fix/SightFix.h"
+#include "forms/frmSunSight/sight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/MeridianPassage.h"
+#include "forms/frmSunSight/sight/SightEditing.h"
+#include "forms/frmSunSight/sight/SightSettings.h"
 #include "shell/window/CalculatorWindow.h"
 
 #include <optional>

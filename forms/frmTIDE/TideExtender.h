@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmTIDE/TideExtension.h"
+#include "forms/frmTIDE/data/TideExtension.h"
 #include "shell/program/Program.h"
 
 #include <functional>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDE.h"
 
-#include "forms/frmTIDE/StationCheck.h"
-#include "forms/frmTIDE/StationSearch.h"
-#include "forms/frmTIDE/TidePaper.h"
+#include "forms/frmTIDE/day/StationCheck.h"
+#include "forms/frmTIDE/paper/TidePaper.h"
+#include "forms/frmTIDE/stations/StationSearch.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
 
@@ -305,7 +305,7 @@ WorkingPaper frmTIDE::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
     if (!m_shown) {
-        paper.remarks.push_back("Choose a place and a date first.");
+        paper.remarks.emplace_back("Choose a place and a date first.");
         return paper;
     }
     const TideDayPanel& panel = m_sheet->dayPanel();

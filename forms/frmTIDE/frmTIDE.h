@@ -2,15 +2,15 @@
 #pragma once
 
 #include "app/records/SettingsFile.h"
-#include "forms/frmTIDE/FullConstants.h"
-#include "forms/frmTIDE/StationLines.h"
-#include "forms/frmTIDE/StationList.h"
-#include "forms/frmTIDE/TideChoice.h"
 #include "forms/frmTIDE/TideExtender.h"
-#include "forms/frmTIDE/TideHabits.h"
-#include "forms/frmTIDE/TideMenus.h"
-#include "forms/frmTIDE/TideReports.h"
-#include "forms/frmTIDE/TideSheet.h"
+#include "forms/frmTIDE/data/FullConstants.h"
+#include "forms/frmTIDE/day/StationLines.h"
+#include "forms/frmTIDE/day/TideChoice.h"
+#include "forms/frmTIDE/pages/TideReports.h"
+#include "forms/frmTIDE/sheet/TideMenus.h"
+#include "forms/frmTIDE/sheet/TideSheet.h"
+#include "forms/frmTIDE/stations/StationList.h"
+#include "forms/frmTIDE/stations/TideHabits.h"
 #include "shell/window/CalculatorWindow.h"
 
 #include <QTimer>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmSunSight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/CalculateLOP.h"
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
-#include "forms/frmSunSight/MeridianPassage.h"
-#include "forms/frmSunSight/SightFields.h"
-#include "forms/frmSunSight/SightLine.h"
+#include "forms/frmSunSight/sight/MeridianPassage.h"
+#include "forms/frmSunSight/sight/SightFields.h"
+#include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/golden/Golden.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmSunSight/DrawLOP.h"
+#include "forms/frmSunSight/fix/DrawLOP.h"
 
-#include "forms/frmSunSight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/golden/Golden.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmSunSight/SightFix.h"
+#include "forms/frmSunSight/fix/SightFix.h"
 
 #include "app/reading/Reading.h"
-#include "forms/frmSunSight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
 #include <gmock/gmock.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmSunSight/SightSettings.h"
+#include "forms/frmSunSight/sight/SightSettings.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
 #include <gmock/gmock.h>

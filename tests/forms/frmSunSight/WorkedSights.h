@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/reading/Format.h"
-#include "forms/frmSunSight/SightFix.h"
-#include "forms/frmSunSight/SightInput.h"
+#include "forms/frmSunSight/fix/SightFix.h"
+#include "forms/frmSunSight/sight/SightInput.h"
 #include "navlib/angles.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/frmSunSight.h"
 
-#include "forms/frmSunSight/SightPicture.h"
+#include "forms/frmSunSight/panels/SightPicture.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>

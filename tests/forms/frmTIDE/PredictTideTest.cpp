@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmTIDE/PredictTide.h"
+#include "forms/frmTIDE/day/PredictTide.h"
 
-#include "forms/frmTIDE/DrawCurve.h"
-#include "forms/frmTIDE/TideData.h"
-#include "forms/frmTIDE/TideDates.h"
-#include "forms/frmTIDE/TideTables.h"
+#include "forms/frmTIDE/data/TideData.h"
+#include "forms/frmTIDE/data/TideDates.h"
+#include "forms/frmTIDE/day/DrawCurve.h"
+#include "forms/frmTIDE/day/TideTables.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 
 #include <gmock/gmock.h>

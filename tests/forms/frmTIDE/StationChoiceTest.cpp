@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmTIDE/StationCheck.h"
-#include "forms/frmTIDE/StationSearch.h"
-#include "forms/frmTIDE/TideExtension.h"
-#include "forms/frmTIDE/TideHabits.h"
-#include "forms/frmTIDE/TideTables.h"
+#include "forms/frmTIDE/data/TideExtension.h"
+#include "forms/frmTIDE/day/StationCheck.h"
+#include "forms/frmTIDE/day/TideTables.h"
+#include "forms/frmTIDE/stations/StationSearch.h"
+#include "forms/frmTIDE/stations/TideHabits.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
-#include "forms/frmTIDE/TideDates.h"
+#include "forms/frmTIDE/data/TideDates.h"
 
 #include <cmath>
 

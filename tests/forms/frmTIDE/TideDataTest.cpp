@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmTIDE/TideData.h"
+#include "forms/frmTIDE/data/TideData.h"
 
-#include "forms/frmTIDE/StationList.h"
-#include "forms/frmTIDE/Stations.h"
+#include "forms/frmTIDE/stations/StationList.h"
+#include "forms/frmTIDE/stations/Stations.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 
 #include <gmock/gmock.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmTIDE/TideWaters.h"
+#include "forms/frmTIDE/day/TideWaters.h"
 
-#include "forms/frmTIDE/StationLines.h"
-#include "forms/frmTIDE/TideTables.h"
+#include "forms/frmTIDE/day/StationLines.h"
+#include "forms/frmTIDE/day/TideTables.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 

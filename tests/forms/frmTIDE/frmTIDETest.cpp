@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDE.h"
 
-#include "forms/frmTIDE/TideData.h"
-#include "forms/frmTIDE/frmTIDEPage.h"
+#include "forms/frmTIDE/data/TideData.h"
+#include "forms/frmTIDE/pages/frmTIDEPage.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/shell/ShellTesting.h"
 

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/fix/SightFix.h"
+
+#include "app/reading/Format.h"
+#include "forms/frmSunSight/fix/FixTexts.h"
+#include "forms/frmSunSight/sight/SightFields.h"
+#include "forms/frmSunSight/sight/SightInput.h"
+#include "forms/frmSunSight/sight/SightLine.h"
+#include "navlib/angles.h"
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace NavFunc113;
+
+std::optional<ErrorModel> readErrors(const SightFixOptions& options, Remarks& remarks)
+{
+    const auto sigma = readBox(qualityFields[0], options.sigma, 1, remarks);
+    const auto along = readBox(qualityFields[1], options.runAlong, 5, remarks);
+    const auto course = readBox(qualityFields[2], options.runCourse, 2, remarks);
+    if (!sigma || !along || !course) return std::nullopt;
+    return ErrorModel{Miles(*sigma), *along / 100, Degrees(*course)};
+}
+
+/// The sights that are on, and the time of the last of them.
+std::vector<Observation> takeSights(const SightList& list, SightFixResult& result, Remarks& remarks)
+{
+    Remarks ofSights;
+    std::vector<Observation> observations;
+    for (std::size_t i = 0; i < list.sights().size(); ++i) {
+        if (!list.sights()[i].on) continue;
+        const Observation observation = readObservation(list.sights()[i].texts, ofSights);
+        if (!observation.complete()) continue;
+        result.UTC = std::max(result.UTC.value_or(*observation.UTC), *observation.UTC);
+        result.lines.push_back({i, *observation.UTC, {}, {}, {}, {}});
+        observations.push_back(observation);
+    }
+    for (const std::string& warning : ofSights.warnings)
+        remarks.warn(warning);
+    return observations;
+}
+
+/// The lines of the sights, each from the DR position of its own time, as everywhere in the window.
+bool makeLines(const std::vector<Observation>& observations, const Track& track,
+               SightFixResult& result)
+{
+    result.DR = track.at(*result.UTC);
+    if (!result.DR) return false;
+    for (std::size_t i = 0; i < observations.size(); ++i) {
+        FixLine& line = result.lines[i];
+        const Observation& seen = observations[i];
+        const auto DR = track.at(line.UTC);
+        if (!DR) return false;
+        line.DR = *DR;
+        line.sight = seen.sight(*result.UTC);
+        line.line = LineAt(line.sight, line.DR, {});
+        line.line.azimuth = azimuthOfSun(*seen.GHA, *seen.declination, line.DR);
+        const DegMin Hc = DegToDegMin(line.line.computedAltitude);
+        line.text = interceptText(seen.corrections->Ho, Hc) + "  Zn " +
+                    courseText(line.line.azimuth, "000.0");
+    }
+    return true;
+}
+
+std::string whyNoFix(FixOutcome outcome)
+{
+    switch (outcome) {
+    case FixOutcome::Found:
+        return {};
+    case FixOutcome::TooFewLines:
+        return "No fix: two lines at least are needed";
+    case FixOutcome::Parallel:
+        return "No fix: the lines are parallel";
+    case FixOutcome::NoConvergence:
+        return "No fix: the lines do not meet near the DR position";
+    }
+    return {};
+}
+
+void takeFix(const ErrorModel& errors, const SightFixOptions& options, SightFixResult& result,
+             Remarks& remarks)
+{
+    std::vector<Sight> sights;
+    for (const FixLine& line : result.lines)
+        sights.push_back(line.sight);
+    const Fix fix = LeastSquaresFix(sights, *result.DR, result.motion, errors);
+    if (fix.outcome != FixOutcome::Found) {
+        remarks.fault(whyNoFix(fix.outcome));
+        return;
+    }
+    const Agreement agreement = AgreementOfLines(sights, *result.DR, result.motion, errors);
+    result.solution = fix;
+    result.errors = errors;
+    describeFix(fix, result);
+    describeEllipse(fix, errors, options, agreement.agrees, result);
+    describeAgreement(agreement, result, remarks);
+    warnOfGeometry(fix, result, remarks);
+    result.agreement = agreement;
+}
+
+} // namespace
+
+SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
+                            const SightFixOptions& options, std::optional<DateTime> now)
+{
+    SightFixResult result;
+    Remarks remarks, ofTrack; // CalculateLOP names the faults of the track
+    try {
+        const std::vector<Observation> observations = takeSights(list, result, remarks);
+        const Track track = readTrack(trackTexts, result.UTC, true, ofTrack);
+        result.motion = track.motion.value_or(Motion{});
+        const auto errors = readErrors(options, remarks);
+        if (!result.UTC) {
+            // The chart is laid out before the first sight.
+            if (track.timeUsable) result.DR = track.position;
+        } else {
+            warnOfTimes(now, result, remarks);
+            if (track.motion && makeLines(observations, track, result)) {
+                if (errors) takeFix(*errors, options, result, remarks);
+            } else {
+                result.lines.clear();
+                remarks.fault("No fix: the DR position or its run cannot be used");
+            }
+        }
+    } catch (const ArithmeticError& error) {
+        result = {};
+        remarks.fault(std::string("Fix: ") + error.what());
+    }
+    result.notice = remarks.text();
+    return result;
+}
+
+TrackTexts trackFrom(const SightFixResult& fix, const TrackTexts& before)
+{
+    return {fix.memoLatitude, fix.memoLongitude, Format(*fix.UTC, "yyyy/mm/dd hh:mm:ss"),
+            before.course, before.speed};
+}
+
+} // namespace korvel

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/sight/SightList.h"
+#include "navlib/line_checks.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace korvel
+{
+
+/// One recorded sight that is on, as a line of the fix.
+struct FixLine {
+    std::size_t index = 0; ///< in the list
+    NavFunc113::DateTime UTC = 0;
+    NavFunc113::Sight sight;
+    NavFunc113::LineOfPosition line; ///< referred to the DR position
+    NavFunc113::Position DR;         ///< run to the time of the sight
+    std::string text;                ///< intercept, Zn, and the residual once there is a fix
+};
+
+/// A position that the lines give, with what it is called.
+struct FixPoint {
+    NavFunc113::Position position;
+    std::optional<NavFunc113::ErrorEllipse> ellipse; ///< absent when it would claim too much
+    std::string label;                               ///< "R FIX 1530", "without 1145"
+};
+
+struct SightFixResult {
+    std::optional<NavFunc113::DateTime> UTC; ///< time of the last sight that is on
+    std::optional<NavFunc113::Position> DR;  ///< run to that time: the middle of the plot. With
+                                             ///< no sight on, as typed
+    NavFunc113::Motion motion;
+    std::vector<FixLine> lines;
+
+    std::optional<NavFunc113::Fix> solution; ///< what all below follows from
+    NavFunc113::Agreement agreement;
+    NavFunc113::ErrorModel errors;
+
+    std::optional<FixPoint> fix;
+    std::vector<FixPoint> without; ///< when lines do not agree: the fix of the rest, or the fixes
+                                   ///< without one each that may be out
+    std::string latitude;          ///< "14-.06'0N"
+    std::string longitude;         ///< "052-.25'8W"
+    std::string time;              ///< "R FIX 2020/12/17 15:30:00 UTC"
+    std::string memoLatitude;      ///< DegMin in full, for the Position Memo
+    std::string memoLongitude;
+    std::string ellipseText;
+    std::string sigmaText;   ///< where the sigma of the ellipse comes from
+    std::string withoutText; ///< the fixes without what does not fit
+    std::string notice;      ///< why there is no fix, and warnings
+};
+
+/// The fix from all recorded sights that are on, at the time of the last of them.
+/// @param now  UTC, for sights that lie ahead of it
+SightFixResult CalculateFix(const SightList& list, const TrackTexts& track,
+                            const SightFixOptions& options,
+                            std::optional<NavFunc113::DateTime> now);
+
+/// The track that goes on from a fix, with the course and speed of the one before.
+/// @param fix with a position
+TrackTexts trackFrom(const SightFixResult& fix, const TrackTexts& before);
+
+} // namespace korvel

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/fix/DrawLOP.h"
+#include "shell/controls/ResultLabel.h"
+#include "shell/paper/PaperDocument.h"
+
+#include <array>
+#include <functional>
+
+class QGroupBox;
+
+namespace korvel
+{
+
+struct ColourScheme;
+class SightPicture;
+
+/// The fix from the recorded sights: its plot, its position and how good it is.
+class FixPanel : public QWidget
+{
+public:
+    explicit FixPanel(QWidget* parent);
+
+    /// @return what lies outside the plot
+    std::string showFix(const SightFixResult& fix);
+    void setColours(const ColourScheme& colours);
+    /// The plot for a working paper; nothing before there is a DR position.
+    std::vector<PaperPicture> paperPictures();
+
+    /// Called with what lies outside the plot when the officer has looked at another part of it.
+    std::function<void(const std::string&)> onView;
+
+    std::vector<ResultLabel*> results() const { return {m_lblSunFix.begin(), m_lblSunFix.end()}; }
+
+private:
+    QWidget* layOutPlot();
+    QGroupBox* layOutFix();
+    void showCursor(QPointF user);
+    void showView(const PlotView& view);
+
+    SightFixResult m_fix;
+    PlotView m_view;
+    SightPicture* m_picSunSight;
+    std::array<ResultLabel*, 6> m_lblSunFix{};    ///< latitude, longitude, time, ellipse, sigma,
+                                                  ///< without what does not fit
+    std::array<ResultLabel*, 2> m_lblSunCursor{}; ///< latitude, longitude
+};
+
+} // namespace korvel

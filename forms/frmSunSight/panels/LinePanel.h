@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/sight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/MeridianPassage.h"
+#include "shell/controls/ResultLabel.h"
+
+#include <array>
+
+class QGroupBox;
+
+namespace korvel
+{
+
+/// What comes of the sight being entered: worksheet and line of position; in a group of its own the
+/// meridian passage.
+class LinePanel : public QWidget
+{
+public:
+    explicit LinePanel(QWidget* parent);
+
+    void showResults(const LOPResult& line, const MeridianResult& noon);
+
+    std::vector<ResultLabel*> results() const;
+
+    QGroupBox* noon() const { return m_noon; }
+
+private:
+    /// Hs, nine terms, upper limb, rounding, Ho.
+    static constexpr std::size_t worksheetLines = 13;
+
+    QGroupBox* layOutWorksheet();
+    QGroupBox* layOutLine();
+    void layOutNoon();
+    void showWorksheet(const std::vector<WorksheetLine>& lines);
+
+    QGroupBox* m_noon;
+    std::array<ResultLabel*, 3> m_lblSunTime{}; ///< UTC, SMT, watch error
+    std::array<QLabel*, worksheetLines> m_lblSunTerm{};
+    std::array<ResultLabel*, worksheetLines> m_lblSunValue{};
+    std::array<ResultLabel*, 6> m_lblSunLine{}; ///< declination, GHA, DR, Hc, intercept, Zn
+    std::array<ResultLabel*, 4> m_lblSunNoon{}; ///< noon, greatest altitude, latitude, note
+};
+
+} // namespace korvel

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/fix/SightFix.h"
+
+#include <QWidget>
+
+#include <optional>
+
+class QPushButton;
+
+namespace korvel
+{
+
+class SightLines;
+
+/// The recorded sights, a line each, and what can be done with the chosen one.
+class SightListPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SightListPanel(QWidget* parent);
+
+    /// The sights, each with its line as far as the fix has made one of it.
+    void showSights(const SightList& list, const SightFixResult& fix);
+
+    std::optional<std::size_t> chosen() const;
+    /// Lets the button offer to take back what was deleted.
+    void setUndo(bool canUndo);
+
+signals:
+    void switched(std::size_t index, bool on);
+    void editAsked();
+    void deleteAsked();
+    void undoAsked();
+
+private:
+    SightLines* m_lstSunSight;
+    QPushButton* m_cmdUndo;
+};
+
+} // namespace korvel

@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/panels/SightPicture.h"
+#include "shell/machine/AsQString.h"
+
+#include <QKeyEvent>
+#include <QPainterPath>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <utility>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr double zoomStep = 1.25;
+constexpr double panStep = 0.25; // of the half width
+
+UserScale scaleOf(const PlotView& view)
+{
+    return {view.centre.x - view.half, view.centre.x + view.half, view.centre.y + view.half,
+            view.centre.y - view.half};
+}
+
+/// A round number of miles, about a quarter of the width.
+int milesOfScale(const PlotView& view)
+{
+    for (int miles : {1, 2, 5, 10, 20, 50})
+        if (miles * 4 >= view.half) return miles;
+    return 100;
+}
+
+} // namespace
+
+SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
+{
+    setObjectName("picSunSight");
+    setAccessibleName("Plot of the lines of position, around the DR position; plus and minus zoom, "
+                      "arrows move, Home shows 40 miles each way, End all lines");
+    setToolTip("Wheel or + and -: zoom. Drag or arrows: move. Home: 40 miles each way. End: all "
+               "lines");
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &PictureBox::pointed, this, &SightPicture::drag);
+    connect(this, &PictureBox::pressed, this, [this](QPointF user) { m_dragged = user; });
+    connect(this, &PictureBox::released, this, [this] { m_dragged.reset(); });
+    QFont small = font();
+    small.setPointSizeF(small.pointSizeF() * 0.85);
+    setFont(small);
+    const int side = fontMetrics().height() * 13;
+    setMinimumSize(side * 3 / 2, side);
+    setUserScale(scaleOf({}));
+}
+
+/// As high as it is wide, where the screen has room for that.
+QSize SightPicture::sizeHint() const
+{
+    return {minimumWidth(), minimumWidth() * 5 / 4};
+}
+
+void SightPicture::showPlot(const SightPlot& plot)
+{
+    m_plot = plot;
+    setUserScale(scaleOf(plot.view));
+    update();
+}
+
+void SightPicture::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        return emit viewWanted(zoomed(m_plot.view, 1 / zoomStep, m_plot.view.centre));
+    case Qt::Key_Minus:
+        return emit viewWanted(zoomed(m_plot.view, zoomStep, m_plot.view.centre));
+    case Qt::Key_Left:
+        return pan(-panStep, 0);
+    case Qt::Key_Right:
+        return pan(panStep, 0);
+    case Qt::Key_Up:
+        return pan(0, panStep);
+    case Qt::Key_Down:
+        return pan(0, -panStep);
+    case Qt::Key_Home:
+        return emit viewWanted({});
+    case Qt::Key_End:
+        return emit allWanted();
+    default:
+        PictureBox::keyPressEvent(event);
+    }
+}
+
+void SightPicture::pan(double right, double up)
+{
+    PlotView view = m_plot.view;
+    view.centre.x += right * view.half;
+    view.centre.y += up * view.half;
+    emit viewWanted(view);
+}
+
+void SightPicture::wheelEvent(QWheelEvent* event)
+{
+    constexpr double notch = 120;
+    const QPointF at = toUser(event->position());
+    emit viewWanted(zoomed(m_plot.view, std::pow(zoomStep, -event->angleDelta().y() / notch),
+                           {at.x(), at.y()}));
+    event->accept(); // the window is not to scroll with it
+}
+
+void SightPicture::drag(QPointF user, Qt::MouseButtons buttons)
+{
+    if (!m_dragged || !(buttons & Qt::LeftButton)) return;
+    PlotView view = m_plot.view;
+    view.centre.x += m_dragged->x() - user.x();
+    view.centre.y += m_dragged->y() - user.y();
+    emit viewWanted(view); // what the pointer holds is under it again
+}
+
+void SightPicture::focusInEvent(QFocusEvent* event)
+{
+    PictureBox::focusInEvent(event);
+    update();
+}
+
+void SightPicture::focusOutEvent(QFocusEvent* event)
+{
+    PictureBox::focusOutEvent(event);
+    update();
+}
+
+void SightPicture::setColours(const ColourScheme& colours)
+{
+    m_colours = colours;
+    update();
+}
+
+double SightPicture::unit() const
+{
+    return fontMetrics().height() / 4.0;
+}
+
+void SightPicture::placeMargins()
+{
+    setPlotMargins(marginsFor(size()));
+}
+
+QMargins SightPicture::marginsFor(const QSize& size) const
+{
+    const QFontMetrics metrics = fontMetrics();
+    const int left = metrics.horizontalAdvance("00-.00'0N ");
+    const int bottom = metrics.height() * 5 / 4;
+    const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-.00'0W") * 5 / 9;
+    const int wide = size.width(), high = size.height();
+    const int side = std::max(1, std::min(wide - left - right, high - top - bottom));
+    const int aside = (wide - left - right - side) / 2;
+    const int above = (high - top - bottom - side) / 2;
+    return {left + aside, top + above, wide - left - aside - side, high - top - above - side};
+}
+
+void SightPicture::drawOnPaper(QPainter& painter, const QSize& size)
+{
+    const ColourScheme onScreen = std::exchange(m_colours, ColourScheme::day());
+    setPlotMargins(marginsFor(size));
+    drawOn(painter, size);
+    placeMargins();
+    m_colours = onScreen;
+}
+
+QPen SightPicture::pen(const QColor& colour, double widths, Qt::PenStyle style) const
+{
+    QPen made(colour, widths * unit() / 4, style);
+    made.setJoinStyle(Qt::RoundJoin);
+    return made;
+}
+
+QPolygonF SightPicture::polygon(const std::vector<PlotPoint>& points) const
+{
+    QPolygonF made;
+    for (const PlotPoint& point : points)
+        made << pixel(point);
+    return made;
+}
+
+/// Text with a rim of paper, so that it reads over lines.
+void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words) const
+{
+    const QRectF area = plotArea();
+    const double width = painter.fontMetrics().horizontalAdvance(words);
+    at.setX(std::clamp(at.x(), area.left(), std::max(area.left(), area.right() - width)));
+    at.setY(std::clamp(at.y(), area.top() + painter.fontMetrics().ascent(), area.bottom()));
+    if (isOnPaper()) { // letters, to be found in the file
+        const QRectF room = painter.fontMetrics().tightBoundingRect(words);
+        painter.fillRect(room.translated(at).adjusted(-1, -1, 1, 1), m_colours.paper);
+        painter.setPen(m_colours.ink);
+        painter.drawText(at, words);
+        return;
+    }
+    QPainterPath path;
+    path.addText(at, painter.font(), words);
+    painter.strokePath(path, pen(m_colours.paper, 3));
+    painter.fillPath(path, m_colours.ink);
+}
+
+void SightPicture::draw(QPainter& painter)
+{
+    if (!isOnPaper()) {
+        painter.fillRect(painter.viewport(), m_colours.paper);
+        painter.setFont(font());
+    }
+    paintGrid(painter);
+    if (!m_plot.middle) return;
+    paintScale(painter);
+    painter.save();
+    painter.setClipRect(plotArea(), Qt::IntersectClip); // within the page
+    for (const PlotLine& line : m_plot.lines)
+        paintLine(painter, line);
+    paintDR(painter);
+    for (const PlotFix& fix : m_plot.without)
+        paintFix(painter, fix, true);
+    if (m_plot.fix) paintFix(painter, *m_plot.fix, false);
+    painter.restore();
+}
+
+void SightPicture::paintGrid(QPainter& painter) const
+{
+    const QRectF area = plotArea();
+    const QFontMetrics metrics = painter.fontMetrics();
+    double free = 0; // where the next longitude has room
+    for (const PlotGridLine& line : m_plot.grid) {
+        painter.setPen(pen(m_colours.grid, 0.6, Qt::DotLine));
+        const QPointF from = pixel(line.from), to = pixel(line.to);
+        painter.drawLine(from, to);
+        painter.setPen(m_colours.ink);
+        const QString label = asQString(line.label);
+        const double width = metrics.horizontalAdvance(label);
+        if (line.from.x != line.to.x) {
+            painter.drawText(
+                QPointF(area.left() - width - unit(), from.y() + metrics.ascent() / 2.0), label);
+        } else if (from.x() - width / 2 > free) {
+            painter.drawText(QPointF(from.x() - width / 2, area.bottom() + metrics.ascent()),
+                             label);
+            free = from.x() + width / 2 + unit();
+        }
+    }
+    painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
+                                              : pen(m_colours.ink, 1));
+    painter.drawRect(area);
+}
+
+/// North arrow, on the margin, and a round number of miles.
+void SightPicture::paintScale(QPainter& painter) const
+{
+    painter.setPen(pen(m_colours.ink, 1));
+    const QPointF north = plotArea().topRight() + QPointF(3 * unit(), 0);
+    const QPointF foot = north + QPointF(0, 7 * unit());
+    painter.drawLine(foot, north);
+    painter.drawLine(north, north + QPointF(-unit(), 2 * unit()));
+    painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
+    painter.drawText(foot + QPointF(-unit(), 3 * unit()), "N");
+
+    const int miles = milesOfScale(m_plot.view);
+    const QPointF end = plotArea().bottomRight() + QPointF(-2 * unit(), -2 * unit());
+    const QPointF start = end - QPointF(pixel({double(miles), 0}).x() - pixel({0, 0}).x(), 0);
+    painter.setPen(pen(m_colours.ink, 1.5));
+    painter.drawLine(start, end);
+    for (const QPointF& tick : {start, end})
+        painter.drawLine(tick, tick - QPointF(0, unit()));
+    paintText(painter, start - QPointF(0, 1.5 * unit()), QString("%1 nm").arg(miles));
+}
+
+void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
+{
+    painter.setPen(pen(m_colours.secondary, 1, Qt::DashLine));
+    painter.drawLine(pixel({}), pixel(line.foot));
+    painter.setPen(pen(m_colours.secondary, 1.5));
+    const QPointF foot = pixel(line.foot), tip = pixel(line.arrowTo);
+    painter.drawLine(foot, tip);
+    const double direction = std::atan2(tip.y() - foot.y(), tip.x() - foot.x());
+    for (double side : {-0.4, 0.4})
+        painter.drawLine(tip,
+                         tip - 2 * unit() *
+                                   QPointF(std::cos(direction + side), std::sin(direction + side)));
+    if (!line.visible) return;
+    painter.setPen(pen(m_colours.route, 2.5));
+    for (const std::vector<PlotPoint>& run : line.runs)
+        painter.drawPolyline(polygon(run));
+    paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), asQString(line.label));
+}
+
+void SightPicture::paintDR(QPainter& painter) const
+{
+    painter.setPen(pen(m_colours.ink, 2));
+    const QPointF middle = pixel({});
+    const double arm = 2 * unit();
+    painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
+    painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
+    paintText(painter, middle + QPointF(1.5 * unit(), 4.5 * unit()), asQString(m_plot.DRLabel));
+}
+
+void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
+{
+    painter.setPen(pen(m_colours.tertiary, 1.5, isWithout ? Qt::DashLine : Qt::SolidLine));
+    painter.drawPolygon(polygon(fix.ellipse));
+    painter.setPen(pen(m_colours.marker, 2.5));
+    const QPointF at = pixel(fix.at);
+    const double arm = 1.3 * unit();
+    if (isWithout)
+        painter.drawRect(QRectF(at - QPointF(arm, arm), at + QPointF(arm, arm)));
+    else
+        painter.drawEllipse(at, 1.5 * unit(), 1.5 * unit());
+    paintText(painter, at + QPointF(2.5 * unit(), (isWithout ? 3 : -2) * unit()),
+              asQString(fix.label));
+}
+
+} // namespace korvel

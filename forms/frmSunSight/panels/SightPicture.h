@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/fix/DrawLOP.h"
+#include "shell/controls/PictureBox.h"
+#include "shell/screen/ColourScheme.h"
+
+namespace korvel
+{
+
+/// picSunSight: the lines of position around the DR position. The plot is kept square, so that
+/// angles are true.
+class SightPicture : public PictureBox
+{
+    Q_OBJECT
+
+public:
+    explicit SightPicture(QWidget* parent = nullptr);
+
+    void showPlot(const SightPlot& plot);
+    const SightPlot& plot() const { return m_plot; }
+    QSize sizeHint() const override;
+    void setColours(const ColourScheme& colours);
+    /// Draws the plot at another size in the colours of the day.
+    void drawOnPaper(QPainter& painter, const QSize& size);
+
+signals:
+    /// The officer wants another part of the chart: by wheel, drag or key.
+    void viewWanted(const PlotView& view);
+    /// The scale that shows all lines is wanted.
+    void allWanted();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void draw(QPainter& painter) override;
+    void placeMargins() override;
+
+private:
+    void paintGrid(QPainter& painter) const;
+    void paintScale(QPainter& painter) const;
+    void paintLine(QPainter& painter, const PlotLine& line) const;
+    void paintDR(QPainter& painter) const;
+    void paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const;
+    void paintText(QPainter& painter, QPointF at, const QString& text) const;
+    QPen pen(const QColor& colour, double widths, Qt::PenStyle style = Qt::SolidLine) const;
+    QPointF pixel(const PlotPoint& point) const { return toPixel(point.x, point.y); }
+    QMargins marginsFor(const QSize& size) const;
+    QPolygonF polygon(const std::vector<PlotPoint>& points) const;
+    double unit() const; ///< a length of the picture's font, for marks and pens
+
+    void pan(double right, double up);
+    void drag(QPointF user, Qt::MouseButtons buttons);
+
+    SightPlot m_plot;
+    std::optional<QPointF> m_dragged; ///< what the pointer holds, in the picture's units
+    ColourScheme m_colours = ColourScheme::day();
+};
+
+} // namespace korvel

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/paper/SightPaper.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
+#include "forms/frmSunSight/paper/SightWorking.h"
+#include "forms/frmSunSight/sight/SightFields.h"
+#include "forms/frmSunSight/sight/SightLine.h"
+#include "navlib/angles.h"
+
+namespace korvel
+{
+namespace
+{
+
+using namespace NavFunc113;
+
+/// Adds a result that is there, written out where the window writes it otherwise.
+void addResult(WorkingPaper& paper, const std::string& name, const std::string& shown,
+               const std::string& inFull = {}, const std::string& unit = {})
+{
+    if (shown.empty()) return;
+    if (inFull.empty())
+        paper.results.push_back({name, shown, unit, ""});
+    else
+        paper.results.push_back({name, inFull, unit, shown});
+}
+
+std::string inFull(const std::optional<DegMin>& angle)
+{
+    return angle ? angleInFull(*angle) : std::string();
+}
+
+/// The latitude by the sight; nothing where the side of the Sun is in doubt and two are shown.
+std::string latitudeInFull(const MeridianResult& noon)
+{
+    const auto& latitudes = noon.figures.latitudes;
+    if (!latitudes || noon.latitude.empty() || noon.latitude.find(' ') != std::string::npos)
+        return {};
+    return positionForCopy(
+        DegToDegMin(noon.figures.isSouth ? latitudes->bodyToTheSouth : latitudes->bodyToTheNorth),
+        Axis::Latitude);
+}
+
+void addLineResults(const SightPaperParts& parts, WorkingPaper& paper)
+{
+    const LOPResult& line = parts.line;
+    const Observation& seen = line.figures.observation;
+    addResult(paper, "Time of the sight", line.UTC);
+    addResult(paper, "Time of the sight by ship's mean time", line.SMT);
+    addResult(paper, "Watch error", line.watchError);
+    addResult(paper, "Corrected altitude Ho", line.Ho,
+              seen.corrections ? angleInFull(seen.corrections->Ho) : "");
+    addResult(paper, "Declination", line.declination,
+              seen.declination ? positionForCopy(*seen.declination, Axis::Latitude) : "");
+    addResult(paper, "Greenwich hour angle", line.GHA,
+              seen.GHA ? angleInFull(withinCircle(*seen.GHA)) : "");
+    if (const auto& DR = line.figures.DR)
+        addResult(paper, "DR at the sight", line.DR,
+                  positionForCopy(DegToDegMin(DR->latitude), DegToDegMin(DR->longitude)));
+    if (line.figures.sun)
+        addResult(paper, "Computed altitude Hc", line.Hc,
+                  inFull(DegToDegMin(line.figures.sun->altitude)));
+    addResult(paper, "Intercept, T towards, A away", line.intercept, "", "nautical miles");
+    addResult(paper, "Azimuth Zn", line.Zn, "", "degrees true");
+    addResult(paper, "Local apparent noon", parts.noon.noon);
+    addResult(paper, "Greatest altitude", parts.noon.greatest);
+    addResult(paper, "Latitude by the sight", parts.noon.latitude, latitudeInFull(parts.noon));
+    addResult(paper, "The sight and the meridian", parts.noon.note);
+}
+
+void addFixResults(const SightFixResult& fix, WorkingPaper& paper)
+{
+    if (fix.solution) {
+        const Position& at = fix.solution->position;
+        addResult(paper, "Latitude of the fix", fix.latitude,
+                  positionForCopy(DegToDegMin(at.latitude), Axis::Latitude));
+        addResult(paper, "Longitude of the fix", fix.longitude,
+                  positionForCopy(DegToDegMin(at.longitude), Axis::Longitude));
+    }
+    addResult(paper, "Time of the fix", fix.time);
+    addResult(paper, "Error ellipse", fix.ellipseText);
+    addResult(paper, "Sigma", fix.sigmaText);
+    addResult(paper, "Fix without what does not fit", fix.withoutText);
+}
+
+/// A recorded sight with its line, when it is on.
+struct ListedSight {
+    const RecordedSight& recorded;
+    Observation seen;
+    const FixLine* line = nullptr;
+    std::optional<Miles> residual;
+};
+
+std::vector<ListedSight> listed(const SightList& list, const SightFixResult& fix)
+{
+    std::vector<ListedSight> sights;
+    Remarks unheard; // the window names them
+    for (const RecordedSight& each : list.sights())
+        sights.push_back({each, readObservation(each.texts, unheard), nullptr, {}});
+    for (std::size_t i = 0; i < fix.lines.size(); ++i) {
+        ListedSight& sight = sights.at(fix.lines[i].index);
+        sight.line = &fix.lines[i];
+        if (fix.solution) sight.residual = fix.solution->residuals.at(i);
+    }
+    return sights;
+}
+
+PaperTable sightTable(const std::vector<ListedSight>& sights)
+{
+    PaperTable table{
+        "Recorded sights", {"", "UTC", "Limb", "Hs", "Ho", "Line, as in the window"}, {}};
+    for (const ListedSight& sight : sights) {
+        if (!sight.seen.complete()) continue;
+        const SightCorrections& corrections = *sight.seen.corrections;
+        table.rows.push_back(
+            {std::to_string(table.rows.size() + 1), Format(*sight.seen.UTC, "yyyy-mm-dd hh:mm:ss"),
+             sight.recorded.texts.upperLimb ? "upper" : "lower", angleInFull(corrections.Hs),
+             angleInFull(corrections.Ho), sight.line ? sight.line->text : "not used"});
+    }
+    return table;
+}
+
+std::vector<std::string> exportedRow(const ListedSight& sight)
+{
+    const SightCorrections& corrections = *sight.seen.corrections;
+    std::vector<std::string> cells = {Format(*sight.seen.UTC, "yyyy-mm-ddThh:mm:ss") + "Z",
+                                      sight.recorded.on ? "yes" : "no",
+                                      sight.recorded.texts.upperLimb ? "upper" : "lower",
+                                      figure(DegMinToDeg(corrections.Hs), 5),
+                                      figure(corrections.indexError, 2),
+                                      figure(corrections.heightOfEye, 2),
+                                      figure(corrections.air, 1),
+                                      figure(corrections.sea, 1),
+                                      figure(corrections.pressure, 1),
+                                      figure(DegMinToDeg(corrections.Ho), 5),
+                                      figure(DegMinToDeg(withinCircle(*sight.seen.GHA)), 5),
+                                      figure(DegMinToDeg(*sight.seen.declination), 5)};
+    cells.push_back(sight.line ? figure(sight.line->line.intercept, 3) : "");
+    cells.push_back(sight.line ? figure(sight.line->line.azimuth, 3) : "");
+    cells.push_back(sight.residual ? figure(*sight.residual, 3) : "");
+    return cells;
+}
+
+ExportTable exported(const std::vector<ListedSight>& sights)
+{
+    ExportTable list{{"time (UTC)", "in the fix", "limb", "sextant altitude (degrees)",
+                      "index error (minutes of arc)", "height of eye (metres)",
+                      "air temperature (degrees Celsius)", "sea temperature (degrees Celsius)",
+                      "pressure (hectopascals)", "corrected altitude (degrees)",
+                      "Greenwich hour angle (degrees)", "declination (degrees)",
+                      "intercept (nautical miles)", "azimuth (degrees true)",
+                      "residual (nautical miles)"},
+                     {}};
+    for (const ListedSight& sight : sights)
+        if (sight.seen.complete()) list.rows.push_back(exportedRow(sight));
+    return list;
+}
+
+} // namespace
+
+void addSights(const SightPaperParts& parts, WorkingPaper& paper)
+{
+    addLineResults(parts, paper);
+    addFixResults(parts.fix, paper);
+    const std::vector<ListedSight> sights = listed(parts.list, parts.fix);
+    if (!sights.empty()) {
+        paper.tables.push_back(sightTable(sights));
+        paper.list = exported(sights);
+    }
+    paper.workings = sightWorkings(parts.sight, parts.line);
+    if (const auto noon = meridianWorking(parts.noon)) paper.workings.push_back(*noon);
+    paper.workings.push_back(fixWorking(parts.fix));
+    if (parts.fix.solution) {
+        const Position& at = parts.fix.solution->position;
+        paper.place = positionForCopy(DegToDegMin(at.latitude), DegToDegMin(at.longitude));
+    }
+    paper.limits = {
+        "Place of the Sun, 2000 to 2050, against an independent ephemeris: GHA 0.11' (95 %), 0.15' "
+        "at the worst; declination 0.03', 0.07'",
+        "The refraction is tabulated from 10 to 85 degrees and extrapolated beyond: 1.9' out at 5 "
+        "degrees",
+        "The fix refers to the sphere, 1' of arc = 1 mile; its ellipse holds as far as sigma and "
+        "run do"};
+}
+
+} // namespace korvel

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/working/WorkingPaper.h"
+#include "forms/frmSunSight/fix/SightFix.h"
+#include "forms/frmSunSight/sight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/MeridianPassage.h"
+
+namespace korvel
+{
+
+/// What the sun sight window calculated.
+struct SightPaperParts {
+    SightTexts sight; ///< being entered
+    const LOPResult& line;
+    const MeridianResult& noon;
+    const SightList& list;
+    const SightFixResult& fix;
+};
+
+/// Adds results, list of sights, workings, limits and export to a paper.
+void addSights(const SightPaperParts& parts, WorkingPaper& paper);
+
+} // namespace korvel

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/working/Working.h"
+#include "forms/frmSunSight/fix/SightFix.h"
+#include "forms/frmSunSight/sight/CalculateLOP.h"
+#include "forms/frmSunSight/sight/MeridianPassage.h"
+
+namespace korvel
+{
+
+/// How time, place of the Sun, corrections and line of position of a sight came about.
+std::vector<Working> sightWorkings(const SightTexts& texts, const LOPResult& line);
+
+/// How the meridian passage and the latitude by the sight came about; nothing without them.
+std::optional<Working> meridianWorking(const MeridianResult& noon);
+
+/// How the fix came about: lines, run, passes, residuals, what does not fit, ellipse.
+Working fixWorking(const SightFixResult& fix);
+
+/// The table that the corrections are added up in, as the window shows it.
+PaperTable worksheetTable(const LOPResult& line);
+
+} // namespace korvel

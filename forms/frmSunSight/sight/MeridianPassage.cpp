@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSunSight/sight/MeridianPassage.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
+#include "forms/frmSunSight/sight/SightLine.h"
+#include "navlib/angles.h"
+#include "navlib/ephemeris.h"
+#include "navlib/meridian_passage.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace NavFunc113;
+
+/// Change of the Sun's declination, minutes of arc an hour to the north.
+double sunNorthward(DateTime UTC)
+{
+    constexpr double halfHour = 0.5 / 24;
+    const Degrees change =
+        DegMinToDeg(SunDeclination(UTC + halfHour)) - DegMinToDeg(SunDeclination(UTC - halfHour));
+    return 60 * change.value();
+}
+
+std::string noonText(DateTime noon, const SightTexts& sight)
+{
+    std::string text = Format(noon, "yyyy/mm/dd hh:mm:ss") + " UTC";
+    if (sight.SMT)
+        text += ", " + Format(noon + readNumber(sight.TD) / 24, "MM/dd hh:mm:ss") + " SMT";
+    return text;
+}
+
+std::string greatestText(DateTime noon, const Position& ship, const Motion& motion,
+                         MeridianFigures& figures)
+{
+    figures.atNoon = ship;
+    figures.declinationAtNoon = DegMinToDeg(SunDeclination(noon));
+    figures.sunNorthward = sunNorthward(noon);
+    figures.shipNorthward = motion.speed.value() * cos(motion.course);
+    figures.delay = GreatestAltitudeDelay(ship.latitude, figures.declinationAtNoon,
+                                          figures.sunNorthward, figures.shipNorthward);
+    return "greatest altitude " + Format(std::fabs(figures.delay), "0") + " s " +
+           (figures.delay < 0 ? "earlier" : "later");
+}
+
+/// A DR position is trusted as far as the plot reaches, forty miles each way: the other latitude is
+/// possible too unless it lies further from it by more than that span.
+bool isSideInDoubt(const MeridianLatitudes& latitudes, Degrees shipLatitude)
+{
+    const Degrees ofSouth = fabs(latitudes.bodyToTheSouth - shipLatitude);
+    const Degrees ofNorth = fabs(latitudes.bodyToTheNorth - shipLatitude);
+    return MilesOfArc(fabs(ofSouth - ofNorth)) < Miles(80);
+}
+
+std::string meridianNote(Degrees hourAngle, Miles reduction)
+{
+    const double minutes = hourAngle.value() * 4;
+    std::string note = "Sun " + Format(std::fabs(minutes), "0.0") + " min " +
+                       (minutes < 0 ? "before" : "after") + " the meridian at the sight";
+    const std::string reduced = Format(fabs(reduction), "0.0'");
+    if (reduced != "0.0'") note += ", latitude reduced by " + reduced;
+    return note;
+}
+
+void latitudeBySight(const Observation& observation, const Position& ship, MeridianResult& result)
+{
+    const Degrees declination = DegMinToDeg(*observation.declination);
+    const Degrees Ho = DegMinToDeg(observation.corrections->Ho);
+    const Degrees hourAngle = WithinHalfTurn(DegMinToDeg(*observation.GHA) + ship.longitude);
+    MeridianFigures& figures = result.figures;
+    figures.Ho = Ho;
+    figures.declination = declination;
+    figures.hourAngle = hourAngle;
+    if (!IsNearMeridian(hourAngle, Ho)) {
+        result.note = "No latitude: the sight is not near the meridian, " +
+                      Format(fabs(hourAngle).value() * 4, "0.0") + " min from it";
+        return;
+    }
+    const auto latitudes = LatitudesByAltitude(declination, Ho, hourAngle);
+    if (!latitudes) {
+        result.note = "No latitude: the Sun stands so high nowhere on the meridian of the DR "
+                      "position";
+        return;
+    }
+    const bool isSouth = ship.latitude > latitudes->between;
+    const Degrees reduced = isSouth ? latitudes->bodyToTheSouth : latitudes->bodyToTheNorth;
+    result.latitude = latitudeText(reduced);
+    figures.latitudes = latitudes;
+    figures.isSouth = isSouth;
+    figures.reduction = MilesOfArc(reduced - MeridianLatitude(declination, Ho, isSouth));
+    result.note = meridianNote(hourAngle, figures.reduction);
+    if (!isSideInDoubt(*latitudes, ship.latitude)) return;
+    result.latitude =
+        latitudeText(latitudes->bodyToTheSouth) + " or " + latitudeText(latitudes->bodyToTheNorth);
+    result.note += "; first with the Sun to the south, then to the north";
+}
+
+} // namespace
+
+MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trackTexts,
+                                 const SightContext& context)
+{
+    MeridianResult result;
+    Remarks unheard; // CalculateLOP names them
+    const Observation observation = readObservation(sight, unheard);
+    const Track track =
+        readTrack(trackTexts, std::max(context.lastSight, observation.UTC), true, unheard);
+    if (!observation.UTC) return result;
+    const auto ship = track.at(*observation.UTC);
+    if (!ship) return result;
+    try {
+        if (track.motion) {
+            const DateTime noon =
+                LocalApparentNoon(*observation.UTC, *ship, *track.motion, result.figures.steps);
+            result.figures.noon = noon;
+            const Position then =
+                Advanced(*ship, *track.motion, Hours((noon - *observation.UTC) * 24));
+            result.noon = noonText(noon, sight);
+            result.greatest = greatestText(noon, then, *track.motion, result.figures);
+        }
+        if (observation.complete()) latitudeBySight(observation, *ship, result);
+    } catch (const ArithmeticError& error) {
+        result = {};
+        result.note = std::string("Meridian passage: ") + error.what();
+    }
+    return result;
+}
+
+} // namespace korvel

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSunSight/sight/SightInput.h"
+#include "navlib/meridian_passage.h"
+
+#include <string>
+#include <vector>
+
+namespace korvel
+{
+
+/// What the meridian passage was calculated from; absent where there is none.
+struct MeridianFigures {
+    std::optional<NavFunc113::DateTime> noon;
+    std::vector<NavFunc113::NoonStep> steps;
+    NavFunc113::Position atNoon;
+    NavFunc113::Degrees declinationAtNoon;
+    double sunNorthward = 0;  ///< minutes of arc an hour
+    double shipNorthward = 0; ///< minutes of arc an hour
+    double delay = 0;         ///< seconds, of the greatest altitude
+
+    NavFunc113::Degrees Ho; ///< of the sight, as are those below
+    NavFunc113::Degrees declination;
+    NavFunc113::Degrees hourAngle;
+    std::optional<NavFunc113::MeridianLatitudes> latitudes;
+    bool isSouth = false; ///< the Sun, seen from the DR position
+    NavFunc113::Miles reduction;
+};
+
+struct MeridianResult {   ///< an empty text blanks the label
+    std::string noon;     ///< local apparent noon of the moving ship, UTC and SMT
+    std::string greatest; ///< when the greatest altitude comes
+    std::string latitude; ///< by the sight, reduced to the meridian; two when the side is in doubt
+    MeridianFigures figures;
+    std::string note; ///< how far from the meridian the sight was taken, or why no latitude
+};
+
+/// Meridian passage nearest to the time of the sight, and the latitude by the sight when it was
+/// taken near enough to the meridian to be reduced to it.
+MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& track,
+                                 const SightContext& context);
+
+} // namespace korvel

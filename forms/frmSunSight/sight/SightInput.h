@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/reading/Remarks.h"
+#include "forms/frmSunSight/sight/SightTexts.h"
+#include "navlib/ephemeris.h"
+#include "navlib/sight_fix.h"
+#include "navlib/sight_reduction.h"
+#include "navlib/units.h"
+
+#include <optional>
+
+/// The inputs of the sun sight window, read with every box that cannot be used named.
+namespace korvel
+{
+
+struct Field;
+
+/// What a sight stands in, besides its own texts.
+struct SightContext {
+    std::optional<NavFunc113::DateTime> lastSight; ///< UTC of the last other sight that is on
+    std::optional<NavFunc113::DateTime> now;       ///< UTC
+    std::optional<NavFunc113::Hours> shipsTD;
+};
+
+/// Corrections of a sight, those of the library and what stands before and after them.
+struct SightCorrections {
+    NavFunc113::DegMin Hs;
+    double indexError = 0;       ///< minutes, as taken off
+    NavFunc113::DegMin observed; ///< index error taken off: the altitude above the sea horizon
+    int month = 0;
+    NavFunc113::Metres heightOfEye;
+    double air = 0;     ///< degrees Celsius
+    double sea = 0;     ///< degrees Celsius
+    float pressure = 0; ///< hectopascals
+    NavFunc113::AltitudeCorrectionTerms terms;
+    double upperLimb = 0; ///< minutes; 0 for the lower limb
+    NavFunc113::DegMin Ho;
+};
+
+/// A sight with its inputs resolved; what could not be resolved is absent.
+struct Observation {
+    std::optional<NavFunc113::DateTime> UTC;
+    std::optional<NavFunc113::SunFigures> sun; ///< what the two below follow from
+    std::optional<NavFunc113::DegMin> GHA;     ///< as the library gives it
+    std::optional<NavFunc113::DegMin> declination;
+    std::optional<SightCorrections> corrections;
+
+    bool complete() const { return UTC && GHA && declination && corrections; }
+    /// The sight as the fix takes it. @pre complete()
+    NavFunc113::Sight sight(NavFunc113::DateTime timeOfFix) const;
+};
+/// Of a sight that is not begun nothing empty is remarked upon.
+Observation readObservation(const SightTexts& texts, Remarks& remarks);
+
+/// The track resolved; what could not be resolved is absent.
+struct Track {
+    std::optional<NavFunc113::Position> position;
+    std::optional<NavFunc113::Motion> motion;
+    std::optional<NavFunc113::DateTime> UTC; ///< absent also when there is neither box nor sight
+    bool timeUsable = true;                  ///< false when something unreadable was typed
+
+    /// Position at an instant; nothing when an input is missing or the run ends at a pole.
+    std::optional<NavFunc113::Position> at(NavFunc113::DateTime instant) const;
+};
+/// @param lastSight  UTC of the last sight: that of the DR position when its box is empty
+/// @param isNeeded   whether an empty position is remarked upon
+Track readTrack(const TrackTexts& texts, std::optional<NavFunc113::DateTime> lastSight,
+                bool isNeeded, Remarks& remarks);
+
+/// The number in a box, its fault or a doubt named.
+/// @param empty  what an empty box stands for; nothing: it must be filled
+std::optional<double> readBox(const Field& field, const std::string& text,
+                              std::optional<double> empty, Remarks& remarks);
+
+/// Sets date and time of a sight to the present, so that the sight resolves to that UTC whatever
+/// its scale and its watch error.
+void Mark(SightTexts& sight, NavFunc113::DateTime UTC);
+
+} // namespace korvel

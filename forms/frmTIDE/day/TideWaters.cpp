@@ -1,0 +1,274 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/day/TideWaters.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/TypedTime.h"
+#include "forms/frmTIDE/data/TideDates.h"
+#include "navlib/ephemeris.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::Hours;
+using NavFunc113::TideTurn;
+
+constexpr Hours sameWater(3);
+
+std::vector<TideTurn> turnsOfFour(const TideDayShown& day)
+{
+    NavFunc113::TenMinutely samples;
+    day.four.day->turnOn(-NavFunc113::tenMinutes, NavFunc113::tenMinutes, day.four.level, samples);
+    return NavFunc113::TurnsOf([&day](Hours t) { return day.four.at(t); }, samples);
+}
+
+std::vector<TideTurn> turnsOfAll(const TideDayShown& day)
+{
+    if (!day.all) return {};
+    NavFunc113::TenMinutely samples;
+    day.all->turnOn(-NavFunc113::tenMinutes, NavFunc113::tenMinutes, samples);
+    return NavFunc113::TurnsOf([&day](Hours t) { return day.all->at(t); }, samples);
+}
+
+std::string nameOf(const TideTurn& turn, TideKind kind)
+{
+    if (kind == TideKind::Tide) return turn.isHigh ? "High" : "Low";
+    return turn.isHigh ? "Flood" : "Ebb";
+}
+
+// Every figure of an estimated level says so itself.
+std::string markedHeight(double value, const TideDayShown& day)
+{
+    return (day.isEstimated ? "~" : "") + heightText(value, day.four.kind);
+}
+
+std::string lineOf(const TideTurn& turn, const TideDayShown& day)
+{
+    return clockTime(turn.time) + "   " + markedHeight(turn.value, day);
+}
+
+long minutesOf(Hours time)
+{
+    return std::lround(time.value() * 60);
+}
+
+std::string signedText(double value, const std::string& format)
+{
+    return value == 0 ? Format(0, format) : Format(value, "+" + format + ";-" + format);
+}
+
+// Of the figures as they are shown: whoever subtracts them finds the same.
+std::string differenceText(const WaterPair& water)
+{
+    const auto centimetres = [](double value) { return std::round(value * 100); };
+    const auto minutes = minutesOf(water.all->time) - minutesOf(water.four->time);
+    const double height = centimetres(water.all->value) - centimetres(water.four->value);
+    return "   (" + signedText(static_cast<double>(minutes), "0") + " min, " +
+           signedText(height / 100, "0.00") + " m)";
+}
+
+Hours timeOf(const WaterPair& water)
+{
+    return water.four ? water.four->time : water.all->time;
+}
+
+// When a curve stands at a level or above it.
+std::string spansAbove(const NavFunc113::TideCurve& curve, double level,
+                       const std::vector<NavFunc113::TidePassage>& passages)
+{
+    if (passages.empty()) return curve(Hours(0)) > level ? "all day" : "never";
+    std::string text;
+    const auto add = [&text](const std::string& part) {
+        text += (text.empty() ? "" : ", ") + part;
+    };
+    std::string from = passages.front().isRising ? "" : "00:00";
+    for (const NavFunc113::TidePassage& passage : passages) {
+        if (passage.isRising) {
+            from = clockTime(passage.time);
+        } else {
+            add(from + " to " + clockTime(passage.time));
+            from.clear();
+        }
+    }
+    if (!from.empty()) add(from + " to 24:00");
+    return text;
+}
+
+} // namespace
+
+std::string clockTime(Hours time)
+{
+    // By hand, because 24:00 is a time of this curve and of no clock.
+    const long minutes = minutesOf(time);
+    const auto twoDigits = [](long value) {
+        return std::string{static_cast<char>('0' + value / 10),
+                           static_cast<char>('0' + value % 10)};
+    };
+    return twoDigits(minutes / 60) + ":" + twoDigits(minutes % 60);
+}
+
+std::string plainFigure(double value, TideKind kind)
+{
+    const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
+    const bool isZero = figures.find_first_of("123456789") == figures.npos;
+    return isZero ? figures.substr(figures.find('0')) : figures;
+}
+
+std::string heightText(double value, TideKind kind)
+{
+    return plainFigure(value, kind) + (kind == TideKind::Tide ? " m" : " kn");
+}
+
+std::vector<WaterPair> watersOf(const TideDayShown& day)
+{
+    std::vector<WaterPair> waters;
+    for (const TideTurn& turn : turnsOfFour(day))
+        waters.push_back({turn, {}});
+    for (const TideTurn& turn : turnsOfAll(day)) {
+        const auto same = std::ranges::find_if(waters, [&turn](const WaterPair& water) {
+            return water.four && !water.all && water.four->isHigh == turn.isHigh &&
+                   fabs(water.four->time - turn.time) < sameWater;
+        });
+        if (same != waters.end())
+            same->all = turn;
+        else
+            waters.push_back({{}, turn});
+    }
+    std::ranges::sort(waters, std::less{}, timeOf);
+    return waters;
+}
+
+std::vector<WaterLine> waterLines(const TideDayShown& day)
+{
+    std::vector<WaterLine> lines;
+    for (const WaterPair& water : watersOf(day)) {
+        const TideTurn& named = water.four ? *water.four : *water.all;
+        WaterLine line{nameOf(named, day.four.kind) + " ", {}};
+        line.four += water.four ? lineOf(*water.four, day) : "none";
+        if (water.all) {
+            line.all = lineOf(*water.all, day);
+            if (water.four) line.all += differenceText(water);
+        } else if (day.all) {
+            line.all = "none";
+        }
+        lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+std::string springOrNeap(double moonAge)
+{
+    // The month counts 30 days: new and full Moon at 0 and 15, the quarters between.
+    const double fromSyzygy = std::fabs(std::remainder(moonAge, 15));
+    if (fromSyzygy <= 2.5) return "springs";
+    if (fromSyzygy >= 5) return "neaps";
+    return std::remainder(moonAge, 15) > 0 ? "springs to neaps" : "neaps to springs";
+}
+
+double moonAgeOf(std::int64_t serial, Hours zone)
+{
+    return NavFunc113::MoonAge(static_cast<double>(serial) + 0.5 - NavFunc113::DaysOfHours(zone));
+}
+
+DaysRange rangeOf(const TideDayShown& day)
+{
+    const auto [low, high] = std::ranges::minmax_element(day.four.values);
+    DaysRange range{*high, *low};
+    for (const TideTurn& turn : turnsOfFour(day)) {
+        range.highest = std::max(range.highest, turn.value);
+        range.lowest = std::min(range.lowest, turn.value);
+    }
+    return range;
+}
+
+std::vector<Hours> slackTimesOf(const TideDayShown& day)
+{
+    std::vector<Hours> times;
+    for (const NavFunc113::TidePassage& passage :
+         NavFunc113::PassagesOf([&day](Hours t) { return day.four.at(t); }, 0))
+        times.push_back(passage.time);
+    return times;
+}
+
+std::string rangeText(const TideDayShown& day)
+{
+    const double age = moonAgeOf(day.four.serial, day.four.station.zone);
+    const std::string moon = springOrNeap(age) + " (Moon's age " + Format(age, "0.0") + " days)";
+    if (day.four.kind == TideKind::Stream) {
+        std::string slack;
+        for (const Hours time : slackTimesOf(day))
+            slack += (slack.empty() ? "" : ", ") + clockTime(time);
+        return "Slack " + (slack.empty() ? "never" : slack) + "; " + moon;
+    }
+    const DaysRange range = rangeOf(day);
+    return "Range " + heightText(range.highest - range.lowest, TideKind::Tide) + ", " + moon;
+}
+
+CurveAnswer heightAt(const TideDayShown& day, const std::string& typedTime)
+{
+    if (typedTime.empty()) return {};
+    const std::string prefix = "Time of a height: ";
+    Hours time;
+    // 24:00 is the end of this day, which no clock shows.
+    if (typedTime == "24:00") {
+        time = Hours(24);
+    } else {
+        const TypedTime typed = readTypedTime(typedTime, Due::TimeOfDay);
+        if (!typed.value) return {.text = {}, .remark = prefix + typed.remark};
+        time = Hours((*typed.value - std::floor(*typed.value)) * 24);
+    }
+    CurveAnswer answer{.text = markedHeight(day.four.at(time), day), .times = {time}};
+    if (day.all) answer.all = "all constituents " + markedHeight(day.all->at(time), day);
+    return answer;
+}
+
+CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeight)
+{
+    if (typedHeight.empty()) return {};
+    const bool tide = day.four.kind == TideKind::Tide;
+    NumberField field;
+    field.name = tide ? "Height" : "Rate";
+    field.low = -20;
+    field.high = 20;
+    field.unit = tide ? "metres" : "knots";
+    Remarks remarks;
+    const std::optional<double> level = readField(typedHeight, field, remarks);
+    CurveAnswer answer{.text = {}, .remark = remarks.text()};
+    if (!level) return answer;
+    const NavFunc113::TideCurve four = [&day](Hours t) { return day.four.at(t); };
+    const auto passages = NavFunc113::PassagesOf(four, *level);
+    answer.text = spansAbove(four, *level, passages);
+    answer.level = level;
+    for (const NavFunc113::TidePassage& passage : passages)
+        answer.times.push_back(passage.time);
+    if (day.all) {
+        const NavFunc113::TideCurve all = [&day](Hours t) { return day.all->at(t); };
+        answer.all =
+            "all constituents " + spansAbove(all, *level, NavFunc113::PassagesOf(all, *level));
+    }
+    return answer;
+}
+
+std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc)
+{
+    const double zoneTime = utc + NavFunc113::DaysOfHours(day.four.station.zone);
+    const Hours time((zoneTime - static_cast<double>(day.four.serial)) * 24);
+    const auto state = [&](const NavFunc113::TideCurve& curve) {
+        const Hours minute(1.0 / 60);
+        const bool isRising = curve(time + minute) > curve(time - minute);
+        return markedHeight(curve(time), day) + (day.four.kind == TideKind::Stream ? ""
+                                                 : isRising                        ? " rising"
+                                                                                   : " falling");
+    };
+    std::string text = "Now " + Format(zoneTime, "yyyy/mm/dd hh:mm") + "   " +
+                       state([&day](Hours t) { return day.four.at(t); });
+    if (day.all) text += "   all constituents " + state([&day](Hours t) { return day.all->at(t); });
+    return text;
+}
+
+} // namespace korvel

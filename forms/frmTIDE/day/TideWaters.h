@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmTIDE/day/PredictTide.h"
+#include "navlib/tide_turns.h"
+#include "tidedata/all_constituents.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The high and low waters of a day to the minute, by the four constituents and by all of them, and
+/// the answers to an officer's questions about the day's curve.
+namespace korvel
+{
+
+/// A day as the window shows it: the prediction of the labels and, where the constants are known,
+/// the sum of all constituents beside it.
+struct TideDayShown {
+    TidePrediction four;
+    std::optional<tidedata::DayOfAllConstituents> all;
+    bool isEstimated = false; ///< the mean level or its correction of the month is an estimate
+};
+
+/// A high or low water by both ways; one of them may lack it.
+struct WaterPair {
+    std::optional<NavFunc113::TideTurn> four;
+    std::optional<NavFunc113::TideTurn> all;
+};
+
+/// The waters of the day in order of time. Those of the two curves that are of one kind and less
+/// than three hours apart are one water.
+std::vector<WaterPair> watersOf(const TideDayShown& day);
+
+/// A line of the list: the water by the four constituents, and by all with its difference.
+struct WaterLine {
+    std::string four; ///< "High 05:12   1.88 m"; heights of an estimated level begin with "~"
+    std::string all;  ///< "05:20   1.91 m   +8 min, +0.03 m"
+};
+std::vector<WaterLine> waterLines(const TideDayShown& day);
+
+/// The highest and the lowest water of a day, its ends included.
+struct DaysRange {
+    double highest = 0; ///< metres
+    double lowest = 0;
+};
+DaysRange rangeOf(const TideDayShown& day);
+
+/// When the water of a stream is slack.
+std::vector<NavFunc113::Hours> slackTimesOf(const TideDayShown& day);
+
+/// "Range 1.90 m, springs (Moon's age 15.1 days)"; streams: when the water is slack.
+std::string rangeText(const TideDayShown& day);
+
+/// "springs", "neaps" or what lies between, by the Moon's age in days.
+std::string springOrNeap(double moonAge);
+
+/// The Moon's age at noon of a day of a zone.
+double moonAgeOf(std::int64_t serial, NavFunc113::Hours zone);
+
+/// hh:mm of a day, rounded to the minute; 24:00 is a time of it.
+std::string clockTime(NavFunc113::Hours time);
+
+/// "1.88" or "1.2"; one that rounds to 0 has no sign: neither flood nor ebb.
+std::string plainFigure(double value, TideKind kind);
+
+/// "1.88 m" or "1.2 kn".
+std::string heightText(double value, TideKind kind);
+
+/// An answer and where it is marked in the picture.
+struct CurveAnswer {
+    std::string text;                          ///< by the four constituents
+    std::string all = {};                      ///< by all of them, named so; empty without them
+    std::string remark = {};                   ///< why there is no answer, for the notice line
+    std::vector<NavFunc113::Hours> times = {}; ///< marked on the curve
+    std::optional<double> level = {};          ///< marked across it
+};
+
+/// The height at a typed time of the day.
+CurveAnswer heightAt(const TideDayShown& day, const std::string& typedTime);
+
+/// When the tide stands at a typed height or more: the question of the water under the keel.
+CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeight);
+
+/// What the water does at this moment.
+/// @param utc the present
+/// @param day of the station that holds the present in its zone time
+std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc);
+
+} // namespace korvel

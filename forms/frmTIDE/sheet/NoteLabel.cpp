@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/sheet/NoteLabel.h"
+
+namespace korvel
+{
+
+QLabel* addNoteLabel(QWidget* parent, const QString& name)
+{
+    auto* label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+void showNote(QLabel* label, const std::string& words)
+{
+    label->setText(QString::fromStdString(words));
+    label->setVisible(!words.empty());
+}
+
+} // namespace korvel

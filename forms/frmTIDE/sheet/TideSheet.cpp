@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/sheet/TideSheet.h"
+
+#include "shell/controls/Panels.h"
+
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+
+TideSheet::TideSheet(Program& program, QWidget* parent)
+    : ScrolledBody(parent), m_head(new TideHead(this)),
+      m_picTIDE(new frmTIDEPicture(program, this)), m_scrDate(new DateScrollBar(this)),
+      m_day(new TideDayPanel(this)), m_foot(new TideFoot(this))
+{
+    m_scrDate->setObjectName("scrDate");
+    m_scrDate->setAccessibleName("Date, a step is a day");
+    connect(m_scrDate, &QScrollBar::valueChanged, this,
+            [this](int value) { onDay(TideDates().serialOfScrollValue(value)); });
+    m_day->onAnswers = [this](const CurveAnswer& height, const CurveAnswer& times) {
+        mark(height, times);
+    };
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_picTIDE, 1);
+    row->addWidget(m_scrDate);
+    auto* column = new QVBoxLayout(this);
+    layOutBody(*column, Spacing::Dense);
+    column->addWidget(m_head);
+    column->addLayout(row, 1);
+    column->addWidget(m_day);
+    column->addWidget(m_foot);
+    setTabOrder(m_scrDate, m_picTIDE);
+    setTabOrder(m_picTIDE, m_head->lblDate());
+    setTabOrder(m_head->lblDate(), m_head->txtFind());
+    setTabOrder(m_head->txtFind(), m_day->firstBox());
+}
+
+void TideSheet::mark(const CurveAnswer& height, const CurveAnswer& times)
+{
+    std::vector<NavFunc113::Hours> marked = height.times;
+    marked.insert(marked.end(), times.times.begin(), times.times.end());
+    m_picTIDE->mark(marked, times.level);
+    onNotice("time", height.remark);
+    onNotice("height", times.remark);
+}
+
+void TideSheet::showChoice(const TideChoice& choice, const TideDates& dates)
+{
+    m_head->showChoice(choice);
+    if (const auto date = TideDates::dateIn(choice.lblDate)) {
+        const QSignalBlocker quiet(m_scrDate);
+        m_scrDate->setValue(dates.scrollValueOf(*date));
+    }
+}
+
+void TideSheet::showDay(const TideDayShown& day, const StationLines& lines, bool withAll)
+{
+    m_head->showFigures(day.four, lines);
+    m_foot->showStation(lines);
+    std::optional<NavFunc113::TideValues> all;
+    if (day.all && withAll) all = day.all->halfHourly();
+    m_picTIDE->showPrediction(day.four, all);
+    m_day->showDay(day, withAll);
+}
+
+void TideSheet::showDates(const TideDates& dates, const std::string& factorsFile)
+{
+    const QSignalBlocker quiet(m_scrDate);
+    m_scrDate->setRange(dates.scrollMinimum(), dates.scrollMaximum());
+    m_foot->showDates(dates, factorsFile);
+}
+
+} // namespace korvel

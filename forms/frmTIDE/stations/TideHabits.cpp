@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTIDE/stations/TideHabits.h"
+
+#include "forms/frmTIDE/stations/Stations.h"
+
+#include <algorithm>
+
+namespace korvel
+{
+
+void TideHabits::remember(const StationChoice& station)
+{
+    std::erase(stations, station);
+    stations.insert(stations.begin(), station);
+    if (stations.size() > kept) stations.resize(kept);
+}
+
+std::vector<Kind> habitKinds()
+{
+    std::vector<Kind> kinds = {Kind::Number, Kind::Tick};
+    for (std::size_t i = 0; i < TideHabits::kept; ++i) {
+        kinds.push_back(Kind::Tick);
+        kinds.push_back(Kind::Text);
+    }
+    return kinds;
+}
+
+Record recordOf(const TideHabits& habits)
+{
+    Record record = {static_cast<double>(habits.offeredYear), habits.drawsAll};
+    for (std::size_t i = 0; i < TideHabits::kept; ++i) {
+        const StationChoice station =
+            i < habits.stations.size() ? habits.stations[i] : StationChoice{};
+        record.emplace_back(station.TideMode);
+        record.emplace_back(station.place);
+    }
+    return record;
+}
+
+TideHabits habitsOf(const Record& record)
+{
+    TideHabits habits;
+    const double year = numberOf(record[0]);
+    if (year > 0 && year < 10000) habits.offeredYear = static_cast<int>(year);
+    habits.drawsAll = tickOf(record[1]);
+    for (std::size_t i = 2; i + 1 < record.size(); i += 2) {
+        const StationChoice station{tickOf(record[i]), textOf(record[i + 1])};
+        if (station.TideMode ? isTideStation(station.place) : isStreamStation(station.place))
+            habits.stations.push_back(station);
+    }
+    return habits;
+}
+
+} // namespace korvel
