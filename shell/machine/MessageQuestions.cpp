@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/MessageQuestions.h"
 
+#include "shell/machine/DocumentsFolder.h"
 #include "shell/machine/WholeLines.h"
 
 #include <QApplication>
@@ -11,7 +12,6 @@
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
-#include <QStandardPaths>
 
 namespace korvel
 {
@@ -71,17 +71,9 @@ void placeBelowStartWindow(QDialog& dialog)
                 parent->geometry().bottom() + dialog.fontMetrics().height());
 }
 
-/// Where files of the officer's own go first. The folder for documents need not be there, and the
-/// toolkit would offer the one that the program was started in, which may be anybody's.
-QString ownFolder()
-{
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return QFileInfo::exists(documents) ? documents : QDir::homePath();
-}
-
 } // namespace
 
-MessageQuestions::MessageQuestions() : m_lastFolder(ownFolder()) {}
+MessageQuestions::MessageQuestions() : m_lastFolder(documentsFolder()) {}
 
 QWidget* MessageQuestions::asker()
 {

@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "shell/main/RunProgram.h"
 
+#include "shell/machine/DocumentsFolder.h"
 #include "shell/machine/EarlierRecords.h"
+#include "shell/machine/ExecOwned.h"
 #include "shell/machine/FolderLock.h"
 #include "shell/machine/GuardedApplication.h"
 #include "shell/machine/MessageQuestions.h"
+#include "shell/machine/Platform.h"
 #include "shell/machine/RecordsFolder.h"
+#include "shell/machine/SessionQuestions.h"
 #include "shell/machine/SystemBell.h"
 #include "shell/machine/TerminationWatch.h"
+#include "shell/machine/ToolkitSettings.h"
+#include "shell/main/Attend.h"
 #include "shell/main/frmKORVEL2000.h"
 #include "shell/main/frmKORVELstart.h"
 #include "shell/screen/Looks.h"
@@ -70,19 +76,32 @@ void tellAboutFault(Questions& questions, const std::string& fault)
     if (!isAnythingShown()) QApplication::exit(1); // it came before there was a window
 }
 
-/// Whatever from outside concerns the main window: faults, other starts, the end of the session.
-void listen(GuardedApplication& application, FolderLock& lock, TerminationWatch& termination,
-            frmKORVEL2000& window)
+/// The folder of an earlier program, chosen by the officer.
+QString earlierFolder()
 {
-    application.guard.saveEverything = [&window] { emit window.program().recordsWanted(); };
-    lock.answerCalls([&window] { window.comeToFront(); });
-    QObject::connect(&termination, &TerminationWatch::requested, &window,
-                     &frmKORVEL2000::endSession);
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
-                     &frmKORVEL2000::endSession, Qt::DirectConnection);
-    QObject::connect(
-        &window, &frmKORVEL2000::ended, &application, [] { QApplication::exit(); },
-        Qt::QueuedConnection);
+    auto* const dialog = new QFileDialog(nullptr, "The earlier portable folder", documentsFolder());
+    dialog->setFileMode(QFileDialog::Directory);
+    QString chosen;
+    QObject::connect(dialog, &QFileDialog::fileSelected, qApp,
+                     [&chosen](const QString& folder) { chosen = folder; });
+    execOwned(dialog);
+    return chosen;
+}
+
+/// What comes before the main window, which is who ends the session otherwise.
+/// @return false when the session ended under a question
+bool settleBeforeTheEnd(const Places& places, Questions& questions, TerminationWatch& termination)
+{
+    SessionQuestions asked(questions);
+    QObject session;
+    bool goesOn = true;
+    QObject::connect(&termination, &TerminationWatch::requested, &session, [&] {
+        goesOn = false;
+        asked.endSession();
+        if (QWidget* box = QApplication::activeModalWidget()) box->close();
+    });
+    settleRecords(places, QApplication::arguments(), asked, earlierFolder);
+    return goesOn;
 }
 
 } // namespace
@@ -90,6 +109,8 @@ void listen(GuardedApplication& application, FolderLock& lock, TerminationWatch&
 int runProgram(int argc, char* argv[], const ClockMaker& makeClock, const WindowCatalogue& windows)
 {
     useOwnFonts();
+    choosePlatform();
+    const ToolkitSettings toolkitSettings;
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // those know nothing of the night
     QApplication::setStyle(new ScreenStyle);
     GuardedApplication application(argc, argv);
@@ -120,12 +141,13 @@ int runProgram(int argc, char* argv[], const ClockMaker& makeClock, const Window
     application.guard.tell = [&](const std::string& fault) { tellAboutFault(questions, fault); };
     // From within the event loop, so that whatever goes wrong in it ends where all faults do.
     QTimer::singleShot(0, &application, [&] {
-        settleRecords(places, QApplication::arguments(), questions, [] {
-            return QFileDialog::getExistingDirectory(nullptr, "The earlier portable folder");
-        });
+        if (!settleBeforeTheEnd(places, questions, termination)) {
+            QApplication::exit();
+            return;
+        }
         mainWindow =
             std::make_unique<frmKORVEL2000>(Machine{questions, *clock, folder, bell}, windows);
-        listen(application, lock, termination, *mainWindow);
+        attend({application.guard, lock, termination}, *mainWindow);
         mainWindow->start();
         startWindow.reset();
     });

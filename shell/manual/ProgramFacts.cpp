@@ -32,11 +32,18 @@ QString listOfLibraries()
 QString listOfPackages(FileStore& files)
 {
     const FileStore::Content content = files.read("licences/packages");
-    if (content.status != FileStore::Content::Status::Read) return "the system's own";
+    if (content.status != FileStore::Content::Status::Read) return "none: it uses the system's own";
     QStringList packages;
     for (const QString& line : asQString(content.bytes).split('\n', Qt::SkipEmptyParts))
         packages << line.section(" (", 0, 0);
-    return packages.join(", ");
+    return packages.join(", ") + "; their terms lie in the folder `licences`";
+}
+
+/// Where an installation for everybody has it, there is no file of that name in the folder.
+QString licenceFile(FileStore& files)
+{
+    const bool isBeside = files.look("LICENSE").status != FileStore::Content::Status::Missing;
+    return isBeside ? "LICENSE" : "/usr/share/doc/korvel2000/copyright";
 }
 
 QString fontsInUse()
@@ -60,6 +67,7 @@ std::map<QString, QString> programFacts(FileStore& files)
             {"compiler", compilerInUse()},
             {"libraries", listOfLibraries()},
             {"packages", listOfPackages(files)},
+            {"licence", licenceFile(files)},
             {"fonts", fontsInUse()},
             {"records", folder}};
 }

@@ -15,16 +15,31 @@ start_program() {
     export DISPLAY
     openbox &
     manager=$!
-    # Without it nothing takes the keys, and on a busy machine it is slower than the program.
-    for _ in $(seq 600); do
-        xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break
-        sleep 0.1
-    done
+    await_manager
 
     began=$(date +%s%N)
     "$@" &
     program=$!
     trap 'kill $program $server 2>/dev/null; rm -f "$log"' EXIT
+}
+
+# await_manager  Without one nothing takes the keys, and on a busy machine it is slower than the
+# program. Its mark on the root is set before it takes windows, and one that comes between is never
+# taken: a window of our own tells.
+await_manager() {
+    local probe managed=
+    for _ in $(seq 60); do
+        xev -geometry 9x9+0+0 >/dev/null 2>&1 &
+        probe=$!
+        for _ in $(seq 20); do
+            ! xprop -root _NET_CLIENT_LIST 2>/dev/null | grep -q 0x || { managed=yes && break; }
+            sleep 0.1
+        done
+        kill "$probe" 2>/dev/null || true
+        wait "$probe" 2>/dev/null || true
+        [ -z "$managed" ] || return 0
+    done
+    stop_with_picture "No window manager takes windows"
 }
 
 stop_with_picture() {

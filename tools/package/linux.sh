@@ -1,6 +1,10 @@
 # SPDX-License-Identifier: MIT
 # The portable folder with its libraries: build/packages/korvel2000-VERSION-linux.tar.xz
 
+# What is asked of the system below is there only once these are.
+# shellcheck disable=SC2086
+install_missing $build_packages $package_packages
+
 folder_name=korvel2000-$version-linux
 folder=$packages/$folder_name
 system_libraries=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)
@@ -31,7 +35,9 @@ make_package() {
 add_program() {
     cp -R data/. "$folder"
     cp -R docs/manual "$folder"
+    cp LICENSE "$folder"
     cp LICENSE "$folder/licences/KORVEL2000"
+    sed "s/@version@/$version/" tools/package/linux/README.in >"$folder/README"
     install -s "$linux_build/korvel2000/korvel2000" "$linux_build/tools/tidedata/tidedata" "$folder"
     install tools/extend-tides "$folder"
     # The older kind of run path, which holds for the libraries and plug-ins behind the program too:

@@ -29,6 +29,7 @@ saved_paper() {
     [ -n "$paper" ] || fail "no paper was saved under $1"
     as_root pdftotext -layout "$paper" - | grep -F "4728'.7" >/dev/null || fail "the paper lacks a result: $paper"
     as_root rm "$paper"
+    [ -z "$(as_root find "$1" -xdev -name 'QtProject*')" ] || fail "the toolkit left a file behind under $1"
     say "Its working paper was saved as PDF, results and all"
 }
 

@@ -1,6 +1,10 @@
 # SPDX-License-Identifier: MIT
 # The folder for Windows: build/packages/korvel2000-VERSION-windows.zip
 
+# What is asked of the system below is there only once these are.
+# shellcheck disable=SC2086
+install_missing $build_packages $windows_packages
+
 . tools/package/windows/fetch.sh
 . tools/package/windows/toolkit.sh
 
@@ -16,6 +20,9 @@ make_package() {
     mkdir -p "$folder/licences"
     cp -R data/. docs/manual "$folder"
     x86_64-w64-mingw32-strip -o "$folder/korvel2000.exe" "$windows_build/korvel2000/korvel2000.exe"
+    cp LICENSE "$folder"
+    # Windows' own editor wants its line ends.
+    sed "s/@version@/$version/; s/$/\r/" tools/package/windows/README.in >"$folder/README.txt"
     add_licences
     find "$folder" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
     (cd "$packages" && find "$folder_name" | sort | zip -q -9 -X -@ "$folder.zip")
@@ -23,8 +30,6 @@ make_package() {
 
 # build_windows TARGET..  Builds parts of the tree with the cross compiler and the static toolkit.
 build_windows() {
-    # shellcheck disable=SC2086
-    install_missing $build_packages $windows_packages
     build_toolkit
     say "Building for Windows: $*"
     configure_for_windows . "$windows_build" -DCMAKE_PREFIX_PATH="$toolkit/installed;$test_library" \

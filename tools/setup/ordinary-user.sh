@@ -30,6 +30,8 @@ start_as_ordinary_user() {
                     exec runuser -u "$user" -- "$program"
                     ;;
             esac
+        elif [ -n "$user" ]; then
+            echo "It is started as root all the same: $user cannot read the folder of $program."
         fi
     fi
     echo "Starting $program"

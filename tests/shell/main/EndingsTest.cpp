@@ -3,7 +3,10 @@
 #include "shell/machine/FolderLock.h"
 #include "shell/machine/SessionQuestions.h"
 #include "shell/machine/TerminationWatch.h"
+#include "shell/main/Attend.h"
+#include "shell/main/frmKORVEL2000.h"
 #include "tests/app/FakeMachine.h"
+#include "tests/shell/ShellTesting.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -20,6 +23,7 @@ namespace
 {
 
 using namespace std::chrono_literals;
+using korvel::testing::FakeClock;
 using korvel::testing::FakeQuestions;
 
 TEST(TerminationWatch, saysSoFromTheEventLoop)
@@ -69,6 +73,51 @@ TEST(FaultGuard, savesAndTellsOnceForEachFault)
     EXPECT_FALSE(guard.run([]() -> bool { throw 1; }));
     QCoreApplication::processEvents();
     EXPECT_EQ(done, (std::vector<std::string>{"saved", "no disk", "saved", "unknown"}));
+}
+
+/// The main window with everything that may call it from outside.
+class AttendTest : public ::testing::Test
+{
+protected:
+    AttendTest()
+    {
+        questions.willType(FakeQuestions::acceptDefault);
+        attend({guard, lock, termination}, main);
+        main.start();
+    }
+    QTemporaryDir folder;
+    FakeQuestions questions;
+    FakeClock clock;
+    testing::FakeBell bell;
+    ProgramFolder files{folder.path()};
+    FaultGuard guard;
+    FolderLock lock{folder.path()};
+    TerminationWatch termination;
+    frmKORVEL2000 main{{questions, clock, files, bell}, {}};
+};
+
+TEST_F(AttendTest, aFaultSavesEveryRecord)
+{
+    QSignalSpy saved(&main.program(), &Program::recordsWanted);
+    guard.run([]() -> bool { throw std::runtime_error("no disk"); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return saved.count() == 1; }));
+}
+
+TEST_F(AttendTest, anotherStartBringsTheWindowToTheFront)
+{
+    main.showMinimized();
+    FolderLock second(folder.path());
+    std::thread other([&] { second.callTheOther(5s); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !main.isMinimized(); }));
+    other.join();
+}
+
+TEST_F(AttendTest, theEndOfTheSessionEndsTheWindowUnasked)
+{
+    QSignalSpy ended(&main, &frmKORVEL2000::ended);
+    emit termination.requested();
+    EXPECT_EQ(ended.count(), 1);
+    EXPECT_FALSE(main.isVisible());
 }
 
 class FolderLockTest : public ::testing::Test

@@ -6,7 +6,7 @@ set(resources ${CMAKE_BINARY_DIR}/resources)
 configure_file(${windows_package}/korvel2000.rc.in ${resources}/korvel2000.rc @ONLY)
 configure_file(${windows_package}/korvel2000.manifest.in ${resources}/korvel2000.manifest @ONLY)
 find_program(ICOTOOL icotool REQUIRED)
-set(pictures ${CMAKE_SOURCE_DIR}/app/shell/icon/korvel2000)
+set(pictures ${CMAKE_SOURCE_DIR}/shell/main/icon/korvel2000)
 # Compressed pictures for the large sizes alone: older lists and boxes read no other small ones.
 execute_process(
   COMMAND ${ICOTOOL} --create --output=${resources}/korvel2000.ico
