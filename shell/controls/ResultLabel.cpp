@@ -68,6 +68,8 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     setSelectable(false);
     QFont larger = font();
     larger.setPointSizeF(larger.pointSizeF() * 1.2);
+    // Figures are drawn side by side: pairs that stand closer when measured (LT) would be cut off.
+    larger.setKerning(false);
     setFont(larger);
     // An empty one keeps its room: what the toolkit gives a text can be more than a line of the
     // font.
