@@ -37,7 +37,10 @@ struct Compound {
 };
 
 // Shallow-water and other constituents whose argument is that of a product of basic ones. The Sun's
-// annual variation of M2 and S3 has no node of its own.
+// annual variation of M2 and S3 has no node of its own. The records of the one source that has
+// 2MK5, 2MO5, T3 and R3 refer them to arguments without the 90 degrees of K1, O1 and P1, which the
+// constants take out again (T3 and R3 are the product of S2 with P1 and with K1); S3, S1 and M3 of
+// the same records have their 180 degrees. The evidence stands in tools/tidedata/METHOD.md.
 constexpr Compound compounds[] = {
     {"M3", {{{"M2", 1.5}}}, 180},
     {"M4", {{{"M2", 2}}}},
@@ -49,16 +52,16 @@ constexpr Compound compounds[] = {
     {"MS4", {{{"M2", 1}, {"S2", 1}}}},
     {"MK3", {{{"M2", 1}, {"K1", 1}}}},
     {"2MK3", {{{"M2", 2}, {"K1", -1}}}},
-    {"2MK5", {{{"M2", 2}, {"K1", 1}}}},
-    {"2MO5", {{{"M2", 2}, {"O1", 1}}}},
+    {"2MK5", {{{"M2", 2}, {"K1", 1}}}, -90},
+    {"2MO5", {{{"M2", 2}, {"O1", 1}}}, 90},
     {"2MS6", {{{"M2", 2}, {"S2", 1}}}},
     {"2SM2", {{{"S2", 2}, {"M2", -1}}}},
     {"MKS2", {{{"M2", 1}, {"K2", 1}, {"S2", -1}}}},
     {"MSF", {{{"S2", 1}, {"M2", -1}}}},
     {"MA2", {{{"M2", 1}, {"SA", -1}}}},
     {"MB2", {{{"M2", 1}, {"SA", 1}}}},
-    {"T3", {{{"S3", 1}, {"SA", -1}}}},
-    {"R3", {{{"S3", 1}, {"SA", 1}}}},
+    {"T3", {{{"S3", 1}, {"SA", -1}}}, 180},
+    {"R3", {{{"S3", 1}, {"SA", 1}}}, 180},
 };
 
 constexpr double radians(double degrees)

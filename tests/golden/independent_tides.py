@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The source of all_constituents.csv, tide_days.csv and tide_answers.csv: tides summed up
-independently of the program.
+"""The source of all_constituents.csv, tide_waters.csv, tide_days.csv and tide_answers.csv: tides
+summed up independently of the program.
 
     tests/golden/independent_tides.py
 
@@ -9,6 +9,9 @@ All constituents: mean longitudes of Schureman's table 1 (epoch 1900), node fact
 the spherical triangle of orbit, equator and ecliptic at the instant itself, speeds from the motions
 of the longitudes. Four constituents: the plain cosines of the two data files with the shallow-water
 terms of the combined wave as amplitude and angle. Turns are looked for minute by minute.
+
+The arguments of 2MK5, 2MO5, T3 and R3 are those to which their one source refers them: the multiples
+of lunar time, s and h alone, which vanish at 00:00 but for s and h (tools/tidedata/METHOD.md).
 """
 import cmath
 import datetime
@@ -33,15 +36,15 @@ ARGUMENTS = {
     "2Q1": (1, -4, 1, 2, 0, 90, "O1"), "RHO1": (1, -3, 3, -1, 0, 90, "O1"),
     "SA": (0, 0, 1, 0, 0, 0, ""), "SSA": (0, 0, 2, 0, 0, 0, ""), "MM": (0, 1, 0, -1, 0, 0, "MM"),
     "MF": (0, 2, 0, 0, 0, 0, "MF"), "MTM": (0, 3, 0, -1, 0, 0, "MF"), "MSQM": (0, 4, -2, 0, 0, 0, "MF"),
-    "M3": (3, -3, 3, 0, 0, 0, "M3"), "S3": (3, 0, 0, 0, 0, 0, ""), "T3": (3, 0, -1, 0, 0, 0, ""),
-    "R3": (3, 0, 1, 0, 0, 0, ""), "MA2": (2, -2, 1, 0, 0, 0, "M2"), "MB2": (2, -2, 3, 0, 0, 0, "M2"),
+    "M3": (3, -3, 3, 0, 0, 0, "M3"), "S3": (3, 0, 0, 0, 0, 0, ""), "T3": (3, 0, -1, 0, 0, 180, ""),
+    "R3": (3, 0, 1, 0, 0, 180, ""), "2MK5": (5, -4, 5, 0, 0, 180, "2MK5"),
+    "2MO5": (5, -6, 5, 0, 0, 180, "2MO5"), "MA2": (2, -2, 1, 0, 0, 0, "M2"), "MB2": (2, -2, 3, 0, 0, 0, "M2"),
 }
 COMPOUNDS = {
     "M4": {"M2": 2}, "M6": {"M2": 3}, "M8": {"M2": 4}, "S4": {"S2": 2}, "N4": {"N2": 2},
     "MN4": {"M2": 1, "N2": 1}, "MS4": {"M2": 1, "S2": 1}, "MK3": {"M2": 1, "K1": 1},
-    "2MK3": {"M2": 2, "K1": -1}, "2MK5": {"M2": 2, "K1": 1}, "2MO5": {"M2": 2, "O1": 1},
-    "2MS6": {"M2": 2, "S2": 1}, "2SM2": {"S2": 2, "M2": -1}, "MKS2": {"M2": 1, "K2": 1, "S2": -1},
-    "MSF": {"S2": 1, "M2": -1},
+    "2MK3": {"M2": 2, "K1": -1}, "2MS6": {"M2": 2, "S2": 1}, "2SM2": {"S2": 2, "M2": -1},
+    "MKS2": {"M2": 1, "K2": 1, "S2": -1}, "MSF": {"S2": 1, "M2": -1},
 }
 
 
@@ -79,8 +82,9 @@ def nodes(p, N):
     K1 = math.sqrt(0.8965) * (wave(math.sin(2 * I), -nu) + 0.3347)
     K2 = math.sqrt(19.0444) * (wave(math.sin(I)**2, -2 * nu) + 0.0727)
     L2 = M2 * (1 - 6 * math.tan(I / 2)**2 * wave(1, 2 * P))
+    O1 = wave(math.sin(I) * math.cos(I / 2)**2 / 0.3800, 2 * xi - nu)
     return {"": 1, "M2": M2, "K1": K1, "K2": K2, "L2": L2, "M3": wave(abs(M2)**1.5, 3 * (xi - nu)),
-            "O1": wave(math.sin(I) * math.cos(I / 2)**2 / 0.3800, 2 * xi - nu),
+            "O1": O1, "2MK5": M2**2 * K1, "2MO5": M2**2 * O1,
             "J1": wave(math.sin(2 * I) / 0.7214, -nu),
             "OO1": wave(math.sin(I) * math.sin(I / 2)**2 / 0.0164, -2 * xi - nu),
             "MF": wave(math.sin(I)**2 / 0.1578, -2 * xi), "MM": (2 / 3 - math.sin(I)**2) / 0.5021}
@@ -225,6 +229,22 @@ def height_rows():
                    f"{station.curve(date)(hours):.4f}")
 
 
+def water_rows():
+    for fault, place, date, count in (
+            ("times of the sum", "Tokyo", datetime.datetime(2026, 11, 21), 4),
+            ("a great tide with its node", "Saint John NB", datetime.datetime(2040, 3, 1), 4),
+            ("three waters in a day", "Port Headland", datetime.datetime(2015, 9, 30), 3)):
+        while True:
+            waters = list(turns(AllConstituents(place).curve(date)))
+            if len(waters) == count and all(
+                    far_from_rounding(minutes, 1, 0.2) and far_from_rounding(height, 0.01, 0.0015)
+                    for minutes, kind, height in waters):
+                break
+            date += datetime.timedelta(days=1)
+        texts = (f"{kind.title()} {clock(minutes)} {height:.2f} m" for minutes, kind, height in waters)
+        yield f"{fault},{place},{date:%Y/%m/%d},\"{', '.join(texts)}\""
+
+
 def month_rows():
     for place, first in (("Tokyo", datetime.datetime(2003, 7, 1)),
                          ("Saint John NB", datetime.datetime(2004, 2, 1)),
@@ -263,6 +283,8 @@ def answer_rows():
 if __name__ == "__main__":
     write("all_constituents.csv", "Height by all constituents at an instant of zone time, metres above chart datum.",
           "fault,place,date,hours,height", height_rows())
+    write("tide_waters.csv", "High and low waters of a day by all constituents, zone time and metres above chart datum.",
+          "fault,place,date,waters", water_rows())
     write("tide_days.csv", "Every high and low water of a month by both sums: minutes of zone time, metres.",
           "fault,place,date,sum,water,minutes,height", month_rows())
     write("tide_answers.csv", "What an officer asks of a day's curve, answered by both sums.",

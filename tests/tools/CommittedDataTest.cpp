@@ -52,6 +52,17 @@ TEST(Sources, aPlaceWithoutOneOfTheFourIsRefusedByName)
     std::filesystem::remove(file);
 }
 
+// Their arguments in all_constituents.cpp are those of the source with this licence alone; others
+// count the 90 degrees of K1, O1 and P1 in.
+TEST(Sources, constituentsOfOneConventionComeFromOneSource)
+{
+    for (const Station& s : sources().stations) {
+        for (const char* name : {"2MK5", "2MO5", "T3", "R3", "S3"})
+            EXPECT_TRUE(!s.constants.contains(name) || s.licence == "CC BY 4.0")
+                << s.place << " " << name;
+    }
+}
+
 TEST(CommittedData, theMethodsErrorIsListedForEveryRecord)
 {
     const std::string accuracy = korvel::contentOf(root / "data/accuracy.txt");

@@ -50,6 +50,16 @@ TEST(AllConstituents, areTheIndependentSum)
     }
 }
 
+TEST(AllConstituents, argumentsAreThoseThatTheirSourcesReferTheLagsTo)
+{
+    for (const Golden& row : golden("tide_arguments")) {
+        const tidedata::HarmonicConstant unit[] = {{row.text("constituent"), 1, 0}};
+        const tidedata::AllConstituents station(unit, Hours(0), 0);
+        const double angle = station.ofDay(37817).waves().front().phase * 180 / std::acos(-1);
+        EXPECT_NEAR(std::remainder(angle - row.number("angle"), 360), 0, 0.5) << row;
+    }
+}
+
 TEST(AllConstituents, turnsAreThoseOfTheIndependentSumToTheMinute)
 {
     for (const Golden& row : golden("tide_waters")) {
