@@ -299,7 +299,7 @@ TEST(StationLines, gradeErrorAndEstimatesOfTheMonth)
     };
     const StationLines tokyo = linesOf("Tokyo");
     EXPECT_EQ(tokyo.accuracy, "Method against the sum of all constituents (2003 to 2005): heights "
-                              "0.03 m, highest 0.03 m, 6 min, lowest 0.03 m, 6 min.");
+                              "0.03 m, highest 0.03 m, 7 min, lowest 0.03 m, 6 min.");
     EXPECT_EQ(tokyo.estimates, "");
     EXPECT_THAT(linesOf("Berhala").estimates,
                 HasSubstr("the mean level and the correction of month 7"));
