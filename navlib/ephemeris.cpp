@@ -5,6 +5,7 @@
 #include "navlib/datetime.h"
 #include "navlib/ephemeris_series.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <span>
@@ -311,6 +312,17 @@ MoonPhase PhaseOfMoon(DateTime instant)
 double MoonAge(DateTime instant)
 {
     return PhaseOfMoon(instant).age;
+}
+
+DateTime LastNewMoon(DateTime instant)
+{
+    constexpr double month = 29.530589; // mean synodic month, days
+    DateTime newMoon = instant - MoonAge(instant) / 30 * month;
+    // A true month lies up to 7 hours from the mean one, an age within it up to 14: each step
+    // leaves at most a tenth of it, the last two seconds.
+    for (int step = 0; step < 6; ++step)
+        newMoon -= std::remainder(MoonAge(newMoon), 30) / 30 * month;
+    return std::min(newMoon, instant);
 }
 
 } // namespace NavFunc113

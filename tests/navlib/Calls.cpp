@@ -216,6 +216,7 @@ const std::map<std::string, Routine>& routines()
         {"SunHourAngleOffset", routine(SunHourAngleOffset)},
         {"MoonHourAngleOffset", routine(MoonHourAngleOffset)},
         {"MoonAge", routine(MoonAge)},
+        {"LastNewMoon", routine(LastNewMoon)},
         {"SunRiseHour", routine(SunRiseHour)},
         {"SunSetHour", routine(SunSetHour)},
         {"MoonRiseHour", routine(MoonRiseHour)},
