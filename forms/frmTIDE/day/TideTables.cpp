@@ -16,8 +16,9 @@ void addLine(std::string& table, const std::string& date, const TideDayShown& da
              const NavFunc113::TideTurn& turn, const char* method)
 {
     const bool tide = day.four.kind == TideKind::Tide;
-    table += date + "," + clockTime(turn.time) + ",";
-    table += tide ? (turn.isHigh ? "high" : "low") : (turn.isHigh ? "flood" : "ebb");
+    std::string water = waterName(turn, day.four.kind);
+    water.front() = static_cast<char>(water.front() - 'A' + 'a');
+    table += date + "," + clockTime(turn.time) + "," + water;
     table += "," + plainFigure(turn.value, TideKind::Tide) + (tide ? ",m," : ",kn,") + method +
              (day.isEstimated ? ",estimated level\r\n" : ",\r\n");
 }

@@ -35,12 +35,6 @@ std::vector<TideTurn> turnsOfAll(const TideDayShown& day)
     return NavFunc113::TurnsOf([&day](Hours t) { return day.all->at(t); }, samples);
 }
 
-std::string nameOf(const TideTurn& turn, TideKind kind)
-{
-    if (kind == TideKind::Tide) return turn.isHigh ? "High" : "Low";
-    return turn.isHigh ? "Flood" : "Ebb";
-}
-
 // Every figure of an estimated level says so itself.
 std::string markedHeight(double value, const TideDayShown& day)
 {
@@ -112,6 +106,14 @@ std::string clockTime(Hours time)
     return twoDigits(minutes / 60) + ":" + twoDigits(minutes % 60);
 }
 
+std::string waterName(const TideTurn& turn, TideKind kind)
+{
+    if (kind == TideKind::Tide) return turn.isHigh ? "High" : "Low";
+    // A stream that does not turn only slackens where another reaches its greatest rate.
+    if (turn.isHigh) return turn.value < 0 ? "Least ebb" : "Flood";
+    return turn.value > 0 ? "Least flood" : "Ebb";
+}
+
 std::string plainFigure(double value, TideKind kind)
 {
     const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
@@ -148,7 +150,7 @@ std::vector<WaterLine> waterLines(const TideDayShown& day)
     std::vector<WaterLine> lines;
     for (const WaterPair& water : watersOf(day)) {
         const TideTurn& named = water.four ? *water.four : *water.all;
-        WaterLine line{nameOf(named, day.four.kind) + " ", {}};
+        WaterLine line{waterName(named, day.four.kind) + " ", {}};
         line.four += water.four ? lineOf(*water.four, day) : "none";
         if (water.all) {
             line.all = lineOf(*water.all, day);

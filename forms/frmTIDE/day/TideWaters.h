@@ -61,6 +61,10 @@ double moonAgeOf(std::int64_t serial, NavFunc113::Hours zone);
 /// hh:mm of a day, rounded to the minute; 24:00 is a time of it.
 std::string clockTime(NavFunc113::Hours time);
 
+/// "High" or "Low"; of a stream "Flood" or "Ebb", and "Least ebb" or "Least flood" where it
+/// slackens without turning.
+std::string waterName(const NavFunc113::TideTurn& turn, TideKind kind);
+
 /// "1.88" or "1.2"; one that rounds to 0 has no sign: neither flood nor ebb.
 std::string plainFigure(double value, TideKind kind);
 

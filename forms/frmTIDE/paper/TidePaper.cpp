@@ -18,8 +18,9 @@ std::string quantityOf(const TideDayShown& day)
 
 PaperTable waterTable(const TideDayShown& day)
 {
-    PaperTable table{day.four.kind == TideKind::Tide ? "High and low waters"
-                                                     : "Greatest floods and ebbs",
+    PaperTable table{day.four.kind == TideKind::Tide
+                         ? "High and low waters"
+                         : "Floods and ebbs where the rate is greatest or least",
                      {"By four constituents"},
                      {}};
     if (day.all) table.headings.push_back("By all constituents (difference)");

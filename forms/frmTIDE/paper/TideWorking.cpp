@@ -44,8 +44,7 @@ std::vector<Instant> instantsOf(const TideAsked& asked)
                             Format(four.extremes.lowest, format)});
     for (const WaterPair& water : watersOf(asked.day))
         if (water.four)
-            instants.push_back({isTide ? (water.four->isHigh ? "High water" : "Low water")
-                                       : (water.four->isHigh ? "Greatest flood" : "Greatest ebb"),
+            instants.push_back({waterName(*water.four, four.kind) + (isTide ? " water" : ""),
                                 water.four->time, heightText(water.four->value, four.kind)});
     if (!isTide)
         for (const Hours time : slackTimesOf(asked.day))

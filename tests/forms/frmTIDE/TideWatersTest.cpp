@@ -3,6 +3,7 @@
 
 #include "forms/frmTIDE/day/StationLines.h"
 #include "forms/frmTIDE/day/TideTables.h"
+#include "forms/frmTIDE/paper/TideWorking.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
@@ -137,6 +138,29 @@ TEST(TideWaters, turnsAtAnyMinuteAndAtMidnight)
         EXPECT_EQ(lines, row.lines) << row.fault;
     }
     EXPECT_TRUE(waterLines(plainDay(0, 0, 2)).empty()) << "no tide at all";
+}
+
+TEST(TideWaters, aStreamThatDoesNotTurnSlackens)
+{
+    const std::pair<double, std::vector<std::string>> rows[] = {
+        {0, {"Flood 04:00   1.5 kn", "Ebb 10:00   -1.5 kn"}},
+        {-3.9, {"Least ebb 04:00   -2.4 kn", "Ebb 10:00   -5.4 kn"}},
+        {3.9, {"Flood 04:00   5.4 kn", "Least flood 10:00   2.4 kn"}},
+    };
+    for (const auto& [mean, expected] : rows) {
+        const TideDayShown day = plainDay(4, 1.5, mean, TideKind::Stream);
+        const auto lines = waterLines(day);
+        ASSERT_EQ(lines.size(), 4u) << mean;
+        EXPECT_EQ(lines[0].four, expected[0]);
+        EXPECT_EQ(lines[1].four, expected[1]);
+        std::vector<std::string> worked;
+        const Working working = heightsWorking({day, {}, {}});
+        for (const auto& row : working.tables.back().rows)
+            worked.push_back(row.front() + " " + clockTime(Hours(std::stod(row[1]))) + "   " +
+                             row.back());
+        for (const std::string& line : expected)
+            EXPECT_THAT(worked, ::testing::Contains(line));
+    }
 }
 
 TEST(TideWaters, bothWaysStandInOneLineWithTheirDifference)
