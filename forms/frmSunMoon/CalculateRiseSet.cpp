@@ -211,6 +211,13 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
     return result;
 }
 
+std::string moonAgeTip(DateTime date)
+{
+    const DateTime noon = date + 0.5;
+    return "In a month of 30 days: 7.5 first quarter, 15 full Moon, 22.5 last quarter. " +
+           Format(noon - NavFunc113::LastNewMoon(noon), "0.0") + " days since new Moon";
+}
+
 std::optional<int> scrollOffset(const std::string& txtSunMoon, DateTime today, int minimum,
                                 int maximum)
 {

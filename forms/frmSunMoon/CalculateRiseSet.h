@@ -87,6 +87,9 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row);
 /// The day number of the date box; nothing when it holds no date. A time of day alone is none.
 std::optional<NavFunc113::DateTime> riseSetDate(const std::string& txtSunMoon);
 
+/// What the Moon's age of a date counts, and the days since new Moon at 12:00 UTC.
+std::string moonAgeTip(NavFunc113::DateTime date);
+
 /// Where the scroll bar belongs for a date: its distance from today in days, when it lies on the
 /// bar.
 std::optional<int> scrollOffset(const std::string& txtSunMoon, NavFunc113::DateTime today,

@@ -69,6 +69,11 @@ Working ageWorking(const RiseSetResult& result)
                      figure(result.phase->sunLongitude, decimals) + ") / 360",
                  figure(result.phase->age, 4), "days");
     working.resultStep("Moon's age", "rounded to 0.1", *result.moonAge, "days");
+    const DateTime noon = result.date + 0.5;
+    const DateTime newMoon = NavFunc113::LastNewMoon(noon);
+    working.step("Days since new Moon", "since the last new Moon, UTC",
+                 instantText(noon) + " - " + instantText(newMoon), figure(noon - newMoon, 2),
+                 "days");
     return working;
 }
 

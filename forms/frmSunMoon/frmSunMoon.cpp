@@ -244,7 +244,10 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
 void frmSunMoon::showRow(std::size_t row)
 {
     const RiseSetResult& result = m_results[row];
-    if (result.moonAge) m_lblMoonAge->setText(asQString(*result.moonAge));
+    if (result.moonAge) {
+        m_lblMoonAge->setText(asQString(*result.moonAge));
+        if (row == m_row) m_lblMoonAge->setToolTip(asQString(moonAgeTip(result.date)));
+    }
     for (const auto& [column, event] : events) {
         const RiseSetLabel& shown = result.*event;
         m_table->result(row, column)->setText(asQString(shown.text));
@@ -282,7 +285,7 @@ WorkingPaper frmSunMoon::paper() const
     paper.place = m_table->box(m_row, Place)->text().trimmed().toStdString();
     paper.results.clear(); // the line of the row in focus tells inputs
     if (const std::string age = m_lblMoonAge->text().toStdString(); !age.empty())
-        paper.results.push_back({"Moon's age at 12:00 UTC", age, "days"});
+        paper.results.push_back({"Moon's age at 12:00 UTC, in a month of 30 days", age, "days"});
     std::vector<RiseSetTableRow> typed;
     for (std::size_t row = 0; row < rows; ++row)
         if (std::ranges::any_of(m_table->boxesOfRow(row),

@@ -90,7 +90,8 @@ std::vector<WeekDay> weekFrom(const StationDays& station, std::int64_t serial,
     for (; serial <= last; ++serial) {
         const TideDayShown day = station.day(serial);
         week.push_back({TideDates::label(serial),
-                        springOrNeap(moonAgeOf(serial, day.four.station.zone)), waterLines(day)});
+                        springOrNeap(MoonAtNoon(serial, day.four.station.zone).elongation),
+                        waterLines(day)});
     }
     return week;
 }

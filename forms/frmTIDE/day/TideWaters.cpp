@@ -5,7 +5,6 @@
 #include "app/reading/NumberField.h"
 #include "app/reading/TypedTime.h"
 #include "forms/frmTIDE/data/TideDates.h"
-#include "navlib/ephemeris.h"
 
 #include <algorithm>
 #include <cmath>
@@ -163,18 +162,20 @@ std::vector<WaterLine> waterLines(const TideDayShown& day)
     return lines;
 }
 
-std::string springOrNeap(double moonAge)
+MoonAtNoon::MoonAtNoon(std::int64_t serial, Hours zone)
+    : noon(static_cast<double>(serial) + 0.5 - NavFunc113::DaysOfHours(zone)),
+      phase(NavFunc113::PhaseOfMoon(noon)), elongation(12 * phase.age),
+      newMoon(NavFunc113::LastNewMoon(noon))
 {
-    // The month counts 30 days: new and full Moon at 0 and 15, the quarters between.
-    const double fromSyzygy = std::fabs(std::remainder(moonAge, 15));
-    if (fromSyzygy <= 2.5) return "springs";
-    if (fromSyzygy >= 5) return "neaps";
-    return std::remainder(moonAge, 15) > 0 ? "springs to neaps" : "neaps to springs";
 }
 
-double moonAgeOf(std::int64_t serial, Hours zone)
+std::string springOrNeap(NavFunc113::Degrees elongation)
 {
-    return NavFunc113::MoonAge(static_cast<double>(serial) + 0.5 - NavFunc113::DaysOfHours(zone));
+    // New and full Moon at 0 and 180, the quarters between.
+    const double fromSyzygy = std::remainder(elongation.value(), 180);
+    if (std::fabs(fromSyzygy) <= 30) return "springs";
+    if (std::fabs(fromSyzygy) >= 60) return "neaps";
+    return fromSyzygy > 0 ? "springs to neaps" : "neaps to springs";
 }
 
 DaysRange rangeOf(const TideDayShown& day)
@@ -199,8 +200,9 @@ std::vector<Hours> slackTimesOf(const TideDayShown& day)
 
 std::string rangeText(const TideDayShown& day)
 {
-    const double age = moonAgeOf(day.four.serial, day.four.station.zone);
-    const std::string moon = springOrNeap(age) + " (Moon's age " + Format(age, "0.0") + " days)";
+    const MoonAtNoon at(day.four.serial, day.four.station.zone);
+    const std::string moon =
+        springOrNeap(at.elongation) + " (Moon's age " + Format(at.age(), "0.0") + " days)";
     if (day.four.kind == TideKind::Stream) {
         std::string slack;
         for (const Hours time : slackTimesOf(day))

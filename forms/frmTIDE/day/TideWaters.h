@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/frmTIDE/day/PredictTide.h"
+#include "navlib/ephemeris.h"
 #include "navlib/tide_turns.h"
 #include "tidedata/all_constituents.h"
 
@@ -49,14 +50,23 @@ DaysRange rangeOf(const TideDayShown& day);
 /// When the water of a stream is slack.
 std::vector<NavFunc113::Hours> slackTimesOf(const TideDayShown& day);
 
-/// "Range 1.90 m, springs (Moon's age 15.1 days)"; streams: when the water is slack.
+/// "Range 1.90 m, springs (Moon's age 14.9 days)"; streams: when the water is slack.
 std::string rangeText(const TideDayShown& day);
 
-/// "springs", "neaps" or what lies between, by the Moon's age in days.
-std::string springOrNeap(double moonAge);
+/// The Moon at noon of a day of a zone.
+struct MoonAtNoon {
+    MoonAtNoon(std::int64_t serial, NavFunc113::Hours zone);
 
-/// The Moon's age at noon of a day of a zone.
-double moonAgeOf(std::int64_t serial, NavFunc113::Hours zone);
+    NavFunc113::DateTime noon; ///< UTC
+    NavFunc113::MoonPhase phase;
+    NavFunc113::Degrees elongation; ///< from the Sun, 0 to below 360
+    NavFunc113::DateTime newMoon;   ///< the last one, UTC
+
+    double age() const { return noon - newMoon; } ///< days
+};
+
+/// "springs", "neaps" or what lies between, by the Moon's elongation from the Sun.
+std::string springOrNeap(NavFunc113::Degrees elongation);
 
 /// hh:mm of a day, rounded to the minute; 24:00 is a time of it.
 std::string clockTime(NavFunc113::Hours time);

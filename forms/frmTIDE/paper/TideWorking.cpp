@@ -125,9 +125,15 @@ PaperTable constantsOf(const TideDayShown& day)
 
 void addRange(Working& working, const TideDayShown& day)
 {
-    const double age = moonAgeOf(day.four.serial, day.four.station.zone);
-    working.step("Moon's age at noon of the day", "days since new Moon, 30 a month", "",
-                 figure(age, 2), "days");
+    const MoonAtNoon moon(day.four.serial, day.four.station.zone);
+    constexpr const char* instant = "yyyy-mm-dd hh:mm";
+    working.step("Elongation of the Moon from the Sun at noon of the day", "λm - λs",
+                 figure(moon.phase.moonLongitude, angleDecimals) + " - " +
+                     figure(moon.phase.sunLongitude, angleDecimals),
+                 figure(moon.elongation, angleDecimals), "°");
+    working.step("Moon's age at noon of the day", "since the last new Moon, UTC",
+                 Format(moon.noon, instant) + " - " + Format(moon.newMoon, instant),
+                 figure(moon.age(), 2), "days");
     if (day.four.kind == TideKind::Tide) {
         const DaysRange range = rangeOf(day);
         working.step("Range", "highest - lowest of the day, 00:00 and 24:00 included",
@@ -136,10 +142,11 @@ void addRange(Working& working, const TideDayShown& day)
                      figure(range.highest - range.lowest, heightDecimals), "m");
     }
     const bool isTide = day.four.kind == TideKind::Tide;
-    working.resultStep(isTide ? "Range and Moon" : "Slack and Moon",
-                       std::string(isTide ? "" : "slack where h is 0; ") +
-                           "springs up to 2.5 days from new or full Moon, neaps from 5 days on",
-                       rangeText(day));
+    working.resultStep(
+        isTide ? "Range and Moon" : "Slack and Moon",
+        std::string(isTide ? "" : "slack where h is 0; ") +
+            "springs up to 30° of elongation from new or full Moon, neaps from 60° on",
+        rangeText(day));
 }
 
 } // namespace

@@ -23,6 +23,8 @@ TEST(CalculateRiseSet, ageOfTheMoonAtNoon)
 {
     const auto row = calculate({"2024/6/21", "Tokyo", "9", "35.393", "139.447"});
     EXPECT_EQ(row.moonAge, "14.4") << "at 12:00 UT, 13 hours before full Moon";
+    EXPECT_THAT(moonAgeTip(row.date), ::testing::HasSubstr("15.0 days since new Moon"))
+        << "2024-06-06 12:38 UTC";
     EXPECT_EQ(row.notice, "");
 }
 

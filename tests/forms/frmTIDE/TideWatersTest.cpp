@@ -200,23 +200,26 @@ TEST(TideWaters, questionsOfTheOfficer)
 
 TEST(TideWaters, rangeMoonAndNow)
 {
-    const std::pair<double, const char*> ages[] = {{0, "springs"},
-                                                   {2.5, "springs"},
-                                                   {3, "springs to neaps"},
-                                                   {5, "neaps"},
-                                                   {7.5, "neaps"},
-                                                   {10, "neaps"},
-                                                   {11, "neaps to springs"},
-                                                   {12.5, "springs"},
-                                                   {17, "springs"},
-                                                   {18, "springs to neaps"},
-                                                   {22, "neaps"},
-                                                   {26, "neaps to springs"},
-                                                   {29.9, "springs"}};
-    for (const auto& [age, name] : ages)
-        EXPECT_EQ(springOrNeap(age), name) << age;
-    // Full Moon 2003-07-13 19:21 UTC, new Moon 2003-07-29 06:53 (almanac).
-    EXPECT_NEAR(moonAgeOf(37815, Hours(0)), 15, 0.5);
+    const std::pair<double, const char*> elongations[] = {{0, "springs"},
+                                                          {30, "springs"},
+                                                          {31, "springs to neaps"},
+                                                          {60, "neaps"},
+                                                          {90, "neaps"},
+                                                          {120, "neaps"},
+                                                          {121, "neaps to springs"},
+                                                          {150, "springs"},
+                                                          {210, "springs"},
+                                                          {211, "springs to neaps"},
+                                                          {264, "neaps"},
+                                                          {329, "neaps to springs"},
+                                                          {359, "springs"}};
+    for (const auto& [elongation, name] : elongations)
+        EXPECT_EQ(springOrNeap(NavFunc113::Degrees(elongation)), name) << elongation;
+    // New Moon 2003-06-29 18:39, full Moon 2003-07-13 19:21 UTC (almanac).
+    EXPECT_NEAR(MoonAtNoon(37815, Hours(0)).age(), 13.72, 0.01);
+    EXPECT_NEAR(MoonAtNoon(37815, Hours(9)).age(), 13.35, 0.01);
+    EXPECT_NEAR(MoonAtNoon(37815, Hours(-7.35)).elongation.value(), 180, 0.1);
+    EXPECT_THAT(rangeText(plainDay(4, 1.5, 2)), HasSubstr("springs (Moon's age 15.7 days)"));
     EXPECT_THAT(rangeText(plainDay(4.2, 1.5, 2)), ::testing::StartsWith("Range 3.00 m, springs"));
     EXPECT_THAT(rangeText(plainDay(4, 2, 0.5, TideKind::Stream)),
                 ::testing::StartsWith("Slack 00:31, 07:29, 12:31, 19:29;"));
