@@ -87,7 +87,8 @@ CurvePicture DrawCurve(const TidePrediction& prediction)
     return picture;
 }
 
-std::optional<CurveReading> readCurve(const TidePrediction& prediction, double hour)
+std::optional<CurveReading> readCurve(const TidePrediction& prediction, double hour,
+                                      const std::string& mark)
 {
     if (!(hour >= 0 && hour <= 24)) return std::nullopt;
     // The whole minute that is shown is the one that is read.
@@ -100,7 +101,7 @@ std::optional<CurveReading> readCurve(const TidePrediction& prediction, double h
                      share * (prediction.values[before + 1] - prediction.values[before]);
     // By hand, because 24:00 is a time of this curve and of no clock.
     const int hours = minute / 60;
-    const std::string time = Format(hours, "00") + ":" + Format(minute % 60, "00") + "  ";
+    const std::string time = Format(hours, "00") + ":" + Format(minute % 60, "00") + "  " + mark;
     if (prediction.kind == TideKind::Tide) return CurveReading{{x, y}, time + Format(y, "0.00m")};
     return CurveReading{{x, y}, time + Format(std::fabs(y), "0.0kn") + setOf(prediction, y)};
 }

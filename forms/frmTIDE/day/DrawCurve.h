@@ -67,6 +67,8 @@ struct CurveReading {
 
 /// Reads the curve where it stands at an hour, between samples on the straight line that is drawn.
 /// @param hour pointer's x; outside 0 to 24 nothing is read
-std::optional<CurveReading> readCurve(const TidePrediction& prediction, double hour);
+/// @param mark stands before the figure: "~" for one of an estimated level
+std::optional<CurveReading> readCurve(const TidePrediction& prediction, double hour,
+                                      const std::string& mark = {});
 
 } // namespace korvel

@@ -34,15 +34,15 @@ std::vector<TideTurn> turnsOfAll(const TideDayShown& day)
     return NavFunc113::TurnsOf([&day](Hours t) { return day.all->at(t); }, samples);
 }
 
-// Every figure of an estimated level says so itself.
-std::string markedHeight(double value, const TideDayShown& day)
-{
-    return (day.isEstimated ? "~" : "") + heightText(value, day.four.kind);
-}
-
 std::string lineOf(const TideTurn& turn, const TideDayShown& day)
 {
     return clockTime(turn.time) + "   " + markedHeight(turn.value, day);
+}
+
+// Every figure of an estimated level says so itself.
+std::string markOf(const TideDayShown& day)
+{
+    return day.isEstimated ? "~" : "";
 }
 
 long minutesOf(Hours time)
@@ -70,11 +70,12 @@ Hours timeOf(const WaterPair& water)
     return water.four ? water.four->time : water.all->time;
 }
 
-// When a curve stands at a level or above it.
+// When a curve stands at a level or above it, each time that the level decides with its mark.
 std::string spansAbove(const NavFunc113::TideCurve& curve, double level,
-                       const std::vector<NavFunc113::TidePassage>& passages)
+                       const std::vector<NavFunc113::TidePassage>& passages,
+                       const std::string& mark)
 {
-    if (passages.empty()) return curve(Hours(0)) > level ? "all day" : "never";
+    if (passages.empty()) return mark + (curve(Hours(0)) > level ? "all day" : "never");
     std::string text;
     const auto add = [&text](const std::string& part) {
         text += (text.empty() ? "" : ", ") + part;
@@ -82,9 +83,9 @@ std::string spansAbove(const NavFunc113::TideCurve& curve, double level,
     std::string from = passages.front().isRising ? "" : "00:00";
     for (const NavFunc113::TidePassage& passage : passages) {
         if (passage.isRising) {
-            from = clockTime(passage.time);
+            from = mark + clockTime(passage.time);
         } else {
-            add(from + " to " + clockTime(passage.time));
+            add(from + " to " + mark + clockTime(passage.time));
             from.clear();
         }
     }
@@ -123,6 +124,16 @@ std::string plainFigure(double value, TideKind kind)
 std::string heightText(double value, TideKind kind)
 {
     return plainFigure(value, kind) + (kind == TideKind::Tide ? " m" : " kn");
+}
+
+std::string markedFigure(double value, const TideDayShown& day)
+{
+    return markOf(day) + plainFigure(value, day.four.kind);
+}
+
+std::string markedHeight(double value, const TideDayShown& day)
+{
+    return markOf(day) + heightText(value, day.four.kind);
 }
 
 std::vector<WaterPair> watersOf(const TideDayShown& day)
@@ -246,14 +257,14 @@ CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeigh
     if (!level) return answer;
     const NavFunc113::TideCurve four = [&day](Hours t) { return day.four.at(t); };
     const auto passages = NavFunc113::PassagesOf(four, *level);
-    answer.text = spansAbove(four, *level, passages);
+    answer.text = spansAbove(four, *level, passages, markOf(day));
     answer.level = level;
     for (const NavFunc113::TidePassage& passage : passages)
         answer.times.push_back(passage.time);
     if (day.all) {
         const NavFunc113::TideCurve all = [&day](Hours t) { return day.all->at(t); };
-        answer.all =
-            "all constituents " + spansAbove(all, *level, NavFunc113::PassagesOf(all, *level));
+        answer.all = "all constituents " +
+                     spansAbove(all, *level, NavFunc113::PassagesOf(all, *level), markOf(day));
     }
     return answer;
 }

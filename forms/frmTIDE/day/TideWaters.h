@@ -81,6 +81,10 @@ std::string plainFigure(double value, TideKind kind);
 /// "1.88 m" or "1.2 kn".
 std::string heightText(double value, TideKind kind);
 
+/// The same, beginning with "~" when the level or its correction of the month is an estimate.
+std::string markedFigure(double value, const TideDayShown& day);
+std::string markedHeight(double value, const TideDayShown& day);
+
 /// An answer and where it is marked in the picture.
 struct CurveAnswer {
     std::string text;                          ///< by the four constituents

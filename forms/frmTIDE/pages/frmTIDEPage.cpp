@@ -95,7 +95,7 @@ void frmTIDEPage::drawTable(QPainter& painter, double top) const
         const std::string time = Format(hour, "00") + (i % 2 == 0 ? ":00" : ":30");
         painter.drawText(cell, Qt::AlignLeft, asQString(time));
         const double value = day.four.values[static_cast<std::size_t>(i)];
-        painter.drawText(cell, Qt::AlignRight, asQString(plainFigure(value, day.four.kind)));
+        painter.drawText(cell, Qt::AlignRight, asQString(markedFigure(value, day)));
     }
     painter.setPen(QPen(Qt::gray, 0.5));
     for (int column = 1; column < tableColumns; ++column) {

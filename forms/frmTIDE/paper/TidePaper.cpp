@@ -40,9 +40,9 @@ PaperTable halfHours(const TideDayShown& day)
         table.headings.push_back(quantityOf(day) + ", all constituents");
     }
     for (std::size_t i = 0; i < day.four.values.size(); ++i) {
-        table.rows.push_back({clockTime(Hours(static_cast<double>(i) / 2)),
-                              plainFigure(day.four.values[i], day.four.kind)});
-        if (all) table.rows.back().push_back(plainFigure((*all)[i], day.four.kind));
+        table.rows.push_back(
+            {clockTime(Hours(static_cast<double>(i) / 2)), markedFigure(day.four.values[i], day)});
+        if (all) table.rows.back().push_back(markedFigure((*all)[i], day));
     }
     return table;
 }
@@ -50,7 +50,9 @@ PaperTable halfHours(const TideDayShown& day)
 ExportTable halfHourList(const TideDayShown& day)
 {
     constexpr const char* timeFormat = "yyyy-mm-ddThh:mm";
-    const std::string quantity = day.four.kind == TideKind::Tide ? "height (metres" : "rate (knots";
+    const std::string quantity = day.isEstimated ? "height (metres, estimated level"
+                                 : day.four.kind == TideKind::Tide ? "height (metres"
+                                                                   : "rate (knots";
     ExportTable list{{"zone time", "UTC", quantity + ")"}, {}};
     std::optional<NavFunc113::TideValues> all;
     if (day.all) {

@@ -45,7 +45,7 @@ std::vector<Instant> instantsOf(const TideAsked& asked)
     for (const WaterPair& water : watersOf(asked.day))
         if (water.four)
             instants.push_back({waterName(*water.four, four.kind) + (isTide ? " water" : ""),
-                                water.four->time, heightText(water.four->value, four.kind)});
+                                water.four->time, markedHeight(water.four->value, asked.day)});
     if (!isTide)
         for (const Hours time : slackTimesOf(asked.day))
             instants.push_back({"Slack", time, clockTime(time)});

@@ -62,7 +62,7 @@ void TideSheet::showDay(const TideDayShown& day, const StationLines& lines, bool
     m_foot->showStation(lines);
     std::optional<NavFunc113::TideValues> all;
     if (day.all && withAll) all = day.all->halfHourly();
-    m_picTIDE->showPrediction(day.four, all);
+    m_picTIDE->showPrediction(day.four, all, day.isEstimated ? "~" : "");
     m_day->showDay(day, withAll);
 }
 

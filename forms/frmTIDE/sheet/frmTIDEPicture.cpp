@@ -53,9 +53,11 @@ void frmTIDEPicture::addAxisLabels()
 }
 
 void frmTIDEPicture::showPrediction(const TidePrediction& prediction,
-                                    const std::optional<NavFunc113::TideValues>& all)
+                                    const std::optional<NavFunc113::TideValues>& all,
+                                    const std::string& mark)
 {
     m_prediction = prediction;
+    m_mark = mark;
     m_all = all;
     m_picture = DrawCurve(prediction);
     const CurveScale& scale = m_picture.scale;
@@ -103,7 +105,7 @@ void frmTIDEPicture::placeLabels()
 void frmTIDEPicture::readAt(std::optional<double> hour)
 {
     m_hour = hour;
-    m_reading = m_prediction && hour ? readCurve(*m_prediction, *hour) : std::nullopt;
+    m_reading = m_prediction && hour ? readCurve(*m_prediction, *hour, m_mark) : std::nullopt;
     placeReading();
     update();
 }

@@ -22,9 +22,11 @@ class frmTIDEPicture : public PictureBox
 public:
     explicit frmTIDEPicture(Program& program, QWidget* parent = nullptr);
 
-    /// @param all half-hourly values of the sum of all constituents, drawn as a thin second curve
+    /// @param all  half-hourly values of the sum of all constituents, drawn as a thin second curve
+    /// @param mark before what is read from the curve: "~" for an estimated level
     void showPrediction(const TidePrediction& prediction,
-                        const std::optional<NavFunc113::TideValues>& all = {});
+                        const std::optional<NavFunc113::TideValues>& all = {},
+                        const std::string& mark = {});
 
     /// Marks instants of the curve and a level across it; nothing takes the marks away.
     void mark(const std::vector<NavFunc113::Hours>& times, std::optional<double> level);
@@ -61,6 +63,7 @@ private:
     std::optional<TidePrediction> m_prediction;
     CurvePicture m_picture;
     std::optional<NavFunc113::TideValues> m_all;
+    std::string m_mark;
     std::vector<NavFunc113::Hours> m_markedTimes;
     std::optional<double> m_markedLevel;
     std::optional<double> m_hour; ///< where the curve is read

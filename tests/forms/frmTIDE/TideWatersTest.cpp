@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/day/TideWaters.h"
 
+#include "forms/frmTIDE/day/DrawCurve.h"
 #include "forms/frmTIDE/day/StationLines.h"
 #include "forms/frmTIDE/day/TideTables.h"
+#include "forms/frmTIDE/paper/TidePaper.h"
 #include "forms/frmTIDE/paper/TideWorking.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
@@ -227,8 +229,25 @@ TEST(TideWaters, rangeMoonAndNow)
     day.four.station.zone = Hours(9);
     EXPECT_EQ(nowText(day, 37816.75), "Now 2003/07/15 03:00   3.30 m rising");
     EXPECT_EQ(nowText(day, 37816.875), "Now 2003/07/15 06:00   2.75 m falling");
+}
+
+TEST(TideWaters, everyFigureOfAnEstimatedLevelIsMarked)
+{
+    TideDayShown day = plainDay(4, 1.5, 2);
+    day.four.station.zone = Hours(9);
     day.isEstimated = true;
     EXPECT_EQ(nowText(day, 37816.75), "Now 2003/07/15 03:00   ~3.30 m rising");
+    EXPECT_EQ(waterLines(day).front().four, "High 04:00   ~3.50 m");
+    EXPECT_EQ(heightAt(day, "4:00").text, "~3.50 m");
+    EXPECT_EQ(timesOfHeight(day, "2.75").text, "~02:00 to ~06:00, ~14:00 to ~18:00");
+    EXPECT_EQ(timesOfHeight(day, "9").text, "~never");
+    EXPECT_EQ(readCurve(day.four, 4, "~")->text, "04:00  ~3.50m");
+    WorkingPaper paper;
+    tellDay(paper, "Berhala", {day, {}, {}}, {});
+    for (const auto& row : paper.tables.back().rows)
+        EXPECT_THAT(row.back(), ::testing::StartsWith("~"));
+    EXPECT_EQ(paper.list->headings.back(), "height (metres, estimated level)");
+    EXPECT_EQ(paper.workings.back().tables.back().rows.back().back(), "~0.50 m");
 }
 
 TEST(TideTables, weekAndMonthEndWhereTheDatesDo)
