@@ -31,8 +31,8 @@ constexpr auto makeEntries()
     };
     std::size_t index = firstStar;
     for (const struct Star& star : catalogue) {
-        entries[index] = {static_cast<Body>(index), Star,       star.name,
-                          star.number,              star.bayer, star.magnitude};
+        entries[index] = {
+            static_cast<Body>(index), Star, star.name, star.number, star.bayer, star.magnitude};
         ++index;
     }
     entries[bodyCount] = {Body::VenusDisc, Planet, "Venus-disc", 0, "", {}};

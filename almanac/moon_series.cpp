@@ -32,9 +32,8 @@ constexpr double radiansOfSecond = 3.14159265358979323846 / 648000;
 double meanLongitude(double T)
 {
     return 3.8103440908308803 +
-           T * (8399.68473007193 +
-                T * (-0.00003318952042550094 +
-                     T * (3.1102494491060616e-8 + T * -2.0328237648922845e-10)));
+           T * (8399.68473007193 + T * (-0.00003318952042550094 +
+                                        T * (3.1102494491060616e-8 + T * -2.0328237648922845e-10)));
 }
 
 /// From the mean ecliptic of date to that of J2000.0, the departure point kept (Laskar 1986).
@@ -68,8 +67,8 @@ Vector geocentricMoon(double daysTT)
         sums[static_cast<std::size_t>(term.coordinate)] +=
             (term.power == 0 ? 1 : T) * term.amplitude *
             std::sin(term.phase + T * (term.speed + T * term.speedChange));
-    const Vector ofDate = fromPolar(meanLongitude(T) + sums[0] * radiansOfSecond,
-                                    sums[1] * radiansOfSecond, sums[2]);
+    const Vector ofDate =
+        fromPolar(meanLongitude(T) + sums[0] * radiansOfSecond, sums[1] * radiansOfSecond, sums[2]);
     return icrsOfEcliptic * eclipticOf2000(ofDate, T);
 }
 

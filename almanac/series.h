@@ -7,7 +7,8 @@
 namespace almanac
 {
 
-/// Heliocentric place of Venus, Mars, Jupiter or Saturn, astronomical units, along the axes of ICRS.
+/// Heliocentric place of Venus, Mars, Jupiter or Saturn, astronomical units, along the axes of
+/// ICRS.
 ///
 /// VSOP87B (Bretagnon and Francou 1988, Astronomy and Astrophysics 202, 309), cut: seen from the
 /// earth within 1.8" of the full series and 2.0" of JPL's DE438, 1950 to 2100.

@@ -29,7 +29,8 @@ DeltaT deltaTAt(DateTime ut)
     }
     double leapSeconds = 0;
     const int status = eraDat(date.year, date.month, date.day, ut - day, &leapSeconds);
-    return {32.184 + leapSeconds, status > 0 ? DeltaT::Source::Assumed : DeltaT::Source::LeapSeconds};
+    return {32.184 + leapSeconds,
+            status > 0 ? DeltaT::Source::Assumed : DeltaT::Source::LeapSeconds};
 }
 
 double decimalYear(DateTime ut)

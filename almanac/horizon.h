@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "almanac/sky.h"
+#include "navlib/units.h"
+
+namespace almanac
+{
+
+using NavFunc113::Metres;
+
+/// Where the officer stands.
+struct Observer {
+    Degrees latitude;   ///< geodetic, WGS 84; north positive, -90 to 90
+    Degrees longitude;  ///< east positive
+    Metres heightOfEye; ///< above the ellipsoid; matters for parallax alone, to 0.001'
+};
+
+/// Direction over the horizon, without refraction and dip.
+struct Direction {
+    Degrees altitude; ///< negative below the horizon
+    Degrees azimuth;  ///< true, 0 <= azimuth < 360; 0 in the zenith
+};
+
+/// The navigator's computed altitude and azimuth (Hc, Zn): the body's GHA and declination from the
+/// observer's latitude and longitude on the sphere, no parallax. Unlike a quotient of cosines it
+/// has no place where it fails.
+Direction computedDirection(const Place& body, const Observer& observer);
+
+/// Direction and size of a body as seen from the observer's eye.
+struct SeenBody {
+    Direction direction;
+    Degrees semiDiameter; ///< larger than from the earth's centre: the Moon's by up to 0.3'
+};
+
+/// The same seen over the WGS 84 ellipsoid: parallax with the earth's oblateness (up to 1 degree
+/// and 0.2' for the Moon; 0.6' for Venus) and the aberration of the earth's turning (0.3") taken
+/// in. Stars differ by the latter alone.
+///
+/// Largest difference from 40 altitudes worked with full series
+/// (tests/golden/almanac_altitudes.csv):
+/// @MEASURED@
+SeenBody seenFrom(const Place& body, const Observer& observer);
+
+} // namespace almanac
