@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+#include "almanac/events.h"
+#include "almanac/daily_page.h"
+#include "tests/almanac/AlmanacTesting.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace almanac
+{
+namespace
+{
+
+std::vector<Crossing> crossingsOf(Body body, const Track& track, const AltitudeWanted& wanted,
+                                  DateTime from, double days)
+{
+    return crossings(HourlyPlaces(body, from, from + days), track, wanted, from, from + days);
+}
+
+// Worked examples of published navigation problems, to the minute.
+TEST(Events, twilightAndSunriseOfShips)
+{
+    const double minute = 1.0 / 1440;
+    const Observer anchored{Degrees(36), Degrees(-68), {}};
+    const double day = instantOf("1998-07-25T06:00:00Z");
+    const auto morning = [&](const AltitudeWanted& wanted) {
+        return crossingsOf(Body::Sun, standingAt(anchored), wanted, day, 0.25).at(0).instant;
+    };
+    EXPECT_NEAR(morning(nauticalTwilight()), instantOf("1998-07-25T08:30:00Z"), minute);
+    EXPECT_NEAR(morning(civilTwilight()), instantOf("1998-07-25T09:05:00Z"), minute);
+
+    // At 0330 of zone -10 in 23-32 N 154-47 E, on 105 at 20 knots: sunrise at 0536.
+    const double start = instantOf("1981-03-26T17:30:00Z");
+    const Track ship = [=](DateTime ut) {
+        const double run = (ut - start) * 24 * 20 / 60; // degrees
+        const Degrees course(105);
+        return Observer{Degrees(23 + 32.0 / 60 + run * cos(course)),
+                        Degrees(154 + 47.0 / 60 + run * sin(course) / cos(Degrees(23.5))),
+                        {}};
+    };
+    const auto rise = crossingsOf(Body::Sun, ship, upperLimbOnHorizon(), start, 0.25);
+    ASSERT_EQ(rise.size(), 1u);
+    EXPECT_TRUE(rise[0].rising);
+    EXPECT_NEAR(rise[0].instant, instantOf("1981-03-26T19:36:00Z"), minute);
+}
+
+// Every rise and set of half a year in all latitudes: the limb is seen on the horizon then, and
+// none that a search by the minute finds is left out, not even two within minutes of each other.
+TEST(Events, riseAndSetOfTheMoonAreWhereTheLimbIsSeen)
+{
+    const double from = instantOf("2026-01-01T00:00:00Z"), days = 180;
+    const HourlyPlaces moon(Body::Moon, from, from + days);
+    int found = 0;
+    for (const double latitude : {-61.0, -20.0, 0.0, 45.0, 62.3, 64.0, 66.0, 72.0}) {
+        const Observer eye{Degrees(latitude), Degrees(-150), {}};
+        const auto limb = [&](DateTime ut) {
+            const SeenBody seen = seenFrom(moon.at(ut), eye);
+            return (seen.direction.altitude + seen.semiDiameter).value() + 34.0 / 60;
+        };
+        const auto all = crossings(moon, standingAt(eye), upperLimbOnHorizon(), from, from + days);
+        for (const Crossing& crossing : all) {
+            EXPECT_NEAR(limb(crossing.instant), 0, 0.5 / 60) << latitude << " " << crossing.instant;
+            EXPECT_EQ(limb(crossing.instant + 0.002) > limb(crossing.instant - 0.002),
+                      crossing.rising);
+        }
+        const auto wanted = upperLimbOnHorizon();
+        const auto isUp = [&](int minute) {
+            const Place place = moon.at(from + minute / 1440.0);
+            return computedDirection(place, eye).altitude >= wanted(place);
+        };
+        int changes = 0;
+        bool up = isUp(0);
+        for (int minute = 1; minute <= days * 1440; ++minute)
+            if (isUp(minute) != up) {
+                up = !up;
+                ++changes;
+            }
+        EXPECT_GE(static_cast<int>(all.size()), changes) << latitude;
+        found += changes;
+    }
+    EXPECT_GT(found, 2000);
+}
+
+TEST(Events, passagesAreOverTheMeridian)
+{
+    const double from = instantOf("2026-03-01T00:00:00Z");
+    const HourlyPlaces venus(Body::Venus, from, from + 5);
+    const auto found =
+        passages(venus, standingAt({Degrees(10), Degrees(179.9), {}}), from, from + 5);
+    ASSERT_EQ(found.size(), 10u);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        const double meridian = found[i].upper ? -179.9 : 0.1;
+        EXPECT_LE(minutesApart(Sky(found[i].instant).place(Body::Venus).gha, meridian), 0.02);
+        EXPECT_NE(found[i].upper, found[(i + 1) % 10].upper);
+    }
+}
+
+const PageLatitude& at(const DailyPage& page, double latitude)
+{
+    return *std::ranges::find(page.latitudes, latitude,
+                              [](const PageLatitude& row) { return row.latitude.value(); });
+}
+
+TEST(Page, holdsThreeDays)
+{
+    const double first = instantOf("2000-11-02T00:00:00Z");
+    const DailyPage page = makeDailyPage(first + 0.7);
+    ASSERT_EQ(page.hours.size(), 72u);
+    EXPECT_EQ(page.stars.size(), 58u);
+    const PageHour& hour = page.hours[41];
+    const Sky sky(first + 41.0 / 24), next(first + 42.0 / 24);
+    EXPECT_NEAR(hour.ut, sky.instant(), 1e-9);
+    EXPECT_LE(minutesApart(hour.places[5].gha, sky.place(Body::Saturn).gha.value()), 0.001);
+    const double gain = (next.place(Body::Moon).gha - sky.place(Body::Moon).gha).value();
+    EXPECT_LE(minutesApart(hour.moonExcess, gain - (14 + 19.0 / 60)), 0.001);
+    // Extremes of the equation of time as published: 16 min 25 s and 14 min 14 s.
+    EXPECT_NEAR(page.days[1].sunExcess[1].value() * 240, 16 * 60 + 25, 3);
+    EXPECT_NEAR(makeDailyPage(instantOf("2000-02-10T00:00:00Z")).days[1].sunExcess[0].value() * 240,
+                -(14 * 60 + 14), 3);
+    EXPECT_NEAR(page.days[1].sunPassage, first + 1.5 - 985.0 / 86400, 3.0 / 86400);
+    EXPECT_LE(minutesApart(Sky(page.ariesPassage).ghaAries(), 0), 0.02);
+    // v of a planet carries its GHA through the three days.
+    const double jupiter =
+        sky.place(Body::Jupiter).gha.value() + 24 * (15 + page.planets[2].excess.value());
+    EXPECT_LE(minutesApart(Sky(first + 65.0 / 24).place(Body::Jupiter).gha, jupiter), 0.5);
+}
+
+TEST(Page, saysWhyThereIsNoTime)
+{
+    using enum PageTime::Kind;
+    const DailyPage june = makeDailyPage(instantOf("2026-06-20T00:00:00Z"));
+    EXPECT_EQ(at(june, 72).sunrise.kind, Above);
+    EXPECT_EQ(at(june, 72).nauticalDusk.kind, Above);
+    EXPECT_EQ(at(june, 60).sunset.kind, At);
+    EXPECT_EQ(at(june, 60).nauticalDawn.kind, Twilight);
+    EXPECT_EQ(at(june, 62).civilDawn.kind, Twilight);
+    const DailyPage december = makeDailyPage(instantOf("2026-12-20T00:00:00Z"));
+    EXPECT_EQ(at(december, 70).sunrise.kind, Below);
+    EXPECT_EQ(at(december, 70).civilDawn.kind, At);
+    // The Moon passes each meridian later by 50 minutes a day: in a month one day is left out.
+    int without = 0;
+    for (int day = 0; day < 30; day += 3) {
+        const DailyPage page = makeDailyPage(instantOf("2026-09-01T00:00:00Z") + day);
+        const auto& row = at(page, 0);
+        for (std::size_t i = 0; i < 3; ++i)
+            without += row.moonrise[i].kind == None;
+    }
+    EXPECT_EQ(without, 1);
+    EXPECT_NO_THROW(makeDailyPage(instantOf("1950-01-01T00:00:00Z")));
+    EXPECT_NO_THROW(makeDailyPage(instantOf("2100-12-29T00:00:00Z")));
+    EXPECT_THROW(makeDailyPage(instantOf("2100-12-30T00:00:00Z")), OutOfRange);
+}
+
+} // namespace
+} // namespace almanac
