@@ -7,6 +7,10 @@ add_executable(ephemeris_bench ${CMAKE_CURRENT_LIST_DIR}/navlib/EphemerisBench.c
 target_link_libraries(ephemeris_bench PRIVATE navlib benchmark::benchmark ${ERFA_LIBRARY}
                       ${LIBNOVA_LIBRARY})
 
+# Sun, Moon, planets and 96 stars at one instant, against one Sun place of ERFA.
+add_executable(almanac_bench ${CMAKE_CURRENT_LIST_DIR}/navlib/AlmanacBench.cpp)
+target_link_libraries(almanac_bench PRIVATE almanac benchmark::benchmark ${ERFA_LIBRARY})
+
 # Prints the figures stated in navlib/ephemeris.h, navlib/rise_set.h and docs/manual/frmSunMoon.md.
 add_executable(ephemeris_accuracy
   ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp

@@ -25,6 +25,7 @@ check_package() {
     FIRST_START=1 installed work-a-case deb
     same_records "$records"
     saved_paper "$clean_root/officer"
+    same_page as_officer almanac
     take_earlier_records
     close_debian
     in_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y --autoremove purge korvel2000 >"$packages/remove.log"

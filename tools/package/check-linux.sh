@@ -18,6 +18,7 @@ check_package() {
     there work-a-case linux
     same_records "$stick/$folder_name"
     saved_paper "$clean_root/officer"
+    same_page as_officer "/officer/stick 海図/$folder_name/almanac"
 
     as_root rm "$stick/$folder_name"/KV_*
     there try-the-clock linux-clock

@@ -87,7 +87,7 @@ run_suites() {
     say "The suites of the library and the calculations under Wine"
     configure_for_windows /usr/src/googletest "$test_library/build" -DCMAKE_INSTALL_PREFIX="$test_library"
     cmake --build "$test_library/build" --target install >/dev/null
-    local suite suites="navlib_test app_test calculations_test"
+    local suite suites="navlib_test almanac_test app_test calculations_test"
     # shellcheck disable=SC2086
     build_windows $suites
     for suite in $suites; do
@@ -102,6 +102,7 @@ work_in_folder() {
     tools/package/work-a-case "$packages/windows.png" "$home/run" "$stick/$folder_name/korvel2000.exe"
     same_records "$stick/$folder_name"
     saved_paper "$home"
+    same_page "$home/run" "$stick/$folder_name/almanac.exe"
 }
 
 ask_for_clock() {

@@ -45,6 +45,12 @@ add_common_licences() {
     done
 }
 
+# add_data FOLDER  What lies beside the program. The tables of the sky are compiled in and stay out.
+add_data() {
+    cp -R data/. docs/manual "$1"
+    rm -r "$1/sky"
+}
+
 # build_linux [TARGET..]  Builds the program for Debian, the same one for the package and the portable
 # folder, and what else is named.
 linux_build=$top/build/packages/linux
@@ -56,5 +62,5 @@ build_linux() {
         -DCMAKE_CXX_FLAGS="$path_flags $(dpkg-buildflags --get CPPFLAGS) -fstack-protector-strong" \
         -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS) -Wl,-z,now" \
         -DKORVEL_RELEASE_DATE="$release_date" >/dev/null
-    cmake --build "$linux_build" --target korvel2000 tidedata "$@"
+    cmake --build "$linux_build" --target korvel2000 tidedata almanac_command "$@"
 }

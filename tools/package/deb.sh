@@ -21,19 +21,19 @@ add_documents() {
     local share=$1 day
     day=$(date -R -d "@$SOURCE_DATE_EPOCH")
     install -D -m 644 "$debian/copyright" "$share/doc/korvel2000/copyright"
-    gzip -9n "$share/man/man1/korvel2000.1"
+    gzip -9n "$share"/man/man1/*.1
     gzip -9nc CHANGELOG.md >"$share/doc/korvel2000/changelog.gz"
     install -D -m 644 "$debian/lintian-overrides" "$share/lintian/overrides/korvel2000"
     sed "s/@version@/$version/; s/@date@/$day/" "$debian/changelog.in" |
         gzip -9n >"$share/doc/korvel2000/changelog.Debian.gz"
 }
 
-# add_control ROOT  The control files; what the program depends on is computed from the program.
+# add_control ROOT  The control files; what the programs depend on is computed from them.
 add_control() {
     local root=$1 libraries size
     mkdir "$root/DEBIAN"
     # dpkg-shlibdeps wants to stand beside a debian/control.
-    libraries=$(cd "$(dirname "$debian")" && dpkg-shlibdeps -O "$root/usr/bin/korvel2000" |
+    libraries=$(cd "$(dirname "$debian")" && dpkg-shlibdeps -O "$root"/usr/bin/* |
         sed -n 's/^shlibs:Depends=//p')
     [ -n "$libraries" ] || fail "the dependencies of the program could not be computed"
     size=$(du -k --apparent-size -s "$root/usr" | cut -f1)

@@ -33,16 +33,16 @@ make_package() {
 }
 
 add_program() {
-    cp -R data/. "$folder"
-    cp -R docs/manual "$folder"
+    add_data "$folder"
     cp LICENSE "$folder"
     cp LICENSE "$folder/licences/KORVEL2000"
     sed "s/@version@/$version/" tools/package/linux/README.in >"$folder/README"
-    install -s "$linux_build/korvel2000/korvel2000" "$linux_build/tools/tidedata/tidedata" "$folder"
+    install -s "$linux_build/korvel2000/korvel2000" "$linux_build/tools/tidedata/tidedata" \
+        "$linux_build/tools/almanac/almanac" "$folder"
     install tools/extend-tides "$folder"
     # The older kind of run path, which holds for the libraries and plug-ins behind the program too:
     # they stay the bytes that Debian built and can be exchanged for others.
-    patchelf --force-rpath --set-rpath '$ORIGIN/lib' "$folder/korvel2000"
+    patchelf --force-rpath --set-rpath '$ORIGIN/lib' "$folder/korvel2000" "$folder/almanac"
     local plugin
     for plugin in $plugins; do
         install -D -m 644 "$toolkit_plugins/$plugin" "$folder/plugins/$plugin"
@@ -60,7 +60,7 @@ libraries_of() {
 add_libraries() {
     local library
     # shellcheck disable=SC2046
-    for library in $(libraries_of "$folder/korvel2000" $(find "$folder/plugins" -name '*.so')); do
+    for library in $(libraries_of "$folder/korvel2000" "$folder/almanac" $(find "$folder/plugins" -name '*.so')); do
         # What was found in the folder's own lib/ does not count as the system's.
         cp -L "$library" "$folder/lib/"
     done

@@ -21,6 +21,13 @@ same_records() {
     say "The case was worked; its records are the developer build's, byte for byte"
 }
 
+# same_page COMMAND..  The command almanac, started so, writes the page that the developer's build does.
+same_page() {
+    "$linux_build/tools/almanac/almanac" --page 2026-11-22 >"$packages/page.txt"
+    "$@" --page 2026-11-22 | tr -d '\r' | cmp - "$packages/page.txt" || fail "a page of the almanac differs"
+    say "The command almanac writes the page of the developer's build, byte for byte"
+}
+
 # saved_paper HOME  The working paper that was saved as PDF somewhere in it has the results. It goes,
 # so that the next one gets its name.
 saved_paper() {

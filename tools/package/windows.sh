@@ -7,6 +7,7 @@ install_missing $build_packages $windows_packages
 
 . tools/package/windows/fetch.sh
 . tools/package/windows/toolkit.sh
+. tools/package/windows/erfa.sh
 
 folder_name=korvel2000-$version-windows
 folder=$packages/$folder_name
@@ -14,12 +15,15 @@ windows_build=$packages/windows
 test_library=$windows_build/googletest
 
 make_package() {
-    build_windows korvel2000
+    build_windows korvel2000 almanac_command
     say "Packing $folder_name.zip"
     rm -rf "$folder" "$folder.zip"
     mkdir -p "$folder/licences"
-    cp -R data/. docs/manual "$folder"
-    x86_64-w64-mingw32-strip -o "$folder/korvel2000.exe" "$windows_build/korvel2000/korvel2000.exe"
+    add_data "$folder"
+    local program
+    for program in korvel2000 almanac; do
+        x86_64-w64-mingw32-strip -o "$folder/$program.exe" "$windows_build/korvel2000/$program.exe"
+    done
     cp LICENSE "$folder"
     # Windows' own editor wants its line ends.
     sed "s/@version@/$version/; s/$/\r/" tools/package/windows/README.in >"$folder/README.txt"
@@ -31,8 +35,12 @@ make_package() {
 # build_windows TARGET..  Builds parts of the tree with the cross compiler and the static toolkit.
 build_windows() {
     build_toolkit
+    build_erfa
+    local erfa
+    erfa=$(erfa_folder)
     say "Building for Windows: $*"
     configure_for_windows . "$windows_build" -DCMAKE_PREFIX_PATH="$toolkit/installed;$test_library" \
+        -DERFA_INCLUDE="$erfa/installed/include" -DERFA_LIBRARY="$erfa/installed/lib/liberfa.a" \
         -DQT_HOST_PATH=/usr -DCMAKE_CXX_FLAGS="$path_flags" -DKORVEL_RELEASE_DATE="$release_date"
     cmake --build "$windows_build" --target "$@"
 }
@@ -49,7 +57,7 @@ configure_for_windows() {
 add_licences() {
     local package
     cp LICENSE "$folder/licences/KORVEL2000"
-    for package in qt6-base-dev gcc-mingw-w64-base mingw-w64-x86-64-dev; do
+    for package in qt6-base-dev liberfa-dev gcc-mingw-w64-base mingw-w64-x86-64-dev; do
         cp -L "/usr/share/doc/$package/copyright" "$folder/licences/$package"
         dpkg-query -W -f '${Package} ${Version} (source ${source:Package} ${source:Version})\n' "$package"
     done >"$folder/licences/packages"
