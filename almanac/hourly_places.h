@@ -14,7 +14,8 @@ namespace almanac
 std::vector<Sky> hourlySkies(DateTime from, DateTime to);
 
 /// Places of a body at any instant of a span, by Lagrange's formula through the four hours around
-/// it: within 0.02" of Sky::place for every body, at a thousandth of its cost. For searches, and
+/// it: within 0.0002" of Sky::place (4000 instants of 1950 to 2100, Sun, Moon, planets and
+/// a star) at a thousandth of its cost. For searches, and
 /// for figures that follow a key.
 class HourlyPlaces
 {

@@ -139,9 +139,9 @@ TEST(Sky, betweenTheHoursPlacesAreInterpolated)
         const HourlyPlaces places(body, from, from + 2);
         for (double ut = from; ut <= from + 2; ut += 0.0137) {
             const Place exact = Sky(ut).place(body), found = places.at(ut);
-            EXPECT_LE(minutesApart(found.gha, exact.gha.value()) * 60, 0.02) << ut;
-            EXPECT_LE(minutesApart(found.declination, exact.declination.value()) * 60, 0.02) << ut;
-            EXPECT_LE(minutesApart(found.sha, exact.sha.value()) * 60, 0.02) << ut;
+            EXPECT_LE(minutesApart(found.gha, exact.gha.value()) * 60, 0.001) << ut;
+            EXPECT_LE(minutesApart(found.declination, exact.declination.value()) * 60, 0.001) << ut;
+            EXPECT_LE(minutesApart(found.sha, exact.sha.value()) * 60, 0.001) << ut;
             EXPECT_GE(found.gha.value(), 0);
             EXPECT_LT(found.gha.value(), 360);
         }
