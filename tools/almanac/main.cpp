@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "tools/almanac/TableInput.h"
 #include "tools/almanac/instant_text.h"
 #include "tools/almanac/page_text.h"
+#include "tools/almanac/table_input.h"
 #include "tools/almanac/tables.h"
 
 #include <filesystem>

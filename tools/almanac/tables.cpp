@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tools/almanac/tables.h"
 #include "almanac/sky.h"
-#include "app/DelimitedText.h"
-#include "app/Format.h"
-#include "tools/almanac/TableInput.h"
+#include "app/reading/Format.h"
+#include "app/records/DelimitedText.h"
 #include "tools/almanac/instant_text.h"
+#include "tools/almanac/table_input.h"
 
 #include <array>
 #include <map>

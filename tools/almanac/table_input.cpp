@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "tools/almanac/TableInput.h"
-#include "app/DelimitedText.h"
+#include "tools/almanac/table_input.h"
+#include "app/records/DelimitedText.h"
 
 #include <algorithm>
 #include <array>
