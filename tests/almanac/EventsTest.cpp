@@ -82,6 +82,31 @@ TEST(Events, riseAndSetOfTheMoonAreWhereTheLimbIsSeen)
     EXPECT_GT(found, 2000);
 }
 
+// In December the Sun's limb comes over the horizon for minutes only: shorter than the search
+// steps.
+TEST(Events, aSunThatOnlyJustRisesRisesAndSets)
+{
+    const double from = instantOf("2026-12-21T00:00:00Z");
+    const HourlyPlaces sun(Body::Sun, from, from + 1);
+    const auto wanted = upperLimbOnHorizon();
+    int brief = 0;
+    for (double latitude = 67.38; latitude < 67.44; latitude += 0.0005) {
+        const Observer eye{Degrees(latitude), Degrees(8.33), {}};
+        bool isUp = false;
+        for (double ut = from + 0.45; ut < from + 0.51; ut += 10.0 / 86400) {
+            const Place place = sun.at(ut);
+            isUp |= computedDirection(place, eye).altitude >= wanted(place);
+        }
+        const auto found = crossings(sun, standingAt(eye), wanted, from, from + 1);
+        ASSERT_EQ(found.size(), isUp ? 2u : 0u) << latitude;
+        if (!isUp) continue;
+        EXPECT_TRUE(found[0].rising);
+        EXPECT_FALSE(found[1].rising);
+        brief += found[1].instant - found[0].instant < 10.0 / 1440;
+    }
+    EXPECT_GT(brief, 3);
+}
+
 TEST(Events, passagesAreOverTheMeridian)
 {
     const double from = instantOf("2026-03-01T00:00:00Z");

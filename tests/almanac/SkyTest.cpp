@@ -19,6 +19,25 @@ namespace
 using korvel::testing::Golden;
 using korvel::testing::golden;
 
+/// Minutes of arc: 0.05 is asked of planets and Moon, and this is what their series keep, so that
+/// the loss of a small effect (1.3 s of the Moon's light) is noticed.
+double barOf(Body body)
+{
+    switch (body) {
+    case Body::Moon:
+        return 0.022;
+    case Body::Venus:
+    case Body::VenusDisc:
+        return 0.008;
+    case Body::Mars:
+    case Body::Jupiter:
+    case Body::Saturn:
+        return 0.024;
+    default:
+        return 0.0005; // Sun and stars; 0.01 is asked
+    }
+}
+
 TEST(Sky, placesOfAllBodies)
 {
     for (const Golden& row : golden("almanac_places")) {
@@ -26,8 +45,7 @@ TEST(Sky, placesOfAllBodies)
         ASSERT_TRUE(body) << row;
         const Sky sky(instantOf(row.text("ut")));
         const Place place = sky.place(*body);
-        const BodyKind kind = entryOf(*body).kind;
-        const double bar = kind == BodyKind::Sun || kind == BodyKind::Star ? 0.01 : 0.05;
+        const double bar = barOf(*body);
         EXPECT_NEAR(sky.deltaT().seconds, row.number("delta_t_s"), 0.001) << row;
         EXPECT_LE(minutesApart(sky.ghaAries(), row.number("gha_aries_deg")), 0.01) << row;
         EXPECT_LE(minutesApart(place.gha, row.number("gha_deg")), bar) << row;
