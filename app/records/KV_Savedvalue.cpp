@@ -132,6 +132,13 @@ std::vector<std::string> KV_Savedvalue::take(const Record& record)
         m_values[i] = sound ? record[i] : row.initial;
         if (!sound) refused.push_back(row.name + " " + valueInWords(record[i]));
     }
+    for (int n = 1; n <= alarms; ++n) {
+        const auto i = static_cast<std::size_t>(placeOf(n, SavedValue::AlarmTime));
+        if (table()[i].isSound(record[i]) || !alarmEnabled(n)) continue;
+        // It would ring at midnight, the time of a new installation.
+        setAlarmEnabled(n, false);
+        refused.push_back("alarm " + std::to_string(n) + " is now off");
+    }
     // Half of a position is none.
     const auto soundAt = [&](SavedValue which) {
         const auto i = static_cast<std::size_t>(which);

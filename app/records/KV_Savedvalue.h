@@ -132,7 +132,8 @@ public:
     Record record() const { return {m_values.begin(), m_values.end()}; }
 
     /// Takes over what a settings file holds. Ticks of the clock zone are brought into order; a
-    /// value that is out of range keeps its default, and a memory's position both of its halves.
+    /// value that is out of range keeps its default, and a memory's position both of its halves; an
+    /// alarm whose time cannot be read is off.
     /// @param record at least 27 values
     /// @return what was not taken over, in words: "time difference 99"
     std::vector<std::string> take(const Record& record);

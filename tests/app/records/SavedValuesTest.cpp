@@ -69,6 +69,23 @@ TEST(SavedValues, whatIsOutOfRangeIsNotTakenOverAndNamed)
     }
 }
 
+TEST(SavedValues, anAlarmWithoutAReadableTimeIsOff)
+{
+    KV_Savedvalue saved;
+    for (int n : {1, 2, 3})
+        saved.setAlarmEnabled(n, true);
+    Record record = saved.record();
+    record[4] = "6.30";
+    record[7] = "06:30";
+    record[13] = "25:00";
+    EXPECT_EQ(joined(saved.take(record)),
+              "time of alarm 1 \"6.30\"; time of alarm 4 \"25:00\"; alarm 1 is now off");
+    EXPECT_EQ(saved(SavedValue::AlarmEnabled), Value(false));
+    EXPECT_TRUE(saved.alarmEnabled(2));
+    EXPECT_TRUE(saved.alarmEnabled(3));
+    EXPECT_EQ(saved(12), Value()) << "one that was off is left as it was";
+}
+
 class RecoveryFileTest : public ::testing::Test
 {
 protected:
