@@ -66,8 +66,8 @@ DateTime MoonSetSearch(DateTime date, Hours TD, DegMin& latitude, DegMin longitu
 /// day) the fixed altitudes cost: Sun 0.36 / 0.64 / 1.0 minutes, rising early and setting late;
 /// Moon 0.7 / 1.3 / 3.2.
 ///
-/// @param found time that the search found, from which to start; 0 when it found none. When the
-///              first step from there stays within a minute, found is right and comes back as is.
+/// @param found time that the search found, 0 when it found none. An event of the date that is less
+///              than a minute away is the one; otherwise the whole day is looked through.
 /// @return local date-time on that date, the earliest when there are two; nothing when there is
 ///         no such event on that date. Never faults for a body that neither rises nor sets.
 std::optional<DateTime> RefinedSunRise(DateTime date, Hours TD, DegMin latitude, DegMin longitude,

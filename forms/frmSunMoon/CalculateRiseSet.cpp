@@ -81,15 +81,20 @@ public:
     RiseSetLabel time(const RowEvent& event, RiseSetFigures& figures)
     {
         figures.event = event.event;
-        try {
+        const bool searched = withinCalendar([&] {
             figures.found = SearchRiseSet(event.event, m_date, m_row.TD, m_row.latitude,
                                           m_row.longitude, figures.search);
-        } catch (const ArithmeticError&) {
-            // The body stays above or below the horizon: said below, with the refined search.
-        }
+        });
         figures.latitude = m_row.latitude;
-        refine(figures);
+        const bool checked = withinCalendar([&] {
+            figures.refined =
+                RefineRiseSet(figures.event, m_date, m_row.TD, m_typedLatitude, m_row.longitude,
+                              figures.found.value_or(0), figures.refinement);
+        });
+        figures.calendarEnds = !searched || !checked;
+        if (!searched) return beyondCalendar(event);
         if (!figures.found) return faulty(event, figures.refined);
+        if (!checked) return {localTime(*figures.found), "Not checked: the calendar ends", "", {}};
         return shown(event, *figures.found, figures.refined);
     }
 
@@ -115,15 +120,26 @@ public:
     }
 
 private:
-    void refine(RiseSetFigures& figures) const
+    /// @return whether the calendar reached far enough for a search
+    template <typename Search>
+    static bool withinCalendar(Search search)
     {
         try {
-            figures.refined =
-                RefineRiseSet(figures.event, m_date, m_row.TD, m_typedLatitude, m_row.longitude,
-                              figures.found.value_or(0), figures.refinement);
-        } catch (const ArithmeticError&) {
-            // Beyond the calendar: the search has said so already.
+            search();
+        } catch (const ArithmeticError& fault) {
+            // Any other: the body stays above or below the horizon, which is said with the label.
+            return fault.condition() != ArithmeticError::Condition::Overflow;
         }
+        return true;
+    }
+
+    RiseSetLabel beyondCalendar(const RowEvent& event)
+    {
+        const std::string sentence =
+            std::string(event.name) +
+            " not found: the search looks beyond the calendar, which ends with 9999/12/31";
+        m_remarks.warn(sentence);
+        return {"", sentence, "", {}};
     }
 
     RiseSetLabel faulty(const RowEvent& event, std::optional<DateTime> refined)

@@ -43,6 +43,7 @@ struct RiseSetFigures {
     std::vector<NavFunc113::EventStep> search;
     std::optional<NavFunc113::DateTime> refined;
     std::vector<NavFunc113::EventStep> refinement;
+    bool calendarEnds = false; ///< before one of the two had looked through all that it looks at
 };
 
 /// What an azimuth was calculated from.

@@ -167,7 +167,7 @@ void addLastStep(Working& working, const RiseSetFigures& figures, const RowFigur
 }
 
 void addTimes(Working& working, const RiseSetFigures& figures, const RiseSetLabel& label,
-              const std::string& name, Hours TD)
+              const std::string& name)
 {
     if (!label.text.empty())
         working.resultStep(working.title,
@@ -182,19 +182,17 @@ void addTimes(Working& working, const RiseSetFigures& figures, const RiseSetLabe
                            label.refined);
         return;
     }
+    if (figures.calendarEnds) {
+        working.whyNone = "The calendar ends before the search does.";
+        return;
+    }
     if (!figures.found || !figures.refined) {
         working.whyNone = "Neither search finds a " + name + " on this date.";
         return;
     }
-    const EventStep& last = figures.refinement.back();
-    if (last.round == 0)
-        working.step("Check by the refined search",
-                     "the step from the time found is below a minute: it holds", "",
-                     figure((last.event - DaysOfHours(TD) - last.instant) * 1440, 3), "minutes");
-    else
-        working.step("Check by the refined search",
-                     "its time is near enough to the one found not to be shown", "",
-                     instantText(*figures.refined));
+    working.step("Check by the refined search",
+                 "its time is near enough to the one found not to be shown", "",
+                 instantText(*figures.refined));
 }
 
 Working eventWorking(const EventWords& words, const RiseSetFigures& figures, const RowFigures& row,
@@ -202,7 +200,7 @@ Working eventWorking(const EventWords& words, const RiseSetFigures& figures, con
 {
     Working working{words.title, methodOf(words, RuleOf(figures.event)), {}};
     if (!figures.search.empty()) addLastStep(working, figures, row, result.date);
-    addTimes(working, figures, result.*words.label, words.name, row.typed.TD);
+    addTimes(working, figures, result.*words.label, words.name);
     working.tables = {searchTable(figures, result.date)};
     if (!figures.refinement.empty())
         working.tables.push_back(refinementTable(figures, row.typed.TD));

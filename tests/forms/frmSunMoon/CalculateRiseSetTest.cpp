@@ -5,13 +5,17 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+
 namespace korvel
 {
 namespace
 {
 
 using namespace korvel::testing;
+using NavFunc113::DateTime;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 RiseSetResult calculate(const RiseSetInput& input)
 {
@@ -84,6 +88,57 @@ TEST(CalculateRiseSet, faultOfTheMoonBlanksItsEventsOnly)
     EXPECT_LE(faults, 14);
 }
 
+/// Minutes of the day that a label shows, in the middle of the minute that it is cut to.
+double minutesOf(const std::string& hhmm)
+{
+    return 60 * std::stoi(hhmm.substr(0, 2)) + std::stoi(hhmm.substr(2, 2)) + 0.5;
+}
+
+/// What an officer reads of an event: the refined time where one stands beside the label.
+/// @param good minutes to which a label without one is good
+void expectToRead(const RiseSetLabel& label, const std::string& truth, double good, double within,
+                  const Golden& row)
+{
+    const std::string read = label.refined.empty() ? label.text : label.refined;
+    if (truth == "none") {
+        EXPECT_TRUE(read == "none" || read == "0000LT" || read.empty()) << row << read;
+        EXPECT_THAT(label.tip, HasSubstr("no ")) << row;
+        return;
+    }
+    ASSERT_GE(read.size(), 4U) << row << label.tip;
+    const double error = label.refined.empty() ? good : within;
+    EXPECT_NEAR(minutesOf(read), std::stod(truth), 0.5 + error + 1e-6) << row << label.tip;
+}
+
+TEST(CalculateRiseSet, eventsOfAHundredYearsByFullTheory)
+{
+    constexpr const char* names[] = {"sunrise", "sunset", "moonrise", "moonset"};
+    constexpr double sunWithin = 0.03, moonSearch = 5; // minutes
+    int searchedMoons = 0, farOut = 0;
+    for (const Golden& row : golden("rise_set_events")) {
+        const auto result = calculate(
+            {row.text("date"), "", row.text("TD"), row.text("latitude"), row.text("longitude")});
+        const RiseSetLabel* labels[] = {&result.sunRiseTime, &result.sunSetTime,
+                                        &result.moonRiseTime, &result.moonSetTime};
+        for (std::size_t i = 0; i < 4; ++i) {
+            const bool sun = i < 2;
+            const double within = sun ? sunWithin : row.number("within");
+            const std::string& truth = row.text(names[i]);
+            expectToRead(*labels[i], truth, within + (sun ? 1 : moonSearch), within, row);
+            const RiseSetFigures& figures = result.figures->events[i];
+            ASSERT_EQ(figures.refined.has_value(), truth != "none") << row << names[i];
+            if (!figures.refined) continue;
+            const DateTime event = result.date + std::stod(truth) / 1440;
+            EXPECT_NEAR((*figures.refined - event) * 1440, 0, within) << row << names[i];
+            const double searchedOut = std::fabs(figures.found.value_or(0) - event) * 1440;
+            if (row.text("fault") != "place or year") continue;
+            searchedMoons += !sun;
+            farOut += searchedOut > (sun ? within : moonSearch);
+        }
+    }
+    EXPECT_LE(farOut, 0.05 * searchedMoons) << "no Sun, and one Moon in twenty";
+}
+
 TEST(CalculateRiseSet, southernWholeDegreesAreTold)
 {
     const auto whole = calculate({"2024/12/21", "", "-4", "-55", "-68"});
@@ -93,6 +148,26 @@ TEST(CalculateRiseSet, southernWholeDegreesAreTold)
     EXPECT_EQ(whole.sunRiseTime.refined + "LT", aside.sunRiseTime.text);
     EXPECT_EQ(whole.sunRiseTime.tip, "Refined time of sunrise: " + aside.sunRiseTime.text)
         << "what the refined search says is right";
+}
+
+TEST(CalculateRiseSet, theEndOfTheCalendarIsNoPolarNight)
+{
+    int beyond = 0;
+    for (const std::string date : {"9999/12/29", "9999/12/30", "9999/12/31"}) {
+        for (const std::string TD : {"-12", "0", "12"}) {
+            const auto row = calculate({date, "", TD, "35", "0"});
+            EXPECT_THAT(row.notice, Not(HasSubstr("no sun"))) << date << " " << TD;
+            for (const auto& label : {row.sunRiseTime, row.sunSetTime}) {
+                EXPECT_NE(label.refined, "none") << date << " " << TD << " " << label.tip;
+                if (!label.text.empty()) continue;
+                ++beyond;
+                EXPECT_NE(date, "9999/12/29") << "the searches look two days ahead";
+                EXPECT_THAT(label.tip, HasSubstr("beyond the calendar"));
+                EXPECT_THAT(row.notice, HasSubstr(label.tip));
+            }
+        }
+    }
+    EXPECT_GE(beyond, 1);
 }
 
 TEST(CalculateRiseSet, scrollBarAndDate)

@@ -4,11 +4,11 @@
 #include "navlib/units.h"
 
 #include <array>
-#include <functional>
 #include <optional>
+#include <vector>
 
-/// Places of the Sun and the Moon by ERFA, independent of the function library: what its accuracy
-/// is measured against. UTC stands for UT1.
+/// Places of the Sun and the Moon by ERFA and a long series of the Moon, independent of the
+/// function library: what its accuracy is measured against. 1900 to 2100; UTC stands for UT1.
 namespace erfareference
 {
 
@@ -29,12 +29,17 @@ enum class Horizon {
     Almanac       ///< upper limb on the horizon, 34' of refraction; parallax and size of the day
 };
 
-/// Rise or set of a local day, by bisection of the altitude; the earliest when there are two.
-/// @return local date-time, nothing when there is none
+/// Rise or set of a local day, by bisection of the altitude.
 class DayOfEvents
 {
 public:
     DayOfEvents(Body body, NavFunc113::DateTime date, double TD);
+
+    /// Local date-times, the earliest first; those of half an hour before and after the date too.
+    /// @param raised degrees by which the horizon is raised, to see what an error does
+    std::vector<NavFunc113::DateTime> events(bool rising, double latitude, double longitude,
+                                             Horizon horizon, double raised = 0) const;
+    /// The earliest of the date: in high latitudes it can have two. Nothing when there is none.
     std::optional<NavFunc113::DateTime> event(bool rising, double latitude, double longitude,
                                               Horizon horizon) const;
 
