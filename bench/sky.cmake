@@ -11,11 +11,21 @@ target_link_libraries(ephemeris_bench PRIVATE navlib benchmark::benchmark ${ERFA
 add_executable(almanac_bench ${CMAKE_CURRENT_LIST_DIR}/navlib/AlmanacBench.cpp)
 target_link_libraries(almanac_bench PRIVATE almanac benchmark::benchmark ${ERFA_LIBRARY})
 
-# Prints the figures stated in navlib/ephemeris.h, navlib/rise_set.h and docs/manual/frmSunMoon.md.
-add_executable(ephemeris_accuracy
-  ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp
-  ${CMAKE_SOURCE_DIR}/tests/navlib/accuracy/ErfaReference.cpp)
-target_link_libraries(ephemeris_accuracy PRIVATE app_reading ${ERFA_LIBRARY})
+# The Sun and the Moon by full theory, as the accuracy tests have them.
+add_library(erfa_reference STATIC
+  ${CMAKE_SOURCE_DIR}/tests/navlib/accuracy/ErfaReference.cpp
+  ${CMAKE_SOURCE_DIR}/tests/SourceFolder.cpp)
+target_compile_definitions(erfa_reference PRIVATE KORVEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+target_link_libraries(erfa_reference PUBLIC navlib ${ERFA_LIBRARY})
+
+# Prints the figures stated in navlib/ephemeris.h, navlib/rise_set.h, forms/frmSunMoon and
+# docs/manual/frmSunMoon.md.
+add_executable(ephemeris_accuracy ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp)
+target_link_libraries(ephemeris_accuracy PRIVATE frmSunMoon_calculation erfa_reference)
+
+# Prints tests/golden/rise_set_events.csv.
+add_executable(rise_set_events ${CMAKE_SOURCE_DIR}/tests/golden/independent_rise_set.cpp)
+target_link_libraries(rise_set_events PRIVATE app_reading erfa_reference)
 
 # A change of date with sixteen rows filled, its one save included: at most 40 times the bare box.
 add_executable(sunmoon_bench ${CMAKE_CURRENT_LIST_DIR}/ui/SunMoonBench.cpp)

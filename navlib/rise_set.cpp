@@ -3,6 +3,7 @@
 
 #include "navlib/angles.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace NavFunc113
@@ -119,25 +120,31 @@ DateTime search(const Quest& quest, DateTime date)
     return 0;
 }
 
-/// Days from an instant to the event nearest to it, by the body's place at that instant; nothing
-/// when the body does not meet the altitude at that declination. Only the difference of two hour
-/// angles is reduced, so no jump of the offset can carry it into another day.
-std::optional<double> stepToEvent(const Quest& quest, int round, DateTime instant)
+/// From an instant to the event nearest to it, by the body's place at that instant. Only the
+/// difference of two hour angles is reduced, so no jump of the offset can carry it into another
+/// day.
+struct StepToEvent {
+    double days;
+    bool isMet; ///< false: the body does not meet the altitude at that declination, and the step
+                ///< leads to where it comes nearest, on the meridian
+};
+
+StepToEvent stepToEvent(const Quest& quest, int round, DateTime instant)
 {
     const Event& event = quest.event;
     const BodyPlace body = event.place(instant);
-    quest.steps.push_back({round, instant, body, std::nullopt, 0});
     const auto [sineProduct, cosineProduct] = triangleOf(quest.latitude, body.declination);
     const double cosine = (sin(event.rule.altitude) - sineProduct) / cosineProduct;
-    if (!(std::fabs(cosine) <= 1)) return std::nullopt;
+    const bool isMet = std::fabs(cosine) <= 1;
     const Degrees hourAngle = (instant - std::floor(instant)) * fullTurn + body.hourAngleOffset +
                               DegMinToDeg(quest.longitude);
-    const Degrees eventHourAngle = RadToDeg(Radians(std::acos(cosine)));
+    const Degrees eventHourAngle = RadToDeg(Radians(std::acos(std::clamp(cosine, -1.0, 1.0))));
     const Degrees atEvent = event.rule.side * eventHourAngle;
     const double days = WithinHalfTurn(atEvent - hourAngle) / event.rule.motionInADay;
-    quest.steps.back().hourAngle = eventHourAngle;
-    quest.steps.back().event = instant + days + DaysOfHours(quest.TD);
-    return days;
+    quest.steps.push_back(
+        {round, instant, body, std::nullopt, instant + days + DaysOfHours(quest.TD)});
+    if (isMet) quest.steps.back().hourAngle = eventHourAngle;
+    return {days, isMet};
 }
 
 std::optional<DateTime> iterate(const Quest& quest, int round, DateTime start)
@@ -145,10 +152,11 @@ std::optional<DateTime> iterate(const Quest& quest, int round, DateTime start)
     constexpr double halfSecond = 0.5 / 86400;
     DateTime instant = start;
     for (int pass = 0; pass < 12; ++pass) {
-        const auto step = stepToEvent(quest, round, instant);
-        if (!step) return std::nullopt;
-        instant += *step;
-        if (std::fabs(*step) < halfSecond) return instant;
+        const auto [days, isMet] = stepToEvent(quest, round, instant);
+        instant += days;
+        if (std::fabs(days) >= halfSecond) continue;
+        if (!isMet) break;
+        return instant;
     }
     return std::nullopt;
 }

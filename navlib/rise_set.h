@@ -97,7 +97,8 @@ struct EventStep {
     DateTime instant = 0; ///< UTC
     BodyPlace body;
     std::optional<Degrees> hourAngle; ///< of the event; absent: the body does not meet the altitude
-    DateTime event = 0;               ///< local time; valid when there is an hour angle
+    DateTime event = 0; ///< local time; without an hour angle that of the culmination in the
+                        ///< refined search, and 0 in the other
 };
 
 /// The searches above, their steps added to a list; those before a fault stay in it.

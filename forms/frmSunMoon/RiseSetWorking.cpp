@@ -120,7 +120,7 @@ PaperTable refinementTable(const RiseSetFigures& figures, Hours TD)
         "Refined search: step = (" + std::string(rule.side < 0 ? "-" : "") +
             "H - local hour angle) / " + figure(rule.motionInADay, 1) +
             "° a day, local hour angle = 15° × hours of UTC + E + λ, within half a turn; φ as "
-            "typed",
+            "typed; without H to the culmination",
         {"from", "UTC of the place", "δ °", "E °", "H °", "step, minutes", "local time"},
         {}};
     constexpr std::array<const char*, 4> starts = {"time found", "0h", "12h", "24h"};
@@ -131,8 +131,7 @@ PaperTable refinementTable(const RiseSetFigures& figures, Hours TD)
                               figure(DegMinToDeg(step.body.declination), decimals),
                               figure(step.body.hourAngleOffset, decimals),
                               step.hourAngle ? figure(*step.hourAngle, decimals) : "none",
-                              step.hourAngle ? figure(minutes, 3) : "",
-                              step.hourAngle ? instantText(step.event) : ""});
+                              figure(minutes, 3), instantText(step.event)});
     }
     return table;
 }
