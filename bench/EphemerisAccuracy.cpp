@@ -119,26 +119,34 @@ struct Case {
     }
 };
 
-enum class Latitudes { Any, SouthernWholeDegrees };
+/// Which of the things that the window accepts are measured together.
+struct Group {
+    int limit; ///< of the latitude, degrees
+    bool southernWholeDegrees;
+    bool anyTD; ///< otherwise that of the zone
 
-/// Places from limit to limit; of every other the time is that of its zone, of the rest anything.
+    std::string text() const
+    {
+        return "latitudes to " + std::to_string(limit) +
+               (southernWholeDegrees ? ", southern whole degrees" : "") +
+               (anyTD ? ", any TD" : ", TD of the zone");
+    }
+};
+
 class Cases
 {
 public:
-    Cases(const Years& years, int limit, Latitudes latitudes)
-        : m_years(years), m_limit(limit), m_latitudes(latitudes)
-    {
-    }
+    explicit Cases(const Group& group) : m_group(group) {}
     Case next()
     {
         Case result;
-        result.day = std::floor(m_years.start() + unit() * (m_years.end() - m_years.start()));
+        result.day = std::floor(allYears.start() + unit() * (allYears.end() - allYears.start()));
         result.longitude = int(std::round((2 * unit() - 1) * 180 * 60));
-        result.latitude = m_latitudes == Latitudes::Any
-                              ? int(std::round((2 * unit() - 1) * m_limit * 60))
-                              : -60 * (1 + int(unit() * m_limit));
+        result.latitude = m_group.southernWholeDegrees
+                              ? -60 * (1 + int(unit() * m_group.limit))
+                              : int(std::round((2 * unit() - 1) * m_group.limit * 60));
         const double anyTD = std::round((2 * unit() - 1) * 24) / 2;
-        result.TD = m_count++ % 2 == 0 ? std::round(result.longitude / 900.0) : anyTD;
+        result.TD = m_group.anyTD ? anyTD : std::round(result.longitude / 900.0);
         return result;
     }
 
@@ -146,10 +154,7 @@ private:
     double unit() { return std::uniform_real_distribution<double>(0, 1)(m_random); }
 
     std::mt19937 m_random{20000101};
-    Years m_years;
-    int m_limit;
-    Latitudes m_latitudes;
-    int m_count = 0;
+    Group m_group;
 };
 
 /// The refined time stands beside the label, or the label's own is good.
@@ -184,11 +189,11 @@ void compare(Errors& errors, std::optional<DateTime> found, const std::vector<Da
         errors.onOneSideOnly(each.text());
 }
 
-void measureEvents(const Years& years, int limit, Latitudes latitudes, int count)
+void measureEvents(const Group& group, int count)
 {
     constexpr std::array names{"sunrise", "sunset", "moonrise", "moonset"};
     std::array<Errors, 4> search, read, refined, almanac;
-    Cases cases(years, limit, latitudes);
+    Cases cases(group);
     for (int i = 0; i < count; ++i) {
         const Case each = cases.next();
         const auto result = each.shown();
@@ -209,8 +214,7 @@ void measureEvents(const Years& years, int limit, Latitudes latitudes, int count
             compare(almanac[e], figures.refined, eventsAt(Horizon::Almanac), each);
         }
     }
-    std::cout << years.text() << ", latitudes to " << limit
-              << (latitudes == Latitudes::Any ? "" : ", southern whole degrees") << '\n';
+    std::cout << allYears.text() << ", " << group.text() << '\n';
     for (std::size_t e = 0; e < names.size(); ++e) {
         const std::string name = std::string("  ") + names[e];
         search[e].print(name + ", the search", " min");
@@ -227,7 +231,8 @@ int main()
     for (const Years& years : {presentYears, allYears})
         for (Body body : {Body::Sun, Body::Moon})
             measurePlaces(body, years);
-    for (int limit : {60, 63})
-        for (Latitudes latitudes : {Latitudes::Any, Latitudes::SouthernWholeDegrees})
-            measureEvents(allYears, limit, latitudes, 10000);
+    for (const Group& group :
+         {Group{60, false, false}, Group{63, false, false}, Group{60, true, false},
+          Group{63, true, false}, Group{63, false, true}})
+        measureEvents(group, 10000);
 }

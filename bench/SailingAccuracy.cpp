@@ -67,9 +67,9 @@ double between(double low, double high)
 
 /// An angle as typed, degrees.minutes with tenths, and in degrees.
 struct Angle {
-    explicit Angle(double limit)
+    explicit Angle(double about)
     {
-        const int tenths = int(std::round(between(-limit, limit) * 600));
+        const int tenths = int(std::round(about * 600));
         const int size = std::abs(tenths);
         text = (tenths < 0 ? "-" : "") + std::to_string(size / 600) + "." +
                korvel::Format(size % 600, "000");
@@ -79,8 +79,19 @@ struct Angle {
     double degrees;
 };
 
+/// Positions anywhere, or the second one within 600 miles in latitude and in longitude.
 struct Leg {
-    explicit Leg(double limit) : lat1(limit), long1(180), lat2(limit), long2(180) {}
+    enum class Kind { Any, Short };
+
+    Leg(double limit, Kind kind)
+        : lat1(between(-limit, limit)), long1(between(-180, 180)), lat2(between(-limit, limit)),
+          long2(between(-180, 180))
+    {
+        if (kind == Kind::Any) return;
+        lat2 = Angle(std::clamp(lat1.degrees + between(-10, 10), -limit, limit));
+        const double change = between(-10, 10) / std::cos(lat1.degrees * Pi() / 180);
+        long2 = Angle(std::remainder(long1.degrees + change, 360));
+    }
     std::string text() const
     {
         return lat1.text + " " + long1.text + " to " + lat2.text + " " + long2.text;
@@ -98,11 +109,11 @@ const char* nameOf(Earth earth)
     return earth == Earth::Sphere ? "minutes of latitude" : "miles of 1852 m";
 }
 
-void measureRhumbLines(Earth earth, double limit, int count)
+void measureRhumbLines(Earth earth, double limit, Leg::Kind kind, int count)
 {
     Errors distances, courses;
     for (int i = 0; i < count; ++i) {
-        const Leg leg(limit);
+        const Leg leg(limit, kind);
         const auto shown = korvel::CalculateCD(
             {{leg.lat1.text, leg.long1.text, leg.lat2.text, leg.long2.text}, earth});
         double metres = 0, course = 0;
@@ -114,8 +125,9 @@ void measureRhumbLines(Earth earth, double limit, int count)
         distances.add(percent(shown.leg->distance.value(), metres / metresPerMile), leg.text());
         courses.add(std::remainder(shown.leg->course.value() - course, 360), leg.text());
     }
-    const std::string where = std::string("Rhumb line in ") + nameOf(earth) + ", latitudes to " +
-                              korvel::Format(limit, "0");
+    const std::string where =
+        std::string(kind == Leg::Kind::Short ? "Short rhumb line in " : "Rhumb line in ") +
+        nameOf(earth) + ", latitudes to " + korvel::Format(limit, "0");
     distances.print(where + ", distance", " %");
     courses.print(where + ", course", " degrees");
 }
@@ -125,7 +137,7 @@ void measureDeadReckoning(Earth earth, double limit, double longest, int count)
 {
     Errors positions, ofRun;
     for (int i = 0; i < count; ++i) {
-        const Angle lat(limit), longitude(180);
+        const Angle lat(between(-limit, limit)), longitude(between(-180, 180));
         const std::string course = korvel::Format(between(0, 359.9), "0.0");
         const std::string run = korvel::Format(between(1, longest), "0.0");
         const auto shown = korvel::CalculateDR({{lat.text, longitude.text, course, run}, earth});
@@ -152,7 +164,7 @@ void measureGreatCircles(Earth earth, double limit, int count)
 {
     Errors distances, sums, courses, rhumbLines;
     for (int i = 0; i < count; ++i) {
-        const Leg leg(limit);
+        const Leg leg(limit, Leg::Kind::Any);
         korvel::GCResult shown;
         try {
             shown = korvel::CalculateGC(
@@ -190,8 +202,9 @@ void measureGreatCircles(Earth earth, double limit, int count)
 int main()
 {
     for (Earth earth : {Earth::Spheroid, Earth::Sphere}) {
-        for (double limit : {60, 75, 89})
-            measureRhumbLines(earth, limit, 100000);
+        for (Leg::Kind kind : {Leg::Kind::Any, Leg::Kind::Short})
+            for (double limit : {60, 75, 89})
+                measureRhumbLines(earth, limit, kind, 100000);
         for (double longest : {600, 10800})
             for (double limit : {60, 75})
                 measureDeadReckoning(earth, limit, longest, 100000);

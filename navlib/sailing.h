@@ -11,6 +11,12 @@
 /// Latitudes and longitudes are packed values, north and east positive, unless a parameter says
 /// otherwise. Earth::Spheroid applies the lengths of the minute of latitude and longitude on the
 /// spheroid (in miles of 1852 m); on Earth::Sphere both are a mile.
+///
+/// Accuracy against the rhumb line of WGS 84 (bench/SailingAccuracy.cpp, 100000 legs each, at the
+/// worst): Earth::Spheroid, distances 0.30 per cent to latitude 60, 0.41 to 75, 0.50 to 89, the
+/// most on long legs across the equator; legs of some hundred miles 0.03, runs to 600 miles 0.04.
+/// Earth::Sphere, miles of 1852 m: distances and runs 0.50 per cent to latitude 75. Courses 0.001
+/// degrees. The great circle against the geodesic, 30000 to latitude 65: distance 0.49 per cent.
 /// Source of the methods: Bowditch, American Practical Navigator, chapter "The Sailings".
 namespace NavFunc113
 {

@@ -176,7 +176,7 @@ void addSights(const SightPaperParts& parts, WorkingPaper& paper)
         paper.place = positionForCopy(DegToDegMin(at.latitude), DegToDegMin(at.longitude));
     }
     paper.limits = {
-        "Place of the Sun, 2000 to 2050, against an independent ephemeris: GHA 0.11' (95 %), 0.15' "
+        "Place of the Sun, 2000 to 2050, against an independent ephemeris: GHA 0.11' (95 %), 0.16' "
         "at the worst; declination 0.03', 0.07'",
         "The refraction is tabulated from 10 to 85 degrees and extrapolated beyond: 1.9' out at 5 "
         "degrees",

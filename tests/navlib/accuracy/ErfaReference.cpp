@@ -144,7 +144,7 @@ struct Orientation {
 Orientation orientation(double ut1, double tt)
 {
     Orientation result;
-    eraPnm06a(serialZero, tt, result.matrix);
+    eraPnm00b(serialZero, tt, result.matrix);
     result.siderealTime = eraGst06(serialZero, ut1, serialZero, tt, result.matrix);
     return result;
 }
