@@ -85,14 +85,18 @@ ExportTable riseSetList(const std::vector<RiseSetTableRow>& rows)
 
 std::vector<std::string> riseSetLimits()
 {
-    return {"Against an independent ephemeris with the same altitude of the body, 2000 to 2050, "
-            "latitudes to 60: sunrise and sunset 0.01 minutes (95 %), 3.8 at the worst, at "
-            "southern latitudes of whole degrees; moonrise 4.9 and moonset 3.5 minutes (95 %), up "
-            "to 82 near full Moon, about one in 400 missed",
-            "Refined times: Sun 0.01 minutes, Moon 0.09 minutes at the worst, none missed",
-            "Against an almanac, which takes refraction, parallax and size of the day: Sun up to "
-            "1.0 minute, Moon up to 3.2 minutes",
-            "Azimuths are those of the true horizon for 06:00 and 18:00 UTC of the date"};
+    return {
+        "Against an independent full ephemeris with the same altitude of the body, 1900 to 2099, "
+        "TD of the zone, 10 000 events of a kind: sunrise and sunset 0.02 minutes, but at "
+        "southern latitudes of whole degrees up to 8.1 (to latitude 60) and 13.8 (to 63); "
+        "moonrise 5.0 and moonset 3.5 minutes (95 %), near full Moon up to 97 (to 60) and 147 "
+        "(to 63), about one in 1700 missed. Where no refined time stands beside a time, it is "
+        "right to 1.1 minutes (Sun) and 5.1 (Moon)",
+        "Refined times, latitudes to 63: Sun 0.02 minutes, Moon 0.15, none missed; 1 minute "
+        "where the Moon only skims the horizon",
+        "Against an almanac, which takes refraction, parallax and size of the day: Sun up to "
+        "1.1 minutes to latitude 60 and 1.6 to 63, Moon up to 4.2 and 18.5",
+        "Azimuths are those of the true horizon for 06:00 and 18:00 UTC of the date"};
 }
 
 } // namespace korvel
