@@ -89,8 +89,9 @@ std::vector<std::string> riseSetLimits()
         "Against an independent full ephemeris with the same altitude of the body, 1900 to 2099, "
         "TD of the zone, 10 000 events of a kind: sunrise and sunset 0.02 minutes, but at "
         "southern latitudes of whole degrees up to 8.1 (to latitude 60) and 13.8 (to 63); "
-        "moonrise 5.0 and moonset 3.5 minutes (95 %), near full Moon up to 97 (to 60) and 147 "
-        "(to 63), about one in 1700 missed. Where no refined time stands beside a time, it is "
+        "moonrise 5.3 and moonset 3.7 minutes (95 %), near full Moon up to 99 (to 60) and 147 "
+        "(to 63), one in 1700 and one in 700 missed. Where no refined time stands beside a time, "
+        "it is "
         "right to 1.1 minutes (Sun) and 5.1 (Moon)",
         "Refined times, latitudes to 63: Sun 0.02 minutes, Moon 0.15, none missed; 1 minute "
         "where the Moon only skims the horizon",
