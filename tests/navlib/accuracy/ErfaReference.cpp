@@ -57,7 +57,7 @@ struct MoonTerms {
 MoonTerms readMoonTerms()
 {
     MoonTerms terms;
-    std::istringstream lines(korvel::contentOf(korvel::sourceFile("bench/sky/moon.csv")));
+    std::istringstream lines(korvel::contentOf(korvel::sourceFile("data/sky/moon.csv")));
     for (std::string line; std::getline(lines, line);) {
         std::replace(line.begin(), line.end(), ',', ' ');
         std::istringstream cells(line);
@@ -71,7 +71,7 @@ MoonTerms readMoonTerms()
                              : terms.distance)
             .push_back(term);
     }
-    if (terms.distance.empty()) throw std::runtime_error("bench/sky/moon.csv cannot be read");
+    if (terms.distance.empty()) throw std::runtime_error("data/sky/moon.csv cannot be read");
     return terms;
 }
 
