@@ -11,7 +11,7 @@
 namespace korvel
 {
 
-void attend(const Callers& callers, frmKORVEL2000& window)
+void attend(const Callers& callers, frmKORVEL2000& window, const std::function<void()>& atEnd)
 {
     callers.guard.saveEverything = [&window] { emit window.program().recordsWanted(); };
     callers.lock.answerCalls([&window] { window.comeToFront(); });
@@ -19,8 +19,7 @@ void attend(const Callers& callers, frmKORVEL2000& window)
                      &frmKORVEL2000::endSession);
     QObject::connect(qApp, &QGuiApplication::commitDataRequest, &window, &frmKORVEL2000::endSession,
                      Qt::DirectConnection);
-    QObject::connect(
-        &window, &frmKORVEL2000::ended, qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
+    QObject::connect(&window, &frmKORVEL2000::ended, qApp, atEnd, Qt::QueuedConnection);
 }
 
 } // namespace korvel

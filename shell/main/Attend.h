@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 namespace korvel
 {
 
@@ -17,8 +19,9 @@ struct Callers {
 };
 
 /// From now on the main window answers: a fault saves every record, another start in the folder
-/// brings it to the front, SIGTERM and logout end the session, its end ends the program.
+/// brings it to the front, SIGTERM and logout end the session.
 /// @param callers, window must outlive the event loop
-void attend(const Callers& callers, frmKORVEL2000& window);
+/// @param atEnd what follows the end of the session, from the event loop
+void attend(const Callers& callers, frmKORVEL2000& window, const std::function<void()>& atEnd);
 
 } // namespace korvel

@@ -147,7 +147,7 @@ int runProgram(int argc, char* argv[], const ClockMaker& makeClock, const Window
         }
         mainWindow =
             std::make_unique<frmKORVEL2000>(Machine{questions, *clock, folder, bell}, windows);
-        attend({application.guard, lock, termination}, *mainWindow);
+        attend({application.guard, lock, termination}, *mainWindow, [] { QApplication::exit(); });
         mainWindow->start();
         startWindow.reset();
     });

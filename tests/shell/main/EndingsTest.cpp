@@ -82,7 +82,7 @@ protected:
     AttendTest()
     {
         questions.willType(FakeQuestions::acceptDefault);
-        attend({guard, lock, termination}, main);
+        attend({guard, lock, termination}, main, [this] { isOver = true; });
         main.start();
     }
     QTemporaryDir folder;
@@ -94,6 +94,7 @@ protected:
     FolderLock lock{folder.path()};
     TerminationWatch termination;
     frmKORVEL2000 main{{questions, clock, files, bell}, {}};
+    bool isOver = false;
 };
 
 TEST_F(AttendTest, aFaultSavesEveryRecord)
@@ -118,6 +119,8 @@ TEST_F(AttendTest, theEndOfTheSessionEndsTheWindowUnasked)
     emit termination.requested();
     EXPECT_EQ(ended.count(), 1);
     EXPECT_FALSE(main.isVisible());
+    EXPECT_FALSE(isOver) << "the windows are still going";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isOver; }));
 }
 
 class FolderLockTest : public ::testing::Test
