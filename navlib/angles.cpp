@@ -19,6 +19,14 @@ DegMin SumDegMin(std::initializer_list<DegMin> values)
     return SumDegMin(std::span(values.begin(), values.size()));
 }
 
+Degrees CourseOfParts(double east, double north)
+{
+    const Degrees course = RadToDeg(Radians(std::atan2(east, north)));
+    if (course >= Degrees(0)) return course;
+    // A hair west of north rounds to 360.
+    return course + fullTurn < fullTurn ? course + fullTurn : Degrees(0);
+}
+
 Radians ArcSin(double x)
 {
     return Radians(std::atan(Quotient(x, SquareRoot(1 - std::pow(x, 2.0)))));

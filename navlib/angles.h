@@ -125,6 +125,10 @@ inline Radians ArcTan2(double&& x, double y)
     return ArcTan2(x, y);
 }
 
+/// Course of a way with these parts towards east and north, of any one length.
+/// @return true, 0 <= course < 360; 0 where both are 0
+Degrees CourseOfParts(double east, double north);
+
 /// Angle of a cosine, 0 .. pi.
 /// @param x cosine, -1 <= x <= 1 and not 0
 /// @throws ArithmeticError DivisionByZero for exactly 0 (the quotient is formed before the sign is

@@ -17,14 +17,6 @@ constexpr double indistinguishable = 1e-12;
 // Minutes that are no exact binary fractions let opposite meridians miss half a turn by this.
 constexpr Degrees sameMeridian(1e-9);
 
-Degrees courseOf(double eastPart, double northPart)
-{
-    const Degrees course = RadToDeg(Radians(std::atan2(eastPart, northPart)));
-    if (course >= Degrees(0)) return course;
-    // A hair west of north rounds to 360.
-    return course + fullTurn < fullTurn ? course + fullTurn : Degrees(0);
-}
-
 Degrees withinHalfTurn(Degrees lambda)
 {
     if (lambda > halfTurn) return lambda - fullTurn;
@@ -85,9 +77,9 @@ std::optional<GreatCircleTrack> TrackOfGreatCircle(DegMin lat1, DegMin long1, De
     if (sinDistance < indistinguishable) return std::nullopt;
 
     GreatCircleTrack track;
-    track.initialCourse = courseOf(east, north);
-    track.finalCourse =
-        courseOf(sinChange * cos(phi1), sin(phi2) * cos(phi1) * cosChange - cos(phi2) * sin(phi1));
+    track.initialCourse = CourseOfParts(east, north);
+    track.finalCourse = CourseOfParts(sinChange * cos(phi1),
+                                      sin(phi2) * cos(phi1) * cosChange - cos(phi2) * sin(phi1));
     if (east == 0) {
         const bool northern = acrossPole ? north > 0 : isNorthern(phi1, phi2);
         track.vertex = Vertex{DegMin(northern ? 90 : -90), long1, acrossPole};

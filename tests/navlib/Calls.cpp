@@ -3,6 +3,7 @@
 
 #include "navlib/angles.h"
 #include "navlib/cargo.h"
+#include "navlib/composite_sailing.h"
 #include "navlib/datetime.h"
 #include "navlib/ephemeris.h"
 #include "navlib/great_circle.h"
@@ -74,6 +75,27 @@ Result track(const Arguments& texts)
     addPart(result, found->vertex->lat);
     addPart(result, found->vertex->longitude);
     addPart(result, found->vertex->onRoute ? "on the route" : "beyond");
+    return result;
+}
+
+/// Kind; miles of circle, parallel, circle and of all; those of the full circle and of leaving it;
+/// initial and final course; the longitudes of the tangent points.
+Result composite(const Arguments& texts)
+{
+    const auto at = all<DegMin>({texts.begin(), texts.begin() + 5});
+    const auto track = CompositeSailing({at.at(0), at.at(1)}, {at.at(2), at.at(3)}, at.at(4),
+                                        argumentOf<Earth>(texts.at(5)));
+    constexpr const char* kinds[] = {"not binding", "two tangents", "one tangent",
+                                     "along the parallel", "end beyond the limit"};
+    Result result = parts(kinds[static_cast<int>(track.kind)]);
+    for (const Miles miles : {track.firstCircle, track.alongParallel, track.secondCircle,
+                              track.distance, track.fullCircle, track.leavingTheCircle})
+        addPart(result, miles);
+    addPart(result, track.initialCourse);
+    addPart(result, track.finalCourse);
+    if (!track.joins) return result;
+    addPart(result, track.joins->longitude);
+    addPart(result, track.leaves->longitude);
     return result;
 }
 
@@ -186,6 +208,7 @@ const std::map<std::string, Routine>& routines()
         {"GCDistance", routine(GCDistance)},
         {"GCLatitudeAt", routine(GCLatitudeAt)},
         {"TrackOfGreatCircle", track},
+        {"CompositeSailing", composite},
         {"TrueWindDirection", routine(TrueWindDirection)},
         {"TrueWindSpeed", routine(TrueWindSpeed)},
         {"TrueWindName", routine(TrueWindName)},

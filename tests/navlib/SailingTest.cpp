@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/sailing.h"
 
+#include "navlib/angles.h"
 #include "navlib/great_circle.h"
+#include "navlib/great_circle_arc.h"
 
 #include <gtest/gtest.h>
 
@@ -53,6 +55,42 @@ TEST(GreatCircleTrack, noMeridianOfTheRouteReachesBeyondTheVertex)
                     EXPECT_NEAR(farthest, most, 0.05);
                 }
             }
+}
+
+TEST(GreatCircleArc, itsPointsAndCoursesAreThoseOfTheTrack)
+{
+    for (const double lat1 : {-60.0, 5.3, 45.0})
+        for (const double lat2 : {-50.15, 0.0, 64.0})
+            for (const double change : {-170.0, -35.0, 20.0, 175.0}) {
+                SCOPED_TRACE(::testing::Message() << lat1 << ' ' << lat2 << ' ' << change);
+                const GeoPoint from{DegMin(lat1), DegMin(10)};
+                const GeoPoint to{DegMin(lat2), DegMin(change < -169 ? -160 : 10 + change)};
+                const GreatCircleArc arc(from, to);
+                const auto track =
+                    TrackOfGreatCircle(from.lat, from.longitude, to.lat, to.longitude);
+                ASSERT_TRUE(track);
+                EXPECT_NEAR(arc.courseAt(Degrees(0)).value(), track->initialCourse.value(), 1e-9);
+                EXPECT_NEAR(arc.courseAt(arc.arc()).value(), track->finalCourse.value(), 1e-9);
+                const Degrees run = arc.arc() * 0.3;
+                const GeoPoint point = arc.pointAt(run);
+                EXPECT_NEAR(
+                    GCDistance(from.lat, from.longitude, point.lat, point.longitude).value(),
+                    60 * run.value(), 1e-6);
+                EXPECT_NEAR(arc.latitudeAt(point.longitude)->packed(), point.lat.packed(), 1e-9);
+                const auto runs = arc.runsAt(point.lat);
+                ASSERT_TRUE(runs);
+                EXPECT_LT(std::min(fabs(WithinHalfTurn((*runs)[0] - run)),
+                                   fabs(WithinHalfTurn((*runs)[1] - run)))
+                              .value(),
+                          1e-6);
+            }
+    const GeoPoint here{DegMin(35.305), DegMin(139)};
+    EXPECT_EQ(GreatCircleArc(here, here).distance(Earth::Spheroid), Miles(0));
+    EXPECT_FALSE(GreatCircleArc(here, {DegMin(-35.305), DegMin(-41)}).isDefined());
+    // Some centimetres, where the cosine of the distance is 1.
+    EXPECT_NEAR(
+        GreatCircleArc(here, {DegMin(35.3050001), DegMin(139)}).distance(Earth::Sphere).value(),
+        1e-5, 1e-9);
 }
 
 } // namespace
