@@ -141,4 +141,17 @@ std::optional<double> readIfTyped(std::string_view text, const NumberField& fiel
     return readField(text, field, remarks);
 }
 
+std::optional<NavFunc113::DegMin> readAngleIfTyped(std::string_view text, const NumberField& field,
+                                                   Remarks& remarks)
+{
+    const auto value = readIfTyped(text, field, remarks);
+    if (!value) return std::nullopt;
+    const double minutes = (std::fabs(*value) - std::trunc(std::fabs(*value))) * 100;
+    if (minutes > 60 - 1e-7) { // the last bits of 35.6 may fall short of 60 minutes
+        remarks.fault(std::string(field.name) + ": minutes of " + Format(minutes, "0.####"));
+        return std::nullopt;
+    }
+    return NavFunc113::DegMin(*value);
+}
+
 } // namespace korvel

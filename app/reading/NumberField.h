@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/reading/Remarks.h"
+#include "navlib/units.h"
 
 #include <cmath>
 #include <optional>
@@ -53,5 +54,9 @@ std::optional<double> readField(std::string_view text, const NumberField& field,
 /// word.
 std::optional<double> readIfTyped(std::string_view text, const NumberField& field,
                                   Remarks& remarks);
+
+/// The same for a packed angle, whose minutes must be below 60: 35.75 gives a fault.
+std::optional<NavFunc113::DegMin> readAngleIfTyped(std::string_view text, const NumberField& field,
+                                                   Remarks& remarks);
 
 } // namespace korvel

@@ -122,4 +122,16 @@ std::string positionForCopy(NavFunc113::DegMin latitude, NavFunc113::DegMin long
            positionForCopy(longitude, Axis::Longitude);
 }
 
+std::string packedText(NavFunc113::Degrees angle)
+{
+    // Whole units first: minutes that round up to 60 are the next degree.
+    constexpr long long unitsOfMinute = 100000;
+    const long long all = std::llround(std::fabs(angle.value()) * 60 * unitsOfMinute);
+    const long long whole = all / (60 * unitsOfMinute);
+    const long long minutes = all % (60 * unitsOfMinute);
+    const double packed =
+        static_cast<double>(whole) + static_cast<double>(minutes) / (100 * unitsOfMinute);
+    return Format(angle.value() < 0 ? -packed : packed, "0.00#####");
+}
+
 } // namespace korvel

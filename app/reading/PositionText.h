@@ -37,6 +37,10 @@ std::string positionForCopy(NavFunc113::DegMin value, Axis axis);
 /// Latitude and longitude to be copied: "35°30.5'N 139°45.2'E".
 std::string positionForCopy(NavFunc113::DegMin latitude, NavFunc113::DegMin longitude);
 
+/// Decimal degrees in the packed form of the boxes, "35.305", to 0.00001 of a minute (2 cm); at
+/// least the minutes' two digits.
+std::string packedText(NavFunc113::Degrees angle);
+
 /// What was found in a pasted text, in the packed form ready for a box ("35.305", "-139.4523").
 struct PastedPosition {
     std::optional<std::string> latitude;

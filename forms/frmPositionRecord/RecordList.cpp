@@ -2,6 +2,7 @@
 #include "forms/frmPositionRecord/RecordList.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "app/reading/Remarks.h"
 #include "app/records/DelimitedText.h"
 #include "app/records/KORVEL2000Actions.h"
@@ -43,18 +44,6 @@ std::string timeCell(const std::optional<DateTime>& time, const char* zone)
 std::string degreesCell(const std::optional<NavFunc113::DegMin>& angle)
 {
     return angle ? figure(NavFunc113::DegMinToDeg(*angle), listDecimals) : "";
-}
-
-/// Decimal degrees in the packed form of the boxes, to 0.00001 of a minute.
-std::string packedText(double degrees)
-{
-    constexpr long long unitsOfMinute = 100000;
-    const long long all = std::llround(std::fabs(degrees) * 60 * unitsOfMinute);
-    const long long whole = all / (60 * unitsOfMinute);
-    const long long minutes = all % (60 * unitsOfMinute);
-    const double packed =
-        static_cast<double>(whole) + static_cast<double>(minutes) / (100 * unitsOfMinute);
-    return Format(degrees < 0 ? -packed : packed, "0.0######");
 }
 
 /// A line being read; the first fault ends it.
@@ -122,8 +111,8 @@ PositionRow boxesOf(const std::optional<DateTime>& smt, const std::optional<doub
             Format(*smt, NavFunc113::TimeOf(*smt).second == 0 ? "yyyy/mm/dd hh:mm"
                                                               : "yyyy/mm/dd hh:mm:ss");
     if (td) row.satelliteTD = Format(*td, "0.0#####");
-    if (latitude) row.latitude = packedText(*latitude);
-    if (longitude) row.longitude = packedText(*longitude);
+    if (latitude) row.latitude = packedText(NavFunc113::Degrees(*latitude));
+    if (longitude) row.longitude = packedText(NavFunc113::Degrees(*longitude));
     return row;
 }
 

@@ -26,14 +26,10 @@ constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees",
 
 std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
 {
-    const auto value = numberIn(box, field, remark);
-    if (!value) return std::nullopt;
-    const double minutes = (std::fabs(*value) - std::trunc(std::fabs(*value))) * 100;
-    if (minutes > 60 - 1e-7) { // the last bits of 35.6 may fall short of 60 minutes
-        say(remark, std::string(field.name) + ": minutes of " + Format(minutes, "0.####"));
-        return std::nullopt;
-    }
-    return DegMin(*value);
+    Remarks remarks;
+    const auto angle = readAngleIfTyped(box, field, remarks);
+    say(remark, remarks.text());
+    return angle;
 }
 
 /// "9 h 18 min".

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmPassage/PlanEdit.h"
+#include "forms/frmPassage/PlanReckoning.h"
+#include "tests/forms/frmPassage/Plans.h"
+#include "tests/golden/Golden.h"
+
+#include <gmock/gmock.h>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+using NavFunc113::Earth;
+using NavFunc113::Hours;
+
+PassagePlan planOf(const Golden& row)
+{
+    return {"", planTimes(row.text("times")), planRows(row.text("plan")), {}};
+}
+
+PassagePlan planOf(const std::string& rows)
+{
+    return {"", planTimes("dep utc 2026/11/10 00:00"), planRows(rows), {}};
+}
+
+TEST(PassagePlan, showsWhatTheTableSays)
+{
+    for (const Golden& row : golden("passage_plans"))
+        expectTexts(row, "shows",
+                    shownTexts(PlanReckoning(planOf(row), {row.earth(), row.hours("td")})));
+}
+
+TEST(PassagePlan, keyByKeyItIsTheSameAsAnew)
+{
+    const PlanConditions conditions{Earth::Spheroid, Hours(9)};
+    const std::string whole =
+        "A 35.30 139.45 td=9 v=12 / B 36 150 gc:10 / . / C 41 -170 co:42 stop=6.5 td=-11 / "
+        "D 48.2 -124.4 v=15.5 td=-8";
+    for (const char* change :
+         {"A 36 140 td=10", "- - -", ".", "B 35.30 139.45 v=7", "X 10 -10 gc v=x stop=3 td=2"})
+        for (std::size_t i = 0; i < 5; ++i) {
+            SCOPED_TRACE(::testing::Message() << change << " in row " << i + 1);
+            PassagePlan plan = planOf(whole);
+            PlanReckoning kept(plan, conditions);
+            plan.rows[i] = planRows(change).front();
+            kept.takeRow(plan, i);
+            EXPECT_EQ(shownTexts(kept), shownTexts(PlanReckoning(plan, conditions)));
+            plan.times = planTimes("arr ship 2027/1/1 00:00");
+            kept.takeTimes(plan);
+            EXPECT_EQ(shownTexts(kept), shownTexts(PlanReckoning(plan, conditions)));
+        }
+}
+
+TEST(PassagePlan, speedNeededToBeThereInTime)
+{
+    const PassagePlan plan =
+        planOf("A 0 0 td=9 / B 2 0 v=12 stop=6 / C 3.30 0 v=10 / D 3.30 0 / E - -  v=3");
+    const PlanReckoning reckoning(plan, {});
+    const auto at = [](const char* time) { return *readIso(time); };
+    // 210 miles in 21 hours less the stop of 6.
+    EXPECT_NEAR(reckoning.speedNeeded(0, 2, at("2026-11-10T21:00:00Z")).speed->value(), 14, 1e-9);
+    EXPECT_NEAR(reckoning.speedNeeded(0, 1, at("2026-11-10T08:00:00Z")).speed->value(), 15, 1e-9);
+    // The second row is left at 1600 as planned.
+    EXPECT_NEAR(reckoning.speedNeeded(1, 2, at("2026-11-10T22:00:00Z")).speed->value(), 15, 1e-9);
+    for (const auto& [from, to, time] :
+         {std::tuple{0, 2, "2026-11-10T06:00:00Z"}, std::tuple{0, 2, "2026-11-09T00:00:00Z"},
+          std::tuple{2, 3, "2026-11-20T00:00:00Z"}, std::tuple{0, 1, "2026-11-10T01:00:00Z"},
+          std::tuple{2, 2, "2026-11-20T00:00:00Z"}, std::tuple{0, 4, "2026-11-20T00:00:00Z"},
+          std::tuple{0, 99, "2026-11-20T00:00:00Z"}}) {
+        const SpeedNeeded needed = reckoning.speedNeeded(static_cast<std::size_t>(from),
+                                                         static_cast<std::size_t>(to), at(time));
+        EXPECT_FALSE(needed.speed) << from << ' ' << to;
+        EXPECT_FALSE(needed.why.empty()) << from << ' ' << to;
+    }
+}
+
+const char* const fourRows =
+    "A 0 0 v=10 td=9 stop=1 / B 1 0 gc:10 v=12 / C 2 0 co:3 td=10 stop=2 / D 3 0 v=8";
+
+TEST(PlanEdit, eachStepDoesWhatItSaysAndCanBeTakenBack)
+{
+    const PassagePlan plan = planOf(fourRows);
+    const struct {
+        PlanEdit edit;
+        const char* rows;
+    } cases[] = {
+        {*insertedRows(plan.rows, 1, planRows("X 5 5")),
+         "A 0 0 v=10 stop=1 td=9 / X 5 5 / B 1 0 gc:10 v=12 / C 2 0 co:3 stop=2 td=10 / D 3 0 v=8"},
+        {*insertedRows(plan.rows, 99, planRows(". / .")),
+         "A 0 0 v=10 stop=1 td=9 / B 1 0 gc:10 v=12 / C 2 0 co:3 stop=2 td=10 / D 3 0 v=8 / . / ."},
+        {deletedRows(plan.rows, 2, 99), "A 0 0 v=10 stop=1 td=9 / B 1 0 gc:10 v=12"},
+        {deletedRows(plan.rows, 99, 1),
+         "A 0 0 v=10 stop=1 td=9 / B 1 0 gc:10 v=12 / C 2 0 co:3 stop=2 td=10 / D 3 0 v=8"},
+        {movedRow(plan.rows, 1, 3),
+         "A 0 0 v=10 stop=1 td=9 / C 2 0 co:3 stop=2 td=10 / D 3 0 v=8 / B 1 0 gc:10 v=12"},
+        {movedRow(plan.rows, 3, 0),
+         "D 3 0 v=8 / A 0 0 v=10 stop=1 td=9 / B 1 0 gc:10 v=12 / C 2 0 co:3 stop=2 td=10"},
+        // Legs keep their kinds and speeds, positions their zones and stops.
+        {reversedRows(plan.rows),
+         "D 3 0 td=10 / C 2 0 v=8 stop=2 / B 1 0 co:3 v=12 td=9 / A 0 0 gc:10 stop=1"},
+    };
+    for (const auto& [edit, rows] : cases) {
+        PassagePlan changed = plan;
+        apply(changed, edit);
+        EXPECT_EQ(rowsText(changed.rows), rows) << edit.name;
+        takeBack(changed, edit);
+        EXPECT_EQ(changed, plan) << edit.name;
+    }
+    EXPECT_FALSE(insertedRows(plan.rows, 0, std::vector<PlanRow>(497)));
+    EXPECT_TRUE(insertedRows(plan.rows, 0, std::vector<PlanRow>(496)));
+}
+
+TEST(PlanEdit, theWayBackTakesAsLong)
+{
+    const PlanConditions conditions;
+    PassagePlan plan = planOf("A 0 0 v=10 / B 3 20 gc / C 50 0 co:51 / D 51 60 / E 52 70 v=8");
+    const PlanTotals there = PlanReckoning(plan, conditions).totals();
+    apply(plan, reversedRows(plan.rows));
+    const PlanTotals back = PlanReckoning(plan, conditions).totals();
+    EXPECT_NEAR(back.distance->value(), there.distance->value(), 1e-9);
+    EXPECT_LT(std::chrono::abs(*back.elapsed - *there.elapsed), Span(10));
+}
+
+TEST(PlanHistory, undoesAndRedoesStepByStep)
+{
+    PassagePlan plan = planOf(fourRows);
+    const PassagePlan start = plan;
+    PlanHistory history;
+    const auto type = [&](std::size_t at, const std::string& name) {
+        PlanRow row = plan.rows[at];
+        row.name = name;
+        history.perform(plan, typedRow(plan.rows, at, row, "name"));
+    };
+    type(0, "Y");
+    type(0, "Yo");
+    type(1, "K"); // another box: a step of its own
+    type(1, "K"); // nothing changed
+    history.endTyping();
+    type(1, "Ko");
+    PlanHead head = headOf(plan);
+    head.times.time = "2027/1/1 00:00";
+    history.perform(plan, changedHead(plan, head, "Departure"));
+    history.perform(plan, replacedPlan(plan, planOf("Z 1 1"), "Open a file"));
+    const PassagePlan end = plan;
+    EXPECT_EQ(history.undoName(), "Open a file");
+    std::vector<std::string> names;
+    while (history.undo(plan))
+        names.push_back(plan.rows[0].name + ' ' + plan.rows[1].name + ' ' + plan.times.time);
+    EXPECT_THAT(names, ::testing::ElementsAre("Yo Ko 2027/1/1 00:00", "Yo Ko 2026/11/10 00:00",
+                                              "Yo K 2026/11/10 00:00", "Yo B 2026/11/10 00:00",
+                                              "A B 2026/11/10 00:00"));
+    EXPECT_EQ(plan, start);
+    while (history.redo(plan)) {
+    }
+    EXPECT_EQ(plan, end);
+    history.undo(plan);
+    type(0, "other");
+    EXPECT_FALSE(history.redo(plan)) << "what was undone is given up by a new step";
+}
+
+} // namespace
+} // namespace korvel
