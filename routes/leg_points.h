@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/angles.h"
 #include "navlib/composite_sailing.h"
 #include "routes/Route.h"
 
@@ -8,6 +9,11 @@
 
 namespace korvel
 {
+
+inline NavFunc113::GeoPoint geoPoint(const RoutePoint& point)
+{
+    return {DegToDegMin(point.latitude), DegToDegMin(point.longitude)};
+}
 
 /// A point of a leg, and how the leg comes to it.
 struct LegPoint {

@@ -7,8 +7,8 @@ build_packages="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev liberfa-de
 run_packages="fonts-noto-core fonts-vlgothic alsa-utils"
 # A virtual display for machines that have none, and what takes the picture of the window.
 display_packages="xvfb xauth xdotool x11-utils imagemagick"
-# poppler-utils reads the text of printed pages.
-test_packages="libgtest-dev libgmock-dev poppler-utils"
+# poppler-utils reads the text of printed pages, libxml2-utils holds written routes against a schema.
+test_packages="libgtest-dev libgmock-dev poppler-utils libxml2-utils"
 # What the tests are followed by, and the compiler for Windows that one of them uses.
 ci_packages="clang-format-14 clang-tidy-14 g++-mingw-w64-x86-64-posix"
 # What makes the packages, and what proves them in clean places.
