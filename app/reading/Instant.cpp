@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/Instant.h"
+#include "app/reading/Instant.h"
 
-#include "app/Format.h"
-#include "app/ascii.h"
+#include "app/reading/Ascii.h"
+#include "app/reading/Format.h"
 #include "navlib/datetime.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanLeg.h"
 
-#include "app/Format.h"
-#include "app/position_text.h"
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "navlib/arithmetic_error.h"
 
 #include <algorithm>

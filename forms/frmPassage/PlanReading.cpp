@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanReading.h"
 
-#include "app/Format.h"
-#include "app/NumberField.h"
-#include "app/position_text.h"
-#include "app/reading.h"
-#include "app/typed_time.h"
+#include "app/reading/Format.h"
+#include "app/reading/NumberField.h"
+#include "app/reading/PositionText.h"
+#include "app/reading/Reading.h"
+#include "app/reading/TypedTime.h"
 #include "navlib/angles.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Remarks.h"
+#include "app/reading/Remarks.h"
 #include "forms/frmPassage/PassagePlan.h"
 #include "navlib/great_circle_arc.h"
 

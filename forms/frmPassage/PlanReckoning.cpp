@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanReckoning.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanTexts.h"
 
-#include "app/Format.h"
+#include "app/reading/Format.h"
 #include "navlib/angles.h"
-#include "routes/leg_words.h"
+#include "routes/route/LegWords.h"
 
 namespace korvel
 {
@@ -44,8 +44,7 @@ std::string changeText(Span change)
     if (change == Span(0)) return "";
     std::string text = spanText(change < Span(0) ? -change : change);
     if (text.starts_with('0')) text.erase(0, 1);
-    return "clocks " + text +
-           (change < Span(0) ? " back" : " forward");
+    return "clocks " + text + (change < Span(0) ? " back" : " forward");
 }
 
 std::string coursesText(const PlanLeg& leg)

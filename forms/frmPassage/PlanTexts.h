@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/WorkingPaper.h"
+#include "app/working/WorkingPaper.h"
 #include "forms/frmPassage/PlanReckoning.h"
 
 namespace korvel

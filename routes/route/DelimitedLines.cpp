@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "routes/delimited_lines.h"
+#include "routes/route/DelimitedLines.h"
 
 #include <algorithm>
 

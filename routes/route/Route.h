@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/Instant.h"
+#include "app/reading/Instant.h"
 #include "navlib/units.h"
 
 #include <optional>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "routes/route_files.h"
+#include "routes/files/RouteFiles.h"
 
-#include "routes/gpx.h"
-#include "routes/route_csv.h"
-#include "routes/rtz_reader.h"
+#include "routes/files/Gpx.h"
+#include "routes/files/RtzReader.h"
+#include "routes/route/RouteCsv.h"
 
 #include <QXmlStreamReader>
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "routes/RtzReader.h"
+#include "routes/files/RtzFile.h"
 
-#include "app/Remarks.h"
+#include "app/reading/Remarks.h"
 #include "navlib/angles.h"
-#include "routes/leg_points.h"
-#include "routes/leg_words.h"
-#include "routes/rtz_places.h"
-#include "routes/rtz_reader.h"
+#include "routes/files/RtzPlaces.h"
+#include "routes/files/RtzReader.h"
+#include "routes/route/LegPoints.h"
+#include "routes/route/LegWords.h"
 
 #include <algorithm>
 
@@ -34,10 +34,10 @@ bool isAt(const RoutePoint& point, const GeoPoint& place)
 
 ReadRoute readRtz(std::string_view bytes)
 {
-    return RtzReader(bytes).read();
+    return RtzFile(bytes).read();
 }
 
-ReadRoute RtzReader::read()
+ReadRoute RtzFile::read()
 {
     if (m_xml.nextChild()) readRoute();
     if (!m_xml.isRefused() && !m_hasWaypoints) m_xml.refuse("it is no route");
@@ -50,20 +50,20 @@ ReadRoute RtzReader::read()
     return std::move(m_read);
 }
 
-void RtzReader::keepElement(Kept& kept, const char* place)
+void RtzFile::keepElement(Kept& kept, const char* place)
 {
     kept.push_back({place, m_xml.element()});
 }
 
-void RtzReader::keepAttributes(Kept& kept, const std::string& element,
-                               std::initializer_list<const char*> taken)
+void RtzFile::keepAttributes(Kept& kept, const std::string& element,
+                             std::initializer_list<const char*> taken)
 {
     for (auto& [name, value] : m_xml.attributes())
         if (std::ranges::find(taken, name) == taken.end())
             kept.push_back({element + "@" + name, std::move(value)});
 }
 
-void RtzReader::readRoute()
+void RtzFile::readRoute()
 {
     const auto version = versionOfNamespace(m_xml.namespaceUri());
     if (!m_xml.isNamed("route") || !version)
@@ -92,7 +92,7 @@ void RtzReader::readRoute()
     if (!m_hasWaypoints) m_xml.refuse("no waypoints");
 }
 
-void RtzReader::readRouteInfo()
+void RtzFile::readRouteInfo()
 {
     if (!m_xml.attribute("routeName", m_read.route.name)) m_xml.refuse("no routeName");
     keepAttributes(m_read.route.kept, rtz::routeInfo, {"routeName"});
@@ -100,7 +100,7 @@ void RtzReader::readRouteInfo()
         keepElement(m_read.route.kept, rtz::inRouteInfo);
 }
 
-void RtzReader::readWaypoints()
+void RtzFile::readWaypoints()
 {
     if (m_hasWaypoints) return m_xml.refuse("waypoints stand there twice");
     m_hasWaypoints = true;
@@ -115,7 +115,7 @@ void RtzReader::readWaypoints()
     if (m_waypoints.size() < fewestWaypoints) m_xml.refuse("fewer than two waypoints");
 }
 
-void RtzReader::readDefaultWaypoint()
+void RtzFile::readDefaultWaypoint()
 {
     const int line = m_xml.line();
     Kept& kept = m_read.route.kept;
@@ -137,7 +137,7 @@ void RtzReader::readDefaultWaypoint()
     }
 }
 
-bool RtzReader::readWaypointAttributes(Waypoint& waypoint)
+bool RtzFile::readWaypointAttributes(Waypoint& waypoint)
 {
     std::string text;
     if (!m_xml.attribute("id", text)) return m_xml.refuse("no id"), false;
@@ -159,7 +159,7 @@ bool RtzReader::readWaypointAttributes(Waypoint& waypoint)
     return true;
 }
 
-void RtzReader::readWaypoint()
+void RtzFile::readWaypoint()
 {
     if (m_waypoints.size() == 2 * mostRoutePoints)
         return m_xml.refuse("more than " + std::to_string(mostRoutePoints) + " waypoints");
@@ -180,7 +180,7 @@ void RtzReader::readWaypoint()
     m_waypoints.push_back(std::move(waypoint));
 }
 
-void RtzReader::readPosition(RoutePoint& point)
+void RtzFile::readPosition(RoutePoint& point)
 {
     std::string lat, lon;
     if (!m_xml.attribute("lat", lat)) return m_xml.refuse("no lat");
@@ -200,7 +200,7 @@ void RtzReader::readPosition(RoutePoint& point)
     m_xml.skip();
 }
 
-void RtzReader::readLeg(Waypoint& waypoint)
+void RtzFile::readLeg(Waypoint& waypoint)
 {
     std::string geometry;
     if (m_xml.attribute("geometryType", geometry)) {
@@ -220,13 +220,13 @@ void RtzReader::readLeg(Waypoint& waypoint)
     }
 }
 
-void RtzReader::readExtensions(Kept& kept, const char* place, Waypoint* waypoint)
+void RtzFile::readExtensions(Kept& kept, const char* place, Waypoint* waypoint)
 {
     while (m_xml.nextChild())
         if (!waypoint || !takeOwnExtension(*waypoint)) keepElement(kept, place);
 }
 
-bool RtzReader::takeOwnExtension(Waypoint& waypoint)
+bool RtzFile::takeOwnExtension(Waypoint& waypoint)
 {
     std::string manufacturer, name, text;
     m_xml.attribute("manufacturer", manufacturer);
@@ -246,7 +246,7 @@ bool RtzReader::takeOwnExtension(Waypoint& waypoint)
     return true;
 }
 
-void RtzReader::applyDefaults()
+void RtzFile::applyDefaults()
 {
     for (Waypoint& waypoint : m_waypoints) {
         if (!waypoint.namesItsLeg) waypoint.point.leg = m_defaultLeg;
@@ -258,7 +258,7 @@ void RtzReader::applyDefaults()
     m_waypoints.front().point.leg = LegKind::Rhumb; // no leg leads there
 }
 
-bool RtzReader::takeAsComposite(const std::vector<Waypoint*>& tangents, Waypoint& arrival)
+bool RtzFile::takeAsComposite(const std::vector<Waypoint*>& tangents, Waypoint& arrival)
 {
     const auto words = readLegWords(arrival.legWords);
     if (!words || words->kind != LegKind::Composite || m_read.route.points.empty()) return false;
@@ -275,7 +275,7 @@ bool RtzReader::takeAsComposite(const std::vector<Waypoint*>& tangents, Waypoint
     return true;
 }
 
-void RtzReader::foldComposites()
+void RtzFile::foldComposites()
 {
     std::vector<Waypoint*> tangents;
     auto& points = m_read.route.points;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "routes/rtz_values.h"
+#include "routes/files/RtzValues.h"
 
-#include "app/DelimitedText.h"
-#include "app/Format.h"
-#include "app/ascii.h"
+#include "app/reading/Ascii.h"
+#include "app/reading/Format.h"
+#include "app/records/DelimitedText.h"
 
 #include <array>
 #include <charconv>

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "routes/rtz_writer.h"
+#include "routes/files/RtzWriter.h"
 
-#include "app/DelimitedText.h"
-#include "app/Format.h"
-#include "app/Working.h"
+#include "app/reading/Format.h"
+#include "app/records/DelimitedText.h"
+#include "app/working/Working.h"
 #include "navlib/angles.h"
-#include "routes/RouteXml.h"
-#include "routes/kept_parts.h"
-#include "routes/leg_points.h"
-#include "routes/leg_words.h"
-#include "routes/rtz_places.h"
+#include "routes/files/RouteXml.h"
+#include "routes/files/RtzPlaces.h"
+#include "routes/route/KeptParts.h"
+#include "routes/route/LegPoints.h"
+#include "routes/route/LegWords.h"
 
 #include <algorithm>
 #include <array>

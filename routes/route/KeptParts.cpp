@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "routes/kept_parts.h"
+#include "routes/route/KeptParts.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "routes/RouteXml.h"
+#include "routes/files/RouteXml.h"
 
 #include <QXmlStreamReader>
 
@@ -79,8 +79,11 @@ void RouteXml::element(const std::string& kept)
 {
     QXmlStreamReader reader(QByteArray::fromStdString(kept));
     reader.setNamespaceProcessing(false);
+    // A blank between its texts may matter to whoever wrote it.
+    m_writer.setAutoFormatting(false);
     while (!reader.atEnd() && reader.readNext() != QXmlStreamReader::Invalid)
         copyToken(reader, m_writer);
+    m_writer.setAutoFormatting(true);
 }
 
 std::string RouteXml::bytes()

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "routes/leg_words.h"
+#include "routes/route/LegWords.h"
 
-#include "app/DelimitedText.h"
-#include "app/Format.h"
-#include "app/ascii.h"
+#include "app/reading/Ascii.h"
+#include "app/reading/Format.h"
+#include "app/records/DelimitedText.h"
 #include "navlib/angles.h"
 
 #include <algorithm>

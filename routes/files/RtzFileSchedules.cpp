@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "routes/RtzReader.h"
+#include "routes/files/RtzFile.h"
 
-#include "app/Remarks.h"
-#include "routes/rtz_places.h"
+#include "app/reading/Remarks.h"
+#include "routes/files/RtzPlaces.h"
 
 /// The schedules of an RTZ file: the first is taken, the others are kept.
 namespace korvel
 {
 
-void RtzReader::readSchedules()
+void RtzFile::readSchedules()
 {
     while (m_xml.nextChild()) {
         if (m_xml.isNamed("schedule") && !m_hasSchedule)
@@ -18,7 +18,7 @@ void RtzReader::readSchedules()
     }
 }
 
-void RtzReader::readSchedule()
+void RtzFile::readSchedule()
 {
     m_hasSchedule = true;
     Kept& kept = m_read.route.kept;
@@ -34,8 +34,8 @@ void RtzReader::readSchedule()
     }
 }
 
-void RtzReader::readElements(Schedule& schedule, const char* place, const char* within,
-                             const char* inElement)
+void RtzFile::readElements(Schedule& schedule, const char* place, const char* within,
+                           const char* inElement)
 {
     while (m_xml.nextChild()) {
         // The published schema of 1.0 leaves a letter out.
@@ -46,7 +46,7 @@ void RtzReader::readElements(Schedule& schedule, const char* place, const char* 
     }
 }
 
-std::optional<Instant> RtzReader::momentOf(const std::string& name, const std::string& text)
+std::optional<Instant> RtzFile::momentOf(const std::string& name, const std::string& text)
 {
     const auto moment = readIso(text);
     if (!moment)
@@ -55,7 +55,7 @@ std::optional<Instant> RtzReader::momentOf(const std::string& name, const std::s
     return moment;
 }
 
-void RtzReader::takePlanned(Planned& planned, const char* place)
+void RtzFile::takePlanned(Planned& planned, const char* place)
 {
     std::string text;
     if (m_xml.attribute("eta", text)) planned.eta = momentOf("eta", text);
@@ -75,7 +75,7 @@ void RtzReader::takePlanned(Planned& planned, const char* place)
     keepAttributes(planned.kept, place, {"waypointId", "eta", "etd", "stay", "speed"});
 }
 
-void RtzReader::readScheduleElement(Schedule& schedule, const char* place, const char* inElement)
+void RtzFile::readScheduleElement(Schedule& schedule, const char* place, const char* inElement)
 {
     std::string text;
     if (!m_xml.attribute("waypointId", text)) return m_xml.refuse("no waypointId");
@@ -89,7 +89,7 @@ void RtzReader::readScheduleElement(Schedule& schedule, const char* place, const
         keepElement(element->second.kept, inElement);
 }
 
-void RtzReader::applySchedules()
+void RtzFile::applySchedules()
 {
     for (Waypoint& waypoint : m_waypoints) {
         RoutePoint& point = waypoint.point;

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "routes/route_csv.h"
+#include "routes/route/RouteCsv.h"
 
-#include "app/DelimitedText.h"
-#include "app/Remarks.h"
-#include "app/ascii.h"
-#include "app/position_text.h"
-#include "app/reading.h"
+#include "app/reading/Ascii.h"
+#include "app/reading/PositionText.h"
+#include "app/reading/Reading.h"
+#include "app/reading/Remarks.h"
+#include "app/records/DelimitedText.h"
 #include "navlib/angles.h"
-#include "routes/delimited_lines.h"
-#include "routes/leg_words.h"
+#include "routes/route/DelimitedLines.h"
+#include "routes/route/LegWords.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "navlib/units.h"
-#include "routes/Route.h"
+#include "routes/route/Route.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "routes/GuardedXml.h"
-#include "routes/Route.h"
-#include "routes/rtz_values.h"
+#include "routes/files/GuardedXml.h"
+#include "routes/files/RtzValues.h"
+#include "routes/route/Route.h"
 
 #include <cstdint>
 #include <map>
@@ -12,10 +12,10 @@ namespace korvel
 {
 
 /// Reads one RTZ file, element by element.
-class RtzReader
+class RtzFile
 {
 public:
-    explicit RtzReader(std::string_view bytes) : m_xml(bytes) {}
+    explicit RtzFile(std::string_view bytes) : m_xml(bytes) {}
 
     ReadRoute read();
 

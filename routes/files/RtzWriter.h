@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "routes/Route.h"
-#include "routes/WrittenRoute.h"
-#include "routes/rtz_values.h"
+#include "routes/files/RtzValues.h"
+#include "routes/files/WrittenRoute.h"
+#include "routes/route/Route.h"
 
 namespace korvel
 {

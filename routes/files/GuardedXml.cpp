@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "routes/GuardedXml.h"
+#include "routes/files/GuardedXml.h"
 
-#include "routes/RouteXml.h"
+#include "routes/files/RouteXml.h"
 
 #include <QByteArray>
 #include <QXmlStreamWriter>

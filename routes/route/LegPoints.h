@@ -3,7 +3,7 @@
 
 #include "navlib/angles.h"
 #include "navlib/composite_sailing.h"
-#include "routes/Route.h"
+#include "routes/route/Route.h"
 
 #include <vector>
 

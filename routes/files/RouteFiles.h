@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "routes/Route.h"
+#include "routes/route/Route.h"
 
 #include <filesystem>
 #include <string_view>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "routes/leg_points.h"
+#include "routes/route/LegPoints.h"
 
 #include "navlib/angles.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "routes/Route.h"
-#include "routes/WrittenRoute.h"
+#include "routes/files/WrittenRoute.h"
+#include "routes/route/Route.h"
 
 #include <string>
 #include <string_view>

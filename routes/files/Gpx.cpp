@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "routes/gpx.h"
+#include "routes/files/Gpx.h"
 
-#include "app/Remarks.h"
-#include "app/Working.h"
+#include "app/reading/Remarks.h"
+#include "app/working/Working.h"
 #include "navlib/angles.h"
-#include "routes/GuardedXml.h"
-#include "routes/RouteXml.h"
-#include "routes/kept_parts.h"
-#include "routes/leg_points.h"
-#include "routes/rtz_values.h"
+#include "routes/files/GuardedXml.h"
+#include "routes/files/RouteXml.h"
+#include "routes/files/RtzValues.h"
+#include "routes/route/KeptParts.h"
+#include "routes/route/LegPoints.h"
 
 #include <algorithm>
 #include <array>
