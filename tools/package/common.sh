@@ -62,5 +62,5 @@ build_linux() {
         -DCMAKE_CXX_FLAGS="$path_flags $(dpkg-buildflags --get CPPFLAGS) -fstack-protector-strong" \
         -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS) -Wl,-z,now" \
         -DKORVEL_RELEASE_DATE="$release_date" >/dev/null
-    cmake --build "$linux_build" --target korvel2000 tidedata almanac_command "$@"
+    cmake --build "$linux_build" --target korvel2000 tidedata almanac_command passage "$@"
 }

@@ -38,11 +38,11 @@ add_program() {
     cp LICENSE "$folder/licences/KORVEL2000"
     sed "s/@version@/$version/" tools/package/linux/README.in >"$folder/README"
     install -s "$linux_build/korvel2000/korvel2000" "$linux_build/tools/tidedata/tidedata" \
-        "$linux_build/tools/almanac/almanac" "$folder"
+        "$linux_build/tools/almanac/almanac" "$linux_build/tools/passage/passage" "$folder"
     install tools/extend-tides "$folder"
     # The older kind of run path, which holds for the libraries and plug-ins behind the program too:
     # they stay the bytes that Debian built and can be exchanged for others.
-    patchelf --force-rpath --set-rpath '$ORIGIN/lib' "$folder/korvel2000" "$folder/almanac"
+    patchelf --force-rpath --set-rpath '$ORIGIN/lib' "$folder/korvel2000" "$folder/almanac" "$folder/passage"
     local plugin
     for plugin in $plugins; do
         install -D -m 644 "$toolkit_plugins/$plugin" "$folder/plugins/$plugin"
