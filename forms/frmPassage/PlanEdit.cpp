@@ -19,6 +19,10 @@ PlanRows partOf(const PlanRows& rows, std::size_t at, std::size_t count)
 void replace(PlanRows& rows, std::size_t at, std::size_t count, const PlanRows& by)
 {
     const auto from = rows.begin() + static_cast<std::ptrdiff_t>(at);
+    if (count == by.size()) { // a key in a box moves no other row
+        std::ranges::copy(by, from);
+        return;
+    }
     rows.insert(rows.erase(from, from + static_cast<std::ptrdiff_t>(count)), by.begin(), by.end());
 }
 

@@ -262,9 +262,9 @@ std::string PlanReckoning::notice() const
     std::vector<std::string> sentences{m_timeRemarks.text(), whyBlank()};
     int named = 0;
     for (std::size_t i = 0; i < m_rows.size() && named < mostRemarks; ++i) {
-        const std::string text = m_rows[i].read.remarks.text();
-        if (text.empty()) continue;
-        sentences.push_back(rowName(i) + ": " + text);
+        const Remarks& remarks = m_rows[i].read.remarks;
+        if (remarks.faults.empty() && remarks.warnings.empty()) continue;
+        sentences.push_back(rowName(i) + ": " + remarks.text());
         ++named;
     }
     return joined(sentences);
