@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanEdit.h"
 #include "forms/frmPassage/PlanReckoning.h"
+#include "forms/frmPassage/PlanRecord.h"
 #include "tests/forms/frmPassage/Plans.h"
 #include "tests/golden/Golden.h"
 
@@ -158,6 +159,52 @@ TEST(PlanHistory, undoesAndRedoesStepByStep)
     history.undo(plan);
     type(0, "other");
     EXPECT_FALSE(history.redo(plan)) << "what was undone is given up by a new step";
+}
+
+TEST(PlanRecord, everythingThatIsTypedOrKeptComesBack)
+{
+    PassagePlan plan =
+        planOf("A 35.30 139.45 td=9 / . / B 36 150 gc:300nm v=x / C -5 -170 co:44S stop=6");
+    plan.times = planTimes("arr ship 2027/1/1 00:00");
+    plan.name = "a \"plan\", \\of= \t 横浜\r\n";
+    plan.rows[0].remark = "row\nrow=\\n";
+    plan.rows[2].kept = {{"rtz leg/extension", "<a b=\"c\">\n\t<d/></a>"}, {"rtz position", ""}};
+    plan.kept = {{"rtz version", "1.0"}};
+    const std::string text = planRecordText(plan);
+    const ReadPlanRecord read = readPlanRecord(text);
+    EXPECT_EQ(read.damage, "");
+    EXPECT_EQ(read.plan, plan);
+    EXPECT_EQ(planRecordText(read.plan), text);
+    EXPECT_EQ(readPlanRecord(planRecordText({})).plan, PassagePlan{});
+}
+
+TEST(PlanRecord, damageIsNamedAndTheRestRead)
+{
+    const std::string head = "KORVEL2000 passage plan 1\n";
+    const struct {
+        std::string text;
+        const char* damage;
+        const char* rows;
+    } cases[] = {
+        {head + "row\r\nname=A\r\nlatitude=1\r\nlongitude=2\r\n", "", "A 1 2"},
+        {head + "row\nname=A\nlatitude=1\nlongitude=2\nlater=7\n", "", "A 1 2"},
+        {head + "row\nname=A\nlatitude\nlongitude=2\n", "line 4: it cannot be read", "A  2"},
+        {head + "row\nname=\xff\nlatitude=1\nlongitude=2\n", "line 3: it cannot be read", "- 1 2"},
+        {head + "row\nleg=zigzag\nname=A\n", "line 3: no kind of leg", "A  "},
+        {head + "row\nname=A\nlatitude=1\nlongit", "line 5: it cannot be read", "A 1 "},
+        {"KORVEL2000 noon 1\nrow\n", "line 1: it is no passage plan", ""},
+        {"", "line 1: it is no passage plan", ""},
+    };
+    for (const auto& [text, damage, rows] : cases) {
+        const ReadPlanRecord read = readPlanRecord(text);
+        EXPECT_EQ(read.damage, damage) << text;
+        EXPECT_EQ(rowsText(read.plan.rows), rows) << text;
+    }
+    std::string many = head;
+    for (int i = 0; i < 501; ++i)
+        many += "row\nname=A\nkept=a\tb\n";
+    EXPECT_EQ(readPlanRecord(many).plan.rows.size(), 500u);
+    EXPECT_EQ(readPlanRecord(many).damage, "line 1502: more than 500 rows");
 }
 
 } // namespace
