@@ -2,6 +2,7 @@
 #include "app/records/SettingsRecord.h"
 
 #include "app/reading/Remarks.h"
+#include "app/reading/Utf8.h"
 #include "app/records/DelimitedText.h"
 #include "app/records/ShiftedRecord.h"
 
@@ -65,24 +66,6 @@ const char* inWords(Kind kind)
     if (kind == Kind::Number) return "a number";
     if (kind == Kind::Tick) return "#TRUE# or #FALSE#";
     return kind == Kind::Any ? "a value" : "a text in quotes";
-}
-
-bool isUtf8(std::string_view text)
-{
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t length = lead < 0x80         ? 1
-                                   : lead >> 5 == 0x06 ? 2
-                                   : lead >> 4 == 0x0E ? 3
-                                   : lead >> 3 == 0x1E ? 4
-                                                       : 0;
-        if (length == 0 || i + length > text.size() || lead == 0 || lead == 0xC0 || lead == 0xC1)
-            return false;
-        for (std::size_t k = 1; k < length; ++k)
-            if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80) return false;
-        i += length;
-    }
-    return true;
 }
 
 /// Why an item cannot be read at all; empty when it can.

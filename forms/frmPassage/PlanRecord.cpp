@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanRecord.h"
 
+#include "app/reading/Utf8.h"
+
 #include <algorithm>
 #include <array>
 
@@ -66,23 +68,6 @@ void addKept(std::string& text, const std::vector<KeptPart>& kept)
 {
     for (const KeptPart& part : kept)
         text += "kept=" + escaped(part.place) + "\t" + escaped(part.text) + "\n";
-}
-
-bool isUtf8(std::string_view text)
-{
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i++]);
-        int more = lead < 0x80                   ? 0
-                   : lead >= 0xC2 && lead < 0xE0 ? 1
-                   : lead >= 0xE0 && lead < 0xF0 ? 2
-                   : lead >= 0xF0 && lead < 0xF5 ? 3
-                                                 : -1;
-        if (more < 0) return false;
-        for (; more > 0; --more, ++i)
-            if (i >= text.size() || (static_cast<unsigned char>(text[i]) & 0xC0) != 0x80)
-                return false;
-    }
-    return true;
 }
 
 /// Takes the lines of a record one by one.

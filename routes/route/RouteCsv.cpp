@@ -5,6 +5,7 @@
 #include "app/reading/PositionText.h"
 #include "app/reading/Reading.h"
 #include "app/reading/Remarks.h"
+#include "app/reading/Utf8.h"
 #include "app/records/DelimitedText.h"
 #include "navlib/angles.h"
 #include "routes/route/DelimitedLines.h"
@@ -225,6 +226,12 @@ ReadRoute readRouteCsv(std::string_view text)
     const auto refused = [](const std::string& fault) { return ReadRoute{{}, fault, {}}; };
     if (text.find('\0') != std::string_view::npos)
         return refused("line 1: it is no list of text (or one in UTF-16: save it as UTF-8)");
+    if (!isUtf8(text)) {
+        ReadRoute read = readRouteCsv(utf8OfLatin1(text));
+        read.remarks.emplace_back(
+            "the list is not UTF-8: its letters were read as Western European");
+        return read;
+    }
     const char separator = separatorOf(text);
     const auto lines = delimitedLines(text, separator, mostRoutePoints + 2);
     if (lines.empty()) return refused("line 1: it is empty");

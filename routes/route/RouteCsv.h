@@ -17,7 +17,7 @@ namespace korvel
 /// latitude, longitude, name; latitude, longitude; or the ten columns of our own list. A position
 /// is decimal degrees, with a sign or with N, S, E or W, also in a column of their own, or degrees
 /// and minutes in any form that the boxes understand when pasted.
-/// @param text UTF-8
+/// @param text UTF-8; other bytes are read as Western European letters, and a remark says so
 /// @return a fault names the line and the column
 ReadRoute readRouteCsv(std::string_view text);
 

@@ -77,6 +77,9 @@ TEST(RouteFiles, listsAreReadAsSpreadsheetsWriteThem)
             << row;
     EXPECT_EQ(described(readRoute("\xEF\xBB\xBFname,lat,lon\r\nA,35.5,139.75\r\n")),
               "A 35.5000 139.7500");
+    EXPECT_EQ(
+        described(readRoute("name,lat,lon\nH\xF6he,35.5,139.75\n")),
+        "Höhe 35.5000 139.7500; the list is not UTF-8: its letters were read as Western European");
     std::string many = "name,lat,lon\n";
     for (int i = 0; i < 501; ++i)
         many += "A,1,2\n";
