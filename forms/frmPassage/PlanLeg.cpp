@@ -23,9 +23,9 @@ void sailRhumbLine(PlanLeg& leg, const GeoPoint& from, const GeoPoint& to, Earth
     if (line.distance > Miles(0)) leg.course = line.course;
 }
 
-void sailCircle(PlanLeg& leg, const GreatCircleArc& arc, Earth earth)
+void sailCircle(PlanLeg& leg, const GreatCircleArc& arc)
 {
-    leg.distance = arc.distance(earth);
+    leg.distance = leg.greatCircle;
     if (!arc.isDefined()) return;
     leg.course = arc.courseAt(Degrees(0));
     leg.finalCourse = arc.courseAt(arc.arc());
@@ -74,6 +74,11 @@ Miles PlanLeg::saving() const
     return std::max(Miles(0), rhumbLine - distance);
 }
 
+Miles PlanLeg::couldSave() const
+{
+    return std::max(Miles(0), distance - greatCircle);
+}
+
 DegMin limitOfLeg(const ReadPlanRow& from, const ReadPlanRow& to)
 {
     const bool bothSouth = from.position->lat < DegMin() && to.position->lat < DegMin();
@@ -88,12 +93,13 @@ PlannedLeg legBetween(const ReadPlanRow& from, const ReadPlanRow& to, LegKind ki
     leg.kind = kind;
     try {
         sailRhumbLine(leg, *from.position, *to.position, earth);
+        const GreatCircleArc arc(*from.position, *to.position);
+        leg.greatCircle = arc.distance(earth);
         if (kind != LegKind::Rhumb) {
-            const GreatCircleArc arc(*from.position, *to.position);
             if (!arc.isDefined() && arc.arc() > quarterTurn)
                 planned.fault = "every great circle leads to the opposite position";
             else if (kind == LegKind::GreatCircle)
-                sailCircle(leg, arc, earth);
+                sailCircle(leg, arc);
             else
                 planned.fault = sailComposite(leg, from, to, earth);
         }

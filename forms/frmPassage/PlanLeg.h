@@ -19,12 +19,15 @@ struct PlanLeg {
     std::optional<NavFunc113::Degrees> course;      ///< initial, true; nothing on a leg of 0 miles
     std::optional<NavFunc113::Degrees> finalCourse; ///< of a circle
     NavFunc113::Miles distance;
-    NavFunc113::Miles rhumbLine; ///< the same by rhumb line
+    NavFunc113::Miles rhumbLine;   ///< the same by rhumb line
+    NavFunc113::Miles greatCircle; ///< and by great circle, whatever limits there are
     std::optional<NavFunc113::CompositeTrack> composite;
     std::string remark; ///< what the officer should know of it
 
     /// Miles by which it is shorter than the rhumb line.
     NavFunc113::Miles saving() const;
+    /// Miles by which a great circle would be shorter.
+    NavFunc113::Miles couldSave() const;
 };
 
 /// A leg, or why there is none.

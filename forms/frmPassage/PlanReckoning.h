@@ -68,6 +68,7 @@ public:
     const PlanFigures& figures(std::size_t row) const { return m_rows[row].figures; }
     const PlanTotals& totals() const { return m_totals; }
     std::optional<Instant> departure() const { return m_departure; }
+    NavFunc113::Earth earth() const { return m_conditions.earth; }
     /// The row before one that is not empty. @return nothing for the first
     std::optional<std::size_t> rowBefore(std::size_t row) const;
     std::optional<std::size_t> firstRow() const; ///< that is not empty

@@ -134,8 +134,8 @@ PlanOfRoute planOfRoute(const Route& route, const PlanConditions& conditions)
     for (const RoutePoint& point : route.points)
         plan.rows.push_back(rowOf(point));
     if (route.points.empty()) return result;
-    plan.rows.front().stop.clear();
     const RoutePoint& first = route.points.front();
+    if (!first.stop) plan.rows.front().stop.clear(); // times before the departure are no stop
     if (const auto departure = first.etd ? first.etd : first.eta)
         plan.times.time = Format(dateTimeOf(*departure), "yyyy/m/d hh:mm:ss");
     const bool hasSpeeds = std::ranges::any_of(

@@ -68,7 +68,9 @@ PlanRowTexts planRowTexts(const PlanReckoning& plan, std::size_t row)
     if (const PlanLeg* leg = plan.leg(row)) {
         texts.course = coursesText(*leg);
         texts.distance = Format(leg->distance, milesFormat);
-        if (leg->kind != LegKind::Rhumb) texts.saving = Format(leg->saving(), milesFormat);
+        const bool isRhumb = leg->kind == LegKind::Rhumb;
+        (isRhumb ? texts.couldSave : texts.saving) =
+            Format(isRhumb ? leg->couldSave() : leg->saving(), milesFormat);
     }
     texts.underWay = durationText(figures.underWay);
     texts.run = milesText(figures.run);

@@ -13,6 +13,7 @@ struct PlanRowTexts {
     std::string course;      ///< "<073.6>"; of a circle at both ends, "<072.4> <107.6>"
     std::string distance;    ///< miles, "3181.6"
     std::string saving;      ///< of a circle against the rhumb line, miles
+    std::string couldSave;   ///< miles by which a great circle would be shorter than a rhumb line
     std::string underWay;    ///< on the leg, "1 d 02 h 03 m"
     std::string run;         ///< from the departure, miles
     std::string toGo;        ///< miles

@@ -153,6 +153,11 @@ public:
             writePoint(m_route.points[i]);
         }
         m_written.bytes = m_xml.bytes();
+        if (std::ranges::any_of(m_route.points, [](const RoutePoint& point) {
+                return point.speed || point.stop || point.zone || hasOtherParts(point.kept, "gpx");
+            }))
+            m_written.remarks.emplace_back("GPX has no place for speeds, stops, zones and what "
+                                           "other formats hold beside them");
         if (m_hasCircles)
             m_written.remarks.emplace_back("GPX knows no circles: they were written as points on "
                                            "them, and are read as rhumb lines");

@@ -69,6 +69,10 @@ WrittenRoute RtzOutput::write()
     writeElements(m_route.kept, rtz::inRoute);
     m_xml.end();
     m_written.bytes = m_xml.bytes();
+    if (std::ranges::any_of(m_route.points, [](const RoutePoint& point) {
+            return hasOtherParts(point.kept, "rtz");
+        }))
+        remark("RTZ has no place for what a GPX file holds beside the route");
     return std::move(m_written);
 }
 

@@ -334,6 +334,8 @@ TEST(RouteFiles, gpxHoldsPointsAndKeepsWhatIsNotOurs)
     EXPECT_LT(written.find("<ele>2</ele>"), written.find("<time>2026-11-10T00:00:00Z</time>"));
     EXPECT_LT(written.find("</desc>"), written.find("<sym>"));
     EXPECT_EQ(readRoute(written).route.points.size(), 2u);
+    EXPECT_THAT(writeRtz(read.route).remarks,
+                ::testing::ElementsAre(HasSubstr("no place for what a GPX")));
 
     for (const auto& [from, to, fault] :
          {std::tuple{"lon=\"139.75\"", "lon=\"180\"", "rtept: lon 180"},
@@ -353,7 +355,7 @@ TEST(RouteFiles, gpxHasCirclesAsPoints)
         "", {}, planRows("A 41 -72 / B 41 0 co:44N / C 40 0 / D 60 179 gc:10"), {}};
     const WrittenRoute written =
         writeGpx(routeOfPlan(plan, PlanReckoning(plan, {})).route, "a program");
-    EXPECT_THAT(written.remarks, ::testing::Contains(HasSubstr("no circles")));
+    EXPECT_THAT(written.remarks, ::testing::ElementsAre(HasSubstr("no circles")));
     const PlanOfRoute back = planOfRoute(readGpx(written.bytes).route, {});
     double most = 0;
     for (const PlanRow& row : back.plan.rows)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanEdit.h"
+#include "forms/frmPassage/PlanPaper.h"
 #include "forms/frmPassage/PlanReckoning.h"
 #include "forms/frmPassage/PlanRecord.h"
 #include "tests/forms/frmPassage/Plans.h"
@@ -205,6 +206,35 @@ TEST(PlanRecord, damageIsNamedAndTheRestRead)
         many += "row\nname=A\nkept=a\tb\n";
     EXPECT_EQ(readPlanRecord(many).plan.rows.size(), 500u);
     EXPECT_EQ(readPlanRecord(many).damage, "line 1502: more than 500 rows");
+}
+
+TEST(PlanPaper, oneLineALegAndWhatOnlySomeRowsHave)
+{
+    PassagePlan plan = planOf(
+        "A 41 -72 td=-5 v=12 / . / B 41 0 co:44N td=0 / C 42 0 v=10 stop=6 note=bunkers / D 43 0");
+    plan.name = "Atlantic";
+    WorkingPaper paper{"Passage plan"};
+    tellPlan(paper, plan, PlanReckoning(plan, {}));
+    ASSERT_EQ(paper.tables.size(), 2u);
+    EXPECT_EQ(paper.tables[0].rows.size(), 4u);
+    EXPECT_THAT(paper.tables[0].rows[1],
+                ::testing::ElementsAre("3", "B", "41°00.0'N", "000°00.0'E", "<072.4> <107.6>",
+                                       "3181.6", "12.0", "11 d 01 h 08 m", "Sat 2026/11/21 01:08",
+                                       "Sat 2026/11/21 01:08", "120.0"));
+    std::vector<std::string> some;
+    for (const auto& row : paper.tables[1].rows)
+        some.push_back(row[1] + "|" + row[2] + "|" + row[3] + "|" + row[5] + "|" + row[6]);
+    EXPECT_THAT(some,
+                ::testing::ElementsAre("A|||TD -5 (ZD +5)|",
+                                       "B|composite 44.0||TD 0 (ZD 0)|clocks 5 h 00 m forward; "
+                                       "composite; 21.5 miles more than the full circle",
+                                       "C||6||bunkers"));
+    EXPECT_EQ(paper.results[0].value, "3301.6");
+    EXPECT_EQ(paper.line->points.size(), 6u) << "four waypoints and two tangent points";
+    EXPECT_EQ(paper.list->rows.size(), 4u);
+    WorkingPaper empty{"Passage plan"};
+    tellPlan(empty, {}, PlanReckoning({}, {}));
+    EXPECT_TRUE(empty.tables.empty() && empty.inputs.empty() && !empty.list);
 }
 
 } // namespace

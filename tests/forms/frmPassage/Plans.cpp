@@ -116,6 +116,7 @@ std::map<std::string, std::string> shownTexts(const PlanReckoning& plan)
         texts[number + "course"] = row.course;
         texts[number + "distance"] = row.distance;
         texts[number + "saving"] = row.saving;
+        texts[number + "couldSave"] = row.couldSave;
         texts[number + "underWay"] = row.underWay;
         texts[number + "run"] = row.run;
         texts[number + "toGo"] = row.toGo;
