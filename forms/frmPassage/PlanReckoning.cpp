@@ -240,17 +240,18 @@ std::string PlanReckoning::remark(std::size_t row) const
     return joined({each.read.remarks.text(), stop, ofLeg});
 }
 
-/// The first thing that is missing for the arrival.
+/// The first thing that is missing, for the distances before the times.
 std::string PlanReckoning::whyBlank() const
 {
-    const auto first = firstRow();
-    if (!first) return {};
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row& row = m_rows[i];
+        if (row.read.isEmpty || row.figures.run) continue;
+        if (!row.read.position) return rowName(i) + ": no position; what follows is blank";
+        return rowName(i) + ": " + row.planned.fault;
+    }
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         const Row& row = m_rows[i];
         if (row.read.isEmpty || row.figures.sinceDeparture) continue;
-        if (!row.read.position) return rowName(i) + ": no position; what follows is blank";
-        if (!row.planned.fault.empty()) return rowName(i) + ": " + row.planned.fault;
-        if (!row.planned.leg) return {};
         if (!row.figures.speed) return rowName(i) + ": no speed; the times that follow are blank";
         return rowName(i) + ": the leg takes more than 200 years";
     }
