@@ -60,7 +60,7 @@ libraries_of() {
 add_libraries() {
     local library
     # shellcheck disable=SC2046
-    for library in $(libraries_of "$folder/korvel2000" "$folder/almanac" $(find "$folder/plugins" -name '*.so')); do
+    for library in $(libraries_of "$folder/korvel2000" "$folder/almanac" "$folder/passage" $(find "$folder/plugins" -name '*.so')); do
         # What was found in the folder's own lib/ does not count as the system's.
         cp -L "$library" "$folder/lib/"
     done

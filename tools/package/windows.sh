@@ -15,13 +15,13 @@ windows_build=$packages/windows
 test_library=$windows_build/googletest
 
 make_package() {
-    build_windows korvel2000 almanac_command
+    build_windows korvel2000 almanac_command passage
     say "Packing $folder_name.zip"
     rm -rf "$folder" "$folder.zip"
     mkdir -p "$folder/licences"
     add_data "$folder"
     local program
-    for program in korvel2000 almanac; do
+    for program in korvel2000 almanac passage; do
         x86_64-w64-mingw32-strip -o "$folder/$program.exe" "$windows_build/korvel2000/$program.exe"
     done
     cp LICENSE "$folder"

@@ -8,6 +8,12 @@
 
 #include <QSaveFile>
 
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <stdio.h>
+#endif
+
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
@@ -122,6 +128,9 @@ int carryOut(const Order& order)
 
 int main(int argc, char** argv)
 {
+#ifdef _WIN32
+    _setmode(_fileno(stdout), _O_BINARY); // the list has the line ends that it shall have
+#endif
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (arguments.size() == 1 && (arguments[0] == "--help" || arguments[0] == "-h")) {
         std::cout << usage;
