@@ -271,6 +271,17 @@ TEST(RouteFiles, whatWasNotUnderstoodGoesBackIntoTheFile)
     EXPECT_THAT(bytes, HasSubstr("id=\"44\" revision=\"0\" name=\"New\""));
 }
 
+TEST(RouteFiles, keptElementsStandForThemselvesAndWhatWasSetByHandGoesFirst)
+{
+    // Rows that are put into another plan take their elements along, not its declarations.
+    Route alone = readRtz(wholeFile).route;
+    alone.kept.clear();
+    EXPECT_EQ(readRtz(writeRtz(alone).bytes).fault, "");
+    const std::string both =
+        replaced(wholeFile, "windDirection=\"165\"", "speed=\"9\" windDirection=\"165\"");
+    EXPECT_EQ(described(readRtz(both)), described(readRtz(wholeFile)));
+}
+
 TEST(RouteFiles, prefixesAndOlderSpellingsAreRead)
 {
     std::string prefixed = wholeFile;
