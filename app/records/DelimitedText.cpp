@@ -84,7 +84,7 @@ void DelimitedText::takeSeparator()
                                                                                        : 0;
     m_rest.remove_prefix(lineEnd);
     if (lineEnd > 0) ++m_line;
-    m_lineGoesOn = lineEnd == 0;
+    m_lineGoesOn = lineEnd == 0 && !m_rest.empty(); // the text may end without a line end
 }
 
 std::optional<double> wholeNumber(std::string_view text)

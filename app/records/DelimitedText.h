@@ -32,7 +32,8 @@ public:
     /// @param blanksPart whether a blank parts items too
     Item next(bool blanksPart = false);
 
-    /// True when another item stands on the line of the last one taken.
+    /// True when another item stands on the line of the last one taken; behind a last comma an
+    /// empty one does.
     bool lineGoesOn() const { return m_lineGoesOn; }
 
     /// True when the next item stands between quotes.

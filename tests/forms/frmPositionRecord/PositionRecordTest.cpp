@@ -157,6 +157,10 @@ TEST(PositionRecord, aSavedListIsReadWholeOrNotAtAll)
         const ReadList read = readRecordList(list + line + "\r\n");
         EXPECT_EQ(read.rows == PositionRows{}, !row.text("says").empty()) << row << read.fault;
         EXPECT_THAT(read.fault, HasSubstr(row.text("says"))) << row;
+        // Cut off behind its last field.
+        const ReadList cut = readRecordList(list + line);
+        EXPECT_EQ(cut.rows, read.rows) << row;
+        EXPECT_EQ(cut.fault, read.fault) << row;
     }
 }
 
