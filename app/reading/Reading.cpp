@@ -4,6 +4,7 @@
 #include "app/reading/Ascii.h"
 #include "navlib/datetime.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -15,6 +16,29 @@ namespace
 using NavFunc113::CivilDate;
 
 constexpr int firstYear = 1900; // before it dates and their times of day run in opposite directions
+
+struct OtherSign {
+    std::string_view bytes; ///< in UTF-8
+    std::string_view ascii; ///< empty for what nobody sees
+};
+
+constexpr OtherSign otherSigns[] = {
+    {"\xE3\x80\x80", " "}, // U+3000 ideographic space
+    {"\xE2\x88\x92", "-"}, // U+2212 minus sign
+    {"\xC2\xA0", " "},     // U+00A0 no-break space, as spreadsheets write it
+    {"\xE2\x80\x87", " "}, // U+2007 figure space
+    {"\xE2\x80\x89", " "}, // U+2009 thin space
+    {"\xE2\x80\xAF", " "}, // U+202F narrow no-break space
+    {"\xC2\xAD", ""},      // U+00AD soft hyphen
+    {"\xE2\x80\x8B", ""},  // U+200B to U+200F: no width, joiners, marks of direction
+    {"\xE2\x80\x8C", ""},  {"\xE2\x80\x8D", ""}, {"\xE2\x80\x8E", ""},
+    {"\xE2\x80\x8F", ""},  {"\xE2\x80\xAA", ""}, // U+202A to U+202E: embeddings and overrides
+    {"\xE2\x80\xAB", ""},  {"\xE2\x80\xAC", ""}, {"\xE2\x80\xAD", ""},
+    {"\xE2\x80\xAE", ""},  {"\xE2\x81\xA0", ""}, // U+2060 word joiner
+    {"\xE2\x81\xA6", ""},                        // U+2066 to U+2069: isolates
+    {"\xE2\x81\xA7", ""},  {"\xE2\x81\xA8", ""}, {"\xE2\x81\xA9", ""},
+    {"\xEF\xBB\xBF", ""}, // U+FEFF byte-order mark
+};
 
 bool isBlank(char c)
 {
@@ -120,6 +144,8 @@ std::optional<double> readTimeOfDay(std::string_view text)
 
 std::string asciiForms(std::string_view text)
 {
+    const auto isAscii = [](char each) { return static_cast<unsigned char>(each) < 0x80; };
+    if (std::ranges::all_of(text, isAscii)) return std::string(text);
     // U+FF01 to U+FF5E stand in UTF-8 as EF BC 81 .. EF BD 9E, in the order of ASCII 21 to 7E.
     std::string result;
     result.reserve(text.size());
@@ -133,10 +159,12 @@ std::string asciiForms(std::string_view text)
                 continue;
             }
         }
-        // U+3000 ideographic space, U+2212 minus sign
-        if (text.substr(i, 3) == "\xE3\x80\x80" || text.substr(i, 3) == "\xE2\x88\x92") {
-            result += byte(0) == 0xE3 ? ' ' : '-';
-            i += 3;
+        const auto sign = std::ranges::find_if(otherSigns, [&](const OtherSign& each) {
+            return text.substr(i).starts_with(each.bytes);
+        });
+        if (sign != std::end(otherSigns)) {
+            result += sign->ascii;
+            i += sign->bytes.size();
             continue;
         }
         result += text[i++];

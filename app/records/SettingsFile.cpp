@@ -61,6 +61,11 @@ void SettingsFile::report(const std::string& trouble, bool somethingRead)
                      programTitle, Buttons::Ok});
 }
 
+void SettingsFile::protect(const std::string& trouble)
+{
+    if (!isProtected()) report(trouble, true);
+}
+
 /// @return the fault in words, empty when nothing is in the way any more
 std::string SettingsFile::keepAside()
 {
@@ -90,7 +95,7 @@ bool SettingsFile::saveAtClose(const Record& record)
         if (fault.empty()) return true;
         const Answer answer = m_questions.ask(
             {"The settings file " + fault + ".\r\rTry again?\rNo leaves without saving it.",
-             programTitle, Buttons::YesNo});
+             confirmationTitle, Buttons::YesNo});
         if (answer != Answer::Yes) return false;
     }
 }

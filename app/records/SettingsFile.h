@@ -42,6 +42,10 @@ public:
     /// or not even its bytes came.
     const std::optional<std::string>& damagedText() const { return m_damagedText; }
 
+    /// Says that what was loaded is not all of the file, which is kept aside like a damaged one.
+    /// @param trouble "holds texts that are too long for their boxes: value 3"
+    void protect(const std::string& trouble);
+
     /// True while a damaged file still lies under its own name.
     bool isProtected() const { return !m_asideName.empty(); }
 

@@ -14,6 +14,22 @@ namespace korvel
 namespace
 {
 
+// The longest number of double precision has 309 digits.
+constexpr int longestResult = 400;
+
+/// Neither seen nor heard: marks of direction, joiners and the like. A joiner between letters is a
+/// part of the word, as in Persian.
+bool isUnseen(const QString& text, qsizetype i)
+{
+    if (text[i].category() != QChar::Other_Format) return false;
+    const bool isJoiner = text[i] == u'\u200C' || text[i] == u'\u200D';
+    const auto isLetterAt = [&text](qsizetype at) {
+        return at >= 0 && at < text.size() &&
+               (text[at].isLetter() || text[at].isMark() || text[at].isSurrogate());
+    };
+    return !isJoiner || !isLetterAt(i - 1) || !isLetterAt(i + 1);
+}
+
 /// Every way into a box leads through its validator: keys, paste, drop, middle click, an input
 /// method. A control character in a record would make all of it unreadable.
 class WithoutControls : public QValidator
@@ -23,23 +39,22 @@ public:
 
     State validate(QString& text, int& cursor) const override
     {
-        const auto isControl = [](QChar each) {
-            return each.category() == QChar::Other_Control ||
-                   each.category() == QChar::Separator_Line ||
-                   each.category() == QChar::Separator_Paragraph;
+        const auto isControl = [&text](qsizetype i) {
+            const QChar::Category category = text[i].category();
+            return category == QChar::Other_Control || category == QChar::Separator_Line ||
+                   category == QChar::Separator_Paragraph || isUnseen(text, i);
         };
-        if (std::none_of(text.begin(), text.end(), isControl)) return Acceptable;
         QString clean;
         for (qsizetype i = 0; i < text.size(); ++i) {
             const QChar each = text[i];
-            if (!isControl(each))
+            if (!isControl(i))
                 clean += each;
             else if (each.isSpace())
                 clean += u' ';
             else if (i < cursor)
                 --cursor;
         }
-        text = clean;
+        if (clean != text) text = clean;
         return Acceptable;
     }
 };
@@ -125,10 +140,12 @@ KeyUpBox::KeyUpBox(QWidget* parent) : EntryBox(parent)
 
 void KeyUpBox::fill(const QString& text)
 {
-    m_held = text;
-    // A result is shown in full, however long; the limit is for what is typed.
-    setMaxLength(std::max<int>(longestFigure, static_cast<int>(text.size())));
-    setText(text);
+    m_held = text.left(longestResult);
+    // A result is shown in full; the limit is for what is typed. No text that stands there is cut
+    // on the way: it would count as typed.
+    setMaxLength(longestResult);
+    setText(m_held);
+    setMaxLength(std::max<int>(longestFigure, static_cast<int>(m_held.size())));
 }
 
 void KeyUpBox::keyPressEvent(QKeyEvent* event)

@@ -67,6 +67,16 @@ void CalculatorWindow::loadSettings()
     m_menus.addView();
     m_program.addHelpMenu(*menuBar());
     setTabOrderByReading(*this);
+    for (const EntryBox* box : findChildren<EntryBox*>())
+        connect(box, &QLineEdit::inputRejected, this, [this, box] { sayThatItIsFull(*box); });
+}
+
+/// What was left out of a paste is not seen in the box.
+void CalculatorWindow::sayThatItIsFull(const EntryBox& box)
+{
+    sayForAWhile(QString("%1: the box takes %2 characters, the rest was left out.")
+                     .arg(box.accessibleName().section(',', 0, 0))
+                     .arg(box.maxLength()));
 }
 
 void CalculatorWindow::addPaperMenu()

@@ -72,6 +72,9 @@ protected:
     /// Says something in the notice line under a key of the caller's; an empty text takes it back.
     void setNotice(const QString& key, const QString& text) { m_notices->say(key, text); }
 
+    /// Says what was done; no remark on the figures, it goes after a moment.
+    void sayForAWhile(const QString& said);
+
     /// Fills the window from its record, then calculates everything once.
     void loadSettings();
 
@@ -129,8 +132,8 @@ protected:
 private:
     PaperDocument paperDocument();
     void addPaperMenu();
+    void sayThatItIsFull(const EntryBox& box);
     void openPaper();
-    void sayForAWhile(const QString& said);
     void fit();
     void placeStrip();
     void zoom();

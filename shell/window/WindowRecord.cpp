@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/window/WindowRecord.h"
 
+#include "app/reading/Remarks.h"
 #include "shell/program/Program.h"
 
 #include <QAbstractButton>
@@ -12,8 +13,21 @@ namespace korvel
 namespace
 {
 
-/// A killed program loses no more than this and what was typed in it.
+/// A killed program loses no more than what was typed in this time.
 constexpr std::chrono::milliseconds burst{1500};
+
+/// Which values of a record were too long for their boxes, in words; empty when none was.
+std::string cutValues(const Record& read, const Record& held)
+{
+    std::vector<std::string> cut;
+    for (std::size_t i = 0; i < std::min(read.size(), held.size()); ++i) {
+        const std::string whole = withoutControls(textOf(read[i]));
+        const std::string part = textOf(held[i]);
+        if (part.size() < whole.size() && !part.empty() && whole.starts_with(part))
+            cut.push_back("value " + std::to_string(i + 1));
+    }
+    return joined(cut);
+}
 
 } // namespace
 
@@ -59,8 +73,10 @@ bool WindowRecord::load()
     if (!m_file) return false;
     m_isLoading = true;
     const auto record = m_file->load(m_save());
-    const bool isWhole = record && !m_file->isProtected();
     if (record) m_load(*record);
+    const std::string cut = record ? cutValues(*record, m_save()) : std::string();
+    if (!cut.empty()) m_file->protect("holds texts that are too long for their boxes: " + cut);
+    const bool isWhole = record && !m_file->isProtected();
     if (m_salvage && m_file->damagedText()) m_salvage(*m_file->damagedText());
     m_isLoading = false;
     if (isWhole) m_onDisk = m_save();
@@ -85,7 +101,8 @@ void WindowRecord::watchControls()
 
 void WindowRecord::changed()
 {
-    if (m_file && !m_isLoading) m_burst.start();
+    // Not started anew: whoever types on without a pause would never be saved.
+    if (m_file && !m_isLoading && !m_burst.isActive()) m_burst.start();
 }
 
 void WindowRecord::saveNow()

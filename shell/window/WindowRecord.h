@@ -15,8 +15,8 @@ namespace korvel
 
 class Program;
 
-/// The settings file of a window: filled when the window loads, written shortly after the last of a
-/// burst of changes and when the window closes.
+/// The settings file of a window: filled when the window loads, written once for a burst
+/// of changes, less than two seconds after the first of them, and when the window closes.
 class WindowRecord : public QObject
 {
 public:
@@ -42,8 +42,8 @@ public:
     /// @return true when anything was found to fill it with
     bool load();
 
-    /// Writes the file when nothing more has changed for a while. Changes of the window's controls
-    /// are noticed by themselves; this is for what is no control.
+    /// Writes the file a moment after the first of the changes that it does not hold. Changes of
+    /// the window's controls are noticed by themselves; this is for what is no control.
     void changed();
     /// Writes the file while the window stays open; a fault goes to the notice line.
     void saveNow();
@@ -59,7 +59,7 @@ private:
     Program& m_program;
     NoticeLine& m_notices;
     QWidget& m_window;
-    QTimer m_burst; ///< runs from a change to the write
+    QTimer m_burst; ///< runs from the first change to the write
     std::unique_ptr<SettingsFile> m_file;
     Save m_save;
     Load m_load;
