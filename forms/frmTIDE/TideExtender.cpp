@@ -16,7 +16,7 @@ bool TideExtender::offer(std::int64_t date)
 {
     const std::optional<int> year = extensionYearFor(date);
     if (!year) return false;
-    const Message question{extensionOffer(*year), programTitle, Buttons::YesNo};
+    const Message question{extensionOffer(*year), confirmationTitle, Buttons::YesNo};
     return m_program.questions().ask(question) == Answer::Yes && extend(*year);
 }
 

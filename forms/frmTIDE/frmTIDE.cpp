@@ -6,6 +6,7 @@
 #include "forms/frmTIDE/stations/StationSearch.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
+#include "shell/machine/AsQString.h"
 
 #include <cmath>
 #include <cstdint>
@@ -99,9 +100,8 @@ TideActions frmTIDE::actions()
 
 void frmTIDE::choose(const StationChoice& station)
 {
-    const TideKind asked = station.TideMode ? TideKind::Tide : TideKind::Stream;
-    if (m_reports.isToBeUsed(asked, station.place))
-        take({station.TideMode, station.place, m_choice.lblDate}, Telling::Box, AfterFault::GoBack);
+    m_agreedTo.clear(); // whoever chooses a doubtful station once more is asked once more
+    take({station.TideMode, station.place, m_choice.lblDate}, Telling::Box, AfterFault::GoBack);
 }
 
 void frmTIDE::findStation(const std::string& typed)
@@ -147,6 +147,7 @@ void frmTIDE::chooseDate(std::int64_t date)
 /// A day of the date bar.
 void frmTIDE::stepTo(std::int64_t date)
 {
+    setNotice("dates", {});
     take({m_choice.TideMode, m_choice.lblPlace, TideDates::label(date)}, Telling::Line,
          AfterFault::GoBack);
 }
@@ -158,9 +159,14 @@ void frmTIDE::readDates()
     m_tideMenus.enableUndo(m_extender.canTakeBack());
     m_sheet->showDates(m_dates, program().files().path(factorsFileName));
     const auto shown = TideDates::dateIn(m_choice.lblDate);
-    if (shown && !m_dates.contains(*shown))
-        take({m_choice.TideMode, m_choice.lblPlace, TideDates::label(m_dates.lastSerial())},
-             Telling::Line, AfterFault::GoBack);
+    setNotice("dates", {});
+    if (shown && !m_dates.contains(*shown)) {
+        const std::string last = TideDates::label(m_dates.lastSerial());
+        setNotice("dates", asQString(TideDates::label(*shown) +
+                                     " is not in the factors file any more: " + last +
+                                     ", its last day, is shown."));
+        take({m_choice.TideMode, m_choice.lblPlace, last}, Telling::Line, AfterFault::GoBack);
+    }
     showNow();
 }
 
@@ -192,14 +198,17 @@ void frmTIDE::take(const TideChoice& wanted, Telling telling, AfterFault afterFa
     const TideChoice before = m_choice;
     put(wanted);
     std::string fault;
+    bool isDeclined = false;
     try {
-        if (predict(wanted, telling)) storeSettings(telling);
+        const Outcome outcome = predict(wanted, telling);
+        if (outcome == Outcome::Shown) storeSettings(telling);
+        isDeclined = outcome == Outcome::Declined;
     } catch (const TideDataFault& error) {
         fault = error.what();
     } catch (const NavFunc113::ArithmeticError& error) {
         fault = "The figures of " + wanted.lblPlace + " cannot be computed: " + error.what() + ".";
     }
-    if (!fault.empty() && afterFault == AfterFault::GoBack) put(before);
+    if ((isDeclined || !fault.empty()) && afterFault == AfterFault::GoBack) put(before);
     const bool refused = !fault.empty() && telling == Telling::Line;
     tell(refused ? wanted.lblDate + " cannot be shown: " + fault : fault, telling);
 }
@@ -210,22 +219,25 @@ void frmTIDE::put(const TideChoice& choice)
     m_sheet->showChoice(choice, m_dates);
 }
 
-/// Reads the station anew unless the date alone runs, and shows the day. @return whether there is
-/// a day to show
-bool frmTIDE::predict(const TideChoice& wanted, Telling telling)
+/// Reads the station anew unless the date alone runs, and shows the day.
+frmTIDE::Outcome frmTIDE::predict(const TideChoice& wanted, Telling telling)
 {
     const auto date = TideDates::dateIn(wanted.lblDate);
-    if (wanted.lblPlace == noPlace || wanted.lblPlace.empty()) return false;
+    if (wanted.lblPlace == noPlace || wanted.lblPlace.empty()) return Outcome::Nothing;
     std::unique_ptr<StationDays> station;
-    if (!m_station || telling == Telling::Box)
+    std::string doubts;
+    if (!m_station || telling == Telling::Box) {
         station = std::make_unique<StationDays>(program().files(), kind(), wanted.lblPlace, m_list,
                                                 m_constants);
-    if (!date) return false;
+        doubts = checkStation(program().files(), kind(), wanted.lblPlace).doubts();
+        if (!isToBeUsed(doubts, telling)) return Outcome::Declined;
+    }
+    if (!date) return Outcome::Nothing;
     const StationDays& source = station ? *station : *m_station;
     const TideDayShown day = source.day(*date, m_shown ? m_shown->four : TidePrediction{});
     if (station) {
         m_station = std::move(station);
-        m_doubts = checkStation(program().files(), kind(), wanted.lblPlace).doubts();
+        m_doubts = std::move(doubts);
     }
     showDay(day);
     const StationChoice choice{wanted.TideMode, wanted.lblPlace};
@@ -233,6 +245,17 @@ bool frmTIDE::predict(const TideChoice& wanted, Telling telling)
         m_habits.remember(choice);
         storeHabits();
     }
+    return Outcome::Shown;
+}
+
+/// Doubtful figures are used when the officer says so, whichever way leads to them.
+bool frmTIDE::isToBeUsed(const std::string& doubts, Telling telling)
+{
+    if (doubts.empty() || doubts == m_agreedTo) return true;
+    if (telling == Telling::Line) return false;
+    const Message question{doubts + "\r\rUse it all the same?", confirmationTitle, Buttons::YesNo};
+    if (program().questions().ask(question) != Answer::Yes) return false;
+    m_agreedTo = doubts;
     return true;
 }
 
@@ -293,8 +316,7 @@ void frmTIDE::tell(const std::string& fault, Telling telling)
 void frmTIDE::report(const Report& make)
 {
     if (!m_shown || !m_station) {
-        program().questions().ask({"Choose a place and a date first: there is nothing to print.",
-                                   programTitle, Buttons::Ok});
+        program().questions().ask({"Choose a place and a date first.", programTitle, Buttons::Ok});
         return;
     }
     make({m_choice.lblPlace, *m_station, *m_shown, m_dates, m_lines});

@@ -63,7 +63,10 @@ private:
     enum class AfterFault { GoBack, Stay };
     void take(const TideChoice& wanted, Telling telling, AfterFault afterFault);
     void put(const TideChoice& choice);
-    bool predict(const TideChoice& wanted, Telling telling);
+    /// Declined: the officer does not want to use what is doubtful.
+    enum class Outcome { Shown, Nothing, Declined };
+    Outcome predict(const TideChoice& wanted, Telling telling);
+    bool isToBeUsed(const std::string& doubts, Telling telling);
     void showDay(const TideDayShown& day);
     void showNow();
     void storeSettings(Telling telling);
@@ -80,6 +83,7 @@ private:
     std::optional<TideDayShown> m_shown;
     std::unique_ptr<StationDays> m_station; ///< the station that is shown
     std::string m_doubts;                   ///< of the check of its file
+    std::string m_agreedTo;                 ///< doubts in spite of which figures are used
     StationLines m_lines;
     SettingsFile m_habitsFile;
     TideHabits m_habits;

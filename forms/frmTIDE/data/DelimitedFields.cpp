@@ -3,8 +3,17 @@
 
 #include "forms/frmTIDE/data/TideData.h"
 
+#include <cmath>
+
 namespace korvel
 {
+namespace
+{
+
+// Powers and products of such figures can still be computed. A day key may be 20021001.
+constexpr double largestNumber = 1e8;
+
+} // namespace
 
 FieldReader::FieldReader(std::string file, std::string_view content, std::int64_t line)
     : m_file(std::move(file)), m_text(content), m_line(line)
@@ -26,6 +35,8 @@ double FieldReader::number()
     if (item.text.empty()) fault("the field is empty.");
     const std::optional<double> value = item.quoted ? std::nullopt : wholeNumber(item.text);
     if (!value) fault("\"" + std::string(item.text) + "\" is not a number.");
+    if (std::fabs(*value) > largestNumber)
+        fault("\"" + std::string(item.text) + "\" is no figure of a tide.");
     return *value;
 }
 

@@ -22,6 +22,7 @@ public:
     FieldReader(std::string file, std::string_view content, std::int64_t line);
 
     std::string text();
+    /// @return a number that can be computed with, 1e8 at most
     double number();
 
     /// True when nothing but blanks and line ends is left.

@@ -118,7 +118,7 @@ std::string plainFigure(double value, TideKind kind)
 {
     const std::string figures = Format(value, kind == TideKind::Tide ? "0.00" : "0.0");
     const bool isZero = figures.find_first_of("123456789") == figures.npos;
-    return isZero ? figures.substr(figures.find('0')) : figures;
+    return isZero ? figures.substr(std::min(figures.find('0'), figures.size())) : figures;
 }
 
 std::string heightText(double value, TideKind kind)

@@ -84,17 +84,9 @@ void TideReports::saveMonth(const TideSubject& subject) const
     const std::int64_t serial = subject.day.four.serial;
     const std::string name = monthFileName(subject.place, subject.day.four.kind, serial);
     const std::string table = monthTable(subject.station, subject.place, serial, subject.dates);
-    const auto fault = m_program.files().save(name, table);
-    say(fault ? name + " was not written: " + *fault + "."
-              : "The table of the month is\r" + m_program.files().path(name));
-}
-
-bool TideReports::isToBeUsed(TideKind kind, const std::string& place) const
-{
-    const std::string doubts = checkStation(m_program.files(), kind, place).doubts();
-    if (doubts.empty()) return true;
-    const Message question{doubts + "\r\rUse it all the same?", programTitle, Buttons::YesNo};
-    return m_program.questions().ask(question) == Answer::Yes;
+    const auto path = m_program.questions().fileToWrite("Save the month as a table file", name);
+    if (!path || !m_printer.write(*path, table)) return;
+    say("The table of the month is\r" + *path);
 }
 
 void TideReports::checkFile(TideKind kind, const std::string& offeredPlace) const

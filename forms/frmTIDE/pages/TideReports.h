@@ -32,10 +32,6 @@ public:
     void showWeek(const TideSubject& subject) const;
     void saveMonth(const TideSubject& subject) const;
 
-    /// Checks a station's file before it is used; asks when something in it is doubtful.
-    /// @return whether it is good, or wanted all the same
-    bool isToBeUsed(TideKind kind, const std::string& place) const;
-
     /// Asks for a station and shows what its file holds, field by field.
     void checkFile(TideKind kind, const std::string& offeredPlace) const;
 

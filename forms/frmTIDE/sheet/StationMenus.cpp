@@ -94,6 +94,11 @@ void StationMenus::fillNearest(QMenu* menu)
     menu->clear();
     menu->setToolTipsVisible(true);
     const KV_Savedvalue& saved = m_program.saved();
+    // Nothing stored is 0 N 0 E, which cannot be stored.
+    const bool isStored = saved.memoLatitude().packed() != 0 || saved.memoLongitude().packed() != 0;
+    menu->setEnabled(isStored);
+    menu->menuAction()->setToolTip(isStored ? "" : "The Position Memo holds no position");
+    if (!isStored) return;
     QAction* from = menu->addAction(
         shown("from " + inFullForm(Format(saved.memoLatitude(), "00.00'0N;00.00'0S") + " " +
                                    Format(saved.memoLongitude(), "000.00'0E;000.00'0W"))));
