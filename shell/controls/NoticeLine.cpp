@@ -3,7 +3,6 @@
 
 #include "shell/controls/Boxes.h"
 
-#include <QApplication>
 #include <QPaintEngine>
 #include <QTextLayout>
 
@@ -16,7 +15,7 @@ constexpr int lineCount = 2;
 
 } // namespace
 
-NoticeLine::NoticeLine()
+NoticeLine::NoticeLine() : m_focus([this](const QWidget* now) { hintAt(now); })
 {
     setObjectName("lblNotice");
     setAccessibleName("Notice");
@@ -25,8 +24,6 @@ NoticeLine::NoticeLine()
     setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     setMinimumHeight(NoticeLine::sizeHint().height());
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget*, const QWidget* now) { hintAt(now); });
 }
 
 void NoticeLine::hintAt(const QWidget* control)

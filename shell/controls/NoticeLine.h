@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/controls/FocusFollower.h"
 #include "shell/controls/ResultLabel.h"
 
 #include <map>
@@ -42,6 +43,7 @@ private:
     QString m_hint; ///< two lines
     QColor m_hintColour;
     std::map<QString, QString> m_said;
+    FocusFollower m_focus;
 };
 
 } // namespace korvel

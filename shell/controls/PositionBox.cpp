@@ -12,10 +12,14 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
-#include <memory>
-
 namespace korvel
 {
+namespace
+{
+
+constexpr int longestPaste = 1000; // letters: a position in its sentence, not a book
+
+} // namespace
 
 PositionBox::PositionBox(Axis axis, QWidget* parent)
     : EntryBox(parent), m_axis(axis), m_echo(new ResultLabel(parent))
@@ -74,7 +78,7 @@ QString PositionBox::positionToCopy() const
 void PositionBox::pasteText(const QString& text)
 {
     // Out of a sentence a position comes with its closing full stop.
-    QString pasted = text.trimmed();
+    QString pasted = text.left(longestPaste).trimmed();
     if (pasted.size() > 1 && (pasted.endsWith('.') || pasted.endsWith(QChar(0x3002))))
         pasted.chop(1);
     const auto position = parsePosition(pasted.toStdString(), m_axis);
@@ -116,7 +120,8 @@ void PositionBox::mouseReleaseEvent(QMouseEvent* event)
 
 void PositionBox::contextMenuEvent(QContextMenuEvent* event)
 {
-    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose); // the window may be closed under it
     for (QAction* paste : menu->actions()) {
         // The toolkit gives its entries no names; the text is the one that it looked up itself.
         if (!paste->text().startsWith(QLineEdit::tr("&Paste"))) continue;
@@ -127,13 +132,13 @@ void PositionBox::contextMenuEvent(QContextMenuEvent* event)
     menu->addSeparator();
     menu->addAction("Copy p&osition", this,
                     [this] { QApplication::clipboard()->setText(positionToCopy()); });
-    menu->exec(event->globalPos());
+    menu->popup(event->globalPos());
 }
 
 void PositionBox::dropEvent(QDropEvent* event)
 {
     const QString dropped = event->mimeData()->text();
-    if (!parsePosition(dropped.toStdString(), m_axis)) {
+    if (!parsePosition(dropped.left(longestPaste).toStdString(), m_axis)) {
         EntryBox::dropEvent(event);
         return;
     }

@@ -189,9 +189,11 @@ void ResultLabel::keyPressEvent(QKeyEvent* event)
 
 void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
 {
-    QMenu menu(this);
-    menu.addAction("&Copy", this, [this] { copy(); });
-    menu.exec(event->globalPos());
+    // Its own: the window may be closed under the open menu.
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->addAction("&Copy", this, [this] { copy(); });
+    menu->popup(event->globalPos());
 }
 
 void ResultLabel::copy()

@@ -2,7 +2,9 @@
 #include "shell/machine/FolderLock.h"
 
 #include <QDeadlineTimer>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 
 namespace korvel
@@ -17,11 +19,20 @@ using namespace std::chrono_literals;
 constexpr auto unreadableLock = 2000; // milliseconds
 constexpr auto lookInterval = 400ms;
 
+/// True for a folder, a pipe or a device that has a file's name.
+bool isNoFile(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile();
+}
+
 } // namespace
 
 FolderLock::FolderLock(const QString& folder)
-    : m_request(folder + "/KV_KORVEL.call"), m_lock(folder + "/KV_KORVEL.lock")
+    : m_request(folder + "/KV_KORVEL.call"), m_lockFile(folder + "/KV_KORVEL.lock"),
+      m_lock(m_lockFile)
 {
+    if (isNoFile(m_lockFile)) return; // asking a pipe for its owner would wait for ever
     m_lock.setStaleLockTime(unreadableLock);
     qint64 owner = 0;
     if (!m_lock.tryLock(0) && isHeldByAnother() && !m_lock.getLockInfo(&owner, nullptr, nullptr))
@@ -34,8 +45,17 @@ bool FolderLock::isHeldByAnother() const
     return m_lock.error() == QLockFile::LockFailedError;
 }
 
+std::string FolderLock::fault() const
+{
+    if (!isNoFile(m_lockFile)) return {};
+    return '"' + QDir::toNativeSeparators(m_lockFile).toStdString() +
+           "\" is not the program's lock but a folder or a pipe. Take it away: as long as it is "
+           "there nothing keeps a second program from writing the same records.";
+}
+
 bool FolderLock::callTheOther(std::chrono::milliseconds patience)
 {
+    if (isNoFile(m_request)) return false;
     QFile request(m_request);
     if (!request.open(QIODevice::WriteOnly)) return false;
     request.close();

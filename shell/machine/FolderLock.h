@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <functional>
+#include <string>
 
 namespace korvel
 {
@@ -25,6 +26,10 @@ public:
     /// locked: no record is written there either, and any number of programs may read it.
     bool isHeldByAnother() const;
 
+    /// Why the folder cannot be locked although records can be written there, in words; empty when
+    /// nothing is in the way.
+    std::string fault() const;
+
     /// Asks the program that holds the folder to come to the front and waits for it.
     /// @return false when it does not answer
     bool callTheOther(std::chrono::milliseconds patience);
@@ -34,6 +39,7 @@ public:
 
 private:
     QString m_request;
+    QString m_lockFile;
     QLockFile m_lock;
     QTimer m_timer;
     std::function<void()> m_comeToFront;

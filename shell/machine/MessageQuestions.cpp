@@ -2,6 +2,7 @@
 #include "shell/machine/MessageQuestions.h"
 
 #include "shell/machine/DocumentsFolder.h"
+#include "shell/machine/ExecOwned.h"
 #include "shell/machine/WholeLines.h"
 
 #include <QApplication>
@@ -143,6 +144,15 @@ QString filterOf(const QString& ending)
     return QString("%1 (*.%2)").arg(ending.toUpper(), ending);
 }
 
+/// Shows a dialog until it is left, and deletes it. @return the path chosen; empty for none
+QString chosenIn(QFileDialog* dialog)
+{
+    QString path;
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog,
+                     [&path](const QString& file) { path = file; });
+    return execOwned(dialog) == QDialog::Accepted ? path : QString();
+}
+
 } // namespace
 
 std::optional<std::string> MessageQuestions::chosen(const QString& path)
@@ -157,22 +167,20 @@ std::optional<std::string> MessageQuestions::fileToWrite(const std::string& titl
 {
     const QString name = QString::fromStdString(offered);
     const QString ending = QFileInfo(name).suffix();
-    const QPointer<QFileDialog> dialog =
-        new QFileDialog(asker(), shown(title), m_lastFolder, filterOf(ending));
+    auto* dialog = new QFileDialog(asker(), shown(title), m_lastFolder, filterOf(ending));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setDefaultSuffix(ending); // before it asks whether a file may be replaced
     dialog->selectFile(name);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    const QStringList files = dialog && accepted ? dialog->selectedFiles() : QStringList();
-    delete dialog.data();
-    return chosen(files.value(0));
+    return chosen(chosenIn(dialog));
 }
 
 std::optional<std::string> MessageQuestions::fileToRead(const std::string& title,
                                                         const std::string& ending)
 {
-    return chosen(QFileDialog::getOpenFileName(asker(), shown(title), m_lastFolder,
-                                               filterOf(QString::fromStdString(ending))));
+    auto* dialog = new QFileDialog(asker(), shown(title), m_lastFolder,
+                                   filterOf(QString::fromStdString(ending)));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    return chosen(chosenIn(dialog));
 }
 
 void MessageQuestions::beep()

@@ -21,7 +21,6 @@
 #include "shell/screen/ScreenStyle.h"
 
 #include <QDir>
-#include <QFileDialog>
 #include <QIcon>
 #include <QTimer>
 
@@ -131,6 +130,7 @@ int runProgram(int argc, char* argv[], const ClockMaker& makeClock, const Window
         tellAboutTheOther(questions, places.records, lock.callTheOther(3s));
         return 0;
     }
+    if (!lock.fault().empty()) questions.ask({lock.fault(), programTitle, Buttons::Ok});
     questions.beep();
     const auto clock = makeClock();
     SystemBell bell;

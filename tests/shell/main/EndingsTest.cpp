@@ -17,6 +17,8 @@
 #include <filesystem>
 #include <thread>
 
+#include <sys/stat.h>
+
 namespace korvel
 {
 namespace
@@ -179,6 +181,27 @@ TEST_F(FolderLockTest, theLockOfACrashedProgramDoesNotStand)
     next.answerCalls([&] { ++calls; });
     QTest::qWait(600);
     EXPECT_EQ(calls, 0) << "a call to the one before";
+}
+
+TEST_F(FolderLockTest, whatIsNoFileIsNeverWaitedFor)
+{
+    const std::string lock = folder.filePath("KV_KORVEL.lock").toStdString();
+    const std::string call = folder.filePath("KV_KORVEL.call").toStdString();
+    for (const bool isPipe : {true, false}) {
+        for (const std::string& name : {lock, call}) {
+            std::filesystem::remove(name);
+            if (isPipe)
+                ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
+            else
+                ASSERT_TRUE(std::filesystem::create_directory(name));
+        }
+        FolderLock first(folder.path());
+        EXPECT_FALSE(first.isHeldByAnother()) << isPipe;
+        EXPECT_THAT(first.fault(), ::testing::HasSubstr("KV_KORVEL.lock")) << isPipe;
+        EXPECT_FALSE(first.callTheOther(50ms)) << isPipe;
+    }
+    std::filesystem::remove(lock);
+    EXPECT_EQ(FolderLock(folder.path()).fault(), "");
 }
 
 } // namespace

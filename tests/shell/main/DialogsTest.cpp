@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "calculator_windows.h"
+#include "shell/machine/MessageQuestions.h"
+#include "tests/SourceFolder.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+
+#include <filesystem>
+
+// The session can end while any dialog of any window waits: the window goes under it, and neither
+// it nor the dialog may be touched afterwards.
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+/// The program with the officer's real boxes, and somebody who ends the session under the first
+/// dialog that waits.
+class EndedSession
+{
+public:
+    explicit EndedSession(const QString& folder) : m_files(folder)
+    {
+        QObject::connect(&m_attendant, &QTimer::timeout, &m_attendant, [this] {
+            if (!QApplication::activeModalWidget() || m_dialogs++ > 0) return;
+            m_main.endSession();
+        });
+        m_attendant.start(5);
+    }
+
+    /// Chooses an entry of a window. @return whether there is one of that number
+    bool choose(const QString& window, int number)
+    {
+        m_main.openWindow(window);
+        const auto entries = onScreen(window).findChildren<QAction*>(isEntry);
+        if (number >= entries.size()) return false;
+        if (entries[number]->isEnabled() && !entries[number]->menu()) entries[number]->trigger();
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return true;
+    }
+
+    int dialogs() const { return m_dialogs; }
+
+private:
+    static QWidget& onScreen(const QString& name)
+    {
+        if (QWidget* found = shown(name)) return *found;
+        throw std::runtime_error("no window " + name.toStdString());
+    }
+
+    inline static const QRegularExpression isEntry{"^mnu.*\\)$"};
+    MessageQuestions m_questions;
+    FakeClock m_clock;
+    FakeBell m_bell;
+    ProgramFolder m_files;
+    frmKORVEL2000 m_main{{m_questions, m_clock, m_files, m_bell}, calculatorWindows()};
+    QTimer m_attendant;
+    int m_dialogs = 0;
+};
+
+class DialogsTest : public ::testing::TestWithParam<CatalogueEntry>
+{
+};
+
+TEST_P(DialogsTest, theSessionEndsUnderEveryOne)
+{
+    const QTemporaryDir folder;
+    std::filesystem::copy(sourceFile("data"), folder.path().toStdString(),
+                          std::filesystem::copy_options::recursive);
+    int dialogs = 0;
+    bool isThere = true;
+    for (int number = 0; isThere; ++number) {
+        EndedSession session(folder.path());
+        isThere = session.choose(GetParam().name, number);
+        dialogs += session.dialogs();
+    }
+    EXPECT_GE(dialogs, 4) << "at least a memory's question, two of saving and a preview";
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, DialogsTest, ::testing::ValuesIn(calculatorWindows()),
+                         [](const auto& tested) { return tested.param.name.toStdString(); });
+
+} // namespace
+} // namespace korvel
