@@ -79,17 +79,29 @@ void ShipsTime::setUp()
 
     const DateTime typed = askSMT();
     const Answer set = m_questions.ask({"SMT was changed as  " + Format(typed, "yy/mm/dd hh:mm"),
-                                        programTitle, Buttons::OkCancel});
+                                        confirmationTitle, Buttons::OkCancel});
     if (set != Answer::Ok) return;
+    const float TDBefore = m_saved.TD();
     inputTD();
     if (isOnCalendar(typed - hoursOf(ClockZone::SMT) / 24))
         setComputerClock(typed);
     else
-        m_questions.ask({"SMT " + Format(typed, "yyyy/mm/dd hh:mm") +
-                             " is refused: it is too near to the end of the calendar, which "
-                             "reaches from 1900 to 9999.",
-                         programTitle, Buttons::Ok});
+        refuse(typed, TDBefore);
     refresh();
+}
+
+/// Time and TD belong together: where one is refused the other stays as it was.
+void ShipsTime::refuse(DateTime typedSMT, float TDBefore)
+{
+    const std::string refused = "SMT " + Format(typedSMT, "yyyy/mm/dd hh:mm") + " with TD " +
+                                Format(static_cast<double>(m_saved.TD()), "0.0");
+    m_saved.setTD(TDBefore);
+    m_hooks.showCaption(caption(TDBefore));
+    m_questions.ask({refused +
+                         " is refused: it is too near to the end of the calendar, which reaches "
+                         "from 1900 to 9999.\rNothing was changed, TD is " +
+                         Format(static_cast<double>(TDBefore), "0.0") + " as before.",
+                     programTitle, Buttons::Ok});
 }
 
 ShipsTime::DateTime ShipsTime::askSMT()
@@ -157,12 +169,14 @@ std::string ShipsTime::zoneNotice() const
 
     const DateTime byZone = m_clock.now() - ahead / 24;
     const std::string both = "UTC is " + Format(byZone, "dd-hhmm") +
-                             " by the computer's own zone, " + Format(UTC(), "dd-hhmm") +
-                             " here. Property, The computer's clock keeps: ";
+                             " by the computer's own zone, " + Format(UTC(), "dd-hhmm") + " here.";
+    const std::string choose = both + " Property, The computer's clock keeps: choose ";
     for (const ClockZone zone : {ClockZone::UTC, ClockZone::JST, ClockZone::SMT})
-        if (agrees(hoursOf(zone), corrected))
-            return both + "choose " + zoneNames[static_cast<int>(zone)];
-    return both + "choose SMT with TD " + Format(corrected, "0.0##");
+        if (agrees(hoursOf(zone), corrected)) return choose + zoneNames[static_cast<int>(zone)];
+    // A TD has one decimal and no more than 12 hours: it cannot hold every zone.
+    const double TD = readNumber(Format(corrected, "0.0"));
+    if (!agrees(TD, corrected) || std::fabs(TD) > 12) return both;
+    return choose + "SMT with TD " + Format(TD, "0.0");
 }
 
 void ShipsTime::inputTD()

@@ -73,6 +73,7 @@ private:
     DateTime askSMT();
     void show();
     void setComputerClock(DateTime typedSMT);
+    void refuse(DateTime typedSMT, float TDBefore);
 
     KV_Savedvalue& m_saved;
     Questions& m_questions;

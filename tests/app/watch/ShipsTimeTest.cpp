@@ -148,9 +148,12 @@ TEST_F(ShipsTimeTest, staysOnTheCalendarWithAnyTD)
     for (const Golden& row : golden("calendar_ends")) {
         at("2005/3/14 9:30");
         clock.sets.clear();
+        saved.setTD(3);
         const bool taken = row.tick("taken");
         setUp("Yes; " + row.text("smt") + "; OK; " + row.text("TD") + (taken ? "" : "; OK"));
         EXPECT_EQ(clock.sets.size(), taken ? 1u : 0u) << row;
+        EXPECT_EQ(saved.TD() == 3, !taken) << row;
+        EXPECT_EQ(captions.back() == "KORVEL (3.0 hE)", !taken) << row;
         EXPECT_EQ(questions.asked.back().find("calendar") != std::string::npos, !taken) << row;
     }
     // Nor does it leave it when it runs on.
