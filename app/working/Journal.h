@@ -4,6 +4,7 @@
 #include "app/records/FileStore.h"
 #include "navlib/units.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -24,15 +25,37 @@ public:
 
     /// The days that have a file, "2026-11-21", the latest first.
     std::vector<std::string> days() const;
-    /// What was kept on a day; for a file that cannot be read the reason.
+    /// What was kept on a day, of a file beyond all days its end; for one that cannot be read the
+    /// reason.
     std::string text(const std::string& day) const;
-    /// The days whose text has these words, without regard to small and capital Latin letters.
-    std::vector<std::string> daysWith(const std::string& words) const;
 
     static std::string fileName(const std::string& day);
 
 private:
     FileStore& m_files;
+};
+
+/// Looks for the days whose text has some words, without regard to small and capital Latin letters;
+/// a piece of a file at a time, so that whoever types the words is never kept waiting.
+class JournalSearch
+{
+public:
+    /// @param files must outlive this object
+    /// @param words not empty
+    JournalSearch(FileStore& files, const std::string& words);
+
+    /// Reads the next piece. @return whether there is more to read
+    bool goOn();
+    /// The days found so far, the latest first.
+    const std::vector<std::string>& found() const { return m_found; }
+
+private:
+    FileStore& m_files;
+    std::string m_words; ///< in small letters
+    std::vector<std::string> m_days;
+    std::size_t m_day = 0; ///< that is being read
+    std::int64_t m_at = 0; ///< where in its file
+    std::vector<std::string> m_found;
 };
 
 } // namespace korvel

@@ -9,6 +9,12 @@
 
 namespace korvel
 {
+namespace
+{
+
+constexpr int mostMarked = 400; // a single letter stands in every line
+
+} // namespace
 
 HelpView::HelpView(const Manual& manual, QWidget* parent) : QTextBrowser(parent), m_manual(manual)
 {
@@ -124,8 +130,8 @@ bool HelpView::findNext(const QString& words, bool backwards)
 void HelpView::mark(const QString& words)
 {
     QList<ExtraSelection> marked;
-    for (const QString& word : words.split(' ', Qt::SkipEmptyParts))
-        for (QTextCursor at = document()->find(word); !at.isNull();
+    for (const QString& word : wordsToFind(words))
+        for (QTextCursor at = document()->find(word); !at.isNull() && marked.size() < mostMarked;
              at = document()->find(word, at)) {
             ExtraSelection selection;
             selection.cursor = at;

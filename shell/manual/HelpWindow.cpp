@@ -22,6 +22,7 @@ namespace
 constexpr int pageRole = Qt::UserRole;
 constexpr int positionRole = Qt::UserRole + 1;
 constexpr int mostFound = 200;
+constexpr int longestSearch = 100; // a pasted page is no search
 
 QPushButton* button(const char* name, const QString& caption, const QString& keys)
 {
@@ -44,6 +45,7 @@ HelpWindow::HelpWindow(const Manual& manual, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     m_txtFind->setObjectName("txtFindHelp");
     m_txtFind->setAccessibleName("Find in the manual");
+    m_txtFind->setMaxLength(longestSearch);
     m_lstFound->setObjectName("lstHelp");
     m_lstFound->setAccessibleName("Contents, or what was found");
     m_lstFound->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -152,7 +154,7 @@ void HelpWindow::showFound(const QString& words)
 {
     m_lstFound->clear();
     if (m_lines.empty()) readAll();
-    const QStringList wanted = words.split(' ', Qt::SkipEmptyParts);
+    const QStringList wanted = wordsToFind(words);
     for (const Line& line : m_lines)
         if (m_lstFound->count() < mostFound && holdsWords(line.place.text, wanted))
             addItem(line.title + ": " + line.place.text, line.page, line.place.position);

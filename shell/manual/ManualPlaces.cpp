@@ -103,6 +103,13 @@ std::vector<PagePlace> linesOf(const QTextDocument& page)
     return lines;
 }
 
+QStringList wordsToFind(const QString& typed)
+{
+    QStringList words = typed.split(' ', Qt::SkipEmptyParts);
+    words.removeDuplicates();
+    return words;
+}
+
 bool holdsWords(const QString& text, const QStringList& words)
 {
     return std::all_of(words.begin(), words.end(), [&](const QString& word) {

@@ -30,6 +30,8 @@ std::vector<PagePlace> sectionsOf(const QTextDocument& page);
 
 /// Everything in a page, for a search.
 std::vector<PagePlace> linesOf(const QTextDocument& page);
+/// The words of a search, each once.
+QStringList wordsToFind(const QString& typed);
 /// True when a text holds all of some words, in any order and spelt in capitals or not.
 bool holdsWords(const QString& text, const QStringList& words);
 

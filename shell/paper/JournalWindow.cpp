@@ -6,6 +6,7 @@
 #include "shell/program/Program.h"
 #include "shell/screen/WindowPlaces.h"
 
+#include <QDeadlineTimer>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -20,19 +21,30 @@ namespace korvel
 namespace
 {
 
+using namespace std::chrono_literals;
+
 constexpr const char* widestDay = "0000-00-00 00";
+constexpr int longestSearch = 100; // letters: a pasted page is no search
+constexpr auto atOnce = 50ms;      // of a search, before the next key is looked at
 
 } // namespace
 
 JournalWindow::JournalWindow(Program& program)
-    : m_journal(program.files()), m_printer(program, *this), m_menus(program, *this),
-      m_search(new QLineEdit), m_days(new QListWidget), m_text(new QPlainTextEdit),
-      m_found(new QLabel)
+    : m_files(program.files()), m_journal(m_files), m_printer(program, *this),
+      m_menus(program, *this), m_search(new QLineEdit), m_days(new QListWidget),
+      m_text(new QPlainTextEdit), m_found(new QLabel)
 {
     setObjectName("frmJournal");
     setWindowTitle("Journal of kept papers");
     m_search->setObjectName("txtSearch");
     m_search->setAccessibleName("Words to be found in the journal");
+    m_search->setMaxLength(longestSearch);
+    m_searchOn.setSingleShot(true);
+    connect(&m_searchOn, &QTimer::timeout, this, [this] {
+        const QString before = day();
+        searchOn();
+        if (day() != before) showDay();
+    });
     m_search->setPlaceholderText("Words to be found; Enter goes on to the next place");
     m_days->setObjectName("lstDays");
     m_days->setAccessibleName("Days of the journal");
@@ -90,9 +102,33 @@ QString JournalWindow::day() const
 
 void JournalWindow::refresh()
 {
-    const QString before = day();
+    m_searchOn.stop();
     const std::string words = m_search->text().toStdString();
-    const auto days = words.empty() ? m_journal.days() : m_journal.daysWith(words);
+    m_running = words.empty() ? nullptr : std::make_unique<JournalSearch>(m_files, words);
+    if (m_running)
+        searchOn();
+    else
+        showDays(m_journal.days());
+    showDay();
+}
+
+/// Searches for a moment, and goes on when whatever else there is to do is done.
+void JournalWindow::searchOn()
+{
+    const QDeadlineTimer end(atOnce);
+    bool isMore = true;
+    while (isMore && !end.hasExpired())
+        isMore = m_running->goOn();
+    showDays(m_running->found());
+    if (!isMore) return;
+    m_found->setText(m_found->text() + "  Searching on..");
+    m_searchOn.start(0);
+}
+
+/// Lists days; the one that is shown stays where it is among them.
+void JournalWindow::showDays(const std::vector<std::string>& days)
+{
+    const QString before = day();
     {
         const QSignalBlocker quiet(m_days);
         m_days->clear();
@@ -106,12 +142,11 @@ void JournalWindow::refresh()
     }
     const auto count = QString::number(days.size());
     if (days.empty())
-        m_found->setText(words.empty() ? "Nothing was kept yet: \"Keep in the journal\" in the "
-                                         "menu Paper of any window keeps its paper."
-                                       : "On no day.");
+        m_found->setText(m_running ? "On no day."
+                                   : "Nothing was kept yet: \"Keep in the journal\" in the "
+                                     "menu Paper of any window keeps its paper.");
     else
-        m_found->setText(words.empty() ? "Days: " + count : "Found on days: " + count);
-    showDay();
+        m_found->setText(m_running ? "Found on days: " + count : "Days: " + count);
 }
 
 void JournalWindow::showDay()

@@ -32,11 +32,16 @@ public:
 private:
     void addMenus(Program& program);
     void showDay();
+    void searchOn();
+    void showDays(const std::vector<std::string>& days);
     void findNext();
     void print() const;
     QString day() const;
 
+    FileStore& m_files;
     Journal m_journal;
+    std::unique_ptr<JournalSearch> m_running; ///< none while there is nothing to search for
+    QTimer m_searchOn;
     PagePrinter m_printer;
     WindowMenus m_menus;
     QLineEdit* m_search;

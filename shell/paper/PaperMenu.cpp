@@ -80,7 +80,14 @@ void PaperMenu::savePDF() const
 
 void PaperMenu::copyResults() const
 {
-    QApplication::clipboard()->setText(asQString(resultsText(m_hooks.document().paper())));
+    const std::string results = resultsText(m_hooks.document().paper());
+    // A figure in miles says nothing without the mile that it is in.
+    const bool isInMiles = results.find("nautical mile") != std::string::npos ||
+                           results.find("\tnm\n") != std::string::npos;
+    const char* const mile =
+        m_program.saved().unitOfLatitude() ? "1nm=1' (of LATITUDE)" : "1nm=1852m";
+    QApplication::clipboard()->setText(
+        asQString(results + (isInMiles ? std::string("Miles\t") + mile + '\n' : "")));
     m_hooks.tell("Results copied.");
 }
 
