@@ -45,9 +45,9 @@ public:
     virtual void beep() = 0;
 };
 
-/// The title of confirmations and refusals that the documents give one to.
+/// The title of questions and confirmations, and of the refusals of the memories.
 inline constexpr const char* confirmationTitle = "Brinemark";
-/// The program's own title, on every box without a title of its own.
+/// The program's own title: on what only tells, and on the questions of alarms and storing.
 inline constexpr const char* programTitle = "KORVEL2000";
 
 } // namespace korvel

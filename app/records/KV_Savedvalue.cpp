@@ -23,9 +23,10 @@ bool isWithin(const Value& value)
     return numberOf(value) >= Low && numberOf(value) <= High;
 }
 
-bool isNotNegative(const Value& value)
+/// What was stored from a box of forty digits; beyond it nothing is a figure of a ship.
+bool isMemory(const Value& value)
 {
-    return numberOf(value) >= 0;
+    return numberOf(value) >= 0 && numberOf(value) < 1e40;
 }
 
 bool isTimeOfDay(const Value& value)
@@ -60,7 +61,7 @@ std::array<SavedValueRow, KV_Savedvalue::count> makeTable()
         {"latitude of the Position Memo", Kind::Number, 0.0, isWithin<-90, 90>});
     set(SavedValue::MemoLongitude, 1,
         {"longitude of the Position Memo", Kind::Number, 0.0, isWithin<-180, 180>});
-    set(SavedValue::SingleMemo, 1, {"Single Memo", Kind::Number, 0.0, isNotNegative});
+    set(SavedValue::SingleMemo, 1, {"Single Memo", Kind::Number, 0.0, isMemory});
     set(SavedValue::TimeDifference, 1,
         {"time difference", Kind::Number, defaultTD, isWithin<-12, 12>});
     return table;
@@ -146,8 +147,10 @@ std::vector<std::string> KV_Savedvalue::take(const Record& record)
     };
     if (!soundAt(SavedValue::MemoLatitude) || !soundAt(SavedValue::MemoLongitude))
         setPositionMemo({}, {});
-    setClockZone(clockZone());
-    setNightColours(nightColours());
+    int ticks = 0;
+    for (int zone = 0; zone < 3; ++zone)
+        ticks += tickOf((*this)(zone)) ? 1 : 0;
+    if (ticks != 1) setClockZone(clockZone()); // what was never set stays so
     // Kept in single precision, as it is set.
     setTD(TD());
     return refused;

@@ -27,6 +27,8 @@ std::string bytesAsTaken(const Record& record)
 {
     KV_Savedvalue saved;
     saved.take(record);
+    saved.setClockZone(saved.clockZone());
+    saved.setNightColours(saved.nightColours());
     return bytesOf(saved);
 }
 
@@ -50,7 +52,7 @@ void RecoveryFile::offer(KV_Savedvalue& saved)
                                    "and choices as they were at " +
                                        when + " (the computer's clock) are kept in \"" + name +
                                        "\".\r\rTake them over?",
-                                   programTitle, Buttons::YesNo}) == Answer::Yes) {
+                                   confirmationTitle, Buttons::YesNo}) == Answer::Yes) {
         takeAndTell(saved, *record, name, m_questions);
         m_kept = bytesOf(saved);
     } else if (!m_file.isProtected()) {

@@ -172,10 +172,7 @@ ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds)
     }
     result.record.resize(kinds.size());
     result.wasRead.resize(kinds.size(), false);
-    items.skipEmptyLines();
-    if (!items.atEnd())
-        result.damage.push_back("it goes on behind its " + std::to_string(kinds.size()) +
-                                " values");
+    // Whatever goes on behind the last value is none of the record's.
     if (!cutOff) settle(result, text, kinds);
     return result;
 }

@@ -70,6 +70,8 @@ frmETA::frmETA(Program& program)
         for (std::size_t end = 0; end < m_TD.size(); ++end)
             texts[4 + end] = m_TD[end]->recorded();
     });
+    for (FollowingTD* TD : m_TD)
+        TD->awaitRecord();
     loadSettings();
     for (FollowingTD* TD : m_TD)
         TD->settle();

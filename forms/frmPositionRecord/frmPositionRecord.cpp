@@ -15,6 +15,8 @@
 #include <QClipboard>
 #include <QMenu>
 
+#include <algorithm>
+
 namespace korvel
 {
 namespace
@@ -233,7 +235,7 @@ void frmPositionRecord::insertRowHere()
 
 void frmPositionRecord::clearAll()
 {
-    const Message question{"Clear all 29 rows of the position record?", programTitle,
+    const Message question{"Clear all 29 rows of the position record?", confirmationTitle,
                            Buttons::YesNo};
     if (program().questions().ask(question) == Answer::Yes)
         changeRows(RowChange::Kind::Replaced, [](PositionRows& rows) { rows = {}; });
@@ -295,6 +297,8 @@ void frmPositionRecord::importList()
         return;
     }
     changeRows(RowChange::Kind::Replaced, [&list](PositionRows& rows) { rows = list.rows; });
+    const auto count = positionRowCount - std::ranges::count(list.rows, PositionRow{});
+    sayForAWhile(QString("%1 rows imported; Record, Undo brings back what was there.").arg(count));
 }
 
 WorkingPaper frmPositionRecord::paper() const

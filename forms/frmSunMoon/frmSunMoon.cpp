@@ -338,8 +338,8 @@ void frmSunMoon::cmdToday_Click()
 
 void frmSunMoon::clearAll()
 {
-    if (program().questions().ask(
-            {"Are you sure to clear all contents?", programTitle, Buttons::YesNo}) != Answer::Yes)
+    if (program().questions().ask({"Are you sure to clear all contents?", confirmationTitle,
+                                   Buttons::YesNo}) != Answer::Yes)
         return;
     std::vector<QString> texts;
     for (const EntryBox* box : m_table->boxes())

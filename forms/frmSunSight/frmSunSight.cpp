@@ -31,6 +31,7 @@ frmSunSight::frmSunSight(Program& program)
     followTD();
     useRecord();
     loadSettings();
+    offerDate();
     if (!m_list.list().sights().empty()) calculations().run(m_fixCalculation);
     m_entry->box(SightField::date)->setFocus();
     m_entry->box(SightField::date)->selectAll();
@@ -43,6 +44,8 @@ void frmSunSight::connectPanels()
             if (!calculations().isHeld()) calculations().run(number);
         };
     };
+    connect(m_entry, &EntryPanel::scaleOrLimbChanged, this, [this] { offerDate(); });
+    connect(&program(), &Program::minuteChanged, this, &frmSunSight::offerDate);
     connect(m_entry, &EntryPanel::scaleOrLimbChanged, this, run(m_lineCalculation));
     connect(m_entry, &EntryPanel::measuredChanged, this, run(m_fixCalculation));
     connect(m_entry, &EntryPanel::markAsked, this, &frmSunSight::cmdMark_Click);
@@ -107,8 +110,10 @@ void frmSunSight::useRecord()
     record().use(
         "KV_SunSight.ini", sightKinds(),
         [this] {
-            return recordOf(
-                {m_entry->sight(), m_entry->track(), m_entry->options(), m_list.list()});
+            SightTexts sight = m_entry->sight();
+            // The day of a sight that is not begun is that of the next opening.
+            if (!sight.isBegun() && asQString(sight.date) == m_offeredDate) sight.date.clear();
+            return recordOf({sight, m_entry->track(), m_entry->options(), m_list.list()});
         },
         [this](const Record& record) { takeOver(settingsOf(record)); },
         [this](const std::string& bytes) { salvage(bytes); });
@@ -207,7 +212,7 @@ void frmSunSight::cmdDelete_Click()
     const auto chosen = m_sights->chosen();
     if (!chosen) return;
     const Message question{"Delete this sight?\r\r" + listLine(m_list.list().sights()[*chosen]),
-                           programTitle, Buttons::YesNo};
+                           confirmationTitle, Buttons::YesNo};
     if (program().questions().ask(question) != Answer::Yes) return;
     m_list.remove(*chosen);
     showEditing();
@@ -225,13 +230,27 @@ void frmSunSight::clearSight()
     m_list.edit({});
     showEditing();
     m_entry->clearSight();
+    offerDate();
     m_entry->box(SightField::date)->setFocus(Qt::TabFocusReason);
+}
+
+/// A new sight is one of today: until it is begun its date follows the day, unless another one was
+/// typed.
+void frmSunSight::offerDate()
+{
+    EntryBox* box = m_entry->box(SightField::date);
+    const SightTexts sight = m_entry->sight();
+    const bool isOffered = box->text().isEmpty() || box->text() == m_offeredDate;
+    if (calculations().isHeld() || sight.isBegun() || !isOffered) return;
+    const ShipsTime& time = program().shipsTime();
+    m_offeredDate = asQString(Format(sight.SMT ? time.SMT() : time.UTC(), "yyyy/mm/dd"));
+    if (box->text() != m_offeredDate) box->setText(m_offeredDate);
 }
 
 void frmSunSight::deleteAll()
 {
-    if (program().questions().ask(
-            {"Are you sure to clear all contents?", programTitle, Buttons::YesNo}) != Answer::Yes)
+    if (program().questions().ask({"Are you sure to clear all contents?", confirmationTitle,
+                                   Buttons::YesNo}) != Answer::Yes)
         return;
     m_list.clear(m_entry->sight());
     clearSight();

@@ -57,6 +57,7 @@ private:
     void undo();
     void fixBecomesDR();
     void followTD();
+    void offerDate();
 
     void listChanged();
     void showEditing();
@@ -67,7 +68,8 @@ private:
     SightListPanel* m_sights;
 
     SightEditing m_list;
-    QString m_shipsTD; ///< as it was put into the box
+    QString m_shipsTD;     ///< as it was put into the box
+    QString m_offeredDate; ///< of a sight that is not begun, as it was put into the box
     LOPResult m_line;
     MeridianResult m_noon;
     SightFixResult m_fix;

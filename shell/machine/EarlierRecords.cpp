@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr const char* factorsFile = "AF2005.txt";
+constexpr qint64 largestRecord = 1 << 20; // larger ones are not read either
 
 QStringList recordsIn(const QString& folder)
 {
@@ -20,7 +21,7 @@ QStringList recordsIn(const QString& folder)
 /// A copy that can be written to even where the original could not, as on a protected stick.
 bool copyFile(const QString& from, const QString& to)
 {
-    return QFile::copy(from, to) &&
+    return QFileInfo(from).size() <= largestRecord && QFile::copy(from, to) &&
            QFile::setPermissions(to, QFile::permissions(to) | QFile::WriteOwner | QFile::ReadOwner);
 }
 
@@ -72,7 +73,7 @@ void settleRecords(const Places& places, const QStringList& arguments, Questions
         const std::string folder = QDir::toNativeSeparators(places.records).toStdString();
         const Message offer{"Your records are kept in\r" + folder +
                                 "\r\rTake over those of an earlier portable folder?",
-                            programTitle, Buttons::YesNo};
+                            confirmationTitle, Buttons::YesNo};
         if (questions.ask(offer) == Answer::Yes) earlierFolder = chooseFolder();
     }
     if (!earlierFolder.isEmpty()) questions.ask({takeRecords(earlierFolder, places), programTitle});

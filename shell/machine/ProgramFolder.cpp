@@ -136,8 +136,14 @@ std::optional<std::string> ProgramFolder::append(const std::string& name, const 
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
         return file.errorString().toStdString();
     const auto length = static_cast<qint64>(bytes.size());
-    if (file.write(bytes.data(), length) == length) return std::nullopt;
-    const std::string reason = file.errorString().toStdString();
+    const qint64 written = file.write(bytes.data(), length);
+    if (written == length) return std::nullopt;
+    // A disk that took a part has no error to tell yet: the next byte has.
+    if (written >= 0 && file.error() == QFileDevice::NoError)
+        file.write(bytes.data() + written, length - written);
+    const std::string reason = file.error() == QFileDevice::NoError
+                                   ? "there is no room left on the disk"
+                                   : file.errorString().toStdString();
     file.resize(before);
     return reason;
 }

@@ -76,9 +76,12 @@ void MainMenus::addProperty()
 
 void MainMenus::addScreen(QMenu* property)
 {
-    QAction* night = addEntry(property, "mnuBackColor", "&Night colours", m_actions.chooseColours);
-    night->setCheckable(true);
-    night->setShortcut(Qt::Key_F8);
+    QMenu* colours = addMenu(property->addMenu("Colou&rs"), "mnuBackColor");
+    const char* const schemes[] = {"&Day", "&Night"}; // F8 goes between them
+    for (int i = 0; i < 2; ++i)
+        addEntry(colours, memberName("mnuBackColor", i), schemes[i], [this, i] {
+            m_actions.chooseColours(i == 1);
+        })->setCheckable(true);
     addEntry(property, "mnuClockOnTop", "&Keep this window on top", m_actions.chooseClockOnTop)
         ->setCheckable(true);
     addEntry(property, "mnuReopen", "&Open these windows again at the next start",
@@ -112,7 +115,8 @@ void MainMenus::show(const KV_Savedvalue& saved, const ScreenChoices& screen)
         m_entries.at(memberName("mnuSystemClock", i))
             ->setChecked(saved.clockZone() == static_cast<ClockZone>(i));
     m_entries.at("mnuDIST")->setChecked(saved.unitOfLatitude());
-    m_entries.at("mnuBackColor")->setChecked(saved.nightColours());
+    for (int i = 0; i < 2; ++i)
+        m_entries.at(memberName("mnuBackColor", i))->setChecked(saved.nightColours() == (i == 1));
     m_entries.at("mnuClockOnTop")->setChecked(screen.clockOnTop);
     m_entries.at("mnuReopen")->setChecked(screen.reopensWindows);
 }

@@ -30,7 +30,7 @@ public:
         std::function<void(int n)> setUpAlarm;
         std::function<void()> setUpTimeSignal;
         std::function<void()> chooseDistanceUnit;
-        std::function<void()> chooseColours;
+        std::function<void(bool night)> chooseColours;
         std::function<void()> setShip;
         std::function<void()> openJournal;
         std::function<void()> chooseReopening;

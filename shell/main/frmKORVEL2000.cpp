@@ -137,7 +137,10 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         MemoHyoujiAtStart();
         emit m_program.distanceUnitChanged();
     });
-    actions.chooseColours = [this] { m_screen.toggleNight(); };
+    actions.chooseColours = [this](bool night) {
+        if (night != m_saved.nightColours()) m_screen.toggleNight();
+        m_menus.show(m_saved, m_screen.choices());
+    };
     actions.chooseReopening = [this] { m_screen.toggleReopening(); };
     actions.chooseClockOnTop = [this] {
         m_screen.toggleClockOnTop();
@@ -326,7 +329,7 @@ void frmKORVEL2000::keepOpen(const std::set<QString>& windows)
         place->open = windows.contains(entry.name);
         m_screen.keepPlace(entry.name, *place);
     }
-    m_screen.save();
+    m_screen.saveAtClose();
 }
 
 void frmKORVEL2000::comeToFront()

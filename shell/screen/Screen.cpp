@@ -108,6 +108,12 @@ void Screen::save()
         m_onDisk = m_choices;
 }
 
+void Screen::saveAtClose()
+{
+    m_saveSoon.stop();
+    if (m_choices != m_onDisk && m_file.saveAtClose(m_choices.record())) m_onDisk = m_choices;
+}
+
 bool Screen::eventFilter(QObject* watched, QEvent* event)
 {
     const bool goesDown = event->type() == QEvent::KeyPress;

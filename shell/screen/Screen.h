@@ -46,6 +46,8 @@ public:
     std::optional<WindowPlace> placeOf(const QString& window) const;
     /// Writes what is not written yet.
     void save();
+    /// The same at the end of the program: a disk that fails is said, with the file's name.
+    void saveAtClose();
 
     /// Takes the keys for the colours before anybody else: boxes that stand before all windows
     /// would keep menu shortcuts from them.

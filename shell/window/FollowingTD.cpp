@@ -20,6 +20,13 @@ FollowingTD::FollowingTD(EntryBox* box, Program& program)
     follow();
 }
 
+void FollowingTD::awaitRecord()
+{
+    m_filling = true;
+    m_box->clear();
+    m_filling = false;
+}
+
 void FollowingTD::settle()
 {
     if (m_box->text().trimmed().isEmpty()) follow();

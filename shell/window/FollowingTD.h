@@ -20,6 +20,9 @@ public:
     bool follows() const { return m_follows; }
     /// What the record keeps of the box.
     std::string recorded() const { return m_follows ? std::string() : m_box->value(); }
+    /// To be called before the record fills the box: what it fills in counts as typed, also where
+    /// it is the ship's TD of today.
+    void awaitRecord();
     /// To be called when the record has filled the box.
     void settle();
 

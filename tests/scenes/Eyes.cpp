@@ -207,7 +207,7 @@ void contrasts(Stage& stage, const Words& words)
                         name + " has a contrast of " + Format(seen, "0.0") +
                         (stage.program().saved().nightColours() ? " by night" : " by day"));
             }
-        stage.main().findChild<QAction*>("mnuBackColor")->trigger();
+        stage.program().screen().toggleNight();
         QApplication::processEvents();
     }
 }

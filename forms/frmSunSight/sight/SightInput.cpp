@@ -43,6 +43,17 @@ std::optional<DateTime> readTime(const Field& field, const std::string& text, Du
     return typed.value;
 }
 
+/// A time alone is the one next to the last sight, whose date stands above it.
+std::optional<DateTime> readDRTime(const std::string& text, std::optional<DateTime> lastSight,
+                                   Remarks& remarks)
+{
+    const TypedTime alone = readTypedTime(text, Due::TimeOfDay);
+    if (!lastSight || !alone.value || *alone.value >= 1)
+        return readTime(entryFields[SightField::DRTime], text, Due::DateAndTime, remarks);
+    const DateTime sameDay = std::floor(*lastSight) + *alone.value;
+    return sameDay - std::round(sameDay - *lastSight);
+}
+
 std::optional<DateTime> readUTC(const SightTexts& texts, Remarks& remarks)
 {
     using namespace SightField;
@@ -51,7 +62,10 @@ std::optional<DateTime> readUTC(const SightTexts& texts, Remarks& remarks)
     };
     const auto offset = texts.SMT ? number(TD) : 0;
     const auto error = number(watchError);
-    if (isEmpty(texts.date) && isEmpty(texts.time) && !texts.isBegun()) return std::nullopt;
+    if (!texts.isBegun()) {
+        if (!isEmpty(texts.date)) readTime(entryFields[date], texts.date, Due::Date, remarks);
+        return std::nullopt;
+    }
     const auto day = readTime(entryFields[date], texts.date, Due::Date, remarks);
     const auto watch = readTime(entryFields[time], texts.time, Due::TimeOfDay, remarks);
     if (!day || !watch || !offset || !error) return std::nullopt;
@@ -150,7 +164,7 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
 
 bool SightTexts::isBegun() const
 {
-    return !isEmpty(date) || !isEmpty(time) || !isEmpty(Hs);
+    return !isEmpty(time) || !isEmpty(Hs);
 }
 
 std::optional<double> readBox(const Field& field, const std::string& text,
@@ -225,7 +239,7 @@ Track readTrack(const TrackTexts& texts, std::optional<DateTime> lastSight, bool
         track.motion = Motion{Degrees(*courseMadeGood), Knots(*speedMadeGood)};
     track.UTC = lastSight;
     if (!isEmpty(texts.time)) {
-        track.UTC = readTime(entryFields[DRTime], texts.time, Due::DateAndTime, remarks);
+        track.UTC = readDRTime(texts.time, lastSight, remarks);
         track.timeUsable = track.UTC.has_value();
     }
     return track;

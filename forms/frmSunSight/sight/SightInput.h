@@ -63,7 +63,8 @@ struct Track {
     /// Position at an instant; nothing when an input is missing or the run ends at a pole.
     std::optional<NavFunc113::Position> at(NavFunc113::DateTime instant) const;
 };
-/// @param lastSight  UTC of the last sight: that of the DR position when its box is empty
+/// @param lastSight  UTC of the last sight: that of the DR position when its box is empty; a time
+///                   of day alone is the one nearest to it
 /// @param isNeeded   whether an empty position is remarked upon
 Track readTrack(const TrackTexts& texts, std::optional<NavFunc113::DateTime> lastSight,
                 bool isNeeded, Remarks& remarks);

@@ -7,6 +7,7 @@
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
+#include "navlib/datetime.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/golden/Golden.h"
 
@@ -78,6 +79,22 @@ TEST(CalculateLOP, whatASightShows)
             texts["worksheet"] += line.caption + " " + line.text + "|";
         expectTexts(row, "shows", texts);
     }
+}
+
+TEST(CalculateLOP, aTimeOfDRAloneIsTheOneNearestToTheSight)
+{
+    const auto midnight = static_cast<double>(NavFunc113::DaySerial({2020, 12, 17}));
+    Remarks remarks;
+    for (const auto& [typed, sight, hours] :
+         {std::tuple("11:45:11", 15.5, 11.753), {"23:50", 0.2, -0.1667}, {"0:10", 23.9, 24.1667}}) {
+        const TrackTexts texts{"14.020", "-52.110", typed, "271", "8"};
+        const Track track = readTrack(texts, midnight + sight / 24, true, remarks);
+        ASSERT_TRUE(track.UTC) << typed;
+        EXPECT_NEAR((*track.UTC - midnight) * 24, hours, 1e-3) << typed;
+    }
+    EXPECT_EQ(remarks.text(), "");
+    readTrack({"14.020", "-52.110", "11:45:11", "", ""}, {}, true, remarks);
+    EXPECT_THAT(remarks.text(), HasSubstr("Time of the DR position")) << "of no day";
 }
 
 TEST(CalculateLOP, worksheetAddsUp)

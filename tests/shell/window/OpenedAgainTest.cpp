@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "calculator_windows.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QApplication>
+
+#include <malloc.h>
+
+// A voyage is weeks of the same program: a window that is closed leaves nothing behind.
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+class OpenedAgainTest : public ::testing::TestWithParam<CatalogueEntry>
+{
+protected:
+    void openAndClose(int times)
+    {
+        for (int i = 0; i < times; ++i) {
+            main.openWindow(GetParam().name);
+            shown(GetParam().name)->close();
+            QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QApplication::processEvents();
+        }
+    }
+
+    QTemporaryDir folder;
+    FakeQuestions questions;
+    FakeClock clock;
+    FakeBell bell;
+    ProgramFolder files{folder.path()};
+    frmKORVEL2000 main{{questions, clock, files, bell}, calculatorWindows()};
+};
+
+TEST_P(OpenedAgainTest, leavesNoMemoryBehind)
+{
+    constexpr int times = 24;
+    constexpr std::size_t allowed = 700; // bytes an opening: what the toolkit keeps of its own
+    openAndClose(12);                    // caches fill
+    const std::size_t before = mallinfo2().uordblks;
+    openAndClose(times);
+    const std::size_t after = mallinfo2().uordblks;
+    EXPECT_LT(after, before + times * allowed) << (double(after) - double(before)) / times;
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, OpenedAgainTest, ::testing::ValuesIn(calculatorWindows()),
+                         [](const auto& tested) { return tested.param.name.toStdString(); });
+
+} // namespace
+} // namespace korvel
