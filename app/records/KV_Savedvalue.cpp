@@ -70,7 +70,9 @@ std::array<SavedValueRow, KV_Savedvalue::count> makeTable()
 std::string valueInWords(const Value& value)
 {
     const std::string line = writeRecord(std::span(&value, 1));
-    return line.substr(0, line.find('\r'));
+    constexpr std::size_t longest = 20;
+    const std::string text = line.substr(0, line.find('\r'));
+    return text.size() > longest ? text.substr(0, longest) + ".." : text;
 }
 
 } // namespace
