@@ -21,6 +21,7 @@
 #include "shell/screen/ScreenStyle.h"
 
 #include <QDir>
+#include <QFileDialog>
 #include <QIcon>
 #include <QTimer>
 

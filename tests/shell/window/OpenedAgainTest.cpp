@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "calculator_windows.h"
+#include "shell/controls/Boxes.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
@@ -22,7 +23,11 @@ protected:
     {
         for (int i = 0; i < times; ++i) {
             main.openWindow(GetParam().name);
-            shown(GetParam().name)->close();
+            QWidget* window = shown(GetParam().name);
+            for (auto* box : window->findChildren<EntryBox*>())
+                if (box->text().isEmpty()) box->setText("12.34");
+            QApplication::processEvents();
+            window->close();
             QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
             QApplication::processEvents();
         }
@@ -39,12 +44,14 @@ protected:
 TEST_P(OpenedAgainTest, leavesNoMemoryBehind)
 {
     constexpr int times = 24;
-    constexpr std::size_t allowed = 700; // bytes an opening: what the toolkit keeps of its own
-    openAndClose(12);                    // caches fill
+    constexpr double allowed = 700; // bytes an opening: what the toolkit keeps of its own
+    openAndClose(12);               // caches fill
     const std::size_t before = mallinfo2().uordblks;
     openAndClose(times);
     const std::size_t after = mallinfo2().uordblks;
-    EXPECT_LT(after, before + times * allowed) << (double(after) - double(before)) / times;
+    const double grown = (double(after) - double(before)) / times;
+    RecordProperty("bytesAnOpening", std::to_string(grown));
+    EXPECT_LT(grown, allowed);
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, OpenedAgainTest, ::testing::ValuesIn(calculatorWindows()),
