@@ -3,7 +3,10 @@
 
 #include "app/reading/Format.h"
 #include "app/records/KORVEL2000Actions.h"
+#include "app/working/Interpolation.h"
 #include "navlib/angles.h"
+
+#include <cmath>
 
 namespace korvel
 {
@@ -22,19 +25,42 @@ std::string degreesTerm(Degrees angle)
     return angleTerm(angle, angleDecimals);
 }
 
-void addCourse(Working& working, const NavFunc113::RhumbLeg& leg)
+/// The whole turns between an angle as it was added up and as it is given, " - 360°".
+std::string wholeTurns(Degrees sum, Degrees given)
+{
+    const double turns = std::round((given - sum).value() / 360);
+    return turns == 0 ? "" : (turns > 0 ? " + " : " - ") + figure(360 * std::fabs(turns), 0) + "°";
+}
+
+/// λ2 - λ1 with what makes it the shorter way.
+std::string shorterWay(const std::array<NavFunc113::DegMin, 4>& ends, Degrees change)
+{
+    const Degrees from = DegMinToDeg(ends[1]);
+    const Degrees to = DegMinToDeg(ends[3]);
+    return degreesTerm(to) + " - " + degreesTerm(from) + wholeTurns(to - from, change);
+}
+
+/// A packed latitude taken for decimal degrees, as the tables of factors take it.
+Degrees asItIsWritten(NavFunc113::DegMin lat)
+{
+    return Degrees(std::fabs(lat.packed()));
+}
+
+void addCourse(Working& working, const std::array<NavFunc113::DegMin, 4>& ends,
+               const NavFunc113::RhumbLeg& leg)
 {
     const NavFunc113::RhumbSteps& steps = leg.steps;
     const double parts = steps.parts2 - steps.parts1;
-    working.step("Change of longitude", "Δλ = λ2 - λ1, by the shorter way", "",
+    working.step("Change of longitude", "Δλ = λ2 - λ1, by the shorter way",
+                 shorterWay(ends, steps.changeOfLongitude),
                  figure(steps.changeOfLongitude, angleDecimals), "°");
     working.step("Difference of meridional parts", "ΔM = M2 - M1",
                  term(steps.parts2, partsDecimals) + " - " + term(steps.parts1, partsDecimals),
                  figure(parts, partsDecimals), "'");
     const std::string value = figure(leg.course, angleDecimals);
     if (parts == 0)
-        working.step("Course", "ΔM = 0: 090° to the east, 270° to the west, 000° without Δλ", "",
-                     value, "°");
+        working.step("Course", "ΔM = 0: 090° to the east, 270° to the west, 000° without Δλ",
+                     "Δλ = " + degreesTerm(steps.changeOfLongitude), value, "°");
     else
         working.step("Course", "tan C = 60 Δλ / ΔM, C in the quadrant of Δλ and ΔM",
                      "arctan(60 × " + degreesTerm(steps.changeOfLongitude) + " / " +
@@ -42,12 +68,15 @@ void addCourse(Working& working, const NavFunc113::RhumbLeg& leg)
                      value, "°");
 }
 
-void addLatitudeFactor(Working& working, const NavFunc113::RhumbSteps& steps)
+void addLatitudeFactor(Working& working, const std::array<NavFunc113::DegMin, 4>& ends,
+                       const NavFunc113::RhumbSteps& steps)
 {
-    working.step("Latitude for the length of the minute of latitude", "φm = |φ1 + φ2| / 2.05", "",
+    working.step("Latitude for the length of the minute of latitude", "φm = |φ1 + φ2| / 2.05",
+                 "|" + degreesTerm(DegMinToDeg(ends[0])) + " + " +
+                     degreesTerm(DegMinToDeg(ends[2])) + "| / 2.05",
                  figure(steps.lookup, angleDecimals), "°");
     addFactor(working, "Length of the minute of latitude", "m(φm)",
-              NavFunc113::LatitudeFactorTable(), steps.latitudeFactor);
+              {NavFunc113::LatitudeFactorTable(), steps.lookup, steps.latitudeFactor});
 }
 
 void addDistance(Working& working, const std::array<NavFunc113::DegMin, 4>& ends,
@@ -55,14 +84,15 @@ void addDistance(Working& working, const std::array<NavFunc113::DegMin, 4>& ends
 {
     const NavFunc113::RhumbSteps& steps = leg.steps;
     const bool isSpheroid = earth == Earth::Spheroid;
-    if (isSpheroid) addLatitudeFactor(working, steps);
+    if (isSpheroid) addLatitudeFactor(working, ends, steps);
     if (steps.alongParallel) {
         const std::string figures = "60 × |" + figure(steps.changeOfLongitude, angleDecimals) +
                                     "°| × cos " + degreesTerm(DegMinToDeg(ends[0]));
         if (isSpheroid)
-            addFactor(working, "Length of the minute of longitude divided by cos φ",
-                      "p(φ1), φ1 as it is written", NavFunc113::ParallelFactorTable(),
-                      steps.parallelFactor);
+            addFactor(
+                working, "Length of the minute of longitude divided by cos φ",
+                "p(φ1), φ1 as it is written",
+                {NavFunc113::ParallelFactorTable(), asItIsWritten(ends[0]), steps.parallelFactor});
         working.step("Distance along the parallel",
                      isSpheroid ? "D = 60 |Δλ| cos φ1 p" : "D = 60 |Δλ| cos φ1",
                      isSpheroid ? figures + " × " + figure(steps.parallelFactor, factorDecimals)
@@ -117,10 +147,14 @@ std::string factorNodes(std::span<const NavFunc113::FactorNode> table)
 }
 
 void addFactor(Working& working, const std::string& name, const std::string& formula,
-               std::span<const NavFunc113::FactorNode> table, double factor)
+               const LookedUpFactor& found)
 {
-    working.step(name, formula + " by Lagrange's formula", "from " + factorNodes(table),
-                 figure(factor, factorDecimals), "miles");
+    std::vector<TableNode> nodes;
+    for (const NavFunc113::FactorNode& node : found.table)
+        nodes.push_back({node.lat, node.factor});
+    working.step(name, formula + " by Lagrange's formula from " + factorNodes(found.table),
+                 lagrangeFigures(nodes, found.at.value()), figure(found.factor, factorDecimals),
+                 "miles");
 }
 
 void addParts(Working& working, const std::string& number, Degrees lat, double parts)
@@ -142,7 +176,7 @@ void addRhumbLeg(Working& working, const std::array<NavFunc113::DegMin, 4>& ends
     working.angleStep("Longitude of arrival", "λ2", ends[3]);
     addParts(working, "1", DegMinToDeg(ends[0]), leg.steps.parts1);
     addParts(working, "2", DegMinToDeg(ends[2]), leg.steps.parts2);
-    addCourse(working, leg);
+    addCourse(working, ends, leg);
     addDistance(working, ends, leg, earth);
 }
 
@@ -155,12 +189,17 @@ void addRunInLatitude(Working& working, const ReckonedRun& from, const NavFunc11
                  figure(run.run, angleDecimals), "°");
     if (earth == Earth::Spheroid) {
         working.step("Latitude for the length of the minute of latitude",
-                     "φm = |2 φ1 + r| / 2.05, φ1 as it is written", "",
+                     "φm = |2 φ1 + r| / 2.05, φ1 as it is written",
+                     "|2 × " + term(from.start[0].packed(), angleDecimals) + " + " +
+                         degreesTerm(run.run) + "| / 2.05",
                      figure(run.lookup, angleDecimals), "°");
         addFactor(working, "Length of the minute of latitude", "m(φm)",
-                  NavFunc113::LatitudeFactorTable(), run.factor);
+                  {NavFunc113::LatitudeFactorTable(), run.lookup, run.factor});
     }
-    working.step("Change of latitude", earth == Earth::Spheroid ? "Δφ = r / m" : "Δφ = r", "",
+    working.step("Change of latitude", earth == Earth::Spheroid ? "Δφ = r / m" : "Δφ = r",
+                 earth == Earth::Spheroid
+                     ? degreesTerm(run.run) + " / " + figure(run.factor, factorDecimals)
+                     : degreesTerm(run.run),
                  figure(run.change, angleDecimals), "°");
     working.step("Latitude reached", "φ2 = φ1 + Δφ",
                  degreesTerm(DegMinToDeg(from.start[0])) + " + " + degreesTerm(run.change),
@@ -175,9 +214,14 @@ void addRunInLongitude(Working& working, const ReckonedRun& from,
         const bool isSpheroid = earth == Earth::Spheroid;
         if (isSpheroid)
             addFactor(working, "Length of the minute of longitude divided by cos φ",
-                      "p(φ1), φ1 as it is written", NavFunc113::RunFactorTable(), run.factor);
+                      "p(φ1), φ1 as it is written",
+                      {NavFunc113::RunFactorTable(), asItIsWritten(from.start[0]), run.factor});
+        const std::string direction = run.change < Degrees(0) ? "-" : "";
         working.step("Change of longitude along the parallel, west negative",
-                     isSpheroid ? "Δλ = D / (60 cos φ1 p)" : "Δλ = D / (60 cos φ1)", "",
+                     isSpheroid ? "Δλ = D / (60 cos φ1 p)" : "Δλ = D / (60 cos φ1)",
+                     direction + Format(from.distance.value(), "0.#####") + " / (60 × cos " +
+                         degreesTerm(DegMinToDeg(from.start[0])) +
+                         (isSpheroid ? " × " + figure(run.factor, factorDecimals) : "") + ")",
                      figure(run.change, angleDecimals), "°");
     } else if (from.distance > NavFunc113::Miles(0)) {
         addParts(working, "1", DegMinToDeg(from.start[0]), run.parts1);
@@ -188,7 +232,8 @@ void addRunInLongitude(Working& working, const ReckonedRun& from,
                      figure(run.change, angleDecimals), "°");
     }
     working.step("Longitude reached", "λ2 = λ1 + Δλ, less whole turns",
-                 degreesTerm(DegMinToDeg(from.start[1])) + " + " + degreesTerm(run.change),
+                 degreesTerm(DegMinToDeg(from.start[1])) + " + " + degreesTerm(run.change) +
+                     wholeTurns(DegMinToDeg(from.start[1]) + run.change, DegMinToDeg(run.reached)),
                  figure(DegMinToDeg(run.reached), angleDecimals), "°");
 }
 

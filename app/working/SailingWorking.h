@@ -25,10 +25,17 @@ void addRhumbLeg(Working& working, const std::array<NavFunc113::DegMin, 4>& ends
 /// The nodes of a table of factors, "0.99507 at 0°, ..".
 std::string factorNodes(std::span<const NavFunc113::FactorNode> table);
 
-/// A step with a factor that was interpolated from a table.
+/// A factor that was interpolated from a table.
+struct LookedUpFactor {
+    std::span<const NavFunc113::FactorNode> table;
+    NavFunc113::Degrees at;
+    double factor;
+};
+
+/// A step with such a factor.
 /// @param formula "m(φm)"
 void addFactor(Working& working, const std::string& name, const std::string& formula,
-               std::span<const NavFunc113::FactorNode> table, double factor);
+               const LookedUpFactor& found);
 
 /// A step with the meridional parts of a latitude.
 /// @param number of the latitude, "1"

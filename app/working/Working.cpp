@@ -19,14 +19,18 @@ void Working::step(std::string name, std::string formula, std::string figures, s
 void Working::angleStep(const std::string& name, const std::string& symbol,
                         NavFunc113::DegMin angle)
 {
+    step(name, symbol + " = degrees + minutes / 60", angleFigures(angle),
+         figure(NavFunc113::DegMinToDeg(angle), 6), "°");
+}
+
+std::string Working::angleFigures(NavFunc113::DegMin angle)
+{
     const double degrees = std::trunc(angle.packed());
     // The packed form is a decimal text: what a double adds to it is no part of the minutes.
     const double minutes = std::fabs(angle.packed() - degrees) * 100;
     const bool isNegative = angle.packed() < 0;
-    step(name, symbol + " = degrees + minutes / 60",
-         (isNegative ? "-(" : "") + Format(std::fabs(degrees), "0") + " + " +
-             Format(minutes, "0.0####") + " / 60" + (isNegative ? ")" : ""),
-         figure(NavFunc113::DegMinToDeg(angle), 6), "°");
+    return (isNegative ? "-(" : "") + Format(std::fabs(degrees), "0") + " + " +
+           Format(minutes, "0.0#######") + " / 60" + (isNegative ? ")" : "");
 }
 
 void Working::resultStep(const std::string& name, const std::string& from, const std::string& shown,

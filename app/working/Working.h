@@ -39,6 +39,8 @@ struct Working {
     /// A latitude or longitude turned into decimal degrees.
     /// @param symbol "φ1"
     void angleStep(const std::string& name, const std::string& symbol, NavFunc113::DegMin angle);
+    /// The figures of such a step, "-(35 + 39.3 / 60)".
+    static std::string angleFigures(NavFunc113::DegMin angle);
     /// The shown text of a result, with what it was rounded from.
     void resultStep(const std::string& name, const std::string& from, const std::string& shown,
                     std::string unit = {});

@@ -45,9 +45,8 @@ Working conversionWorking(NavFunc113::Quantity quantity, std::size_t typed, std:
     const NavFunc113::Unit& from = units[typed];
     const std::string base = baseUnit(quantity);
     const auto size = [&](const NavFunc113::Unit& unit) { return memoText(unit.factor); };
-    working.step("Size of the unit entered",
-                 "1 " + std::string(from.symbol) + ": " + std::string(from.definition), "",
-                 size(from), base);
+    working.step("Size of the unit entered", "1 " + std::string(from.symbol) + " in " + base,
+                 std::string(from.definition), size(from), base);
     for (std::size_t i = 0; i < units.size(); ++i)
         if (i != typed && !boxes[i].empty())
             working.step("In " + std::string(units[i].caption),

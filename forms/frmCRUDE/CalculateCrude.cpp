@@ -286,6 +286,8 @@ void showObserved(const Observed& observed, const char* format, CrudeResult& res
     result.totalObserved = Format(observed.total, format);
     result.freeWater = Format(observed.freeWater, format);
     result.grossObserved = Format(observed.gross(), format);
+    result.figures.totalObserved = observed.total;
+    result.figures.freeWater = observed.freeWater;
 }
 
 } // namespace
@@ -316,6 +318,7 @@ CrudeResult CalculateCrude(const CrudeInput& input)
     showCorrection(input, correctionOf(input, *oil, *temperature), result);
     if (!observed) return result;
     const double standard = observed->gross() * readNumber(result.vcf);
+    result.figures.grossStandard = standard;
     result.grossStandard = Format(standard, volumeFormat);
     result.standardMethod =
         std::string(inKilolitres ? "kL" : "bbl") +
@@ -325,6 +328,7 @@ CrudeResult CalculateCrude(const CrudeInput& input)
         tonsOf(input.weightRule, *oil, result.figures.kilolitres15OfGross, result.weightMethod);
     if (!netPart) return result;
     const double net = standard * *netPart;
+    result.figures.netStandard = net;
     result.netStandard = Format(net, volumeFormat);
     const Volumes volumes = volumesOf(input, *oil, net);
     result.figures.percent = (1 - *netPart) * 100;

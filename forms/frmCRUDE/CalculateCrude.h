@@ -52,7 +52,11 @@ struct CrudeFigures {
     std::optional<double> densityTakenAt; ///< degC or degF, by the base; of an observed density
     std::optional<double> density15;
     std::optional<double> api60;
-    std::optional<double> temperature; ///< of the cargo, in the unit of its box
+    std::optional<double> temperature;   ///< of the cargo, in the unit of its box
+    std::optional<double> totalObserved; ///< in the unit of the volume box, as is what follows
+    double freeWater = 0;
+    double grossStandard = 0;
+    double netStandard = 0;
     std::optional<NavFunc113::VolumeCorrection> correction;
     std::optional<double> percent;     ///< sediment and water
     std::optional<double> klPerBarrel; ///< by the density

@@ -243,18 +243,38 @@ void frmCRUDE::run()
     setNotice("input", QString::fromStdString(m_shown.notice));
 }
 
+/// What the figures were made of: a box or choice that enters nothing is left out, an empty one
+/// that stands for something says for what.
+std::vector<PaperFigure> frmCRUDE::paperInputs(const std::vector<PaperFigure>& boxes) const
+{
+    const bool isObserved = m_chkObserved->isChecked();
+    std::vector<PaperFigure> inputs;
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        PaperFigure figure = boxes[i];
+        const bool isEmpty = m_boxes[i]->text().isEmpty();
+        const auto unit = m_boxes[i]->accessibleName().section(", ", 1).section(',', 0, 0);
+        if ((i == ObservedTemperature && !isObserved) || (i == KLperBbl && isEmpty)) continue;
+        if (!isEmpty) figure.unit = unit.toStdString();
+        if (isEmpty && (i == FreeWater || i == SedimentAndWater))
+            figure.value = "0 " + unit.toStdString() + " (nothing entered)";
+        if (isEmpty && i == ObservedTemperature)
+            figure.value = "that of the cargo (nothing entered)";
+        if (i == Density && isObserved && !isEmpty)
+            figure.unit = m_cboDensityBase->currentText().section(' ', 0, 0).toStdString() +
+                          ", observed, to be reduced";
+        inputs.push_back(std::move(figure));
+    }
+    for (const QComboBox* choice : m_choices)
+        if (choice != m_cboDensityBase && (choice != m_cboReadWith || isObserved))
+            inputs.push_back(
+                {choice->accessibleName().toStdString(), choice->currentText().toStdString()});
+    return inputs;
+}
+
 WorkingPaper frmCRUDE::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
-    for (std::size_t i = 0; i < paper.inputs.size(); ++i)
-        if (m_boxes[i]->text().isEmpty() == false)
-            paper.inputs[i].unit =
-                m_boxes[i]->accessibleName().section(", ", 1).section(',', 0, 0).toStdString();
-    for (const QComboBox* choice : m_choices)
-        paper.inputs.push_back(
-            {choice->accessibleName().toStdString(), choice->currentText().toStdString()});
-    if (m_chkObserved->isChecked())
-        paper.inputs.push_back({"Density", "observed, reduced to the reference temperature"});
+    paper.inputs = paperInputs(paper.inputs);
     paper.results = cargoFigures(input(), m_shown);
     paper.workings = {cargoWorking(input(), m_shown)};
     paper.limits = {"The factor is used as it is shown, so that a pocket calculator comes to the "

@@ -38,6 +38,7 @@ private:
     void useCrudeSettings();
 
     CrudeInput input() const;
+    std::vector<PaperFigure> paperInputs(const std::vector<PaperFigure>& boxes) const;
     void run();
     void showUnits();
     void clearCargo();

@@ -59,11 +59,11 @@ ETAResult CalculateETA(const ETAInput& input)
 {
     if (std::string notice = complaint(input); !notice.empty()) return {std::nullopt, notice};
     const double departure = *passageTime(input.departureDate, input.departureTime);
-    const double TDChange = readNumber(input.txtTD[1]) - readNumber(input.txtTD[0]);
     const double distance = readNumber(input.txtDist);
 
     ETALabels labels;
-    Passage passage{departure, TDChange, distance, {}, {}};
+    Passage passage{
+        departure, {readNumber(input.txtTD[0]), readNumber(input.txtTD[1])}, distance, {}, {}};
     // Single precision, as the speeds are shown: the arrivals belong to these very values.
     float speed = static_cast<float>(readNumber(input.txtSpeed));
     if (speed == 0)
@@ -74,7 +74,7 @@ ETAResult CalculateETA(const ETAInput& input)
         passage.speeds[i] = static_cast<double>(speed);
         passage.hours[i] = hours;
         labels.lblSPD[i] = Format(static_cast<double>(speed), "0.00 ");
-        labels.lblETA[i] = arrivalText(departure + TDChange / 24 + hours / 24);
+        labels.lblETA[i] = arrivalText(departure + passage.TDChange() / 24 + hours / 24);
     }
     const bool isBlank = std::ranges::any_of(labels.lblETA, &std::string::empty);
     return {labels,

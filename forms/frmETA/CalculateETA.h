@@ -26,10 +26,12 @@ struct ETALabels { ///< an empty text blanks the label
 /// What the arrivals were calculated from.
 struct Passage {
     NavFunc113::DateTime departure; ///< local
-    double TDChange;                ///< hours
+    std::array<double, 2> TD;       ///< hours, at departure and arrival
     double distance;                ///< nautical miles
     std::array<double, 5> speeds;   ///< knots
     std::array<double, 5> hours;
+
+    double TDChange() const { return TD[1] - TD[0]; } ///< hours
 };
 
 struct ETAResult {

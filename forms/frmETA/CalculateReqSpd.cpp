@@ -69,7 +69,8 @@ ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
             departure,
             arrival,
             distance,
-            hours};
+            hours,
+            {readNumber(input.txtTD[0]), readNumber(input.txtTD[1])}};
 }
 
 } // namespace korvel

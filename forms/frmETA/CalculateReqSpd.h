@@ -23,6 +23,7 @@ struct ReqSpdResult {
     NavFunc113::DateTime arrival = 0;   ///< UTC, when there is a speed
     double distance = 0;                ///< nautical miles
     double hours = 0;
+    std::array<double, 2> TD = {}; ///< hours, at departure and arrival
 };
 
 /// Speed that covers the distance between two local times. Input that cannot be used, an arrival

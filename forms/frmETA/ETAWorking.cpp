@@ -13,7 +13,13 @@ constexpr const char* inFull = "yyyy-mm-dd hh:mm";
 
 NavFunc113::DateTime arrivalOf(const Passage& passage, std::size_t speed)
 {
-    return passage.departure + passage.TDChange / 24 + passage.hours[speed] / 24;
+    return passage.departure + passage.TDChange() / 24 + passage.hours[speed] / 24;
+}
+
+/// A number as typed, as a term of a formula.
+std::string memoTerm(double value)
+{
+    return value < 0 ? '(' + memoText(value) + ')' : memoText(value);
 }
 
 } // namespace
@@ -29,10 +35,11 @@ Working arrivalsWorking(const ETAResult& result)
         return working;
     }
     const Passage& passage = *result.passage;
-    working.step("Local time at departure", "date and time as typed", "",
-                 Format(passage.departure, inFull), "LT");
-    working.step("Change of TD", "ΔTD = TD at arrival - TD at departure", "",
-                 memoText(passage.TDChange), "h");
+    working.step("Local time at departure", "date and time as typed",
+                 Format(passage.departure, inFull), Format(passage.departure, inFull), "LT");
+    working.step("Change of TD", "ΔTD = TD at arrival - TD at departure",
+                 memoTerm(passage.TD[1]) + " - " + memoTerm(passage.TD[0]),
+                 memoText(passage.TDChange()), "h");
     PaperTable table{
         "Hours = distance / speed; arrival = departure + ΔTD + hours, rounded to the "
         "nearest second, then cut to the minute",
@@ -40,7 +47,7 @@ Working arrivalsWorking(const ETAResult& result)
         {}};
     for (std::size_t i = 0; i < passage.speeds.size(); ++i)
         table.rows.push_back({result.labels->lblSPD[i], memoText(passage.distance),
-                              figure(passage.hours[i], 5), memoText(passage.TDChange),
+                              figure(passage.hours[i], 5), memoText(passage.TDChange()),
                               Format(arrivalOf(passage, i), "yyyy-mm-dd hh:mm:ss"),
                               result.labels->lblETA[i]});
     working.tables = {table};
@@ -67,10 +74,16 @@ Working requiredSpeedWorking(const ReqSpdResult& result)
             "No arrival wanted was entered, or the remarks say why there is no speed.";
         return working;
     }
-    working.step("Departure", "UTC = local time - TD", "", Format(result.departure, inFull), "UTC");
-    working.step("Arrival wanted", "UTC = local time - TD", "", Format(result.arrival, inFull),
-                 "UTC");
-    working.step("Hours", "(arrival - departure) × 24", "", figure(result.hours, 5), "h");
+    const auto addUTC = [&](const char* name, NavFunc113::DateTime UTC, double TD) {
+        working.step(name, "UTC = local time - TD",
+                     Format(UTC + TD / 24, inFull) + " - " + memoTerm(TD) + " h",
+                     Format(UTC, inFull), "UTC");
+    };
+    addUTC("Departure", result.departure, result.TD[0]);
+    addUTC("Arrival wanted", result.arrival, result.TD[1]);
+    working.step("Hours", "arrival - departure, both by UTC",
+                 Format(result.arrival, inFull) + " - " + Format(result.departure, inFull),
+                 figure(result.hours, 5), "h");
     working.step("Required speed", "distance / hours",
                  memoText(result.distance) + " / " + figure(result.hours, 5), *result.speed,
                  "knots");

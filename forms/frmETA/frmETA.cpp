@@ -271,7 +271,10 @@ WorkingPaper frmETA::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
     paper.results.clear(); // labels may show results of older inputs
-    if (m_required.speed) paper.results.push_back(paperFigure(*m_lblReqSpd));
+    if (m_required.speed) {
+        paper.results.push_back(paperFigure(*m_lblReqSpd));
+        paper.results.back().name = "Required speed";
+    }
     if (m_arrivals.passage) paper.tables = {arrivalsTable(m_arrivals)};
     paper.workings = {arrivalsWorking(m_arrivals), requiredSpeedWorking(m_required)};
     paper.limits = {"The speed is that made good over the whole distance"};

@@ -49,8 +49,12 @@ void addVertex(Working& working, const GCResult& result, const EndTexts& ends)
     const NavFunc113::GreatCircleTrack& track = *result.figures->track;
     const NavFunc113::Vertex& vertex = *track.vertex;
     const std::string course = degrees(track.initialCourse);
-    working.step("Latitude of the vertex", "cos φv = |sin C| cos φ1",
-                 "arccos(|sin " + course + "| × cos " + ends.phi1 + ")",
+    const bool isSouthern = vertex.lat < DegMin(0);
+    working.step("Latitude of the vertex",
+                 isSouthern ? "cos φv = |sin C| cos φ1, the southern one lies ahead"
+                            : "cos φv = |sin C| cos φ1",
+                 std::string(isSouthern ? "-" : "") + "arccos(|sin " + course + "| × cos " +
+                     ends.phi1 + ")",
                  figure(DegMinToDeg(vertex.lat), decimals), "°");
     working.step("Longitude of the vertex",
                  "tan(λv - λ1) = cos C / (|sin C| sin φ1) in the direction of travel; the southern "
@@ -67,15 +71,15 @@ void addTrack(Working& working, const GCResult& result, const EndTexts& ends)
 {
     const NavFunc113::GreatCircleTrack& track = *result.figures->track;
     working.step("Initial course", "tan C = sin Δλ cos φ2 / (cos φ1 sin φ2 - sin φ1 cos φ2 cos Δλ)",
-                 "sin " + ends.dLambda + " × cos " + ends.phi2 + " / (cos " + ends.phi1 +
+                 "arctan(sin " + ends.dLambda + " × cos " + ends.phi2 + " / (cos " + ends.phi1 +
                      " × sin " + ends.phi2 + " - sin " + ends.phi1 + " × cos " + ends.phi2 +
-                     " × cos " + ends.dLambda + ")",
+                     " × cos " + ends.dLambda + "))",
                  figure(track.initialCourse, decimals), "°");
     working.resultStep("Initial course", "C rounded to 0.1°", result.initialCourse, "degrees true");
     working.step("Final course", "tan C' = sin Δλ cos φ1 / (sin φ2 cos φ1 cos Δλ - cos φ2 sin φ1)",
-                 "sin " + ends.dLambda + " × cos " + ends.phi1 + " / (sin " + ends.phi2 +
+                 "arctan(sin " + ends.dLambda + " × cos " + ends.phi1 + " / (sin " + ends.phi2 +
                      " × cos " + ends.phi1 + " × cos " + ends.dLambda + " - cos " + ends.phi2 +
-                     " × sin " + ends.phi1 + ")",
+                     " × sin " + ends.phi1 + "))",
                  figure(track.finalCourse, decimals), "°");
     working.resultStep("Final course", "C' rounded to 0.1°", result.finalCourse, "degrees true");
     if (track.vertex) addVertex(working, result, ends);
@@ -158,8 +162,8 @@ Working waypointsWorking(const GCResult& result, Earth earth)
     const EndTexts ends(result.figures->ends);
     working.step("Angle at the departure",
                  "tan A = sin |Δλ| / (cos φ1 tan φ2 - sin φ1 cos Δλ), from north on either side",
-                 "sin |" + ends.dLambda + "| / (cos " + ends.phi1 + " × tan " + ends.phi2 +
-                     " - sin " + ends.phi1 + " × cos " + ends.dLambda + ")",
+                 "arctan(sin |" + ends.dLambda + "| / (cos " + ends.phi1 + " × tan " + ends.phi2 +
+                     " - sin " + ends.phi1 + " × cos " + ends.dLambda + "))",
                  figure(NavFunc113::RadToDeg(result.route.initialAngle), decimals), "°");
     working.tables = {latitudes(result), legs(result)};
     std::string sum;

@@ -19,6 +19,7 @@ constexpr int factorDecimals = 7;
 constexpr int milesDecimals = 5;
 constexpr int hoursDecimals = 6;
 constexpr int knotsDecimals = 5;
+constexpr const char* instantFormat = "yyyy-mm-dd hh:mm:ss";
 
 std::string rowNumber(std::size_t row)
 {
@@ -36,9 +37,8 @@ PaperTable times(const PositionRecordInput& input, const PositionRecordResult& r
     for (std::size_t i = 0; i < input.rows.size(); ++i) {
         const ReadRow& read = result.rows[i].read;
         if (!read.utc) continue;
-        table.rows.push_back({rowNumber(i), Format(*read.smt, "yyyy/mm/dd hh:mm:ss"),
-                              memoText(*read.td), result.rows[i].utc, degrees(read.latitude),
-                              degrees(read.longitude)});
+        table.rows.push_back({rowNumber(i), Format(*read.smt, instantFormat), memoText(*read.td),
+                              result.rows[i].utc, degrees(read.latitude), degrees(read.longitude)});
     }
     return table;
 }
@@ -203,7 +203,8 @@ std::vector<Working> currentWorkings(const PositionRecordInput& input,
     const ReckonedRun run{{from.latitude, from.longitude}, current.courseSteered, current.run};
     reckoned.angleStep("Latitude of row " + rowNumber(from.row), "φ1", from.latitude);
     reckoned.angleStep("Longitude of row " + rowNumber(from.row), "λ1", from.longitude);
-    reckoned.step("Hours between the fixes", "t = UTC2 - UTC1", "",
+    reckoned.step("Hours between the fixes", "t = UTC2 - UTC1",
+                  Format(to.utc, instantFormat) + " - " + Format(from.utc, instantFormat),
                   figure(current.leg.hours, hoursDecimals), "h");
     reckoned.step("Run by speed steered", "D = V t",
                   memoText(current.speedSteered) + " × " + figure(current.leg.hours, hoursDecimals),
@@ -216,7 +217,8 @@ std::vector<Working> currentWorkings(const PositionRecordInput& input,
                 {current.latitude.reached, current.longitude.reached, to.latitude, to.longitude},
                 current.leg.sailed, input.earth);
     if (result.set.empty())
-        drift.step("Set", "none below 0.05 miles", "", "none");
+        drift.step("Set", "none below 0.05 miles",
+                   figure(current.leg.sailed.distance, milesDecimals) + " miles", "none");
     else
         drift.resultStep("Set", "C rounded to 1°", result.set, "degrees true");
     drift.step("Drift, knots", "v = D / t",

@@ -210,7 +210,7 @@ void frmPositionRecord::changeRows(RowChange::Kind kind, const Change& change)
     normaliseTime(m_row); // the box is left: its text may move to another row
     RowChange made{kind, m_row, m_table->texts(), m_table->texts()};
     change(made.after);
-    setNotice("change", {});
+    setNotice("change~", {});
     if (made.after == made.before) return;
     fill(made.after);
     m_lastChange = std::move(made);
@@ -230,7 +230,7 @@ void frmPositionRecord::insertRowHere()
     changeRows(RowChange::Kind::Inserted,
                [&](PositionRows& rows) { inserted = insertRow(rows, m_row); });
     if (!inserted)
-        setNotice("change", "Row 29 is in use: no row was inserted, it would have been lost.");
+        setNotice("change~", "Row 29 is in use: no row was inserted, it would have been lost.");
 }
 
 void frmPositionRecord::clearAll()
@@ -247,7 +247,7 @@ void frmPositionRecord::undo()
     normaliseTime(m_row);
     PositionRows rows = m_table->texts();
     const std::string refusal = takeBack(rows, *m_lastChange);
-    setNotice("change", QString::fromStdString(refusal));
+    setNotice("change~", QString::fromStdString(refusal));
     if (!refusal.empty()) return;
     m_lastChange.reset();
     fill(rows);

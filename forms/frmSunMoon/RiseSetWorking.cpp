@@ -49,7 +49,8 @@ Working placeWorking(const RiseSetTableRow& row, const RowFigures& figures)
     working.angleStep("Latitude", "φ", figures.typed.latitude);
     working.angleStep("Longitude", "λ", figures.typed.longitude);
     if (!row.line.empty()) working.resultStep("Row in focus", "place, φ and λ", row.line);
-    working.step("Time difference", "TD as typed", "", Format(figures.typed.TD, "0.0####"), "h");
+    working.step("Time difference", "TD = local time - UTC, as typed", row.typed.txtTD,
+                 Format(figures.typed.TD, "0.0####"), "h");
     return working;
 }
 
@@ -144,8 +145,8 @@ void addLastStep(Working& working, const RiseSetFigures& figures, const RowFigur
     const EventStep& last = figures.search.back();
     const std::string phi = degreesText(DegMinToDeg(figures.latitude));
     const std::string delta = degreesText(DegMinToDeg(last.body.declination));
-    working.step("Latitude of the search", "φ, each search adds 0.0000000001 to the packed figure",
-                 Format(figures.latitude, "0.0#########"),
+    working.step("Latitude of the search", "φ, each search adds 0.00000001 minutes",
+                 Working::angleFigures(figures.latitude),
                  figure(DegMinToDeg(figures.latitude), decimals), "°");
     const std::string cosine = "(sin " + degreesText(rule.altitude) + " - sin " + phi + " × sin " +
                                delta + ") / (cos " + phi + " × cos " + delta + ")";
@@ -190,7 +191,8 @@ void addTimes(Working& working, const RiseSetFigures& figures, const RiseSetLabe
         return;
     }
     working.step("Check by the refined search",
-                 "its time is near enough to the one found not to be shown", "",
+                 "its time is near enough to the one found not to be shown",
+                 (*figures.found == 0 ? "none found" : "found: " + instantText(*figures.found)),
                  instantText(*figures.refined));
 }
 

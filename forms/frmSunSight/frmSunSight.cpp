@@ -263,9 +263,9 @@ void frmSunSight::undo()
     if (!m_list.canUndo()) return;
     if (const auto cleared = m_list.undo(!m_entry->sight().isBegun())) m_entry->fill(*cleared);
     showEditing();
-    setNotice("list", m_list.list().canTakeBack()
-                          ? "The list is full: not all of the deleted sights could come back."
-                          : QString());
+    setNotice("undo~", m_list.list().canTakeBack()
+                           ? "The list is full: not all of the deleted sights could come back."
+                           : QString());
     listChanged();
 }
 
@@ -295,16 +295,17 @@ void frmSunSight::showEditing()
 {
     const auto index = m_list.edited();
     m_entry->setEditing(index.has_value());
-    setNotice("0 edit", index ? "The sight of " +
-                                    asQString(listLine(m_list.list().sights()[*index])) +
-                                    " is being edited: put it back, or start a new one."
-                              : QString());
+    setNotice("0 edit~", index ? "The sight of " +
+                                     asQString(listLine(m_list.list().sights()[*index])) +
+                                     " is being edited: put it back, or start a new one."
+                               : QString());
 }
 
 WorkingPaper frmSunSight::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
     paper.inputs = m_entry->paperFigures();
+    leaveOutTwice(paper.remarks);
     addSights({m_entry->sight(), m_line, m_noon, m_list.list(), m_fix}, paper);
     return paper;
 }

@@ -44,7 +44,7 @@ frmTIDE::frmTIDE(Program& program)
         [this](const Record& record) {
             const SavedChoice saved = choiceOf(record, m_dates);
             m_choice = saved.choice;
-            setNotice("saved", QString::fromStdString(saved.notice));
+            setNotice("saved~", QString::fromStdString(saved.notice));
         });
     loadSettings();
     readDates();
@@ -107,14 +107,14 @@ void frmTIDE::choose(const StationChoice& station)
 void frmTIDE::findStation(const std::string& typed)
 {
     const SearchAnswer answer = answerSearch(typed);
-    setNotice("find", QString::fromStdString(answer.notice));
+    setNotice("find~", QString::fromStdString(answer.notice));
     if (!answer.first) return;
     const StationChoice first{answer.first->TideMode, answer.first->place};
     const QString reason = m_tideMenus.stations().reasonAgainst(first);
     if (reason.isEmpty())
         choose(first);
     else
-        setNotice("find", QString::fromStdString(first.place) + ": " + reason);
+        setNotice("find~", QString::fromStdString(first.place) + ": " + reason);
 }
 
 std::int64_t frmTIDE::today()
@@ -262,7 +262,7 @@ bool frmTIDE::isToBeUsed(const std::string& doubts, Telling telling)
 void frmTIDE::showDay(const TideDayShown& day)
 {
     m_shown = day;
-    setNotice("saved", {});
+    setNotice("saved~", {});
     // The notes are about shipped tide stations; a stream station may bear the same name.
     const bool isShipped = m_choice.TideMode && !m_station->isOwn();
     m_lines = describeStation(day.four, isShipped ? m_list.notesOf(m_choice.lblPlace) : nullptr,
@@ -293,7 +293,7 @@ TideHabits frmTIDE::loadedHabits()
 
 void frmTIDE::storeHabits()
 {
-    setNotice("habits", QString::fromStdString(m_habitsFile.saveQuietly(recordOf(m_habits))));
+    setNotice("habits~", QString::fromStdString(m_habitsFile.saveQuietly(recordOf(m_habits))));
 }
 
 void frmTIDE::storeSettings(Telling telling)

@@ -48,7 +48,8 @@ Working weatherWorking(std::string_view txtWave, std::string_view txtSWELL,
                      typedFigure(txtVISIBILITY) + " / 1.852", shown.miles);
     }
     if (!shown.letter.empty())
-        working.step("Weather", "the letter that was chosen, with its names", "", shown.letter);
+        working.step("Weather", "the letter that was chosen, with its names",
+                     shown.letter.substr(0, shown.letter.find(' ')), shown.letter);
     if (working.steps.empty()) working.whyNone = "Nothing was entered.";
     return working;
 }

@@ -51,6 +51,14 @@ void NoticeLine::say(const QString& key, const QString& text)
     setToolTip(this->text());
 }
 
+QStringList NoticeLine::onPaper() const
+{
+    QStringList said;
+    for (const auto& [key, words] : m_said)
+        if (!key.contains('~')) said << words;
+    return said;
+}
+
 QSize NoticeLine::sizeHint() const
 {
     return {0, lineCount * fontMetrics().lineSpacing()};

@@ -19,11 +19,15 @@ public:
     NoticeLine();
 
     /// Says something under a key of the caller's; an empty text takes it back. What stands there
-    /// is in the order of the keys.
+    /// is in the order of the keys. A key with a '~' is of the work on the screen: no remark on the
+    /// figures, so that it is on no paper.
     void say(const QString& key, const QString& text);
 
     /// The notice that stands first; empty when there is none.
     QString firstSaid() const { return m_said.empty() ? QString() : m_said.begin()->second; }
+
+    /// What is to be said of the figures, a sentence or more for every key.
+    QStringList onPaper() const;
 
     /// Tells of a control of the window, as of the one that comes to have the focus.
     void hintAt(const QWidget* control);

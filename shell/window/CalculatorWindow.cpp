@@ -119,7 +119,8 @@ WorkingPaper CalculatorWindow::paper() const
             paper.inputs.push_back(fields.paperFigure(i));
     for (const ResultLabel* label : m_labels)
         if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
-    if (!notice().isEmpty()) paper.remarks.push_back(notice().toStdString());
+    for (const QString& remark : m_notices->onPaper())
+        paper.remarks.push_back(remark.toStdString());
     return paper;
 }
 

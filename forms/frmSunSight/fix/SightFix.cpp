@@ -29,18 +29,19 @@ std::optional<ErrorModel> readErrors(const SightFixOptions& options, Remarks& re
 /// The sights that are on, and the time of the last of them.
 std::vector<Observation> takeSights(const SightList& list, SightFixResult& result, Remarks& remarks)
 {
-    Remarks ofSights;
     std::vector<Observation> observations;
     for (std::size_t i = 0; i < list.sights().size(); ++i) {
         if (!list.sights()[i].on) continue;
-        const Observation observation = readObservation(list.sights()[i].texts, ofSights);
+        Remarks ofSight;
+        const Observation observation = readObservation(list.sights()[i].texts, ofSight);
         if (!observation.complete()) continue;
+        for (const std::string& warning : ofSight.warnings)
+            remarks.warn("Sight of " + Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss") +
+                         " UTC: " + warning);
         result.UTC = std::max(result.UTC.value_or(*observation.UTC), *observation.UTC);
         result.lines.push_back({i, *observation.UTC, {}, {}, {}, {}});
         observations.push_back(observation);
     }
-    for (const std::string& warning : ofSights.warnings)
-        remarks.warn(warning);
     return observations;
 }
 

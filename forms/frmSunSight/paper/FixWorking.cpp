@@ -36,10 +36,10 @@ std::vector<std::string> fixMethod(const SightFixResult& fix)
 /// The lines of the window: each from the DR position of its own time.
 PaperTable linesTable(const SightFixResult& fix)
 {
-    PaperTable table{"Lines from the DR position of their times",
-                     {"UTC", "run h", "DR latitude °", "DR longitude °", "GHA °", "δ °", "Ho °",
-                      "Hc °", "Zn °", "p miles"},
-                     {}};
+    PaperTable table{
+        "Lines from the DR position of their times",
+        {"UTC", "run h", "DR φ °", "DR λ °", "GHA °", "δ °", "Ho °", "Hc °", "Zn °", "p miles"},
+        {}};
     for (const FixLine& line : fix.lines)
         table.rows.push_back({sightInstant(line.UTC), figure(line.sight.sinceFix, 4),
                               figure(line.DR.latitude, 5), figure(line.DR.longitude, 5),
@@ -124,8 +124,9 @@ void addAgreement(Working& working, const SightFixResult& fix)
     const std::size_t lines = fix.solution->lines.size();
     const std::size_t counted = lines == 3 ? 1 : agreement.checks.size();
     working.step("Chance that good lines disagree as much",
-                 "erfc(|greatest ratio| / √2) × lines, three lines counting as one",
-                 "erfc(" + figure(worst, 4) + " / √2) × " + std::to_string(counted),
+                 "erfc(|greatest ratio| / √2) × lines, three lines counting as one; a chance is no "
+                 "more than 1",
+                 "min(1, erfc(" + figure(worst, 4) + " / √2) × " + std::to_string(counted) + ")",
                  figure(std::min(agreement.chance, 1.0), 4),
                  agreement.agrees ? "0.05 or more: they agree" : "below 0.05: they do not agree");
     if (!fix.withoutText.empty())
@@ -149,8 +150,11 @@ void addEllipse(Working& working, const SightFixResult& fix)
         const auto& [mean, spread, factor, scale, major, minor, axis, north, east] = *found;
         const std::string ks = figure(factor, 4) + " × " + figure(scale, 5);
         const NormalMatrix& m = solution.matrix;
-        working.step("Mean of the eigenvalues", "m = (A + C) / 2", "", figure(mean, sumDecimals));
-        working.step("Half their difference", "q = √(((A - C) / 2)² + B²)", "",
+        const auto sum = [](double value) { return term(value, sumDecimals); };
+        working.step("Mean of the eigenvalues", "m = (A + C) / 2",
+                     "(" + sum(m.A) + " + " + sum(m.C) + ") / 2", figure(mean, sumDecimals));
+        working.step("Half their difference", "q = √(((A - C) / 2)² + B²)",
+                     "√(((" + sum(m.A) + " - " + sum(m.C) + ") / 2)² + " + sum(m.B) + "²)",
                      figure(spread, sumDecimals));
         working.step("Long half axis", "k s √((m + q) / G), k = 2.4477 for 95 % of assumed sigmas",
                      ks + " × √((" + figure(mean, sumDecimals) + " + " +
@@ -160,9 +164,16 @@ void addEllipse(Working& working, const SightFixResult& fix)
                      ks + " / √(" + figure(mean + spread, sumDecimals) + ")",
                      figure(minor, mileDecimals), "miles");
         working.step("Bearing of the long axis", "90° + arctan(2 B / (A - C)) / 2, by quadrants",
-                     "", figure(axis, 3), "°");
-        working.step("Sigma north - south", "s √(C / G)", "", figure(north, mileDecimals), "miles");
-        working.step("Sigma east - west", "s √(A / G)", "", figure(east, mileDecimals), "miles");
+                     "90° + arctan(2 × " + sum(m.B) + " / (" + sum(m.A) + " - " + sum(m.C) +
+                         ")) / 2",
+                     figure(axis, 3), "°");
+        const std::string G = figure(m.determinant(), 7);
+        working.step("Sigma north - south", "s √(C / G)",
+                     figure(scale, 5) + " × √(" + sum(m.C) + " / " + G + ")",
+                     figure(north, mileDecimals), "miles");
+        working.step("Sigma east - west", "s √(A / G)",
+                     figure(scale, 5) + " × √(" + sum(m.A) + " / " + G + ")",
+                     figure(east, mileDecimals), "miles");
     }
     working.resultStep("Error ellipse", "95 % of fixes with such sights lie in it",
                        fix.ellipseText);

@@ -28,13 +28,20 @@ void addNoon(Working& working, const MeridianResult& noon)
 {
     const MeridianFigures& figures = noon.figures;
     working.resultStep("Local apparent noon", "the UTC that the steps below end at", noon.noon);
-    working.step("Latitude of the ship at noon", "φ", "", sightFigure(figures.atNoon.latitude),
-                 "°");
-    working.step("Declination at noon", "δ", "", sightFigure(figures.declinationAtNoon), "°");
-    working.step("Change of declination", "δ half an hour later - δ half an hour earlier", "",
+    const std::string at = "at " + sightInstant(*figures.noon) + " UTC";
+    working.step("Latitude of the ship at noon", "φ of the DR position run to noon", at,
+                 sightFigure(figures.atNoon.latitude), "°");
+    working.step("Declination at noon", "δ by the series of the Sun", at,
+                 sightFigure(figures.declinationAtNoon), "°");
+    working.step("Change of declination", "60 (δ half an hour later - δ half an hour earlier)",
+                 "60 × (" + sightTerm(figures.declinationLater) + " - " +
+                     sightTerm(figures.declinationEarlier) + ")",
                  figure(figures.sunNorthward, 4), "' an hour, to the north");
-    working.step("Ship's northing", "v cos C", "", figure(figures.shipNorthward, 4),
-                 "' an hour, to the north");
+    working.step("Ship's northing", "v cos C, none without a course and speed",
+                 figures.motion ? Format(figures.motion->speed, "0.0#####") + " × cos " +
+                                      sightTerm(figures.motion->course)
+                                : "0",
+                 figure(figures.shipNorthward, 4), "' an hour, to the north");
     working.step("Greatest altitude after the passage", "15.28 (tan φ - tan δ) (Sun's - ship's)",
                  "15.28 × (tan " + sightTerm(figures.atNoon.latitude) + " - tan " +
                      sightTerm(figures.declinationAtNoon) + ") × (" +
@@ -51,7 +58,9 @@ void addLatitude(Working& working, const MeridianResult& noon)
     const std::string delta = sightTerm(figures.declination);
     const std::string t = sightTerm(figures.hourAngle);
     const std::string Ho = sightTerm(figures.Ho);
-    working.step("Hour angle at the sight", "t = GHA + λ, within half a turn", "",
+    working.step("Hour angle at the sight", "t = GHA + λ, within half a turn",
+                 sightTerm(figures.GHA) + " + " + sightTerm(figures.longitude) +
+                     sightTurns(figures.GHA + figures.longitude, figures.hourAngle),
                  sightFigure(figures.hourAngle), "°");
     working.step("Latitude where the Sun would stand highest", "tan χ = tan δ / cos t",
                  "arctan(tan " + delta + " / cos " + t + ")", sightFigure(found.between), "°");
@@ -61,16 +70,21 @@ void addLatitude(Working& working, const MeridianResult& noon)
                  "arccos(sin " + Ho + " / √(sin² " + delta + " + cos² " + delta + " × cos² " + t +
                      "))",
                  sightFigure(found.bodyToTheSouth - found.between), "°");
-    working.step("Latitude with the Sun to the south", "φ = χ + ζ", "",
+    working.step("Latitude with the Sun to the south", "φ = χ + ζ",
+                 sightTerm(found.between) + " + " + sightTerm(found.bodyToTheSouth - found.between),
                  sightFigure(found.bodyToTheSouth), "°");
-    working.step("Latitude with the Sun to the north", "φ = χ - ζ", "",
+    working.step("Latitude with the Sun to the north", "φ = χ - ζ",
+                 sightTerm(found.between) + " - " + sightTerm(found.bodyToTheSouth - found.between),
                  sightFigure(found.bodyToTheNorth), "°");
     working.resultStep("Latitude by the sight",
                        std::string("by the DR latitude the Sun stands to the ") +
                            (figures.isSouth ? "south" : "north") + "; both where that is in doubt",
                        noon.latitude);
     working.step("Reduction to the meridian",
-                 figures.isSouth ? "φ - (δ + 90° - Ho)" : "φ - (δ - 90° + Ho)", "",
+                 figures.isSouth ? "60 (φ - (δ + 90° - Ho))" : "60 (φ - (δ - 90° + Ho))",
+                 "60 × (" +
+                     sightTerm(figures.isSouth ? found.bodyToTheSouth : found.bodyToTheNorth) +
+                     " - (" + delta + (figures.isSouth ? " + 90° - " : " - 90° + ") + Ho + "))",
                  figure(figures.reduction, 4), "'");
 }
 

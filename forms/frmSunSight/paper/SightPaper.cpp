@@ -3,10 +3,13 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
+#include "app/reading/Remarks.h"
 #include "forms/frmSunSight/paper/SightWorking.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -157,7 +160,34 @@ ExportTable exported(const std::vector<ListedSight>& sights)
     return list;
 }
 
+/// The sentences that joined() put into one line.
+std::vector<std::string> sentencesOf(const std::string& remark)
+{
+    constexpr std::string_view between = "; ";
+    std::vector<std::string> sentences;
+    std::size_t from = 0;
+    for (std::size_t to; (to = remark.find(between, from)) != remark.npos;
+         from = to + between.size())
+        sentences.push_back(remark.substr(from, to - from));
+    sentences.push_back(remark.substr(from));
+    return sentences;
+}
+
 } // namespace
+
+void leaveOutTwice(std::vector<std::string>& remarks)
+{
+    for (std::string& remark : remarks) {
+        std::vector<std::string> kept;
+        for (const std::string& sentence : sentencesOf(remark))
+            if (std::ranges::none_of(remarks, [&](const std::string& other) {
+                    return other.find(" UTC: " + sentence) != std::string::npos;
+                }))
+                kept.push_back(sentence);
+        remark = joined(kept);
+    }
+    std::erase(remarks, std::string());
+}
 
 void addSights(const SightPaperParts& parts, WorkingPaper& paper)
 {

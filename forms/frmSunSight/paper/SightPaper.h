@@ -18,6 +18,9 @@ struct SightPaperParts {
     const SightFixResult& fix;
 };
 
+/// Leaves out of a remark what another says too, there with the sight that it is of.
+void leaveOutTwice(std::vector<std::string>& remarks);
+
 /// Adds results, list of sights, workings, limits and export to a paper.
 void addSights(const SightPaperParts& parts, WorkingPaper& paper);
 

@@ -4,6 +4,8 @@
 #include "app/reading/Format.h"
 #include "app/working/Working.h"
 
+#include <cmath>
+
 /// How the workings of the sun sight window write figures.
 namespace korvel
 {
@@ -17,6 +19,13 @@ inline std::string sightFigure(NavFunc113::Degrees angle)
 inline std::string sightTerm(NavFunc113::Degrees angle)
 {
     return angleTerm(angle, 6);
+}
+
+/// What whole turns bring a sum of angles to the one that is used, " - 360°".
+inline std::string sightTurns(NavFunc113::Degrees sum, NavFunc113::Degrees used)
+{
+    const double turns = std::round((used - sum).value() / 360);
+    return turns == 0 ? "" : (turns > 0 ? " + " : " - ") + figure(360 * std::fabs(turns), 0) + "°";
 }
 
 inline std::string sightInstant(NavFunc113::DateTime instant)

@@ -19,12 +19,12 @@ namespace
 using namespace NavFunc113;
 
 /// Change of the Sun's declination, minutes of arc an hour to the north.
-double sunNorthward(DateTime UTC)
+double sunNorthward(DateTime UTC, MeridianFigures& figures)
 {
     constexpr double halfHour = 0.5 / 24;
-    const Degrees change =
-        DegMinToDeg(SunDeclination(UTC + halfHour)) - DegMinToDeg(SunDeclination(UTC - halfHour));
-    return 60 * change.value();
+    figures.declinationLater = DegMinToDeg(SunDeclination(UTC + halfHour));
+    figures.declinationEarlier = DegMinToDeg(SunDeclination(UTC - halfHour));
+    return 60 * (figures.declinationLater - figures.declinationEarlier).value();
 }
 
 std::string noonText(DateTime noon, const SightTexts& sight)
@@ -40,7 +40,8 @@ std::string greatestText(DateTime noon, const Position& ship, const Motion& moti
 {
     figures.atNoon = ship;
     figures.declinationAtNoon = DegMinToDeg(SunDeclination(noon));
-    figures.sunNorthward = sunNorthward(noon);
+    figures.sunNorthward = sunNorthward(noon, figures);
+    figures.motion = motion;
     figures.shipNorthward = motion.speed.value() * cos(motion.course);
     figures.delay = GreatestAltitudeDelay(ship.latitude, figures.declinationAtNoon,
                                           figures.sunNorthward, figures.shipNorthward);
@@ -75,6 +76,8 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     MeridianFigures& figures = result.figures;
     figures.Ho = Ho;
     figures.declination = declination;
+    figures.GHA = DegMinToDeg(*observation.GHA);
+    figures.longitude = ship.longitude;
     figures.hourAngle = hourAngle;
     if (!IsNearMeridian(hourAngle, Ho)) {
         result.note = "No latitude: the sight is not near the meridian, " +

@@ -16,12 +16,17 @@ struct MeridianFigures {
     std::vector<NavFunc113::NoonStep> steps;
     NavFunc113::Position atNoon;
     NavFunc113::Degrees declinationAtNoon;
+    NavFunc113::Degrees declinationEarlier; ///< half an hour before noon
+    NavFunc113::Degrees declinationLater;   ///< half an hour after it
+    std::optional<NavFunc113::Motion> motion;
     double sunNorthward = 0;  ///< minutes of arc an hour
     double shipNorthward = 0; ///< minutes of arc an hour
     double delay = 0;         ///< seconds, of the greatest altitude
 
     NavFunc113::Degrees Ho; ///< of the sight, as are those below
     NavFunc113::Degrees declination;
+    NavFunc113::Degrees GHA;
+    NavFunc113::Degrees longitude; ///< of the DR position
     NavFunc113::Degrees hourAngle;
     std::optional<NavFunc113::MeridianLatitudes> latitudes;
     bool isSouth = false; ///< the Sun, seen from the DR position

@@ -173,7 +173,8 @@ Working constituentsWorking(const TideDayShown& day)
                          memoText(four.station.monthlyCorrections[month]),
                      figure(four.level, heightDecimals), unit);
     } else {
-        working.step("Mean stream", "Z = Z0", "", figure(four.level, heightDecimals), unit);
+        working.step("Mean stream", "Z = Z0, of the station's record",
+                     memoText(four.station.meanLevel), figure(four.level, heightDecimals), unit);
         const std::string flood = memoText(four.floodDirection.value()) + "°";
         working.resultStep("Direction of the flood stream, +", "compass point of " + flood,
                            four.lblCuDirection[0]);
@@ -181,10 +182,10 @@ Working constituentsWorking(const TideDayShown& day)
                            "compass point of " + flood + " + 180°", four.lblCuDirection[1]);
     }
     const NavFunc113::ShallowWaterTerms& shallow = four.station.shallowWater;
-    working.step("Quarter-diurnal term", "k4, θ4", "",
+    working.step("Quarter-diurnal term", "k4, θ4", "of the station's record",
                  memoText(shallow.quarterCoefficient) + ", " + memoText(shallow.quarterPhase) +
                      "°");
-    working.step("Sixth-diurnal term", "k6, θ6", "",
+    working.step("Sixth-diurnal term", "k6, θ6", "of the station's record",
                  memoText(shallow.sixthCoefficient) + ", " + memoText(shallow.sixthPhase) + "°");
     working.tables = {constantsOf(day)};
     return working;
@@ -224,7 +225,7 @@ std::vector<Working> allConstituentsWorking(const TideAsked& asked)
                      "(ψ0 + n t), A = f H with the node factor of noon, ψ0 = V + u - phase lag at "
                      "00:00 of zone time"},
                     {}};
-    working.step("Mean level", "Z0", "", memoText(all.level()), "m");
+    working.step("Mean level", "Z0", "of the station's record", memoText(all.level()), "m");
     for (const WaterLine& line : waterLines(asked.day))
         if (!line.all.empty())
             working.resultStep("Water", "time and height, difference to the four constituents",

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
+#include "shell/paper/PaperWindow.h"
 #include "tests/SourceFolder.h"
+#include "tests/shell/paper/StepFigures.h"
 #include "tools/papers/ExamplePaper.h"
 
 #include <gmock/gmock.h>
 
 #include <QDir>
+#include <QRegularExpression>
+
+#include <cmath>
 
 // The worked examples of the manual: the program works each anew as the manual has it, and every
 // result that its window shows is a step of the working. (papers docs/manual data writes them.)
@@ -27,6 +32,55 @@ TEST(PaperExamples, theManualHasWhatTheProgramWorks)
         EXPECT_EQ(made.text, contentOf(sourceFile("docs/manual/papers/") +
                                        each.chopped(7).toStdString() + "md"));
     }
+}
+
+/// What a step says: a plain number, and how far its last digit reaches.
+struct SaidValue {
+    double value = 0;
+    double rounding = 0;
+};
+
+/// @return nothing for a text, a packed angle, a time or a direction in brackets
+std::optional<SaidValue> saidBy(const WorkingStep& step)
+{
+    static const QRegularExpression plain("^-?[0-9]+(\\.([0-9]+))?$");
+    const auto match = plain.match(QString::fromStdString(step.value));
+    if (!match.hasMatch()) return std::nullopt;
+    return SaidValue{match.captured(0).toDouble(),
+                     0.5 * std::pow(10, -static_cast<double>(match.captured(2).size()))};
+}
+
+/// How far two figures are apart; an arctan leaves out half turns.
+double apart(const WorkedFigures& figures, double said)
+{
+    const double difference = figures.value - said;
+    return std::fabs(figures.isDirection ? std::remainder(difference, 90) : difference);
+}
+
+TEST(PaperExamples, everyStepHasFiguresThatLeadToItsValue)
+{
+    QFileInfoList examples;
+    for (const char* folder : {"tests/papers", "docs/manual/examples"})
+        examples += QDir(QString::fromStdString(sourceFile(folder))).entryInfoList({"*.example"});
+    int reckoned = 0;
+    for (const QFileInfo& each : examples) {
+        SCOPED_TRACE(each.fileName().toStdString());
+        const WorkedExample example(contentOf(each.filePath().toStdString()),
+                                    QString::fromStdString(sourceFile("data")));
+        for (const Working& working : example.openPaper().paper().paper().workings)
+            for (const WorkingStep& step : working.steps) {
+                EXPECT_NE(step.figures, "") << working.title << ": " << step.name;
+                const auto said = saidBy(step);
+                const auto figures = worked(step.figures);
+                if (!said || !figures) continue;
+                ++reckoned;
+                EXPECT_LE(apart(*figures, said->value),
+                          figures->rounding + 1.01 * said->rounding + 1e-9)
+                    << working.title << ": " << step.name << ": " << step.figures << " = "
+                    << figures->value << ", not " << step.value;
+            }
+    }
+    EXPECT_GE(reckoned, 250);
 }
 
 } // namespace
