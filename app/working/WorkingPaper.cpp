@@ -2,6 +2,7 @@
 #include "app/working/WorkingPaper.h"
 
 #include "app/reading/Format.h"
+#include "app/records/DelimitedText.h"
 
 #include <algorithm>
 
@@ -10,6 +11,7 @@ namespace korvel
 namespace
 {
 
+constexpr char textMark = '\'';
 constexpr const char* minuteFormat = "yyyy-mm-dd hh:mm";
 
 std::string orLine(const std::string& text)
@@ -69,8 +71,17 @@ void addWorking(std::string& text, const Working& working)
     if (!working.whyNone.empty()) text += working.whyNone + '\n';
 }
 
-std::string csvCell(const std::string& text)
+/// Whether a spreadsheet would take a text for a formula.
+bool looksLikeFormula(const std::string& text)
 {
+    return !text.empty() && std::string_view("=+-@\t\r").find(text.front()) != std::string::npos &&
+           !wholeNumber(text);
+}
+
+/// A cell with an apostrophe in front is a text for every spreadsheet.
+std::string csvCell(std::string text)
+{
+    if (looksLikeFormula(text) || text.starts_with(textMark)) text.insert(0, 1, textMark);
     if (text.find_first_of(",\"\r\n") == text.npos) return text;
     std::string quoted = "\"";
     for (const char each : text) {
@@ -153,10 +164,16 @@ std::string resultsText(const WorkingPaper& paper)
 
 std::string csvText(const ExportTable& table)
 {
-    std::string text = csvLine(table.headings);
+    // Without the mark a spreadsheet takes the text for one in the letters of its own country.
+    std::string text = "\xEF\xBB\xBF" + csvLine(table.headings);
     for (const auto& row : table.rows)
         text += csvLine(row);
     return text;
+}
+
+std::string textOfCell(std::string_view cell)
+{
+    return std::string(cell.starts_with(textMark) ? cell.substr(1) : cell);
 }
 
 std::string offeredName(const PaperHeading& heading, const WorkingPaper& paper,

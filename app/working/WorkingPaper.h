@@ -4,6 +4,7 @@
 #include "app/working/Working.h"
 
 #include <optional>
+#include <string_view>
 
 namespace korvel
 {
@@ -75,8 +76,14 @@ std::string paperText(const PaperHeading& heading, const WorkingPaper& paper);
 /// The results as text, columns parted by tabs.
 std::string resultsText(const WorkingPaper& paper);
 
-/// Comma-separated values: one header line, texts with commas or quotes between quotes, CR LF.
+/// Comma-separated values in UTF-8 with its mark: one header line, texts with commas or quotes
+/// between quotes, CR LF. What a spreadsheet would take for a formula, and is no figure, has an
+/// apostrophe in front.
 std::string csvText(const ExportTable& table);
+
+/// A cell of such a list as it was before it was written.
+/// @param cell without the quotes around it
+std::string textOfCell(std::string_view cell);
 
 /// Name of a file for a paper: kind, place and ship's date, without anything that a file system
 /// refuses.

@@ -77,9 +77,12 @@ QSize GCPicture::minimumSizeHint() const
 
 void GCPicture::placeMargins()
 {
-    const QFontMetrics metrics = fontMetrics();
+    const QFontMetrics metrics = letterMetrics();
     const int gap = metrics.height() / 2;
-    m_legendLines = width() >= sizeHint().width() ? 1 : 2;
+    const int oneLine =
+        Legend::width(metrics, "Departure Waypoint Arrival Great circle Rhumb line", 2, 3) +
+        3 * metrics.height();
+    m_legendLines = pictureSize().width() >= oneLine ? 1 : 2;
     // Above the chart the legend, and below it half the height of the topmost label.
     setPlotMargins({metrics.horizontalAdvance("00°N") + gap, (1 + m_legendLines) * metrics.height(),
                     metrics.horizontalAdvance("000°W") / 2, metrics.height() + gap});
@@ -117,7 +120,7 @@ void GCPicture::draw(QPainter& painter)
 QRectF GCPicture::legendStrip() const
 {
     const double high = m_legendLines * lineHeight();
-    return {0, plotArea().top() / 2 - high / 2, double(width()), high};
+    return {0, plotArea().top() / 2 - high / 2, double(pictureSize().width()), high};
 }
 
 QPen GCPicture::pen(const QColor& colour, double width) const
@@ -221,7 +224,7 @@ void GCPicture::drawNumbers(QPainter& painter) const
 {
     const auto& route = m_chart.route;
     if (route.size() < 3) return;
-    const double wide = fontMetrics().horizontalAdvance("19");
+    const double wide = letterMetrics().horizontalAdvance("19");
     std::vector<double> places;
     for (std::size_t i = 1; i + 1 < route.size(); ++i)
         places.push_back(pixel(route[i]).x());
@@ -241,7 +244,7 @@ void GCPicture::drawEdges(QPainter& painter) const
 {
     const QRectF area = plotArea();
     const double tick = lineHeight() / 3;
-    const double wide = fontMetrics().horizontalAdvance("000°W");
+    const double wide = letterMetrics().horizontalAdvance("000°W");
     painter.setPen(pen(colours().palette.color(QPalette::WindowText), thin));
     const auto label = [&](const QRectF& room, Qt::Alignment alignment, const ChartLabel& each) {
         m_figures.draw(painter, room, alignment, QString::fromStdString(each.text));

@@ -287,7 +287,8 @@ WorkingPaper frmGC2000::paper() const
 std::vector<PaperPicture> frmGC2000::paperPictures()
 {
     if (!m_result.figures) return {};
-    return {paperPicture(*m_picGC, "Great circle and rhumb line. No navigational chart.")};
+    return {paperPicture(*m_picGC, "Great circle and rhumb line. No navigational chart.",
+                         QSize(640, 400))};
 }
 
 void frmGC2000::showRow(std::size_t row)

@@ -148,7 +148,7 @@ std::vector<std::string> nextLine(DelimitedText& text, bool& isWhole)
     std::vector<std::string> cells;
     do {
         const DelimitedText::Item item = text.next();
-        cells.emplace_back(item.text);
+        cells.push_back(textOfCell(item.text));
         isWhole = isWhole && item.flaw == DelimitedText::Item::Flaw::None;
     } while (text.lineGoesOn());
     return cells;

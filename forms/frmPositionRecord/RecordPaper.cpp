@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/RecordPaper.h"
 
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "app/working/SailingWorking.h"
 #include "forms/frmPositionRecord/RecordList.h"
 #include "forms/frmPositionRecord/RecordText.h"
 #include "forms/frmPositionRecord/RecordWorking.h"
+#include "navlib/datetime.h"
 
 namespace korvel
 {
@@ -16,6 +19,14 @@ std::string numberOfRow(std::size_t row)
     return std::to_string(row + 1);
 }
 
+/// An instant that was understood; what stands there when it was not.
+std::string instantOr(const std::optional<NavFunc113::DateTime>& instant, const std::string& text)
+{
+    if (!instant) return text;
+    const bool hasSeconds = NavFunc113::TimeOf(*instant).second != 0;
+    return Format(*instant, hasSeconds ? "yyyy-mm-dd hh:mm:ss" : "yyyy-mm-dd hh:mm");
+}
+
 PaperTable rowsInUse(const PositionRecordInput& input, const PositionRecordResult& result)
 {
     PaperTable table{"Rows", {"No.", "SMT", "TD h", "UTC", "Latitude", "Longitude", "Remark"}, {}};
@@ -23,8 +34,9 @@ PaperTable rowsInUse(const PositionRecordInput& input, const PositionRecordResul
         const PositionRow& row = input.rows[i];
         const PositionRowResult& shown = result.rows[i];
         if (row.isEmpty()) continue;
-        table.rows.push_back({numberOfRow(i), row.satelliteSMT,
-                              timeDifferenceOfBox(row.satelliteTD, shown.assumedTD), shown.utc,
+        table.rows.push_back({numberOfRow(i), instantOr(shown.read.smt, row.satelliteSMT),
+                              timeDifferenceOfBox(row.satelliteTD, shown.assumedTD),
+                              instantOr(shown.read.utc, shown.utc),
                               positionOfBox(row.latitude, Axis::Latitude),
                               positionOfBox(row.longitude, Axis::Longitude), shown.remark});
     }
@@ -73,7 +85,10 @@ void tellRecord(WorkingPaper& paper, const PositionRecordInput& input,
     for (const std::string& sentence : sailingLimits(input.earth))
         paper.limits.push_back(sentence);
     if (!paper.tables.empty()) paper.list = recordList(input, result);
-    if (!result.fixes.empty()) paper.line = trackOf(result);
+    if (result.fixes.empty()) return;
+    paper.line = trackOf(result);
+    const RecordedFix& last = result.fixes.back();
+    paper.place = positionForCopy(last.latitude, last.longitude);
 }
 
 } // namespace korvel

@@ -275,7 +275,7 @@ void frmPositionRecord::print()
                                 " SMT, TD " + Format(TD, "+0.0;-0.0") + " (ZD " +
                                 Format(-TD, "+0.0;-0.0") + ")";
     const QString record = QString::fromStdString(positionRecordText(input(), m_shown));
-    printer().print(QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
+    printer().print("Position record", QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
         printRecord(painter, room, record, QString::fromStdString(printed));
     });
 }

@@ -343,7 +343,8 @@ WorkingPaper frmTIDE::paper() const
 std::vector<PaperPicture> frmTIDE::paperPictures()
 {
     if (!m_shown) return {};
-    return {paperPicture(m_sheet->picture(), "The day's curve, zone time")};
+    return {paperPicture(m_sheet->picture(), "The day's curve, zone time " + QString::fromStdString(m_shown->four.lblTD),
+                         QSize(640, 360))};
 }
 
 void frmTIDE::applyColours()

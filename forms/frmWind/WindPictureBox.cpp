@@ -55,9 +55,10 @@ void WindPictureBox::placeMargins()
 {
     // A knot is as long to the right as ahead: the plot is square, the legend stands above it.
     const int top = static_cast<int>(1.5 * lineHeight());
-    const int side = std::min(width(), height() - top);
-    const int left = (width() - side) / 2;
-    setPlotMargins({left, top, width() - side - left, height() - top - side});
+    const int wide = pictureSize().width(), high = pictureSize().height();
+    const int side = std::min(wide, high - top);
+    const int left = (wide - side) / 2;
+    setPlotMargins({left, top, wide - side - left, high - top - side});
 }
 
 void WindPictureBox::draw(QPainter& painter)
@@ -126,7 +127,7 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
         // Between two spokes, so that no line runs through the figure.
         const QPointF at = pixel({ring.value() * std::sqrt(0.5), ring.value() * std::sqrt(0.5)});
         const QString text = QString::number(ring.value()) + (ring == outermost ? " kn" : "");
-        const double wide = QFontMetricsF(font()).horizontalAdvance(text);
+        const double wide = QFontMetricsF(letters()).horizontalAdvance(text);
         const QRectF room(at.x() - wide / 2 - 1, at.y() - lineHeight() / 2, wide + 2, lineHeight());
         painter.fillRect(room, colours().paper);
         m_figureText.draw(painter, room, Qt::AlignCenter, text);

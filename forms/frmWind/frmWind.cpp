@@ -155,7 +155,7 @@ std::vector<PaperPicture> frmWind::paperPictures()
 {
     if (!m_wind.figures) return {};
     const QString up = orientation() == WindOrientation::NorthUp ? "north up" : "head up";
-    return {paperPicture(*m_picWind, "Wind triangle, knots, " + up)};
+    return {paperPicture(*m_picWind, "Wind triangle, knots, " + up, QSize(460, 480))};
 }
 
 void frmWind::optWind_Click()

@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
+#include <utility>
+
 namespace korvel
 {
 
@@ -33,8 +35,7 @@ void PictureBox::setPlotMargins(const QMargins& margins)
 
 QRectF PictureBox::plotArea() const
 {
-    const QSize whole = isOnPaper() ? m_drawnSize : size();
-    return QRectF(QPointF(0, 0), QSizeF(whole)).marginsRemoved(m_margins);
+    return QRectF(QPointF(0, 0), QSizeF(pictureSize())).marginsRemoved(m_margins);
 }
 
 QPointF PictureBox::toPixel(double x, double y) const
@@ -55,9 +56,16 @@ QPointF PictureBox::toUser(QPointF pixel) const
 void PictureBox::drawOn(QPainter& painter, const QSize& size)
 {
     m_drawnSize = size;
+    m_paperLetters = painter.font();
+    const double onScreen = std::exchange(m_lineHeight, QFontMetricsF(m_paperLetters).height());
+    const QMargins margins = m_margins;
+    placeMargins();
     painter.setRenderHint(QPainter::Antialiasing);
     draw(painter);
     m_drawnSize = QSize();
+    m_lineHeight = onScreen;
+    setPlotMargins(margins);
+    placeMargins();
 }
 
 void PictureBox::changeEvent(QEvent* event)

@@ -33,7 +33,8 @@ public:
     /// False while a paint leaves this part as it is; for parts that cost more to draw than to ask.
     bool isToBeDrawn(const QRectF& part) const;
 
-    /// Draws the picture at another size, for printing.
+    /// Draws the picture at another size, for printing: in the letters of the painter, whatever
+    /// the size of those on the screen is.
     void drawOn(QPainter& painter, const QSize& size);
 
 signals:
@@ -48,8 +49,15 @@ protected:
     virtual void draw(QPainter& painter) = 0;
     /// Sets the plot margins where they depend on the size of the picture or of its letters.
     virtual void placeMargins() {}
-    /// Height of a line of text on the screen, which the sizes in a picture follow.
+    /// Height of a line of text, which the sizes in a picture follow.
     double lineHeight() const { return m_lineHeight; }
+    /// The letters that are being drawn with: the widget's, or those of the paper.
+    QFont letters() const { return isOnPaper() ? m_paperLetters : font(); }
+    QFontMetrics letterMetrics() const
+    {
+        return isOnPaper() ? QFontMetrics(m_paperLetters) : fontMetrics();
+    }
+    QSize pictureSize() const { return isOnPaper() ? m_drawnSize : size(); }
     /// True while it is drawn at another size than the widget's.
     bool isOnPaper() const { return m_drawnSize.isValid(); }
 
@@ -66,6 +74,7 @@ private:
     QMargins m_margins;
     double m_lineHeight;
     QRegion m_painted; ///< the part that is being painted
+    QFont m_paperLetters;
     QSize m_drawnSize; ///< set while the picture is drawn at another size than the widget's
 };
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/records/QuoteSigns.h"
 #include "shell/main/frmKORVEL2000.h"
 
 #include "app/reading/Format.h"
@@ -160,7 +161,8 @@ void frmKORVEL2000::loadSavedValues()
     m_screen.apply(); // before the first box
     m_recovery.offer(m_saved);
     if (const auto ship = m_shipSettings.load())
-        m_program.ship = {textOf(ship->front()), textOf(ship->back())};
+        m_program.ship = {withQuoteSigns(textOf(ship->front())),
+                          withQuoteSigns(textOf(ship->back()))};
     const auto offset = m_offsetSettings.load();
     if (offset && !m_shipsTime.takeOffset(numberOf(offset->front())))
         m_questions.ask({"The offset of ship's time in \"KV_Clock.ini\" is refused: with it "
@@ -178,7 +180,8 @@ void frmKORVEL2000::setShip()
     const auto voyage = m_questions.input("Voyage, as papers show it", title, ship.voyage);
     if (!voyage) return;
     ship = {*name, *voyage};
-    const std::string fault = m_shipSettings.saveQuietly({ship.name, ship.voyage});
+    const std::string fault = m_shipSettings.saveQuietly(
+        {withoutQuoteSigns(ship.name), withoutQuoteSigns(ship.voyage)});
     if (!fault.empty()) m_questions.ask({fault, programTitle, Buttons::Ok});
 }
 

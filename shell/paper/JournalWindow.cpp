@@ -30,7 +30,7 @@ constexpr auto atOnce = 50ms;      // of a search, before the next key is looked
 } // namespace
 
 JournalWindow::JournalWindow(Program& program)
-    : m_files(program.files()), m_journal(m_files), m_printer(program, *this),
+    : m_program(program), m_journal(program.files()), m_printer(program, *this),
       m_menus(program, *this), m_search(new QLineEdit), m_days(new QListWidget),
       m_text(new QPlainTextEdit), m_found(new QLabel)
 {
@@ -104,7 +104,7 @@ void JournalWindow::refresh()
 {
     m_searchOn.stop();
     const std::string words = m_search->text().toStdString();
-    m_running = words.empty() ? nullptr : std::make_unique<JournalSearch>(m_files, words);
+    m_running = words.empty() ? nullptr : std::make_unique<JournalSearch>(m_program.files(), words);
     if (m_running)
         searchOn();
     else
@@ -166,7 +166,8 @@ void JournalWindow::findNext()
 void JournalWindow::print() const
 {
     if (!day().isEmpty())
-        m_printer.print(PaperDocument("Journal of " + day(), m_text->toPlainText()));
+        m_printer.print(
+            PaperDocument(m_program.paperHeading(), "Journal of " + day(), m_text->toPlainText()));
 }
 
 } // namespace korvel

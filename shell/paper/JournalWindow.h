@@ -38,7 +38,7 @@ private:
     void print() const;
     QString day() const;
 
-    FileStore& m_files;
+    Program& m_program;
     Journal m_journal;
     std::unique_ptr<JournalSearch> m_running; ///< none while there is nothing to search for
     QTimer m_searchOn;

@@ -2,6 +2,7 @@
 #include "shell/paper/PagePrinter.h"
 
 #include "shell/machine/ExecOwned.h"
+#include "shell/paper/PageFrame.h"
 #include "shell/paper/PaperDocument.h"
 #include "shell/paper/PdfBytes.h"
 #include "shell/paper/PrintPreview.h"
@@ -10,6 +11,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QtMath>
 
 namespace korvel
 {
@@ -31,8 +33,10 @@ void PagePrinter::setUp(QPrinter& printer, QPageLayout::Orientation orientation)
     printer.setPageMargins(printMargins, QPageLayout::Millimeter);
 }
 
-bool PagePrinter::letChoose(QPrinter& printer) const
+bool PagePrinter::letChoose(const QString& title, QPrinter& printer, const DrawPages& draw) const
 {
+    if (execOwned(new PrintPreview(title, draw, printer, &m_window)) != QDialog::Accepted)
+        return false;
     return execOwned(new QPrintDialog(&printer, &m_window)) == QDialog::Accepted;
 }
 
@@ -40,20 +44,30 @@ void PagePrinter::print(const PaperDocument& document) const
 {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, QPageLayout::Portrait);
-    const int wanted = execOwned(new PrintPreview(document, printer, &m_window));
-    if (wanted != QDialog::Accepted || !letChoose(printer)) return;
-    paint(printer, [&](QPagedPaintDevice& device, QPainter& painter) {
+    const DrawPages draw = [&](QPagedPaintDevice& device, QPainter& painter) {
         document.drawPages(device, painter, std::max(printer.fromPage(), 1), printer.toPage());
-    });
+    };
+    if (letChoose(document.title(), printer, draw)) paint(printer, draw);
 }
 
-void PagePrinter::print(QPageLayout::Orientation orientation, const Draw& draw) const
+void PagePrinter::print(const QString& title, QPageLayout::Orientation orientation,
+                        const Draw& draw) const
 {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, orientation);
-    if (!letChoose(printer)) return;
-    paint(printer,
-          [&](QPagedPaintDevice&, QPainter& painter) { draw(painter, painter.viewport()); });
+    const PageFrame frame{m_program.paperHeading(), title};
+    const DrawPages framed = [&](QPagedPaintDevice& device, QPainter& painter) {
+        const QRectF sheet(0, 0, device.width(), device.height());
+        frame.drawHead(painter, sheet);
+        frame.drawFoot(painter, sheet, 1, 1);
+        const double head = PageFrame::headHeight(painter);
+        const double high = sheet.height() - head - PageFrame::footHeight(painter);
+        painter.save();
+        painter.translate(0, head);
+        draw(painter, QRect(0, 0, device.width(), qFloor(high)));
+        painter.restore();
+    };
+    if (letChoose(title, printer, framed)) paint(printer, framed);
 }
 
 void PagePrinter::paint(QPrinter& printer, const DrawPages& draw) const

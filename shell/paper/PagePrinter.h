@@ -25,17 +25,19 @@ public:
     /// Shows the pages of a paper, and prints them when the officer wants it.
     void print(const PaperDocument& document) const;
 
-    /// Prints a page of the window's own making.
-    /// @param draw gets a painter in device pixels and the room of the page in them
+    /// Shows a page of the window's own making in the frame of all papers, and prints it when the
+    /// officer wants it.
+    /// @param title below on the page
+    /// @param draw gets a painter in device pixels and the room within the frame in them
     using Draw = std::function<void(QPainter&, const QRect& room)>;
-    void print(QPageLayout::Orientation orientation, const Draw& draw) const;
+    void print(const QString& title, QPageLayout::Orientation orientation, const Draw& draw) const;
 
     /// Writes a file that the officer chose, whole or not at all, and tells when it cannot be.
     bool write(const std::string& path, const std::string& bytes) const;
 
 private:
     void setUp(QPrinter& printer, QPageLayout::Orientation orientation) const;
-    bool letChoose(QPrinter& printer) const;
+    bool letChoose(const QString& title, QPrinter& printer, const DrawPages& draw) const;
     void paint(QPrinter& printer, const DrawPages& draw) const;
     void say(const std::string& text) const;
 

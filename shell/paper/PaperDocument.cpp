@@ -2,6 +2,7 @@
 #include "shell/paper/PaperDocument.h"
 
 #include "shell/machine/AsQString.h"
+#include "shell/paper/PageFrame.h"
 #include "shell/paper/PaperHtml.h"
 #include "shell/paper/PaperPages.h"
 #include "shell/paper/PdfBytes.h"
@@ -20,7 +21,6 @@ namespace
 {
 
 constexpr double paperLetters = 8.5;              // points
-constexpr double footLetters = 7.5;               // points
 constexpr QMarginsF paperMargins(18, 15, 15, 12); // millimetres; the left one for the file
 
 constexpr std::size_t linesOfWindow = 40; // what the paper's window shows at first, about
@@ -85,8 +85,8 @@ PaperDocument::PaperDocument(PaperHeading heading, WorkingPaper paper,
 {
 }
 
-PaperDocument::PaperDocument(QString title, QString plainText)
-    : m_title(std::move(title)), m_plainText(std::move(plainText))
+PaperDocument::PaperDocument(PaperHeading heading, QString title, QString plainText)
+    : m_title(std::move(title)), m_heading(std::move(heading)), m_plainText(std::move(plainText))
 {
 }
 
@@ -161,29 +161,27 @@ void PaperDocument::write(QTextDocument& document, const QString& html, int zoom
 void PaperDocument::drawPages(QPagedPaintDevice& device, QPainter& painter, int first,
                               int last) const
 {
-    const QFont footFont = paperFont(footLetters);
-    painter.setFont(footFont);
+    painter.setFont(PageFrame::letters());
+    const PageFrame frame{m_heading, m_title};
     const QRectF room(0, 0, device.width(), device.height());
+    const double head = PageFrame::headHeight(painter);
     QTextDocument document;
     document.setDocumentMargin(0); // the paper has margins of its own
     document.documentLayout()->setPaintDevice(&device);
     document.setTextWidth(room.width());
     fill(document);
     const std::vector<PaperPage> pages =
-        pagesOf(document, room.height() - 2.0 * painter.fontMetrics().height());
+        pagesOf(document, room.height() - head - PageFrame::footHeight(painter));
 
     const int all = static_cast<int>(pages.size());
     const int end = last > 0 ? std::min(last, all) : all;
     for (int number = first; number <= end; ++number) {
         if (number > first) device.newPage();
         const PaperPage& page = pages[static_cast<std::size_t>(number - 1)];
-        drawSlice(document, painter, page.heading, 0);
-        drawSlice(document, painter, page.body, page.heading.height());
-        painter.setFont(footFont);
-        painter.setPen(Qt::black);
-        painter.drawText(room, Qt::AlignBottom | Qt::AlignLeft, m_title);
-        painter.drawText(room, Qt::AlignBottom | Qt::AlignRight,
-                         QString("Page %1 of %2").arg(number).arg(all));
+        frame.drawHead(painter, room);
+        drawSlice(document, painter, page.heading, head);
+        drawSlice(document, painter, page.body, head + page.heading.height());
+        frame.drawFoot(painter, room, number, all);
     }
 }
 

@@ -23,7 +23,7 @@ class PaperDocument
 public:
     PaperDocument(PaperHeading heading, WorkingPaper paper, std::vector<PaperPicture> pictures);
     /// A plain text as a paper: a day of the journal.
-    PaperDocument(QString title, QString plainText);
+    PaperDocument(PaperHeading heading, QString title, QString plainText);
 
     const PaperHeading& heading() const { return m_heading; }
     const WorkingPaper& paper() const { return m_paper; }

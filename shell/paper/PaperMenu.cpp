@@ -116,7 +116,9 @@ void PaperMenu::exportLine() const
     const PaperDocument document = m_hooks.document();
     if (!document.paper().line) return;
     save("Save for a chart program", offeredName(document.heading(), document.paper(), "gpx"),
-         gpxText(*document.paper().line, asQString(document.heading().program)).toStdString());
+         gpxText(*document.paper().line, asQString(document.heading().program),
+                 document.heading().SMT)
+             .toStdString());
 }
 
 } // namespace korvel

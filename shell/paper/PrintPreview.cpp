@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/paper/PrintPreview.h"
 
-#include "shell/paper/PaperDocument.h"
 #include "shell/screen/NightSheet.h"
 #include "shell/screen/WindowPlaces.h"
 
@@ -22,14 +21,15 @@ constexpr QRgb aroundPages = qRgb(208, 212, 216); // a shade that stays dim by n
 
 } // namespace
 
-PrintPreview::PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent)
+PrintPreview::PrintPreview(const QString& title, const DrawPages& draw, QPrinter& printer,
+                           QWidget* parent)
     : QDialog(parent), m_pages(new QPrintPreviewWidget(&printer))
 {
     setObjectName("dlgPreview");
-    setWindowTitle("Pages of \"" + document.title() + '"');
-    connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [&document](QPrinter* onto) {
+    setWindowTitle("Pages of \"" + title + '"');
+    connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [&draw](QPrinter* onto) {
         QPainter painter(onto);
-        document.drawPages(*onto, painter);
+        draw(*onto, painter);
     });
     m_pages->fitToWidth();
     if (auto* view = m_pages->findChild<QGraphicsView*>()) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/paper/PdfBytes.h"
+
 #include <QDialog>
 
 class QPrinter;
@@ -9,14 +11,12 @@ class QPrintPreviewWidget;
 namespace korvel
 {
 
-class PaperDocument;
-
 /// The pages as they will be printed, before they are. Accepted when the officer wants them.
 class PrintPreview : public QDialog
 {
 public:
-    /// @param document, printer must outlive the dialog
-    PrintPreview(const PaperDocument& document, QPrinter& printer, QWidget* parent);
+    /// @param draw, printer must outlive the dialog
+    PrintPreview(const QString& title, const DrawPages& draw, QPrinter& printer, QWidget* parent);
 
 private:
     void turn(int pages);

@@ -23,7 +23,6 @@ using namespace std::chrono_literals;
 
 constexpr const char* doneKey = "~done"; // behind all notices
 constexpr auto shownFor = 6s;
-constexpr QSize roomOfPicture(640, 480); // pixels of a screen: as wide as a sheet
 
 } // namespace
 
@@ -124,9 +123,9 @@ WorkingPaper CalculatorWindow::paper() const
     return paper;
 }
 
-PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& caption)
+PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& caption,
+                                            const QSize& size)
 {
-    const QSize size = picture.size().scaled(roomOfPicture, Qt::KeepAspectRatio);
     return makePaperPicture(caption, size, [&picture](QPainter& painter, const QSize& room) {
         picture.drawOn(painter, room);
     });

@@ -61,8 +61,10 @@ protected:
     virtual WorkingPaper paper() const;
     /// The pictures of the paper, drawn in the colours of paper.
     virtual std::vector<PaperPicture> paperPictures() { return {}; }
-    /// A picture in the shape that it has in the window, as large as the paper allows.
-    static PaperPicture paperPicture(PictureBox& picture, const QString& caption);
+    /// A picture drawn for paper, whatever size and shape it has in the window.
+    /// @param size in pixels of a screen; a sheet is 640 wide
+    static PaperPicture paperPicture(PictureBox& picture, const QString& caption,
+                                     const QSize& size);
     /// A result as it goes into a paper.
     /// @param inFull how the figure is written out, when the label shows it otherwise
     static PaperFigure paperFigure(const ResultLabel& label, const std::string& inFull = {});

@@ -136,17 +136,17 @@ void SightPicture::setColours(const ColourScheme& colours)
 
 double SightPicture::unit() const
 {
-    return fontMetrics().height() / 4.0;
+    return letterMetrics().height() / 4.0;
 }
 
 void SightPicture::placeMargins()
 {
-    setPlotMargins(marginsFor(size()));
+    setPlotMargins(marginsFor(pictureSize()));
 }
 
 QMargins SightPicture::marginsFor(const QSize& size) const
 {
-    const QFontMetrics metrics = fontMetrics();
+    const QFontMetrics metrics = letterMetrics();
     const int left = metrics.horizontalAdvance("00-.00'0N ");
     const int bottom = metrics.height() * 5 / 4;
     const int top = metrics.height() / 2, right = metrics.horizontalAdvance("000-.00'0W") * 5 / 9;
@@ -160,9 +160,7 @@ QMargins SightPicture::marginsFor(const QSize& size) const
 void SightPicture::drawOnPaper(QPainter& painter, const QSize& size)
 {
     const ColourScheme onScreen = std::exchange(m_colours, ColourScheme::day());
-    setPlotMargins(marginsFor(size));
     drawOn(painter, size);
-    placeMargins();
     m_colours = onScreen;
 }
 

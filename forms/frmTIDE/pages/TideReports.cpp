@@ -55,7 +55,9 @@ void TideReports::printDay(const TideSubject& subject, frmTIDEPicture& picture) 
         asQString(subject.place), asQString(TideDates::label(subject.day.four.serial)), subject.day,
         subject.lines,
         [&picture](QPainter& painter, const QSize& size) { picture.drawForPaper(painter, size); }};
-    m_printer.print(QPageLayout::Portrait,
+    const bool isTide = subject.day.four.kind == TideKind::Tide;
+    m_printer.print((isTide ? "Tide of " : "Tidal stream of ") + page.place + ", " + page.date,
+                    QPageLayout::Portrait,
                     [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
 }
 
@@ -64,7 +66,7 @@ void TideReports::printWeek(const TideSubject& subject) const
     const TideWeekPage page{
         asQString(subject.place), subject.day.four.kind, asQString(subject.day.four.lblTD),
         weekFrom(subject.station, subject.day.four.serial, subject.dates), subject.lines};
-    m_printer.print(QPageLayout::Portrait,
+    m_printer.print(page.place + ", seven days", QPageLayout::Portrait,
                     [&page](QPainter& painter, const QRect& room) { page.draw(painter, room); });
 }
 

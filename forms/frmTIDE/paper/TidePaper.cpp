@@ -100,7 +100,7 @@ void tellDay(WorkingPaper& paper, const std::string& place, const TideAsked& ask
     paper.place = place;
     paper.inputs.insert(paper.inputs.begin(), {{"Place", place},
                                                {"Station", four.title},
-                                               {"Date", TideDates::label(four.serial)},
+                                               {"Date", Format(static_cast<double>(four.serial), "yyyy-mm-dd")},
                                                {"Zone time", four.lblTD}});
     tellResults(paper, asked);
     paper.tables = {waterTable(asked.day), halfHours(asked.day)};

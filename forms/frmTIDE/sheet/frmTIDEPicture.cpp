@@ -80,7 +80,7 @@ void frmTIDEPicture::mark(const std::vector<NavFunc113::Hours>& times, std::opti
 CurvePlace frmTIDEPicture::place() const
 {
     return {[this](double hour, double value) { return toPixel(hour, value); }, plotArea(),
-            fontMetrics()};
+            letterMetrics()};
 }
 
 void frmTIDEPicture::placeLabels()
@@ -152,9 +152,11 @@ QSize frmTIDEPicture::minimumSizeHint() const
 
 void frmTIDEPicture::placeMargins()
 {
-    const int space = fontMetrics().horizontalAdvance(' ');
-    setPlotMargins({fontMetrics().horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space,
-                    fontMetrics().height()});
+    const QFontMetrics metrics = letterMetrics();
+    const int space = metrics.horizontalAdvance(' ');
+    setPlotMargins({metrics.horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space,
+                    metrics.height()});
+    if (isOnPaper()) return; // the labels stand on the screen
     placeLabels();
     placeReading();
 }
@@ -213,12 +215,12 @@ void frmTIDEPicture::draw(QPainter& painter)
     const ColourScheme colours = ColourScheme::day();
     const CurvePlace there = place();
     const CurvePainter curve(painter, m_picture, colours, there);
-    painter.setFont(axisFont());
     curve.drawGrid();
     curve.drawFurtherLevels();
     curve.drawAxisTexts();
     if (m_all) curve.drawAllConstituents(*m_all);
     curve.drawCurve();
+    curve.drawMarks(marks(), m_markedLevel);
 }
 
 void frmTIDEPicture::drawScreen(QPainter& painter)
@@ -271,14 +273,6 @@ std::vector<CurvePoint> frmTIDEPicture::marks() const
     for (const NavFunc113::Hours time : m_markedTimes)
         points.push_back({time.value(), m_prediction->at(time)});
     return points;
-}
-
-/// In pixels, so that a scaled painter scales the letters too.
-QFont frmTIDEPicture::axisFont() const
-{
-    QFont sized = font();
-    sized.setPixelSize(QFontInfo(font()).pixelSize());
-    return sized;
 }
 
 } // namespace korvel

@@ -57,7 +57,6 @@ private:
     void drawScreen(QPainter& painter);
     QRegion labelsOnGrid() const;
     std::vector<CurvePoint> marks() const;
-    QFont axisFont() const;
 
     Program& m_program;
     std::optional<TidePrediction> m_prediction;

@@ -30,7 +30,11 @@ QList<QStringList> pagesOfPDF(const QByteArray& PDF)
         pages << page.split('\n', Qt::SkipEmptyParts);
         EXPECT_THAT(pages.back().back().toStdString(),
                     ::testing::HasSubstr("Page " + std::to_string(pages.size()) + " of "));
+        EXPECT_THAT(pages.back().back().toStdString(), ::testing::HasSubstr("KORVEL2000 1."));
         pages.back().removeLast();
+        EXPECT_THAT(pages.back().front().toStdString(),
+                    ::testing::ContainsRegex("^ *Ship .*Voyage .* SMT, .* UTC"));
+        pages.back().removeFirst();
     }
     return pages;
 }
