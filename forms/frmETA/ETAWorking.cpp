@@ -56,7 +56,11 @@ Working arrivalsWorking(const ETAResult& result)
 
 PaperTable arrivalsTable(const ETAResult& result)
 {
-    PaperTable table{"Arrivals", {"Speed, knots", "Local time at arrival", "In the window"}, {}};
+    PaperTable table{"Arrivals",
+                     {"Speed, knots",
+                      "Local time at arrival, TD " + Format(result.passage->TD[1], "+0.0##;-0.0##"),
+                      "In the window"},
+                     {}};
     for (std::size_t i = 0; i < result.passage->speeds.size(); ++i)
         table.rows.push_back({result.labels->lblSPD[i],
                               Format(arrivalOf(*result.passage, i), inFull),

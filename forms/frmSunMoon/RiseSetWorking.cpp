@@ -58,7 +58,8 @@ Working ageWorking(const RiseSetResult& result)
 {
     Working working{"Age of the Moon",
                     {"Ecliptic longitudes by series of cosines, 61 terms for the Moon and 16 for "
-                     "the Sun; a month counts 30 days"},
+                     "the Sun, listed in the manual, \"Series of Sun and Moon\"; a month counts 30 "
+                     "days"},
                     {}};
     const std::string at = "at " + instantText(result.date + 0.5) + " UTC";
     working.step("Longitude of the Moon", "λm, mean equinox", at,
@@ -89,7 +90,9 @@ std::vector<std::string> methodOf(const EventWords& words, const RiseSetRule& ru
         "Declination δ and E = GHA - 15° × hours of UTC by short series of cosines (" +
             std::string(words.isSun ? "16 terms in longitude, 8 in distance"
                                     : "61 terms in longitude, 44 in latitude") +
-            ", two of nutation, dynamical time = UTC + 60 s)",
+            ", two of nutation, dynamical time = UTC + 60 s; all listed in the manual, \"Series of "
+            "Sun "
+            "and Moon\")",
         "For i = -1, 0 and 1 in this order two steps: with the body's place at 12h + TD UTC of the "
         "date + i days, then at the UTC of the time that came of it; the first that ends on "
         "the date counts",

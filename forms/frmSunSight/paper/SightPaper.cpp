@@ -18,15 +18,28 @@ namespace
 
 using namespace NavFunc113;
 
+/// A text of the window with its dates, "1990/12/16", as papers have them.
+std::string datesInFull(std::string text)
+{
+    constexpr std::string_view shape = "0000/00/00";
+    for (std::size_t at = 0; at + shape.size() <= text.size(); ++at) {
+        const bool isDate =
+            std::equal(shape.begin(), shape.end(), text.begin() + std::ptrdiff_t(at),
+                       [](char wanted, char each) {
+                           return wanted == '0' ? each >= '0' && each <= '9' : each == wanted;
+                       });
+        if (isDate) text[at + 4] = text[at + 7] = '-';
+    }
+    return text;
+}
+
 /// Adds a result that is there, written out where the window writes it otherwise.
 void addResult(WorkingPaper& paper, const std::string& name, const std::string& shown,
                const std::string& inFull = {}, const std::string& unit = {})
 {
     if (shown.empty()) return;
-    if (inFull.empty())
-        paper.results.push_back({name, shown, unit, ""});
-    else
-        paper.results.push_back({name, inFull, unit, shown});
+    const std::string whole = inFull.empty() ? datesInFull(shown) : inFull;
+    paper.results.push_back({name, whole, unit, whole == shown ? "" : shown});
 }
 
 std::string inFull(const std::optional<DegMin>& angle)

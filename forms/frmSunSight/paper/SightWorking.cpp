@@ -105,10 +105,11 @@ std::string siderealFigures(const SunFigures& sun, DateTime UTC)
 Working sunWorking(const LOPResult& line)
 {
     const SunFigures& sun = *line.figures.observation.sun;
-    Working working{"Place of the Sun",
-                    {"Short series of cosines, listed in the manual (Sun sight, \"Series of the "
-                     "Sun\"); no almanac is needed. T in Julian centuries"},
-                    {}};
+    Working working{
+        "Place of the Sun",
+        {"Short series of cosines, listed in the manual (Sun and Moon, rise and "
+         "set, \"Series of Sun and Moon\"); no almanac is needed. T in Julian centuries"},
+        {}};
     addApparentLongitude(working, sun, *line.figures.observation.UTC);
     const std::string longitude = sightTerm(sun.apparentLongitude);
     const std::string obliquity = sightTerm(sun.obliquity);

@@ -82,6 +82,12 @@ std::string nowText(const StationDays& station, NavFunc113::Hours zone, const Ti
     }
 }
 
+/// As tables for other eyes and programs have it.
+static std::string isoDate(std::int64_t serial)
+{
+    return Format(static_cast<double>(serial), "yyyy-mm-dd");
+}
+
 std::vector<WeekDay> weekFrom(const StationDays& station, std::int64_t serial,
                               const TideDates& dates)
 {
@@ -89,7 +95,7 @@ std::vector<WeekDay> weekFrom(const StationDays& station, std::int64_t serial,
     const std::int64_t last = std::min(serial + 6, dates.lastSerial());
     for (; serial <= last; ++serial) {
         const TideDayShown day = station.day(serial);
-        week.push_back({TideDates::label(serial),
+        week.push_back({isoDate(serial),
                         springOrNeap(MoonAtNoon(serial, day.four.station.zone).elongation),
                         waterLines(day)});
     }
@@ -102,11 +108,12 @@ std::string monthTable(const StationDays& station, const std::string& place, std
     const NavFunc113::CivilDate date = NavFunc113::DateOfSerial(serial);
     std::int64_t day =
         std::max(NavFunc113::DaySerial({date.year, date.month, 1}), dates.firstSerial());
-    std::string table = "# " + place + ", zone time. Not for navigation.\r\n" +
+    // The mark says that the letters are UTF-8.
+    std::string table = "\xEF\xBB\xBF# " + place + ", zone time. Not for navigation.\r\n" +
                         "date,time,water,value,unit,constituents,level\r\n";
     for (; day <= dates.lastSerial() && NavFunc113::DateOfSerial(day).month == date.month; ++day) {
         const TideDayShown shown = station.day(day);
-        const std::string label = TideDates::label(day);
+        const std::string label = isoDate(day);
         for (const WaterPair& water : watersOf(shown)) {
             if (water.four) addLine(table, label, shown, *water.four, "four");
             if (water.all) addLine(table, label, shown, *water.all, "all");

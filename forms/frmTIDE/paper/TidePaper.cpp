@@ -19,8 +19,9 @@ std::string quantityOf(const TideDayShown& day)
 PaperTable waterTable(const TideDayShown& day)
 {
     PaperTable table{day.four.kind == TideKind::Tide
-                         ? "High and low waters"
-                         : "Floods and ebbs where the rate is greatest or least",
+                         ? "High and low waters, zone time " + day.four.lblTD
+                         : "Floods and ebbs where the rate is greatest or least, zone time " +
+                               day.four.lblTD,
                      {"By four constituents"},
                      {}};
     if (day.all) table.headings.push_back("By all constituents (difference)");
@@ -33,7 +34,7 @@ PaperTable waterTable(const TideDayShown& day)
 
 PaperTable halfHours(const TideDayShown& day)
 {
-    PaperTable table{"Half-hourly values", {"Zone time", quantityOf(day)}, {}};
+    PaperTable table{"Half-hourly values", {"Zone time " + day.four.lblTD, quantityOf(day)}, {}};
     std::optional<NavFunc113::TideValues> all;
     if (day.all) {
         all = day.all->halfHourly();
@@ -98,10 +99,11 @@ void tellDay(WorkingPaper& paper, const std::string& place, const TideAsked& ask
     const bool isTide = four.kind == TideKind::Tide;
     paper.kind = isTide ? "Tide of the day" : "Tidal stream of the day";
     paper.place = place;
-    paper.inputs.insert(paper.inputs.begin(), {{"Place", place},
-                                               {"Station", four.title},
-                                               {"Date", Format(static_cast<double>(four.serial), "yyyy-mm-dd")},
-                                               {"Zone time", four.lblTD}});
+    paper.inputs.insert(paper.inputs.begin(),
+                        {{"Place", place},
+                         {"Station", four.title},
+                         {"Date", Format(static_cast<double>(four.serial), "yyyy-mm-dd")},
+                         {"Zone time", four.lblTD}});
     tellResults(paper, asked);
     paper.tables = {waterTable(asked.day), halfHours(asked.day)};
     paper.workings = {constituentsWorking(asked.day), heightsWorking(asked)};

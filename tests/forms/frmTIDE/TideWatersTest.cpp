@@ -256,22 +256,22 @@ TEST(TideTables, weekAndMonthEndWhereTheDatesDo)
     const TideDates dates;
     const auto week = weekFrom(tokyo, 37817, dates);
     ASSERT_EQ(week.size(), 7u);
-    EXPECT_EQ(week.back().date, "2003/07/21");
+    EXPECT_EQ(week.back().date, "2003-07-21");
     EXPECT_EQ(week[0].waters.size(), 3u);
     EXPECT_EQ(weekFrom(tokyo, 38715, dates).size(), 3u) << "to 2005/12/31";
 
     const std::string july = monthTable(tokyo, "Tokyo", 37817, dates);
-    EXPECT_THAT(july, HasSubstr("2003/07/01,"));
-    EXPECT_THAT(july, HasSubstr("2003/07/31,"));
-    EXPECT_EQ(july.find("2003/08"), july.npos);
-    EXPECT_EQ(july.find("2003/06"), july.npos);
+    EXPECT_THAT(july, HasSubstr("\r\n2003-07-01,"));
+    EXPECT_THAT(july, HasSubstr("2003-07-31,"));
+    EXPECT_EQ(july.find("2003-08"), july.npos);
+    EXPECT_EQ(july.find("2003-06"), july.npos);
     const std::string first = week[0].waters[0].four; // "Low 00:46   0.12 m"
-    EXPECT_THAT(july, HasSubstr("2003/07/15," + first.substr(first.find(' ') + 1, 5)));
+    EXPECT_THAT(july, HasSubstr("2003-07-15," + first.substr(first.find(' ') + 1, 5)));
     EXPECT_THAT(july, HasSubstr(",m,four,\r\n"));
     EXPECT_THAT(july, HasSubstr(",m,all,\r\n"));
     EXPECT_THAT(monthTable(shippedStation("Berhala"), "Berhala", 37817, dates),
                 HasSubstr(",four,estimated level\r\n"));
-    EXPECT_THAT(monthTable(tokyo, "Tokyo", 38717, dates), HasSubstr("2005/12/31"));
+    EXPECT_THAT(monthTable(tokyo, "Tokyo", 38717, dates), HasSubstr("2005-12-31"));
     EXPECT_EQ(monthFileName("Tokyo", TideKind::Tide, 37817), "Tide Tokyo 2003-07.csv");
     EXPECT_EQ(monthFileName("Brothers", TideKind::Stream, 37817), "Stream Brothers 2003-07.csv");
 }

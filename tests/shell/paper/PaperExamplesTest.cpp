@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "app/reading/Format.h"
+#include "navlib/ephemeris_series.h"
 #include "shell/paper/PaperWindow.h"
 #include "tests/SourceFolder.h"
 #include "tests/shell/paper/StepFigures.h"
@@ -81,6 +83,27 @@ TEST(PaperExamples, everyStepHasFiguresThatLeadToItsValue)
             }
     }
     EXPECT_GE(reckoned, 250);
+}
+
+template <typename Terms>
+void expectListed(const std::string& manual, const Terms& terms)
+{
+    for (const NavFunc113::SeriesTerm& term : terms) {
+        const std::string power = term.power == 0 ? "" : term.power == 1 ? " × T" : " × T²";
+        const auto number = [](double value) { return Format(value, "0.########"); };
+        EXPECT_THAT(manual,
+                    ::testing::HasSubstr("| " + number(term.amplitude) + power + " | " +
+                                         number(term.rate) + " | " + number(term.phase) + " |\n"));
+    }
+}
+
+TEST(PaperExamples, theManualListsTheSeriesThatPapersName)
+{
+    const std::string manual = contentOf(sourceFile("docs/manual/frmSunMoon.md"));
+    expectListed(manual, NavFunc113::sunLongitudeTerms);
+    expectListed(manual, NavFunc113::sunDistanceTerms);
+    expectListed(manual, NavFunc113::moonLongitudeTerms);
+    expectListed(manual, NavFunc113::moonLatitudeTerms);
 }
 
 } // namespace
