@@ -131,7 +131,7 @@ std::string packedText(NavFunc113::Degrees angle)
     const long long minutes = all % (60 * unitsOfMinute);
     const double packed =
         static_cast<double>(whole) + static_cast<double>(minutes) / (100 * unitsOfMinute);
-    return Format(angle.value() < 0 ? -packed : packed, "0.00#####");
+    return Format(angle.value() < 0 ? -packed : packed, "0.0######");
 }
 
 } // namespace korvel

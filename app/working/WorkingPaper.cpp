@@ -164,8 +164,7 @@ std::string resultsText(const WorkingPaper& paper)
 
 std::string csvText(const ExportTable& table)
 {
-    // Without the mark a spreadsheet takes the text for one in the letters of its own country.
-    std::string text = "\xEF\xBB\xBF" + csvLine(table.headings);
+    std::string text = csvLine(table.headings);
     for (const auto& row : table.rows)
         text += csvLine(row);
     return text;

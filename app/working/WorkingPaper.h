@@ -76,8 +76,12 @@ std::string paperText(const PaperHeading& heading, const WorkingPaper& paper);
 /// The results as text, columns parted by tabs.
 std::string resultsText(const WorkingPaper& paper);
 
-/// Comma-separated values in UTF-8 with its mark: one header line, texts with commas or quotes
-/// between quotes, CR LF. What a spreadsheet would take for a formula, and is no figure, has an
+/// What a file of comma-separated values begins with: without it a spreadsheet takes the text for
+/// one in the letters of its own country.
+inline constexpr const char* spreadsheetMark = "\xEF\xBB\xBF";
+
+/// Comma-separated values in UTF-8: one header line, texts with commas or quotes between quotes,
+/// CR LF. What a spreadsheet would take for a formula, and is no figure, has an
 /// apostrophe in front.
 std::string csvText(const ExportTable& table);
 

@@ -108,7 +108,7 @@ void PaperMenu::exportList() const
     const PaperDocument document = m_hooks.document();
     if (!document.paper().list) return;
     save("Save the list", offeredName(document.heading(), document.paper(), "csv"),
-         csvText(*document.paper().list));
+         spreadsheetMark + csvText(*document.paper().list));
 }
 
 void PaperMenu::exportLine() const

@@ -196,8 +196,8 @@ TEST(RouteFiles, aPlanComesBackFromRtzAsItWas)
     for (PlanRow& row : wanted) {
         row.latitude = packedText(DegMinToDeg(NavFunc113::DegMin(std::stod(row.latitude))));
         row.longitude = packedText(DegMinToDeg(NavFunc113::DegMin(std::stod(row.longitude))));
-        if (row.longitude == "180.00") row.longitude = "-180.00";
-        if (row.leg == LegKind::Composite) row.limit.insert(2, ".00");
+        if (row.longitude == "180.0") row.longitude = "-180.0";
+        if (row.leg == LegKind::Composite) row.limit.insert(2, ".0");
     }
     for (const RtzVersion version : {RtzVersion::V1_0, RtzVersion::V1_1, RtzVersion::V1_2}) {
         SCOPED_TRACE(numberOf(version));
@@ -383,7 +383,7 @@ TEST(RouteFiles, timesAloneBecomeSpeedsAndStops)
                   "10:00,2026-11-10 16:00\nC,3.5,0,2026-11-11 01:00Z,\n");
     ASSERT_EQ(read.fault, "");
     const PlanOfRoute plan = planOfRoute(read.route, {});
-    EXPECT_EQ(rowsText(plan.plan.rows), "A 0.00 0.00 / B 2.00 0.00 v=12 stop=6 / C 3.30 0.00 v=10");
+    EXPECT_EQ(rowsText(plan.plan.rows), "A 0.0 0.0 / B 2.0 0.0 v=12 stop=6 / C 3.3 0.0 v=10");
     EXPECT_THAT(plan.remarks, ::testing::ElementsAre(HasSubstr("worked out from the times")));
 
     // A file whose times are not those of its speeds.

@@ -12,10 +12,12 @@ constexpr NavFunc113::DateTime marchDay = 38425.40625; // 2005-03-14 09:45
 
 TEST(WorkingPaper, listsAreReadBackAsTheyWere)
 {
-    const ExportTable list{
-        {"place", "height (m)"},
-        {{"Kobe, Japan", "-0.50"}, {"the \"Bund\"", ""}, {"=1+1", "+0.5"}, {"'s Gravenzande", "-"}}};
-    EXPECT_EQ(csvText(list), "\xEF\xBB\xBFplace,height (m)\r\n\"Kobe, Japan\",-0.50\r\n"
+    const ExportTable list{{"place", "height (m)"},
+                           {{"Kobe, Japan", "-0.50"},
+                            {"the \"Bund\"", ""},
+                            {"=1+1", "+0.5"},
+                            {"'s Gravenzande", "-"}}};
+    EXPECT_EQ(csvText(list), "place,height (m)\r\n\"Kobe, Japan\",-0.50\r\n"
                              "\"the \"\"Bund\"\"\",\r\n"
                              "'=1+1,+0.5\r\n''s Gravenzande,'-\r\n");
     for (const auto& [cell, text] : {std::pair("'=1+1", "=1+1"), std::pair("-0.50", "-0.50"),
