@@ -4,7 +4,12 @@ import hashlib
 import json
 import re
 import shlex
+import shutil
 import subprocess
+
+from plot import Misplanted
+
+QUERY = "clang-query-14"
 
 COMPARISONS = {"<": ("<=", ">"), "<=": ("<", ">="), ">": (">=", "<"), ">=": (">", "<="),
                "==": ("!=",), "!=": ("==",)}
@@ -164,7 +169,7 @@ def read_answer(answer, text):
         if re.fullmatch(r"\d+ match(es)?\.", line):
             question += 1
     if question != len(QUESTIONS):
-        raise ValueError(answer[-2000:])
+        raise Misplanted(answer[-2000:])
     return matches
 
 
@@ -173,6 +178,8 @@ class Reader:
 
     def __init__(self, plot):
         self.plot = plot
+        if not shutil.which(QUERY):
+            raise Misplanted(f"{QUERY} is not there: sweep_packages in tools/setup/packages.sh")
         commands = json.loads((plot.build / "compile_commands.json").read_text())
         self.commands = {str(each["file"]): each for each in commands}
         self.kept = plot.folder / "places"
@@ -199,7 +206,7 @@ class Reader:
         questions = self.plot.folder / "questions"
         questions.write_text(ASKED)
         done = subprocess.run(
-            ["clang-query-14", "-f", questions, name, "--", "-x", "c++", "-w",
+            [QUERY, "-f", questions, name, "--", "-x", "c++", "-w",
              "-fdiagnostics-print-source-range-info", "-fno-caret-diagnostics",
              *self.flags(name)], cwd=self.plot.source, capture_output=True, text=True)
         return done.stdout + done.stderr

@@ -11,6 +11,8 @@ display_packages="xvfb xauth xdotool x11-utils imagemagick"
 test_packages="libgtest-dev libgmock-dev poppler-utils libxml2-utils"
 # What the tests are followed by, and the compiler for Windows that one of them uses.
 ci_packages="clang-format-14 clang-tidy-14 g++-mingw-w64-x86-64-posix"
+# What tests/planted-faults --sweep reads the code with.
+sweep_packages="clang-tools-14"
 # What makes the packages, and what proves them in clean places.
 package_packages="dpkg-dev qt6-wayland fonts-vlgothic fonts-dejavu-core patchelf icu-devtools
     xz-utils"
