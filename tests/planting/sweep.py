@@ -143,7 +143,8 @@ class Sweep:
         """Draws the sample, builds it and asks every test what it reaches."""
         # Beyond the end of a container is a fault that the sanitizers' build notices too.
         self.plot.lay_out("-D_GLIBCXX_ASSERTIONS",
-                          [f"-DCMAKE_CXX_STANDARD_LIBRARIES={linked_part(self.plot)}"])
+                          ["-DKORVEL_UNITY=ON",  # half the time of a build of all
+                           f"-DCMAKE_CXX_STANDARD_LIBRARIES={linked_part(self.plot)}"])
         reader = Reader(self.plot)
         sample = Sample(reader, self.left_out, self.product(only), seed, only)
         self.left_out.show()
