@@ -113,6 +113,18 @@ TEST(SightFix, noFixWhereThereIsNone)
         outcome({Sight{{}, {}, Degrees(89.9), {}}, Sight{Degrees(10), {}, Degrees(89.9), {}}}),
         FixOutcome::NoConvergence)
         << "small circles that do not meet";
+
+    // The limit is a determinant of 1e-6, a crossing of 0.1146 degrees. Near the pole the azimuths
+    // of two Suns are as far apart as their hour angles.
+    const auto crossing = [&](double degrees) {
+        const Position north{Degrees(89), {}};
+        std::vector<Sight> sights = {sight(300), sight(300 + degrees)};
+        for (Sight& each : sights)
+            each.observedAltitude = PlaceAboveHorizon(each.GHA, {}, north).altitude;
+        return LeastSquaresFix(sights, north, {}, {}).outcome;
+    };
+    EXPECT_EQ(crossing(0.113), FixOutcome::Parallel);
+    EXPECT_EQ(crossing(0.117), FixOutcome::Found);
 }
 
 TEST(SightFix, circleOfPosition)

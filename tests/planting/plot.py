@@ -23,19 +23,21 @@ class Plot:
     def __init__(self, tree, folder, jobs):
         self.tree, self.folder, self.jobs = tree, folder, jobs
         self.source, self.build = folder / "src", folder / "src/build/debug"
+        self.contents = {}  # as they were when they were laid out: the tree may change meanwhile
         folder.mkdir(parents=True, exist_ok=True)
         self.lock = open(folder / "lock", "w")
         fcntl.flock(self.lock, fcntl.LOCK_EX)
 
     def lay_out(self, flags="", settings=()):
         """Brings the copy to the state of the working tree; unchanged files keep their time."""
-        names = set(tracked(self.tree))
-        for name in names:
-            self.write(name, (self.tree / name).read_bytes())
+        self.contents = {name: (self.tree / name).read_bytes() for name in tracked(self.tree)}
+        for name, content in self.contents.items():
+            self.write(name, content)
             shutil.copymode(self.tree / name, self.source / name)
         for path in self.source.rglob("*"):
             relative = path.relative_to(self.source)
-            if path.is_file() and relative.parts[0] != "build" and str(relative) not in names:
+            if path.is_file() and relative.parts[0] != "build" and \
+                    str(relative) not in self.contents:
                 path.unlink()
         # A fault may leave an argument unused.
         self.run(["cmake", "--preset", "debug", f"-DCMAKE_CXX_FLAGS_DEBUG=-O0 -w {flags}",

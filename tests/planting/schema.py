@@ -67,7 +67,7 @@ class Schema:
 
     def __init__(self, plot, faults):
         self.plot = plot
-        self.texts = {name: (plot.tree / name).read_bytes().decode("latin-1")
+        self.texts = {name: plot.contents[name].decode("latin-1")
                       for name in {fault.file for fault in faults}}
         self.waiting, self.alone = {}, []
         for number, fault in enumerate(faults):

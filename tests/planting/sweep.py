@@ -10,7 +10,7 @@ from fnmatch import fnmatch
 from pathlib import Path, PurePath
 
 from places import Reader
-from plot import Misplanted, Plot, tracked
+from plot import Misplanted, Plot
 from schema import Schema, linked_part
 from trials import Trials, test_programs
 
@@ -72,7 +72,7 @@ class Sample:
         self.random = random.Random(seed)
         self.rooms = defaultdict(dict)
         for name in sorted(names):
-            size = sum(1 for line in (reader.plot.tree / name).read_text().splitlines()
+            size = sum(1 for line in reader.plot.contents[name].decode().splitlines()
                        if line.strip() and not line.strip().startswith("//"))
             self.rooms[str(PurePath(name).parent)][name] = size
         self.drawn = {}
@@ -134,7 +134,7 @@ class Sweep:
         self.verdicts = {}
 
     def product(self, only):
-        names = [name for name in tracked(self.tree) if re.search(r"\.(cpp|h)$", name) and
+        names = [name for name in self.plot.contents if re.search(r"\.(cpp|h)$", name) and
                  name.split("/")[0] not in NO_PRODUCT]
         return [name for name in names if not only or any(
             (name + "/").startswith(each.split(":")[0].rstrip("/") + "/") for each in only)]

@@ -157,6 +157,29 @@ TEST(Alarms, ringInTheirMinuteAndNoOtherWithEveryTD)
     }
 }
 
+TEST(NextAlarm, isTheOneThatRingsFirst)
+{
+    const struct {
+        const char* settings;
+        const char* smt;
+        const char* text;
+    } cases[] = {
+        {"alarm 2 06:25 call; off 2", "6:00", "No alarm"},
+        {"alarm 2 06:25", "6:00", "Next alarm 06:25"},
+        {"alarm 2 06:25 call; alarm 3 06:24 early", "6:23", "Next alarm 06:24 early"},
+        {"alarm 2 06:25 call; alarm 3 06:25 other", "6:24", "Next alarm 06:25 call"},
+        {"alarm 2 06:25 call; alarm 3 06:20 early", "6:25", "Next alarm 06:20 early"}, // it rings
+        {"alarm 5 06:25 call", "6:25", "Next alarm 06:25 call"},
+        {"alarm 1 23:54 last; alarm 3 00:10 next", "23:55", "Next alarm 00:10 next"},
+    };
+    for (const auto& each : cases) {
+        KV_Savedvalue saved;
+        set(saved, each.settings);
+        const auto smt = readDateTime(std::string("2005/3/14 ") + each.smt).value();
+        EXPECT_EQ(nextAlarmText(saved, smt), each.text) << each.settings;
+    }
+}
+
 /// The rule in other words: walks over every day that a step of the clock crosses, and keeps lists
 /// of what was passed and what was rung.
 class Model
