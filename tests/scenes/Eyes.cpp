@@ -114,8 +114,11 @@ bool isEnabled(Stage& stage, const std::string& name)
 
 bool isDimmed(Stage& stage, const std::string& name)
 {
-    return stage.control(name).palette().color(QPalette::WindowText) ==
-           stage.program().colours().dimmed;
+    const QWidget& control = stage.control(name);
+    const bool dimmed =
+        control.palette().color(QPalette::WindowText) == stage.program().colours().dimmed;
+    EXPECT_EQ(control.font().italic(), dimmed) << name << " without colours too";
+    return dimmed;
 }
 
 /// Whether keys and clicks come to a window: an open question keeps them from all others.

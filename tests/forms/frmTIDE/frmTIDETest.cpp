@@ -246,8 +246,12 @@ TEST_F(frmTIDETest, takesUpWhereItWasLeft)
     questions.willAnswer(Answer::Ok);
     auto& window = open<frmTIDE>();
     EXPECT_THAT(questions.asked.back(), HasSubstr("AF2005.txt"));
+    const bool drewAll = isTicked(window, "mnuDrawAll");
+    choose(window, "mnuDrawAll");
     close(window);
     EXPECT_EQ(fileText("KV_Tide.ini"), choice);
+    questions.willAnswer(Answer::Ok);
+    EXPECT_NE(isTicked(open<frmTIDE>(), "mnuDrawAll"), drewAll);
 }
 
 TEST_F(frmTIDETest, aLongerFactorsFileIsTakenUpWhenTheWindowOpens)

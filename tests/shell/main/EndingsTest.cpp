@@ -151,6 +151,7 @@ TEST_F(FolderLockTest, oneProgramAFolder)
     FolderLock second(folder.path());
     EXPECT_TRUE(second.isHeldByAnother());
     EXPECT_FALSE(second.callTheOther(200ms)) << "it does not answer";
+    EXPECT_FALSE(QFile::exists(folder.filePath("KV_KORVEL.call"))) << "nobody waits any more";
 
     int calls = 0;
     first.answerCalls([&] { ++calls; });

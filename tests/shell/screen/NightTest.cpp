@@ -324,6 +324,7 @@ TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
     Screen& screen = main.program().screen();
     screen.toggleNight();
     screen.dim();
+    EXPECT_EQ(looksOfLastRun(folder.path()).dimStep, screen.choices().dimStep);
     screen.zoom(1);
     const Looks last{true, screen.choices().dimStep, screen.choices().zoom};
     EXPECT_NE(last, (Looks{true, 0, 100}));

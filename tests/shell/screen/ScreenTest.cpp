@@ -161,7 +161,11 @@ TEST_F(ScreenTest, windowsStandWhereTheyWere)
                std::string::npos;
     };
     EXPECT_TRUE(QTest::qWaitFor(isKept, 3000)) << "lost by a program that is killed";
+    wind.showMaximized();
+    QTest::qWait(20);
+    EXPECT_NE(wind.geometry(), place);
     wind.close();
+    EXPECT_TRUE(isKept()) << "where it stands when it is not enlarged";
     EXPECT_EQ(window("frmWind").geometry(), place);
     // A screen that is gone, and a window larger than the screen.
     window("frmETA").close();
