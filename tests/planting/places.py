@@ -72,9 +72,11 @@ BOUND = re.compile(r'^.*?:\d+:\d+:\{(\d+):(\d+)-(\d+):(\d+)\}: note: "(\w+)" bin
 class Fault:
     """One change of a piece of a file: parts are texts and (begin, end) of what stays."""
 
-    def __init__(self, rule, file, text, piece, parts, statement=False, fixed=False):
+    def __init__(self, rule, file, text, piece, parts, fixed=False, relaxed=None):
         self.rule, self.file, self.piece, self.parts = rule, file, piece, parts
-        self.statement, self.fixed = statement, fixed
+        self.statement = parts == [";"]
+        self.fixed = fixed      # the compiler has to know it
+        self.relaxed = relaxed  # what stands for the word that makes it so, and where
         begin, end = piece
         self.first = text.count("\n", 0, begin) + 1
         self.last = text.count("\n", 0, end) + 1
@@ -121,6 +123,16 @@ def deleted(kind, text, begin, end):
         if not called or called[1] == "setNotice" and "{}" not in text[begin:end]:
             return None
     return begin, rest.end()
+
+
+def relaxed(text, begin, end):
+    """What a constexpr variable is called so that it is made at the start of the program."""
+    head = re.match(r"((?:static |inline )*)constexpr (?=[\w:<>, ]+[^*&]\b\w+(\[\w*\])?\s*[={(])",
+                    text[begin:end])
+    if not head or not re.compile(r"\s*[;,]").match(text, end):
+        return None
+    return (begin, begin + head.end()), ("static inline " if "static" in head[1] else head[1]) + \
+        "const "
 
 
 def faults_of(kind, text, found):
@@ -220,12 +232,15 @@ class Reader:
         if not kept.exists():
             kept.write_text(json.dumps(read_answer(self.ask(name), text)))
         matches = json.loads(kept.read_text())
-        fixed = [found["root"] for kind, found in matches if kind == "fixed"]
+        fixed = {tuple(found["root"]): relaxed(text, *found["root"])
+                 for kind, found in matches if kind == "fixed"}
         faults = {}
         for kind, found in matches:
             for rule, piece, parts in faults_of(kind, text, found) if kind != "fixed" else ():
                 parts = [part if isinstance(part, str) else tuple(part) for part in parts]
-                inside = any(a <= piece[0] and piece[1] <= b for a, b in fixed)
+                around = [(each, word) for each, word in fixed.items()
+                          if each[0] <= piece[0] and piece[1] <= each[1]]
+                word = around[0][1] if len(around) == 1 else None
                 faults.setdefault((tuple(piece), rule), Fault(
-                    rule, name, text, tuple(piece), parts, parts == [";"], inside))
+                    rule, name, text, tuple(piece), parts, bool(around) and not word, word))
         return [faults[key] for key in sorted(faults)]

@@ -5,6 +5,7 @@ import re
 import subprocess
 from pathlib import Path
 
+from places import Fault
 from plot import Misplanted
 
 DECLARATION = "bool planted(int site) noexcept; "
@@ -22,7 +23,7 @@ def can_be_chosen(fault, text):
 
 
 def rendered(text, begin, end, faults):
-    """The piece of text with faults, {number: fault}, that lie in it; lines stay where they are."""
+    """The piece of text with faults, {number: fault}, that lie in it; no line moves."""
     result, at, faults = [], begin, dict(faults)
     while faults:
         first = min((fault.piece[0], -fault.piece[1]) for fault in faults.values())
@@ -49,6 +50,8 @@ def one_place(text, piece, here, deeper):
         return part(each).replace("\n", " ")
     whole = part(piece)
     for number, fault in here.items():
+        if isinstance(number, tuple):
+            return fault.parts[0]  # no fault but the word before one
         chosen = f"::planted({number})"
         if fault.statement:
             whole = f"{{ if (!{chosen}) {{ {whole} }} }}"
@@ -87,6 +90,9 @@ class Schema:
         for name, text in self.texts.items():
             faults = {number: fault for number, fault in self.waiting.items()
                       if fault.file == name}
+            faults |= {fault.relaxed: Fault("word", name, text, fault.relaxed[0],
+                                            [fault.relaxed[1]])
+                       for fault in faults.values() if fault.relaxed}
             self.plot.write(name, (DECLARATION + rendered(text, 0, len(text), faults)
                                    if faults else text).encode("latin-1"))
 

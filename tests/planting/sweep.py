@@ -6,7 +6,6 @@ import random
 import re
 from collections import Counter, defaultdict
 from concurrent.futures import ThreadPoolExecutor
-from fnmatch import fnmatch
 from pathlib import Path, PurePath
 
 from places import Reader
@@ -31,12 +30,12 @@ class LeftOut:
 
     def __init__(self, path):
         rows = [re.split(r"\s{2,}", line) for line in lines(path)]
-        self.rows = [(files, re.compile(line), why) for files, line, why in rows]
+        self.rows = [(re.compile(files), re.compile(line), why) for files, line, why in rows]
         self.places = Counter()
 
     def holds(self, fault):
         for row in self.rows:
-            if fnmatch(fault.file, row[0]) and row[1].search(fault.old):
+            if row[0].search(fault.file) and row[1].search(fault.old):
                 self.places[row] += 1
                 return True
         return False
@@ -44,7 +43,7 @@ class LeftOut:
     def show(self):
         print("Left out, because the eye judges it:")
         for files, line, why in self.rows:
-            print(f"  {files}  {line.pattern}  ({why})")
+            print(f"  {files.pattern}  {line.pattern}  ({why})")
 
 
 class Equivalent:
@@ -268,7 +267,7 @@ def self_check(folder, jobs):
               for number, line in enumerate((tree / name).read_text().splitlines(), 1)
               if "// lives" in line}
     wrong = marked ^ {fault.where for fault in work.survivors}
-    wrong |= {f"left out: {row[0]}" for row in work.left_out.rows if not work.left_out.places[row]}
+    wrong |= {f"left out: {row[0].pattern}" for row in work.left_out.rows if not work.left_out.places[row]}
     rules = {fault.rule.split()[0] for fault in work.killed}
     wrong |= {"comparison", "sign", "logic", "constant", "index", "deleted", "swapped"} - rules
     if not work.broken or len(work.alike) != 1 or not [each for each in work.killed if each.fixed]:

@@ -6,6 +6,11 @@
 constexpr int watchHours = 4;
 static_assert(watchHours * 6 == 24); // no fault: does not compile
 
+constexpr int endOfSecond(int begin)
+{
+    return begin + 8;
+}
+
 class Watches
 {
 public:
