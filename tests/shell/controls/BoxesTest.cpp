@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/PictureBox.h"
+#include "shell/controls/PositionBox.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QSignalSpy>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+namespace
+{
+
+/// Two boxes of a window that is in front.
+class BoxesTest : public ::testing::Test
+{
+protected:
+    BoxesTest()
+    {
+        auto* column = new QVBoxLayout(&window);
+        for (QWidget* each : std::initializer_list<QWidget*>{&box, &other, &held})
+            column->addWidget(each);
+        box.setNext(&other);
+        other.setNext(&other);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        other.setFocus(Qt::TabFocusReason);
+        box.setText("142.305");
+    }
+    static void lose(QWidget& widget, Qt::FocusReason reason)
+    {
+        QFocusEvent event(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&widget, &event);
+    }
+    static void gain(QWidget& widget, Qt::FocusReason reason)
+    {
+        QFocusEvent event(QEvent::FocusIn, reason);
+        QApplication::sendEvent(&widget, &event);
+    }
+
+    QWidget window;
+    EntryBox box, other;
+    KeyUpBox held;
+};
+
+TEST_F(BoxesTest, theBeginningIsSeenAndAllIsSelected)
+{
+    EXPECT_EQ(box.cursorPosition(), 0) << "142 is not to be read as 42";
+    QTest::mouseClick(&box, Qt::LeftButton);
+    EXPECT_EQ(box.selectedText(), "142.305");
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(box.width() - 5, box.height() / 2));
+    EXPECT_FALSE(box.hasSelectedText()) << "the second click places the cursor";
+    EXPECT_EQ(box.cursorPosition(), 7);
+    int left = 0, entered = 0;
+    box.onLeave = [&] { ++left; };
+    box.onEnter = [&] { ++entered; };
+    lose(box, Qt::PopupFocusReason);
+    lose(box, Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(box.cursorPosition(), 7) << "a look into a menu or another program";
+    EXPECT_EQ(left, 0);
+    QTest::keyClick(&box, Qt::Key_Enter);
+    EXPECT_EQ(entered, 1);
+    EXPECT_EQ(left, 1);
+    EXPECT_EQ(box.cursorPosition(), 0);
+    EXPECT_TRUE(other.hasFocus());
+    other.setText("7");
+    QTest::keyClick(&other, Qt::Key_Return);
+    EXPECT_EQ(other.selectedText(), "7") << "its own next";
+    QTest::mousePress(&box, Qt::LeftButton);
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::mouseRelease(&box, Qt::LeftButton);
+    EXPECT_FALSE(box.hasSelectedText()) << "a key in between";
+}
+
+TEST_F(BoxesTest, aBoxThatTakesTheKeysInTheMiddleOfANumber)
+{
+    box.setFocus(Qt::TabFocusReason);
+    QTest::keyClicks(&box, "35");
+    {
+        QDialog alarm;
+        alarm.setModal(true);
+        alarm.show();
+        lose(box, Qt::ActiveWindowFocusReason);
+    }
+    gain(box, Qt::ActiveWindowFocusReason);
+    EXPECT_FALSE(box.hasSelectedText()) << "the next digit would replace those before it";
+    gain(box, Qt::PopupFocusReason);
+    EXPECT_FALSE(box.hasSelectedText());
+    gain(box, Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(box.selectedText(), "35") << "that was once";
+}
+
+TEST_F(BoxesTest, noControlCharacterGetsIn)
+{
+    box.setFocus(Qt::TabFocusReason);
+    box.clear();
+    box.insert(QString("3\x01\t5\n") + QChar(0x2028) + "\x7f");
+    EXPECT_EQ(box.text(), "3 5  ");
+    EXPECT_EQ(box.cursorPosition(), 5);
+}
+
+TEST_F(BoxesTest, aKeyCountsWhenItIsReleased)
+{
+    std::vector<std::string> seen;
+    held.onKeyUp = [&] { seen.push_back(held.value()); };
+    held.setFocus(Qt::TabFocusReason);
+    QTest::keyPress(&held, Qt::Key_1);
+    EXPECT_THAT(seen, ::testing::IsEmpty());
+    QTest::keyRelease(&held, Qt::Key_1);
+    QTest::keyClick(&held, Qt::Key_Shift);
+    held.setText("12");
+    held.fill("a result of its own");
+    QTest::keyPress(&held, Qt::Key_2);
+    lose(held, Qt::TabFocusReason);
+    EXPECT_THAT(seen, ::testing::ElementsAre("1", "12", "a result of its own2"));
+    held.fill(QString(80, '9'));
+    EXPECT_EQ(held.text().size(), 80);
+    held.fill("1");
+    held.setText(QString(80, '9'));
+    EXPECT_EQ(held.text().size(), EntryBox::longestFigure);
+}
+
+TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
+{
+    QWidget window;
+    PositionBox latitude(Axis::Latitude, &window), longitude(Axis::Longitude, &window);
+    latitude.pasteText("35-30.5N 139-45.2E");
+    EXPECT_EQ(latitude.text(), "35.305");
+    EXPECT_EQ(longitude.text(), "") << "no pair yet";
+    PositionBox::pair(&latitude, &longitude);
+    for (PositionBox* each : {&latitude, &longitude}) {
+        latitude.clear();
+        longitude.clear();
+        each->pasteText(" 35-30.5N 139-45.2E. ");
+        EXPECT_EQ(latitude.text(), "35.305");
+        EXPECT_EQ(longitude.text(), "139.452");
+        EXPECT_EQ(static_cast<ResultLabel*>(each->echo())->copyText(),
+                  QString::fromUtf8("35°30.5'N 139°45.2'E"));
+    }
+    latitude.setText("x");
+    EXPECT_EQ(static_cast<ResultLabel*>(longitude.echo())->copyText(),
+              QString::fromUtf8("139°45.2'E"));
+    // How a text was taken is said as long as it stands there.
+    latitude.pasteText("35.5083");
+    const QString taken = latitude.fullEcho();
+    EXPECT_NE(taken.indexOf(", "), -1) << taken.toStdString();
+    const QString packed = latitude.text();
+    latitude.setText("1");
+    EXPECT_EQ(latitude.fullEcho(), QString::fromUtf8("1°00.0' N"));
+    latitude.setText(packed);
+    EXPECT_EQ(latitude.fullEcho(), taken);
+    latitude.pasteText("35-30.5N");
+    EXPECT_EQ(latitude.fullEcho(), QString::fromUtf8("35°30.5' N"));
+}
+
+TEST(PictureBox, countsInItsUserScale)
+{
+    struct Picture : PictureBox {
+        void draw(QPainter&) override { onPaper = isOnPaper() ? plotArea() : QRectF(); }
+        QRectF onPaper;
+    } picture;
+    picture.resize(220, 130);
+    picture.setPlotMargins({10, 20, 10, 10});
+    picture.setUserScale({-50, 100, 50, 0});
+    EXPECT_EQ(picture.plotArea(), QRectF(10, 20, 200, 100));
+    EXPECT_EQ(picture.toPixel(-50, 100), QPointF(10, 20));
+    EXPECT_EQ(picture.toPixel(25, 75), QPointF(160, 45));
+    EXPECT_EQ(picture.toUser({160, 45}), QPointF(25, 75));
+    QSignalSpy pressed(&picture, &PictureBox::pressed), pointed(&picture, &PictureBox::pointed);
+    QSignalSpy released(&picture, &PictureBox::released), left(&picture, &PictureBox::left);
+    QTest::mousePress(&picture, Qt::LeftButton, {}, QPoint(160, 45));
+    EXPECT_EQ(pressed.value(0).value(0), QPointF(25, 75));
+    QTest::mouseMove(&picture, QPoint(110, 70));
+    QTest::mouseRelease(&picture, Qt::LeftButton, {}, QPoint(10, 20));
+    EXPECT_EQ(released.value(0).value(0), QPointF(-50, 100));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&picture, &leave);
+    EXPECT_EQ(left.count(), 1);
+    QImage paper(400, 300, QImage::Format_RGB32);
+    QPainter painter(&paper);
+    picture.drawOn(painter, paper.size());
+    EXPECT_EQ(picture.onPaper, QRectF(10, 20, 380, 270));
+    EXPECT_EQ(picture.plotArea(), QRectF(10, 20, 200, 100)) << "on the screen as before";
+}
+
+} // namespace
+} // namespace korvel

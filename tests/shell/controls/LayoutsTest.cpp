@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/CellLayout.h"
+#include "shell/controls/Panels.h"
+#include "shell/controls/WrappingRow.h"
+#include "tests/golden/Golden.h"
+
+#include <gmock/gmock.h>
+
+#include <QTest>
+
+#include <sstream>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+/// A control of 40 pixels that is 20 high, or as its word says: a wide one takes what there is, one
+/// with an end 60 pixels of it.
+QWidget* controlOf(const std::string& word, QWidget* parent)
+{
+    auto* made = new QWidget(parent);
+    made->setFixedHeight(word == "high" ? 30 : 20);
+    made->setMinimumWidth(40);
+    if (word == "wide" || word == "end")
+        made->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    made->setMaximumWidth(word == "end" ? 100 : word == "wide" ? 1000 : 40);
+    return made;
+}
+
+/// "a close b | c stretch hidden": what is added to a row.
+void fill(WrappingRow& row, const std::string& controls, std::vector<QWidget*>& made)
+{
+    std::istringstream words(controls);
+    std::vector<QWidget*> hidden;
+    for (std::string word; words >> word;)
+        if (word == "|")
+            row.startGroup();
+        else if (word == "close")
+            row.stayClose();
+        else if (word == "stretch")
+            row.addStretch();
+        else {
+            made.push_back(controlOf(word, row.parentWidget()));
+            row.addWidget(made.back());
+            if (word == "hidden") hidden.push_back(made.back());
+        }
+    row.parentWidget()->show();
+    for (QWidget* each : hidden)
+        each->hide();
+}
+
+std::string placesOf(const std::vector<QWidget*>& controls)
+{
+    std::ostringstream places;
+    for (const QWidget* each : controls)
+        if (each->isVisible())
+            places << each->x() << "," << each->y() << "," << each->width() << " ";
+    return places.str().substr(0, places.str().size() - (places.str().empty() ? 0 : 1));
+}
+
+TEST(WrappingRow, placesItsControls)
+{
+    for (const Golden& row : golden("wrapping_rows")) {
+        QWidget parent;
+        auto* layout = new WrappingRow(&parent);
+        layout->setGap(9);
+        std::vector<QWidget*> controls;
+        fill(*layout, row.text("controls"), controls);
+        const int width = static_cast<int>(row.integer("width"));
+        layout->setGeometry(QRect(0, 0, width, 100));
+        EXPECT_EQ(placesOf(controls), row.text("places")) << row;
+        EXPECT_EQ(layout->heightForWidth(width), row.integer("height")) << row;
+        EXPECT_EQ(layout->sizeHint().width(), row.integer("all")) << row;
+        EXPECT_EQ(layout->minimumSize().width(), 40) << row;
+    }
+}
+
+TEST(WrappingRow, givesBackWhatIsTakenOut)
+{
+    QWidget parent;
+    WrappingRow row(&parent);
+    std::vector<QWidget*> controls;
+    fill(row, "a b", controls);
+    EXPECT_EQ(row.takeAt(2), nullptr);
+    EXPECT_EQ(row.takeAt(-1), nullptr);
+    const std::unique_ptr<QLayoutItem> taken(row.takeAt(0));
+    EXPECT_EQ(taken->widget(), controls[0]);
+    EXPECT_EQ(row.count(), 1);
+    EXPECT_EQ(row.itemAt(0)->widget(), controls[1]);
+}
+
+/// Four cells of a caption of 30 and a box of 50 pixels.
+std::string placesOfCells(Qt::Orientation reading, bool oneColumn)
+{
+    QWidget parent;
+    CellLayout cells(&parent, 2, reading);
+    const int level = levelGap(cells), upright = uprightGap(cells);
+    std::vector<QWidget*> boxes;
+    for (int i = 0; i < 4; ++i) {
+        auto* caption = new QWidget(&parent);
+        caption->setFixedSize(30, 20);
+        boxes.push_back(new QWidget(&parent));
+        boxes.back()->setFixedSize(50, 20);
+        cells.addCell({caption, boxes.back()});
+    }
+    parent.show();
+    const int cell = 30 + level + 50;
+    const int two = 2 * cell + 2 * level;
+    EXPECT_EQ(cells.sizeHint(), QSize(two, 2 * 20 + upright));
+    EXPECT_EQ(cells.minimumSize(), QSize(cell, 0));
+    EXPECT_EQ(cells.heightForWidth(two - 1), 4 * 20 + 3 * upright);
+    cells.setGeometry(QRect(7, 3, oneColumn ? two - 1 : two, 200));
+    std::string places;
+    for (const QWidget* each : boxes) {
+        const int x = each->x() - 7 - 30 - level;
+        const int y = each->y() - 3;
+        EXPECT_EQ(x % (cell + 2 * level), 0);
+        EXPECT_EQ(y % (20 + upright), 0);
+        places +=
+            std::to_string(x / (cell + 2 * level)) + "," + std::to_string(y / (20 + upright)) + " ";
+    }
+    return places;
+}
+
+TEST(CellLayout, readsAsItIsTold)
+{
+    EXPECT_EQ(placesOfCells(Qt::Horizontal, false), "0,0 1,0 0,1 1,1 ");
+    EXPECT_EQ(placesOfCells(Qt::Vertical, false), "0,0 0,1 1,0 1,1 ");
+    for (const auto reading : {Qt::Horizontal, Qt::Vertical})
+        EXPECT_EQ(placesOfCells(reading, true), "0,0 0,1 0,2 0,3 ");
+}
+
+} // namespace
+} // namespace korvel
