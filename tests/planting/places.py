@@ -139,13 +139,15 @@ def faults_of(kind, text, found):
     """(rule, piece, parts) for one match."""
     begin, end = found["root"]
     left, right = found.get("left"), found.get("right")
+    if re.fullmatch(r"Q_[A-Z_]+|emit", text[begin:end]):
+        return  # what a macro of the toolkit stands for
     if kind in OPERATORS:
         match = re.search(r"^[\s)]*(\S+?)[\s(]*$", text[left[1]:right[0]])
         for other in OPERATORS[kind].get(match[1] if match else "", ()):
             at = left[1] + match.start(1)
             yield f"{kind} {match[1]} to {other}", (begin, end), \
                 [(begin, at), other, (at + len(match[1]), end)]
-    elif kind == "minus":
+    elif kind == "minus" and text[begin] == "-":
         yield "sign left out", (begin, end), [(begin + 1, end)]
     elif kind == "constant":
         for rule, other in constants(text, begin, end):

@@ -139,7 +139,7 @@ int main(int argc, char* argv[])
     const auto copy = std::filesystem::path(folder.path().toStdString()) / self.filename();
     std::filesystem::copy(self, copy);
     std::filesystem::current_path(copy.parent_path());
-    ProgramFolder(folder.path()).save("KV_Help.ini", "1\r\n"); // no page of the first start
+    korvel::ProgramFolder(folder.path()).save("KV_Help.ini", "1\r\n"); // no page of the first start
     setenv("KORVEL_TEST_FOLDER", "here", 1);
     std::string command = copy.string();
     for (int i = 1; i < argc; ++i)
