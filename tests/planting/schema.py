@@ -15,6 +15,11 @@ def inside(inner, outer):
     return outer[0] <= inner[0] and inner[1] <= outer[1]
 
 
+def cross(one, other):
+    return one[0] < other[1] and other[0] < one[1] and \
+        not inside(one, other) and not inside(other, one)
+
+
 def can_be_chosen(fault, text):
     """What is fixed when the program is compiled, or would move lines, needs its own build."""
     piece = text[slice(*fault.piece)]
@@ -81,10 +86,10 @@ class Schema:
                 self.alone.append(fault)
 
     def in_the_way(self, fault):
-        """Two faults of which one is a swap cannot share a place."""
-        return any(other.file == fault.file and other.piece == fault.piece and
+        """Whether another waits where this one would have to be written into it."""
+        return any(cross(other.piece, fault.piece) or other.piece == fault.piece and
                    "swapped arguments" in (other.rule, fault.rule)
-                   for other in self.waiting.values())
+                   for other in self.waiting.values() if other.file == fault.file)
 
     def write(self):
         for name, text in self.texts.items():
