@@ -22,6 +22,7 @@ DELETED_CALL = re.compile(
     r"(?:.*(?:\.|->|::))?(connect|save\w*|show\w*|update\w*|setNotice|start|stop|clear|reset|"
     r"erase|restore\w*|write\w*|remove\w*)\s*\(", re.DOTALL)
 
+LAMBDA = re.compile(r"\]\s*(\([^()]*\))?\s*(-> \w+ )?\{$")
 STATEMENT = "hasParent(stmt(anyOf(compoundStmt(), ifStmt(), forStmt(), whileStmt(), " \
             "cxxForRangeStmt())))"
 HERE = "isExpansionInMainFile(), unless(isInTemplateInstantiation())"
@@ -118,6 +119,8 @@ def deleted(kind, text, begin, end):
         return None
     if before.endswith("emit"):
         return len(before) - len("emit"), rest.end()
+    if kind == "return" and LAMBDA.search(before):
+        return None  # all that it does
     if kind == "call":
         called = DELETED_CALL.match(text[begin:end])
         if not called or called[1] == "setNotice" and "{}" not in text[begin:end]:
@@ -149,13 +152,14 @@ def faults_of(kind, text, found):
                 [(begin, at), other, (at + len(match[1]), end)]
     elif kind == "minus" and text[begin] == "-":
         yield "sign left out", (begin, end), [(begin + 1, end)]
-    elif kind == "constant":
+    elif kind == "constant" and not re.match(r"\s*>", text[end:]):  # the size of a type
         for rule, other in constants(text, begin, end):
             yield rule, (begin, end), [other]
     elif kind == "index":
         for change in (" + 1", " - 1"):
             yield f"index{change}", right, ["(", right, ")" + change]
-    elif kind == "swapped" and text[slice(*left)] != text[slice(*right)]:
+    elif kind == "swapped" and text[left[1]:right[0]].strip() == "," and \
+            text[slice(*left)] != text[slice(*right)]:
         yield "swapped arguments", (left[0], right[1]), [right, (left[1], right[0]), left]
     elif kind in ("call", "assignment", "return"):
         piece = deleted(kind, text, begin, end)

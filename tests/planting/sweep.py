@@ -197,10 +197,11 @@ class Sweep:
             print(f"    - {shown(fault.old)}\n    + {shown(fault.new)}", flush=True)
 
     def run(self):
-        chosen = []
-        for room, quota in self.quotas.items():
-            ready = [fault for fault in self.drawn[room] if fault.number in self.schema.waiting]
-            chosen += [fault for fault in self.drawn[room][:quota] if fault in ready]
+        # The rooms in turn: a sweep that is broken off has seen all of them.
+        turns = sorted(((turn, room, fault) for room, quota in self.quotas.items()
+                       for turn, fault in enumerate(self.drawn[room][:quota])
+                        if fault.number in self.schema.waiting), key=lambda each: each[:2])
+        chosen = [fault for _, _, fault in turns]
         with ThreadPoolExecutor(self.plot.jobs) as pool:
             for fault, verdict in zip(chosen, pool.map(self.verdict, chosen)):
                 self.judge(fault, verdict)
