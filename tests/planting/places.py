@@ -22,6 +22,8 @@ DELETED_CALL = re.compile(
     r"(?:.*(?:\.|->|::))?(connect|save\w*|show\w*|update\w*|setNotice|start|stop|clear|reset|"
     r"erase|restore\w*|write\w*|remove\w*)\s*\(", re.DOTALL)
 
+# Functions for which the order of their arguments does not matter.
+SYMMETRIC = re.compile(r"\b(min|max|minmax|hypot|dotProduct)\($")
 LAMBDA = re.compile(r"\]\s*(\([^()]*\))?\s*(-> \w+ )?\{$")
 STATEMENT = "hasParent(stmt(anyOf(compoundStmt(), ifStmt(), forStmt(), whileStmt(), " \
             "cxxForRangeStmt())))"
@@ -159,7 +161,7 @@ def faults_of(kind, text, found):
         for change in (" + 1", " - 1"):
             yield f"index{change}", right, ["(", right, ")" + change]
     elif kind == "swapped" and text[left[1]:right[0]].strip() == "," and \
-            text[slice(*left)] != text[slice(*right)]:
+            text[slice(*left)] != text[slice(*right)] and not SYMMETRIC.search(text[:left[0]]):
         yield "swapped arguments", (left[0], right[1]), [right, (left[1], right[0]), left]
     elif kind in ("call", "assignment", "return"):
         piece = deleted(kind, text, begin, end)

@@ -116,9 +116,12 @@ class Sample:
                 del files[name]
                 continue
             family = self.random.choice(sorted(families))
-            lot = families[family]
-            faults.append(lot.pop(self.random.randrange(len(lot))))
-            if not lot:
+            chosen = self.random.choice(families[family])
+            faults.append(chosen)
+            # A place is drawn once, by one of its rules; of places that were asked for, all.
+            families[family] = [each for each in families[family] if each is not chosen and
+                                (self.only or each.piece != chosen.piece)]
+            if not families[family]:
                 del families[family]
         return faults
 
@@ -262,7 +265,7 @@ def self_check(folder, jobs):
     """Every fault of a tree of which it is known what becomes of each."""
     tree = Path(__file__).resolve().parent / "self-check"
     work = Sweep(tree, folder, jobs)
-    work.prepare(1000, 1, [])
+    work.prepare(1000, 1, ["room"])
     work.run()
     marked = {f"{name}:{number}" for name in work.product([])
               for number, line in enumerate((tree / name).read_text().splitlines(), 1)
