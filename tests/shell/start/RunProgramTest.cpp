@@ -96,6 +96,7 @@ TEST(RunProgram, anotherStartAFaultAndTheEndOfTheSession)
         [&] { return shown("frmKORVEL2000") && !shown("frmKORVELstart"); },
         [&] {
             choose(*shown("frmKORVEL2000"), "mnuNAV(1)");
+            EXPECT_TRUE(QTest::qWaitForWindowActive(shown("frmCDDR")));
             type(*shown("frmCDDR"), "txtCDDR(0)", "35.3");
             shown("frmKORVEL2000")->showMinimized();
             other = std::thread([&] { cameToFront = FolderLock(folder()).callTheOther(10s); });
@@ -115,6 +116,8 @@ TEST(RunProgram, anotherStartAFaultAndTheEndOfTheSession)
         },
         [&] {
             EXPECT_NE(shown("frmCDDR"), nullptr) << "a fault ends nothing";
+            shown("frmCDDR")->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(shown("frmCDDR")));
             type(*shown("frmCDDR"), "txtCDDR(0)", "36");
             std::raise(SIGTERM);
             return true;
