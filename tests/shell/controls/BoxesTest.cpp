@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/controls/NoticeLine.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/PositionBox.h"
 
@@ -124,6 +125,39 @@ TEST_F(BoxesTest, aKeyCountsWhenItIsReleased)
     held.fill("1");
     held.setText(QString(80, '9'));
     EXPECT_EQ(held.text().size(), EntryBox::longestFigure);
+}
+
+TEST_F(BoxesTest, theFootTellsWhatABoxTakes)
+{
+    struct Paints : QObject {
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            seen += event->type() == QEvent::Paint;
+            return false;
+        }
+        int seen = 0;
+    } paints;
+    NoticeLine foot;
+    foot.setParent(&window);
+    foot.resize(300, 40);
+    foot.show();
+    QTest::qWait(20);
+    foot.installEventFilter(&paints);
+    box.setAccessibleName("Latitude");
+    box.setLimits("-90 to 90");
+    box.setFocus(Qt::TabFocusReason);
+    QTest::qWait(20);
+    EXPECT_EQ(foot.hint(), "Latitude; -90 to 90\nF1: the manual, at this place");
+    EXPECT_GT(paints.seen, 0);
+    other.setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(foot.hint().startsWith("Latitude")) << "a box without a name";
+    foot.say("b", "second");
+    foot.say("a", "first");
+    EXPECT_EQ(foot.text(), "first  second");
+    EXPECT_EQ(foot.toolTip(), "first  second");
+    EXPECT_EQ(foot.firstSaid(), "first");
+    foot.say("a", {});
+    EXPECT_EQ(foot.text(), "second");
 }
 
 TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
