@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QTimer>
 
@@ -285,6 +286,25 @@ TEST_F(KeysTest, whatTakesTheMouseAndWhatShowsAResultTakesTabAndIsCopied)
             EXPECT_FALSE(QApplication::clipboard()->text().isEmpty()) << nameOf(*each);
         }
     }
+}
+
+/// A caption beside a box, and what a screen reader calls the box, have a word in common.
+TEST_F(KeysTest, captionsStandBesideTheirBoxes)
+{
+    for (const QWidget* window : openAll())
+        for (const auto* caption : window->findChildren<QLabel*>()) {
+            if (!caption->buddy()) continue;
+            const QString name = caption->buddy()->accessibleName();
+            const QStringList words =
+                caption->text().remove('&').split(QRegularExpression("\\W+"), Qt::SkipEmptyParts);
+            EXPECT_TRUE(std::ranges::any_of(words,
+                                            [&](const QString& word) {
+                                                return word.size() > 2 &&
+                                                       name.contains(word, Qt::CaseInsensitive);
+                                            }))
+                << nameOf(*caption->buddy()) << " is called " << name.toStdString() << " beside "
+                << caption->text().toStdString();
+        }
 }
 
 } // namespace
