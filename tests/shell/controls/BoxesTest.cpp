@@ -186,7 +186,7 @@ TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
     EXPECT_NE(taken.indexOf(", "), -1) << taken.toStdString();
     const QString packed = latitude.text();
     latitude.setText("1");
-    EXPECT_EQ(latitude.fullEcho(), QString::fromUtf8("1°00.0' N"));
+    EXPECT_EQ(latitude.fullEcho(), QString::fromUtf8("01°00.0' N"));
     latitude.setText(packed);
     EXPECT_EQ(latitude.fullEcho(), taken);
     latitude.pasteText("35-30.5N");
