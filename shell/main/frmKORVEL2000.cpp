@@ -68,7 +68,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
         QTimer::singleShot(0, this, [this] { // its layout comes first
             m_panel->setLeastWidth(menuBar()->sizeHint().width());
             adjustSize();
-            if (isVisible()) bringOntoScreen(*this);
+            if (isVisible()) placeAfterZoom(*this, false);
         });
     });
     connect(&m_screen, &Screen::chosen, this, [this] {

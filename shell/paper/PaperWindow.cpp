@@ -65,7 +65,7 @@ void PaperWindow::zoom()
 {
     m_text->document()->setDefaultFont(PaperDocument::letters(m_program.screen().choices().zoom));
     resizeForText(*this, 118, 50);
-    bringOntoScreen(*this);
+    placeAfterZoom(*this);
 }
 
 void PaperWindow::finish()

@@ -41,6 +41,7 @@ void Screen::apply()
     const bool recoloured = wanted.night != m_applied.night || wanted.dimStep != m_applied.dimStep;
     const bool zoomed = wanted.zoom != m_applied.zoom;
     m_applied = wanted;
+    if (zoomed) emit aboutToZoom();
     if (recoloured) m_colours = wanted.colours();
     applyLooks(wanted, m_colours);
     if (recoloured) {

@@ -56,6 +56,8 @@ public:
 signals:
     void coloursChanged();
     void zoomChanged();
+    /// Before anything is of another size.
+    void aboutToZoom();
     /// A tick in a menu is to be shown anew.
     void chosen();
 

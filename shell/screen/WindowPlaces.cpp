@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <chrono>
+#include <utility>
 
 namespace korvel
 {
@@ -56,6 +57,11 @@ void putAt(QWidget& window, const QRect& place, bool resizes)
     window.setGeometry({corner, size});
 }
 
+bool isOffScreen(const QWidget& window)
+{
+    return !screenAt(window.geometry()).contains(window.frameGeometry());
+}
+
 } // namespace
 
 void keepPlace(Screen& screen, const QWidget& window, bool open)
@@ -67,14 +73,63 @@ void keepPlace(Screen& screen, const QWidget& window, bool open)
                                            screen.choices().zoom, open});
 }
 
-PlaceWatch::PlaceWatch(Screen& screen, QWidget& window) : QObject(&window)
+PlaceWatch::PlaceWatch(Screen& screen, QWidget& window)
+    : QObject(&window), m_screen(screen), m_window(window), m_zoom(screen.choices().zoom)
 {
     m_settled.setSingleShot(true);
     m_settled.setInterval(settlingTime);
-    connect(&m_settled, &QTimer::timeout, this, [&screen, &window] {
-        if (window.isVisible()) keepPlace(screen, window, true);
-    });
+    connect(&m_settled, &QTimer::timeout, this, &PlaceWatch::settled);
+    connect(&screen, &Screen::aboutToZoom, this, &PlaceWatch::keepBeforeZoom);
     window.installEventFilter(this);
+}
+
+void PlaceWatch::settled()
+{
+    if (!m_window.isVisible()) return;
+    // Until now its frame was not known, and the title bar may lie above the screen.
+    if (std::exchange(m_isNew, false) && !isEnlarged() && isOffScreen(m_window))
+        bringOntoScreen(m_window);
+    keepPlace(m_screen, m_window, true);
+}
+
+bool PlaceWatch::isEnlarged() const
+{
+    return m_window.isMaximized() || m_window.isFullScreen();
+}
+
+void PlaceWatch::keepBeforeZoom()
+{
+    const int before = std::exchange(m_zoom, m_screen.choices().zoom);
+    if (!m_window.isVisible() || isEnlarged()) {
+        m_places.clear();
+        return;
+    }
+    // Several steps at once: it stands as it did before the first.
+    if (!std::exchange(m_isPlaced, false)) return;
+    const QRect place = m_window.geometry();
+    if (place != m_given) m_places.clear();
+    m_places[before] = place;
+}
+
+void PlaceWatch::placeAfterZoom(bool resizes)
+{
+    const auto known = m_places.find(m_zoom);
+    if (known != m_places.end())
+        m_window.setGeometry({known->second.topLeft(),
+                              resizes ? known->second.size() : m_window.size()});
+    else
+        bringOntoScreen(m_window);
+    m_isPlaced = true;
+    m_given = m_window.geometry();
+    m_sinceZoom.start();
+}
+
+void placeAfterZoom(QWidget& window, bool resizes)
+{
+    if (auto* watch = window.findChild<PlaceWatch*>({}, Qt::FindDirectChildrenOnly))
+        watch->placeAfterZoom(resizes);
+    else
+        bringOntoScreen(window);
 }
 
 bool PlaceWatch::eventFilter(QObject* watched, QEvent* event)
@@ -82,6 +137,10 @@ bool PlaceWatch::eventFilter(QObject* watched, QEvent* event)
     switch (event->type()) {
     case QEvent::Move:
     case QEvent::Resize:
+        if (m_sinceZoom.isValid() && !m_sinceZoom.hasExpired(settlingTime / 1ms))
+            m_given = m_window.geometry(); // the desktop's answer, nobody's hand is as fast
+        m_settled.start();
+        break;
     case QEvent::Show:
     case QEvent::WindowStateChange:
         m_settled.start();

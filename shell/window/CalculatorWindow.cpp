@@ -287,7 +287,7 @@ void CalculatorWindow::zoom()
     m_sizes.follow(*this, m_program.screen().choices().zoom);
     fit();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    if (isVisible()) bringOntoScreen(*this);
+    if (isVisible()) placeAfterZoom(*this);
 }
 
 } // namespace korvel

@@ -21,6 +21,17 @@ inline std::string nameOf(const QWidget& widget)
            " " + widget.objectName().toStdString();
 }
 
+/// A place and a size, for messages.
+inline std::string textOf(const QRect& place)
+{
+    return QString("%1 %2 %3 %4")
+        .arg(place.x())
+        .arg(place.y())
+        .arg(place.width())
+        .arg(place.height())
+        .toStdString();
+}
+
 /// The whole program with its manual beside it, as after the page of the first start.
 class WholeProgram : public ::testing::Test
 {

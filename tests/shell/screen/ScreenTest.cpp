@@ -38,16 +38,6 @@ Layout layoutOf(const QWidget& window)
     return all;
 }
 
-std::string textOf(const QRect& place)
-{
-    return QString("%1 %2 %3 %4")
-        .arg(place.x())
-        .arg(place.y())
-        .arg(place.width())
-        .arg(place.height())
-        .toStdString();
-}
-
 void expectSame(const Layout& before, const QWidget& window)
 {
     const auto after = layoutOf(window);
@@ -135,6 +125,29 @@ TEST_F(ScreenTest, everyWindowComesBackFromEveryZoomAsItWas)
     QTest::qWait(20);
     for (const auto& [window, layout] : before)
         expectSame(layout, *window);
+}
+
+TEST_F(ScreenTest, everyWindowStandsWhereItStoodAfterEveryZoom)
+{
+    const auto windows = openAll();
+    const QRect screen = main.screen()->availableGeometry();
+    std::map<QWidget*, QRect> before;
+    for (QWidget* each : windows) { // in a corner, where a larger one has to give way
+        each->move(screen.bottomRight() - QPoint(each->frameGeometry().width(), 300));
+        QTest::qWait(5);
+        before[each] = each->geometry();
+    }
+    for (int zoom : {125, 200, 80, 100})
+        zoomTo(zoom);
+    for (const auto& [window, place] : before)
+        EXPECT_EQ(textOf(window->geometry()), textOf(place)) << nameOf(*window);
+    // What was moved by hand in between stays there.
+    QWidget& wind = onScreen("frmWind");
+    zoomTo(125);
+    QTest::qWait(500); // nobody's hand is faster
+    wind.move(20, 30);
+    zoomTo(100);
+    EXPECT_EQ(wind.pos(), QPoint(20, 30));
 }
 
 TEST_F(ScreenTest, theMainWindowIsSmallWithARemarkAndWithout)
