@@ -7,6 +7,7 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QGroupBox>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -182,6 +183,28 @@ bool isMessageIcon(QStyle::StandardPixmap which)
 } // namespace
 
 ScreenStyle::ScreenStyle() : QProxyStyle("Fusion") {}
+
+void ScreenStyle::polish(QWidget* widget)
+{
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QGroupBox*>(widget)) widget->installEventFilter(this);
+}
+
+void ScreenStyle::unpolish(QWidget* widget)
+{
+    widget->removeEventFilter(this);
+    QProxyStyle::unpolish(widget);
+}
+
+/// A group box draws nothing but its title and its frame: where a result in it is painted anew
+/// neither has to be.
+bool ScreenStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Paint) return QProxyStyle::eventFilter(watched, event);
+    const auto* group = qobject_cast<QGroupBox*>(watched);
+    const QRect painted = static_cast<QPaintEvent*>(event)->rect();
+    return group && !group->isCheckable() && group->contentsRect().contains(painted);
+}
 
 void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const

@@ -21,6 +21,12 @@ public:
     /// Sizes of boxes, bars and icons in percent of the toolkit's own; letters are not its matter.
     void setZoom(int percent) { m_zoom = percent; }
 
+    void polish(QWidget* widget) override;
+    void unpolish(QWidget* widget) override;
+    using QProxyStyle::polish;
+    using QProxyStyle::unpolish;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
