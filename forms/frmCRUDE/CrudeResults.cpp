@@ -66,7 +66,7 @@ ResultLabel* CrudeResults::addNote(const char* name, const QString& words, Figur
     ResultLabel* label = add(name, words, figure);
     label->setFont(font());
     label->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    label->setWordWrap(true);
+    label->setRoom({});
     return label;
 }
 
@@ -74,7 +74,7 @@ ResultLabel* CrudeResults::addNote(const char* name, const QString& words, Figur
 ResultLabel* CrudeResults::addLongNote(const char* name, const QString& words, Figure figure)
 {
     ResultLabel* label = addNote(name, words, figure);
-    label->setMinimumHeight(2 * label->fontMetrics().lineSpacing());
+    label->setRoom({}, 2);
     return label;
 }
 

@@ -95,14 +95,14 @@ void frmGC2000::addResults()
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.
     for (ResultLabel* label : m_lblGC2000)
-        label->reserve(widestDistance);
-    m_lblSaving->reserve(widestDistance);
-    m_lblInitialCourse->reserve(widestCourse);
-    m_lblFinalCourse->reserve(widestCourse);
-    m_lblVertexLat->reserve(widestVertex[0]);
-    m_lblVertexLong->reserve(widestVertex[1]);
+        label->setRoom(widestDistance);
+    m_lblSaving->setRoom(widestDistance);
+    m_lblInitialCourse->setRoom(widestCourse);
+    m_lblFinalCourse->setRoom(widestCourse);
+    m_lblVertexLat->setRoom(widestVertex[0]);
+    m_lblVertexLong->setRoom(widestVertex[1]);
     m_lblVertexRemark->setFont(font());
-    m_lblVertexRemark->reserve("beyond the route");
+    m_lblVertexRemark->setRoom("beyond the route");
 
     const auto forCopy = [](const GCWaypoint& waypoint) {
         return QString::fromStdString(positionForCopy(waypoint.lat, waypoint.longitude));
@@ -249,6 +249,9 @@ void frmGC2000::runGC()
         throw; // the runner blanks the other labels and says so
     }
 
+    // All of the table at once: seventy labels one by one are seventy pieces of a screen to be kept
+    // apart.
+    m_waypoints->update();
     for (std::size_t row = 0; row < m_result.rows.size(); ++row)
         showRow(row);
     const auto show = [](ResultLabel* label, const std::string& text) {

@@ -123,7 +123,7 @@ void frmSunMoon::addControls()
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
     m_lblMoonAge = addLabel("lblMoonAge");
     m_lblMoonAge->setAccessibleName("Moon's age, days");
-    m_lblMoonAge->reserve("00.0 ");
+    m_lblMoonAge->setRoom("00.0 ");
     m_scrMoonSun = new QScrollBar(Qt::Horizontal, body());
     m_scrMoonSun->setObjectName("scrMoonSun");
     m_scrMoonSun->setAccessibleName("Date, days from today");

@@ -39,6 +39,17 @@ FigureText::Glyph FigureText::glyphOf(QChar character)
     return *m_glyphs.insert(character, glyph);
 }
 
+double FigureText::width(const QFont& letters, const QString& text)
+{
+    useFont(letters);
+    if (!isSimple(text) || !m_rawFont.isValid())
+        return QFontMetricsF(letters).horizontalAdvance(text);
+    double wide = 0;
+    for (const QChar each : text)
+        wide += glyphOf(each).advance;
+    return wide;
+}
+
 void FigureText::draw(QPainter& painter, const QRectF& room, Qt::Alignment alignment,
                       const QString& text)
 {

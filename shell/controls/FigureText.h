@@ -17,6 +17,9 @@ public:
     /// the toolkit.
     void draw(QPainter& painter, const QRectF& room, Qt::Alignment alignment, const QString& text);
 
+    /// Width of a text as it is drawn, in pixels.
+    double width(const QFont& letters, const QString& text);
+
 private:
     struct Glyph {
         quint32 index = 0;

@@ -2,9 +2,9 @@
 #include "shell/controls/NoticeLine.h"
 
 #include "shell/controls/Boxes.h"
+#include "shell/controls/WrappedText.h"
 
 #include <QPaintEngine>
-#include <QTextLayout>
 
 namespace korvel
 {
@@ -20,10 +20,9 @@ NoticeLine::NoticeLine() : m_focus([this](const QWidget* now) { hintAt(now); })
     setObjectName("lblNotice");
     setAccessibleName("Notice");
     setFont(QFont()); // copied like a result, read like a caption
-    setWordWrap(true);
+    setRoom({}, lineCount);
     setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    setMinimumHeight(NoticeLine::sizeHint().height());
 }
 
 void NoticeLine::hintAt(const QWidget* control)
@@ -47,8 +46,10 @@ void NoticeLine::say(const QString& key, const QString& text)
     QStringList all;
     for (const auto& [each, words] : m_said)
         all << words;
-    setText(all.join("  "));
-    setToolTip(this->text());
+    const QString joined = all.join("  ");
+    if (joined == this->text()) return;
+    setText(joined);
+    setToolTip(joined);
 }
 
 QStringList NoticeLine::onPaper() const
@@ -57,16 +58,6 @@ QStringList NoticeLine::onPaper() const
     for (const auto& [key, words] : m_said)
         if (!key.contains('~')) said << words;
     return said;
-}
-
-QSize NoticeLine::sizeHint() const
-{
-    return {0, lineCount * fontMetrics().lineSpacing()};
-}
-
-QSize NoticeLine::minimumSizeHint() const
-{
-    return sizeHint();
 }
 
 void NoticeLine::paintEvent(QPaintEvent* event)
@@ -83,21 +74,9 @@ void NoticeLine::paintEvent(QPaintEvent* event)
         painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, m_hint);
         return;
     }
-    QTextLayout layout(text(), font());
-    layout.beginLayout();
-    QStringList lines;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width());
-        if (lines.size() + 1 == lineCount) {
-            lines << fontMetrics().elidedText(text().mid(line.textStart()), Qt::ElideRight,
-                                              width());
-            break;
-        }
-        lines << text().mid(line.textStart(), line.textLength());
-    }
-    layout.endLayout();
     painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), static_cast<int>(alignment()), lines.join('\n'));
+    painter.drawText(rect(), static_cast<int>(alignment()),
+                     shownLines(text(), font(), size()).lines.join('\n'));
 }
 
 } // namespace korvel

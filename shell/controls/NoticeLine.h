@@ -36,10 +36,6 @@ public:
     const QString& hint() const { return m_hint; }
     void setHintColour(const QColor& colour) { m_hintColour = colour; }
 
-    QSize sizeHint() const override;
-    QSize minimumSizeHint() const override;
-    int heightForWidth(int) const override { return sizeHint().height(); }
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

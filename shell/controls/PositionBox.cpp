@@ -31,7 +31,7 @@ PositionBox::PositionBox(Axis axis, QWidget* parent)
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { m_echo->setObjectName("echo " + name); });
     // Room for the longest echo, so that the window keeps its shape while the officer types.
-    m_echo->reserve("000°00.0' W (minutes 75)");
+    m_echo->setRoom("000°00.0' W (minutes 75)");
 }
 
 void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
@@ -43,7 +43,7 @@ void PositionBox::pair(PositionBox* latitude, PositionBox* longitude)
 void PositionBox::setBriefEcho()
 {
     m_briefEcho = true;
-    m_echo->reserve("000°00.000' W !");
+    m_echo->setRoom("000°00.000' W !");
     showEcho();
 }
 
@@ -57,7 +57,7 @@ void PositionBox::showEcho()
     }
     const QString full = QString::fromStdString(echo.text);
     const QString remark = m_briefEcho ? " !" : " (" + hint + ")";
-    m_echo->showReserved(hint.isEmpty() ? full : full + remark);
+    m_echo->setText(hint.isEmpty() ? full : full + remark);
     m_echo->setToolTip(hint);
     setAccessibleDescription(hint.isEmpty() ? full : full + ", " + hint);
 }

@@ -2,6 +2,7 @@
 #include "shell/controls/ResultLabel.h"
 
 #include "app/reading/PackedText.h"
+#include "shell/controls/WrappedText.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAccessibleWidget>
@@ -12,12 +13,31 @@
 #include <QMenu>
 #include <QToolTip>
 
+#include <cmath>
+
 namespace korvel
 {
 namespace
 {
 
-constexpr int widestReserved = 60; ///< characters; a pasted text must not widen a window
+/// The toolkit has a window lay itself out for every text of a label. It does not for a hidden one,
+/// and the room of these labels does not depend on their text.
+class WithoutLayout
+{
+public:
+    explicit WithoutLayout(QWidget& label)
+        : m_label(label), m_isHidden(label.testAttribute(Qt::WA_WState_Hidden))
+    {
+        m_label.setAttribute(Qt::WA_WState_Hidden);
+    }
+    ~WithoutLayout() { m_label.setAttribute(Qt::WA_WState_Hidden, m_isHidden); }
+    WithoutLayout(const WithoutLayout&) = delete;
+    WithoutLayout& operator=(const WithoutLayout&) = delete;
+
+private:
+    QWidget& m_label;
+    bool m_isHidden;
+};
 
 /// The toolkit tells a label's text or its accessible name, never both.
 class AccessibleResult : public QAccessibleWidget
@@ -71,15 +91,17 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     // Figures are drawn side by side: pairs that stand closer when measured (LT) would be cut off.
     larger.setKerning(false);
     setFont(larger);
-    // An empty one keeps its room: what the toolkit gives a text can be more than a line of the
-    // font.
-    setMinimumHeight(std::max(fontMetrics().lineSpacing(), fontMetrics().size(0, "0").height()));
 }
 
 void ResultLabel::setText(const QString& text)
 {
     if (text == this->text()) return;
-    QLabel::setText(text);
+    if (m_isRoomByText) {
+        QLabel::setText(text);
+    } else {
+        const WithoutLayout still(*this);
+        QLabel::setText(text);
+    }
     if (m_isEliding) setToolTip(text);
     if (focusPolicy() == Qt::NoFocus || focusPolicy() == Qt::TabFocus) stopTabHere();
     if (!QAccessible::isActive() || accessibleName().isEmpty()) return; // the label tells it itself
@@ -118,40 +140,70 @@ void ResultLabel::setEliding()
     setMinimumWidth(0);
 }
 
-void ResultLabel::reserve(const QString& longest)
+void ResultLabel::setRoom(const QString& widest, int lines)
 {
-    setFixedSize(fontMetrics().horizontalAdvance(longest), fontMetrics().height());
+    m_widest = widest;
+    m_lines = lines;
+    setWordWrap(lines > 1);
+    updateGeometry();
 }
 
-void ResultLabel::showReserved(const QString& text)
+QSize ResultLabel::sizeHint() const
 {
-    if (text == this->text()) return;
-    const int wide = fontMetrics().horizontalAdvance(text.left(widestReserved));
-    if (wide > minimumWidth()) setFixedWidth(wide);
-    setText(text);
+    if (m_isRoomByText) return QLabel::sizeHint();
+    // Results that are shown in italics for a while keep their room.
+    QFont upright = font();
+    upright.setItalic(false);
+    const QFontMetrics metrics(upright);
+    // What the toolkit gives a text can be more than a line of the font.
+    const int line = std::max(metrics.lineSpacing(), metrics.size(0, "0").height());
+    // Figures are drawn side by side, each as broad as it is; the toolkit reckons in whole pixels.
+    const int drawn = static_cast<int>(std::ceil(m_figures.width(upright, m_widest)));
+    return {std::max(metrics.horizontalAdvance(m_widest), drawn), m_lines * line};
+}
+
+QSize ResultLabel::minimumSizeHint() const
+{
+    return m_isRoomByText ? QLabel::minimumSizeHint() : sizeHint();
+}
+
+bool ResultLabel::isOneLine() const
+{
+    return !wordWrap() && !text().contains('\n');
+}
+
+bool ResultLabel::isCut() const
+{
+    constexpr int hair = 1; // of a layout that shares pixels out
+    if (isOneLine()) return m_figures.width(font(), text()) > width() + hair;
+    return !shownLines(text(), font(), size()).isWhole;
 }
 
 bool ResultLabel::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip || (!toolTip().isEmpty() && toolTip() != text()))
-        return QLabel::event(event);
-    const QString full = asQString(inFullForm(text().toStdString()));
-    if (full == text()) return QLabel::event(event);
+    if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+    QString full = hasOwnTip() ? toolTip() : asQString(inFullForm(text().toStdString()));
+    if (full == text() && !isCut()) return QLabel::event(event);
+    if (hasOwnTip() && isCut()) full = text() + "\n" + full;
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), full.trimmed(), this);
     return true;
 }
 
 void ResultLabel::paintEvent(QPaintEvent* event)
 {
-    if (isBeingSelected() || textFormat() != Qt::PlainText || wordWrap() || text().contains('\n')) {
+    if (isBeingSelected() || textFormat() != Qt::PlainText) {
         QLabel::paintEvent(event);
         return;
     }
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    const QString shown = m_isEliding || text().size() > widestReserved
-                              ? fontMetrics().elidedText(text(), Qt::ElideRight, width())
-                              : text();
+    if (!isOneLine()) {
+        painter.drawText(contentsRect(), static_cast<int>(alignment()),
+                         shownLines(text(), font(), size()).lines.join('\n'));
+        return;
+    }
+    const QString shown =
+        isCut() ? fontMetrics().elidedText(text(), Qt::ElideRight, width()) : text();
     m_figures.draw(painter, contentsRect(), alignment(), shown);
 }
 

@@ -28,23 +28,28 @@ public:
     void setText(const QString& text);
     void clear() { setText({}); }
 
-    /// Keeps the label at one size, wide enough for a text, so that a new result makes it paint and
-    /// never the window lay itself out. A longer text than any before widens it, up to a limit.
-    void reserve(const QString& longest);
-    /// Shows a text in the reserved size.
-    void showReserved(const QString& text);
+    /// Gives the label room for a text and this many lines of it, by the letters that it has. What
+    /// it shows enters its size in no way: a new result makes it paint and never the window lay
+    /// itself out. A text that does not fit ends in dots, and all of it is in the tool tip.
+    void setRoom(const QString& widest, int lines = 1);
 
-    /// Makes the label a line that takes the room it gets and never asks for more: what does not
-    /// fit is in the tool tip.
+    /// Makes the label as large as its text, for what no key and no calculation changes.
+    void setRoomByText() { m_isRoomByText = true; }
+
+    /// Makes the label a line that takes the room it gets and never asks for more.
     void setEliding();
 
     /// Takes the label out of the way of Tab: its text is told elsewhere too.
     void passByTab();
 
-    /// A label of a fixed height has it at every width.
+    /// True while not all of the text can be seen.
+    bool isCut() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override
     {
-        return minimumHeight() < maximumHeight() && QLabel::hasHeightForWidth();
+        return m_isRoomByText && QLabel::hasHeightForWidth();
     }
 
 protected:
@@ -64,9 +69,15 @@ private:
     void stopTabHere();
     void copy();
 
-    FigureText m_figures;
+    bool isOneLine() const;
+    bool hasOwnTip() const { return !toolTip().isEmpty() && toolTip() != text(); }
+
+    mutable FigureText m_figures;
+    QString m_widest = "00000000.000"; ///< what every result fits into but for odd ones
+    int m_lines = 1;
     bool m_isTabStop = true;
     bool m_isEliding = false;
+    bool m_isRoomByText = false;
 };
 
 /// Lets Tab go through controls in this order; results that are blank as yet keep their place.

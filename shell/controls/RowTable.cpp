@@ -122,10 +122,12 @@ int RowTable::widthOf(const TableColumn& column) const
 {
     const QFontMetrics captions = fontMetrics();
     const int heading = captions.size(0, column.heading).width();
-    if (column.holds == Holds::Result)
-        return std::max(heading, ResultLabel().fontMetrics().horizontalAdvance(column.widest));
-    if (column.holds == Holds::Correction)
-        return std::max(heading, QFontMetrics(small(font())).horizontalAdvance(column.widest));
+    if (isResult(column)) {
+        ResultLabel sample;
+        if (column.holds == Holds::Correction) sample.setFont(small(font()));
+        sample.setRoom(column.widest);
+        return std::max(heading, sample.sizeHint().width());
+    }
     return std::max(heading, captions.horizontalAdvance(column.widest) +
                                  (isBox(column) ? captions.horizontalAdvance('0') : 0));
 }

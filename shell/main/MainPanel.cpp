@@ -63,7 +63,7 @@ ResultLabel* MainPanel::makeLabel(const QString& name, const QString& accessible
     QFont letters = font();
     letters.setPointSizeF(letters.pointSizeF() * size);
     label->setFont(letters);
-    label->setMinimumHeight(0);
+    label->setRoomByText();
     return label;
 }
 

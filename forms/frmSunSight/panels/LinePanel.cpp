@@ -48,18 +48,18 @@ QGroupBox* LinePanel::layOutWorksheet()
         grid->addWidget(label, row++, 0, 1, 2);
     }
     for (std::size_t i = 0; i < worksheetLines; ++i, ++row) {
-        m_lblSunTerm[i] = new QLabel;
+        m_lblSunTerm[i] = new ResultLabel(this);
+        m_lblSunTerm[i]->setFont(QFont());
+        m_lblSunTerm[i]->passByTab(); // the figure beside it tells it with itself
+        m_lblSunTerm[i]->setRoom("Upper limb: less the diameter");
         m_lblSunTerm[i]->setObjectName(memberName("lblSunTerm", static_cast<int>(i)));
         m_lblSunValue[i] = makeResult("lblSunValue", static_cast<int>(i), "Worksheet", this);
         m_lblSunValue[i]->setFont(QFont()); // a column of figures that is added up, not results
-        m_lblSunValue[i]->setMinimumHeight(0);
         m_lblSunValue[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         setRoom(m_lblSunValue[i], "000.-00'0");
         grid->addWidget(m_lblSunTerm[i], row, 0);
         grid->addWidget(m_lblSunValue[i], row, 1);
     }
-    grid->setColumnMinimumWidth(0,
-                                fontMetrics().horizontalAdvance("Upper limb: less the diameter"));
     return group;
 }
 

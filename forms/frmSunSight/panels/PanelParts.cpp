@@ -19,17 +19,15 @@ ResultLabel* makeResult(const QString& array, int index, const QString& words, Q
 void makeSentence(ResultLabel* label, int lines)
 {
     label->setFont(QFont());
-    label->setWordWrap(lines > 1);
+    label->setRoom({}, lines);
     label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    label->setFixedHeight(lines * label->fontMetrics().lineSpacing());
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     if (lines == 1) label->setEliding();
 }
 
 void setRoom(ResultLabel* label, const char* sample)
 {
-    const QFontMetrics metrics = label->fontMetrics();
-    label->setMinimumSize(metrics.horizontalAdvance(sample), metrics.height());
+    label->setRoom(sample);
 }
 
 void showText(ResultLabel* label, const std::string& text)

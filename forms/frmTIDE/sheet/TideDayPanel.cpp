@@ -60,6 +60,8 @@ QGridLayout* TideDayPanel::layOutWaters()
         m_lblWater[i] = addLabel(memberName("lblWater", index), "High or low water");
         m_lblWaterAll[i] = addLabel(memberName("lblWaterAll", index),
                                     "The same water by all constituents and the difference");
+        m_lblWater[i]->setRoom("Least flood 00:00   -00.00 kn");
+        m_lblWaterAll[i]->setRoom("00:00   -00.00 kn   (-000 min, -00.00 kn)");
         grid->addWidget(m_lblWater[i], index + 1, 0);
         grid->addWidget(m_lblWaterAll[i], index + 1, 1);
         m_lblWater[i]->hide();
@@ -143,8 +145,7 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
 
 void TideDayPanel::showNow(const std::string& text)
 {
-    m_lblNow->setText(QString::fromStdString(text));
-    m_lblNow->setVisible(!text.empty());
+    m_lblNow->setText(QString::fromStdString(text)); // its line stays on other days
 }
 
 void TideDayPanel::answer()

@@ -51,12 +51,15 @@ QWidget* TideHead::headLine()
     QFont bold = m_lblPlace->font();
     bold.setBold(true);
     m_lblPlace->setFont(bold);
+    m_lblPlace->setRoom("San Francisco, Golden");
     m_lblDate = new DateLabel(this);
     m_lblDate->setObjectName("lblDate");
     m_lblDate->setAccessibleName("Date; Enter asks for another one");
     m_lblDate->setToolTip("Choose the date");
     m_lblDate->onClick = [this] { onDate(); };
+    m_lblDate->setRoom("0000/00/00  ");
     m_lblTD = addLabel("lblTD", "Zone time of the station, hours");
+    m_lblTD->setRoom("00.00hW");
 
     auto* cmdToday = new QPushButton("T&oday");
     cmdToday->setObjectName("cmdToday");
@@ -86,8 +89,11 @@ QWidget* TideHead::figuresLine()
 {
     m_lblTideInfo = addLabel("lblTideInfo", "Highest and lowest of the day with their zone times");
     m_lblTideInfo->setToolTip("Zone time in hours and minutes, highest first");
+    m_lblTideInfo->setRoom("00.-00: -00.00m   00.-00: -00.00m ");
     m_lblCuDirection = {addLabel("lblCuDirection(0)", "Direction of the flood stream"),
                         addLabel("lblCuDirection(1)", "Direction of the ebb stream")};
+    for (ResultLabel* label : m_lblCuDirection)
+        label->setRoom("+ : WNW ");
 
     auto* line = new QWidget;
     auto* row = new WrappingRow(line);

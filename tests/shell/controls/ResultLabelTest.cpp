@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/ResultLabel.h"
+#include "shell/controls/WrappedText.h"
 
 #include <gtest/gtest.h>
 
@@ -36,10 +37,11 @@ TEST(ResultLabel, itsRoomHoldsEveryStroke)
             label.setFont(font);
             label.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
             label.setStyleSheet("background: white; color: black");
-            label.reserve("0000LT");
+            label.setRoom("0000LT");
+            label.resize(label.sizeHint());
             label.setText("0622LT");
             const long inRoom = inkOf(label);
-            label.setFixedWidth(2 * label.width());
+            label.resize(2 * label.width(), label.height());
             const long whole = inkOf(label);
             EXPECT_GE(inRoom, whole - whole / 100) << family.toStdString() << " " << points;
         }
@@ -78,21 +80,39 @@ TEST(ResultLabel, takesTheFocusWhileItShowsSomething)
     EXPECT_EQ(label.focusPolicy(), Qt::NoFocus);
 }
 
-TEST(ResultLabel, keepsItsRoom)
+TEST(ResultLabel, whatItSaysEntersItsSizeInNoWayAndWhatDoesNotFitIsNotSilent)
 {
-    QWidget window;
-    ResultLabel label(&window);
-    label.reserve("000");
-    const int room = label.width();
-    label.showReserved("1");
-    EXPECT_EQ(label.width(), room);
-    label.showReserved("123456");
-    EXPECT_EQ(label.width(), label.fontMetrics().horizontalAdvance("123456"));
-    label.showReserved(QString(200, '1'));
-    EXPECT_EQ(label.width(), label.fontMetrics().horizontalAdvance(QString(60, '1')));
-    label.setEliding();
-    label.setText("all of a long text");
-    EXPECT_EQ(label.toolTip(), "all of a long text");
+    struct Case {
+        const char* text;
+        bool isCut[3]; ///< in one line, in two, in three
+    };
+    const Case cases[] = {
+        {"", {false, false, false}},
+        {"35.27", {false, false, false}},
+        {"the first and the second", {true, false, false}},
+        {"the first and\nthe second", {true, false, false}},
+        {"the first and the second and the", {true, true, false}},
+        {"one\ntwo\nthree", {true, true, false}},
+        {"the first and the second and the third and the rest", {true, true, true}},
+        {"aWordLongerThanTheLine", {true, false, false}},
+    };
+    for (const auto& [text, isCut] : cases)
+        for (int lines = 1; lines <= 3; ++lines) {
+            ResultLabel label;
+            label.setRoom("the first and the", lines);
+            label.setWordWrap(true);
+            const QSize room = label.sizeHint();
+            label.resize(room);
+            label.setText(text);
+            EXPECT_EQ(label.sizeHint(), room) << text;
+            EXPECT_EQ(label.isCut(), isCut[lines - 1]) << text << " in " << lines;
+            const ShownLines shown = shownLines(text, label.font(), room);
+            EXPECT_LE(shown.lines.size(), lines) << text;
+            EXPECT_EQ(shown.isWhole, !shown.lines.join("").contains(QChar(0x2026))) << text;
+            for (const QString& line : shown.lines)
+                EXPECT_LE(label.fontMetrics().horizontalAdvance(line), room.width())
+                    << line.toStdString();
+        }
 }
 
 } // namespace

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "tests/shell/WholeProgram.h"
+
+#include <fstream>
+#include <map>
+#include <set>
+
+// Whatever is typed, no control leaves its place.
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+using Places = std::map<const QWidget*, QRect>;
+
+/// Where every control that is shown stands in its window. What a control is made of is its own
+/// matter, but for the bars that come and go.
+Places placesIn(const QWidget& window)
+{
+    Places all;
+    for (const auto* each : window.findChildren<QWidget*>())
+        if (each->isVisible() && each->window() == &window)
+            all[each] = QRect(each->mapTo(&window, QPoint()), each->size());
+    all[&window] = window.geometry();
+    return all;
+}
+
+std::vector<QString> awkwardTexts()
+{
+    std::ifstream file(sourceFile("tests/shell/window/awkward-texts.txt"));
+    std::vector<QString> texts;
+    for (std::string line; std::getline(file, line);)
+        texts.push_back(QString::fromStdString(line));
+    return texts;
+}
+
+class StillnessTest : public WholeProgram
+{
+protected:
+    /// Types one text; what has moved is told once a window.
+    void typeInto(EntryBox& box, const QString& text)
+    {
+        box.selectAll();
+        box.insert(text);
+        if (auto* keyUp = dynamic_cast<KeyUpBox*>(&box); keyUp && keyUp->onKeyUp) keyUp->onKeyUp();
+    }
+
+    void expectStill(const QWidget& window, const Places& before, const std::string& after)
+    {
+        QApplication::sendPostedEvents();
+        const Places now = placesIn(window);
+        for (const auto& [control, place] : before) {
+            const auto found = now.find(control);
+            const QRect moved = found == now.end() ? QRect() : found->second;
+            if (moved == place || !m_told.insert(control).second) continue;
+            ADD_FAILURE() << after << " moves " << nameOf(*control) << " from " << textOf(place)
+                          << " to " << textOf(moved);
+        }
+        for (const auto& [control, place] : now)
+            if (!before.count(control) && m_told.insert(control).second)
+                ADD_FAILURE() << after << " brings " << nameOf(*control);
+    }
+
+    /// Rows of a table are alike: the first, the second and the last stand for all.
+    static std::vector<EntryBox*> boxesOf(const QWidget& window)
+    {
+        std::vector<EntryBox*> boxes;
+        for (auto* box : window.findChildren<EntryBox*>()) {
+            const int row = box->objectName().section('(', 1).section(')', 0, 0).toInt();
+            const bool isInTable = window.findChildren<EntryBox*>().size() > 40;
+            if (!isInTable || row < 1 || row == 15) boxes.push_back(box);
+        }
+        return boxes;
+    }
+
+    /// So that every key has all results change: "frmCDDR txtCDDR(0) 35.08".
+    void fillWithWorkedFigures(const QWidget& window)
+    {
+        std::ifstream file(sourceFile("tests/shell/window/worked-texts.txt"));
+        std::string name, box, text;
+        while (file >> name >> box && std::getline(file >> std::ws, text))
+            if (name == window.objectName().toStdString())
+                typeInto(dynamic_cast<EntryBox&>(control(window, box)),
+                         QString::fromStdString(text));
+        QTest::qWait(10);
+    }
+
+    void typeEverything(QWidget& window)
+    {
+        fillWithWorkedFigures(window);
+        const std::vector<EntryBox*> boxes = boxesOf(window);
+        const std::vector<QString> texts = awkwardTexts();
+        ASSERT_EQ(texts.size(), 60u);
+        const Places before = placesIn(window);
+        std::vector<QString> were;
+        for (const EntryBox* box : boxes)
+            were.push_back(box->text());
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+            for (const QString& text : texts) {
+                typeInto(*boxes[i], text);
+                expectStill(window, before,
+                            boxes[i]->objectName().toStdString() + " '" + text.toStdString() + "'");
+            }
+            typeInto(*boxes[i], were[i]);
+        }
+        expectStill(window, before, "putting it right");
+        // All at once, each another one.
+        for (std::size_t round = 0; round < texts.size(); round += 7) {
+            for (std::size_t i = 0; i < boxes.size(); ++i)
+                typeInto(*boxes[i], texts[(round + 11 * i) % texts.size()]);
+            expectStill(window, before, "all boxes");
+        }
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            typeInto(*boxes[i], were[i]);
+    }
+
+    void zoomTo(int percent)
+    {
+        Screen& screen = main.program().screen();
+        while (screen.choices().zoom != percent)
+            screen.zoom(screen.choices().zoom < percent ? 1 : -1);
+        QTest::qWait(20);
+    }
+
+    void typeInAllWindows()
+    {
+        for (const CatalogueEntry& entry : calculatorWindows()) {
+            QWidget& opened = window(entry.name);
+            QTest::qWait(10);
+            typeEverything(opened);
+            opened.close();
+        }
+    }
+
+private:
+    std::set<const QWidget*> m_told;
+};
+
+TEST_F(StillnessTest, nothingMovesWhileOneTypes)
+{
+    typeInAllWindows();
+}
+
+TEST_F(StillnessTest, norAtTwiceTheSize)
+{
+    zoomTo(200);
+    typeInAllWindows();
+}
+
+} // namespace
+} // namespace korvel
