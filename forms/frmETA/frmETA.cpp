@@ -95,6 +95,7 @@ void frmETA::addResults()
         m_lblETA[i]->setAccessibleName(QString("Arrival %1, local time").arg(i + 1));
     }
     m_lblReqSpd = addLabel("lblReqSpd");
+    m_lblReqSpd->setRoom("0000.00");
     for (std::size_t end = 0; end < m_txtTD.size(); ++end) {
         m_lblZD[end] = new QLabel;
         m_lblZD[end]->setObjectName(memberName("lblZD", static_cast<int>(end)));
@@ -219,7 +220,6 @@ QGroupBox* frmETA::layOutRequiredSpeed()
     auto* group = new QGroupBox("Required for the arrival wanted");
     auto* grid = gridOf(group);
     addResultRow(grid, 0, "Speed", m_lblReqSpd, "knots");
-    grid->setColumnMinimumWidth(1, QFontMetrics(m_lblReqSpd->font()).horizontalAdvance("0000.00"));
     grid->setColumnStretch(2, 1);
     return group;
 }

@@ -139,8 +139,7 @@ QWidget* frmGC2000::layOutDistances()
     addResultRow(grid, 0, "Rhumb line", m_lblGC2000[0], "miles");
     addResultRow(grid, 1, "Great circle", m_lblGC2000[1], "miles");
     addResultRow(grid, 2, "Sum of the legs", m_lblGC2000[2], "miles");
-    grid->setColumnMinimumWidth(
-        1, QFontMetrics(m_lblSaving->font()).horizontalAdvance(widestDistance));
+    grid->setColumnStretch(2, 1);
     grid->setRowStretch(3, 1);
     return group;
 }

@@ -31,9 +31,9 @@ ShownLines shownLines(const QString& text, const QFont& letters, QSize room)
             break;
         }
         const QString rest = text.mid(line.textStart()).replace('\n', ' ');
-        shown.lines << metrics.elidedText(rest + ' ', Qt::ElideRight,
-                                          std::min(room.width(),
-                                                   metrics.horizontalAdvance(rest) - 1));
+        shown.lines << metrics.elidedText(
+            rest + ' ', Qt::ElideRight,
+            std::min(room.width(), metrics.horizontalAdvance(rest) - 1));
         shown.isWhole = false;
         break;
     }

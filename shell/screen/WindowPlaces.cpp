@@ -115,8 +115,8 @@ void PlaceWatch::placeAfterZoom(bool resizes)
 {
     const auto known = m_places.find(m_zoom);
     if (known != m_places.end())
-        m_window.setGeometry({known->second.topLeft(),
-                              resizes ? known->second.size() : m_window.size()});
+        m_window.setGeometry(
+            {known->second.topLeft(), resizes ? known->second.size() : m_window.size()});
     else
         bringOntoScreen(m_window);
     m_isPlaced = true;
