@@ -8,6 +8,16 @@
 
 namespace korvel
 {
+namespace
+{
+
+/// The blank or line break that a line was wrapped at is not seen.
+QString withoutEnd(const QString& words)
+{
+    return words.endsWith('\n') || words.endsWith(' ') ? words.chopped(1) : words;
+}
+
+} // namespace
 
 ShownLines shownLines(const QString& text, const QFont& letters, QSize room)
 {
@@ -26,7 +36,7 @@ ShownLines shownLines(const QString& text, const QFont& letters, QSize room)
         const QString words = text.mid(line.textStart(), line.textLength());
         const qsizetype end = line.textStart() + line.textLength();
         if (shown.lines.size() + 1 < most || end >= text.size()) {
-            shown.lines << (words.endsWith('\n') ? words.chopped(1) : words);
+            shown.lines << withoutEnd(words);
             if (shown.lines.size() < most) continue;
             break;
         }

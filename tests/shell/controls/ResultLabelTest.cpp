@@ -91,7 +91,7 @@ TEST(ResultLabel, whatItSaysEntersItsSizeInNoWayAndWhatDoesNotFitIsNotSilent)
         {"35.27", {false, false, false}},
         {"the first and the second", {true, false, false}},
         {"the first and\nthe second", {true, false, false}},
-        {"the first and the second and the", {true, true, false}},
+        {"the first and the second and the", {true, false, false}},
         {"one\ntwo\nthree", {true, true, false}},
         {"the first and the second and the third and the rest", {true, true, true}},
         {"aWordLongerThanTheLine", {true, false, false}},

@@ -133,7 +133,8 @@ TEST_F(ScreenTest, everyWindowStandsWhereItStoodAfterEveryZoom)
     const QRect screen = main.screen()->availableGeometry();
     std::map<QWidget*, QRect> before;
     for (QWidget* each : windows) { // in a corner, where a larger one has to give way
-        each->move(screen.bottomRight() - QPoint(each->frameGeometry().width(), 300));
+        const QPoint corner(each->frameGeometry().width(), each->frameGeometry().height());
+        each->move(screen.bottomRight() - corner);
         QTest::qWait(5);
         before[each] = each->geometry();
     }
@@ -142,12 +143,12 @@ TEST_F(ScreenTest, everyWindowStandsWhereItStoodAfterEveryZoom)
     for (const auto& [window, place] : before)
         EXPECT_EQ(textOf(window->geometry()), textOf(place)) << nameOf(*window);
     // What was moved by hand in between stays there.
-    QWidget& wind = onScreen("frmWind");
+    QWidget& weather = onScreen("frmWeather");
     zoomTo(125);
     QTest::qWait(500); // nobody's hand is faster
-    wind.move(20, 30);
+    weather.move(20, 30);
     zoomTo(100);
-    EXPECT_EQ(wind.pos(), QPoint(20, 30));
+    EXPECT_EQ(weather.pos(), QPoint(20, 30));
 }
 
 TEST_F(ScreenTest, theMainWindowIsSmallWithARemarkAndWithout)
