@@ -63,7 +63,7 @@ QGroupBox* FixPanel::layOutFix()
     position->addWidget(m_lblSunFix[1]);
     position->addStretch(1);
     grid->addLayout(position, 0, 0);
-    const std::array<int, 4> lines = {1, 2, 2, 4}; // three sights that disagree: four
+    const std::array<int, 4> lines = {1, 2, 2, 3};
     for (std::size_t i = 0; i < lines.size(); ++i) {
         makeSentence(m_lblSunFix[i + 2], lines[i]);
         grid->addWidget(m_lblSunFix[i + 2], static_cast<int>(i) + 1, 0);

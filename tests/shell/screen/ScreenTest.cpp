@@ -135,9 +135,10 @@ TEST_F(ScreenTest, everyWindowStandsWhereItStoodAfterEveryZoom)
     for (QWidget* each : windows) { // in a corner, where a larger one has to give way
         const QPoint corner(each->frameGeometry().width(), each->frameGeometry().height());
         each->move(screen.bottomRight() - corner);
-        QTest::qWait(5);
-        before[each] = each->geometry();
     }
+    QTest::qWait(500); // the desktop has put its frames around them
+    for (QWidget* each : windows)
+        before[each] = each->geometry();
     for (int zoom : {125, 200, 80, 100})
         zoomTo(zoom);
     for (const auto& [window, place] : before)
