@@ -115,6 +115,9 @@ QGridLayout* TideDayPanel::layOutAnswers()
     for (ResultLabel* label :
          {m_lblRange, m_lblNow, m_lblAnswerAll[0], m_lblAnswer[1], m_lblAnswerAll[1]})
         label->setEliding();
+    QSizePolicy ofNow = m_lblNow->sizePolicy();
+    ofNow.setRetainSizeWhenHidden(true); // its line stays on other days
+    m_lblNow->setSizePolicy(ofNow);
     // A line stays where it is, asked or not: the curve must not jump while a question is typed.
     m_lblAnswerAll[1]->setMinimumHeight(fontMetrics().height());
     grid->setColumnStretch(2, 1);
@@ -145,7 +148,8 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
 
 void TideDayPanel::showNow(const std::string& text)
 {
-    m_lblNow->setText(QString::fromStdString(text)); // its line stays on other days
+    m_lblNow->setText(QString::fromStdString(text));
+    m_lblNow->setVisible(!text.empty());
 }
 
 void TideDayPanel::answer()
