@@ -48,10 +48,11 @@ QGroupBox* LinePanel::layOutWorksheet()
         grid->addWidget(label, row++, 0, 1, 2);
     }
     for (std::size_t i = 0; i < worksheetLines; ++i, ++row) {
-        m_lblSunTerm[i] = new ResultLabel(this);
-        m_lblSunTerm[i]->setFont(QFont());
-        m_lblSunTerm[i]->passByTab(); // the figure beside it tells it with itself
-        m_lblSunTerm[i]->setRoom("Upper limb: less the diameter");
+        m_lblSunTerm[i] = new QLabel;
+        // A room of its own: what a line is about changes while one types.
+        const QFontMetrics letters = m_lblSunTerm[i]->fontMetrics();
+        m_lblSunTerm[i]->setFixedSize(letters.horizontalAdvance("Upper limb: less the diameter"),
+                                      letters.lineSpacing());
         m_lblSunTerm[i]->setObjectName(memberName("lblSunTerm", static_cast<int>(i)));
         m_lblSunValue[i] = makeResult("lblSunValue", static_cast<int>(i), "Worksheet", this);
         m_lblSunValue[i]->setFont(QFont()); // a column of figures that is added up, not results

@@ -36,7 +36,7 @@ private:
 
     QGroupBox* m_noon;
     std::array<ResultLabel*, 3> m_lblSunTime{}; ///< UTC, SMT, watch error
-    std::array<ResultLabel*, worksheetLines> m_lblSunTerm{};
+    std::array<QLabel*, worksheetLines> m_lblSunTerm{};
     std::array<ResultLabel*, worksheetLines> m_lblSunValue{};
     std::array<ResultLabel*, 6> m_lblSunLine{}; ///< declination, GHA, DR, Hc, intercept, Zn
     std::array<ResultLabel*, 4> m_lblSunNoon{}; ///< noon, greatest altitude, latitude, note

@@ -14,13 +14,13 @@ namespace
 
 using namespace korvel::testing;
 
-using Places = std::map<const QWidget*, QRect>;
+using Rooms = std::map<const QWidget*, QRect>;
 
 /// Where every control that is shown stands in its window. What a control is made of is its own
 /// matter, but for the bars that come and go.
-Places placesIn(const QWidget& window)
+Rooms placesIn(const QWidget& window)
 {
-    Places all;
+    Rooms all;
     for (const auto* each : window.findChildren<QWidget*>())
         if (each->isVisible() && each->window() == &window)
             all[each] = QRect(each->mapTo(&window, QPoint()), each->size());
@@ -48,10 +48,10 @@ protected:
         if (auto* keyUp = dynamic_cast<KeyUpBox*>(&box); keyUp && keyUp->onKeyUp) keyUp->onKeyUp();
     }
 
-    void expectStill(const QWidget& window, const Places& before, const std::string& after)
+    void expectStill(const QWidget& window, const Rooms& before, const std::string& after)
     {
         QApplication::sendPostedEvents();
-        const Places now = placesIn(window);
+        const Rooms now = placesIn(window);
         for (const auto& [control, place] : before) {
             const auto found = now.find(control);
             const QRect moved = found == now.end() ? QRect() : found->second;
@@ -94,7 +94,7 @@ protected:
         const std::vector<EntryBox*> boxes = boxesOf(window);
         const std::vector<QString> texts = awkwardTexts();
         ASSERT_EQ(texts.size(), 60u);
-        const Places before = placesIn(window);
+        const Rooms before = placesIn(window);
         std::vector<QString> were;
         for (const EntryBox* box : boxes)
             were.push_back(box->text());
