@@ -3,8 +3,11 @@
 
 #include "navlib/angles.h"
 #include "navlib/cargo.h"
+#include "navlib/compass.h"
 #include "navlib/composite_sailing.h"
+#include "navlib/current.h"
 #include "navlib/datetime.h"
+#include "navlib/deviation.h"
 #include "navlib/ephemeris.h"
 #include "navlib/great_circle.h"
 #include "navlib/meridian_passage.h"
@@ -97,6 +100,28 @@ Result composite(const Arguments& texts)
     addPart(result, track.joins->longitude);
     addPart(result, track.leaves->longitude);
     return result;
+}
+
+Result madeGood(const Arguments& texts)
+{
+    const auto n = all<double>(texts);
+    const HorizontalMotion made =
+        MadeGood({Degrees(n.at(0)), Knots(n.at(1))}, {Degrees(n.at(2)), Knots(n.at(3))});
+    return parts(made.direction, made.speed);
+}
+
+Result throughCurrent(const Arguments& texts)
+{
+    const auto n = all<double>(texts);
+    const auto steered =
+        CourseThroughCurrent(Degrees(n.at(0)), Knots(n.at(1)), {Degrees(n.at(2)), Knots(n.at(3))});
+    return steered ? parts(steered->course, steered->madeGood) : parts("nothing");
+}
+
+Result compassHeading(const Arguments& texts)
+{
+    const auto d = all<Degrees>(texts);
+    return parts(CompassHeading(d.at(0), {d.at(1), d.at(2), d.at(3), d.at(4), d.at(5)}));
 }
 
 Result terms(const Arguments& texts)
@@ -209,6 +234,12 @@ const std::map<std::string, Routine>& routines()
         {"GCLatitudeAt", routine(GCLatitudeAt)},
         {"TrackOfGreatCircle", track},
         {"CompositeSailing", composite},
+        {"DipOfHorizon", routine(DipOfHorizon)},
+        {"BearingAtAltitude", routine(BearingAtAltitude)},
+        {"GyroSpeedError", routine(GyroSpeedError)},
+        {"MadeGood", madeGood},
+        {"CourseThroughCurrent", throughCurrent},
+        {"CompassHeading", compassHeading},
         {"TrueWindDirection", routine(TrueWindDirection)},
         {"TrueWindSpeed", routine(TrueWindSpeed)},
         {"TrueWindName", routine(TrueWindName)},
@@ -349,6 +380,8 @@ double numberOf(const std::string& argument)
         {"other", static_cast<double>(ReadWith::OtherMeans)},
         {"south", 1},
         {"north", 0},
+        {"rising", 1},
+        {"setting", 0},
     };
     const auto named = names.find(argument);
     if (named != names.end()) return named->second;
