@@ -24,6 +24,12 @@ Degrees BearingAtAltitude(Degrees latitude, Degrees declination, Degrees altitud
     return rising || fromNorth == Degrees(0) ? fromNorth : fullTurn - fromNorth;
 }
 
+Degrees BearingChangeOfMinute(Degrees latitude, Degrees altitude, Degrees bearing)
+{
+    const double tangent = Quotient(sin(altitude), cos(altitude));
+    return Degrees(0.25 * (sin(latitude) - cos(latitude) * tangent * cos(bearing)));
+}
+
 Degrees GyroSpeedError(Degrees course, Knots speed, Degrees latitude)
 {
     constexpr double turningOfEarth = 900; // knots at the equator

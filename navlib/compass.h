@@ -28,6 +28,14 @@ Degrees DipOfHorizon(Metres heightOfEye);
 /// chapter "Azimuths and Amplitudes".
 Degrees BearingAtAltitude(Degrees latitude, Degrees declination, Degrees altitude, bool rising);
 
+/// Change of a body's true bearing by the earth's turning: 0.25 degrees a minute of time times
+/// (sin L - cos L tan h cos Z). The Moon's own motion, up to a twentieth of it, is left out.
+///
+/// @param latitude, altitude, bearing  of the observer and of the body's centre; north positive
+/// @return degrees a minute of time, clockwise positive
+/// @throws ArithmeticError Overflow or DivisionByZero in the zenith itself
+Degrees BearingChangeOfMinute(Degrees latitude, Degrees altitude, Degrees bearing);
+
 /// Speed error of a gyro compass without correction: it settles on the axis of the earth's turning
 /// and the ship's own together, tan e = V cos C / (900 cos L + V sin C).
 ///

@@ -236,6 +236,7 @@ const std::map<std::string, Routine>& routines()
         {"CompositeSailing", composite},
         {"DipOfHorizon", routine(DipOfHorizon)},
         {"BearingAtAltitude", routine(BearingAtAltitude)},
+        {"BearingChangeOfMinute", routine(BearingChangeOfMinute)},
         {"GyroSpeedError", routine(GyroSpeedError)},
         {"MadeGood", madeGood},
         {"CourseThroughCurrent", throughCurrent},

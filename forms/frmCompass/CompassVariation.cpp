@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCompass/CompassVariation.h"
+
+#include "app/reading/Format.h"
+#include "forms/frmCompass/CompassTexts.h"
+
+namespace korvel
+{
+
+std::string CompassVariation::text() const
+{
+    const std::string value = eastWestText(variation);
+    if (!uncertainty) return value;
+    return value + " ±" + Format(*uncertainty, "0.0") + " (" + source + ")";
+}
+
+std::optional<CompassVariation> variationOf(const almanac::MagneticModel& model,
+                                            NavFunc113::DateTime ut, NavFunc113::Degrees latitude,
+                                            NavFunc113::Degrees longitude, Remarks& remarks)
+{
+    try {
+        const auto found = model.variation({almanac::decimalYear(ut), 0, latitude, longitude});
+        remarks.warn(std::string(almanac::describe(found.zone)));
+        return CompassVariation{found.variation, found.uncertainty, model.name()};
+    } catch (const almanac::OutOfRange& fault) {
+        remarks.fault("Variation: " + std::string(fault.what()));
+        return std::nullopt;
+    }
+}
+
+} // namespace korvel

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "almanac/magnetic_model.h"
+#include "app/reading/Remarks.h"
+
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+/// The variation of a compass error.
+struct CompassVariation {
+    NavFunc113::Degrees variation;                       ///< east positive
+    std::optional<NavFunc113::Degrees> uncertainty = {}; ///< nothing: it was typed
+    std::string source = "typed";                        ///< "WMM-2025"
+
+    std::string text() const; ///< "8.0 E", "8.0 E ±0.4 (WMM-2025)"
+};
+
+/// Variation of a model at sea level.
+/// @param remarks what makes the compass doubtful there; why there is none
+/// @return nothing beyond the years of the model
+std::optional<CompassVariation> variationOf(const almanac::MagneticModel& model,
+                                            NavFunc113::DateTime ut, NavFunc113::Degrees latitude,
+                                            NavFunc113::Degrees longitude, Remarks& remarks);
+
+} // namespace korvel

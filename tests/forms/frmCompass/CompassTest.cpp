@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCompass/CalculateCompass.h"
+
+#include "navlib/angles.h"
+#include "navlib/datetime.h"
+#include "tests/golden/Golden.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+using NavFunc113::Degrees;
+using NavFunc113::Hours;
+
+constexpr std::array<const char*, CompassFields.size()> boxNames{
+    "time",         "lat",      "long",         "body",      "gyro", "gyrohead", "standard",
+    "standardhead", "steering", "steeringhead", "variation", "eye",  "speed"};
+
+CompassInput inputOf(const Golden& row)
+{
+    CompassInput input;
+    for (const auto& [name, sign, text] : row.pairs("input")) {
+        const auto box = std::ranges::find(boxNames, name);
+        if (box != boxNames.end())
+            input.txtCompass[static_cast<std::size_t>(box - boxNames.begin())] = text;
+        else if (name == "TD") {
+            input.clock = CompassClock::ShipsTime;
+            input.TD = Hours(std::stod(text));
+        } else if (name == "method")
+            input.method = CompassMethod::Amplitude;
+        else if (name == "side")
+            input.side = text == "rising" ? AmplitudeSide::Rising : AmplitudeSide::Setting;
+        else if (name == "horizon")
+            input.horizon = text == "limb" ? AmplitudeHorizon::VisibleUpperLimb
+                                           : AmplitudeHorizon::VisibleCentre;
+        else
+            ADD_FAILURE() << row << ": " << name;
+    }
+    input.usesModel = input.box(CompassBox::Variation).empty();
+    return input;
+}
+
+TEST(Compass, errorsOfCompasses)
+{
+    for (const Golden& row : golden("compass_errors")) {
+        const CompassResult result = CalculateCompass(inputOf(row));
+        expectTexts(row, "shows",
+                    {{"bearing", result.trueBearing},
+                     {"gyro", result.errors[0]},
+                     {"standard", result.errors[1]},
+                     {"steering", result.errors[2]},
+                     {"deviation", result.deviations[1]},
+                     {"steeringdeviation", result.deviations[2]},
+                     {"variation", result.variation},
+                     {"head", result.trueHead},
+                     {"speed", result.speedError},
+                     {"rise", result.riseOrSet},
+                     {"celestial", result.byHorizon[0]},
+                     {"visible", result.byHorizon[1]},
+                     {"notice", result.notice}});
+    }
+}
+
+// At the time that was found for an amplitude the azimuth says the same, with every horizon, in
+// both hemispheres, on both sides; and a minute later it has changed by what was said.
+TEST(Compass, amplitudeAndAzimuthAgreeAtTheTimeFound)
+{
+    for (const char* latitude : {"55.30", "-40.15", "0.20"})
+        for (const auto side : {AmplitudeSide::Rising, AmplitudeSide::Setting})
+            for (const auto horizon : {AmplitudeHorizon::Celestial, AmplitudeHorizon::VisibleCentre,
+                                       AmplitudeHorizon::VisibleUpperLimb}) {
+                CompassInput input;
+                input.txtCompass = {"2026/5/3 12:00", latitude, "178.30", "Sun"};
+                input.txtCompass[static_cast<std::size_t>(CompassBox::HeightOfEye)] = "20";
+                input.method = CompassMethod::Amplitude;
+                input.horizon = horizon;
+                input.side = side;
+                const auto found = CalculateCompass(input).crossing;
+                ASSERT_TRUE(found) << latitude;
+                EXPECT_EQ(found->rising, side == AmplitudeSide::Rising);
+                const almanac::Observer eye{
+                    *CalculateCompass(input).latitude, *CalculateCompass(input).longitude, {}};
+                const auto azimuthAt = [&](double minutes) {
+                    const double at = found->instant + minutes / 1440;
+                    return azimuthOf(almanac::Sky(at).place(almanac::Body::Sun), eye);
+                };
+                const almanac::Place place = almanac::Sky(found->instant).place(almanac::Body::Sun);
+                const auto there =
+                    amplitudeOf(place, eye.latitude, azimuthAt(0).altitude, found->rising);
+                ASSERT_TRUE(there);
+                EXPECT_NEAR(there->bearing.value(), azimuthAt(0).bearing.value(), 1e-6);
+                EXPECT_NEAR(there->change.value(),
+                            (azimuthAt(0.5).bearing - azimuthAt(-0.5).bearing).value(), 0.002);
+            }
+}
+
+} // namespace
+} // namespace korvel
