@@ -2,6 +2,7 @@
 #include "forms/frmPassage/PlanRecord.h"
 
 #include "app/reading/Utf8.h"
+#include "app/records/KeyedLines.h"
 
 #include <algorithm>
 #include <array>
@@ -30,44 +31,10 @@ constexpr std::array rowTexts{
 // By LegKind.
 constexpr std::array<std::string_view, 3> legNames{"rhumb", "circle", "composite"};
 
-/// Without line ends and tabulators, so that a value is a line.
-std::string escaped(std::string_view text)
-{
-    std::string line;
-    for (const char c : text) {
-        constexpr std::string_view signs = "\\\n\r\t";
-        constexpr std::string_view letters = "\\nrt";
-        const std::size_t at = signs.find(c);
-        if (at != std::string_view::npos) line += '\\';
-        line += at != std::string_view::npos ? letters[at] : c;
-    }
-    return line;
-}
-
-std::string unescaped(std::string_view line)
-{
-    std::string text;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] != '\\' || i + 1 == line.size()) {
-            text += line[i];
-            continue;
-        }
-        const char letter = line[++i];
-        text += letter == 'n' ? '\n' : letter == 'r' ? '\r' : letter == 't' ? '\t' : letter;
-    }
-    return text;
-}
-
-void addLine(std::string& text, std::string_view key, std::string_view value)
-{
-    if (value.empty()) return;
-    text += std::string(key) + "=" + escaped(value) + "\n";
-}
-
 void addKept(std::string& text, const std::vector<KeptPart>& kept)
 {
     for (const KeptPart& part : kept)
-        text += "kept=" + escaped(part.place) + "\t" + escaped(part.text) + "\n";
+        text += "kept=" + escapedLine(part.place) + "\t" + escapedLine(part.text) + "\n";
 }
 
 /// Takes the lines of a record one by one.
@@ -114,14 +81,14 @@ private:
         if (tab == std::string_view::npos) return damage(number, "it cannot be read");
         if (m_isInRow && m_isBeyond) return;
         auto& kept = m_isInRow ? m_read.plan.rows.back().kept : m_read.plan.kept;
-        kept.push_back({unescaped(value.substr(0, tab)), unescaped(value.substr(tab + 1))});
+        kept.push_back({unescapedLine(value.substr(0, tab)), unescapedLine(value.substr(tab + 1))});
     }
 
     void takeOfHead(std::string_view key, std::string_view value)
     {
         PassagePlan& plan = m_read.plan;
-        if (key == "name") plan.name = unescaped(value);
-        if (key == "time") plan.times.time = unescaped(value);
+        if (key == "name") plan.name = unescapedLine(value);
+        if (key == "time") plan.times.time = unescapedLine(value);
         if (key == "given" && value == "arrival")
             plan.times.given = PlanTimes::Given::WantedArrival;
         if (key == "clock" && value == "ship") plan.times.clock = PlanTimes::Clock::ShipsTime;
@@ -132,7 +99,7 @@ private:
         if (m_isBeyond) return;
         PlanRow& row = m_read.plan.rows.back();
         const auto text = std::ranges::find(rowTexts, key, &RowText::key);
-        if (text != rowTexts.end()) row.*(text->box) = unescaped(value);
+        if (text != rowTexts.end()) row.*(text->box) = unescapedLine(value);
         if (key == "unit" && value == "miles") row.stepUnit = StepUnit::Miles;
         if (key != "leg") return;
         const auto leg = std::ranges::find(legNames, value);
@@ -152,18 +119,19 @@ private:
 std::string planRecordText(const PassagePlan& plan)
 {
     std::string text = std::string(kind) + std::string(version) + "\n";
-    addLine(text, "name", plan.name);
-    addLine(text, "given", plan.times.given == PlanTimes::Given::WantedArrival ? "arrival" : "");
-    addLine(text, "clock", plan.times.clock == PlanTimes::Clock::ShipsTime ? "ship" : "");
-    addLine(text, "time", plan.times.time);
+    addKeyedLine(text, "name", plan.name);
+    addKeyedLine(text, "given",
+                 plan.times.given == PlanTimes::Given::WantedArrival ? "arrival" : "");
+    addKeyedLine(text, "clock", plan.times.clock == PlanTimes::Clock::ShipsTime ? "ship" : "");
+    addKeyedLine(text, "time", plan.times.time);
     addKept(text, plan.kept);
     for (const PlanRow& row : plan.rows) {
         text += "row\n";
         for (const RowText& each : rowTexts)
-            addLine(text, each.key, row.*(each.box));
+            addKeyedLine(text, each.key, row.*(each.box));
         if (row.leg != LegKind::Rhumb)
-            addLine(text, "leg", legNames[static_cast<std::size_t>(row.leg)]);
-        addLine(text, "unit", row.stepUnit == StepUnit::Miles ? "miles" : "");
+            addKeyedLine(text, "leg", legNames[static_cast<std::size_t>(row.leg)]);
+        addKeyedLine(text, "unit", row.stepUnit == StepUnit::Miles ? "miles" : "");
         addKept(text, row.kept);
     }
     return text;
@@ -175,13 +143,8 @@ ReadPlanRecord readPlanRecord(std::string_view text)
     if (!text.starts_with(kind)) return {{}, "line 1: it is no passage plan", false};
     Lines lines(read);
     int number = 0;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
-        std::string_view line = text.substr(0, end);
-        if (line.ends_with('\r')) line.remove_suffix(1);
+    for (const std::string_view line : recordLines(text))
         if (++number > 1 && !line.empty()) lines.take(line, number);
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
     return read;
 }
 

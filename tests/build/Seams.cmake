@@ -120,6 +120,11 @@ check_floor(ROOMS frmSunSight_panels frmSunSight
             SEES forms/frmSunSight/fix/SightFix.h shell/window/CalculatorWindow.h
             MUST_NOT_SEE shell/main/frmKORVEL2000.h ${calculation})
 
+# Of the windows one alone knows the almanac: all others keep the series that they have.
+check_seam(frmCompass_calculation SEES almanac/sky.h app/working/Working.h
+           MUST_NOT_SEE tidedata/astronomy.h ${toolkit})
+check_seam(frmSunMoon_calculation SEES ${library} MUST_NOT_SEE almanac/sky.h)
+
 list_targets(${BUILD} targets)
 set(calculations ${targets})
 list(FILTER calculations INCLUDE REGEX "_calculation$")

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "app/records/KeyedLines.h"
+
+#include <algorithm>
+
+namespace korvel
+{
+
+std::string escapedLine(std::string_view text)
+{
+    std::string line;
+    for (const char c : text) {
+        constexpr std::string_view signs = "\\\n\r\t";
+        constexpr std::string_view letters = "\\nrt";
+        const std::size_t at = signs.find(c);
+        if (at != std::string_view::npos) line += '\\';
+        line += at != std::string_view::npos ? letters[at] : c;
+    }
+    return line;
+}
+
+std::string unescapedLine(std::string_view line)
+{
+    std::string text;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] != '\\' || i + 1 == line.size()) {
+            text += line[i];
+            continue;
+        }
+        const char letter = line[++i];
+        text += letter == 'n' ? '\n' : letter == 'r' ? '\r' : letter == 't' ? '\t' : letter;
+    }
+    return text;
+}
+
+void addKeyedLine(std::string& file, std::string_view key, std::string_view value)
+{
+    if (value.empty()) return;
+    file += std::string(key) + "=" + escapedLine(value) + "\n";
+}
+
+std::vector<std::string_view> recordLines(std::string_view file)
+{
+    std::vector<std::string_view> lines;
+    while (!file.empty()) {
+        const std::size_t end = std::min(file.find('\n'), file.size());
+        std::string_view line = file.substr(0, end);
+        if (line.ends_with('\r')) line.remove_suffix(1);
+        lines.push_back(line);
+        file.remove_prefix(std::min(end + 1, file.size()));
+    }
+    return lines;
+}
+
+} // namespace korvel

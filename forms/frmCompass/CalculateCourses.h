@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/reading/Field.h"
+#include "navlib/current.h"
+#include "navlib/deviation.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace korvel
+{
+
+/// What the course that is typed is: where the ship heads, by one of three, or the track wanted
+/// over the ground.
+enum class CourseGiven { TrueHead, GyroHead, CompassHead, Track };
+
+/// Places of CourseFields.
+enum class CourseBox { Course, Speed, Leeway, Set, Drift, GyroError, Variation, Deviation };
+
+inline constexpr std::array<Field, 8> CourseFields = {{
+    {"txtCourses(0)", "Course", "Course, degrees, 0 to 360", FieldKind::Number, "degrees", 0, 360},
+    {"txtCourses(1)", "Speed", "Speed through the water, knots", FieldKind::Number, "knots", 0,
+     100},
+    {"txtCourses(2)", "Leeway", "Leeway, degrees, to port negative", FieldKind::Number, "degrees",
+     -45, 45},
+    {"txtCourses(3)", "Set", "Set of the current, degrees true, 0 to 360", FieldKind::Number,
+     "degrees", 0, 360},
+    {"txtCourses(4)", "Drift", "Drift of the current, knots", FieldKind::Number, "knots", 0, 30},
+    {"txtCourses(5)", "Gyro error", "Gyro error, degrees, west negative or with a W",
+     FieldKind::Number, "degrees", -180, 180},
+    {"txtCourses(6)", "Variation", "Variation, degrees, west negative or with a W",
+     FieldKind::Number, "degrees", -180, 180},
+    {"txtCourses(7)", "Deviation", "Deviation, degrees, west negative or with a W",
+     FieldKind::Number, "degrees", -180, 180},
+}};
+
+struct CourseInput {
+    std::array<std::string, CourseFields.size()> txtCourses; ///< boxes as typed
+    CourseGiven given = CourseGiven::TrueHead;
+    std::optional<NavFunc113::DeviationCoefficients> curve; ///< of the compass; nothing: as typed
+
+    const std::string& box(CourseBox which) const
+    {
+        return txtCourses[static_cast<std::size_t>(which)];
+    }
+};
+
+/// Sides of the vector triangle: through the water, the current, over the ground.
+struct CourseTriangle {
+    NavFunc113::HorizontalMotion throughWater, current, madeGood;
+};
+
+struct CourseResult {     ///< an empty text blanks the label
+    std::string trueHead; ///< "<103.1>"
+    std::string gyroHead; ///< where a gyro error is typed
+    std::string magneticHead;
+    std::string compassHead;
+    std::string deviation;   ///< on that head, "4.9 W"
+    std::string waterCourse; ///< true, leeway taken in
+    std::string track;       ///< made good over the ground, true
+    std::string speed;       ///< made good, "12.3"
+    std::string notice;      ///< why labels are blank, and what else is to be said
+
+    std::optional<CourseTriangle> triangle;  ///< for the picture; nothing without a speed
+    std::optional<NavFunc113::Degrees> head; ///< true, with full precision
+};
+
+/// Courses into each other. Leeway, set and drift that are not typed are none; a gyro head needs
+/// the gyro error, a compass head the variation.
+CourseResult CalculateCourses(const CourseInput& input);
+
+} // namespace korvel

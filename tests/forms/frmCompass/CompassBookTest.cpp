@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCompass/CompassBook.h"
+#include "forms/frmCompass/CompassRecord.h"
+
+#include <gmock/gmock.h>
+
+namespace korvel
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+CompassLine recorded(const char* moment, const char* standard, const char* gyro,
+                     std::string remark = {})
+{
+    CompassInput input;
+    input.txtCompass = {moment, "44.31", "69.42", "Sun", gyro, "", standard, "10.2"};
+    input.usesModel = false;
+    input.txtCompass[static_cast<std::size_t>(CompassBox::Variation)] = "8E";
+    return lineOf(input, CalculateCompass(input), "2/O", std::move(remark)).value();
+}
+
+CompassBook threeLines()
+{
+    return {recorded("2008/7/20 4:06:12", "100", "", "haze, \"thin\"\nline \\n =\t"),
+            recorded("2008/7/21 4:06:12", "", "103"), recorded("2008/7/19 4:06:12", "101", "102")};
+}
+
+TEST(CompassBook, lineKeepsWhatWasFoundAndNothingIsRecordedWithoutAnError)
+{
+    const CompassLineTexts texts = compassLineTexts(threeLines()[0]);
+    EXPECT_EQ(texts.UTC, "2008/07/20 04:06");
+    EXPECT_EQ(texts.position, "44°31.0' N 069°42.0' E");
+    EXPECT_EQ(texts.trueBearing, "103.1");
+    EXPECT_EQ(texts.variation, "8.0 E");
+    const auto& standard = texts.compasses[1];
+    EXPECT_EQ(standard.bearing + standard.head + standard.error + standard.deviation,
+              "100.0010.23.1 E4.9 W");
+    EXPECT_EQ(texts.compasses[0].error, "");
+    CompassInput withoutBearing;
+    withoutBearing.txtCompass = {"2008/7/20 4:06:12", "44.31", "69.42", "Sun"};
+    EXPECT_FALSE(lineOf(withoutBearing, CalculateCompass(withoutBearing), "", ""));
+}
+
+TEST(CompassBook, filterByCompassLatestFirst)
+{
+    const CompassBook book = threeLines();
+    EXPECT_THAT(compassLines(book, std::nullopt), ElementsAre(1u, 0u, 2u));
+    EXPECT_THAT(compassLines(book, CompassKind::Gyro), ElementsAre(1u, 2u));
+    EXPECT_THAT(compassLines(book, CompassKind::Standard), ElementsAre(0u, 2u));
+    EXPECT_TRUE(compassLines(book, CompassKind::Steering).empty());
+}
+
+TEST(CompassBook, listForOtherPrograms)
+{
+    const CompassBook book = threeLines();
+    const std::string list = csvText(compassList(book, {0}));
+    EXPECT_THAT(list, HasSubstr("2008-07-20T04:06:12Z,44.516667,69.7,Sun,azimuth,103.1"));
+    EXPECT_THAT(list, HasSubstr(",8.0,typed,,,,,100.0,10.2,3.1"));
+    for (const auto& row : compassList(book, {0, 1, 2}).rows)
+        EXPECT_EQ(row.size(), compassList(book, {}).headings.size());
+}
+
+TEST(CompassRecord, everythingComesBack)
+{
+    CompassBook book = threeLines();
+    book[1].readings[1].byHeads = true;
+    book[2].method = CompassMethod::Amplitude;
+    book[2].longitude.reset();
+    const ReadCompassBook read = readCompassBook(compassBookText(book));
+    EXPECT_EQ(read.damage, "");
+    EXPECT_EQ(read.book, book);
+    EXPECT_EQ(readCompassBook(compassBookText({})).book, CompassBook{});
+}
+
+TEST(CompassRecord, damageIsNamedAndTheRestRead)
+{
+    const std::string head = "KORVEL2000 compass book 1\r\n", time = "utc=2026-01-02T03:04:05Z\n";
+    const auto damageOf = [](const std::string& text) { return readCompassBook(text).damage; };
+    EXPECT_FALSE(readCompassBook("KORVEL2000 passage plan 1\n").isBook);
+    EXPECT_FALSE(readCompassBook("").isBook);
+    EXPECT_EQ(damageOf(head + "line\n" + time + "colour=blue\n"), "") << "of a later version";
+    EXPECT_EQ(damageOf(head + "line\n" + time + "rubbish\n"), "line 4: it cannot be read");
+    EXPECT_EQ(damageOf(head + "line\n" + time + "latitude=91\n"), "line 4: no angle within 90");
+    EXPECT_EQ(damageOf(head + "line\n" + time + "gyro head=nan\n"), "line 4: no angle within 360");
+    EXPECT_EQ(damageOf(head + "line\n" + time + "remark=\xff\n"), "line 4: it cannot be read");
+    const ReadCompassBook timeless = readCompassBook(head + "line\nbody=Sun\nline\n" + time);
+    EXPECT_EQ(timeless.damage, "line 2: an observation without a time");
+    EXPECT_EQ(timeless.book.size(), 1u);
+    std::string many = head;
+    for (std::size_t i = 0; i <= mostCompassLines; ++i)
+        many += "line\n" + time;
+    EXPECT_EQ(readCompassBook(many).book.size(), mostCompassLines);
+    EXPECT_EQ(damageOf(many), "line 24002: more than 12000 lines");
+}
+
+} // namespace
+} // namespace korvel
