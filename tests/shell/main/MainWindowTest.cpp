@@ -5,8 +5,10 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -94,6 +96,31 @@ TEST(AlarmBoxes, aBoxStaysInFrontAndTakesTheKeyboardAfterItsFirstSecond)
     EXPECT_EQ(hand.released, 1) << "a key that it saw go down";
     QTest::keyClick(shown("alarmBox"), Qt::Key_Return);
     EXPECT_EQ(shown("alarmBox"), nullptr);
+}
+
+/// A text that is no larger than any other, a title that is cut off; a button that a long comment
+/// pushes off the screen.
+TEST(AlarmBoxes, theTextIsTheLargestOfAllAndTheBoxStaysOnTheScreen)
+{
+    const auto boxOf = [](const std::string& text, const auto& look) {
+        FakeBell bell;
+        AlarmBoxes boxes(bell);
+        boxes.show({{text, true}});
+        const QWidget& box = *shown("alarmBox");
+        look(box, box.findChild<QLabel*>("qt_msgbox_label")->font().pointSizeF());
+    };
+    const double answers = 2 * QApplication::font().pointSizeF();
+    boxOf("08:45", [&](const QWidget& box, double points) {
+        EXPECT_GT(points, answers);
+        EXPECT_GT(box.width(), 1.5 * box.fontMetrics().horizontalAdvance(box.windowTitle()));
+    });
+    std::string comment = "08:45";
+    for (int i = 0; i < 60; ++i)
+        comment += " call the master";
+    boxOf(comment, [&](const QWidget& box, double points) {
+        EXPECT_LT(points, answers);
+        EXPECT_TRUE(box.screen()->geometry().contains(box.frameGeometry()));
+    });
 }
 
 TEST_F(MainWindowTest, aWindowClosedAndChosenInOneBurstComesUpAnew)
