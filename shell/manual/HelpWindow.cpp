@@ -2,6 +2,7 @@
 #include "shell/manual/HelpWindow.h"
 
 #include "shell/controls/ReadingOrder.h"
+#include "shell/manual/FoundLines.h"
 #include "shell/manual/Manual.h"
 #include "shell/screen/WindowPlaces.h"
 
@@ -39,7 +40,8 @@ HelpWindow::HelpWindow(const Manual& manual, QWidget* parent)
     : QWidget(parent, Qt::Window), m_manual(manual), m_view(new HelpView(manual)),
       m_cmdBack(button("cmdBack", "&Back", "Alt+Left")),
       m_cmdForward(button("cmdForward", "For&ward", "Alt+Right")), m_txtFind(new QLineEdit),
-      m_lstFound(new QListWidget)
+      m_lstFound(new QListWidget), m_foundLines(new FoundLines(this)),
+      m_contentLines(m_lstFound->itemDelegate())
 {
     setObjectName("frmHelp");
     setAttribute(Qt::WA_DeleteOnClose);
@@ -49,7 +51,6 @@ HelpWindow::HelpWindow(const Manual& manual, QWidget* parent)
     m_lstFound->setObjectName("lstHelp");
     m_lstFound->setAccessibleName("Contents, or what was found");
     m_lstFound->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_lstFound->setWordWrap(true);
     m_lstFound->setTextElideMode(Qt::ElideRight);
     m_cmdBack->setEnabled(false);
     m_cmdForward->setEnabled(false);
@@ -92,7 +93,7 @@ void HelpWindow::layOut()
     column->addWidget(beside, 1);
 
     resizeForText(*this, 126, 36);
-    const int list = std::min(28 * fontMetrics().averageCharWidth(), width() / 4);
+    const int list = std::min(34 * fontMetrics().averageCharWidth(), width() * 3 / 10);
     beside->setSizes({list, width() - list});
 }
 
@@ -140,6 +141,8 @@ void HelpWindow::showList()
 void HelpWindow::showContents()
 {
     m_lstFound->clear();
+    m_lstFound->setItemDelegate(m_contentLines);
+    m_lstFound->setWordWrap(true);
     for (const QString& page : Manual::pages()) {
         if (!m_manual.has(page)) continue;
         addItem(m_manual.title(page), page, 0);
@@ -153,15 +156,27 @@ void HelpWindow::showContents()
 void HelpWindow::showFound(const QString& words)
 {
     m_lstFound->clear();
+    m_lstFound->setWordWrap(false);
     if (m_lines.empty()) readAll();
     const QStringList wanted = wordsToFind(words);
-    for (const Line& line : m_lines)
-        if (m_lstFound->count() < mostFound && holdsWords(line.place.text, wanted))
-            addItem(line.title + ": " + line.place.text, line.page, line.place.position);
-    m_lstFound->setCurrentRow(0);
-    if (m_lstFound->count() > 0) return;
-    auto* nothing = new QListWidgetItem("Nothing found", m_lstFound);
-    nothing->setFlags(Qt::NoItemFlags);
+    m_foundLines->setWords(wanted);
+    m_lstFound->setItemDelegate(m_foundLines);
+    int found = 0;
+    QString title;
+    for (const Line& line : m_lines) {
+        if (!holdsWords(line.place.text, wanted)) continue;
+        if (found == mostFound) {
+            addHead("There is more: add a word");
+            break;
+        }
+        if (std::exchange(title, line.title) != line.title) addHead(line.title);
+        const QString shown = foundLine(line.place.text, wanted);
+        QListWidgetItem* item = addItem(shown, line.page, line.place.position);
+        item->setToolTip(line.place.text);
+        item->setData(Qt::AccessibleTextRole, line.title + ": " + line.place.text);
+        if (++found == 1) m_lstFound->setCurrentItem(item);
+    }
+    if (found == 0) addHead("Nothing found");
 }
 
 /// A key of a search must not wait for pages and tables to be read.
@@ -175,12 +190,18 @@ void HelpWindow::readAll()
     }
 }
 
-void HelpWindow::addItem(const QString& text, const QString& page, int position)
+QListWidgetItem* HelpWindow::addItem(const QString& text, const QString& page, int position)
 {
     auto* item = new QListWidgetItem(text, m_lstFound);
     item->setToolTip(text.trimmed());
     item->setData(pageRole, page);
     item->setData(positionRole, position);
+    return item;
+}
+
+void HelpWindow::addHead(const QString& text)
+{
+    (new QListWidgetItem(text, m_lstFound))->setFlags(Qt::NoItemFlags);
 }
 
 void HelpWindow::go(const QListWidgetItem& item)
@@ -196,8 +217,10 @@ void HelpWindow::findInPage(bool backwards)
 {
     const QString words = m_txtFind->text().trimmed();
     // What is not in this page is in the list: the first that was found elsewhere is opened.
-    if (!m_view->findNext(words, backwards) && !words.isEmpty() && m_lstFound->count() > 0)
-        go(*m_lstFound->item(0));
+    if (words.isEmpty() || m_view->findNext(words, backwards)) return;
+    for (int row = 0; row < m_lstFound->count(); ++row)
+        if (m_lstFound->item(row)->flags() & Qt::ItemIsSelectable)
+            return go(*m_lstFound->item(row));
 }
 
 QTextDocument& HelpWindow::document(const QString& page)

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 
+class QAbstractItemDelegate;
 class QLineEdit;
 class QListWidget;
 class QListWidgetItem;
@@ -15,6 +16,8 @@ class QPushButton;
 
 namespace korvel
 {
+
+class FoundLines;
 
 /// The manual on the screen: a page, beside it the contents or, while something is searched for,
 /// where in all pages it stands. Everything goes by keyboard too.
@@ -39,7 +42,8 @@ private:
     void showList();
     void showContents();
     void showFound(const QString& words);
-    void addItem(const QString& text, const QString& page, int position);
+    QListWidgetItem* addItem(const QString& text, const QString& page, int position);
+    void addHead(const QString& text);
     void go(const QListWidgetItem& item);
     void findInPage(bool backwards);
     void readAll();
@@ -51,6 +55,8 @@ private:
     QPushButton* m_cmdForward;
     QLineEdit* m_txtFind;
     QListWidget* m_lstFound;
+    FoundLines* m_foundLines;
+    QAbstractItemDelegate* m_contentLines;                         ///< the list's own
     std::map<QString, std::unique_ptr<QTextDocument>> m_documents; ///< for places, by page
 
     /// What a search goes through; empty before the first one.

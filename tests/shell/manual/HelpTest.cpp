@@ -3,6 +3,7 @@
 #include "shell/controls/Boxes.h"
 #include "shell/controls/NoticeLine.h"
 #include "shell/controls/ResultLabel.h"
+#include "shell/manual/FoundLines.h"
 #include "shell/manual/HelpWindow.h"
 #include "tests/SourceFolder.h"
 #include "tests/shell/ShellTesting.h"
@@ -80,7 +81,11 @@ protected:
                 document = std::make_unique<QTextDocument>();
                 document->setMarkdown(main->help().manual().text(page));
             }
-            if (placeOf(*document, topic.name)) return true;
+            if (const auto found = placeOf(*document, topic.name)) {
+                EXPECT_FALSE(found->text.contains(" – the same"))
+                    << "as a row that is out of sight";
+                return true;
+            }
         }
         return false;
     }
@@ -289,6 +294,34 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     EXPECT_EQ(help()->view().textCursor().selectedText(), "Beaufort");
     search("Beaufort xyzzy");
     EXPECT_EQ(found.item(0)->text(), "Nothing found");
+}
+
+/// A hit that takes several lines, or whose word lies beyond the edge of the list; a head that is
+/// taken for a hit.
+TEST_F(HelpTest, aSearchListsOneLineAHitWithTheWordInSight)
+{
+    main->help().openPage("frmWind");
+    dynamic_cast<QLineEdit&>(control(*help(), "txtFindHelp")).setText("harmonic");
+    auto& found = dynamic_cast<QListWidget&>(control(*help(), "lstHelp"));
+    ASSERT_GE(found.count(), 4);
+    EXPECT_EQ(found.item(0)->flags(), Qt::NoItemFlags);
+    EXPECT_EQ(found.currentRow(), 1);
+    for (int row = 1; row < found.count(); ++row) {
+        if (found.item(row)->flags() == Qt::NoItemFlags) continue;
+        const QString line = found.item(row)->text();
+        const auto at = line.indexOf("harmonic", 0, Qt::CaseInsensitive);
+        EXPECT_TRUE(at >= 0 && at <= 14) << line.toStdString();
+        EXPECT_LT(found.visualItemRect(found.item(row)).height(),
+                  2 * found.fontMetrics().lineSpacing());
+    }
+}
+
+TEST(FoundLine, startsShortlyBeforeTheWord)
+{
+    EXPECT_EQ(foundLine("Tide curve", {"tide"}), "Tide curve");
+    EXPECT_EQ(foundLine("one two three four five six tides", {"tides"}), "… five six tides");
+    EXPECT_EQ(foundLine("averyveryverylongword(tide)", {"tide"}), "… tide)");
+    EXPECT_EQ(foundLine("a\nb  tide and much before the ebb", {"ebb", "tide"}).left(8), "a b tide");
 }
 
 /// A link that leads to no page, or to a name that the page does not have.
