@@ -95,7 +95,7 @@ void ConversionWindow::addMenus()
 {
     QMenu* figures = menus().add("&Data", "mnuData");
     menus().addEntry(figures, "mnuData", 0, "&Clear", [this] { clearBoxes(); });
-    menus().addEntry(figures, "mnuData", 1, "&Print...", [this] { printPaper(); });
+    menus().addEntry(figures, "mnuData", 1, "&Print..", [this] { printPaper(); });
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         menus().addStoreSingle(numbered(i, units[i]), [this, i] {

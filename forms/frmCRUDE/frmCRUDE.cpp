@@ -153,7 +153,7 @@ void frmCRUDE::addMenus()
 {
     QMenu* cargo = menus().add("&Cargo", "mnuCargo");
     menus().addEntry(cargo, "mnuCargo", 0, "&Clear", [this] { clearCargo(); });
-    menus().addEntry(cargo, "mnuCargo", 1, "&Print...", [this] { printPaper(); });
+    menus().addEntry(cargo, "mnuCargo", 1, "&Print..", [this] { printPaper(); });
     addMemoMenus();
     menus().addLinks("mnuLinks");
 }

@@ -117,11 +117,11 @@ void frmPositionRecord::addMenus()
         changeRows(RowChange::Kind::Replaced,
                    [this](PositionRows& rows) { clearRow(rows, m_row); });
     });
-    entry("Clear &all rows...", "", [this] { clearAll(); });
+    entry("Clear &all rows..", "", [this] { clearAll(); });
     entry("&Undo the last change of rows", "Ctrl+Shift+U", [this] { undo(); });
     entry("&Copy as text", "Ctrl+Shift+C", [this] { copyAsText(); });
-    entry("&Print...", "Ctrl+P", [this] { print(); });
-    entry("I&mport a saved list (CSV)...", "", [this] { importList(); });
+    entry("&Print..", "Ctrl+P", [this] { print(); });
+    entry("I&mport a saved list (CSV)..", "", [this] { importList(); });
 
     const auto figure = [](const std::optional<double>& value) {
         return value ? memoText(*value) : std::string();

@@ -10,12 +10,11 @@ namespace korvel
 
 /// The boxes of the wind window; in this order in the record.
 inline constexpr std::array<Field, 4> WindFields = {{
-    {"txtWind(0)", "Ship's course", "Ship's course, degrees true, 0 to 360", FieldKind::Number,
+    {"txtWind(0)", "Ship's course", "Ship's course, degrees true", FieldKind::Number,
      "degrees true", 0, 360},
     {"txtWind(1)", "Ship's speed", "Ship's speed, knots", FieldKind::Number, "knots", 0},
-    {"txtWind(2)", "Wind from the bow",
-     "Apparent wind from the bow, degrees, -180 to 180, port negative", FieldKind::Number,
-     "degrees, port negative", -180, 180},
+    {"txtWind(2)", "Wind from the bow", "Apparent wind from the bow, degrees, port negative",
+     FieldKind::Number, "degrees, port negative", -180, 180},
     {"txtWind(3)", "Apparent speed", "Apparent wind speed, knots", FieldKind::Number, "knots", 0},
 }};
 
