@@ -27,7 +27,8 @@ void enlarge(QMessageBox& box)
 {
     auto* text = box.findChild<QLabel*>("qt_msgbox_label");
     if (!text) return;
-    const QSize room = box.screen()->availableSize() / 2;
+    const QSize screen = box.screen()->availableSize();
+    const QSize room(screen.width() * 2 / 3, screen.height() / 2);
     QFont letters = box.font();
     letters.setWeight(QFont::DemiBold);
     for (double times = largestOfAll; times >= 1; times -= 0.25) {

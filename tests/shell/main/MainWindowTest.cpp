@@ -112,7 +112,9 @@ TEST(AlarmBoxes, theTextIsTheLargestOfAllAndTheBoxStaysOnTheScreen)
     const double answers = 2 * QApplication::font().pointSizeF();
     boxOf("08:45", [&](const QWidget& box, double points) {
         EXPECT_GT(points, answers);
-        EXPECT_GT(box.width(), 1.5 * box.fontMetrics().horizontalAdvance(box.windowTitle()));
+        const QFontMetrics title = box.fontMetrics();
+        const int signs = 7 * title.lineSpacing(); // its icon and buttons, as most desktops have
+        EXPECT_GT(box.width(), title.horizontalAdvance(box.windowTitle()) + signs);
     });
     std::string comment = "08:45";
     for (int i = 0; i < 60; ++i)

@@ -321,7 +321,7 @@ TEST(FoundLine, startsShortlyBeforeTheWord)
     EXPECT_EQ(foundLine("Tide curve", {"tide"}), "Tide curve");
     EXPECT_EQ(foundLine("one two three four five six tides", {"tides"}), "… five six tides");
     EXPECT_EQ(foundLine("averyveryverylongword(tide)", {"tide"}), "… tide)");
-    EXPECT_EQ(foundLine("a\nb  tide and much before the ebb", {"ebb", "tide"}).left(8), "a b tide");
+    EXPECT_EQ(foundLine("a\nb  tide and much before the ebb", {"tide", "ebb"}).left(8), "a b tide");
 }
 
 /// A link that leads to no page, or to a name that the page does not have.
