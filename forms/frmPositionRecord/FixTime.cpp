@@ -122,11 +122,17 @@ Pieces piecesOf(std::string_view typed)
     return pieces;
 }
 
-/// The most recent day of the pieces that are there, no more than a day after today.
-std::optional<std::int64_t> dayOf(const Pieces& pieces, std::int64_t today)
+/// The most recent day of the pieces that are there: of a time alone the one on which it was last,
+/// of others no more than a day after today.
+std::optional<std::int64_t> dayOf(const Pieces& pieces, NavFunc113::DateTime now)
 {
+    const std::int64_t today = NavFunc113::DaySerial(NavFunc113::DateOf(now));
     if (pieces.year) return NavFunc113::DaySerial({*pieces.year, *pieces.month, *pieces.day});
-    if (!pieces.day) return today;
+    if (!pieces.day) {
+        constexpr double watchAhead = 5.0 / (24 * 60); // days; no two watches agree to the minute
+        const double clock = NavFunc113::MakeDateTime(NavFunc113::DateOf(now), pieces.seconds);
+        return clock > now + watchAhead ? today - 1 : today;
+    }
     constexpr std::int64_t eightYears = 2922; // the longest wait for a 29th of February
     for (std::int64_t day = today + 1; day >= today - eightYears; --day) {
         const CivilDate date = NavFunc113::DateOfSerial(day);
@@ -142,13 +148,13 @@ bool isEmpty(std::string_view text)
 
 } // namespace
 
-NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime today)
+NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime now)
 {
     const std::string asTyped(typed);
     if (isEmpty(typed)) return {asTyped, {}};
     const Pieces pieces = piecesOf(typed);
     if (!pieces.fault.empty()) return {asTyped, pieces.fault};
-    const auto day = dayOf(pieces, NavFunc113::DaySerial(NavFunc113::DateOf(today)));
+    const auto day = dayOf(pieces, now);
     if (!day) return {asTyped, asTyped + " is no date of the last years"};
     const double value = NavFunc113::MakeDateTime(NavFunc113::DateOfSerial(*day), pieces.seconds);
     return {Format(value, pieces.seconds % 60 == 0 ? "yyyy/mm/dd hh:mm" : "yyyy/mm/dd hh:mm:ss"),

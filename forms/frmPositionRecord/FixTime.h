@@ -20,11 +20,12 @@ struct NormalisedSMT {
 /// What the box holds once it is left.
 ///
 /// Times: 0930, 930, 9:30, 9:30:15. Before them, parted by blank or hyphen, may stand a day (14),
-/// a month and day (5/14) or a full date (2024/5/14, 24/5/14). Without a date it is today's. A day
-/// without a month, or a date without a year, is the most recent one that lies no more than a day
-/// ahead: fixes are recorded after they were taken, and at most a date line ahead of today.
-/// @param today ship's mean time now
-NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime today);
+/// a month and day (5/14) or a full date (2024/5/14, 24/5/14). Fixes are recorded after they were
+/// taken: a time without a date is the latest past one, five minutes allowed for a watch that is
+/// fast. A day without a month, or a date without a year, is the most recent one that lies no more
+/// than a day, a date line, ahead.
+/// @param now ship's mean time
+NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime now);
 
 /// The box read as a full date and time; nothing for anything shorter.
 std::optional<NavFunc113::DateTime> readFixTime(std::string_view text);

@@ -12,6 +12,7 @@ namespace
 
 using ::testing::HasSubstr;
 
+/// 13:53:20 of a day.
 NavFunc113::DateTime at(int year, int month, int day)
 {
     return NavFunc113::MakeDateTime({year, month, day}, 50000);
@@ -26,7 +27,10 @@ TEST(FixTime, shortFormsBecomeFullOnes)
     } rows[] = {{"930", "2024/03/13 09:30"},
                 {" 09:30:15 ", "2024/03/13 09:30:15"},
                 {"0000", "2024/03/13 00:00"},
-                {"2359", "2024/03/13 23:59"},
+                {"1358", "2024/03/13 13:58"}, // by a watch that is fast
+                {"1359", "2024/03/12 13:59"},
+                {"2359", "2024/03/12 23:59"}, // no fix of tonight yet
+                {"13-2359", "2024/03/13 23:59"},
                 {"14-0930", "2024/03/14 09:30"}, // a day ahead: beyond the date line it is tomorrow
                 {"15-0930", "2024/02/15 09:30"},
                 {"31-23:59", "2024/01/31 23:59"}, // February has no 31st
@@ -45,6 +49,7 @@ TEST(FixTime, shortFormsBecomeFullOnes)
     }
     EXPECT_EQ(NormaliseSMT("31-0930", at(2023, 12, 30)).text, "2023/12/31 09:30");
     EXPECT_EQ(NormaliseSMT("1-0930", at(2023, 12, 31)).text, "2024/01/01 09:30") << "over New Year";
+    EXPECT_EQ(NormaliseSMT("2359", at(2024, 1, 1)).text, "2023/12/31 23:59");
     EXPECT_EQ(NormaliseSMT("", today).text, "");
     EXPECT_EQ(NormaliseSMT("", today).fault, "");
 }
