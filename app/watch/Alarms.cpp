@@ -43,23 +43,42 @@ Answer askYesNo(Questions& questions, const std::string& text)
     return questions.ask({text, programTitle, Buttons::YesNo});
 }
 
+/// The time of day some minutes from now, "+5"; nothing when the text is nothing of the kind. The
+/// minute that runs does not count: five minutes are not to be four and a half.
+std::optional<double> timeAhead(const std::string& text, NavFunc113::DateTime smt)
+{
+    const std::string ascii = asciiForms(text);
+    const double minutes = readNumber(ascii);
+    const bool isAhead = ascii.starts_with('+') && isNumeric(ascii) && minutes >= 1 &&
+                         minutes < static_cast<double>(minutesOfDay) &&
+                         minutes == std::floor(minutes);
+    const auto present = minuteOf(smt);
+    if (!isAhead || !present) return std::nullopt;
+    const bool isBegun = smt * 1440 - static_cast<double>(*present) > 1.0 / 120; // half a second
+    const std::int64_t due = *present + static_cast<std::int64_t>(minutes) + (isBegun ? 1 : 0);
+    return static_cast<double>(dayMinute(due)) / static_cast<double>(minutesOfDay);
+}
+
 /// Asks until the answer is a time of day. @return it as hh:mm; nothing when cancelled, which an
 /// empty answer counts as
-std::optional<std::string> askAlarmTime(Questions& questions, const std::string& stored)
+std::optional<std::string> askAlarmTime(Questions& questions, const std::string& stored,
+                                        const std::function<NavFunc113::DateTime()>& smt)
 {
     for (;;) {
         const auto answer = questions.input("Input ALARM Time( hh:mm )", programTitle, stored);
         if (!answer || answer->empty()) return std::nullopt;
         if (const auto time = timeOfDay(*answer)) return Format(*time, "hh:mm");
+        if (const auto time = timeAhead(*answer, smt())) return Format(*time, "hh:mm");
         questions.ask({"Incorrect value.", programTitle, Buttons::Ok});
     }
 }
 
 /// Time, comment and use of alarm n, stored as they are answered. @return false when cancelled
 bool askAlarm(int n, KV_Savedvalue& saved, Questions& questions,
+              const std::function<NavFunc113::DateTime()>& smt,
               const std::function<void()>& menuChanged)
 {
-    const auto time = askAlarmTime(questions, saved.alarmTime(n));
+    const auto time = askAlarmTime(questions, saved.alarmTime(n), smt);
     if (!time) return false;
     saved.setAlarmTime(n, *time);
     menuChanged();
@@ -107,6 +126,7 @@ std::string nextAlarmText(const KV_Savedvalue& saved, NavFunc113::DateTime smt)
 }
 
 void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
+                const std::function<NavFunc113::DateTime()>& smt,
                 const std::function<void()>& menuChanged)
 {
     const std::string number = std::to_string(n);
@@ -114,7 +134,7 @@ void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
 
     const std::string time = saved.alarmTime(n);
     const std::string comment = saved.alarmComment(n);
-    if (!askAlarm(n, saved, questions, menuChanged)) {
+    if (!askAlarm(n, saved, questions, smt, menuChanged)) {
         saved.setAlarmTime(n, time);
         saved.setAlarmComment(n, comment);
         menuChanged();

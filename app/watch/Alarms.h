@@ -25,10 +25,13 @@ std::string nextAlarmText(const KV_Savedvalue& saved, NavFunc113::DateTime smt);
 
 /// Asks for time, comment and use of alarm n. An answer that is no time brings a message and the
 /// question again with the old time. Cancel in any question leaves the alarm as it was, and so does
-/// an empty time. Times are stored as hh:mm whatever was typed.
+/// an empty time. Times are stored as hh:mm whatever was typed; "+5" is the minute that begins
+/// at least five whole minutes from now, up to "+1439".
 /// @param n           1 .. 5
+/// @param smt         ship's mean time at the moment of the answer
 /// @param menuChanged called whenever caption or tick of the entry are to be shown anew
 void setUpAlarm(int n, KV_Savedvalue& saved, Questions& questions,
+                const std::function<NavFunc113::DateTime()>& smt,
                 const std::function<void()>& menuChanged);
 
 /// Asks whether the hourly time signal is used, then how many minutes before the hour. Cancelling
