@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/NumberField.h"
+#include "app/reading/Reading.h"
 #include "app/reading/TypedTime.h"
 #include "forms/frmTIDE/data/TideDates.h"
 
@@ -224,19 +225,37 @@ std::string rangeText(const TideDayShown& day)
     return "Range " + heightText(range.highest - range.lowest, TideKind::Tide) + ", " + moon;
 }
 
+/// h:mm, and as a watch is read: 0730, 730, 7, and 7.5 hours; to 24:00. A second decimal may be of
+/// minutes or of an hour, so it is asked about.
+TypedTime timeOfThisDay(const std::string& typedTime)
+{
+    std::string typed = asciiForms(typedTime);
+    std::erase_if(typed, [](char c) { return c == ' ' || c == '\t'; });
+    const auto areDigits = [](std::string_view text) {
+        return !text.empty() && text.find_first_not_of("0123456789") == text.npos;
+    };
+    const std::size_t point = typed.size() > 2 ? typed.size() - 2 : typed.npos;
+    double hours = -1;
+    if (areDigits(typed) && typed.size() <= 2)
+        hours = readNumber(typed);
+    else if (areDigits(typed) && typed.size() <= 4 && typed[typed.size() - 2] < '6')
+        hours = readNumber(typed.substr(0, point)) + readNumber(typed.substr(point)) / 60;
+    else if (point < 3 && typed[point] == '.' && areDigits(typed.substr(0, point)) &&
+             areDigits(typed.substr(point + 1)))
+        hours = readNumber(typed);
+    else if (typed == "24:00")
+        hours = 24; // the end of this day, which no clock shows
+    if (hours >= 0 && hours <= 24) return {hours / 24, {}};
+    return readTypedTime(typedTime, Due::TimeOfDay);
+}
+
 CurveAnswer heightAt(const TideDayShown& day, const std::string& typedTime)
 {
     if (typedTime.empty()) return {};
     const std::string prefix = "Time of a height: ";
-    Hours time;
-    // 24:00 is the end of this day, which no clock shows.
-    if (typedTime == "24:00") {
-        time = Hours(24);
-    } else {
-        const TypedTime typed = readTypedTime(typedTime, Due::TimeOfDay);
-        if (!typed.value) return {.text = {}, .remark = prefix + typed.remark};
-        time = Hours((*typed.value - std::floor(*typed.value)) * 24);
-    }
+    const TypedTime typed = timeOfThisDay(typedTime);
+    if (!typed.value) return {.text = {}, .remark = prefix + typed.remark};
+    const Hours time(*typed.value * 24);
     CurveAnswer answer{.text = markedHeight(day.four.at(time), day), .times = {time}};
     if (day.all) answer.all = "all constituents " + markedHeight(day.all->at(time), day);
     return answer;

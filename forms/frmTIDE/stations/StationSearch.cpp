@@ -33,6 +33,27 @@ std::string plainWords(std::string_view text)
     return plain;
 }
 
+/// Names that officers write, where the menus have another.
+struct OtherName {
+    std::string_view name, place;
+};
+constexpr OtherName otherNames[] = {
+    {"Wellington", "Welington"},
+    {"Los Angeles Harbour", "Los Angels Harbour"},
+    {"Newcastle", "New Castle"},
+    {"Port Hedland", "Port Headland"},
+    {"Yeosu", "Yosu"},
+    {"Incheon", "Inchon"},
+    {"Busan", "Pusan"},
+    {"Mumbai", "Bombay"},
+    {"Chennai", "Madras"},
+    {"Kochi", "Cochin"},
+    {"Gqeberha", "Port Elizabeth"},
+    {"Saint Johns", "St Johns"},
+    {"St John NB", "Saint John NB"},
+    {"Muscat", "Mina al Fahal"},
+};
+
 enum class Match { Name, Word, Inside, None };
 
 Match matchOf(const std::string& name, const std::string& letters)
@@ -81,7 +102,10 @@ std::vector<FoundStation> findStations(std::string_view typed)
     std::vector<std::pair<Match, FoundStation>> found;
     for (FoundStation& station : allStations()) {
         const std::string name = plainWords(station.place);
-        const Match match = matchOf(name, letters);
+        Match match = matchOf(name, letters);
+        for (const OtherName& other : otherNames)
+            if (other.place == station.place)
+                match = std::min(match, matchOf(plainWords(other.name), letters));
         if (match == Match::None || (letters.size() < 3 && name != letters)) continue;
         found.emplace_back(match, std::move(station));
     }

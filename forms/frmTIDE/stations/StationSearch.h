@@ -24,7 +24,8 @@ struct FoundStation {
 std::vector<FoundStation> allStations();
 
 /// Stations whose name holds the typed letters, those that begin with them first, then those with
-/// a word that does. Capitals, blanks and apostrophes do not matter.
+/// a word that does. Capitals, blanks and apostrophes do not matter, and names as they are spelt
+/// today are known beside those of the menus.
 /// @return nothing for less than three letters, unless they are a whole name
 std::vector<FoundStation> findStations(std::string_view typed);
 
