@@ -85,6 +85,11 @@ std::optional<std::size_t> SightListPanel::chosen() const
     return static_cast<std::size_t>(row);
 }
 
+void SightListPanel::choose(std::size_t index)
+{
+    m_lstSunSight->setCurrentRow(static_cast<int>(index));
+}
+
 void SightListPanel::setUndo(bool canUndo)
 {
     m_cmdUndo->setEnabled(canUndo);

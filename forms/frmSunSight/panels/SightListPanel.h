@@ -27,6 +27,8 @@ public:
 
     std::optional<std::size_t> chosen() const;
     /// Lets the button offer to take back what was deleted.
+    /// Makes a sight the one in hand.
+    void choose(std::size_t index);
     void setUndo(bool canUndo);
 
 signals:
