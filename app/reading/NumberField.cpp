@@ -87,14 +87,21 @@ std::optional<std::string> meantAngle(std::string_view text, const NumberField& 
 }
 
 /// How the text can be written so that all of it is read; empty when nothing sensible comes out.
-std::string advice(std::string_view text, const NumberField& field)
+std::vector<std::string> meantWithin(std::string_view text, const NumberField& field)
 {
     std::vector<std::string> meant = meantNumbers(text);
     if (const auto angle = meantAngle(text, field)) meant = {*angle};
+    std::erase_if(meant, [&](const std::string& number) {
+        return !isNumeric(number) || !rangeRemark(readNumber(number), field).empty();
+    });
+    return meant;
+}
+
+std::string advice(const std::vector<std::string>& meant)
+{
     std::string choices;
     for (const std::string& number : meant)
-        if (isNumeric(number) && rangeRemark(readNumber(number), field).empty())
-            choices += (choices.empty() ? ", write " : " or ") + number;
+        choices += (choices.empty() ? ", write " : " or ") + number;
     return choices;
 }
 
@@ -120,8 +127,9 @@ NumberReading readField(std::string_view text, const NumberField& field)
     if (isNumeric(typed)) return {ReadingKind::Whole, value, {}};
     if (const auto angle = meantAngle(typed, field); angle && readNumber(*angle) == *value)
         return {ReadingKind::Beginning, value, {}}; // 35.305N: the letter says what the number says
+    std::vector<std::string> meant = meantWithin(typed, field);
     return {ReadingKind::Beginning, value,
-            "only " + Format(*value, "0.########") + " was read" + advice(typed, field)};
+            "only " + Format(*value, "0.########") + " was read" + advice(meant), meant};
 }
 
 std::optional<double> readField(std::string_view text, const NumberField& field, Remarks& remarks)

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Reading the number in a box together with what the officer should be told about it. A number is
 /// taken as far as it goes ("35,305" is 35): whoever is not told so sails on it.
@@ -39,6 +40,9 @@ struct NumberReading {
     Kind kind;
     std::optional<double> value; ///< nothing when it cannot be used
     std::string remark;          ///< without the field's name; empty when there is nothing to say
+    /// Of a beginning with a remark: what the whole text may have been meant as, each written so
+    /// that it is read whole; several when it cannot be told which.
+    std::vector<std::string> meant = {};
 };
 
 /// Reads a box: the leading number, as readNumber() does. The remark says at once when only the

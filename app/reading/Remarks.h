@@ -8,6 +8,19 @@
 namespace korvel
 {
 
+/// How grave it is what a window says, from the lightest.
+enum class NoticeLevel {
+    Done,   ///< something was carried out
+    Remark, ///< the figures stand, but the officer should know
+    Fault   ///< something could not be used or calculated, or not as it was typed
+};
+
+/// How grave a notice is beside results that are there, or are not because of it.
+constexpr NoticeLevel levelBeside(bool hasResults)
+{
+    return hasResults ? NoticeLevel::Remark : NoticeLevel::Fault;
+}
+
 /// What is to be said of a window's inputs: each a sentence without its full stop, as a rule with
 /// the name of its box in front. A sentence that is there already, or empty, is not added.
 struct Remarks {
@@ -16,6 +29,9 @@ struct Remarks {
 
     void fault(const std::string& sentence);
     void warn(const std::string& sentence);
+
+    /// How grave all of it is.
+    NoticeLevel level() const { return faults.empty() ? NoticeLevel::Remark : NoticeLevel::Fault; }
 
     /// All of them in one line, faults first, parted by "; ".
     std::string text() const;

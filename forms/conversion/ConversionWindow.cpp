@@ -52,6 +52,7 @@ void ConversionWindow::addBoxes(const char* name)
         box->setObjectName(memberName(name, static_cast<int>(index)));
         box->setAccessibleName(asQString(unit.caption) + ", " + asQString(unit.symbol));
         box->setToolTip(QString::fromStdString(unitToolTip(m_quantity, index)));
+        box->setReading({.name = {}});
         box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));
         m_boxes.push_back(box);
         order.push_back(box);
@@ -136,7 +137,8 @@ void ConversionWindow::convert()
         const auto figures = CalculateConversion(m_quantity, m_lead, m_boxes[m_lead]->value());
         for (std::size_t i = 0; i < figures.size(); ++i)
             if (figures[i]) show(i, *figures[i]);
-        setNotice("typed", QString::fromStdString(remarkOn(m_boxes[m_lead]->value())));
+        setNotice("typed", QString::fromStdString(remarkOn(m_boxes[m_lead]->value())),
+                  NoticeLevel::Fault);
     } catch (const NavFunc113::ArithmeticError&) {
         // No box may keep a figure that does not belong to the one typed in.
         for (std::size_t i = 0; i < m_boxes.size(); ++i)

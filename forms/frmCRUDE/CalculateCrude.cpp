@@ -304,6 +304,7 @@ CrudeResult CalculateCrude(const CrudeInput& input)
     const BarrelFactor factor = barrelFactorOf(input, remarks);
     nameMissing(input, remarks);
     result.notice = remarks.text();
+    result.level = remarks.level();
 
     const bool inKilolitres = input.volumeUnit == VolumeUnit::Kilolitres;
     const char* const volumeFormat = inKilolitres ? kilolitreFormat : barrelFormat;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/Remarks.h"
 #include "navlib/cargo.h"
 
 #include <optional>
@@ -91,6 +92,7 @@ struct CrudeResult {           // an empty text blanks the label
     std::string weightMethod; ///< "density - 1.1", "Table 56, 0.99875"
     CrudeFigures figures;
     std::string notice; ///< what is missing or makes no sense; empty when all is well
+    NoticeLevel level = NoticeLevel::Remark; ///< of the notice
 };
 
 /// All figures of the cargo.

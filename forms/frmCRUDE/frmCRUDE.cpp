@@ -240,7 +240,7 @@ void frmCRUDE::run()
     m_boxes[KLperBbl]->setPlaceholderText(QString::fromStdString(KLPerBarrelFromDensity(input())));
     m_shown = CalculateCrude(input());
     m_results->show(m_shown);
-    setNotice("input", QString::fromStdString(m_shown.notice));
+    setNotice("input", QString::fromStdString(m_shown.notice), m_shown.level);
 }
 
 /// What the figures were made of: a box or choice that enters nothing is left out, an empty one

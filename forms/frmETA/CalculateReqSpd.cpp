@@ -46,10 +46,7 @@ std::string remarksOnArrival(const ReqSpdInput& input)
 
 ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
 {
-    if (input.txtTime[2].empty() && input.txtTime[3].empty())
-        return {std::nullopt, input.txtDist.empty()
-                                  ? "" // nobody has asked for a speed yet
-                                  : "No arrival wanted is given: no required speed."};
+    if (input.txtTime[2].empty() && input.txtTime[3].empty()) return {}; // nobody asks for a speed
     const std::string onArrival = remarksOnArrival(input);
     // What disturbs the table of arrivals too is said with that.
     const auto refused = [&](const std::string& why) -> ReqSpdResult {

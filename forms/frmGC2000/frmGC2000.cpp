@@ -265,7 +265,8 @@ void frmGC2000::runGC()
     show(m_lblVertexRemark, m_result.vertexRemark);
     show(m_lblSaving, m_result.saving);
     m_picGC->setChart(DrawWPs(m_result.route));
-    setNotice("input", QString::fromStdString(m_result.notice));
+    setNotice("input", QString::fromStdString(m_result.notice),
+              levelBeside(m_result.figures.has_value()));
 }
 
 WorkingPaper frmGC2000::paper() const

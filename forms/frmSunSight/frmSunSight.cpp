@@ -156,7 +156,7 @@ void frmSunSight::runLine()
     m_line = CalculateLOP(sight, track, context());
     m_noon = CalculateMeridian(sight, track, context());
     m_lines->showResults(m_line, m_noon);
-    setNotice("1 sight", asQString(m_line.notice));
+    setNotice("1 sight", asQString(m_line.notice), m_line.level);
 }
 
 void frmSunSight::runFix()
@@ -166,7 +166,7 @@ void frmSunSight::runFix()
                          program().shipsTime().UTC());
     const std::string outside = m_fixes->showFix(m_fix);
     m_sights->showSights(m_list.list(), m_fix);
-    setNotice("2 fix", asQString(m_fix.notice));
+    setNotice("2 fix", asQString(m_fix.notice), m_fix.level);
     setNotice("3 plot", asQString(outside));
 }
 
@@ -180,6 +180,7 @@ void frmSunSight::cmdMark_Click()
 
 void frmSunSight::cmdRecord_Click()
 {
+    const auto edited = m_list.edited();
     const auto outcome = m_list.put(m_entry->sight());
     if (outcome != SightList::Outcome::Recorded) {
         program().questions().ask({outcomeText(outcome), programTitle, Buttons::Ok});
@@ -187,6 +188,7 @@ void frmSunSight::cmdRecord_Click()
     }
     showEditing();
     listChanged();
+    m_sights->choose(edited.value_or(m_list.list().sights().size() - 1));
     m_entry->turnTo(SightField::time);
 }
 

@@ -117,7 +117,8 @@ void frmWeather::addCalculations()
 {
     const auto text = [this](std::size_t field) {
         setNotice(WeatherFields[field].name,
-                  QString::fromStdString(remarkOn(m_boxes[field]->value(), WeatherFields[field])));
+                  QString::fromStdString(remarkOn(m_boxes[field]->value(), WeatherFields[field])),
+                  NoticeLevel::Fault);
         return m_boxes[field]->value();
     };
     calculations().add({"Sea state", {m_boxes[Wave]}, {m_lblWave}, [=, this] {

@@ -138,7 +138,8 @@ void frmWind::runWind()
     for (std::size_t i = 0; i < m_lblWind.size(); ++i)
         m_lblWind[i]->setText(QString::fromStdString(m_wind.lblWind[i]));
     m_picWind->setWind(m_wind.figures, orientation());
-    setNotice("input", QString::fromStdString(m_wind.notice));
+    setNotice("input", QString::fromStdString(m_wind.notice),
+              levelBeside(m_wind.figures.has_value()));
 }
 
 WorkingPaper frmWind::paper() const

@@ -79,6 +79,20 @@ EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
     });
 }
 
+QString EntryBox::nameInWords() const
+{
+    const QString name = accessibleName();
+    return name.section(',', 0, name.startsWith("Row ") ? 1 : 0);
+}
+
+std::optional<NumberReading> EntryBox::halfRead() const
+{
+    if (!m_reading || text().isEmpty()) return std::nullopt;
+    NumberReading reading = readField(value(), *m_reading);
+    const bool isHalf = reading.kind == NumberReading::Kind::Beginning && !reading.remark.empty();
+    return isHalf ? std::optional(std::move(reading)) : std::nullopt;
+}
+
 void EntryBox::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
@@ -120,6 +134,7 @@ void EntryBox::mouseReleaseEvent(QMouseEvent* event)
 void EntryBox::keyPressEvent(QKeyEvent* event)
 {
     m_focusedByMouse = false;
+    if (event->matches(QKeySequence::Undo) && onUndo && onUndo()) return;
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QLineEdit::keyPressEvent(event);
         return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/NumberField.h"
 #include "app/records/SettingsRecord.h"
 
 #include <QLineEdit>
@@ -41,11 +42,23 @@ public:
     void setLimits(const QString& limits) { m_limits = limits; }
     const QString& limits() const { return m_limits; }
 
+    /// What the box is, without how it is written; with the row where it stands in one.
+    QString nameInWords() const;
+
+    /// Says that the box takes a number, and which. Its name is the box's own.
+    void setReading(const NumberField& reading) { m_reading = reading; }
+    /// What of the text is read where that is only its beginning, and what all of it may have been
+    /// meant as; nothing when it is read whole, or not at all.
+    std::optional<NumberReading> halfRead() const;
+
     /// What Enter does on top, before it moves on.
     std::function<void()> onEnter;
     /// What is done with the text when the focus has gone to another control of the program; a look
     /// into a menu or another program leaves a half-typed text alone.
     std::function<void()> onLeave;
+    /// Takes a change of several boxes back. @return false when there is none: Ctrl+Z is then the
+    /// box's own
+    std::function<bool()> onUndo;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -57,6 +70,7 @@ protected:
 private:
     EntryBox* m_next = nullptr;
     QString m_limits;
+    std::optional<NumberField> m_reading;
     bool m_isEdited = false; ///< the text is being changed by hand
     bool m_focusedByMouse = false;
     bool m_interrupted = false; ///< a question or an alarm took the focus while somebody typed

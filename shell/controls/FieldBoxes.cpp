@@ -79,6 +79,8 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
         box->setAccessibleName(field.accessibleName);
         box->recordKind = recordKindOf(field.kind);
         box->setLimits(limitsInWords(field));
+        if (field.kind == FieldKind::Number || field.kind == FieldKind::KeyUp)
+            box->setReading({.name = {}, .low = field.low, .high = field.high});
         // A position box tells what was understood in this place.
         if (!qobject_cast<PositionBox*>(box)) box->setAccessibleDescription(box->limits());
         if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
@@ -108,8 +110,22 @@ std::vector<EntryBox*> FieldBoxes::part(std::size_t first, std::size_t count) co
 
 void FieldBoxes::clear(std::size_t first, std::size_t count)
 {
-    for (EntryBox* box : part(first, count))
+    const std::vector<EntryBox*> boxes = part(first, count);
+    std::vector<QString> texts;
+    for (const EntryBox* box : boxes)
+        texts.push_back(box->text());
+    for (EntryBox* box : boxes)
         box->clear();
+    if (std::ranges::all_of(texts, &QString::isEmpty)) return;
+    const auto undo = [boxes, texts] {
+        if (!std::ranges::all_of(boxes, [](const EntryBox* box) { return box->text().isEmpty(); }))
+            return false;
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            boxes[i]->setText(texts[i]);
+        return true;
+    };
+    for (EntryBox* box : boxes)
+        box->onUndo = undo;
 }
 
 std::string FieldBoxes::unitOnPaper(std::size_t field) const

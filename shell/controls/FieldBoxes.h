@@ -41,6 +41,8 @@ public:
         return result;
     }
 
+    /// Empties a run of boxes; Ctrl+Z in one of them brings all of it back, while nothing else was
+    /// typed.
     void clear(std::size_t first, std::size_t count);
 
     /// A field as it goes into a working paper: what was understood, and what was typed where that

@@ -2,9 +2,13 @@
 #include "shell/controls/NoticeLine.h"
 
 #include "shell/controls/Boxes.h"
+#include "shell/controls/NoticeSign.h"
 #include "shell/controls/WrappedText.h"
+#include "shell/screen/WidgetColours.h"
 
 #include <QPaintEngine>
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -21,7 +25,8 @@ NoticeLine::NoticeLine() : m_focus([this](const QWidget* now) { hintAt(now); })
     setAccessibleName("Notice");
     setFont(QFont()); // copied like a result, read like a caption
     setRoom({}, lineCount);
-    setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    setWordWrap(true);
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
@@ -31,33 +36,78 @@ void NoticeLine::hintAt(const QWidget* control)
     QString what = control->accessibleName();
     if (auto* box = qobject_cast<const EntryBox*>(control); box && !box->limits().isEmpty())
         what += "; " + box->limits();
-    const QString hint = what + "\nF1: the manual, at this place";
-    if (what.isEmpty() || hint == m_hint) return;
-    m_hint = hint;
+    if (what.isEmpty() || what == m_hint) return;
+    m_hint = what;
     if (text().isEmpty()) update();
 }
 
-void NoticeLine::say(const QString& key, const QString& text)
+void NoticeLine::setColours(const Colours& colours)
 {
-    if (text.isEmpty())
-        m_said.erase(key);
-    else
-        m_said[key] = text;
-    QStringList all;
-    for (const auto& [each, words] : m_said)
-        all << words;
-    const QString joined = all.join("  ");
-    if (joined == this->text()) return;
-    setText(joined);
-    setToolTip(joined);
+    m_colours = colours;
+    setTextColour(this, colour());
 }
 
-QStringList NoticeLine::onPaper() const
+QColor NoticeLine::colour() const
 {
-    QStringList said;
-    for (const auto& [key, words] : m_said)
-        if (!key.contains('~')) said << words;
-    return said;
+    if (!m_level) return m_colours.hint;
+    if (*m_level == NoticeLevel::Done) return m_colours.done;
+    return *m_level == NoticeLevel::Remark ? m_colours.remark : m_colours.fault;
+}
+
+void NoticeLine::say(const QString& key, const QString& text, NoticeLevel level)
+{
+    put(key, {text, level});
+}
+
+void NoticeLine::sayHalfRead(const EntryBox& box, const std::optional<NumberReading>& reading)
+{
+    const QString key = "half read " + box.objectName();
+    if (!reading) return put(key, {});
+    const QString remark = QString::fromStdString(reading->remark);
+    put(key,
+        {box.nameInWords() + ": " + remark, NoticeLevel::Fault, remark, !reading->meant.empty()});
+}
+
+void NoticeLine::put(const QString& key, const Said& said)
+{
+    if (said.text.isEmpty()) {
+        if (m_said.erase(key) == 0) return;
+    } else {
+        m_said[key] = said;
+    }
+    join();
+}
+
+void NoticeLine::join()
+{
+    const auto isSaidElsewhere = [this](const Said& said) {
+        return !said.essence.isEmpty() && std::ranges::any_of(m_said, [&](const auto& other) {
+            return &other.second != &said && other.second.text.contains(said.essence);
+        });
+    };
+    QStringList all;
+    m_lasting.clear();
+    m_level.reset();
+    m_key.clear();
+    for (const NoticeLevel level : {NoticeLevel::Fault, NoticeLevel::Remark, NoticeLevel::Done})
+        for (const auto& [key, said] : m_said) {
+            if (said.level != level) continue;
+            m_level = std::max(m_level.value_or(level), level);
+            if (said.hasKey) m_key = "  F4 writes it.";
+            if (isSaidElsewhere(said)) continue;
+            all << said.text;
+            if (!key.contains('~')) m_lasting << said.text;
+        }
+    m_first = all.value(0);
+    setText(all.join("  "));
+    setToolTip(this->text());
+    setAccessibleDescription(m_level ? noticeWord(*m_level) + m_key : QString());
+    setTextColour(this, colour());
+}
+
+QRect NoticeLine::roomOfText() const
+{
+    return rect().adjusted(fontMetrics().height(), 0, 0, 0);
 }
 
 void NoticeLine::paintEvent(QPaintEvent* event)
@@ -67,16 +117,20 @@ void NoticeLine::paintEvent(QPaintEvent* event)
         return;
     }
     QPainter painter(this);
+    const QRect room = roomOfText();
+    const int lineHeight = fontMetrics().lineSpacing(), inset = lineHeight / 5;
+    const QRectF sign(inset, inset, lineHeight - 2 * inset, lineHeight - 2 * inset);
+    painter.setPen(colour());
     if (text().isEmpty()) {
         // A printed form has no box to type into.
         if (painter.paintEngine()->type() != QPaintEngine::Raster) return;
-        painter.setPen(m_hintColour);
-        painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, m_hint);
+        drawNoticeSign(painter, sign, {});
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignTop, m_hint);
         return;
     }
-    painter.setPen(palette().color(foregroundRole()));
-    painter.drawText(rect(), static_cast<int>(alignment()),
-                     shownLines(text(), font(), size()).lines.join('\n'));
+    drawNoticeSign(painter, sign, m_level);
+    painter.drawText(room, static_cast<int>(alignment()),
+                     shownLines(text() + m_key, font(), room.size()).lines.join('\n'));
 }
 
 } // namespace korvel

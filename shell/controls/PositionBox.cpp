@@ -24,6 +24,12 @@ constexpr int longestPaste = 1000; // letters: a position in its sentence, not a
 PositionBox::PositionBox(Axis axis, QWidget* parent)
     : EntryBox(parent), m_axis(axis), m_echo(new ResultLabel(parent))
 {
+    const bool isLatitude = axis == Axis::Latitude;
+    const double greatest = isLatitude ? 90 : 180;
+    setReading({.name = {},
+                .low = -greatest,
+                .high = greatest,
+                .form = isLatitude ? NumberField::Form::Latitude : NumberField::Form::Longitude});
     m_echo->setFont(font());
     m_echo->passByTab(); // the box tells it with itself
     m_echo->copyText = [this] { return positionToCopy(); };

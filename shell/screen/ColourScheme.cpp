@@ -114,7 +114,9 @@ ColourScheme ColourScheme::day()
     scheme.memo = "#23313e";
     scheme.unit = "#5a3d00";
     scheme.echo = "#44566a";
-    scheme.notice = "#9a2b00";
+    scheme.done = "#1a6334";
+    scheme.notice = "#8a4500";
+    scheme.fault = "#a3001f";
     scheme.dimmed = "#5d6974";
     scheme.paper = "#fbfdff";
     scheme.ink = "#14202b";
@@ -138,7 +140,9 @@ ColourScheme ColourScheme::night(int which)
     scheme.memo = atLuminance(Hue::paleAmber, step.peak);
     scheme.unit = atLuminance(Hue::orange, step.peak);
     scheme.echo = atLuminance(Hue::orange, step.text);
+    scheme.done = atLuminance(Hue::orange, step.text);
     scheme.notice = atLuminance(Hue::red, step.text);
+    scheme.fault = atLuminance(Hue::paleAmber, step.peak);
     scheme.dimmed = atLuminance(Hue::orange, step.text);
     scheme.paper = Hue::black;
     scheme.ink = atLuminance(Hue::amber, step.text);

@@ -15,7 +15,9 @@ struct ColourScheme {
     QColor memo;   ///< text of lblMEMO
     QColor unit;   ///< text of lbl1NM
     QColor echo;   ///< what was understood, beside a box
-    QColor notice; ///< the notice line
+    QColor done;   ///< what was carried out, in the notice line
+    QColor notice; ///< a remark of the notice line, and figures in doubt
+    QColor fault;  ///< a fault of the notice line
     QColor dimmed; ///< results that no longer belong to the inputs
 
     QColor paper;     ///< background of pictures

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/window/CalculatorWindow.h"
 
+#include "app/reading/PositionText.h"
+#include "app/reading/Reading.h"
+#include "shell/controls/ChosenOption.h"
 #include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/ReadingOrder.h"
@@ -21,14 +24,16 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr const char* doneKey = "~done"; // behind all notices
+constexpr const char* doneKey = "~done"; // on no paper
 constexpr auto shownFor = 6s;
 
 } // namespace
 
 CalculatorWindow::CalculatorWindow(Program& program, const QString& name, const QString& caption)
     : m_program(program), m_body(new QWidget), m_notices(new NoticeLine),
-      m_calculations(new CalculationRunner(*m_notices, this)),
+      m_calculations(new CalculationRunner(
+          *m_notices, [this](const auto& labels, bool dimmed) { setDimmed(labels, dimmed); },
+          this)),
       m_record(new WindowRecord(program, *m_notices, *this)), m_menus(program, *this),
       m_printer(program, *this),
       m_paperMenu(new PaperMenu(program, *this,
@@ -62,10 +67,12 @@ void CalculatorWindow::loadSettings()
     m_calculations->release(wasEntered);
     m_calculations->runAll();
     applyColours();
+    letResultsBeStored();
     addPaperMenu();
     m_menus.addView();
     m_program.addHelpMenu(*menuBar());
     setTabOrderByReading(*this);
+    keepFocusAtChosenOptions(*this);
     for (const EntryBox* box : findChildren<EntryBox*>())
         connect(box, &QLineEdit::inputRejected, this, [this, box] { sayThatItIsFull(*box); });
 }
@@ -78,6 +85,31 @@ void CalculatorWindow::sayThatItIsFull(const EntryBox& box)
                      .arg(box.maxLength()));
 }
 
+void CalculatorWindow::letResultsBeStored()
+{
+    for (ResultLabel* label : findChildren<ResultLabel*>())
+        if (label != m_notices)
+            label->storeInMemo = [this](const QString& figure) { storeInMemo(figure); };
+}
+
+/// A position goes into the Position Memo, a figure into the Single Memo; what is neither, as a
+/// time of day, is refused like any other text.
+void CalculatorWindow::storeInMemo(const QString& figure)
+{
+    const auto position = parsePosition(figure.toStdString(), Axis::Latitude);
+    if (position && position->latitude && position->longitude)
+        m_program.actions().storePosition(*position->latitude, *position->longitude);
+    else
+        m_program.actions().StoreInMemo(KORVEL2000Actions::Single, isNumeric(figure.toStdString())
+                                                                       ? figure.toStdString()
+                                                                       : std::string());
+}
+
+void CalculatorWindow::goTo(const QString& place)
+{
+    if (auto* control = findChild<QWidget*>(place)) control->setFocus(Qt::TabFocusReason);
+}
+
 void CalculatorWindow::addPaperMenu()
 {
     auto* open = new QAction("&Working paper", this);
@@ -87,16 +119,15 @@ void CalculatorWindow::addPaperMenu()
     m_paperMenu->addTo(*menuBar(), open);
 }
 
-/// What was done is no remark on the figures: it goes after a moment, and before a paper is made.
+/// What was done is no remark on the figures: it goes after a moment.
 void CalculatorWindow::sayForAWhile(const QString& said)
 {
-    setNotice(doneKey, said);
+    setNotice(doneKey, said, NoticeLevel::Done);
     QTimer::singleShot(shownFor, this, [this] { setNotice(doneKey, {}); });
 }
 
 PaperDocument CalculatorWindow::paperDocument()
 {
-    setNotice(doneKey, {});
     const Program::PaperColours colours(m_program);
     return {m_program.paperHeading(), paper(), paperPictures()};
 }
@@ -232,8 +263,7 @@ void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed
 void CalculatorWindow::applyColours()
 {
     const ColourScheme& colours = m_program.colours();
-    setTextColour(m_notices, colours.notice);
-    m_notices->setHintColour(colours.echo);
+    m_notices->setColours({colours.echo, colours.done, colours.notice, colours.fault});
     for (PositionBox* box : findChildren<PositionBox*>())
         setTextColour(box->echo(), colours.echo);
     for (QLabel* label : m_dimmed)

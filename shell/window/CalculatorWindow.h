@@ -40,6 +40,9 @@ public:
     /// @param caption title of the window
     CalculatorWindow(Program& program, const QString& name, const QString& caption);
 
+    /// Goes to a place of the catalogue: the control of this name, where the window knows no other.
+    virtual void goTo(const QString& place);
+
     /// The text of the notice line.
     QString notice() const { return m_notices->text(); }
 
@@ -72,7 +75,10 @@ protected:
     void printPaper() { m_paperMenu->print(); }
 
     /// Says something in the notice line under a key of the caller's; an empty text takes it back.
-    void setNotice(const QString& key, const QString& text) { m_notices->say(key, text); }
+    void setNotice(const QString& key, const QString& text, NoticeLevel level = NoticeLevel::Remark)
+    {
+        m_notices->say(key, text, level);
+    }
 
     /// Says what was done; no remark on the figures, it goes after a moment.
     void sayForAWhile(const QString& said);
@@ -124,6 +130,7 @@ protected:
 
     /// Shows results dimmed while they do not belong to the inputs any more.
     void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
+    bool isDimmed(QLabel* label) const { return m_dimmed.contains(label); }
     /// Applies the colour scheme to controls with colours of their own; call the base first.
     virtual void applyColours();
 
@@ -136,6 +143,8 @@ private:
     void addPaperMenu();
     void sayThatItIsFull(const EntryBox& box);
     void openPaper();
+    void letResultsBeStored();
+    void storeInMemo(const QString& figure);
     void fit();
     void placeStrip();
     void zoom();

@@ -113,7 +113,7 @@ void WindowRecord::saveNow()
     if (record == m_onDisk) return; // typed and taken back, or only looked at
     const std::string fault = m_file->saveQuietly(record);
     if (fault.empty() && !m_file->isProtected()) m_onDisk = std::move(record);
-    m_notices.say("save", QString::fromStdString(fault));
+    m_notices.say("save", QString::fromStdString(fault), NoticeLevel::Fault);
 }
 
 void WindowRecord::saveSoon()

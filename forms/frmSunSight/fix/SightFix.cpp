@@ -132,6 +132,7 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
         remarks.fault(std::string("Fix: ") + error.what());
     }
     result.notice = remarks.text();
+    result.level = remarks.level();
     return result;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/Remarks.h"
 #include "forms/frmSunSight/sight/SightList.h"
 #include "navlib/line_checks.h"
 
@@ -48,9 +49,10 @@ struct SightFixResult {
     std::string memoLatitude;      ///< DegMin in full, for the Position Memo
     std::string memoLongitude;
     std::string ellipseText;
-    std::string sigmaText;   ///< where the sigma of the ellipse comes from
-    std::string withoutText; ///< the fixes without what does not fit
-    std::string notice;      ///< why there is no fix, and warnings
+    std::string sigmaText;                   ///< where the sigma of the ellipse comes from
+    std::string withoutText;                 ///< the fixes without what does not fit
+    std::string notice;                      ///< why there is no fix, and warnings
+    NoticeLevel level = NoticeLevel::Remark; ///< of the notice
 };
 
 /// The fix from all recorded sights that are on, at the time of the last of them.

@@ -127,6 +127,7 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
     result.figures.track = track;
     result.figures.DR = DR;
     result.notice = remarks.text();
+    result.level = remarks.level();
     return result;
 }
 

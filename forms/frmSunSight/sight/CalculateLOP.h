@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/Remarks.h"
 #include "forms/frmSunSight/sight/SightInput.h"
 
 #include <string>
@@ -39,6 +40,7 @@ struct LOPResult {                        ///< an empty text blanks the label
     std::optional<NavFunc113::Degrees> azimuth; ///< the same in full
     LOPFigures figures;
     std::string notice; ///< every input that cannot be used, then what the officer should know
+    NoticeLevel level = NoticeLevel::Remark; ///< of the notice
 };
 
 /// The line of position of the sight being entered. What an unusable input does not touch is shown.
