@@ -87,6 +87,9 @@ void frmCDDR::addOptions()
         m_optNSEW[2 * field]->setChecked(true);
         connect(m_txtCDDR[field], &QLineEdit::textChanged, this,
                 [this, field] { checkValueName(field); });
+        m_txtCDDR[field]->onLeave = [this, field] {
+            m_choiceIsOver[field] = !m_txtCDDR[field]->text().isEmpty();
+        };
     }
 }
 
@@ -204,7 +207,7 @@ void frmCDDR::runCD()
     m_cd = CalculateCD({m_txtCDDR.texts<0, 4>(), program().earth()});
     m_lblCDDR[0]->setText(QString::fromStdString(m_cd.course));
     m_lblCDDR[1]->setText(QString::fromStdString(m_cd.distance));
-    setNotice("1 CD", QString::fromStdString(m_cd.notice));
+    setNotice("1 CD", QString::fromStdString(m_cd.notice), levelBeside(m_cd.leg.has_value()));
 }
 
 void frmCDDR::runDR()
@@ -213,7 +216,8 @@ void frmCDDR::runDR()
     m_dr = CalculateDR({m_txtCDDR.texts<4, 4>(), program().earth()});
     m_lblCDDR[2]->setText(QString::fromStdString(m_dr.latitude));
     m_lblCDDR[3]->setText(QString::fromStdString(m_dr.longitude));
-    setNotice("2 DR", QString::fromStdString(m_dr.notice));
+    setNotice("2 DR", QString::fromStdString(m_dr.notice),
+              levelBeside(m_dr.longitudeReached.has_value()));
 }
 
 WorkingPaper frmCDDR::paper() const
@@ -237,16 +241,21 @@ void frmCDDR::optNSEW_Click(std::size_t index)
 {
     const std::size_t field = index / 2;
     const bool positive = index % 2 == 0;
-    m_chosenNegative[field] = !positive;
     sayTurned(field, false);
     if (const auto written = withHemisphere(m_txtCDDR[field]->value(), positive))
         m_txtCDDR[field]->setText(QString::fromStdString(*written));
+    m_chosenNegative[field] = !positive;
+    m_choiceIsOver[field] = false;
 }
 
 void frmCDDR::checkValueName(std::size_t field)
 {
     const auto positive = hemisphereOf(m_txtCDDR[field]->value());
     if (positive) m_optNSEW[2 * field + (*positive ? 0 : 1)]->setChecked(true);
+    // The choice was for the figure that was typed next, by hand: not for those after it.
+    const bool isByHand = focusWidget() == m_txtCDDR[field];
+    if (m_choiceIsOver[field] || !isByHand || positive == false) m_chosenNegative[field] = false;
+    m_choiceIsOver[field] = false;
     sayTurned(field, positive && *positive && m_chosenNegative[field]);
 }
 
@@ -288,6 +297,8 @@ void frmCDDR::exchangeCD()
 
 void frmCDDR::clearCalculator(std::size_t first)
 {
+    for (std::size_t field = first; field < std::min(first + 4, positionFields); ++field)
+        m_chosenNegative[field] = false;
     m_txtCDDR.clear(first, 4);
     m_txtCDDR[first]->setFocus();
 }

@@ -46,6 +46,7 @@ private:
     std::array<ResultLabel*, 4> m_lblCDDR{};
     std::array<QRadioButton*, 12> m_optNSEW{};
     std::array<bool, positionFields> m_chosenNegative{}; ///< S or W was chosen last
+    std::array<bool, positionFields> m_choiceIsOver{};   ///< a figure was typed for it
     CDResult m_cd;
     DRResult m_dr;
 };

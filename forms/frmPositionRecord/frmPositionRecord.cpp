@@ -93,8 +93,25 @@ void frmPositionRecord::addCalculationOfRecord()
     for (std::size_t i = 0; i < positionRowCount; ++i)
         m_table->row(i).satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
     m_calculation = calculations().add(
-        {"Position record", std::move(inputs), std::move(results), [this] { run(); }});
+        {"Position record", std::move(inputs), std::move(results), [this] { run(); }, false,
+         [this](const EntryBox& input) { return resultsRestingOn(input); }});
     connect(&program(), &Program::TDChanged, this, [this] { calculations().runAll(); });
+}
+
+/// A fix has its say in its own row, in the leg that leads to it, and in all sums.
+std::vector<ResultLabel*> frmPositionRecord::resultsRestingOn(const EntryBox& input) const
+{
+    const auto row = m_table->rowOf(&input);
+    if (!row) return {m_lblSet, m_lblDrift};
+    std::vector<ResultLabel*> resting = {m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
+                                         m_lblLatestRun,     m_lblSet,        m_lblDrift};
+    // Rows that are not complete are passed over: the leg may begin further up.
+    for (std::size_t from = *row + 1; from-- > 0;) {
+        const auto ofRow = m_table->resultsOfRow(from);
+        resting.insert(resting.end(), ofRow.begin(), ofRow.end());
+        if (from < *row && !m_shown.rows[from].distance.empty()) break;
+    }
+    return resting;
 }
 
 void frmPositionRecord::addMenus()
@@ -191,7 +208,11 @@ void frmPositionRecord::run()
     show(m_lblLatestRun, m_shown.dayRun);
     show(m_lblSet, m_shown.set);
     show(m_lblDrift, m_shown.drift);
-    setNotice("rows", QString::fromStdString(m_shown.notice));
+    const bool isWhole = std::ranges::all_of(m_shown.rows, [](const PositionRowResult& row) {
+        return row.remark.empty() || (row.read.latitude && row.read.longitude && row.read.utc);
+    });
+    setNotice("rows", QString::fromStdString(m_shown.notice), levelBeside(isWhole));
+    if (m_isStillRefused && !m_isStillRefused()) refuse({}, {});
 }
 
 void frmPositionRecord::normaliseTime(std::size_t row)
@@ -205,12 +226,19 @@ void frmPositionRecord::normaliseTime(std::size_t row)
         calculations().runAll(); // what makes no sense is named once the box is left
 }
 
+/// Says why a change of rows was not made, for as long as that holds.
+void frmPositionRecord::refuse(const QString& why, std::function<bool()> stillHolds)
+{
+    m_isStillRefused = why.isEmpty() ? nullptr : std::move(stillHolds);
+    setNotice("change", why);
+}
+
 void frmPositionRecord::changeRows(RowChange::Kind kind, const Change& change)
 {
     normaliseTime(m_row); // the box is left: its text may move to another row
     RowChange made{kind, m_row, m_table->texts(), m_table->texts()};
     change(made.after);
-    setNotice("change~", {});
+    refuse({}, {});
     if (made.after == made.before) return;
     fill(made.after);
     m_lastChange = std::move(made);
@@ -230,7 +258,8 @@ void frmPositionRecord::insertRowHere()
     changeRows(RowChange::Kind::Inserted,
                [&](PositionRows& rows) { inserted = insertRow(rows, m_row); });
     if (!inserted)
-        setNotice("change~", "Row 29 is in use: no row was inserted, it would have been lost.");
+        refuse("Row 29 is in use: no row was inserted, it would have been lost.",
+               [this] { return !m_table->texts().back().isEmpty(); });
 }
 
 void frmPositionRecord::clearAll()
@@ -247,7 +276,10 @@ void frmPositionRecord::undo()
     normaliseTime(m_row);
     PositionRows rows = m_table->texts();
     const std::string refusal = takeBack(rows, *m_lastChange);
-    setNotice("change~", QString::fromStdString(refusal));
+    refuse(QString::fromStdString(refusal), [this] {
+        PositionRows now = m_table->texts();
+        return m_lastChange && !takeBack(now, *m_lastChange).empty();
+    });
     if (!refusal.empty()) return;
     m_lastChange.reset();
     fill(rows);

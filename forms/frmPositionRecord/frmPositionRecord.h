@@ -24,6 +24,7 @@ protected:
 private:
     void addTotals();
     void addCalculationOfRecord();
+    std::vector<ResultLabel*> resultsRestingOn(const EntryBox& input) const;
     void addMenus();
     void useRecordSettings();
     void focusMoved(const QWidget* now);
@@ -34,6 +35,7 @@ private:
 
     using Change = std::function<void(PositionRows&)>;
     void changeRows(RowChange::Kind kind, const Change& change);
+    void refuse(const QString& why, std::function<bool()> stillHolds);
     void fill(const PositionRows& rows);
     void insertRowHere();
     void clearAll();
@@ -55,7 +57,8 @@ private:
     ResultLabel* m_lblDrift;
 
     PositionRecordResult m_shown;
-    std::optional<RowChange> m_lastChange; ///< of rows; what is typed is no change of rows
+    std::optional<RowChange> m_lastChange;  ///< of rows; what is typed is no change of rows
+    std::function<bool()> m_isStillRefused; ///< while the notice line says why
     int m_calculation = 0;
     std::size_t m_row = 0;  ///< the row that has, or last had, the focus
     bool m_filling = false; ///< many boxes are being filled, one calculation follows
