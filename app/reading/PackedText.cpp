@@ -87,4 +87,15 @@ std::string inFullForm(std::string_view text)
     return full;
 }
 
+std::string plainForm(std::string_view text)
+{
+    while (text.starts_with(' '))
+        text.remove_prefix(1);
+    while (text.ends_with(' '))
+        text.remove_suffix(1);
+    if (text.size() > 2 && text.starts_with('<') && text.find('>') == text.size() - 1)
+        text = text.substr(1, text.size() - 2);
+    return inFullForm(text);
+}
+
 } // namespace korvel

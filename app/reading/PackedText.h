@@ -13,4 +13,8 @@ namespace korvel
 /// else stays as it is.
 std::string inFullForm(std::string_view text);
 
+/// A result as another program reads it: <104.4> becomes 104.4, 3409'.7 becomes 3409.7, a packed
+/// position its full form; blanks around it are left out.
+std::string plainForm(std::string_view text);
+
 } // namespace korvel

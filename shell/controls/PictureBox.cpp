@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/PictureBox.h"
 
+#include "shell/controls/ResultLabel.h"
+
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPaintEvent>
 
@@ -8,10 +11,47 @@
 
 namespace korvel
 {
+namespace
+{
+
+/// A picture says nothing to those who do not see it; the results that it is drawn from do.
+class AccessiblePicture : public QAccessibleWidget
+{
+public:
+    explicit AccessiblePicture(QWidget* picture) : QAccessibleWidget(picture, QAccessible::Graphic)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString own = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Description || !own.isEmpty()) return own;
+        QStringList results;
+        for (const ResultLabel* label : widget()->window()->findChildren<ResultLabel*>()) {
+            const QString name = label->accessibleName();
+            if (label->isVisible() && !name.isEmpty() && !label->text().isEmpty() &&
+                results.size() < mostResults)
+                results << name + ": " + label->text();
+        }
+        return results.join("; ");
+    }
+
+private:
+    static constexpr qsizetype mostResults = 12; ///< nobody listens longer
+};
+
+QAccessibleInterface* accessiblePicture(const QString&, QObject* object)
+{
+    auto* picture = qobject_cast<PictureBox*>(object);
+    return picture ? new AccessiblePicture(picture) : nullptr;
+}
+
+} // namespace
 
 PictureBox::PictureBox(QWidget* parent)
     : QWidget(parent), m_lineHeight(QFontMetricsF(font()).height())
 {
+    QAccessible::installFactory(accessiblePicture); // asked for again it does nothing
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }

@@ -241,17 +241,43 @@ void ResultLabel::keyPressEvent(QKeyEvent* event)
 
 void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
 {
+    const auto toClipboard = [](const QString& copied) {
+        return [copied] { QApplication::clipboard()->setText(copied); };
+    };
     // Its own: the window may be closed under the open menu.
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction("&Copy", this, [this] { copy(); });
+    if (hasSelectedText() && selectedText() != text())
+        menu->addAction("&Copy what is selected", this, toClipboard(selectedText()));
+    menu->addAction("Copy as &shown", this, toClipboard(text()));
+    menu->addAction("Copy &plain", this, toClipboard(plainText()));
+    menu->addAction("Copy in &full", this, toClipboard(textInFull()));
+    if (storeInMemo) menu->addAction("Store in &memo", this, [this] { storeInMemo(plainText()); });
+    for (QAction* each : menu->actions())
+        each->setEnabled(!text().isEmpty());
     menu->popup(event->globalPos());
+}
+
+/// What another program reads.
+QString ResultLabel::plainText() const
+{
+    const QString own = copyText ? copyText() : QString();
+    return own.isEmpty() ? asQString(plainForm(text().toStdString())) : own;
+}
+
+/// For a log or a letter: what it is, the figure, its unit.
+QString ResultLabel::textInFull() const
+{
+    const QString name = accessibleName().section(',', 0, 0),
+                  unit = accessibleName().section(", ", 1);
+    const QString figure = asQString(plainForm(text().toStdString()));
+    return QStringList({name, figure, unit}).join(' ').simplified();
 }
 
 void ResultLabel::copy()
 {
     const bool part = hasSelectedText() && selectedText() != text();
-    const QString copied = part ? selectedText() : copyText ? copyText() : text();
+    const QString copied = part ? selectedText() : plainText();
     if (!copied.isEmpty()) QApplication::clipboard()->setText(copied);
 }
 

@@ -22,8 +22,10 @@ class ResultLabel : public QLabel
 public:
     explicit ResultLabel(QWidget* parent = nullptr);
 
-    /// What copying the whole label gives, when that is not its own text.
+    /// What copying the whole label gives, when that is not its own text in plain form.
     std::function<QString()> copyText;
+    /// Stores what copying gives in a memory; an empty function where there is none.
+    std::function<void(const QString& copied)> storeInMemo;
 
     void setText(const QString& text);
     void clear() { setText({}); }
@@ -68,6 +70,8 @@ private:
     void setSelectable(bool selectable);
     void stopTabHere();
     void copy();
+    QString plainText() const;
+    QString textInFull() const;
 
     bool isOneLine() const;
     bool hasOwnTip() const { return !toolTip().isEmpty() && toolTip() != text(); }

@@ -4,6 +4,7 @@
 #include "shell/controls/Panels.h"
 #include "shell/controls/WrappingRow.h"
 
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -104,7 +105,9 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
     }
     made->setObjectName(memberName(column.name, static_cast<int>(row)));
     made->setAccessibleName(QString(column.accessibleName).replace("%1", QString::number(row + 1)));
+    if (isBox(column) || isResult(column)) made->installEventFilter(this);
     if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = *recordKindOf(column.holds);
+    if (column.holds == Holds::Figure) static_cast<EntryBox*>(made)->setReading({.name = {}});
     if (column.holds == Holds::Text)
         static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
     auto* position = dynamic_cast<PositionBox*>(made);
@@ -229,12 +232,19 @@ std::vector<EntryBox*> RowTable::boxes() const
     return all;
 }
 
+std::vector<ResultLabel*> RowTable::resultsOfRow(std::size_t row) const
+{
+    std::vector<ResultLabel*> all;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (isResult(m_columns[i])) all.push_back(result(row, i));
+    return all;
+}
+
 std::vector<ResultLabel*> RowTable::results() const
 {
     std::vector<ResultLabel*> all;
     for (std::size_t row = 0; row < rows(); ++row)
-        for (std::size_t i = 0; i < m_columns.size(); ++i)
-            if (isResult(m_columns[i])) all.push_back(result(row, i));
+        std::ranges::copy(resultsOfRow(row), std::back_inserter(all));
     return all;
 }
 
@@ -243,6 +253,46 @@ std::optional<std::size_t> RowTable::rowOf(const QWidget* control) const
     for (std::size_t row = 0; control && row < rows(); ++row)
         if (std::ranges::find(m_lines[row], control) != m_lines[row].end()) return row;
     return std::nullopt;
+}
+
+/// The row that a key leads to; nothing for a key that is none of the table's.
+std::optional<std::size_t> RowTable::rowByKey(const QKeyEvent& key, std::size_t from) const
+{
+    const Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier && key.key() == Qt::Key_Home) return 0;
+    if (modifiers == Qt::ControlModifier && key.key() == Qt::Key_End) return rows() - 1;
+    if (modifiers != Qt::NoModifier) return std::nullopt;
+    // What is seen of the table, one row staying in sight.
+    const int height = std::max(1, m_lines.front().front()->parentWidget()->height());
+    const auto seen = static_cast<std::size_t>(visibleRegion().boundingRect().height() / height);
+    const std::size_t page = std::max<std::size_t>(2, seen) - 1;
+    switch (key.key()) {
+    case Qt::Key_Up:
+        return from - std::min<std::size_t>(from, 1);
+    case Qt::Key_Down:
+        return std::min(from + 1, rows() - 1);
+    case Qt::Key_PageUp:
+        return from - std::min(from, page);
+    case Qt::Key_PageDown:
+        return std::min(from + page, rows() - 1);
+    default:
+        return std::nullopt;
+    }
+}
+
+bool RowTable::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* control = qobject_cast<QWidget*>(watched);
+    const auto row = event->type() == QEvent::KeyPress ? rowOf(control) : std::nullopt;
+    if (!row) return QWidget::eventFilter(watched, event);
+    const auto wanted = rowByKey(*static_cast<QKeyEvent*>(event), *row);
+    if (!wanted) return QWidget::eventFilter(watched, event);
+    const auto column = std::ranges::find(m_lines[*row], control) - m_lines[*row].begin();
+    QWidget* there = m_lines[*wanted][static_cast<std::size_t>(column)];
+    // A blank result takes no focus.
+    if (there != control && there->focusPolicy() != Qt::NoFocus)
+        there->setFocus(Qt::TabFocusReason);
+    return true;
 }
 
 void RowTable::markRow(std::size_t row)

@@ -7,6 +7,8 @@
 #include <optional>
 #include <span>
 
+class QKeyEvent;
+
 namespace korvel
 {
 
@@ -38,7 +40,8 @@ struct TableColumn {
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
 /// repaints the labels that change and never lays the table out anew. Enter goes through the
-/// boxes row by row, Tab through the results between them too.
+/// boxes row by row, Tab through the results between them too; Up, Down, Page Up and Down,
+/// Ctrl+Home and Ctrl+End go to another row in the same column.
 class RowTable : public QWidget, public SizedByLetters
 {
 public:
@@ -61,16 +64,21 @@ public:
     std::vector<EntryBox*> boxes() const;
     std::vector<EntryBox*> boxesOfRow(std::size_t row) const;
     std::vector<ResultLabel*> results() const;
+    std::vector<ResultLabel*> resultsOfRow(std::size_t row) const;
 
     /// Row of a control; nothing when it is none of the table's.
     std::optional<std::size_t> rowOf(const QWidget* control) const;
     /// Sets the number of one row apart: the one that the menus speak of.
     void markRow(std::size_t row);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     class Heading;
     using Line = std::vector<QWidget*>; ///< by column
 
+    std::optional<std::size_t> rowByKey(const QKeyEvent& key, std::size_t from) const;
     QWidget* makeControl(const TableColumn& column, std::size_t row, const Line& before);
     void layOut(const Line& line, QWidget& widget) const;
     void giveWidths(const Line& line, QWidget& widget) const;
