@@ -12,6 +12,8 @@
 #include "forms/frmTIDE/frmTIDE.h"
 #include "forms/frmWeather/frmWeather.h"
 #include "forms/frmWind/frmWind.h"
+#include "navlib/unit_tables.h"
+#include "shell/machine/AsQString.h"
 
 namespace korvel
 {
@@ -21,13 +23,33 @@ namespace
 template <typename Window>
 CatalogueEntry window(const char* menu, int index, const char* name, const char* caption)
 {
-    return {menu, index, name, caption, [](Program& program) { return new Window(program); }};
+    return {menu, index, name, caption, [](Program& program) { return new Window(program); }, {}};
+}
+
+CatalogueEntry withPlaces(CatalogueEntry entry,
+                          std::function<std::vector<CatalogueEntry::Place>()> places)
+{
+    entry.places = std::move(places);
+    return entry;
+}
+
+/// A conversion window, with its units by the names of their boxes.
+CatalogueEntry withUnits(CatalogueEntry entry, const char* box, NavFunc113::Quantity quantity)
+{
+    return withPlaces(std::move(entry), [box, quantity] {
+        std::vector<CatalogueEntry::Place> units;
+        for (const NavFunc113::Unit& unit : NavFunc113::UnitTable(quantity))
+            units.push_back({asQString(unit.caption),
+                             QString("%1(%2)").arg(box).arg(static_cast<int>(units.size()))});
+        return units;
+    });
 }
 
 } // namespace
 
 WindowCatalogue calculatorWindows()
 {
+    using NavFunc113::Quantity;
     return {
         window<frmCDDR>("mnuNAV", 1, "frmCDDR", "&Course, distance and dead reckoning"),
         window<frmGC2000>("mnuNAV", 2, "frmGC2000", "&Great circle"),
@@ -38,12 +60,17 @@ WindowCatalogue calculatorWindows()
         window<frmWind>("mnuWATCH", 4, "frmWind", "True &wind"),
         window<frmWeather>("mnuWATCH", 5, "frmWeather", "We&ather"),
         window<frmCRUDE>("mnuCONV", 1, "frmCRUDE", "Crude &oil"),
-        window<frmLength>("mnuCONV", 2, "frmLength", "&Length"),
-        window<frmVolume>("mnuCONV", 3, "frmVolume", "&Volume"),
-        window<frmArea>("mnuCONV", 4, "frmArea", "A&rea"),
-        window<frmWeight>("mnuCONV", 5, "frmWeight", "We&ight"),
-        window<frmPressure>("mnuCONV", 6, "frmPressure", "Press&ure"),
-        window<frmTIDE>("mnuTide", 0, "frmTIDE", "&Tide and tidal stream"),
+        withUnits(window<frmLength>("mnuCONV", 2, "frmLength", "&Length"), "txtLength",
+                  Quantity::Length),
+        withUnits(window<frmVolume>("mnuCONV", 3, "frmVolume", "&Volume"), "txtVolume",
+                  Quantity::Volume),
+        withUnits(window<frmArea>("mnuCONV", 4, "frmArea", "A&rea"), "txtArea", Quantity::Area),
+        withUnits(window<frmWeight>("mnuCONV", 5, "frmWeight", "We&ight"), "txtWeight",
+                  Quantity::Weight),
+        withUnits(window<frmPressure>("mnuCONV", 6, "frmPressure", "Press&ure"), "txtPressure",
+                  Quantity::Pressure),
+        withPlaces(window<frmTIDE>("mnuTide", 0, "frmTIDE", "&Tide and tidal stream"),
+                   frmTIDE::stationsToGoTo),
     };
 }
 

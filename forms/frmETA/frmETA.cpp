@@ -230,15 +230,14 @@ void frmETA::addMenus()
         program().actions().StoreInMemo(KORVEL2000Actions::Single, text);
     };
     QMenu* memo = menus().add("&Memo", "mnuETA");
-    menus().addEntry(memo, "mnuETA", 0, "Store &distance",
-                     [=, this] { store(m_txtDist->value()); });
-    menus().addEntry(memo, "mnuETA", 1, "Store &speed", [=, this] { store(m_txtSpeed->value()); });
-    menus().addEntry(memo, "mnuETA", 2, "Store &required speed",
+    menus().addEntry(memo, "mnuETA", 0, "&Distance", [=, this] { store(m_txtDist->value()); });
+    menus().addEntry(memo, "mnuETA", 1, "&Speed", [=, this] { store(m_txtSpeed->value()); });
+    menus().addEntry(memo, "mnuETA", 2, "&Required speed",
                      [=, this] { store(m_required.speed.value_or("")); });
-    memo->addSeparator();
-    menus().addEntry(memo, "mnuETA", 3, "Recall into d&istance",
+    QMenu* recall = menus().add("&Recall", "mnuRem");
+    menus().addEntry(recall, "mnuETA", 3, "into &distance",
                      [this] { menus().recallSingle(m_txtDist); });
-    menus().addEntry(memo, "mnuETA", 4, "Recall into s&peed",
+    menus().addEntry(recall, "mnuETA", 4, "into &speed",
                      [this] { menus().recallSingle(m_txtSpeed); });
     menus().addLinks("mnuWindows");
 }
@@ -261,10 +260,12 @@ void frmETA::runETA()
     }
     if (required.speed) m_lblReqSpd->setText(QString::fromStdString(*required.speed));
     setDimmed({m_lblReqSpd}, !required.speed);
-    setNotice("arrivals", QString::fromStdString(arrivals.notice));
+    setNotice("arrivals", QString::fromStdString(arrivals.notice),
+              levelBeside(arrivals.labels.has_value()));
     // What disturbs both is said once.
     setNotice("required speed",
-              required.notice == arrivals.notice ? "" : QString::fromStdString(required.notice));
+              required.notice == arrivals.notice ? "" : QString::fromStdString(required.notice),
+              levelBeside(required.speed.has_value()));
 }
 
 WorkingPaper frmETA::paper() const

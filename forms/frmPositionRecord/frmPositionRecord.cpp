@@ -230,7 +230,7 @@ void frmPositionRecord::normaliseTime(std::size_t row)
 void frmPositionRecord::refuse(const QString& why, std::function<bool()> stillHolds)
 {
     m_isStillRefused = why.isEmpty() ? nullptr : std::move(stillHolds);
-    setNotice("change", why);
+    setNotice("change~", why);
 }
 
 void frmPositionRecord::changeRows(RowChange::Kind kind, const Change& change)

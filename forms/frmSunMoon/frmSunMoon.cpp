@@ -172,38 +172,39 @@ void frmSunMoon::addMenus()
     menus().addEntry(clear, "mnuAC", 1, "&Undo", [this] { undoClear(); });
 
     QMenu* memo = menus().add("&Memo", "mnuSUNMOON");
+    QMenu* recall = menus().add("&Recall", "mnuRem");
     struct Entry {
+        QMenu* menu;
         const char* caption;
         std::function<void()> action;
     };
     const Entry entries[] = {
-        {"Store &position of",
+        {memo, "&Position of",
          [this] {
              program().actions().storePosition(m_table->position(m_row, Latitude)->value(),
                                                m_table->position(m_row, Longitude)->value());
          }},
-        {"Store Sun &rise azimuth of",
+        {memo, "Sun &rise azimuth of",
          [this] {
              program().actions().StoreInMemo(KORVEL2000Actions::Single,
                                              azimuth(&RiseSetResult::sunRiseAz));
          }},
-        {"Store Sun &set azimuth of",
+        {memo, "Sun &set azimuth of",
          [this] {
              program().actions().StoreInMemo(KORVEL2000Actions::Single,
                                              azimuth(&RiseSetResult::sunSetAz));
          }},
-        {"Recall P&osition Memo into",
+        {recall, "&Position into",
          [this] {
              menus().recallPosition(m_table->position(m_row, Latitude),
                                     m_table->position(m_row, Longitude));
          }},
-        {"Recall Single Memo into &TD of",
-         [this] { menus().recallSingle(m_table->box(m_row, TD)); }},
+        {recall, "into &TD of", [this] { menus().recallSingle(m_table->box(m_row, TD)); }},
     };
     int index = 0;
-    for (const auto& [caption, action] : entries) {
-        QAction* entry = menus().addEntry(memo, "mnuSUNMOON", index++, caption, action);
-        connect(memo, &QMenu::aboutToShow, this, [this, entry, caption = QString(caption)] {
+    for (const auto& [menu, caption, action] : entries) {
+        QAction* entry = menus().addEntry(menu, "mnuSUNMOON", index++, caption, action);
+        connect(menu, &QMenu::aboutToShow, this, [this, entry, caption = QString(caption)] {
             entry->setText(QString("%1 row %2").arg(caption).arg(m_row + 1));
         });
     }
@@ -235,6 +236,8 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
         m_results[row] = CalculateRiseSet(typed, m_numbers[row]);
         successful |= m_results[row].successful;
         showRow(row);
+        calculations().tellHalfRead(m_table->boxesOfRow(row), m_table->resultsOfRow(row));
+        showDoubts(row);
     }
     showNotices();
     showRowInFocus();
@@ -263,20 +266,26 @@ void frmSunMoon::showRow(std::size_t row)
 void frmSunMoon::showDoubts(std::size_t row)
 {
     const ColourScheme& colours = program().colours();
-    for (const auto& [column, event] : events)
+    for (const auto& [column, event] : events) {
+        if (isDimmed(m_table->result(row, column))) continue;
         setTextColour(m_table->result(row, column),
                       (m_results[row].*event).refined.empty()
                           ? colours.palette.color(QPalette::WindowText)
                           : colours.notice);
+    }
 }
 
 void frmSunMoon::showNotices()
 {
     QStringList all;
-    for (const RiseSetResult& result : m_results)
-        if (!result.notice.empty()) all << asQString(result.notice);
+    bool isWhole = true;
+    for (const RiseSetResult& result : m_results) {
+        if (result.notice.empty()) continue;
+        all << asQString(result.notice);
+        isWhole = isWhole && result.successful;
+    }
     all.removeDuplicates(); // what the date alone causes is the same in every row
-    setNotice("rows", all.join(".  "));
+    setNotice("rows", all.join(".  "), levelBeside(isWhole));
 }
 
 WorkingPaper frmSunMoon::paper() const
@@ -345,8 +354,14 @@ void frmSunMoon::clearAll()
     for (const EntryBox* box : m_table->boxes())
         texts.push_back(box->text());
     if (!std::ranges::all_of(texts, &QString::isEmpty)) m_cleared = std::move(texts);
-    for (EntryBox* box : m_table->boxes())
+    for (EntryBox* box : m_table->boxes()) {
         box->clear();
+        box->onUndo = [this, box] {
+            if (m_cleared.empty() || !box->text().isEmpty()) return false;
+            undoClear();
+            return true;
+        };
+    }
     m_table->box(0, Place)->setFocus(Qt::TabFocusReason);
     record().saveSoon();
 }

@@ -19,7 +19,8 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr auto scrollPause = 300ms; // the date has come to rest
+constexpr auto scrollPause = 300ms;      // the date has come to rest
+constexpr const char* findKey = "~find"; // of no day: it stays off papers
 
 } // namespace
 
@@ -49,7 +50,7 @@ frmTIDE::frmTIDE(Program& program)
     loadSettings();
     readDates();
     take(m_choice, Telling::Box, AfterFault::Stay);
-    m_sheet->dateBar().setFocus();
+    m_sheet->head().txtFind()->setFocus();
     fitToScreen();
 }
 
@@ -57,6 +58,8 @@ void frmTIDE::addControls()
 {
     m_sheet->head().onDate = [this] { askDate(); };
     m_sheet->head().onToday = [this] { chooseDate(today()); };
+    connect(m_sheet->head().txtFind(), &QLineEdit::textEdited, this,
+            [this] { setNotice(findKey, {}); });
     m_sheet->head().onFind = [this](const std::string& typed) { findStation(typed); };
     m_sheet->onDay = [this](std::int64_t date) { stepTo(date); };
     m_sheet->onNotice = [this](const QString& key, const std::string& notice) {
@@ -100,21 +103,46 @@ TideActions frmTIDE::actions()
 
 void frmTIDE::choose(const StationChoice& station)
 {
+    setNotice(findKey, {});
     m_agreedTo.clear(); // whoever chooses a doubtful station once more is asked once more
     take({station.TideMode, station.place, m_choice.lblDate}, Telling::Box, AfterFault::GoBack);
+}
+
+std::vector<CatalogueEntry::Place> frmTIDE::stationsToGoTo()
+{
+    std::vector<CatalogueEntry::Place> places;
+    for (const FoundStation& station : allStations()) {
+        const QString name = QString::fromStdString(station.place);
+        places.push_back({name + (station.TideMode ? "" : " (stream)"),
+                          (station.TideMode ? "tide " : "stream ") + name});
+    }
+    return places;
+}
+
+void frmTIDE::goTo(const QString& place)
+{
+    const bool isTide = place.section(' ', 0, 0) == "tide";
+    const StationChoice station{isTide, place.section(' ', 1).toStdString()};
+    const QString reason = m_tideMenus.stations().reasonAgainst(station);
+    if (reason.isEmpty())
+        choose(station);
+    else
+        setNotice(findKey, QString::fromStdString(station.place) + ": " + reason);
+    m_sheet->dateBar().setFocus();
 }
 
 void frmTIDE::findStation(const std::string& typed)
 {
     const SearchAnswer answer = answerSearch(typed);
-    setNotice("find~", QString::fromStdString(answer.notice));
+    setNotice(findKey, QString::fromStdString(answer.notice),
+              answer.first ? NoticeLevel::Done : NoticeLevel::Remark);
     if (!answer.first) return;
     const StationChoice first{answer.first->TideMode, answer.first->place};
     const QString reason = m_tideMenus.stations().reasonAgainst(first);
-    if (reason.isEmpty())
-        choose(first);
-    else
-        setNotice("find~", QString::fromStdString(first.place) + ": " + reason);
+    if (!reason.isEmpty())
+        return setNotice(findKey, QString::fromStdString(first.place) + ": " + reason);
+    choose(first);
+    setNotice(findKey, QString::fromStdString(answer.notice), NoticeLevel::Done);
 }
 
 std::int64_t frmTIDE::today()
@@ -293,7 +321,8 @@ TideHabits frmTIDE::loadedHabits()
 
 void frmTIDE::storeHabits()
 {
-    setNotice("habits~", QString::fromStdString(m_habitsFile.saveQuietly(recordOf(m_habits))));
+    setNotice("habits~", QString::fromStdString(m_habitsFile.saveQuietly(recordOf(m_habits))),
+              NoticeLevel::Fault);
 }
 
 void frmTIDE::storeSettings(Telling telling)
@@ -309,7 +338,7 @@ void frmTIDE::storeSettings(Telling telling)
 void frmTIDE::tell(const std::string& fault, Telling telling)
 {
     const bool box = telling == Telling::Box;
-    setNotice("data", box ? QString() : QString::fromStdString(fault));
+    setNotice("data", box ? QString() : QString::fromStdString(fault), NoticeLevel::Fault);
     if (box && !fault.empty()) program().questions().ask({fault, programTitle, Buttons::Ok});
 }
 

@@ -11,6 +11,7 @@
 #include "forms/frmTIDE/sheet/TideSheet.h"
 #include "forms/frmTIDE/stations/StationList.h"
 #include "forms/frmTIDE/stations/TideHabits.h"
+#include "shell/program/WindowCatalogue.h"
 #include "shell/window/CalculatorWindow.h"
 
 #include <QTimer>
@@ -30,6 +31,10 @@ class frmTIDE : public CalculatorWindow
 {
 public:
     explicit frmTIDE(Program& program);
+
+    /// Every station, as goTo() takes it.
+    static std::vector<CatalogueEntry::Place> stationsToGoTo();
+    void goTo(const QString& place) override;
 
 protected:
     WorkingPaper paper() const override;

@@ -62,6 +62,12 @@ void CalculatorWindows::open(const QString& name)
     emit opened(name);
 }
 
+void CalculatorWindows::openAt(const QString& name, const QString& place)
+{
+    open(name);
+    if (CalculatorWindow* window = m_open[name]) window->goTo(place);
+}
+
 std::vector<CalculatorWindow*> CalculatorWindows::all() const
 {
     std::vector<CalculatorWindow*> windows;

@@ -30,6 +30,8 @@ public:
     /// Gives the keyboard to the open window after one of them: the main window, those of the
     /// catalogue in its order, then papers, journal and manual by their titles.
     void openNext(const QWidget& from, QWidget& mainWindow);
+    /// The same, and goes to one of its places.
+    void openAt(const QString& name, const QString& place);
     /// Those that are open, in the order of the catalogue.
     std::vector<CalculatorWindow*> all() const;
     /// Closes every window as its cross does.

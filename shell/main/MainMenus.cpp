@@ -49,7 +49,7 @@ void MainMenus::addCalculators(const WindowCatalogue& catalogue)
         QAction* entry = addEntry(menus.at(window.menu), window.entryName(), window.caption,
                                   [this, name = window.name] { m_actions.openWindow(name); });
         entry->setCheckable(true);
-        entry->setShortcut(QKeySequence(windowKey(key++)));
+        entry->setShortcut(QKeySequence(windowKey(window.name, key++)));
         m_windows[window.name] = entry;
     }
 }

@@ -3,6 +3,7 @@
 #include "shell/main/frmKORVEL2000.h"
 
 #include "app/reading/Format.h"
+#include "shell/main/GoToBox.h"
 #include "shell/program/Shortcuts.h"
 #include "shell/screen/WindowPlaces.h"
 #include "shell/window/CalculatorWindow.h"
@@ -63,6 +64,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
         holdInPlace(m_screen, manual);
     };
     m_program.nextWindow = [this](const QWidget& from) { m_windows.openNext(from, *this); };
+    connect(&m_program, &Program::goToWanted, this, [this](QWidget* from) { openGoTo(*from); });
     connect(&m_screen, &Screen::coloursChanged, this, &frmKORVEL2000::applyColours);
     connect(&m_screen, &Screen::zoomChanged, this, [this] {
         QTimer::singleShot(0, this, [this] { // its layout comes first
@@ -127,7 +129,8 @@ MainMenus::Actions frmKORVEL2000::menuActions()
     };
     actions.setUpAlarm = [this](int n) {
         const auto show = [this] { m_menus.show(m_saved, m_screen.choices()); };
-        setUpAlarm(n, m_saved, m_questions, show);
+        setUpAlarm(
+            n, m_saved, m_questions, [this] { return m_shipsTime.SMT(); }, show);
         show();
         showClockRemarks();
         keepValues();
@@ -192,6 +195,12 @@ void frmKORVEL2000::openJournal()
     m_journal->show();
     m_journal->raise();
     m_journal->activateWindow();
+}
+
+void frmKORVEL2000::openGoTo(QWidget& from)
+{
+    auto* box = new GoToBox(from, placesToGo(m_windows, from, m_help));
+    box->open();
 }
 
 bool frmKORVEL2000::hasFile(const std::string& name) const

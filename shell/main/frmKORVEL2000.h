@@ -71,6 +71,7 @@ private:
     void showClockRemarks();
     void setShip();
     void openJournal();
+    void openGoTo(QWidget& from);
     void timeChanged();
     void keepValues();
     void placeWindows();

@@ -90,6 +90,9 @@ signals:
     void recordsWanted();
     /// The clocks show another minute.
     void minuteChanged();
+    /// The officer wants to go somewhere by its name.
+    /// @param from the window in hand
+    void goToWanted(QWidget* from);
     /// A calculator window closed; its menu entry is unticked.
     void windowClosed(const QString& name);
 

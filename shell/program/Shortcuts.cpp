@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/program/Shortcuts.h"
 
+#include "shell/controls/MeantFigure.h"
 #include "shell/program/Program.h"
 
 #include <QMenu>
@@ -25,6 +26,10 @@ const std::array tableOfKeys = {
     Shortcut{"mnuNormalSize", "&Normal size", "Ctrl+0", false,
              [](Program& program, QWidget&) { program.screen().zoom(0); }},
     Shortcut{"mnuView(6)", nullptr, "", false, nullptr},
+    Shortcut{"mnuMeant", "Write what was &meant", "F4", true,
+             [](Program&, QWidget& window) { writeMeantFigure(window); }},
+    Shortcut{"mnuGoTo", "&Go to...", "Ctrl+K", false,
+             [](Program& program, QWidget& window) { emit program.goToWanted(&window); }},
     Shortcut{"mnuNextWindow", "Ne&xt window", "Ctrl+Tab", false,
              [](Program& program, QWidget& window) { program.nextWindow(window); }},
     Shortcut{"mnuClose", "&Close", "Ctrl+W; Esc", true,
@@ -71,15 +76,16 @@ void addKeys(QWidget& window, Program& program)
     int key = 0;
     for (const WindowLink& link : program.links) {
         auto* opens = new QAction(link.caption, &window);
-        opens->setShortcut(QKeySequence(windowKey(key++)));
+        opens->setShortcut(QKeySequence(windowKey(link.name, key++)));
         QObject::connect(opens, &QAction::triggered, &window,
                          [&program, name = link.name] { program.openWindow(name); });
         window.addAction(opens);
     }
 }
 
-QString windowKey(int index)
+QString windowKey(const QString& name, int index)
 {
+    if (name == "frmTIDE") return "Ctrl+T";
     return index < 9 ? QString("Ctrl+%1").arg(index + 1) : QString();
 }
 

@@ -33,7 +33,8 @@ void addShortcuts(QMenu& menu, Program& program, QWidget& window, bool isMain);
 /// included.
 void addKeys(QWidget& window, Program& program);
 
-/// The key of the nth window of the catalogue, from 0: "Ctrl+1" .. "Ctrl+9"; empty for the rest.
-QString windowKey(int index);
+/// The key of a window, the nth of the catalogue, from 0: "Ctrl+1" .. "Ctrl+9", "Ctrl+T" for the
+/// tide; empty for the rest.
+QString windowKey(const QString& name, int index);
 
 } // namespace korvel

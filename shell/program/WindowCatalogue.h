@@ -22,6 +22,13 @@ struct CatalogueEntry {
                      ///< links menu of a window holds all the others
     std::function<CalculatorWindow*(Program&)> make;
 
+    /// A place in the window that can be gone to by its name.
+    struct Place {
+        QString caption; ///< "Yokohama", "Nautical miles"
+        QString place;   ///< as the window calls it
+    };
+    std::function<std::vector<Place>()> places = nullptr;
+
     QString entryName() const { return index > 0 ? QString("%1(%2)").arg(menu).arg(index) : menu; }
 };
 

@@ -96,7 +96,7 @@ void WindowMenus::fillWithLinks(QMenu* menu, const QString& array)
     int index = 0;
     int key = 0;
     for (const WindowLink& link : m_program.links) {
-        const QString keys = windowKey(key++);
+        const QString keys = windowKey(link.name, key++);
         if (link.name == m_window.objectName()) continue;
         addEntry(menu, array, index++, link.caption, [this, name = link.name] {
             m_program.openWindow(name);
