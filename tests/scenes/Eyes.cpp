@@ -283,6 +283,10 @@ const std::map<std::string, Verb>& eyeVerbs()
          [](S s, W w) {
              expectText(s.control(wordAt(w, 0)).accessibleName().toStdString(), w, 1);
          }},
+        {"described",
+         [](S s, W w) {
+             expectText(s.control(wordAt(w, 0)).accessibleDescription().toStdString(), w, 1);
+         }},
         {"heard", [](S s, W w) { expectText(heardOf(s.control(wordAt(w, 0))), w, 1); }},
         {"value", [](S s, W w) { expectText(valueOf(s.control(wordAt(w, 0))), w, 1); }},
         {"focus",
