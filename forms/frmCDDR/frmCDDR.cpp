@@ -88,7 +88,7 @@ void frmCDDR::addOptions()
         connect(m_txtCDDR[field], &QLineEdit::textChanged, this,
                 [this, field] { checkValueName(field); });
         m_txtCDDR[field]->onLeave = [this, field] {
-            m_choiceIsOver[field] = !m_txtCDDR[field]->text().isEmpty();
+            m_choiceIsOver[field] = hemisphereOf(m_txtCDDR[field]->value()) == true;
         };
     }
 }

@@ -13,6 +13,8 @@
 
 #include <QMenu>
 
+#include <algorithm>
+
 namespace korvel
 {
 
@@ -180,7 +182,6 @@ void frmSunSight::cmdMark_Click()
 
 void frmSunSight::cmdRecord_Click()
 {
-    const auto edited = m_list.edited();
     const auto outcome = m_list.put(m_entry->sight());
     if (outcome != SightList::Outcome::Recorded) {
         program().questions().ask({outcomeText(outcome), programTitle, Buttons::Ok});
@@ -188,7 +189,10 @@ void frmSunSight::cmdRecord_Click()
     }
     showEditing();
     listChanged();
-    m_sights->choose(edited.value_or(m_list.list().sights().size() - 1));
+    const auto& sights = m_list.list().sights();
+    const auto recorded = std::ranges::find(sights, m_entry->sight(), &RecordedSight::texts);
+    if (recorded != sights.end())
+        m_sights->choose(static_cast<std::size_t>(recorded - sights.begin()));
     m_entry->turnTo(SightField::time);
 }
 

@@ -38,6 +38,7 @@ GoToBox::GoToBox(QWidget& from, std::vector<GoToPlace> places)
     m_txtGoTo->installEventFilter(this);
     connect(m_txtGoTo, &QLineEdit::textChanged, this, [this] { find(); });
     connect(m_lstGoTo, &QListWidget::itemClicked, this, [this] { go(); });
+    m_txtGoTo->setFocus();
     find();
 }
 
