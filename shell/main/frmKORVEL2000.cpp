@@ -200,7 +200,9 @@ void frmKORVEL2000::openJournal()
 void frmKORVEL2000::openGoTo(QWidget& from)
 {
     auto* box = new GoToBox(from, placesToGo(m_windows, from, m_help));
-    box->open();
+    box->show();
+    box->raise();
+    box->activateWindow();
 }
 
 bool frmKORVEL2000::hasFile(const std::string& name) const
