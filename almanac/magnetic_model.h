@@ -74,7 +74,7 @@ public:
     static constexpr int degree = 12;
     static constexpr double yearsOfUse = 5;
     /// More than this no coefficient file of the producer has.
-    static constexpr std::size_t largestFile = 64 * 1024;
+    static constexpr std::size_t largestFile = std::size_t{64} * 1024;
 
     /// The edition of 2025, for 2025.0 to 2030.0.
     static const MagneticModel& ofProgram();

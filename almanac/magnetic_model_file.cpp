@@ -63,7 +63,7 @@ private:
         ++m_line;
         if (m_rest.empty()) fail("the file ends too early");
         const std::size_t end = std::min(m_rest.find('\n'), m_rest.size());
-        const auto words = wordsOf(m_rest.substr(0, end));
+        auto words = wordsOf(m_rest.substr(0, end));
         m_rest.remove_prefix(std::min(end + 1, m_rest.size()));
         return words;
     }

@@ -32,8 +32,9 @@ constexpr PlanetTerm planetTerms[] = {
 
 std::span<const PlanetTerm> termsOf(Body planet)
 {
-    const auto [first, last] =
-        std::ranges::equal_range(planetTerms, planet, {}, &PlanetTerm::planet);
+    const auto* const first =
+        std::ranges::lower_bound(planetTerms, planet, {}, &PlanetTerm::planet);
+    const auto* const last = std::ranges::upper_bound(planetTerms, planet, {}, &PlanetTerm::planet);
     return {first, last};
 }
 

@@ -9,9 +9,9 @@ namespace almanac
 /// A row of data/sky/stars.csv: ICRS, epoch J2000.0.
 struct Star {
     int number;
+    int hipparcos; ///< beside the other number, so that the row has no gaps
     const char* name;
     const char* bayer;
-    int hipparcos;
     double rightAscension; ///< degrees
     double declination;    ///< degrees
     double properMotionRa; ///< in right ascension times cos declination, mas a Julian year

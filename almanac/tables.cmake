@@ -24,4 +24,5 @@ set(number "-?[0-9.]+(e[-+][0-9]+)?")
 make_table(planets "([A-Z][a-z]+,[LBR],[0-9],${number},${number},${number})" [[{\1},]])
 make_table(moon "([LBR],[0-9],${number},${number},${number},${number})" [[{\1},]])
 make_table(wmm2025 "([0-9]+,[0-9]+,${number},${number},${number},${number})" [[{\1},]])
-make_table(stars "([0-9]+),([^,\"]+),([^,\"]+),([0-9]+,[-0-9.,]+),[NPX]" [[{\1,"\2","\3",\4},]])
+make_table(stars "([0-9]+),([^,\"]+),([^,\"]+),([0-9]+),([-0-9.,]+),[NPX]"
+           [[{\1,\4,"\2","\3",\5},]])

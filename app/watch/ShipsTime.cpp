@@ -168,8 +168,8 @@ std::string ShipsTime::zoneNotice() const
     if (agrees(shown, ahead) || agrees(shown, corrected)) return {};
 
     const DateTime byZone = m_clock.now() - ahead / 24;
-    const std::string both = "UTC is " + Format(byZone, "dd-hhmm") +
-                             " by the computer's own zone, " + Format(UTC(), "dd-hhmm") + " here.";
+    std::string both = "UTC is " + Format(byZone, "dd-hhmm") + " by the computer's own zone, " +
+                       Format(UTC(), "dd-hhmm") + " here.";
     const std::string choose = both + " Property, The computer's clock keeps: choose ";
     for (const ClockZone zone : {ClockZone::UTC, ClockZone::JST, ClockZone::SMT})
         if (agrees(hoursOf(zone), corrected)) return choose + zoneNames[static_cast<int>(zone)];
