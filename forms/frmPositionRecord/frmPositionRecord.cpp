@@ -307,9 +307,10 @@ void frmPositionRecord::print()
                                 " SMT, TD " + Format(TD, "+0.0;-0.0") + " (ZD " +
                                 Format(-TD, "+0.0;-0.0") + ")";
     const QString record = QString::fromStdString(positionRecordText(input(), m_shown));
-    printer().print("Position record", QPageLayout::Landscape, [&](QPainter& painter, const QRect& room) {
-        printRecord(painter, room, record, QString::fromStdString(printed));
-    });
+    printer().print("Position record", QPageLayout::Landscape,
+                    [&](QPainter& painter, const QRect& room) {
+                        printRecord(painter, room, record, QString::fromStdString(printed));
+                    });
 }
 
 void frmPositionRecord::importList()
@@ -329,7 +330,8 @@ void frmPositionRecord::importList()
         return;
     }
     changeRows(RowChange::Kind::Replaced, [&list](PositionRows& rows) { rows = list.rows; });
-    const auto count = positionRowCount - std::ranges::count(list.rows, PositionRow{});
+    const auto count = std::ranges::count_if(
+        list.rows, [](const PositionRow& row) { return row != PositionRow{}; });
     sayForAWhile(QString("%1 rows imported; Record, Undo brings back what was there.").arg(count));
 }
 
