@@ -30,8 +30,7 @@ QString recordAsPage(const QString& record, const QString& printed)
             rows += "<" + cell + ">" + text.toHtmlEscaped() + "</" + cell + ">";
         rows += "</tr>";
     }
-    return "<h3>Position record</h3><p>Printed " +
-           printed.toHtmlEscaped() +
+    return "<h3>Position record</h3><p>Printed " + printed.toHtmlEscaped() +
            "</p><table border='1' cellspacing='0' cellpadding='2' width='100%'>" + rows +
            "</table><p>Rhumb lines; hours by UTC. Signature ______________________</p>";
 }

@@ -372,8 +372,10 @@ WorkingPaper frmTIDE::paper() const
 std::vector<PaperPicture> frmTIDE::paperPictures()
 {
     if (!m_shown) return {};
-    return {paperPicture(m_sheet->picture(), "The day's curve, zone time " + QString::fromStdString(m_shown->four.lblTD),
-                         QSize(640, 360))};
+    return {
+        paperPicture(m_sheet->picture(),
+                     "The day's curve, zone time " + QString::fromStdString(m_shown->four.lblTD),
+                     QSize(640, 360))};
 }
 
 void frmTIDE::applyColours()

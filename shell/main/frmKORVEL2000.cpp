@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "app/records/QuoteSigns.h"
 #include "shell/main/frmKORVEL2000.h"
+#include "app/records/QuoteSigns.h"
 
 #include "app/reading/Format.h"
 #include "shell/main/GoToBox.h"
@@ -183,8 +183,8 @@ void frmKORVEL2000::setShip()
     const auto voyage = m_questions.input("Voyage, as papers show it", title, ship.voyage);
     if (!voyage) return;
     ship = {*name, *voyage};
-    const std::string fault = m_shipSettings.saveQuietly(
-        {withoutQuoteSigns(ship.name), withoutQuoteSigns(ship.voyage)});
+    const std::string fault =
+        m_shipSettings.saveQuietly({withoutQuoteSigns(ship.name), withoutQuoteSigns(ship.voyage)});
     if (!fault.empty()) m_questions.ask({fault, programTitle, Buttons::Ok});
 }
 

@@ -154,8 +154,8 @@ void frmTIDEPicture::placeMargins()
 {
     const QFontMetrics metrics = letterMetrics();
     const int space = metrics.horizontalAdvance(' ');
-    setPlotMargins({metrics.horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space,
-                    metrics.height()});
+    setPlotMargins(
+        {metrics.horizontalAdvance("-10 kn.") + 2 * space, 0, 2 * space, metrics.height()});
     if (isOnPaper()) return; // the labels stand on the screen
     placeLabels();
     placeReading();

@@ -39,16 +39,17 @@ TEST(GpxText, isReadBackAsItWas)
     ExportLine line{ExportLine::Kind::Route,
                     "A & B <C>",
                     {{Degrees(35.5), Degrees(-122.25), "Dep."}, {Degrees(-0.1), Degrees(180), ""}}};
-    EXPECT_EQ(
-        elementsOf(gpxText(line, "Korvel", 38425.40625)),
-        QStringList({"gpx 1.1 Korvel", "rte", "name=A & B <C> 2005-03-14 09:45", "rtept 35.5000000 -122.2500000",
-                     "name=Dep. 050314-0945", "rtept -0.1000000 -180.0000000", "name=WP 2 050314-0945"}));
+    EXPECT_EQ(elementsOf(gpxText(line, "Korvel", 38425.40625)),
+              QStringList({"gpx 1.1 Korvel", "rte", "name=A & B <C> 2005-03-14 09:45",
+                           "rtept 35.5000000 -122.2500000", "name=Dep. 050314-0945",
+                           "rtept -0.1000000 -180.0000000", "name=WP 2 050314-0945"}));
     line.kind = ExportLine::Kind::Track;
     line.points.front().UTC = 38425.40625;
     EXPECT_EQ(elementsOf(gpxText(line, "Korvel", 38425.40625)),
               QStringList({"gpx 1.1 Korvel", "trk", "name=A & B <C> 2005-03-14 09:45", "trkseg",
                            "trkpt 35.5000000 -122.2500000", "time=2005-03-14T09:45:00Z",
-                           "name=Dep. 050314-0945", "trkpt -0.1000000 -180.0000000", "name=WP 2 050314-0945"}));
+                           "name=Dep. 050314-0945", "trkpt -0.1000000 -180.0000000",
+                           "name=WP 2 050314-0945"}));
 }
 
 } // namespace
