@@ -20,7 +20,7 @@ std::string degreesAndMinutes(long tenths, std::size_t degreesWidth)
 
 } // namespace
 
-std::string padded(std::string text, std::size_t width, char filler)
+std::string padded(const std::string& text, std::size_t width, char filler)
 {
     return text.size() < width ? std::string(width - text.size(), filler) + text : text;
 }
@@ -79,7 +79,7 @@ std::string minutesCell(Degrees angle, std::size_t width)
 
 std::string turnCell(Degrees angle)
 {
-    constexpr long turn = 360 * 600;
+    constexpr long turn = 360L * 600;
     return degreesAndMinutes(std::lround(angle.value() * 600) % turn, 3);
 }
 

@@ -10,7 +10,7 @@
 namespace almanac
 {
 
-std::string padded(std::string text, std::size_t width, char filler = ' ');
+std::string padded(const std::string& text, std::size_t width, char filler = ' ');
 std::string padded(int number, std::size_t width, char filler = ' ');
 std::string leftAligned(std::string_view text, std::size_t width);
 

@@ -95,7 +95,7 @@ std::string saved(const std::string& name, const std::string& bytes)
     const auto size = static_cast<qint64>(bytes.size());
     // A full disk shows at the flush at the latest; commit would leave an empty file.
     if (file.write(bytes.data(), size) != size || !file.flush()) {
-        const std::string why = file.errorString().toStdString();
+        std::string why = file.errorString().toStdString();
         file.cancelWriting();
         file.commit();
         return why;
