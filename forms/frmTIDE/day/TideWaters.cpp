@@ -86,7 +86,7 @@ std::string spansAbove(const NavFunc113::TideCurve& curve, double level,
         if (passage.isRising) {
             from = mark + clockTime(passage.time);
         } else {
-            add(from + " to " + mark + clockTime(passage.time));
+            add(from.append(" to ").append(mark).append(clockTime(passage.time)));
             from.clear();
         }
     }
