@@ -40,7 +40,7 @@ TrueBearing azimuthOf(const Place& body, const almanac::Observer& observer)
 almanac::AltitudeWanted altitudeOn(AmplitudeHorizon horizon, Degrees dip)
 {
     if (horizon == AmplitudeHorizon::Celestial) return [](const Place&) { return Degrees(0); };
-    const auto limb = almanac::upperLimbOnHorizon(dip);
+    auto limb = almanac::upperLimbOnHorizon(dip);
     if (horizon == AmplitudeHorizon::VisibleUpperLimb) return limb;
     return [limb](const Place& body) { return limb(body) + body.semiDiameter; };
 }

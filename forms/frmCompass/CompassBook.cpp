@@ -35,7 +35,7 @@ std::string degreesFigure(const PerhapsDegrees& angle)
 std::string placeText(const CompassLine& line)
 {
     if (!line.latitude) return "";
-    const std::string latitude = positionInFull(DegToDegMin(*line.latitude), Axis::Latitude);
+    std::string latitude = positionInFull(DegToDegMin(*line.latitude), Axis::Latitude);
     if (!line.longitude) return latitude;
     return latitude + " " + positionInFull(DegToDegMin(*line.longitude), Axis::Longitude);
 }

@@ -25,7 +25,7 @@ std::string_view shortName(const Field& field)
 
 std::string eastWestText(Degrees angle)
 {
-    const std::string figure = Format(fabs(angle), "0.0");
+    std::string figure = Format(fabs(angle), "0.0");
     if (figure == "0.0") return figure;
     return figure + (angle > Degrees(0) ? " E" : " W");
 }

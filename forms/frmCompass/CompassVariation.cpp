@@ -9,7 +9,7 @@ namespace korvel
 
 std::string CompassVariation::text() const
 {
-    const std::string value = eastWestText(variation);
+    std::string value = eastWestText(variation);
     if (!uncertainty) return value;
     return value + " ±" + Format(*uncertainty, "0.0") + " (" + source + ")";
 }
