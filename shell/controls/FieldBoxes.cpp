@@ -112,6 +112,7 @@ void FieldBoxes::clear(std::size_t first, std::size_t count)
 {
     const std::vector<EntryBox*> boxes = part(first, count);
     std::vector<QString> texts;
+    texts.reserve(boxes.size());
     for (const EntryBox* box : boxes)
         texts.push_back(box->text());
     for (EntryBox* box : boxes)

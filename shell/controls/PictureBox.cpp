@@ -24,7 +24,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString own = QAccessibleWidget::text(kind);
+        QString own = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Description || !own.isEmpty()) return own;
         QStringList results;
         for (const ResultLabel* label : widget()->window()->findChildren<ResultLabel*>()) {

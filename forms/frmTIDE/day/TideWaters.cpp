@@ -235,14 +235,15 @@ TypedTime timeOfThisDay(const std::string& typedTime)
         return !text.empty() && text.find_first_not_of("0123456789") == text.npos;
     };
     const std::size_t point = typed.size() > 2 ? typed.size() - 2 : typed.npos;
+    const bool isHours = areDigits(typed) && typed.size() <= 2;
+    const bool isInDecimals = point < 3 && typed[point] == '.' &&
+                              areDigits(typed.substr(0, point)) &&
+                              areDigits(typed.substr(point + 1));
     double hours = -1;
-    if (areDigits(typed) && typed.size() <= 2)
+    if (isHours || isInDecimals)
         hours = readNumber(typed);
     else if (areDigits(typed) && typed.size() <= 4 && typed[typed.size() - 2] < '6')
         hours = readNumber(typed.substr(0, point)) + readNumber(typed.substr(point)) / 60;
-    else if (point < 3 && typed[point] == '.' && areDigits(typed.substr(0, point)) &&
-             areDigits(typed.substr(point + 1)))
-        hours = readNumber(typed);
     else if (typed == "24:00")
         hours = 24; // the end of this day, which no clock shows
     if (hours >= 0 && hours <= 24) return {hours / 24, {}};
