@@ -3,8 +3,10 @@
 
 #include "shell/controls/Boxes.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace korvel

@@ -19,7 +19,7 @@ namespace
 
 constexpr const char* windowKind = "window";
 
-QString withoutMnemonics(QString caption)
+QString withoutMnemonics(const QString& caption)
 {
     return caption.section('\t', 0, 0).remove('&').remove("...").remove("..");
 }
@@ -85,7 +85,7 @@ std::optional<int> rankOf(const QString& name, const QStringList& words)
 {
     for (const QString& word : words)
         if (!name.contains(word, Qt::CaseInsensitive)) return std::nullopt;
-    const QString first = words.front();
+    const QString& first = words.front();
     if (name.startsWith(first, Qt::CaseInsensitive)) return 0;
     return (' ' + name).contains(' ' + first, Qt::CaseInsensitive) ? 1 : 2;
 }
@@ -114,6 +114,7 @@ std::vector<const GoToPlace*> findPlaces(const std::vector<GoToPlace>& places, c
     }
     std::ranges::stable_sort(ranked, {}, [](const auto& each) { return each.first; });
     std::vector<const GoToPlace*> found;
+    found.reserve(ranked.size());
     for (const auto& [rank, place] : ranked)
         found.push_back(place);
     return found;
