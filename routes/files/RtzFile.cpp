@@ -60,7 +60,7 @@ void RtzFile::keepAttributes(Kept& kept, const std::string& element,
 {
     for (auto& [name, value] : m_xml.attributes())
         if (std::ranges::find(taken, name) == taken.end())
-            kept.push_back({element + "@" + name, std::move(value)});
+            kept.push_back({std::string(element).append("@").append(name), std::move(value)});
 }
 
 void RtzFile::readRoute()

@@ -35,7 +35,7 @@ bool takeQuoted(std::string_view& text, std::string& field, int& lineEnds)
 /// @return false when it was the last one of its line
 bool takeField(std::string_view& text, char separator, DelimitedLine& line, int& lineEnds)
 {
-    const std::size_t first = text.find_first_not_of(" ");
+    const std::size_t first = text.find_first_not_of(' ');
     std::string field;
     if (first != std::string_view::npos && text[first] == '"') {
         text.remove_prefix(first + 1);

@@ -150,8 +150,8 @@ std::optional<Degrees> degreesOfField(std::string field, Axis axis, bool hasDeci
     const bool isBehind = isLetterOf(letters, field.back());
     if (isBehind || isLetterOf(letters, field.front())) {
         std::string digits = isBehind ? field.substr(0, field.size() - 1) : field.substr(1);
-        digits.erase(digits.find_last_not_of(" ") + 1);
-        digits.erase(0, digits.find_first_not_of(" "));
+        digits.erase(digits.find_last_not_of(' ') + 1);
+        digits.erase(0, digits.find_first_not_of(' '));
         const char letter = lower(isBehind ? field.back() : field.front());
         const auto value = wholeNumber(digits);
         if (value && *value >= 0) return Degrees(letter == 's' || letter == 'w' ? -*value : *value);
