@@ -27,7 +27,8 @@ std::vector<std::string> namesOf(const ExportLine& line, const std::string& stam
     for (std::size_t i = 0; i < line.points.size(); ++i) {
         const std::string number = std::to_string(i + 1);
         const std::string& own = line.points[i].name;
-        std::string name = (own.empty() ? "WP " + number : own) + ' ' + stamp;
+        std::string name = own.empty() ? "WP " + number : own;
+        name.append(" ").append(stamp);
         if (std::ranges::find(names, name) != names.end()) name += " no. " + number;
         names.push_back(std::move(name));
     }

@@ -6,6 +6,7 @@
 #include "shell/program/WindowMenus.h"
 
 #include <QMainWindow>
+#include <QTimer>
 
 class QLabel;
 class QLineEdit;
