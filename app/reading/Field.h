@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/FieldKind.h"
 #include "app/reading/Remarks.h"
 
 #include <array>
@@ -14,32 +15,27 @@
 namespace korvel
 {
 
-/// What is typed into a field.
-enum class FieldKind {
-    Text,      ///< words
-    Moment,    ///< a date, a time of day or both
-    Number,    ///< a number; calculates at every change
-    KeyUp,     ///< a number; calculates when a key is released
-    Latitude,  ///< packed degrees.minutes, north positive
-    Longitude, ///< packed degrees.minutes, east positive
-};
-
 /// A field of a window, declared once in the window's table. The place in the table is the slot in
 /// the window's record and the place in the Enter order; a latitude and the longitude that follows
 /// it are one position.
 struct Field {
     const char* name;    ///< of the control: "txtCDDR(0)"
     const char* caption; ///< beside the box, with its mnemonic
-    /// For assistive tools: what it is, then after a comma how it is written, unit included.
-    const char* accessibleName;
+    const char* words;   ///< what it is, for assistive tools, remarks and papers
+    const char* measure; ///< how it is written, for assistive tools: its unit in words
     FieldKind kind;
     const char* unit = "";  ///< behind the box, and of the limits
     double low = -HUGE_VAL; ///< the calculations accept low <= value <= high
     double high = HUGE_VAL;
+    const char* note = "";     ///< behind the measure, for assistive tools: "north positive"
+    bool onKeyRelease = false; ///< calculates when a key is released, not at every change
 };
 
+/// What assistive tools call the box of a field: words, measure and note.
+std::string accessibleName(const Field& field);
+
 /// Reads a field that a calculation needs, as readField() of a NumberField does; remarks speak of
-/// it by the first part of its accessible name. That only the beginning of a position was read is
+/// it by its words. That only the beginning of a position was read is
 /// said beside its box already.
 /// @return nothing when the field cannot be used
 std::optional<double> readField(std::string_view text, const Field& field, Remarks& remarks);

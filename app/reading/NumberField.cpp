@@ -79,8 +79,8 @@ std::vector<std::string> meantNumbers(std::string_view text)
 /// The packed text of degrees and minutes that were typed apart, as a paste would make it.
 std::optional<std::string> meantAngle(std::string_view text, const NumberField& field)
 {
-    if (field.form == NumberField::Form::Plain) return std::nullopt;
-    const bool latitude = field.form == NumberField::Form::Latitude;
+    if (field.kind == FieldKind::Figure) return std::nullopt;
+    const bool latitude = field.kind == FieldKind::Latitude;
     const auto position = parsePosition(text, latitude ? Axis::Latitude : Axis::Longitude);
     if (!position || (position->latitude && position->longitude)) return std::nullopt;
     return latitude ? position->latitude : position->longitude;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/FieldKind.h"
 #include "app/reading/Remarks.h"
 #include "navlib/units.h"
 
@@ -17,13 +18,12 @@ namespace korvel
 
 /// A number that a box takes, declared once for reading, limits and remarks.
 struct NumberField {
-    enum class Form { Plain, Angle, Latitude, Longitude }; ///< the last three are packed degrees
-
     std::string_view name; ///< in front of its remarks: "Latitude of departure"
     double low = -HUGE_VAL;
-    double high = HUGE_VAL;            ///< both limits belong to the range
-    std::string_view unit = {};        ///< in words: "degrees", "knots"; empty for a bare number
-    Form form = Form::Plain;           ///< what else than a number it may have been meant as
+    double high = HUGE_VAL;     ///< both limits belong to the range
+    std::string_view unit = {}; ///< in words: "degrees", "knots"; empty for a bare number
+    /// What else than a number it may have been meant as: an angle, a latitude, a longitude.
+    FieldKind kind = FieldKind::Figure;
     std::optional<double> ifEmpty = 0; ///< what an empty box stands for; nothing: it must be filled
 };
 

@@ -70,12 +70,11 @@ int decimalsOf(std::string_view boxText)
 std::string remarkOnReading(std::string_view boxText, Axis axis)
 {
     const double greatest = greatestDegrees(axis);
-    const NumberReading reading =
-        readField(boxText, {.name = {},
-                            .low = -greatest,
-                            .high = greatest,
-                            .form = axis == Axis::Latitude ? NumberField::Form::Latitude
-                                                           : NumberField::Form::Longitude});
+    const NumberReading reading = readField(
+        boxText, {.name = {},
+                  .low = -greatest,
+                  .high = greatest,
+                  .kind = axis == Axis::Latitude ? FieldKind::Latitude : FieldKind::Longitude});
     return reading.kind == NumberReading::Kind::Beginning ? reading.remark : std::string();
 }
 

@@ -42,28 +42,28 @@ std::array<SavedValueRow, KV_Savedvalue::count> makeTable()
         table[static_cast<std::size_t>(which) + 3 * static_cast<std::size_t>(alarm - 1)] =
             std::move(row);
     };
-    set(SavedValue::ClockJST, 1, {"clock keeps JST", Kind::Tick, true, isAnything});
-    set(SavedValue::ClockSMT, 1, {"clock keeps SMT", Kind::Tick, {}, isAnything});
-    set(SavedValue::ClockUTC, 1, {"clock keeps UTC", Kind::Tick, {}, isAnything});
+    set(SavedValue::ClockJST, 1, {"clock keeps JST", FieldKind::Tick, true, isAnything});
+    set(SavedValue::ClockSMT, 1, {"clock keeps SMT", FieldKind::Tick, {}, isAnything});
+    set(SavedValue::ClockUTC, 1, {"clock keeps UTC", FieldKind::Tick, {}, isAnything});
     for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
         const std::string alarm = "alarm " + std::to_string(n);
-        set(SavedValue::AlarmEnabled, n, {alarm + " enabled", Kind::Tick, {}, isAnything});
-        set(SavedValue::AlarmTime, n, {"time of " + alarm, Kind::Text, "00:00", isTimeOfDay});
-        set(SavedValue::AlarmComment, n, {"comment of " + alarm, Kind::Text, {}, isAnything});
+        set(SavedValue::AlarmEnabled, n, {alarm + " enabled", FieldKind::Tick, {}, isAnything});
+        set(SavedValue::AlarmTime, n, {"time of " + alarm, FieldKind::Text, "00:00", isTimeOfDay});
+        set(SavedValue::AlarmComment, n, {"comment of " + alarm, FieldKind::Text, {}, isAnything});
     }
-    set(SavedValue::TimeSignal, 1, {"time signal", Kind::Tick, {}, isAnything});
+    set(SavedValue::TimeSignal, 1, {"time signal", FieldKind::Tick, {}, isAnything});
     set(SavedValue::TimeSignalMinutes, 1,
-        {"minutes of the time signal", Kind::Number, {}, isWithin<0, 59>});
-    set(SavedValue::WatchSettings, 1, {"watch settings", Kind::Any, {}, isAnything});
-    set(SavedValue::BackColor, 1, {"colours", Kind::Any, {}, isAnything});
-    set(SavedValue::DistanceUnit, 1, {"distance unit", Kind::Number, 1.0, isAnything});
+        {"minutes of the time signal", FieldKind::Number, {}, isWithin<0, 59>});
+    set(SavedValue::WatchSettings, 1, {"watch settings", FieldKind::Any, {}, isAnything});
+    set(SavedValue::BackColor, 1, {"colours", FieldKind::Any, {}, isAnything});
+    set(SavedValue::DistanceUnit, 1, {"distance unit", FieldKind::Number, 1.0, isAnything});
     set(SavedValue::MemoLatitude, 1,
-        {"latitude of the Position Memo", Kind::Number, 0.0, isWithin<-90, 90>});
+        {"latitude of the Position Memo", FieldKind::Number, 0.0, isWithin<-90, 90>});
     set(SavedValue::MemoLongitude, 1,
-        {"longitude of the Position Memo", Kind::Number, 0.0, isWithin<-180, 180>});
-    set(SavedValue::SingleMemo, 1, {"Single Memo", Kind::Number, 0.0, isMemory});
+        {"longitude of the Position Memo", FieldKind::Number, 0.0, isWithin<-180, 180>});
+    set(SavedValue::SingleMemo, 1, {"Single Memo", FieldKind::Number, 0.0, isMemory});
     set(SavedValue::TimeDifference, 1,
-        {"time difference", Kind::Number, defaultTD, isWithin<-12, 12>});
+        {"time difference", FieldKind::Number, defaultTD, isWithin<-12, 12>});
     return table;
 }
 
@@ -83,9 +83,9 @@ const std::array<SavedValueRow, KV_Savedvalue::count>& KV_Savedvalue::table()
     return table;
 }
 
-std::vector<Kind> KV_Savedvalue::kinds()
+std::vector<FieldKind> KV_Savedvalue::kinds()
 {
-    std::vector<Kind> kinds;
+    std::vector<FieldKind> kinds;
     for (const SavedValueRow& row : table())
         kinds.push_back(row.kind);
     return kinds;

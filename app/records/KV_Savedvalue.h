@@ -37,7 +37,7 @@ enum class SavedValue {
 /// What is known about a saved value.
 struct SavedValueRow {
     std::string name; ///< in words: "time of alarm 2"
-    Kind kind;        ///< in the settings file
+    FieldKind kind;   ///< in the settings file
     Value initial;    ///< of a new installation
     /// Whether a value that was read can be used; one that was never set always can.
     bool (*isSound)(const Value& value);
@@ -55,7 +55,7 @@ public:
     /// The table of the values, in the order of their indices.
     static const std::array<SavedValueRow, count>& table();
     /// Their kinds, as the settings file is read.
-    static std::vector<Kind> kinds();
+    static std::vector<FieldKind> kinds();
 
     /// The values of a new installation: JST, no alarm, TD +9, unit of latitude.
     KV_Savedvalue();

@@ -10,10 +10,10 @@ namespace
 {
 
 /// When the values were kept, then the values.
-std::vector<Kind> kindsOfFile()
+std::vector<FieldKind> kindsOfFile()
 {
-    std::vector<Kind> kinds = KV_Savedvalue::kinds();
-    kinds.insert(kinds.begin(), Kind::Text);
+    std::vector<FieldKind> kinds = KV_Savedvalue::kinds();
+    kinds.insert(kinds.begin(), FieldKind::Text);
     return kinds;
 }
 

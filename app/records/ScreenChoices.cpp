@@ -90,9 +90,10 @@ bool ScreenChoices::changeZoom(int change)
     return zoom != before;
 }
 
-std::vector<Kind> ScreenChoices::kinds()
+std::vector<FieldKind> ScreenChoices::kinds()
 {
-    return {Kind::Number, Kind::Number, Kind::Tick, Kind::Tick, Kind::Text};
+    return {FieldKind::Number, FieldKind::Number, FieldKind::Tick, FieldKind::Tick,
+            FieldKind::Text};
 }
 
 Record ScreenChoices::record() const

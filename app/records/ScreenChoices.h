@@ -40,7 +40,7 @@ struct ScreenChoices {
     /// @return false when there is none
     bool changeZoom(int steps);
 
-    static std::vector<Kind> kinds();
+    static std::vector<FieldKind> kinds();
     Record record() const;
     /// What a file holds; a value that is none of those above keeps its default.
     static ScreenChoices of(const Record& record);

@@ -26,7 +26,7 @@ std::string asideName(FileStore& files, const std::string& name, NavFunc113::Dat
 } // namespace
 
 SettingsFile::SettingsFile(FileStore& files, Questions& questions, const ComputerClock& clock,
-                           std::string name, std::vector<Kind> kinds)
+                           std::string name, std::vector<FieldKind> kinds)
     : m_files(files), m_questions(questions), m_clock(clock), m_name(std::move(name)),
       m_kinds(std::move(kinds))
 {

@@ -22,7 +22,7 @@ class SettingsFile
 public:
     /// @param files, questions, clock must outlive this object
     SettingsFile(FileStore& files, Questions& questions, const ComputerClock& clock,
-                 std::string name, std::vector<Kind> kinds);
+                 std::string name, std::vector<FieldKind> kinds);
 
     /// The record of the file; nothing when there is none or nothing of it can be read.
     /// @param defaults what stands in the place of values that could not be read; empty: they are
@@ -59,7 +59,7 @@ private:
     Questions& m_questions;
     const ComputerClock& m_clock;
     std::string m_name;
-    std::vector<Kind> m_kinds;
+    std::vector<FieldKind> m_kinds;
     std::optional<std::string> m_damagedText;
     std::string m_asideName; ///< where the damaged file goes; empty when there is none
 };

@@ -53,19 +53,19 @@ std::optional<Value> valueOfItem(const DelimitedText::Item& item)
     return number ? std::optional<Value>(*number) : std::nullopt;
 }
 
-bool fits(const Value& value, Kind kind)
+bool fits(const Value& value, FieldKind kind)
 {
-    if (kind == Kind::Any) return true;
-    if (kind == Kind::Number) return std::holds_alternative<double>(value);
-    if (kind == Kind::Tick) return std::holds_alternative<bool>(value);
+    if (kind == FieldKind::Any) return true;
+    if (kind == FieldKind::Number) return std::holds_alternative<double>(value);
+    if (kind == FieldKind::Tick) return std::holds_alternative<bool>(value);
     return std::holds_alternative<std::string>(value);
 }
 
-const char* inWords(Kind kind)
+const char* inWords(FieldKind kind)
 {
-    if (kind == Kind::Number) return "a number";
-    if (kind == Kind::Tick) return "#TRUE# or #FALSE#";
-    return kind == Kind::Any ? "a value" : "a text in quotes";
+    if (kind == FieldKind::Number) return "a number";
+    if (kind == FieldKind::Tick) return "#TRUE# or #FALSE#";
+    return kind == FieldKind::Any ? "a value" : "a text in quotes";
 }
 
 /// Why an item cannot be read at all; empty when it can.
@@ -78,13 +78,14 @@ std::string flawOf(const DelimitedText::Item& item)
 }
 
 /// @return nothing when the item is no value of the kind
-std::optional<Value> valueOfKind(const DelimitedText::Item& item, Kind kind)
+std::optional<Value> valueOfKind(const DelimitedText::Item& item, FieldKind kind)
 {
     auto value = valueOfItem(item);
     if (!value) return std::nullopt;
     if (fits(*value, kind) || std::holds_alternative<std::monostate>(*value)) return value;
     // A number that stands where a text is due is what somebody typed without quotes.
-    if (kind != Kind::Tick && std::holds_alternative<double>(*value)) return std::string(item.text);
+    if (kind != FieldKind::Tick && std::holds_alternative<double>(*value))
+        return std::string(item.text);
     return std::nullopt;
 }
 
@@ -101,7 +102,7 @@ std::vector<PerhapsValue> valuesAsTheyCome(std::string_view text)
 }
 
 /// A record that has lost lines, or got some, within it.
-void settle(ReadRecord& record, std::string_view text, std::span<const Kind> kinds)
+void settle(ReadRecord& record, std::string_view text, std::span<const FieldKind> kinds)
 {
     std::vector<PerhapsValue> values = valuesAsTheyCome(text);
     while (values.size() > kinds.size() && values.back() == Value())
@@ -144,13 +145,13 @@ std::string ReadRecord::damageText() const
     return text;
 }
 
-ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds)
+ReadRecord readRecord(std::string_view text, std::span<const FieldKind> kinds)
 {
     ReadRecord result;
     // A number may lack its last digits when the line end behind it is missing.
     const bool cutOff = !text.ends_with('\n') && !text.ends_with('\r');
     DelimitedText items(text);
-    for (const Kind kind : kinds) {
+    for (const FieldKind kind : kinds) {
         const std::string number = "value " + std::to_string(result.record.size() + 1);
         if (items.atEnd()) {
             result.damage.push_back("it ends after " + std::to_string(result.record.size()) +

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/FieldKind.h"
 #include "app/records/Value.h"
 
 #include <span>
@@ -11,11 +12,6 @@
 /// The delimited text of a settings file: one value a line, in a fixed order, no header.
 namespace korvel
 {
-
-/// What a window expects at a place of its record. An empty item is accepted everywhere. The last
-/// four are texts too, of boxes in which anything can be typed: what is usual there tells where
-/// the values of a record belong that has lost a line.
-enum class Kind { Text, Number, Tick, Any, Figure, Moment, Latitude, Longitude };
 
 /// The text of a record: texts between double quotes, numbers as the shortest plain digits that
 /// read back the same, #TRUE# and #FALSE#, an empty line for what was never set; CR LF after each.
@@ -33,13 +29,16 @@ struct ReadRecord {
     std::string damageText() const; ///< the first words of it, for a message
 };
 
-/// Reads a record of the given kinds, and what can be read of a damaged one: a value that is of
-/// another kind, not closed or not UTF-8 is passed over and the next one taken from the next line.
-/// A text that ends early, or goes on behind the last value, is damaged too; when its values stand
-/// in each other's places, those that can be told are put right and the others not read. LF alone
-/// ends a line, a comma parts two values on one line, empty lines at the end are nothing.
+/// Reads a record of the given kinds, what is expected at each place, and what can be read of a
+/// damaged one: a value that is of another kind, not closed or not UTF-8 is passed over and the
+/// next one taken from the next line. A text that ends early, or goes on behind the last value, is
+/// damaged too; when its values stand in each other's places, those that can be told are put right
+/// and the others not read. LF alone ends a line, a comma parts two values on one line, empty lines
+/// at the end are nothing. An empty item is accepted everywhere. What is typed (figures, positions,
+/// moments) is a text too; what is usual there tells where the values of a record belong that has
+/// lost a line.
 /// @param text UTF-8, a leading byte-order mark is skipped
-ReadRecord readRecord(std::string_view text, std::span<const Kind> kinds);
+ReadRecord readRecord(std::string_view text, std::span<const FieldKind> kinds);
 
 /// A text without control characters: line ends and tabulators become blanks, the others go.
 /// @param text UTF-8

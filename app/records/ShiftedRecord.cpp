@@ -17,33 +17,35 @@ bool isWithin(const std::string& text, double limit)
 }
 
 /// Whether a text is what is typed in boxes of the kind.
-bool looksLike(const std::string& text, Kind kind)
+bool looksLike(const std::string& text, FieldKind kind)
 {
     if (text.empty()) return true;
     switch (kind) {
-    case Kind::Figure:
+    case FieldKind::Figure:
+    case FieldKind::Angle:
         return isNumeric(text);
-    case Kind::Latitude:
+    case FieldKind::Latitude:
         return isWithin(text, 90);
-    case Kind::Longitude:
+    case FieldKind::Longitude:
         return isWithin(text, 180);
-    case Kind::Moment:
+    case FieldKind::Moment:
         return text.find_first_of("/:") != std::string::npos;
-    case Kind::Text:
-    case Kind::Any:
+    case FieldKind::Text:
+    case FieldKind::Any:
         return true;
-    case Kind::Number:
-    case Kind::Tick:
+    case FieldKind::Number:
+    case FieldKind::Tick:
         break;
     }
     return false;
 }
 
-bool isOf(const PerhapsValue& value, Kind kind)
+bool isOf(const PerhapsValue& value, FieldKind kind)
 {
-    if (!value || kind == Kind::Any || std::holds_alternative<std::monostate>(*value)) return true;
-    if (kind == Kind::Tick) return std::holds_alternative<bool>(*value);
-    if (kind == Kind::Number) return std::holds_alternative<double>(*value);
+    if (!value || kind == FieldKind::Any || std::holds_alternative<std::monostate>(*value))
+        return true;
+    if (kind == FieldKind::Tick) return std::holds_alternative<bool>(*value);
+    if (kind == FieldKind::Number) return std::holds_alternative<double>(*value);
     return std::holds_alternative<std::string>(*value) && looksLike(textOf(*value), kind);
 }
 
@@ -51,7 +53,7 @@ bool isOf(const PerhapsValue& value, Kind kind)
 class Shift
 {
 public:
-    Shift(std::span<const PerhapsValue> values, std::span<const Kind> kinds)
+    Shift(std::span<const PerhapsValue> values, std::span<const FieldKind> kinds)
         : m_values(values), m_kinds(kinds), m_end(std::min(values.size(), kinds.size()))
     {
     }
@@ -79,14 +81,14 @@ public:
 
 private:
     std::span<const PerhapsValue> m_values;
-    std::span<const Kind> m_kinds;
+    std::span<const FieldKind> m_kinds;
     std::size_t m_end;
 };
 
 } // namespace
 
 std::optional<std::vector<PerhapsValue>> putIntoPlaces(std::span<const PerhapsValue> values,
-                                                       std::span<const Kind> kinds)
+                                                       std::span<const FieldKind> kinds)
 {
     const Shift shift(values, kinds);
     std::size_t fewest = shift.misfits(shift.end());

@@ -22,6 +22,6 @@ using PerhapsValue = std::optional<Value>;
 /// @return one for each kind; nothing at all when the values fit their places as they come, for
 ///         such a record has lost its end
 std::optional<std::vector<PerhapsValue>> putIntoPlaces(std::span<const PerhapsValue> values,
-                                                       std::span<const Kind> kinds);
+                                                       std::span<const FieldKind> kinds);
 
 } // namespace korvel

@@ -109,8 +109,8 @@ void ConversionWindow::addMenus()
 
 void ConversionWindow::useConversionSettings(const char* file)
 {
-    std::vector<Kind> kinds(m_boxes.size(), Kind::Figure);
-    kinds.push_back(Kind::Number);
+    std::vector<FieldKind> kinds(m_boxes.size(), FieldKind::Figure);
+    kinds.push_back(FieldKind::Number);
     const auto save = [this] {
         Record values;
         for (const KeyUpBox* box : m_boxes)

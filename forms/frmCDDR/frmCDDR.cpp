@@ -30,9 +30,10 @@ constexpr std::size_t course = 6, distance = 7;
 
 frmCDDR::frmCDDR(Program& program)
     : CalculatorWindow(program, "frmCDDR", "Course, distance and dead reckoning"),
-      m_txtCDDR(addFields(CDDRFields))
+      m_txtCDDR(addFields(CDDRFields)), m_lblCD(addResults(CDResults)),
+      m_lblDR(addResults(DRResults))
 {
-    addLabelsOfResults();
+    setCopies();
     addOptions();
     auto* columns = new QHBoxLayout(scrollBody());
     layOutBody(*columns);
@@ -41,22 +42,18 @@ frmCDDR::frmCDDR(Program& program)
     foldColumns();
     addMenus();
 
-    calculations().add({"Course and distance",
-                        m_txtCDDR.part(courseAndDistance, 4),
-                        {m_lblCDDR[0], m_lblCDDR[1]},
+    calculations().add({"Course and distance", m_txtCDDR.part(courseAndDistance, 4), m_lblCD.all(),
                         [this] { runCD(); }});
     calculations().add(
-        {"Dead reckoning", m_txtCDDR.part(deadReckoning, 4), {m_lblCDDR[2], m_lblCDDR[3]}, [this] {
-             runDR();
-         }});
+        {"Dead reckoning", m_txtCDDR.part(deadReckoning, 4), m_lblDR.all(), [this] { runDR(); }});
     record().useTexts("KV_CDDR.ini", m_txtCDDR.all());
     loadSettings();
     m_txtCDDR[0]->setFocus();
 }
 
-void frmCDDR::addLabelsOfResults()
+/// The whole position is copied, whichever of its halves is asked for.
+void frmCDDR::setCopies()
 {
-    m_lblCDDR = addLabels<4>("lblCDDR");
     const auto copyReached = [this] {
         if (!m_dr.latitudeReached) return QString();
         const auto axisText = m_dr.longitudeReached
@@ -64,8 +61,15 @@ void frmCDDR::addLabelsOfResults()
                                   : positionForCopy(*m_dr.latitudeReached, Axis::Latitude);
         return QString::fromStdString(axisText);
     };
-    m_lblCDDR[2]->copyText = copyReached;
-    m_lblCDDR[3]->copyText = copyReached;
+    for (ResultLabel* label : m_lblDR.all())
+        label->copyText = copyReached;
+    const auto inFull = [](const auto& angle, Axis axis) {
+        return angle ? positionForCopy(*angle, axis) : std::string();
+    };
+    m_lblDR[0]->paperText = [this, inFull] { return inFull(m_dr.latitudeReached, Axis::Latitude); };
+    m_lblDR[1]->paperText = [this, inFull] {
+        return inFull(m_dr.longitudeReached, Axis::Longitude);
+    };
 }
 
 void frmCDDR::addOptions()
@@ -76,7 +80,7 @@ void frmCDDR::addOptions()
         auto* option = new QRadioButton(field.kind == FieldKind::Latitude ? (positive ? "N" : "S")
                                                                           : (positive ? "E" : "W"));
         option->setObjectName(memberName("optNSEW", static_cast<int>(index)));
-        option->setAccessibleName(nameInWords(field) + ", " + option->text());
+        option->setAccessibleName(field.words + (", " + option->text()));
         m_optNSEW[index] = option;
         connect(option, &QRadioButton::clicked, this, [this, index] { optNSEW_Click(index); });
     }
@@ -110,8 +114,7 @@ QGroupBox* frmCDDR::layOutCD()
     addPositionRow(grid, 1, 1);
     addPositionRow(grid, 2, 2);
     addPositionRow(grid, 3, 3);
-    addResultRow(grid, 4, "Course", m_lblCDDR[0], "degrees true");
-    addResultRow(grid, 5, "Distance", m_lblCDDR[1], "nautical miles");
+    m_lblCD.addRows(grid, 4);
     grid->setRowStretch(6, 1);
     return group;
 }
@@ -124,8 +127,7 @@ QGroupBox* frmCDDR::layOutDR()
     addPositionRow(grid, 1, deadReckoning + 1);
     m_txtCDDR.addRow(grid, 2, course);
     m_txtCDDR.addRow(grid, 3, distance);
-    addResultRow(grid, 4, "Latitude reached", m_lblCDDR[2], "");
-    addResultRow(grid, 5, "Longitude reached", m_lblCDDR[3], "");
+    m_lblDR.addRows(grid, 4);
     grid->setRowStretch(6, 1);
     return group;
 }
@@ -205,32 +207,21 @@ void frmCDDR::runCD()
 {
     m_cd = {};
     m_cd = CalculateCD({m_txtCDDR.texts<0, 4>(), program().earth()});
-    m_lblCDDR[0]->setText(QString::fromStdString(m_cd.course));
-    m_lblCDDR[1]->setText(QString::fromStdString(m_cd.distance));
-    setNotice("1 CD", QString::fromStdString(m_cd.notice), levelBeside(m_cd.leg.has_value()));
+    m_lblCD.show(m_cd);
+    setNotice("1 CD", asQString(m_cd.notice), levelBeside(m_cd.leg.has_value()));
 }
 
 void frmCDDR::runDR()
 {
     m_dr = {};
     m_dr = CalculateDR({m_txtCDDR.texts<4, 4>(), program().earth()});
-    m_lblCDDR[2]->setText(QString::fromStdString(m_dr.latitude));
-    m_lblCDDR[3]->setText(QString::fromStdString(m_dr.longitude));
-    setNotice("2 DR", QString::fromStdString(m_dr.notice),
-              levelBeside(m_dr.longitudeReached.has_value()));
+    m_lblDR.show(m_dr);
+    setNotice("2 DR", asQString(m_dr.notice), levelBeside(m_dr.longitudeReached.has_value()));
 }
 
 WorkingPaper frmCDDR::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
-    paper.results.clear();
-    for (const ResultLabel* label : std::span(m_lblCDDR).first<2>())
-        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
-    const auto addReached = [&](const ResultLabel& label, const auto& angle, Axis axis) {
-        if (angle) paper.results.push_back(paperFigure(label, positionForCopy(*angle, axis)));
-    };
-    addReached(*m_lblCDDR[2], m_dr.latitudeReached, Axis::Latitude);
-    addReached(*m_lblCDDR[3], m_dr.longitudeReached, Axis::Longitude);
     paper.workings = {courseAndDistanceWorking(m_cd, program().earth()),
                       deadReckoningWorking(m_dr, program().earth())};
     paper.limits = sailingLimits(program().earth());
@@ -262,7 +253,7 @@ void frmCDDR::checkValueName(std::size_t field)
 /// South was chosen before the figure was typed, and a figure without a minus sign is north.
 void frmCDDR::sayTurned(std::size_t field, bool turned)
 {
-    const QString name = nameInWords(CDDRFields[field]);
+    const QString name = CDDRFields[field].words;
     setNotice("3 " + name,
               turned
                   ? QString("%1 is %2 as typed: %3 needs a minus sign or the button.")

@@ -23,7 +23,7 @@ protected:
 private:
     static constexpr std::size_t positionFields = 6; ///< txtCDDR(0) .. (5)
 
-    void addLabelsOfResults();
+    void setCopies();
     void addOptions();
     QGroupBox* layOutCD();
     QGroupBox* layOutDR();
@@ -43,7 +43,8 @@ private:
     void clearCalculator(std::size_t first);
 
     FieldBoxes m_txtCDDR;
-    std::array<ResultLabel*, 4> m_lblCDDR{};
+    ResultLabels<CDResult> m_lblCD;
+    ResultLabels<DRResult> m_lblDR;
     std::array<QRadioButton*, 12> m_optNSEW{};
     std::array<bool, positionFields> m_chosenNegative{}; ///< S or W was chosen last
     std::array<bool, positionFields> m_choiceIsOver{};   ///< a figure was typed for it

@@ -21,8 +21,6 @@ constexpr const char* barrelFormat = "0.00";
 constexpr const char* tonFormat = "0.000";
 constexpr const char* factorFormat = "0.0000000";
 
-using Form = NumberField::Form;
-
 /// The number in a box; nothing, and no word about it, when the box is empty.
 std::optional<double> numberIn(const std::string& box, const NumberField& field, Remarks& remarks)
 {
@@ -145,8 +143,8 @@ std::optional<Observed> observedOf(const CrudeInput& input, Remarks& remarks)
 {
     const char* const unit = input.volumeUnit == VolumeUnit::Kilolitres ? "kL" : "bbl";
     const auto volume = numberIn(input.volume, {"volume", 0, HUGE_VAL, unit}, remarks);
-    const auto water =
-        readField(input.freeWater, {"free water", 0, HUGE_VAL, unit, Form::Plain, 0}, remarks);
+    const auto water = readField(input.freeWater,
+                                 {"free water", 0, HUGE_VAL, unit, FieldKind::Figure, 0}, remarks);
     if (!volume || !water) return std::nullopt;
     if (*water > *volume) {
         remarks.fault("free water exceeds the volume");
@@ -157,8 +155,8 @@ std::optional<Observed> observedOf(const CrudeInput& input, Remarks& remarks)
 
 std::optional<double> netPartOf(const CrudeInput& input, Remarks& remarks)
 {
-    const auto percent = readField(input.sedimentAndWater,
-                                   {"sediment and water", 0, 100, "%", Form::Plain, 0}, remarks);
+    const auto percent = readField(
+        input.sedimentAndWater, {"sediment and water", 0, 100, "%", FieldKind::Figure, 0}, remarks);
     if (!percent) return std::nullopt;
     return 1 - *percent / 100;
 }

@@ -192,9 +192,9 @@ void frmCRUDE::addMemoMenus()
 
 void frmCRUDE::useCrudeSettings()
 {
-    std::vector<Kind> kinds = recordKinds(m_boxes.all());
-    kinds.insert(kinds.end(), m_choices.size(), Kind::Number);
-    kinds.push_back(Kind::Tick);
+    std::vector<FieldKind> kinds = recordKinds(m_boxes.all());
+    kinds.insert(kinds.end(), m_choices.size(), FieldKind::Number);
+    kinds.push_back(FieldKind::Tick);
     const auto save = [this] {
         Record values;
         for (const EntryBox* box : m_boxes.all())
@@ -252,11 +252,11 @@ std::vector<PaperFigure> frmCRUDE::paperInputs(const std::vector<PaperFigure>& b
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         PaperFigure figure = boxes[i];
         const bool isEmpty = m_boxes[i]->text().isEmpty();
-        const auto unit = m_boxes[i]->accessibleName().section(", ", 1).section(',', 0, 0);
+        const std::string unit = unitOf(i).toStdString();
         if ((i == ObservedTemperature && !isObserved) || (i == KLperBbl && isEmpty)) continue;
-        if (!isEmpty) figure.unit = unit.toStdString();
+        if (!isEmpty) figure.unit = unit;
         if (isEmpty && (i == FreeWater || i == SedimentAndWater))
-            figure.value = "0 " + unit.toStdString() + " (nothing entered)";
+            figure.value = "0 " + unit + " (nothing entered)";
         if (isEmpty && i == ObservedTemperature)
             figure.value = "that of the cargo (nothing entered)";
         if (i == Density && isObserved && !isEmpty)
@@ -294,14 +294,25 @@ void frmCRUDE::showUnits()
     m_boxes[ObservedTemperature]->setEnabled(observed);
     m_cboReadWith->setEnabled(observed);
     m_boxes[Density]->setNext(m_boxes[observed ? ObservedTemperature : SedimentAndWater]);
-    const auto measured = [this](std::size_t field, const QString& unit) {
-        m_boxes[field]->setAccessibleName(CrudeFields[field].accessibleName + (", " + unit));
-    };
-    measured(Volume, volume);
-    measured(FreeWater, volume);
-    measured(Temperature, temperature);
-    measured(Density, m_cboDensityBase->currentText());
-    measured(ObservedTemperature, temperature);
+    for (const std::size_t field : {Volume, FreeWater, Temperature, Density, ObservedTemperature})
+        m_boxes[field]->setAccessibleName(CrudeFields[field].words + (", " + unitOf(field)));
+}
+
+/// The unit that was chosen for a box, or its own.
+QString frmCRUDE::unitOf(std::size_t field) const
+{
+    switch (field) {
+    case Volume:
+    case FreeWater:
+        return m_cboVolumeUnit->currentText();
+    case Temperature:
+    case ObservedTemperature:
+        return m_cboTemperatureUnit->currentText();
+    case Density:
+        return m_cboDensityBase->currentText();
+    default:
+        return CrudeFields[field].measure;
+    }
 }
 
 void frmCRUDE::clearCargo()

@@ -41,6 +41,7 @@ private:
     std::vector<PaperFigure> paperInputs(const std::vector<PaperFigure>& boxes) const;
     void run();
     void showUnits();
+    QString unitOf(std::size_t field) const;
     void clearCargo();
 
     FieldBoxes m_boxes;

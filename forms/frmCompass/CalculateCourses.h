@@ -20,20 +20,20 @@ enum class CourseGiven { TrueHead, GyroHead, CompassHead, Track };
 enum class CourseBox { Course, Speed, Leeway, Set, Drift, GyroError, Variation, Deviation };
 
 inline constexpr std::array<Field, 8> CourseFields = {{
-    {"txtCourses(0)", "Course", "Course, degrees, 0 to 360", FieldKind::Number, "degrees", 0, 360},
-    {"txtCourses(1)", "Speed", "Speed through the water, knots", FieldKind::Number, "knots", 0,
+    {"txtCourses(0)", "Course", "Course", "degrees", FieldKind::Figure, "degrees", 0, 360},
+    {"txtCourses(1)", "Speed", "Speed through the water", "knots", FieldKind::Figure, "knots", 0,
      100},
-    {"txtCourses(2)", "Leeway", "Leeway, degrees, to port negative", FieldKind::Number, "degrees",
-     -45, 45},
-    {"txtCourses(3)", "Set", "Set of the current, degrees true, 0 to 360", FieldKind::Number,
-     "degrees", 0, 360},
-    {"txtCourses(4)", "Drift", "Drift of the current, knots", FieldKind::Number, "knots", 0, 30},
-    {"txtCourses(5)", "Gyro error", "Gyro error, degrees, west negative or with a W",
-     FieldKind::Number, "degrees", -180, 180},
-    {"txtCourses(6)", "Variation", "Variation, degrees, west negative or with a W",
-     FieldKind::Number, "degrees", -180, 180},
-    {"txtCourses(7)", "Deviation", "Deviation, degrees, west negative or with a W",
-     FieldKind::Number, "degrees", -180, 180},
+    {"txtCourses(2)", "Leeway", "Leeway", "degrees", FieldKind::Figure, "degrees", -45, 45,
+     "to port negative"},
+    {"txtCourses(3)", "Set", "Set of the current", "degrees true", FieldKind::Figure, "degrees", 0,
+     360},
+    {"txtCourses(4)", "Drift", "Drift of the current", "knots", FieldKind::Figure, "knots", 0, 30},
+    {"txtCourses(5)", "Gyro error", "Gyro error", "degrees", FieldKind::Figure, "degrees", -180,
+     180, "west negative or with a W"},
+    {"txtCourses(6)", "Variation", "Variation", "degrees", FieldKind::Figure, "degrees", -180, 180,
+     "west negative or with a W"},
+    {"txtCourses(7)", "Deviation", "Deviation", "degrees", FieldKind::Figure, "degrees", -180, 180,
+     "west negative or with a W"},
 }};
 
 struct CourseInput {

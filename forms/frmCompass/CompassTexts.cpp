@@ -15,12 +15,6 @@ namespace
 
 using NavFunc113::Degrees;
 
-std::string_view shortName(const Field& field)
-{
-    const std::string_view name = field.accessibleName;
-    return name.substr(0, name.find(','));
-}
-
 } // namespace
 
 std::string eastWestText(Degrees angle)
@@ -52,15 +46,13 @@ bool isBlankBox(std::string_view box)
 
 std::optional<double> readFilled(std::string_view box, const Field& field, Remarks& remarks)
 {
-    const NumberField number{shortName(field), field.low, field.high, field.unit};
+    const NumberField number{field.words, field.low, field.high, field.unit};
     return readIfTyped(box, number, remarks);
 }
 
 std::optional<Degrees> readCoordinate(std::string_view box, const Field& field, Remarks& remarks)
 {
-    const auto form = field.kind == FieldKind::Latitude ? NumberField::Form::Latitude
-                                                        : NumberField::Form::Longitude;
-    const NumberField number{shortName(field), field.low, field.high, field.unit, form};
+    const NumberField number{field.words, field.low, field.high, field.unit, field.kind};
     const auto packed = readAngleIfTyped(box, number, remarks);
     if (!packed) return std::nullopt;
     return DegMinToDeg(*packed);
@@ -77,7 +69,7 @@ std::optional<Degrees> readEastWest(std::string_view box, const Field& field, Re
     const auto value = readFilled(typed, field, remarks);
     if (!value) return std::nullopt;
     if ((isEast || isWest) && *value < 0) {
-        remarks.fault(std::string(shortName(field)) + ": a minus and a letter, write one of them");
+        remarks.fault(std::string(field.words) + ": a minus and a letter, write one of them");
         return std::nullopt;
     }
     return Degrees(isWest ? -*value : *value);

@@ -91,8 +91,8 @@ void frmETA::addResults()
     m_lblSPD = addLabels<5>("lblSPD");
     m_lblETA = addLabels<5>("lblETA");
     for (std::size_t i = 0; i < m_lblETA.size(); ++i) {
-        m_lblSPD[i]->setAccessibleName(QString("Speed %1, knots").arg(i + 1));
-        m_lblETA[i]->setAccessibleName(QString("Arrival %1, local time").arg(i + 1));
+        m_lblSPD[i]->declare(QString("Speed %1").arg(i + 1), "knots");
+        m_lblETA[i]->declare(QString("Arrival %1").arg(i + 1), "local time");
     }
     m_lblReqSpd = addLabel("lblReqSpd");
     m_lblReqSpd->setRoom("0000.00");

@@ -26,17 +26,17 @@ constexpr const char* widestLongitude = "000.00'0W";
 constexpr const char* widestDistance = "00000.'0";
 constexpr const char* widestVertex[] = {"00°00.0' N  ", "000°00.0' W"};
 
-using Holds = TableColumn::Holds;
+using Label = TableColumn::Label;
 enum : std::size_t { Number, Latitude, Longitude, Course, Distance };
 
 constexpr std::array<TableColumn, 5> waypointColumns = {{
-    {"lblWpNo", "No.", "Dep. ", Holds::Number, "Waypoint %1", Qt::AlignRight},
-    {"lblWpLat", "Latitude", widestLatitude, Holds::Result, "Latitude of waypoint %1",
+    {"lblWpNo", "No.", "Dep. ", Label::RowNumber, "Waypoint %1", Qt::AlignRight},
+    {"lblWpLat", "Latitude", widestLatitude, Label::Result, "Latitude of waypoint %1",
      Qt::AlignRight},
-    {"lblWpLong", "Longitude", widestLongitude, Holds::Result, "Longitude of waypoint %1",
+    {"lblWpLong", "Longitude", widestLongitude, Label::Result, "Longitude of waypoint %1",
      Qt::AlignRight},
-    {"lblWpCo", "Course", widestCourse, Holds::Result, "Course from waypoint %1", Qt::AlignRight},
-    {"lblWpDist", "Miles to next", "00000.'0 ", Holds::Result, "Miles from waypoint %1 to the next",
+    {"lblWpCo", "Course", widestCourse, Label::Result, "Course from waypoint %1", Qt::AlignRight},
+    {"lblWpDist", "Miles to next", "00000.'0 ", Label::Result, "Miles from waypoint %1 to the next",
      Qt::AlignRight},
 }};
 
@@ -88,9 +88,6 @@ void frmGC2000::addResults()
     m_lblVertexLong = addLabel("lblVertexLong");
     m_lblVertexRemark = addLabel("lblVertexRemark");
     m_lblSaving = addLabel("lblSaving");
-    m_lblVertexLat->setAccessibleName("Vertex latitude");
-    m_lblVertexLong->setAccessibleName("Vertex longitude");
-    m_lblVertexRemark->setAccessibleName("Vertex");
     m_picGC = new GCPicture(program());
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.
@@ -151,9 +148,9 @@ QWidget* frmGC2000::layOutTrack()
     const QFontMetrics metrics(m_lblSaving->font());
     addResultRow(grid, 0, "Initial course", m_lblInitialCourse, "degrees true");
     addResultRow(grid, 1, "Final course", m_lblFinalCourse, "degrees true");
-    m_lblVertexLat->setAccessibleName("Latitude of the vertex");
-    m_lblVertexLong->setAccessibleName("Longitude of the vertex");
-    m_lblVertexRemark->setAccessibleName("Place of the vertex");
+    m_lblVertexLat->declare("Latitude of the vertex");
+    m_lblVertexLong->declare("Longitude of the vertex");
+    m_lblVertexRemark->declare("Place of the vertex");
     grid->addWidget(new QLabel("Vertex"), 2, 0);
     grid->addWidget(m_lblVertexLat, 2, 1);
     grid->addWidget(m_lblVertexLong, 2, 2);

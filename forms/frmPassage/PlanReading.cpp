@@ -17,11 +17,10 @@ namespace
 
 using NavFunc113::DegMin;
 using NavFunc113::Hours;
-using Form = NumberField::Form;
 
-constexpr NumberField latitudeField{"Latitude", -90, 90, "degrees", Form::Latitude};
-constexpr NumberField longitudeField{"Longitude", -180, 180, "degrees", Form::Longitude};
-constexpr NumberField limitField{"Limiting latitude", -90, 90, "degrees", Form::Latitude};
+constexpr NumberField latitudeField{"Latitude", -90, 90, "degrees", FieldKind::Latitude};
+constexpr NumberField longitudeField{"Longitude", -180, 180, "degrees", FieldKind::Longitude};
+constexpr NumberField limitField{"Limiting latitude", -90, 90, "degrees", FieldKind::Latitude};
 constexpr NumberField speedField{"Speed", 0, 100, "knots"};
 constexpr NumberField stopField{"Stop", 0, 10000, "hours"};
 constexpr NumberField zoneField{"Zone", -12, 14, "hours"};

@@ -8,7 +8,7 @@ namespace korvel
 namespace
 {
 
-using Holds = TableColumn::Holds;
+using Label = TableColumn::Label;
 enum : std::size_t {
     Number,
     SMT,
@@ -26,27 +26,27 @@ enum : std::size_t {
 };
 
 constexpr std::array<TableColumn, 13> columns = {{
-    {"lblRow", "No.", "29 !", Holds::Number, "Row %1, number", Qt::AlignRight},
-    {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", Holds::Moment,
+    {"lblRow", "No.", "29 !", Label::RowNumber, "Row %1, number", Qt::AlignRight},
+    {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", FieldKind::Moment,
      "Row %1, ship's mean time of the fix, 0930 or 14-0930 or 2024/5/14 0930"},
-    {"txtSatelliteTD", "TD h", "-00.0", Holds::Figure,
+    {"txtSatelliteTD", "TD h", "-00.0", FieldKind::Figure,
      "Row %1, time difference, hours, east positive"},
-    {"txtLat", "Latitude", "-00.00000", Holds::Latitude,
+    {"txtLat", "Latitude", "-00.00000", FieldKind::Latitude,
      "Row %1, latitude, degrees.minutes, north positive"},
-    {"", "", "00°00.000' N", Holds::Echo},
-    {"txtLong", "Longitude", "-000.00000", Holds::Longitude,
+    {"", "", "00°00.000' N", Label::Echo},
+    {"txtLong", "Longitude", "-000.00000", FieldKind::Longitude,
      "Row %1, longitude, degrees.minutes, east positive"},
-    {"", "", "000°00.000' W", Holds::Echo},
-    {"lblUTC", "UTC", "2000/00/00 00:00", Holds::Result, "Row %1, UTC", Qt::AlignLeft, false, true},
-    {"lblCourse", "Course", "<000.0>", Holds::Result,
+    {"", "", "000°00.000' W", Label::Echo},
+    {"lblUTC", "UTC", "2000/00/00 00:00", Label::Result, "Row %1, UTC", Qt::AlignLeft, false, true},
+    {"lblCourse", "Course", "<000.0>", Label::Result,
      "Row %1, course to the next fix, degrees true"},
-    {"lblDistance", "Dist. nm", "00000.'0", Holds::Result,
+    {"lblDistance", "Dist. nm", "00000.'0", Label::Result,
      "Row %1, distance to the next fix, nautical miles", Qt::AlignRight},
-    {"lblHours", "Hours", "-0000.00", Holds::Result, "Row %1, hours to the next fix",
+    {"lblHours", "Hours", "-0000.00", Label::Result, "Row %1, hours to the next fix",
      Qt::AlignRight},
-    {"lblSpeed", "Knots", "000.00", Holds::Result, "Row %1, speed to the next fix, knots",
+    {"lblSpeed", "Knots", "000.00", Label::Result, "Row %1, speed to the next fix, knots",
      Qt::AlignRight},
-    {"lblDayRun", "Day's run", "0000.'0 in 000.0 h", Holds::Result,
+    {"lblDayRun", "Day's run", "0000.'0 in 000.0 h", Label::Result,
      "Row %1, day's run, nautical miles"},
 }};
 

@@ -20,9 +20,8 @@ using NavFunc113::DegMin;
 constexpr double clockLeeway = 2.0 / 1440; ///< days by which the ship's clock may be slow
 
 constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
-constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", NumberField::Form::Latitude};
-constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees",
-                                     NumberField::Form::Longitude};
+constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", FieldKind::Latitude};
+constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees", FieldKind::Longitude};
 
 std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
 {

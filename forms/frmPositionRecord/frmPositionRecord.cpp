@@ -23,9 +23,9 @@ namespace
 {
 
 constexpr std::array<Field, 2> steeredFields = {{
-    {"txtCourseSteered", "&Course steered",
-     "Course steered since the last fix but one, degrees true", FieldKind::Number, "°"},
-    {"txtSpeedSteered", "&Speed steered", "Speed steered, knots", FieldKind::Number, "kn"},
+    {"txtCourseSteered", "&Course steered", "Course steered since the last fix but one",
+     "degrees true", FieldKind::Figure, "°"},
+    {"txtSpeedSteered", "&Speed steered", "Speed steered", "knots", FieldKind::Figure, "kn"},
 }};
 
 } // namespace
@@ -53,8 +53,7 @@ void frmPositionRecord::addTotals()
     auto* below = new QWidget;
     auto* cells = new CellLayout(below, 4, Qt::Horizontal);
     const auto put = [&](const QString& caption, QWidget* field, const QString& unit) {
-        if (field->accessibleName().isEmpty())
-            field->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
+        if (auto* result = qobject_cast<ResultLabel*>(field)) result->declare(caption, unit);
         auto* label = new QLabel(caption);
         label->setBuddy(field);
         cells->addCell({label, field, new QLabel(unit)});

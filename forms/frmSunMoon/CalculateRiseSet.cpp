@@ -44,10 +44,9 @@ std::string refinedInWords(DateTime time)
 }
 
 /// The boxes of a row's numbers. An empty one makes no row.
-constexpr NumberField timeDifference{"TD", -12, 12, "hours", NumberField::Form::Plain, {}};
-constexpr NumberField latitude{"latitude", -63, 63, "degrees", NumberField::Form::Latitude, {}};
-constexpr NumberField longitude{"longitude", -180, 180, "degrees", NumberField::Form::Longitude,
-                                {}};
+constexpr NumberField timeDifference{"TD", -12, 12, "hours", FieldKind::Figure, {}};
+constexpr NumberField latitude{"latitude", -63, 63, "degrees", FieldKind::Latitude, {}};
+constexpr NumberField longitude{"longitude", -180, 180, "degrees", FieldKind::Longitude, {}};
 
 /// Reads a row's number; stores it when it can be used.
 template <typename Unit>

@@ -25,39 +25,40 @@ constexpr int daysEachWay = 366; // of the scroll bar
 constexpr int longestPlace = 24; ///< characters of a name in the notice line
 
 constexpr std::array<Field, 1> dateFields = {
-    {{"txtSunMoon", "&Date", "Date, year/month/day", FieldKind::Moment, "yyyy/m/d"}}};
+    {{"txtSunMoon", "&Date", "Date", "year/month/day", FieldKind::Moment, "yyyy/m/d"}}};
 
-using Holds = TableColumn::Holds;
+using Label = TableColumn::Label;
 enum : std::size_t { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Results };
 
 constexpr TableColumn timeColumn(const char* name, const char* heading, const char* words,
                                  bool startsGroup = false)
 {
-    return {name, heading, "0000LT", Holds::Result, words, Qt::AlignRight, false, startsGroup};
+    return {name, heading, "0000LT", Label::Result, words, Qt::AlignRight, false, startsGroup};
 }
 
 constexpr TableColumn azimuthColumn(const char* name, const char* heading, const char* words)
 {
-    return {name, heading, "<000.0>", Holds::Result, words, Qt::AlignRight};
+    return {name, heading, "<000.0>", Label::Result, words, Qt::AlignRight};
 }
 
 /// Of the event before it.
 constexpr TableColumn refinedColumn(const char* name, const char* words)
 {
-    return {name, "", "000.0", Holds::Correction, words, Qt::AlignLeft};
+    return {name, "", "000.0", Label::Correction, words, Qt::AlignLeft};
 }
 
 constexpr std::array<TableColumn, 19> tableColumns = {{
-    {"lblNumber", "", "16", Holds::Number, "Row %1", Qt::AlignRight},
-    {"txtLocation", "Place", "Yokohama", Holds::Text, "Place name, row %1", Qt::AlignLeft, true},
-    {"txtTD", "TD\nhours", "-12.000", Holds::Figure,
+    {"lblNumber", "", "16", Label::RowNumber, "Row %1", Qt::AlignRight},
+    {"txtLocation", "Place", "Yokohama", FieldKind::Text, "Place name, row %1", Qt::AlignLeft,
+     true},
+    {"txtTD", "TD\nhours", "-12.000", FieldKind::Figure,
      "Time difference from UTC, hours, east positive, row %1"},
-    {"txtLatitude", "Latitude\ndeg.min", "-62.30.550", Holds::Latitude,
+    {"txtLatitude", "Latitude\ndeg.min", "-62.30.550", FieldKind::Latitude,
      "Latitude, degrees.minutes, north positive, up to 63, row %1"},
-    {"", "north +", "62°30.55' N !", Holds::Echo},
-    {"txtLongitude", "Longitude\ndeg.min", "-179.30.550", Holds::Longitude,
+    {"", "north +", "62°30.55' N !", Label::Echo},
+    {"txtLongitude", "Longitude\ndeg.min", "-179.30.550", FieldKind::Longitude,
      "Longitude, degrees.minutes, east positive, row %1"},
-    {"", "east +", "179°30.55' W !", Holds::Echo},
+    {"", "east +", "179°30.55' W !", Label::Echo},
     timeColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1", true),
     refinedColumn("lblSunRiseRefined", "Sunrise refined, row %1"),
     azimuthColumn("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth, row %1"),
@@ -98,7 +99,7 @@ frmSunMoon::frmSunMoon(Program& program)
     area->setHeading(m_table->makeHeading());
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, dateRow());
     m_lblRow = addLabel("lblRow");
-    m_lblRow->setAccessibleName("Row in hand");
+    m_lblRow->declare("Row in hand");
     m_lblRow->setFont(font());
     m_lblRow->setEliding();
     addBelow(m_lblRow);
@@ -122,7 +123,7 @@ void frmSunMoon::addControls()
     m_txtSunMoon = addFields(dateFields)[0];
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
     m_lblMoonAge = addLabel("lblMoonAge");
-    m_lblMoonAge->setAccessibleName("Moon's age, days");
+    m_lblMoonAge->declare("Moon's age", "days");
     m_lblMoonAge->setRoom("00.0 ");
     m_scrMoonSun = new QScrollBar(Qt::Horizontal, body());
     m_scrMoonSun->setObjectName("scrMoonSun");

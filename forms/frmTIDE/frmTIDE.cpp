@@ -41,7 +41,8 @@ frmTIDE::frmTIDE(Program& program)
 
     put(m_choice);
     record().use(
-        "KV_Tide.ini", {Kind::Tick, Kind::Text, Kind::Text}, [this] { return recordOf(m_choice); },
+        "KV_Tide.ini", {FieldKind::Tick, FieldKind::Text, FieldKind::Text},
+        [this] { return recordOf(m_choice); },
         [this](const Record& record) {
             const SavedChoice saved = choiceOf(record, m_dates);
             m_choice = saved.choice;

@@ -36,8 +36,7 @@ frmWeather::frmWeather(Program& program)
     m_lblVISIBILITY = addLabel("lblVISIBILITY");
     m_lblVISIBILITYnm = addLabel("lblVISIBILITYnm");
     m_lblWr = addLabel("lblWr");
-    m_lblVISIBILITYnm->setAccessibleName("Visibility in nautical miles");
-    m_lblWr->setAccessibleName("Weather");
+    m_lblWr->declare("Weather");
 
     auto* column = new QVBoxLayout(scrollBody());
     layOutBody(*column);
@@ -60,13 +59,13 @@ QGroupBox* frmWeather::layOutTerms()
         const int row = static_cast<int>(i);
         auto* caption = new QLabel(WeatherFields[i].caption);
         caption->setBuddy(m_boxes[i]);
-        terms[i]->setAccessibleName(nameInWords(WeatherFields[i]));
+        terms[i]->declare(WeatherFields[i].words);
         grid->addWidget(caption, row, 0);
         grid->addWidget(m_boxes[i], row, 1);
         grid->addWidget(new QLabel(WeatherFields[i].unit), row, 2);
         grid->addWidget(terms[i], row, 3);
     }
-    m_lblVISIBILITYnm->setAccessibleName("Visibility in miles");
+    m_lblVISIBILITYnm->declare("Visibility in miles");
     grid->addWidget(m_lblVISIBILITYnm, 2, 4);
     // Room for the longest terms, so that nothing moves while the officer types.
     const QFontMetrics metrics(m_lblVISIBILITY->font());

@@ -19,8 +19,6 @@ frmWind::frmWind(Program& program)
     : CalculatorWindow(program, "frmWind", "True wind"), m_txtWind(addFields(WindFields))
 {
     m_lblWind = addLabels<2>("lblWind");
-    m_lblWind[0]->setAccessibleName("True wind from");
-    m_lblWind[1]->setAccessibleName("Beaufort number and speed");
     m_picWind = new WindPictureBox(program);
     addOptions();
 
@@ -70,8 +68,8 @@ QGroupBox* frmWind::layOutResults()
 {
     auto* group = new QGroupBox("True wind");
     auto* grid = gridOf(group);
-    m_lblWind[0]->setAccessibleName("True wind from");
-    m_lblWind[1]->setAccessibleName("Force of the true wind");
+    m_lblWind[0]->declare("True wind from");
+    m_lblWind[1]->declare("Force of the true wind");
     grid->addWidget(new QLabel("From"), 0, 0);
     grid->addWidget(m_lblWind[0], 0, 1);
     grid->addWidget(new QLabel("Force"), 1, 0);
@@ -107,8 +105,8 @@ void frmWind::connectPicture()
 
 void frmWind::nameSettings()
 {
-    std::vector<Kind> kinds = recordKinds(m_txtWind.all());
-    kinds.push_back(Kind::Number);
+    std::vector<FieldKind> kinds = recordKinds(m_txtWind.all());
+    kinds.push_back(FieldKind::Number);
     record().use(
         "KV_Wind.ini", std::move(kinds),
         [this] {

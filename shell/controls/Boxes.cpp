@@ -189,9 +189,9 @@ void KeyUpBox::settle()
     if (onKeyUp) onKeyUp();
 }
 
-std::vector<Kind> recordKinds(const std::vector<EntryBox*>& boxes)
+std::vector<FieldKind> recordKinds(const std::vector<EntryBox*>& boxes)
 {
-    std::vector<Kind> kinds;
+    std::vector<FieldKind> kinds;
     kinds.reserve(boxes.size());
     for (const EntryBox* box : boxes)
         kinds.push_back(box->recordKind);

@@ -33,7 +33,7 @@ public:
     static constexpr int longestText = 100;
 
     /// What its text looks like in the window's record.
-    Kind recordKind = Kind::Text;
+    FieldKind recordKind = FieldKind::Text;
 
     /// Where Enter goes; nullptr leaves it in the box, all selected.
     void setNext(EntryBox* next) { m_next = next; }
@@ -104,7 +104,7 @@ private:
 };
 
 /// The kinds of their texts in a record.
-std::vector<Kind> recordKinds(const std::vector<EntryBox*>& boxes);
+std::vector<FieldKind> recordKinds(const std::vector<EntryBox*>& boxes);
 
 /// Lets Enter go through the boxes in this order, from the last back to the first.
 void setEntryOrder(const std::vector<EntryBox*>& boxes);

@@ -4,6 +4,7 @@
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
 #include "app/records/KORVEL2000Actions.h"
+#include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
 
@@ -16,37 +17,9 @@ namespace
 
 EntryBox* boxOf(const Field& field, QWidget* parent)
 {
-    switch (field.kind) {
-    case FieldKind::Latitude:
-        return new PositionBox(Axis::Latitude, parent);
-    case FieldKind::Longitude:
-        return new PositionBox(Axis::Longitude, parent);
-    case FieldKind::KeyUp:
-        return new KeyUpBox(parent);
-    case FieldKind::Text:
-    case FieldKind::Moment:
-    case FieldKind::Number:
-        break;
-    }
-    return new EntryBox(parent);
-}
-
-Kind recordKindOf(FieldKind kind)
-{
-    switch (kind) {
-    case FieldKind::Text:
-        return Kind::Text;
-    case FieldKind::Moment:
-        return Kind::Moment;
-    case FieldKind::Latitude:
-        return Kind::Latitude;
-    case FieldKind::Longitude:
-        return Kind::Longitude;
-    case FieldKind::Number:
-    case FieldKind::KeyUp:
-        break;
-    }
-    return Kind::Figure;
+    if (field.kind == FieldKind::Latitude) return new PositionBox(Axis::Latitude, parent);
+    if (field.kind == FieldKind::Longitude) return new PositionBox(Axis::Longitude, parent);
+    return field.onKeyRelease ? new KeyUpBox(parent) : new EntryBox(parent);
 }
 
 QString limitsInWords(const Field& field)
@@ -76,11 +49,12 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
     for (const Field& field : table) {
         EntryBox* box = boxOf(field, parent);
         box->setObjectName(field.name);
-        box->setAccessibleName(field.accessibleName);
-        box->recordKind = recordKindOf(field.kind);
+        box->setAccessibleName(asQString(accessibleName(field)));
+        box->recordKind = field.kind;
         box->setLimits(limitsInWords(field));
-        if (field.kind == FieldKind::Number || field.kind == FieldKind::KeyUp)
-            box->setReading({.name = {}, .low = field.low, .high = field.high});
+        if (field.kind == FieldKind::Figure || field.kind == FieldKind::Angle)
+            box->setReading(
+                {.name = {}, .low = field.low, .high = field.high, .kind = field.kind});
         // A position box tells what was understood in this place.
         if (!qobject_cast<PositionBox*>(box)) box->setAccessibleDescription(box->limits());
         if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
@@ -95,11 +69,6 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
 PositionBox* FieldBoxes::position(std::size_t field) const
 {
     return static_cast<PositionBox*>(m_boxes.at(field));
-}
-
-KeyUpBox* FieldBoxes::keyUp(std::size_t field) const
-{
-    return static_cast<KeyUpBox*>(m_boxes.at(field));
 }
 
 std::vector<EntryBox*> FieldBoxes::part(std::size_t first, std::size_t count) const
@@ -144,7 +113,7 @@ PaperFigure FieldBoxes::paperFigure(std::size_t field) const
 {
     const Field& declared = m_table[field];
     const std::string typed = m_boxes.at(field)->value();
-    PaperFigure figure{nameInWords(declared).toStdString(), typed, unitOnPaper(field)};
+    PaperFigure figure{declared.words, typed, unitOnPaper(field)};
     switch (declared.kind) {
     case FieldKind::Latitude:
         figure.value = positionEcho(typed, Axis::Latitude).text;
@@ -154,14 +123,14 @@ PaperFigure FieldBoxes::paperFigure(std::size_t field) const
         figure.value = positionEcho(typed, Axis::Longitude).text;
         figure.unit.clear();
         break;
-    case FieldKind::KeyUp:
-    case FieldKind::Number:
+    case FieldKind::Figure:
+    case FieldKind::Angle:
         if (const auto number = readLeadingNumber(typed)) figure.value = memoText(*number);
         break;
     case FieldKind::Moment:
         figure.value = momentInFull(typed);
         break;
-    case FieldKind::Text:
+    default:
         break;
     }
     if (typed.empty())
@@ -184,11 +153,6 @@ void FieldBoxes::addRow(QGridLayout* grid, int row, std::size_t field) const
         grid->addWidget(position->echo(), row, 2);
     else
         grid->addWidget(new QLabel(m_table[field].unit), row, 2, 1, -1);
-}
-
-QString nameInWords(const Field& field)
-{
-    return QString(field.accessibleName).section(',', 0, 0);
 }
 
 } // namespace korvel

@@ -25,7 +25,6 @@ public:
     std::size_t size() const { return m_boxes.size(); }
     EntryBox* operator[](std::size_t field) const { return m_boxes.at(field); }
     PositionBox* position(std::size_t field) const;
-    KeyUpBox* keyUp(std::size_t field) const;
 
     /// A run of boxes, for a calculation or a record.
     std::vector<EntryBox*> all() const { return m_boxes; }
@@ -58,8 +57,5 @@ private:
     std::span<const Field> m_table;
     std::vector<EntryBox*> m_boxes;
 };
-
-/// The first part of a field's accessible name: what it is, without how it is written.
-QString nameInWords(const Field& field);
 
 } // namespace korvel

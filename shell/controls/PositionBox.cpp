@@ -29,7 +29,7 @@ PositionBox::PositionBox(Axis axis, QWidget* parent)
     setReading({.name = {},
                 .low = -greatest,
                 .high = greatest,
-                .form = isLatitude ? NumberField::Form::Latitude : NumberField::Form::Longitude});
+                .kind = isLatitude ? FieldKind::Latitude : FieldKind::Longitude});
     m_echo->setFont(font());
     m_echo->passByTab(); // the box tells it with itself
     m_echo->copyText = [this] { return positionToCopy(); };

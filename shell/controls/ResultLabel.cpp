@@ -93,6 +93,15 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
     setFont(larger);
 }
 
+void ResultLabel::declare(const QString& words, const QString& unit, Weight weight)
+{
+    m_words = words;
+    m_unit = unit;
+    m_weight = weight;
+    // Out of its row the figure would be a bare number.
+    setAccessibleName(unit.isEmpty() ? words : words + ", " + unit);
+}
+
 void ResultLabel::setText(const QString& text)
 {
     if (text == this->text()) return;

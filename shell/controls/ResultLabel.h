@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/Result.h"
 #include "shell/controls/FigureText.h"
 
 #include <QLabel>
@@ -22,8 +23,17 @@ class ResultLabel : public QLabel
 public:
     explicit ResultLabel(QWidget* parent = nullptr);
 
+    /// What the figure is, once for assistive tools, papers and whoever draws it.
+    /// @param words "Distance"; @param unit "nautical miles"; empty when the text says it
+    void declare(const QString& words, const QString& unit = {}, Weight weight = Weight::Figure);
+    const QString& words() const { return m_words; }
+    const QString& unit() const { return m_unit; }
+    Weight weight() const { return m_weight; }
+
     /// What copying the whole label gives, when that is not its own text in plain form.
     std::function<QString()> copyText;
+    /// What a paper says, when the figure is written out there.
+    std::function<std::string()> paperText;
     /// Stores what copying gives in a memory; an empty function where there is none.
     std::function<void(const QString& copied)> storeInMemo;
 
@@ -79,6 +89,9 @@ private:
     mutable FigureText m_figures;
     QString m_widest = "00000000.000"; ///< what every result fits into but for odd ones
     int m_lines = 1;
+    QString m_words;
+    QString m_unit;
+    Weight m_weight = Weight::Figure;
     bool m_isTabStop = true;
     bool m_isEliding = false;
     bool m_isRoomByText = false;

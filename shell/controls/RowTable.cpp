@@ -14,35 +14,28 @@ namespace korvel
 namespace
 {
 
-using Holds = TableColumn::Holds;
-
-/// Nothing for what is no box.
-std::optional<Kind> recordKindOf(Holds holds)
-{
-    switch (holds) {
-    case Holds::Text:
-        return Kind::Text;
-    case Holds::Figure:
-        return Kind::Figure;
-    case Holds::Moment:
-        return Kind::Moment;
-    case Holds::Latitude:
-        return Kind::Latitude;
-    case Holds::Longitude:
-        return Kind::Longitude;
-    default:
-        return std::nullopt;
-    }
-}
+using Label = TableColumn::Label;
 
 bool isBox(const TableColumn& column)
 {
-    return recordKindOf(column.holds).has_value();
+    return std::holds_alternative<FieldKind>(column.holds);
+}
+
+bool holds(const TableColumn& column, std::variant<FieldKind, Label> what)
+{
+    return column.holds == what;
 }
 
 bool isResult(const TableColumn& column)
 {
-    return column.holds == Holds::Result || column.holds == Holds::Correction;
+    return holds(column, Label::Result) || holds(column, Label::Correction);
+}
+
+EntryBox* boxOf(FieldKind kind, QWidget* parent)
+{
+    if (kind == FieldKind::Latitude) return new PositionBox(Axis::Latitude, parent);
+    if (kind == FieldKind::Longitude) return new PositionBox(Axis::Longitude, parent);
+    return new EntryBox(parent);
 }
 
 /// Letters of a correction: smaller than captions, so that nobody takes it for the result.
@@ -77,42 +70,25 @@ RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows) : m_c
 
 QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const Line& before)
 {
+    if (holds(column, Label::Echo)) return static_cast<PositionBox*>(before.back())->echo();
     QWidget* made = nullptr;
-    switch (column.holds) {
-    case Holds::Echo:
-        return static_cast<PositionBox*>(before.back())->echo();
-    case Holds::Number:
+    if (const auto* kind = std::get_if<FieldKind>(&column.holds))
+        made = boxOf(*kind, this);
+    else if (holds(column, Label::RowNumber))
         made = new QLabel(QString::number(row + 1), this);
-        break;
-    case Holds::Result:
+    else
         made = new ResultLabel(this);
-        break;
-    case Holds::Correction:
-        made = new ResultLabel(this);
-        made->setFont(small(font()));
-        break;
-    case Holds::Text:
-    case Holds::Figure:
-    case Holds::Moment:
-        made = new EntryBox(this);
-        break;
-    case Holds::Latitude:
-        made = new PositionBox(Axis::Latitude, this);
-        break;
-    case Holds::Longitude:
-        made = new PositionBox(Axis::Longitude, this);
-        break;
-    }
+    if (holds(column, Label::Correction)) made->setFont(small(font()));
     made->setObjectName(memberName(column.name, static_cast<int>(row)));
     made->setAccessibleName(QString(column.accessibleName).replace("%1", QString::number(row + 1)));
     if (isBox(column) || isResult(column)) made->installEventFilter(this);
-    if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = *recordKindOf(column.holds);
-    if (column.holds == Holds::Figure) static_cast<EntryBox*>(made)->setReading({.name = {}});
-    if (column.holds == Holds::Text)
+    if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = std::get<FieldKind>(column.holds);
+    if (holds(column, FieldKind::Figure)) static_cast<EntryBox*>(made)->setReading({.name = {}});
+    if (holds(column, FieldKind::Text))
         static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
     auto* position = dynamic_cast<PositionBox*>(made);
     if (position) position->setBriefEcho();
-    if (column.holds == Holds::Longitude)
+    if (holds(column, FieldKind::Longitude))
         for (QWidget* each : before)
             if (auto* latitude = dynamic_cast<PositionBox*>(each))
                 PositionBox::pair(latitude, position);
@@ -127,7 +103,7 @@ int RowTable::widthOf(const TableColumn& column) const
     const int heading = captions.size(0, column.heading).width();
     if (isResult(column)) {
         ResultLabel sample;
-        if (column.holds == Holds::Correction) sample.setFont(small(font()));
+        if (holds(column, Label::Correction)) sample.setFont(small(font()));
         sample.setRoom(column.widest);
         return std::max(heading, sample.sizeHint().width());
     }
@@ -141,7 +117,7 @@ void RowTable::layOut(const Line& line, QWidget& widget) const
     for (std::size_t i = 0; i < line.size(); ++i) {
         if (i == 0 || m_columns[i].startsGroup) layout->startGroup();
         // A correction stands close by its result.
-        if (m_columns[i].holds == Holds::Correction) layout->stayClose();
+        if (holds(m_columns[i], Label::Correction)) layout->stayClose();
         layout->addWidget(line[i]);
     }
 }

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <span>
+#include <variant>
 
 class QKeyEvent;
 
@@ -14,13 +15,9 @@ namespace korvel
 
 /// A column of a table of rows.
 struct TableColumn {
-    enum class Holds {
-        Number,
-        Text,
-        Figure,
-        Moment,
-        Latitude,
-        Longitude,
+    /// A column without boxes.
+    enum class Label {
+        RowNumber,
         Echo,
         Result,
         Correction ///< of the result before it, in small letters
@@ -28,8 +25,8 @@ struct TableColumn {
 
     const char* name; ///< of its controls, a control array; the echo takes the name of its box
     const char* heading;
-    const char* widest; ///< what has to fit
-    Holds holds;
+    const char* widest;                   ///< what has to fit
+    std::variant<FieldKind, Label> holds; ///< boxes for what is typed, or labels
     /// For assistive tools, with %1 for the number of the row.
     const char* accessibleName = "";
     Qt::Alignment side = Qt::AlignLeft;

@@ -29,9 +29,10 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
                                                 machine.bell},
       m_screen(m_machine, m_saved), m_settings(machine.files, m_questions, machine.clock,
                                                KV_Savedvalue::file, KV_Savedvalue::kinds()),
-      m_offsetSettings(machine.files, m_questions, machine.clock, "KV_Clock.ini", {Kind::Number}),
+      m_offsetSettings(machine.files, m_questions, machine.clock, "KV_Clock.ini",
+                       {FieldKind::Number}),
       m_shipSettings(machine.files, m_questions, machine.clock, "KV_Ship.ini",
-                     {Kind::Text, Kind::Text}),
+                     {FieldKind::Text, FieldKind::Text}),
       m_recovery(machine.files, m_questions, machine.clock), m_panel(new MainPanel),
       m_shipsTime(m_saved, m_questions, machine.clock, clockHooks()),
       m_actions(m_saved, m_questions, m_settings,
@@ -43,7 +44,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
       m_program(m_machine, m_saved, m_screen, m_actions, m_shipsTime), m_help(machine.files),
       m_windows(m_program, std::move(catalogue)), m_alarmBoxes(machine.bell),
       m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this)),
-      m_greeted(machine.files, m_questions, machine.clock, "KV_Help.ini", {Kind::Number}),
+      m_greeted(machine.files, m_questions, machine.clock, "KV_Help.ini", {FieldKind::Number}),
       m_isFirstStart(!hasFile("KV_KORVEL.ini") && !hasFile(RecoveryFile::name) &&
                      !hasFile(m_greeted.name()))
 {

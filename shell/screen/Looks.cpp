@@ -19,7 +19,7 @@ namespace
 {
 
 /// @return a record of what was never set where there is no such file
-Record quietlyRead(const QString& path, const std::vector<Kind>& kinds)
+Record quietlyRead(const QString& path, const std::vector<FieldKind>& kinds)
 {
     constexpr qint64 longest = 1 << 16;
     QFile file(path);
@@ -66,8 +66,8 @@ Looks looksOfLastRun(const QString& folder)
     KV_Savedvalue saved;
     saved.take(quietlyRead(pathOf(KV_Savedvalue::file), KV_Savedvalue::kinds()));
     if (QFileInfo::exists(pathOf(RecoveryFile::name))) {
-        std::vector<Kind> kinds = KV_Savedvalue::kinds();
-        kinds.insert(kinds.begin(), Kind::Text); // when it was kept
+        std::vector<FieldKind> kinds = KV_Savedvalue::kinds();
+        kinds.insert(kinds.begin(), FieldKind::Text); // when it was kept
         Record record = quietlyRead(pathOf(RecoveryFile::name), kinds);
         record.erase(record.begin());
         saved.take(record);

@@ -148,7 +148,9 @@ WorkingPaper CalculatorWindow::paper() const
         for (std::size_t i = 0; i < fields.size(); ++i)
             paper.inputs.push_back(fields.paperFigure(i));
     for (const ResultLabel* label : m_labels)
-        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
+        if (!label->text().isEmpty())
+            paper.results.push_back(
+                paperFigure(*label, label->paperText ? label->paperText() : std::string()));
     for (const QString& remark : m_notices->onPaper())
         paper.remarks.push_back(remark.toStdString());
     return paper;
@@ -166,8 +168,8 @@ PaperFigure CalculatorWindow::paperFigure(const ResultLabel& label, const std::s
 {
     const std::string shown = label.text().toStdString();
     const bool isOther = !inFull.empty() && inFull != shown;
-    return {label.accessibleName().section(',', 0, 0).toStdString(), isOther ? inFull : shown,
-            label.accessibleName().section(',', 1).trimmed().toStdString(), isOther ? shown : ""};
+    return {label.words().toStdString(), isOther ? inFull : shown, label.unit().toStdString(),
+            isOther ? shown : ""};
 }
 
 FieldBoxes CalculatorWindow::addFields(std::span<const Field> table)
@@ -187,8 +189,7 @@ ResultLabel* CalculatorWindow::addLabel(const QString& name)
 void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& caption,
                                     ResultLabel* label, const QString& unit)
 {
-    // Out of its row the figure would be a bare number.
-    label->setAccessibleName(unit.isEmpty() ? caption : caption + ", " + unit);
+    label->declare(caption, unit);
     grid->addWidget(new QLabel(caption), row, 0);
     grid->addWidget(label, row, 1);
     grid->addWidget(new QLabel(unit), row, 2, 1, -1);

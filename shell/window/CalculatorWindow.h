@@ -3,6 +3,7 @@
 
 #include "shell/controls/FieldBoxes.h"
 #include "shell/controls/NoticeLine.h"
+#include "shell/controls/ResultLabels.h"
 #include "shell/paper/PagePrinter.h"
 #include "shell/paper/PaperMenu.h"
 #include "shell/program/Program.h"
@@ -90,6 +91,15 @@ protected:
 
     /// The boxes of a table of fields, which lasts as long as the program.
     FieldBoxes addFields(std::span<const Field> table);
+
+    /// The labels of a table of results, which lasts as long as the program.
+    template <typename Source, std::size_t N>
+    ResultLabels<Source> addResults(const std::array<Result<Source>, N>& table)
+    {
+        ResultLabels<Source> labels(table, m_body);
+        m_labels.insert(m_labels.end(), labels.all().begin(), labels.all().end());
+        return labels;
+    }
 
     /// Result labels name(0) .. name(N - 1).
     template <std::size_t N>

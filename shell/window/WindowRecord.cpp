@@ -40,7 +40,7 @@ WindowRecord::WindowRecord(Program& program, NoticeLine& notices, QWidget& windo
     connect(&m_burst, &QTimer::timeout, this, &WindowRecord::saveNow);
 }
 
-void WindowRecord::use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
+void WindowRecord::use(const std::string& file, std::vector<FieldKind> kinds, Save save, Load load,
                        Salvage salvage)
 {
     m_file = std::make_unique<SettingsFile>(m_program.files(), m_program.questions(),
@@ -53,7 +53,7 @@ void WindowRecord::use(const std::string& file, std::vector<Kind> kinds, Save sa
 void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxes,
                             std::function<void(Record&)> settle)
 {
-    std::vector<Kind> kinds = recordKinds(boxes);
+    std::vector<FieldKind> kinds = recordKinds(boxes);
     const Load load = [boxes](const Record& record) {
         for (std::size_t i = 0; i < boxes.size(); ++i)
             boxes[i]->setText(QString::fromStdString(textOf(record[i])));

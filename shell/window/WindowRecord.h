@@ -31,7 +31,7 @@ public:
     /// calls it.
     /// @param salvage what is done with the bytes of a damaged file after that, where the window
     ///                knows more of them than the values that could be read one by one
-    void use(const std::string& file, std::vector<Kind> kinds, Save save, Load load,
+    void use(const std::string& file, std::vector<FieldKind> kinds, Save save, Load load,
              Salvage salvage = {});
     /// The same for a record that is the texts of boxes, in their order.
     /// @param settle what is done to the texts before they are written

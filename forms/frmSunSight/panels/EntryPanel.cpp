@@ -62,7 +62,6 @@ EntryPanel::EntryPanel(QWidget* parent)
     using namespace SightField;
     m_entry[DRTime]->setToolTip("Empty: the time of the last sight that is on; a time alone: "
                                 "the one nearest to that sight");
-    m_entry[Hs]->setReading({.name = {}, .low = 0, .high = 90, .form = NumberField::Form::Angle});
     m_entry[air]->setPlaceholderText("10");
     m_entry[sea]->setPlaceholderText("as the air");
     m_entry[pressure]->setPlaceholderText("1013");

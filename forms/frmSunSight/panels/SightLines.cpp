@@ -13,7 +13,7 @@ namespace
 /// A round of sights is seen without scrolling.
 constexpr int linesInSight = 8;
 
-enum Part { Sight = Qt::UserRole, Result };
+enum Part { Sight = Qt::UserRole, Outcome };
 
 // The longest ones: that of a sight that does not fit is the one to be read.
 constexpr const char* longestSight = "0000/00/00 00:00:00 UTC  Hs 00.-00'0  Ho 00.-00'0";
@@ -67,14 +67,14 @@ void SightLines::showSight(int row, const QString& sight, const QString& result,
 {
     QListWidgetItem& shown = *item(row);
     shown.setData(Sight, sight);
-    shown.setData(Result, result);
+    shown.setData(Outcome, result);
     shown.setToolTip(tip);
     write(shown);
 }
 
 void SightLines::write(QListWidgetItem& item) const
 {
-    const QString text = joined(item.data(Sight).toString(), item.data(Result).toString(), m_inTwo);
+    const QString text = joined(item.data(Sight).toString(), item.data(Outcome).toString(), m_inTwo);
     if (item.text() != text) item.setText(text);
 }
 

@@ -26,20 +26,11 @@ bool isEmpty(const std::string& text)
     return text.find_first_not_of(" \t") == std::string::npos;
 }
 
-/// The first two parts of a field's accessible name: what it is, and its unit in words.
-std::pair<std::string_view, std::string_view> nameAndUnit(const Field& field)
-{
-    const std::string_view words = field.accessibleName;
-    const std::size_t name = words.find(", ");
-    const std::string_view rest = words.substr(name + 2);
-    return {words.substr(0, name), rest.substr(0, rest.find(", "))};
-}
-
 std::optional<DateTime> readTime(const Field& field, const std::string& text, Due due,
                                  Remarks& remarks)
 {
     const TypedTime typed = readTypedTime(text, due);
-    if (!typed.value) remarks.fault(std::string(nameAndUnit(field).first) + ": " + typed.remark);
+    if (!typed.value) remarks.fault(std::string(field.words) + ": " + typed.remark);
     return typed.value;
 }
 
@@ -170,15 +161,9 @@ bool SightTexts::isBegun() const
 std::optional<double> readBox(const Field& field, const std::string& text,
                               std::optional<double> empty, Remarks& remarks)
 {
-    using Form = NumberField::Form;
-    const auto [name, unit] = nameAndUnit(field);
-    const bool isPacked = unit == "degrees.minutes";
-    const Form form = field.kind == FieldKind::Latitude    ? Form::Latitude
-                      : field.kind == FieldKind::Longitude ? Form::Longitude
-                      : isPacked                           ? Form::Angle
-                                                           : Form::Plain;
-    return readField(text, {name, field.low, field.high, isPacked ? "degrees" : unit, form, empty},
-                     remarks);
+    // The unit behind a box tells its sign too: a remark takes the one in words.
+    const char* const unit = field.kind == FieldKind::Figure ? field.measure : "degrees";
+    return readField(text, {field.words, field.low, field.high, unit, field.kind, empty}, remarks);
 }
 
 Observation readObservation(const SightTexts& texts, Remarks& remarks)

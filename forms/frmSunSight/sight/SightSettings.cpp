@@ -49,16 +49,16 @@ Record recordOf(const SightSettings& settings)
     return record;
 }
 
-std::vector<Kind> sightKinds()
+std::vector<FieldKind> sightKinds()
 {
-    std::vector<Kind> kinds;
+    std::vector<FieldKind> kinds;
     const SightSettings settings;
     visitFields(settings, [&](const auto& field) {
         constexpr bool tick = std::is_same_v<std::decay_t<decltype(field)>, bool>;
-        kinds.push_back(tick ? Kind::Tick : Kind::Text);
+        kinds.push_back(tick ? FieldKind::Tick : FieldKind::Text);
     });
     // A damaged sight must not make the other sights unreadable.
-    kinds.insert(kinds.end(), SightList::most, Kind::Any);
+    kinds.insert(kinds.end(), SightList::most, FieldKind::Any);
     return kinds;
 }
 

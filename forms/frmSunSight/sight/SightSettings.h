@@ -22,7 +22,7 @@ struct SightSettings {
 /// "SIGHT;on;UTC;L;date;time;TD;watch error;Hs;index error;height of eye;air;sea;pressure" with
 /// "off", "SMT" and "U" for the upper limb where they apply.
 Record recordOf(const SightSettings& settings);
-std::vector<Kind> sightKinds();
+std::vector<FieldKind> sightKinds();
 
 /// @param record as sightKinds() describes it
 SightSettings settingsOf(const Record& record);

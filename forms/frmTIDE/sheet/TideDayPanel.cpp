@@ -14,8 +14,9 @@ namespace
 {
 
 constexpr std::array<Field, 2> questionFields = {{
-    {"txtAtTime", "Hei&ght at", "Time of the day, h:mm zone time", FieldKind::Moment, "zone time"},
-    {"txtAtHeight", "Fro&m a height of", "Height or rate, metres or knots", FieldKind::Number,
+    {"txtAtTime", "Hei&ght at", "Time of the day", "h:mm zone time", FieldKind::Moment,
+     "zone time"},
+    {"txtAtHeight", "Fro&m a height of", "Height or rate", "metres or knots", FieldKind::Figure,
      "m or kn"},
 }};
 

@@ -15,12 +15,12 @@ void TideHabits::remember(const StationChoice& station)
     if (stations.size() > kept) stations.resize(kept);
 }
 
-std::vector<Kind> habitKinds()
+std::vector<FieldKind> habitKinds()
 {
-    std::vector<Kind> kinds = {Kind::Number, Kind::Tick};
+    std::vector<FieldKind> kinds = {FieldKind::Number, FieldKind::Tick};
     for (std::size_t i = 0; i < TideHabits::kept; ++i) {
-        kinds.push_back(Kind::Tick);
-        kinds.push_back(Kind::Text);
+        kinds.push_back(FieldKind::Tick);
+        kinds.push_back(FieldKind::Text);
     }
     return kinds;
 }

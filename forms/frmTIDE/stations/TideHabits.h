@@ -30,7 +30,7 @@ struct TideHabits {
     void remember(const StationChoice& station);
 };
 
-std::vector<Kind> habitKinds();
+std::vector<FieldKind> habitKinds();
 Record recordOf(const TideHabits& habits);
 /// Stations that the menus do not have are passed over.
 TideHabits habitsOf(const Record& record);

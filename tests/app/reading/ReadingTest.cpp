@@ -50,14 +50,13 @@ TEST(Reading, ranges)
 
 TEST(Reading, numbersWithTheirRemarks)
 {
-    using Form = NumberField::Form;
-    const std::map<std::string, Form> forms{{"plain", Form::Plain},
-                                            {"angle", Form::Angle},
-                                            {"latitude", Form::Latitude},
-                                            {"longitude", Form::Longitude}};
+    const std::map<std::string, FieldKind> forms{{"plain", FieldKind::Figure},
+                                                 {"angle", FieldKind::Angle},
+                                                 {"latitude", FieldKind::Latitude},
+                                                 {"longitude", FieldKind::Longitude}};
     for (const Golden& row : golden("number_reading")) {
         NumberField field{.name = "Box", .unit = row.text("unit")};
-        field.form = forms.at(row.text("form"));
+        field.kind = forms.at(row.text("form"));
         if (row.has("low")) field.low = row.number("low");
         if (row.has("high")) field.high = row.number("high");
         field.ifEmpty.reset();

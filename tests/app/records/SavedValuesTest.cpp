@@ -59,7 +59,7 @@ TEST(SavedValues, whatIsOutOfRangeIsNotTakenOverAndNamed)
         const auto index = static_cast<std::size_t>(row.integer("index"));
         record[23] = 35.305;
         record[24] = -139.4523;
-        const Kind kinds[] = {KV_Savedvalue::table()[index].kind};
+        const FieldKind kinds[] = {KV_Savedvalue::table()[index].kind};
         record[index] = readRecord(row.text("value"), kinds).record[0];
         EXPECT_EQ(joined(saved.take(record)), row.text("named")) << row;
         EXPECT_EQ(textOfValue(saved(static_cast<int>(index))), row.text("kept")) << row;

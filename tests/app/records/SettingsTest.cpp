@@ -40,8 +40,8 @@ TEST(SettingsRecord, writesEachKindOfValue)
 TEST(SettingsRecord, readsBackWhatItWrites)
 {
     const Record record = {std::string("a, b"), 139.4523, true, Value(), 1.0 / 3, std::string()};
-    const std::vector<Kind> kinds = {Kind::Text,   Kind::Number, Kind::Tick,
-                                     Kind::Number, Kind::Number, Kind::Text};
+    const std::vector<FieldKind> kinds = {FieldKind::Text,   FieldKind::Number, FieldKind::Tick,
+                                          FieldKind::Number, FieldKind::Number, FieldKind::Text};
     EXPECT_EQ(readRecord(writeRecord(record), kinds).record, record);
 }
 
@@ -55,7 +55,7 @@ std::string values(const Record& record)
     return text;
 }
 
-constexpr Kind textNumberTick[] = {Kind::Text, Kind::Number, Kind::Tick};
+constexpr FieldKind textNumberTick[] = {FieldKind::Text, FieldKind::Number, FieldKind::Tick};
 
 TEST(SettingsRecord, takesWhatCanBeReadAndNamesTheDamage)
 {
@@ -68,9 +68,9 @@ TEST(SettingsRecord, takesWhatCanBeReadAndNamesTheDamage)
 
 TEST(SettingsRecord, putsRightWhatALostLineHasShifted)
 {
-    using enum Kind;
-    constexpr Kind kinds[] = {Text,   Figure,   Latitude,  Longitude, Text,
-                              Figure, Latitude, Longitude, Moment};
+    using enum FieldKind;
+    constexpr FieldKind kinds[] = {Text,   Figure,   Latitude,  Longitude, Text,
+                                   Figure, Latitude, Longitude, Moment};
     for (const Golden& row : golden("shifted_records")) {
         std::string file = '"' + row.text("file") + "\"\r\n";
         for (std::size_t at = 0; (at = file.find('|', at)) != std::string::npos;)
@@ -102,7 +102,8 @@ protected:
     FakeFiles files;
     FakeQuestions questions;
     FakeClock clock; // 2005-03-14 09:45
-    SettingsFile settings{files, questions, clock, "KV_X.ini", {Kind::Number, Kind::Text}};
+    SettingsFile settings{
+        files, questions, clock, "KV_X.ini", {FieldKind::Number, FieldKind::Text}};
 };
 
 TEST_F(SettingsFileTest, keepsADamagedFileAsideBeforeItIsOverwritten)

@@ -25,7 +25,7 @@ class frmProbe : public CalculatorWindow
 public:
     explicit frmProbe(Program& program) : CalculatorWindow(program, "frmProbe", "Probe")
     {
-        static constexpr Field table[] = {{"txtProbe", "Probe", "Probe", FieldKind::Text}};
+        static constexpr Field table[] = {{"txtProbe", "Probe", "Probe", "", FieldKind::Text}};
         fields = addFields(table);
         record().useTexts("KV_Probe.ini", fields.all());
         loadSettings();

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/controls/ResultLabel.h"
+#include "shell/machine/AsQString.h"
+
+#include <QGridLayout>
+
+#include <span>
+
+namespace korvel
+{
+
+/// The labels of a window's table of results.
+template <typename Source>
+class ResultLabels
+{
+public:
+    /// @param table  outlives this object
+    /// @param parent of the labels; they have no place yet, put them into layouts
+    ResultLabels(std::span<const Result<Source>> table, QWidget* parent) : m_table(table)
+    {
+        for (const Result<Source>& result : table) {
+            auto* label = new ResultLabel(parent);
+            label->setObjectName(result.name);
+            label->declare(result.inWords(), result.unit, result.weight);
+            m_labels.push_back(label);
+        }
+    }
+
+    ResultLabel* operator[](std::size_t result) const { return m_labels.at(result); }
+    const std::vector<ResultLabel*>& all() const { return m_labels; }
+
+    /// Shows all texts; what the source does not have is blank.
+    void show(const Source& source) const
+    {
+        for (std::size_t i = 0; i < m_labels.size(); ++i)
+            m_labels[i]->setText(asQString(source.*m_table[i].text));
+    }
+
+    /// Rows of a grid from this one on: caption, figure, unit.
+    void addRows(QGridLayout* grid, int row) const
+    {
+        for (std::size_t i = 0; i < m_labels.size(); ++i)
+            addRow(grid, row + static_cast<int>(i), i);
+    }
+    void addRow(QGridLayout* grid, int row, std::size_t result) const
+    {
+        grid->addWidget(new QLabel(m_table[result].caption), row, 0);
+        grid->addWidget(m_labels.at(result), row, 1);
+        grid->addWidget(new QLabel(m_table[result].unit), row, 2, 1, -1);
+    }
+
+private:
+    std::span<const Result<Source>> m_table;
+    std::vector<ResultLabel*> m_labels;
+};
+
+} // namespace korvel
