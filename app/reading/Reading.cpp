@@ -194,9 +194,14 @@ bool isNumeric(std::string_view text)
     return rest.empty();
 }
 
+bool isBlank(std::string_view text)
+{
+    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
+}
+
 bool IsInRange(std::string_view value, std::string_view low, std::string_view high)
 {
-    const bool empty = value.find_first_not_of(" \t\r\n") == std::string_view::npos;
+    const bool empty = isBlank(value);
     const auto number = empty ? std::optional<double>(0) : readLeadingNumber(value);
     return number && *number >= readNumber(low) && *number <= readNumber(high);
 }

@@ -24,6 +24,9 @@ std::optional<double> readLeadingNumber(std::string_view text);
 /// True when the whole text, blanks around it aside, is one number.
 bool isNumeric(std::string_view text);
 
+/// True when nothing but blanks was typed.
+bool isBlank(std::string_view text);
+
 /// True when low <= value <= high, all three given as text and read as their leading numbers. An
 /// empty text counts as 0; one that holds no number (letters, a lone minus) is never in range.
 bool IsInRange(std::string_view value, std::string_view low, std::string_view high);

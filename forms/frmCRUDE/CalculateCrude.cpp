@@ -4,6 +4,7 @@
 #include "app/reading/Format.h"
 #include "app/reading/NumberField.h"
 #include "app/reading/Reading.h"
+#include "forms/frmCRUDE/CrudeFields.h"
 #include "navlib/arithmetic_error.h"
 
 #include <optional>
@@ -11,10 +12,22 @@
 
 namespace korvel
 {
+
+double lowestTemperature(TemperatureUnit unit)
+{
+    return unit == TemperatureUnit::Celsius ? -273.15 : -459.67;
+}
+
+double densityBound(DensityBase base)
+{
+    return base == DensityBase::Density15 ? 0 : -131.5;
+}
+
 namespace
 {
 
 using NavFunc113::ArithmeticError;
+using namespace CrudeField;
 
 constexpr const char* kilolitreFormat = "0.000";
 constexpr const char* barrelFormat = "0.00";
@@ -24,7 +37,7 @@ constexpr const char* factorFormat = "0.0000000";
 /// The number in a box; nothing, and no word about it, when the box is empty.
 std::optional<double> numberIn(const std::string& box, const NumberField& field, Remarks& remarks)
 {
-    if (box.find_first_not_of(" \t") == std::string::npos) return std::nullopt;
+    if (isBlank(box)) return std::nullopt;
     return readField(box, field, remarks);
 }
 
@@ -32,8 +45,7 @@ std::optional<double> temperatureIn(const std::string& box, TemperatureUnit unit
                                     Remarks& remarks)
 {
     const bool celsius = unit == TemperatureUnit::Celsius;
-    const double absoluteZero = celsius ? -273.15 : -459.67;
-    return numberIn(box, {name, absoluteZero, HUGE_VAL, celsius ? "°C" : "°F"}, remarks);
+    return numberIn(box, {name, lowestTemperature(unit), HUGE_VAL, celsius ? "°C" : "°F"}, remarks);
 }
 
 double celsius(double temperature, TemperatureUnit unit)
@@ -80,7 +92,7 @@ std::optional<Oil> oilOf(const CrudeInput& input, Remarks& remarks, CrudeFigures
     std::optional<double> typed =
         numberIn(input.density, {metric ? "density" : "API gravity"}, remarks);
     if (!typed) return std::nullopt;
-    if (metric ? !(*typed > 0) : !(*typed > -131.5)) {
+    if (!(*typed > densityBound(input.densityBase))) {
         remarks.fault(metric ? "density must be greater than 0"
                              : "API gravity must be greater than -131.5");
         return std::nullopt;
@@ -142,9 +154,11 @@ struct Observed {
 std::optional<Observed> observedOf(const CrudeInput& input, Remarks& remarks)
 {
     const char* const unit = input.volumeUnit == VolumeUnit::Kilolitres ? "kL" : "bbl";
-    const auto volume = numberIn(input.volume, {"volume", 0, HUGE_VAL, unit}, remarks);
-    const auto water = readField(input.freeWater,
-                                 {"free water", 0, HUGE_VAL, unit, FieldKind::Figure, 0}, remarks);
+    const auto volume =
+        numberIn(input.volume, {"volume", CrudeFields[Volume].low, HUGE_VAL, unit}, remarks);
+    const auto water = readField(
+        input.freeWater,
+        {"free water", CrudeFields[FreeWater].low, HUGE_VAL, unit, FieldKind::Figure, 0}, remarks);
     if (!volume || !water) return std::nullopt;
     if (*water > *volume) {
         remarks.fault("free water exceeds the volume");
@@ -155,8 +169,10 @@ std::optional<Observed> observedOf(const CrudeInput& input, Remarks& remarks)
 
 std::optional<double> netPartOf(const CrudeInput& input, Remarks& remarks)
 {
+    const Field& declared = CrudeFields[SedimentAndWater];
     const auto percent = readField(
-        input.sedimentAndWater, {"sediment and water", 0, 100, "%", FieldKind::Figure, 0}, remarks);
+        input.sedimentAndWater,
+        {"sediment and water", declared.low, declared.high, "%", FieldKind::Figure, 0}, remarks);
     if (!percent) return std::nullopt;
     return 1 - *percent / 100;
 }
@@ -169,8 +185,10 @@ struct BarrelFactor {
 
 BarrelFactor barrelFactorOf(const CrudeInput& input, Remarks& remarks)
 {
-    const bool empty = input.klPerBarrel.find_first_not_of(" \t") == std::string::npos;
-    const auto typed = numberIn(input.klPerBarrel, {"KL/Bbl", 0.158, 0.160}, remarks);
+    const bool empty = isBlank(input.klPerBarrel);
+    const Field& declared = CrudeFields[KLperBbl];
+    const auto typed =
+        numberIn(input.klPerBarrel, {"KL/Bbl", declared.low, declared.high}, remarks);
     return {typed, empty || typed.has_value()};
 }
 

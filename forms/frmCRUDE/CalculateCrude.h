@@ -21,6 +21,12 @@ enum class DensityBase { Density15, API60 };
 
 enum class WeightRule { DensityLess11, Table56Printed, Table56Exact };
 
+/// Absolute zero in a unit: no cargo is colder.
+double lowestTemperature(TemperatureUnit unit);
+/// What a density (kg/m3) or an API gravity has to exceed; at this gravity the density is without
+/// end.
+double densityBound(DensityBase base);
+
 struct CrudeInput {                  // boxes as typed
     std::string volume;              ///< total observed volume
     std::string temperature;         ///< of the cargo

@@ -55,7 +55,7 @@ ResultLabel* CrudeResults::add(const char* name, const QString& words, Figure fi
 {
     auto* label = new ResultLabel(this);
     label->setObjectName(name);
-    label->setAccessibleName(words);
+    label->declare(words);
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_figures.emplace_back(label, figure);
     return label;

@@ -20,15 +20,7 @@ namespace korvel
 namespace
 {
 
-enum : std::size_t {
-    Volume,
-    FreeWater,
-    Temperature,
-    Density,
-    ObservedTemperature,
-    SedimentAndWater,
-    KLperBbl
-};
+using namespace CrudeField;
 
 /// Where the texts of the boxes belong.
 constexpr std::array<std::string CrudeInput::*, CrudeFields.size()> crudeInputs = {
@@ -296,6 +288,11 @@ void frmCRUDE::showUnits()
     m_boxes[Density]->setNext(m_boxes[observed ? ObservedTemperature : SedimentAndWater]);
     for (const std::size_t field : {Volume, FreeWater, Temperature, Density, ObservedTemperature})
         m_boxes[field]->setAccessibleName(CrudeFields[field].words + (", " + unitOf(field)));
+    const QString temperatures =
+        limitsInWords(lowestTemperature(input().temperatureUnit), HUGE_VAL);
+    for (const std::size_t field : {Temperature, ObservedTemperature})
+        m_boxes[field]->setLimits(temperatures);
+    m_boxes[Density]->setLimits(QString("above %1").arg(densityBound(input().densityBase)));
 }
 
 /// The unit that was chosen for a box, or its own.

@@ -19,15 +19,15 @@ namespace
 /// Why the input cannot be used; empty when it can.
 std::string complaint(const ETAInput& input)
 {
-    if (!isTD(input.txtTD[0])) return "TD at departure is not within -12 to 12.";
-    if (!isTD(input.txtTD[1])) return "TD at arrival is not within -12 to 12.";
+    if (std::string why = complaintOnTD(input.txtTD); !why.empty()) return why;
     if (!readDateTime(input.departureDate))
         return complaintOn("departure date", input.departureDate, Due::Date);
     if (!readDateTime(input.departureTime))
         return complaintOn("departure time", input.departureTime, Due::TimeOfDay);
-    if (readNumber(input.txtDist) < 0) return "The distance is negative.";
+    if (readNumber(input.txtDist) < ETAFields[ETAField::distance].low)
+        return "The distance is negative.";
     const double speed = readNumber(input.txtSpeed);
-    if (speed < 0) return "The speed is negative.";
+    if (speed < ETAFields[ETAField::speed].low) return "The speed is negative.";
     if (speed > static_cast<double>(std::numeric_limits<float>::max()) ||
         std::isinf(readNumber(input.txtDist)))
         return "A number is too large.";
@@ -38,10 +38,10 @@ std::string complaint(const ETAInput& input)
 std::string warningsOn(const ETAInput& input)
 {
     Remarks said;
-    readField(input.txtTD[0], ETAFields[4], said);
-    readField(input.txtTD[1], ETAFields[5], said);
-    readField(input.txtDist, ETAFields[6], said);
-    readField(input.txtSpeed, ETAFields[7], said);
+    readField(input.txtTD[0], ETAFields[ETAField::departureTD], said);
+    readField(input.txtTD[1], ETAFields[ETAField::arrivalTD], said);
+    readField(input.txtDist, ETAFields[ETAField::distance], said);
+    readField(input.txtSpeed, ETAFields[ETAField::speed], said);
     warnOfKind("departure date", input.departureDate, Due::Date, said);
     warnOfKind("departure time", input.departureTime, Due::TimeOfDay, said);
     return said.text();

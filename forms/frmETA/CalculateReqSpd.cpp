@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "navlib/arithmetic_error.h"
 
@@ -27,9 +28,9 @@ std::string complaint(const ReqSpdInput& input)
     for (std::size_t i = 0; i < boxes.size(); ++i)
         if (!readDateTime(input.txtTime[i]))
             return complaintOn(boxes[i].name, input.txtTime[i], boxes[i].due);
-    if (!isTD(input.txtTD[0])) return "TD at departure is not within -12 to 12.";
-    if (!isTD(input.txtTD[1])) return "TD at arrival is not within -12 to 12.";
-    if (readNumber(input.txtDist) < 0) return "The distance is negative.";
+    if (std::string why = complaintOnTD(input.txtTD); !why.empty()) return why;
+    if (readNumber(input.txtDist) < ETAFields[ETAField::distance].low)
+        return "The distance is negative.";
     if (std::isinf(readNumber(input.txtDist))) return "A number is too large.";
     return "";
 }

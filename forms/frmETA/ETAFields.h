@@ -4,9 +4,15 @@
 #include "app/reading/Field.h"
 
 #include <array>
+#include <cstddef>
 
 namespace korvel
 {
+
+namespace ETAField
+{
+enum : std::size_t { departureTD = 4, arrivalTD, distance, speed };
+}
 
 /// The boxes of the ETA window; in this order in the record.
 inline constexpr std::array<Field, 8> ETAFields = {{

@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmETA/ETAFields.h"
 
 #include <cmath>
 
@@ -37,9 +38,22 @@ void warnOfKind(std::string_view name, std::string_view box, Due due, Remarks& s
     if (!remark.empty()) said.warn("The " + std::string(name) + ": " + remark);
 }
 
+std::string complaintOnTD(const std::array<std::string, 2>& boxes)
+{
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        const Field& TD = ETAFields[ETAField::departureTD + i];
+        if (!isTD(boxes[i]))
+            return std::string(TD.caption) + " is not within " + Format(TD.low, "0.######") +
+                   " to " + Format(TD.high, "0.######") + ".";
+    }
+    return {};
+}
+
 bool isTD(std::string_view box)
 {
-    return IsInRange(box, "-12", "12");
+    constexpr const char* plain = "0.######";
+    const Field& TD = ETAFields[ETAField::departureTD];
+    return IsInRange(box, Format(TD.low, plain), Format(TD.high, plain));
 }
 
 std::string TDAndZDText(std::string_view box)

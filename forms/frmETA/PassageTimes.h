@@ -5,6 +5,7 @@
 #include "app/reading/TypedTime.h"
 #include "navlib/units.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,10 +27,14 @@ void warnOfKind(std::string_view name, std::string_view box, Due due, Remarks& s
 /// Both signs of a time difference, which are confused at sea: "TD +9, ZD -9", where the zone
 /// description is what is added to zone time to get UTC.
 /// @param box text of a TD box
-/// @return empty when the box does not hold -12 .. 12
+/// @return empty when the box does not hold what its field takes
 std::string TDAndZDText(std::string_view box);
 
-/// True when a TD box holds -12 .. 12.
+/// Why the boxes of the time differences at departure and arrival cannot be used; empty when they
+/// can.
+std::string complaintOnTD(const std::array<std::string, 2>& boxes);
+
+/// True when a TD box holds what its field takes.
 bool isTD(std::string_view box);
 
 } // namespace korvel

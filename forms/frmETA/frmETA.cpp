@@ -92,7 +92,7 @@ void frmETA::addResults()
     m_lblETA = addLabels<5>("lblETA");
     for (std::size_t i = 0; i < m_lblETA.size(); ++i) {
         m_lblSPD[i]->declare(QString("Speed %1").arg(i + 1), "knots");
-        m_lblETA[i]->declare(QString("Arrival %1").arg(i + 1), "local time");
+        m_lblETA[i]->declare(QString("Arrival %1").arg(i + 1), "local time", Weight::Answer);
     }
     m_lblReqSpd = addLabel("lblReqSpd");
     m_lblReqSpd->setRoom("0000.00");

@@ -55,9 +55,10 @@ QGridLayout* addPanel(QWidget* panel, const QString& title)
 } // namespace
 
 frmGC2000::frmGC2000(Program& program)
-    : CalculatorWindow(program, "frmGC2000", "Great circle"), m_txtGC(addFields(GCFields))
+    : CalculatorWindow(program, "frmGC2000", "Great circle"), m_txtGC(addFields(GCFields)),
+      m_shown(addResults(GCResults))
 {
-    addResults();
+    prepareResults();
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid, Spacing::Frameless);
     grid->addWidget(layOutPositions(), 0, 0);
@@ -76,30 +77,23 @@ frmGC2000::frmGC2000(Program& program)
     m_txtGC[0]->setFocus();
 }
 
-void frmGC2000::addResults()
+void frmGC2000::prepareResults()
 {
     m_waypoints = new RowTable(waypointColumns, rowCount);
     for (std::size_t row = 0; row < rowCount; ++row)
         m_waypoints->number(row)->clear();
-    m_lblGC2000 = addLabels<3>("lblGC2000");
-    m_lblInitialCourse = addLabel("lblInitialCourse");
-    m_lblFinalCourse = addLabel("lblFinalCourse");
-    m_lblVertexLat = addLabel("lblVertexLat");
-    m_lblVertexLong = addLabel("lblVertexLong");
-    m_lblVertexRemark = addLabel("lblVertexRemark");
-    m_lblSaving = addLabel("lblSaving");
     m_picGC = new GCPicture(program());
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.
-    for (ResultLabel* label : m_lblGC2000)
-        label->setRoom(widestDistance);
-    m_lblSaving->setRoom(widestDistance);
-    m_lblInitialCourse->setRoom(widestCourse);
-    m_lblFinalCourse->setRoom(widestCourse);
-    m_lblVertexLat->setRoom(widestVertex[0]);
-    m_lblVertexLong->setRoom(widestVertex[1]);
-    m_lblVertexRemark->setFont(font());
-    m_lblVertexRemark->setRoom("beyond the route");
+    for (const std::size_t distance :
+         {GCShown::rhumbLine, GCShown::greatCircle, GCShown::sumOfLegs, GCShown::saving})
+        m_shown[distance]->setRoom(widestDistance);
+    for (const std::size_t course : {GCShown::initialCourse, GCShown::finalCourse})
+        m_shown[course]->setRoom(widestCourse);
+    m_shown[GCShown::vertexLat]->setRoom(widestVertex[0]);
+    m_shown[GCShown::vertexLong]->setRoom(widestVertex[1]);
+    m_shown[GCShown::vertexRemark]->setFont(font());
+    m_shown[GCShown::vertexRemark]->setRoom("beyond the route");
 
     const auto forCopy = [](const GCWaypoint& waypoint) {
         return QString::fromStdString(positionForCopy(waypoint.lat, waypoint.longitude));
@@ -115,8 +109,8 @@ void frmGC2000::addResults()
     const auto vertex = [this, forCopy] {
         return m_result.vertex ? forCopy(*m_result.vertex) : QString();
     };
-    m_lblVertexLat->copyText = vertex;
-    m_lblVertexLong->copyText = vertex;
+    m_shown[GCShown::vertexLat]->copyText = vertex;
+    m_shown[GCShown::vertexLong]->copyText = vertex;
 }
 
 QWidget* frmGC2000::layOutPositions()
@@ -133,9 +127,9 @@ QWidget* frmGC2000::layOutDistances()
 {
     auto* group = new QWidget;
     auto* grid = addPanel(group, "Distances");
-    addResultRow(grid, 0, "Rhumb line", m_lblGC2000[0], "miles");
-    addResultRow(grid, 1, "Great circle", m_lblGC2000[1], "miles");
-    addResultRow(grid, 2, "Sum of the legs", m_lblGC2000[2], "miles");
+    for (const std::size_t distance :
+         {GCShown::rhumbLine, GCShown::greatCircle, GCShown::sumOfLegs})
+        m_shown.addRow(grid, static_cast<int>(distance), distance);
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(3, 1);
     return group;
@@ -145,17 +139,13 @@ QWidget* frmGC2000::layOutTrack()
 {
     auto* group = new QWidget;
     auto* grid = addPanel(group, "Great circle on the sphere");
-    const QFontMetrics metrics(m_lblSaving->font());
-    addResultRow(grid, 0, "Initial course", m_lblInitialCourse, "degrees true");
-    addResultRow(grid, 1, "Final course", m_lblFinalCourse, "degrees true");
-    m_lblVertexLat->declare("Latitude of the vertex");
-    m_lblVertexLong->declare("Longitude of the vertex");
-    m_lblVertexRemark->declare("Place of the vertex");
-    grid->addWidget(new QLabel("Vertex"), 2, 0);
-    grid->addWidget(m_lblVertexLat, 2, 1);
-    grid->addWidget(m_lblVertexLong, 2, 2);
-    grid->addWidget(m_lblVertexRemark, 2, 3);
-    addResultRow(grid, 3, "Saves", m_lblSaving, "miles against the rhumb line");
+    const QFontMetrics metrics(m_shown[GCShown::saving]->font());
+    m_shown.addRow(grid, 0, GCShown::initialCourse);
+    m_shown.addRow(grid, 1, GCShown::finalCourse);
+    m_shown.addRow(grid, 2, GCShown::vertexLat);
+    grid->addWidget(m_shown[GCShown::vertexLong], 2, 2);
+    grid->addWidget(m_shown[GCShown::vertexRemark], 2, 3);
+    m_shown.addRow(grid, 3, GCShown::saving);
     grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(widestVertex[0]));
     grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(widestVertex[1]));
     grid->setColumnStretch(3, 1);
@@ -168,7 +158,7 @@ QWidget* frmGC2000::layOutTable()
     auto* group = new QWidget;
     auto* area = new FollowingScrollArea(m_waypoints);
     area->setHeading(m_waypoints->makeHeading());
-    area->setMinimumHeight(8 * m_lblSaving->fontMetrics().height());
+    area->setMinimumHeight(8 * m_shown[GCShown::saving]->fontMetrics().height());
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(area->sizeHint().width());
     addPanel(group, "Waypoints")->addWidget(area, 0, 0);
@@ -227,9 +217,7 @@ std::string frmGC2000::waypointText(std::size_t waypoint,
 std::vector<ResultLabel*> frmGC2000::allResults() const
 {
     std::vector<ResultLabel*> all = m_waypoints->results();
-    all.insert(all.end(), m_lblGC2000.begin(), m_lblGC2000.end());
-    all.insert(all.end(), {m_lblInitialCourse, m_lblFinalCourse, m_lblVertexLat, m_lblVertexLong,
-                           m_lblVertexRemark, m_lblSaving});
+    all.insert(all.end(), m_shown.all().begin(), m_shown.all().end());
     return all;
 }
 
@@ -250,17 +238,7 @@ void frmGC2000::runGC()
     m_waypoints->update();
     for (std::size_t row = 0; row < m_result.rows.size(); ++row)
         showRow(row);
-    const auto show = [](ResultLabel* label, const std::string& text) {
-        label->setText(QString::fromStdString(text));
-    };
-    for (std::size_t i = 0; i < m_lblGC2000.size(); ++i)
-        show(m_lblGC2000[i], m_result.lblGC2000[i]);
-    show(m_lblInitialCourse, m_result.initialCourse);
-    show(m_lblFinalCourse, m_result.finalCourse);
-    show(m_lblVertexLat, m_result.vertexLat);
-    show(m_lblVertexLong, m_result.vertexLong);
-    show(m_lblVertexRemark, m_result.vertexRemark);
-    show(m_lblSaving, m_result.saving);
+    m_shown.show(m_result);
     m_picGC->setChart(DrawWPs(m_result.route));
     setNotice("input", QString::fromStdString(m_result.notice),
               levelBeside(m_result.figures.has_value()));

@@ -25,7 +25,7 @@ protected:
 private:
     static constexpr int rowCount = GCResult::rowCount;
 
-    void addResults();
+    void prepareResults();
     QWidget* layOutPositions();
     QWidget* layOutDistances();
     QWidget* layOutTrack();
@@ -41,14 +41,8 @@ private:
                              NavFunc113::DegMin GCWaypoint::*coordinate) const;
 
     FieldBoxes m_txtGC;
+    ResultLabels<GCResult> m_shown;
     RowTable* m_waypoints = nullptr;
-    std::array<ResultLabel*, 3> m_lblGC2000{};
-    ResultLabel* m_lblInitialCourse = nullptr;
-    ResultLabel* m_lblFinalCourse = nullptr;
-    ResultLabel* m_lblVertexLat = nullptr;
-    ResultLabel* m_lblVertexLong = nullptr;
-    ResultLabel* m_lblVertexRemark = nullptr;
-    ResultLabel* m_lblSaving = nullptr;
     GCPicture* m_picGC = nullptr;
     std::vector<QAction*> m_waypointEntries; ///< of the memo menu, for waypoints 1 .. 18
     GCResult m_result;

@@ -141,17 +141,12 @@ std::optional<std::int64_t> dayOf(const Pieces& pieces, NavFunc113::DateTime now
     return std::nullopt;
 }
 
-bool isEmpty(std::string_view text)
-{
-    return text.find_first_not_of(" \t") == std::string_view::npos;
-}
-
 } // namespace
 
 NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime now)
 {
     const std::string asTyped(typed);
-    if (isEmpty(typed)) return {asTyped, {}};
+    if (isBlank(typed)) return {asTyped, {}};
     const Pieces pieces = piecesOf(typed);
     if (!pieces.fault.empty()) return {asTyped, pieces.fault};
     const auto day = dayOf(pieces, now);
@@ -163,7 +158,7 @@ NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime now)
 
 std::optional<NavFunc113::DateTime> readFixTime(std::string_view text)
 {
-    if (isEmpty(text)) return std::nullopt;
+    if (isBlank(text)) return std::nullopt;
     const Pieces pieces = piecesOf(text);
     if (!pieces.fault.empty() || !pieces.year) return std::nullopt;
     return NavFunc113::MakeDateTime({*pieces.year, *pieces.month, *pieces.day}, pieces.seconds);
@@ -171,7 +166,7 @@ std::optional<NavFunc113::DateTime> readFixTime(std::string_view text)
 
 std::string faultOfFixTime(std::string_view text)
 {
-    if (isEmpty(text)) return {};
+    if (isBlank(text)) return {};
     const Pieces pieces = piecesOf(text);
     if (!pieces.fault.empty()) return pieces.fault;
     return pieces.year ? std::string() : std::string(text) + ": the date is missing";

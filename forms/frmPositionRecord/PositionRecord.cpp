@@ -24,9 +24,6 @@ constexpr const char* hoursFormat = "0.0#";
 constexpr const char* speedFormat = "0.00";
 constexpr Knots fastest(40); ///< what is faster was hardly a ship
 
-constexpr NumberField courseSteered{"course steered", 0, 360, "degrees"};
-constexpr NumberField speedSteered{"speed steered", 0, 999, "knots"};
-
 Hours hoursBetween(DateTime from, DateTime to)
 {
     return Hours((to - from) * 24);
@@ -117,8 +114,8 @@ void showSetAndDrift(const PositionRecordInput& input, PositionRecordResult& res
 {
     const RecordedFix& from = result.fixes[result.fixes.size() - 2];
     const RecordedFix& to = result.fixes.back();
-    const auto course = numberIn(input.courseSteered, courseSteered, result.notice);
-    const auto speed = numberIn(input.speedSteered, speedSteered, result.notice);
+    const auto course = numberIn(input.courseSteered, SteeredField::course, result.notice);
+    const auto speed = numberIn(input.speedSteered, SteeredField::speed, result.notice);
     if (!course || !speed) return;
     const Hours hours = hoursBetween(from.utc, to.utc);
     if (!(hours > Hours(0))) return;

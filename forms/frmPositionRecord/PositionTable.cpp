@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/PositionTable.h"
 
+#include "forms/frmPositionRecord/RowReading.h"
 #include "shell/screen/WidgetColours.h"
 
 namespace korvel
@@ -30,12 +31,15 @@ constexpr std::array<TableColumn, 13> columns = {{
     {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", FieldKind::Moment,
      "Row %1, ship's mean time of the fix, 0930 or 14-0930 or 2024/5/14 0930"},
     {"txtSatelliteTD", "TD h", "-00.0", FieldKind::Figure,
-     "Row %1, time difference, hours, east positive"},
+     "Row %1, time difference, hours, east positive", Qt::AlignLeft, false, false,
+     &RowField::timeDifference},
     {"txtLat", "Latitude", "-00.00000", FieldKind::Latitude,
-     "Row %1, latitude, degrees.minutes, north positive"},
+     "Row %1, latitude, degrees.minutes, north positive", Qt::AlignLeft, false, false,
+     &RowField::latitude},
     {"", "", "00°00.000' N", Label::Echo},
     {"txtLong", "Longitude", "-000.00000", FieldKind::Longitude,
-     "Row %1, longitude, degrees.minutes, east positive"},
+     "Row %1, longitude, degrees.minutes, east positive", Qt::AlignLeft, false, false,
+     &RowField::longitude},
     {"", "", "000°00.000' W", Label::Echo},
     {"lblUTC", "UTC", "2000/00/00 00:00", Label::Result, "Row %1, UTC", Qt::AlignLeft, false, true},
     {"lblCourse", "Course", "<000.0>", Label::Result,

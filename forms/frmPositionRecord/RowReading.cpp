@@ -19,10 +19,6 @@ using NavFunc113::DegMin;
 
 constexpr double clockLeeway = 2.0 / 1440; ///< days by which the ship's clock may be slow
 
-constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
-constexpr NumberField latitudeOfFix{"latitude", -90, 90, "degrees", FieldKind::Latitude};
-constexpr NumberField longitudeOfFix{"longitude", -180, 180, "degrees", FieldKind::Longitude};
-
 std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
 {
     Remarks remarks;
@@ -41,7 +37,7 @@ std::string hoursAndMinutes(double hours)
 
 std::optional<double> timeDifferenceIn(const std::string& box, std::string& remark)
 {
-    const auto value = numberIn(box, timeDifference, remark);
+    const auto value = numberIn(box, RowField::timeDifference, remark);
     const auto typed = readLeadingNumber(box);
     // Zones differ by whole quarters of an hour: 9.3 was hardly meant as 9 h 18 min.
     if (value && std::fabs(*value * 4 - std::round(*value * 4)) > 1e-9)
@@ -58,7 +54,7 @@ std::optional<double> timeDifferenceIn(const std::string& box, std::string& rema
 std::optional<double> timeDifferenceOf(const PositionRow& row, double& above,
                                        PositionRowResult& result)
 {
-    if (row.satelliteTD.find_first_not_of(" \t") == std::string::npos) {
+    if (isBlank(row.satelliteTD)) {
         if (!row.isEmpty()) result.assumedTD = Format(above, "0.0#");
         return above;
     }
@@ -90,8 +86,8 @@ std::optional<RecordedFix> readRow(const PositionRecordInput& input, std::size_t
     const auto smt = readFixTime(row.satelliteSMT);
     if (!smt && input.typingTimeIn != index) result.remark = faultOfFixTime(row.satelliteSMT);
     const auto td = timeDifferenceOf(row, tdAbove, result);
-    const auto latitude = angleIn(row.latitude, latitudeOfFix, result.remark);
-    const auto longitude = angleIn(row.longitude, longitudeOfFix, result.remark);
+    const auto latitude = angleIn(row.latitude, RowField::latitude, result.remark);
+    const auto longitude = angleIn(row.longitude, RowField::longitude, result.remark);
     result.read = {smt, td, {}, latitude, longitude};
     if (!smt || !td) return std::nullopt;
     const DateTime utc = NavFunc113::NearestSecond(*smt - *td / 24);

@@ -7,6 +7,21 @@
 namespace korvel
 {
 
+/// What the boxes of a row take.
+namespace RowField
+{
+inline constexpr NumberField timeDifference{"TD", -12, 12, "hours"};
+inline constexpr NumberField latitude{"latitude", -90, 90, "degrees", FieldKind::Latitude};
+inline constexpr NumberField longitude{"longitude", -180, 180, "degrees", FieldKind::Longitude};
+} // namespace RowField
+
+/// What the boxes of the course and speed steered take.
+namespace SteeredField
+{
+inline constexpr NumberField course{"course steered", 0, 360, "degrees"};
+inline constexpr NumberField speed{"speed steered", 0, 999, "knots"};
+} // namespace SteeredField
+
 /// Adds a sentence to a remark.
 void say(std::string& text, const std::string& sentence);
 

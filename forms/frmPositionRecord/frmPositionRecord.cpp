@@ -7,6 +7,7 @@
 #include "forms/frmPositionRecord/RecordList.h"
 #include "forms/frmPositionRecord/RecordPaper.h"
 #include "forms/frmPositionRecord/RecordText.h"
+#include "forms/frmPositionRecord/RowReading.h"
 #include "shell/controls/CellLayout.h"
 #include "shell/controls/FollowingScrollArea.h"
 
@@ -24,8 +25,9 @@ namespace
 
 constexpr std::array<Field, 2> steeredFields = {{
     {"txtCourseSteered", "&Course steered", "Course steered since the last fix but one",
-     "degrees true", FieldKind::Figure, "°"},
-    {"txtSpeedSteered", "&Speed steered", "Speed steered", "knots", FieldKind::Figure, "kn"},
+     "degrees true", FieldKind::Figure, "°", SteeredField::course.low, SteeredField::course.high},
+    {"txtSpeedSteered", "&Speed steered", "Speed steered", "knots", FieldKind::Figure, "kn",
+     SteeredField::speed.low, SteeredField::speed.high},
 }};
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/NumberField.h"
+#include "app/reading/Reading.h"
 #include "app/reading/TypedTime.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/ephemeris.h"
@@ -43,11 +44,6 @@ std::string refinedInWords(DateTime time)
     return text == "0000LT" ? text + " (at midnight)" : text;
 }
 
-/// The boxes of a row's numbers. An empty one makes no row.
-constexpr NumberField timeDifference{"TD", -12, 12, "hours", FieldKind::Figure, {}};
-constexpr NumberField latitude{"latitude", -63, 63, "degrees", FieldKind::Latitude, {}};
-constexpr NumberField longitude{"longitude", -180, 180, "degrees", FieldKind::Longitude, {}};
-
 /// Reads a row's number; stores it when it can be used.
 template <typename Unit>
 bool accept(const std::string& box, const NumberField& field, Unit& number, Remarks& remarks)
@@ -55,11 +51,6 @@ bool accept(const std::string& box, const NumberField& field, Unit& number, Rema
     const auto value = readField(box, field, remarks);
     if (value) number = Unit(*value);
     return value.has_value();
-}
-
-bool isBlank(const std::string& text)
-{
-    return text.find_first_not_of(" \t") == std::string::npos;
 }
 
 /// What is said of a row, its place in front.
@@ -204,9 +195,9 @@ RiseSetResult CalculateRiseSet(const RiseSetInput& input, RiseSetRow& row)
         return result;
     Remarks remarks;
     // One after the other: a number that was accepted before the first refusal is kept.
-    if (!accept(input.txtTD, timeDifference, row.TD, remarks) ||
-        !accept(input.txtLatitude, latitude, row.latitude, remarks) ||
-        !accept(input.txtLongitude, longitude, row.longitude, remarks)) {
+    if (!accept(input.txtTD, RiseSetField::timeDifference, row.TD, remarks) ||
+        !accept(input.txtLatitude, RiseSetField::latitude, row.latitude, remarks) ||
+        !accept(input.txtLongitude, RiseSetField::longitude, row.longitude, remarks)) {
         result.notice = withPlace(input.txtLocation, remarks);
         return result;
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/NumberField.h"
 #include "navlib/rise_set.h"
 
 #include <array>
@@ -10,6 +11,14 @@
 
 namespace korvel
 {
+
+/// What the boxes of a row take. An empty one makes no row.
+namespace RiseSetField
+{
+inline constexpr NumberField timeDifference{"TD", -12, 12, "hours", FieldKind::Figure, {}};
+inline constexpr NumberField latitude{"latitude", -63, 63, "degrees", FieldKind::Latitude, {}};
+inline constexpr NumberField longitude{"longitude", -180, 180, "degrees", FieldKind::Longitude, {}};
+} // namespace RiseSetField
 
 struct RiseSetInput {       ///< boxes as typed
     std::string txtSunMoon; ///< date

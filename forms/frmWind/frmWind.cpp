@@ -16,9 +16,9 @@ namespace korvel
 {
 
 frmWind::frmWind(Program& program)
-    : CalculatorWindow(program, "frmWind", "True wind"), m_txtWind(addFields(WindFields))
+    : CalculatorWindow(program, "frmWind", "True wind"), m_txtWind(addFields(WindFields)),
+      m_lblWind(addResults(WindResults))
 {
-    m_lblWind = addLabels<2>("lblWind");
     m_picWind = new WindPictureBox(program);
     addOptions();
 
@@ -34,10 +34,8 @@ frmWind::frmWind(Program& program)
     foldColumns();
     menus().addLinks("mnuWind");
 
-    m_calculation = calculations().add(
-        {"True wind", m_txtWind.all(), {m_lblWind.begin(), m_lblWind.end()}, [this] {
-             runWind();
-         }});
+    m_calculation =
+        calculations().add({"True wind", m_txtWind.all(), m_lblWind.all(), [this] { runWind(); }});
     connectPicture();
     nameSettings();
     loadSettings();
@@ -68,12 +66,7 @@ QGroupBox* frmWind::layOutResults()
 {
     auto* group = new QGroupBox("True wind");
     auto* grid = gridOf(group);
-    m_lblWind[0]->declare("True wind from");
-    m_lblWind[1]->declare("Force of the true wind");
-    grid->addWidget(new QLabel("From"), 0, 0);
-    grid->addWidget(m_lblWind[0], 0, 1);
-    grid->addWidget(new QLabel("Force"), 1, 0);
-    grid->addWidget(m_lblWind[1], 1, 1);
+    m_lblWind.addRows(grid, 0);
     grid->setColumnMinimumWidth(
         1, QFontMetrics(m_lblWind[1]->font()).horizontalAdvance("Beaufort 9 (100.0Kn)"));
     grid->setColumnStretch(1, 1);
@@ -133,8 +126,7 @@ void frmWind::runWind()
     m_wind = {};
     m_picWind->setWind({}, orientation()); // also when the library stops the calculation
     m_wind = CalculateWind(m_txtWind.texts<0, 4>());
-    for (std::size_t i = 0; i < m_lblWind.size(); ++i)
-        m_lblWind[i]->setText(QString::fromStdString(m_wind.lblWind[i]));
+    m_lblWind.show(m_wind);
     m_picWind->setWind(m_wind.figures, orientation());
     setNotice("input", QString::fromStdString(m_wind.notice),
               levelBeside(m_wind.figures.has_value()));

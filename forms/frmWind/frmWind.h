@@ -40,7 +40,7 @@ private:
     WindOrientation orientation() const;
 
     FieldBoxes m_txtWind;
-    std::array<ResultLabel*, 2> m_lblWind{};
+    ResultLabels<WindResult> m_lblWind;
     std::array<QRadioButton*, 2> m_optWind{};
     WindPictureBox* m_picWind = nullptr;
     WindResult m_wind;

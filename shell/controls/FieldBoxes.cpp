@@ -22,14 +22,6 @@ EntryBox* boxOf(const Field& field, QWidget* parent)
     return field.onKeyRelease ? new KeyUpBox(parent) : new EntryBox(parent);
 }
 
-QString limitsInWords(const Field& field)
-{
-    const QString low = QString::number(field.low);
-    const QString high = QString::number(field.high, 'g', 10);
-    if (std::isinf(field.low)) return std::isinf(field.high) ? QString() : "to " + high;
-    return std::isinf(field.high) ? "from " + low : low + " to " + high;
-}
-
 /// A date, a time of day or both as they were read; empty when they could not be.
 std::string momentInFull(const std::string& typed)
 {
@@ -44,6 +36,14 @@ std::string momentInFull(const std::string& typed)
 
 } // namespace
 
+QString limitsInWords(double low, double high)
+{
+    const QString from = QString::number(low);
+    const QString to = QString::number(high, 'g', 10);
+    if (std::isinf(low)) return std::isinf(high) ? QString() : "to " + to;
+    return std::isinf(high) ? "from " + from : from + " to " + to;
+}
+
 FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(table)
 {
     for (const Field& field : table) {
@@ -51,7 +51,7 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
         box->setObjectName(field.name);
         box->setAccessibleName(asQString(accessibleName(field)));
         box->recordKind = field.kind;
-        box->setLimits(limitsInWords(field));
+        box->setLimits(limitsInWords(field.low, field.high));
         if (field.kind == FieldKind::Figure || field.kind == FieldKind::Angle)
             box->setReading(
                 {.name = {}, .low = field.low, .high = field.high, .kind = field.kind});

@@ -13,6 +13,9 @@ class QGridLayout;
 namespace korvel
 {
 
+/// What is accepted, in words: "-90 to 90", "from 0"; empty when everything is.
+QString limitsInWords(double low, double high);
+
 /// The boxes of a window's table of fields: named, paired to positions, in one Enter order, from
 /// the last back to the first.
 class FieldBoxes

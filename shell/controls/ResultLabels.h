@@ -35,7 +35,7 @@ public:
     void show(const Source& source) const
     {
         for (std::size_t i = 0; i < m_labels.size(); ++i)
-            m_labels[i]->setText(asQString(source.*m_table[i].text));
+            m_labels[i]->setText(asQString(m_table[i].textIn(source)));
     }
 
     /// Rows of a grid from this one on: caption, figure, unit.
@@ -48,7 +48,7 @@ public:
     {
         grid->addWidget(new QLabel(m_table[result].caption), row, 0);
         grid->addWidget(m_labels.at(result), row, 1);
-        grid->addWidget(new QLabel(m_table[result].unit), row, 2, 1, -1);
+        if (*m_table[result].unit) grid->addWidget(new QLabel(m_table[result].unit), row, 2, 1, -1);
     }
 
 private:

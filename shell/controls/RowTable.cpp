@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/RowTable.h"
 
+#include "shell/controls/FieldBoxes.h"
 #include "shell/controls/Panels.h"
 #include "shell/controls/WrappingRow.h"
 
@@ -86,6 +87,9 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
     if (holds(column, FieldKind::Figure)) static_cast<EntryBox*>(made)->setReading({.name = {}});
     if (holds(column, FieldKind::Text))
         static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
+    if (column.limits)
+        static_cast<EntryBox*>(made)->setLimits(
+            limitsInWords(column.limits->low, column.limits->high));
     auto* position = dynamic_cast<PositionBox*>(made);
     if (position) position->setBriefEcho();
     if (holds(column, FieldKind::Longitude))

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/NumberField.h"
 #include "shell/controls/PositionBox.h"
 #include "shell/screen/ZoomSizes.h"
 
@@ -33,6 +34,7 @@ struct TableColumn {
     bool stretches = false; ///< takes the room that is left
     /// The columns from here on come in a line of their own where the row does not fit into one.
     bool startsGroup = false;
+    const NumberField* limits = nullptr; ///< what the calculations accept in its boxes
 };
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke

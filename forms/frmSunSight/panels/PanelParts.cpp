@@ -12,7 +12,7 @@ ResultLabel* makeResult(const QString& array, int index, const QString& words, Q
 {
     auto* label = new ResultLabel(parent);
     label->setObjectName(memberName(array, index));
-    label->setAccessibleName(words);
+    label->declare(words);
     return label;
 }
 

@@ -21,11 +21,6 @@ using namespace NavFunc113;
 
 constexpr double secondsPerDay = 86400;
 
-bool isEmpty(const std::string& text)
-{
-    return text.find_first_not_of(" \t") == std::string::npos;
-}
-
 std::optional<DateTime> readTime(const Field& field, const std::string& text, Due due,
                                  Remarks& remarks)
 {
@@ -54,7 +49,7 @@ std::optional<DateTime> readUTC(const SightTexts& texts, Remarks& remarks)
     const auto offset = texts.SMT ? number(TD) : 0;
     const auto error = number(watchError);
     if (!texts.isBegun()) {
-        if (!isEmpty(texts.date)) readTime(entryFields[date], texts.date, Due::Date, remarks);
+        if (!isBlank(texts.date)) readTime(entryFields[date], texts.date, Due::Date, remarks);
         return std::nullopt;
     }
     const auto day = readTime(entryFields[date], texts.date, Due::Date, remarks);
@@ -155,7 +150,7 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
 
 bool SightTexts::isBegun() const
 {
-    return !isEmpty(time) || !isEmpty(Hs);
+    return !isBlank(time) || !isBlank(Hs);
 }
 
 std::optional<double> readBox(const Field& field, const std::string& text,
@@ -211,7 +206,7 @@ Track readTrack(const TrackTexts& texts, std::optional<DateTime> lastSight, bool
     const auto number = [&](std::size_t field, std::optional<double> empty) {
         const std::string& text = texts.*trackMembers[field - DRLatitude];
         return readBox(entryFields[field], text, empty,
-                       isNeeded || !isEmpty(text) ? remarks : unneeded);
+                       isNeeded || !isBlank(text) ? remarks : unneeded);
     };
     Track track;
     const auto latitude = number(DRLatitude, std::nullopt);
@@ -223,7 +218,7 @@ Track readTrack(const TrackTexts& texts, std::optional<DateTime> lastSight, bool
     if (courseMadeGood && speedMadeGood)
         track.motion = Motion{Degrees(*courseMadeGood), Knots(*speedMadeGood)};
     track.UTC = lastSight;
-    if (!isEmpty(texts.time)) {
+    if (!isBlank(texts.time)) {
         track.UTC = readDRTime(texts.time, lastSight, remarks);
         track.timeUsable = track.UTC.has_value();
     }

@@ -2,6 +2,7 @@
 #include "forms/frmSunSight/sight/SightList.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightInput.h"
 #include "forms/frmSunSight/sight/SightLine.h"
@@ -78,11 +79,6 @@ std::optional<RecordedSight> sightOf(std::string_view text)
         sight.texts.*sightMembers[i] = parts[i + heads];
     if (!observationOf(sight.texts).complete()) return std::nullopt;
     return sight;
-}
-
-bool isBlank(const std::string& text)
-{
-    return text.find_first_not_of(" \t") == std::string::npos;
 }
 
 } // namespace

@@ -268,8 +268,8 @@ CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeigh
     const bool tide = day.four.kind == TideKind::Tide;
     NumberField field;
     field.name = tide ? "Height" : "Rate";
-    field.low = -20;
-    field.high = 20;
+    field.low = lowestAsked;
+    field.high = highestAsked;
     field.unit = tide ? "metres" : "knots";
     Remarks remarks;
     const std::optional<double> level = readField(typedHeight, field, remarks);

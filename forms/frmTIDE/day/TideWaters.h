@@ -97,6 +97,9 @@ struct CurveAnswer {
 /// The height at a typed time of the day.
 CurveAnswer heightAt(const TideDayShown& day, const std::string& typedTime);
 
+/// The heights, metres, and rates, knots, that can be asked for.
+inline constexpr double lowestAsked = -20, highestAsked = 20;
+
 /// When the tide stands at a typed height or more: the question of the water under the keel.
 CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeight);
 

@@ -17,7 +17,7 @@ constexpr std::array<Field, 2> questionFields = {{
     {"txtAtTime", "Hei&ght at", "Time of the day", "h:mm zone time", FieldKind::Moment,
      "zone time"},
     {"txtAtHeight", "Fro&m a height of", "Height or rate", "metres or knots", FieldKind::Figure,
-     "m or kn"},
+     "m or kn", lowestAsked, highestAsked},
 }};
 
 } // namespace
@@ -43,7 +43,7 @@ ResultLabel* TideDayPanel::addLabel(const QString& name, const QString& accessib
 {
     auto* label = new ResultLabel(this);
     label->setObjectName(name);
-    label->setAccessibleName(accessibleName);
+    label->declare(accessibleName);
     label->setFont(font()); // beside the texts of the day, which stay the largest
     return label;
 }

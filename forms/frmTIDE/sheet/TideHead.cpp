@@ -30,7 +30,7 @@ ResultLabel* TideHead::addLabel(const QString& name, const QString& accessibleNa
 {
     auto* label = new ResultLabel(this);
     label->setObjectName(name);
-    label->setAccessibleName(accessibleName);
+    label->declare(accessibleName);
     return label;
 }
 
