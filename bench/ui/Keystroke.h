@@ -50,7 +50,8 @@ inline void prepare(QWidget& window, QLineEdit& box)
     window.show();
     window.activateWindow();
     box.setFocus(Qt::OtherFocusReason);
-    box.end(false);
+    QApplication::processEvents();
+    box.end(false); // a box selects its text when its window comes to the front
     QApplication::processEvents();
 }
 

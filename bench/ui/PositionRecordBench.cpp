@@ -16,7 +16,7 @@ void fillRows(QWidget& window)
         find<QLineEdit>(window, memberName(array, row).toUtf8().constData()).setText(text);
     };
     for (int row = 0; row < static_cast<int>(positionRowCount); ++row) {
-        put("txtSatelliteSMT", row, QString("2024/05/%1 12:00").arg(row + 1, 2, 10, QChar('0')));
+        put("txtSatelliteSMT", row, QString("2005/01/%1 12:00").arg(row + 1, 2, 10, QChar('0')));
         put("txtSatelliteTD", row, "9");
         put("txtLat", row, QString("%1.%2").arg(20 + row / 2).arg(row % 2 ? "30" : "00"));
         put("txtLong", row, QString("%1.1").arg(130 + row));

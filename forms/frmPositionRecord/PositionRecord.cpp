@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/NumberField.h"
+#include "forms/frmPositionRecord/RecordMemory.h"
 #include "forms/frmPositionRecord/RowReading.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
@@ -36,12 +37,29 @@ RecordLeg legBetween(const RecordedFix& from, const RecordedFix& to, NavFunc113:
             hoursBetween(from.utc, to.utc)};
 }
 
-void showLeg(const RecordLeg& leg, PositionRowResult& row)
+std::string distanceText(double miles)
 {
-    row.course = courseText(leg.sailed.course);
-    row.distance = Format(leg.sailed.distance, distanceFormat);
-    row.hours = Format(leg.hours, hoursFormat);
-    if (leg.hours > Hours(0)) row.speed = Format(leg.sailed.distance / leg.hours, speedFormat);
+    return Format(miles, distanceFormat);
+}
+
+std::string hoursText(double hours)
+{
+    return Format(hours, hoursFormat);
+}
+
+std::string speedText(double knots)
+{
+    return Format(knots, speedFormat);
+}
+
+void showLeg(const RecordLeg& leg, PositionRowResult& row, RecordMemory::Figures& before)
+{
+    const auto shownCourse = [](double course) { return courseText(Degrees(course)); };
+    row.course = before.course.text(leg.sailed.course.value(), shownCourse);
+    row.distance = before.distance.text(leg.sailed.distance.value(), distanceText);
+    row.hours = before.hours.text(leg.hours.value(), hoursText);
+    if (leg.hours > Hours(0))
+        row.speed = before.speed.text((leg.sailed.distance / leg.hours).value(), speedText);
 }
 
 bool isTooFast(const RecordLeg& leg)
@@ -78,7 +96,7 @@ bool isNoon(DateTime smt)
 }
 
 /// Totals over all fixes, and at every noon the run since the noon before.
-void showRuns(PositionRecordResult& result)
+void showRuns(PositionRecordResult& result, RecordMemory& memory)
 {
     const std::vector<RecordedFix>& fixes = result.fixes;
     Run total;
@@ -91,8 +109,11 @@ void showRuns(PositionRecordResult& result)
         }
         if (!isNoon(fixes[i].smt)) continue;
         if (sinceNoon && sinceNoon->isValid()) {
-            result.dayRun = Format(sinceNoon->distance(), distanceFormat) + " in " +
-                            Format(sinceNoon->hours(), hoursFormat) + " h";
+            RecordMemory::Figures& before = memory.figures[fixes[i].row];
+            result.dayRun = before.dayRun.text(sinceNoon->distance().value(), distanceText);
+            result.dayRun += " in ";
+            result.dayRun += before.dayHours.text(sinceNoon->hours().value(), hoursText);
+            result.dayRun += " h";
             result.rows[fixes[i].row].dayRun = result.dayRun;
             result.dayRuns.push_back({noon, i, sinceNoon->distance(), sinceNoon->hours()});
         }
@@ -101,11 +122,11 @@ void showRuns(PositionRecordResult& result)
     }
     if (!total.isValid()) return;
     result.total = RecordRun{0, fixes.size() - 1, total.distance(), total.hours()};
-    result.totalDistance = Format(total.distance(), distanceFormat);
-    result.totalHours = Format(total.hours(), hoursFormat);
-    result.averageSpeed = Format(total.distance() / total.hours(), speedFormat);
     result.totalMiles = total.distance().value();
     result.averageKnots = (total.distance() / total.hours()).value();
+    result.totalDistance = distanceText(*result.totalMiles);
+    result.totalHours = hoursText(total.hours().value());
+    result.averageSpeed = speedText(*result.averageKnots);
 }
 
 /// The current between the last two fixes: from where the ship should have been by course and
@@ -157,33 +178,49 @@ void gatherRemarks(PositionRecordResult& result)
     if (remarks > inWords) say(result.notice, "and " + Format(remarks - inWords, "0") + " more");
 }
 
+/// What comes to a row's remark from the leg that leads there.
+void remarkOnLeg(const std::optional<RecordLeg>& leg, const RecordedFix& from,
+                 PositionRowResult& next, bool isEarlier)
+{
+    next.outOfOrder = isEarlier;
+    const bool tooFast = leg && isTooFast(*leg);
+    if (!isEarlier && !tooFast) return;
+    const std::string row = "row " + Format(static_cast<double>(from.row + 1), "0");
+    if (isEarlier) say(next.remark, "earlier than " + row);
+    if (tooFast) say(next.remark, "more than " + Format(fastest, "0") + " knots from " + row);
+}
+
 } // namespace
 
 PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input)
+{
+    RecordMemory nothing;
+    return CalculatePositionRecord(input, nothing);
+}
+
+PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input, RecordMemory& memory)
 {
     PositionRecordResult result;
     std::vector<RecordedFix>& fixes = result.fixes;
     double td = input.shipsTD;
     for (std::size_t i = 0; i < input.rows.size(); ++i)
-        if (const auto fix = readRow(input, i, td, result.rows[i])) fixes.push_back(*fix);
+        if (const auto fix = readRow(input, i, td, result.rows[i], memory.rows[i]))
+            fixes.push_back(*fix);
 
     auto& legs = result.legs;
     for (std::size_t i = 1; i < fixes.size(); ++i) {
+        const RecordedFix& from = fixes[i - 1];
         PositionRowResult& next = result.rows[fixes[i].row];
         try {
-            legs.emplace_back(legBetween(fixes[i - 1], fixes[i], input.earth));
-            showLeg(*legs.back(), result.rows[fixes[i - 1].row]);
+            legs.emplace_back(legBetween(from, fixes[i], input.earth));
+            showLeg(*legs.back(), result.rows[from.row], memory.figures[from.row]);
         } catch (const ArithmeticError&) {
             legs.emplace_back(std::nullopt);
             say(next.remark, "no rhumb line leads here");
         }
-        const std::string from = "row " + Format(static_cast<double>(fixes[i - 1].row + 1), "0");
-        next.outOfOrder = fixes[i].utc < fixes[i - 1].utc;
-        if (next.outOfOrder) say(next.remark, "earlier than " + from);
-        if (legs.back() && isTooFast(*legs.back()))
-            say(next.remark, "more than " + Format(fastest, "0") + " knots from " + from);
+        remarkOnLeg(legs.back(), from, next, fixes[i].utc < from.utc);
     }
-    showRuns(result);
+    showRuns(result, memory);
     gatherRemarks(result);
     if (fixes.size() >= 2) showSetAndDrift(input, result);
     return result;

@@ -29,6 +29,8 @@ struct ReadRow {
     std::optional<NavFunc113::DateTime> utc;
     std::optional<NavFunc113::DegMin> latitude;
     std::optional<NavFunc113::DegMin> longitude;
+
+    bool operator==(const ReadRow&) const = default;
 };
 
 /// A row that counts.
@@ -79,6 +81,8 @@ struct PositionRowResult {
     bool outOfOrder = false; ///< earlier by UTC than the complete row before it
     std::string remark;      ///< what makes no sense in the row, in words
     ReadRow read;
+
+    bool operator==(const PositionRowResult&) const = default;
 };
 
 struct PositionRecordResult {
@@ -109,5 +113,11 @@ struct PositionRecordResult {
 /// from UTC alone, so clock changes and the date line need no care. Courses and distances are
 /// rhumb lines.
 PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input);
+
+struct RecordMemory;
+/// The same, sooner.
+/// @param memory of the calculation before; what it found is taken over where it holds
+PositionRecordResult CalculatePositionRecord(const PositionRecordInput& input,
+                                             RecordMemory& memory);
 
 } // namespace korvel

@@ -97,7 +97,8 @@ void PositionTable::fill(const PositionRows& rows)
 void PositionTable::show(const PositionRecordResult& record)
 {
     for (std::size_t i = 0; i < rows(); ++i) {
-        const PositionRowResult& shown = record.rows[i];
+        if (m_shown[i] == record.rows[i]) continue;
+        const PositionRowResult& shown = m_shown[i] = record.rows[i];
         showText(result(i, UTC), shown.utc);
         const QString assumed = QString::fromStdString(shown.assumedTD);
         if (row(i).satelliteTD->placeholderText() != assumed)

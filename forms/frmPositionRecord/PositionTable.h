@@ -31,6 +31,7 @@ public:
     void setWarningColour(const QColor& colour);
 
 private:
+    std::array<PositionRowResult, positionRowCount> m_shown; ///< what stands in the labels
     std::array<bool, positionRowCount> m_warned{};
     QColor m_warning;
 };

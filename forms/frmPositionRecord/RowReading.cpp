@@ -79,23 +79,46 @@ std::optional<double> numberIn(const std::string& box, const NumberField& field,
     return value;
 }
 
-std::optional<RecordedFix> readRow(const PositionRecordInput& input, std::size_t index,
-                                   double& tdAbove, PositionRowResult& result)
+namespace
 {
-    const PositionRow& row = input.rows[index];
+
+RecordMemory::ReadBefore readAnew(const PositionRow& row, double tdAbove, bool isTypingTime,
+                                  std::size_t index)
+{
+    RecordMemory::ReadBefore read{row, tdAbove, isTypingTime, {}, {}, tdAbove};
+    PositionRowResult& result = read.result;
     const auto smt = readFixTime(row.satelliteSMT);
-    if (!smt && input.typingTimeIn != index) result.remark = faultOfFixTime(row.satelliteSMT);
-    const auto td = timeDifferenceOf(row, tdAbove, result);
+    if (!smt && !isTypingTime) result.remark = faultOfFixTime(row.satelliteSMT);
+    const auto td = timeDifferenceOf(row, read.tdBelow, result);
     const auto latitude = angleIn(row.latitude, RowField::latitude, result.remark);
     const auto longitude = angleIn(row.longitude, RowField::longitude, result.remark);
     result.read = {smt, td, {}, latitude, longitude};
-    if (!smt || !td) return std::nullopt;
+    if (!smt || !td) return read;
     const DateTime utc = NavFunc113::NearestSecond(*smt - *td / 24);
     result.read.utc = utc;
     result.utc = Format(utc, "yyyy/mm/dd hh:mm");
-    if (input.now && utc > *input.now + clockLeeway) say(result.remark, "lies in the future");
-    if (!latitude || !longitude) return std::nullopt;
-    return RecordedFix{index, *smt, utc, *latitude, *longitude};
+    if (latitude && longitude) read.fix = RecordedFix{index, *smt, utc, *latitude, *longitude};
+    return read;
+}
+
+} // namespace
+
+std::optional<RecordedFix> readRow(const PositionRecordInput& input, std::size_t index,
+                                   double& tdAbove, PositionRowResult& result,
+                                   std::optional<RecordMemory::ReadBefore>& before)
+{
+    const PositionRow& row = input.rows[index];
+    const bool isTyping = input.typingTimeIn == index;
+    const bool holds = before && before->typed == row && before->tdAbove == tdAbove &&
+                       before->isTypingTime == isTyping;
+    if (!holds) before = readAnew(row, tdAbove, isTyping, index);
+    result = before->result;
+    tdAbove = before->tdBelow;
+    // The clock goes on while a row stays as it is.
+    const auto& utc = result.read.utc;
+    if (utc && input.now && *utc > *input.now + clockLeeway)
+        say(result.remark, "lies in the future");
+    return before->fix;
 }
 
 } // namespace korvel

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/NumberField.h"
-#include "forms/frmPositionRecord/PositionRecord.h"
+#include "forms/frmPositionRecord/RecordMemory.h"
 
 namespace korvel
 {
@@ -31,8 +31,10 @@ std::optional<double> numberIn(const std::string& box, const NumberField& field,
 
 /// Reads a row of the record; writes its UTC, remarks and what was understood into its result.
 /// @param tdAbove time difference of the rows above, hours; replaced by the row's own
+/// @param before the row as it was read last: taken over when it is still the same
 /// @return the fix when the row is complete
 std::optional<RecordedFix> readRow(const PositionRecordInput& input, std::size_t index,
-                                   double& tdAbove, PositionRowResult& result);
+                                   double& tdAbove, PositionRowResult& result,
+                                   std::optional<RecordMemory::ReadBefore>& before);
 
 } // namespace korvel

@@ -198,7 +198,7 @@ void frmPositionRecord::run()
 {
     if (m_filling) return;
     m_shown = {};
-    m_shown = CalculatePositionRecord(input());
+    m_shown = CalculatePositionRecord(input(), m_memory);
     m_table->show(m_shown);
     const auto show = [](ResultLabel* label, const std::string& text) {
         label->setText(QString::fromStdString(text));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/frmPositionRecord/PositionTable.h"
+#include "forms/frmPositionRecord/RecordMemory.h"
 #include "shell/controls/FocusFollower.h"
 #include "shell/window/CalculatorWindow.h"
 
@@ -57,6 +58,7 @@ private:
     ResultLabel* m_lblDrift;
 
     PositionRecordResult m_shown;
+    RecordMemory m_memory;                  ///< of the calculation that m_shown came from
     std::optional<RowChange> m_lastChange;  ///< of rows; what is typed is no change of rows
     std::function<bool()> m_isStillRefused; ///< while the notice line says why
     int m_calculation = 0;

@@ -79,18 +79,38 @@ EntryBox::EntryBox(QWidget* parent) : QLineEdit(parent)
     });
 }
 
+const std::string& EntryBox::value() const
+{
+    // Asked of every box at each key, which changes one of them.
+    if (const QString typed = text(); typed != m_valueText) {
+        m_value = typed.toStdString();
+        m_valueText = typed;
+    }
+    return m_value;
+}
+
 QString EntryBox::nameInWords() const
 {
     const QString name = accessibleName();
     return name.section(',', 0, name.startsWith("Row ") ? 1 : 0);
 }
 
-std::optional<NumberReading> EntryBox::halfRead() const
+void EntryBox::setReading(const NumberField& reading)
 {
-    if (!m_reading || text().isEmpty()) return std::nullopt;
+    m_reading = reading;
+    m_halfReadText = {};
+    m_halfRead.reset();
+}
+
+const std::optional<NumberReading>& EntryBox::halfRead() const
+{
+    if (!m_reading || text() == m_halfReadText) return m_halfRead;
+    m_halfReadText = text();
+    m_halfRead.reset();
     NumberReading reading = readField(value(), *m_reading);
     const bool isHalf = reading.kind == NumberReading::Kind::Beginning && !reading.remark.empty();
-    return isHalf ? std::optional(std::move(reading)) : std::nullopt;
+    if (isHalf) m_halfRead = std::move(reading);
+    return m_halfRead;
 }
 
 void EntryBox::focusInEvent(QFocusEvent* event)

@@ -26,7 +26,8 @@ class EntryBox : public QLineEdit
 public:
     explicit EntryBox(QWidget* parent = nullptr);
 
-    std::string value() const { return text().toStdString(); }
+    /// The text; good until it changes.
+    const std::string& value() const;
 
     /// Greatest number of characters of a number, a date or a position; of a text for the log.
     static constexpr int longestFigure = 40;
@@ -46,10 +47,10 @@ public:
     QString nameInWords() const;
 
     /// Says that the box takes a number, and which. Its name is the box's own.
-    void setReading(const NumberField& reading) { m_reading = reading; }
+    void setReading(const NumberField& reading);
     /// What of the text is read where that is only its beginning, and what all of it may have been
     /// meant as; nothing when it is read whole, or not at all.
-    std::optional<NumberReading> halfRead() const;
+    const std::optional<NumberReading>& halfRead() const;
 
     /// What Enter does on top, before it moves on.
     std::function<void()> onEnter;
@@ -71,6 +72,10 @@ private:
     EntryBox* m_next = nullptr;
     QString m_limits;
     std::optional<NumberField> m_reading;
+    mutable QString m_valueText; ///< what m_value was made from
+    mutable std::string m_value;
+    mutable QString m_halfReadText; ///< what m_halfRead was read from
+    mutable std::optional<NumberReading> m_halfRead;
     bool m_isEdited = false; ///< the text is being changed by hand
     bool m_focusedByMouse = false;
     bool m_interrupted = false; ///< a question or an alarm took the focus while somebody typed

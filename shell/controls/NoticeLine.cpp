@@ -61,8 +61,11 @@ void NoticeLine::say(const QString& key, const QString& text, NoticeLevel level)
 
 void NoticeLine::sayHalfRead(const EntryBox& box, const std::optional<NumberReading>& reading)
 {
+    const bool wasSaid = m_halfReadBoxes.erase(&box) > 0;
+    if (!wasSaid && !reading) return; // as of nearly all boxes, at each key
     const QString key = "half read " + box.objectName();
     if (!reading) return put(key, {});
+    m_halfReadBoxes.insert(&box);
     const QString remark = QString::fromStdString(reading->remark);
     put(key,
         {box.nameInWords() + ": " + remark, NoticeLevel::Fault, remark, !reading->meant.empty()});
@@ -73,7 +76,9 @@ void NoticeLine::put(const QString& key, const Said& said)
     if (said.text.isEmpty()) {
         if (m_said.erase(key) == 0) return;
     } else {
-        m_said[key] = said;
+        Said& before = m_said[key];
+        if (before == said) return; // said again at each key
+        before = said;
     }
     join();
 }

@@ -6,6 +6,7 @@
 #include "shell/controls/ResultLabel.h"
 
 #include <map>
+#include <set>
 
 namespace korvel
 {
@@ -59,6 +60,8 @@ private:
         NoticeLevel level = NoticeLevel::Remark;
         QString essence = {}; ///< not said again where another notice says it
         bool hasKey = false;  ///< the key that writes what was meant does something
+
+        bool operator==(const Said&) const = default;
     };
 
     void put(const QString& key, const Said& said);
@@ -69,6 +72,7 @@ private:
     QString m_hint;
     Colours m_colours;
     std::map<QString, Said> m_said;
+    std::set<const EntryBox*> m_halfReadBoxes; ///< of which something is said
     std::optional<NoticeLevel> m_level;
     QString m_first;
     QStringList m_lasting;

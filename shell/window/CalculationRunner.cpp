@@ -102,7 +102,7 @@ void CalculationRunner::tellHalfRead(const std::vector<EntryBox*>& inputs,
 {
     bool isHalfRead = false;
     for (const EntryBox* box : inputs) {
-        const auto reading = box->halfRead();
+        const auto& reading = box->halfRead();
         m_notices.sayHalfRead(*box, reading);
         isHalfRead = isHalfRead || reading;
     }
@@ -113,7 +113,7 @@ void CalculationRunner::tellHalfRead(Entered& entered)
 {
     const Calculation& calculation = entered.calculation;
     for (const EntryBox* box : calculation.inputs) {
-        const auto halfRead = box->halfRead();
+        const auto& halfRead = box->halfRead();
         m_notices.sayHalfRead(*box, halfRead);
         if (!halfRead) continue;
         const auto resting =
