@@ -6,12 +6,11 @@
 namespace korvel
 {
 
-std::string accessibleName(const Field& field)
+std::string writingOf(const Field& field)
 {
-    std::string name = field.words;
-    for (const char* part : {field.measure, field.note})
-        if (*part) name.append(", ").append(part);
-    return name;
+    std::string writing = field.measure;
+    if (*field.note) writing.append(writing.empty() ? "" : ", ").append(field.note);
+    return writing;
 }
 
 std::optional<double> readField(std::string_view text, const Field& field, Remarks& remarks)

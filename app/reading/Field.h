@@ -31,8 +31,8 @@ struct Field {
     bool onKeyRelease = false; ///< calculates when a key is released, not at every change
 };
 
-/// What assistive tools call the box of a field: words, measure and note.
-std::string accessibleName(const Field& field);
+/// How a field is written, for assistive tools: measure and note.
+std::string writingOf(const Field& field);
 
 /// Reads a field that a calculation needs, as readField() of a NumberField does; remarks speak of
 /// it by its words. That only the beginning of a position was read is

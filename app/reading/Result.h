@@ -4,7 +4,9 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
+#include <type_traits>
 #include <variant>
 
 namespace korvel
@@ -35,20 +37,33 @@ const std::string& textAt(const typename MemberOf<decltype(Array)>::Class& sourc
 /// blanking, text, accessible name, row of the paper and copy come from it.
 template <typename Source>
 struct Result {
-    using Text = std::variant<std::string Source::*, const std::string& (*)(const Source&)>;
+    /// Where the text stands in the source. An empty text blanks the label; an optional one that is
+    /// not there leaves the label as it was.
+    using Text = std::variant<std::string Source::*, std::optional<std::string> Source::*,
+                              const std::string& (*)(const Source&)>;
 
     const char* name;    ///< of the label: "lblCDDR(0)"
     const char* caption; ///< beside the label
     const char* unit;    ///< behind the label and of the paper's figure; empty: the text says it
     Weight weight;
-    Text text;                   ///< an empty text blanks the label
+    Text text;
     const char* words = nullptr; ///< for assistive tools and papers, where the caption is too short
 
     const char* inWords() const { return words ? words : caption; }
-    const std::string& textIn(const Source& source) const
+    /// @return nullptr where the label stays as it was
+    const std::string* textIn(const Source& source) const { return textOf(text, source); }
+
+    static const std::string* textOf(const Text& text, const Source& source)
     {
         return std::visit(
-            [&](auto from) -> const std::string& { return std::invoke(from, source); }, text);
+            [&](auto from) -> const std::string* {
+                const auto& found = std::invoke(from, source);
+                if constexpr (std::is_same_v<decltype(found), const std::string&>)
+                    return &found;
+                else
+                    return found ? &*found : nullptr;
+            },
+            text);
     }
 };
 

@@ -89,10 +89,10 @@ const std::string& EntryBox::value() const
     return m_value;
 }
 
-QString EntryBox::nameInWords() const
+void EntryBox::declare(const QString& words, const QString& writing)
 {
-    const QString name = accessibleName();
-    return name.section(',', 0, name.startsWith("Row ") ? 1 : 0);
+    m_words = words;
+    setAccessibleName(writing.isEmpty() ? words : words + ", " + writing);
 }
 
 void EntryBox::setReading(const NumberField& reading)

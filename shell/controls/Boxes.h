@@ -43,8 +43,11 @@ public:
     void setLimits(const QString& limits) { m_limits = limits; }
     const QString& limits() const { return m_limits; }
 
-    /// What the box is, without how it is written; with the row where it stands in one.
-    QString nameInWords() const;
+    /// Names the box for assistive tools.
+    /// @param words what it is, for remarks too; with the row where it stands in one
+    /// @param writing how it is written: "hours, east positive"
+    void declare(const QString& words, const QString& writing = {});
+    const QString& words() const { return m_words; }
 
     /// Says that the box takes a number, and which. Its name is the box's own.
     void setReading(const NumberField& reading);
@@ -70,6 +73,7 @@ protected:
 
 private:
     EntryBox* m_next = nullptr;
+    QString m_words;
     QString m_limits;
     std::optional<NumberField> m_reading;
     mutable QString m_valueText; ///< what m_value was made from

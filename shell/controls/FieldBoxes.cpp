@@ -49,12 +49,11 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
     for (const Field& field : table) {
         EntryBox* box = boxOf(field, parent);
         box->setObjectName(field.name);
-        box->setAccessibleName(asQString(accessibleName(field)));
+        box->declare(field.words, asQString(writingOf(field)));
         box->recordKind = field.kind;
         box->setLimits(limitsInWords(field.low, field.high));
         if (field.kind == FieldKind::Figure || field.kind == FieldKind::Angle)
-            box->setReading(
-                {.name = {}, .low = field.low, .high = field.high, .kind = field.kind});
+            box->setReading({.name = {}, .low = field.low, .high = field.high, .kind = field.kind});
         // A position box tells what was understood in this place.
         if (!qobject_cast<PositionBox*>(box)) box->setAccessibleDescription(box->limits());
         if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);

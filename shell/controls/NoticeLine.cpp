@@ -22,7 +22,7 @@ constexpr int lineCount = 2;
 NoticeLine::NoticeLine() : m_focus([this](const QWidget* now) { hintAt(now); })
 {
     setObjectName("lblNotice");
-    setAccessibleName("Notice");
+    declare("Notice", {}, Weight::Remark);
     setFont(QFont()); // copied like a result, read like a caption
     setRoom({}, lineCount);
     setWordWrap(true);
@@ -67,8 +67,7 @@ void NoticeLine::sayHalfRead(const EntryBox& box, const std::optional<NumberRead
     if (!reading) return put(key, {});
     m_halfReadBoxes.insert(&box);
     const QString remark = QString::fromStdString(reading->remark);
-    put(key,
-        {box.nameInWords() + ": " + remark, NoticeLevel::Fault, remark, !reading->meant.empty()});
+    put(key, {box.words() + ": " + remark, NoticeLevel::Fault, remark, !reading->meant.empty()});
 }
 
 void NoticeLine::put(const QString& key, const Said& said)

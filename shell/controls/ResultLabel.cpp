@@ -277,10 +277,8 @@ QString ResultLabel::plainText() const
 /// For a log or a letter: what it is, the figure, its unit.
 QString ResultLabel::textInFull() const
 {
-    const QString name = accessibleName().section(',', 0, 0),
-                  unit = accessibleName().section(", ", 1);
     const QString figure = asQString(plainForm(text().toStdString()));
-    return QStringList({name, figure, unit}).join(' ').simplified();
+    return QStringList({m_words, figure, m_unit}).join(' ').simplified();
 }
 
 void ResultLabel::copy()

@@ -31,11 +31,12 @@ public:
     ResultLabel* operator[](std::size_t result) const { return m_labels.at(result); }
     const std::vector<ResultLabel*>& all() const { return m_labels; }
 
-    /// Shows all texts; what the source does not have is blank.
+    /// Shows all texts; what the source does not have stays as it was.
     void show(const Source& source) const
     {
         for (std::size_t i = 0; i < m_labels.size(); ++i)
-            m_labels[i]->setText(asQString(m_table[i].textIn(source)));
+            if (const std::string* text = m_table[i].textIn(source))
+                m_labels[i]->setText(asQString(*text));
     }
 
     /// Rows of a grid from this one on: caption, figure, unit.

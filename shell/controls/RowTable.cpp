@@ -81,7 +81,16 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
         made = new ResultLabel(this);
     if (holds(column, Label::Correction)) made->setFont(small(font()));
     made->setObjectName(memberName(column.name, static_cast<int>(row)));
-    made->setAccessibleName(QString(column.accessibleName).replace("%1", QString::number(row + 1)));
+    const auto ofRow = [row](const char* text) {
+        return QString(text).replace("%1", QString::number(row + 1));
+    };
+    const QString words = ofRow(column.words), measure = ofRow(column.measure);
+    if (isResult(column))
+        static_cast<ResultLabel*>(made)->declare(words, measure, column.weight);
+    else if (isBox(column))
+        static_cast<EntryBox*>(made)->declare(words, measure);
+    else
+        made->setAccessibleName(words);
     if (isBox(column) || isResult(column)) made->installEventFilter(this);
     if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = std::get<FieldKind>(column.holds);
     if (holds(column, FieldKind::Figure)) static_cast<EntryBox*>(made)->setReading({.name = {}});

@@ -2,9 +2,12 @@
 #pragma once
 
 #include "app/reading/NumberField.h"
+#include "app/reading/Result.h"
 #include "shell/controls/PositionBox.h"
+#include "shell/machine/AsQString.h"
 #include "shell/screen/ZoomSizes.h"
 
+#include <array>
 #include <optional>
 #include <span>
 #include <variant>
@@ -24,18 +27,39 @@ struct TableColumn {
         Correction ///< of the result before it, in small letters
     };
 
-    const char* name; ///< of its controls, a control array; the echo takes the name of its box
-    const char* heading;
-    const char* widest;                   ///< what has to fit
-    std::variant<FieldKind, Label> holds; ///< boxes for what is typed, or labels
-    /// For assistive tools, with %1 for the number of the row.
-    const char* accessibleName = "";
+    const char* name = ""; ///< of its controls, a control array; the echo takes the name of its box
+    const char* heading = "";
+    const char* widest = "";                                 ///< what has to fit
+    std::variant<FieldKind, Label> holds = Label::RowNumber; ///< boxes for what is typed, or labels
+    /// What a box or result is and how it is written, or its unit; for assistive tools, remarks and
+    /// copies, with %1 for the number of the row.
+    const char* words = "";
+    const char* measure = "";
     Qt::Alignment side = Qt::AlignLeft;
     bool stretches = false; ///< takes the room that is left
     /// The columns from here on come in a line of their own where the row does not fit into one.
     bool startsGroup = false;
     const NumberField* limits = nullptr; ///< what the calculations accept in its boxes
+    Weight weight = Weight::Figure;      ///< of its results
 };
+
+/// A column of a table whose rows show results of this type.
+template <typename Row>
+struct RowColumn {
+    using Text = typename Result<Row>::Text;
+
+    TableColumn column;
+    std::optional<Text> text = {}; ///< of a column of results
+};
+
+template <typename Row, std::size_t N>
+constexpr std::array<TableColumn, N> columnsOf(const std::array<RowColumn<Row>, N>& table)
+{
+    std::array<TableColumn, N> columns{};
+    for (std::size_t i = 0; i < N; ++i)
+        columns[i] = table[i].column;
+    return columns;
+}
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
 /// repaints the labels that change and never lays the table out anew. Enter goes through the
@@ -64,6 +88,17 @@ public:
     std::vector<EntryBox*> boxesOfRow(std::size_t row) const;
     std::vector<ResultLabel*> results() const;
     std::vector<ResultLabel*> resultsOfRow(std::size_t row) const;
+
+    /// Shows the texts of a row, by the table that the columns come from.
+    template <typename Row, std::size_t N>
+    void showRow(std::size_t row, const std::array<RowColumn<Row>, N>& table, const Row& shown)
+    {
+        for (std::size_t i = 0; i < N; ++i) {
+            if (!table[i].text) continue;
+            if (const std::string* text = Result<Row>::textOf(*table[i].text, shown))
+                result(row, i)->setText(asQString(*text));
+        }
+    }
 
     /// Row of a control; nothing when it is none of the table's.
     std::optional<std::size_t> rowOf(const QWidget* control) const;

@@ -54,12 +54,12 @@ MainPanel::MainPanel()
     column->addWidget(m_lblFault);
 }
 
-ResultLabel* MainPanel::makeLabel(const QString& name, const QString& accessibleName, double size)
+ResultLabel* MainPanel::makeLabel(const QString& name, const QString& words, double size)
 {
     tellResultsToAssistiveTools(); // a name that is set makes the toolkit look at once
     auto* label = new ResultLabel(this);
     label->setObjectName(name);
-    label->setAccessibleName(accessibleName);
+    label->declare(words);
     QFont letters = font();
     letters.setPointSizeF(letters.pointSizeF() * size);
     label->setFont(letters);

@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    ResultLabel* makeLabel(const QString& name, const QString& accessibleName, double size);
+    ResultLabel* makeLabel(const QString& name, const QString& words, double size);
 
     int m_leastWidth = 0;
     ResultLabel* m_lblTime;

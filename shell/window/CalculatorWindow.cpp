@@ -81,7 +81,7 @@ void CalculatorWindow::loadSettings()
 void CalculatorWindow::sayThatItIsFull(const EntryBox& box)
 {
     sayForAWhile(QString("%1: the box takes %2 characters, the rest was left out.")
-                     .arg(box.accessibleName().section(',', 0, 0))
+                     .arg(box.words())
                      .arg(box.maxLength()));
 }
 
