@@ -324,6 +324,7 @@ CrudeResult CalculateCrude(const CrudeInput& input)
 
     const bool inKilolitres = input.volumeUnit == VolumeUnit::Kilolitres;
     const char* const volumeFormat = inKilolitres ? kilolitreFormat : barrelFormat;
+    result.observedUnit = inKilolitres ? "kL" : "bbl";
     if (observed) showObserved(*observed, volumeFormat, result);
     if (!oil) return result;
     result.figures.density15 = oil->density15;

@@ -82,6 +82,7 @@ struct CrudeResult {           // an empty text blanks the label
     std::string totalObserved; ///< these three in the unit of the volume box
     std::string freeWater;
     std::string grossObserved;    ///< total less free water
+    std::string observedUnit;     ///< of these three, as papers write it
     std::string grossStandard;    ///< gross observed x VCF; unit of the volume box
     std::string netStandard;      ///< less sediment and water; all volumes that follow are net
     std::string standardMethod;   ///< "kL at 15 °C": what the two standard volumes are

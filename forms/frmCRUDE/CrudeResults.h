@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmCRUDE/CalculateCrude.h"
-#include "shell/controls/ResultLabel.h"
+#include "shell/controls/ResultLabels.h"
 
 #include <vector>
 
@@ -11,31 +11,28 @@ class QGridLayout;
 namespace korvel
 {
 
-/// The result side of the crude-oil window: one label a figure of CrudeResult, named after it.
+/// The result side of the crude-oil window: one label a figure of CrudeShown.
 class CrudeResults : public QWidget
 {
 public:
     CrudeResults();
 
-    void show(const CrudeResult& result);
-    std::vector<ResultLabel*> labels() const;
+    void show(const CrudeResult& result) { m_labels.show(result); }
+    const std::vector<ResultLabel*>& labels() const { return m_labels.all(); }
 
     /// The label that shouts when the oil is outside its table.
-    ResultLabel* rangeFlag() const { return m_rangeFlag; }
+    ResultLabel* rangeFlag() const { return named("lblRangeFlag"); }
 
 private:
-    using Figure = const std::string& (*)(const CrudeResult&);
+    ResultLabel* named(const char* name) const;
+    void dressLabels();
+    void layOutRows(QGridLayout* grid, const char* last, bool unitsBeside);
+    void layOutHeads(QGridLayout* grid, const char* title, const char* left, const char* right);
+    void giveRoom(QGridLayout* grid);
 
-    ResultLabel* add(const char* name, const QString& words, Figure figure);
-    ResultLabel* addNote(const char* name, const QString& words,
-                         Figure figure); ///< words beside a figure
-    ResultLabel* addLongNote(const char* name, const QString& words, Figure figure);
-    void layOutVolumes(QGridLayout* grid, int& row);
-    void layOutByDensity(QGridLayout* grid, int& row);
-    void layOutTons(QGridLayout* grid, int& row);
-
-    std::vector<std::pair<ResultLabel*, Figure>> m_figures;
-    ResultLabel* m_rangeFlag = nullptr;
+    ResultLabels<CrudeResult> m_labels;
+    std::size_t m_next = 0; ///< the first result that has no place yet
+    int m_row = 0;          ///< below all that have one
 };
 
 } // namespace korvel

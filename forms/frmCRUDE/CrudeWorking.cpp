@@ -2,6 +2,7 @@
 #include "forms/frmCRUDE/CrudeWorking.h"
 
 #include "app/reading/Format.h"
+#include "forms/frmCRUDE/CrudeShown.h"
 #include "forms/frmCRUDE/OilWorking.h"
 
 #include <cmath>
@@ -11,11 +12,6 @@ namespace korvel
 namespace
 {
 
-std::string volumeUnitText(const CrudeInput& input)
-{
-    return input.volumeUnit == VolumeUnit::Kilolitres ? "kL" : "bbl";
-}
-
 std::string factorText(double factor)
 {
     return figure(factor, 8);
@@ -23,7 +19,7 @@ std::string factorText(double factor)
 
 void addVolumes(Working& working, const CrudeInput& input, const CrudeResult& result)
 {
-    const std::string unit = volumeUnitText(input);
+    const std::string& unit = result.observedUnit;
     const CrudeFigures& figures = result.figures;
     const std::string total = cargoFigure(*figures.totalObserved);
     const std::string water = cargoFigure(figures.freeWater);
@@ -172,38 +168,15 @@ Working cargoWorking(const CrudeInput& input, const CrudeResult& result)
     return working;
 }
 
-std::vector<PaperFigure> cargoFigures(const CrudeInput& input, const CrudeResult& result)
+std::vector<PaperFigure> cargoFigures(const CrudeResult& result)
 {
-    const std::string& volume = result.standardMethod;
-    const std::string observed = volumeUnitText(input);
-    const PaperFigure all[] = {
-        {"Density at 15 °C", result.density15, "kg/m³"},
-        {"API at 60 °F", result.api60, "°API"},
-        {"VCF", result.vcf, result.vcfMethod},
-        {"Range", result.rangeFlag},
-        {"Total observed", result.totalObserved, observed},
-        {"Free water", result.freeWater, observed},
-        {"Gross observed", result.grossObserved, observed},
-        {"Gross standard", result.grossStandard, volume},
-        {"Net standard", result.netStandard, volume},
-        {"Barrels", result.barrels, result.barrelsMethod},
-        {"Kilolitres", result.kilolitres, result.kilolitresMethod},
-        {"Kilolitres by density, net", result.kilolitres15, "kL at 15 °C"},
-        {"Kilolitres by density, net", result.kilolitres60, "kL at 60 °F"},
-        {"Barrels by density, net", result.barrels15, "bbl at 15 °C"},
-        {"Barrels by density, net", result.barrels60, "bbl at 60 °F"},
-        {"Gross in air", result.gross.metricInAir, "t, " + result.weightMethod},
-        {"Gross in vacuo", result.gross.metricInVacuo, "t"},
-        {"Net in air", result.net.metricInAir, "t, " + result.weightMethod},
-        {"Net in vacuo", result.net.metricInVacuo, "t"},
-        {"Gross in air", result.gross.longInAir, "long tons"},
-        {"Gross in vacuo", result.gross.longInVacuo, "long tons"},
-        {"Net in air", result.net.longInAir, "long tons"},
-        {"Net in vacuo", result.net.longInVacuo, "long tons"},
-    };
     std::vector<PaperFigure> shown;
-    for (const PaperFigure& each : all)
-        if (!each.value.empty()) shown.push_back(each);
+    for (const CrudeFigure& each : CrudeTable::figures) {
+        const std::string& figure = *each.shown.textIn(result);
+        if (!each.onPaper || figure.empty()) continue;
+        const std::string method = each.method ? result.*each.method : std::string();
+        shown.push_back({each.onPaper, figure, each.unit + method});
+    }
     return shown;
 }
 

@@ -11,6 +11,6 @@ namespace korvel
 Working cargoWorking(const CrudeInput& input, const CrudeResult& result);
 
 /// All figures that there are, with names and units.
-std::vector<PaperFigure> cargoFigures(const CrudeInput& input, const CrudeResult& result);
+std::vector<PaperFigure> cargoFigures(const CrudeResult& result);
 
 } // namespace korvel

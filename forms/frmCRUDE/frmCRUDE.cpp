@@ -267,7 +267,7 @@ WorkingPaper frmCRUDE::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
     paper.inputs = paperInputs(paper.inputs);
-    paper.results = cargoFigures(input(), m_shown);
+    paper.results = cargoFigures(m_shown);
     paper.workings = {cargoWorking(input(), m_shown)};
     paper.limits = {"The factor is used as it is shown, so that a pocket calculator comes to the "
                     "same volume",
@@ -287,7 +287,7 @@ void frmCRUDE::showUnits()
     m_cboReadWith->setEnabled(observed);
     m_boxes[Density]->setNext(m_boxes[observed ? ObservedTemperature : SedimentAndWater]);
     for (const std::size_t field : {Volume, FreeWater, Temperature, Density, ObservedTemperature})
-        m_boxes[field]->setAccessibleName(CrudeFields[field].words + (", " + unitOf(field)));
+        m_boxes[field]->declare(CrudeFields[field].words, unitOf(field));
     const QString temperatures =
         limitsInWords(lowestTemperature(input().temperatureUnit), HUGE_VAL);
     for (const std::size_t field : {Temperature, ObservedTemperature})
