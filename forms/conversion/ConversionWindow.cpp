@@ -50,7 +50,7 @@ void ConversionWindow::addBoxes(const char* name)
         const std::size_t index = m_boxes.size();
         auto* box = new KeyUpBox(body());
         box->setObjectName(memberName(name, static_cast<int>(index)));
-        box->setAccessibleName(asQString(unit.caption) + ", " + asQString(unit.symbol));
+        box->declare(asQString(unit.caption), asQString(unit.symbol));
         box->setToolTip(QString::fromStdString(unitToolTip(m_quantity, index)));
         box->setReading({.name = {}});
         box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "app/reading/Field.h"
+#include "app/reading/Result.h"
+#include "forms/frmETA/CalculateETA.h"
+#include "forms/frmETA/CalculateReqSpd.h"
 
 #include <array>
 #include <cstddef>
@@ -26,6 +29,25 @@ inline constexpr std::array<Field, 8> ETAFields = {{
      "hours", -12, 12, "east positive"},
     {"txtDist", "Distance", "Distance", "nautical miles", FieldKind::Figure, "miles", 0},
     {"txtSpeed", "Speed", "Speed", "knots", FieldKind::Figure, "knots", 0},
+}};
+
+/// The five speeds, the first of them as typed, then the arrivals at them.
+inline constexpr std::array<Result<ETALabels>, 10> arrivalResults = {{
+    {"lblSPD(0)", "", "knots", Weight::Figure, textAt<&ETALabels::lblSPD, 0>, "Speed 1"},
+    {"lblSPD(1)", "", "knots", Weight::Figure, textAt<&ETALabels::lblSPD, 1>, "Speed 2"},
+    {"lblSPD(2)", "", "knots", Weight::Figure, textAt<&ETALabels::lblSPD, 2>, "Speed 3"},
+    {"lblSPD(3)", "", "knots", Weight::Figure, textAt<&ETALabels::lblSPD, 3>, "Speed 4"},
+    {"lblSPD(4)", "", "knots", Weight::Figure, textAt<&ETALabels::lblSPD, 4>, "Speed 5"},
+    {"lblETA(0)", "", "local time", Weight::Answer, textAt<&ETALabels::lblETA, 0>, "Arrival 1"},
+    {"lblETA(1)", "", "local time", Weight::Figure, textAt<&ETALabels::lblETA, 1>, "Arrival 2"},
+    {"lblETA(2)", "", "local time", Weight::Figure, textAt<&ETALabels::lblETA, 2>, "Arrival 3"},
+    {"lblETA(3)", "", "local time", Weight::Figure, textAt<&ETALabels::lblETA, 3>, "Arrival 4"},
+    {"lblETA(4)", "", "local time", Weight::Figure, textAt<&ETALabels::lblETA, 4>, "Arrival 5"},
+}};
+inline constexpr std::size_t firstArrival = 5;
+
+inline constexpr std::array<Result<ReqSpdResult>, 1> requiredResults = {{
+    {"lblReqSpd", "Speed", "knots", Weight::Answer, &ReqSpdResult::speed, "Required speed"},
 }};
 
 } // namespace korvel

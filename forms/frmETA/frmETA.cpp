@@ -47,10 +47,11 @@ QScrollBar* scrollBar(const QString& name, const QString& accessibleName, int lo
 } // namespace
 
 frmETA::frmETA(Program& program)
-    : CalculatorWindow(program, "frmETA", "ETA and required speed"), m_boxes(addFields(ETAFields))
+    : CalculatorWindow(program, "frmETA", "ETA and required speed"), m_boxes(addFields(ETAFields)),
+      m_lblArrivals(addResults(arrivalResults)), m_lblRequired(addResults(requiredResults))
 {
     nameBoxes();
-    addResults();
+    addBars();
     auto* columns = new QHBoxLayout(scrollBody());
     layOutBody(*columns);
     columns->addWidget(layOutPassage(), 1);
@@ -62,10 +63,9 @@ frmETA::frmETA(Program& program)
     addMenus();
     offerDefaults();
 
-    std::vector<ResultLabel*> results5(m_lblSPD.begin(), m_lblSPD.end());
-    results5.insert(results5.end(), m_lblETA.begin(), m_lblETA.end());
-    results5.push_back(m_lblReqSpd);
-    calculations().add({"ETA", m_boxes.all(), results5, [this] { runETA(); }});
+    std::vector<ResultLabel*> shown = m_lblArrivals.all();
+    shown.push_back(m_lblRequired[0]);
+    calculations().add({"ETA", m_boxes.all(), shown, [this] { runETA(); }});
     record().useTexts("KV_ETA.ini", m_boxes.all(), [this](Record& texts) {
         for (std::size_t end = 0; end < m_TD.size(); ++end)
             texts[4 + end] = m_TD[end]->recorded();
@@ -86,16 +86,9 @@ void frmETA::nameBoxes()
     m_txtSpeed = m_boxes[7];
 }
 
-void frmETA::addResults()
+void frmETA::addBars()
 {
-    m_lblSPD = addLabels<5>("lblSPD");
-    m_lblETA = addLabels<5>("lblETA");
-    for (std::size_t i = 0; i < m_lblETA.size(); ++i) {
-        m_lblSPD[i]->declare(QString("Speed %1").arg(i + 1), "knots");
-        m_lblETA[i]->declare(QString("Arrival %1").arg(i + 1), "local time", Weight::Answer);
-    }
-    m_lblReqSpd = addLabel("lblReqSpd");
-    m_lblReqSpd->setRoom("0000.00");
+    m_lblRequired[0]->setRoom("0000.00");
     for (std::size_t end = 0; end < m_txtTD.size(); ++end) {
         m_lblZD[end] = new QLabel;
         m_lblZD[end]->setObjectName(memberName("lblZD", static_cast<int>(end)));
@@ -202,13 +195,13 @@ QGroupBox* frmETA::layOutArrivals()
     auto* grid = gridOf(group);
     grid->addWidget(columnHead("Knots"), 0, 0);
     grid->addWidget(columnHead("Local time at arrival, month/day"), 0, 1);
-    for (int row = 0; row < 5; ++row) {
-        const auto at = static_cast<std::size_t>(row);
-        grid->addWidget(m_lblSPD[at], row + 1, 0);
-        grid->addWidget(m_lblETA[at], row + 1, 1);
+    for (std::size_t i = 0; i < firstArrival; ++i) {
+        const int row = static_cast<int>(i) + 1;
+        grid->addWidget(m_lblArrivals[i], row, 0);
+        grid->addWidget(m_lblArrivals[firstArrival + i], row, 1);
     }
     // Room for the longest texts, so that nothing moves while the officer types.
-    const QFontMetrics metrics(m_lblETA[0]->font());
+    const QFontMetrics metrics(m_lblArrivals[firstArrival]->font());
     grid->setColumnMinimumWidth(0, metrics.horizontalAdvance("00.00 "));
     grid->setColumnMinimumWidth(1, metrics.horizontalAdvance("00/00 00:00LT "));
     grid->setRowStretch(6, 1);
@@ -219,7 +212,7 @@ QGroupBox* frmETA::layOutRequiredSpeed()
 {
     auto* group = new QGroupBox("Required for the arrival wanted");
     auto* grid = gridOf(group);
-    addResultRow(grid, 0, "Speed", m_lblReqSpd, "knots");
+    m_lblRequired.addRows(grid, 0);
     grid->setColumnStretch(2, 1);
     return group;
 }
@@ -251,15 +244,10 @@ void frmETA::runETA()
     const ETAResult& arrivals = m_arrivals;
     const ReqSpdResult& required = m_required;
 
-    for (std::size_t i = 0; i < m_lblSPD.size(); ++i) {
-        if (arrivals.labels) {
-            m_lblSPD[i]->setText(QString::fromStdString(arrivals.labels->lblSPD[i]));
-            m_lblETA[i]->setText(QString::fromStdString(arrivals.labels->lblETA[i]));
-        }
-        setDimmed({m_lblSPD[i], m_lblETA[i]}, !arrivals.labels);
-    }
-    if (required.speed) m_lblReqSpd->setText(QString::fromStdString(*required.speed));
-    setDimmed({m_lblReqSpd}, !required.speed);
+    if (arrivals.labels) m_lblArrivals.show(*arrivals.labels);
+    setDimmed({m_lblArrivals.all().begin(), m_lblArrivals.all().end()}, !arrivals.labels);
+    m_lblRequired.show(required);
+    setDimmed({m_lblRequired[0]}, !required.speed);
     setNotice("arrivals", QString::fromStdString(arrivals.notice),
               levelBeside(arrivals.labels.has_value()));
     // What disturbs both is said once.
@@ -272,10 +260,7 @@ WorkingPaper frmETA::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
     paper.results.clear(); // labels may show results of older inputs
-    if (m_required.speed) {
-        paper.results.push_back(paperFigure(*m_lblReqSpd));
-        paper.results.back().name = "Required speed";
-    }
+    if (m_required.speed) paper.results.push_back(paperFigure(*m_lblRequired[0]));
     if (m_arrivals.passage) paper.tables = {arrivalsTable(m_arrivals)};
     paper.workings = {arrivalsWorking(m_arrivals), requiredSpeedWorking(m_required)};
     paper.limits = {"The speed is that made good over the whole distance"};

@@ -35,7 +35,7 @@ private:
     };
 
     void nameBoxes();
-    void addResults();
+    void addBars();
     void addTimeBar(TimeEntry& entry, std::size_t firstBox, const QString& name,
                     const QString& accessibleName);
     void addSpeedBar();
@@ -52,6 +52,8 @@ private:
     void scrSpeed_Change();
 
     FieldBoxes m_boxes;
+    ResultLabels<ETALabels> m_lblArrivals;
+    ResultLabels<ReqSpdResult> m_lblRequired;
     std::array<EntryBox*, 4> m_txtTime{};
     std::array<EntryBox*, 2> m_txtTD{};
     std::array<FollowingTD*, 2> m_TD{}; ///< of the same boxes, which own them
@@ -61,9 +63,6 @@ private:
     TimeEntry m_arrival;
     QScrollBar* m_scrSpeed = nullptr;
     std::array<QLabel*, 2> m_lblZD{};
-    std::array<ResultLabel*, 5> m_lblSPD{};
-    std::array<ResultLabel*, 5> m_lblETA{};
-    ResultLabel* m_lblReqSpd = nullptr;
     ETAResult m_arrivals;
     ReqSpdResult m_required; ///< without a speed while the label shows an older one
 };

@@ -41,7 +41,7 @@ enum : std::size_t {
 };
 }
 inline constexpr std::array<Result<GCResult>, 9> GCResults = {{
-    {"lblGC2000(0)", "Rhumb line", "miles", Weight::Answer, textAt<&GCResult::lblGC2000, 0>},
+    {"lblGC2000(0)", "Rhumb line", "miles", Weight::Figure, textAt<&GCResult::lblGC2000, 0>},
     {"lblGC2000(1)", "Great circle", "miles", Weight::Answer, textAt<&GCResult::lblGC2000, 1>},
     {"lblGC2000(2)", "Sum of the legs", "miles", Weight::Figure, textAt<&GCResult::lblGC2000, 2>},
     {"lblInitialCourse", "Initial course", "degrees true", Weight::Answer,
@@ -50,7 +50,7 @@ inline constexpr std::array<Result<GCResult>, 9> GCResults = {{
     {"lblVertexLat", "Vertex", "", Weight::Figure, &GCResult::vertexLat, "Latitude of the vertex"},
     {"lblVertexLong", "", "", Weight::Figure, &GCResult::vertexLong, "Longitude of the vertex"},
     {"lblVertexRemark", "", "", Weight::Remark, &GCResult::vertexRemark, "Place of the vertex"},
-    {"lblSaving", "Saves", "miles against the rhumb line", Weight::Figure, &GCResult::saving},
+    {"lblSaving", "Saves", "miles against the rhumb line", Weight::Answer, &GCResult::saving},
 }};
 
 } // namespace korvel

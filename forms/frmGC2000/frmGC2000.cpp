@@ -29,16 +29,22 @@ constexpr const char* widestVertex[] = {"00°00.0' N  ", "000°00.0' W"};
 using Label = TableColumn::Label;
 enum : std::size_t { Number, Latitude, Longitude, Course, Distance };
 
-constexpr std::array<TableColumn, 5> waypointColumns = {{
-    {"lblWpNo", "No.", "Dep. ", Label::RowNumber, "Waypoint %1", Qt::AlignRight},
-    {"lblWpLat", "Latitude", widestLatitude, Label::Result, "Latitude of waypoint %1",
-     Qt::AlignRight},
-    {"lblWpLong", "Longitude", widestLongitude, Label::Result, "Longitude of waypoint %1",
-     Qt::AlignRight},
-    {"lblWpCo", "Course", widestCourse, Label::Result, "Course from waypoint %1", Qt::AlignRight},
-    {"lblWpDist", "Miles to next", "00000.'0 ", Label::Result, "Miles from waypoint %1 to the next",
-     Qt::AlignRight},
+constexpr std::array<RowColumn<GCRow>, 5> waypointRows = {{
+    {{"lblWpNo", "No.", "Dep. ", Label::RowNumber, "Waypoint %1", "", Qt::AlignRight}},
+    {{"lblWpLat", "Latitude", widestLatitude, Label::Result, "Latitude of waypoint %1", "",
+      Qt::AlignRight},
+     &GCRow::lat},
+    {{"lblWpLong", "Longitude", widestLongitude, Label::Result, "Longitude of waypoint %1", "",
+      Qt::AlignRight},
+     &GCRow::longitude},
+    {{"lblWpCo", "Course", widestCourse, Label::Result, "Course from waypoint %1", "",
+      Qt::AlignRight},
+     &GCRow::course},
+    {{"lblWpDist", "Miles to next", "00000.'0 ", Label::Result,
+      "Miles from waypoint %1 to the next", "", Qt::AlignRight},
+     &GCRow::distance},
 }};
+constexpr auto waypointColumns = columnsOf(waypointRows);
 
 /// A heading over a grid. A group box would paint its frame and title again with every result on
 /// it, and a key changes some seventy of them.
@@ -271,19 +277,12 @@ std::vector<PaperPicture> frmGC2000::paperPictures()
 
 void frmGC2000::showRow(std::size_t row)
 {
-    const GCRow& texts = m_result.rows[row];
-    const auto show = [](ResultLabel* label, const std::string& text) {
-        label->setText(QString::fromStdString(text));
-    };
     const std::size_t waypoints = m_result.route.waypoints.size();
     m_waypoints->number(row)->setText(row >= waypoints       ? QString()
                                       : row == 0             ? "Dep."
                                       : row == waypoints - 1 ? "Arr."
                                                              : QString::number(row));
-    show(m_waypoints->result(row, Latitude), texts.lat);
-    show(m_waypoints->result(row, Longitude), texts.longitude);
-    show(m_waypoints->result(row, Course), texts.course);
-    show(m_waypoints->result(row, Distance), texts.distance);
+    m_waypoints->showRow(row, waypointRows, m_result.rows[row]);
 }
 
 } // namespace korvel

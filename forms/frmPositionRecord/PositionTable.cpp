@@ -10,54 +10,41 @@ namespace
 {
 
 using Label = TableColumn::Label;
-enum : std::size_t {
-    Number,
-    SMT,
-    TD,
-    Latitude,
-    LatitudeEcho,
-    Longitude,
-    LongitudeEcho,
-    UTC,
-    Course,
-    Distance,
-    Hours,
-    Speed,
-    DayRun
-};
+enum : std::size_t { Number, SMT, TD, Latitude, LatitudeEcho, Longitude };
 
-constexpr std::array<TableColumn, 13> columns = {{
-    {"lblRow", "No.", "29 !", Label::RowNumber, "Row %1, number", Qt::AlignRight},
-    {"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", FieldKind::Moment,
-     "Row %1, ship's mean time of the fix, 0930 or 14-0930 or 2024/5/14 0930"},
-    {"txtSatelliteTD", "TD h", "-00.0", FieldKind::Figure,
-     "Row %1, time difference, hours, east positive", Qt::AlignLeft, false, false,
-     &RowField::timeDifference},
-    {"txtLat", "Latitude", "-00.00000", FieldKind::Latitude,
-     "Row %1, latitude, degrees.minutes, north positive", Qt::AlignLeft, false, false,
-     &RowField::latitude},
-    {"", "", "00°00.000' N", Label::Echo},
-    {"txtLong", "Longitude", "-000.00000", FieldKind::Longitude,
-     "Row %1, longitude, degrees.minutes, east positive", Qt::AlignLeft, false, false,
-     &RowField::longitude},
-    {"", "", "000°00.000' W", Label::Echo},
-    {"lblUTC", "UTC", "2000/00/00 00:00", Label::Result, "Row %1, UTC", Qt::AlignLeft, false, true},
-    {"lblCourse", "Course", "<000.0>", Label::Result,
-     "Row %1, course to the next fix, degrees true"},
-    {"lblDistance", "Dist. nm", "00000.'0", Label::Result,
-     "Row %1, distance to the next fix, nautical miles", Qt::AlignRight},
-    {"lblHours", "Hours", "-0000.00", Label::Result, "Row %1, hours to the next fix",
-     Qt::AlignRight},
-    {"lblSpeed", "Knots", "000.00", Label::Result, "Row %1, speed to the next fix, knots",
-     Qt::AlignRight},
-    {"lblDayRun", "Day's run", "0000.'0 in 000.0 h", Label::Result,
-     "Row %1, day's run, nautical miles"},
+using RowTexts = PositionRowResult;
+constexpr std::array<RowColumn<RowTexts>, 13> rowTable = {{
+    {{"lblRow", "No.", "29 !", Label::RowNumber, "Row %1, number", "", Qt::AlignRight}},
+    {{"txtSatelliteSMT", "SMT of fix", "2000/00/00 00:00", FieldKind::Moment,
+      "Row %1, ship's mean time of the fix", "0930 or 14-0930 or 2024/5/14 0930"}},
+    {{"txtSatelliteTD", "TD h", "-00.0", FieldKind::Figure, "Row %1, time difference",
+      "hours, east positive", Qt::AlignLeft, false, false, &RowField::timeDifference}},
+    {{"txtLat", "Latitude", "-00.00000", FieldKind::Latitude, "Row %1, latitude",
+      "degrees.minutes, north positive", Qt::AlignLeft, false, false, &RowField::latitude}},
+    {{"", "", "00°00.000' N", Label::Echo}},
+    {{"txtLong", "Longitude", "-000.00000", FieldKind::Longitude, "Row %1, longitude",
+      "degrees.minutes, east positive", Qt::AlignLeft, false, false, &RowField::longitude}},
+    {{"", "", "000°00.000' W", Label::Echo}},
+    {{"lblUTC", "UTC", "2000/00/00 00:00", Label::Result, "Row %1, UTC", "", Qt::AlignLeft, false,
+      true},
+     &RowTexts::utc},
+    {{"lblCourse", "Course", "<000.0>", Label::Result, "Row %1, course to the next fix",
+      "degrees true"},
+     &RowTexts::course},
+    {{"lblDistance", "Dist. nm", "00000.'0", Label::Result, "Row %1, distance to the next fix",
+      "nautical miles", Qt::AlignRight},
+     &RowTexts::distance},
+    {{"lblHours", "Hours", "-0000.00", Label::Result, "Row %1, hours to the next fix", "",
+      Qt::AlignRight},
+     &RowTexts::hours},
+    {{"lblSpeed", "Knots", "000.00", Label::Result, "Row %1, speed to the next fix", "knots",
+      Qt::AlignRight},
+     &RowTexts::speed},
+    {{"lblDayRun", "Day's run", "0000.'0 in 000.0 h", Label::Result, "Row %1, day's run",
+      "nautical miles"},
+     &RowTexts::dayRun},
 }};
-
-void showText(ResultLabel* label, const std::string& text)
-{
-    label->setText(QString::fromStdString(text));
-}
+constexpr auto columns = columnsOf(rowTable);
 
 } // namespace
 
@@ -99,15 +86,10 @@ void PositionTable::show(const PositionRecordResult& record)
     for (std::size_t i = 0; i < rows(); ++i) {
         if (m_shown[i] == record.rows[i]) continue;
         const PositionRowResult& shown = m_shown[i] = record.rows[i];
-        showText(result(i, UTC), shown.utc);
+        showRow(i, rowTable, shown);
         const QString assumed = QString::fromStdString(shown.assumedTD);
         if (row(i).satelliteTD->placeholderText() != assumed)
             row(i).satelliteTD->setPlaceholderText(assumed);
-        showText(result(i, Course), shown.course);
-        showText(result(i, Distance), shown.distance);
-        showText(result(i, Hours), shown.hours);
-        showText(result(i, Speed), shown.speed);
-        showText(result(i, DayRun), shown.dayRun);
         const bool warned = !shown.remark.empty();
         number(i)->setToolTip(QString::fromStdString(shown.remark));
         number(i)->setAccessibleDescription(number(i)->toolTip());

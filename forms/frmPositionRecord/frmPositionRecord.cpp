@@ -30,12 +30,26 @@ constexpr std::array<Field, 2> steeredFields = {{
      SteeredField::speed.low, SteeredField::speed.high},
 }};
 
+using Totals = PositionRecordResult;
+enum : std::size_t { TotalDistance, TotalHours, AverageSpeed, LatestRun, Set, Drift };
+constexpr std::array<Result<Totals>, 6> recordResults = {{
+    {"lblTotalDistance", "Total distance", "nm", Weight::Answer, &Totals::totalDistance},
+    {"lblTotalHours", "Hours", "h", Weight::Figure, &Totals::totalHours},
+    {"lblAverageSpeed", "Average speed", "kn", Weight::Answer, &Totals::averageSpeed},
+    {"lblLatestRun", "Latest day's run", "", Weight::Answer, &Totals::dayRun},
+    {"lblSet", "Set towards", "°", Weight::Figure, &Totals::set},
+    {"lblDrift", "Drift", "", Weight::Figure, &Totals::drift},
+}};
+constexpr std::array<const char*, 6> widest = {
+    "00000.'0", "00000.00", "000.00", "0000.'0 in 000.0 h", "000", "0000.'0 = 00.00 kn"};
+
 } // namespace
 
 frmPositionRecord::frmPositionRecord(Program& program)
     : CalculatorWindow(program, "frmPositionRecord", "Position record"), m_table(new PositionTable),
       m_steered(addFields(steeredFields)), m_txtCourseSteered(m_steered[0]),
-      m_txtSpeedSteered(m_steered[1]), m_focus([this](QWidget* now) { focusMoved(now); })
+      m_txtSpeedSteered(m_steered[1]), m_results(addResults(recordResults)),
+      m_focus([this](QWidget* now) { focusMoved(now); })
 {
     auto* area = new FollowingScrollArea(m_table);
     area->setHeading(m_table->makeHeading());
@@ -54,33 +68,24 @@ void frmPositionRecord::addTotals()
         box->setFixedWidth(box->fontMetrics().horizontalAdvance("000000000"));
     auto* below = new QWidget;
     auto* cells = new CellLayout(below, 4, Qt::Horizontal);
-    const auto put = [&](const QString& caption, QWidget* field, const QString& unit) {
-        if (auto* result = qobject_cast<ResultLabel*>(field)) result->declare(caption, unit);
+    const auto put = [&](const char* caption, QWidget* field, const char* unit) {
         auto* label = new QLabel(caption);
         label->setBuddy(field);
         cells->addCell({label, field, new QLabel(unit)});
     };
-    const auto figure = [&](const char* name, const QString& widest) {
-        ResultLabel* label = addLabel(name);
+    const auto putResult = [&](std::size_t result) {
+        ResultLabel* label = m_results[result];
         // Fixed: a new figure is painted, the window is not laid out anew.
-        label->setFixedSize(label->fontMetrics().horizontalAdvance(widest),
+        label->setFixedSize(label->fontMetrics().horizontalAdvance(widest[result]),
                             label->fontMetrics().lineSpacing());
-        return label;
+        put(recordResults[result].caption, label, recordResults[result].unit);
     };
-    m_lblTotalDistance = figure("lblTotalDistance", "00000.'0");
-    m_lblTotalHours = figure("lblTotalHours", "00000.00");
-    m_lblAverageSpeed = figure("lblAverageSpeed", "000.00");
-    m_lblLatestRun = figure("lblLatestRun", "0000.'0 in 000.0 h");
-    put("Total distance", m_lblTotalDistance, "nm");
-    put("Hours", m_lblTotalHours, "h");
-    put("Average speed", m_lblAverageSpeed, "kn");
-    put("Latest day's run", m_lblLatestRun, "");
-    m_lblSet = figure("lblSet", "000");
-    m_lblDrift = figure("lblDrift", "0000.'0 = 00.00 kn");
-    put("&Course steered", m_txtCourseSteered, "°");
-    put("&Speed steered", m_txtSpeedSteered, "kn");
-    put("Set towards", m_lblSet, "°");
-    put("Drift", m_lblDrift, "");
+    for (const std::size_t result : {TotalDistance, TotalHours, AverageSpeed, LatestRun})
+        putResult(result);
+    for (std::size_t i = 0; i < steeredFields.size(); ++i)
+        put(steeredFields[i].caption, m_steered[i], steeredFields[i].unit);
+    putResult(Set);
+    putResult(Drift);
     addStrip(below);
 }
 
@@ -89,8 +94,7 @@ void frmPositionRecord::addCalculationOfRecord()
     std::vector<EntryBox*> inputs = m_table->boxes();
     inputs.insert(inputs.end(), {m_txtCourseSteered, m_txtSpeedSteered});
     std::vector<ResultLabel*> results = m_table->results();
-    results.insert(results.end(), {m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
-                                   m_lblLatestRun, m_lblSet, m_lblDrift});
+    results.insert(results.end(), m_results.all().begin(), m_results.all().end());
     for (std::size_t i = 0; i < positionRowCount; ++i)
         m_table->row(i).satelliteSMT->onLeave = [this, i] { normaliseTime(i); };
     m_calculation = calculations().add(
@@ -103,9 +107,8 @@ void frmPositionRecord::addCalculationOfRecord()
 std::vector<ResultLabel*> frmPositionRecord::resultsRestingOn(const EntryBox& input) const
 {
     const auto row = m_table->rowOf(&input);
-    if (!row) return {m_lblSet, m_lblDrift};
-    std::vector<ResultLabel*> resting = {m_lblTotalDistance, m_lblTotalHours, m_lblAverageSpeed,
-                                         m_lblLatestRun,     m_lblSet,        m_lblDrift};
+    if (!row) return {m_results[Set], m_results[Drift]};
+    std::vector<ResultLabel*> resting = m_results.all();
     // Rows that are not complete are passed over: the leg may begin further up.
     for (std::size_t from = *row + 1; from-- > 0;) {
         const auto ofRow = m_table->resultsOfRow(from);
@@ -200,15 +203,7 @@ void frmPositionRecord::run()
     m_shown = {};
     m_shown = CalculatePositionRecord(input(), m_memory);
     m_table->show(m_shown);
-    const auto show = [](ResultLabel* label, const std::string& text) {
-        label->setText(QString::fromStdString(text));
-    };
-    show(m_lblTotalDistance, m_shown.totalDistance);
-    show(m_lblTotalHours, m_shown.totalHours);
-    show(m_lblAverageSpeed, m_shown.averageSpeed);
-    show(m_lblLatestRun, m_shown.dayRun);
-    show(m_lblSet, m_shown.set);
-    show(m_lblDrift, m_shown.drift);
+    m_results.show(m_shown);
     const bool isWhole = std::ranges::all_of(m_shown.rows, [](const PositionRowResult& row) {
         return row.remark.empty() || (row.read.latitude && row.read.longitude && row.read.utc);
     });

@@ -50,12 +50,7 @@ private:
     FieldBoxes m_steered;
     EntryBox* m_txtCourseSteered;
     EntryBox* m_txtSpeedSteered;
-    ResultLabel* m_lblTotalDistance;
-    ResultLabel* m_lblTotalHours;
-    ResultLabel* m_lblAverageSpeed;
-    ResultLabel* m_lblLatestRun;
-    ResultLabel* m_lblSet;
-    ResultLabel* m_lblDrift;
+    ResultLabels<PositionRecordResult> m_results;
 
     PositionRecordResult m_shown;
     RecordMemory m_memory;                  ///< of the calculation that m_shown came from

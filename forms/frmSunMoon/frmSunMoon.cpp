@@ -30,71 +30,97 @@ constexpr std::array<Field, 1> dateFields = {
 using Label = TableColumn::Label;
 enum : std::size_t { Number, Place, TD, Latitude, LatitudeEcho, Longitude, LongitudeEcho, Results };
 
-constexpr TableColumn timeColumn(const char* name, const char* heading, const char* words,
-                                 bool startsGroup = false)
+using Shown = RiseSetResult;
+
+/// What is shown of an event or an azimuth: the figure of the window, and the refined one beside it
+/// in a column of its own.
+template <RiseSetLabel Shown::*Label>
+const std::string& shortText(const Shown& of)
 {
-    return {name, heading, "0000LT", Label::Result, words, Qt::AlignRight, false, startsGroup};
+    return (of.*Label).text;
+}
+template <RiseSetLabel Shown::*Label>
+const std::string& refinedText(const Shown& of)
+{
+    return (of.*Label).refined;
 }
 
-constexpr TableColumn azimuthColumn(const char* name, const char* heading, const char* words)
+template <RiseSetLabel Shown::*Time>
+constexpr RowColumn<Shown> timeColumn(const char* name, const char* heading, const char* words,
+                                      bool startsGroup = false)
 {
-    return {name, heading, "<000.0>", Label::Result, words, Qt::AlignRight};
+    return {{name, heading, "0000LT", Label::Result, words, "row %1", Qt::AlignRight, false,
+             startsGroup, nullptr, Weight::Answer},
+            shortText<Time>};
 }
 
-/// Of the event before it.
-constexpr TableColumn refinedColumn(const char* name, const char* words)
+template <RiseSetLabel Shown::*Azimuth>
+constexpr RowColumn<Shown> azimuthColumn(const char* name, const char* heading, const char* words)
 {
-    return {name, "", "000.0", Label::Correction, words, Qt::AlignLeft};
+    return {{name, heading, "<000.0>", Label::Result, words, "row %1", Qt::AlignRight},
+            shortText<Azimuth>};
 }
 
-constexpr std::array<TableColumn, 19> tableColumns = {{
-    {"lblNumber", "", "16", Label::RowNumber, "Row %1", Qt::AlignRight},
-    {"txtLocation", "Place", "Yokohama", FieldKind::Text, "Place name, row %1", Qt::AlignLeft,
-     true},
-    {"txtTD", "TD\nhours", "-12.000", FieldKind::Figure,
-     "Time difference from UTC, hours, east positive, row %1", Qt::AlignLeft, false, false,
-     &RiseSetField::timeDifference},
-    {"txtLatitude", "Latitude\ndeg.min", "-62.30.550", FieldKind::Latitude,
-     "Latitude, degrees.minutes, north positive, up to 63, row %1", Qt::AlignLeft, false, false,
-     &RiseSetField::latitude},
-    {"", "north +", "62°30.55' N !", Label::Echo},
-    {"txtLongitude", "Longitude\ndeg.min", "-179.30.550", FieldKind::Longitude,
-     "Longitude, degrees.minutes, east positive, row %1", Qt::AlignLeft, false, false,
-     &RiseSetField::longitude},
-    {"", "east +", "179°30.55' W !", Label::Echo},
-    timeColumn("lblSunRiseTime", "Sun\nrise", "Sunrise, row %1", true),
-    refinedColumn("lblSunRiseRefined", "Sunrise refined, row %1"),
-    azimuthColumn("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth, row %1"),
-    refinedColumn("lblSunRiseAzRefined", "Sunrise azimuth at the latitude as typed, row %1"),
-    timeColumn("lblSunSetTime", "Sun\nset", "Sunset, row %1"),
-    refinedColumn("lblSunSetRefined", "Sunset refined, row %1"),
-    azimuthColumn("lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth, row %1"),
-    refinedColumn("lblSunSetAzRefined", "Sunset azimuth at the latitude as typed, row %1"),
-    timeColumn("lblMoonRiseTime", "Moon\nrise", "Moonrise, row %1", true),
-    refinedColumn("lblMoonRiseRefined", "Moonrise refined, row %1"),
-    timeColumn("lblMoonSetTime", "Moon\nset", "Moonset, row %1"),
-    refinedColumn("lblMoonSetRefined", "Moonset refined, row %1"),
+template <RiseSetLabel Shown::*Of>
+constexpr RowColumn<Shown> refinedColumn(const char* name, const char* words)
+{
+    return {{name, "", "000.0", Label::Correction, words, "row %1", Qt::AlignLeft},
+            refinedText<Of>};
+}
+
+constexpr std::array<RowColumn<Shown>, 19> table = {{
+    {{"lblNumber", "", "16", Label::RowNumber, "Row %1", "", Qt::AlignRight}},
+    {{"txtLocation", "Place", "Yokohama", FieldKind::Text, "Place name", "row %1", Qt::AlignLeft,
+      true}},
+    {{"txtTD", "TD\nhours", "-12.000", FieldKind::Figure, "Time difference from UTC",
+      "hours, east positive, row %1", Qt::AlignLeft, false, false, &RiseSetField::timeDifference}},
+    {{"txtLatitude", "Latitude\ndeg.min", "-62.30.550", FieldKind::Latitude, "Latitude",
+      "degrees.minutes, north positive, up to 63, row %1", Qt::AlignLeft, false, false,
+      &RiseSetField::latitude}},
+    {{"", "north +", "62°30.55' N !", Label::Echo}},
+    {{"txtLongitude", "Longitude\ndeg.min", "-179.30.550", FieldKind::Longitude, "Longitude",
+      "degrees.minutes, east positive, row %1", Qt::AlignLeft, false, false,
+      &RiseSetField::longitude}},
+    {{"", "east +", "179°30.55' W !", Label::Echo}},
+    timeColumn<&Shown::sunRiseTime>("lblSunRiseTime", "Sun\nrise", "Sunrise", true),
+    refinedColumn<&Shown::sunRiseTime>("lblSunRiseRefined", "Sunrise refined"),
+    azimuthColumn<&Shown::sunRiseAz>("lblSunRiseAz", "Sun rise\nazimuth", "Sunrise azimuth"),
+    refinedColumn<&Shown::sunRiseAz>("lblSunRiseAzRefined",
+                                     "Sunrise azimuth at the latitude as typed"),
+    timeColumn<&Shown::sunSetTime>("lblSunSetTime", "Sun\nset", "Sunset"),
+    refinedColumn<&Shown::sunSetTime>("lblSunSetRefined", "Sunset refined"),
+    azimuthColumn<&Shown::sunSetAz>("lblSunSetAz", "Sun set\nazimuth", "Sunset azimuth"),
+    refinedColumn<&Shown::sunSetAz>("lblSunSetAzRefined",
+                                    "Sunset azimuth at the latitude as typed"),
+    timeColumn<&Shown::moonRiseTime>("lblMoonRiseTime", "Moon\nrise", "Moonrise", true),
+    refinedColumn<&Shown::moonRiseTime>("lblMoonRiseRefined", "Moonrise refined"),
+    timeColumn<&Shown::moonSetTime>("lblMoonSetTime", "Moon\nset", "Moonset"),
+    refinedColumn<&Shown::moonSetTime>("lblMoonSetRefined", "Moonset refined"),
 }};
+constexpr auto tableColumns = columnsOf(table);
 
-/// The result that a column shows; the column behind it shows its refined figure.
+/// Columns with a refined one behind them, and what tells their tips.
 struct Event {
     std::size_t column;
-    RiseSetLabel RiseSetResult::*result;
+    RiseSetLabel Shown::*result;
 };
 constexpr std::array<Event, 6> events = {{
-    {Results, &RiseSetResult::sunRiseTime},
-    {Results + 2, &RiseSetResult::sunRiseAz},
-    {Results + 4, &RiseSetResult::sunSetTime},
-    {Results + 6, &RiseSetResult::sunSetAz},
-    {Results + 8, &RiseSetResult::moonRiseTime},
-    {Results + 10, &RiseSetResult::moonSetTime},
+    {Results, &Shown::sunRiseTime},
+    {Results + 2, &Shown::sunRiseAz},
+    {Results + 4, &Shown::sunSetTime},
+    {Results + 6, &Shown::sunSetAz},
+    {Results + 8, &Shown::moonRiseTime},
+    {Results + 10, &Shown::moonSetTime},
 }};
+
+constexpr std::array<Result<Shown>, 1> dateResults = {
+    {{"lblMoonAge", "Moon's age", "days", Weight::Figure, &Shown::moonAge}}};
 
 } // namespace
 
 frmSunMoon::frmSunMoon(Program& program)
     : CalculatorWindow(program, "frmSunMoon", "Sun and Moon, rise and set"),
-      m_focus([this](QWidget* now) { focusMoved(now); })
+      m_lblDate(addResults(dateResults)), m_focus([this](QWidget* now) { focusMoved(now); })
 {
     addControls();
     auto* area = new FollowingScrollArea(m_table);
@@ -102,7 +128,7 @@ frmSunMoon::frmSunMoon(Program& program)
     area->setHeading(m_table->makeHeading());
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, dateRow());
     m_lblRow = addLabel("lblRow");
-    m_lblRow->declare("Row in hand");
+    m_lblRow->declare("Row in hand", {}, Weight::Remark);
     m_lblRow->setFont(font());
     m_lblRow->setEliding();
     addBelow(m_lblRow);
@@ -125,9 +151,7 @@ void frmSunMoon::addControls()
 {
     m_txtSunMoon = addFields(dateFields)[0];
     m_txtSunMoon->onLeave = [this] { leaveDate(); };
-    m_lblMoonAge = addLabel("lblMoonAge");
-    m_lblMoonAge->declare("Moon's age", "days");
-    m_lblMoonAge->setRoom("00.0 ");
+    m_lblDate[0]->setRoom("00.0 ");
     m_scrMoonSun = new QScrollBar(Qt::Horizontal, body());
     m_scrMoonSun->setObjectName("scrMoonSun");
     m_scrMoonSun->setAccessibleName("Date, days from today");
@@ -163,9 +187,9 @@ QWidget* frmSunMoon::dateRow()
     line->addWidget(new QLabel("yyyy/m/d"));
     line->addWidget(m_scrMoonSun);
     line->addWidget(today);
-    line->addWidget(new QLabel("Moon's age"));
-    line->addWidget(m_lblMoonAge);
-    line->addWidget(new QLabel("days"));
+    line->addWidget(new QLabel(dateResults[0].caption));
+    line->addWidget(m_lblDate[0]);
+    line->addWidget(new QLabel(dateResults[0].unit));
     return bar;
 }
 
@@ -251,14 +275,12 @@ void frmSunMoon::runRows(std::size_t first, std::size_t last)
 void frmSunMoon::showRow(std::size_t row)
 {
     const RiseSetResult& result = m_results[row];
-    if (result.moonAge) {
-        m_lblMoonAge->setText(asQString(*result.moonAge));
-        if (row == m_row) m_lblMoonAge->setToolTip(asQString(moonAgeTip(result.date)));
-    }
+    m_lblDate.show(result);
+    if (result.moonAge && row == m_row)
+        m_lblDate[0]->setToolTip(asQString(moonAgeTip(result.date)));
+    m_table->showRow(row, table, result);
     for (const auto& [column, event] : events) {
         const RiseSetLabel& shown = result.*event;
-        m_table->result(row, column)->setText(asQString(shown.text));
-        m_table->result(row, column + 1)->setText(asQString(shown.refined));
         m_table->result(row, column)->setToolTip(asQString(shown.tip));
         m_table->result(row, column + 1)
             ->setToolTip(shown.refined.empty() ? QString() : asQString(shown.tip));
@@ -297,7 +319,7 @@ WorkingPaper frmSunMoon::paper() const
     WorkingPaper paper = CalculatorWindow::paper();
     paper.place = m_table->box(m_row, Place)->text().trimmed().toStdString();
     paper.results.clear(); // the line of the row in focus tells inputs
-    if (const std::string age = m_lblMoonAge->text().toStdString(); !age.empty())
+    if (const std::string age = m_lblDate[0]->text().toStdString(); !age.empty())
         paper.results.push_back({"Moon's age at 12:00 UTC, in a month of 30 days", age, "days"});
     std::vector<RiseSetTableRow> typed;
     for (std::size_t row = 0; row < rows; ++row)

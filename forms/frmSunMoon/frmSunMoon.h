@@ -47,8 +47,8 @@ private:
 
     EntryBox* m_txtSunMoon = nullptr;
     QScrollBar* m_scrMoonSun = nullptr;
-    ResultLabel* m_lblMoonAge = nullptr;
-    ResultLabel* m_lblRow = nullptr; ///< the row in focus in full
+    ResultLabels<RiseSetResult> m_lblDate; ///< of the date: the age of the Moon
+    ResultLabel* m_lblRow = nullptr;       ///< the row in focus in full
 
     RowTable* m_table = nullptr;
     std::array<RiseSetRow, rows> m_numbers;

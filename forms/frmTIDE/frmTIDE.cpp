@@ -363,7 +363,7 @@ WorkingPaper frmTIDE::paper() const
     const TideDayPanel& panel = m_sheet->dayPanel();
     for (PaperFigure& each : panel.questions())
         paper.inputs.push_back(std::move(each));
-    TideAsked asked{*m_shown, panel.answers()[0], panel.answers()[1]};
+    TideAsked asked{*m_shown, panel.heightAnswer(), panel.timesAnswer()};
     if (!m_habits.drawsAll) asked.day.all.reset();
     if (!m_shown->four.remark.empty()) paper.remarks.push_back(m_shown->four.remark);
     tellDay(paper, m_choice.lblPlace, asked, m_lines);

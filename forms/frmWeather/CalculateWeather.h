@@ -12,6 +12,15 @@
 namespace korvel
 {
 
+/// What the window shows; an empty text blanks the label.
+struct WeatherShown {
+    std::string wave;       ///< sea state
+    std::string swell;      ///< its term
+    std::string visibility; ///< its term
+    std::string miles;      ///< the visibility in nautical miles
+    std::string letter;     ///< of the weather, with its names
+};
+
 /// Sea state of the height in txtWave, metres: code and name, "4-Moderate".
 std::string CalculateSeaState(std::string_view txtWave);
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/reading/Field.h"
+#include "app/reading/Result.h"
+#include "forms/frmWeather/CalculateWeather.h"
 
 #include <array>
 
@@ -14,6 +16,15 @@ inline constexpr std::array<Field, 3> WeatherFields = {{
     {"txtSWELL", "&Swell height", "Swell height", "metres", FieldKind::Figure, "m"},
     {"txtVISIBILITY", "Visi&bility", "Visibility", "kilometres", FieldKind::Figure, "km", -HUGE_VAL,
      HUGE_VAL, "", true},
+}};
+
+/// The term of each box in its order, then what else the window shows.
+inline constexpr std::array<Result<WeatherShown>, 5> WeatherResults = {{
+    {"lblWave", "", "", Weight::Answer, &WeatherShown::wave, "Wave height"},
+    {"lblSWELL", "", "", Weight::Answer, &WeatherShown::swell, "Swell height"},
+    {"lblVISIBILITY", "", "", Weight::Answer, &WeatherShown::visibility, "Visibility"},
+    {"lblVISIBILITYnm", "", "", Weight::Figure, &WeatherShown::miles, "Visibility in miles"},
+    {"lblWr", "", "", Weight::Figure, &WeatherShown::letter, "Weather"},
 }};
 
 } // namespace korvel

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/working/Working.h"
+#include "forms/frmWeather/CalculateWeather.h"
 
 #include <string_view>
 
@@ -9,10 +10,7 @@ namespace korvel
 {
 
 /// How the terms of the log follow from the heights and the visibility as typed.
-/// @param shown terms of the labels; a blank one was not asked for
-struct WeatherShown {
-    std::string wave, swell, visibility, miles, letter;
-};
+/// @param shown a blank term was not asked for
 Working weatherWorking(std::string_view txtWave, std::string_view txtSWELL,
                        std::string_view txtVISIBILITY, const WeatherShown& shown);
 

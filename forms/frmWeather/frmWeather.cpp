@@ -19,7 +19,8 @@ namespace korvel
 namespace
 {
 
-enum : std::size_t { Wave, Swell, Visibility };
+/// Fields and their results; further results.
+enum : std::size_t { Wave, Swell, Visibility, Miles, Letter };
 
 QString textOfTerm(std::string_view term)
 {
@@ -29,15 +30,9 @@ QString textOfTerm(std::string_view term)
 } // namespace
 
 frmWeather::frmWeather(Program& program)
-    : CalculatorWindow(program, "frmWeather", "Weather"), m_boxes(addFields(WeatherFields))
+    : CalculatorWindow(program, "frmWeather", "Weather"), m_boxes(addFields(WeatherFields)),
+      m_labels(addResults(WeatherResults))
 {
-    m_lblWave = addLabel("lblWave");
-    m_lblSWELL = addLabel("lblSWELL");
-    m_lblVISIBILITY = addLabel("lblVISIBILITY");
-    m_lblVISIBILITYnm = addLabel("lblVISIBILITYnm");
-    m_lblWr = addLabel("lblWr");
-    m_lblWr->declare("Weather");
-
     auto* column = new QVBoxLayout(scrollBody());
     layOutBody(*column);
     column->addWidget(layOutTerms());
@@ -53,22 +48,18 @@ QGroupBox* frmWeather::layOutTerms()
 {
     auto* group = new QGroupBox("Sea, swell and visibility");
     auto* grid = gridOf(group);
-    const std::array<ResultLabel*, WeatherFields.size()> terms = {m_lblWave, m_lblSWELL,
-                                                                  m_lblVISIBILITY};
-    for (std::size_t i = 0; i < terms.size(); ++i) {
+    for (std::size_t i = 0; i < WeatherFields.size(); ++i) {
         const int row = static_cast<int>(i);
         auto* caption = new QLabel(WeatherFields[i].caption);
         caption->setBuddy(m_boxes[i]);
-        terms[i]->declare(WeatherFields[i].words);
         grid->addWidget(caption, row, 0);
         grid->addWidget(m_boxes[i], row, 1);
         grid->addWidget(new QLabel(WeatherFields[i].unit), row, 2);
-        grid->addWidget(terms[i], row, 3);
+        grid->addWidget(m_labels[i], row, 3);
     }
-    m_lblVISIBILITYnm->declare("Visibility in miles");
-    grid->addWidget(m_lblVISIBILITYnm, 2, 4);
+    grid->addWidget(m_labels[Miles], 2, 4);
     // Room for the longest terms, so that nothing moves while the officer types.
-    const QFontMetrics metrics(m_lblVISIBILITY->font());
+    const QFontMetrics metrics(m_labels[Visibility]->font());
     grid->setColumnMinimumWidth(3, metrics.horizontalAdvance("9-Visivility exceptional "));
     grid->setColumnMinimumWidth(4, metrics.horizontalAdvance("9999.9 nm"));
     grid->setColumnStretch(4, 1);
@@ -91,24 +82,21 @@ QGroupBox* frmWeather::layOutLetters()
                                       .arg(textOfTerm(each.letter), textOfTerm(each.english)));
         option->setToolTip(textOfTerm(each.japanese));
         connect(option, &QRadioButton::toggled, this, [this, index](bool chosen) {
-            if (chosen)
-                m_lblWr->setText(
-                    QString::fromStdString(CalculateWeatherTerm(static_cast<std::size_t>(index))));
+            if (!chosen) return;
+            m_shown.letter = CalculateWeatherTerm(static_cast<std::size_t>(index));
+            m_labels.show(m_shown);
         });
         cells->addCell({option});
     }
-    grid->addWidget(m_lblWr, 1, 0);
+    grid->addWidget(m_labels[Letter], 1, 0);
     return group;
 }
 
 WorkingPaper frmWeather::paper() const
 {
-    const auto shown = [](const ResultLabel* label) { return label->text().toStdString(); };
     WorkingPaper paper = CalculatorWindow::paper();
     paper.workings = {weatherWorking(m_boxes[Wave]->value(), m_boxes[Swell]->value(),
-                                     m_boxes[Visibility]->value(),
-                                     {shown(m_lblWave), shown(m_lblSWELL), shown(m_lblVISIBILITY),
-                                      shown(m_lblVISIBILITYnm), shown(m_lblWr)})};
+                                     m_boxes[Visibility]->value(), m_shown)};
     return paper;
 }
 
@@ -120,19 +108,24 @@ void frmWeather::addCalculations()
                   NoticeLevel::Fault);
         return m_boxes[field]->value();
     };
-    calculations().add({"Sea state", {m_boxes[Wave]}, {m_lblWave}, [=, this] {
-                            m_lblWave->setText(
-                                QString::fromStdString(CalculateSeaState(text(Wave))));
+    calculations().add({"Sea state", {m_boxes[Wave]}, {m_labels[Wave]}, [=, this] {
+                            m_shown.wave.clear(); // a fault leaves none behind
+                            m_shown.wave = CalculateSeaState(text(Wave));
+                            m_labels.show(m_shown);
                         }});
-    calculations().add({"Swell", {m_boxes[Swell]}, {m_lblSWELL}, [=, this] {
-                            m_lblSWELL->setText(
-                                QString::fromStdString(CalculateSwell(text(Swell))));
+    calculations().add({"Swell", {m_boxes[Swell]}, {m_labels[Swell]}, [=, this] {
+                            m_shown.swell.clear();
+                            m_shown.swell = CalculateSwell(text(Swell));
+                            m_labels.show(m_shown);
                         }});
     calculations().add(
-        {"Visibility", {m_boxes[Visibility]}, {m_lblVISIBILITY, m_lblVISIBILITYnm}, [=, this] {
+        {"Visibility", {m_boxes[Visibility]}, {m_labels[Visibility], m_labels[Miles]}, [=, this] {
+             m_shown.visibility.clear();
+             m_shown.miles.clear();
              const auto result = CalculateVisibility(text(Visibility));
-             m_lblVISIBILITY->setText(QString::fromStdString(result.term));
-             m_lblVISIBILITYnm->setText(QString::fromStdString(result.nauticalMiles));
+             m_shown.visibility = result.term;
+             m_shown.miles = result.nauticalMiles;
+             m_labels.show(m_shown);
          }});
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/frmWeather/CalculateWeather.h"
 #include "shell/window/CalculatorWindow.h"
 
 class QGroupBox;
@@ -23,11 +24,8 @@ private:
     void addCalculations();
 
     FieldBoxes m_boxes;
-    ResultLabel* m_lblWave;
-    ResultLabel* m_lblSWELL;
-    ResultLabel* m_lblVISIBILITY;
-    ResultLabel* m_lblVISIBILITYnm;
-    ResultLabel* m_lblWr;
+    ResultLabels<WeatherShown> m_labels;
+    WeatherShown m_shown;
 };
 
 } // namespace korvel

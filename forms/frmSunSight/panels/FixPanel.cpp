@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/panels/FixPanel.h"
 
+#include "forms/frmSunSight/fix/FixResults.h"
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/panels/SightPicture.h"
 
@@ -12,14 +13,8 @@ namespace korvel
 {
 
 FixPanel::FixPanel(QWidget* parent)
-    : QWidget(parent), m_picSunSight(new SightPicture(this)),
-      m_lblSunFix(makeResults<6>("lblSunFix",
-                                 {"Latitude of the fix", "Longitude of the fix", "Time of the fix",
-                                  "Error ellipse of the fix", "Where its sigma comes from",
-                                  "Fix without the sights that do not fit"},
-                                 this)),
-      m_lblSunCursor(makeResults<2>("lblSunCursor",
-                                    {"Latitude at the pointer", "Longitude at the pointer"}, this))
+    : QWidget(parent), m_picSunSight(new SightPicture(this)), m_lblSunFix(fixResults, this),
+      m_lblSunCursor(cursorResults, this)
 {
     auto* column = new QVBoxLayout(this);
     layOutBody(*column, Spacing::Dense);
@@ -36,8 +31,8 @@ QWidget* FixPanel::layOutPlot()
     grid->addWidget(new QLabel("At the pointer"), 1, 0);
     grid->addWidget(m_lblSunCursor[0], 1, 1);
     grid->addWidget(m_lblSunCursor[1], 1, 2);
-    setRoom(m_lblSunCursor[0], "  00.-00'0N");
-    setRoom(m_lblSunCursor[1], "000.-00'0E");
+    m_lblSunCursor[0]->setRoom("  00.-00'0N");
+    m_lblSunCursor[1]->setRoom("000.-00'0E");
     grid->setColumnStretch(3, 1);
     grid->setRowStretch(0, 1);
     connect(m_picSunSight, &PictureBox::pointed, this,
@@ -45,10 +40,7 @@ QWidget* FixPanel::layOutPlot()
     connect(m_picSunSight, &SightPicture::viewWanted, this, &FixPanel::showView);
     connect(m_picSunSight, &SightPicture::allWanted, this,
             [this] { showView(viewOfAll(m_picSunSight->plot())); });
-    connect(m_picSunSight, &PictureBox::left, this, [this] {
-        for (ResultLabel* label : m_lblSunCursor)
-            label->clear();
-    });
+    connect(m_picSunSight, &PictureBox::left, this, [this] { m_lblSunCursor.show({}); });
     return part;
 }
 
@@ -57,8 +49,8 @@ QGroupBox* FixPanel::layOutFix()
     auto* group = new QGroupBox("Fix");
     auto* grid = gridOf(group, Spacing::Dense);
     auto* position = new QHBoxLayout;
-    setRoom(m_lblSunFix[0], "00-.00'0N ");
-    setRoom(m_lblSunFix[1], "000-.00'0W");
+    m_lblSunFix[0]->setRoom("00-.00'0N ");
+    m_lblSunFix[1]->setRoom("000-.00'0W");
     position->addWidget(m_lblSunFix[0]);
     position->addWidget(m_lblSunFix[1]);
     position->addStretch(1);
@@ -75,13 +67,11 @@ std::string FixPanel::showFix(const SightFixResult& fix)
 {
     m_fix = fix;
     const SightPlot plot = DrawLOP(fix, m_view);
-    const std::array texts{fix.latitude,    fix.longitude, fix.time,
-                           fix.ellipseText, fix.sigmaText, fix.withoutText};
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        showText(m_lblSunFix[i], texts[i]);
+    m_lblSunFix.show(fix);
+    tellSentencesInTips(m_lblSunFix.all());
     m_picSunSight->showPlot(plot);
-    m_picSunSight->setAccessibleDescription(QString::fromStdString(
-        fix.time + " " + fix.latitude + " " + fix.longitude + " " + fix.ellipseText));
+    m_picSunSight->setAccessibleDescription(
+        asQString(fix.time + " " + fix.latitude + " " + fix.longitude + " " + fix.ellipseText));
     return plot.notice;
 }
 
@@ -111,9 +101,7 @@ std::vector<PaperPicture> FixPanel::paperPictures()
 
 void FixPanel::showCursor(QPointF user)
 {
-    const CursorTexts texts = cursorTexts(m_picSunSight->plot(), {user.x(), user.y()});
-    showText(m_lblSunCursor[0], texts.latitude);
-    showText(m_lblSunCursor[1], texts.longitude);
+    m_lblSunCursor.show(cursorTexts(m_picSunSight->plot(), {user.x(), user.y()}));
 }
 
 } // namespace korvel

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmSunSight/fix/DrawLOP.h"
-#include "shell/controls/ResultLabel.h"
+#include "shell/controls/ResultLabels.h"
 #include "shell/paper/PaperDocument.h"
 
 #include <array>
@@ -31,7 +31,7 @@ public:
     /// Called with what lies outside the plot when the officer has looked at another part of it.
     std::function<void(const std::string&)> onView;
 
-    std::vector<ResultLabel*> results() const { return {m_lblSunFix.begin(), m_lblSunFix.end()}; }
+    const std::vector<ResultLabel*>& results() const { return m_lblSunFix.all(); }
 
 private:
     QWidget* layOutPlot();
@@ -42,9 +42,8 @@ private:
     SightFixResult m_fix;
     PlotView m_view;
     SightPicture* m_picSunSight;
-    std::array<ResultLabel*, 6> m_lblSunFix{};    ///< latitude, longitude, time, ellipse, sigma,
-                                                  ///< without what does not fit
-    std::array<ResultLabel*, 2> m_lblSunCursor{}; ///< latitude, longitude
+    ResultLabels<SightFixResult> m_lblSunFix;
+    ResultLabels<CursorTexts> m_lblSunCursor;
 };
 
 } // namespace korvel

@@ -3,7 +3,7 @@
 
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
-#include "shell/controls/ResultLabel.h"
+#include "shell/controls/ResultLabels.h"
 
 #include <array>
 
@@ -35,11 +35,11 @@ private:
     void showWorksheet(const std::vector<WorksheetLine>& lines);
 
     QGroupBox* m_noon;
-    std::array<ResultLabel*, 3> m_lblSunTime{}; ///< UTC, SMT, watch error
+    ResultLabels<LOPResult> m_lblSunTime;
     std::array<QLabel*, worksheetLines> m_lblSunTerm{};
     std::array<ResultLabel*, worksheetLines> m_lblSunValue{};
-    std::array<ResultLabel*, 6> m_lblSunLine{}; ///< declination, GHA, DR, Hc, intercept, Zn
-    std::array<ResultLabel*, 4> m_lblSunNoon{}; ///< noon, greatest altitude, latitude, note
+    ResultLabels<LOPResult> m_lblSunLine;
+    ResultLabels<MeridianResult> m_lblSunNoon;
 };
 
 } // namespace korvel

@@ -1,20 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/panels/PanelParts.h"
 
-#include "shell/controls/Boxes.h"
-
 #include <QPushButton>
 
 namespace korvel
 {
-
-ResultLabel* makeResult(const QString& array, int index, const QString& words, QWidget* parent)
-{
-    auto* label = new ResultLabel(parent);
-    label->setObjectName(memberName(array, index));
-    label->declare(words);
-    return label;
-}
 
 void makeSentence(ResultLabel* label, int lines)
 {
@@ -25,16 +15,10 @@ void makeSentence(ResultLabel* label, int lines)
     if (lines == 1) label->setEliding();
 }
 
-void setRoom(ResultLabel* label, const char* sample)
+void tellSentencesInTips(const std::vector<ResultLabel*>& labels)
 {
-    label->setRoom(sample);
-}
-
-void showText(ResultLabel* label, const std::string& text)
-{
-    const QString shown = QString::fromStdString(text);
-    label->setText(shown);
-    if (label->wordWrap()) label->setToolTip(shown);
+    for (ResultLabel* label : labels)
+        if (label->wordWrap()) label->setToolTip(label->text());
 }
 
 QPushButton* makeButton(const QString& name, const QString& caption, const QString& tip,

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/TideDayPanel.h"
 
-#include "shell/controls/Boxes.h"
 #include "shell/controls/Panels.h"
 #include "shell/controls/WrappingRow.h"
 
@@ -20,10 +19,16 @@ constexpr std::array<Field, 2> questionFields = {{
      "m or kn", lowestAsked, highestAsked},
 }};
 
+using namespace DayShown;
+constexpr std::size_t rows = TideDayTexts::rows;
+
 } // namespace
 
-TideDayPanel::TideDayPanel(QWidget* parent) : QWidget(parent), m_boxes(questionFields, this)
+TideDayPanel::TideDayPanel(QWidget* parent)
+    : QWidget(parent), m_boxes(questionFields, this), m_labels(dayResults, this)
 {
+    for (ResultLabel* label : m_labels.all())
+        label->setFont(font()); // beside the texts of the day, which stay the largest
     auto* column = new QVBoxLayout(this);
     layOutBody(*column);
     column->setSpacing(0);
@@ -39,15 +44,6 @@ TideDayPanel::TideDayPanel(QWidget* parent) : QWidget(parent), m_boxes(questionF
     }
 }
 
-ResultLabel* TideDayPanel::addLabel(const QString& name, const QString& accessibleName)
-{
-    auto* label = new ResultLabel(this);
-    label->setObjectName(name);
-    label->declare(accessibleName);
-    label->setFont(font()); // beside the texts of the day, which stay the largest
-    return label;
-}
-
 QGridLayout* TideDayPanel::layOutWaters()
 {
     auto* grid = new QGridLayout;
@@ -57,16 +53,14 @@ QGridLayout* TideDayPanel::layOutWaters()
     m_allHeading = columnHead("All constituents (difference)");
     grid->addWidget(m_allHeading, 0, 1);
     for (std::size_t i = 0; i < rows; ++i) {
-        const int index = static_cast<int>(i);
-        m_lblWater[i] = addLabel(memberName("lblWater", index), "High or low water");
-        m_lblWaterAll[i] = addLabel(memberName("lblWaterAll", index),
-                                    "The same water by all constituents and the difference");
-        m_lblWater[i]->setRoom("Least flood 00:00   -00.00 kn");
-        m_lblWaterAll[i]->setRoom("00:00   -00.00 kn   (-000 min, -00.00 kn)");
-        grid->addWidget(m_lblWater[i], index + 1, 0);
-        grid->addWidget(m_lblWaterAll[i], index + 1, 1);
-        m_lblWater[i]->hide();
-        m_lblWaterAll[i]->hide();
+        const int line = static_cast<int>(i) + 1;
+        ResultLabel *four = m_labels[waters + i], *all = m_labels[watersByAll + i];
+        four->setRoom("Least flood 00:00   -00.00 kn");
+        all->setRoom("00:00   -00.00 kn   (-000 min, -00.00 kn)");
+        grid->addWidget(four, line, 0);
+        grid->addWidget(all, line, 1);
+        four->hide();
+        all->hide();
     }
     grid->setRowStretch(static_cast<int>(rows) + 1, 1);
     return grid;
@@ -95,32 +89,25 @@ QGridLayout* TideDayPanel::layOutQuestions()
 /// constituents have no room beside the waters.
 QGridLayout* TideDayPanel::layOutAnswers()
 {
-    m_lblRange = addLabel("lblRange", "Range of the day and the Moon");
-    m_lblNow = addLabel("lblNow", "At this moment");
-    m_lblAnswer = {addLabel("lblHeightAt", "Height at the time asked for"),
-                   addLabel("lblTimesOf", "When the water stands at that height or more")};
-    m_lblAnswerAll = {addLabel("lblHeightAtAll", "The same by all constituents"),
-                      addLabel("lblTimesOfAll", "The same by all constituents")};
     auto* grid = new QGridLayout;
     layOutLines(*grid);
     grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
-    grid->addWidget(m_lblRange, 0, 0, 1, 3);
-    grid->addWidget(m_lblNow, 1, 0, 1, 3);
-    m_answerHeading = new QLabel("Height then");
+    grid->addWidget(m_labels[range], 0, 0, 1, 3);
+    grid->addWidget(m_labels[now], 1, 0, 1, 3);
+    m_answerHeading = new QLabel(dayResults[heightThen].caption);
     grid->addWidget(m_answerHeading, 2, 0);
-    grid->addWidget(m_lblAnswer[0], 2, 1);
-    grid->addWidget(m_lblAnswerAll[0], 2, 2);
-    grid->addWidget(new QLabel("That or more"), 3, 0);
-    grid->addWidget(m_lblAnswer[1], 3, 1, 1, 2);
-    grid->addWidget(m_lblAnswerAll[1], 4, 1, 1, 2);
-    for (ResultLabel* label :
-         {m_lblRange, m_lblNow, m_lblAnswerAll[0], m_lblAnswer[1], m_lblAnswerAll[1]})
-        label->setEliding();
-    QSizePolicy ofNow = m_lblNow->sizePolicy();
+    grid->addWidget(m_labels[heightThen], 2, 1);
+    grid->addWidget(m_labels[heightByAll], 2, 2);
+    grid->addWidget(new QLabel(dayResults[timesOf].caption), 3, 0);
+    grid->addWidget(m_labels[timesOf], 3, 1, 1, 2);
+    grid->addWidget(m_labels[timesByAll], 4, 1, 1, 2);
+    for (const std::size_t sentence : {range, now, heightByAll, timesOf, timesByAll})
+        m_labels[sentence]->setEliding();
+    QSizePolicy ofNow = m_labels[now]->sizePolicy();
     ofNow.setRetainSizeWhenHidden(true); // its line stays on other days
-    m_lblNow->setSizePolicy(ofNow);
+    m_labels[now]->setSizePolicy(ofNow);
     // A line stays where it is, asked or not: the curve must not jump while a question is typed.
-    m_lblAnswerAll[1]->setMinimumHeight(fontMetrics().height());
+    m_labels[timesByAll]->setMinimumHeight(fontMetrics().height());
     grid->setColumnStretch(2, 1);
     return grid;
 }
@@ -132,37 +119,36 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
     const bool tide = day.four.kind == TideKind::Tide;
     m_captions[0]->setText(tide ? "Hei&ght at" : "&Rate at");
     m_captions[1]->setText(tide ? "Fro&m a height of" : "Fro&m a rate of");
-    m_answerHeading->setText(tide ? "Height then" : "Rate then");
+    m_answerHeading->setText(tide ? dayResults[heightThen].caption : "Rate then");
     m_unit->setText(tide ? "m" : "kn");
     const std::vector<WaterLine> lines = waterLines(*m_day);
     m_allHeading->setVisible(m_day->all.has_value());
     for (std::size_t i = 0; i < rows; ++i) {
-        const WaterLine line = i < lines.size() ? lines[i] : WaterLine{};
-        m_lblWater[i]->setText(QString::fromStdString(line.four));
-        m_lblWaterAll[i]->setText(QString::fromStdString(line.all));
-        m_lblWater[i]->setVisible(!line.four.empty());
-        m_lblWaterAll[i]->setVisible(!line.all.empty());
+        WaterLine& line = m_texts.waters[i];
+        line = i < lines.size() ? lines[i] : WaterLine{};
+        m_labels[waters + i]->setVisible(!line.four.empty());
+        m_labels[watersByAll + i]->setVisible(!line.all.empty());
     }
-    m_lblRange->setText(QString::fromStdString(rangeText(*m_day)));
+    m_texts.range = rangeText(*m_day);
     answer();
 }
 
 void TideDayPanel::showNow(const std::string& text)
 {
-    m_lblNow->setText(QString::fromStdString(text));
-    m_lblNow->setVisible(!text.empty());
+    m_texts.now = text;
+    m_labels.show(m_texts);
+    m_labels[now]->setVisible(!text.empty());
 }
 
 void TideDayPanel::answer()
 {
     if (!m_day) return;
-    m_answers = {heightAt(*m_day, m_boxes[0]->value()), timesOfHeight(*m_day, m_boxes[1]->value())};
-    for (std::size_t i = 0; i < m_answers.size(); ++i) {
-        m_lblAnswer[i]->setText(QString::fromStdString(m_answers[i].text));
-        m_lblAnswerAll[i]->setText(QString::fromStdString(m_answers[i].all));
-        m_lblAnswerAll[i]->setVisible(m_day->all.has_value());
-    }
-    if (onAnswers) onAnswers(m_answers[0], m_answers[1]);
+    m_texts.height = heightAt(*m_day, m_boxes[0]->value());
+    m_texts.times = timesOfHeight(*m_day, m_boxes[1]->value());
+    m_labels.show(m_texts);
+    for (const std::size_t answer : {heightByAll, timesByAll})
+        m_labels[answer]->setVisible(m_day->all.has_value());
+    if (onAnswers) onAnswers(m_texts.height, m_texts.times);
 }
 
 std::vector<PaperFigure> TideDayPanel::questions() const

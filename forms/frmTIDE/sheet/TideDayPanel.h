@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmTIDE/day/TideWaters.h"
+#include "forms/frmTIDE/day/TideResults.h"
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/ResultLabel.h"
+#include "shell/controls/ResultLabels.h"
 
 #include <QWidget>
 
@@ -30,33 +30,25 @@ public:
 
     /// What is asked, as understood, and the answers that are shown.
     std::vector<PaperFigure> questions() const;
-    const std::array<CurveAnswer, 2>& answers() const { return m_answers; }
+    const CurveAnswer& heightAnswer() const { return m_texts.height; }
+    const CurveAnswer& timesAnswer() const { return m_texts.times; }
 
     QWidget* firstBox() const { return m_boxes[0]; }
 
 private:
-    static constexpr std::size_t rows = 8;
-
-    ResultLabel* addLabel(const QString& name, const QString& accessibleName);
     QGridLayout* layOutWaters();
     QGridLayout* layOutQuestions();
     QGridLayout* layOutAnswers();
     void answer();
 
     FieldBoxes m_boxes;
+    ResultLabels<TideDayTexts> m_labels;
     std::optional<TideDayShown> m_day;
-    std::array<CurveAnswer, 2> m_answers; ///< height at a time, times of a height
-    std::array<ResultLabel*, rows> m_lblWater{};
-    std::array<ResultLabel*, rows> m_lblWaterAll{};
+    TideDayTexts m_texts;
     QLabel* m_allHeading = nullptr;
     std::array<QLabel*, 2> m_captions{}; ///< of the two questions
     QLabel* m_unit = nullptr;            ///< of the second one
     QLabel* m_answerHeading = nullptr;
-    ResultLabel* m_lblRange = nullptr;
-    ResultLabel* m_lblNow = nullptr;
-    /// Of the two questions: by the four constituents, and by all.
-    std::array<ResultLabel*, 2> m_lblAnswer{};
-    std::array<ResultLabel*, 2> m_lblAnswerAll{};
 };
 
 } // namespace korvel

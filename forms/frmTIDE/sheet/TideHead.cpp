@@ -11,7 +11,7 @@
 namespace korvel
 {
 
-TideHead::TideHead(QWidget* parent) : QWidget(parent)
+TideHead::TideHead(QWidget* parent) : QWidget(parent), m_labels(headResults, this)
 {
     auto* column = new QVBoxLayout(this);
     layOutBody(*column, Spacing::Dense);
@@ -26,19 +26,11 @@ TideHead::TideHead(QWidget* parent) : QWidget(parent)
     }
 }
 
-ResultLabel* TideHead::addLabel(const QString& name, const QString& accessibleName)
-{
-    auto* label = new ResultLabel(this);
-    label->setObjectName(name);
-    label->declare(accessibleName);
-    return label;
-}
-
 void TideHead::makeFindBox()
 {
     m_txtFind = new EntryBox(this);
     m_txtFind->setObjectName("txtFind");
-    m_txtFind->setAccessibleName("Find a station, three letters of its name and Enter");
+    m_txtFind->declare("Find a station", "three letters of its name and Enter");
     m_txtFind->setPlaceholderText("three letters, Enter");
     m_txtFind->setFixedWidth(20 * fontMetrics().averageCharWidth());
     m_txtFind->setMaxLength(40);
@@ -47,19 +39,20 @@ void TideHead::makeFindBox()
 
 QWidget* TideHead::headLine()
 {
-    m_lblPlace = addLabel("lblPlace", "Place");
+    m_lblPlace = new ResultLabel(this);
+    m_lblPlace->setObjectName("lblPlace");
+    m_lblPlace->declare("Place");
     QFont bold = m_lblPlace->font();
     bold.setBold(true);
     m_lblPlace->setFont(bold);
     m_lblPlace->setRoom("San Francisco, Golden");
     m_lblDate = new DateLabel(this);
     m_lblDate->setObjectName("lblDate");
-    m_lblDate->setAccessibleName("Date; Enter asks for another one");
+    m_lblDate->declare("Date; Enter asks for another one");
     m_lblDate->setToolTip("Choose the date");
     m_lblDate->onClick = [this] { onDate(); };
     m_lblDate->setRoom("0000/00/00  ");
-    m_lblTD = addLabel("lblTD", "Zone time of the station, hours");
-    m_lblTD->setRoom("00.00hW");
+    m_labels[HeadShown::zoneTime]->setRoom("00.00hW");
 
     auto* cmdToday = new QPushButton("T&oday");
     cmdToday->setObjectName("cmdToday");
@@ -80,30 +73,28 @@ QWidget* TideHead::headLine()
     row->addWidget(find);
     row->addWidget(m_txtFind);
     row->startGroup();
-    row->addWidget(new QLabel("Zone time"));
-    row->addWidget(m_lblTD);
+    row->addWidget(new QLabel(headResults[HeadShown::zoneTime].caption));
+    row->addWidget(m_labels[HeadShown::zoneTime]);
     return line;
 }
 
 QWidget* TideHead::figuresLine()
 {
-    m_lblTideInfo = addLabel("lblTideInfo", "Highest and lowest of the day with their zone times");
-    m_lblTideInfo->setToolTip("Zone time in hours and minutes, highest first");
-    m_lblTideInfo->setRoom("00.-00: -00.00m   00.-00: -00.00m ");
-    m_lblCuDirection = {addLabel("lblCuDirection(0)", "Direction of the flood stream"),
-                        addLabel("lblCuDirection(1)", "Direction of the ebb stream")};
-    for (ResultLabel* label : m_lblCuDirection)
-        label->setRoom("+ : WNW ");
+    using namespace HeadShown;
+    m_labels[highestLowest]->setToolTip("Zone time in hours and minutes, highest first");
+    m_labels[highestLowest]->setRoom("00.-00: -00.00m   00.-00: -00.00m ");
+    m_labels[flood]->setRoom("+ : WNW ");
+    m_labels[ebb]->setRoom("+ : WNW ");
 
     auto* line = new QWidget;
     auto* row = new WrappingRow(line);
     row->startGroup();
-    row->addWidget(new QLabel("Highest, lowest"));
-    row->addWidget(m_lblTideInfo);
+    row->addWidget(new QLabel(headResults[highestLowest].caption));
+    row->addWidget(m_labels[highestLowest]);
     row->addStretch();
     row->startGroup();
-    row->addWidget(m_lblCuDirection[0]);
-    row->addWidget(m_lblCuDirection[1]);
+    row->addWidget(m_labels[flood]);
+    row->addWidget(m_labels[ebb]);
     return line;
 }
 
@@ -115,12 +106,9 @@ void TideHead::showChoice(const TideChoice& choice)
 
 void TideHead::showFigures(const TidePrediction& four, const StationLines& lines)
 {
-    m_lblTD->setText(QString::fromStdString(four.lblTD));
-    m_lblTideInfo->setText(QString::fromStdString(four.lblTideInfo));
-    for (std::size_t i = 0; i < m_lblCuDirection.size(); ++i) {
-        m_lblCuDirection[i]->setText(QString::fromStdString(four.lblCuDirection[i]));
-        m_lblCuDirection[i]->setVisible(four.kind == TideKind::Stream);
-    }
+    m_labels.show(four);
+    for (const std::size_t direction : {HeadShown::flood, HeadShown::ebb})
+        m_labels[direction]->setVisible(four.kind == TideKind::Stream);
     showNote(m_lblRemark, four.remark);
     showNote(m_lblUncertainty, lines.uncertainty);
     showNote(m_lblEstimates, lines.estimates);

@@ -3,13 +3,13 @@
 
 #include "forms/frmTIDE/day/StationLines.h"
 #include "forms/frmTIDE/day/TideChoice.h"
+#include "forms/frmTIDE/day/TideResults.h"
 #include "forms/frmTIDE/sheet/DateControls.h"
 #include "shell/controls/Boxes.h"
-#include "shell/controls/ResultLabel.h"
+#include "shell/controls/ResultLabels.h"
 
 #include <QWidget>
 
-#include <array>
 #include <functional>
 #include <string>
 
@@ -34,17 +34,14 @@ public:
     EntryBox* txtFind() const { return m_txtFind; }
 
 private:
-    ResultLabel* addLabel(const QString& name, const QString& accessibleName);
     void makeFindBox();
     QWidget* headLine();
     QWidget* figuresLine();
 
     ResultLabel* m_lblPlace = nullptr;
     DateLabel* m_lblDate = nullptr;
-    ResultLabel* m_lblTD = nullptr;
+    ResultLabels<TidePrediction> m_labels;
     EntryBox* m_txtFind = nullptr;
-    ResultLabel* m_lblTideInfo = nullptr;
-    std::array<ResultLabel*, 2> m_lblCuDirection{};
     QLabel* m_lblRemark = nullptr;
     QLabel* m_lblUncertainty = nullptr;
     QLabel* m_lblEstimates = nullptr;
