@@ -65,7 +65,7 @@ bool KORVEL2000Actions::storeSingle(double value, const std::string& refusal)
     const Answer answer =
         m_questions.ask({"SingleMemo:" + Format(value, "0.0##"), programTitle, Buttons::YesNo});
     if (answer != Answer::Yes) return false;
-    m_saved(SavedValue::SingleMemo) = value;
+    m_saved.setSingleMemo(value);
     return true;
 }
 
@@ -91,13 +91,6 @@ Answer KORVEL2000Actions::ConfirmMemoRecall(MemoName memoName)
                    "\r\rAre you sure to input these value?";
     const Answer answer = m_questions.ask({question, confirmationTitle, Buttons::YesNo});
     return answer == Answer::Yes ? Answer::Yes : Answer::No;
-}
-
-std::string KORVEL2000Actions::AskNumberInRange(const std::string& prompt,
-                                                const std::string& defaultAnswer, double low,
-                                                double high)
-{
-    return askNumberInRange(m_questions, prompt, defaultAnswer, low, high);
 }
 
 int KORVEL2000Actions::ExitApplication()

@@ -47,11 +47,6 @@ public:
     /// @return Yes or No
     Answer ConfirmMemoRecall(MemoName memoName);
 
-    /// Asks until the answer is a number whose value lies in low .. high; a wrong answer is named.
-    /// @return the answer as typed
-    std::string AskNumberInRange(const std::string& prompt, const std::string& defaultAnswer,
-                                 double low, double high);
-
     /// Asks whether to end the program; on Yes saves the values and ends it.
     /// @return 1 when the officer declined, 0 otherwise
     int ExitApplication();

@@ -97,6 +97,14 @@ KV_Savedvalue::KV_Savedvalue()
         m_values[i] = table()[i].initial;
 }
 
+void KV_Savedvalue::set(int index, Value value)
+{
+    Value& kept = m_values.at(static_cast<std::size_t>(index));
+    if (kept == value) return;
+    kept = std::move(value);
+    ++m_revision;
+}
+
 ClockZone KV_Savedvalue::clockZone() const
 {
     for (int zone = 0; zone < 3; ++zone)
@@ -107,7 +115,7 @@ ClockZone KV_Savedvalue::clockZone() const
 void KV_Savedvalue::setClockZone(ClockZone zone)
 {
     for (int i = 0; i < 3; ++i)
-        (*this)(i) = i == static_cast<int>(zone);
+        set(i, i == static_cast<int>(zone));
 }
 
 int KV_Savedvalue::timeSignalMinutes() const
@@ -117,8 +125,8 @@ int KV_Savedvalue::timeSignalMinutes() const
 
 void KV_Savedvalue::setPositionMemo(NavFunc113::DegMin latitude, NavFunc113::DegMin longitude)
 {
-    (*this)(SavedValue::MemoLatitude) = latitude.packed();
-    (*this)(SavedValue::MemoLongitude) = longitude.packed();
+    set(SavedValue::MemoLatitude, latitude.packed());
+    set(SavedValue::MemoLongitude, longitude.packed());
 }
 
 float KV_Savedvalue::TD() const
@@ -132,7 +140,7 @@ std::vector<std::string> KV_Savedvalue::take(const Record& record)
     for (std::size_t i = 0; i < m_values.size(); ++i) {
         const SavedValueRow& row = table()[i];
         const bool sound = row.isSound(record[i]);
-        m_values[i] = sound ? record[i] : row.initial;
+        set(static_cast<int>(i), sound ? record[i] : row.initial);
         if (!sound) refused.push_back(row.name + " " + valueInWords(record[i]));
     }
     for (int n = 1; n <= alarms; ++n) {

@@ -60,13 +60,17 @@ public:
     /// The values of a new installation: JST, no alarm, TD +9, unit of latitude.
     KV_Savedvalue();
 
-    Value& operator()(int index) { return m_values.at(static_cast<std::size_t>(index)); }
     const Value& operator()(int index) const
     {
         return m_values.at(static_cast<std::size_t>(index));
     }
-    Value& operator()(SavedValue which) { return (*this)(static_cast<int>(which)); }
     const Value& operator()(SavedValue which) const { return (*this)(static_cast<int>(which)); }
+
+    /// Every change goes this way.
+    void set(int index, Value value);
+    void set(SavedValue which, Value value) { set(static_cast<int>(which), std::move(value)); }
+    /// Another number after every change: whoever keeps the values need not look at them to know.
+    unsigned revision() const { return m_revision; }
 
     ClockZone clockZone() const; ///< the first tick that is set, JST when none is
     void setClockZone(ClockZone zone);
@@ -75,39 +79,33 @@ public:
     bool alarmEnabled(int n) const { return tickOf(ofAlarm(n, SavedValue::AlarmEnabled)); }
     std::string alarmTime(int n) const { return textOf(ofAlarm(n, SavedValue::AlarmTime)); }
     std::string alarmComment(int n) const { return textOf(ofAlarm(n, SavedValue::AlarmComment)); }
-    void setAlarmEnabled(int n, bool enabled) { ofAlarm(n, SavedValue::AlarmEnabled) = enabled; }
+    void setAlarmEnabled(int n, bool enabled)
+    {
+        set(placeOf(n, SavedValue::AlarmEnabled), enabled);
+    }
     void setAlarmTime(int n, std::string time)
     {
-        ofAlarm(n, SavedValue::AlarmTime) = std::move(time);
+        set(placeOf(n, SavedValue::AlarmTime), std::move(time));
     }
     void setAlarmComment(int n, std::string comment)
     {
-        ofAlarm(n, SavedValue::AlarmComment) = std::move(comment);
+        set(placeOf(n, SavedValue::AlarmComment), std::move(comment));
     }
 
     /// Hourly time signal, and how many minutes before the full hour it sounds (0 to 59).
     bool timeSignal() const { return tickOf((*this)(SavedValue::TimeSignal)); }
     int timeSignalMinutes() const;
-    void setTimeSignal(bool on) { (*this)(SavedValue::TimeSignal) = on; }
-    void setTimeSignalMinutes(int minutes)
-    {
-        (*this)(SavedValue::TimeSignalMinutes) = double(minutes);
-    }
+    void setTimeSignal(bool on) { set(SavedValue::TimeSignal, on); }
+    void setTimeSignalMinutes(int minutes) { set(SavedValue::TimeSignalMinutes, double(minutes)); }
 
     /// True for the night scheme.
     bool nightColours() const { return numberOf((*this)(SavedValue::BackColor)) != 0; }
     /// Day leaves the value as a new installation has it, so that there and back is no change.
-    void setNightColours(bool night)
-    {
-        (*this)(SavedValue::BackColor) = night ? Value(1.0) : Value();
-    }
+    void setNightColours(bool night) { set(SavedValue::BackColor, night ? Value(1.0) : Value()); }
 
     /// True: "1nm=1' (of LATITUDE)", false: "1nm=1852m".
     bool unitOfLatitude() const { return numberOf((*this)(SavedValue::DistanceUnit)) != 0; }
-    void setUnitOfLatitude(bool latitude)
-    {
-        (*this)(SavedValue::DistanceUnit) = latitude ? 1.0 : 0.0;
-    }
+    void setUnitOfLatitude(bool latitude) { set(SavedValue::DistanceUnit, latitude ? 1.0 : 0.0); }
     /// The earth of the sailing routines: lengths in miles of 1852 m need the spheroid.
     NavFunc113::Earth earth() const
     {
@@ -124,10 +122,11 @@ public:
     }
     void setPositionMemo(NavFunc113::DegMin latitude, NavFunc113::DegMin longitude);
     double singleMemo() const { return numberOf((*this)(SavedValue::SingleMemo)); }
+    void setSingleMemo(double value) { set(SavedValue::SingleMemo, value); }
 
     /// Time difference of ship's mean time from UTC in hours, east positive, -12 .. 12.
     float TD() const;
-    void setTD(float hours) { (*this)(SavedValue::TimeDifference) = hours; }
+    void setTD(float hours) { set(SavedValue::TimeDifference, hours); }
 
     Record record() const { return {m_values.begin(), m_values.end()}; }
 
@@ -139,11 +138,11 @@ public:
     std::vector<std::string> take(const Record& record);
 
 private:
-    Value& ofAlarm(int n, SavedValue which) { return (*this)(placeOf(n, which)); }
     const Value& ofAlarm(int n, SavedValue which) const { return (*this)(placeOf(n, which)); }
     static int placeOf(int n, SavedValue which) { return static_cast<int>(which) + 3 * (n - 1); }
 
     std::array<Value, count> m_values;
+    unsigned m_revision = 0;
 };
 
 } // namespace korvel

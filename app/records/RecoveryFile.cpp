@@ -42,7 +42,7 @@ RecoveryFile::RecoveryFile(FileStore& files, Questions& questions, const Compute
 
 void RecoveryFile::offer(KV_Savedvalue& saved)
 {
-    m_kept = bytesOf(saved);
+    knowsOf(saved);
     auto record = m_file.load();
     if (!record) return;
     const std::string when = textOf(record->front());
@@ -54,7 +54,7 @@ void RecoveryFile::offer(KV_Savedvalue& saved)
                                        "\".\r\rTake them over?",
                                    confirmationTitle, Buttons::YesNo}) == Answer::Yes) {
         takeAndTell(saved, *record, name, m_questions);
-        m_kept = bytesOf(saved);
+        knowsOf(saved);
     } else if (!m_file.isProtected()) {
         remove();
     }
@@ -62,20 +62,36 @@ void RecoveryFile::offer(KV_Savedvalue& saved)
 
 std::string RecoveryFile::keep(const KV_Savedvalue& saved)
 {
-    std::string values = bytesOf(saved);
-    if (values == m_kept) return {};
+    if (saved.revision() == m_keptRevision) return {};
+    if (bytesOf(saved) == m_kept) { // there and back
+        m_keptRevision = saved.revision();
+        return {};
+    }
     Record record{Format(m_clock.now(), "yyyy/mm/dd hh:mm")};
     const Record savedValues = saved.record();
     record.insert(record.end(), savedValues.begin(), savedValues.end());
     std::string fault = m_file.saveQuietly(record);
-    if (fault.empty()) m_kept = std::move(values);
+    if (fault.empty()) knowsOf(saved);
     return fault;
+}
+
+void RecoveryFile::knowsOf(const KV_Savedvalue& saved)
+{
+    m_kept = bytesOf(saved);
+    m_keptRevision = saved.revision();
 }
 
 std::string RecoveryFile::remove()
 {
     const auto reason = m_files.remove(name);
     return reason ? '"' + std::string(name) + "\" could not be removed: " + *reason : std::string();
+}
+
+Record recoveredValues(const std::string& bytes)
+{
+    Record record = readRecord(bytes, kindsOfFile()).record;
+    record.erase(record.begin()); // when it was kept
+    return record;
 }
 
 void takeAndTell(KV_Savedvalue& saved, const Record& record, const std::string& file,

@@ -26,7 +26,7 @@ public:
     void offer(KV_Savedvalue& saved);
 
     /// Writes the values when they are not those of the last call any more. To be called after
-    /// everything that may change one; costs no disk when nothing did.
+    /// everything that may change one; costs nothing when nothing did.
     /// @return the fault in words, empty when all is well
     std::string keep(const KV_Savedvalue& saved);
 
@@ -34,12 +34,19 @@ public:
     std::string remove();
 
 private:
+    /// The disk has these values.
+    void knowsOf(const KV_Savedvalue& saved);
+
     FileStore& m_files;
     Questions& m_questions;
     const ComputerClock& m_clock;
     SettingsFile m_file;
-    std::string m_kept; ///< the values of which the disk knows
+    std::string m_kept;          ///< the values of which the disk knows
+    unsigned m_keptRevision = 0; ///< of the same
 };
+
+/// The values that the bytes of such a file hold, whatever is wrong with them.
+Record recoveredValues(const std::string& bytes);
 
 /// Takes a record over and names what could not be, in one box.
 /// @param file whose record it is

@@ -120,10 +120,10 @@ void remember(Stage& stage, const Words& words)
     if (what == "TD") {
         saved.setTD(static_cast<float>(numberAt(words, 1)));
     } else if (what == "position") {
-        saved(23) = numberAt(words, 1);
-        saved(24) = numberAt(words, 2);
+        saved.setPositionMemo(NavFunc113::DegMin(numberAt(words, 1)),
+                              NavFunc113::DegMin(numberAt(words, 2)));
     } else if (what == "single") {
-        saved(25) = numberAt(words, 1);
+        saved.setSingleMemo(numberAt(words, 1));
     } else {
         throw std::runtime_error("no memory of " + what);
     }

@@ -88,9 +88,8 @@ TEST_F(ActionsTest, singleMemoAndRecall)
     EXPECT_EQ(questions.asked.back(), "SingleMemo:0.0");
     EXPECT_EQ(saved.singleMemo(), 0.0004);
 
-    saved(25) = 12.5;
-    saved(23) = -5.3;
-    saved(24) = 139.4523;
+    saved.setSingleMemo(12.5);
+    saved.setPositionMemo(NavFunc113::DegMin(-5.3), NavFunc113::DegMin(139.4523));
     questions.will("Yes; No");
     EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::SinM), Answer::Yes);
     EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::PsnM), Answer::No);

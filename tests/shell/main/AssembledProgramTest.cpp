@@ -50,9 +50,9 @@ protected:
 
     void remember(double latitude, double longitude, double single)
     {
-        main.program().saved()(23) = latitude;
-        main.program().saved()(24) = longitude;
-        main.program().saved()(25) = single;
+        KV_Savedvalue& saved = main.program().saved();
+        saved.setPositionMemo(NavFunc113::DegMin(latitude), NavFunc113::DegMin(longitude));
+        saved.setSingleMemo(single);
     }
 
     QTemporaryDir folder;

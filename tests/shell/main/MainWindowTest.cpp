@@ -173,7 +173,7 @@ TEST_F(MainWindowTest, theEndOfTheSessionWritesRecordsAndAsksNothing)
     const auto window = start();
     choose(*window, "mnuNAV(1)");
     type(*shown("frmProbe"), "txtProbe", "35");
-    window->program().saved()(25) = 12.5;
+    window->program().saved().setSingleMemo(12.5);
     QSignalSpy ended(window.get(), &frmKORVEL2000::ended);
     // The session ends under a question that would be asked again and again.
     questions.willType("99", [&] { window->endSession(); });
