@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/ProgramFolder.h"
 
+#include "shell/machine/AsQString.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -79,20 +81,21 @@ std::optional<std::string> replace(const QString& path, const std::string& bytes
 
 } // namespace
 
-ProgramFolder::ProgramFolder(QString folder) : m_folder(std::move(folder))
+ProgramFolder::ProgramFolder(QString folder, Remnants remnants) : m_folder(std::move(folder))
 {
+    if (remnants == Remnants::Left) return;
     // A save writes "KV_GC.ini.AbCdEf" beside the file and renames it; one that was killed leaves
     // it.
     const QDir directory(m_folder);
-    const QStringList remnants = {"KV_*.ini.??????", "AF2005.txt.??????", "Tide *.csv.??????"};
-    for (const QString& remnant : directory.entryList(remnants, QDir::Files))
+    const QStringList names = {"KV_*.ini.??????", "AF2005.txt.??????", "Tide *.csv.??????"};
+    for (const QString& remnant : directory.entryList(names, QDir::Files))
         if (!remnant.endsWith(".before")) // the factors file before an extension
             QFile::remove(directory.filePath(remnant));
 }
 
 QString ProgramFolder::pathOf(const std::string& name) const
 {
-    return m_folder + '/' + QString::fromStdString(name);
+    return m_folder + '/' + asQString(name);
 }
 
 std::string ProgramFolder::path(const std::string& name) const
@@ -107,7 +110,7 @@ FileStore::Content ProgramFolder::read(const std::string& name)
 
 FileStore::Content ProgramFolder::readAnywhere(const std::string& path)
 {
-    return readWhole(QString::fromStdString(path));
+    return readWhole(asQString(path));
 }
 
 FileStore::Content ProgramFolder::readAt(const std::string& name, std::int64_t offset,
@@ -124,7 +127,7 @@ std::optional<std::string> ProgramFolder::save(const std::string& name, const st
 std::optional<std::string> ProgramFolder::saveAnywhere(const std::string& path,
                                                        const std::string& bytes)
 {
-    return replace(QString::fromStdString(path), bytes);
+    return replace(asQString(path), bytes);
 }
 
 std::optional<std::string> ProgramFolder::append(const std::string& name, const std::string& bytes)
@@ -151,7 +154,7 @@ std::optional<std::string> ProgramFolder::append(const std::string& name, const 
 std::vector<std::string> ProgramFolder::names(const std::string& beginning,
                                               const std::string& ending) const
 {
-    const QString pattern = QString::fromStdString(beginning + '*' + ending);
+    const QString pattern = asQString(beginning + '*' + ending);
     std::vector<std::string> found;
     for (const QString& name : QDir(m_folder).entryList({pattern}, QDir::Files, QDir::Name))
         found.push_back(name.toStdString());

@@ -12,9 +12,12 @@ namespace korvel
 class ProgramFolder : public FileStore
 {
 public:
-    /// @param folder without a trailing separator. Remnants of a save that was cut off in an
-    ///               earlier run are removed.
-    explicit ProgramFolder(QString folder);
+    /// What a save leaves that was cut off in an earlier run. Another program may hold the folder
+    /// and be saving: nobody removes them before it is known that none does.
+    enum class Remnants { Removed, Left };
+
+    /// @param folder without a trailing separator
+    explicit ProgramFolder(QString folder, Remnants remnants = Remnants::Removed);
 
     Content read(const std::string& name) override;
     Content readAt(const std::string& name, std::int64_t offset, std::size_t length) override;

@@ -119,7 +119,8 @@ int runProgram(int argc, char* argv[], const ClockMaker& makeClock, const Window
 
     MessageQuestions questions;
     const Places places = choosePlaces(QApplication::applicationDirPath(), officersFolder());
-    const Looks looks = looksOfLastRun(places.records);
+    ProgramFolder asFound(places.records, ProgramFolder::Remnants::Left);
+    const Looks looks = looksOfLastRun(asFound);
     applyLooks(looks, looks.colours());
     // The officer sees that the program starts before it waits for the disk and makes its icons.
     auto startWindow = std::make_unique<frmKORVELstart>();

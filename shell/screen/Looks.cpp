@@ -7,7 +7,6 @@
 #include "shell/screen/ScreenStyle.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QToolTip>
 #include <QWidget>
 
@@ -18,13 +17,11 @@ namespace korvel
 namespace
 {
 
-/// @return a record of what was never set where there is no such file
-Record quietlyRead(const QString& path, const std::vector<FieldKind>& kinds)
+/// @return empty where there is no such file
+std::string quietlyRead(FileStore& files, const char* name)
 {
-    constexpr qint64 longest = 1 << 16;
-    QFile file(path);
-    const bool isFile = QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly);
-    return readRecord(isFile ? file.read(longest).toStdString() : "", kinds).record;
+    constexpr std::size_t longest = 1 << 16;
+    return files.readAt(name, 0, longest).bytes;
 }
 
 /// Letters that widgets have in a size of their own keep it in proportion.
@@ -60,20 +57,14 @@ void applyZoom(int percent)
 
 } // namespace
 
-Looks looksOfLastRun(const QString& folder)
+Looks looksOfLastRun(FileStore& files)
 {
-    const auto pathOf = [&](const char* name) { return folder + '/' + name; };
     KV_Savedvalue saved;
-    saved.take(quietlyRead(pathOf(KV_Savedvalue::file), KV_Savedvalue::kinds()));
-    if (QFileInfo::exists(pathOf(RecoveryFile::name))) {
-        std::vector<FieldKind> kinds = KV_Savedvalue::kinds();
-        kinds.insert(kinds.begin(), FieldKind::Text); // when it was kept
-        Record record = quietlyRead(pathOf(RecoveryFile::name), kinds);
-        record.erase(record.begin());
-        saved.take(record);
-    }
-    const auto screen =
-        ScreenChoices::of(quietlyRead(pathOf(ScreenChoices::file), ScreenChoices::kinds()));
+    saved.take(readRecord(quietlyRead(files, KV_Savedvalue::file), KV_Savedvalue::kinds()).record);
+    if (files.look(RecoveryFile::name).status != FileStore::Content::Status::Missing)
+        saved.take(recoveredValues(quietlyRead(files, RecoveryFile::name)));
+    const auto screen = ScreenChoices::of(
+        readRecord(quietlyRead(files, ScreenChoices::file), ScreenChoices::kinds()).record);
     return {saved.nightColours(), screen.dimStep, screen.zoom};
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/records/FileStore.h"
 #include "shell/screen/ColourScheme.h"
 
 namespace korvel
@@ -23,7 +24,8 @@ struct Looks {
 /// touching anything, for another program may hold the folder: for what is shown before the program
 /// reads them itself. After a run that did not end by its exit the colours of the recovery file
 /// hold.
-Looks looksOfLastRun(const QString& folder);
+/// @param files as they were found, ProgramFolder::Remnants::Left
+Looks looksOfLastRun(FileStore& files);
 
 /// Gives it to the application: every window, menu, box and tool tip that there is and that will
 /// be. Needs ScreenStyle to be the application's style for all of it.

@@ -320,17 +320,18 @@ TEST_F(NightTest, linesOfPicturesStandOffAndTheMainWindowHasItsColours)
 
 TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
 {
-    EXPECT_FALSE(looksOfLastRun(folder.path()).night);
+    ProgramFolder records(folder.path(), ProgramFolder::Remnants::Left);
+    EXPECT_FALSE(looksOfLastRun(records).night);
     Screen& screen = main.program().screen();
     screen.toggleNight();
     screen.dim();
-    EXPECT_EQ(looksOfLastRun(folder.path()).dimStep, screen.choices().dimStep);
+    EXPECT_EQ(looksOfLastRun(records).dimStep, screen.choices().dimStep);
     screen.zoom(1);
     const Looks last{true, screen.choices().dimStep, screen.choices().zoom};
     EXPECT_NE(last, (Looks{true, 0, 100}));
-    EXPECT_EQ(looksOfLastRun(folder.path()), last) << "after a run that was killed";
+    EXPECT_EQ(looksOfLastRun(records), last) << "after a run that was killed";
     main.endSession();
-    EXPECT_EQ(looksOfLastRun(folder.path()), last) << "after the end of the session";
+    EXPECT_EQ(looksOfLastRun(records), last) << "after the end of the session";
 }
 
 /// A sheet that stays white by night until something else paints it.
