@@ -2,6 +2,7 @@
 #include "forms/frmGC2000/GCPicture.h"
 
 #include "shell/controls/Legend.h"
+#include "shell/machine/AsQString.h"
 
 #include <QLineF>
 #include <QtMath>
@@ -52,7 +53,7 @@ QList<QLineF> dashed(const QList<QLineF>& pieces, double dash, double gap)
 
 } // namespace
 
-GCPicture::GCPicture(Program& program) : m_program(program)
+GCPicture::GCPicture()
 {
     setObjectName("picGC");
     setAccessibleName("Chart of the great circle and the rhumb line");
@@ -247,7 +248,7 @@ void GCPicture::drawEdges(QPainter& painter) const
     const double wide = letterMetrics().horizontalAdvance("000°W");
     painter.setPen(pen(colours().palette.color(QPalette::WindowText), thin));
     const auto label = [&](const QRectF& room, Qt::Alignment alignment, const ChartLabel& each) {
-        m_figures.draw(painter, room, alignment, QString::fromStdString(each.text));
+        m_figures.draw(painter, room, alignment, asQString(each.text));
     };
     std::vector<double> places;
     for (const ChartLabel& each : m_chart.meridianLabels)

@@ -13,7 +13,7 @@ namespace korvel
 class GCPicture : public PictureBox
 {
 public:
-    explicit GCPicture(Program& program);
+    GCPicture();
 
     void setChart(GCChart chart);
 
@@ -43,9 +43,7 @@ private:
     QPen pen(const QColor& colour, double width) const;
     QPen rhumbPen() const;
     QPointF pixel(const ChartPoint& point) const { return toPixel(point.longitude, point.lat); }
-    const ColourScheme& colours() const { return m_program.colours(); }
 
-    Program& m_program;
     GCChart m_chart;
     int m_legendLines = 1;
     mutable FigureText m_figures; ///< glyphs that it has drawn before

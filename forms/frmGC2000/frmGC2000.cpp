@@ -9,6 +9,7 @@
 #include "navlib/arithmetic_error.h"
 #include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QAction>
 #include <QGridLayout>
@@ -88,7 +89,7 @@ void frmGC2000::prepareResults()
     m_waypoints = new RowTable(waypointColumns, rowCount);
     for (std::size_t row = 0; row < rowCount; ++row)
         m_waypoints->number(row)->clear();
-    m_picGC = new GCPicture(program());
+    m_picGC = new GCPicture;
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.
     for (const std::size_t distance :
@@ -102,7 +103,7 @@ void frmGC2000::prepareResults()
     m_shown[GCShown::vertexRemark]->setRoom("beyond the route");
 
     const auto forCopy = [](const GCWaypoint& waypoint) {
-        return QString::fromStdString(positionForCopy(waypoint.lat, waypoint.longitude));
+        return asQString(positionForCopy(waypoint.lat, waypoint.longitude));
     };
     for (std::size_t row = 0; row < rowCount; ++row) {
         const auto copied = [this, row, forCopy] {
@@ -206,10 +207,9 @@ void frmGC2000::nameWaypointEntries()
         const std::size_t waypoint = i + 1;
         const GCRow& row = m_result.rows[waypoint];
         m_waypointEntries[i]->setVisible(waypoint + 1 < m_result.route.waypoints.size());
-        m_waypointEntries[i]->setText(
-            QString("Waypoint %1:  %2  %3")
-                .arg(waypoint)
-                .arg(QString::fromStdString(row.lat), QString::fromStdString(row.longitude)));
+        m_waypointEntries[i]->setText(QString("Waypoint %1:  %2  %3")
+                                          .arg(waypoint)
+                                          .arg(asQString(row.lat), asQString(row.longitude)));
     }
 }
 
@@ -246,8 +246,7 @@ void frmGC2000::runGC()
         showRow(row);
     m_shown.show(m_result);
     m_picGC->setChart(DrawWPs(m_result.route));
-    setNotice("input", QString::fromStdString(m_result.notice),
-              levelBeside(m_result.figures.has_value()));
+    setNotice("input", asQString(m_result.notice), levelBeside(m_result.figures.has_value()));
 }
 
 WorkingPaper frmGC2000::paper() const

@@ -321,10 +321,4 @@ std::vector<PaperPicture> frmSunSight::paperPictures()
     return m_fixes->paperPictures();
 }
 
-void frmSunSight::applyColours()
-{
-    CalculatorWindow::applyColours();
-    m_fixes->setColours(program().colours());
-}
-
 } // namespace korvel

@@ -28,7 +28,6 @@ public:
     explicit frmSunSight(Program& program);
 
 protected:
-    void applyColours() override;
     WorkingPaper paper() const override;
     std::vector<PaperPicture> paperPictures() override;
 

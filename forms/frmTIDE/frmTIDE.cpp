@@ -46,7 +46,7 @@ frmTIDE::frmTIDE(Program& program)
         [this](const Record& record) {
             const SavedChoice saved = choiceOf(record, m_dates);
             m_choice = saved.choice;
-            setNotice("saved~", QString::fromStdString(saved.notice));
+            setNotice("saved~", asQString(saved.notice));
         });
     loadSettings();
     readDates();
@@ -64,7 +64,7 @@ void frmTIDE::addControls()
     m_sheet->head().onFind = [this](const std::string& typed) { findStation(typed); };
     m_sheet->onDay = [this](std::int64_t date) { stepTo(date); };
     m_sheet->onNotice = [this](const QString& key, const std::string& notice) {
-        setNotice(key, QString::fromStdString(notice));
+        setNotice(key, asQString(notice));
     };
     m_sheet->showDates(m_dates, program().files().path(factorsFileName));
     setScrollArea(new FollowingScrollArea(m_sheet));
@@ -113,7 +113,7 @@ std::vector<CatalogueEntry::Place> frmTIDE::stationsToGoTo()
 {
     std::vector<CatalogueEntry::Place> places;
     for (const FoundStation& station : allStations()) {
-        const QString name = QString::fromStdString(station.place);
+        const QString name = asQString(station.place);
         places.push_back({name + (station.TideMode ? "" : " (stream)"),
                           (station.TideMode ? "tide " : "stream ") + name});
     }
@@ -128,22 +128,21 @@ void frmTIDE::goTo(const QString& place)
     if (reason.isEmpty())
         choose(station);
     else
-        setNotice(findKey, QString::fromStdString(station.place) + ": " + reason);
+        setNotice(findKey, asQString(station.place) + ": " + reason);
     m_sheet->dateBar().setFocus();
 }
 
 void frmTIDE::findStation(const std::string& typed)
 {
     const SearchAnswer answer = answerSearch(typed);
-    setNotice(findKey, QString::fromStdString(answer.notice),
+    setNotice(findKey, asQString(answer.notice),
               answer.first ? NoticeLevel::Done : NoticeLevel::Remark);
     if (!answer.first) return;
     const StationChoice first{answer.first->TideMode, answer.first->place};
     const QString reason = m_tideMenus.stations().reasonAgainst(first);
-    if (!reason.isEmpty())
-        return setNotice(findKey, QString::fromStdString(first.place) + ": " + reason);
+    if (!reason.isEmpty()) return setNotice(findKey, asQString(first.place) + ": " + reason);
     choose(first);
-    setNotice(findKey, QString::fromStdString(answer.notice), NoticeLevel::Done);
+    setNotice(findKey, asQString(answer.notice), NoticeLevel::Done);
 }
 
 std::int64_t frmTIDE::today()
@@ -322,7 +321,7 @@ TideHabits frmTIDE::loadedHabits()
 
 void frmTIDE::storeHabits()
 {
-    setNotice("habits~", QString::fromStdString(m_habitsFile.saveQuietly(recordOf(m_habits))),
+    setNotice("habits~", asQString(m_habitsFile.saveQuietly(recordOf(m_habits))),
               NoticeLevel::Fault);
 }
 
@@ -339,7 +338,7 @@ void frmTIDE::storeSettings(Telling telling)
 void frmTIDE::tell(const std::string& fault, Telling telling)
 {
     const bool box = telling == Telling::Box;
-    setNotice("data", box ? QString() : QString::fromStdString(fault), NoticeLevel::Fault);
+    setNotice("data", box ? QString() : asQString(fault), NoticeLevel::Fault);
     if (box && !fault.empty()) program().questions().ask({fault, programTitle, Buttons::Ok});
 }
 
@@ -373,16 +372,9 @@ WorkingPaper frmTIDE::paper() const
 std::vector<PaperPicture> frmTIDE::paperPictures()
 {
     if (!m_shown) return {};
-    return {
-        paperPicture(m_sheet->picture(),
-                     "The day's curve, zone time " + QString::fromStdString(m_shown->four.lblTD),
-                     QSize(640, 360))};
-}
-
-void frmTIDE::applyColours()
-{
-    CalculatorWindow::applyColours();
-    m_sheet->picture().applyColours();
+    return {paperPicture(m_sheet->picture(),
+                         "The day's curve, zone time " + asQString(m_shown->four.lblTD),
+                         QSize(640, 360))};
 }
 
 } // namespace korvel

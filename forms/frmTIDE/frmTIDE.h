@@ -40,7 +40,6 @@ protected:
     WorkingPaper paper() const override;
     std::vector<PaperPicture> paperPictures() override;
     void changeEvent(QEvent* event) override;
-    void applyColours() override;
 
 private:
     /// How a fault of the data files is told: in a box once the officer has chosen something, in

@@ -2,6 +2,7 @@
 #include "forms/frmWind/WindPictureBox.h"
 
 #include "shell/controls/Legend.h"
+#include "shell/machine/AsQString.h"
 
 #include <QLineF>
 
@@ -17,7 +18,7 @@ constexpr double thick = 0.16;
 
 } // namespace
 
-WindPictureBox::WindPictureBox(Program& program) : m_program(program)
+WindPictureBox::WindPictureBox()
 {
     setObjectName("picWind");
     setAccessibleName("Ship's heading, apparent and true wind; press and drag to set the apparent "
@@ -121,7 +122,7 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
         m_figureText.draw(
             painter,
             {at.x() - 2 * lineHeight(), at.y() - lineHeight() / 2, 4 * lineHeight(), lineHeight()},
-            Qt::AlignCenter, QString::fromStdString(label.text));
+            Qt::AlignCenter, asQString(label.text));
     }
     for (const NavFunc113::Knots ring : m_picture.rings) {
         // Between two spokes, so that no line runs through the figure.

@@ -15,7 +15,7 @@ namespace korvel
 class WindPictureBox : public PictureBox
 {
 public:
-    explicit WindPictureBox(Program& program);
+    WindPictureBox();
 
     /// @param figures nothing: rings only
     void setWind(const std::optional<WindFigures>& figures, WindOrientation orientation);
@@ -43,9 +43,7 @@ private:
     QPen headingPen() const;
     QPen apparentPen() const;
     QPen truePen() const;
-    const ColourScheme& colours() const { return m_program.colours(); }
 
-    Program& m_program;
     WindPicture m_picture;
     mutable FigureText m_figureText; ///< glyphs that it has drawn before
     std::optional<WindFigures> m_figures;

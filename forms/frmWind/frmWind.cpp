@@ -6,6 +6,7 @@
 #include "forms/frmWind/WindPictureBox.h"
 #include "forms/frmWind/WindWorking.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -19,7 +20,7 @@ frmWind::frmWind(Program& program)
     : CalculatorWindow(program, "frmWind", "True wind"), m_txtWind(addFields(WindFields)),
       m_lblWind(addResults(WindResults))
 {
-    m_picWind = new WindPictureBox(program);
+    m_picWind = new WindPictureBox;
     addOptions();
 
     auto* columns = new QHBoxLayout(scrollBody());
@@ -111,7 +112,7 @@ void frmWind::nameSettings()
         },
         [this](const Record& values) {
             for (std::size_t i = 0; i < m_txtWind.size(); ++i)
-                m_txtWind[i]->setText(QString::fromStdString(textOf(values[i])));
+                m_txtWind[i]->setText(asQString(textOf(values[i])));
             m_optWind[numberOf(values[4]) == 1 ? 1 : 0]->setChecked(true);
         });
 }
@@ -128,8 +129,7 @@ void frmWind::runWind()
     m_wind = CalculateWind(m_txtWind.texts<0, 4>());
     m_lblWind.show(m_wind);
     m_picWind->setWind(m_wind.figures, orientation());
-    setNotice("input", QString::fromStdString(m_wind.notice),
-              levelBeside(m_wind.figures.has_value()));
+    setNotice("input", asQString(m_wind.notice), levelBeside(m_wind.figures.has_value()));
 }
 
 WorkingPaper frmWind::paper() const
@@ -165,10 +165,10 @@ void frmWind::picWind_MouseMove(QPointF place)
 {
     const WindPointer pointer = windAt({place.x(), place.y()}, orientation(),
                                        NavFunc113::Degrees(readNumber(m_txtWind[0]->value())));
-    m_picWind->setPointerText(place, QString::fromStdString(pointer.text));
+    m_picWind->setPointerText(place, asQString(pointer.text));
     const auto write = [](EntryBox* box, const std::string& text) {
         const QSignalBlocker quiet(box);
-        box->setText(QString::fromStdString(text));
+        box->setText(asQString(text));
     };
     write(m_txtWind[2], pointer.relative);
     write(m_txtWind[3], pointer.apparentSpeed);

@@ -93,9 +93,16 @@ QPointF PictureBox::toUser(QPointF pixel) const
         m_scale.top + (pixel.y() - area.top()) / area.height() * (m_scale.bottom - m_scale.top)};
 }
 
-void PictureBox::drawOn(QPainter& painter, const QSize& size)
+void PictureBox::setColours(const ColourScheme& colours)
+{
+    m_colours = colours;
+    update();
+}
+
+void PictureBox::drawOn(QPainter& painter, const QSize& size, const ColourScheme& colours)
 {
     m_drawnSize = size;
+    m_drawnIn = &colours;
     m_paperLetters = painter.font();
     const double onScreen = std::exchange(m_lineHeight, QFontMetricsF(m_paperLetters).height());
     const QMargins margins = m_margins;
@@ -103,6 +110,7 @@ void PictureBox::drawOn(QPainter& painter, const QSize& size)
     painter.setRenderHint(QPainter::Antialiasing);
     draw(painter);
     m_drawnSize = QSize();
+    m_drawnIn = nullptr;
     m_lineHeight = onScreen;
     setPlotMargins(margins);
     placeMargins();

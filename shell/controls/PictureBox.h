@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/reading/UserScale.h"
+#include "shell/screen/ColourScheme.h"
 
 #include <QPainter>
 #include <QWidget>
@@ -33,9 +34,12 @@ public:
     /// False while a paint leaves this part as it is; for parts that cost more to draw than to ask.
     bool isToBeDrawn(const QRectF& part) const;
 
+    /// The colours that it draws itself in on the screen.
+    virtual void setColours(const ColourScheme& colours);
+
     /// Draws the picture at another size, for printing: in the letters of the painter, whatever
-    /// the size of those on the screen is.
-    void drawOn(QPainter& painter, const QSize& size);
+    /// the size of those on the screen is, and in colours of its own.
+    void drawOn(QPainter& painter, const QSize& size, const ColourScheme& colours);
 
 signals:
     /// The pointer moved over the picture, with the buttons held; coordinates of the user scale.
@@ -49,6 +53,8 @@ protected:
     virtual void draw(QPainter& painter) = 0;
     /// Sets the plot margins where they depend on the size of the picture or of its letters.
     virtual void placeMargins() {}
+    /// The colours to draw in.
+    const ColourScheme& colours() const { return m_drawnIn ? *m_drawnIn : m_colours; }
     /// Height of a line of text, which the sizes in a picture follow.
     double lineHeight() const { return m_lineHeight; }
     /// The letters that are being drawn with: the widget's, or those of the paper.
@@ -75,6 +81,8 @@ private:
     double m_lineHeight;
     QRegion m_painted; ///< the part that is being painted
     QFont m_paperLetters;
+    ColourScheme m_colours = ColourScheme::day(); ///< on the screen
+    const ColourScheme* m_drawnIn = nullptr;      ///< set while it is drawn elsewhere
     QSize m_drawnSize; ///< set while the picture is drawn at another size than the widget's
 };
 

@@ -2,6 +2,7 @@
 #include "shell/main/AlarmBoxes.h"
 
 #include "app/machine/Questions.h"
+#include "shell/machine/AsQString.h"
 #include "shell/machine/WholeLines.h"
 
 #include <QApplication>
@@ -97,8 +98,8 @@ void AlarmBoxes::showNext()
 
 QMessageBox* AlarmBoxes::makeBox()
 {
-    auto* box = new QMessageBox(QMessageBox::Warning, programTitle,
-                                QString::fromStdString(m_shown.text), QMessageBox::Ok);
+    auto* box = new QMessageBox(QMessageBox::Warning, programTitle, asQString(m_shown.text),
+                                QMessageBox::Ok);
     box->setObjectName("alarmBox");
     box->setTextFormat(Qt::PlainText);
     box->setAttribute(Qt::WA_DeleteOnClose);

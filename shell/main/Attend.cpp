@@ -13,7 +13,7 @@ namespace korvel
 
 void attend(const Callers& callers, frmKORVEL2000& window, const std::function<void()>& atEnd)
 {
-    callers.guard.saveEverything = [&window] { emit window.program().recordsWanted(); };
+    callers.guard.saveEverything = [&window] { window.program().saveRecords(); };
     callers.lock.answerCalls([&window] { window.comeToFront(); });
     QObject::connect(&callers.termination, &TerminationWatch::requested, &window,
                      &frmKORVEL2000::endSession);

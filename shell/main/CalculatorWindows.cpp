@@ -34,7 +34,7 @@ CalculatorWindows::CalculatorWindows(Program& program, WindowCatalogue catalogue
 {
     for (const CatalogueEntry& entry : m_catalogue)
         m_program.links.push_back({entry.name, entry.caption});
-    m_program.openWindow = [this](const QString& name) { open(name); };
+    connect(&m_program, &Program::windowWanted, this, &CalculatorWindows::open);
     connect(&m_program, &Program::windowClosed, this, &CalculatorWindows::forget);
 }
 

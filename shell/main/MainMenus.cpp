@@ -3,6 +3,7 @@
 
 #include "app/watch/Alarms.h"
 #include "shell/controls/Boxes.h"
+#include "shell/machine/AsQString.h"
 #include "shell/program/Shortcuts.h"
 
 #include <QAction>
@@ -107,7 +108,7 @@ void MainMenus::show(const KV_Savedvalue& saved, const ScreenChoices& screen)
 {
     for (int n = 1; n <= KV_Savedvalue::alarms; ++n) {
         QAction* alarm = m_entries.at(memberName("mnuALARM", n));
-        alarm->setText(QString::fromStdString(alarmCaption(n, saved)));
+        alarm->setText(asQString(alarmCaption(n, saved)));
         alarm->setChecked(saved.alarmEnabled(n));
     }
     m_entries.at("mnuSIGNAL")->setChecked(saved.timeSignal());

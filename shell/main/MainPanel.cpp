@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/main/MainPanel.h"
 
+#include "shell/machine/AsQString.h"
 #include "shell/screen/ColourScheme.h"
 #include "shell/screen/WidgetColours.h"
 
@@ -13,7 +14,7 @@ namespace
 
 void write(ResultLabel& label, const std::string& text)
 {
-    const QString shown = QString::fromStdString(text);
+    const QString shown = asQString(text);
     if (label.text() != shown) label.setText(shown);
 }
 

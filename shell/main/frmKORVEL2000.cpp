@@ -3,6 +3,7 @@
 #include "app/records/QuoteSigns.h"
 
 #include "app/reading/Format.h"
+#include "shell/machine/AsQString.h"
 #include "shell/main/GoToBox.h"
 #include "shell/program/Shortcuts.h"
 #include "shell/screen/WindowPlaces.h"
@@ -41,7 +42,8 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
                      keepValues();
                  },
                  [this] { endProgram(); }, [this] { m_recovery.remove(); }}),
-      m_program(m_machine, m_saved, m_screen, m_actions, m_shipsTime), m_help(machine.files),
+      m_help(machine.files),
+      m_program(m_machine, m_saved, m_screen, m_actions, m_shipsTime, m_help),
       m_windows(m_program, std::move(catalogue)), m_alarmBoxes(machine.bell),
       m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this)),
       m_greeted(machine.files, m_questions, machine.clock, "KV_Help.ini", {FieldKind::Number}),
@@ -57,14 +59,14 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
     connect(&m_windows, &CalculatorWindows::closed, this,
             [this](const QString& name) { m_menus.tickWindow(name, false); });
 
-    m_program.addHelpMenu = [this](QMenuBar& bar) { m_help.addMenu(bar); };
     m_help.addMenu(*menuBar());
     addShortcuts(*m_menus.view(), m_program, *this, true);
     m_help.dress = [this](QWidget& manual) {
         addKeys(manual, m_program);
         holdInPlace(m_screen, manual);
     };
-    m_program.nextWindow = [this](const QWidget& from) { m_windows.openNext(from, *this); };
+    connect(&m_program, &Program::nextWanted, this,
+            [this](const QWidget* from) { m_windows.openNext(*from, *this); });
     connect(&m_program, &Program::goToWanted, this, [this](QWidget* from) { openGoTo(*from); });
     connect(&m_screen, &Screen::coloursChanged, this, &frmKORVEL2000::applyColours);
     connect(&m_screen, &Screen::zoomChanged, this, [this] {
@@ -83,7 +85,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
     m_menus.show(m_saved, m_screen.choices());
     m_screen.apply();
     applyColours();
-    setWindowTitle(QString::fromStdString(ShipsTime::caption(m_saved.TD())));
+    setWindowTitle(asQString(ShipsTime::caption(m_saved.TD())));
 
     m_tmrClock->setObjectName("tmrClock");
     m_tmrClock->setInterval(clockInterval);
@@ -93,10 +95,10 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
 ShipsTime::Hooks frmKORVEL2000::clockHooks()
 {
     return {[this](const std::string& text) { m_panel->showClock(text); },
-            [this](const std::string& text) { setWindowTitle(QString::fromStdString(text)); },
+            [this](const std::string& text) { setWindowTitle(asQString(text)); },
             [this](NavFunc113::DateTime smt) {
                 m_alarmBoxes.show(m_alarms.check(smt));
-                emit m_program.minuteChanged();
+                m_program.tellMinute();
             }};
 }
 
@@ -138,9 +140,8 @@ MainMenus::Actions frmKORVEL2000::menuActions()
     };
     actions.setUpTimeSignal = choice([this] { setUpTimeSignal(m_saved, m_questions); });
     actions.chooseDistanceUnit = choice([this] {
-        m_saved.setUnitOfLatitude(!m_saved.unitOfLatitude());
+        m_program.setUnitOfLatitude(!m_saved.unitOfLatitude());
         MemoHyoujiAtStart();
-        emit m_program.distanceUnitChanged();
     });
     actions.chooseColours = [this](bool night) {
         if (night != m_saved.nightColours()) m_screen.toggleNight();
@@ -271,7 +272,7 @@ void frmKORVEL2000::timeChanged()
     m_shipsTime.refresh();
     m_alarms.clockChanged(m_shipsTime.SMT());
     showClockRemarks();
-    emit m_program.TDChanged();
+    m_program.tellTD();
 }
 
 void frmKORVEL2000::showClockRemarks()

@@ -91,8 +91,8 @@ private:
     MainPanel* m_panel;
     ShipsTime m_shipsTime;
     KORVEL2000Actions m_actions;
-    Program m_program;
     HelpDesk m_help;
+    Program m_program;
     CalculatorWindows m_windows;
     Alarms m_alarms{m_saved};
     AlarmBoxes m_alarmBoxes;

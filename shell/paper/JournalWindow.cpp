@@ -91,7 +91,7 @@ void JournalWindow::addMenus(Program& program)
     add("&Find next", Qt::Key_F3, [this] { findNext(); });
     add("&Read again", Qt::Key_F5, [this] { refresh(); });
     m_menus.addView();
-    program.addHelpMenu(*menuBar());
+    program.help().addMenu(*menuBar());
 }
 
 QString JournalWindow::day() const

@@ -39,7 +39,7 @@ PaperWindow::PaperWindow(Program& program, const PaperDocument& paper, QWidget* 
     setCentralWidget(m_text);
     m_menu.addTo(*menuBar(), nullptr);
     m_menus.addView();
-    program.addHelpMenu(*menuBar());
+    program.help().addMenu(*menuBar());
     connect(&program.screen(), &Screen::zoomChanged, this, &PaperWindow::zoom);
     // Its palette stays, so nothing else shows the sheet anew.
     connect(&program, &Program::coloursChanged, m_text->viewport(), qOverload<>(&QWidget::update));

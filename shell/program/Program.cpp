@@ -7,17 +7,17 @@ namespace korvel
 {
 
 Program::Program(const Machine& machine, KV_Savedvalue& saved, Screen& screen,
-                 KORVEL2000Actions& actions, ShipsTime& shipsTime)
+                 KORVEL2000Actions& actions, ShipsTime& shipsTime, HelpDesk& help)
     : m_machine(machine), m_saved(saved), m_screen(screen), m_actions(actions),
-      m_shipsTime(shipsTime)
+      m_shipsTime(shipsTime), m_help(help)
 {
     connect(&screen, &Screen::coloursChanged, this, &Program::coloursChanged);
 }
 
-const ColourScheme& Program::colours() const
+void Program::setUnitOfLatitude(bool latitude)
 {
-    static const ColourScheme ofPaper = ColourScheme::day();
-    return m_onPaper ? ofPaper : m_screen.colours();
+    m_saved.setUnitOfLatitude(latitude);
+    emit distanceUnitChanged();
 }
 
 PaperHeading Program::paperHeading() const

@@ -6,15 +6,14 @@
 #include "app/watch/ShipsTime.h"
 #include "app/working/WorkingPaper.h"
 #include "shell/machine/Machine.h"
+#include "shell/manual/HelpDesk.h"
 #include "shell/screen/Screen.h"
 
 #include <QObject>
 #include <QString>
+#include <QWidget>
 
-#include <functional>
 #include <vector>
-
-class QMenuBar;
 
 namespace korvel
 {
@@ -34,13 +33,14 @@ class Program : public QObject
 public:
     /// All references must outlive this object.
     Program(const Machine& machine, KV_Savedvalue& saved, Screen& screen,
-            KORVEL2000Actions& actions, ShipsTime& shipsTime);
+            KORVEL2000Actions& actions, ShipsTime& shipsTime, HelpDesk& help);
 
     KV_Savedvalue& saved() { return m_saved; }
     const KV_Savedvalue& saved() const { return m_saved; }
     KORVEL2000Actions& actions() { return m_actions; }
     ShipsTime& shipsTime() { return m_shipsTime; }
     const ShipsTime& shipsTime() const { return m_shipsTime; }
+    HelpDesk& help() { return m_help; }
     Questions& questions() { return m_machine.questions; }
     FileStore& files() { return m_machine.files; }
     ComputerClock& clock() { return m_machine.clock; }
@@ -50,19 +50,7 @@ public:
 
     Screen& screen() { return m_screen; }
     /// The colours in force.
-    const ColourScheme& colours() const;
-    /// While one lives, the colours in force are those of paper.
-    class PaperColours
-    {
-    public:
-        explicit PaperColours(Program& program) : m_program(program) { m_program.m_onPaper = true; }
-        ~PaperColours() { m_program.m_onPaper = false; }
-        PaperColours(const PaperColours&) = delete;
-        PaperColours& operator=(const PaperColours&) = delete;
-
-    private:
-        Program& m_program;
-    };
+    const ColourScheme& colours() const { return m_screen.colours(); }
 
     /// Ship and voyage as the officer set them once; empty until then.
     struct Ship {
@@ -75,12 +63,26 @@ public:
 
     /// The other windows that can be opened, in menu order.
     std::vector<WindowLink> links;
+
+    // What a window wants of the others.
+
     /// Opens a window by its name, as its menu entry does.
-    std::function<void(const QString&)> openWindow = [](const QString&) {};
-    /// Adds the menu of the manual to a window.
-    std::function<void(QMenuBar&)> addHelpMenu = [](QMenuBar&) {};
+    void openWindow(const QString& name) { emit windowWanted(name); }
     /// Gives the keyboard to the open window after this one, the main window among them.
-    std::function<void(const QWidget&)> nextWindow = [](const QWidget&) {};
+    void nextWindow(const QWidget& from) { emit nextWanted(&from); }
+    /// Asks the officer where to go.
+    /// @param from the window in hand
+    void goTo(QWidget& from) { emit goToWanted(&from); }
+    /// A calculator window is closing.
+    void tellClosed(const QWidget& window) { emit windowClosed(window.objectName()); }
+
+    // What the main window tells them all.
+
+    void setUnitOfLatitude(bool latitude);
+    void tellTD() { emit TDChanged(); }
+    void tellMinute() { emit minuteChanged(); }
+    /// Has every window write its record now: the program may be about to end.
+    void saveRecords() { emit recordsWanted(); }
 
 signals:
     void distanceUnitChanged();
@@ -90,8 +92,8 @@ signals:
     void recordsWanted();
     /// The clocks show another minute.
     void minuteChanged();
-    /// The officer wants to go somewhere by its name.
-    /// @param from the window in hand
+    void windowWanted(const QString& name);
+    void nextWanted(const QWidget* from);
     void goToWanted(QWidget* from);
     /// A calculator window closed; its menu entry is unticked.
     void windowClosed(const QString& name);
@@ -102,7 +104,7 @@ private:
     Screen& m_screen;
     KORVEL2000Actions& m_actions;
     ShipsTime& m_shipsTime;
-    bool m_onPaper = false;
+    HelpDesk& m_help;
 };
 
 } // namespace korvel

@@ -29,7 +29,7 @@ const std::array tableOfKeys = {
     Shortcut{"mnuMeant", "Write what was &meant", "F4", true,
              [](Program&, QWidget& window) { writeMeantFigure(window); }},
     Shortcut{"mnuGoTo", "&Go to...", "Ctrl+K", false,
-             [](Program& program, QWidget& window) { emit program.goToWanted(&window); }},
+             [](Program& program, QWidget& window) { program.goTo(window); }},
     Shortcut{"mnuNextWindow", "Ne&xt window", "Ctrl+Tab", false,
              [](Program& program, QWidget& window) { program.nextWindow(window); }},
     Shortcut{"mnuClose", "&Close", "Ctrl+W; Esc", true,

@@ -2,6 +2,7 @@
 #include "shell/program/WindowMenus.h"
 
 #include "shell/controls/Boxes.h"
+#include "shell/machine/AsQString.h"
 #include "shell/program/Program.h"
 #include "shell/program/Shortcuts.h"
 
@@ -75,14 +76,14 @@ void WindowMenus::addRecallPosition(const QString& caption, PositionBoxes boxes)
 void WindowMenus::recallSingle(QLineEdit* box)
 {
     if (m_program.actions().ConfirmMemoRecall(KORVEL2000Actions::SinM) == Answer::Yes)
-        box->setText(QString::fromStdString(memoText(m_program.saved().singleMemo())));
+        box->setText(asQString(memoText(m_program.saved().singleMemo())));
 }
 
 void WindowMenus::recallPosition(QLineEdit* latitude, QLineEdit* longitude)
 {
     if (m_program.actions().ConfirmMemoRecall(KORVEL2000Actions::PsnM) != Answer::Yes) return;
-    latitude->setText(QString::fromStdString(memoText(m_program.saved().memoLatitude())));
-    longitude->setText(QString::fromStdString(memoText(m_program.saved().memoLongitude())));
+    latitude->setText(asQString(memoText(m_program.saved().memoLatitude())));
+    longitude->setText(asQString(memoText(m_program.saved().memoLongitude())));
 }
 
 void WindowMenus::addLinks(const QString& array)

@@ -70,7 +70,7 @@ void CalculatorWindow::loadSettings()
     letResultsBeStored();
     addPaperMenu();
     m_menus.addView();
-    m_program.addHelpMenu(*menuBar());
+    m_program.help().addMenu(*menuBar());
     setTabOrderByReading(*this);
     keepFocusAtChosenOptions(*this);
     for (const EntryBox* box : findChildren<EntryBox*>())
@@ -128,7 +128,6 @@ void CalculatorWindow::sayForAWhile(const QString& said)
 
 PaperDocument CalculatorWindow::paperDocument()
 {
-    const Program::PaperColours colours(m_program);
     return {m_program.paperHeading(), paper(), paperPictures()};
 }
 
@@ -160,7 +159,7 @@ PaperPicture CalculatorWindow::paperPicture(PictureBox& picture, const QString& 
                                             const QSize& size)
 {
     return makePaperPicture(caption, size, [&picture](QPainter& painter, const QSize& room) {
-        picture.drawOn(painter, room);
+        picture.drawOn(painter, room, ColourScheme::day());
     });
 }
 
@@ -184,15 +183,6 @@ ResultLabel* CalculatorWindow::addLabel(const QString& name)
     label->setObjectName(name);
     m_labels.push_back(label);
     return label;
-}
-
-void CalculatorWindow::addResultRow(QGridLayout* grid, int row, const QString& caption,
-                                    ResultLabel* label, const QString& unit)
-{
-    label->declare(caption, unit);
-    grid->addWidget(new QLabel(caption), row, 0);
-    grid->addWidget(label, row, 1);
-    grid->addWidget(new QLabel(unit), row, 2, 1, -1);
 }
 
 QWidget* CalculatorWindow::scrollBody()
@@ -267,6 +257,8 @@ void CalculatorWindow::applyColours()
     m_notices->setColours({colours.echo, colours.done, colours.notice, colours.fault});
     for (PositionBox* box : findChildren<PositionBox*>())
         setTextColour(box->echo(), colours.echo);
+    for (PictureBox* picture : findChildren<PictureBox*>())
+        picture->setColours(colours);
     for (QLabel* label : m_dimmed)
         setTextColour(label, colours.dimmed);
 }
@@ -275,7 +267,7 @@ void CalculatorWindow::closeEvent(QCloseEvent* event)
 {
     m_record->saveAtClose();
     keepPlace(m_program.screen(), *this, false);
-    emit m_program.windowClosed(objectName());
+    m_program.tellClosed(*this);
     event->accept();
 }
 

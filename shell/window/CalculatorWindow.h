@@ -19,8 +19,6 @@
 #include <set>
 #include <vector>
 
-class QGridLayout;
-
 namespace korvel
 {
 
@@ -111,10 +109,6 @@ protected:
         return labels;
     }
     ResultLabel* addLabel(const QString& name);
-
-    /// A row of a grid: caption, result, unit.
-    static void addResultRow(QGridLayout* grid, int row, const QString& caption, ResultLabel* label,
-                             const QString& unit);
 
     // Places.
 

@@ -2,6 +2,7 @@
 #include "shell/window/FollowingTD.h"
 
 #include "app/reading/Format.h"
+#include "shell/machine/AsQString.h"
 #include "shell/program/Program.h"
 
 namespace korvel
@@ -35,7 +36,7 @@ void FollowingTD::settle()
 void FollowingTD::follow()
 {
     m_filling = true;
-    m_box->setText(QString::fromStdString(Format(double(m_program.saved().TD()), "0.0")));
+    m_box->setText(asQString(Format(double(m_program.saved().TD()), "0.0")));
     m_filling = false;
     m_follows = true;
 }

@@ -2,6 +2,7 @@
 #include "shell/window/WindowRecord.h"
 
 #include "app/reading/Remarks.h"
+#include "shell/machine/AsQString.h"
 #include "shell/program/Program.h"
 
 #include <QAbstractButton>
@@ -56,7 +57,7 @@ void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxe
     std::vector<FieldKind> kinds = recordKinds(boxes);
     const Load load = [boxes](const Record& record) {
         for (std::size_t i = 0; i < boxes.size(); ++i)
-            boxes[i]->setText(QString::fromStdString(textOf(record[i])));
+            boxes[i]->setText(asQString(textOf(record[i])));
     };
     const Save save = [boxes = std::move(boxes), settle = std::move(settle)] {
         Record record;
@@ -113,7 +114,7 @@ void WindowRecord::saveNow()
     if (record == m_onDisk) return; // typed and taken back, or only looked at
     const std::string fault = m_file->saveQuietly(record);
     if (fault.empty() && !m_file->isProtected()) m_onDisk = std::move(record);
-    m_notices.say("save", QString::fromStdString(fault), NoticeLevel::Fault);
+    m_notices.say("save", asQString(fault), NoticeLevel::Fault);
 }
 
 void WindowRecord::saveSoon()

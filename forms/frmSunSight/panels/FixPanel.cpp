@@ -83,11 +83,6 @@ void FixPanel::showView(const PlotView& view)
     if (onView) onView(plot.notice);
 }
 
-void FixPanel::setColours(const ColourScheme& colours)
-{
-    m_picSunSight->setColours(colours);
-}
-
 std::vector<PaperPicture> FixPanel::paperPictures()
 {
     constexpr int side = 540; // pixels of a screen: the plot stays square
@@ -95,7 +90,7 @@ std::vector<PaperPicture> FixPanel::paperPictures()
     return {makePaperPicture("Lines of position, 40 miles each way around the DR position",
                              QSize(side * 10 / 9, side),
                              [this](QPainter& painter, const QSize& size) {
-                                 m_picSunSight->drawOnPaper(painter, size);
+                                 m_picSunSight->drawOn(painter, size, ColourScheme::day());
                              })};
 }
 

@@ -13,7 +13,6 @@ class QGroupBox;
 namespace korvel
 {
 
-struct ColourScheme;
 class SightPicture;
 
 /// The fix from the recorded sights: its plot, its position and how good it is.
@@ -24,7 +23,6 @@ public:
 
     /// @return what lies outside the plot
     std::string showFix(const SightFixResult& fix);
-    void setColours(const ColourScheme& colours);
     /// The plot for a working paper; nothing before there is a DR position.
     std::vector<PaperPicture> paperPictures();
 

@@ -128,12 +128,6 @@ void SightPicture::focusOutEvent(QFocusEvent* event)
     update();
 }
 
-void SightPicture::setColours(const ColourScheme& colours)
-{
-    m_colours = colours;
-    update();
-}
-
 double SightPicture::unit() const
 {
     return letterMetrics().height() / 4.0;
@@ -155,13 +149,6 @@ QMargins SightPicture::marginsFor(const QSize& size) const
     const int aside = (wide - left - right - side) / 2;
     const int above = (high - top - bottom - side) / 2;
     return {left + aside, top + above, wide - left - aside - side, high - top - above - side};
-}
-
-void SightPicture::drawOnPaper(QPainter& painter, const QSize& size)
-{
-    const ColourScheme onScreen = std::exchange(m_colours, ColourScheme::day());
-    drawOn(painter, size);
-    m_colours = onScreen;
 }
 
 QPen SightPicture::pen(const QColor& colour, double widths, Qt::PenStyle style) const
@@ -188,21 +175,21 @@ void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words
     at.setY(std::clamp(at.y(), area.top() + painter.fontMetrics().ascent(), area.bottom()));
     if (isOnPaper()) { // letters, to be found in the file
         const QRectF room = painter.fontMetrics().tightBoundingRect(words);
-        painter.fillRect(room.translated(at).adjusted(-1, -1, 1, 1), m_colours.paper);
-        painter.setPen(m_colours.ink);
+        painter.fillRect(room.translated(at).adjusted(-1, -1, 1, 1), colours().paper);
+        painter.setPen(colours().ink);
         painter.drawText(at, words);
         return;
     }
     QPainterPath path;
     path.addText(at, painter.font(), words);
-    painter.strokePath(path, pen(m_colours.paper, 3));
-    painter.fillPath(path, m_colours.ink);
+    painter.strokePath(path, pen(colours().paper, 3));
+    painter.fillPath(path, colours().ink);
 }
 
 void SightPicture::draw(QPainter& painter)
 {
     if (!isOnPaper()) {
-        painter.fillRect(painter.viewport(), m_colours.paper);
+        painter.fillRect(painter.viewport(), colours().paper);
         painter.setFont(font());
     }
     paintGrid(painter);
@@ -225,10 +212,10 @@ void SightPicture::paintGrid(QPainter& painter) const
     const QFontMetrics metrics = painter.fontMetrics();
     double free = 0; // where the next longitude has room
     for (const PlotGridLine& line : m_plot.grid) {
-        painter.setPen(pen(m_colours.grid, 0.6, Qt::DotLine));
+        painter.setPen(pen(colours().grid, 0.6, Qt::DotLine));
         const QPointF from = pixel(line.from), to = pixel(line.to);
         painter.drawLine(from, to);
-        painter.setPen(m_colours.ink);
+        painter.setPen(colours().ink);
         const QString label = asQString(line.label);
         const double width = metrics.horizontalAdvance(label);
         if (line.from.x != line.to.x) {
@@ -241,14 +228,14 @@ void SightPicture::paintGrid(QPainter& painter) const
         }
     }
     painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
-                                              : pen(m_colours.ink, 1));
+                                              : pen(colours().ink, 1));
     painter.drawRect(area);
 }
 
 /// North arrow, on the margin, and a round number of miles.
 void SightPicture::paintScale(QPainter& painter) const
 {
-    painter.setPen(pen(m_colours.ink, 1));
+    painter.setPen(pen(colours().ink, 1));
     const QPointF north = plotArea().topRight() + QPointF(3 * unit(), 0);
     const QPointF foot = north + QPointF(0, 7 * unit());
     painter.drawLine(foot, north);
@@ -259,7 +246,7 @@ void SightPicture::paintScale(QPainter& painter) const
     const int miles = milesOfScale(m_plot.view);
     const QPointF end = plotArea().bottomRight() + QPointF(-2 * unit(), -2 * unit());
     const QPointF start = end - QPointF(pixel({double(miles), 0}).x() - pixel({0, 0}).x(), 0);
-    painter.setPen(pen(m_colours.ink, 1.5));
+    painter.setPen(pen(colours().ink, 1.5));
     painter.drawLine(start, end);
     for (const QPointF& tick : {start, end})
         painter.drawLine(tick, tick - QPointF(0, unit()));
@@ -268,9 +255,9 @@ void SightPicture::paintScale(QPainter& painter) const
 
 void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
 {
-    painter.setPen(pen(m_colours.secondary, 1, Qt::DashLine));
+    painter.setPen(pen(colours().secondary, 1, Qt::DashLine));
     painter.drawLine(pixel({}), pixel(line.foot));
-    painter.setPen(pen(m_colours.secondary, 1.5));
+    painter.setPen(pen(colours().secondary, 1.5));
     const QPointF foot = pixel(line.foot), tip = pixel(line.arrowTo);
     painter.drawLine(foot, tip);
     const double direction = std::atan2(tip.y() - foot.y(), tip.x() - foot.x());
@@ -279,7 +266,7 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
                          tip - 2 * unit() *
                                    QPointF(std::cos(direction + side), std::sin(direction + side)));
     if (!line.visible) return;
-    painter.setPen(pen(m_colours.route, 2.5));
+    painter.setPen(pen(colours().route, 2.5));
     for (const std::vector<PlotPoint>& run : line.runs)
         painter.drawPolyline(polygon(run));
     paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), asQString(line.label));
@@ -287,7 +274,7 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
 
 void SightPicture::paintDR(QPainter& painter) const
 {
-    painter.setPen(pen(m_colours.ink, 2));
+    painter.setPen(pen(colours().ink, 2));
     const QPointF middle = pixel({});
     const double arm = 2 * unit();
     painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
@@ -297,9 +284,9 @@ void SightPicture::paintDR(QPainter& painter) const
 
 void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
 {
-    painter.setPen(pen(m_colours.tertiary, 1.5, isWithout ? Qt::DashLine : Qt::SolidLine));
+    painter.setPen(pen(colours().tertiary, 1.5, isWithout ? Qt::DashLine : Qt::SolidLine));
     painter.drawPolygon(polygon(fix.ellipse));
-    painter.setPen(pen(m_colours.marker, 2.5));
+    painter.setPen(pen(colours().marker, 2.5));
     const QPointF at = pixel(fix.at);
     const double arm = 1.3 * unit();
     if (isWithout)

@@ -20,9 +20,6 @@ public:
     void showPlot(const SightPlot& plot);
     const SightPlot& plot() const { return m_plot; }
     QSize sizeHint() const override;
-    void setColours(const ColourScheme& colours);
-    /// Draws the plot at another size in the colours of the day.
-    void drawOnPaper(QPainter& painter, const QSize& size);
 
 signals:
     /// The officer wants another part of the chart: by wheel, drag or key.
@@ -56,7 +53,6 @@ private:
 
     SightPlot m_plot;
     std::optional<QPointF> m_dragged; ///< what the pointer holds, in the picture's units
-    ColourScheme m_colours = ColourScheme::day();
 };
 
 } // namespace korvel

@@ -3,6 +3,7 @@
 
 #include "forms/frmTIDE/sheet/CurvePainter.h"
 #include "shell/controls/Boxes.h"
+#include "shell/machine/AsQString.h"
 
 #include <QFontInfo>
 #include <QKeyEvent>
@@ -63,9 +64,9 @@ void frmTIDEPicture::showPrediction(const TidePrediction& prediction,
     const CurveScale& scale = m_picture.scale;
     setUserScale({scale.left, scale.top, scale.right, scale.bottom});
     for (std::size_t i = 0; i < m_lblHeight.size(); ++i)
-        m_lblHeight[i]->setText(QString::fromStdString(m_picture.lblHeight[i].caption));
+        m_lblHeight[i]->setText(asQString(m_picture.lblHeight[i].caption));
     for (std::size_t i = 0; i < m_lblTime.size(); ++i)
-        m_lblTime[i]->setText(QString::fromStdString(m_picture.lblTime[i].caption));
+        m_lblTime[i]->setText(asQString(m_picture.lblTime[i].caption));
     placeLabels();
     readAt(m_hour);
 }
@@ -117,7 +118,7 @@ void frmTIDEPicture::placeReading()
         m_lblReading->clear();
         return;
     }
-    m_lblReading->setText(QString::fromStdString(m_reading->text));
+    m_lblReading->setText(asQString(m_reading->text));
     m_lblReading->adjustSize();
     // At the top, where the scale leaves room above the curve, and beside the line of the hour.
     const int gap = fontMetrics().height() / 2;
@@ -126,9 +127,9 @@ void frmTIDEPicture::placeReading()
     m_lblReading->move(fits ? x + gap : x - gap - m_lblReading->width(), gap);
 }
 
-void frmTIDEPicture::applyColours()
+void frmTIDEPicture::setColours(const ColourScheme& colours)
 {
-    const ColourScheme& colours = m_program.colours();
+    PictureBox::setColours(colours);
     QPalette palette = m_lblReading->palette();
     palette.setColor(QPalette::WindowText, colours.ink);
     palette.setColor(QPalette::Window, colours.paper);
@@ -203,7 +204,7 @@ void frmTIDEPicture::focusOutEvent(QFocusEvent* event)
 
 void frmTIDEPicture::drawForPaper(QPainter& painter, const QSize& size)
 {
-    drawOn(painter, size);
+    drawOn(painter, size, ColourScheme::day());
 }
 
 void frmTIDEPicture::draw(QPainter& painter)
@@ -212,9 +213,8 @@ void frmTIDEPicture::draw(QPainter& painter)
         drawScreen(painter);
         return;
     }
-    const ColourScheme colours = ColourScheme::day();
     const CurvePlace there = place();
-    const CurvePainter curve(painter, m_picture, colours, there);
+    const CurvePainter curve(painter, m_picture, colours(), there);
     curve.drawGrid();
     curve.drawFurtherLevels();
     curve.drawAxisTexts();
@@ -225,15 +225,14 @@ void frmTIDEPicture::draw(QPainter& painter)
 
 void frmTIDEPicture::drawScreen(QPainter& painter)
 {
-    const ColourScheme& colours = m_program.colours();
-    painter.fillRect(rect(), colours.paper);
+    painter.fillRect(rect(), colours().paper);
     if (!m_prediction) {
-        painter.setPen(colours.echo);
+        painter.setPen(colours().echo);
         painter.drawText(rect(), Qt::AlignCenter,
                          QString::fromUtf8(emptyHint.data(), qsizetype(emptyHint.size())));
     } else {
         const CurvePlace here = place();
-        const CurvePainter curve(painter, m_picture, colours, here);
+        const CurvePainter curve(painter, m_picture, colours(), here);
         painter.setClipRegion(QRegion(rect()) - labelsOnGrid());
         curve.drawGrid();
         painter.setClipping(false);
@@ -244,15 +243,15 @@ void frmTIDEPicture::drawScreen(QPainter& painter)
     }
     if (m_reading) {
         const QPointF at = toPixel(m_reading->point.x, m_reading->point.y);
-        painter.setPen(QPen(colours.marker, 1));
+        painter.setPen(QPen(colours().marker, 1));
         painter.drawLine(QPointF(at.x(), 0), QPointF(at.x(), plotArea().bottom()));
-        painter.setBrush(colours.marker);
+        painter.setBrush(colours().marker);
         const double radius = fontMetrics().height() / 4.0;
         painter.drawEllipse(at, radius, radius);
     }
     if (hasFocus()) {
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(m_program.colours().palette.color(QPalette::Highlight), 2));
+        painter.setPen(QPen(colours().palette.color(QPalette::Highlight), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }

@@ -34,7 +34,7 @@ public:
     /// Draws the curve for paper: in the colours of the day, without a reading.
     void drawForPaper(QPainter& painter, const QSize& size);
 
-    void applyColours();
+    void setColours(const ColourScheme& colours) override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

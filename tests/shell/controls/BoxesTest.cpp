@@ -218,7 +218,7 @@ TEST(PictureBox, countsInItsUserScale)
     EXPECT_EQ(left.count(), 1);
     QImage paper(400, 300, QImage::Format_RGB32);
     QPainter painter(&paper);
-    picture.drawOn(painter, paper.size());
+    picture.drawOn(painter, paper.size(), ColourScheme::day());
     EXPECT_EQ(picture.onPaper, QRectF(10, 20, 380, 270));
     EXPECT_EQ(picture.plotArea(), QRectF(10, 20, 200, 100)) << "on the screen as before";
 }
