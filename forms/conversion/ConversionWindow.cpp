@@ -51,7 +51,7 @@ void ConversionWindow::addBoxes(const char* name)
         auto* box = new KeyUpBox(body());
         box->setObjectName(memberName(name, static_cast<int>(index)));
         box->declare(asQString(unit.caption), asQString(unit.symbol));
-        box->setToolTip(QString::fromStdString(unitToolTip(m_quantity, index)));
+        box->setToolTip(asQString(unitToolTip(m_quantity, index)));
         box->setReading({.name = {}});
         box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));
         m_boxes.push_back(box);
@@ -120,7 +120,7 @@ void ConversionWindow::useConversionSettings(const char* file)
     };
     const auto load = [this](const Record& values) {
         for (std::size_t i = 0; i < m_boxes.size(); ++i)
-            m_boxes[i]->fill(QString::fromStdString(textOf(values[i])));
+            m_boxes[i]->fill(asQString(textOf(values[i])));
         const double lead = numberOf(values.back());
         if (lead >= 0 && lead < static_cast<double>(m_boxes.size()))
             m_lead = static_cast<std::size_t>(lead);
@@ -131,14 +131,13 @@ void ConversionWindow::useConversionSettings(const char* file)
 void ConversionWindow::convert()
 {
     const auto show = [this](std::size_t index, const std::string& figure) {
-        m_boxes[index]->fill(QString::fromStdString(figure));
+        m_boxes[index]->fill(asQString(figure));
     };
     try {
         const auto figures = CalculateConversion(m_quantity, m_lead, m_boxes[m_lead]->value());
         for (std::size_t i = 0; i < figures.size(); ++i)
             if (figures[i]) show(i, *figures[i]);
-        setNotice("typed", QString::fromStdString(remarkOn(m_boxes[m_lead]->value())),
-                  NoticeLevel::Fault);
+        setNotice("typed", asQString(remarkOn(m_boxes[m_lead]->value())), NoticeLevel::Fault);
     } catch (const NavFunc113::ArithmeticError&) {
         // No box may keep a figure that does not belong to the one typed in.
         for (std::size_t i = 0; i < m_boxes.size(); ++i)

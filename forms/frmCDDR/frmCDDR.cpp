@@ -6,6 +6,7 @@
 #include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -59,7 +60,7 @@ void frmCDDR::setCopies()
         const auto axisText = m_dr.longitudeReached
                                   ? positionForCopy(*m_dr.latitudeReached, *m_dr.longitudeReached)
                                   : positionForCopy(*m_dr.latitudeReached, Axis::Latitude);
-        return QString::fromStdString(axisText);
+        return asQString(axisText);
     };
     for (ResultLabel* label : m_lblDR.all())
         label->copyText = copyReached;
@@ -234,7 +235,7 @@ void frmCDDR::optNSEW_Click(std::size_t index)
     const bool positive = index % 2 == 0;
     sayTurned(field, false);
     if (const auto written = withHemisphere(m_txtCDDR[field]->value(), positive))
-        m_txtCDDR[field]->setText(QString::fromStdString(*written));
+        m_txtCDDR[field]->setText(asQString(*written));
     m_chosenNegative[field] = !positive;
     m_choiceIsOver[field] = false;
 }
@@ -273,8 +274,8 @@ void frmCDDR::putDRResult(std::size_t toField)
     const auto latitude = m_dr.latitudeReached;
     const auto longitude = m_dr.longitudeReached;
     if (!latitude || !longitude) return;
-    m_txtCDDR[toField]->setText(QString::fromStdString(Format(*latitude, "0.000")));
-    m_txtCDDR[toField + 1]->setText(QString::fromStdString(Format(*longitude, "0.000")));
+    m_txtCDDR[toField]->setText(asQString(Format(*latitude, "0.000")));
+    m_txtCDDR[toField + 1]->setText(asQString(Format(*longitude, "0.000")));
 }
 
 void frmCDDR::exchangeCD()

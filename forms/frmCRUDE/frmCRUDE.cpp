@@ -4,6 +4,7 @@
 #include "forms/frmCRUDE/CrudeFields.h"
 #include "forms/frmCRUDE/CrudeWorking.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 
 #include <QAction>
@@ -168,7 +169,7 @@ void frmCRUDE::addMemoMenus()
         QAction* entry =
             menus().addStoreSingle(caption, [this, of = figure] { return of(m_shown); });
         m_stores.push_back([this, entry, caption = QString(caption), of = figure] {
-            const QString shown = QString::fromStdString(of(m_shown));
+            const QString shown = asQString(of(m_shown));
             entry->setText(shown.isEmpty() ? caption : caption + ":  " + shown);
         });
     }
@@ -199,7 +200,7 @@ void frmCRUDE::useCrudeSettings()
     const auto load = [this](const Record& values) {
         auto value = values.begin();
         for (EntryBox* box : m_boxes.all())
-            box->setText(QString::fromStdString(textOf(*value++)));
+            box->setText(asQString(textOf(*value++)));
         for (QComboBox* choice : m_choices) {
             const double index = numberOf(*value++);
             if (index >= 0 && index < choice->count())
@@ -229,10 +230,10 @@ CrudeInput frmCRUDE::input() const
 void frmCRUDE::run()
 {
     m_shown = {}; // a fault leaves nothing behind that could be stored
-    m_boxes[KLperBbl]->setPlaceholderText(QString::fromStdString(KLPerBarrelFromDensity(input())));
+    m_boxes[KLperBbl]->setPlaceholderText(asQString(KLPerBarrelFromDensity(input())));
     m_shown = CalculateCrude(input());
     m_results->show(m_shown);
-    setNotice("input", QString::fromStdString(m_shown.notice), m_shown.level);
+    setNotice("input", asQString(m_shown.notice), m_shown.level);
 }
 
 /// What the figures were made of: a box or choice that enters nothing is left out, an empty one

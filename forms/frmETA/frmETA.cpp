@@ -7,6 +7,7 @@
 #include "forms/frmETA/PassageTimes.h"
 #include "forms/frmETA/Steps.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QAction>
 #include <QGridLayout>
@@ -128,7 +129,7 @@ void frmETA::addSpeedBar()
     connect(m_scrSpeed, &QScrollBar::valueChanged, this, &frmETA::scrSpeed_Change);
     m_txtSpeed->onLeave = [this] {
         if (const auto rounded = speedOnLeaving(m_txtSpeed->value()))
-            m_txtSpeed->setText(QString::fromStdString(*rounded));
+            m_txtSpeed->setText(asQString(*rounded));
     };
 }
 
@@ -248,11 +249,10 @@ void frmETA::runETA()
     setDimmed({m_lblArrivals.all().begin(), m_lblArrivals.all().end()}, !arrivals.labels);
     m_lblRequired.show(required);
     setDimmed({m_lblRequired[0]}, !required.speed);
-    setNotice("arrivals", QString::fromStdString(arrivals.notice),
-              levelBeside(arrivals.labels.has_value()));
+    setNotice("arrivals", asQString(arrivals.notice), levelBeside(arrivals.labels.has_value()));
     // What disturbs both is said once.
     setNotice("required speed",
-              required.notice == arrivals.notice ? "" : QString::fromStdString(required.notice),
+              required.notice == arrivals.notice ? "" : asQString(required.notice),
               levelBeside(required.speed.has_value()));
 }
 
@@ -269,15 +269,15 @@ WorkingPaper frmETA::paper() const
 
 void frmETA::showTD(std::size_t end)
 {
-    m_lblZD[end]->setText(QString::fromStdString(TDAndZDText(m_txtTD[end]->value())));
+    m_lblZD[end]->setText(asQString(TDAndZDText(m_txtTD[end]->value())));
 }
 
 void frmETA::EnterPresent()
 {
     const TimeTexts present = korvel::EnterPresent(program().shipsTime().UTC(), m_txtTD[0]->value(),
                                                    double(program().saved().TD()));
-    m_departure.date->setText(QString::fromStdString(present.date));
-    m_departure.time->setText(QString::fromStdString(present.time));
+    m_departure.date->setText(asQString(present.date));
+    m_departure.time->setText(asQString(present.time));
 }
 
 void frmETA::scrTime_Change(TimeEntry& entry)
@@ -294,8 +294,8 @@ void frmETA::scrTime_Change(TimeEntry& entry)
         texts = *moved;
     }
     entry.moving = true;
-    entry.date->setText(QString::fromStdString(texts.date));
-    entry.time->setText(QString::fromStdString(texts.time));
+    entry.date->setText(asQString(texts.date));
+    entry.time->setText(asQString(texts.time));
     entry.moving = false;
     for (EntryBox* box : {entry.date, entry.time})
         if (box->hasFocus()) box->selectAll(); // the next digit replaces it, as after every step in
@@ -303,7 +303,7 @@ void frmETA::scrTime_Change(TimeEntry& entry)
 
 void frmETA::scrSpeed_Change()
 {
-    m_txtSpeed->setText(QString::fromStdString(speedOfStep(m_scrSpeed->value())));
+    m_txtSpeed->setText(asQString(speedOfStep(m_scrSpeed->value())));
     if (m_txtSpeed->hasFocus()) m_txtSpeed->selectAll();
 }
 

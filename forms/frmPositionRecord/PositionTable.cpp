@@ -2,6 +2,7 @@
 #include "forms/frmPositionRecord/PositionTable.h"
 
 #include "forms/frmPositionRecord/RowReading.h"
+#include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 
 namespace korvel
@@ -69,7 +70,7 @@ PositionRows PositionTable::texts() const
 void PositionTable::fill(const PositionRows& rows)
 {
     const auto put = [](EntryBox* box, const std::string& text) {
-        const QString shown = QString::fromStdString(text);
+        const QString shown = asQString(text);
         if (box->text() != shown) box->setText(shown);
     };
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -87,11 +88,11 @@ void PositionTable::show(const PositionRecordResult& record)
         if (m_shown[i] == record.rows[i]) continue;
         const PositionRowResult& shown = m_shown[i] = record.rows[i];
         showRow(i, rowTable, shown);
-        const QString assumed = QString::fromStdString(shown.assumedTD);
+        const QString assumed = asQString(shown.assumedTD);
         if (row(i).satelliteTD->placeholderText() != assumed)
             row(i).satelliteTD->setPlaceholderText(assumed);
         const bool warned = !shown.remark.empty();
-        number(i)->setToolTip(QString::fromStdString(shown.remark));
+        number(i)->setToolTip(asQString(shown.remark));
         number(i)->setAccessibleDescription(number(i)->toolTip());
         if (warned == m_warned[i]) continue;
         m_warned[i] = warned;

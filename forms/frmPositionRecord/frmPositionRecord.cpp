@@ -10,6 +10,7 @@
 #include "forms/frmPositionRecord/RowReading.h"
 #include "shell/controls/CellLayout.h"
 #include "shell/controls/FollowingScrollArea.h"
+#include "shell/machine/AsQString.h"
 
 #include <QAction>
 #include <QApplication>
@@ -207,7 +208,7 @@ void frmPositionRecord::run()
     const bool isWhole = std::ranges::all_of(m_shown.rows, [](const PositionRowResult& row) {
         return row.remark.empty() || (row.read.latitude && row.read.longitude && row.read.utc);
     });
-    setNotice("rows", QString::fromStdString(m_shown.notice), levelBeside(isWhole));
+    setNotice("rows", asQString(m_shown.notice), levelBeside(isWhole));
     if (m_isStillRefused && !m_isStillRefused()) refuse({}, {});
 }
 
@@ -215,7 +216,7 @@ void frmPositionRecord::normaliseTime(std::size_t row)
 {
     EntryBox* box = m_table->row(row).satelliteSMT;
     const auto time = NormaliseSMT(box->value(), program().shipsTime().SMT());
-    const QString text = QString::fromStdString(time.text);
+    const QString text = asQString(time.text);
     if (box->text() != text)
         box->setText(text);
     else
@@ -272,7 +273,7 @@ void frmPositionRecord::undo()
     normaliseTime(m_row);
     PositionRows rows = m_table->texts();
     const std::string refusal = takeBack(rows, *m_lastChange);
-    refuse(QString::fromStdString(refusal), [this] {
+    refuse(asQString(refusal), [this] {
         PositionRows now = m_table->texts();
         return m_lastChange && !takeBack(now, *m_lastChange).empty();
     });
@@ -292,8 +293,7 @@ void frmPositionRecord::putTimeNow()
 
 void frmPositionRecord::copyAsText() const
 {
-    QApplication::clipboard()->setText(
-        QString::fromStdString(positionRecordText(input(), m_shown)));
+    QApplication::clipboard()->setText(asQString(positionRecordText(input(), m_shown)));
 }
 
 void frmPositionRecord::print()
@@ -302,10 +302,10 @@ void frmPositionRecord::print()
     const std::string printed = Format(program().shipsTime().SMT(), "yyyy/mm/dd hh:mm") +
                                 " SMT, TD " + Format(TD, "+0.0;-0.0") + " (ZD " +
                                 Format(-TD, "+0.0;-0.0") + ")";
-    const QString record = QString::fromStdString(positionRecordText(input(), m_shown));
+    const QString record = asQString(positionRecordText(input(), m_shown));
     printer().print("Position record", QPageLayout::Landscape,
                     [&](QPainter& painter, const QRect& room) {
-                        printRecord(painter, room, record, QString::fromStdString(printed));
+                        printRecord(painter, room, record, asQString(printed));
                     });
 }
 

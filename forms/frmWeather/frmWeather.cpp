@@ -7,6 +7,7 @@
 #include "navlib/weather_terms.h"
 #include "shell/controls/CellLayout.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -104,7 +105,7 @@ void frmWeather::addCalculations()
 {
     const auto text = [this](std::size_t field) {
         setNotice(WeatherFields[field].name,
-                  QString::fromStdString(remarkOn(m_boxes[field]->value(), WeatherFields[field])),
+                  asQString(remarkOn(m_boxes[field]->value(), WeatherFields[field])),
                   NoticeLevel::Fault);
         return m_boxes[field]->value();
     };

@@ -2,6 +2,7 @@
 #include "shell/controls/MeantFigure.h"
 
 #include "shell/controls/Boxes.h"
+#include "shell/machine/AsQString.h"
 
 #include <QMenu>
 
@@ -24,7 +25,7 @@ void askWhich(EntryBox& box, const std::vector<std::string>& meant)
     auto* menu = new QMenu(&box);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const std::string& figure : meant) {
-        const QString text = QString::fromStdString(figure);
+        const QString text = asQString(figure);
         menu->addAction(text, &box, [&box, text] { box.setText(text); });
     }
     menu->popup(box.mapToGlobal(QPoint(0, box.height())));
@@ -39,7 +40,7 @@ void writeMeantFigure(const QWidget& window)
     const std::vector<std::string> meant = box->halfRead()->meant;
     box->setFocus(Qt::TabFocusReason);
     if (meant.size() == 1)
-        box->setText(QString::fromStdString(meant.front()));
+        box->setText(asQString(meant.front()));
     else if (!meant.empty())
         askWhich(*box, meant);
     box->selectAll();

@@ -4,6 +4,7 @@
 #include "shell/controls/Boxes.h"
 #include "shell/controls/NoticeSign.h"
 #include "shell/controls/WrappedText.h"
+#include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 
 #include <QPaintEngine>
@@ -66,7 +67,7 @@ void NoticeLine::sayHalfRead(const EntryBox& box, const std::optional<NumberRead
     const QString key = "half read " + box.objectName();
     if (!reading) return put(key, {});
     m_halfReadBoxes.insert(&box);
-    const QString remark = QString::fromStdString(reading->remark);
+    const QString remark = asQString(reading->remark);
     put(key, {box.words() + ": " + remark, NoticeLevel::Fault, remark, !reading->meant.empty()});
 }
 

@@ -2,6 +2,7 @@
 #include "shell/controls/PositionBox.h"
 
 #include "app/reading/Reading.h"
+#include "shell/machine/AsQString.h"
 
 #include <QAction>
 #include <QApplication>
@@ -56,12 +57,12 @@ void PositionBox::setBriefEcho()
 void PositionBox::showEcho()
 {
     const Echo echo = positionEcho(value(), m_axis);
-    QString hint = QString::fromStdString(echo.hint);
+    QString hint = asQString(echo.hint);
     if (!m_remark.isEmpty() && m_remarkedAt == text()) {
         if (!hint.isEmpty()) hint += "; ";
         hint += m_remark;
     }
-    const QString full = QString::fromStdString(echo.text);
+    const QString full = asQString(echo.text);
     const QString remark = m_briefEcho ? " !" : " (" + hint + ")";
     m_echo->setText(hint.isEmpty() ? full : full + remark);
     m_echo->setToolTip(hint);
@@ -74,11 +75,9 @@ QString PositionBox::positionToCopy() const
     const PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
     if (!latitude || !longitude || !readLeadingNumber(latitude->value()) ||
         !readLeadingNumber(longitude->value()))
-        return QString::fromStdString(
-            positionForCopy(NavFunc113::DegMin(readNumber(value())), m_axis));
-    return QString::fromStdString(
-        positionForCopy(NavFunc113::DegMin(readNumber(latitude->value())),
-                        NavFunc113::DegMin(readNumber(longitude->value()))));
+        return asQString(positionForCopy(NavFunc113::DegMin(readNumber(value())), m_axis));
+    return asQString(positionForCopy(NavFunc113::DegMin(readNumber(latitude->value())),
+                                     NavFunc113::DegMin(readNumber(longitude->value()))));
 }
 
 void PositionBox::pasteText(const QString& text)
@@ -96,8 +95,8 @@ void PositionBox::pasteText(const QString& text)
     PositionBox* longitude = m_axis == Axis::Latitude ? m_partner : this;
     const auto fill = [&](PositionBox* box, const std::optional<std::string>& packed) {
         if (!box || !packed) return;
-        box->m_remark = QString::fromStdString(position->remark);
-        box->m_remarkedAt = QString::fromStdString(*packed);
+        box->m_remark = asQString(position->remark);
+        box->m_remarkedAt = asQString(*packed);
         if (box->text() == box->m_remarkedAt)
             box->showEcho();
         else

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/MessageQuestions.h"
 
+#include "shell/machine/AsQString.h"
 #include "shell/machine/DocumentsFolder.h"
 #include "shell/machine/ExecOwned.h"
 #include "shell/machine/WholeLines.h"
@@ -22,7 +23,7 @@ namespace
 /// A carriage return is the line break of the program's messages, a line feed the toolkit's.
 QString shown(const std::string& text)
 {
-    return QString::fromStdString(text).replace('\r', '\n');
+    return asQString(text).replace('\r', '\n');
 }
 
 QMessageBox::StandardButtons buttonsOf(Buttons buttons)
@@ -127,7 +128,7 @@ std::optional<std::string> MessageQuestions::input(const std::string& prompt,
     const QPointer<QInputDialog> dialog = new QInputDialog(asker());
     dialog->setWindowTitle(shown(title));
     dialog->setLabelText(shown(prompt));
-    dialog->setTextValue(QString::fromStdString(defaultAnswer));
+    dialog->setTextValue(asQString(defaultAnswer));
     placeBelowStartWindow(*dialog);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     std::optional<std::string> answer;
@@ -165,7 +166,7 @@ std::optional<std::string> MessageQuestions::chosen(const QString& path)
 std::optional<std::string> MessageQuestions::fileToWrite(const std::string& title,
                                                          const std::string& offered)
 {
-    const QString name = QString::fromStdString(offered);
+    const QString name = asQString(offered);
     const QString ending = QFileInfo(name).suffix();
     auto* dialog = new QFileDialog(asker(), shown(title), m_lastFolder, filterOf(ending));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -177,8 +178,8 @@ std::optional<std::string> MessageQuestions::fileToWrite(const std::string& titl
 std::optional<std::string> MessageQuestions::fileToRead(const std::string& title,
                                                         const std::string& ending)
 {
-    auto* dialog = new QFileDialog(asker(), shown(title), m_lastFolder,
-                                   filterOf(QString::fromStdString(ending)));
+    auto* dialog =
+        new QFileDialog(asker(), shown(title), m_lastFolder, filterOf(asQString(ending)));
     dialog->setFileMode(QFileDialog::ExistingFile);
     return chosen(chosenIn(dialog));
 }

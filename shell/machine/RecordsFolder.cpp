@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/RecordsFolder.h"
 
+#include "shell/machine/AsQString.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -50,7 +52,7 @@ RecordsFolder::RecordsFolder(const Places& places)
 
 bool RecordsFolder::isOnlyShipped(const std::string& name) const
 {
-    const QString file = '/' + QString::fromStdString(name);
+    const QString file = '/' + asQString(name);
     return m_places.records != m_places.data && !isThere(m_places.records + file) &&
            isThere(m_places.data + file);
 }

@@ -5,6 +5,7 @@
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "shell/controls/WrappingRow.h"
+#include "shell/machine/AsQString.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -50,7 +51,7 @@ void fillBoxes(const Texts& texts, const std::array<std::string Texts::*, N>& me
                const FieldBoxes& boxes, std::size_t first)
 {
     for (std::size_t i = 0; i < N; ++i)
-        boxes[first + i]->setText(QString::fromStdString(texts.*members[i]));
+        boxes[first + i]->setText(asQString(texts.*members[i]));
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/CurvePainter.h"
 
+#include "shell/machine/AsQString.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -48,7 +50,7 @@ void CurvePainter::drawLevelText(const HeightLabel& label) const
     const QPointF at = m_place.toPixel(0, label.top);
     const double gap = m_place.letters.horizontalAdvance(' ');
     m_painter.drawText(QRectF(0, at.y(), at.x() - gap, m_place.letters.height()),
-                       Qt::AlignRight | Qt::AlignTop, QString::fromStdString(label.caption));
+                       Qt::AlignRight | Qt::AlignTop, asQString(label.caption));
 }
 
 void CurvePainter::drawFurtherLevels() const
@@ -66,7 +68,7 @@ void CurvePainter::drawAxisTexts() const
     const double line = m_place.letters.height();
     for (const HourLabel& label : m_picture.lblTime)
         m_painter.drawText(QRectF(m_place.toPixel(label.left, label.top), QSizeF(4 * line, line)),
-                           Qt::AlignLeft | Qt::AlignTop, QString::fromStdString(label.caption));
+                           Qt::AlignLeft | Qt::AlignTop, asQString(label.caption));
 }
 
 void CurvePainter::drawCurve() const

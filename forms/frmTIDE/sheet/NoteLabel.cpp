@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/NoteLabel.h"
 
+#include "shell/machine/AsQString.h"
+
 namespace korvel
 {
 
@@ -16,7 +18,7 @@ QLabel* addNoteLabel(QWidget* parent, const QString& name)
 
 void showNote(QLabel* label, const std::string& words)
 {
-    label->setText(QString::fromStdString(words));
+    label->setText(asQString(words));
     label->setVisible(!words.empty());
 }
 

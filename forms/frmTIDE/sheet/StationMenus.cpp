@@ -6,6 +6,7 @@
 #include "app/records/KV_Savedvalue.h"
 #include "forms/frmTIDE/data/TideData.h"
 #include "shell/controls/Boxes.h"
+#include "shell/machine/AsQString.h"
 
 namespace korvel
 {
@@ -107,8 +108,7 @@ void StationMenus::fillNearest(QMenu* menu)
     const std::vector<NearStation> near =
         nearestStations(m_list, saved.memoLatitude(), saved.memoLongitude(), nearestShown);
     for (int index = 0; const NearStation& station : near) {
-        const QString distance =
-            QString::fromStdString(Format(station.distance.value(), "0") + " nm");
+        const QString distance = asQString(Format(station.distance.value(), "0") + " nm");
         const StationChoice choice{true, station.place};
         grey({addStation(menu, "mnuNearest", index++, shown(station.place) + "   " + distance,
                          choice),
@@ -139,8 +139,8 @@ QString StationMenus::reasonAgainst(const StationChoice& station) const
     const StationNotes* notes = station.TideMode ? m_list.notesOf(station.place) : nullptr;
     std::string reason = station.TideMode ? "" : std::string(whyNoStreams);
     if (notes && notes->grade == "none") reason = notes->source;
-    return QString::fromStdString("No data: " + (reason.empty() ? file + " is missing" : reason) +
-                                  ". A file put into Harmonic Constants is used at once.");
+    return asQString("No data: " + (reason.empty() ? file + " is missing" : reason) +
+                     ". A file put into Harmonic Constants is used at once.");
 }
 
 } // namespace korvel

@@ -3,6 +3,7 @@
 
 #include "forms/frmTIDE/sheet/NoteLabel.h"
 #include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
 
 #include <QVBoxLayout>
 
@@ -28,17 +29,17 @@ TideFoot::TideFoot(QWidget* parent)
 
 void TideFoot::showStation(const StationLines& lines)
 {
-    m_lblStation->setText(QString::fromStdString(lines.station) + ".  Not for navigation.");
+    m_lblStation->setText(asQString(lines.station) + ".  Not for navigation.");
     showNote(m_lblAccuracy, lines.accuracy);
-    m_lblSource->setText(QString::fromStdString(lines.source));
+    m_lblSource->setText(asQString(lines.source));
 }
 
 void TideFoot::showDates(const TideDates& dates, const std::string& factorsFile)
 {
     const bool isShipped = dates.lastSerial() == TideDates().lastSerial();
     m_lblInUse->setVisible(!isShipped);
-    m_lblInUse->setText(QString::fromStdString(
-        "Predictions to " + TideDates::label(dates.lastSerial()) + " with " + factorsFile));
+    m_lblInUse->setText(asQString("Predictions to " + TideDates::label(dates.lastSerial()) +
+                                  " with " + factorsFile));
 }
 
 } // namespace korvel

@@ -4,6 +4,7 @@
 #include "forms/frmTIDE/sheet/NoteLabel.h"
 #include "shell/controls/Panels.h"
 #include "shell/controls/WrappingRow.h"
+#include "shell/machine/AsQString.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -100,8 +101,8 @@ QWidget* TideHead::figuresLine()
 
 void TideHead::showChoice(const TideChoice& choice)
 {
-    m_lblPlace->setText(QString::fromStdString(choice.lblPlace));
-    m_lblDate->setText(QString::fromStdString(choice.lblDate));
+    m_lblPlace->setText(asQString(choice.lblPlace));
+    m_lblDate->setText(asQString(choice.lblDate));
 }
 
 void TideHead::showFigures(const TidePrediction& four, const StationLines& lines)
