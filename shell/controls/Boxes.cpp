@@ -89,6 +89,12 @@ const std::string& EntryBox::value() const
     return m_value;
 }
 
+void EntryBox::setLimits(const QString& limits)
+{
+    m_limits = limits;
+    if (describesLimits()) setAccessibleDescription(limits);
+}
+
 void EntryBox::declare(const QString& words, const QString& writing)
 {
     m_words = words;

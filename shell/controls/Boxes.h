@@ -40,7 +40,7 @@ public:
     void setNext(EntryBox* next) { m_next = next; }
 
     /// What the calculations accept, in words: "-90 to 90"; told to whoever comes to the box.
-    void setLimits(const QString& limits) { m_limits = limits; }
+    void setLimits(const QString& limits);
     const QString& limits() const { return m_limits; }
 
     /// Names the box for assistive tools.
@@ -65,6 +65,9 @@ public:
     std::function<bool()> onUndo;
 
 protected:
+    /// Whether the accessible description is free for the limits.
+    virtual bool describesLimits() const { return true; }
+
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -54,8 +54,6 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
         box->setLimits(limitsInWords(field.low, field.high));
         if (field.kind == FieldKind::Figure || field.kind == FieldKind::Angle)
             box->setReading({.name = {}, .low = field.low, .high = field.high, .kind = field.kind});
-        // A position box tells what was understood in this place.
-        if (!qobject_cast<PositionBox*>(box)) box->setAccessibleDescription(box->limits());
         if (field.kind == FieldKind::Text) box->setMaxLength(EntryBox::longestText);
         if (field.kind == FieldKind::Longitude && !m_boxes.empty())
             if (auto* latitude = dynamic_cast<PositionBox*>(m_boxes.back()))

@@ -33,6 +33,9 @@ public:
     void pasteText(const QString& text);
 
 protected:
+    /// It tells what was understood.
+    bool describesLimits() const override { return false; }
+
     void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
