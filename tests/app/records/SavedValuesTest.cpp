@@ -134,7 +134,10 @@ TEST_F(RecoveryFileTest, isWrittenOnceForAChangeAndGoesWithACleanExit)
     setAlarm(saved);
     recovery.keep(saved);
     recovery.keep(saved);
-    EXPECT_EQ(files.saves, 1);
+    saved.setTD(3);
+    saved.setTD(9);
+    EXPECT_EQ(recovery.keep(saved), "");
+    EXPECT_EQ(files.saves, 1) << "there and back is no change";
     files.refusal = "disk full";
     saved.setTD(3);
     EXPECT_THAT(recovery.keep(saved), HasSubstr("disk full"));

@@ -196,8 +196,13 @@ TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
 TEST(PictureBox, countsInItsUserScale)
 {
     struct Picture : PictureBox {
-        void draw(QPainter&) override { onPaper = isOnPaper() ? plotArea() : QRectF(); }
+        void draw(QPainter&) override
+        {
+            onPaper = isOnPaper() ? plotArea() : QRectF();
+            drawnIn = colours().ink;
+        }
         QRectF onPaper;
+        QColor drawnIn;
     } picture;
     picture.resize(220, 130);
     picture.setPlotMargins({10, 20, 10, 10});
@@ -218,8 +223,12 @@ TEST(PictureBox, countsInItsUserScale)
     EXPECT_EQ(left.count(), 1);
     QImage paper(400, 300, QImage::Format_RGB32);
     QPainter painter(&paper);
+    picture.setColours(ColourScheme::night(0));
     picture.drawOn(painter, paper.size(), ColourScheme::day());
     EXPECT_EQ(picture.onPaper, QRectF(10, 20, 380, 270));
+    EXPECT_EQ(picture.drawnIn, ColourScheme::day().ink);
+    picture.grab();
+    EXPECT_EQ(picture.drawnIn, ColourScheme::night(0).ink);
     EXPECT_EQ(picture.plotArea(), QRectF(10, 20, 200, 100)) << "on the screen as before";
 }
 

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "shell/controls/ResultLabel.h"
+#include "shell/controls/ResultLabels.h"
 #include "shell/controls/WrappedText.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QImage>
+#include <QMenu>
 #include <QTest>
 
 namespace korvel
@@ -78,6 +80,48 @@ TEST(ResultLabel, takesTheFocusWhileItShowsSomething)
     label.passByTab();
     label.setText("12.5");
     EXPECT_EQ(label.focusPolicy(), Qt::NoFocus);
+}
+
+TEST(ResultLabel, copiesInFullWhatItIsAndItsUnit)
+{
+    ResultLabel label;
+    label.declare("Row 1, course to the next fix", "degrees true");
+    EXPECT_EQ(label.accessibleName(), "Row 1, course to the next fix, degrees true");
+    label.setText("<073.6>");
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&label, &asked);
+    auto* menu = label.findChild<QMenu*>();
+    ASSERT_TRUE(menu);
+    for (QAction* entry : menu->actions())
+        if (entry->text() == "Copy in &full") entry->trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(),
+              "Row 1, course to the next fix 073.6 degrees true");
+}
+
+TEST(ResultLabels, aTextThatIsNotThereLeavesTheLabelAnEmptyOneBlanksIt)
+{
+    struct Shown {
+        std::string speed;
+        std::optional<std::string> kept;
+        std::array<std::string, 2> both;
+    };
+    constexpr std::array<Result<Shown>, 3> table = {{
+        {"lblSpeed", "Speed", "knots", Weight::Answer, &Shown::speed},
+        {"lblKept", "Kept", "", Weight::Figure, &Shown::kept, "What is kept"},
+        {"lblSecond", "", "", Weight::Remark, textAt<&Shown::both, 1>, "Second"},
+    }};
+    QWidget window;
+    const ResultLabels<Shown> labels(table, &window);
+    EXPECT_EQ(labels[0]->accessibleName(), "Speed, knots");
+    EXPECT_EQ(labels[0]->weight(), Weight::Answer);
+    EXPECT_EQ(labels[1]->accessibleName(), "What is kept");
+    const auto texts = [&] {
+        return QStringList({labels[0]->text(), labels[1]->text(), labels[2]->text()});
+    };
+    labels.show({"12.5", "9", {"a", "b"}});
+    EXPECT_EQ(texts(), QStringList({"12.5", "9", "b"}));
+    labels.show({"", {}, {"c", ""}});
+    EXPECT_EQ(texts(), QStringList({"", "9", ""}));
 }
 
 TEST(ResultLabel, whatItSaysEntersItsSizeInNoWayAndWhatDoesNotFitIsNotSilent)

@@ -165,6 +165,8 @@ TEST(ProgramFolder, clearsTheRemnantsOfASaveThatWasKilled)
         QFile file(folder.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
+    const ProgramFolder asFound(folder.path(), ProgramFolder::Remnants::Left);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 5) << "another program's, perhaps";
     const ProgramFolder files(folder.path());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files, QDir::Name),
               (QStringList{"KV_X.ini", "KV_X.ini.backup1", "notes.ini.Ab3dEf"}));
