@@ -30,6 +30,22 @@ constexpr std::array<std::string CrudeInput::*, CrudeFields.size()> crudeInputs 
     &CrudeInput::klPerBarrel,
 };
 
+/// The lists, in the order of the record.
+struct Choice {
+    const char* name;
+    const char* words; ///< what is chosen, for assistive tools and papers
+    const char* texts; ///< parted by "|"
+};
+constexpr std::array<Choice, 7> crudeChoices = {{
+    {"cboVolumeUnit", "Unit of the volume", "kL (m³)|bbl"},
+    {"cboTemperatureUnit", "Unit of temperatures", "°C|°F"},
+    {"cboDensityBase", "Density or API gravity", "kg/m³ at 15 °C|°API at 60 °F"},
+    {"cboReadWith", "Density read with", "glass hydrometer|other means"},
+    {"cboVCFDecimals", "Decimals of the VCF", "5|4 (shore tables)"},
+    {"cboWeightRule", "Weight in air by", "density - 1.1|Table 56, as printed|Table 56, exact"},
+    {"cboEdition", "Edition of the tables", "1980|2004"},
+}};
+
 } // namespace
 
 frmCRUDE::frmCRUDE(Program& program)
@@ -68,30 +84,18 @@ frmCRUDE::frmCRUDE(Program& program)
     m_boxes[Volume]->setFocus();
 }
 
-QComboBox* frmCRUDE::addChoice(const QString& name, const QString& accessibleName,
-                               const QStringList& choices)
-{
-    auto* choice = new QComboBox;
-    choice->setObjectName(name);
-    choice->setAccessibleName(accessibleName);
-    choice->addItems(choices);
-    m_choices.push_back(choice);
-    return choice;
-}
-
 void frmCRUDE::addChoices()
 {
-    m_cboVolumeUnit = addChoice("cboVolumeUnit", "Unit of the volume", {"kL (m³)", "bbl"});
-    m_cboTemperatureUnit = addChoice("cboTemperatureUnit", "Unit of temperatures", {"°C", "°F"});
-    m_cboDensityBase =
-        addChoice("cboDensityBase", "Density or API gravity", {"kg/m³ at 15 °C", "°API at 60 °F"});
-    m_cboReadWith =
-        addChoice("cboReadWith", "Density read with", {"glass hydrometer", "other means"});
-    m_cboVCFDecimals =
-        addChoice("cboVCFDecimals", "Decimals of the VCF", {"5", "4 (shore tables)"});
-    m_cboWeightRule = addChoice("cboWeightRule", "Weight in air by",
-                                {"density - 1.1", "Table 56, as printed", "Table 56, exact"});
-    m_cboEdition = addChoice("cboEdition", "Edition of the tables", {"1980", "2004"});
+    QComboBox** const members[] = {&m_cboVolumeUnit, &m_cboTemperatureUnit, &m_cboDensityBase,
+                                   &m_cboReadWith,   &m_cboVCFDecimals,     &m_cboWeightRule,
+                                   &m_cboEdition};
+    for (std::size_t i = 0; i < crudeChoices.size(); ++i) {
+        auto* choice = new QComboBox;
+        choice->setObjectName(crudeChoices[i].name);
+        choice->setAccessibleName(crudeChoices[i].words);
+        choice->addItems(QString(crudeChoices[i].texts).split('|'));
+        m_choices.push_back(*members[i] = choice);
+    }
     m_chkObserved = new QCheckBox("observed, to be red&uced");
     m_chkObserved->setObjectName("chkObserved");
     m_cmdFromDensity = new QPushButton("&From density");
@@ -257,10 +261,9 @@ std::vector<PaperFigure> frmCRUDE::paperInputs(const std::vector<PaperFigure>& b
                           ", observed, to be reduced";
         inputs.push_back(std::move(figure));
     }
-    for (const QComboBox* choice : m_choices)
-        if (choice != m_cboDensityBase && (choice != m_cboReadWith || isObserved))
-            inputs.push_back(
-                {choice->accessibleName().toStdString(), choice->currentText().toStdString()});
+    for (std::size_t i = 0; i < m_choices.size(); ++i)
+        if (m_choices[i] != m_cboDensityBase && (m_choices[i] != m_cboReadWith || isObserved))
+            inputs.push_back({crudeChoices[i].words, m_choices[i]->currentText().toStdString()});
     return inputs;
 }
 

@@ -29,8 +29,6 @@ protected:
 
 private:
     void addChoices();
-    QComboBox* addChoice(const QString& name, const QString& accessibleName,
-                         const QStringList& choices);
     QWidget* layOutInputs();
     QWidget* layOutMethods();
     void addMenus();

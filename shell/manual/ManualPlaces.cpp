@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/manual/ManualPlaces.h"
 
+#include "shell/controls/Boxes.h"
+#include "shell/controls/ResultLabel.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QFontMetricsF>
@@ -65,6 +68,14 @@ QString withoutMnemonic(QString text)
     return text.section('\t', 0, 0).trimmed();
 }
 
+/// What a control is, as it was declared.
+QString wordsOf(const QWidget& control)
+{
+    if (auto* box = qobject_cast<const EntryBox*>(&control)) return box->words();
+    if (auto* label = qobject_cast<const ResultLabel*>(&control)) return label->words();
+    return control.accessibleName();
+}
+
 } // namespace
 
 std::optional<PagePlace> placeOf(const QTextDocument& page, const QString& name)
@@ -121,7 +132,7 @@ QString manualName(const QWidget& control)
 {
     static const QRegularExpression howItIsWritten("[,;:].*$");
     static const QRegularExpression row("^Row \\d+, ");
-    const QString name = QString(control.accessibleName()).remove(row);
+    const QString name = wordsOf(control).remove(row);
     if (!name.isEmpty()) return QString(name).remove(howItIsWritten).trimmed();
     if (auto* button = qobject_cast<const QAbstractButton*>(&control))
         return withoutMnemonic(button->text());
