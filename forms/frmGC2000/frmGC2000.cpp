@@ -28,7 +28,7 @@ constexpr const char* widestDistance = "00000.'0";
 constexpr const char* widestVertex[] = {"00°00.0' N  ", "000°00.0' W"};
 
 using Label = TableColumn::Label;
-enum : std::size_t { Number, Latitude, Longitude, Course, Distance };
+enum : std::size_t { Number, Latitude, Longitude };
 
 constexpr std::array<RowColumn<GCRow>, 5> waypointRows = {{
     {{"lblWpNo", "No.", "Dep. ", Label::RowNumber, "Waypoint %1", "", Qt::AlignRight}},
