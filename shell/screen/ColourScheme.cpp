@@ -46,14 +46,19 @@ double ofScreen(double light)
 
 /// Luminances of one step of the night: the brightest thing there is, the darkest that may be text,
 /// the darkest that may be a line or the outline of a control. Against the grounds below, text
-/// comes to 4.5 to 1 and the others to 3 to 1. At the last step that counts with a tenth of the
-/// stray light of 0.05 that the formula of contrast takes for a screen in an office: with all of
-/// it a screen of 0.10 would have 3 to 1 at most, and the bridge that needs this step is dark.
+/// comes to 4.5 to 1 and the others to 3 to 1, counted with the light that falls on the screen: the
+/// formula of contrast takes 0.05 for an office, and the bridges that need the darker steps have
+/// less of it. With all of it a screen of 0.10 would have 3 to 1 at most. Each step gives little
+/// more than half the light of the one before: one that the eye does not see is none.
 struct NightStep {
     double peak, text, line;
+    double grounds; ///< their luminance beside that of the brightest step
+    double strayLight;
 };
-constexpr std::array<NightStep, 3> nightSteps = {
-    {{0.295, 0.235, 0.15}, {0.25, 0.23, 0.15}, {0.096, 0.055, 0.032}}};
+constexpr double inAnOffice = 0.05; // stray light
+constexpr std::array<NightStep, 3> nightSteps = {{{0.295, 0.235, 0.15, 1, inAnOffice},
+                                                  {0.158, 0.11, 0.058, 0.5, 0.02},
+                                                  {0.086, 0.055, 0.032, 0.25, 0.005}}};
 
 const NightStep& nightStep(int step)
 {
@@ -68,10 +73,13 @@ struct Hue {
 
 QPalette nightPalette(const NightStep& step)
 {
-    return paletteOf({"#0d0403", Hue::black, "#120604", "#120705",
+    const auto ground = [&](const QColor& ofBrightest) {
+        return atLuminance(ofBrightest, step.grounds * relativeLuminance(ofBrightest));
+    };
+    return paletteOf({ground("#0d0403"), ground(Hue::black), ground("#120604"), ground("#120705"),
                       atLuminance(Hue::amber, step.peak), atLuminance(Hue::orange, step.line),
                       atLuminance(Hue::orange, step.text), atLuminance(Hue::orange, step.line),
-                      atLuminance(Hue::amber, step.text), Hue::black});
+                      atLuminance(Hue::amber, step.text), ground(Hue::black)});
 }
 
 } // namespace
@@ -90,10 +98,12 @@ bool isNight(const QPalette& palette)
 
 double strayLight(const QPalette& palette)
 {
-    const bool isLastStep =
-        isNight(palette) &&
-        relativeLuminance(palette.color(QPalette::WindowText)) < 2 * nightSteps.back().peak;
-    return isLastStep ? 0.005 : 0.05;
+    if (!isNight(palette)) return inAnOffice;
+    // The letters are of the brightest light of their step.
+    const double peak = relativeLuminance(palette.color(QPalette::WindowText));
+    const auto isBrighter = [peak](const NightStep& step) { return step.peak > peak / 1.2; };
+    const auto step = std::find_if(nightSteps.rbegin(), nightSteps.rend(), isBrighter);
+    return step == nightSteps.rend() ? inAnOffice : step->strayLight;
 }
 
 QColor atLuminance(const QColor& hue, double luminance)
@@ -144,7 +154,7 @@ ColourScheme ColourScheme::night(int which)
     scheme.notice = atLuminance(Hue::red, step.text);
     scheme.fault = atLuminance(Hue::paleAmber, step.peak);
     scheme.dimmed = atLuminance(Hue::orange, step.text);
-    scheme.paper = Hue::black;
+    scheme.paper = scheme.palette.color(QPalette::Base);
     scheme.ink = atLuminance(Hue::amber, step.text);
     scheme.grid = atLuminance(Hue::red, step.line);
     scheme.equator = atLuminance(Hue::red, step.text);

@@ -40,7 +40,7 @@ struct ColourScheme {
 bool isNight(const QPalette& palette);
 
 /// What the formula of contrast adds to both luminances for the light that falls on the screen:
-/// 0.05, and a tenth of that where a palette is of the last step of the night.
+/// 0.05, and less where a palette is of one of the darker steps of the night.
 double strayLight(const QPalette& palette);
 
 /// Relative luminance of a colour of the screen, 0 black to 1 white. Source: IEC 61966-2-1 (sRGB).
