@@ -16,6 +16,10 @@ struct Slot {
     enum { DimStep, Zoom, ReopensWindows, ClockOnTop, Places, Count };
 };
 
+// A choice that came later stands among the places: what is no place there is passed over by the
+// versions that do not know it, and their files stay whole.
+constexpr std::string_view ownFramesMark = "ownFrames";
+
 // More than any screen has; a file that says so was not written by the program.
 constexpr int farthestPixel = 100000;
 
@@ -98,7 +102,9 @@ std::vector<FieldKind> ScreenChoices::kinds()
 
 Record ScreenChoices::record() const
 {
-    return {double(dimStep), double(zoom), reopensWindows, clockOnTop, textOfPlaces(places)};
+    std::string kept = textOfPlaces(places);
+    if (ownFrames) kept.append(kept.empty() ? "" : ";").append(ownFramesMark);
+    return {double(dimStep), double(zoom), reopensWindows, clockOnTop, kept};
 }
 
 ScreenChoices ScreenChoices::of(const Record& record)
@@ -111,7 +117,11 @@ ScreenChoices ScreenChoices::of(const Record& record)
         if (numberOf(record[Slot::Zoom]) == percent) choices.zoom = percent;
     choices.reopensWindows = tickOf(record[Slot::ReopensWindows]);
     choices.clockOnTop = tickOf(record[Slot::ClockOnTop]);
-    choices.places = placesOf(textOf(record[Slot::Places]));
+    const std::string kept = textOf(record[Slot::Places]);
+    choices.places = placesOf(kept);
+    choices.ownFrames =
+        kept.ends_with(ownFramesMark) && (kept.size() == ownFramesMark.size() ||
+                                          kept[kept.size() - ownFramesMark.size() - 1] == ';');
     return choices;
 }
 

@@ -31,6 +31,7 @@ struct ScreenChoices {
     int zoom = 100;  ///< percent, one of zoomSteps()
     bool reopensWindows = false;
     bool clockOnTop = false;
+    bool ownFrames = false; ///< at night the windows do without the desktop's frames
     std::map<std::string, WindowPlace> places; ///< by name of the window
 
     /// The percentages that can be chosen, ascending, from 80 to 300.

@@ -88,6 +88,9 @@ void MainMenus::addScreen(QMenu* property)
     addEntry(property, "mnuReopen", "&Open these windows again at the next start",
              m_actions.chooseReopening)
         ->setCheckable(true);
+    addEntry(property, "mnuOwnFrames", "Windows &without a frame at night",
+             m_actions.chooseOwnFrames)
+        ->setCheckable(true);
     property->addSeparator();
     addEntry(property, "mnuShip", "Ship and &voyage..", m_actions.setShip);
     addEntry(property, "mnuJournal", "&Journal of kept papers", m_actions.openJournal);
@@ -120,6 +123,7 @@ void MainMenus::show(const KV_Savedvalue& saved, const ScreenChoices& screen)
         m_entries.at(memberName("mnuBackColor", i))->setChecked(saved.nightColours() == (i == 1));
     m_entries.at("mnuClockOnTop")->setChecked(screen.clockOnTop);
     m_entries.at("mnuReopen")->setChecked(screen.reopensWindows);
+    m_entries.at("mnuOwnFrames")->setChecked(screen.ownFrames);
 }
 
 void MainMenus::tickWindow(const QString& name, bool ticked)

@@ -35,6 +35,7 @@ public:
         std::function<void()> openJournal;
         std::function<void()> chooseReopening;
         std::function<void()> chooseClockOnTop;
+        std::function<void()> chooseOwnFrames;
         std::function<void()> end;
     };
 

@@ -153,6 +153,7 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         setWindowFlag(Qt::WindowStaysOnTopHint, m_screen.choices().clockOnTop);
         show(); // the flag has hidden it
     };
+    actions.chooseOwnFrames = [this] { m_screen.toggleOwnFrames(); };
     actions.openJournal = [this] { openJournal(); };
     actions.setShip = [this] { setShip(); };
     actions.end = [this] { m_actions.ExitApplication(); };

@@ -44,6 +44,7 @@ void Screen::apply()
     if (zoomed) emit aboutToZoom();
     if (recoloured) m_colours = wanted.colours();
     applyLooks(wanted, m_colours);
+    m_frames.apply(wanted.night, wanted.night && m_choices.ownFrames);
     if (recoloured) {
         for (QWidget* each : QApplication::topLevelWidgets()) // whose icon is a picture
             if (auto* box = qobject_cast<QMessageBox*>(each)) box->setIcon(box->icon());
@@ -84,6 +85,14 @@ void Screen::toggleReopening()
 void Screen::toggleClockOnTop()
 {
     m_choices.clockOnTop = !m_choices.clockOnTop;
+    save();
+    emit chosen();
+}
+
+void Screen::toggleOwnFrames()
+{
+    m_choices.ownFrames = !m_choices.ownFrames;
+    apply();
     save();
     emit chosen();
 }

@@ -4,6 +4,7 @@
 #include "app/records/KV_Savedvalue.h"
 #include "app/records/ScreenChoices.h"
 #include "app/records/SettingsFile.h"
+#include "shell/screen/Frames.h"
 #include "shell/screen/Looks.h"
 
 #include <QObject>
@@ -40,6 +41,7 @@ public:
     void zoom(int steps);
     void toggleReopening();
     void toggleClockOnTop();
+    void toggleOwnFrames();
 
     /// Keeps the place of a window for its next opening; written shortly afterwards.
     void keepPlace(const QString& window, const WindowPlace& place);
@@ -69,6 +71,7 @@ private:
     Looks m_applied;
     ColourScheme m_colours;
     QTimer m_saveSoon;
+    Frames m_frames{nullptr};
 };
 
 } // namespace korvel

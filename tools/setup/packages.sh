@@ -2,7 +2,8 @@
 # The Debian packages that building, running and testing need. Sourced by ./run,
 # ./test and ./package.
 
-build_packages="g++ cmake ninja-build qt6-base-dev nlohmann-json3-dev liberfa-dev"
+build_packages="g++ cmake ninja-build qt6-base-dev libxcb1-dev nlohmann-json3-dev
+    liberfa-dev"
 # Fonts with Japanese and full-width glyphs, and the helpers that play the alarm's tone.
 run_packages="fonts-noto-core fonts-vlgothic alsa-utils"
 # A virtual display for machines that have none, and what takes the picture of the window.

@@ -348,6 +348,37 @@ TEST_F(NightTest, linesOfPicturesStandOffAndTheMainWindowHasItsColours)
     }
 }
 
+TEST_F(NightTest, windowsDoWithoutTheDesktopsFrameWhereOneWantsThat)
+{
+    QWidget& wind = window("frmWind");
+    const auto title = [](QWidget& of) {
+        auto* frame = of.findChild<QWidget*>("ownFrame");
+        return frame && frame->isVisible() ? frame->findChild<QLabel*>()->text() : QString("none");
+    };
+    const auto isFrameless = [](const QWidget& of) {
+        return bool(of.windowHandle()->flags() & Qt::FramelessWindowHint);
+    };
+    const QRect menus = wind.findChild<QMenuBar*>()->geometry();
+    choose(main, "mnuOwnFrames");
+    EXPECT_FALSE(isFrameless(wind)) << "by day";
+    QTest::keyClick(&wind, Qt::Key_F8);
+    wind.resize(wind.width() + 300, wind.height());
+    QTest::qWait(20);
+    EXPECT_TRUE(isFrameless(wind) && isFrameless(main));
+    EXPECT_EQ(title(wind), wind.windowTitle());
+    EXPECT_EQ(wind.findChild<QMenuBar*>()->height(), menus.height()) << "what is below moves";
+    QWidget& opened = window("frmETA");
+    EXPECT_TRUE(isFrameless(opened));
+    QTest::mouseClick(opened.findChild<QWidget*>("cmdCloseWindow"), Qt::LeftButton);
+    EXPECT_FALSE(opened.isVisible());
+    // An older version knows nothing of it, and loses none of the places for it.
+    const auto kept = ScreenChoices::of(main.program().screen().choices().record());
+    EXPECT_TRUE(kept.ownFrames && kept == main.program().screen().choices());
+    QTest::keyClick(&wind, Qt::Key_F8);
+    EXPECT_FALSE(isFrameless(wind) || isFrameless(main));
+    EXPECT_EQ(title(wind), "none");
+}
+
 TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
 {
     ProgramFolder records(folder.path(), ProgramFolder::Remnants::Left);
