@@ -56,7 +56,10 @@ QKeySequence PaperMenu::ifFree(const QKeySequence& keys) const
 QAction* PaperMenu::add(QMenu* menu, const QString& caption, const QKeySequence& keys,
                         void (PaperMenu::*run)() const)
 {
-    const int index = std::max(static_cast<int>(menu->actions().size()), 1);
+    // Number 0 is the entry before those of every paper, whether there is one or not.
+    const bool hasFirst = !menu->actions().isEmpty() &&
+                          menu->actions().first()->objectName() == memberName("mnuPaper", 0);
+    const int index = static_cast<int>(menu->actions().size()) + (hasFirst ? 0 : 1);
     QAction* entry = menu->addAction(caption, this, [this, run] { (this->*run)(); });
     entry->setObjectName(memberName("mnuPaper", index));
     entry->setShortcut(keys);
