@@ -4,6 +4,7 @@
 #include "forms/conversion/ConversionWindow.h"
 #include "forms/frmCDDR/frmCDDR.h"
 #include "forms/frmCRUDE/frmCRUDE.h"
+#include "forms/frmCompass/frmCompass.h"
 #include "forms/frmETA/frmETA.h"
 #include "forms/frmGC2000/frmGC2000.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
@@ -23,13 +24,21 @@ namespace
 template <typename Window>
 CatalogueEntry window(const char* menu, int index, const char* name, const char* caption)
 {
-    return {menu, index, name, caption, [](Program& program) { return new Window(program); }, {}};
+    return {menu, index, name, caption, [](Program& program) { return new Window(program); },
+            {},   false};
 }
 
 CatalogueEntry withPlaces(CatalogueEntry entry,
                           std::function<std::vector<CatalogueEntry::Place>()> places)
 {
     entry.places = std::move(places);
+    return entry;
+}
+
+/// The first of a menu that came after those which the menu has always had.
+CatalogueEntry behindALine(CatalogueEntry entry)
+{
+    entry.isBehindLine = true;
     return entry;
 }
 
@@ -71,6 +80,7 @@ WindowCatalogue calculatorWindows()
                   Quantity::Pressure),
         withPlaces(window<frmTIDE>("mnuTide", 0, "frmTIDE", "&Tide and tidal stream"),
                    frmTIDE::stationsToGoTo),
+        behindALine(window<frmCompass>("mnuWATCH", 6, "frmCompass", "Compass error")),
     };
 }
 

@@ -49,6 +49,11 @@ std::optional<Matrix> inverted(Matrix matrix)
     return inverse;
 }
 
+Degrees toleranceOf(Degrees scatter, double factor)
+{
+    return 3 * std::max(scatter, DeviationFit::scatterFloor) * std::hypot(1, factor);
+}
+
 std::vector<DeviationPoint> without(std::span<const DeviationPoint> points, std::size_t index)
 {
     std::vector<DeviationPoint> others(points.begin(), points.end());
@@ -56,21 +61,48 @@ std::vector<DeviationPoint> without(std::span<const DeviationPoint> points, std:
     return others;
 }
 
-/// The point that lies farthest beyond the tolerance of the curve of all others.
+struct Doubtful {
+    std::size_t index;
+    double excess; ///< distance from the curve of all others, in tolerances of that curve
+};
+
+/// The points that lie beyond the tolerance of the curve of all others, the worst first.
+///
+/// What a fit is without one of its points follows from the fit with it: with h the square of the
+/// factor on the point's heading, the point lies residual / (1 - h) from the curve of the others,
+/// whose sum of squares is smaller by residual^2 / (1 - h) and whose factor there is
+/// sqrt(h / (1 - h)).
+std::vector<Doubtful> doubtfulPoints(std::span<const DeviationPoint> points,
+                                     const DeviationFit& fit)
+{
+    constexpr std::size_t others = 1 + DeviationFit::coefficientCount;
+    double squares = 0;
+    for (const Degrees residual : fit.residuals())
+        squares += std::pow(residual.value(), 2);
+    std::vector<Doubtful> doubtful;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const double h = std::pow(fit.factor(points[i].heading), 2);
+        constexpr double alone = 1 - 1e-9; // no other point fixes the curve there
+        if (h >= alone) continue;
+        const double off = fit.residuals()[i].value() / (1 - h);
+        const double rest = std::max(0.0, squares - off * off * (1 - h));
+        const Degrees scatter(std::sqrt(rest / static_cast<double>(points.size() - others)));
+        const double excess = std::fabs(off) / toleranceOf(scatter, std::sqrt(h / (1 - h))).value();
+        if (excess > 1) doubtful.push_back({i, excess});
+    }
+    std::ranges::stable_sort(doubtful, std::ranges::greater(), &Doubtful::excess);
+    return doubtful;
+}
+
+/// The point that lies farthest beyond the tolerance of the curve of all others, where these fix a
+/// curve.
 std::optional<std::size_t> worstPoint(std::span<const DeviationPoint> points)
 {
-    std::optional<std::size_t> worst;
-    double excess = 1;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const auto fit = DeviationFit::of(without(points, i));
-        if (!fit) continue;
-        const Degrees off = points[i].deviation - fit->coefficients().at(points[i].heading);
-        const double ratio = fabs(off) / fit->tolerance(points[i].heading);
-        if (ratio <= excess) continue;
-        excess = ratio;
-        worst = i;
-    }
-    return worst;
+    const auto fit = DeviationFit::of(points);
+    if (!fit || points.size() <= DeviationFit::fewestPoints) return std::nullopt;
+    for (const Doubtful& each : doubtfulPoints(points, *fit))
+        if (DeviationFit::of(without(points, each.index))) return each.index;
+    return std::nullopt;
 }
 
 } // namespace
@@ -153,7 +185,7 @@ double DeviationFit::factor(Degrees heading) const
 
 Degrees DeviationFit::tolerance(Degrees heading) const
 {
-    return 3 * std::max(m_scatter, scatterFloor) * std::hypot(1, factor(heading));
+    return toleranceOf(m_scatter, factor(heading));
 }
 
 std::optional<Degrees> OpenHeading(std::span<const DeviationPoint> points)

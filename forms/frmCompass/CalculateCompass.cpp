@@ -62,12 +62,10 @@ private:
         }
         m_result.latitude = coordinate(CompassBox::Latitude);
         m_result.longitude = coordinate(CompassBox::Longitude);
-        const std::string& body = m_input.box(CompassBox::Body);
-        if (isBlankBox(body)) return;
-        const std::size_t first = body.find_first_not_of(" \t");
-        m_result.body =
-            almanac::findBody(body.substr(first, body.find_last_not_of(" \t") + 1 - first));
-        if (!m_result.body) m_remarks.fault("Body: " + quotation(body) + " is not in the almanac");
+        m_result.body = bodyOfBox(m_input.box(CompassBox::Body));
+        if (!m_result.body)
+            m_remarks.fault("Body: " + quotation(m_input.box(CompassBox::Body)) +
+                            " is not in the almanac");
     }
 
     void takeTime(NavFunc113::DateTime typed)
@@ -96,17 +94,18 @@ private:
             if (const auto head = filled(boxOf(CompassBox::GyroHead, i)))
                 reading.head = Degrees(*head);
         }
-        m_eye = NavFunc113::Metres(filled(CompassBox::HeightOfEye).value_or(0));
+        m_result.worked.eye = NavFunc113::Metres(filled(CompassBox::HeightOfEye).value_or(0));
     }
 
     almanac::Observer observer() const
     {
-        return {*m_result.latitude, m_result.longitude.value_or(Degrees(0)), m_eye};
+        return {*m_result.latitude, m_result.longitude.value_or(Degrees(0)), m_result.worked.eye};
     }
 
     void findBearing()
     {
         const almanac::Place place = almanac::Sky(*m_result.ut).place(*m_result.body);
+        m_result.worked.place = place;
         if (m_input.method == CompassMethod::Amplitude)
             findAmplitude(place);
         else if (m_result.longitude)
@@ -122,7 +121,8 @@ private:
 
     void findAmplitude(const almanac::Place& place)
     {
-        const Degrees dip = NavFunc113::DipOfHorizon(m_eye);
+        const Degrees dip = NavFunc113::DipOfHorizon(m_result.worked.eye);
+        m_result.worked.dip = dip;
         if (m_result.longitude) findCrossing(dip);
         const auto rising = isRising();
         if (!rising) return m_remarks.fault("Rise or set: choose which, or fill in the longitude");
@@ -131,6 +131,7 @@ private:
             const Degrees altitude = altitudeOn(horizon, dip)(place);
             const auto seen = amplitudeOf(place, *m_result.latitude, altitude, *rising);
             if (seen) m_result.byHorizon[i] = courseText(seen->bearing);
+            m_result.worked.byHorizon[i] = seen;
             if (horizon == m_input.horizon) m_result.seen = seen;
         }
         if (!m_result.seen) refuseAmplitude();
@@ -174,8 +175,8 @@ private:
                                             fieldOf(CompassBox::Variation), m_remarks);
             if (typed) m_result.magnetic = CompassVariation{*typed};
         } else if (m_result.ut && m_result.latitude && m_result.longitude) {
-            m_result.magnetic = variationOf(*m_input.model, *m_result.ut, *m_result.latitude,
-                                            *m_result.longitude, m_remarks);
+            m_result.magnetic = variationOf(modelFor(*m_input.model, *m_result.ut), *m_result.ut,
+                                            *m_result.latitude, *m_result.longitude, m_remarks);
         }
         if (m_result.magnetic) m_result.variation = m_result.magnetic->text();
     }
@@ -187,8 +188,8 @@ private:
                 reading.error = WithinHalfTurn(m_result.seen->bearing - *reading.bearing);
         findTrueHead();
         for (CompassReading& reading : m_result.readings) {
-            if (reading.bearing || !reading.head || !m_trueHead) continue;
-            reading.error = WithinHalfTurn(*m_trueHead - *reading.head);
+            if (reading.bearing || !reading.head || !m_result.worked.trueHead) continue;
+            reading.error = WithinHalfTurn(*m_result.worked.trueHead - *reading.head);
             reading.byHeads = true;
         }
         for (std::size_t i = 0; i < compassCount; ++i)
@@ -198,10 +199,10 @@ private:
     void findTrueHead()
     {
         for (const CompassReading& reading : m_result.readings) {
-            if (m_trueHead || !reading.error || !reading.head) continue;
+            if (m_result.worked.trueHead || !reading.error || !reading.head) continue;
             const Degrees head = *reading.head + *reading.error;
-            m_trueHead = NavFunc113::CourseOfParts(sin(head), cos(head));
-            m_result.trueHead = courseText(*m_trueHead);
+            m_result.worked.trueHead = NavFunc113::CourseOfParts(sin(head), cos(head));
+            m_result.trueHead = courseText(*m_result.worked.trueHead);
         }
     }
 
@@ -226,11 +227,14 @@ private:
     {
         const auto speed = filled(CompassBox::Speed);
         const auto& gyroHead = m_result.readings[0].head;
-        const auto course = m_trueHead ? m_trueHead : gyroHead;
+        const auto course = m_result.worked.trueHead ? m_result.worked.trueHead : gyroHead;
         if (!speed || !course || !m_result.latitude) return;
         try {
-            m_result.speedError = gyroErrorText(
-                NavFunc113::GyroSpeedError(*course, NavFunc113::Knots(*speed), *m_result.latitude));
+            m_result.worked.speed = NavFunc113::Knots(*speed);
+            m_result.worked.course = course;
+            m_result.worked.speedError =
+                NavFunc113::GyroSpeedError(*course, NavFunc113::Knots(*speed), *m_result.latitude);
+            m_result.speedError = gyroErrorText(*m_result.worked.speedError);
         } catch (const NavFunc113::ArithmeticError&) {
             m_remarks.warn("A gyro does not point so near to the pole");
         }
@@ -239,8 +243,6 @@ private:
     const CompassInput& m_input;
     CompassResult m_result;
     Remarks m_remarks;
-    NavFunc113::Metres m_eye;
-    std::optional<Degrees> m_trueHead;
 };
 
 } // namespace

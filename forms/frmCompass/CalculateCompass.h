@@ -63,6 +63,17 @@ struct CompassResult {                    ///< an empty text blanks the label
     std::optional<CompassVariation> magnetic;
     std::optional<almanac::Crossing> crossing;
     CompassReadings readings; ///< with full precision
+    /// What the bearing was worked from, for the paper.
+    struct Worked {
+        std::optional<almanac::Place> place;
+        std::optional<NavFunc113::Degrees> trueHead;
+        NavFunc113::Metres eye; ///< 0 where nothing was typed
+        NavFunc113::Degrees dip;
+        std::array<std::optional<TrueBearing>, 3> byHorizon; ///< of an amplitude
+        std::optional<NavFunc113::Knots> speed;
+        std::optional<NavFunc113::Degrees> speedError, course; ///< of the gyro, and on which course
+    };
+    Worked worked;
 };
 
 /// Errors of the compasses from the bearing of a body. What cannot be told without an empty box

@@ -2,6 +2,7 @@
 #include "forms/frmCompass/CalculateCourses.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/Instant.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"
 
@@ -60,6 +61,7 @@ private:
         m_gyroError = eastWest(CourseBox::GyroError);
         m_variation = eastWest(CourseBox::Variation);
         m_deviation = m_input.curve ? std::nullopt : eastWest(CourseBox::Deviation);
+        m_distance = number(CourseBox::Distance);
     }
 
     void findHead()
@@ -124,6 +126,14 @@ private:
         if (made.speed > Knots(0)) m_result.track = courseText(made.direction);
         m_result.speed = Format(made.speed, "0.0");
         m_result.triangle = CourseTriangle{ship, m_current, made};
+        tellTime(made.speed);
+    }
+
+    void tellTime(Knots speed)
+    {
+        if (!m_distance || speed <= Knots(0)) return;
+        const auto span = spanOf(NavFunc113::Hours(*m_distance / speed.value()));
+        if (span) m_result.time = spanText(*span);
     }
 
     void tellCompass()
@@ -148,6 +158,7 @@ private:
     Remarks m_remarks;
     PerhapsAngleBox m_course, m_gyroError, m_variation, m_deviation, m_head;
     std::optional<Knots> m_speed;
+    std::optional<double> m_distance; ///< miles
     Degrees m_leeway;
     HorizontalMotion m_current;
 };

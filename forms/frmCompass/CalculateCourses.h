@@ -17,9 +17,19 @@ namespace korvel
 enum class CourseGiven { TrueHead, GyroHead, CompassHead, Track };
 
 /// Places of CourseFields.
-enum class CourseBox { Course, Speed, Leeway, Set, Drift, GyroError, Variation, Deviation };
+enum class CourseBox {
+    Course,
+    Speed,
+    Leeway,
+    Set,
+    Drift,
+    GyroError,
+    Variation,
+    Deviation,
+    Distance
+};
 
-inline constexpr std::array<Field, 8> CourseFields = {{
+inline constexpr std::array<Field, 9> CourseFields = {{
     {"txtCourses(0)", "Course", "Course", "degrees", FieldKind::Figure, "degrees", 0, 360},
     {"txtCourses(1)", "Speed", "Speed through the water", "knots", FieldKind::Figure, "knots", 0,
      100},
@@ -28,12 +38,14 @@ inline constexpr std::array<Field, 8> CourseFields = {{
     {"txtCourses(3)", "Set", "Set of the current", "degrees true", FieldKind::Figure, "degrees", 0,
      360},
     {"txtCourses(4)", "Drift", "Drift of the current", "knots", FieldKind::Figure, "knots", 0, 30},
-    {"txtCourses(5)", "Gyro error", "Gyro error", "degrees", FieldKind::Figure, "degrees", -180,
-     180, "west negative or with a W"},
-    {"txtCourses(6)", "Variation", "Variation", "degrees", FieldKind::Figure, "degrees", -180, 180,
+    {"txtCourses(5)", "Gyro error", "Gyro error", "degrees", FieldKind::Text, "", -180, 180,
      "west negative or with a W"},
-    {"txtCourses(7)", "Deviation", "Deviation", "degrees", FieldKind::Figure, "degrees", -180, 180,
+    {"txtCourses(6)", "Variation", "Variation", "degrees", FieldKind::Text, "", -180, 180,
      "west negative or with a W"},
+    {"txtCourses(7)", "Deviation", "Deviation", "degrees", FieldKind::Text, "", -180, 180,
+     "west negative or with a W"},
+    {"txtCourses(8)", "Distance", "Distance to make good", "nautical miles", FieldKind::Figure,
+     "miles", 0, 25000},
 }};
 
 struct CourseInput {
@@ -61,6 +73,7 @@ struct CourseResult {     ///< an empty text blanks the label
     std::string waterCourse; ///< true, leeway taken in
     std::string track;       ///< made good over the ground, true
     std::string speed;       ///< made good, "12.3"
+    std::string time;        ///< for the distance at that speed, "1 d 02 h 15 m"
     std::string notice;      ///< why labels are blank, and what else is to be said
 
     std::optional<CourseTriangle> triangle;  ///< for the picture; nothing without a speed

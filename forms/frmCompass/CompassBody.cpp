@@ -2,6 +2,7 @@
 #include "forms/frmCompass/CompassBody.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"
 #include "navlib/compass.h"
@@ -73,6 +74,15 @@ std::optional<almanac::Crossing> crossingNear(almanac::Body body, NavFunc113::Da
             nearest = crossing;
     }
     return nearest;
+}
+
+std::optional<almanac::Body> bodyOfBox(std::string_view box)
+{
+    std::string name = asciiForms(box);
+    name.erase(name.find_last_not_of(" \t") + 1);
+    name.erase(0, name.find_first_not_of(" \t"));
+    if (name.empty()) return almanac::Body::Sun;
+    return almanac::findBody(name);
 }
 
 std::string bodyInSentence(almanac::Body body)

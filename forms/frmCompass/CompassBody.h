@@ -8,6 +8,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace korvel
 {
@@ -48,6 +49,11 @@ std::optional<almanac::Crossing> crossingNear(almanac::Body body, NavFunc113::Da
                                               const almanac::Observer& observer,
                                               const almanac::AltitudeWanted& wanted,
                                               AmplitudeSide side);
+
+/// Body that a box names: its name in any letters, or the number of a star; the Sun when the box is
+/// empty. Full-width forms are read like plain ones.
+/// @return nothing for what is not in the almanac
+std::optional<almanac::Body> bodyOfBox(std::string_view box);
 
 /// "the Sun", "the Moon", "Venus", "Arcturus".
 std::string bodyInSentence(almanac::Body body);

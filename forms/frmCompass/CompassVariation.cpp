@@ -14,6 +14,14 @@ std::string CompassVariation::text() const
     return value + " ±" + Format(*uncertainty, "0.0") + " (" + source + ")";
 }
 
+const almanac::MagneticModel& modelFor(const almanac::MagneticModel& chosen,
+                                       NavFunc113::DateTime ut)
+{
+    const double year = almanac::decimalYear(ut);
+    const bool holds = year >= chosen.firstYear() && year <= chosen.lastYear();
+    return holds ? chosen : almanac::MagneticModel::ofProgram();
+}
+
 std::optional<CompassVariation> variationOf(const almanac::MagneticModel& model,
                                             NavFunc113::DateTime ut, NavFunc113::Degrees latitude,
                                             NavFunc113::Degrees longitude, Remarks& remarks)

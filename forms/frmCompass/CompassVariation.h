@@ -19,6 +19,10 @@ struct CompassVariation {
     std::string text() const; ///< "8.0 E", "8.0 E ±0.4 (WMM-2025)"
 };
 
+/// The edition to go by: the one that was chosen where it holds for the time, else the program's.
+const almanac::MagneticModel& modelFor(const almanac::MagneticModel& chosen,
+                                       NavFunc113::DateTime ut);
+
 /// Variation of a model at sea level.
 /// @param remarks what makes the compass doubtful there; why there is none
 /// @return nothing beyond the years of the model

@@ -111,6 +111,16 @@ std::string doubtAbout(const CompassLine& line, const CompassBook& before, Count
     return remarks.text();
 }
 
+std::string besideCurve(const NavFunc113::DeviationFit& fit, const CompassReading& reading)
+{
+    if (!reading.head || !reading.deviation) return {};
+    const Degrees ofCurve = fit.coefficients().at(*reading.head);
+    const Degrees off = fabs(*reading.deviation - ofCurve);
+    const bool fits = off <= fit.tolerance(*reading.head);
+    return "Curve " + eastWestText(ofCurve) + " on " + headText(*reading.head) + ": " +
+           (fits ? "fits" : Format(off, "0.0°") + " off");
+}
+
 std::vector<std::array<std::string, 3>> deviationCard(const DeviationCurve& curve)
 {
     std::vector<std::array<std::string, 3>> rows;

@@ -38,6 +38,10 @@ DeviationCurve deviationCurve(const CompassBook& book, CompassKind kind, CountsS
 /// before it; empty when nothing is.
 std::string doubtAbout(const CompassLine& line, const CompassBook& before, CountsSince since = {});
 
+/// A deviation beside the curve of the book: "Curve 0.5 W on 082: fits"; how far off it is where it
+/// lies beyond the tolerance; empty without a deviation and a head.
+std::string besideCurve(const NavFunc113::DeviationFit& fit, const CompassReading& reading);
+
 /// The deviation card: by the compass's own head, every 15 degrees, and the magnetic head.
 /// @return rows of head, deviation, magnetic head; none without a curve
 std::vector<std::array<std::string, 3>> deviationCard(const DeviationCurve& curve);

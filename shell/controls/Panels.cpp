@@ -3,6 +3,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QPainter>
 #include <QStyle>
 
 namespace korvel
@@ -13,6 +14,42 @@ namespace
 constexpr int denseGap = 4;
 constexpr int framelessGap = 18;
 constexpr QMargins denseMargins(6, 1, 6, 1);
+
+class SectionHead : public QLabel
+{
+public:
+    explicit SectionHead(const QString& text) : QLabel(text)
+    {
+        QFont bold = font();
+        bold.setBold(true);
+        setFont(bold);
+        setContentsMargins(0, 0, 0, underHead);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QLabel::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(hairline());
+        painter.drawLine(0, height() - 1, width(), height() - 1);
+    }
+
+private:
+    static constexpr int underHead = 4;
+
+    /// Of the colour of text, and much nearer to the ground.
+    QColor hairline() const
+    {
+        const QColor ground = palette().color(QPalette::Window);
+        const QColor ink = palette().color(QPalette::WindowText);
+        const auto mixed = [](float a, float b) { return a + (b - a) / 4; };
+        return QColor::fromRgbF(mixed(ground.redF(), ink.redF()),
+                                mixed(ground.greenF(), ink.greenF()),
+                                mixed(ground.blueF(), ink.blueF()));
+    }
+};
 
 int gapOf(const QLayout& layout, QStyle::PixelMetric which)
 {
@@ -56,6 +93,11 @@ QLabel* panelTitle(const QString& text)
     bold.setBold(true);
     title->setFont(bold);
     return title;
+}
+
+QLabel* sectionHead(const QString& text)
+{
+    return new SectionHead(text);
 }
 
 QLabel* columnHead(const QString& text, Qt::Alignment side)

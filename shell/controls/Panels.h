@@ -27,6 +27,9 @@ void layOutLines(QGridLayout& grid);
 /// A title over figures that have no frame.
 QLabel* panelTitle(const QString& text);
 
+/// A title over a hairline, as wide as what it stands over.
+QLabel* sectionHead(const QString& text);
+
 /// The name of a column, at the side where its figures stand.
 QLabel* columnHead(const QString& text, Qt::Alignment side = Qt::AlignLeft);
 

@@ -47,6 +47,7 @@ void MainMenus::addCalculators(const WindowCatalogue& catalogue)
     menus["mnuCONV"] = addMenu(menus["mnuTide"]->addMenu("&Conversion"), "mnuCONV");
     int key = 0;
     for (const CatalogueEntry& window : catalogue) {
+        if (window.isBehindLine) menus.at(window.menu)->addSeparator();
         QAction* entry = addEntry(menus.at(window.menu), window.entryName(), window.caption,
                                   [this, name = window.name] { m_actions.openWindow(name); });
         entry->setCheckable(true);

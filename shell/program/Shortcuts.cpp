@@ -86,6 +86,7 @@ void addKeys(QWidget& window, Program& program)
 QString windowKey(const QString& name, int index)
 {
     if (name == "frmTIDE") return "Ctrl+T";
+    if (name == "frmCompass") return "Ctrl+B"; // bearings
     return index < 9 ? QString("Ctrl+%1").arg(index + 1) : QString();
 }
 

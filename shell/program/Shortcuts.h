@@ -34,7 +34,7 @@ void addShortcuts(QMenu& menu, Program& program, QWidget& window, bool isMain);
 void addKeys(QWidget& window, Program& program);
 
 /// The key of a window, the nth of the catalogue, from 0: "Ctrl+1" .. "Ctrl+9", "Ctrl+T" for the
-/// tide; empty for the rest.
+/// tide, "Ctrl+B" for the compass; empty for the rest.
 QString windowKey(const QString& name, int index);
 
 } // namespace korvel

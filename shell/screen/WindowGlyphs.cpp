@@ -146,6 +146,16 @@ void drawTide(QPainter& p, const Pens& pens)
     p.drawPath(wave);
 }
 
+/// A compass card with its needle.
+void drawCompass(QPainter& p, const Pens& pens)
+{
+    p.setPen(pens.ink);
+    p.drawEllipse(QPointF(8, 8), 5.5, 5.5);
+    p.drawLine(QPointF(8, 13.5), QPointF(8, 11.5));
+    p.setPen(pens.colour);
+    p.drawPolygon(QPolygonF{{11, 4.5}, {9.2, 9}, {5, 11.5}, {6.8, 7}});
+}
+
 Draw glyphOf(const QString& window)
 {
     static const std::map<QString, Draw> glyphs = {
@@ -156,7 +166,7 @@ Draw glyphOf(const QString& window)
         {"frmCRUDE", drawDrop},       {"frmLength", drawRule},
         {"frmVolume", drawRule},      {"frmArea", drawRule},
         {"frmWeight", drawRule},      {"frmPressure", drawRule},
-        {"frmTIDE", drawTide},
+        {"frmTIDE", drawTide},        {"frmCompass", drawCompass},
     };
     const auto glyph = glyphs.find(window);
     return glyph == glyphs.end() ? nullptr : glyph->second;

@@ -242,12 +242,32 @@ void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed
             setTextColour(label, m_program.colours().dimmed);
         } else {
             m_dimmed.erase(label);
-            resetTextColour(label);
+            giveOwnColour(label);
         }
         // Seen without colours too.
         QFont letters = label->font();
         letters.setItalic(dimmed);
         label->setFont(letters);
+    }
+}
+
+void CalculatorWindow::giveOwnColour(QLabel* label)
+{
+    if (m_answers.contains(label))
+        setTextColour(label, m_program.colours().route);
+    else
+        resetTextColour(label);
+}
+
+void CalculatorWindow::setAnswers(const std::vector<ResultLabel*>& labels)
+{
+    constexpr double larger = 1.9; // than captions
+    for (ResultLabel* label : labels) {
+        QFont letters = label->font();
+        letters.setPointSizeF(font().pointSizeF() * larger);
+        letters.setWeight(QFont::DemiBold);
+        label->setFont(letters);
+        m_answers.insert(label);
     }
 }
 
@@ -259,6 +279,8 @@ void CalculatorWindow::applyColours()
         setTextColour(box->echo(), colours.echo);
     for (PictureBox* picture : findChildren<PictureBox*>())
         picture->setColours(colours);
+    for (QLabel* label : m_answers)
+        giveOwnColour(label);
     for (QLabel* label : m_dimmed)
         setTextColour(label, colours.dimmed);
 }

@@ -135,6 +135,8 @@ protected:
     /// Shows results dimmed while they do not belong to the inputs any more.
     void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
     bool isDimmed(QLabel* label) const { return m_dimmed.contains(label); }
+    /// Shows these results as what the window is for: large, in the colour of its main line.
+    void setAnswers(const std::vector<ResultLabel*>& labels);
     /// Applies the colour scheme to controls with colours of their own; call the base first.
     virtual void applyColours();
 
@@ -148,6 +150,7 @@ private:
     void sayThatItIsFull(const EntryBox& box);
     void openPaper();
     void letResultsBeStored();
+    void giveOwnColour(QLabel* label);
     void storeInMemo(const QString& figure);
     void fit();
     void placeStrip();
@@ -164,6 +167,7 @@ private:
     QPointer<PaperWindow> m_paperWindow;
     std::vector<FieldBoxes> m_fields;
     std::vector<ResultLabel*> m_labels;
+    std::set<QLabel*> m_answers;
     std::set<QLabel*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
     FollowingScrollArea* m_strip = nullptr;

@@ -88,6 +88,38 @@ TEST(Deviation, blundersAreFoundAndReadingErrorsAreNot)
         << "six points cannot tell";
 }
 
+/// What the shortcut through the fit of all points finds, one fit for every point finds.
+TEST(Deviation, blundersAreThoseOfOneFitForEachPoint)
+{
+    auto points = swing(25, 0.4);
+    points[2].deviation += Degrees(3.1);
+    points[7].deviation -= Degrees(4.5);
+    std::size_t worst = 0;
+    double excess = 1;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        auto others = points;
+        others.erase(others.begin() + static_cast<std::ptrdiff_t>(i));
+        const auto fit = DeviationFit::of(others);
+        ASSERT_TRUE(fit);
+        const Degrees heading = points[i].heading;
+        const double ratio =
+            fabs(points[i].deviation - fit->coefficients().at(heading)) / fit->tolerance(heading);
+        if (ratio > excess) worst = i;
+        excess = std::max(excess, ratio);
+    }
+    EXPECT_EQ(worst, 7u);
+    EXPECT_THAT(Blunders(points), ElementsAre(2u, 7u));
+    // With the last of them alone just beyond its tolerance, and just within.
+    for (const double nearly : {0.999, 1.001}) {
+        auto swung = swing(25);
+        auto others = swung;
+        others.erase(others.begin() + 5);
+        const Degrees edge = DeviationFit::of(others)->tolerance(swung[5].heading);
+        swung[5].deviation += nearly * edge;
+        EXPECT_THAT(Blunders(swung), ::testing::SizeIs(nearly > 1 ? 1u : 0u));
+    }
+}
+
 TEST(Deviation, headingByCompassIsTheWayBack)
 {
     for (int heading = 0; heading < 360; heading += 5) {

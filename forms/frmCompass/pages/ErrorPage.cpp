@@ -1,0 +1,394 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCompass/pages/ErrorPage.h"
+
+#include "forms/frmCompass/CompassTexts.h"
+#include "shell/controls/Panels.h"
+#include "shell/controls/WrappingRow.h"
+#include "shell/machine/AsQString.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr int columnGap = 24;
+constexpr int groupGap = 16;
+constexpr int rowGap = 4;
+
+constexpr std::array<Field, 2> bookFields = {{
+    {"txtBook(0)", "B&y", "By whom the bearing was taken", FieldKind::Text},
+    {"txtBook(1)", "Remar&k", "Remark for the book", FieldKind::Text},
+}};
+
+constexpr const char* widestBox = "0000/00/00 00:00:00 0";
+
+/// Places of resultsOfError.
+enum : std::size_t {
+    True,
+    GyroError,
+    StandardError,
+    StandardDeviation,
+    SteeringError,
+    SteeringDeviation,
+    StandardCurve,
+    SteeringCurve,
+    Altitude,
+    Change,
+    RiseOrSet,
+    Celestial,
+    VisibleCentre,
+    UpperLimb,
+    TrueHead,
+    Variation,
+    SpeedError
+};
+
+struct ErrorLabel {
+    const char* words;
+    const char* widest;
+};
+constexpr std::array<ErrorLabel, 17> resultsOfError = {{
+    {"True bearing, degrees true", "<000.0>"},
+    {"Gyro error", "000.0 W (high)"},
+    {"Error of the standard compass", "000.0 W"},
+    {"Deviation of the standard compass", "000.0 W"},
+    {"Error of the steering compass", "000.0 W"},
+    {"Deviation of the steering compass", "000.0 W"},
+    {"Standard compass beside the curve of the book", "Curve 00.0 W on 000: 00.0° off"},
+    {"Steering compass beside the curve of the book", "Curve 00.0 W on 000: 00.0° off"},
+    {"Altitude of the body", "-00°00.0'"},
+    {"Change of the bearing in a minute", "-000.00°"},
+    {"Rise or set", "Rise 0000/00/00 00:00:00 UTC"},
+    {"Bearing with the centre on the celestial horizon", "<000.0>"},
+    {"Bearing with the centre on the visible horizon", "<000.0>"},
+    {"Bearing with the upper limb on the visible horizon", "<000.0>"},
+    {"True head", "<000.0>"},
+    {"Variation used", "000.0 W ±000.0 (WMM-0000)"},
+    {"Speed error of the gyro", "000.0 W (high)"},
+}};
+
+QGridLayout* newGrid()
+{
+    auto* grid = new QGridLayout;
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(rowGap);
+    return grid;
+}
+
+} // namespace
+
+ErrorPage::ErrorPage(QWidget* parent)
+    : ScrolledBody(parent), m_txtCompass(CompassFields, this), m_txtBook(bookFields, this)
+{
+    makeControls();
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(columnGap);
+    grid->setVerticalSpacing(groupGap);
+    grid->addLayout(layOutObservation(), 0, 0);
+    grid->addLayout(layOutBearings(), 0, 1);
+    grid->addLayout(layOutRecord(), 1, 0, 1, 2);
+    grid->addLayout(layOutAnswers(), 2, 0, 1, 2);
+    grid->addLayout(layOutDetails(), 3, 0, 1, 2);
+    grid->setRowStretch(4, 1);
+    grid->setColumnStretch(1, 1);
+}
+
+void ErrorPage::makeControls()
+{
+    box(CompassBox::Body)->setPlaceholderText("Sun");
+    m_optClock = new Options(this, "optClock",
+                             {{"UTC", "The time is UTC"}, {"SMT", "The time is ship's mean time"}});
+    m_optMethod =
+        new Options(this, "optMethod",
+                    {{"Azimuth", "Bearing by azimuth"}, {"Amplitude", "Bearing by amplitude"}});
+    m_optVariation = new Options(
+        this, "optVariation",
+        {{"by the model", "Variation by the model"}, {"as typed", "Variation as typed"}});
+    QStringList horizons;
+    for (const char* name : amplitudeHorizonNames)
+        horizons << name;
+    m_cboHorizon = makeList(this, "cboHorizon", "Where the body stood", horizons);
+    m_cboSide = makeList(this, "cboSide", "Rise or set", {"nearest in time", "rising", "setting"});
+    m_cmdNow = makeButton(this, "cmdNow", "&Now (F5)", "The present time into the box");
+    m_cmdRecord = makeButton(this, "cmdRecord", "Recor&d (F6)", "Keeps the line in the book");
+    for (const auto& [words, widest] : resultsOfError) {
+        const QString name = memberName("lblCompass", static_cast<int>(m_lblCompass.size()));
+        m_lblCompass.push_back(makeResult(this, name.toLatin1(), words, widest));
+    }
+    for (const std::size_t remark : {StandardCurve, SteeringCurve})
+        m_lblCompass[remark]->setFont(font());
+    for (Options* each : {m_optClock, m_optMethod, m_optVariation})
+        connect(each, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
+            if (!chosen) return;
+            showChoices();
+            emit choiceChanged();
+        });
+    for (QComboBox* each : {m_cboHorizon, m_cboSide})
+        connect(each, &QComboBox::currentIndexChanged, this, &ErrorPage::choiceChanged);
+    // A variation that is recalled from a memory is one that counts.
+    connect(box(CompassBox::Variation), &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (!text.isEmpty()) m_optVariation->choose(1);
+    });
+    connect(m_cmdNow, &QPushButton::clicked, this, &ErrorPage::nowAsked);
+    connect(m_cmdRecord, &QPushButton::clicked, this, &ErrorPage::recordAsked);
+    showChoices();
+}
+
+EntryBox* ErrorPage::box(CompassBox which) const
+{
+    return m_txtCompass[static_cast<std::size_t>(which)];
+}
+
+QLayout* ErrorPage::layOutObservation()
+{
+    auto* grid = newGrid();
+    grid->addWidget(sectionHead("Observation"), 0, 0, 1, 3);
+    int row = 1;
+    for (const CompassBox which :
+         {CompassBox::Moment, CompassBox::Latitude, CompassBox::Longitude, CompassBox::Body}) {
+        const auto field = static_cast<std::size_t>(which);
+        EntryBox* entry = box(which);
+        entry->setFixedWidth(entry->fontMetrics().horizontalAdvance(widestBox));
+        grid->addWidget(quietLabel(CompassFields[field].caption, entry), row, 0);
+        grid->addWidget(entry, row, 1);
+        if (auto* position = dynamic_cast<PositionBox*>(entry))
+            grid->addWidget(position->echo(), row, 2);
+        ++row;
+    }
+    auto* clock = new QHBoxLayout;
+    clock->addWidget(m_cmdNow);
+    m_optClock->addTo(clock);
+    grid->addLayout(clock, 1, 2);
+    grid->addWidget(quietLabel("name, or number of a star"), 4, 2);
+    auto* method = new QHBoxLayout;
+    m_optMethod->addTo(method);
+    grid->addWidget(quietLabel("Method"), row, 0);
+    grid->addLayout(method, row++, 1, 1, 2);
+    grid->addWidget(quietLabel("It stood with its"), row, 0);
+    grid->addWidget(m_cboHorizon, row++, 1, 1, 2, Qt::AlignLeft);
+    grid->addWidget(quietLabel("Rise or set"), row, 0);
+    grid->addWidget(m_cboSide, row, 1, 1, 2, Qt::AlignLeft);
+    return grid;
+}
+
+QLayout* ErrorPage::layOutBearings()
+{
+    auto* grid = newGrid();
+    grid->addWidget(sectionHead("Bearings and heads"), 0, 0, 1, 4);
+    grid->addWidget(quietLabel("bearing °"), 1, 1);
+    grid->addWidget(quietLabel("head °"), 1, 2);
+    constexpr std::array<const char*, compassCount> rows{"Gyro", "Standard compass",
+                                                         "Steering compass"};
+    const auto narrow = [](EntryBox* entry) {
+        entry->setFixedWidth(entry->fontMetrics().horizontalAdvance("000000000000"));
+        return entry;
+    };
+    int row = 2;
+    for (std::size_t i = 0; i < rows.size(); ++i, ++row) {
+        const auto first = static_cast<std::size_t>(CompassBox::GyroBearing) + 2 * i;
+        grid->addWidget(quietLabel(rows[i], m_txtCompass[first]), row, 0);
+        grid->addWidget(narrow(m_txtCompass[first]), row, 1);
+        grid->addWidget(narrow(m_txtCompass[first + 1]), row, 2);
+    }
+    for (const CompassBox which :
+         {CompassBox::Variation, CompassBox::HeightOfEye, CompassBox::Speed}) {
+        const Field& field = CompassFields[static_cast<std::size_t>(which)];
+        grid->addWidget(quietLabel(field.caption, box(which)), row, 0);
+        grid->addWidget(narrow(box(which)), row, 1);
+        if (which != CompassBox::Variation) grid->addWidget(quietLabel(field.unit), row, 2);
+        ++row;
+    }
+    auto* variation = new QHBoxLayout;
+    m_optVariation->addTo(variation);
+    grid->addLayout(variation, 5, 2, 1, 2);
+    grid->setColumnStretch(3, 1);
+    return grid;
+}
+
+QLayout* ErrorPage::layOutRecord()
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    for (std::size_t i = 0; i < bookFields.size(); ++i) {
+        row->addWidget(quietLabel(bookFields[i].caption, m_txtBook[i]));
+        row->addWidget(m_txtBook[i], i == 0 ? 1 : 3);
+    }
+    m_txtBook[0]->setMinimumWidth(0);
+    row->addWidget(m_cmdRecord);
+    return row;
+}
+
+QLayout* ErrorPage::layOutAnswers()
+{
+    struct Part {
+        const char* head;
+        std::vector<std::pair<const char*, std::size_t>> answers;
+        std::size_t curve;
+    };
+    auto* row = new WrappingRow;
+    row->setGap(columnGap);
+    for (const Part& part : {Part{"True bearing", {{"degrees true", True}}, 0},
+                             Part{"Gyro", {{"error", GyroError}}, 0},
+                             Part{"Standard compass",
+                                  {{"error", StandardError}, {"deviation", StandardDeviation}},
+                                  StandardCurve},
+                             Part{"Steering compass",
+                                  {{"error", SteeringError}, {"deviation", SteeringDeviation}},
+                                  SteeringCurve}}) {
+        auto* grid = newGrid();
+        grid->setHorizontalSpacing(columnGap);
+        int column = 0;
+        for (const auto& [caption, answer] : part.answers) {
+            grid->addWidget(quietLabel(caption), 1, column);
+            grid->addWidget(m_lblCompass[answer], 2, column++);
+        }
+        grid->addWidget(sectionHead(part.head), 0, 0, 1, column);
+        if (part.curve) grid->addWidget(m_lblCompass[part.curve], 3, 0, 1, column);
+        grid->setRowStretch(4, 1);
+        row->addLayout(grid);
+    }
+    row->addStretch();
+    return row;
+}
+
+QLayout* ErrorPage::layOutDetails()
+{
+    auto* row = new WrappingRow;
+    row->setGap(columnGap);
+    const auto part = [&](const char* head,
+                          const std::vector<std::pair<const char*, std::size_t>>& lines) {
+        auto* grid = newGrid();
+        grid->addWidget(sectionHead(head), 0, 0, 1, 2);
+        int line = 1;
+        for (const auto& [caption, label] : lines)
+            addResultLine(grid, line++, caption, m_lblCompass[label]);
+        grid->setRowStretch(line, 1);
+        row->addLayout(grid);
+    };
+    part("Body", {{"Altitude", Altitude}, {"Change a minute", Change}, {"Found", RiseOrSet}});
+    part("Bearing if it stood with its", {{amplitudeHorizonNames[0], Celestial},
+                                          {amplitudeHorizonNames[1], VisibleCentre},
+                                          {amplitudeHorizonNames[2], UpperLimb}});
+    part("Ship",
+         {{"True head", TrueHead}, {"Variation", Variation}, {"Gyro speed error", SpeedError}});
+    row->addStretch();
+    return row;
+}
+
+/// The choices that count with the method and the variation that are chosen.
+void ErrorPage::showChoices()
+{
+    const bool isAmplitude = m_optMethod->chosen() == 1;
+    m_cboHorizon->setEnabled(isAmplitude);
+    m_cboSide->setEnabled(isAmplitude);
+    box(CompassBox::Variation)->setEnabled(m_optVariation->chosen() == 1);
+}
+
+CompassInput ErrorPage::input(NavFunc113::Hours TD, const almanac::MagneticModel& model) const
+{
+    CompassInput typed;
+    typed.txtCompass = m_txtCompass.texts<0, CompassFields.size()>();
+    typed.clock = static_cast<CompassClock>(m_optClock->chosen());
+    typed.TD = TD;
+    typed.method = static_cast<CompassMethod>(m_optMethod->chosen());
+    typed.horizon = static_cast<AmplitudeHorizon>(m_cboHorizon->currentIndex());
+    typed.side = static_cast<AmplitudeSide>(m_cboSide->currentIndex());
+    typed.usesModel = m_optVariation->chosen() == 0;
+    typed.model = &model;
+    return typed;
+}
+
+void ErrorPage::show(const CompassResult& result, const CurveRemarks& curves)
+{
+    const bool isByModel = m_optVariation->chosen() == 0 && result.magnetic;
+    box(CompassBox::Variation)
+        ->setPlaceholderText(isByModel ? asQString(eastWestText(result.magnetic->variation))
+                                       : QString());
+    const auto standard = static_cast<std::size_t>(CompassKind::Standard);
+    const auto steering = static_cast<std::size_t>(CompassKind::Steering);
+    const std::array<const std::string*, resultsOfError.size()> texts{
+        &result.trueBearing,      &result.errors[0],
+        &result.errors[standard], &result.deviations[standard],
+        &result.errors[steering], &result.deviations[steering],
+        &curves[standard],        &curves[steering],
+        &result.altitude,         &result.change,
+        &result.riseOrSet,        &result.byHorizon[0],
+        &result.byHorizon[1],     &result.byHorizon[2],
+        &result.trueHead,         &result.variation,
+        &result.speedError};
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        m_lblCompass[i]->setText(asQString(*texts[i]));
+}
+
+void ErrorPage::setColours(const ColourScheme& colours)
+{
+    tintQuietLabels(*this, colours);
+}
+
+std::vector<ResultLabel*> ErrorPage::results() const
+{
+    return m_lblCompass;
+}
+
+std::vector<ResultLabel*> ErrorPage::answers() const
+{
+    return {m_lblCompass.begin(), m_lblCompass.begin() + StandardCurve};
+}
+
+PageRecord ErrorPage::kept()
+{
+    PageRecord kept{m_txtCompass.all(), {}};
+    kept.boxes.push_back(m_txtBook[0]);
+    kept.boxes.push_back(m_txtBook[1]);
+    kept.choices = {m_optClock->choice(), m_optMethod->choice(), choiceOf(m_cboHorizon),
+                    choiceOf(m_cboSide), m_optVariation->choice()};
+    return kept;
+}
+
+void ErrorPage::fill(const std::array<std::string, CompassFields.size()>& texts)
+{
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        m_txtCompass[i]->setText(asQString(texts[i]));
+}
+
+void ErrorPage::choose(CompassClock clock, CompassMethod method, bool usesModel)
+{
+    m_optClock->choose(static_cast<int>(clock));
+    m_optMethod->choose(static_cast<int>(method));
+    m_optVariation->choose(usesModel ? 0 : 1);
+}
+
+std::vector<PaperFigure> ErrorPage::paperFigures() const
+{
+    std::vector<PaperFigure> figures;
+    const auto add = [&](const FieldBoxes& boxes, std::size_t field) {
+        if (!boxes[field]->text().trimmed().isEmpty()) figures.push_back(boxes.paperFigure(field));
+    };
+    add(m_txtCompass, static_cast<std::size_t>(CompassBox::Moment));
+    figures.push_back({"The time is", isShipsTime() ? "SMT, ship's mean time" : "UTC"});
+    for (std::size_t i = 1; i < m_txtCompass.size(); ++i) {
+        const bool isBody = i == static_cast<std::size_t>(CompassBox::Body);
+        const bool isVariation = i == static_cast<std::size_t>(CompassBox::Variation);
+        if (isVariation && m_optVariation->chosen() == 0)
+            figures.push_back({"Variation", "by the model"});
+        else if (isBody && m_txtCompass[i]->text().trimmed().isEmpty())
+            figures.push_back({"Body", "Sun (nothing entered)"});
+        else
+            add(m_txtCompass, i);
+    }
+    figures.push_back({"Method", m_optMethod->chosen() == 1 ? "amplitude" : "azimuth"});
+    if (m_optMethod->chosen() == 1) {
+        figures.push_back({"Where the body stood", m_cboHorizon->currentText().toStdString()});
+        figures.push_back({"Rise or set", m_cboSide->currentText().toStdString()});
+    }
+    for (std::size_t i = 0; i < m_txtBook.size(); ++i)
+        add(m_txtBook, i);
+    return figures;
+}
+
+} // namespace korvel

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCompass/pages/PageParts.h"
+
+#include "shell/screen/WidgetColours.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr const char* quiet = "quiet"; // property of a label
+
+} // namespace
+
+Options::Options(QWidget* parent, const char* array, const std::vector<Words>& options)
+    : QButtonGroup(parent)
+{
+    for (const auto& [caption, words] : options) {
+        const int id = static_cast<int>(buttons().size());
+        auto* button = new QRadioButton(caption, parent);
+        button->setObjectName(memberName(array, id));
+        button->setAccessibleName(words);
+        addButton(button, id);
+    }
+    button(0)->setChecked(true);
+}
+
+void Options::choose(int option)
+{
+    if (QAbstractButton* chosen = button(option)) chosen->setChecked(true);
+}
+
+void Options::addTo(QHBoxLayout* row) const
+{
+    for (QAbstractButton* each : buttons())
+        row->addWidget(each);
+    row->addStretch();
+}
+
+PageRecord::Choice Options::choice()
+{
+    return {[this] { return chosen(); }, [this](int option) { choose(option); }};
+}
+
+QComboBox* makeList(QWidget* parent, const char* name, const char* words,
+                    const QStringList& choices)
+{
+    auto* list = new QComboBox(parent);
+    list->setObjectName(name);
+    list->setAccessibleName(words);
+    list->addItems(choices);
+    return list;
+}
+
+PageRecord::Choice choiceOf(QComboBox* list)
+{
+    return {[list] { return list->currentIndex(); },
+            [list](int choice) {
+                if (choice >= 0 && choice < list->count()) list->setCurrentIndex(choice);
+            }};
+}
+
+QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption,
+                        const QString& tip)
+{
+    auto* button = new QPushButton(caption, parent);
+    button->setObjectName(name);
+    button->setToolTip(tip);
+    button->setAutoDefault(false);
+    return button;
+}
+
+ResultLabel* makeResult(QWidget* parent, const char* name, const char* words, const char* widest)
+{
+    auto* label = new ResultLabel(parent);
+    label->setObjectName(name);
+    label->setAccessibleName(words);
+    label->setRoom(widest);
+    return label;
+}
+
+QLabel* quietLabel(const QString& text, QWidget* buddy)
+{
+    auto* label = new QLabel(text);
+    label->setProperty(quiet, true);
+    label->setBuddy(buddy);
+    return label;
+}
+
+void tintQuietLabels(QWidget& page, const ColourScheme& colours)
+{
+    for (QLabel* label : page.findChildren<QLabel*>())
+        if (label->property(quiet).toBool()) setTextColour(label, colours.echo);
+}
+
+void addResultLine(QGridLayout* grid, int row, const QString& caption, ResultLabel* label)
+{
+    grid->addWidget(quietLabel(caption), row, 0);
+    grid->addWidget(label, row, 1);
+}
+
+} // namespace korvel

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "shell/controls/FieldBoxes.h"
+#include "shell/screen/ColourScheme.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QPushButton>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+class QHBoxLayout;
+
+/// What the pages of the compass window are made of.
+namespace korvel
+{
+
+/// What a page has the record keep, in its order.
+struct PageRecord {
+    /// A choice of one among some, by its number.
+    struct Choice {
+        std::function<int()> get;
+        std::function<void(int)> set; ///< a number that is none changes nothing
+    };
+    std::vector<EntryBox*> boxes;
+    std::vector<Choice> choices;
+};
+
+/// Options of which one is chosen, as buttons in a row; the first at the start.
+/// @param array   of their names, "optClock"
+/// @param options caption and words for assistive tools
+class Options : public QButtonGroup
+{
+public:
+    using Words = std::pair<const char*, const char*>;
+    Options(QWidget* parent, const char* array, const std::vector<Words>& options);
+
+    int chosen() const { return checkedId(); }
+    void choose(int option);
+    /// Adds the buttons to a row, and what room is left behind them.
+    void addTo(QHBoxLayout* row) const;
+    PageRecord::Choice choice();
+};
+
+QComboBox* makeList(QWidget* parent, const char* name, const char* words,
+                    const QStringList& choices);
+PageRecord::Choice choiceOf(QComboBox* list);
+
+QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption,
+                        const QString& tip);
+
+/// A result with a name and words of its own, as wide as a sample.
+ResultLabel* makeResult(QWidget* parent, const char* name, const char* words, const char* widest);
+
+/// A caption in quiet letters; PageColours tints it.
+QLabel* quietLabel(const QString& text, QWidget* buddy = nullptr);
+/// Gives all quiet labels of a page their colour.
+void tintQuietLabels(QWidget& page, const ColourScheme& colours);
+
+/// A row of a grid: caption, result.
+void addResultLine(QGridLayout* grid, int row, const QString& caption, ResultLabel* label);
+
+} // namespace korvel
