@@ -80,7 +80,8 @@ WindowCatalogue calculatorWindows()
                   Quantity::Pressure),
         withPlaces(window<frmTIDE>("mnuTide", 0, "frmTIDE", "&Tide and tidal stream"),
                    frmTIDE::stationsToGoTo),
-        behindALine(window<frmCompass>("mnuWATCH", 6, "frmCompass", "Compass error")),
+        behindALine(withPlaces(window<frmCompass>("mnuWATCH", 6, "frmCompass", "Compass error"),
+                               frmCompass::pagesToGoTo)),
     };
 }
 

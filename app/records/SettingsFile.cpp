@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/records/SettingsFile.h"
 
-#include "app/reading/Format.h"
+#include "app/records/AsideName.h"
 
 #include <algorithm>
 
@@ -11,17 +11,6 @@ namespace
 {
 
 using Status = FileStore::Content::Status;
-
-/// "KV_ETA.ini" kept aside: "KV_ETA damaged 2026-11-21 1312.ini", numbered when that is taken.
-std::string asideName(FileStore& files, const std::string& name, NavFunc113::DateTime now)
-{
-    const std::size_t ending = std::min(name.rfind('.'), name.size());
-    const std::string stem = name.substr(0, ending) + " damaged " + Format(now, "yyyy-mm-dd hhmm");
-    std::string aside = stem + name.substr(ending);
-    for (int n = 2; files.look(aside).status != Status::Missing; ++n)
-        aside = stem + " " + std::to_string(n) + name.substr(ending);
-    return aside;
-}
 
 } // namespace
 

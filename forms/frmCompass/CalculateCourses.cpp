@@ -110,6 +110,7 @@ private:
     void tell()
     {
         m_result.head = m_head;
+        m_result.worked = {*m_course, m_leeway, m_gyroError, m_variation, {}, {}, {}, m_distance};
         m_result.trueHead = courseText(*m_head);
         if (m_gyroError) m_result.gyroHead = courseText(withinCircle(*m_head - *m_gyroError));
         tellCompass();
@@ -141,13 +142,16 @@ private:
         if (!m_variation) return;
         const Degrees magnetic = withinCircle(*m_head - *m_variation);
         m_result.magneticHead = courseText(magnetic);
+        m_result.worked.magnetic = magnetic;
         if (!m_input.curve && !m_deviation) return;
         try {
             const Degrees head = m_input.curve
                                      ? NavFunc113::CompassHeading(magnetic, *m_input.curve)
                                      : withinCircle(magnetic - *m_deviation);
             m_result.compassHead = courseText(head);
-            m_result.deviation = eastWestText(NavFunc113::WithinHalfTurn(magnetic - head));
+            m_result.worked.compassHead = head;
+            m_result.worked.deviation = NavFunc113::WithinHalfTurn(magnetic - head);
+            m_result.deviation = eastWestText(*m_result.worked.deviation);
         } catch (const NavFunc113::ArithmeticError&) {
             m_remarks.fault("Deviation: the curve is so steep that a course is not one alone");
         }

@@ -76,6 +76,13 @@ struct CourseResult {     ///< an empty text blanks the label
     std::string time;        ///< for the distance at that speed, "1 d 02 h 15 m"
     std::string notice;      ///< why labels are blank, and what else is to be said
 
+    /// What the courses were worked from, with full precision; for the paper.
+    struct Worked {
+        NavFunc113::Degrees course, leeway;
+        std::optional<NavFunc113::Degrees> gyroError, variation, deviation, magnetic, compassHead;
+        std::optional<double> distance; ///< miles
+    };
+    Worked worked;
     std::optional<CourseTriangle> triangle;  ///< for the picture; nothing without a speed
     std::optional<NavFunc113::Degrees> head; ///< true, with full precision
 };

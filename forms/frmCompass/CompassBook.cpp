@@ -27,11 +27,6 @@ std::string errorText(const PerhapsDegrees& error)
     return error ? eastWestText(*error) : "";
 }
 
-std::string degreesFigure(const PerhapsDegrees& angle)
-{
-    return angle ? Format(*angle, "0.0###") : "";
-}
-
 std::string placeText(const CompassLine& line)
 {
     if (!line.latitude) return "";
@@ -76,6 +71,28 @@ std::vector<std::size_t> compassLines(const CompassBook& book, std::optional<Com
     return lines;
 }
 
+std::array<std::string, CompassFields.size()> boxesOf(const CompassLine& line)
+{
+    std::array<std::string, CompassFields.size()> boxes;
+    const auto put = [&boxes](CompassBox which, std::size_t compass, const std::string& text) {
+        boxes[static_cast<std::size_t>(which) + 2 * compass] = text;
+    };
+    const auto degrees = [](const PerhapsDegrees& angle) {
+        return angle ? Format(*angle, "0.0###") : "";
+    };
+    put(CompassBox::Moment, 0, Format(dateTimeOf(line.UTC), "yyyy/mm/dd hh:mm:ss"));
+    if (line.latitude) put(CompassBox::Latitude, 0, packedText(*line.latitude));
+    if (line.longitude) put(CompassBox::Longitude, 0, packedText(*line.longitude));
+    put(CompassBox::Body, 0, line.body);
+    for (std::size_t i = 0; i < compassCount; ++i) {
+        put(CompassBox::GyroBearing, i, degrees(line.readings[i].bearing));
+        put(CompassBox::GyroHead, i, degrees(line.readings[i].head));
+    }
+    if (line.variation && line.isVariationTyped())
+        put(CompassBox::Variation, 0, degrees(*line.variation));
+    return boxes;
+}
+
 CompassLineTexts compassLineTexts(const CompassLine& line)
 {
     CompassLineTexts texts;
@@ -95,34 +112,20 @@ CompassLineTexts compassLineTexts(const CompassLine& line)
     return texts;
 }
 
-ExportTable compassList(const CompassBook& book, const std::vector<std::size_t>& lines)
+std::vector<std::string> rowOfAll(const CompassLineTexts& line)
 {
-    ExportTable list{{"utc", "lat_deg", "lon_deg", "body", "method", "true_bearing_deg",
-                      "variation_deg", "variation_source"},
-                     {}};
-    for (const char* compass : {"gyro", "standard", "steering"})
-        for (const char* figure : {"_bearing_deg", "_head_deg", "_error_deg", "_deviation_deg"})
-            list.headings.push_back(std::string(compass) + figure);
-    list.headings.insert(list.headings.end(), {"observer", "remark"});
-    for (const std::size_t i : lines) {
-        const CompassLine& line = book[i];
-        std::vector<std::string> cells{isoText(line.UTC),
-                                       line.latitude ? Format(*line.latitude, "0.0#####") : "",
-                                       line.longitude ? Format(*line.longitude, "0.0#####") : "",
-                                       line.body,
-                                       line.method == CompassMethod::Amplitude ? "amplitude"
-                                                                               : "azimuth",
-                                       degreesFigure(line.trueBearing),
-                                       degreesFigure(line.variation),
-                                       line.variationSource};
-        for (const CompassReading& reading : line.readings)
-            for (const PerhapsDegrees& angle :
-                 {reading.bearing, reading.head, reading.error, reading.deviation})
-                cells.push_back(degreesFigure(angle));
-        cells.insert(cells.end(), {line.observer, line.remark});
-        list.rows.push_back(std::move(cells));
-    }
-    return list;
+    const auto& [gyro, standard, steering] = line.compasses;
+    return {line.UTC,       line.position,      line.body,      line.trueBearing,
+            line.variation, gyro.error,         standard.error, standard.deviation,
+            steering.error, steering.deviation, line.observer,  line.remark};
+}
+
+std::vector<std::string> rowOfOne(const CompassLineTexts& line, CompassKind kind)
+{
+    const auto& compass = line.compasses[static_cast<std::size_t>(kind)];
+    return {line.UTC,          line.position, line.body,     line.trueBearing,
+            compass.bearing,   compass.head,  compass.error, line.variation,
+            compass.deviation, line.observer, line.remark};
 }
 
 } // namespace korvel

@@ -30,6 +30,7 @@ struct CompassLine {
 
     /// Whether it tells something of a compass.
     bool has(CompassKind kind) const { return at(kind).error.has_value(); }
+    bool isVariationTyped() const { return variationSource == "typed"; }
     const CompassReading& at(CompassKind kind) const
     {
         return readings[static_cast<std::size_t>(kind)];
@@ -50,6 +51,10 @@ std::optional<CompassLine> lineOf(const CompassInput& input, const CompassResult
 /// Indices of the lines that tell something of a compass, or of all; the latest observation first.
 std::vector<std::size_t> compassLines(const CompassBook& book, std::optional<CompassKind> kind);
 
+/// The boxes of an observation as they have the figures of a line; height of eye and speed are no
+/// part of it.
+std::array<std::string, CompassFields.size()> boxesOf(const CompassLine& line);
+
 /// A line as the list and the paper show it; an empty text where there is nothing.
 struct CompassLineTexts {
     std::string UTC; ///< "2008/07/20 04:06"
@@ -66,7 +71,9 @@ struct CompassLineTexts {
 };
 CompassLineTexts compassLineTexts(const CompassLine& line);
 
-/// Lines for other programs: decimal degrees, east and north positive.
-ExportTable compassList(const CompassBook& book, const std::vector<std::size_t>& lines);
+/// The row of a line in a list of all compasses: what is wrong with each.
+std::vector<std::string> rowOfAll(const CompassLineTexts& line);
+/// The row in a list of one compass: what it showed.
+std::vector<std::string> rowOfOne(const CompassLineTexts& line, CompassKind kind);
 
 } // namespace korvel

@@ -92,13 +92,14 @@ DeviationCurve deviationCurve(const CompassBook& book, CompassKind kind, CountsS
     return curve;
 }
 
-std::string doubtAbout(const CompassLine& line, const CompassBook& before, CountsSince since)
+std::string doubtAbout(const CompassLine& line, const CompassBook& before,
+                       const CountsSinceByCompass& since)
 {
     Remarks remarks;
     for (const CompassKind kind : {CompassKind::Standard, CompassKind::Steering}) {
         const CompassReading& reading = line.at(kind);
         if (!reading.head || !reading.deviation) continue;
-        const auto fit = deviationCurve(before, kind, since).fit;
+        const auto fit = deviationCurve(before, kind, since[static_cast<std::size_t>(kind)]).fit;
         if (!fit) continue;
         const Degrees ofCurve = fit->coefficients().at(*reading.head);
         const Degrees off = fabs(*reading.deviation - ofCurve);
@@ -119,6 +120,24 @@ std::string besideCurve(const NavFunc113::DeviationFit& fit, const CompassReadin
     const bool fits = off <= fit.tolerance(*reading.head);
     return "Curve " + eastWestText(ofCurve) + " on " + headText(*reading.head) + ": " +
            (fits ? "fits" : Format(off, "0.0°") + " off");
+}
+
+std::vector<std::array<std::string, 6>> curveLines(const DeviationCurve& curve,
+                                                   const CompassBook& book)
+{
+    std::vector<DeviationCurve::Point> points = curve.points;
+    std::ranges::stable_sort(points, {},
+                             [](const DeviationCurve::Point& point) { return point.at.heading; });
+    std::vector<std::array<std::string, 6>> lines;
+    for (const DeviationCurve::Point& point : points) {
+        const auto onCurve = curve.fit
+                                 ? eastWestText(curve.fit->coefficients().at(point.at.heading))
+                                 : std::string();
+        lines.push_back({courseText(point.at.heading, "000.0"), eastWestText(point.at.deviation),
+                         onCurve, point.residual ? eastWestText(*point.residual) : "",
+                         minuteText(book[point.line].UTC), point.isBlunder ? "left out" : ""});
+    }
+    return lines;
 }
 
 std::vector<std::array<std::string, 3>> deviationCard(const DeviationCurve& curve)

@@ -16,6 +16,8 @@ namespace korvel
 /// Why lines before an instant do not count: a refit, a dry dock, a new adjustment.
 using CountsSince = std::optional<Instant>;
 
+using CountsSinceByCompass = std::array<CountsSince, compassCount>;
+
 struct DeviationCurve {
     struct Point {
         std::size_t line; ///< of the book
@@ -36,11 +38,17 @@ DeviationCurve deviationCurve(const CompassBook& book, CompassKind kind, CountsS
 
 /// What is to be said when a line is recorded that lies too far from the curves of the lines
 /// before it; empty when nothing is.
-std::string doubtAbout(const CompassLine& line, const CompassBook& before, CountsSince since = {});
+std::string doubtAbout(const CompassLine& line, const CompassBook& before,
+                       const CountsSinceByCompass& since = {});
 
 /// A deviation beside the curve of the book: "Curve 0.5 W on 082: fits"; how far off it is where it
 /// lies beyond the tolerance; empty without a deviation and a head.
 std::string besideCurve(const NavFunc113::DeviationFit& fit, const CompassReading& reading);
+
+/// The lines that the curve is about, by head: head, deviation, deviation of the curve, what is
+/// between them, UTC, and whether it was left out.
+std::vector<std::array<std::string, 6>> curveLines(const DeviationCurve& curve,
+                                                   const CompassBook& book);
 
 /// The deviation card: by the compass's own head, every 15 degrees, and the magnetic head.
 /// @return rows of head, deviation, magnetic head; none without a curve

@@ -2,6 +2,7 @@
 #include "forms/frmWind/WindPictureBox.h"
 
 #include "shell/controls/Legend.h"
+#include "shell/controls/VectorArrow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QLineF>
@@ -138,18 +139,7 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
 void WindPictureBox::drawArrow(QPainter& painter, QPointF tail, QPointF head,
                                const QPen& look) const
 {
-    QLineF line(tail, head);
-    const double length = std::min(0.9 * lineHeight(), line.length());
-    if (length < 1) return;
-    const QPointF along = (head - tail) / line.length();
-    const QPointF across(-along.y(), along.x());
-    const QPointF neck = head - along * length;
-    painter.setPen(look);
-    painter.drawLine(tail, neck);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(look.color());
-    painter.drawPolygon(
-        QPolygonF{head, neck + across * length * 0.4, neck - across * length * 0.4});
+    drawVector(painter, tail, head, look, 0.9 * lineHeight());
 }
 
 void WindPictureBox::VectrHyouji(QPainter& painter) const

@@ -15,7 +15,7 @@ namespace korvel
 namespace
 {
 
-constexpr qint64 largestFile = 1 << 20; // the tide's factors up to 2060 stay below it
+constexpr qint64 largestFile = 1 << 24; // a compass book of five years stays below half of it
 
 bool isMissing(const QFileInfo& info)
 {

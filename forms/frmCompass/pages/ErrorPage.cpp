@@ -14,10 +14,6 @@ namespace korvel
 namespace
 {
 
-constexpr int columnGap = 24;
-constexpr int groupGap = 16;
-constexpr int rowGap = 4;
-
 constexpr std::array<Field, 2> bookFields = {{
     {"txtBook(0)", "B&y", "By whom the bearing was taken", FieldKind::Text},
     {"txtBook(1)", "Remar&k", "Remark for the book", FieldKind::Text},
@@ -70,15 +66,6 @@ constexpr std::array<ErrorLabel, 17> resultsOfError = {{
     {"Speed error of the gyro", "000.0 W (high)"},
 }};
 
-QGridLayout* newGrid()
-{
-    auto* grid = new QGridLayout;
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(8);
-    grid->setVerticalSpacing(rowGap);
-    return grid;
-}
-
 } // namespace
 
 ErrorPage::ErrorPage(QWidget* parent)
@@ -87,7 +74,7 @@ ErrorPage::ErrorPage(QWidget* parent)
     makeControls();
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(columnGap);
+    grid->setHorizontalSpacing(pageGap);
     grid->setVerticalSpacing(groupGap);
     grid->addLayout(layOutObservation(), 0, 0);
     grid->addLayout(layOutBearings(), 0, 1);
@@ -231,7 +218,7 @@ QLayout* ErrorPage::layOutAnswers()
         std::size_t curve;
     };
     auto* row = new WrappingRow;
-    row->setGap(columnGap);
+    row->setGap(pageGap);
     for (const Part& part : {Part{"True bearing", {{"degrees true", True}}, 0},
                              Part{"Gyro", {{"error", GyroError}}, 0},
                              Part{"Standard compass",
@@ -241,7 +228,7 @@ QLayout* ErrorPage::layOutAnswers()
                                   {{"error", SteeringError}, {"deviation", SteeringDeviation}},
                                   SteeringCurve}}) {
         auto* grid = newGrid();
-        grid->setHorizontalSpacing(columnGap);
+        grid->setHorizontalSpacing(pageGap);
         int column = 0;
         for (const auto& [caption, answer] : part.answers) {
             grid->addWidget(quietLabel(caption), 1, column);
@@ -259,7 +246,7 @@ QLayout* ErrorPage::layOutAnswers()
 QLayout* ErrorPage::layOutDetails()
 {
     auto* row = new WrappingRow;
-    row->setGap(columnGap);
+    row->setGap(pageGap);
     const auto part = [&](const char* head,
                           const std::vector<std::pair<const char*, std::size_t>>& lines) {
         auto* grid = newGrid();

@@ -16,6 +16,15 @@ constexpr const char* quiet = "quiet"; // property of a label
 
 } // namespace
 
+QGridLayout* newGrid()
+{
+    auto* grid = new QGridLayout;
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(pageGap / 3);
+    grid->setVerticalSpacing(rowGap);
+    return grid;
+}
+
 Options::Options(QWidget* parent, const char* array, const std::vector<Words>& options)
     : QButtonGroup(parent)
 {

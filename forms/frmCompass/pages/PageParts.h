@@ -13,11 +13,20 @@
 #include <utility>
 #include <vector>
 
+class QGridLayout;
 class QHBoxLayout;
 
 /// What the pages of the compass window are made of.
 namespace korvel
 {
+
+/// Pixels between the columns of a page, between its groups, between rows.
+inline constexpr int pageGap = 24;
+inline constexpr int groupGap = 16;
+inline constexpr int rowGap = 4;
+
+/// A grid of captions and boxes or figures, without margins of its own.
+QGridLayout* newGrid();
 
 /// What a page has the record keep, in its order.
 struct PageRecord {

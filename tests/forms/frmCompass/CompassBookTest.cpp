@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCompass/CompassBook.h"
+#include "forms/frmCompass/CompassList.h"
 #include "forms/frmCompass/CompassRecord.h"
 
 #include <gmock/gmock.h>

@@ -74,9 +74,9 @@ TEST(ProgramFolder, readsAtAPosition)
     ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(3) << 30));
     EXPECT_EQ(files.read("huge.txt").status, Status::Unreadable);
     EXPECT_EQ(files.readAt("huge.txt", (std::int64_t(3) << 30) - 2, 9).bytes, std::string(2, '\0'));
-    ASSERT_TRUE(huge.resize(1 << 20));
+    ASSERT_TRUE(huge.resize(1 << 24));
     EXPECT_EQ(files.read("huge.txt").bytes.size(), 1u << 20);
-    ASSERT_TRUE(huge.resize((1 << 20) + 1));
+    ASSERT_TRUE(huge.resize((1 << 24) + 1));
     EXPECT_EQ(files.read("huge.txt").status, Status::Unreadable);
 }
 

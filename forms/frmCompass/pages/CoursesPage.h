@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmCompass/CalculateCourses.h"
+#include "forms/frmCompass/CompassFields.h"
+#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/FollowingScrollArea.h"
+
+class QLayout;
+
+namespace korvel
+{
+
+class CoursesPicture;
+class Program;
+
+/// Courses into each other, and the course through a current.
+class CoursesPage : public ScrolledBody
+{
+    Q_OBJECT
+
+public:
+    CoursesPage(Program& program, QWidget* parent);
+
+    /// The curve of the deviation that is chosen; nothing: as typed.
+    std::optional<CompassKind> curve() const;
+    CourseInput input() const; ///< without its curve
+    void show(const CourseResult& result);
+    void setColours(const ColourScheme& colours);
+
+    EntryBox* box(CourseBox which) const { return m_txtCourses[static_cast<std::size_t>(which)]; }
+    std::vector<EntryBox*> boxes() const { return m_txtCourses.all(); }
+    const std::vector<ResultLabel*>& results() const { return m_lblCourses; }
+    std::vector<ResultLabel*> answers() const;
+    PageRecord kept();
+    std::vector<PaperFigure> paperFigures() const;
+    CoursesPicture& picture() const { return *m_picture; }
+    void clear() { m_txtCourses.clear(0, m_txtCourses.size()); }
+
+signals:
+    void choiceChanged();
+    void errorsAsked();
+
+private:
+    QLayout* layOutCourse();
+    QLayout* layOutCompass();
+    QLayout* layOutResults();
+    void addRow(QGridLayout* grid, int row, CourseBox which) const;
+
+    FieldBoxes m_txtCourses;
+    Options* m_optGiven;
+    QComboBox* m_cboCurve;
+    QPushButton* m_cmdErrors;
+    std::vector<ResultLabel*> m_lblCourses;
+    CoursesPicture* m_picture;
+};
+
+} // namespace korvel

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmCompass/pages/DeviationPage.h"
+
+#include "app/reading/TypedTime.h"
+#include "forms/frmCompass/CompassTexts.h"
+#include "forms/frmCompass/pages/DeviationPicture.h"
+#include "forms/frmCompass/pages/TextTable.h"
+#include "shell/controls/Panels.h"
+#include "shell/machine/AsQString.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace korvel
+{
+namespace
+{
+
+constexpr std::array<Field, 2> sinceFields = {{
+    {"txtSince(0)", "Standard: lines since", "Standard compass: lines since, yyyy/m/d",
+     FieldKind::Moment, "yyyy/m/d"},
+    {"txtSince(1)", "Steering: lines since", "Steering compass: lines since, yyyy/m/d",
+     FieldKind::Moment, "yyyy/m/d"},
+}};
+
+constexpr std::array<TextTable::Column, 6> columns = {{
+    {"Head", "000.0"},
+    {"Deviation", "000.0 W"},
+    {"Curve", "000.0 W"},
+    {"Residual", "000.0 W"},
+    {"UTC", "0000/00/00 00:00"},
+    {"", "left out", false},
+}};
+
+constexpr std::array<const char*, 6> resultWords{"Coefficient A", "Coefficient B",
+                                                 "Coefficient C", "Coefficient D",
+                                                 "Coefficient E", "Scatter of one line"};
+
+} // namespace
+
+DeviationPage::DeviationPage(Program& program, QWidget* parent)
+    : ScrolledBody(parent),
+      m_optDeviation(new Options(this, "optDeviation",
+                                 {{"Standard", "Deviation of the standard compass is shown"},
+                                  {"Steering", "Deviation of the steering compass is shown"}})),
+      m_txtSince(sinceFields, this),
+      m_cmdCard(makeButton(this, "cmdCard", "Print the car&d..",
+                           "The deviation card with its date, by heads of 15 degrees")),
+      m_table(new TextTable(this, "tblDeviation", "Lines that the curve is about, by head")),
+      m_picture(new DeviationPicture(program, this))
+{
+    for (std::size_t i = 0; i < resultWords.size(); ++i) {
+        const QString name = memberName("lblDeviation", static_cast<int>(i));
+        m_lblDeviation.push_back(makeResult(this, name.toLatin1(), resultWords[i], "A 000.0 W"));
+    }
+    auto* left = new QVBoxLayout;
+    left->addWidget(sectionHead("Curve of the lines that were kept"));
+    left->addLayout(layOutChoice());
+    left->addLayout(layOutCoefficients());
+    left->addWidget(m_table, 1);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(pageGap);
+    row->addLayout(left);
+    row->addWidget(m_picture, 1);
+    m_table->showRows(columns, 0, {});
+    connect(m_optDeviation, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
+        if (chosen) emit compassChosen();
+    });
+    connect(m_cmdCard, &QPushButton::clicked, this, &DeviationPage::cardAsked);
+}
+
+QLayout* DeviationPage::layOutChoice()
+{
+    auto* grid = new QGridLayout;
+    auto* options = new QHBoxLayout;
+    m_optDeviation->addTo(options);
+    grid->addWidget(quietLabel("Compass"), 0, 0);
+    grid->addLayout(options, 0, 1);
+    grid->addWidget(m_cmdCard, 0, 2);
+    for (std::size_t i = 0; i < sinceFields.size(); ++i) {
+        const int row = static_cast<int>(i) + 1;
+        EntryBox* box = m_txtSince[i];
+        box->setFixedWidth(box->fontMetrics().horizontalAdvance("0000/00/00 00:00 0"));
+        grid->addWidget(quietLabel(sinceFields[i].caption, box), row, 0);
+        grid->addWidget(box, row, 1);
+        grid->addWidget(quietLabel("a refit, a dry dock, an adjustment"), row, 2);
+    }
+    grid->setColumnStretch(2, 1);
+    return grid;
+}
+
+QLayout* DeviationPage::layOutCoefficients()
+{
+    auto* row = new QHBoxLayout;
+    row->setSpacing(pageGap / 2);
+    for (std::size_t i = 0; i + 1 < m_lblDeviation.size(); ++i)
+        row->addWidget(m_lblDeviation[i]);
+    row->addWidget(quietLabel("scatter"));
+    row->addWidget(m_lblDeviation.back());
+    row->addStretch();
+    return row;
+}
+
+CompassKind DeviationPage::kind() const
+{
+    return m_optDeviation->chosen() == 1 ? CompassKind::Steering : CompassKind::Standard;
+}
+
+CountsSinceByCompass DeviationPage::since(Remarks& remarks) const
+{
+    CountsSinceByCompass since;
+    for (std::size_t i = 0; i < m_txtSince.size(); ++i) {
+        const std::string typed = m_txtSince[i]->value();
+        if (isBlankBox(typed)) continue;
+        const TypedTime time = readTypedTime(typed, Due::Date);
+        if (time.value) since[i + 1] = instantOf(*time.value);
+        if (!time.remark.empty())
+            remarks.fault(nameInWords(sinceFields[i]).toStdString() + ": " + time.remark);
+    }
+    return since;
+}
+
+void DeviationPage::show(const DeviationCurve& curve, const CompassBook& book)
+{
+    for (std::size_t i = 0; i < curve.coefficients.size(); ++i)
+        m_lblDeviation[i]->setText(asQString(curve.coefficients[i]));
+    m_lblDeviation.back()->setText(asQString(curve.scatter));
+    m_lines = curveLines(curve, book);
+    m_table->showRows(columns, m_lines.size(), [this](std::size_t row, std::size_t column) {
+        return asQString(m_lines[row][column]);
+    });
+    m_cmdCard->setEnabled(curve.fit.has_value());
+    m_picture->showCurve(curve);
+}
+
+void DeviationPage::showInHand(const CompassReading& reading)
+{
+    if (reading.head && reading.deviation)
+        m_picture->showInHand(NavFunc113::DeviationPoint{*reading.head, *reading.deviation});
+    else
+        m_picture->showInHand({});
+}
+
+void DeviationPage::setColours(const ColourScheme& colours)
+{
+    tintQuietLabels(*this, colours);
+    m_picture->update();
+}
+
+PageRecord DeviationPage::kept()
+{
+    return {m_txtSince.all(), {m_optDeviation->choice()}};
+}
+
+std::vector<PaperFigure> DeviationPage::paperFigures() const
+{
+    const auto shown = static_cast<std::size_t>(kind());
+    PaperFigure since = m_txtSince.paperFigure(shown - 1);
+    since.name = "Lines since";
+    if (since.shown.empty() && m_txtSince[shown - 1]->text().isEmpty())
+        since.value = "the beginning of the book";
+    return {{"Compass", compassNames[shown]}, since};
+}
+
+} // namespace korvel

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/reading/Remarks.h"
+#include "forms/frmCompass/DeviationCurve.h"
+#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/FollowingScrollArea.h"
+
+class QLayout;
+
+namespace korvel
+{
+
+class DeviationPicture;
+class Program;
+class TextTable;
+
+/// The deviation of a magnetic compass as the lines of the book have it.
+class DeviationPage : public ScrolledBody
+{
+    Q_OBJECT
+
+public:
+    DeviationPage(Program& program, QWidget* parent);
+
+    /// The compass that is shown.
+    CompassKind kind() const;
+    /// From when on the lines of each compass count.
+    CountsSinceByCompass since(Remarks& remarks) const;
+
+    void show(const DeviationCurve& curve, const CompassBook& book);
+    void showInHand(const CompassReading& reading);
+    void setColours(const ColourScheme& colours);
+
+    std::vector<EntryBox*> boxes() const { return m_txtSince.all(); }
+    const std::vector<ResultLabel*>& results() const { return m_lblDeviation; }
+    PageRecord kept();
+    std::vector<PaperFigure> paperFigures() const;
+    DeviationPicture& picture() const { return *m_picture; }
+
+signals:
+    void compassChosen();
+    void cardAsked();
+
+private:
+    QLayout* layOutChoice();
+    QLayout* layOutCoefficients();
+
+    Options* m_optDeviation;
+    FieldBoxes m_txtSince;
+    std::vector<ResultLabel*> m_lblDeviation;
+    QPushButton* m_cmdCard;
+    TextTable* m_table;
+    DeviationPicture* m_picture;
+    std::vector<std::array<std::string, 6>> m_lines;
+};
+
+} // namespace korvel
