@@ -54,6 +54,8 @@ struct CompassResult {                    ///< an empty text blanks the label
     std::array<std::string, 3> byHorizon; ///< bearing on each horizon, of an amplitude
     std::array<std::string, compassCount> errors; ///< gyro error, "1.2 W (high)"; others "3.1 E"
     std::array<std::string, compassCount> deviations; ///< for this head; none of the gyro
+    /// Beside the curves of the book, "Curve 0.5 W on 082: fits"; by whoever knows the book.
+    std::array<std::string, compassCount> besideCurves;
     std::string notice; ///< why labels are blank, and what else is to be said
 
     std::optional<NavFunc113::DateTime> ut;

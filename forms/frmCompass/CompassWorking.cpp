@@ -166,10 +166,7 @@ private:
 class ErrorWorking
 {
 public:
-    ErrorWorking(const CompassInput& input, const CompassResult& result, const CurveRemarks& curves)
-        : m_input(input), m_result(result), m_curves(curves)
-    {
-    }
+    explicit ErrorWorking(const CompassResult& result) : m_result(result) {}
 
     Working working()
     {
@@ -228,10 +225,10 @@ private:
                        shown(*reading.deviation), "°");
         m_working.resultStep(name + ", deviation", "to a tenth of a degree",
                              m_result.deviations[i]);
-        if (!m_curves[i].empty())
+        if (!m_result.besideCurves[i].empty())
             m_working.resultStep(name + ", beside the book",
                                  "A + B sin C + C cos C + D sin 2C + E cos 2C of the kept lines",
-                                 m_curves[i]);
+                                 m_result.besideCurves[i]);
     }
 
     /// What brings a difference within half a turn.
@@ -271,18 +268,15 @@ private:
                              m_result.speedError);
     }
 
-    const CompassInput& m_input;
     const CompassResult& m_result;
-    const CurveRemarks& m_curves;
     Working m_working;
 };
 
 } // namespace
 
-std::vector<Working> compassWorkings(const CompassInput& input, const CompassResult& result,
-                                     const CurveRemarks& curves)
+std::vector<Working> compassWorkings(const CompassInput& input, const CompassResult& result)
 {
-    return {BearingWorking(input, result).working(), ErrorWorking(input, result, curves).working()};
+    return {BearingWorking(input, result).working(), ErrorWorking(result).working()};
 }
 
 std::vector<std::string> compassLimits(const CompassInput& input, const CompassResult& result)

@@ -50,8 +50,8 @@ frmCompass::frmCompass(Program& program)
     readModel();
     useRecord();
     m_book->load();
-    setAnswers(m_error->answers());
-    setAnswers(m_courses->answers());
+    for (const auto& results : {m_error->results(), m_courses->results()})
+        setAnswers(results);
     loadSettings();
     m_book->show();
     calculations().run(m_deviationCalculation);
@@ -200,9 +200,9 @@ void frmCompass::useRecord()
         kept.boxes.insert(kept.boxes.end(), each.boxes.begin(), each.boxes.end());
         kept.choices.insert(kept.choices.end(), each.choices.begin(), each.choices.end());
     }
-    std::vector<Kind> kinds = recordKinds(kept.boxes);
-    kinds.insert(kinds.begin(), Kind::Text);
-    kinds.insert(kinds.end(), kept.choices.size(), Kind::Number);
+    std::vector<FieldKind> kinds = recordKinds(kept.boxes);
+    kinds.insert(kinds.begin(), FieldKind::Text);
+    kinds.insert(kinds.end(), kept.choices.size(), FieldKind::Number);
     record().use(
         "KV_Compass Error.ini", std::move(kinds),
         [kept] {
@@ -231,8 +231,7 @@ void frmCompass::runError()
 {
     m_found = {};
     m_found = CalculateCompass(errorInput());
-    m_error->show(m_found, besideCurves());
-    m_deviation->showInHand(m_found.readings[static_cast<std::size_t>(m_deviation->kind())]);
+    showErrors();
     refuse({});
     setNotice("3 doubt~", {});
     setNotice("1 error", asQString(m_found.notice), levelBeside(m_found.seen.has_value()));
@@ -247,12 +246,14 @@ void frmCompass::cmdNow_Click()
     m_error->box(CompassBox::GyroBearing)->setFocus(Qt::TabFocusReason);
 }
 
-CurveRemarks frmCompass::besideCurves() const
+/// The errors as found, and what the curves of the book say beside them.
+void frmCompass::showErrors()
 {
-    CurveRemarks remarks;
     for (std::size_t i = 0; i < compassCount; ++i)
-        if (m_curves[i].fit) remarks[i] = besideCurve(*m_curves[i].fit, m_found.readings[i]);
-    return remarks;
+        m_found.besideCurves[i] =
+            m_curves[i].fit ? besideCurve(*m_curves[i].fit, m_found.readings[i]) : std::string();
+    m_error->show(m_found);
+    m_deviation->showInHand(m_found.readings[static_cast<std::size_t>(m_deviation->kind())]);
 }
 
 const DeviationCurve& frmCompass::shownCurve() const
@@ -269,9 +270,8 @@ void frmCompass::runDeviation()
         m_curves[index] = deviationCurve(m_book->book(), kind, m_since[index]);
     }
     m_deviation->show(shownCurve(), m_book->book());
-    m_deviation->showInHand(m_found.readings[static_cast<std::size_t>(m_deviation->kind())]);
     setNotice("4 since", asQString(remarks.text()), NoticeLevel::Fault);
-    m_error->show(m_found, besideCurves());
+    showErrors();
     pageTurned();
     if (m_courses->curve()) calculations().run(m_courseCalculation);
 }
@@ -372,7 +372,7 @@ void frmCompass::tellError(WorkingPaper& paper) const
     paper.inputs = m_error->paperFigures();
     for (const ResultLabel* label : m_error->results())
         if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
-    paper.workings = compassWorkings(input, m_found, besideCurves());
+    paper.workings = compassWorkings(input, m_found);
     paper.limits = compassLimits(input, m_found);
     if (m_found.latitude && m_found.longitude)
         paper.place =

@@ -51,7 +51,7 @@ private:
 
     CompassInput errorInput() const;
     void runError();
-    CurveRemarks besideCurves() const;
+    void showErrors();
     void runDeviation();
     void runCourses();
     void tellError(WorkingPaper& paper) const;

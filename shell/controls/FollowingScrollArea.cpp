@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QScrollBar>
+#include <QShowEvent>
 
 #include <algorithm>
 
@@ -85,6 +86,18 @@ void FollowingScrollArea::resizeEvent(QResizeEvent* event)
     if (!m_isFoldedByHand) foldFor(width());
     placeHeading();
     follow(QApplication::focusWidget());
+}
+
+/// What the groups need side by side may be another width than when they last stood so: the letters
+/// of a page that nobody saw were sized meanwhile.
+void FollowingScrollArea::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    if (!m_fold || m_isFoldedByHand || event->spontaneous()) return;
+    foldFor(QWIDGETSIZE_MAX);
+    settleLayouts(*widget());
+    foldFor(width());
+    settleLayouts(*widget());
 }
 
 /// Of a heading that wraps as its table does.

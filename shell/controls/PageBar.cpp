@@ -3,6 +3,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyle>
@@ -41,8 +42,9 @@ protected:
         painter.setFont(isChecked() ? boldLetters() : font());
         painter.setPen(palette().color(QPalette::WindowText));
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextShowMnemonic, text());
-        const QRect foot(0, height() - strokeWidth, width(), strokeWidth);
-        if (isChecked()) painter.fillRect(foot, palette().color(QPalette::Highlight));
+        const int stroke = isChecked() ? strokeWidth : 1;
+        painter.fillRect(0, height() - stroke, width(), stroke,
+                         palette().color(isChecked() ? QPalette::Highlight : QPalette::Dark));
         if (!hasFocus()) return;
         QStyleOptionFocusRect option;
         option.initFrom(this);
@@ -58,15 +60,19 @@ private:
     }
 };
 
-/// The control that the Tab key comes to first within a page.
+/// Where to begin in a page: its first box, or else its first control in the order of Tab.
 QWidget* firstStop(QWidget& page)
 {
+    QWidget* first = nullptr;
     for (QWidget* each = page.nextInFocusChain(); each && each != &page;
-         each = each->nextInFocusChain())
-        if (page.isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) &&
-            each->isVisibleTo(&page) && each->isEnabled())
-            return each;
-    return nullptr;
+         each = each->nextInFocusChain()) {
+        const bool isStop = page.isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) &&
+                            each->isVisibleTo(&page) && each->isEnabled();
+        if (!isStop) continue;
+        if (qobject_cast<QLineEdit*>(each)) return each;
+        if (!first) first = each;
+    }
+    return first;
 }
 
 } // namespace

@@ -26,10 +26,11 @@ public:
     /// @param page  has its place in the window's layout already
     void addPage(const QString& caption, const QString& name, const QString& words, QWidget* page);
 
+    std::size_t pages() const { return m_pages.size(); }
     std::size_t page() const { return m_page; }
     /// Shows a page; a number that is none leaves the page as it is.
     void turnTo(std::size_t page);
-    /// Puts the focus where it was in the page, or onto its first control.
+    /// Puts the focus where it was in the page; at first onto its first box.
     void enterPage();
 
 signals:

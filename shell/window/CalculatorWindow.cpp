@@ -263,6 +263,7 @@ void CalculatorWindow::setAnswers(const std::vector<ResultLabel*>& labels)
 {
     constexpr double larger = 1.9; // than captions
     for (ResultLabel* label : labels) {
+        if (label->weight() != Weight::Answer) continue;
         QFont letters = label->font();
         letters.setPointSizeF(font().pointSizeF() * larger);
         letters.setWeight(QFont::DemiBold);

@@ -135,7 +135,8 @@ protected:
     /// Shows results dimmed while they do not belong to the inputs any more.
     void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
     bool isDimmed(QLabel* label) const { return m_dimmed.contains(label); }
-    /// Shows these results as what the window is for: large, in the colour of its main line.
+    /// Shows those of these results that are answers as what the window is for: large, in the
+    /// colour of its main line.
     void setAnswers(const std::vector<ResultLabel*>& labels);
     /// Applies the colour scheme to controls with colours of their own; call the base first.
     virtual void applyColours();

@@ -6,6 +6,7 @@
 #include "tools/papers/ExamplePaper.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAccessible>
 #include <QAction>
@@ -77,7 +78,8 @@ std::string valueOf(QWidget& widget)
     if (auto* bar = qobject_cast<QAbstractSlider*>(&widget)) return std::to_string(bar->value());
     if (auto* choice = qobject_cast<QComboBox*>(&widget))
         return std::to_string(choice->currentIndex());
-    if (auto* list = qobject_cast<QListWidget*>(&widget)) return std::to_string(list->count());
+    if (auto* list = qobject_cast<QAbstractItemView*>(&widget))
+        return std::to_string(list->model()->rowCount());
     throw std::runtime_error("no value in " + widget.objectName().toStdString());
 }
 

@@ -15,31 +15,13 @@ namespace korvel
 namespace
 {
 
-/// Places of resultsOfCourses; the first five are what is looked for.
+/// Places of CourseResults.
 enum : std::size_t { SteeredTrue, SteeredByGyro, SteeredByCompass, Track, SpeedMadeGood, Magnetic };
-
-struct CourseLabel {
-    const char* words;
-    const char* caption;
-    const char* widest;
-    std::string CourseResult::*text;
-};
-constexpr std::array<CourseLabel, 9> resultsOfCourses = {{
-    {"True head", "true", "<000.0>", &CourseResult::trueHead},
-    {"Gyro head", "by gyro", "<000.0>", &CourseResult::gyroHead},
-    {"Compass head", "by compass", "<000.0>", &CourseResult::compassHead},
-    {"Track made good", "track", "<000.0>", &CourseResult::track},
-    {"Speed made good, knots", "knots", "000.0", &CourseResult::speed},
-    {"Magnetic head", "Magnetic head", "<000.0>", &CourseResult::magneticHead},
-    {"Deviation on that head", "Deviation", "000.0 W", &CourseResult::deviation},
-    {"Course through the water", "Through the water", "<000.0>", &CourseResult::waterCourse},
-    {"Time for the distance", "Time", "0000 d 00 h 00 m", &CourseResult::time},
-}};
 
 } // namespace
 
 CoursesPage::CoursesPage(Program& program, QWidget* parent)
-    : ScrolledBody(parent), m_txtCourses(CourseFields, this),
+    : ScrolledBody(parent), m_txtCourses(CourseFields, this), m_lblCourses(CourseResults, this),
       m_optGiven(new Options(this, "optGiven",
                              {{"true head", "The course is the true head"},
                               {"gyro head", "The course is the head by gyro"},
@@ -51,10 +33,8 @@ CoursesPage::CoursesPage(Program& program, QWidget* parent)
                              "Gyro error, variation and deviation of the first page")),
       m_picture(new CoursesPicture(program, this))
 {
-    for (const CourseLabel& each : resultsOfCourses) {
-        const QString name = memberName("lblCourses", static_cast<int>(m_lblCourses.size()));
-        m_lblCourses.push_back(makeResult(this, name.toLatin1(), each.words, each.widest));
-    }
+    for (ResultLabel* label : m_lblCourses.all())
+        label->setRoom(label == m_lblCourses.all().back() ? "0000 d 00 h 00 m" : "<000.0>");
     setEntryOrder({box(CourseBox::Course), box(CourseBox::Speed), box(CourseBox::Leeway),
                    box(CourseBox::Set), box(CourseBox::Drift), box(CourseBox::Distance),
                    box(CourseBox::GyroError), box(CourseBox::Variation),
@@ -63,13 +43,16 @@ CoursesPage::CoursesPage(Program& program, QWidget* parent)
     left->setSpacing(groupGap);
     left->addLayout(layOutCourse());
     left->addLayout(layOutCompass());
-    left->addLayout(layOutResults());
     left->addStretch();
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(pageGap);
-    row->addLayout(left);
-    row->addWidget(m_picture, 1);
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(pageGap);
+    grid->setVerticalSpacing(groupGap);
+    grid->addLayout(left, 0, 0);
+    grid->addWidget(m_picture, 0, 1);
+    grid->addLayout(layOutResults(), 1, 0, 1, 2);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(0, 1);
     connect(m_optGiven, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
         if (chosen) emit choiceChanged();
     });
@@ -125,33 +108,33 @@ QLayout* CoursesPage::layOutCompass()
 
 QLayout* CoursesPage::layOutResults()
 {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(groupGap);
-    auto* answers = new WrappingRow;
-    answers->setGap(pageGap);
+    auto* row = new WrappingRow;
+    row->setGap(pageGap);
     const auto part = [&](const char* head, std::size_t first, std::size_t last) {
         auto* grid = newGrid();
         grid->setHorizontalSpacing(pageGap);
         grid->addWidget(sectionHead(head), 0, 0, 1, static_cast<int>(last - first) + 1);
         for (std::size_t i = first; i <= last; ++i) {
             const int place = static_cast<int>(i - first);
-            grid->addWidget(quietLabel(resultsOfCourses[i].caption), 1, place);
+            grid->addWidget(quietLabel(CourseResults[i].caption), 1, place);
             grid->addWidget(m_lblCourses[i], 2, place);
         }
-        answers->addLayout(grid);
+        grid->setRowStretch(3, 1);
+        row->addLayout(grid);
     };
     part("Head to steer", SteeredTrue, SteeredByCompass);
     part("Made good", Track, SpeedMadeGood);
-    column->addLayout(answers);
     auto* details = newGrid();
-    for (std::size_t i = Magnetic; i < resultsOfCourses.size(); ++i) {
+    details->addWidget(sectionHead("Beside it"), 0, 0, 1, 4);
+    for (std::size_t i = Magnetic; i < CourseResults.size(); ++i) {
         const int place = static_cast<int>(i - Magnetic);
-        details->addWidget(quietLabel(resultsOfCourses[i].caption), place / 2, place % 2 * 2);
-        details->addWidget(m_lblCourses[i], place / 2, place % 2 * 2 + 1);
+        details->addWidget(quietLabel(CourseResults[i].caption), 1 + place / 2, place % 2 * 2);
+        details->addWidget(m_lblCourses[i], 1 + place / 2, place % 2 * 2 + 1);
     }
-    details->setColumnStretch(4, 1);
-    column->addLayout(details);
-    return column;
+    details->setRowStretch(3, 1);
+    row->addLayout(details);
+    row->addStretch();
+    return row;
 }
 
 std::optional<CompassKind> CoursesPage::curve() const
@@ -171,8 +154,7 @@ CourseInput CoursesPage::input() const
 
 void CoursesPage::show(const CourseResult& result)
 {
-    for (std::size_t i = 0; i < resultsOfCourses.size(); ++i)
-        m_lblCourses[i]->setText(asQString(result.*resultsOfCourses[i].text));
+    m_lblCourses.show(result);
     m_picture->showTriangle(result.triangle, result.head);
 }
 
@@ -180,11 +162,6 @@ void CoursesPage::setColours(const ColourScheme& colours)
 {
     tintQuietLabels(*this, colours);
     m_picture->update();
-}
-
-std::vector<ResultLabel*> CoursesPage::answers() const
-{
-    return {m_lblCourses.begin(), m_lblCourses.begin() + Magnetic};
 }
 
 PageRecord CoursesPage::kept()

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmCompass/CalculateCourses.h"
 #include "forms/frmCompass/CompassFields.h"
+#include "forms/frmCompass/CompassResults.h"
 #include "forms/frmCompass/pages/PageParts.h"
 #include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/ResultLabels.h"
 
 class QLayout;
 
@@ -30,8 +31,7 @@ public:
 
     EntryBox* box(CourseBox which) const { return m_txtCourses[static_cast<std::size_t>(which)]; }
     std::vector<EntryBox*> boxes() const { return m_txtCourses.all(); }
-    const std::vector<ResultLabel*>& results() const { return m_lblCourses; }
-    std::vector<ResultLabel*> answers() const;
+    const std::vector<ResultLabel*>& results() const { return m_lblCourses.all(); }
     PageRecord kept();
     std::vector<PaperFigure> paperFigures() const;
     CoursesPicture& picture() const { return *m_picture; }
@@ -48,10 +48,10 @@ private:
     void addRow(QGridLayout* grid, int row, CourseBox which) const;
 
     FieldBoxes m_txtCourses;
+    ResultLabels<CourseResult> m_lblCourses;
     Options* m_optGiven;
     QComboBox* m_cboCurve;
     QPushButton* m_cmdErrors;
-    std::vector<ResultLabel*> m_lblCourses;
     CoursesPicture* m_picture;
 };
 

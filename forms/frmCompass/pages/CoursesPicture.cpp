@@ -37,7 +37,7 @@ CoursesPicture::CoursesPicture(Program& program, QWidget* parent)
     setAccessibleName("Triangle of course through the water, current and track");
     const QFontMetrics metrics = fontMetrics();
     const int legend = Legend::width(metrics, "Through the water Current Made good", 3, 0);
-    setMinimumSize(legend + metrics.height(), legend);
+    setMinimumSize(legend + metrics.height(), legend * 3 / 4);
     showTriangle({}, {});
 }
 
@@ -54,9 +54,8 @@ void CoursesPicture::showTriangle(const std::optional<CourseTriangle>& triangle,
     double largest = 0;
     if (triangle)
         largest = std::max(triangle->throughWater.speed, triangle->madeGood.speed).value();
-    m_step = 5;
-    if (largest <= 2 * ringCount) m_step = 2;
-    for (const double wider : {10.0, 20.0, 50.0})
+    m_step = 2;
+    for (const double wider : {3.0, 5.0, 10.0, 20.0, 50.0})
         if (largest > ringCount * m_step) m_step = wider;
     const double edge = ringCount * m_step * margin;
     setUserScale({-edge, edge, edge, -edge});

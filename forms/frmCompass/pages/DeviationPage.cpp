@@ -6,6 +6,7 @@
 #include "forms/frmCompass/pages/DeviationPicture.h"
 #include "forms/frmCompass/pages/TextTable.h"
 #include "shell/controls/Panels.h"
+#include "shell/controls/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
@@ -18,9 +19,9 @@ namespace
 {
 
 constexpr std::array<Field, 2> sinceFields = {{
-    {"txtSince(0)", "Standard: lines since", "Standard compass: lines since, yyyy/m/d",
+    {"txtSince(0)", "Standard: lines since", "Lines of the standard compass since", "yyyy/m/d",
      FieldKind::Moment, "yyyy/m/d"},
-    {"txtSince(1)", "Steering: lines since", "Steering compass: lines since, yyyy/m/d",
+    {"txtSince(1)", "Steering: lines since", "Lines of the steering compass since", "yyyy/m/d",
      FieldKind::Moment, "yyyy/m/d"},
 }};
 
@@ -33,10 +34,6 @@ constexpr std::array<TextTable::Column, 6> columns = {{
     {"", "left out", false},
 }};
 
-constexpr std::array<const char*, 6> resultWords{"Coefficient A", "Coefficient B",
-                                                 "Coefficient C", "Coefficient D",
-                                                 "Coefficient E", "Scatter of one line"};
-
 } // namespace
 
 DeviationPage::DeviationPage(Program& program, QWidget* parent)
@@ -44,17 +41,16 @@ DeviationPage::DeviationPage(Program& program, QWidget* parent)
       m_optDeviation(new Options(this, "optDeviation",
                                  {{"Standard", "Deviation of the standard compass is shown"},
                                   {"Steering", "Deviation of the steering compass is shown"}})),
-      m_txtSince(sinceFields, this),
+      m_txtSince(sinceFields, this), m_lblDeviation(DeviationResults, this),
       m_cmdCard(makeButton(this, "cmdCard", "Print the car&d..",
                            "The deviation card with its date, by heads of 15 degrees")),
-      m_table(new TextTable(this, "tblDeviation", "Lines that the curve is about, by head")),
+      m_table(new TextTable(this, "tblDeviation", "Lines of the curve by head")),
       m_picture(new DeviationPicture(program, this))
 {
-    for (std::size_t i = 0; i < resultWords.size(); ++i) {
-        const QString name = memberName("lblDeviation", static_cast<int>(i));
-        m_lblDeviation.push_back(makeResult(this, name.toLatin1(), resultWords[i], "A 000.0 W"));
-    }
+    for (ResultLabel* label : m_lblDeviation.all())
+        label->setRoom("A 000.0 W");
     auto* left = new QVBoxLayout;
+    left->setSpacing(pageGap / 3);
     left->addWidget(sectionHead("Curve of the lines that were kept"));
     left->addLayout(layOutChoice());
     left->addLayout(layOutCoefficients());
@@ -73,12 +69,12 @@ DeviationPage::DeviationPage(Program& program, QWidget* parent)
 
 QLayout* DeviationPage::layOutChoice()
 {
-    auto* grid = new QGridLayout;
+    auto* grid = newGrid();
     auto* options = new QHBoxLayout;
     m_optDeviation->addTo(options);
     grid->addWidget(quietLabel("Compass"), 0, 0);
     grid->addLayout(options, 0, 1);
-    grid->addWidget(m_cmdCard, 0, 2);
+    grid->addWidget(m_cmdCard, 0, 2, Qt::AlignLeft);
     for (std::size_t i = 0; i < sinceFields.size(); ++i) {
         const int row = static_cast<int>(i) + 1;
         EntryBox* box = m_txtSince[i];
@@ -93,12 +89,12 @@ QLayout* DeviationPage::layOutChoice()
 
 QLayout* DeviationPage::layOutCoefficients()
 {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(pageGap / 2);
-    for (std::size_t i = 0; i + 1 < m_lblDeviation.size(); ++i)
+    auto* row = new WrappingRow;
+    row->setGap(pageGap / 2);
+    for (std::size_t i = 0; i < DeviationResults.size(); ++i) {
+        if (*DeviationResults[i].caption) row->addWidget(quietLabel(DeviationResults[i].caption));
         row->addWidget(m_lblDeviation[i]);
-    row->addWidget(quietLabel("scatter"));
-    row->addWidget(m_lblDeviation.back());
+    }
     row->addStretch();
     return row;
 }
@@ -117,16 +113,14 @@ CountsSinceByCompass DeviationPage::since(Remarks& remarks) const
         const TypedTime time = readTypedTime(typed, Due::Date);
         if (time.value) since[i + 1] = instantOf(*time.value);
         if (!time.remark.empty())
-            remarks.fault(nameInWords(sinceFields[i]).toStdString() + ": " + time.remark);
+            remarks.fault(std::string(sinceFields[i].words) + ": " + time.remark);
     }
     return since;
 }
 
 void DeviationPage::show(const DeviationCurve& curve, const CompassBook& book)
 {
-    for (std::size_t i = 0; i < curve.coefficients.size(); ++i)
-        m_lblDeviation[i]->setText(asQString(curve.coefficients[i]));
-    m_lblDeviation.back()->setText(asQString(curve.scatter));
+    m_lblDeviation.show(curve);
     m_lines = curveLines(curve, book);
     m_table->showRows(columns, m_lines.size(), [this](std::size_t row, std::size_t column) {
         return asQString(m_lines[row][column]);

@@ -2,9 +2,10 @@
 #pragma once
 
 #include "app/reading/Remarks.h"
-#include "forms/frmCompass/DeviationCurve.h"
+#include "forms/frmCompass/CompassResults.h"
 #include "forms/frmCompass/pages/PageParts.h"
 #include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/ResultLabels.h"
 
 class QLayout;
 
@@ -33,7 +34,7 @@ public:
     void setColours(const ColourScheme& colours);
 
     std::vector<EntryBox*> boxes() const { return m_txtSince.all(); }
-    const std::vector<ResultLabel*>& results() const { return m_lblDeviation; }
+    const std::vector<ResultLabel*>& results() const { return m_lblDeviation.all(); }
     PageRecord kept();
     std::vector<PaperFigure> paperFigures() const;
     DeviationPicture& picture() const { return *m_picture; }
@@ -48,7 +49,7 @@ private:
 
     Options* m_optDeviation;
     FieldBoxes m_txtSince;
-    std::vector<ResultLabel*> m_lblDeviation;
+    ResultLabels<DeviationCurve> m_lblDeviation;
     QPushButton* m_cmdCard;
     TextTable* m_table;
     DeviationPicture* m_picture;

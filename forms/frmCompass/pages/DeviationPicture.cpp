@@ -82,7 +82,7 @@ void DeviationPicture::placeMargins()
 {
     const QFontMetrics metrics = letterMetrics();
     const int line = metrics.height();
-    setPlotMargins({metrics.horizontalAdvance("NW 000"), 2 * line, line, 3 * line / 2});
+    setPlotMargins({metrics.horizontalAdvance("NW 000  "), 2 * line, 3 * line / 2, 3 * line / 2});
 }
 
 QPen DeviationPicture::pen(const QColor& colour, double width) const
@@ -173,7 +173,7 @@ void DeviationPicture::drawPoints(QPainter& painter) const
 void DeviationPicture::drawLegend(QPainter& painter) const
 {
     const double radius = markRadius * lineHeight();
-    Legend legend(painter, m_figures, {plotArea().left(), 0.75 * lineHeight()},
+    Legend legend(painter, m_figures, {lineHeight() / 2, 0.75 * lineHeight()},
                   colours().palette.color(QPalette::WindowText));
     legend.mark(
         [&](QPointF at) {
@@ -181,7 +181,7 @@ void DeviationPicture::drawLegend(QPainter& painter) const
             painter.setBrush(colours().paper);
             painter.drawEllipse(at, radius, radius);
         },
-        "line of the book");
+        "line");
     if (m_curve.fit) legend.line(pen(colours().route, curveWidth), "curve");
     if (std::ranges::any_of(m_curve.points, &DeviationCurve::Point::isBlunder))
         legend.mark(

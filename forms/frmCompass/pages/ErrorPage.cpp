@@ -15,13 +15,13 @@ namespace
 {
 
 constexpr std::array<Field, 2> bookFields = {{
-    {"txtBook(0)", "B&y", "By whom the bearing was taken", FieldKind::Text},
-    {"txtBook(1)", "Remar&k", "Remark for the book", FieldKind::Text},
+    {"txtBook(0)", "B&y", "By whom the bearing was taken", "", FieldKind::Text},
+    {"txtBook(1)", "Remar&k", "Remark for the book", "", FieldKind::Text},
 }};
 
 constexpr const char* widestBox = "0000/00/00 00:00:00 0";
 
-/// Places of resultsOfError.
+/// Places of CompassResults.
 enum : std::size_t {
     True,
     GyroError,
@@ -42,34 +42,31 @@ enum : std::size_t {
     SpeedError
 };
 
-struct ErrorLabel {
-    const char* words;
-    const char* widest;
-};
-constexpr std::array<ErrorLabel, 17> resultsOfError = {{
-    {"True bearing, degrees true", "<000.0>"},
-    {"Gyro error", "000.0 W (high)"},
-    {"Error of the standard compass", "000.0 W"},
-    {"Deviation of the standard compass", "000.0 W"},
-    {"Error of the steering compass", "000.0 W"},
-    {"Deviation of the steering compass", "000.0 W"},
-    {"Standard compass beside the curve of the book", "Curve 00.0 W on 000: 00.0° off"},
-    {"Steering compass beside the curve of the book", "Curve 00.0 W on 000: 00.0° off"},
-    {"Altitude of the body", "-00°00.0'"},
-    {"Change of the bearing in a minute", "-000.00°"},
-    {"Rise or set", "Rise 0000/00/00 00:00:00 UTC"},
-    {"Bearing with the centre on the celestial horizon", "<000.0>"},
-    {"Bearing with the centre on the visible horizon", "<000.0>"},
-    {"Bearing with the upper limb on the visible horizon", "<000.0>"},
-    {"True head", "<000.0>"},
-    {"Variation used", "000.0 W ±000.0 (WMM-0000)"},
-    {"Speed error of the gyro", "000.0 W (high)"},
-}};
+/// The widest text of each.
+constexpr std::array<const char*, CompassResults.size()> widestResults{
+    "<000.0>",
+    "000.0 W (high)",
+    "000.0 W",
+    "000.0 W",
+    "000.0 W",
+    "000.0 W",
+    "Curve 00.0 W on 000: 00.0° off",
+    "Curve 00.0 W on 000: 00.0° off",
+    "-00°00.0'",
+    "-000.00°",
+    "Rise 0000/00/00 00:00:00 UTC",
+    "<000.0>",
+    "<000.0>",
+    "<000.0>",
+    "<000.0>",
+    "000.0 W ±000.0 (WMM-0000)",
+    "000.0 W (high)"};
 
 } // namespace
 
 ErrorPage::ErrorPage(QWidget* parent)
-    : ScrolledBody(parent), m_txtCompass(CompassFields, this), m_txtBook(bookFields, this)
+    : ScrolledBody(parent), m_txtCompass(CompassFields, this), m_txtBook(bookFields, this),
+      m_lblCompass(CompassResults, this)
 {
     makeControls();
     auto* grid = new QGridLayout(this);
@@ -103,10 +100,8 @@ void ErrorPage::makeControls()
     m_cboSide = makeList(this, "cboSide", "Rise or set", {"nearest in time", "rising", "setting"});
     m_cmdNow = makeButton(this, "cmdNow", "&Now (F5)", "The present time into the box");
     m_cmdRecord = makeButton(this, "cmdRecord", "Recor&d (F6)", "Keeps the line in the book");
-    for (const auto& [words, widest] : resultsOfError) {
-        const QString name = memberName("lblCompass", static_cast<int>(m_lblCompass.size()));
-        m_lblCompass.push_back(makeResult(this, name.toLatin1(), words, widest));
-    }
+    for (std::size_t i = 0; i < widestResults.size(); ++i)
+        m_lblCompass[i]->setRoom(widestResults[i]);
     for (const std::size_t remark : {StandardCurve, SteeringCurve})
         m_lblCompass[remark]->setFont(font());
     for (Options* each : {m_optClock, m_optMethod, m_optVariation})
@@ -214,24 +209,20 @@ QLayout* ErrorPage::layOutAnswers()
 {
     struct Part {
         const char* head;
-        std::vector<std::pair<const char*, std::size_t>> answers;
+        std::vector<std::size_t> answers;
         std::size_t curve;
     };
     auto* row = new WrappingRow;
     row->setGap(pageGap);
-    for (const Part& part : {Part{"True bearing", {{"degrees true", True}}, 0},
-                             Part{"Gyro", {{"error", GyroError}}, 0},
-                             Part{"Standard compass",
-                                  {{"error", StandardError}, {"deviation", StandardDeviation}},
-                                  StandardCurve},
-                             Part{"Steering compass",
-                                  {{"error", SteeringError}, {"deviation", SteeringDeviation}},
-                                  SteeringCurve}}) {
+    for (const Part& part :
+         {Part{"True bearing", {True}, 0}, Part{"Gyro", {GyroError}, 0},
+          Part{"Standard compass", {StandardError, StandardDeviation}, StandardCurve},
+          Part{"Steering compass", {SteeringError, SteeringDeviation}, SteeringCurve}}) {
         auto* grid = newGrid();
         grid->setHorizontalSpacing(pageGap);
         int column = 0;
-        for (const auto& [caption, answer] : part.answers) {
-            grid->addWidget(quietLabel(caption), 1, column);
+        for (const std::size_t answer : part.answers) {
+            grid->addWidget(quietLabel(CompassResults[answer].caption), 1, column);
             grid->addWidget(m_lblCompass[answer], 2, column++);
         }
         grid->addWidget(sectionHead(part.head), 0, 0, 1, column);
@@ -247,22 +238,18 @@ QLayout* ErrorPage::layOutDetails()
 {
     auto* row = new WrappingRow;
     row->setGap(pageGap);
-    const auto part = [&](const char* head,
-                          const std::vector<std::pair<const char*, std::size_t>>& lines) {
+    const auto part = [&](const char* head, const std::vector<std::size_t>& results) {
         auto* grid = newGrid();
         grid->addWidget(sectionHead(head), 0, 0, 1, 2);
         int line = 1;
-        for (const auto& [caption, label] : lines)
-            addResultLine(grid, line++, caption, m_lblCompass[label]);
+        for (const std::size_t each : results)
+            addResultLine(grid, line++, CompassResults[each].caption, m_lblCompass[each]);
         grid->setRowStretch(line, 1);
         row->addLayout(grid);
     };
-    part("Body", {{"Altitude", Altitude}, {"Change a minute", Change}, {"Found", RiseOrSet}});
-    part("Bearing if it stood with its", {{amplitudeHorizonNames[0], Celestial},
-                                          {amplitudeHorizonNames[1], VisibleCentre},
-                                          {amplitudeHorizonNames[2], UpperLimb}});
-    part("Ship",
-         {{"True head", TrueHead}, {"Variation", Variation}, {"Gyro speed error", SpeedError}});
+    part("Body", {Altitude, Change, RiseOrSet});
+    part("Bearing if it stood with its", {Celestial, VisibleCentre, UpperLimb});
+    part("Ship", {TrueHead, Variation, SpeedError});
     row->addStretch();
     return row;
 }
@@ -290,41 +277,18 @@ CompassInput ErrorPage::input(NavFunc113::Hours TD, const almanac::MagneticModel
     return typed;
 }
 
-void ErrorPage::show(const CompassResult& result, const CurveRemarks& curves)
+void ErrorPage::show(const CompassResult& result)
 {
     const bool isByModel = m_optVariation->chosen() == 0 && result.magnetic;
     box(CompassBox::Variation)
         ->setPlaceholderText(isByModel ? asQString(eastWestText(result.magnetic->variation))
                                        : QString());
-    const auto standard = static_cast<std::size_t>(CompassKind::Standard);
-    const auto steering = static_cast<std::size_t>(CompassKind::Steering);
-    const std::array<const std::string*, resultsOfError.size()> texts{
-        &result.trueBearing,      &result.errors[0],
-        &result.errors[standard], &result.deviations[standard],
-        &result.errors[steering], &result.deviations[steering],
-        &curves[standard],        &curves[steering],
-        &result.altitude,         &result.change,
-        &result.riseOrSet,        &result.byHorizon[0],
-        &result.byHorizon[1],     &result.byHorizon[2],
-        &result.trueHead,         &result.variation,
-        &result.speedError};
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        m_lblCompass[i]->setText(asQString(*texts[i]));
+    m_lblCompass.show(result);
 }
 
 void ErrorPage::setColours(const ColourScheme& colours)
 {
     tintQuietLabels(*this, colours);
-}
-
-std::vector<ResultLabel*> ErrorPage::results() const
-{
-    return m_lblCompass;
-}
-
-std::vector<ResultLabel*> ErrorPage::answers() const
-{
-    return {m_lblCompass.begin(), m_lblCompass.begin() + StandardCurve};
 }
 
 PageRecord ErrorPage::kept()

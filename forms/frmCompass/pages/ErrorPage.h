@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmCompass/CompassWorking.h"
+#include "forms/frmCompass/CompassResults.h"
 #include "forms/frmCompass/pages/PageParts.h"
 #include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/ResultLabels.h"
 
 class QGridLayout;
 class QLayout;
@@ -25,14 +26,13 @@ public:
     std::string observer() const { return m_txtBook[0]->value(); }
     std::string remark() const { return m_txtBook[1]->value(); }
 
-    void show(const CompassResult& result, const CurveRemarks& curves);
+    void show(const CompassResult& result);
     void setColours(const ColourScheme& colours);
 
     EntryBox* box(CompassBox which) const;
     /// The boxes that the errors rest on.
     std::vector<EntryBox*> boxes() const { return m_txtCompass.all(); }
-    std::vector<ResultLabel*> results() const;
-    std::vector<ResultLabel*> answers() const;
+    const std::vector<ResultLabel*>& results() const { return m_lblCompass.all(); }
     PageRecord kept();
     std::vector<PaperFigure> paperFigures() const;
 
@@ -66,7 +66,7 @@ private:
     QComboBox* m_cboSide;
     QPushButton* m_cmdNow;
     QPushButton* m_cmdRecord;
-    std::vector<ResultLabel*> m_lblCompass;
+    ResultLabels<CompassResult> m_lblCompass;
 };
 
 } // namespace korvel

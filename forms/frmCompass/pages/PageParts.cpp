@@ -83,15 +83,6 @@ QPushButton* makeButton(QWidget* parent, const char* name, const QString& captio
     return button;
 }
 
-ResultLabel* makeResult(QWidget* parent, const char* name, const char* words, const char* widest)
-{
-    auto* label = new ResultLabel(parent);
-    label->setObjectName(name);
-    label->setAccessibleName(words);
-    label->setRoom(widest);
-    return label;
-}
-
 QLabel* quietLabel(const QString& text, QWidget* buddy)
 {
     auto* label = new QLabel(text);

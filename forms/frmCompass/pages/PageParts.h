@@ -62,9 +62,6 @@ PageRecord::Choice choiceOf(QComboBox* list);
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption,
                         const QString& tip);
 
-/// A result with a name and words of its own, as wide as a sample.
-ResultLabel* makeResult(QWidget* parent, const char* name, const char* words, const char* widest);
-
 /// A caption in quiet letters; PageColours tints it.
 QLabel* quietLabel(const QString& text, QWidget* buddy = nullptr);
 /// Gives all quiet labels of a page their colour.

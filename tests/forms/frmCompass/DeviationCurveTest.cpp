@@ -93,7 +93,7 @@ TEST(DeviationCurve, lineTooFarOffIsSaidWhenItIsRecorded)
 }
 
 constexpr std::array<const char*, CourseFields.size()> courseBoxNames{
-    "course", "speed", "leeway", "set", "drift", "gyro", "variation", "deviation"};
+    "course", "speed", "leeway", "set", "drift", "gyro", "variation", "deviation", "distance"};
 
 CourseInput coursesOf(const Golden& row)
 {
@@ -126,6 +126,7 @@ TEST(Courses, intoEachOther)
                      {"water", result.waterCourse},
                      {"track", result.track},
                      {"speed", result.speed},
+                     {"time", result.time},
                      {"notice", result.notice}});
     }
 }

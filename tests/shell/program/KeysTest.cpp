@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSlider>
+#include <QButtonGroup>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDialog>
@@ -277,8 +278,10 @@ TEST_F(KeysTest, whatTakesTheMouseAndWhatShowsAResultTakesTabAndIsCopied)
             const bool shows =
                 result && !result->text().isEmpty() && !result->objectName().startsWith("echo ");
             // A group of options is one stop, at the chosen one; arrow keys lead to the others.
-            const bool isBesideTheStop =
-                each->inherits("QRadioButton") && !static_cast<QAbstractButton*>(each)->isChecked();
+            const auto* option = qobject_cast<QAbstractButton*>(each);
+            const bool isBesideTheStop = option &&
+                                         (each->inherits("QRadioButton") || option->group()) &&
+                                         !option->isChecked();
             if ((isControl && !isBesideTheStop) || shows) {
                 EXPECT_TRUE(each->focusPolicy() & Qt::TabFocus) << nameOf(*each);
             }

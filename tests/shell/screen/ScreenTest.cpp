@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/NoticeLine.h"
+#include "shell/controls/PageBar.h"
 #include "tests/shell/WholeProgram.h"
 
 #include <QAbstractButton>
@@ -47,12 +48,24 @@ void expectSame(const Layout& before, const QWidget& window)
                                            << " became " << textOf(after[i].second);
 }
 
+/// Does something on each page of a window, or once where it has none.
+void onEveryPage(QWidget& window, const std::function<void()>& look)
+{
+    auto* bar = window.findChild<PageBar*>();
+    const std::size_t pages = bar ? bar->pages() : 1;
+    for (std::size_t page = pages; page-- > 0;) { // and back to the first
+        if (bar) bar->turnTo(page);
+        QTest::qWait(20);
+        look();
+    }
+}
+
 /// A window that is as wide as the screen may be scrolled up and down only.
 void expectOneDirection(const QWidget& window)
 {
     EXPECT_LE(window.minimumSizeHint().width(), window.width()) << nameOf(window);
     for (const auto* area : window.findChildren<QScrollArea*>())
-        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0)
+        EXPECT_TRUE(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0)
             << nameOf(*area) << " needs " << area->widget()->minimumSizeHint().width() << " of "
             << area->viewport()->width();
 }
@@ -92,13 +105,13 @@ TEST_F(ScreenTest, everyWindowAtEveryZoom)
     for (int zoom : ScreenChoices::zoomSteps()) {
         zoomTo(zoom);
         for (QWidget* each : windows) {
-            expectTextsFit(*each, zoom);
+            onEveryPage(*each, [&] { expectTextsFit(*each, zoom); });
             if (zoom != 200) continue;
             each->resize(1024 - 8, 768 - 34); // with a frame
             QTest::qWait(20);
             EXPECT_LE(each->width(), 1024) << nameOf(*each);
             EXPECT_LE(each->height(), 768) << nameOf(*each);
-            expectOneDirection(*each);
+            onEveryPage(*each, [&] { expectOneDirection(*each); });
         }
     }
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/controls/PageBar.h"
 #include "tests/shell/WholeProgram.h"
 
 #include <fstream>
@@ -71,7 +72,7 @@ protected:
         for (auto* box : window.findChildren<EntryBox*>()) {
             const int row = box->objectName().section('(', 1).section(')', 0, 0).toInt();
             const bool isInTable = window.findChildren<EntryBox*>().size() > 40;
-            if (!isInTable || row < 1 || row == 15) boxes.push_back(box);
+            if (box->isVisible() && (!isInTable || row < 1 || row == 15)) boxes.push_back(box);
         }
         return boxes;
     }
@@ -130,7 +131,12 @@ protected:
         for (const CatalogueEntry& entry : calculatorWindows()) {
             QWidget& opened = window(entry.name);
             QTest::qWait(10);
-            typeEverything(opened);
+            auto* bar = opened.findChild<PageBar*>();
+            for (std::size_t page = 0; page < (bar ? bar->pages() : 1); ++page) {
+                if (bar) bar->turnTo(page);
+                QTest::qWait(20);
+                typeEverything(opened);
+            }
             opened.close();
         }
     }
