@@ -40,7 +40,7 @@ constexpr const char* modelFile = "WMM.COF";
 frmCompass::frmCompass(Program& program)
     : CalculatorWindow(program, "frmCompass", "Compass error"), m_pages(new PageBar),
       m_error(new ErrorPage(body())), m_lines(new BookPage(body())),
-      m_deviation(new DeviationPage(program, body())), m_courses(new CoursesPage(program, body())),
+      m_deviation(new DeviationPage(body())), m_courses(new CoursesPage(body())),
       m_book(new BookKeeping(program, *m_lines, this))
 {
     addPages();
@@ -317,7 +317,6 @@ void frmCompass::printCard()
     const DeviationCurve& curve = shownCurve();
     if (!curve.fit) return refuse("No card: " + asQString(curve.notice));
     const PaperHeading heading = program().paperHeading();
-    const Program::PaperColours colours(program());
     const DeviationCard card{compassNames[static_cast<std::size_t>(m_deviation->kind())],
                              asQString(heading.ship),
                              asQString(Format(heading.UTC, "yyyy-mm-dd hh:mm")) + " UTC",

@@ -20,7 +20,7 @@ enum : std::size_t { SteeredTrue, SteeredByGyro, SteeredByCompass, Track, SpeedM
 
 } // namespace
 
-CoursesPage::CoursesPage(Program& program, QWidget* parent)
+CoursesPage::CoursesPage(QWidget* parent)
     : ScrolledBody(parent), m_txtCourses(CourseFields, this), m_lblCourses(CourseResults, this),
       m_optGiven(new Options(this, "optGiven",
                              {{"true head", "The course is the true head"},
@@ -31,7 +31,7 @@ CoursesPage::CoursesPage(Program& program, QWidget* parent)
                           {"as typed", "curve, standard", "curve, steering"})),
       m_cmdErrors(makeButton(this, "cmdErrors", "Errors as &found",
                              "Gyro error, variation and deviation of the first page")),
-      m_picture(new CoursesPicture(program, this))
+      m_picture(new CoursesPicture(this))
 {
     for (ResultLabel* label : m_lblCourses.all())
         label->setRoom(label == m_lblCourses.all().back() ? "0000 d 00 h 00 m" : "<000.0>");
@@ -161,7 +161,6 @@ void CoursesPage::show(const CourseResult& result)
 void CoursesPage::setColours(const ColourScheme& colours)
 {
     tintQuietLabels(*this, colours);
-    m_picture->update();
 }
 
 PageRecord CoursesPage::kept()

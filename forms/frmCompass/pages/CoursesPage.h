@@ -13,7 +13,6 @@ namespace korvel
 {
 
 class CoursesPicture;
-class Program;
 
 /// Courses into each other, and the course through a current.
 class CoursesPage : public ScrolledBody
@@ -21,7 +20,7 @@ class CoursesPage : public ScrolledBody
     Q_OBJECT
 
 public:
-    CoursesPage(Program& program, QWidget* parent);
+    explicit CoursesPage(QWidget* parent);
 
     /// The curve of the deviation that is chosen; nothing: as typed.
     std::optional<CompassKind> curve() const;

@@ -30,8 +30,7 @@ QPointF endOf(const HorizontalMotion& motion, QPointF from = {})
 
 } // namespace
 
-CoursesPicture::CoursesPicture(Program& program, QWidget* parent)
-    : PictureBox(parent), m_program(program)
+CoursesPicture::CoursesPicture(QWidget* parent) : PictureBox(parent)
 {
     setObjectName("picCourses");
     setAccessibleName("Triangle of course through the water, current and track");

@@ -4,7 +4,6 @@
 #include "forms/frmCompass/CalculateCourses.h"
 #include "shell/controls/FigureText.h"
 #include "shell/controls/PictureBox.h"
-#include "shell/program/Program.h"
 
 namespace korvel
 {
@@ -14,7 +13,7 @@ namespace korvel
 class CoursesPicture : public PictureBox
 {
 public:
-    CoursesPicture(Program& program, QWidget* parent);
+    explicit CoursesPicture(QWidget* parent);
 
     /// @param triangle nothing: rings only
     /// @param head     true, of the ship that is drawn
@@ -36,9 +35,7 @@ private:
     QPen waterPen() const;
     QPen currentPen() const;
     QPen groundPen() const;
-    const ColourScheme& colours() const { return m_program.colours(); }
 
-    Program& m_program;
     std::optional<CourseTriangle> m_triangle;
     std::optional<NavFunc113::Degrees> m_head;
     double m_step = 5; ///< knots between two rings

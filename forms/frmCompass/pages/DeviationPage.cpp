@@ -36,7 +36,7 @@ constexpr std::array<TextTable::Column, 6> columns = {{
 
 } // namespace
 
-DeviationPage::DeviationPage(Program& program, QWidget* parent)
+DeviationPage::DeviationPage(QWidget* parent)
     : ScrolledBody(parent),
       m_optDeviation(new Options(this, "optDeviation",
                                  {{"Standard", "Deviation of the standard compass is shown"},
@@ -45,7 +45,7 @@ DeviationPage::DeviationPage(Program& program, QWidget* parent)
       m_cmdCard(makeButton(this, "cmdCard", "Print the car&d..",
                            "The deviation card with its date, by heads of 15 degrees")),
       m_table(new TextTable(this, "tblDeviation", "Lines of the curve by head")),
-      m_picture(new DeviationPicture(program, this))
+      m_picture(new DeviationPicture(this))
 {
     for (ResultLabel* label : m_lblDeviation.all())
         label->setRoom("A 000.0 W");
@@ -140,7 +140,6 @@ void DeviationPage::showInHand(const CompassReading& reading)
 void DeviationPage::setColours(const ColourScheme& colours)
 {
     tintQuietLabels(*this, colours);
-    m_picture->update();
 }
 
 PageRecord DeviationPage::kept()

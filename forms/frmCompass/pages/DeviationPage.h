@@ -13,7 +13,6 @@ namespace korvel
 {
 
 class DeviationPicture;
-class Program;
 class TextTable;
 
 /// The deviation of a magnetic compass as the lines of the book have it.
@@ -22,7 +21,7 @@ class DeviationPage : public ScrolledBody
     Q_OBJECT
 
 public:
-    DeviationPage(Program& program, QWidget* parent);
+    explicit DeviationPage(QWidget* parent);
 
     /// The compass that is shown.
     CompassKind kind() const;

@@ -33,8 +33,7 @@ double within(double head)
 
 } // namespace
 
-DeviationPicture::DeviationPicture(Program& program, QWidget* parent)
-    : PictureBox(parent), m_program(program)
+DeviationPicture::DeviationPicture(QWidget* parent) : PictureBox(parent)
 {
     setObjectName("picDeviation");
     setAccessibleName("Curve of the deviation over the compass head");

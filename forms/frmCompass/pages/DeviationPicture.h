@@ -4,7 +4,6 @@
 #include "forms/frmCompass/DeviationCurve.h"
 #include "shell/controls/FigureText.h"
 #include "shell/controls/PictureBox.h"
-#include "shell/program/Program.h"
 
 namespace korvel
 {
@@ -14,7 +13,7 @@ namespace korvel
 class DeviationPicture : public PictureBox
 {
 public:
-    DeviationPicture(Program& program, QWidget* parent);
+    explicit DeviationPicture(QWidget* parent);
 
     void showCurve(const DeviationCurve& curve);
     /// The line in hand as a ring; nothing takes it away.
@@ -34,11 +33,9 @@ private:
     void drawLegend(QPainter& painter) const;
     QPointF pixel(const NavFunc113::DeviationPoint& point) const;
     QPen pen(const QColor& colour, double width) const;
-    const ColourScheme& colours() const { return m_program.colours(); }
 
     DeviationCurve m_curve;
     std::optional<NavFunc113::DeviationPoint> m_inHand;
-    Program& m_program;
     double m_edge = 2; ///< degrees of deviation each way
     double m_step = 1; ///< between two lines of the grid
     mutable FigureText m_figures;
