@@ -42,6 +42,10 @@ public:
     virtual std::optional<std::string> fileToRead(const std::string& title,
                                                   const std::string& ending) = 0;
 
+    /// True when nobody answers any more, as after the end of the session. Whoever asks until an
+    /// answer will do gives up then and touches no calculator window: they have gone before.
+    virtual bool haveEnded() const { return false; }
+
     virtual void beep() = 0;
 };
 

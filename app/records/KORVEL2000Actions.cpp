@@ -116,6 +116,7 @@ std::string askNumberInRange(Questions& questions, const std::string& prompt,
 {
     for (;;) {
         std::string answer = questions.input(prompt, programTitle, defaultAnswer).value_or("");
+        if (questions.haveEnded()) return defaultAnswer;
         const double value = readNumber(answer);
         if (isNumeric(answer) && value >= low && value <= high) return answer;
         questions.ask({answer + " is incorrect value.", programTitle, Buttons::Ok});

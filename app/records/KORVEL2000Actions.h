@@ -67,6 +67,7 @@ private:
 };
 
 /// Asks until the answer is a number in low .. high; a wrong answer is named.
+/// @return defaultAnswer when nobody answers any more
 std::string askNumberInRange(Questions& questions, const std::string& prompt,
                              const std::string& defaultAnswer, double low, double high);
 

@@ -111,6 +111,7 @@ ShipsTime::DateTime ShipsTime::askSMT()
             m_questions
                 .input("Input present time in SMT.", programTitle, Format(SMT(), "yy/mm/dd hh:mm"))
                 .value_or("");
+        if (m_questions.haveEnded()) return SMT();
         if (const auto typed = readDateTime(answer))
             // A time of day alone would set the computer back to the first day of the count.
             return *typed >= 0 && *typed < 1 ? std::floor(SMT()) + *typed : *typed;

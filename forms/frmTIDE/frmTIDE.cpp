@@ -152,13 +152,14 @@ std::int64_t frmTIDE::today()
 
 void frmTIDE::askDate()
 {
+    Questions& questions = program().questions();
     std::optional<std::int64_t> date;
-    while (!date)
-        date = TideDates::dateIn(
-            program()
-                .questions()
-                .input(std::string(tideDatePrompt), programTitle, TideDates::defaultAnswer(today()))
-                .value_or(""));
+    while (!date) {
+        const auto answer = questions.input(std::string(tideDatePrompt), programTitle,
+                                            TideDates::defaultAnswer(today()));
+        if (questions.haveEnded()) return; // this window is gone
+        date = TideDates::dateIn(answer.value_or(""));
+    }
     chooseDate(*date);
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/FaultGuard.h"
 
-#include "shell/machine/SessionQuestions.h"
-
 #include <exception>
 
 namespace korvel
@@ -12,8 +10,6 @@ bool FaultGuard::run(const std::function<bool()>& deliver)
 {
     try {
         return deliver();
-    } catch (const SessionEnded&) {
-        return true; // whoever asked is to go away without an answer
     } catch (const std::exception& error) {
         met(error.what());
     } catch (...) {

@@ -16,10 +16,9 @@ std::optional<std::string> SessionQuestions::input(const std::string& prompt,
                                                    const std::string& title,
                                                    const std::string& defaultAnswer)
 {
-    if (m_ended) throw SessionEnded();
+    if (m_ended) return std::nullopt;
     auto answer = m_questions.input(prompt, title, defaultAnswer);
-    if (m_ended) throw SessionEnded();
-    return answer;
+    return m_ended ? std::nullopt : answer;
 }
 
 std::optional<std::string> SessionQuestions::fileToWrite(const std::string& title,

@@ -6,11 +6,6 @@
 namespace korvel
 {
 
-/// Takes the place of an answer when the session ended under an input box: whoever asks until the
-/// answer will do could otherwise never stop.
-struct SessionEnded {
-};
-
 /// The officer's boxes for as long as there is an officer. When the session has ended (logout,
 /// SIGTERM) nobody answers: every question is taken for refused, unseen.
 class SessionQuestions : public Questions
@@ -22,13 +17,13 @@ public:
     void endSession() { m_ended = true; }
 
     Answer ask(const Message& message) override;
-    /// @throws SessionEnded when the session has ended, or ends while the box is open
     std::optional<std::string> input(const std::string& prompt, const std::string& title,
                                      const std::string& defaultAnswer) override;
     std::optional<std::string> fileToWrite(const std::string& title,
                                            const std::string& offered) override;
     std::optional<std::string> fileToRead(const std::string& title,
                                           const std::string& ending) override;
+    bool haveEnded() const override { return m_ended; }
     void beep() override { m_questions.beep(); }
 
 private:

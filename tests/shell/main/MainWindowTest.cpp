@@ -175,9 +175,13 @@ TEST_F(MainWindowTest, theEndOfTheSessionWritesRecordsAndAsksNothing)
     type(*shown("frmProbe"), "txtProbe", "35");
     window->program().saved().setSingleMemo(12.5);
     QSignalSpy ended(window.get(), &frmKORVEL2000::ended);
-    // The session ends under a question that would be asked again and again.
+    // The session ends under questions that would be asked again and again.
+    questions.willAnswer(Answer::Yes);
     questions.willType("99", [&] { window->endSession(); });
-    EXPECT_ANY_THROW(window->program().shipsTime().inputTD());
+    const float TD = window->program().saved().TD();
+    window->program().shipsTime().setUp();
+    window->program().shipsTime().inputTD();
+    EXPECT_EQ(window->program().saved().TD(), TD) << "an answer that nobody gave";
     window->endSession();
     EXPECT_EQ(ended.count(), 1);
     EXPECT_FALSE(window->isVisible());
