@@ -86,6 +86,17 @@ TEST_F(ShipsTimeTest, drawsOnceAMinuteAndPassesItOn)
     EXPECT_EQ(minutes.size(), 3u) << "the same minute of another day is a new minute";
 }
 
+TEST_F(ShipsTimeTest, everyMinuteBeginsWithItsFirstSecond)
+{
+    at("2005/3/14");
+    const double day = clock.time;
+    for (int second = 0; second < 86400; second += second % 60 ? 1 : 59) {
+        clock.time = day + second / 86400.0; // which is rarely a whole minute to the last bit
+        ship.JikokuHyouji();
+        ASSERT_EQ(clocks.size(), static_cast<std::size_t>(second / 60 + 1)) << second;
+    }
+}
+
 TEST_F(ShipsTimeTest, timeDifferenceIsAskedUntilItIsOne)
 {
     questions.will("; OK; 12.1; OK; 9h; OK; -12.01; OK; 9.46; -12");

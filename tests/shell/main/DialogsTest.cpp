@@ -6,11 +6,15 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <filesystem>
+#include <fstream>
 
 // The session can end while any dialog of any window waits: the window goes under it, and neither
 // it nor the dialog may be touched afterwards.
@@ -85,6 +89,56 @@ TEST_P(DialogsTest, theSessionEndsUnderEveryOne)
         dialogs += session->dialogs();
     }
     EXPECT_GE(dialogs, 2) << "at least those of saving a paper";
+}
+
+/// What a dialog of files showed before somebody typed a name and left it.
+struct FileDialogSeen {
+    QString folder, filter, name;
+    QFileDialog::AcceptMode mode;
+};
+
+/// Types a name into the next dialog of files and takes it; without one the dialog is cancelled.
+FileDialogSeen inFileDialog(const QString& typed, const std::function<void()>& open)
+{
+    FileDialogSeen seen;
+    QTimer attendant;
+    QObject::connect(&attendant, &QTimer::timeout, &attendant, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        attendant.stop();
+        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        seen = {dialog->directory().canonicalPath(), dialog->selectedNameFilter(), name->text(),
+                dialog->acceptMode()};
+        if (typed.isEmpty()) return dialog->reject();
+        name->setText(typed);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    attendant.start(5);
+    open();
+    return seen;
+}
+
+TEST(MessageQuestions, filesAreChosenWhereTheLastOneWas)
+{
+    const QTemporaryDir temporary;
+    const QString folder = QFileInfo(temporary.path()).canonicalFilePath();
+    MessageQuestions questions;
+    std::optional<std::string> chosen;
+    const auto write = [&] { chosen = questions.fileToWrite("Save", "Course 2026.pdf"); };
+    const auto read = [&] { chosen = questions.fileToRead("Open", "csv"); };
+    const FileDialogSeen first = inFileDialog(folder + "/Day", write);
+    EXPECT_EQ(first.name, "Course 2026.pdf");
+    EXPECT_EQ(first.filter, "PDF (*.pdf)");
+    EXPECT_EQ(first.mode, QFileDialog::AcceptSave);
+    EXPECT_EQ(chosen, (folder + "/Day.pdf").toStdString()) << "with its ending";
+    EXPECT_EQ(inFileDialog("", write).folder, folder) << "where the last one was written";
+    EXPECT_EQ(chosen, std::nullopt) << "cancelled";
+    std::ofstream((folder + "/Fixes.csv").toStdString()) << "1\n";
+    const FileDialogSeen opened = inFileDialog("Fixes.csv", read);
+    EXPECT_EQ(opened.folder, folder) << "nor has the cancelled one changed that";
+    EXPECT_EQ(opened.filter, "CSV (*.csv)");
+    EXPECT_EQ(opened.mode, QFileDialog::AcceptOpen);
+    EXPECT_EQ(chosen, (folder + "/Fixes.csv").toStdString());
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, DialogsTest, ::testing::ValuesIn(calculatorWindows()),

@@ -58,6 +58,9 @@ TEST(SessionQuestions, nobodyIsAskedWhenTheSessionHasEnded)
     EXPECT_EQ(questions.ask({"", "", Buttons::Ok}), Answer::Ok);
     EXPECT_TRUE(questions.haveEnded());
     EXPECT_EQ(questions.input("", "", ""), std::nullopt);
+    SessionQuestions others(officer);
+    officer.willType("9", [&] { others.endSession(); });
+    EXPECT_EQ(others.input("", "", ""), std::nullopt) << "ended under the box";
 }
 
 TEST(FaultGuard, savesAndTellsOnceForEachFault)

@@ -183,11 +183,11 @@ TEST_F(ScreenTest, windowsStandWhereTheyWere)
 {
     const QRect place(60, 70, 520, 420);
     QWidget& wind = window("frmWind");
-    wind.setGeometry(place);
-    const auto isKept = [&] {
-        return files.read(ScreenChoices::file).bytes.find("frmWind 60 70 520 420") !=
-               std::string::npos;
+    const auto isKept = [&](const std::string& kept = "frmWind 60 70 520 420") {
+        return files.read(ScreenChoices::file).bytes.find(kept) != std::string::npos;
     };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isKept("frmWind "); }, 3000)) << "where it opened";
+    wind.setGeometry(place);
     EXPECT_TRUE(QTest::qWaitFor(isKept, 3000)) << "lost by a program that is killed";
     wind.showMaximized();
     QTest::qWait(20);
