@@ -29,7 +29,7 @@ frmTIDE::frmTIDE(Program& program)
       m_constants(program.files()), m_dates(TideDates::of(program.files())),
       m_habitsFile(program.files(), program.questions(), program.clock(), "KV_TideOwn.ini",
                    habitKinds()),
-      m_habits(loadedHabits()), m_sheet(new TideSheet(program, body())),
+      m_habits(loadedHabits()), m_sheet(new TideSheet(body())),
       m_extender(program, m_sheet->foot().progress(), [this] { readDates(); }),
       m_reports(program, *this, printer()),
       m_tideMenus(program, menus(), *menuBar(), m_list, m_habits, actions())

@@ -10,10 +10,9 @@
 namespace korvel
 {
 
-TideSheet::TideSheet(Program& program, QWidget* parent)
-    : ScrolledBody(parent), m_head(new TideHead(this)),
-      m_picTIDE(new frmTIDEPicture(program, this)), m_scrDate(new DateScrollBar(this)),
-      m_day(new TideDayPanel(this)), m_foot(new TideFoot(this))
+TideSheet::TideSheet(QWidget* parent)
+    : ScrolledBody(parent), m_head(new TideHead(this)), m_picTIDE(new frmTIDEPicture(this)),
+      m_scrDate(new DateScrollBar(this)), m_day(new TideDayPanel(this)), m_foot(new TideFoot(this))
 {
     m_scrDate->setObjectName("scrDate");
     m_scrDate->setAccessibleName("Date, a step is a day");

@@ -17,7 +17,7 @@ namespace korvel
 class TideSheet : public ScrolledBody
 {
 public:
-    TideSheet(Program& program, QWidget* parent);
+    explicit TideSheet(QWidget* parent);
 
     /// The date bar moved to a day.
     std::function<void(std::int64_t serial)> onDay;

@@ -20,8 +20,7 @@ constexpr std::string_view emptyHint = "Choose a place and a date";
 
 } // namespace
 
-frmTIDEPicture::frmTIDEPicture(Program& program, QWidget* parent)
-    : PictureBox(parent), m_program(program), m_lblReading(new QLabel(this))
+frmTIDEPicture::frmTIDEPicture(QWidget* parent) : PictureBox(parent), m_lblReading(new QLabel(this))
 {
     setObjectName("picTIDE");
     setAccessibleName("Curve of the day; Left and Right read it");

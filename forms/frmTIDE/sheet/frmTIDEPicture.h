@@ -3,7 +3,6 @@
 
 #include "forms/frmTIDE/sheet/CurvePainter.h"
 #include "shell/controls/PictureBox.h"
-#include "shell/program/Program.h"
 
 #include <QLabel>
 
@@ -20,7 +19,7 @@ namespace korvel
 class frmTIDEPicture : public PictureBox
 {
 public:
-    explicit frmTIDEPicture(Program& program, QWidget* parent = nullptr);
+    explicit frmTIDEPicture(QWidget* parent = nullptr);
 
     /// @param all  half-hourly values of the sum of all constituents, drawn as a thin second curve
     /// @param mark before what is read from the curve: "~" for an estimated level
@@ -58,7 +57,6 @@ private:
     QRegion labelsOnGrid() const;
     std::vector<CurvePoint> marks() const;
 
-    Program& m_program;
     std::optional<TidePrediction> m_prediction;
     CurvePicture m_picture;
     std::optional<NavFunc113::TideValues> m_all;
