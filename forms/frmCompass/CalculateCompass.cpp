@@ -110,7 +110,7 @@ private:
             findAmplitude(place);
         else if (m_result.longitude)
             m_result.seen = azimuthOf(place, observer());
-        else
+        else if (isBlankBox(m_input.box(CompassBox::Longitude)))
             m_remarks.fault("Longitude: an azimuth needs it");
         if (!m_result.seen) return;
         judgeBearing(*m_result.body, *m_result.seen, m_remarks);

@@ -4,10 +4,13 @@
 #include "app/reading/Format.h"
 #include "app/reading/Remarks.h"
 #include "app/records/DelimitedText.h"
+#include "routes/route/DelimitedLines.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <set>
+#include <span>
 
 namespace korvel
 {
@@ -140,18 +143,6 @@ private:
     std::string m_fault;
 };
 
-/// The cells of the next line.
-std::vector<std::string> nextCells(DelimitedText& text, bool& isWhole)
-{
-    std::vector<std::string> cells;
-    do {
-        const DelimitedText::Item item = text.next();
-        cells.push_back(textOfCell(item.text));
-        isWhole = isWhole && item.flaw == DelimitedText::Item::Flaw::None;
-    } while (text.lineGoesOn());
-    return cells;
-}
-
 } // namespace
 
 ExportTable compassList(const CompassBook& book, const std::vector<std::size_t>& lines)
@@ -166,18 +157,19 @@ ReadCompassList readCompassList(std::string_view text)
 {
     ReadCompassList list;
     const auto refused = [](const std::string& fault) { return ReadCompassList{{}, fault}; };
-    DelimitedText items(text);
-    bool isWhole = true;
-    if (items.atEnd() || nextCells(items, isWhole) != headings() || !isWhole)
+    constexpr std::size_t mostOfFile = mostCompassLines + 2; // the heading, and one too many
+    const auto lines = delimitedLines(text, separatorOf(text), mostOfFile);
+    if (lines.empty() || lines.front().fields != headings())
         return refused("line 1: it is not the heading of a compass book");
-    for (items.skipEmptyLines(); !items.atEnd(); items.skipEmptyLines()) {
-        const std::vector<std::string> cells = nextCells(items, isWhole);
-        const std::string where = "line " + std::to_string(items.line());
-        if (cells.size() != columnCount)
-            return refused(where + ": it has " + std::to_string(cells.size()) + " fields, not " +
-                           std::to_string(columnCount));
-        if (!isWhole) return refused(where + ": its quotation marks do not match");
-        ListLine read(cells, items.line());
+    for (const DelimitedLine& line : std::span(lines).subspan(1)) {
+        const std::string where = "line " + std::to_string(line.number);
+        if (!line.isClosed) return refused(where + ": its quotation marks do not match");
+        if (line.fields.size() != columnCount)
+            return refused(where + ": it has " + std::to_string(line.fields.size()) +
+                           " fields, not " + std::to_string(columnCount));
+        std::vector<std::string> cells;
+        std::ranges::transform(line.fields, std::back_inserter(cells), textOfCell);
+        ListLine read(cells, line.number);
         list.lines.push_back(read.line());
         if (!read.fault().empty()) return refused(read.fault());
         if (list.lines.size() > mostCompassLines)

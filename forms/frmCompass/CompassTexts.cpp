@@ -66,6 +66,8 @@ std::optional<Degrees> readEastWest(std::string_view box, const Field& field, Re
     const bool isEast = letter == 'E' || letter == 'e', isWest = letter == 'W' || letter == 'w';
     if (isEast || isWest) typed.pop_back();
     typed.erase(typed.find_last_not_of(" \t") + 1);
+    constexpr std::string_view degreeSign = "°";
+    if (typed.ends_with(degreeSign)) typed.resize(typed.size() - degreeSign.size());
     const auto value = readFilled(typed, field, remarks);
     if (!value) return std::nullopt;
     if ((isEast || isWest) && *value < 0) {

@@ -98,7 +98,8 @@ private:
             addSum("True head", "track - leeway", m_of.course, m_of.leeway, true);
             return;
         }
-        const auto& [water, current, madeGood] = *m_result.triangle;
+        const NavFunc113::HorizontalMotion& water = m_result.triangle->throughWater;
+        const NavFunc113::HorizontalMotion& current = m_result.triangle->current;
         const std::string T = degrees(m_of.course), S = degrees(current.direction),
                           d = figure(current.speed, 2), V = figure(water.speed, 2);
         const Degrees drift = NavFunc113::WithinHalfTurn(m_of.course - water.direction);
@@ -142,7 +143,9 @@ private:
 
     void addMadeGood()
     {
-        const auto& [water, current, madeGood] = *m_result.triangle;
+        const NavFunc113::HorizontalMotion& water = m_result.triangle->throughWater;
+        const NavFunc113::HorizontalMotion& current = m_result.triangle->current;
+        const NavFunc113::HorizontalMotion& madeGood = m_result.triangle->madeGood;
         const auto part = [&](const char* name, const char* formula, const std::string& of,
                               double value) {
             m_working.step(name, formula,

@@ -2,6 +2,7 @@
 #include "forms/frmCompass/pages/DeviationCard.h"
 
 #include "shell/machine/AsQString.h"
+#include "shell/paper/PictureObjects.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
@@ -50,16 +51,16 @@ QString headOf(const DeviationCard& card, const DeviationCurve& curve, const Com
         ++used;
     }
     const auto leftOut = curve.points.size() - static_cast<std::size_t>(used);
-    QString coefficients;
+    QStringList coefficients;
     for (const std::string& each : curve.coefficients)
-        coefficients += asQString(each) + "    ";
+        coefficients << asQString(each);
     return "<h2>Deviation card, " + card.compass.toLower() + " compass</h2><table>" +
            row("Ship", card.ship.isEmpty() ? QString(30, '_') : card.ship) +
            row("Observations", QString("%1 lines of the compass book, %2 to %3 UTC%4")
                                    .arg(used)
                                    .arg(asQString(minuteText(first)), asQString(minuteText(last)),
                                         leftOut ? QString("; %1 left out").arg(leftOut) : "")) +
-           row("Coefficients", coefficients.trimmed()) +
+           row("Coefficients", coefficients.join(", ")) +
            row("Scatter", asQString(curve.scatter) + " of one line about the curve") +
            row("Card of", card.printed) + "</table>";
 }
@@ -89,8 +90,10 @@ void drawDeviationCard(QPainter& painter, const QRect& room, const DeviationCard
     const double scale = (room.width() - gap) * 0.56 / card.picture.size.width();
     painter.save();
     painter.translate(left.right() + gap, left.top());
-    painter.scale(scale, scale);
-    painter.drawPicture(0, 0, card.picture.drawing);
+    // A recorded picture grows with the dots of its device by itself.
+    const double dots = painter.device()->logicalDpiX() / screenDots;
+    painter.scale(scale / dots, scale / dots);
+    QPicture(card.picture.drawing).play(&painter);
     painter.restore();
     const double below = left.top() + std::max(table, scale * card.picture.size.height()) + 2 * gap;
     drawText(painter, {double(room.left()), below, double(room.width()), 0},

@@ -163,7 +163,7 @@ void DeviationPicture::drawPoints(QPainter& painter) const
             painter.drawEllipse(at, radius, radius);
         }
     }
-    if (!m_inHand) return;
+    if (!m_inHand || isOnPaper()) return;
     painter.setPen(pen(colours().secondary, curveWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(pixel(*m_inHand), 2 * radius, 2 * radius);

@@ -27,10 +27,24 @@ public:
                const QModelIndex& index) const override
     {
         QStyleOptionViewItem cell = option;
-        cell.state &= ~QStyle::State_HasFocus; // the whole row is chosen
+        cell.state &= ~QStyle::State_HasFocus; // the whole row is chosen, and quietly
+        cell.palette.setColor(QPalette::Highlight, tint(option.palette));
+        cell.palette.setColor(QPalette::HighlightedText, option.palette.color(QPalette::Text));
         QStyledItemDelegate::paint(painter, cell, index);
         painter->setPen(option.palette.color(QPalette::AlternateBase));
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    }
+
+private:
+    /// Of the ground, with a sixth of the colour that chosen things have elsewhere.
+    static QColor tint(const QPalette& palette)
+    {
+        const QColor ground = palette.color(QPalette::Base);
+        const QColor chosen = palette.color(QPalette::Highlight);
+        const auto mixed = [](float a, float b) { return a + (b - a) / 6; };
+        return QColor::fromRgbF(mixed(ground.redF(), chosen.redF()),
+                                mixed(ground.greenF(), chosen.greenF()),
+                                mixed(ground.blueF(), chosen.blueF()));
     }
 };
 

@@ -10,6 +10,7 @@ namespace korvel
 namespace
 {
 
+using NavFunc113::Degrees;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -62,6 +63,49 @@ TEST(CompassBook, listForOtherPrograms)
     EXPECT_THAT(list, HasSubstr(",8.0,typed,,,,,100.0,10.2,3.1"));
     for (const auto& row : compassList(book, {0, 1, 2}).rows)
         EXPECT_EQ(row.size(), compassList(book, {}).headings.size());
+}
+
+TEST(CompassList, comesBackToTheLastDigitThatItHas)
+{
+    CompassBook book = threeLines();
+    book[0].remark = "haze, \"thin\"; =1+1";
+    book[1].readings[1] = {{}, Degrees(12.5), Degrees(3.25), Degrees(-4.75), true};
+    book[2].method = CompassMethod::Amplitude;
+    book[2].longitude.reset();
+    const std::string text = csvText(compassList(book, {0, 1, 2}));
+    const ReadCompassList read = readCompassList(text);
+    EXPECT_EQ(read.fault, "");
+    EXPECT_EQ(csvText(compassList(read.lines, {0, 1, 2})), text);
+    EXPECT_EQ(read.lines[0].remark, book[0].remark);
+    EXPECT_TRUE(read.lines[1].readings[1].byHeads);
+    CompassBook grown = {book[0]};
+    EXPECT_EQ(addNewLines(grown, read.lines), 2u) << "the first stands there already";
+    EXPECT_EQ(addNewLines(grown, read.lines), 0u);
+    ASSERT_EQ(grown.size(), 3u);
+    EXPECT_EQ(grown[0], book[0]) << "with all its digits";
+}
+
+TEST(CompassList, aFaultIsNamedByLineAndColumnAndNothingIsRead)
+{
+    const std::string head = csvText(compassList({}, {}));
+    const std::string rest(13, ',');
+    const auto faultOf = [&](const std::string& lines) {
+        const ReadCompassList read = readCompassList(lines);
+        EXPECT_TRUE(read.lines.empty());
+        return read.fault;
+    };
+    EXPECT_EQ(faultOf("utc,lat\n"), "line 1: it is not the heading of a compass book");
+    EXPECT_EQ(faultOf(""), "line 1: it is not the heading of a compass book");
+    EXPECT_EQ(faultOf(head), "line 2: there is no line of a book");
+    EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,1,2\n"), "line 2: it has 3 fields, not 22");
+    const std::string good = "2026-01-01T00:00:00Z,1,2,Sun,azimuth,,,typed" + rest + ",\n";
+    EXPECT_EQ(readCompassList(head + good).fault, "");
+    EXPECT_EQ(faultOf(head + good + "1.2.2026,1,2,Sun,azimuth,,,typed" + rest + ",\n"),
+              "line 3, utc: \"1.2.2026\" is no date and time of the form 2026-11-21T16:00:00Z");
+    EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,91,2,Sun,azimuth,,,typed" + rest + ",\n"),
+              "line 2, lat_deg: \"91\" is no angle within 90");
+    EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,1,2,Sun,by eye,,,typed" + rest + ",\n"),
+              "line 2, method: \"by eye\" is neither azimuth nor amplitude");
 }
 
 TEST(CompassRecord, everythingComesBack)

@@ -4,15 +4,16 @@
 #include "app/reading/Reading.h"
 #include "forms/frmCompass/CompassRecord.h"
 #include "forms/frmCompass/DeviationCurve.h"
+#include "tests/SourceFolder.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
-#include <numbers>
+#include <sstream>
 
 // A month of watches, kept as an officer keeps it: with the keys.
 
@@ -134,6 +135,30 @@ TEST_F(frmCompassTest, aMonthOfWatchesKeptByKeys)
     EXPECT_EQ(list.model()->rowCount(), watches);
     EXPECT_EQ(list.model()->index(0, 0).data().toString(), "2026/09/30 21:58")
         << "the latest first";
+}
+
+/// Coefficients of 2025 as another edition, in their producer's format.
+std::string otherEdition()
+{
+    std::istringstream rows(contentOf(sourceFile("data/sky/wmm2025.csv")));
+    std::string file = "    2030.0            WMM-2030     11/13/2029\n", row;
+    std::getline(rows, row);
+    while (std::getline(rows, row)) {
+        std::ranges::replace(row, ',', ' ');
+        file += "  " + row + "\n";
+    }
+    return file + std::string(48, '9') + "\n" + std::string(48, '9') + "\n";
+}
+
+TEST_F(frmCompassTest, anotherEditionOfTheModelServesItsYearsAndIsNamed)
+{
+    writeFile("WMM.COF", otherEdition());
+    auto& window = open<frmCompass>();
+    EXPECT_EQ(window.notice(), "");
+    type(window, "txtCompass(0)", "2031/7/1 3:00:00\r35\r140\r");
+    EXPECT_THAT(text(window, "lblCompass(15)"), ::testing::HasSubstr("(WMM-2030)"));
+    type(window, "txtCompass(0)", "2026/7/1 3:00:00");
+    EXPECT_THAT(text(window, "lblCompass(15)"), ::testing::HasSubstr("(WMM-2025)"));
 }
 
 /// Five years of watches: a key still answers, and the book comes back whole.
