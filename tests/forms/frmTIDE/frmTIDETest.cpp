@@ -312,7 +312,7 @@ TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
     const StationLines lines =
         describeStation(day.four, list.notesOf("Saint John NB"), list.errorOf("Saint John NB"));
     for (const QSize paper : {QSize(840, 1188), QSize(1188, 840)}) {
-        frmTIDEPicture picture(program());
+        frmTIDEPicture picture;
         picture.showPrediction(day.four);
         QSize curve;
         const frmTIDEPage page{"Saint John NB", "2003/07/15", day, lines,
