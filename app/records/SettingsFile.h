@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/machine/ComputerClock.h"
-#include "app/machine/Questions.h"
-#include "app/records/FileStore.h"
+#include "app/records/RecordFile.h"
 #include "app/records/SettingsRecord.h"
 
 #include <optional>
@@ -31,11 +29,14 @@ public:
 
     /// Saves while the window goes on, without any box.
     /// @return the fault in words, empty when all is well
-    std::string saveQuietly(const Record& record);
+    std::string saveQuietly(const Record& record)
+    {
+        return m_file.saveQuietly(writeRecord(record));
+    }
 
     /// Saves for the last time: when that fails, offers to try again or to leave without saving.
     /// @return true when the file holds the record
-    bool saveAtClose(const Record& record);
+    bool saveAtClose(const Record& record) { return m_file.saveAtClose(writeRecord(record)); }
 
     /// The bytes of a file that load() could read but that are not the window's record: for windows
     /// that can still find something in them. Nothing when the record was read, there was no file,
@@ -47,21 +48,14 @@ public:
     void protect(const std::string& trouble);
 
     /// True while a damaged file still lies under its own name.
-    bool isProtected() const { return !m_asideName.empty(); }
+    bool isProtected() const { return m_file.isProtected(); }
 
-    const std::string& name() const { return m_name; }
+    const std::string& name() const { return m_file.name(); }
 
 private:
-    void report(const std::string& trouble, bool somethingRead);
-    std::string keepAside();
-
-    FileStore& m_files;
-    Questions& m_questions;
-    const ComputerClock& m_clock;
-    std::string m_name;
+    RecordFile m_file;
     std::vector<FieldKind> m_kinds;
     std::optional<std::string> m_damagedText;
-    std::string m_asideName; ///< where the damaged file goes; empty when there is none
 };
 
 } // namespace korvel

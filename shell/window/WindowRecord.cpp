@@ -69,8 +69,31 @@ void WindowRecord::useTexts(const std::string& file, std::vector<EntryBox*> boxe
     use(file, std::move(kinds), save, load);
 }
 
+void WindowRecord::useText(const std::string& file, std::function<std::string()> save,
+                           std::function<std::string(const std::string&)> take)
+{
+    m_text = std::make_unique<RecordFile>(m_program.files(), m_program.questions(),
+                                          m_program.clock(), file);
+    m_saveText = std::move(save);
+    m_takeText = std::move(take);
+}
+
+bool WindowRecord::loadText()
+{
+    const FileStore::Content content = m_text->read();
+    const bool isRead = content.status == FileStore::Content::Status::Read;
+    m_isLoading = true;
+    const std::string damage = isRead ? m_takeText(content.bytes) : std::string();
+    if (!damage.empty()) m_text->report("is damaged: " + damage, true);
+    m_isLoading = false;
+    if (isRead && damage.empty()) m_onDisk = m_saveText();
+    watchControls();
+    return isRead;
+}
+
 bool WindowRecord::load()
 {
+    if (m_text) return loadText();
     if (!m_file) return false;
     m_isLoading = true;
     const auto record = m_file->load(m_save());
@@ -80,7 +103,7 @@ bool WindowRecord::load()
     const bool isWhole = record && !m_file->isProtected();
     if (m_salvage && m_file->damagedText()) m_salvage(*m_file->damagedText());
     m_isLoading = false;
-    if (isWhole) m_onDisk = m_save();
+    if (isWhole) m_onDisk = bytes();
     watchControls();
     return record || m_file->damagedText();
 }
@@ -103,29 +126,31 @@ void WindowRecord::watchControls()
 void WindowRecord::changed()
 {
     // Not started anew: whoever types on without a pause would never be saved.
-    if (m_file && !m_isLoading && !m_burst.isActive()) m_burst.start();
+    if (isUsed() && !m_isLoading && !m_burst.isActive()) m_burst.start();
 }
 
 void WindowRecord::saveNow()
 {
-    if (!m_file || m_isLoading) return;
+    if (!isUsed() || m_isLoading) return;
     m_burst.stop();
-    Record record = m_save();
-    if (record == m_onDisk) return; // typed and taken back, or only looked at
-    const std::string fault = m_file->saveQuietly(record);
-    if (fault.empty() && !m_file->isProtected()) m_onDisk = std::move(record);
+    std::string now = bytes();
+    if (now == m_onDisk) return; // typed and taken back, or only looked at
+    const std::string fault = m_text ? m_text->saveQuietly(now) : m_file->saveQuietly(m_save());
+    const bool isProtected = m_text ? m_text->isProtected() : m_file->isProtected();
+    if (fault.empty() && !isProtected) m_onDisk = std::move(now);
     m_notices.say("save", asQString(fault), NoticeLevel::Fault);
 }
 
 void WindowRecord::saveSoon()
 {
-    if (m_file && !m_isLoading)
+    if (isUsed() && !m_isLoading)
         QMetaObject::invokeMethod(this, &WindowRecord::saveNow, Qt::QueuedConnection);
 }
 
 void WindowRecord::saveAtClose()
 {
     m_burst.stop();
+    if (m_text) m_text->saveAtClose(m_saveText());
     if (m_file) m_file->saveAtClose(m_save());
 }
 

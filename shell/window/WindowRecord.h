@@ -38,6 +38,13 @@ public:
     void useTexts(const std::string& file, std::vector<EntryBox*> boxes,
                   std::function<void(Record&)> settle = {});
 
+    /// The same for a record in a form of the window's own.
+    /// @param save the bytes of the file
+    /// @param take fills the window from them. @return what could not be read, for the officer;
+    ///             empty when all was
+    void useText(const std::string& file, std::function<std::string()> save,
+                 std::function<std::string(const std::string& bytes)> take);
+
     /// Fills the window and from then on keeps the file as the window is.
     /// @return true when anything was found to fill it with
     bool load();
@@ -55,16 +62,22 @@ public:
 
 private:
     void watchControls();
+    bool loadText();
+    bool isUsed() const { return m_file || m_text; }
+    std::string bytes() const { return m_text ? m_saveText() : writeRecord(m_save()); }
 
     Program& m_program;
     NoticeLine& m_notices;
     QWidget& m_window;
     QTimer m_burst; ///< runs from the first change to the write
     std::unique_ptr<SettingsFile> m_file;
+    std::unique_ptr<RecordFile> m_text; ///< of a record in a form of its own, instead
+    std::function<std::string()> m_saveText;
+    std::function<std::string(const std::string&)> m_takeText;
     Save m_save;
     Load m_load;
     Salvage m_salvage;
-    std::optional<Record> m_onDisk; ///< what the file holds for sure
+    std::optional<std::string> m_onDisk; ///< what the file holds for sure
     bool m_isLoading = false;
 };
 
