@@ -7,6 +7,7 @@
 #include "forms/frmCompass/frmCompass.h"
 #include "forms/frmETA/frmETA.h"
 #include "forms/frmGC2000/frmGC2000.h"
+#include "forms/frmPassage/frmPassage.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 #include "forms/frmSunMoon/frmSunMoon.h"
 #include "forms/frmSunSight/frmSunSight.h"
@@ -82,6 +83,8 @@ WindowCatalogue calculatorWindows()
                    frmTIDE::stationsToGoTo),
         behindALine(withPlaces(window<frmCompass>("mnuWATCH", 6, "frmCompass", "Compass error"),
                                frmCompass::pagesToGoTo)),
+        // Behind the others: these keep their keys.
+        behindALine(window<frmPassage>("mnuNAV", 4, "frmPassage", "Passage pla&n")),
     };
 }
 

@@ -38,7 +38,7 @@ public:
     virtual std::optional<std::string> fileToWrite(const std::string& title,
                                                    const std::string& offered) = 0;
     /// Asks for a file to read.
-    /// @param ending of the files that are shown, "csv"
+    /// @param ending of the files that are shown, "csv"; several parted by blanks
     virtual std::optional<std::string> fileToRead(const std::string& title,
                                                   const std::string& ending) = 0;
 

@@ -46,11 +46,21 @@ struct PlanTimes {
     bool operator==(const PlanTimes&) const = default;
 };
 
+/// The speed that is asked for: from one row to another by a wanted time, on the plan's clock.
+struct PlanWish {
+    std::string from; ///< number of the row that is left; empty: the first
+    std::string to;   ///< number of the row to be reached; empty: the last
+    std::string time; ///< "2038/8/5 06:00"
+
+    bool operator==(const PlanWish&) const = default;
+};
+
 struct PassagePlan {
     std::string name;
     PlanTimes times;
     std::vector<PlanRow> rows;
     std::vector<KeptPart> kept; ///< of the file that it came from
+    PlanWish wish = {};
 
     bool operator==(const PassagePlan&) const = default;
 };

@@ -31,6 +31,7 @@ void setHead(PassagePlan& plan, const std::optional<PlanHead>& head)
     if (!head) return;
     plan.name = head->name;
     plan.times = head->times;
+    plan.wish = head->wish;
     plan.kept = head->kept;
 }
 
@@ -80,7 +81,7 @@ void writeChanges(PlanRows& rows, std::string PlanRow::*box, const std::vector<s
 
 PlanHead headOf(const PassagePlan& plan)
 {
-    return {plan.name, plan.times, plan.kept};
+    return {plan.name, plan.times, plan.wish, plan.kept};
 }
 
 void apply(PassagePlan& plan, const PlanEdit& edit)

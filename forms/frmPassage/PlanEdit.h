@@ -15,6 +15,7 @@ using PlanRows = std::vector<PlanRow>;
 struct PlanHead {
     std::string name;
     PlanTimes times;
+    PlanWish wish;
     std::vector<KeptPart> kept;
 
     bool operator==(const PlanHead&) const = default;

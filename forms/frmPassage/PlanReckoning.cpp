@@ -240,6 +240,13 @@ std::string PlanReckoning::remark(std::size_t row) const
     return joined({each.read.remarks.text(), stop, ofLeg});
 }
 
+bool PlanReckoning::isDoubtful(std::size_t row) const
+{
+    const Row& each = m_rows[row];
+    return !each.read.remarks.text().empty() || !each.planned.fault.empty() ||
+           (!each.read.isEmpty && !each.read.position);
+}
+
 /// The first thing that is missing, for the distances before the times.
 std::string PlanReckoning::whyBlank() const
 {

@@ -76,6 +76,8 @@ public:
 
     /// What is wrong with a row, and what should be known of it; empty when nothing is.
     std::string remark(std::size_t row) const;
+    /// Whether a box of the row, or the leg that leads to it, is in doubt.
+    bool isDoubtful(std::size_t row) const;
     /// The same of the plan: its times, then the first rows that have faults.
     std::string notice() const;
 

@@ -89,6 +89,9 @@ private:
         PassagePlan& plan = m_read.plan;
         if (key == "name") plan.name = unescapedLine(value);
         if (key == "time") plan.times.time = unescapedLine(value);
+        if (key == "wish from") plan.wish.from = unescapedLine(value);
+        if (key == "wish to") plan.wish.to = unescapedLine(value);
+        if (key == "wish time") plan.wish.time = unescapedLine(value);
         if (key == "given" && value == "arrival")
             plan.times.given = PlanTimes::Given::WantedArrival;
         if (key == "clock" && value == "ship") plan.times.clock = PlanTimes::Clock::ShipsTime;
@@ -124,6 +127,9 @@ std::string planRecordText(const PassagePlan& plan)
                  plan.times.given == PlanTimes::Given::WantedArrival ? "arrival" : "");
     addKeyedLine(text, "clock", plan.times.clock == PlanTimes::Clock::ShipsTime ? "ship" : "");
     addKeyedLine(text, "time", plan.times.time);
+    addKeyedLine(text, "wish from", plan.wish.from);
+    addKeyedLine(text, "wish to", plan.wish.to);
+    addKeyedLine(text, "wish time", plan.wish.time);
     addKept(text, plan.kept);
     for (const PlanRow& row : plan.rows) {
         text += "row\n";

@@ -140,9 +140,11 @@ std::optional<std::string> MessageQuestions::input(const std::string& prompt,
 namespace
 {
 
-QString filterOf(const QString& ending)
+/// @param endings parted by blanks
+QString filterOf(const QString& endings)
 {
-    return QString("%1 (*.%2)").arg(ending.toUpper(), ending);
+    const QStringList all = endings.split(' ');
+    return QString("%1 (*.%2)").arg(all.join(", ").toUpper(), all.join(" *."));
 }
 
 /// Shows a dialog until it is left, and deletes it. @return the path chosen; empty for none

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmPassage/PassageShown.h"
+#include "forms/frmPassage/PlanChart.h"
+#include "forms/frmPassage/PlanFiles.h"
+#include "shell/window/CalculatorWindow.h"
+
+namespace korvel
+{
+
+class PlanBoxes;
+class PlanPicture;
+class PlanTable;
+
+/// The passage plan: waypoints and the legs between them, with courses, distances and times.
+///
+/// Its record "KV_Passage.ini" has a form of its own, see PlanRecord.h.
+class frmPassage : public CalculatorWindow
+{
+    Q_OBJECT
+
+public:
+    explicit frmPassage(Program& program);
+
+protected:
+    WorkingPaper paper() const override;
+    std::vector<PaperPicture> paperPictures() override;
+    void applyColours() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void addResults();
+    QWidget* layOutAnswers();
+    QWidget* layOutFigures();
+    void connectParts();
+    void addMenus();
+    void addPlanMenu();
+    void addRowMenu();
+    void takeFilesDropped();
+
+    PlanConditions conditions() const;
+    void run();
+    void showFigures();
+    void showSun();
+    void refresh();
+    void goToRow(std::size_t row);
+    void insertRow();
+    void endRow();
+    void undo();
+    void redo();
+    void paste();
+    void openFile();
+    void open(const std::string& path);
+    void save(PlanFormat format);
+    void tellRefused(const std::string& what, const std::string& why);
+    void copyAsText() const;
+
+    PlanInHand m_work;
+    PassageShown m_shown;
+    PlanChartMaker m_chart;
+    PlanBoxes* m_boxes;
+    PlanTable* m_table;
+    PlanPicture* m_picture;
+    int m_calculation = 0;
+
+    ResultLabel* m_lblToGo = nullptr;
+    ResultLabel* m_lblArrival = nullptr;
+    ResultLabel* m_lblArrivalUTC = nullptr;
+    ResultLabel* m_lblSpeedNeeded = nullptr;
+    ResultLabel* m_lblSpeedFor = nullptr;
+    std::array<ResultLabel*, 7> m_lblPlan{};                              ///< of the whole plan
+    std::array<ResultLabel*, 5> m_lblRow{};                               ///< of the row in hand
+    std::pair<NavFunc113::GeoPoint, std::pair<Instant, Span>> m_sunShown; ///< what it was made of
+};
+
+} // namespace korvel

@@ -1,0 +1,324 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmPassage/frmPassage.h"
+
+#include "forms/frmPassage/PlanRecord.h"
+#include "forms/frmPassage/PlanTable.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QFile>
+#include <QMimeData>
+#include <QTest>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+class frmPassageTest : public WindowTest
+{
+protected:
+    /// Types rows as the officer does: boxes parted by commas in their Enter order, Enter behind
+    /// each row.
+    static void typeRows(frmPassage& window, const std::vector<std::vector<std::string>>& rows)
+    {
+        constexpr const char* boxes[] = {"txtWaypoint", "txtWpLat", "txtWpLong", "txtLegSpeed",
+                                         "txtStop",     "txtZone",  "txtRemark"};
+        for (const auto& row : rows) {
+            for (std::size_t i = 0; i < row.size(); ++i)
+                if (!row[i].empty()) type(window, boxes[i], row[i]);
+            if (&row == &rows.back()) continue;
+            control(window, "txtRemark").setFocus(Qt::TabFocusReason);
+            QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Return);
+        }
+    }
+
+    PassagePlan onDisk()
+    {
+        emit program().recordsWanted();
+        return readPlanRecord(fileText("KV_Passage.ini")).plan;
+    }
+
+    static std::string cell(const frmPassage& window, int row, int column, int line = 0)
+    {
+        const auto& table = static_cast<PlanTable&>(control(window, "tblPlan"));
+        const QModelIndex at = table.model()->index(row, column);
+        return at.data(line == 0 ? int(Qt::DisplayRole) : int(Qt::UserRole))
+            .toString()
+            .toStdString();
+    }
+
+    std::string newFile(const char* name, const std::string& bytes)
+    {
+        const QString path = folder.filePath(name);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromStdString(bytes));
+        return path.toStdString();
+    }
+};
+
+TEST_F(frmPassageTest, voyageOfThirteenDaysAcross180)
+{
+    auto& window = open<frmPassage>();
+    EXPECT_EQ(text(window, "lblArrival"), "");
+    EXPECT_EQ(window.notice(), "");
+    type(window, "txtPlanTime", "2038/7/23 13:30");
+    click(window, "optClock(1)");
+    typeRows(window, {{"A", "0", "140", "", "", "9"}, {"B", "0", "-149.15", "", "", "-8"}});
+    EXPECT_THAT(whileTyping(window, "txtLegSpeed", "13.6", "lblArrival"),
+                ElementsAre("Sat 2039/01/15 17:30", "Thu 2038/08/05 11:02", "Thu 2038/08/05 11:02",
+                            "Wed 2038/08/04 20:38"));
+    EXPECT_EQ(text(window, "lblArrivalUTC"), "TD -8 (ZD +8); UTC Thu 2038/08/05 04:38");
+    EXPECT_EQ(text(window, "lblPlan(1)"), "4245.0");
+    EXPECT_EQ(text(window, "lblPlan(2)"), "13 d 00 h 08 m");
+    EXPECT_EQ(text(window, "lblPlan(6)"), "17 h 00 m back");
+    EXPECT_EQ(cell(window, 1, PlanTable::Course), "090.0");
+}
+
+TEST_F(frmPassageTest, aStopMovesWhatFollows)
+{
+    auto& window = open<frmPassage>();
+    type(window, "txtPlanTime", "2026/11/10 8:00");
+    click(window, "optClock(1)");
+    typeRows(window,
+             {{"A", "0", "0", "", "", "9"}, {"B", "2", "0", "12", "6"}, {"C", "3.3", "0", "10"}});
+    EXPECT_EQ(cell(window, 1, PlanTable::Arrival), "Tue 2026/11/10 18:00");
+    EXPECT_EQ(text(window, "lblArrival"), "Wed 2026/11/11 09:00");
+    QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Up);
+    EXPECT_EQ(text(window, "txtWaypoint"), "B");
+    EXPECT_EQ(text(window, "lblRow(1)"), "Wed 2026/11/11 00:00");
+    EXPECT_EQ(text(window, "lblToGo"), "90.0");
+    // The second row three hours earlier: 120 miles in 7 hours.
+    type(window, "txtWish(1)", "2");
+    type(window, "txtWish(2)", "2026/11/10 15:00");
+    EXPECT_EQ(text(window, "lblSpeedNeeded"), "17.14");
+    type(window, "txtWish(1)", "9");
+    EXPECT_EQ(text(window, "lblSpeedNeeded"), "");
+    EXPECT_EQ(text(window, "lblSpeedFor"), "there is no such row");
+    EXPECT_EQ(onDisk().wish.time, "2026/11/10 15:00");
+}
+
+TEST_F(frmPassageTest, everyStepIsTakenBackAndDoneAgain)
+{
+    auto& window = open<frmPassage>();
+    typeRows(window, {{"A", "0", "0"}, {"B", "1", "0"}, {"C", "2", "0"}});
+    const auto names = [&] {
+        std::string all;
+        for (int row = 0; row < 4; ++row)
+            all += cell(window, row, PlanTable::Waypoint);
+        return all;
+    };
+    std::vector<std::string> seen = {names()};
+    for (const char* entry :
+         {"mnuRow(2)" /* up */, "mnuRow(0)" /* insert */, "mnuPlan(8)" /* reverse */,
+          "mnuRow(1)" /* delete */, "mnuPlan(0)" /* new */}) {
+        choose(window, entry);
+        seen.push_back(names());
+    }
+    EXPECT_THAT(seen, ElementsAre("ABC", "ACB", "ACB", "BCA", "CA", ""));
+    for (std::size_t i = seen.size() - 1; i-- > 0;) {
+        choose(window, "mnuPlan(9)");
+        EXPECT_EQ(names(), seen[i]) << i;
+    }
+    for (std::size_t i = 1; i < seen.size(); ++i) {
+        choose(window, "mnuPlan(10)");
+        EXPECT_EQ(names(), seen[i]) << i;
+    }
+    choose(window, "mnuPlan(9)"); // what was there
+    type(window, "txtWaypoint", "Dee");
+    QTest::keyClick(&control(window, "txtWaypoint"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text(window, "txtWaypoint"), "C") << "the keys in a box are one step";
+}
+
+TEST_F(frmPassageTest, rowsOfASpreadsheetArePasted)
+{
+    auto& window = open<frmPassage>();
+    QApplication::clipboard()->setText("Uraga\t35-13.0N\t139-47.0E\nCape; one\t34°52.0'N\t"
+                                       "139°57.0'E\n");
+    QTest::keyClick(&control(window, "txtWaypoint"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(cell(window, 0, PlanTable::Waypoint), "Uraga");
+    EXPECT_EQ(cell(window, 1, PlanTable::Position), "34°52.0'N");
+    EXPECT_EQ(cell(window, 1, PlanTable::Distance), "22.6");
+    questions.willAnswer(Answer::Ok);
+    QApplication::clipboard()->setText("X\t35\t139\nY\t95\t139\n");
+    choose(window, "mnuRow(4)");
+    EXPECT_THAT(questions.asked.back(), AllOf(HasSubstr("line 2"), HasSubstr("as it was")));
+    EXPECT_EQ(onDisk().rows.size(), 2u);
+}
+
+TEST_F(frmPassageTest, aFileThatCannotBeTakenChangesNothing)
+{
+    auto& window = open<frmPassage>();
+    typeRows(window, {{"A", "0", "0"}, {"B", "1", "0", "10"}});
+    const PassagePlan before = onDisk();
+    const std::string entities =
+        newFile("entity.rtz",
+                "<?xml version=\"1.0\"?><!DOCTYPE r [<!ENTITY x SYSTEM \"file:///etc/passwd\">]>"
+                "<route>&x;</route>");
+    const std::string twice = newFile(
+        "twice.rtz", "<?xml version=\"1.0\"?>\n<route version=\"1.0\" "
+                     "xmlns=\"http://www.cirm.org/RTZ/1/0\">\n<routeInfo routeName=\"r\"/>\n"
+                     "<waypoints>\n<waypoint id=\"1\"><position lat=\"1\" lon=\"2\"/>"
+                     "</waypoint>\n<waypoint id=\"1\"><position lat=\"2\" lon=\"2\"/>"
+                     "</waypoint>\n</waypoints></route>");
+    for (const auto& [path, fault] : {std::pair(entities, "line 1"),
+                                      {twice, "line 6"},
+                                      {folder.path().toStdString(), "no ordinary file"}}) {
+        questions.willType(path);
+        questions.willAnswer(Answer::Ok);
+        choose(window, "mnuPlan(1)");
+        EXPECT_THAT(questions.asked.back(), HasSubstr(fault));
+        EXPECT_EQ(onDisk(), before);
+    }
+}
+
+/// Two great circles, a composite leg, two stops, four changes of clocks, in 40 rows.
+std::string oceanPassage()
+{
+    std::string rows = "name;latitude;longitude;leg;speed;stop;zone;remark\n";
+    for (int i = 0; i < 40; ++i) {
+        const double longitude = 140 + i * 2.5;
+        const char* leg = i == 7 || i == 20 ? "great circle 10 deg"
+                          : i == 30         ? "composite 44"
+                                            : "rhumb";
+        rows += "WP " + std::to_string(i + 1) + ";" + std::to_string(35 + i % 7) + ",5;" +
+                std::to_string(longitude > 180 ? longitude - 360 : longitude) + ";" + leg + ";" +
+                (i == 1    ? "14,5"
+                 : i == 20 ? "12"
+                           : "") +
+                ";" + (i == 5 || i == 33 ? "2,5" : "") + ";" +
+                (i == 0    ? "9"
+                 : i == 8  ? "10"
+                 : i == 16 ? "11"
+                 : i == 24 ? "-10"
+                 : i == 32 ? "-9"
+                           : "") +
+                ";" + (i == 3 ? "pilot \"off\" & <on>" : "") + "\n";
+    }
+    for (char& sign : rows)
+        if (sign == '.') sign = ',';
+    return rows;
+}
+
+TEST_F(frmPassageTest, anOceanPassageComesBackFromEveryFormatThatCanSayIt)
+{
+    auto& window = open<frmPassage>();
+    type(window, "txtPlanTime", "2026/11/20 3:00");
+    QApplication::clipboard()->setText(QString::fromStdString(oceanPassage()));
+    choose(window, "mnuRow(4)");
+    type(window, "txtPlan", "Ocean");
+    const PassagePlan plan = onDisk();
+    ASSERT_EQ(plan.rows.size(), 40u);
+    const std::string arrival = text(window, "lblArrival");
+    EXPECT_NE(arrival, "");
+    const std::string distance = text(window, "lblPlan(1)");
+    for (const auto& [entry, file] :
+         {std::pair("mnuPlan(2)", "p.rtz"), {"mnuPlan(4)", "p12.rtz"}}) {
+        const std::string path = folder.filePath(file).toStdString();
+        questions.willType(path);
+        choose(window, entry);
+        choose(window, "mnuPlan(0)");
+        EXPECT_EQ(text(window, "lblArrival"), "");
+        questions.willType(path);
+        choose(window, "mnuPlan(1)");
+        PassagePlan again = onDisk();
+        EXPECT_EQ(text(window, "lblArrival"), arrival) << file;
+        EXPECT_EQ(text(window, "lblPlan(1)"), distance) << file;
+        ASSERT_EQ(again.rows.size(), 40u);
+        for (std::size_t i = 0; i < again.rows.size(); ++i) {
+            again.rows[i].kept.clear();
+            EXPECT_EQ(again.rows[i].name, plan.rows[i].name);
+            EXPECT_EQ(again.rows[i].leg, plan.rows[i].leg) << i;
+            EXPECT_EQ(again.rows[i].zone, plan.rows[i].zone) << i;
+            EXPECT_EQ(again.rows[i].remark, plan.rows[i].remark) << i;
+        }
+    }
+}
+
+TEST_F(frmPassageTest, aFileDroppedOnABoxIsOpened)
+{
+    auto& window = open<frmPassage>();
+    const std::string path = newFile("drop.csv", "A,1,2\nB,2,2\n");
+    QMimeData dropped;
+    dropped.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+    QDragEnterEvent comes({2, 2}, Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&control(window, "txtWaypoint"), &comes);
+    EXPECT_TRUE(comes.isAccepted());
+    QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &dropped, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&control(window, "txtWaypoint"), &drop);
+    QApplication::processEvents();
+    EXPECT_EQ(cell(window, 1, PlanTable::Distance), "60.0");
+    EXPECT_EQ(text(window, "txtWaypoint"), "A");
+}
+
+TEST_F(frmPassageTest, aKeyInTheTableGoesToTheBoxOfItsColumn)
+{
+    auto& window = open<frmPassage>();
+    typeRows(window, {{"A", "0", "0"}, {"B", "1", "0"}});
+    auto& table = static_cast<PlanTable&>(control(window, "tblPlan"));
+    table.setFocus(Qt::TabFocusReason);
+    table.setCurrentIndex(table.model()->index(1, PlanTable::Speed));
+    QTest::keyClick(&table, '7');
+    EXPECT_EQ(focused(), "txtLegSpeed");
+    QTest::keyClick(QApplication::focusWidget(), '5');
+    EXPECT_EQ(onDisk().rows[1].speed, "75");
+    table.setFocus(Qt::TabFocusReason);
+    table.setCurrentIndex(table.model()->index(0, PlanTable::Waypoint));
+    EXPECT_EQ(text(window, "txtWaypoint"), "A");
+    QTest::keyClick(&table, Qt::Key_Delete);
+    EXPECT_EQ(onDisk().rows.size(), 1u);
+}
+
+TEST_F(frmPassageTest, aPlanHas500RowsAndNoMore)
+{
+    auto& window = open<frmPassage>();
+    QString rows;
+    for (int i = 0; i < 500; ++i)
+        rows += QString("W%1\t%2\t10\n").arg(i).arg(i / 10.0);
+    QApplication::clipboard()->setText(rows);
+    choose(window, "mnuRow(4)");
+    EXPECT_EQ(onDisk().rows.size(), 500u);
+    EXPECT_EQ(static_cast<PlanTable&>(control(window, "tblPlan")).model()->rowCount(), 500);
+    questions.willAnswer(Answer::Ok);
+    choose(window, "mnuRow(0)");
+    EXPECT_THAT(questions.asked.back(), HasSubstr("500"));
+}
+
+TEST_F(frmPassageTest, theProgramsZoneAndUnitHold)
+{
+    auto& window = open<frmPassage>();
+    type(window, "txtPlanTime", "2026/1/1 0:00");
+    typeRows(window, {{"A", "0", "140"}, {"B", "0", "150", "10"}});
+    EXPECT_THAT(text(window, "lblArrivalUTC"), HasSubstr("TD +9"));
+    program().saved().setTD(10);
+    emit program().TDChanged();
+    EXPECT_THAT(text(window, "lblArrivalUTC"), HasSubstr("TD +10"));
+    EXPECT_EQ(text(window, "lblPlan(1)"), "600.0");
+    program().saved().setUnitOfLatitude(false);
+    emit program().distanceUnitChanged();
+    EXPECT_EQ(text(window, "lblPlan(1)"), "601.1");
+}
+
+TEST_F(frmPassageTest, aDamagedRecordIsNamedAndKept)
+{
+    writeFile("KV_Passage.ini", "KORVEL2000 passage plan 1\nname=Kept\nrow\nwhat is this\n");
+    questions.willAnswer(Answer::Ok);
+    auto& window = open<frmPassage>();
+    EXPECT_THAT(questions.asked.back(), HasSubstr("line 4"));
+    EXPECT_EQ(text(window, "txtPlan"), "Kept");
+    type(window, "txtWaypoint", "A");
+    onDisk();
+    EXPECT_EQ(files.names("KV_Passage damaged", ".ini").size(), 1u);
+}
+
+} // namespace
+} // namespace korvel
