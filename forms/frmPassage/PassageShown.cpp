@@ -67,14 +67,34 @@ void showArrival(const PlanReckoning& reckoning, PassageShown& shown)
 void showRow(const PlanInHand& work, PassageShown& shown)
 {
     if (work.row() >= work.reckoning().size()) return;
-    shown.row = planRowTexts(work.reckoning(), work.row());
-    shown.toGo = shown.row.toGo;
-    const auto saves = [](const std::string& miles) { return !miles.empty() && miles != "0.0"; };
-    if (saves(shown.row.saving)) shown.rowSaving = "saves " + shown.row.saving + " nm";
-    if (saves(shown.row.couldSave))
-        shown.rowSaving = "a great circle would save " + shown.row.couldSave + " nm";
-    if (const PlanLeg* leg = work.reckoning().leg(work.row()))
-        shown.rowSaving = joined({shown.rowSaving, leg->remark});
+    const PlanRowTexts row = planRowTexts(work.reckoning(), work.row());
+    shown.toGo = row.toGo;
+    shown.run = row.run;
+    shown.leaves = row.etd;
+    const PlanLeg* leg = work.reckoning().leg(work.row());
+    if (!leg) return;
+    std::string saves;
+    if (!row.saving.empty() && row.saving != "0.0") saves = "saves " + row.saving + " nm";
+    if (!row.couldSave.empty() && row.couldSave != "0.0")
+        saves = "a great circle would save " + row.couldSave + " nm";
+    shown.circle = joined({saves, leg->remark});
+}
+
+void showTotals(const PlanReckoning& reckoning, PassageShown& shown)
+{
+    const PlanTotalTexts totals = planTotalTexts(reckoning);
+    shown.distance = totals.distance;
+    shown.underWay = totals.underWay;
+    shown.stopped = totals.stopped;
+    shown.elapsed = totals.elapsed;
+    shown.saving = totals.saving;
+    if (const auto blank = totals.clockChange.find(' '); blank != std::string::npos)
+        shown.clocks = totals.clockChange.substr(blank + 1);
+    const auto departure = reckoning.departure();
+    if (!departure) return;
+    const std::string utc = weekdayAndMinute(*departure);
+    shown.departure = weekdayAndMinute(*departure + reckoning.figures(*reckoning.firstRow()).zone) +
+                      "; UTC " + utc.substr(0, 4) + utc.substr(utc.rfind(' ') + 1);
 }
 
 } // namespace
@@ -90,16 +110,9 @@ PassageShown passageShown(const PlanInHand& work)
         shown.notice = reckoning.remark(*first);
         return shown;
     }
-    shown.totals = planTotalTexts(reckoning);
+    showTotals(reckoning, shown);
     showArrival(reckoning, shown);
     showSpeedNeeded(work.plan(), reckoning, shown);
-    if (const auto departure = reckoning.departure()) {
-        const std::string utc = weekdayAndMinute(*departure);
-        shown.departure = weekdayAndMinute(*departure + reckoning.figures(*first).zone) + "; UTC " +
-                          utc.substr(0, 4) + utc.substr(utc.rfind(' ') + 1);
-    }
-    if (const auto blank = shown.totals.clockChange.find(' '); blank != std::string::npos)
-        shown.clocks = shown.totals.clockChange.substr(blank + 1);
     shown.notice = reckoning.notice();
     shown.isWhole = reckoning.totals().distance && !shown.arrival.empty();
     return shown;

@@ -17,13 +17,20 @@ struct PassageShown {
     std::string speedFor;   ///< what it leads to, or why there is none
 
     // The whole plan.
-    PlanTotalTexts totals;
     std::string departure; ///< "Fri 2026/11/20 12:00; UTC Fri 03:00"
-    std::string clocks;    ///< "17 h 00 m back"
+    std::string distance;  ///< miles
+    std::string underWay;
+    std::string stopped;
+    std::string elapsed;
+    std::string saving; ///< of circles, miles
+    std::string clocks; ///< "17 h 00 m back"
 
     // The row in hand.
-    PlanRowTexts row;
-    std::string rowSaving; ///< "saves 100.2 nm" or "a great circle would save 100.2 nm"
+    std::string run;    ///< miles
+    std::string leaves; ///< after its stop, in its zone
+    std::string circle; ///< "saves 100.2 nm" or "a great circle would save 100.2 nm", limits
+    std::string sun;    ///< see SunOfDay; a caller's, who need not have it at each key
+    std::string twilight;
 
     std::string notice;
     bool isWhole = true; ///< every distance and time is there

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/PlanPaper.h"
 
+#include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
 #include "app/working/SailingWorking.h"
 #include "navlib/angles.h"
@@ -17,29 +18,41 @@ std::string numberOfRow(std::size_t row)
     return std::to_string(row + 1);
 }
 
-std::string latitudeText(const ReadPlanRow& read)
+/// Without the year, which the departure has: one line a leg across the sheet.
+std::string dayAndTime(const std::optional<Instant>& moment, Span zone, bool hasWeekday)
 {
-    return read.position ? positionForCopy(read.position->lat, Axis::Latitude) : "";
+    if (!moment) return "";
+    const Instant shown = nearestMinute(*moment + zone);
+    const std::string text = minuteText(shown);
+    if (text.empty()) return text;
+    return (hasWeekday ? weekdayOf(shown) + " " : "") + text.substr(text.find('/') + 1);
 }
 
-std::string longitudeText(const ReadPlanRow& read)
+std::string courses(const PlanLeg* leg)
 {
-    return read.position ? positionForCopy(read.position->longitude, Axis::Longitude) : "";
+    if (!leg || !leg->course) return "";
+    const std::string first = courseText(*leg->course, "000.0");
+    return leg->finalCourse ? first + "-" + courseText(*leg->finalCourse, "000.0") : first;
 }
 
 PaperTable legsTable(const PassagePlan& plan, const PlanReckoning& reckoning)
 {
     PaperTable table{"Legs",
-                     {"No.", "Waypoint", "Latitude", "Longitude", "Course °", "Miles", "Knots",
-                      "Under way", "ETA UTC", "ETA zone", "To go"},
+                     {"No.", "Waypoint", "Position", "Course °", "Miles", "Knots", "Hours", "UTC",
+                      "Zone time", "To go"},
                      {}};
     for (std::size_t i = 0; i < reckoning.size(); ++i) {
         const ReadPlanRow& read = reckoning.read(i);
         if (read.isEmpty) continue;
+        const PlanFigures& figures = reckoning.figures(i);
         const PlanRowTexts texts = planRowTexts(reckoning, i);
-        table.rows.push_back({numberOfRow(i), plan.rows[i].name, latitudeText(read),
-                              longitudeText(read), texts.course, texts.distance, texts.speed,
-                              texts.underWay, texts.etaUTC, texts.etaZone, texts.toGo});
+        table.rows.push_back(
+            {numberOfRow(i), plan.rows[i].name,
+             read.position ? positionForCopy(read.position->lat, read.position->longitude) : "",
+             courses(reckoning.leg(i)), texts.distance, texts.speed,
+             figures.underWay ? Format(hoursOf(*figures.underWay), "0.00") : "",
+             dayAndTime(figures.eta, Span(0), false), dayAndTime(figures.eta, figures.zone, true),
+             texts.toGo});
     }
     return table;
 }
@@ -55,14 +68,20 @@ PaperTable remarksTable(const PassagePlan& plan, const PlanReckoning& reckoning)
         const PlanRow& row = plan.rows[i];
         const PlanRowTexts texts = planRowTexts(reckoning, i);
         const bool isCircle = row.leg != LegKind::Rhumb && reckoning.leg(i);
-        const std::string remark = joined({row.remark, texts.clockChange, texts.remark});
+        const bool isRemarked = row.remark.find_first_not_of(' ') != std::string::npos;
+        const std::string remark =
+            joined({isRemarked ? row.remark : "", texts.clockChange, texts.remark});
         if (read.isEmpty || (!isCircle && texts.etd.empty() && !read.zone && remark.empty()))
             continue;
         table.rows.push_back(
             {numberOfRow(i), row.name,
              isCircle ? legWords(row.leg, read.step, read.limit.value_or(NavFunc113::DegMin()))
                       : "",
-             texts.etd.empty() ? "" : row.stop, texts.etd, read.zone ? texts.zone : "", remark});
+             texts.etd.empty() ? "" : row.stop,
+             texts.etd.empty()
+                 ? ""
+                 : dayAndTime(reckoning.figures(i).etd, reckoning.figures(i).zone, true),
+             read.zone ? texts.zone : "", remark});
     }
     return table;
 }

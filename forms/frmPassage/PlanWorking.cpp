@@ -48,14 +48,14 @@ void addTimes(Working& working, const PlanReckoning& plan, const PassageShown& s
     const PlanTotals& totals = plan.totals();
     if (totals.elapsed) {
         working.resultStep("Under way", "sum of the hours " + hoursText(totals.underWay),
-                           shown.totals.underWay);
+                           shown.underWay);
         working.resultStep("Stops",
                            "sum " + hoursText(totals.stopped) +
                                " h, that at the last row "
                                "not among them",
-                           shown.totals.stopped);
+                           shown.stopped);
         working.resultStep("In all", "under way and stops " + hoursText(totals.elapsed) + " h",
-                           shown.totals.elapsed);
+                           shown.elapsed);
     }
     if (!shown.clocks.empty()) working.resultStep("Clocks", "last TD less the first", shown.clocks);
     if (const auto departure = plan.departure())
@@ -67,6 +67,41 @@ void addTimes(Working& working, const PlanReckoning& plan, const PassageShown& s
                        shown.arrivalUTC);
     working.resultStep("Arrival", "the same with TD " + figure(hoursOf(last.zone), 2),
                        shown.arrival);
+}
+
+/// A tangent point and the circle to it, from one end.
+void addTangent(Working& working, const char* number, NavFunc113::DegMin latitude,
+                NavFunc113::DegMin limit, NavFunc113::Degrees change)
+{
+    const std::string phi = figure(fabs(DegMinToDeg(latitude)), milesInFull);
+    const std::string most = figure(fabs(DegMinToDeg(limit)), milesInFull);
+    working.step(std::string("Change of longitude to tangent point ") + number,
+                 std::string("dLo") + number + " = arccos(tan φ" + number + " / tan φmax)",
+                 "arccos(tan " + phi + "° / tan " + most + "°)", figure(change, milesInFull), "°");
+}
+
+Working compositeWorking(std::size_t row, const ReadPlanRow& from, const ReadPlanRow& to,
+                         const NavFunc113::CompositeTrack& track)
+{
+    Working working{"Composite leg to row " + std::to_string(row + 1),
+                    {"Great circles touch the limiting parallel and the ship runs along it between "
+                     "them; an arc d = arccos(sin φ / sin φmax)"},
+                    {}};
+    const NavFunc113::DegMin limit = limitOfLeg(from, to);
+    working.step("Limiting latitude", "φmax", "as understood",
+                 positionInFull(limit, Axis::Latitude));
+    if (track.kind == NavFunc113::CompositeKind::TwoTangents) {
+        addTangent(working, "1", from.position->lat, limit, track.firstChange);
+        addTangent(working, "2", to.position->lat, limit, track.secondChange);
+    }
+    const auto miles = [](NavFunc113::Miles each) { return figure(each, milesInFull); };
+    working.step("Full great circle", "without the limit", "as a great circle of the sphere",
+                 miles(track.fullCircle), "nautical miles");
+    working.step("Distance", "first circle + along the parallel + second circle",
+                 miles(track.firstCircle) + " + " + miles(track.alongParallel) + " + " +
+                     miles(track.secondCircle),
+                 miles(track.distance), "nautical miles");
+    return working;
 }
 
 } // namespace
@@ -84,17 +119,17 @@ Working planWorking(const PassagePlan& plan, const PlanReckoning& reckoning,
     working.tables = {legsInFull(reckoning)};
     working.resultStep("Distance",
                        "sum of the legs " + figure(*reckoning.totals().distance, milesInFull),
-                       shown.totals.distance, "nautical miles");
+                       shown.distance, "nautical miles");
     if (reckoning.totals().saving)
         working.resultStep("Circles save",
                            "rhumb lines less circles, summed " +
                                figure(*reckoning.totals().saving, milesInFull),
-                           shown.totals.saving, "nautical miles");
+                           shown.saving, "nautical miles");
     addTimes(working, reckoning, shown);
     if (!shown.speed.empty()) {
         working.step("Speed needed", "miles between the rows / hours left without the stops",
                      "by " + plan.wish.time, shown.speed, "knots");
-        working.step("For", "rows and wanted time", "", shown.speedFor);
+        working.resultStep("What it leads to", "rows and wanted time", shown.speedFor);
     }
     return working;
 }
@@ -104,39 +139,26 @@ std::vector<Working> compositeWorkings(const PlanReckoning& plan)
     std::vector<Working> workings;
     for (std::size_t i = 0; i < plan.size(); ++i) {
         const PlanLeg* leg = plan.leg(i);
-        if (!leg || !leg->composite) continue;
-        const NavFunc113::CompositeTrack& track = *leg->composite;
-        Working working{
-            "Composite leg to row " + std::to_string(i + 1),
-            {"dLo = acos(tan φ / tan φmax) from an end to its tangent point, "
-             "d = acos(sin φ / sin φmax); between the tangent points along the parallel"},
-            {}};
-        working.step("Limiting latitude", "φmax", "",
-                     positionInFull(limitOfLeg(plan.read(*plan.rowBefore(i)), plan.read(i)),
-                                    Axis::Latitude));
-        working.step("Full great circle", "without the limit", "",
-                     figure(track.fullCircle, milesInFull), "nautical miles");
-        working.step("Composite", "circle, parallel, circle", "",
-                     figure(track.distance, milesInFull), "nautical miles");
-        workings.push_back(std::move(working));
+        if (leg && leg->composite)
+            workings.push_back(
+                compositeWorking(i, plan.read(*plan.rowBefore(i)), plan.read(i), *leg->composite));
     }
     return workings;
 }
 
-Working rowWorking(const PlanInHand& work, const PassageShown& shown,
-                   const std::array<std::string, 2>& sun)
+Working rowWorking(const PlanInHand& work, const PassageShown& shown)
 {
     const std::string number = std::to_string(work.row() + 1);
     Working working{"Row " + number + ", which was in hand", {}, {}};
     const auto add = [&](const char* name, const char* from, const std::string& text) {
         if (!text.empty()) working.resultStep(name, from, text);
     };
-    add("Run", "miles from the departure", shown.row.run);
+    add("Run", "miles from the departure", shown.run);
     add("To go", "miles of the plan less the run", shown.toGo);
-    add("Leaves", "arrival and stop", shown.row.etd);
-    add("Circle", "rhumb line less circle", shown.rowSaving);
-    add("Sun", "upper limb on the horizon, by the almanac of the program", sun[0]);
-    add("Twilight", "Sun 6° and 12° below the horizon", sun[1]);
+    add("Leaves", "arrival and stop", shown.leaves);
+    add("Circle", "rhumb line less circle", shown.circle);
+    add("Sun", "upper limb on the horizon, by the almanac of the program", shown.sun);
+    add("Twilight", "Sun 6° and 12° below the horizon", shown.twilight);
     if (working.steps.empty()) working.whyNone = "The row holds nothing.";
     return working;
 }

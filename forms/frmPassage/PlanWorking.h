@@ -10,12 +10,10 @@ namespace korvel
 Working planWorking(const PassagePlan& plan, const PlanReckoning& reckoning,
                     const PassageShown& shown);
 
-/// The composite legs: their vertices and pieces.
+/// The composite legs: their tangent points and pieces.
 std::vector<Working> compositeWorkings(const PlanReckoning& reckoning);
 
 /// What is shown of the row in hand.
-/// @param sun its events as shown: rise and set, twilight
-Working rowWorking(const PlanInHand& work, const PassageShown& shown,
-                   const std::array<std::string, 2>& sun);
+Working rowWorking(const PlanInHand& work, const PassageShown& shown);
 
 } // namespace korvel

@@ -24,29 +24,6 @@ namespace
 {
 
 constexpr double answerSize = 1.7; // of the letters of a caption
-struct FigureOfPlan {
-    const char* caption;
-    const char* unit;
-    const char* widest;
-};
-// Three in a column.
-constexpr std::array figuresOfRow{
-    FigureOfPlan{"Run", "nm", "00000.0"},
-    FigureOfPlan{"Leaves", "", "Wed 2038/08/04 20:38"},
-    FigureOfPlan{"Sun", "", "rises 00:00, sets 00:00"},
-    FigureOfPlan{"Twilight", "", "civil 00:00 to 00:00, nautical 00:00 to 00:00"},
-    FigureOfPlan{"Circle", "", "a great circle would save 0000.0 nm"},
-};
-constexpr std::array figuresOfPlan{
-    FigureOfPlan{"Departure", "", "Wed 2038/08/04 20:38; UTC Wed 20:38"},
-    FigureOfPlan{"Distance", "nm", "00000.0"},
-    FigureOfPlan{"Under way", "", "000 d 00 h 00 m"},
-    FigureOfPlan{"Stops", "", "000 d 00 h 00 m"},
-    FigureOfPlan{"In all", "", "000 d 00 h 00 m"},
-    FigureOfPlan{"Circles save", "nm", "0000.0"},
-    FigureOfPlan{"Clocks", "", "17 h 00 m forward"},
-};
-
 void makeAnswer(ResultLabel* label, const QString& widest)
 {
     QFont letters = label->font();
@@ -79,9 +56,10 @@ QWidget* captioned(const QString& caption, std::initializer_list<QWidget*> answe
 frmPassage::frmPassage(Program& program)
     : CalculatorWindow(program, "frmPassage", "Passage plan"), m_work(conditions()),
       m_boxes(new PlanBoxes(m_work, addFields(PlanHeadFields), addFields(PlanRowFields), this)),
-      m_table(new PlanTable(program, m_work)), m_picture(new PlanPicture(program))
+      m_table(new PlanTable(program, m_work)), m_picture(new PlanPicture(program)),
+      m_results(addResults(PassageResults))
 {
-    addResults();
+    giveRoom();
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid);
     auto* head = new QWidget;
@@ -99,12 +77,8 @@ frmPassage::frmPassage(Program& program)
     foldColumns();
     addMenus();
 
-    std::vector<ResultLabel*> results = {m_lblToGo, m_lblArrival, m_lblArrivalUTC, m_lblSpeedNeeded,
-                                         m_lblSpeedFor};
-    results.insert(results.end(), m_lblPlan.begin(), m_lblPlan.end());
-    results.insert(results.end(), m_lblRow.begin(), m_lblRow.end());
-    m_calculation =
-        calculations().add({"Passage plan", m_boxes->all(), results, [this] { run(); }, true});
+    m_calculation = calculations().add(
+        {"Passage plan", m_boxes->all(), m_results.all(), [this] { run(); }, true});
     connectParts();
     record().useText(
         "KV_Passage.ini", [this] { return planRecordText(m_work.plan()); },
@@ -120,42 +94,30 @@ frmPassage::frmPassage(Program& program)
     m_boxes->box(RowName)->setFocus();
 }
 
-void frmPassage::addResults()
+void frmPassage::giveRoom()
 {
-    m_lblToGo = addLabel("lblToGo");
-    m_lblArrival = addLabel("lblArrival");
-    m_lblArrivalUTC = addLabel("lblArrivalUTC");
-    m_lblSpeedNeeded = addLabel("lblSpeedNeeded");
-    m_lblSpeedFor = addLabel("lblSpeedFor");
-    m_lblToGo->setAccessibleName("To go from the row in hand, nautical miles");
-    m_lblArrival->setAccessibleName("Arrival, ship's time");
-    m_lblArrivalUTC->setAccessibleName("Arrival in UTC, and the zone");
-    m_lblSpeedNeeded->setAccessibleName("Speed needed, knots");
-    m_lblSpeedFor->setAccessibleName("What the speed leads to");
-    makeAnswer(m_lblToGo, "00000.0");
-    makeAnswer(m_lblArrival, "Wed 2038/08/04 20:38");
-    makeAnswer(m_lblSpeedNeeded, "00.00");
-    for (ResultLabel* quiet : {m_lblArrivalUTC, m_lblSpeedFor}) {
-        quiet->setFont(font());
-        quiet->setRoom("row 000 to 000, Wed 2038/08/04 20:38 TD -11");
+    for (std::size_t i = 0; i < PassageResults.size(); ++i) {
+        if (PassageResults[i].weight == Weight::Answer)
+            makeAnswer(m_results[i], PassageRooms[i]);
+        else
+            m_results[i]->setFont(font());
+        m_results[i]->setRoom(PassageRooms[i]);
     }
-    m_lblPlan = addLabels<7>("lblPlan");
-    m_lblRow = addLabels<5>("lblRow");
 }
 
 QWidget* frmPassage::layOutAnswers()
 {
     auto* answers = new QWidget;
     auto* row = new WrappingRow(answers);
-    row->startGroup();
-    auto* space = new QLabel(" ");
-    row->addWidget(
-        captioned("To go from the row in hand", {m_lblToGo, new QLabel("nautical miles")}, space));
-    row->startGroup();
-    row->addWidget(captioned("Arrival, ship's time", {m_lblArrival}, m_lblArrivalUTC));
-    row->startGroup();
-    row->addWidget(
-        captioned("Speed needed", {m_lblSpeedNeeded, new QLabel("knots")}, m_lblSpeedFor));
+    const auto put = [&](PassageLabel answer, QWidget* below) {
+        row->startGroup();
+        row->addWidget(captioned(PassageResults[answer].caption,
+                                 {m_results[answer], new QLabel(PassageResults[answer].unit)},
+                                 below));
+    };
+    put(ToGo, new QLabel(" "));
+    put(Arrival, m_results[ArrivalUTC]);
+    put(SpeedNeeded, m_results[SpeedFor]);
     row->addStretch();
     return answers;
 }
@@ -164,17 +126,11 @@ QWidget* frmPassage::layOutFigures()
 {
     auto* figures = new QWidget;
     auto* cells = new CellLayout(figures, 4, Qt::Vertical);
-    const auto put = [&](ResultLabel* label, const FigureOfPlan& figure, const char* of) {
-        const QString unit = *figure.unit ? QString(", ") + figure.unit : QString();
-        label->setAccessibleName(QString("%1 %2%3").arg(figure.caption, of, unit));
-        label->setFont(font());
-        label->setRoom(figure.widest);
-        cells->addCell({new QLabel(figure.caption + unit), label});
-    };
-    for (std::size_t i = 0; i < m_lblRow.size(); ++i)
-        put(m_lblRow[i], figuresOfRow[i], "of the row in hand");
-    for (std::size_t i = 0; i < m_lblPlan.size(); ++i)
-        put(m_lblPlan[i], figuresOfPlan[i], "of the whole plan");
+    for (std::size_t i = PassageAnswers; i < PassageResults.size(); ++i) {
+        const Result<PassageShown>& result = PassageResults[i];
+        const QString unit = *result.unit ? QString(", ") + result.unit : QString();
+        cells->addCell({new QLabel(result.caption + unit), m_results[i]});
+    }
     return figures;
 }
 
@@ -210,59 +166,29 @@ void frmPassage::run()
     if (m_boxes->isFilling()) return;
     m_work.setConditions(conditions());
     m_shown = passageShown(m_work);
-    showFigures();
-    showSun();
+    findSun();
+    m_results.show(m_shown);
     m_table->showPlan();
     m_picture->setChart(m_chart.chartOf(m_work.reckoning()), m_work.row());
     setNotice("plan", asQString(m_shown.notice), levelBeside(m_shown.isWhole));
     record().changed();
 }
 
-void frmPassage::showFigures()
-{
-    const auto show = [](ResultLabel* label, const std::string& text) {
-        label->setText(asQString(text));
-    };
-    show(m_lblToGo, m_shown.toGo);
-    show(m_lblArrival, m_shown.arrival);
-    show(m_lblArrivalUTC, m_shown.arrivalUTC);
-    show(m_lblSpeedNeeded, m_shown.speed);
-    show(m_lblSpeedFor, m_shown.speedFor);
-    const PlanTotalTexts& totals = m_shown.totals;
-    const std::array<const std::string*, 7> whole{
-        &m_shown.departure, &totals.distance, &totals.underWay, &totals.stopped,
-        &totals.elapsed,    &totals.saving,   &m_shown.clocks};
-    for (std::size_t i = 0; i < whole.size(); ++i)
-        show(m_lblPlan[i], *whole[i]);
-    show(m_lblRow[0], m_shown.row.run);
-    show(m_lblRow[1], m_shown.row.etd);
-    show(m_lblRow[4], m_shown.rowSaving);
-}
-
-/// The Sun at the row in hand on the day of its arrival: reckoned when one of them changes, not at
+/// The Sun at the row in hand on the day of its arrival: found when one of them changes, not at
 /// every key.
-void frmPassage::showSun()
+void frmPassage::findSun()
 {
     const PlanReckoning& plan = m_work.reckoning();
-    const bool isThere = m_work.row() < plan.size();
-    const auto position =
-        isThere ? plan.read(m_work.row()).position : std::optional<NavFunc113::GeoPoint>();
-    const auto eta = isThere ? plan.figures(m_work.row()).eta : std::optional<Instant>();
-    if (!position || !eta) {
-        m_lblRow[2]->clear();
-        m_lblRow[3]->clear();
-        return;
-    }
-    const Span zone = plan.figures(m_work.row()).zone;
-    const Instant day = std::chrono::floor<std::chrono::days>(*eta + zone);
-    const auto& [at, when] = m_sunShown;
-    const bool isShown = !m_lblRow[2]->text().isEmpty() && at.lat == position->lat &&
-                         at.longitude == position->longitude && when == std::pair(day, zone);
-    if (isShown) return;
-    m_sunShown = {*position, {day, zone}};
-    const SunOfDay sun = sunOfDay(*position, *eta, zone);
-    m_lblRow[2]->setText(asQString(sun.riseAndSet));
-    m_lblRow[3]->setText(asQString(sun.twilight));
+    if (m_work.row() >= plan.size()) return;
+    const auto& position = plan.read(m_work.row()).position;
+    const PlanFigures& figures = plan.figures(m_work.row());
+    if (!position || !figures.eta) return;
+    const Instant day = std::chrono::floor<std::chrono::days>(*figures.eta + figures.zone);
+    if (m_sun.at.lat != position->lat || m_sun.at.longitude != position->longitude ||
+        m_sun.day != day || m_sun.zone != figures.zone)
+        m_sun = {*position, day, figures.zone, sunOfDay(*position, *figures.eta, figures.zone)};
+    m_shown.sun = m_sun.events.riseAndSet;
+    m_shown.twilight = m_sun.events.twilight;
 }
 
 WorkingPaper frmPassage::paper() const
@@ -274,8 +200,7 @@ WorkingPaper frmPassage::paper() const
     paper.workings = {planWorking(m_work.plan(), m_work.reckoning(), m_shown)};
     for (Working& composite : compositeWorkings(m_work.reckoning()))
         paper.workings.push_back(std::move(composite));
-    paper.workings.push_back(rowWorking(
-        m_work, m_shown, {m_lblRow[2]->text().toStdString(), m_lblRow[3]->text().toStdString()}));
+    paper.workings.push_back(rowWorking(m_work, m_shown));
     return paper;
 }
 
@@ -290,10 +215,11 @@ void frmPassage::applyColours()
 {
     CalculatorWindow::applyColours();
     const ColourScheme& colours = program().colours();
-    for (ResultLabel* answer : {m_lblToGo, m_lblArrival, m_lblSpeedNeeded})
-        if (!isDimmed(answer)) setTextColour(answer, colours.route);
-    for (ResultLabel* quiet : {m_lblArrivalUTC, m_lblSpeedFor})
-        if (!isDimmed(quiet)) setTextColour(quiet, colours.echo);
+    for (std::size_t i = 0; i < PassageAnswers; ++i) {
+        const bool isAnswer = PassageResults[i].weight == Weight::Answer;
+        if (!isDimmed(m_results[i]))
+            setTextColour(m_results[i], isAnswer ? colours.route : colours.echo);
+    }
 }
 
 } // namespace korvel

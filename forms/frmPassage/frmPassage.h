@@ -4,6 +4,7 @@
 #include "forms/frmPassage/PassageShown.h"
 #include "forms/frmPassage/PlanChart.h"
 #include "forms/frmPassage/PlanFiles.h"
+#include "forms/frmPassage/PlanSun.h"
 #include "shell/window/CalculatorWindow.h"
 
 namespace korvel
@@ -30,7 +31,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addResults();
+    void giveRoom();
     QWidget* layOutAnswers();
     QWidget* layOutFigures();
     void connectParts();
@@ -41,8 +42,7 @@ private:
 
     PlanConditions conditions() const;
     void run();
-    void showFigures();
-    void showSun();
+    void findSun();
     void refresh();
     void goToRow(std::size_t row);
     void insertRow();
@@ -64,14 +64,13 @@ private:
     PlanPicture* m_picture;
     int m_calculation = 0;
 
-    ResultLabel* m_lblToGo = nullptr;
-    ResultLabel* m_lblArrival = nullptr;
-    ResultLabel* m_lblArrivalUTC = nullptr;
-    ResultLabel* m_lblSpeedNeeded = nullptr;
-    ResultLabel* m_lblSpeedFor = nullptr;
-    std::array<ResultLabel*, 7> m_lblPlan{};                              ///< of the whole plan
-    std::array<ResultLabel*, 5> m_lblRow{};                               ///< of the row in hand
-    std::pair<NavFunc113::GeoPoint, std::pair<Instant, Span>> m_sunShown; ///< what it was made of
+    ResultLabels<PassageShown> m_results;
+    struct {
+        NavFunc113::GeoPoint at;
+        Instant day; ///< of the zone
+        Span zone{};
+        SunOfDay events;
+    } m_sun; ///< as it was found last
 };
 
 } // namespace korvel

@@ -42,7 +42,7 @@ void frmPassage::addMenus()
     };
     menus().addStorePosition("&Position of the row", rowText(&PlanRow::latitude),
                              rowText(&PlanRow::longitude));
-    menus().addStoreSingle("&Distance of the plan", [this] { return m_shown.totals.distance; });
+    menus().addStoreSingle("&Distance of the plan", [this] { return m_shown.distance; });
     menus().addRecallPosition("&Position into the row", m_boxes->box(RowLatitude),
                               m_boxes->box(RowLongitude));
     menus().addRecallSingle("into &speed", m_boxes->box(RowSpeed));
