@@ -54,11 +54,11 @@ inline constexpr std::array<Field, 9> PlanRowFields = {{
 
 /// What the window shows beside the rows: the answers, then three in a column.
 enum PassageLabel : std::size_t {
-    ToGo,
-    Arrival,
-    ArrivalUTC,
-    SpeedNeeded,
-    SpeedFor,
+    LabelToGo,
+    LabelArrival,
+    LabelArrivalUTC,
+    LabelSpeed,
+    LabelSpeedFor,
     PassageAnswers
 };
 inline constexpr std::array PassageResults = {

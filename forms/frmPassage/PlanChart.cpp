@@ -50,7 +50,8 @@ std::string degreesText(double degrees, char positive, char negative)
     const auto minutes = static_cast<long>(std::lround(std::fabs(degrees) * 60));
     std::string text = std::to_string(minutes / 60) + "°";
     if (minutes % 60) text += (minutes % 60 < 10 ? "0" : "") + std::to_string(minutes % 60) + "'";
-    if (minutes % (180 * 60) == 0) return text; // 0 and 180 have no side
+    constexpr long halfTurn = 180L * 60L;
+    if (minutes % halfTurn == 0) return text; // 0 and 180 have no side
     return text + (degrees < 0 ? negative : positive);
 }
 

@@ -115,9 +115,9 @@ QWidget* frmPassage::layOutAnswers()
                                  {m_results[answer], new QLabel(PassageResults[answer].unit)},
                                  below));
     };
-    put(ToGo, new QLabel(" "));
-    put(Arrival, m_results[ArrivalUTC]);
-    put(SpeedNeeded, m_results[SpeedFor]);
+    put(LabelToGo, new QLabel(" "));
+    put(LabelArrival, m_results[LabelArrivalUTC]);
+    put(LabelSpeed, m_results[LabelSpeedFor]);
     row->addStretch();
     return answers;
 }
