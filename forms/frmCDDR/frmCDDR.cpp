@@ -201,6 +201,7 @@ void frmCDDR::addMemoMenus()
     menus().addRecallPosition("into CD &arrival", m_txtCDDR[2], m_txtCDDR[3]);
     menus().addRecallPosition("into DR &start", m_txtCDDR[4], m_txtCDDR[5]);
     menus().addRecallSingle("into DR &course", m_txtCDDR[6]);
+    menus().addShipNow(WindowMenus::ShipFigure::Course, "course into DR", m_txtCDDR[6]);
     menus().addRecallSingle("into DR dis&tance", m_txtCDDR[7]);
 }
 

@@ -233,6 +233,10 @@ void frmETA::addMenus()
                      [this] { menus().recallSingle(m_txtDist); });
     menus().addEntry(recall, "mnuETA", 4, "into &speed",
                      [this] { menus().recallSingle(m_txtSpeed); });
+    using ShipFigure = WindowMenus::ShipFigure;
+    menus().addShipNow(ShipFigure::Speed, "into speed", m_txtSpeed);
+    menus().addShipNow(ShipFigure::Zone, "into TD at departure", m_txtTD[0]);
+    menus().addShipNow(ShipFigure::Zone, "into TD at arrival", m_txtTD[1]);
     menus().addLinks("mnuWindows");
 }
 

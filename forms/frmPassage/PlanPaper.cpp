@@ -23,7 +23,7 @@ std::string dayAndTime(const std::optional<Instant>& moment, Span zone, bool has
 {
     if (!moment) return "";
     const Instant shown = nearestMinute(*moment + zone);
-    const std::string text = minuteText(shown);
+    std::string text = minuteText(shown);
     if (text.empty()) return text;
     return (hasWeekday ? weekdayOf(shown) + " " : "") + text.substr(text.find('/') + 1);
 }

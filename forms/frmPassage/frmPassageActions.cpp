@@ -46,6 +46,9 @@ void frmPassage::addMenus()
     menus().addRecallPosition("&Position into the row", m_boxes->box(RowLatitude),
                               m_boxes->box(RowLongitude));
     menus().addRecallSingle("into &speed", m_boxes->box(RowSpeed));
+    using ShipFigure = WindowMenus::ShipFigure;
+    menus().addShipNow(ShipFigure::Speed, "into speed", m_boxes->box(RowSpeed));
+    menus().addShipNow(ShipFigure::Zone, "into zone", m_boxes->box(RowZone));
     menus().addLinks("mnuLinks");
 }
 

@@ -2,6 +2,7 @@
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/PrintRecord.h"
 #include "forms/frmPositionRecord/RecordList.h"
@@ -161,6 +162,9 @@ void frmPositionRecord::addMenus()
         });
     menus().addRecallSingle("into &course steered", m_txtCourseSteered);
     menus().addRecallSingle("into &speed steered", m_txtSpeedSteered);
+    using ShipFigure = WindowMenus::ShipFigure;
+    menus().addShipNow(ShipFigure::Course, "into course steered", m_txtCourseSteered);
+    menus().addShipNow(ShipFigure::Speed, "into speed steered", m_txtSpeedSteered);
     menus().addLinks("mnuLinks");
 }
 
@@ -210,6 +214,25 @@ void frmPositionRecord::run()
     });
     setNotice("rows", asQString(m_shown.notice), levelBeside(isWhole));
     if (m_isStillRefused && !m_isStillRefused()) refuse({}, {});
+    tellShip();
+}
+
+/// The program knows the ship by the last fix, and by course and speed steered.
+void frmPositionRecord::tellShip()
+{
+    if (m_shown.fixes.empty()) return;
+    const RecordedFix& last = *std::ranges::max_element(
+        m_shown.fixes, {}, [](const RecordedFix& fix) { return fix.utc; });
+    if (last.utc > program().shipsTime().UTC()) return; // typed ahead, or half typed
+    ShipNow& ship = program().shipNow;
+    bool isNew = ship.tellFix({last.latitude, last.longitude, instantOf(last.utc)});
+    const auto course = readLeadingNumber(m_txtCourseSteered->value());
+    const auto speed = readLeadingNumber(m_txtSpeedSteered->value());
+    if (course && speed && *course >= 0 && *course <= 360 && *speed >= 0 && *speed <= 100)
+        isNew = ship.tellMotion(
+                    ShipNow::Motion{NavFunc113::Degrees(*course), NavFunc113::Knots(*speed)}) ||
+                isNew;
+    if (isNew) emit program().shipNowChanged();
 }
 
 void frmPositionRecord::normaliseTime(std::size_t row)

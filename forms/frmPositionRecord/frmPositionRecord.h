@@ -32,6 +32,7 @@ private:
 
     PositionRecordInput input() const;
     void run();
+    void tellShip();
     void normaliseTime(std::size_t row);
 
     using Change = std::function<void(PositionRows&)>;

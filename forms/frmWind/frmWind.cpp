@@ -33,6 +33,8 @@ frmWind::frmWind(Program& program)
     columns->addLayout(left);
     columns->addWidget(m_picWind, 1);
     foldColumns();
+    menus().addShipNow(WindowMenus::ShipFigure::Course, "into course", m_txtWind[0]);
+    menus().addShipNow(WindowMenus::ShipFigure::Speed, "into speed", m_txtWind[1]);
     menus().addLinks("mnuWind");
 
     m_calculation =

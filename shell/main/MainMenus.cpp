@@ -94,6 +94,10 @@ void MainMenus::addScreen(QMenu* property)
         ->setCheckable(true);
     property->addSeparator();
     addEntry(property, "mnuShip", "Ship and &voyage..", m_actions.setShip);
+    addEntry(property, "mnuShipNow", "Ship &now..", m_actions.setShipNow);
+    addEntry(property, "mnuShowShip", "Sho&w the ship now in this window",
+             m_actions.chooseShipShown)
+        ->setCheckable(true);
     addEntry(property, "mnuJournal", "&Journal of kept papers", m_actions.openJournal);
 }
 
@@ -125,6 +129,11 @@ void MainMenus::show(const KV_Savedvalue& saved, const ScreenChoices& screen)
     m_entries.at("mnuClockOnTop")->setChecked(screen.clockOnTop);
     m_entries.at("mnuReopen")->setChecked(screen.reopensWindows);
     m_entries.at("mnuOwnFrames")->setChecked(screen.ownFrames);
+}
+
+void MainMenus::showShip(bool shown)
+{
+    m_entries.at("mnuShowShip")->setChecked(shown);
 }
 
 void MainMenus::tickWindow(const QString& name, bool ticked)

@@ -33,6 +33,7 @@ public:
         std::function<void(bool night)> chooseColours;
         std::function<void()> setShip;
         std::function<void()> openJournal;
+        std::function<void()> setShipNow, chooseShipShown;
         std::function<void()> chooseReopening;
         std::function<void()> chooseClockOnTop;
         std::function<void()> chooseOwnFrames;
@@ -47,6 +48,8 @@ public:
     /// Ticks and captions as the saved values have them. A choice toggles the tick of its entry
     /// whatever comes of it, so this is called after every choice.
     void show(const KV_Savedvalue& saved, const ScreenChoices& screen);
+    /// Whether the ship now is shown in the main window.
+    void showShip(bool shown);
     void tickWindow(const QString& name, bool ticked);
 
 private:

@@ -31,6 +31,7 @@ MainPanel::MainPanel()
       m_lblAlarm(makeLabel("lblAlarm", "Next alarm", 1.1)),
       m_lblOffset(makeLabel("lblOffset", "Offset of ship's time", 1.0)),
       m_lblZone(makeLabel("lblZone", "Zone of the computer", 1.0)),
+      m_lblShip(makeLabel("lblShip", "Ship now", 1.0)),
       m_lblMEMO(makeLabel("lblMEMO", "Memories", 1.0)),
       m_lbl1NM(makeLabel("lbl1NM", "Distance unit", 1.1)),
       m_lblTD(makeLabel("lblTD", "Time difference", 1.1)),
@@ -45,11 +46,11 @@ MainPanel::MainPanel()
     last->addStretch();
     last->addWidget(m_lblTD);
     m_lblAlarm->setEliding(); // a comment may be long, and the window is to stay small
-    for (QLabel* remark : {m_lblOffset, m_lblZone, m_lblFault}) {
+    for (QLabel* remark : {m_lblOffset, m_lblZone, m_lblShip, m_lblFault}) {
         remark->setWordWrap(true);
         remark->hide();
     }
-    for (QLabel* label : {m_lblTime, m_lblAlarm, m_lblOffset, m_lblZone, m_lblMEMO})
+    for (QLabel* label : {m_lblTime, m_lblAlarm, m_lblOffset, m_lblZone, m_lblShip, m_lblMEMO})
         column->addWidget(label);
     column->addLayout(last);
     column->addWidget(m_lblFault);
@@ -103,6 +104,11 @@ void MainPanel::showZoneNotice(const std::string& text)
     showIfAny(*m_lblZone, text);
 }
 
+void MainPanel::showShip(const std::string& text)
+{
+    showIfAny(*m_lblShip, text);
+}
+
 void MainPanel::showFault(const std::string& text)
 {
     showIfAny(*m_lblFault, text);
@@ -110,7 +116,8 @@ void MainPanel::showFault(const std::string& text)
 
 bool MainPanel::hasRemarks() const
 {
-    return !m_lblOffset->text().isEmpty() || !m_lblZone->text().isEmpty();
+    return !m_lblShip->text().isEmpty() || !m_lblOffset->text().isEmpty() ||
+           !m_lblZone->text().isEmpty();
 }
 
 void MainPanel::setLeastWidth(int width)
@@ -126,6 +133,7 @@ void MainPanel::applyColours(const ColourScheme& colours)
     setTextColour(m_lbl1NM, colours.unit);
     setTextColour(m_lblTD, colours.unit);
     setTextColour(m_lblAlarm, colours.memo);
+    setTextColour(m_lblShip, colours.memo);
     setTextColour(m_lblOffset, colours.notice);
     setTextColour(m_lblZone, colours.notice);
     setTextColour(m_lblFault, colours.notice);

@@ -26,6 +26,7 @@ public:
     void showAlarm(const std::string& text);
     /// Lines that are there only while they have something to say.
     void showOffset(const std::string& text);
+    void showShip(const std::string& text);
     void showZoneNotice(const std::string& text);
     void showFault(const std::string& text);
     bool hasRemarks() const;
@@ -48,6 +49,7 @@ private:
     ResultLabel* m_lblAlarm;
     ResultLabel* m_lblOffset;
     ResultLabel* m_lblZone;
+    ResultLabel* m_lblShip;
     ResultLabel* m_lblMEMO;
     ResultLabel* m_lbl1NM;
     ResultLabel* m_lblTD;

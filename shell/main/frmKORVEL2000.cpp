@@ -46,6 +46,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
       m_program(m_machine, m_saved, m_screen, m_actions, m_shipsTime, m_help),
       m_windows(m_program, std::move(catalogue)), m_alarmBoxes(machine.bell),
       m_menus(*menuBar(), m_windows.catalogue(), menuActions()), m_tmrClock(new QTimer(this)),
+      m_ship(m_program, m_questions, machine.files, machine.clock),
       m_greeted(machine.files, m_questions, machine.clock, "KV_Help.ini", {FieldKind::Number}),
       m_isFirstStart(!hasFile("KV_KORVEL.ini") && !hasFile(RecoveryFile::name) &&
                      !hasFile(m_greeted.name()))
@@ -68,6 +69,10 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
     connect(&m_program, &Program::nextWanted, this,
             [this](const QWidget* from) { m_windows.openNext(*from, *this); });
     connect(&m_program, &Program::goToWanted, this, [this](QWidget* from) { openGoTo(*from); });
+    connect(&m_program, &Program::shipNowChanged, this, [this] {
+        m_menus.showShip(m_program.shipNow.isShown);
+        showClockRemarks();
+    });
     connect(&m_screen, &Screen::coloursChanged, this, &frmKORVEL2000::applyColours);
     connect(&m_screen, &Screen::zoomChanged, this, [this] {
         QTimer::singleShot(0, this, [this] { // its layout comes first
@@ -83,6 +88,7 @@ frmKORVEL2000::frmKORVEL2000(const Machine& machine, WindowCatalogue catalogue)
 
     loadSavedValues();
     m_menus.show(m_saved, m_screen.choices());
+    m_menus.showShip(m_program.shipNow.isShown);
     m_screen.apply();
     applyColours();
     setWindowTitle(asQString(ShipsTime::caption(m_saved.TD())));
@@ -154,6 +160,8 @@ MainMenus::Actions frmKORVEL2000::menuActions()
         show(); // the flag has hidden it
     };
     actions.chooseOwnFrames = [this] { m_screen.toggleOwnFrames(); };
+    actions.setShipNow = [this] { m_ship.ask(); };
+    actions.chooseShipShown = [this] { m_ship.toggleShown(); };
     actions.openJournal = [this] { openJournal(); };
     actions.setShip = [this] { setShip(); };
     actions.end = [this] { m_actions.ExitApplication(); };
@@ -169,6 +177,7 @@ void frmKORVEL2000::loadSavedValues()
     if (const auto ship = m_shipSettings.load())
         m_program.ship = {withQuoteSigns(textOf(ship->front())),
                           withQuoteSigns(textOf(ship->back()))};
+    m_ship.load();
     const auto offset = m_offsetSettings.load();
     if (offset && !m_shipsTime.takeOffset(numberOf(offset->front())))
         m_questions.ask({"The offset of ship's time in \"KV_Clock.ini\" is refused: with it "
@@ -286,6 +295,7 @@ void frmKORVEL2000::showClockRemarks()
                                              " the computer's clock");
     m_panel->showZoneNotice(m_shipsTime.zoneNotice());
     if (before != m_panel->hasRemarks()) QTimer::singleShot(0, this, [this] { adjustSize(); });
+    m_panel->showShip(m_ship.line());
     m_panel->showAlarm(nextAlarmText(m_saved, m_shipsTime.SMT()));
     m_panel->showTD((m_saved.TD() < 0 ? "TD " : "TD +") + Format(m_saved.TD(), "0.0") + " hours");
 }
@@ -331,6 +341,7 @@ void frmKORVEL2000::closeEverything()
     for (const CalculatorWindow* each : m_windows.all())
         open.insert(each->objectName());
     m_windows.closeAll();
+    m_ship.save();
     keepOpen(open);
     m_journal.reset();
     close();

@@ -8,6 +8,7 @@
 #include "shell/main/CalculatorWindows.h"
 #include "shell/main/MainMenus.h"
 #include "shell/main/MainPanel.h"
+#include "shell/main/ShipKeeper.h"
 #include "shell/manual/HelpDesk.h"
 #include "shell/paper/JournalWindow.h"
 #include "shell/program/Program.h"
@@ -99,7 +100,8 @@ private:
     MainMenus m_menus;
     QTimer* m_tmrClock;
     std::unique_ptr<JournalWindow> m_journal; ///< once it was opened
-    SettingsFile m_greeted;                   ///< there once the page of the first start was shown
+    ShipKeeper m_ship;
+    SettingsFile m_greeted; ///< there once the page of the first start was shown
     bool m_isFirstStart;
     bool m_ending = false;
 };

@@ -20,6 +20,12 @@ void Program::setUnitOfLatitude(bool latitude)
     emit distanceUnitChanged();
 }
 
+std::optional<ShipNow::Position> Program::shipsPosition() const
+{
+    const auto zone = spanOf(NavFunc113::Hours(double(m_saved.TD())));
+    return shipNow.at(instantOf(m_shipsTime.UTC()), zone.value_or(Span(0)), earth());
+}
+
 PaperHeading Program::paperHeading() const
 {
     std::string program = programTitle;

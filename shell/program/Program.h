@@ -3,6 +3,7 @@
 
 #include "app/records/KORVEL2000Actions.h"
 #include "app/records/KV_Savedvalue.h"
+#include "app/watch/ShipNow.h"
 #include "app/watch/ShipsTime.h"
 #include "app/working/WorkingPaper.h"
 #include "shell/machine/Machine.h"
@@ -58,6 +59,11 @@ public:
         std::string voyage;
     };
     Ship ship;
+    /// Where the ship is, and how she goes. Whoever changes it says so by shipNowChanged().
+    ShipNow shipNow;
+    /// Her position run on to this minute.
+    std::optional<ShipNow::Position> shipsPosition() const;
+
     /// The heading of a working paper that is made at this moment.
     PaperHeading paperHeading() const;
 
@@ -88,6 +94,7 @@ signals:
     void distanceUnitChanged();
     void coloursChanged();
     void TDChanged();
+    void shipNowChanged();
     /// Every window is to write its record now: the program may be about to end.
     void recordsWanted();
     /// The clocks show another minute.

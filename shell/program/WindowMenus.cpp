@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/program/WindowMenus.h"
 
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
+#include "navlib/angles.h"
 #include "shell/controls/Boxes.h"
 #include "shell/machine/AsQString.h"
 #include "shell/program/Program.h"
@@ -67,6 +70,20 @@ void WindowMenus::addRecallPosition(const QString& caption, QLineEdit* latitude,
 
 void WindowMenus::addRecallPosition(const QString& caption, PositionBoxes boxes)
 {
+    m_ship.push_back({caption,
+                      [this] {
+                          const auto at = m_program.shipsPosition();
+                          return at ? asQString(positionInFull(at->latitude, Axis::Latitude) + " " +
+                                                positionInFull(at->longitude, Axis::Longitude) +
+                                                ", " + at->how)
+                                    : QString();
+                      },
+                      [this, boxes] {
+                          const auto at = m_program.shipsPosition();
+                          const auto [latitude, longitude] = boxes();
+                          latitude->setText(asQString(packedText(DegMinToDeg(at->latitude))));
+                          longitude->setText(asQString(packedText(DegMinToDeg(at->longitude))));
+                      }});
     addMemoEntry(m_mnuRem, "&Recall", "mnuRem", caption, [this, boxes = std::move(boxes)] {
         const auto [latitude, longitude] = boxes();
         recallPosition(latitude, longitude);
@@ -84,6 +101,48 @@ void WindowMenus::recallPosition(QLineEdit* latitude, QLineEdit* longitude)
     if (m_program.actions().ConfirmMemoRecall(KORVEL2000Actions::PsnM) != Answer::Yes) return;
     latitude->setText(asQString(memoText(m_program.saved().memoLatitude())));
     longitude->setText(asQString(memoText(m_program.saved().memoLongitude())));
+}
+
+void WindowMenus::addShipNow(ShipFigure which, const QString& caption, QLineEdit* box)
+{
+    const auto figure = [this, which]() -> QString {
+        if (which == ShipFigure::Zone)
+            return asQString(Format(double(m_program.saved().TD()), "0.0"));
+        const auto& motion = m_program.shipNow.motion();
+        if (!motion) return {};
+        return asQString(which == ShipFigure::Course ? Format(motion->course, "0.#")
+                                                     : Format(motion->speed, "0.0#"));
+    };
+    m_ship.push_back({caption, figure, [box, figure] { box->setText(figure()); }});
+}
+
+/// Behind the memories, so that these keep their numbers.
+void WindowMenus::addShipEntries()
+{
+    if (m_ship.empty()) return;
+    auto* menu = m_window.findChild<QMenu*>("mnuRem");
+    if (!menu) menu = add("&Recall", "mnuRem");
+    menu->addSeparator();
+    int index = 0;
+    for (ShipEntry& each : m_ship) {
+        each.caption.remove('&');
+        each.entry = addEntry(menu, "mnuShip", index++, {}, each.take);
+    }
+    showShipFigures();
+    QObject::connect(menu, &QMenu::aboutToShow, &m_window, [this] { showShipFigures(); });
+    QObject::connect(&m_program, &Program::shipNowChanged, &m_window,
+                     [this] { showShipFigures(); });
+    QObject::connect(&m_program, &Program::TDChanged, &m_window, [this] { showShipFigures(); });
+}
+
+void WindowMenus::showShipFigures()
+{
+    for (const ShipEntry& each : m_ship) {
+        const QString figure = each.figure();
+        each.entry->setText("Ship now, " + each.caption + ": " +
+                            (figure.isEmpty() ? "not known" : figure));
+        each.entry->setEnabled(!figure.isEmpty());
+    }
 }
 
 void WindowMenus::addLinks(const QString& array)
@@ -107,6 +166,7 @@ void WindowMenus::fillWithLinks(QMenu* menu, const QString& array)
 
 void WindowMenus::addView()
 {
+    addShipEntries();
     QMenu* view = add("&View", "mnuView");
     addShortcuts(*view, m_program, m_window, false);
     if (m_hasLinks) return;

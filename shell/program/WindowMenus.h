@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace korvel
 {
@@ -36,6 +37,11 @@ public:
     using PositionBoxes = std::function<std::pair<QLineEdit*, QLineEdit*>()>;
     void addRecallPosition(const QString& caption, PositionBoxes boxes);
 
+    /// Offers a figure of the ship now for a box, behind the memories; her position is offered for
+    /// every pair of boxes that takes the Position Memo.
+    enum class ShipFigure { Course, Speed, Zone };
+    void addShipNow(ShipFigure figure, const QString& caption, QLineEdit* box);
+
     /// What the recall entries do: ask and fill the boxes on Yes.
     void recallSingle(QLineEdit* box);
     void recallPosition(QLineEdit* latitude, QLineEdit* longitude);
@@ -48,6 +54,15 @@ public:
     void addView();
 
 private:
+    /// A figure of the ship now, where it goes, and its entry.
+    struct ShipEntry {
+        QString caption;
+        std::function<QString()> figure; ///< empty while it is not known
+        std::function<void()> take;
+        QAction* entry = nullptr;
+    };
+    void addShipEntries();
+    void showShipFigures();
     void fillWithLinks(QMenu* menu, const QString& array);
     QAction* addMemoEntry(QMenu*& menu, const QString& title, const QString& array,
                           const QString& caption, std::function<void()> action);
@@ -57,6 +72,7 @@ private:
     bool m_hasLinks = false;
     QMenu* m_mnuMemo = nullptr;
     QMenu* m_mnuRem = nullptr;
+    std::vector<ShipEntry> m_ship;
 };
 
 } // namespace korvel
