@@ -2,9 +2,11 @@
 #include "forms/frmCDDR/frmCDDR.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "forms/frmCDDR/CDDRFields.h"
 #include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
+#include "navlib/angles.h"
 #include "shell/controls/Panels.h"
 #include "shell/machine/AsQString.h"
 
@@ -202,6 +204,13 @@ void frmCDDR::addMemoMenus()
     menus().addRecallPosition("into DR &start", m_txtCDDR[4], m_txtCDDR[5]);
     menus().addRecallSingle("into DR &course", m_txtCDDR[6]);
     menus().addShipNow(WindowMenus::ShipFigure::Course, "course into DR", m_txtCDDR[6]);
+    menus().addPlanLeg("into CD", [this](const PlanExchange::Leg& leg) {
+        for (std::size_t end = 0; end < 2; ++end) {
+            m_txtCDDR[2 * end]->setText(asQString(packedText(DegMinToDeg(leg.latitudes[end]))));
+            m_txtCDDR[2 * end + 1]->setText(
+                asQString(packedText(DegMinToDeg(leg.longitudes[end]))));
+        }
+    });
     menus().addRecallSingle("into DR dis&tance", m_txtCDDR[7]);
 }
 

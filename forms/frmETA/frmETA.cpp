@@ -237,7 +237,23 @@ void frmETA::addMenus()
     menus().addShipNow(ShipFigure::Speed, "into speed", m_txtSpeed);
     menus().addShipNow(ShipFigure::Zone, "into TD at departure", m_txtTD[0]);
     menus().addShipNow(ShipFigure::Zone, "into TD at arrival", m_txtTD[1]);
+    menus().addPlanLeg("into the passage", [this](const PlanExchange::Leg& leg) { takeLeg(leg); });
     menus().addLinks("mnuWindows");
+}
+
+/// Local times of the plan, with the zones that they belong to.
+void frmETA::takeLeg(const PlanExchange::Leg& leg)
+{
+    const std::optional<Instant> moments[] = {leg.leaves, leg.arrives};
+    for (std::size_t end = 0; end < 2; ++end) {
+        m_txtTD[end]->setText(asQString(Format(hoursOf(leg.zones[end]), "0.0#")));
+        if (!moments[end]) continue;
+        const std::string local = minuteText(nearestMinute(*moments[end] + leg.zones[end]));
+        m_txtTime[2 * end]->setText(asQString(local.substr(0, 10)));
+        m_txtTime[2 * end + 1]->setText(asQString(local.substr(11)));
+    }
+    m_txtDist->setText(asQString(Format(leg.distance, "0.0#")));
+    if (leg.speed) m_txtSpeed->setText(asQString(Format(*leg.speed, "0.0#")));
 }
 
 void frmETA::runETA()

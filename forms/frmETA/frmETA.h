@@ -46,6 +46,7 @@ private:
     void addMenus();
 
     void runETA();
+    void takeLeg(const PlanExchange::Leg& leg);
     void showTD(std::size_t end);
     void EnterPresent();
     void scrTime_Change(TimeEntry& entry);

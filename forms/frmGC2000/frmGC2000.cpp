@@ -179,8 +179,23 @@ void frmGC2000::addMenus()
         m_txtGC.clear(0, m_txtGC.size());
         m_txtGC[0]->setFocus();
     });
+    QMenu* plan = menus().add("&Plan", "mnuPlan");
+    menus().addEntry(plan, "mnuPlan", 0, "&Into the plan", [this] { sendToPlan(); });
     addMemoMenus();
     menus().addLinks("mnuGC");
+}
+
+/// The circle goes as one leg with its points on every tenth meridian, as they stand here.
+void frmGC2000::sendToPlan()
+{
+    const auto& waypoints = m_result.route.waypoints;
+    if (waypoints.size() < 2) return sayForAWhile("There is no route yet.");
+    const GCWaypoint& from = waypoints.front();
+    const GCWaypoint& to = waypoints.back();
+    program().plan.circleForPlan = PlanExchange::Circle{
+        {from.lat, to.lat}, {from.longitude, to.longitude}, NavFunc113::Degrees(10)};
+    program().openWindow("frmPassage");
+    emit program().circleOffered();
 }
 
 void frmGC2000::addMemoMenus()

@@ -32,6 +32,7 @@ private:
     QWidget* layOutTable();
     void addMenus();
     void addMemoMenus();
+    void sendToPlan();
     void nameWaypointEntries();
 
     void runGC();

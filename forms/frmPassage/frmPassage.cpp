@@ -92,6 +92,12 @@ frmPassage::frmPassage(Program& program)
     loadSettings();
     takeFilesDropped();
     m_boxes->box(RowName)->setFocus();
+    takeCircle(); // which may have opened the window
+}
+
+frmPassage::~frmPassage()
+{
+    program().plan.legInHand.reset();
 }
 
 void frmPassage::giveRoom()
@@ -153,6 +159,7 @@ void frmPassage::connectParts()
         refresh();
     });
     connect(m_picture, &PlanPicture::rowChosen, this, &frmPassage::goToRow);
+    connect(&program(), &Program::circleOffered, this, &frmPassage::takeCircle);
     connect(&program(), &Program::TDChanged, this, [this] { calculations().runAll(); });
 }
 
@@ -167,6 +174,7 @@ void frmPassage::run()
     m_work.setConditions(conditions());
     m_shown = passageShown(m_work);
     findSun();
+    tellLeg();
     m_results.show(m_shown);
     m_table->showPlan();
     m_picture->setChart(m_chart.chartOf(m_work.reckoning()), m_work.row());

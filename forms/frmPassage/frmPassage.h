@@ -23,6 +23,7 @@ class frmPassage : public CalculatorWindow
 
 public:
     explicit frmPassage(Program& program);
+    ~frmPassage() override;
 
 protected:
     WorkingPaper paper() const override;
@@ -43,6 +44,8 @@ private:
     PlanConditions conditions() const;
     void run();
     void findSun();
+    void tellLeg();
+    void takeCircle();
     void refresh();
     void goToRow(std::size_t row);
     void insertRow();

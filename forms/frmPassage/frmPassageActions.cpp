@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // What the menus and keys of the passage plan do.
+#include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "forms/frmPassage/PassageFields.h"
 #include "forms/frmPassage/PlanBoxes.h"
 #include "forms/frmPassage/PlanTable.h"
 #include "forms/frmPassage/frmPassage.h"
+#include "navlib/angles.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>
@@ -146,6 +149,60 @@ void frmPassage::redo()
     if (!m_work.redo()) return;
     refresh();
     sayForAWhile(QString("Done again: %1.").arg(asQString(name)));
+}
+
+/// The leg to the row in hand, for the windows that take one.
+void frmPassage::tellLeg()
+{
+    const PlanReckoning& plan = m_work.reckoning();
+    auto& told = program().plan.legInHand;
+    told.reset();
+    const std::size_t row = m_work.row();
+    const PlanLeg* leg = row < plan.size() ? plan.leg(row) : nullptr;
+    if (!leg) return;
+    const std::size_t from = *plan.rowBefore(row);
+    const auto& left = *plan.read(from).position;
+    const auto& reached = *plan.read(row).position;
+    const auto nameOf = [this](std::size_t at) {
+        const std::string& name = m_work.plan().rows[at].name;
+        return name.empty() ? "row " + std::to_string(at + 1) : name;
+    };
+    told = PlanExchange::Leg{nameOf(from) + " to " + nameOf(row),
+                             {left.lat, reached.lat},
+                             {left.longitude, reached.longitude},
+                             leg->distance,
+                             plan.figures(row).speed,
+                             plan.figures(from).etd,
+                             plan.figures(row).eta,
+                             {plan.figures(from).zone, plan.figures(row).zone}};
+}
+
+/// A great circle from the great-circle window: behind the last row, which is its departure where
+/// it lies there already.
+void frmPassage::takeCircle()
+{
+    const auto circle = std::exchange(program().plan.circleForPlan, std::nullopt);
+    if (!circle) return;
+    PlanRows rows(2);
+    for (std::size_t end = 0; end < 2; ++end) {
+        rows[end].latitude = packedText(DegMinToDeg(circle->latitudes[end]));
+        rows[end].longitude = packedText(DegMinToDeg(circle->longitudes[end]));
+    }
+    rows[1].leg = LegKind::GreatCircle;
+    rows[1].step = Format(circle->step, "0.##");
+    const PlanReckoning& plan = m_work.reckoning();
+    const auto last = plan.lastRow();
+    const bool goesOn = last && plan.read(*last).position &&
+                        plan.read(*last).position->lat == circle->latitudes[0] &&
+                        plan.read(*last).position->longitude == circle->longitudes[0];
+    if (goesOn) rows.erase(rows.begin());
+    m_work.goToRow(last ? *last + 1 : 0);
+    if (!m_work.insertRows(rows))
+        return tellRefused("The circle was not taken",
+                           "a plan has " + std::to_string(mostPlanRows) + " rows at most");
+    m_work.goToRow(m_work.row() + rows.size() - 1);
+    refresh();
+    sayForAWhile("The great circle is the leg in hand; Plan, Undo takes it back.");
 }
 
 void frmPassage::tellRefused(const std::string& what, const std::string& why)

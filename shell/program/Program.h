@@ -8,6 +8,7 @@
 #include "app/working/WorkingPaper.h"
 #include "shell/machine/Machine.h"
 #include "shell/manual/HelpDesk.h"
+#include "shell/program/PlanExchange.h"
 #include "shell/screen/Screen.h"
 
 #include <QObject>
@@ -64,6 +65,8 @@ public:
     /// Her position run on to this minute.
     std::optional<ShipNow::Position> shipsPosition() const;
 
+    PlanExchange plan;
+
     /// The heading of a working paper that is made at this moment.
     PaperHeading paperHeading() const;
 
@@ -95,6 +98,8 @@ signals:
     void coloursChanged();
     void TDChanged();
     void shipNowChanged();
+    /// PlanExchange::circleForPlan is there to be taken.
+    void circleOffered();
     /// Every window is to write its record now: the program may be about to end.
     void recordsWanted();
     /// The clocks show another minute.

@@ -116,6 +116,18 @@ void WindowMenus::addShipNow(ShipFigure which, const QString& caption, QLineEdit
     m_ship.push_back({caption, figure, [box, figure] { box->setText(figure()); }});
 }
 
+void WindowMenus::addPlanLeg(const QString& caption,
+                             std::function<void(const PlanExchange::Leg&)> take)
+{
+    m_ship.push_back({caption,
+                      [this] {
+                          const auto& leg = m_program.plan.legInHand;
+                          return leg ? asQString(leg->name) : QString();
+                      },
+                      [this, take = std::move(take)] { take(*m_program.plan.legInHand); }, nullptr,
+                      "Leg of the plan, "});
+}
+
 /// Behind the memories, so that these keep their numbers.
 void WindowMenus::addShipEntries()
 {
@@ -139,7 +151,7 @@ void WindowMenus::showShipFigures()
 {
     for (const ShipEntry& each : m_ship) {
         const QString figure = each.figure();
-        each.entry->setText("Ship now, " + each.caption + ": " +
+        each.entry->setText(each.from + each.caption + ": " +
                             (figure.isEmpty() ? "not known" : figure));
         each.entry->setEnabled(!figure.isEmpty());
     }

@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include "shell/program/PlanExchange.h"
+
 namespace korvel
 {
 
@@ -41,6 +43,8 @@ public:
     /// every pair of boxes that takes the Position Memo.
     enum class ShipFigure { Course, Speed, Zone };
     void addShipNow(ShipFigure figure, const QString& caption, QLineEdit* box);
+    /// Offers the leg in hand of the passage plan.
+    void addPlanLeg(const QString& caption, std::function<void(const PlanExchange::Leg&)> take);
 
     /// What the recall entries do: ask and fill the boxes on Yes.
     void recallSingle(QLineEdit* box);
@@ -60,6 +64,7 @@ private:
         std::function<QString()> figure; ///< empty while it is not known
         std::function<void()> take;
         QAction* entry = nullptr;
+        const char* from = "Ship now, ";
     };
     void addShipEntries();
     void showShipFigures();

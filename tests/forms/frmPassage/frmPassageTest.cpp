@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPassage/frmPassage.h"
 
+#include "forms/frmCDDR/frmCDDR.h"
+#include "forms/frmETA/frmETA.h"
+#include "forms/frmGC2000/frmGC2000.h"
 #include "forms/frmPassage/PlanRecord.h"
 #include "forms/frmPassage/PlanTable.h"
 #include "tests/shell/ShellTesting.h"
@@ -318,6 +321,50 @@ TEST_F(frmPassageTest, aDamagedRecordIsNamedAndKept)
     type(window, "txtWaypoint", "A");
     onDisk();
     EXPECT_EQ(files.names("KV_Passage damaged", ".ini").size(), 1u);
+}
+
+TEST_F(frmPassageTest, legsGoBetweenTheWindows)
+{
+    auto& circle = open<frmGC2000>();
+    type(circle, "txtGC(0)", "41");
+    type(circle, "txtGC(1)", "-72");
+    type(circle, "txtGC(2)", "41");
+    type(circle, "txtGC(3)", "0");
+    auto& window = open<frmPassage>();
+    choose(circle, "mnuPlan(0)");
+    EXPECT_EQ(cell(window, 1, PlanTable::Distance), "3160.1");
+    EXPECT_EQ(cell(window, 1, PlanTable::Leg, 1), "10°");
+    static_cast<QLineEdit&>(control(circle, "txtGC(1)")).setText("0");
+    static_cast<QLineEdit&>(control(circle, "txtGC(3)")).setText("20");
+    choose(circle, "mnuPlan(0)");
+    EXPECT_EQ(onDisk().rows.size(), 3u) << "it goes on where the plan ends";
+    type(window, "txtPlanTime", "2026/1/1 0:00");
+    type(window, "txtLegSpeed", "10");
+    type(window, "txtZone", "1");
+
+    auto& course = open<frmCDDR>();
+    choose(course, "mnuShip(4)");
+    EXPECT_EQ(text(course, "txtCDDR(1)") + " " + text(course, "txtCDDR(3)"), "0.00 20.00");
+    auto& eta = open<frmETA>();
+    choose(eta, "mnuShip(3)");
+    EXPECT_EQ(text(eta, "txtSpeed"), "10.0");
+    EXPECT_NEAR(std::stod(text(eta, "txtDist")), std::stod(cell(window, 2, PlanTable::Distance)),
+                0.06);
+}
+
+TEST_F(frmPassageTest, theShipNowIsOfferedAndFillsNothingByItself)
+{
+    program().shipNow.tellFix({NavFunc113::DegMin(35.124), NavFunc113::DegMin(142.031),
+                               instantOf(program().shipsTime().UTC())});
+    emit program().shipNowChanged();
+    auto& window = open<frmPassage>();
+    EXPECT_EQ(text(window, "txtWpLat"), "");
+    auto* entry = window.findChild<QAction*>("mnuShip(0)");
+    EXPECT_THAT(entry->text().toStdString(), HasSubstr("35°12.4' N 142°03.1' E, fix of"));
+    entry->trigger();
+    EXPECT_EQ(text(window, "txtWpLat"), "35.124");
+    EXPECT_EQ(text(window, "txtWpLong"), "142.031");
+    EXPECT_FALSE(window.findChild<QAction*>("mnuShip(1)")->isEnabled()) << "no speed is known";
 }
 
 } // namespace
