@@ -344,7 +344,7 @@ TEST_F(frmPassageTest, legsGoBetweenTheWindows)
 
     auto& course = open<frmCDDR>();
     choose(course, "mnuShip(4)");
-    EXPECT_EQ(text(course, "txtCDDR(1)") + " " + text(course, "txtCDDR(3)"), "0.00 20.00");
+    EXPECT_EQ(text(course, "txtCDDR(1)") + " " + text(course, "txtCDDR(3)"), "0.0 20.0");
     auto& eta = open<frmETA>();
     choose(eta, "mnuShip(3)");
     EXPECT_EQ(text(eta, "txtSpeed"), "10.0");
