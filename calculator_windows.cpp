@@ -7,6 +7,7 @@
 #include "forms/frmCompass/frmCompass.h"
 #include "forms/frmETA/frmETA.h"
 #include "forms/frmGC2000/frmGC2000.h"
+#include "forms/frmNoon/frmNoon.h"
 #include "forms/frmPassage/frmPassage.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 #include "forms/frmSunMoon/frmSunMoon.h"
@@ -85,6 +86,7 @@ WindowCatalogue calculatorWindows()
                                frmCompass::pagesToGoTo)),
         // Behind the others: these keep their keys.
         behindALine(window<frmPassage>("mnuNAV", 4, "frmPassage", "Passage pla&n")),
+        window<frmNoon>("mnuWATCH", 7, "frmNoon", "Noon report"),
     };
 }
 

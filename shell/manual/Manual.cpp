@@ -28,7 +28,7 @@ const QStringList& Manual::pages()
     static const QStringList all = {
         "main-window", "first-start", "frmCDDR", "frmGC2000", "frmSunMoon", "frmPositionRecord",
         "frmSunSight", "frmCompass",  "frmETA",  "frmWind",   "frmWeather", "frmCRUDE",
-        "conversion",  "frmTIDE", "frmPassage",     "paper",   "messages",  "installing", "about",
+        "conversion",  "frmTIDE", "frmPassage", "frmNoon",     "paper",   "messages",  "installing", "about",
     };
     return all;
 }

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmNoon/CalculateNoon.h"
+#include "shell/window/CalculatorWindow.h"
+
+namespace korvel
+{
+
+/// The noon report, from the files of the position record and the passage plan as they were last
+/// written; what stands in their windows is written first.
+///
+/// Its record "KV_Noon.ini": a first line that tells kind and version, then a line a box.
+class frmNoon : public CalculatorWindow
+{
+public:
+    explicit frmNoon(Program& program);
+
+protected:
+    WorkingPaper paper() const override;
+    void applyColours() override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void giveRoom();
+    QWidget* layOutAnswers();
+    QWidget* layOutGroup(const char* title, std::size_t first, std::size_t end) const;
+    QWidget* layOutResults() const;
+    void addMenus();
+
+    void readSources();
+    NoonBoxes boxes() const;
+    std::string recordText() const;
+    std::string take(const std::string& bytes);
+    void run();
+
+    FieldBoxes m_boxes;
+    ResultLabels<NoonResult> m_results;
+    PositionRecordInput m_record;
+    PassagePlan m_plan;
+    NoonResult m_shown;
+    int m_calculation = 0;
+};
+
+} // namespace korvel
