@@ -192,10 +192,8 @@ void frmGC2000::sendToPlan()
     if (waypoints.size() < 2) return sayForAWhile("There is no route yet.");
     const GCWaypoint& from = waypoints.front();
     const GCWaypoint& to = waypoints.back();
-    program().plan.circleForPlan = PlanExchange::Circle{
-        {from.lat, to.lat}, {from.longitude, to.longitude}, NavFunc113::Degrees(10)};
-    program().openWindow("frmPassage");
-    emit program().circleOffered();
+    program().sendToPlan(
+        {{from.lat, to.lat}, {from.longitude, to.longitude}, NavFunc113::Degrees(10)});
 }
 
 void frmGC2000::addMemoMenus()

@@ -137,7 +137,7 @@ void frmNoon::addMenus()
 /// From the files of the other windows, which write first what they hold.
 void frmNoon::readSources()
 {
-    emit program().recordsWanted();
+    program().saveRecords();
     m_record = {};
     m_plan = {};
     using Status = FileStore::Content::Status;

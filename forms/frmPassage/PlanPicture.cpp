@@ -21,7 +21,7 @@ constexpr double furthest = 100000; // pixels: what lies beyond is not drawn
 
 } // namespace
 
-PlanPicture::PlanPicture(Program& program) : m_program(program)
+PlanPicture::PlanPicture()
 {
     setObjectName("picPlan");
     setAccessibleName("Chart of the plan; plus and minus zoom, arrows move, Home shows all of it");

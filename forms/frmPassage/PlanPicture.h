@@ -3,7 +3,8 @@
 
 #include "forms/frmPassage/PlanChart.h"
 #include "shell/controls/PictureBox.h"
-#include "shell/program/Program.h"
+
+#include <optional>
 
 namespace korvel
 {
@@ -14,7 +15,7 @@ class PlanPicture : public PictureBox
     Q_OBJECT
 
 public:
-    explicit PlanPicture(Program& program);
+    PlanPicture();
 
     /// @param row in hand
     void setChart(PlanChart chart, std::size_t row);
@@ -50,9 +51,6 @@ private:
     QPen pen(const QColor& colour, double width) const;
     QPointF pixel(const ChartSpot& spot) const { return toPixel(spot.x, spot.y); }
     double aspect() const;
-    const ColourScheme& colours() const { return m_program.colours(); }
-
-    Program& m_program;
     PlanChart m_chart;
     std::size_t m_row = 0;
     ChartView m_view;

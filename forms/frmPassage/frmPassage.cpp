@@ -56,7 +56,7 @@ QWidget* captioned(const QString& caption, std::initializer_list<QWidget*> answe
 frmPassage::frmPassage(Program& program)
     : CalculatorWindow(program, "frmPassage", "Passage plan"), m_work(conditions()),
       m_boxes(new PlanBoxes(m_work, addFields(PlanHeadFields), addFields(PlanRowFields), this)),
-      m_table(new PlanTable(program, m_work)), m_picture(new PlanPicture(program)),
+      m_table(new PlanTable(program, m_work)), m_picture(new PlanPicture),
       m_results(addResults(PassageResults))
 {
     giveRoom();

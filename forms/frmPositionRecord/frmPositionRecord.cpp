@@ -232,7 +232,7 @@ void frmPositionRecord::tellShip()
         isNew = ship.tellMotion(
                     ShipNow::Motion{NavFunc113::Degrees(*course), NavFunc113::Knots(*speed)}) ||
                 isNew;
-    if (isNew) emit program().shipNowChanged();
+    if (isNew) program().tellShipNow();
 }
 
 void frmPositionRecord::normaliseTime(std::size_t row)

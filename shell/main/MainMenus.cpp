@@ -95,8 +95,7 @@ void MainMenus::addScreen(QMenu* property)
     property->addSeparator();
     addEntry(property, "mnuShip", "Ship and &voyage..", m_actions.setShip);
     addEntry(property, "mnuShipNow", "Ship &now..", m_actions.setShipNow);
-    addEntry(property, "mnuShowShip", "Sho&w the ship now in this window",
-             m_actions.chooseShipShown)
+    addEntry(property, "mnuShowShip", "Show the ship now in this window", m_actions.chooseShipShown)
         ->setCheckable(true);
     addEntry(property, "mnuJournal", "&Journal of kept papers", m_actions.openJournal);
 }

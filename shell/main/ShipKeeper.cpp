@@ -111,13 +111,13 @@ void ShipKeeper::ask()
 {
     if (!askPosition()) return;
     askMotion();
-    emit m_program.shipNowChanged();
+    m_program.tellShipNow();
 }
 
 void ShipKeeper::toggleShown()
 {
     m_program.shipNow.isShown = !m_program.shipNow.isShown;
-    emit m_program.shipNowChanged();
+    m_program.tellShipNow();
 }
 
 std::string ShipKeeper::line() const

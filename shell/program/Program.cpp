@@ -20,6 +20,13 @@ void Program::setUnitOfLatitude(bool latitude)
     emit distanceUnitChanged();
 }
 
+void Program::sendToPlan(const PlanExchange::Circle& circle)
+{
+    plan.circleForPlan = circle;
+    openWindow("frmPassage");
+    emit circleOffered();
+}
+
 std::optional<ShipNow::Position> Program::shipsPosition() const
 {
     const auto zone = spanOf(NavFunc113::Hours(double(m_saved.TD())));

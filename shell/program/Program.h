@@ -60,7 +60,7 @@ public:
         std::string voyage;
     };
     Ship ship;
-    /// Where the ship is, and how she goes. Whoever changes it says so by shipNowChanged().
+    /// Where the ship is, and how she goes. Whoever changes it says so by tellShipNow().
     ShipNow shipNow;
     /// Her position run on to this minute.
     std::optional<ShipNow::Position> shipsPosition() const;
@@ -90,6 +90,10 @@ public:
     void setUnitOfLatitude(bool latitude);
     void tellTD() { emit TDChanged(); }
     void tellMinute() { emit minuteChanged(); }
+    /// The ship now is another.
+    void tellShipNow() { emit shipNowChanged(); }
+    /// A circle is to be taken into the plan, whose window is opened.
+    void sendToPlan(const PlanExchange::Circle& circle);
     /// Has every window write its record now: the program may be about to end.
     void saveRecords() { emit recordsWanted(); }
 

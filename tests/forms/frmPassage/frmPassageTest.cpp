@@ -46,7 +46,7 @@ protected:
 
     PassagePlan onDisk()
     {
-        emit program().recordsWanted();
+        program().saveRecords();
         return readPlanRecord(fileText("KV_Passage.ini")).plan;
     }
 
@@ -303,11 +303,10 @@ TEST_F(frmPassageTest, theProgramsZoneAndUnitHold)
     typeRows(window, {{"A", "0", "140"}, {"B", "0", "150", "10"}});
     EXPECT_THAT(text(window, "lblArrivalUTC"), HasSubstr("TD +9"));
     program().saved().setTD(10);
-    emit program().TDChanged();
+    program().tellTD();
     EXPECT_THAT(text(window, "lblArrivalUTC"), HasSubstr("TD +10"));
     EXPECT_EQ(text(window, "lblPlan(1)"), "600.0");
-    program().saved().setUnitOfLatitude(false);
-    emit program().distanceUnitChanged();
+    program().setUnitOfLatitude(false);
     EXPECT_EQ(text(window, "lblPlan(1)"), "601.1");
 }
 
@@ -356,7 +355,7 @@ TEST_F(frmPassageTest, theShipNowIsOfferedAndFillsNothingByItself)
 {
     program().shipNow.tellFix({NavFunc113::DegMin(35.124), NavFunc113::DegMin(142.031),
                                instantOf(program().shipsTime().UTC())});
-    emit program().shipNowChanged();
+    program().tellShipNow();
     auto& window = open<frmPassage>();
     EXPECT_EQ(text(window, "txtWpLat"), "");
     auto* entry = window.findChild<QAction*>("mnuShip(0)");
