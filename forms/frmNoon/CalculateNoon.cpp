@@ -240,8 +240,11 @@ private:
             if (!speed || !(*speed > Knots(0))) continue;
             const auto way = spanOf(*m_toGo / *speed);
             if (!way) continue;
+            const std::string utc = momentWithDay(fix + *way);
+            const std::string port = zoneText(zone);
             m_shown.eta[i] = Format(*speed, "0.00") + " kn: " + momentWithDay(fix + *way + zone) +
-                             " " + zoneText(zone) + "; UTC " + momentWithDay(fix + *way);
+                             " " + port.substr(0, port.find(" (")) + "; UTC " + utc.substr(0, 4) +
+                             utc.substr(utc.rfind(' ') + 1);
         }
         if (isBlank(m_input.boxes.wanted)) return;
         const TypedTime wanted = readTypedTime(m_input.boxes.wanted, Due::DateAndTime);

@@ -85,7 +85,7 @@ TEST(CalculateNoon, theWayToGoIsThePlans)
     input.boxes.speeds[1] = "15";
     input.boxes.wanted = "2026/11/12 8:00";
     noon = CalculateNoon(input);
-    EXPECT_THAT(noon.eta[1], HasSubstr("UTC Thu 2026/11/12 08:00"));
+    EXPECT_THAT(noon.eta[1], HasSubstr("2026/11/12 09:00 TD +1; UTC Thu 08:00"));
     EXPECT_EQ(noon.speedNeeded, "15.79") << "19 hours by UTC";
     input.boxes.next = "3";
     EXPECT_EQ(CalculateNoon(input).toGo, "300.0");
