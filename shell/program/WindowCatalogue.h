@@ -30,7 +30,6 @@ struct CatalogueEntry {
     std::function<std::vector<Place>()> places = nullptr;
     bool isBehindLine = false; ///< a line parts its entry from those before it
 
-
     QString entryName() const { return index > 0 ? QString("%1(%2)").arg(menu).arg(index) : menu; }
 };
 
