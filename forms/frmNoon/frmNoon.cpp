@@ -208,8 +208,14 @@ void frmNoon::changeEvent(QEvent* event)
 {
     CalculatorWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()) return;
-    readSources();
-    calculations().runAll();
+    // Later: another window may be going at this moment, and is not to be asked for its record.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            readSources();
+            calculations().runAll();
+        },
+        Qt::QueuedConnection);
 }
 
 WorkingPaper frmNoon::paper() const
