@@ -74,6 +74,11 @@ int PlanModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : PlanTable::Columns;
 }
 
+bool PlanModel::isThere(std::size_t row) const
+{
+    return row < m_work.plan().rows.size() && row < m_texts.size();
+}
+
 const PlanRowTexts& PlanModel::textsOf(std::size_t row) const
 {
     if (!m_texts[row]) m_texts[row] = planRowTexts(m_work.reckoning(), row);
@@ -97,7 +102,7 @@ PlanModel::Lines PlanModel::legOf(std::size_t row) const
 PlanModel::Lines PlanModel::linesOf(std::size_t row, int column) const
 {
     if (column == PlanTable::Number) return {std::to_string(row + 1), ""};
-    if (row >= m_work.plan().rows.size()) return {};
+    if (!isThere(row)) return {};
     const PlanRow& typed = m_work.plan().rows[row];
     const PlanRowTexts& texts = textsOf(row);
     const auto& position = m_work.reckoning().read(row).position;
@@ -133,9 +138,8 @@ QVariant PlanModel::data(const QModelIndex& index, int role) const
     const auto row = static_cast<std::size_t>(index.row());
     const int column = index.column();
     if (role == HasRemark || role == Qt::ToolTipRole) {
-        const bool isThere = row < m_work.plan().rows.size();
-        if (role == HasRemark) return isThere && m_work.reckoning().isDoubtful(row);
-        const std::string remark = isThere ? textsOf(row).remark : std::string();
+        if (role == HasRemark) return isThere(row) && m_work.reckoning().isDoubtful(row);
+        const std::string remark = isThere(row) ? textsOf(row).remark : std::string();
         const Lines lines = linesOf(row, column);
         if (column == PlanTable::Number) return asQString(remark);
         return asQString(joined({lines.first, lines.second}));

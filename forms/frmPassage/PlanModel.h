@@ -32,6 +32,9 @@ private:
     struct Lines {
         std::string first, second;
     };
+    /// A question about the plan may be on the screen, and the table painted behind it, before the
+    /// model follows.
+    bool isThere(std::size_t row) const;
     const PlanRowTexts& textsOf(std::size_t row) const;
     Lines linesOf(std::size_t row, int column) const;
     Lines legOf(std::size_t row) const;

@@ -69,6 +69,20 @@ protected:
     }
 };
 
+/// A record that is damaged is asked about, and the table painted behind the question.
+TEST_F(frmPassageTest, theTableIsPaintedBeforeItFollows)
+{
+    PlanInHand work({});
+    PlanTable table(program(), work);
+    PassagePlan plan;
+    plan.rows.resize(3);
+    plan.rows.front().name = "Nojima";
+    work.take(plan);
+    table.resize(900, 300);
+    table.grab();
+    EXPECT_EQ(table.model()->index(0, 1).data().toString(), "");
+}
+
 TEST_F(frmPassageTest, voyageOfThirteenDaysAcross180)
 {
     auto& window = open<frmPassage>();
