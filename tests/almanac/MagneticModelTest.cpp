@@ -175,7 +175,8 @@ TEST(CoefficientFile, aDamagedOneIsNamedByItsLine)
         else
             EXPECT_EQ(faultOf(damaged), "") << each.what << " by " << each.by;
     }
-    EXPECT_THAT(faultOf(std::string(1 << 20, ' ')), HasSubstr("64 KiB"));
+    EXPECT_THAT(faultOf(std::string(64 * 1024 + 1, ' ')), HasSubstr("64 KiB"));
+    EXPECT_THAT(faultOf(std::string(64 * 1024, ' ')), Not(HasSubstr("64 KiB")));
     EXPECT_NE(faultOf(std::string(60000, '\0')), "");
 }
 
