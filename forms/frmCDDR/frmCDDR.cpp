@@ -29,6 +29,19 @@ namespace
 constexpr std::size_t courseAndDistance = 0, deadReckoning = 4; ///< first fields
 constexpr std::size_t course = 6, distance = 7;
 
+constexpr const char* widestCourse = "<000.0>";
+constexpr const char* widestDistance = "00000'.0";
+constexpr const char* widestLatitude = "00-.00'0N";
+constexpr const char* widestLongitude = "000-.00'0W";
+
+/// Under the four rows of entries.
+void addAnswers(QGridLayout* grid, AnswerStrip* answers)
+{
+    grid->addWidget(answers, 4, 0, 1, -1);
+    grid->setColumnStretch(4, 1);
+    grid->setRowStretch(5, 1);
+}
+
 } // namespace
 
 frmCDDR::frmCDDR(Program& program)
@@ -39,7 +52,7 @@ frmCDDR::frmCDDR(Program& program)
     setCopies();
     addOptions();
     auto* columns = new QHBoxLayout(scrollBody());
-    layOutBody(*columns);
+    layOutBody(*columns, Spacing::Groups);
     columns->addWidget(layOutCD());
     columns->addWidget(layOutDR());
     foldColumns();
@@ -104,9 +117,12 @@ void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
 {
     m_txtCDDR.addRow(grid, row, field);
     grid->removeWidget(m_txtCDDR.position(field)->echo());
-    grid->addWidget(m_optNSEW[2 * field], row, 2);
-    grid->addWidget(m_optNSEW[2 * field + 1], row, 3);
-    grid->addWidget(m_txtCDDR.position(field)->echo(), row, 4);
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(0);
+    halves->addWidget(m_optNSEW[2 * field]);
+    halves->addWidget(m_optNSEW[2 * field + 1]);
+    grid->addLayout(halves, row, 2);
+    grid->addWidget(m_txtCDDR.position(field)->echo(), row, 3);
 }
 
 QGroupBox* frmCDDR::layOutCD()
@@ -117,8 +133,10 @@ QGroupBox* frmCDDR::layOutCD()
     addPositionRow(grid, 1, 1);
     addPositionRow(grid, 2, 2);
     addPositionRow(grid, 3, 3);
-    m_lblCD.addRows(grid, 4);
-    grid->setRowStretch(6, 1);
+    auto* answers = new AnswerStrip;
+    m_lblCD.addAnswer(answers, 0, widestCourse);
+    m_lblCD.addAnswer(answers, 1, widestDistance);
+    addAnswers(grid, answers);
     return group;
 }
 
@@ -130,8 +148,10 @@ QGroupBox* frmCDDR::layOutDR()
     addPositionRow(grid, 1, deadReckoning + 1);
     m_txtCDDR.addRow(grid, 2, course);
     m_txtCDDR.addRow(grid, 3, distance);
-    m_lblDR.addRows(grid, 4);
-    grid->setRowStretch(6, 1);
+    auto* answers = new AnswerStrip;
+    m_lblDR.addAnswer(answers, 0, widestLatitude);
+    m_lblDR.addAnswer(answers, 1, widestLongitude);
+    addAnswers(grid, answers);
     return group;
 }
 

@@ -54,8 +54,9 @@ frmCRUDE::frmCRUDE(Program& program)
     addChoices();
     m_results = new CrudeResults;
     auto* columns = new QHBoxLayout(scrollBody());
-    layOutBody(*columns);
+    layOutBody(*columns, Spacing::Groups);
     auto* left = new QVBoxLayout;
+    layOutBody(*left, Spacing::Groups);
     left->addWidget(layOutInputs());
     left->addWidget(layOutMethods());
     left->addStretch();
@@ -114,7 +115,7 @@ QWidget* frmCRUDE::layOutInputs()
         auto* label = new QLabel(CrudeFields[field].caption);
         label->setBuddy(m_boxes[field]);
         grid->addWidget(label, row, 0);
-        grid->addWidget(m_boxes[field], row, 1);
+        grid->addWidget(m_boxes[field], row, 1, Qt::AlignLeft);
         grid->addWidget(beside, row++, 2);
     };
     line(Volume, m_cboVolumeUnit);

@@ -54,9 +54,10 @@ frmETA::frmETA(Program& program)
     nameBoxes();
     addBars();
     auto* columns = new QHBoxLayout(scrollBody());
-    layOutBody(*columns);
+    layOutBody(*columns, Spacing::Groups);
     columns->addWidget(layOutPassage(), 1);
     auto* results = new QVBoxLayout;
+    layOutBody(*results, Spacing::Groups);
     results->addWidget(layOutArrivals());
     results->addWidget(layOutRequiredSpeed());
     columns->addLayout(results);
@@ -89,7 +90,6 @@ void frmETA::nameBoxes()
 
 void frmETA::addBars()
 {
-    m_lblRequired[0]->setRoom("0000.00");
     for (std::size_t end = 0; end < m_txtTD.size(); ++end) {
         m_lblZD[end] = new QLabel;
         m_lblZD[end]->setObjectName(memberName("lblZD", static_cast<int>(end)));
@@ -155,8 +155,8 @@ QGroupBox* frmETA::layOutPassage()
     int row = 1;
     for (const TimeEntry* entry : {&m_departure, &m_arrival}) {
         caption(row, row == 1 ? "Departure" : "Arrival wanted", entry->date);
-        grid->addWidget(entry->date, row, 1);
-        grid->addWidget(entry->time, row, 2);
+        grid->addWidget(entry->date, row, 1, Qt::AlignLeft);
+        grid->addWidget(entry->time, row, 2, Qt::AlignLeft);
         grid->addWidget(entry->bar, row, 3);
         ++row;
     }
@@ -170,15 +170,15 @@ QGroupBox* frmETA::layOutPassage()
 
     for (std::size_t end = 0; end < m_txtTD.size(); ++end, ++row) {
         caption(row, end == 0 ? "TD at departure" : "TD at arrival", m_txtTD[end]);
-        grid->addWidget(m_txtTD[end], row, 1);
+        grid->addWidget(m_txtTD[end], row, 1, Qt::AlignLeft);
         grid->addWidget(new QLabel("hours"), row, 2);
         grid->addWidget(m_lblZD[end], row, 3);
     }
     caption(row, "Distance", m_txtDist);
-    grid->addWidget(m_txtDist, row, 1);
+    grid->addWidget(m_txtDist, row, 1, Qt::AlignLeft);
     grid->addWidget(new QLabel("miles"), row++, 2);
     caption(row, "Speed", m_txtSpeed);
-    grid->addWidget(m_txtSpeed, row, 1);
+    grid->addWidget(m_txtSpeed, row, 1, Qt::AlignLeft);
     grid->addWidget(new QLabel("knots"), row, 2);
     grid->addWidget(m_scrSpeed, row++, 3);
     const int ofTD = fontMetrics().horizontalAdvance("TD +9.5, ZD -9.5");
@@ -205,6 +205,7 @@ QGroupBox* frmETA::layOutArrivals()
     const QFontMetrics metrics(m_lblArrivals[firstArrival]->font());
     grid->setColumnMinimumWidth(0, metrics.horizontalAdvance("00.00 "));
     grid->setColumnMinimumWidth(1, metrics.horizontalAdvance("00/00 00:00LT "));
+    grid->setColumnStretch(1, 1);
     grid->setRowStretch(6, 1);
     return group;
 }
@@ -212,9 +213,9 @@ QGroupBox* frmETA::layOutArrivals()
 QGroupBox* frmETA::layOutRequiredSpeed()
 {
     auto* group = new QGroupBox("Required for the arrival wanted");
-    auto* grid = gridOf(group);
-    m_lblRequired.addRows(grid, 0);
-    grid->setColumnStretch(2, 1);
+    auto* answers = new AnswerStrip;
+    m_lblRequired.addAnswer(answers, 0, "0000.00");
+    gridOf(group)->addWidget(answers, 0, 0);
     return group;
 }
 

@@ -186,7 +186,6 @@ void frmPositionRecord::focusMoved(const QWidget* now)
     const auto row = m_table->rowOf(now);
     if (!row) return;
     m_row = *row;
-    m_table->markRow(m_row);
 }
 
 PositionRecordInput frmPositionRecord::input() const

@@ -294,10 +294,10 @@ void frmSunMoon::showDoubts(std::size_t row)
     const ColourScheme& colours = program().colours();
     for (const auto& [column, event] : events) {
         if (isDimmed(m_table->result(row, column))) continue;
-        setTextColour(m_table->result(row, column),
-                      (m_results[row].*event).refined.empty()
-                          ? colours.palette.color(QPalette::WindowText)
-                          : colours.notice);
+        if ((m_results[row].*event).refined.empty())
+            resetTextColour(m_table->result(row, column));
+        else
+            setTextColour(m_table->result(row, column), colours.notice);
     }
 }
 

@@ -35,7 +35,7 @@ frmWeather::frmWeather(Program& program)
       m_labels(addResults(WeatherResults))
 {
     auto* column = new QVBoxLayout(scrollBody());
-    layOutBody(*column);
+    layOutBody(*column, Spacing::Groups);
     column->addWidget(layOutTerms());
     column->addWidget(layOutLetters());
     column->addStretch();
@@ -54,7 +54,7 @@ QGroupBox* frmWeather::layOutTerms()
         auto* caption = new QLabel(WeatherFields[i].caption);
         caption->setBuddy(m_boxes[i]);
         grid->addWidget(caption, row, 0);
-        grid->addWidget(m_boxes[i], row, 1);
+        grid->addWidget(m_boxes[i], row, 1, Qt::AlignLeft);
         grid->addWidget(new QLabel(WeatherFields[i].unit), row, 2);
         grid->addWidget(m_labels[i], row, 3);
     }

@@ -24,8 +24,9 @@ frmWind::frmWind(Program& program)
     addOptions();
 
     auto* columns = new QHBoxLayout(scrollBody());
-    layOutBody(*columns);
+    layOutBody(*columns, Spacing::Groups);
     auto* left = new QVBoxLayout;
+    layOutBody(*left, Spacing::Groups);
     left->addWidget(layOutInputs());
     left->addWidget(layOutResults());
     left->addWidget(layOutOptions());
@@ -62,17 +63,17 @@ QGroupBox* frmWind::layOutInputs()
     auto* grid = gridOf(group);
     for (std::size_t i = 0; i < m_txtWind.size(); ++i)
         m_txtWind.addRow(grid, static_cast<int>(i), i);
+    grid->setColumnStretch(2, 1);
     return group;
 }
 
 QGroupBox* frmWind::layOutResults()
 {
     auto* group = new QGroupBox("True wind");
-    auto* grid = gridOf(group);
-    m_lblWind.addRows(grid, 0);
-    grid->setColumnMinimumWidth(
-        1, QFontMetrics(m_lblWind[1]->font()).horizontalAdvance("Beaufort 9 (100.0Kn)"));
-    grid->setColumnStretch(1, 1);
+    auto* answers = new AnswerStrip;
+    m_lblWind.addAnswer(answers, 0, "WNWbW <000>");
+    m_lblWind.addAnswer(answers, 1, "Beaufort 9 (100.0Kn)");
+    gridOf(group)->addWidget(answers, 0, 0);
     return group;
 }
 
@@ -80,6 +81,7 @@ QGroupBox* frmWind::layOutOptions()
 {
     auto* group = new QGroupBox("Picture");
     auto* row = new QHBoxLayout(group);
+    row->setContentsMargins(0, 8, 0, 0);
     for (QRadioButton* option : m_optWind)
         row->addWidget(option);
     row->addStretch();

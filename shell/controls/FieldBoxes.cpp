@@ -58,6 +58,11 @@ FieldBoxes::FieldBoxes(std::span<const Field> table, QWidget* parent) : m_table(
         if (field.kind == FieldKind::Longitude && !m_boxes.empty())
             if (auto* latitude = dynamic_cast<PositionBox*>(m_boxes.back()))
                 PositionBox::pair(latitude, static_cast<PositionBox*>(box));
+        // As wide as what it takes, whatever room there is.
+        if (field.kind != FieldKind::Text)
+            box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        if (field.kind != FieldKind::Text && field.kind != FieldKind::Moment)
+            box->setAlignment(Qt::AlignRight);
         m_boxes.push_back(box);
     }
     setEntryOrder(m_boxes);
@@ -145,7 +150,7 @@ void FieldBoxes::addRow(QGridLayout* grid, int row, std::size_t field) const
     auto* caption = new QLabel(m_table[field].caption);
     caption->setBuddy(box);
     grid->addWidget(caption, row, 0);
-    grid->addWidget(box, row, 1);
+    grid->addWidget(box, row, 1, Qt::AlignLeft);
     if (auto* position = dynamic_cast<PositionBox*>(box))
         grid->addWidget(position->echo(), row, 2);
     else

@@ -12,8 +12,11 @@ namespace
 {
 
 constexpr int denseGap = 4;
-constexpr int framelessGap = 18;
-constexpr QMargins denseMargins(6, 1, 6, 1);
+constexpr int framelessGap = 16;
+constexpr int groupGap = 24;
+constexpr int columnGap = 8;
+constexpr QMargins roomyMargins(0, 8, 0, 0);
+constexpr QMargins denseMargins(0, 4, 0, 0);
 
 class SectionHead : public QLabel
 {
@@ -63,6 +66,7 @@ void layOutBody(QLayout& layout, Spacing spacing)
 {
     layout.setContentsMargins(0, 0, 0, 0);
     if (spacing == Spacing::Frameless) layout.setSpacing(framelessGap);
+    if (spacing == Spacing::Groups) layout.setSpacing(groupGap);
     if (spacing != Spacing::Dense) return;
     if (auto* grid = qobject_cast<QGridLayout*>(&layout))
         grid->setVerticalSpacing(denseGap);
@@ -73,10 +77,9 @@ void layOutBody(QLayout& layout, Spacing spacing)
 QGridLayout* gridOf(QGroupBox* group, Spacing spacing)
 {
     auto* grid = new QGridLayout(group);
-    if (spacing == Spacing::Dense) {
-        grid->setVerticalSpacing(0);
-        grid->setContentsMargins(denseMargins);
-    }
+    grid->setHorizontalSpacing(columnGap);
+    grid->setContentsMargins(spacing == Spacing::Dense ? denseMargins : roomyMargins);
+    if (spacing == Spacing::Dense) grid->setVerticalSpacing(0);
     return grid;
 }
 

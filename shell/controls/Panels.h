@@ -12,8 +12,8 @@ namespace korvel
 {
 
 /// Room between rows: Dense for windows that would not fit on a screen of 1024 x 768 otherwise,
-/// Frameless where nothing but the room sets parts of a window apart.
-enum class Spacing { Roomy, Dense, Frameless };
+/// Groups between the groups of a window, Frameless where they have a picture and a table beside.
+enum class Spacing { Roomy, Dense, Groups, Frameless };
 
 /// Lays out the body of a window, or a part of it: what is around is the window's matter.
 void layOutBody(QLayout& layout, Spacing spacing = Spacing::Roomy);

@@ -2,8 +2,10 @@
 #include "shell/controls/ResultLabel.h"
 
 #include "app/reading/PackedText.h"
+#include "shell/controls/TypeScale.h"
 #include "shell/controls/WrappedText.h"
 #include "shell/machine/AsQString.h"
+#include "shell/screen/ColourScheme.h"
 
 #include <QAccessibleWidget>
 #include <QApplication>
@@ -86,11 +88,7 @@ ResultLabel::ResultLabel(QWidget* parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
     setSelectable(false);
-    QFont larger = font();
-    larger.setPointSizeF(larger.pointSizeF() * 1.2);
-    // Figures are drawn side by side: pairs that stand closer when measured (LT) would be cut off.
-    larger.setKerning(false);
-    setFont(larger);
+    dressAs(Weight::Figure);
 }
 
 void ResultLabel::declare(const QString& words, const QString& unit, Weight weight)
@@ -100,6 +98,21 @@ void ResultLabel::declare(const QString& words, const QString& unit, Weight weig
     m_weight = weight;
     // Out of its row the figure would be a bare number.
     setAccessibleName(unit.isEmpty() ? words : words + ", " + unit);
+    dressAs(weight);
+}
+
+void ResultLabel::dressAs(Weight weight)
+{
+    setFont(lettersOf(weight));
+    setForegroundRole(weight == Weight::Answer   ? accentRole
+                      : weight == Weight::Remark ? quietRole
+                                                 : QPalette::WindowText);
+}
+
+void ResultLabel::dressAsInHand()
+{
+    setFont(lettersOfRowInHand());
+    setForegroundRole(accentRole);
 }
 
 void ResultLabel::setText(const QString& text)

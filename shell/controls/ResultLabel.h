@@ -12,7 +12,7 @@
 namespace korvel
 {
 
-/// A label with a result: one step larger than captions, selectable and copyable, by mouse and from
+/// A label with a result, in the letters of its weight: selectable and copyable, by mouse and from
 /// the keyboard: Tab stops at it while it shows something. Assistive tools get its text behind its
 /// accessible name. The tip of a label without one of its own shows its figures in full form where
 /// the label keeps the program's packed writing.
@@ -29,6 +29,11 @@ public:
     const QString& words() const { return m_words; }
     const QString& unit() const { return m_unit; }
     Weight weight() const { return m_weight; }
+
+    /// Gives it the letters and the colour of a weight; declare() has given those of its own.
+    void dressAs(Weight weight);
+    /// The same where it stands in the row in hand of a table.
+    void dressAsInHand();
 
     /// What copying the whole label gives, when that is not its own text in plain form.
     std::function<QString()> copyText;

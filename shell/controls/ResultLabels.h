@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/controls/AnswerStrip.h"
 #include "shell/controls/ResultLabel.h"
 #include "shell/machine/AsQString.h"
 
@@ -37,6 +38,13 @@ public:
         for (std::size_t i = 0; i < m_labels.size(); ++i)
             if (const std::string* text = m_table[i].textIn(source))
                 m_labels[i]->setText(asQString(*text));
+    }
+
+    /// Puts results of this many letters into a strip of answers.
+    void addAnswer(AnswerStrip* strip, std::size_t result, const QString& widest) const
+    {
+        m_labels.at(result)->setRoom(widest);
+        strip->add(m_table[result].caption, m_labels.at(result), m_table[result].unit);
     }
 
     /// Rows of a grid from this one on: caption, figure, unit.

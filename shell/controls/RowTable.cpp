@@ -4,8 +4,10 @@
 #include "shell/controls/FieldBoxes.h"
 #include "shell/controls/Panels.h"
 #include "shell/controls/WrappingRow.h"
+#include "shell/screen/ColourScheme.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -48,7 +50,32 @@ QFont small(QFont letters)
 
 } // namespace
 
-RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows) : m_columns(columns)
+/// The ground of a row: a hairline below it, and tinted while the row is in hand.
+class RowTable::Ground final : public QWidget
+{
+public:
+    void setInHand(bool inHand)
+    {
+        m_isInHand = inHand;
+        update();
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        if (m_isInHand) painter.fillRect(rect(), palette().alternateBase());
+        painter.fillRect(0, height() - 1, width(), 1, palette().color(hairRole));
+    }
+
+private:
+    bool m_isInHand = false;
+};
+
+RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
+    : m_columns(columns), m_focus([this](QWidget* now) {
+          if (const auto row = rowOf(now)) setInHand(*row);
+      })
 {
     auto* lines = new QVBoxLayout(this);
     lines->setContentsMargins(0, 0, 0, 0);
@@ -59,7 +86,7 @@ RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows) : m_c
             line.push_back(makeControl(column, row, line));
         // A widget a row: what is painted anew is looked up among the neighbours in the same
         // widget.
-        auto* widget = new QWidget;
+        auto* widget = new Ground;
         layOut(line, *widget);
         lines->addWidget(widget);
         m_lines.push_back(std::move(line));
@@ -67,6 +94,40 @@ RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows) : m_c
     lines->addStretch();
     setEntryOrder(boxes());
     sizeByLetters();
+    if (!std::ranges::any_of(m_columns, isBox)) return;
+    for (std::size_t row = 1; row < rows; ++row)
+        dress(row, false);
+    dress(0, true);
+}
+
+void RowTable::setInHand(std::size_t row)
+{
+    if (row == m_inHand) return;
+    dress(m_inHand, false);
+    dress(row, true);
+    m_inHand = row;
+}
+
+/// Boxes have their frames and answers stand out in the row in hand alone.
+void RowTable::dress(std::size_t row, bool inHand)
+{
+    static_cast<Ground*>(number(row)->parentWidget())->setInHand(inHand);
+    QFont ofNumber = font();
+    ofNumber.setBold(inHand);
+    number(row)->setFont(ofNumber);
+    QPalette bare;
+    if (!inHand) bare.setColor(QPalette::Base, Qt::transparent);
+    for (EntryBox* box : boxesOfRow(row)) {
+        box->setFrame(inHand);
+        box->setPalette(bare);
+    }
+    for (std::size_t i = 0; i < m_columns.size(); ++i) {
+        if (m_columns[i].weight != Weight::Answer) continue;
+        if (inHand)
+            result(row, i)->dressAsInHand();
+        else
+            result(row, i)->dressAs(Weight::Figure);
+    }
 }
 
 QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const Line& before)
@@ -79,15 +140,17 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
         made = new QLabel(QString::number(row + 1), this);
     else
         made = new ResultLabel(this);
-    if (holds(column, Label::Correction)) made->setFont(small(font()));
     made->setObjectName(memberName(column.name, static_cast<int>(row)));
     const auto ofRow = [row](const char* text) {
         return QString(text).replace("%1", QString::number(row + 1));
     };
     const QString words = ofRow(column.words), measure = ofRow(column.measure);
-    if (isResult(column))
-        static_cast<ResultLabel*>(made)->declare(words, measure, column.weight);
-    else if (isBox(column))
+    if (isResult(column)) {
+        auto* label = static_cast<ResultLabel*>(made);
+        label->declare(words, measure, column.weight);
+        label->dressAs(Weight::Figure); // also an answer: it is one in the row in hand
+        if (holds(column, Label::Correction)) label->setFont(small(font()));
+    } else if (isBox(column))
         static_cast<EntryBox*>(made)->declare(words, measure);
     else
         made->setAccessibleName(words);
@@ -116,6 +179,7 @@ int RowTable::widthOf(const TableColumn& column) const
     const int heading = captions.size(0, column.heading).width();
     if (isResult(column)) {
         ResultLabel sample;
+        if (column.weight == Weight::Answer) sample.dressAsInHand();
         if (holds(column, Label::Correction)) sample.setFont(small(font()));
         sample.setRoom(column.widest);
         return std::max(heading, sample.sizeHint().width());
@@ -282,15 +346,6 @@ bool RowTable::eventFilter(QObject* watched, QEvent* event)
     if (there != control && there->focusPolicy() != Qt::NoFocus)
         there->setFocus(Qt::TabFocusReason);
     return true;
-}
-
-void RowTable::markRow(std::size_t row)
-{
-    for (std::size_t each = 0; each < rows(); ++each) {
-        QFont shown = font();
-        shown.setBold(each == row);
-        number(each)->setFont(shown);
-    }
 }
 
 } // namespace korvel

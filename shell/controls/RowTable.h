@@ -3,6 +3,7 @@
 
 #include "app/reading/NumberField.h"
 #include "app/reading/Result.h"
+#include "shell/controls/FocusFollower.h"
 #include "shell/controls/PositionBox.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/ZoomSizes.h"
@@ -62,7 +63,8 @@ constexpr std::array<TableColumn, N> columnsOf(const std::array<RowColumn<Row>, 
 }
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
-/// repaints the labels that change and never lays the table out anew. Enter goes through the
+/// repaints the labels that change and never lays the table out anew. The row in hand stands out: it
+/// alone has frames around its boxes, a tinted ground and its answers in the colour of answers. Enter goes through the
 /// boxes row by row, Tab through the results between them too; Up, Down, Page Up and Down,
 /// Ctrl+Home and Ctrl+End go to another row in the same column.
 class RowTable : public QWidget, public SizedByLetters
@@ -102,16 +104,17 @@ public:
 
     /// Row of a control; nothing when it is none of the table's.
     std::optional<std::size_t> rowOf(const QWidget* control) const;
-    /// Sets the number of one row apart: the one that the menus speak of.
-    void markRow(std::size_t row);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     class Heading;
+    class Ground;
     using Line = std::vector<QWidget*>; ///< by column
 
+    void setInHand(std::size_t row);
+    void dress(std::size_t row, bool inHand);
     std::optional<std::size_t> rowByKey(const QKeyEvent& key, std::size_t from) const;
     QWidget* makeControl(const TableColumn& column, std::size_t row, const Line& before);
     void layOut(const Line& line, QWidget& widget) const;
@@ -120,6 +123,8 @@ private:
 
     std::span<const TableColumn> m_columns;
     std::vector<Line> m_lines;
+    std::size_t m_inHand = 0; ///< the row that has the focus, or had it last
+    FocusFollower m_focus;
 };
 
 } // namespace korvel

@@ -11,20 +11,20 @@ namespace
 {
 
 struct Surfaces {
-    QColor window, base, alternate, button, text, disabled, placeholder, outline, highlight,
-        highlightedText;
+    QColor window, base, alternate, button, text, disabled, placeholder, outline, hair, highlight,
+        highlightedText, accent;
 };
 
 QPalette paletteOf(const Surfaces& s)
 {
-    QPalette palette(s.text, s.button, s.button, s.outline, s.outline, s.text, s.text, s.base,
-                     s.window);
-    palette.setColor(QPalette::Midlight, s.alternate);
+    QPalette palette(s.text, s.button, s.button, s.outline, s.outline, s.text, s.accent,
+                     s.base, s.window);
+    palette.setColor(hairRole, s.hair);
     palette.setColor(QPalette::Shadow, s.outline);
     palette.setColor(QPalette::AlternateBase, s.alternate);
     palette.setColor(QPalette::ToolTipBase, s.alternate);
     palette.setColor(QPalette::ToolTipText, s.text);
-    palette.setColor(QPalette::PlaceholderText, s.placeholder);
+    palette.setColor(quietRole, s.placeholder);
     palette.setColor(QPalette::Highlight, s.highlight);
     palette.setColor(QPalette::HighlightedText, s.highlightedText);
     palette.setColor(QPalette::Link, s.highlight);
@@ -76,10 +76,11 @@ QPalette nightPalette(const NightStep& step)
     const auto ground = [&](const QColor& ofBrightest) {
         return atLuminance(ofBrightest, step.grounds * relativeLuminance(ofBrightest));
     };
-    return paletteOf({ground("#0d0403"), ground(Hue::black), ground("#120604"), ground("#120705"),
-                      atLuminance(Hue::amber, step.peak), atLuminance(Hue::orange, step.line),
+    return paletteOf({ground("#0d0403"), ground(Hue::black), ground("#1a0905"), ground("#120705"),
+                      atLuminance(Hue::amber, step.text), atLuminance(Hue::orange, step.line),
                       atLuminance(Hue::orange, step.text), atLuminance(Hue::orange, step.line),
-                      atLuminance(Hue::amber, step.text), ground(Hue::black)});
+                      atLuminance(Hue::red, step.line / 4), atLuminance(Hue::amber, step.text),
+                      ground(Hue::black), atLuminance(Hue::paleAmber, step.peak)});
 }
 
 } // namespace
@@ -99,8 +100,8 @@ bool isNight(const QPalette& palette)
 double strayLight(const QPalette& palette)
 {
     if (!isNight(palette)) return inAnOffice;
-    // The letters are of the brightest light of their step.
-    const double peak = relativeLuminance(palette.color(QPalette::WindowText));
+    // The answers are of the brightest light of their step.
+    const double peak = relativeLuminance(palette.color(accentRole));
     const auto isBrighter = [peak](const NightStep& step) { return step.peak > peak / 1.2; };
     const auto step = std::find_if(nightSteps.rbegin(), nightSteps.rend(), isBrighter);
     return step == nightSteps.rend() ? inAnOffice : step->strayLight;
@@ -118,8 +119,10 @@ QColor atLuminance(const QColor& hue, double luminance)
 ColourScheme ColourScheme::day()
 {
     ColourScheme scheme;
-    scheme.palette = paletteOf({"#eef1f4", "#ffffff", "#e3e8ee", "#e4e8ec", "#14202b", "#69737d",
-                                "#56616c", "#74808c", "#1f5f99", "#ffffff"});
+    scheme.palette = paletteOf({"#eef1f4", "#ffffff", "#dfe7f0", "#e4e8ec", "#14202b", "#69737d",
+                                "#56616c", "#74808c", "#ccd5de", "#1f5f99", "#ffffff",
+                                "#0b4a86"});
+    scheme.accent = scheme.palette.color(accentRole);
     scheme.clock = "#0b3d6b";
     scheme.memo = "#23313e";
     scheme.unit = "#5a3d00";
@@ -146,6 +149,7 @@ ColourScheme ColourScheme::night(int which)
     const NightStep& step = nightStep(which);
     ColourScheme scheme;
     scheme.palette = nightPalette(step);
+    scheme.accent = scheme.palette.color(accentRole);
     scheme.clock = atLuminance(Hue::amber, step.peak);
     scheme.memo = atLuminance(Hue::paleAmber, step.peak);
     scheme.unit = atLuminance(Hue::orange, step.peak);

@@ -7,10 +7,17 @@
 namespace korvel
 {
 
+/// Roles of the palette that the toolkit has no other use for: the one colour of answers, words that
+/// keep quiet, the line between rows and below a head.
+inline constexpr QPalette::ColorRole accentRole = QPalette::BrightText,
+                                     quietRole = QPalette::PlaceholderText,
+                                     hairRole = QPalette::Midlight;
+
 /// Every colour of the program, by day or by night.
 struct ColourScheme {
     QPalette palette; ///< Dark is the outline of controls
 
+    QColor accent; ///< answers, and the chosen half of a switch; in the palette too
     QColor clock;  ///< text of lblTime
     QColor memo;   ///< text of lblMEMO
     QColor unit;   ///< text of lbl1NM

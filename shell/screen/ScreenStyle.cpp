@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QRadioButton>
 #include <QStyleOption>
 
 #include <array>
@@ -119,6 +120,53 @@ void drawArrow(QPainter& painter, const QStyleOption& option, int degrees)
     painter.restore();
 }
 
+/// A group is a head over a hairline.
+QFont headLetters(QFont captions)
+{
+    captions.setBold(true);
+    return captions;
+}
+
+int headHeight(const QFont& captions)
+{
+    constexpr int belowLetters = 4;
+    return QFontMetrics(headLetters(captions)).height() + belowLetters;
+}
+
+void drawHead(QPainter& painter, const QStyleOptionGroupBox& option)
+{
+    if (option.text.isEmpty()) return;
+    painter.save();
+    painter.setFont(headLetters(painter.font()));
+    painter.setPen(option.palette.color(QPalette::WindowText));
+    const int height = headHeight(painter.font());
+    painter.drawText(QRect(option.rect.left(), option.rect.top(), option.rect.width(), height),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic, option.text);
+    painter.fillRect(option.rect.left(), option.rect.top() + height - 1, option.rect.width(), 1,
+                     option.palette.color(hairRole));
+    painter.restore();
+}
+
+/// Options of one letter, N and S or E and W, are the halves of a switch.
+const QStyleOptionButton* asSwitchHalf(const QStyleOption* option)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    return button && button->text.size() == 1 ? button : nullptr;
+}
+
+void drawSwitchHalf(QPainter& painter, const QStyleOptionButton& option)
+{
+    const bool isChosen = option.state & QStyle::State_On;
+    drawPanel(painter, option,
+              isChosen ? option.palette.brush(accentRole) : option.palette.base(),
+              hasFocus(option));
+    painter.save();
+    if (isChosen) painter.setFont(headLetters(painter.font()));
+    painter.setPen(option.palette.color(isChosen ? QPalette::Base : quietRole));
+    painter.drawText(option.rect, Qt::AlignCenter, option.text);
+    painter.restore();
+}
+
 /// Degrees that an arrow which points down is turned by.
 std::optional<int> turnOf(QStyle::PrimitiveElement element)
 {
@@ -217,7 +265,10 @@ void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         if (element == PE_PanelLineEdit && frame && frame->lineWidth == 0)
             painter->fillRect(option->rect, option->palette.base());
         else
-            drawPanel(*painter, *option, option->palette.base(), hasFocus(*option));
+            drawPanel(*painter, *option,
+                      option->state & State_Enabled ? option->palette.base()
+                                                    : option->palette.window(),
+                      hasFocus(*option));
         if (element == PE_PanelLineEdit && widget) drawCaret(*painter, *option, *widget);
         return;
     }
@@ -243,13 +294,6 @@ void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
         painter->drawRect(option->rect.adjusted(1, 1, -1, -1));
         painter->restore();
         return;
-    case PE_FrameGroupBox: {
-        QStyleOption frame = *option;
-        const auto* group = qobject_cast<const QGroupBox*>(widget);
-        if (group && !group->title().isEmpty()) // which stands above it
-            frame.rect.setTop(frame.rect.top() + option->fontMetrics.height() + 1);
-        return drawPanel(*painter, frame, Qt::NoBrush, false);
-    }
     case PE_Frame:
     case PE_FrameMenu:
     case PE_PanelTipLabel: {
@@ -275,6 +319,9 @@ void ScreenStyle::drawControl(ControlElement element, const QStyleOption* option
                           outlineOf(*option));
         return;
     }
+    if (element == CE_RadioButton) {
+        if (const auto* half = asSwitchHalf(option)) return drawSwitchHalf(*painter, *half);
+    }
     const auto draw = [&](const QStyleOption& with) {
         QProxyStyle::drawControl(element, &with, painter, widget);
     };
@@ -298,6 +345,10 @@ void ScreenStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
             return drawScrollBar(*bar, *painter, widget);
     }
+    if (control == CC_GroupBox) {
+        if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+            return drawHead(*painter, *group);
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_SpinBox || control == CC_ComboBox)
         drawPanel(*painter, *option, Qt::NoBrush, hasFocus(*option));
@@ -318,6 +369,28 @@ void ScreenStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& pain
     drawArrow(painter, part, level ? 90 : 180);
     part.rect = rectOf(SC_ScrollBarAddLine);
     drawArrow(painter, part, level ? -90 : 0);
+}
+
+QRect ScreenStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                  SubControl part, const QWidget* widget) const
+{
+    const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    if (control != CC_GroupBox || !group)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    const int height =
+        group->text.isEmpty() ? 0 : headHeight(widget ? widget->font() : QApplication::font());
+    if (part == SC_GroupBoxLabel)
+        return {option->rect.topLeft(), QSize(option->rect.width(), height)};
+    return option->rect.adjusted(0, height, 0, 0);
+}
+
+QRect ScreenStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    const auto* radio = qobject_cast<const QRadioButton*>(widget);
+    if (element == SE_RadioButtonIndicator && radio && radio->text().size() == 1)
+        return option->rect;
+    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 int ScreenStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
@@ -355,6 +428,16 @@ QSize ScreenStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
     // The toolkit draws the column of ticks as broad as the entry is high, and reckons with a fixed
     // breadth: large letters would not fit.
     if (type == CT_MenuItem) own.rwidth() += own.height();
+    if (type == CT_GroupBox) {
+        if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+            own.setWidth(QFontMetrics(headLetters(widget ? widget->font() : QApplication::font()))
+                             .size(Qt::TextShowMnemonic, group->text)
+                             .width());
+    }
+    if (type == CT_RadioButton && asSwitchHalf(option)) {
+        const int letter = option->fontMetrics.height();
+        own = QSize(2 * letter, letter * 3 / 2);
+    }
     return own;
 }
 

@@ -9,10 +9,9 @@ namespace korvel
 void setTextColour(QWidget* widget, const QColor& colour)
 {
     QPalette palette = widget->palette();
-    if (palette.isBrushSet(QPalette::Active, QPalette::WindowText) &&
-        palette.color(QPalette::WindowText) == colour)
-        return;
-    palette.setColor(QPalette::WindowText, colour);
+    const QPalette::ColorRole role = widget->foregroundRole();
+    if (palette.isBrushSet(QPalette::Active, role) && palette.color(role) == colour) return;
+    palette.setColor(role, colour);
     widget->setPalette(palette);
 }
 

@@ -10,7 +10,7 @@ namespace korvel
 /// labels of a table are tinted again with every key.
 void setTextColour(QWidget* widget, const QColor& colour);
 
-/// Gives the text the colour of the window again.
+/// Gives the text the colour of its role again.
 void resetTextColour(QWidget* widget);
 
 } // namespace korvel
