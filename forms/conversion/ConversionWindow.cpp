@@ -5,6 +5,7 @@
 #include "forms/conversion/ConversionWorking.h"
 #include "navlib/arithmetic_error.h"
 #include "shell/controls/Panels.h"
+#include "shell/controls/TypeScale.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
@@ -20,6 +21,15 @@ namespace
 
 using NavFunc113::Quantity;
 
+/// Any box may be the one in hand, and nothing moves when it is.
+void giveRoom(QLineEdit& box)
+{
+    box.setFont(lettersOf(Weight::Answer));
+    box.setMinimumWidth(box.fontMetrics().horizontalAdvance("000000000.0000000"));
+    constexpr int aroundLetters = 4; // frames included: seventeen boxes are a screen full
+    box.setFixedHeight(box.fontMetrics().height() + aroundLetters);
+}
+
 /// A menu caption with a mnemonic of its own, 1 to 9 and A to Z, whatever the unit is called.
 QString numbered(std::size_t index, const NavFunc113::Unit& unit)
 {
@@ -32,7 +42,8 @@ QString numbered(std::size_t index, const NavFunc113::Unit& unit)
 } // namespace
 
 ConversionWindow::ConversionWindow(Program& program, const ConversionKind& kind)
-    : CalculatorWindow(program, kind.name, kind.caption), m_quantity(kind.quantity)
+    : CalculatorWindow(program, kind.name, kind.caption), m_quantity(kind.quantity),
+      m_focus([this](QWidget* now) { focusMoved(now); })
 {
     addBoxes(kind.box);
     layOut();
@@ -41,6 +52,7 @@ ConversionWindow::ConversionWindow(Program& program, const ConversionKind& kind)
     useConversionSettings(kind.file);
     loadSettings();
     m_boxes[m_lead]->setFocus();
+    focusMoved(m_boxes[m_lead]);
 }
 
 void ConversionWindow::addBoxes(const char* name)
@@ -53,7 +65,8 @@ void ConversionWindow::addBoxes(const char* name)
         box->declare(asQString(unit.caption), asQString(unit.symbol));
         box->setToolTip(asQString(unitToolTip(m_quantity, index)));
         box->setReading({.name = {}});
-        box->setMinimumWidth(box->fontMetrics().horizontalAdvance("000000000.0000000"));
+        box->setAlignment(Qt::AlignRight);
+        giveRoom(*box);
         m_boxes.push_back(box);
         order.push_back(box);
     }
@@ -75,7 +88,7 @@ void ConversionWindow::addCalculation()
 void ConversionWindow::layOut()
 {
     auto* grid = new QGridLayout(scrollBody());
-    layOutBody(*grid);
+    layOutBody(*grid, Spacing::Dense);
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         const int row = static_cast<int>(i);
@@ -90,6 +103,31 @@ void ConversionWindow::layOut()
     }
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(static_cast<int>(units.size()), 1);
+}
+
+void ConversionWindow::focusMoved(const QWidget* now)
+{
+    const auto box = std::ranges::find(m_boxes, now);
+    if (box == m_boxes.end() || *box == m_inHand) return;
+    m_inHand = *box;
+    dressBoxes();
+}
+
+/// What is typed or asked for is the answer here.
+void ConversionWindow::dressBoxes()
+{
+    QPalette accent;
+    accent.setColor(QPalette::Text, program().colours().accent);
+    for (KeyUpBox* box : m_boxes) {
+        box->setFont(lettersOf(box == m_inHand ? Weight::Answer : Weight::Figure));
+        box->setPalette(box == m_inHand ? accent : QPalette());
+    }
+}
+
+void ConversionWindow::applyColours()
+{
+    CalculatorWindow::applyColours();
+    dressBoxes();
 }
 
 void ConversionWindow::addMenus()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "navlib/unit_tables.h"
+#include "shell/controls/FocusFollower.h"
 #include "shell/window/CalculatorWindow.h"
 
 namespace korvel
@@ -27,6 +28,7 @@ public:
 
 protected:
     WorkingPaper paper() const override;
+    void applyColours() override;
 
 private:
     void addBoxes(const char* name);
@@ -36,10 +38,14 @@ private:
     void useConversionSettings(const char* file);
     void convert();
     void clearBoxes();
+    void focusMoved(const QWidget* now);
+    void dressBoxes();
 
     NavFunc113::Quantity m_quantity;
     std::vector<KeyUpBox*> m_boxes;
-    std::size_t m_lead = 0; ///< the box that was typed in last
+    std::size_t m_lead = 0;             ///< the box that was typed in last
+    const KeyUpBox* m_inHand = nullptr; ///< the box that has the focus, or had it last
+    FocusFollower m_focus;
 };
 
 /// The five windows, by the names that the menus know.

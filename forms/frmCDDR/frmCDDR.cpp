@@ -198,6 +198,7 @@ void frmCDDR::addDataMenu()
         row->addWidget(button, index / 3, index % 3);
         ++index;
     }
+    row->setColumnStretch(3, 1);
     addBelow(buttons);
 }
 

@@ -15,9 +15,9 @@ CrudeResults::CrudeResults() : m_labels(CrudeShown, this)
     auto* grid = new QGridLayout(this);
     layOutBody(*grid);
     grid->setVerticalSpacing(fontMetrics().leading() + fontMetrics().descent());
-    grid->addWidget(panelTitle("Oil"), m_row++, 0, 1, -1);
+    addHead(grid, "Oil");
     layOutRows(grid, "lblRangeFlag", true);
-    grid->addWidget(panelTitle("Volume"), m_row++, 0, 1, -1);
+    addHead(grid, "Volume");
     layOutRows(grid, "lblKilolitresMethod", true);
     layOutHeads(grid, "Net, by density, whatever KL/Bbl says", "at 15 °C", "at 60 °F");
     layOutRows(grid, "lblBarrels60", false);
@@ -37,6 +37,7 @@ void CrudeResults::dressLabels()
     for (ResultLabel* label : labels()) {
         const bool isNote = label->weight() == Weight::Remark;
         label->setAlignment((isNote ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        if (label->weight() == Weight::Answer) label->setRoom("0000000.000");
         if (!isNote) continue;
         label->setFont(font());
         label->setRoom({});
@@ -68,10 +69,17 @@ void CrudeResults::layOutRows(QGridLayout* grid, const char* last, bool unitsBes
     }
 }
 
+void CrudeResults::addHead(QGridLayout* grid, const char* title)
+{
+    constexpr int aboveHead = 8;
+    if (m_row > 0) grid->setRowMinimumHeight(m_row++, aboveHead);
+    grid->addWidget(sectionHead(title), m_row++, 0, 1, -1);
+}
+
 void CrudeResults::layOutHeads(QGridLayout* grid, const char* title, const char* left,
                                const char* right)
 {
-    grid->addWidget(panelTitle(title), m_row++, 0, 1, -1);
+    addHead(grid, title);
     grid->addWidget(columnHead(left, Qt::AlignRight), m_row, 1);
     grid->addWidget(columnHead(right, Qt::AlignRight), m_row++, 2);
 }

@@ -27,6 +27,7 @@ private:
     ResultLabel* named(const char* name) const;
     void dressLabels();
     void layOutRows(QGridLayout* grid, const char* last, bool unitsBeside);
+    void addHead(QGridLayout* grid, const char* title);
     void layOutHeads(QGridLayout* grid, const char* title, const char* left, const char* right);
     void giveRoom(QGridLayout* grid);
 

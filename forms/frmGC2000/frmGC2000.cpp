@@ -53,7 +53,7 @@ QGridLayout* addPanel(QWidget* panel, const QString& title)
 {
     auto* column = new QVBoxLayout(panel);
     layOutBody(*column);
-    column->addWidget(panelTitle(title));
+    column->addWidget(sectionHead(title));
     auto* grid = new QGridLayout;
     column->addLayout(grid, 1);
     return grid;
@@ -68,13 +68,14 @@ frmGC2000::frmGC2000(Program& program)
     prepareResults();
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid, Spacing::Frameless);
-    grid->addWidget(layOutPositions(), 0, 0);
+    grid->addWidget(layOutPositions(), 0, 0, 2, 1);
     grid->addWidget(layOutDistances(), 0, 1);
     grid->addWidget(layOutTrack(), 0, 2);
-    grid->addWidget(layOutTable(), 1, 0);
-    grid->addWidget(m_picGC, 1, 1, 1, 2);
+    grid->addWidget(layOutAnswers(), 1, 1, 1, 2);
+    grid->addWidget(layOutTable(), 2, 0);
+    grid->addWidget(m_picGC, 2, 1, 1, 2);
     grid->setColumnStretch(2, 1);
-    grid->setRowStretch(1, 1);
+    grid->setRowStretch(2, 1);
     foldColumns();
     addMenus();
 
@@ -92,11 +93,9 @@ void frmGC2000::prepareResults()
     m_picGC = new GCPicture;
 
     // Whatever a key changes keeps its place: the window paints and never lays itself out again.
-    for (const std::size_t distance :
-         {GCShown::rhumbLine, GCShown::greatCircle, GCShown::sumOfLegs, GCShown::saving})
+    for (const std::size_t distance : {GCShown::rhumbLine, GCShown::sumOfLegs})
         m_shown[distance]->setRoom(widestDistance);
-    for (const std::size_t course : {GCShown::initialCourse, GCShown::finalCourse})
-        m_shown[course]->setRoom(widestCourse);
+    m_shown[GCShown::finalCourse]->setRoom(widestCourse);
     m_shown[GCShown::vertexLat]->setRoom(widestVertex[0]);
     m_shown[GCShown::vertexLong]->setRoom(widestVertex[1]);
     m_shown[GCShown::vertexRemark]->setFont(font());
@@ -134,29 +133,35 @@ QWidget* frmGC2000::layOutDistances()
 {
     auto* group = new QWidget;
     auto* grid = addPanel(group, "Distances");
-    for (const std::size_t distance :
-         {GCShown::rhumbLine, GCShown::greatCircle, GCShown::sumOfLegs})
-        m_shown.addRow(grid, static_cast<int>(distance), distance);
+    m_shown.addRow(grid, 0, GCShown::rhumbLine);
+    m_shown.addRow(grid, 1, GCShown::sumOfLegs);
     grid->setColumnStretch(2, 1);
-    grid->setRowStretch(3, 1);
+    grid->setRowStretch(2, 1);
     return group;
+}
+
+QWidget* frmGC2000::layOutAnswers()
+{
+    auto* answers = new AnswerStrip;
+    m_shown.addAnswer(answers, GCShown::greatCircle, widestDistance);
+    m_shown.addAnswer(answers, GCShown::initialCourse, widestCourse);
+    m_shown.addAnswer(answers, GCShown::saving, widestDistance);
+    return answers;
 }
 
 QWidget* frmGC2000::layOutTrack()
 {
     auto* group = new QWidget;
     auto* grid = addPanel(group, "Great circle on the sphere");
-    const QFontMetrics metrics(m_shown[GCShown::saving]->font());
-    m_shown.addRow(grid, 0, GCShown::initialCourse);
-    m_shown.addRow(grid, 1, GCShown::finalCourse);
-    m_shown.addRow(grid, 2, GCShown::vertexLat);
-    grid->addWidget(m_shown[GCShown::vertexLong], 2, 2);
-    grid->addWidget(m_shown[GCShown::vertexRemark], 2, 3);
-    m_shown.addRow(grid, 3, GCShown::saving);
+    const QFontMetrics metrics(m_shown[GCShown::finalCourse]->font());
+    m_shown.addRow(grid, 0, GCShown::finalCourse);
+    m_shown.addRow(grid, 1, GCShown::vertexLat);
+    grid->addWidget(m_shown[GCShown::vertexLong], 1, 2);
+    grid->addWidget(m_shown[GCShown::vertexRemark], 1, 3);
     grid->setColumnMinimumWidth(1, metrics.horizontalAdvance(widestVertex[0]));
     grid->setColumnMinimumWidth(2, metrics.horizontalAdvance(widestVertex[1]));
     grid->setColumnStretch(3, 1);
-    grid->setRowStretch(4, 1);
+    grid->setRowStretch(2, 1);
     return group;
 }
 
@@ -165,7 +170,7 @@ QWidget* frmGC2000::layOutTable()
     auto* group = new QWidget;
     auto* area = new FollowingScrollArea(m_waypoints);
     area->setHeading(m_waypoints->makeHeading());
-    area->setMinimumHeight(8 * m_shown[GCShown::saving]->fontMetrics().height());
+    area->setMinimumHeight(8 * m_shown[GCShown::rhumbLine]->fontMetrics().height());
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setMinimumWidth(area->sizeHint().width());
     addPanel(group, "Waypoints")->addWidget(area, 0, 0);

@@ -29,6 +29,7 @@ private:
     QWidget* layOutPositions();
     QWidget* layOutDistances();
     QWidget* layOutTrack();
+    QWidget* layOutAnswers();
     QWidget* layOutTable();
     void addMenus();
     void addMemoMenus();

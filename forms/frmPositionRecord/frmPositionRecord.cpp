@@ -11,6 +11,7 @@
 #include "forms/frmPositionRecord/RowReading.h"
 #include "shell/controls/CellLayout.h"
 #include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>
@@ -69,21 +70,24 @@ void frmPositionRecord::addTotals()
     for (EntryBox* box : {m_txtCourseSteered, m_txtSpeedSteered})
         box->setFixedWidth(box->fontMetrics().horizontalAdvance("000000000"));
     auto* below = new QWidget;
-    auto* cells = new CellLayout(below, 4, Qt::Horizontal);
+    auto* lines = new QVBoxLayout(below);
+    layOutBody(*lines);
+    auto* answers = new AnswerStrip;
+    for (const std::size_t result : {LatestRun, AverageSpeed, TotalDistance})
+        m_results.addAnswer(answers, result, widest[result]);
+    lines->addWidget(answers);
+    auto* cells = new CellLayout(nullptr, 5, Qt::Horizontal);
+    lines->addLayout(cells);
     const auto put = [&](const char* caption, QWidget* field, const char* unit) {
         auto* label = new QLabel(caption);
         label->setBuddy(field);
         cells->addCell({label, field, new QLabel(unit)});
     };
     const auto putResult = [&](std::size_t result) {
-        ResultLabel* label = m_results[result];
-        // Fixed: a new figure is painted, the window is not laid out anew.
-        label->setFixedSize(label->fontMetrics().horizontalAdvance(widest[result]),
-                            label->fontMetrics().lineSpacing());
-        put(recordResults[result].caption, label, recordResults[result].unit);
+        m_results[result]->setRoom(widest[result]);
+        put(recordResults[result].caption, m_results[result], recordResults[result].unit);
     };
-    for (const std::size_t result : {TotalDistance, TotalHours, AverageSpeed, LatestRun})
-        putResult(result);
+    putResult(TotalHours);
     for (std::size_t i = 0; i < steeredFields.size(); ++i)
         put(steeredFields[i].caption, m_steered[i], steeredFields[i].unit);
     putResult(Set);

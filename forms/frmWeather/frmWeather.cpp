@@ -58,11 +58,10 @@ QGroupBox* frmWeather::layOutTerms()
         grid->addWidget(new QLabel(WeatherFields[i].unit), row, 2);
         grid->addWidget(m_labels[i], row, 3);
     }
-    grid->addWidget(m_labels[Miles], 2, 4);
+    grid->addWidget(m_labels[Miles], 3, 3);
     // Room for the longest terms, so that nothing moves while the officer types.
     const QFontMetrics metrics(m_labels[Visibility]->font());
     grid->setColumnMinimumWidth(3, metrics.horizontalAdvance("9-Visivility exceptional "));
-    grid->setColumnMinimumWidth(4, metrics.horizontalAdvance("9999.9 nm"));
     grid->setColumnStretch(4, 1);
     return group;
 }

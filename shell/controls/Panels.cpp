@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/Panels.h"
 
+#include "shell/screen/ColourScheme.h"
+
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPainter>
@@ -12,12 +14,14 @@ namespace
 {
 
 constexpr int denseGap = 4;
+constexpr int underHead = 4;
 constexpr int framelessGap = 16;
 constexpr int groupGap = 24;
 constexpr int columnGap = 8;
 constexpr QMargins roomyMargins(0, 8, 0, 0);
 constexpr QMargins denseMargins(0, 4, 0, 0);
 
+/// As the style draws the head of a group.
 class SectionHead : public QLabel
 {
 public:
@@ -34,23 +38,7 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         QLabel::paintEvent(event);
-        QPainter painter(this);
-        painter.setPen(hairline());
-        painter.drawLine(0, height() - 1, width(), height() - 1);
-    }
-
-private:
-    static constexpr int underHead = 4;
-
-    /// Of the colour of text, and much nearer to the ground.
-    QColor hairline() const
-    {
-        const QColor ground = palette().color(QPalette::Window);
-        const QColor ink = palette().color(QPalette::WindowText);
-        const auto mixed = [](float a, float b) { return a + (b - a) / 4; };
-        return QColor::fromRgbF(mixed(ground.redF(), ink.redF()),
-                                mixed(ground.greenF(), ink.greenF()),
-                                mixed(ground.blueF(), ink.blueF()));
+        QPainter(this).fillRect(0, height() - 1, width(), 1, palette().color(hairRole));
     }
 };
 
@@ -87,15 +75,6 @@ void layOutLines(QGridLayout& grid)
 {
     grid.setContentsMargins(0, 0, 0, 0);
     grid.setVerticalSpacing(0);
-}
-
-QLabel* panelTitle(const QString& text)
-{
-    auto* title = new QLabel(text);
-    QFont bold = title->font();
-    bold.setBold(true);
-    title->setFont(bold);
-    return title;
 }
 
 QLabel* sectionHead(const QString& text)

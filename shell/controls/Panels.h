@@ -24,9 +24,6 @@ QGridLayout* gridOf(QGroupBox* group, Spacing spacing = Spacing::Roomy);
 /// The grid of a part without margins of its own: rows of captions and figures, close together.
 void layOutLines(QGridLayout& grid);
 
-/// A title over figures that have no frame.
-QLabel* panelTitle(const QString& text);
-
 /// A title over a hairline, as wide as what it stands over.
 QLabel* sectionHead(const QString& text);
 

@@ -63,10 +63,10 @@ constexpr std::array<TableColumn, N> columnsOf(const std::array<RowColumn<Row>, 
 }
 
 /// Rows of boxes and results under one heading. Everything in them has a fixed size: a keystroke
-/// repaints the labels that change and never lays the table out anew. The row in hand stands out: it
-/// alone has frames around its boxes, a tinted ground and its answers in the colour of answers. Enter goes through the
-/// boxes row by row, Tab through the results between them too; Up, Down, Page Up and Down,
-/// Ctrl+Home and Ctrl+End go to another row in the same column.
+/// repaints the labels that change and never lays the table out anew. The row in hand stands out:
+/// it alone has frames around its boxes, a tinted ground and its answers in the colour of answers.
+/// Enter goes through the boxes row by row, Tab through the results between them too; Up, Down,
+/// Page Up and Down, Ctrl+Home and Ctrl+End go to another row in the same column.
 class RowTable : public QWidget, public SizedByLetters
 {
 public:

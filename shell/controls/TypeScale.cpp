@@ -17,7 +17,8 @@ QFont lettersOf(Weight weight)
 {
     QFont letters = QApplication::font();
     if (weight == Weight::Remark) return letters;
-    letters.setPointSizeF(letters.pointSizeF() * (weight == Weight::Answer ? answerSize : figureSize));
+    letters.setPointSizeF(letters.pointSizeF() *
+                          (weight == Weight::Answer ? answerSize : figureSize));
     if (weight == Weight::Answer) letters.setWeight(QFont::DemiBold);
     // Figures are drawn side by side: pairs that stand closer when measured (LT) would be cut off.
     letters.setKerning(false);

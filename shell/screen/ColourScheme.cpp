@@ -17,8 +17,8 @@ struct Surfaces {
 
 QPalette paletteOf(const Surfaces& s)
 {
-    QPalette palette(s.text, s.button, s.button, s.outline, s.outline, s.text, s.accent,
-                     s.base, s.window);
+    QPalette palette(s.text, s.button, s.button, s.outline, s.outline, s.text, s.accent, s.base,
+                     s.window);
     palette.setColor(hairRole, s.hair);
     palette.setColor(QPalette::Shadow, s.outline);
     palette.setColor(QPalette::AlternateBase, s.alternate);
@@ -76,8 +76,10 @@ QPalette nightPalette(const NightStep& step)
     const auto ground = [&](const QColor& ofBrightest) {
         return atLuminance(ofBrightest, step.grounds * relativeLuminance(ofBrightest));
     };
+    // Answers alone are of the brightest light.
+    const QColor letters = atLuminance(Hue::amber, (step.peak + step.text) / 2);
     return paletteOf({ground("#0d0403"), ground(Hue::black), ground("#1a0905"), ground("#120705"),
-                      atLuminance(Hue::amber, step.text), atLuminance(Hue::orange, step.line),
+                      letters, atLuminance(Hue::orange, step.line),
                       atLuminance(Hue::orange, step.text), atLuminance(Hue::orange, step.line),
                       atLuminance(Hue::red, step.line / 4), atLuminance(Hue::amber, step.text),
                       ground(Hue::black), atLuminance(Hue::paleAmber, step.peak)});
@@ -120,8 +122,7 @@ ColourScheme ColourScheme::day()
 {
     ColourScheme scheme;
     scheme.palette = paletteOf({"#eef1f4", "#ffffff", "#dfe7f0", "#e4e8ec", "#14202b", "#69737d",
-                                "#56616c", "#74808c", "#ccd5de", "#1f5f99", "#ffffff",
-                                "#0b4a86"});
+                                "#56616c", "#74808c", "#ccd5de", "#1f5f99", "#ffffff", "#0b4a86"});
     scheme.accent = scheme.palette.color(accentRole);
     scheme.clock = "#0b3d6b";
     scheme.memo = "#23313e";

@@ -7,8 +7,8 @@
 namespace korvel
 {
 
-/// Roles of the palette that the toolkit has no other use for: the one colour of answers, words that
-/// keep quiet, the line between rows and below a head.
+/// Roles of the palette that the toolkit has no other use for: the one colour of answers, words
+/// that keep quiet, the line between rows and below a head.
 inline constexpr QPalette::ColorRole accentRole = QPalette::BrightText,
                                      quietRole = QPalette::PlaceholderText,
                                      hairRole = QPalette::Midlight;

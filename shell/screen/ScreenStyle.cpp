@@ -157,10 +157,13 @@ const QStyleOptionButton* asSwitchHalf(const QStyleOption* option)
 void drawSwitchHalf(QPainter& painter, const QStyleOptionButton& option)
 {
     const bool isChosen = option.state & QStyle::State_On;
-    drawPanel(painter, option,
-              isChosen ? option.palette.brush(accentRole) : option.palette.base(),
+    drawPanel(painter, option, isChosen ? option.palette.brush(accentRole) : option.palette.base(),
               hasFocus(option));
     painter.save();
+    if (isChosen && hasFocus(option)) { // its outline alone is lost beside the ground
+        painter.setPen(QPen(option.palette.color(QPalette::Base), focusWidth));
+        painter.drawRect(option.rect.adjusted(4, 4, -4, -4));
+    }
     if (isChosen) painter.setFont(headLetters(painter.font()));
     painter.setPen(option.palette.color(isChosen ? QPalette::Base : quietRole));
     painter.drawText(option.rect, Qt::AlignCenter, option.text);

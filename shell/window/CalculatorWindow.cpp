@@ -229,7 +229,9 @@ void CalculatorWindow::placeStrip()
 {
     if (!m_strip) return;
     constexpr int part = 3;
-    const int room = centralWidget()->layout()->contentsRect().width();
+    // The window's own, for what is in it is laid out later.
+    const QMargins around = centralWidget()->layout()->contentsMargins();
+    const int room = width() - around.left() - around.right();
     m_strip->setFixedHeight(std::min(m_strip->widget()->heightForWidth(room), height() / part));
 }
 

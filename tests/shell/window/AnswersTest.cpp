@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/RowTable.h"
+#include "shell/screen/ColourScheme.h"
+#include "tests/shell/WholeProgram.h"
+
+#include <QAbstractButton>
+
+// Whoever looks at a window sees its answers first.
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+const RowTable* tableOf(const QWidget& control)
+{
+    const QWidget* row = control.parentWidget();
+    return row ? dynamic_cast<const RowTable*>(row->parentWidget()) : nullptr;
+}
+
+bool isAccented(const QWidget& control)
+{
+    return control.font().weight() >= QFont::DemiBold &&
+           (control.foregroundRole() == accentRole ||
+            control.palette().color(control.foregroundRole()) == ColourScheme::day().accent);
+}
+
+/// In a table of rows those of the row in hand, which is the first in a new window; where nothing
+/// but boxes tells the answer, the box in hand.
+std::vector<QWidget*> answersOf(const QWidget& window)
+{
+    std::vector<QWidget*> answers;
+    for (auto* label : window.findChildren<ResultLabel*>()) {
+        const RowTable* table = tableOf(*label);
+        if (label->weight() == Weight::Answer && label->isVisible() &&
+            (!table || table->rowOf(label) == 0u))
+            answers.push_back(label);
+    }
+    if (answers.empty()) answers.push_back(window.focusWidget());
+    return answers;
+}
+
+class AnswersTest : public WholeProgram
+{
+};
+
+TEST_F(AnswersTest, areTheLargestLettersOfTheirWindowAndTheOnlyOnesOfTheirColour)
+{
+    for (const CatalogueEntry& entry : calculatorWindows()) {
+        if (QString(entry.name) == "frmTIDE") continue; // the curve is what is looked at first
+        QWidget& opened = window(entry.name);
+        QApplication::processEvents();
+        const std::vector<QWidget*> answers = answersOf(opened);
+        double size = 0;
+        for (const QWidget* answer : answers) {
+            size = std::max(size, answer->font().pointSizeF());
+            EXPECT_TRUE(isAccented(*answer)) << nameOf(*answer);
+        }
+        for (const QWidget* answer : answers)
+            EXPECT_EQ(answer->font().pointSizeF(), size) << nameOf(*answer);
+        for (auto* each : opened.findChildren<QWidget*>()) {
+            if (!each->isVisible() || each->window() != &opened) continue;
+            const bool isAnswer = std::ranges::find(answers, each) != answers.end();
+            EXPECT_LE(each->font().pointSizeF(), size) << nameOf(*each);
+            EXPECT_TRUE(isAnswer || !isAccented(*each)) << nameOf(*each);
+        }
+        opened.close();
+    }
+}
+
+} // namespace
+} // namespace korvel
