@@ -100,7 +100,7 @@ QWidget* frmNoon::layOutGroup(const char* title, std::size_t first, std::size_t 
     auto* group = new QWidget;
     auto* column = new QVBoxLayout(group);
     layOutBody(*column, Spacing::Dense);
-    column->addWidget(panelTitle(title));
+    column->addWidget(sectionHead(title));
     auto* boxes = new QWidget;
     auto* cells = new CellLayout(boxes, 4, Qt::Horizontal);
     for (std::size_t field = first; field < end; ++field) {
