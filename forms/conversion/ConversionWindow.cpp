@@ -166,8 +166,17 @@ void ConversionWindow::useConversionSettings(const char* file)
     record().use(file, std::move(kinds), save, load);
 }
 
+/// Figures that rest on one of which only the beginning was read are in doubt.
+void ConversionWindow::dimOthers()
+{
+    const bool isHalfRead = m_boxes[m_lead]->halfRead().has_value();
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        setDimmed(*m_boxes[i], isHalfRead && i != m_lead);
+}
+
 void ConversionWindow::convert()
 {
+    dimOthers();
     const auto show = [this](std::size_t index, const std::string& figure) {
         m_boxes[index]->fill(asQString(figure));
     };

@@ -37,6 +37,7 @@ private:
     void addMenus();
     void useConversionSettings(const char* file);
     void convert();
+    void dimOthers();
     void clearBoxes();
     void focusMoved(const QWidget* now);
     void dressBoxes();

@@ -13,6 +13,12 @@
 
 namespace korvel
 {
+namespace
+{
+
+constexpr int columnGap = 16;
+
+} // namespace
 
 void layOut(const SightPanels& panels, QWidget& content)
 {
@@ -24,13 +30,17 @@ void layOut(const SightPanels& panels, QWidget& content)
     typed->addWidget(panels.lines.noon());
     typed->addStretch(1);
     grid->addLayout(typed, 0, 0, 3, 1);
-    grid->addWidget(&panels.lines, 0, 1);
+    auto* answers = new QVBoxLayout;
+    layOutBody(*answers, Spacing::Groups);
+    answers->addWidget(&panels.lines);
+    answers->addWidget(panels.fixes.fixPart(), 1);
+    grid->addLayout(answers, 0, 1);
     grid->addWidget(&panels.fixes, 0, 2);
     grid->addWidget(&panels.sights, 1, 1, 1, 2);
     grid->addWidget(panels.entry.qualityRow(), 2, 1, 1, 2);
+    grid->setHorizontalSpacing(columnGap);
     grid->setColumnStretch(2, 1);
-    grid->setRowStretch(0, 3);
-    grid->setRowStretch(1, 1);
+    grid->setRowStretch(0, 1);
 }
 
 } // namespace korvel

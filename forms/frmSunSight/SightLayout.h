@@ -19,7 +19,8 @@ struct SightPanels {
     SightListPanel& sights;
 };
 
-/// Lays the panels out: what is typed to the left, worksheet and plot beside it, the list below.
+/// Lays the panels out: what is typed to the left, the answers beside it, then the plot; the
+/// list below.
 void layOut(const SightPanels& panels, QWidget& content);
 
 } // namespace korvel

@@ -21,11 +21,14 @@ namespace korvel
 frmSunSight::frmSunSight(Program& program)
     : CalculatorWindow(program, "frmSunSight", "Sun sight"), m_entry(new EntryPanel(body())),
       m_lines(new LinePanel(body())), m_fixes(new FixPanel(body())),
-      m_sights(new SightListPanel(body()))
+      m_sights(new SightListPanel(body())),
+      m_habits(program.files(), program.questions(), program.clock(), "KV_SunSightOwn.ini",
+               {FieldKind::Tick})
 {
     layOut({*m_entry, *m_lines, *m_fixes, *m_sights}, *scrollBody());
     foldColumns();
     connectPanels();
+    rememberDetails();
     addSightMenu();
     addMemoMenus();
     menus().addLinks("mnuSunSight");
@@ -60,6 +63,15 @@ void frmSunSight::connectPanels()
     connect(&program(), &Program::TDChanged, this, &frmSunSight::followTD);
     m_fixes->onView = [this](const std::string& outside) {
         setNotice("3 plot", asQString(outside));
+    };
+}
+
+void frmSunSight::rememberDetails()
+{
+    const auto habits = m_habits.load();
+    m_lines->details().open(habits && tickOf(habits->front()));
+    m_lines->details().onFold = [this](bool isOpen) {
+        setNotice("habits~", asQString(m_habits.saveQuietly({isOpen})), NoticeLevel::Fault);
     };
 }
 

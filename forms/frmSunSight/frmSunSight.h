@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/records/SettingsFile.h"
 #include "forms/frmSunSight/fix/SightFix.h"
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
@@ -21,7 +22,7 @@ class SightListPanel;
 /// A sight of the Sun with its worksheet, the list of recorded sights, their plot, and the fix.
 ///
 /// Record of "KV_SunSight.ini": see SightSettings.h. It is written at once whenever the list of
-/// sights changes.
+/// sights changes. "KV_SunSightOwn.ini": whether the details are open.
 class frmSunSight : public CalculatorWindow
 {
 public:
@@ -33,6 +34,7 @@ protected:
 
 private:
     void connectPanels();
+    void rememberDetails();
     void addSightMenu();
     void addMemoMenus();
     void addCalculations();
@@ -66,6 +68,7 @@ private:
     FixPanel* m_fixes;
     SightListPanel* m_sights;
 
+    SettingsFile m_habits;
     SightEditing m_list;
     QString m_shipsTD;     ///< as it was put into the box
     QString m_offeredDate; ///< of a sight that is not begun, as it was put into the box

@@ -67,7 +67,14 @@ void frmTIDE::addControls()
         setNotice(key, asQString(notice));
     };
     m_sheet->showDates(m_dates, program().files().path(factorsFileName));
+    DetailsFold& details = m_sheet->foot().details();
+    details.open(m_habits.showsDetails);
+    details.onFold = [this](bool isOpen) {
+        m_habits.showsDetails = isOpen;
+        storeHabits();
+    };
     setScrollArea(new FollowingScrollArea(m_sheet));
+    foldColumns();
 }
 
 TideActions frmTIDE::actions()
@@ -303,8 +310,10 @@ void frmTIDE::showDay(const TideDayShown& day)
 void frmTIDE::showNow()
 {
     if (!m_station || !m_shown) return;
-    m_sheet->showNow(nowText(*m_station, m_shown->four.station.zone, m_dates,
-                             program().shipsTime().UTC(), m_habits.drawsAll));
+    const NavFunc113::Hours zone = m_shown->four.station.zone;
+    const NavFunc113::DateTime UTC = program().shipsTime().UTC();
+    m_sheet->showNow(nowText(*m_station, zone, m_dates, UTC, m_habits.drawsAll),
+                     hourOf(m_shown->four.serial, zone, UTC));
 }
 
 void frmTIDE::drawAll(bool isWanted)

@@ -19,10 +19,14 @@ class ResultLabels
 public:
     /// @param table  outlives this object
     /// @param parent of the labels; they have no place yet, put them into layouts
-    ResultLabels(std::span<const Result<Source>> table, QWidget* parent) : m_table(table)
+    /// @param make   a label of a kind of its own; null where the usual one will do
+    ResultLabels(std::span<const Result<Source>> table, QWidget* parent,
+                 const std::function<ResultLabel*(std::size_t result)>& make = {})
+        : m_table(table)
     {
         for (const Result<Source>& result : table) {
-            auto* label = new ResultLabel(parent);
+            ResultLabel* label = make ? make(m_labels.size()) : nullptr;
+            if (!label) label = new ResultLabel(parent);
             label->setObjectName(result.name);
             label->declare(result.inWords(), result.unit, result.weight);
             m_labels.push_back(label);

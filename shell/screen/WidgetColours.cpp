@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/screen/WidgetColours.h"
 
+#include <QLineEdit>
+
 #include <QPalette>
 
 namespace korvel
@@ -9,7 +11,8 @@ namespace korvel
 void setTextColour(QWidget* widget, const QColor& colour)
 {
     QPalette palette = widget->palette();
-    const QPalette::ColorRole role = widget->foregroundRole();
+    const bool isBox = qobject_cast<QLineEdit*>(widget); // its role is that of its frame
+    const QPalette::ColorRole role = isBox ? QPalette::Text : widget->foregroundRole();
     if (palette.isBrushSet(QPalette::Active, role) && palette.color(role) == colour) return;
     palette.setColor(role, colour);
     widget->setPalette(palette);

@@ -80,9 +80,10 @@ void CalculatorWindow::loadSettings()
 /// What was left out of a paste is not seen in the box.
 void CalculatorWindow::sayThatItIsFull(const EntryBox& box)
 {
-    sayForAWhile(QString("%1: the box takes %2 characters, the rest was left out.")
-                     .arg(box.words())
-                     .arg(box.maxLength()));
+    sayForAWhileAs(NoticeLevel::Remark,
+                   QString("%1: the box takes %2 characters, the rest was left out.")
+                       .arg(box.words())
+                       .arg(box.maxLength()));
 }
 
 void CalculatorWindow::letResultsBeStored()
@@ -120,9 +121,9 @@ void CalculatorWindow::addPaperMenu()
 }
 
 /// What was done is no remark on the figures: it goes after a moment.
-void CalculatorWindow::sayForAWhile(const QString& said)
+void CalculatorWindow::sayForAWhileAs(NoticeLevel level, const QString& said)
 {
-    setNotice(doneKey, said, NoticeLevel::Done);
+    setNotice(doneKey, said, level);
     QTimer::singleShot(shownFor, this, [this] { setNotice(doneKey, {}); });
 }
 
@@ -237,41 +238,24 @@ void CalculatorWindow::placeStrip()
 
 void CalculatorWindow::setDimmed(const std::vector<QLabel*>& labels, bool dimmed)
 {
-    for (QLabel* label : labels) {
-        if (dimmed == (m_dimmed.count(label) > 0)) continue;
-        if (dimmed) {
-            m_dimmed.insert(label);
-            setTextColour(label, m_program.colours().dimmed);
-        } else {
-            m_dimmed.erase(label);
-            giveOwnColour(label);
-        }
-        // Seen without colours too.
-        QFont letters = label->font();
-        letters.setItalic(dimmed);
-        label->setFont(letters);
-    }
+    for (QLabel* label : labels)
+        setDimmed(*label, dimmed);
 }
 
-void CalculatorWindow::giveOwnColour(QLabel* label)
+void CalculatorWindow::setDimmed(QWidget& result, bool dimmed)
 {
-    if (m_answers.contains(label))
-        setTextColour(label, m_program.colours().route);
-    else
-        resetTextColour(label);
-}
-
-void CalculatorWindow::setAnswers(const std::vector<ResultLabel*>& labels)
-{
-    constexpr double larger = 1.9; // than captions
-    for (ResultLabel* label : labels) {
-        if (label->weight() != Weight::Answer) continue;
-        QFont letters = label->font();
-        letters.setPointSizeF(font().pointSizeF() * larger);
-        letters.setWeight(QFont::DemiBold);
-        label->setFont(letters);
-        m_answers.insert(label);
+    if (dimmed == isDimmed(&result)) return;
+    if (dimmed) {
+        m_dimmed.insert(&result);
+        setTextColour(&result, m_program.colours().dimmed);
+    } else {
+        m_dimmed.erase(&result);
+        resetTextColour(&result);
     }
+    // Seen without colours too.
+    QFont letters = result.font();
+    letters.setItalic(dimmed);
+    result.setFont(letters);
 }
 
 void CalculatorWindow::applyColours()
@@ -284,8 +268,8 @@ void CalculatorWindow::applyColours()
         picture->setColours(colours);
     for (QLabel* label : m_answers)
         giveOwnColour(label);
-    for (QLabel* label : m_dimmed)
-        setTextColour(label, colours.dimmed);
+    for (QWidget* result : m_dimmed)
+        setTextColour(result, colours.dimmed);
 }
 
 void CalculatorWindow::closeEvent(QCloseEvent* event)

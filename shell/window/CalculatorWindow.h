@@ -80,7 +80,8 @@ protected:
     }
 
     /// Says what was done; no remark on the figures, it goes after a moment.
-    void sayForAWhile(const QString& said);
+    void sayForAWhile(const QString& said) { sayForAWhileAs(NoticeLevel::Done, said); }
+    void sayForAWhileAs(NoticeLevel level, const QString& said);
 
     /// Fills the window from its record, then calculates everything once.
     void loadSettings();
@@ -134,7 +135,8 @@ protected:
 
     /// Shows results dimmed while they do not belong to the inputs any more.
     void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
-    bool isDimmed(QLabel* label) const { return m_dimmed.contains(label); }
+    void setDimmed(QWidget& result, bool dimmed);
+    bool isDimmed(QWidget* result) const { return m_dimmed.contains(result); }
     /// Shows those of these results that are answers as what the window is for: large, in the
     /// colour of its main line.
     void setAnswers(const std::vector<ResultLabel*>& labels);
@@ -169,7 +171,7 @@ private:
     std::vector<FieldBoxes> m_fields;
     std::vector<ResultLabel*> m_labels;
     std::set<QLabel*> m_answers;
-    std::set<QLabel*> m_dimmed;
+    std::set<QWidget*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
     FollowingScrollArea* m_strip = nullptr;
     ZoomSizes m_sizes;

@@ -6,26 +6,29 @@
 #include "forms/frmSunSight/panels/SightPicture.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace korvel
 {
+namespace
+{
+
+constexpr int leastSentences = 5; // lines that are seen
+
+} // namespace
 
 FixPanel::FixPanel(QWidget* parent)
-    : QWidget(parent), m_picSunSight(new SightPicture(this)), m_lblSunFix(fixResults, this),
+    : QWidget(parent), m_fixPart(new QGroupBox("Fix", parent)), m_picSunSight(new SightPicture(this)), m_lblSunFix(fixResults, this),
       m_lblSunCursor(cursorResults, this)
 {
-    auto* column = new QVBoxLayout(this);
-    layOutBody(*column, Spacing::Dense);
-    column->addWidget(layOutPlot(), 1);
-    column->addWidget(layOutFix());
+    layOutPlot();
+    layOutFix();
 }
 
-QWidget* FixPanel::layOutPlot()
+void FixPanel::layOutPlot()
 {
-    auto* part = new QWidget;
-    auto* grid = new QGridLayout(part);
+    auto* grid = new QGridLayout(this);
     layOutLines(*grid);
     grid->addWidget(m_picSunSight, 0, 0, 1, 4);
     grid->addWidget(new QLabel("At the pointer"), 1, 0);
@@ -41,26 +44,49 @@ QWidget* FixPanel::layOutPlot()
     connect(m_picSunSight, &SightPicture::allWanted, this,
             [this] { showView(viewOfAll(m_picSunSight->plot())); });
     connect(m_picSunSight, &PictureBox::left, this, [this] { m_lblSunCursor.show({}); });
-    return part;
 }
 
-QGroupBox* FixPanel::layOutFix()
+void FixPanel::layOutFix()
 {
-    auto* group = new QGroupBox("Fix");
-    auto* grid = gridOf(group, Spacing::Dense);
-    auto* position = new QHBoxLayout;
+    auto* column = new QVBoxLayout(m_fixPart);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
     m_lblSunFix[0]->setRoom("00-.00'0N ");
     m_lblSunFix[1]->setRoom("000-.00'0W");
-    position->addWidget(m_lblSunFix[0]);
-    position->addWidget(m_lblSunFix[1]);
-    position->addStretch(1);
-    grid->addLayout(position, 0, 0);
-    const std::array<int, 4> lines = {1, 2, 2, 3};
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        makeSentence(m_lblSunFix[i + 2], lines[i]);
-        grid->addWidget(m_lblSunFix[i + 2], static_cast<int>(i) + 1, 0);
-    }
-    return group;
+    column->addWidget(m_lblSunFix[0]);
+    column->addWidget(m_lblSunFix[1]);
+    column->addWidget(sentences(), 1);
+}
+
+/// How good the fix is. Sights that do not agree have more to be said of them than there is room
+/// for: then it scrolls.
+QWidget* FixPanel::sentences()
+{
+    auto* part = new QWidget;
+    auto* column = new QVBoxLayout(part);
+    layOutBody(*column);
+    column->setSpacing(0);
+    ResultLabel *time = m_lblSunFix[2], *ellipse = m_lblSunFix[3], *sigma = m_lblSunFix[4],
+                *without = m_lblSunFix[5];
+    makeSentence(time, 2);
+    makeSentence(ellipse, 2);
+    makeSentence(without, 1);
+    makeSentence(sigma, 4);
+    for (ResultLabel* sentence : {time, ellipse, without, sigma})
+        column->addWidget(sentence);
+    without->setWordWrap(true);
+    without->setRoomByText();
+    without->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    column->addStretch(1);
+    auto* area = new QScrollArea;
+    area->setObjectName("areaSunFix");
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(part);
+    area->setMinimumHeight(leastSentences * fontMetrics().lineSpacing());
+    return area;
 }
 
 std::string FixPanel::showFix(const SightFixResult& fix)

@@ -15,7 +15,8 @@ namespace korvel
 
 class SightPicture;
 
-/// The fix from the recorded sights: its plot, its position and how good it is.
+/// The fix from the recorded sights: its plot and, in a group beside it, its position and how good
+/// it is.
 class FixPanel : public QWidget
 {
 public:
@@ -29,14 +30,17 @@ public:
     /// Called with what lies outside the plot when the officer has looked at another part of it.
     std::function<void(const std::string&)> onView;
 
+    QGroupBox* fixPart() const { return m_fixPart; }
     const std::vector<ResultLabel*>& results() const { return m_lblSunFix.all(); }
 
 private:
-    QWidget* layOutPlot();
-    QGroupBox* layOutFix();
+    void layOutPlot();
+    void layOutFix();
+    QWidget* sentences();
     void showCursor(QPointF user);
     void showView(const PlotView& view);
 
+    QGroupBox* m_fixPart;
     SightFixResult m_fix;
     PlotView m_view;
     SightPicture* m_picSunSight;

@@ -13,21 +13,22 @@ namespace korvel
 
 LinePanel::LinePanel(QWidget* parent)
     : QWidget(parent), m_noon(new QGroupBox("Meridian passage", parent)),
+      m_worksheet(new QGroupBox("Worksheet", this)), m_details(new DetailsFold(m_worksheet, this)),
       m_lblSunTime(sightTimeResults, this), m_lblSunLine(lineResults, this),
       m_lblSunNoon(noonResults, this)
 {
     auto* column = new QVBoxLayout(this);
     layOutBody(*column, Spacing::Dense);
-    column->addWidget(layOutWorksheet());
+    layOutWorksheet();
     column->addWidget(layOutLine());
-    column->addStretch(1);
+    column->addWidget(m_details, 0, Qt::AlignLeft);
+    column->addWidget(m_worksheet);
     layOutNoon();
 }
 
-QGroupBox* LinePanel::layOutWorksheet()
+void LinePanel::layOutWorksheet()
 {
-    auto* group = new QGroupBox("Worksheet");
-    auto* grid = gridOf(group, Spacing::Dense);
+    auto* grid = gridOf(m_worksheet, Spacing::Dense);
     int row = 0;
     for (ResultLabel* label : m_lblSunTime.all()) {
         makeSentence(label, 1);
@@ -49,21 +50,26 @@ QGroupBox* LinePanel::layOutWorksheet()
         grid->addWidget(m_lblSunTerm[i], row, 0);
         grid->addWidget(m_lblSunValue[i], row, 1);
     }
-    return group;
 }
 
 QGroupBox* LinePanel::layOutLine()
 {
     auto* group = new QGroupBox("Line of position");
     auto* grid = gridOf(group, Spacing::Dense);
-    for (std::size_t i = 0; i < lineResults.size(); ++i) {
-        const QString unit = lineResults[i].unit;
-        m_lblSunLine[i]->setRoom("00-.00'0N 000-.00'0W");
-        grid->addWidget(new QLabel(lineResults[i].caption + (unit.isEmpty() ? unit : ", " + unit)),
-                        static_cast<int>(i), 0);
-        grid->addWidget(m_lblSunLine[i], static_cast<int>(i), 1);
+    using namespace LineShown;
+    auto* answers = new AnswerStrip;
+    m_lblSunLine.addAnswer(answers, intercept, "000'.0 T");
+    m_lblSunLine.addAnswer(answers, Zn, "000.0");
+    grid->addWidget(answers, 0, 0, 1, 2);
+    int row = 1;
+    for (const std::size_t figure : {declination, GHA, DR, Hc}) {
+        m_lblSunLine[figure]->setRoom("000.-00'0W", figure == DR ? 2 : 1);
+        m_lblSunLine[figure]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(new QLabel(lineResults[figure].caption), row, 0);
+        grid->addWidget(m_lblSunLine[figure], row++, 1);
     }
-    m_lblSunLine[LineShown::intercept]->setToolTip("T: towards the Sun, A: away");
+    grid->setColumnStretch(0, 1);
+    m_lblSunLine[intercept]->setToolTip("T: towards the Sun, A: away");
     return group;
 }
 

@@ -3,6 +3,7 @@
 
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
+#include "shell/controls/DetailsFold.h"
 #include "shell/controls/ResultLabels.h"
 
 #include <array>
@@ -12,8 +13,8 @@ class QGroupBox;
 namespace korvel
 {
 
-/// What comes of the sight being entered: worksheet and line of position; in a group of its own the
-/// meridian passage.
+/// What comes of the sight being entered: its line of position, the worksheet behind "Details"; in a
+/// group of its own the meridian passage.
 class LinePanel : public QWidget
 {
 public:
@@ -24,17 +25,20 @@ public:
     std::vector<ResultLabel*> results() const;
 
     QGroupBox* noon() const { return m_noon; }
+    DetailsFold& details() { return *m_details; }
 
 private:
     /// Hs, nine terms, upper limb, rounding, Ho.
     static constexpr std::size_t worksheetLines = 13;
 
-    QGroupBox* layOutWorksheet();
+    void layOutWorksheet();
     QGroupBox* layOutLine();
     void layOutNoon();
     void showWorksheet(const std::vector<WorksheetLine>& lines);
 
     QGroupBox* m_noon;
+    QGroupBox* m_worksheet;
+    DetailsFold* m_details;
     ResultLabels<LOPResult> m_lblSunTime;
     std::array<QLabel*, worksheetLines> m_lblSunTerm{};
     std::array<ResultLabel*, worksheetLines> m_lblSunValue{};

@@ -6,7 +6,9 @@
 #include <QPainterPath>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 namespace korvel
@@ -55,7 +57,7 @@ SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
 /// As high as it is wide, where the screen has room for that.
 QSize SightPicture::sizeHint() const
 {
-    return {minimumWidth(), minimumWidth() * 5 / 4};
+    return {2 * minimumWidth(), 2 * minimumWidth()};
 }
 
 void SightPicture::showPlot(const SightPlot& plot)
@@ -166,24 +168,84 @@ QPolygonF SightPicture::polygon(const std::vector<PlotPoint>& points) const
     return made;
 }
 
-/// Text with a rim of paper, so that it reads over lines.
-void SightPicture::paintText(QPainter& painter, QPointF at, const QString& words) const
+/// Text with a rim of paper, so that it reads over lines where there is no place clear of them.
+void SightPicture::paintText(QPainter& painter, const Lettering& letters) const
 {
-    const QRectF area = plotArea();
-    const double width = painter.fontMetrics().horizontalAdvance(words);
-    at.setX(std::clamp(at.x(), area.left(), std::max(area.left(), area.right() - width)));
-    at.setY(std::clamp(at.y(), area.top() + painter.fontMetrics().ascent(), area.bottom()));
+    const QPointF at(letters.room.left(),
+                     letters.room.bottom() - QFontMetricsF(painter.font()).descent());
     if (isOnPaper()) { // letters, to be found in the file
-        const QRectF room = painter.fontMetrics().tightBoundingRect(words);
+        const QRectF room = painter.fontMetrics().tightBoundingRect(letters.words);
         painter.fillRect(room.translated(at).adjusted(-1, -1, 1, 1), colours().paper);
         painter.setPen(colours().ink);
-        painter.drawText(at, words);
+        painter.drawText(at, letters.words);
         return;
     }
     QPainterPath path;
-    path.addText(at, painter.font(), words);
+    path.addText(at, painter.font(), letters.words);
     painter.strokePath(path, pen(colours().paper, 3));
     painter.fillPath(path, colours().ink);
+}
+
+void SightPicture::keepOffMarks(PlotLettering& places) const
+{
+    const auto around = [this](const PlotPoint& at, double arm) {
+        const QPointF middle = pixel(at);
+        return QRectF(middle - QPointF(arm, arm), middle + QPointF(arm, arm));
+    };
+    places.keepOff(around({}, 2 * unit()));
+    for (const PlotLine& line : m_plot.lines) {
+        places.keepOff(QPolygonF({pixel({}), pixel(line.foot), pixel(line.arrowTo)}));
+        for (const std::vector<PlotPoint>& run : line.runs)
+            if (line.visible) places.keepOff(polygon(run));
+    }
+    std::vector<PlotFix> fixes = m_plot.without;
+    if (m_plot.fix) fixes.push_back(*m_plot.fix);
+    for (const PlotFix& fix : fixes) {
+        places.keepOff(around(fix.at, 1.5 * unit()));
+        places.keepOff(polygon(fix.ellipse));
+    }
+    places.keepOff(QPolygonF({scaleBar().p1(), scaleBar().p2()}));
+}
+
+/// Places along a line, that of the plot first, then what is nearest to the rim.
+std::vector<QPointF> SightPicture::pointsFor(const PlotLine& line) const
+{
+    constexpr std::size_t most = 12;
+    std::vector<PlotPoint> seen;
+    for (const std::vector<PlotPoint>& run : line.runs)
+        std::ranges::copy_if(run, std::back_inserter(seen), [this](const PlotPoint& point) {
+            return m_plot.view.shows(point);
+        });
+    std::vector<QPointF> points = {pixel(line.labelAt)};
+    const std::size_t step = std::max<std::size_t>(1, seen.size() / most);
+    for (std::size_t i = 0; i < seen.size(); i += step)
+        points.push_back(pixel(i / step % 2 == 0 ? seen[i / 2] : seen[seen.size() - 1 - i / 2]));
+    return points;
+}
+
+std::vector<SightPicture::Lettering> SightPicture::lettering() const
+{
+    if (!m_plot.middle) return {};
+    const QFontMetricsF metrics(letterMetrics());
+    PlotLettering places(plotArea(), unit());
+    keepOffMarks(places);
+    std::vector<Lettering> all;
+    const auto add = [&](const std::string& text, const std::vector<QPointF>& points) {
+        const QString words = asQString(text);
+        const QSizeF size(metrics.horizontalAdvance(words), metrics.height());
+        all.push_back({words, places.place(size, points)});
+    };
+    add(std::to_string(scaleMiles()) + " nm", {scaleBar().center()});
+    const auto addAt = [&](const std::string& text, const PlotPoint& at) {
+        if (m_plot.view.shows(at)) add(text, {pixel(at)});
+    };
+    if (m_plot.fix) addAt(m_plot.fix->label, m_plot.fix->at);
+    addAt(m_plot.DRLabel, {});
+    for (const PlotFix& fix : m_plot.without)
+        addAt(fix.label, fix.at);
+    for (const PlotLine& line : m_plot.lines)
+        if (line.visible) add(line.label, pointsFor(line));
+    return all;
 }
 
 void SightPicture::draw(QPainter& painter)
@@ -203,6 +265,8 @@ void SightPicture::draw(QPainter& painter)
     for (const PlotFix& fix : m_plot.without)
         paintFix(painter, fix, true);
     if (m_plot.fix) paintFix(painter, *m_plot.fix, false);
+    for (const Lettering& letters : lettering())
+        paintText(painter, letters);
     painter.restore();
 }
 
@@ -224,7 +288,7 @@ void SightPicture::paintGrid(QPainter& painter) const
         } else if (from.x() - width / 2 > free) {
             painter.drawText(QPointF(from.x() - width / 2, area.bottom() + metrics.ascent()),
                              label);
-            free = from.x() + width / 2 + unit();
+            free = from.x() + width / 2 + 3 * unit();
         }
     }
     painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
@@ -243,14 +307,22 @@ void SightPicture::paintScale(QPainter& painter) const
     painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
     painter.drawText(foot + QPointF(-unit(), 3 * unit()), "N");
 
-    const int miles = milesOfScale(m_plot.view);
-    const QPointF end = plotArea().bottomRight() + QPointF(-2 * unit(), -2 * unit());
-    const QPointF start = end - QPointF(pixel({double(miles), 0}).x() - pixel({0, 0}).x(), 0);
     painter.setPen(pen(colours().ink, 1.5));
-    painter.drawLine(start, end);
-    for (const QPointF& tick : {start, end})
+    painter.drawLine(scaleBar());
+    for (const QPointF& tick : {scaleBar().p1(), scaleBar().p2()})
         painter.drawLine(tick, tick - QPointF(0, unit()));
-    paintText(painter, start - QPointF(0, 1.5 * unit()), QString("%1 nm").arg(miles));
+}
+
+int SightPicture::scaleMiles() const
+{
+    return milesOfScale(m_plot.view);
+}
+
+QLineF SightPicture::scaleBar() const
+{
+    const QPointF end = plotArea().bottomRight() + QPointF(-2 * unit(), -2 * unit());
+    const double length = pixel({double(scaleMiles()), 0}).x() - pixel({0, 0}).x();
+    return {end - QPointF(length, 0), end};
 }
 
 void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
@@ -269,7 +341,6 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
     painter.setPen(pen(colours().route, 2.5));
     for (const std::vector<PlotPoint>& run : line.runs)
         painter.drawPolyline(polygon(run));
-    paintText(painter, pixel(line.labelAt) + QPointF(unit(), -unit()), asQString(line.label));
 }
 
 void SightPicture::paintDR(QPainter& painter) const
@@ -279,7 +350,6 @@ void SightPicture::paintDR(QPainter& painter) const
     const double arm = 2 * unit();
     painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
     painter.drawLine(middle - QPointF(0, arm), middle + QPointF(0, arm));
-    paintText(painter, middle + QPointF(1.5 * unit(), 4.5 * unit()), asQString(m_plot.DRLabel));
 }
 
 void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
@@ -293,8 +363,6 @@ void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithou
         painter.drawRect(QRectF(at - QPointF(arm, arm), at + QPointF(arm, arm)));
     else
         painter.drawEllipse(at, 1.5 * unit(), 1.5 * unit());
-    paintText(painter, at + QPointF(2.5 * unit(), (isWithout ? 3 : -2) * unit()),
-              asQString(fix.label));
 }
 
 } // namespace korvel

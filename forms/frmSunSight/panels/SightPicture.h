@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/frmSunSight/fix/DrawLOP.h"
+#include "forms/frmSunSight/panels/PlotLettering.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/screen/ColourScheme.h"
 
@@ -20,6 +21,13 @@ public:
     void showPlot(const SightPlot& plot);
     const SightPlot& plot() const { return m_plot; }
     QSize sizeHint() const override;
+
+    /// Words of the plot and where they stand, in pixels.
+    struct Lettering {
+        QString words;
+        QRectF room;
+    };
+    std::vector<Lettering> lettering() const;
 
 signals:
     /// The officer wants another part of the chart: by wheel, drag or key.
@@ -41,7 +49,11 @@ private:
     void paintLine(QPainter& painter, const PlotLine& line) const;
     void paintDR(QPainter& painter) const;
     void paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const;
-    void paintText(QPainter& painter, QPointF at, const QString& text) const;
+    void paintText(QPainter& painter, const Lettering& letters) const;
+    void keepOffMarks(PlotLettering& places) const;
+    std::vector<QPointF> pointsFor(const PlotLine& line) const;
+    QLineF scaleBar() const;
+    int scaleMiles() const;
     QPen pen(const QColor& colour, double widths, Qt::PenStyle style = Qt::SolidLine) const;
     QPointF pixel(const PlotPoint& point) const { return toPixel(point.x, point.y); }
     QMargins marginsFor(const QSize& size) const;

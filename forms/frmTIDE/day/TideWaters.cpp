@@ -156,6 +156,19 @@ std::vector<WaterPair> watersOf(const TideDayShown& day)
     return waters;
 }
 
+std::vector<std::size_t> nextWaters(const std::vector<WaterPair>& waters, std::optional<Hours> now)
+{
+    std::vector<std::size_t> next;
+    for (const bool isHigh : {true, false}) {
+        const auto found = std::ranges::find_if(waters, [&](const WaterPair& water) {
+            return now && water.four && water.four->isHigh == isHigh && water.four->time >= *now;
+        });
+        if (found != waters.end())
+            next.push_back(static_cast<std::size_t>(found - waters.begin()));
+    }
+    return next;
+}
+
 std::vector<WaterLine> waterLines(const TideDayShown& day)
 {
     std::vector<WaterLine> lines;
@@ -287,6 +300,13 @@ CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeigh
                      spansAbove(all, *level, NavFunc113::PassagesOf(all, *level), markOf(day));
     }
     return answer;
+}
+
+std::optional<Hours> hourOf(std::int64_t serial, Hours zone, NavFunc113::DateTime utc)
+{
+    const double days = utc + NavFunc113::DaysOfHours(zone) - static_cast<double>(serial);
+    if (days < 0 || days >= 1) return std::nullopt;
+    return Hours(days * 24);
 }
 
 std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc)

@@ -33,6 +33,11 @@ struct WaterPair {
 /// than three hours apart are one water.
 std::vector<WaterPair> watersOf(const TideDayShown& day);
 
+/// Which of the waters are the next high and the next low one, by the four constituents.
+/// @param now an hour of their day; nothing: on no other day is a water the next one
+std::vector<std::size_t> nextWaters(const std::vector<WaterPair>& waters,
+                                    std::optional<NavFunc113::Hours> now);
+
 /// A line of the list: the water by the four constituents, and by all with its difference.
 struct WaterLine {
     std::string four; ///< "High 05:12   1.88 m"; heights of an estimated level begin with "~"
@@ -102,6 +107,10 @@ inline constexpr double lowestAsked = -20, highestAsked = 20;
 
 /// When the tide stands at a typed height or more: the question of the water under the keel.
 CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeight);
+
+/// The hour of an instant on a day of a zone; nothing when it is on another day.
+std::optional<NavFunc113::Hours> hourOf(std::int64_t serial, NavFunc113::Hours zone,
+                                        NavFunc113::DateTime utc);
 
 /// What the water does at this moment.
 /// @param utc the present

@@ -13,8 +13,9 @@ bool isLevelLabelled(double level, const CurvePicture& picture, const CurvePlace
 {
     if (level > picture.scale.top) return false;
     const double unit = place.toPixel(0, 0).y() - place.toPixel(0, 1).y();
-    const double every = std::ceil(place.letters.height() / std::max(unit, 1.0));
-    return std::fmod(level, every) == 0;
+    for (const int every : {1, 2, 5, 10})
+        if (every * unit >= place.letters.height()) return std::fmod(level, every) == 0;
+    return level == 0;
 }
 
 CurvePainter::CurvePainter(QPainter& painter, const CurvePicture& picture,

@@ -22,7 +22,7 @@ struct CurvePlace {
 };
 
 /// Whether a whole level is labelled. Levels above the scale lie outside the picture; where great
-/// tides meet a small window only every second or third one is written.
+/// tides meet a small window only every second, fifth or tenth one is written.
 bool isLevelLabelled(double level, const CurvePicture& picture, const CurvePlace& place);
 
 /// Turns the figures of a day's curve into strokes.

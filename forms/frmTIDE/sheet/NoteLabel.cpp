@@ -16,6 +16,13 @@ QLabel* addNoteLabel(QWidget* parent, const QString& name)
     return label;
 }
 
+void keepRoom(QWidget& control)
+{
+    QSizePolicy policy = control.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    control.setSizePolicy(policy);
+}
+
 void showNote(QLabel* label, const std::string& words)
 {
     label->setText(asQString(words));

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/TideDayPanel.h"
 
+#include "forms/frmTIDE/sheet/DayLabels.h"
+#include "forms/frmTIDE/sheet/NoteLabel.h"
 #include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/controls/TypeScale.h"
+#include "shell/screen/ColourScheme.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -22,94 +27,114 @@ constexpr std::array<Field, 2> questionFields = {{
 using namespace DayShown;
 constexpr std::size_t rows = TideDayTexts::rows;
 
+constexpr int columnGap = 8, sideGap = 16;
+
 } // namespace
 
 TideDayPanel::TideDayPanel(QWidget* parent)
-    : QWidget(parent), m_boxes(questionFields, this), m_labels(dayResults, this)
+    : QWidget(parent), m_boxes(questionFields, this), m_waters(new QWidget(parent)),
+      m_byAll(new QWidget(parent)),
+      m_labels(dayResults, this, [this](std::size_t result) { return make(result); })
 {
-    for (ResultLabel* label : m_labels.all())
-        label->setFont(font()); // beside the texts of the day, which stay the largest
-    auto* column = new QVBoxLayout(this);
-    layOutBody(*column);
-    column->setSpacing(0);
-    auto* row = new WrappingRow;
-    row->setGap(2 * fontMetrics().height());
-    row->addLayout(layOutWaters());
-    row->addLayout(layOutQuestions());
-    column->addLayout(row);
-    column->addLayout(layOutAnswers());
+    layOutWaters();
+    layOutByAll();
+    layOutQuestions();
     for (std::size_t i = 0; i < m_boxes.size(); ++i) {
         m_boxes[i]->setMaxLength(16);
         connect(m_boxes[i], &QLineEdit::textChanged, this, [this] { answer(); });
     }
 }
 
-QGridLayout* TideDayPanel::layOutWaters()
+ResultLabel* TideDayPanel::make(std::size_t result)
 {
-    auto* grid = new QGridLayout;
-    layOutLines(*grid);
-    grid->setHorizontalSpacing(4 * fontMetrics().averageCharWidth());
-    grid->addWidget(columnHead("Four constituents, to the minute"), 0, 0);
-    m_allHeading = columnHead("All constituents (difference)");
-    grid->addWidget(m_allHeading, 0, 1);
+    if (result < waters + rows) return new WaterLabel(m_waters);
+    return result == now ? new NowLabel(m_waters) : nullptr;
+}
+
+void TideDayPanel::layOutWaters()
+{
+    auto* column = new QVBoxLayout(m_waters);
+    layOutBody(*column);
+    column->setSpacing(0);
+    column->addWidget(m_labels[now]);
+    keepRoom(*m_labels[now]); // on other days
+    m_waterHeading = panelTitle("High and low water");
+    column->addSpacing(sideGap);
+    column->addWidget(m_waterHeading);
+    auto* list = new QWidget;
+    list->setFixedHeight(WaterLabel::roomOfDay());
+    auto* lines = new QVBoxLayout(list);
+    layOutBody(*lines);
+    lines->setSpacing(0);
     for (std::size_t i = 0; i < rows; ++i) {
-        const int line = static_cast<int>(i) + 1;
-        ResultLabel *four = m_labels[waters + i], *all = m_labels[watersByAll + i];
-        four->setRoom("Least flood 00:00   -00.00 kn");
+        m_labels[waters + i]->hide();
+        lines->addWidget(m_labels[waters + i]);
+    }
+    lines->addStretch(1);
+    column->addWidget(list);
+    column->addStretch(1);
+}
+
+void TideDayPanel::layOutByAll()
+{
+    auto* grid = new QGridLayout(m_byAll);
+    layOutLines(*grid);
+    grid->setHorizontalSpacing(columnGap);
+    grid->addWidget(columnHead("All constituents (difference)"), 0, 0, 1, 2);
+    for (std::size_t i = 0; i < rows; ++i) {
+        const int row = static_cast<int>(i) % (static_cast<int>(rows) / 2);
+        const int column = static_cast<int>(i) / (static_cast<int>(rows) / 2);
+        ResultLabel* all = m_labels[watersByAll + i];
+        all->setFont(font());
         all->setRoom("00:00   -00.00 kn   (-000 min, -00.00 kn)");
-        grid->addWidget(four, line, 0);
-        grid->addWidget(all, line, 1);
-        four->hide();
+        keepRoom(*all);
+        grid->addWidget(all, row + 1, column);
         all->hide();
     }
-    grid->setRowStretch(static_cast<int>(rows) + 1, 1);
-    return grid;
+    grid->setColumnStretch(2, 1);
 }
 
-QGridLayout* TideDayPanel::layOutQuestions()
+/// Box and answer stand in one line, however many times of a height there are.
+void TideDayPanel::layOutQuestions()
 {
-    auto* grid = new QGridLayout;
+    auto* grid = new QGridLayout(this);
     layOutLines(*grid);
-    for (std::size_t i = 0; i < m_boxes.size(); ++i) {
-        const int row = static_cast<int>(i);
-        m_captions[i] = new QLabel(questionFields[i].caption);
-        m_captions[i]->setBuddy(m_boxes[i]);
-        m_boxes[i]->setFixedWidth(9 * fontMetrics().horizontalAdvance('0'));
-        grid->addWidget(m_captions[i], row, 0);
-        grid->addWidget(m_boxes[i], row, 1);
-        m_unit = new QLabel(questionFields[i].unit);
-        grid->addWidget(m_unit, row, 2);
+    grid->setHorizontalSpacing(columnGap);
+    for (std::size_t i = 0; i < m_boxes.size(); ++i)
+        layOutQuestion(grid, i);
+    const std::array<std::pair<std::size_t, std::size_t>, 2> answers = {
+        {{heightThen, heightByAll}, {timesOf, timesByAll}}};
+    for (std::size_t i = 0; i < answers.size(); ++i) {
+        const auto [four, all] = answers[i];
+        const int row = 2 * static_cast<int>(i);
+        grid->addWidget(m_labels[four], row, 4);
+        grid->addWidget(m_labels[all], row + 1, 4);
+        m_labels[all]->setFont(font());
+        m_labels[all]->setForegroundRole(quietRole);
+        for (const std::size_t each : {four, all}) {
+            m_labels[each]->setEliding();
+            keepRoom(*m_labels[each]);
+        }
     }
-    grid->setColumnStretch(2, 1);
-    grid->setRowStretch(static_cast<int>(m_boxes.size()), 1);
-    return grid;
+    grid->setColumnStretch(4, 1);
+    m_labels[range]->setFont(font());
+    m_labels[range]->setRoom("Range 10.00 m, springs to neaps (Moon's age 29.0 days)");
 }
 
-/// What is longer than a line of figures takes the whole width: four spans and the same by all
-/// constituents have no room beside the waters.
-QGridLayout* TideDayPanel::layOutAnswers()
+void TideDayPanel::layOutQuestion(QGridLayout* grid, std::size_t question)
 {
-    auto* grid = new QGridLayout;
-    layOutLines(*grid);
-    grid->setHorizontalSpacing(fontMetrics().averageCharWidth());
-    grid->addWidget(m_labels[range], 0, 0, 1, 3);
-    grid->addWidget(m_labels[now], 1, 0, 1, 3);
-    m_answerHeading = new QLabel(dayResults[heightThen].caption);
-    grid->addWidget(m_answerHeading, 2, 0);
-    grid->addWidget(m_labels[heightThen], 2, 1);
-    grid->addWidget(m_labels[heightByAll], 2, 2);
-    grid->addWidget(new QLabel(dayResults[timesOf].caption), 3, 0);
-    grid->addWidget(m_labels[timesOf], 3, 1, 1, 2);
-    grid->addWidget(m_labels[timesByAll], 4, 1, 1, 2);
-    for (const std::size_t sentence : {range, now, heightByAll, timesOf, timesByAll})
-        m_labels[sentence]->setEliding();
-    QSizePolicy ofNow = m_labels[now]->sizePolicy();
-    ofNow.setRetainSizeWhenHidden(true); // its line stays on other days
-    m_labels[now]->setSizePolicy(ofNow);
-    // A line stays where it is, asked or not: the curve must not jump while a question is typed.
-    m_labels[timesByAll]->setMinimumHeight(fontMetrics().height());
-    grid->setColumnStretch(2, 1);
-    return grid;
+    const int row = 2 * static_cast<int>(question);
+    QLabel*& caption = m_captions[question];
+    caption = new QLabel(questionFields[question].caption);
+    caption->setBuddy(m_boxes[question]);
+    m_boxes[question]->setFixedWidth(9 * fontMetrics().horizontalAdvance('0'));
+    m_units[question] = new QLabel(questionFields[question].unit);
+    m_units[question]->setForegroundRole(quietRole);
+    m_headings[question] = new QLabel(dayResults[question == 0 ? heightThen : timesOf].caption);
+    int column = 0;
+    for (QWidget* each : std::initializer_list<QWidget*>{
+             caption, m_boxes[question], m_units[question], m_headings[question]})
+        grid->addWidget(each, row, column++);
 }
 
 void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
@@ -119,10 +144,10 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
     const bool tide = day.four.kind == TideKind::Tide;
     m_captions[0]->setText(tide ? "Hei&ght at" : "&Rate at");
     m_captions[1]->setText(tide ? "Fro&m a height of" : "Fro&m a rate of");
-    m_answerHeading->setText(tide ? dayResults[heightThen].caption : "Rate then");
-    m_unit->setText(tide ? "m" : "kn");
+    m_headings[0]->setText(tide ? dayResults[heightThen].caption : "Rate then");
+    m_units[1]->setText(tide ? "m" : "kn");
+    m_waterHeading->setText(tide ? "High and low water" : "Flood and ebb");
     const std::vector<WaterLine> lines = waterLines(*m_day);
-    m_allHeading->setVisible(m_day->all.has_value());
     for (std::size_t i = 0; i < rows; ++i) {
         WaterLine& line = m_texts.waters[i];
         line = i < lines.size() ? lines[i] : WaterLine{};
@@ -131,13 +156,29 @@ void TideDayPanel::showDay(const TideDayShown& day, bool withAll)
     }
     m_texts.range = rangeText(*m_day);
     answer();
+    dressWaters();
 }
 
-void TideDayPanel::showNow(const std::string& text)
+void TideDayPanel::showNow(const std::string& text, std::optional<NavFunc113::Hours> hour)
 {
     m_texts.now = text;
+    m_now = hour;
     m_labels.show(m_texts);
     m_labels[now]->setVisible(!text.empty());
+    dressWaters();
+}
+
+/// The next high and the next low water are answers, and on any other day all waters are.
+void TideDayPanel::dressWaters()
+{
+    if (!m_day) return;
+    const std::vector<WaterPair> pairs = watersOf(*m_day);
+    const std::vector<std::size_t> next = nextWaters(pairs, m_now);
+    for (std::size_t i = 0; i < rows; ++i) {
+        const bool isAnswer = !m_now || std::ranges::find(next, i) != next.end();
+        static_cast<WaterLabel*>(m_labels[waters + i])
+            ->dress(isAnswer ? Weight::Answer : Weight::Figure, std::min(rows, pairs.size()));
+    }
 }
 
 void TideDayPanel::answer()

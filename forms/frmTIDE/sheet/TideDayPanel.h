@@ -15,15 +15,22 @@ class QGridLayout;
 namespace korvel
 {
 
-/// Below the picture: the day's high and low waters by both ways, the range, what the water does at
-/// this moment, and the questions of a height at a time and of the times of a height.
+/// The answers of a day: what the water does at this moment and the high and low waters, beside the
+/// picture; below it the questions of a height at a time and of the times of a height; behind
+/// "Details" the waters by all constituents.
 class TideDayPanel : public QWidget
 {
 public:
     explicit TideDayPanel(QWidget* parent);
 
     void showDay(const TideDayShown& day, bool withAll);
-    void showNow(const std::string& text);
+    /// @param hour of the day that is shown; nothing while the present is on another day
+    void showNow(const std::string& text, std::optional<NavFunc113::Hours> hour);
+
+    /// Stands beside the picture.
+    QWidget* watersPart() const { return m_waters; }
+    QWidget* byAllPart() const { return m_byAll; }
+    ResultLabel* rangeLabel() const { return m_labels[DayShown::range]; }
 
     /// What is asked; called when a box changes and when another day is shown.
     std::function<void(const CurveAnswer& height, const CurveAnswer& times)> onAnswers;
@@ -36,19 +43,25 @@ public:
     QWidget* firstBox() const { return m_boxes[0]; }
 
 private:
-    QGridLayout* layOutWaters();
-    QGridLayout* layOutQuestions();
-    QGridLayout* layOutAnswers();
+    ResultLabel* make(std::size_t result);
+    void layOutWaters();
+    void layOutByAll();
+    void layOutQuestion(QGridLayout* grid, std::size_t question);
+    void layOutQuestions();
     void answer();
+    void dressWaters();
 
     FieldBoxes m_boxes;
+    QWidget* m_waters;
+    QWidget* m_byAll;
     ResultLabels<TideDayTexts> m_labels;
     std::optional<TideDayShown> m_day;
     TideDayTexts m_texts;
-    QLabel* m_allHeading = nullptr;
+    std::optional<NavFunc113::Hours> m_now; ///< on the day that is shown
+    QLabel* m_waterHeading = nullptr;
     std::array<QLabel*, 2> m_captions{}; ///< of the two questions
-    QLabel* m_unit = nullptr;            ///< of the second one
-    QLabel* m_answerHeading = nullptr;
+    std::array<QLabel*, 2> m_units{};
+    std::array<QLabel*, 2> m_headings{}; ///< of their answers
 };
 
 } // namespace korvel

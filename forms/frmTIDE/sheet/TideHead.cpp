@@ -6,25 +6,16 @@
 #include "shell/controls/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
+#include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 namespace korvel
 {
 
 TideHead::TideHead(QWidget* parent) : QWidget(parent), m_labels(headResults, this)
 {
-    auto* column = new QVBoxLayout(this);
-    layOutBody(*column, Spacing::Dense);
-    column->addWidget(headLine());
-    column->addWidget(figuresLine());
-    m_lblRemark = addNoteLabel(this, "lblRemark");
-    m_lblUncertainty = addNoteLabel(this, "lblUncertainty");
-    m_lblEstimates = addNoteLabel(this, "lblEstimates");
-    for (QLabel* label : {m_lblRemark, m_lblUncertainty, m_lblEstimates}) {
-        label->hide();
-        column->addWidget(label);
-    }
+    layOutHead();
+    layOutHalfHours();
 }
 
 void TideHead::makeFindBox()
@@ -38,7 +29,7 @@ void TideHead::makeFindBox()
     m_txtFind->onEnter = [this] { onFind(m_txtFind->value()); };
 }
 
-QWidget* TideHead::headLine()
+void TideHead::layOutHead()
 {
     m_lblPlace = new ResultLabel(this);
     m_lblPlace->setObjectName("lblPlace");
@@ -63,40 +54,39 @@ QWidget* TideHead::headLine()
     auto* find = new QLabel("&Find");
     find->setBuddy(m_txtFind);
 
-    auto* line = new QWidget;
-    auto* row = new WrappingRow(line);
+    using namespace HeadShown;
+    for (const std::size_t direction : {flood, ebb}) {
+        m_labels[direction]->setRoom("+ : WNW ");
+        keepRoom(*m_labels[direction]);
+        m_labels[direction]->hide();
+    }
+    auto* row = new WrappingRow(this);
+    row->setContentsMargins(0, 0, 0, 0);
     row->startGroup();
-    for (QWidget* each : {static_cast<QWidget*>(m_lblPlace), static_cast<QWidget*>(m_lblDate),
-                          static_cast<QWidget*>(cmdToday)})
+    for (QWidget* each : std::initializer_list<QWidget*>{find, m_txtFind})
+        row->addWidget(each);
+    row->startGroup();
+    for (QWidget* each : std::initializer_list<QWidget*>{m_lblPlace, m_lblDate, cmdToday})
         row->addWidget(each);
     row->addStretch();
     row->startGroup();
-    row->addWidget(find);
-    row->addWidget(m_txtFind);
-    row->startGroup();
-    row->addWidget(new QLabel(headResults[HeadShown::zoneTime].caption));
-    row->addWidget(m_labels[HeadShown::zoneTime]);
-    return line;
+    for (QWidget* each : std::initializer_list<QWidget*>{
+             m_labels[flood], m_labels[ebb], new QLabel(headResults[zoneTime].caption),
+             m_labels[zoneTime]})
+        row->addWidget(each);
 }
 
-QWidget* TideHead::figuresLine()
+void TideHead::layOutHalfHours()
 {
     using namespace HeadShown;
     m_labels[highestLowest]->setToolTip("Zone time in hours and minutes, highest first");
     m_labels[highestLowest]->setRoom("00.-00: -00.00m   00.-00: -00.00m ");
-    m_labels[flood]->setRoom("+ : WNW ");
-    m_labels[ebb]->setRoom("+ : WNW ");
-
-    auto* line = new QWidget;
-    auto* row = new WrappingRow(line);
-    row->startGroup();
+    m_halfHours = new QWidget;
+    auto* row = new QHBoxLayout(m_halfHours);
+    layOutBody(*row);
     row->addWidget(new QLabel(headResults[highestLowest].caption));
     row->addWidget(m_labels[highestLowest]);
-    row->addStretch();
-    row->startGroup();
-    row->addWidget(m_labels[flood]);
-    row->addWidget(m_labels[ebb]);
-    return line;
+    row->addStretch(1);
 }
 
 void TideHead::showChoice(const TideChoice& choice)
@@ -105,14 +95,11 @@ void TideHead::showChoice(const TideChoice& choice)
     m_lblDate->setText(asQString(choice.lblDate));
 }
 
-void TideHead::showFigures(const TidePrediction& four, const StationLines& lines)
+void TideHead::showFigures(const TidePrediction& four)
 {
     m_labels.show(four);
     for (const std::size_t direction : {HeadShown::flood, HeadShown::ebb})
         m_labels[direction]->setVisible(four.kind == TideKind::Stream);
-    showNote(m_lblRemark, four.remark);
-    showNote(m_lblUncertainty, lines.uncertainty);
-    showNote(m_lblEstimates, lines.estimates);
 }
 
 } // namespace korvel

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "forms/frmTIDE/day/StationLines.h"
 #include "forms/frmTIDE/day/TideChoice.h"
 #include "forms/frmTIDE/day/TideResults.h"
 #include "forms/frmTIDE/sheet/DateControls.h"
@@ -16,15 +15,14 @@
 namespace korvel
 {
 
-/// Above the picture: place and date, how to get to others, the day's highest and lowest, and what
-/// is to be said of them.
+/// Above the picture: place and date, how to get to others, the zone time and where a stream sets.
 class TideHead : public QWidget
 {
 public:
     explicit TideHead(QWidget* parent);
 
     void showChoice(const TideChoice& choice);
-    void showFigures(const TidePrediction& four, const StationLines& lines);
+    void showFigures(const TidePrediction& four);
 
     std::function<void()> onDate;
     std::function<void()> onToday;
@@ -32,19 +30,19 @@ public:
 
     DateLabel* lblDate() const { return m_lblDate; }
     EntryBox* txtFind() const { return m_txtFind; }
+    /// The highest and lowest of the half hours, which stand behind "Details".
+    QWidget* halfHours() const { return m_halfHours; }
 
 private:
     void makeFindBox();
-    QWidget* headLine();
-    QWidget* figuresLine();
+    void layOutHead();
+    void layOutHalfHours();
 
     ResultLabel* m_lblPlace = nullptr;
     DateLabel* m_lblDate = nullptr;
     ResultLabels<TidePrediction> m_labels;
     EntryBox* m_txtFind = nullptr;
-    QLabel* m_lblRemark = nullptr;
-    QLabel* m_lblUncertainty = nullptr;
-    QLabel* m_lblEstimates = nullptr;
+    QWidget* m_halfHours = nullptr;
 };
 
 } // namespace korvel

@@ -3,16 +3,23 @@
 
 #include "shell/controls/Panels.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 namespace korvel
 {
+namespace
+{
+
+constexpr int partGap = 16; // between curve and waters
+
+} // namespace
 
 TideSheet::TideSheet(QWidget* parent)
     : ScrolledBody(parent), m_head(new TideHead(this)), m_picTIDE(new frmTIDEPicture(this)),
-      m_scrDate(new DateScrollBar(this)), m_day(new TideDayPanel(this)), m_foot(new TideFoot(this))
+      m_scrDate(new DateScrollBar(this)), m_day(new TideDayPanel(this)),
+      m_foot(new TideFoot(this, m_day->rangeLabel(), {m_day->byAllPart(), m_head->halfHours()}))
 {
     m_scrDate->setObjectName("scrDate");
     m_scrDate->setAccessibleName("Date, a step is a day");
@@ -22,19 +29,29 @@ TideSheet::TideSheet(QWidget* parent)
         mark(height, times);
     };
 
-    auto* row = new QHBoxLayout;
-    row->addWidget(m_picTIDE, 1);
-    row->addWidget(m_scrDate);
-    auto* column = new QVBoxLayout(this);
-    layOutBody(*column, Spacing::Dense);
-    column->addWidget(m_head);
-    column->addLayout(row, 1);
-    column->addWidget(m_day);
-    column->addWidget(m_foot);
+    layOut();
     setTabOrder(m_scrDate, m_picTIDE);
     setTabOrder(m_picTIDE, m_head->lblDate());
     setTabOrder(m_head->lblDate(), m_head->txtFind());
     setTabOrder(m_head->txtFind(), m_day->firstBox());
+}
+
+void TideSheet::layOut()
+{
+    auto* row = new QHBoxLayout;
+    layOutBody(*row);
+    row->addWidget(m_picTIDE, 1);
+    row->addWidget(m_scrDate);
+    auto* grid = new QGridLayout(this);
+    layOutBody(*grid, Spacing::Dense);
+    grid->setHorizontalSpacing(partGap);
+    grid->addWidget(m_head, 0, 0, 1, 2);
+    grid->addLayout(row, 1, 0);
+    grid->addWidget(m_day->watersPart(), 1, 1);
+    grid->addWidget(m_day, 2, 0, 1, 2);
+    grid->addWidget(m_foot, 3, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(1, 1);
 }
 
 void TideSheet::mark(const CurveAnswer& height, const CurveAnswer& times)
@@ -57,8 +74,8 @@ void TideSheet::showChoice(const TideChoice& choice, const TideDates& dates)
 
 void TideSheet::showDay(const TideDayShown& day, const StationLines& lines, bool withAll)
 {
-    m_head->showFigures(day.four, lines);
-    m_foot->showStation(lines);
+    m_head->showFigures(day.four);
+    m_foot->showStation(lines, day.four.remark);
     std::optional<NavFunc113::TideValues> all;
     if (day.all && withAll) all = day.all->halfHourly();
     m_picTIDE->showPrediction(day.four, all, day.isEstimated ? "~" : "");

@@ -27,7 +27,11 @@ public:
     void showChoice(const TideChoice& choice, const TideDates& dates);
     /// @param withAll whether all constituents are shown beside the four
     void showDay(const TideDayShown& day, const StationLines& lines, bool withAll);
-    void showNow(const std::string& text) { m_day->showNow(text); }
+    /// @param hour of the day that is shown; nothing while the present is on another day
+    void showNow(const std::string& text, std::optional<NavFunc113::Hours> hour)
+    {
+        m_day->showNow(text, hour);
+    }
     /// The factors file is another one: so are the dates.
     void showDates(const TideDates& dates, const std::string& factorsFile);
 
@@ -39,6 +43,7 @@ public:
     QWidget& dateBar() { return *m_scrDate; }
 
 private:
+    void layOut();
     void mark(const CurveAnswer& height, const CurveAnswer& times);
 
     TideHead* m_head;

@@ -142,12 +142,12 @@ void frmTIDEPicture::setColours(const ColourScheme& colours)
 
 QSize frmTIDEPicture::sizeHint() const
 {
-    return {fontMetrics().horizontalAdvance('0') * 100, fontMetrics().lineSpacing() * 22};
+    return {fontMetrics().horizontalAdvance('0') * 90, fontMetrics().lineSpacing() * 22};
 }
 
 QSize frmTIDEPicture::minimumSizeHint() const
 {
-    return {fontMetrics().horizontalAdvance('0') * 40, fontMetrics().lineSpacing() * 6};
+    return {fontMetrics().horizontalAdvance('0') * 28, fontMetrics().lineSpacing() * 15 / 2};
 }
 
 void frmTIDEPicture::placeMargins()

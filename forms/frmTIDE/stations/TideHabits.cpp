@@ -4,9 +4,18 @@
 #include "forms/frmTIDE/stations/Stations.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace korvel
 {
+namespace
+{
+
+// A choice that came later stands behind the last station: versions that do not know it pass that
+// station over, and their files stay whole.
+constexpr std::string_view detailsMark = ";details";
+
+} // namespace
 
 void TideHabits::remember(const StationChoice& station)
 {
@@ -34,6 +43,8 @@ Record recordOf(const TideHabits& habits)
         record.emplace_back(station.TideMode);
         record.emplace_back(station.place);
     }
+    if (habits.showsDetails)
+        record.back() = textOf(record.back()) + std::string(detailsMark);
     return record;
 }
 
@@ -44,7 +55,11 @@ TideHabits habitsOf(const Record& record)
     if (year > 0 && year < 10000) habits.offeredYear = static_cast<int>(year);
     habits.drawsAll = tickOf(record[1]);
     for (std::size_t i = 2; i + 1 < record.size(); i += 2) {
-        const StationChoice station{tickOf(record[i]), textOf(record[i + 1])};
+        StationChoice station{tickOf(record[i]), textOf(record[i + 1])};
+        if (station.place.ends_with(detailsMark)) {
+            habits.showsDetails = true;
+            station.place.resize(station.place.size() - detailsMark.size());
+        }
         if (station.TideMode ? isTideStation(station.place) : isStreamStation(station.place))
             habits.stations.push_back(station);
     }

@@ -18,12 +18,14 @@ struct StationChoice {
 };
 
 /// What the window remembers beside its settings record: "KV_TideOwn.ini", the year in which the
-/// extension was last offered unasked, whether all constituents are drawn, the last stations.
+/// extension was last offered unasked, whether all constituents are drawn, the last stations, behind
+/// the last of them whether the details are open.
 struct TideHabits {
     static constexpr std::size_t kept = 5;
 
     int offeredYear = 0;
     bool drawsAll = true;
+    bool showsDetails = false;
     std::vector<StationChoice> stations; ///< the last one first
 
     /// Puts a station in front.

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPolygonF>
+#include <QRectF>
+
+#include <vector>
+
+namespace korvel
+{
+
+/// Finds places for the words of a plot: clear of each other and of marks, and clear of lines where
+/// there is such a place. Everything is in pixels.
+class PlotLettering
+{
+public:
+    /// @param area where words may stand
+    /// @param unit distance of words from what they belong to
+    PlotLettering(const QRectF& area, double unit) : m_area(area), m_unit(unit) {}
+
+    void keepOff(const QPolygonF& line);
+    void keepOff(const QRectF& mark) { m_marks.push_back(mark); }
+
+    /// @param points that the words may stand beside, the best one first
+    /// @return the room of the words, which no others will get
+    QRectF place(const QSizeF& words, const std::vector<QPointF>& points);
+
+private:
+    double trouble(const QRectF& room, const QPointF& point) const;
+
+    QRectF m_area;
+    double m_unit;
+    std::vector<QLineF> m_lines;
+    std::vector<QRectF> m_marks;
+    std::vector<QRectF> m_words; ///< that have their place
+};
+
+} // namespace korvel
