@@ -2,6 +2,7 @@
 #include "forms/frmGC2000/GCPicture.h"
 
 #include "shell/controls/Legend.h"
+#include "shell/controls/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <QLineF>
@@ -14,8 +15,6 @@ namespace korvel
 namespace
 {
 
-constexpr double thin = 0.06; // widths of lines in heights of a line of text
-constexpr double thick = 0.14;
 constexpr double rhumbDashes[] = {5, 3}; // dash and gap in widths of the line
 constexpr double longestPiece = 100000;  // pixels
 
@@ -113,7 +112,7 @@ void GCPicture::draw(QPainter& painter)
         if (isToBeDrawn(legendStrip())) drawLegend(painter);
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(pen(colours().ink, thin));
+    painter.setPen(pen(colours().ink, LineWeight::fine));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(plotArea());
 }
@@ -126,14 +125,13 @@ QRectF GCPicture::legendStrip() const
 
 QPen GCPicture::pen(const QColor& colour, double width) const
 {
-    // Whole widths: the painter has a short way for a line of one pixel.
-    return {colour, std::max(1.0, std::floor(width * lineHeight())), Qt::SolidLine, Qt::SquareCap,
+    return {colour, LineWeight::inPixels(width, lineHeight()), Qt::SolidLine, Qt::SquareCap,
             Qt::MiterJoin};
 }
 
 QPen GCPicture::rhumbPen() const
 {
-    QPen dashed = pen(colours().secondary, 0.12);
+    QPen dashed = pen(colours().secondary, LineWeight::second);
     dashed.setCapStyle(Qt::FlatCap);
     dashed.setDashPattern({rhumbDashes[0], rhumbDashes[1]});
     return dashed;
@@ -151,10 +149,10 @@ void GCPicture::drawGrid(QPainter& painter) const
     };
     // Upright and level lines are crisp on whole pixels.
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(pen(colours().grid, thin));
+    painter.setPen(pen(colours().grid, LineWeight::fine));
     for (const ChartLine& line : m_chart.grid)
         drawLine(line);
-    painter.setPen(pen(colours().equator, thin));
+    painter.setPen(pen(colours().equator, LineWeight::fine));
     drawLine(m_chart.equator);
     painter.setRenderHint(QPainter::Antialiasing);
 }
@@ -173,14 +171,14 @@ void GCPicture::drawLines(QPainter& painter) const
     painter.setPen(solid);
     painter.drawLines(dashed(legs(m_chart.rhumbLine), rhumbDashes[0] * solid.widthF(),
                              rhumbDashes[1] * solid.widthF()));
-    painter.setPen(pen(colours().route, thick));
+    painter.setPen(pen(colours().route, LineWeight::subject));
     painter.drawLines(legs(m_chart.route));
 }
 
 void GCPicture::drawMark(QPainter& painter, QPointF at, Mark mark) const
 {
     const double radius = lineHeight() * (mark == Mark::Waypoint ? 0.2 : 0.34);
-    painter.setPen(pen(colours().marker, thick));
+    painter.setPen(pen(colours().marker, LineWeight::subject));
     painter.setBrush(mark == Mark::Departure ? colours().paper : colours().marker);
     if (mark == Mark::Arrival) {
         painter.drawRect(QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius));
@@ -246,7 +244,7 @@ void GCPicture::drawEdges(QPainter& painter) const
     const QRectF area = plotArea();
     const double tick = lineHeight() / 3;
     const double wide = letterMetrics().horizontalAdvance("000°W");
-    painter.setPen(pen(colours().palette.color(QPalette::WindowText), thin));
+    painter.setPen(pen(colours().palette.color(QPalette::WindowText), LineWeight::fine));
     const auto label = [&](const QRectF& room, Qt::Alignment alignment, const ChartLabel& each) {
         m_figures.draw(painter, room, alignment, asQString(each.text));
     };
@@ -285,7 +283,7 @@ void GCPicture::drawLegend(QPainter& painter) const
     mark(Mark::Arrival, "Arrival");
     start.ry() += lineHeight();
     if (m_legendLines == 2) legend.goOnAt(start);
-    legend.line(pen(colours().route, thick), "Great circle");
+    legend.line(pen(colours().route, LineWeight::subject), "Great circle");
     legend.line(rhumbPen(), "Rhumb line");
 }
 

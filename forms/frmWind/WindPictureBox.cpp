@@ -2,6 +2,7 @@
 #include "forms/frmWind/WindPictureBox.h"
 
 #include "shell/controls/Legend.h"
+#include "shell/controls/LineWeight.h"
 #include "shell/controls/VectorArrow.h"
 #include "shell/machine/AsQString.h"
 
@@ -13,9 +14,6 @@ namespace korvel
 {
 namespace
 {
-
-constexpr double thin = 0.06; // widths of lines in heights of a line of text
-constexpr double thick = 0.16;
 
 } // namespace
 
@@ -78,26 +76,24 @@ void WindPictureBox::draw(QPainter& painter)
 
 QPen WindPictureBox::pen(const QColor& colour, double width, Qt::PenStyle style) const
 {
-    // Whole widths: the painter has a short way for a line of one pixel.
-    return {colour, std::max(1.0, std::floor(width * lineHeight())), style, Qt::FlatCap,
-            Qt::RoundJoin};
+    return {colour, LineWeight::inPixels(width, lineHeight()), style, Qt::FlatCap, Qt::RoundJoin};
 }
 
 QPen WindPictureBox::headingPen() const
 {
-    return pen(colours().ink, 0.1);
+    return pen(colours().ink, LineWeight::second);
 }
 
 QPen WindPictureBox::apparentPen() const
 {
-    QPen dashed = pen(colours().secondary, thick);
+    QPen dashed = pen(colours().secondary, LineWeight::subject);
     dashed.setDashPattern({4, 2});
     return dashed;
 }
 
 QPen WindPictureBox::truePen() const
 {
-    return pen(colours().route, thick);
+    return pen(colours().route, LineWeight::subject);
 }
 
 void WindPictureBox::PictureHyouji(QPainter& painter) const
@@ -105,7 +101,7 @@ void WindPictureBox::PictureHyouji(QPainter& painter) const
     const QPointF centre = pixel({});
     const NavFunc113::Knots outermost = m_picture.rings.back();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(pen(colours().grid, thin));
+    painter.setPen(pen(colours().grid, LineWeight::fine));
     for (const NavFunc113::Knots ring : m_picture.rings) {
         const double radius = toPixel(ring.value(), 0).x() - centre.x();
         painter.drawEllipse(centre, radius, radius);
@@ -146,7 +142,7 @@ void WindPictureBox::VectrHyouji(QPainter& painter) const
 {
     const QPointF centre = pixel({});
     // The apparent wind is the true wind and the ship's own motion added.
-    painter.setPen(pen(colours().marker, thin, Qt::DotLine));
+    painter.setPen(pen(colours().marker, LineWeight::fine, Qt::DotLine));
     painter.drawLine(pixel(m_picture.trueWind), pixel(m_picture.apparentWind));
     painter.drawLine(pixel(m_picture.heading), pixel(m_picture.apparentWind));
     // The heading points where the ship goes, the winds blow from their end to the ship.
@@ -169,7 +165,7 @@ void WindPictureBox::drawShip(QPainter& painter) const
     painter.translate(pixel({}));
     painter.rotate(turned ? m_figures->course.value() : 0);
     painter.scale(lineHeight(), lineHeight());
-    painter.setPen(QPen(colours().ink, thin * 1.5));
+    painter.setPen(QPen(colours().ink, LineWeight::fine * 1.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolygon(QPolygonF{{0, -0.9}, {0.3, -0.35}, {0.3, 0.8}, {-0.3, 0.8}, {-0.3, -0.35}});
     painter.restore();
@@ -192,7 +188,7 @@ void WindPictureBox::drawPointerText(QPainter& painter) const
     // Beside the pointer, and never outside the picture.
     room.moveLeft(std::clamp(room.left(), 0.0, std::max(0.0, width() - room.width())));
     room.moveTop(std::clamp(room.top(), 0.0, std::max(0.0, height() - room.height())));
-    painter.setPen(pen(colours().ink, thin));
+    painter.setPen(pen(colours().ink, LineWeight::fine));
     painter.setBrush(colours().paper);
     painter.drawRect(room);
     painter.drawText(room, Qt::AlignCenter, m_pointerText);

@@ -153,7 +153,7 @@ private:
     void sayThatItIsFull(const EntryBox& box);
     void openPaper();
     void letResultsBeStored();
-    void giveOwnColour(QLabel* label);
+    void giveOwnColour(QWidget* result);
     void storeInMemo(const QString& figure);
     void fit();
     void placeStrip();
@@ -170,7 +170,7 @@ private:
     QPointer<PaperWindow> m_paperWindow;
     std::vector<FieldBoxes> m_fields;
     std::vector<ResultLabel*> m_labels;
-    std::set<QLabel*> m_answers;
+    std::set<QWidget*> m_answers;
     std::set<QWidget*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
     FollowingScrollArea* m_strip = nullptr;

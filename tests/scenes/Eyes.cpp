@@ -117,8 +117,10 @@ bool isEnabled(Stage& stage, const std::string& name)
 bool isDimmed(Stage& stage, const std::string& name)
 {
     const QWidget& control = stage.control(name);
+    const bool isBox = qobject_cast<const QLineEdit*>(&control);
     const bool dimmed =
-        control.palette().color(QPalette::WindowText) == stage.program().colours().dimmed;
+        control.palette().color(isBox ? QPalette::Text : control.foregroundRole()) ==
+        stage.program().colours().dimmed;
     EXPECT_EQ(control.font().italic(), dimmed) << name << " without colours too";
     return dimmed;
 }

@@ -19,7 +19,8 @@ constexpr int leastSentences = 5; // lines that are seen
 } // namespace
 
 FixPanel::FixPanel(QWidget* parent)
-    : QWidget(parent), m_fixPart(new QGroupBox("Fix", parent)), m_picSunSight(new SightPicture(this)), m_lblSunFix(fixResults, this),
+    : QWidget(parent), m_fixPart(new QGroupBox("Fix", parent)),
+      m_picSunSight(new SightPicture(this)), m_lblSunFix(fixResults, this),
       m_lblSunCursor(cursorResults, this)
 {
     layOutPlot();

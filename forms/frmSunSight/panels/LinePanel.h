@@ -13,8 +13,8 @@ class QGroupBox;
 namespace korvel
 {
 
-/// What comes of the sight being entered: its line of position, the worksheet behind "Details"; in a
-/// group of its own the meridian passage.
+/// What comes of the sight being entered: its line of position, the worksheet behind "Details"; in
+/// a group of its own the meridian passage.
 class LinePanel : public QWidget
 {
 public:

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/panels/SightPicture.h"
+
+#include "shell/controls/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <QKeyEvent>
@@ -153,9 +155,9 @@ QMargins SightPicture::marginsFor(const QSize& size) const
     return {left + aside, top + above, wide - left - aside - side, high - top - above - side};
 }
 
-QPen SightPicture::pen(const QColor& colour, double widths, Qt::PenStyle style) const
+QPen SightPicture::pen(const QColor& colour, double weight, Qt::PenStyle style) const
 {
-    QPen made(colour, widths * unit() / 4, style);
+    QPen made(colour, LineWeight::inPixels(weight, letterMetrics().height()), style);
     made.setJoinStyle(Qt::RoundJoin);
     return made;
 }
@@ -182,7 +184,7 @@ void SightPicture::paintText(QPainter& painter, const Lettering& letters) const
     }
     QPainterPath path;
     path.addText(at, painter.font(), letters.words);
-    painter.strokePath(path, pen(colours().paper, 3));
+    painter.strokePath(path, pen(colours().paper, LineWeight::subject));
     painter.fillPath(path, colours().ink);
 }
 
@@ -213,9 +215,8 @@ std::vector<QPointF> SightPicture::pointsFor(const PlotLine& line) const
     constexpr std::size_t most = 12;
     std::vector<PlotPoint> seen;
     for (const std::vector<PlotPoint>& run : line.runs)
-        std::ranges::copy_if(run, std::back_inserter(seen), [this](const PlotPoint& point) {
-            return m_plot.view.shows(point);
-        });
+        std::ranges::copy_if(run, std::back_inserter(seen),
+                             [this](const PlotPoint& point) { return m_plot.view.shows(point); });
     std::vector<QPointF> points = {pixel(line.labelAt)};
     const std::size_t step = std::max<std::size_t>(1, seen.size() / most);
     for (std::size_t i = 0; i < seen.size(); i += step)
@@ -276,7 +277,7 @@ void SightPicture::paintGrid(QPainter& painter) const
     const QFontMetrics metrics = painter.fontMetrics();
     double free = 0; // where the next longitude has room
     for (const PlotGridLine& line : m_plot.grid) {
-        painter.setPen(pen(colours().grid, 0.6, Qt::DotLine));
+        painter.setPen(pen(colours().grid, LineWeight::fine, Qt::DotLine));
         const QPointF from = pixel(line.from), to = pixel(line.to);
         painter.drawLine(from, to);
         painter.setPen(colours().ink);
@@ -292,14 +293,14 @@ void SightPicture::paintGrid(QPainter& painter) const
         }
     }
     painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
-                                              : pen(colours().ink, 1));
+                                              : pen(colours().ink, LineWeight::fine));
     painter.drawRect(area);
 }
 
 /// North arrow, on the margin, and a round number of miles.
 void SightPicture::paintScale(QPainter& painter) const
 {
-    painter.setPen(pen(colours().ink, 1));
+    painter.setPen(pen(colours().ink, LineWeight::fine));
     const QPointF north = plotArea().topRight() + QPointF(3 * unit(), 0);
     const QPointF foot = north + QPointF(0, 7 * unit());
     painter.drawLine(foot, north);
@@ -307,7 +308,7 @@ void SightPicture::paintScale(QPainter& painter) const
     painter.drawLine(north, north + QPointF(unit(), 2 * unit()));
     painter.drawText(foot + QPointF(-unit(), 3 * unit()), "N");
 
-    painter.setPen(pen(colours().ink, 1.5));
+    painter.setPen(pen(colours().ink, LineWeight::second));
     painter.drawLine(scaleBar());
     for (const QPointF& tick : {scaleBar().p1(), scaleBar().p2()})
         painter.drawLine(tick, tick - QPointF(0, unit()));
@@ -327,9 +328,9 @@ QLineF SightPicture::scaleBar() const
 
 void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
 {
-    painter.setPen(pen(colours().secondary, 1, Qt::DashLine));
+    painter.setPen(pen(colours().secondary, LineWeight::fine, Qt::DashLine));
     painter.drawLine(pixel({}), pixel(line.foot));
-    painter.setPen(pen(colours().secondary, 1.5));
+    painter.setPen(pen(colours().secondary, LineWeight::second));
     const QPointF foot = pixel(line.foot), tip = pixel(line.arrowTo);
     painter.drawLine(foot, tip);
     const double direction = std::atan2(tip.y() - foot.y(), tip.x() - foot.x());
@@ -338,14 +339,14 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
                          tip - 2 * unit() *
                                    QPointF(std::cos(direction + side), std::sin(direction + side)));
     if (!line.visible) return;
-    painter.setPen(pen(colours().route, 2.5));
+    painter.setPen(pen(colours().route, LineWeight::subject));
     for (const std::vector<PlotPoint>& run : line.runs)
         painter.drawPolyline(polygon(run));
 }
 
 void SightPicture::paintDR(QPainter& painter) const
 {
-    painter.setPen(pen(colours().ink, 2));
+    painter.setPen(pen(colours().ink, LineWeight::subject));
     const QPointF middle = pixel({});
     const double arm = 2 * unit();
     painter.drawLine(middle - QPointF(arm, 0), middle + QPointF(arm, 0));
@@ -354,9 +355,10 @@ void SightPicture::paintDR(QPainter& painter) const
 
 void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
 {
-    painter.setPen(pen(colours().tertiary, 1.5, isWithout ? Qt::DashLine : Qt::SolidLine));
+    painter.setPen(
+        pen(colours().tertiary, LineWeight::second, isWithout ? Qt::DashLine : Qt::SolidLine));
     painter.drawPolygon(polygon(fix.ellipse));
-    painter.setPen(pen(colours().marker, 2.5));
+    painter.setPen(pen(colours().marker, LineWeight::subject));
     const QPointF at = pixel(fix.at);
     const double arm = 1.3 * unit();
     if (isWithout)

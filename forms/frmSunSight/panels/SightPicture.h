@@ -54,7 +54,7 @@ private:
     std::vector<QPointF> pointsFor(const PlotLine& line) const;
     QLineF scaleBar() const;
     int scaleMiles() const;
-    QPen pen(const QColor& colour, double widths, Qt::PenStyle style = Qt::SolidLine) const;
+    QPen pen(const QColor& colour, double weight, Qt::PenStyle style = Qt::SolidLine) const;
     QPointF pixel(const PlotPoint& point) const { return toPixel(point.x, point.y); }
     QMargins marginsFor(const QSize& size) const;
     QPolygonF polygon(const std::vector<PlotPoint>& points) const;

@@ -163,8 +163,7 @@ std::vector<std::size_t> nextWaters(const std::vector<WaterPair>& waters, std::o
         const auto found = std::ranges::find_if(waters, [&](const WaterPair& water) {
             return now && water.four && water.four->isHigh == isHigh && water.four->time >= *now;
         });
-        if (found != waters.end())
-            next.push_back(static_cast<std::size_t>(found - waters.begin()));
+        if (found != waters.end()) next.push_back(static_cast<std::size_t>(found - waters.begin()));
     }
     return next;
 }

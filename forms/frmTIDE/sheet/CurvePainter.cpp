@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/CurvePainter.h"
 
+#include "shell/controls/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <algorithm>
@@ -24,12 +25,17 @@ CurvePainter::CurvePainter(QPainter& painter, const CurvePicture& picture,
 {
 }
 
+double CurvePainter::width(double weight) const
+{
+    return LineWeight::inPixels(weight, m_place.letters.height());
+}
+
 void CurvePainter::drawGrid() const
 {
     // Level and upright lines are crisper without smoothing, and much quicker.
     m_painter.setRenderHint(QPainter::Antialiasing, false);
     const auto dotted = [this](const std::vector<CurveLine>& lines, const QColor& colour) {
-        m_painter.setPen(QPen(colour, 1, Qt::DotLine));
+        m_painter.setPen(QPen(colour, width(LineWeight::fine), Qt::DotLine));
         for (const CurveLine& line : lines)
             m_painter.drawLine(pixels(line));
     };
@@ -38,9 +44,9 @@ void CurvePainter::drawGrid() const
     dotted(m_picture.fineLevelLines, fine);
     dotted(m_picture.levelLines, m_colours.grid);
     dotted(m_picture.hourLines, m_colours.grid);
-    m_painter.setPen(QPen(m_colours.grid, 1));
+    m_painter.setPen(QPen(m_colours.grid, width(LineWeight::fine)));
     m_painter.drawLine(m_place.plot.topLeft(), m_place.plot.bottomLeft());
-    m_painter.setPen(QPen(m_colours.datum, 1));
+    m_painter.setPen(QPen(m_colours.datum, width(LineWeight::fine)));
     m_painter.drawLine(pixels(m_picture.zeroLine));
     m_painter.setRenderHint(QPainter::Antialiasing);
 }
@@ -76,13 +82,14 @@ void CurvePainter::drawCurve() const
 {
     m_painter.save();
     m_painter.setClipRect(m_place.plot, Qt::IntersectClip);
-    m_painter.setPen(QPen(m_colours.curve, 1));
+    m_painter.setPen(QPen(m_colours.curve, width(LineWeight::fine)));
     for (const CurveLine& tick : m_picture.ticks)
         m_painter.drawLine(pixels(tick));
     QPolygonF curve;
     for (const CurvePoint& point : m_picture.curve)
         curve << pixel(point);
-    m_painter.setPen(QPen(m_colours.curve, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    m_painter.setPen(QPen(m_colours.curve, width(LineWeight::subject), Qt::SolidLine, Qt::RoundCap,
+                          Qt::RoundJoin));
     m_painter.drawPolyline(curve);
     m_painter.restore();
 }
@@ -94,7 +101,7 @@ void CurvePainter::drawAllConstituents(const NavFunc113::TideValues& values) con
     QPolygonF curve;
     for (std::size_t i = 0; i < values.size(); ++i)
         curve << m_place.toPixel(static_cast<double>(i) / 2, values[i]);
-    m_painter.setPen(QPen(m_colours.marker, 1));
+    m_painter.setPen(QPen(m_colours.marker, width(LineWeight::fine)));
     m_painter.drawPolyline(curve);
     const QRectF corner = m_place.plot.adjusted(0, 0, -m_painter.fontMetrics().height() / 2.0, 0);
     const QString legend = "thin: all constituents";
@@ -108,10 +115,10 @@ void CurvePainter::drawAllConstituents(const NavFunc113::TideValues& values) con
 void CurvePainter::drawMarks(const std::vector<CurvePoint>& marks,
                              std::optional<double> level) const
 {
-    m_painter.setPen(QPen(m_colours.marker, 1, Qt::DashLine));
+    m_painter.setPen(QPen(m_colours.marker, width(LineWeight::fine), Qt::DashLine));
     if (level && *level<m_picture.scale.top&& * level> m_picture.scale.bottom)
         m_painter.drawLine(pixels({{0, *level}, {24, *level}}));
-    m_painter.setPen(QPen(m_colours.marker, 2));
+    m_painter.setPen(QPen(m_colours.marker, width(LineWeight::second)));
     m_painter.setBrush(Qt::NoBrush);
     const double radius = m_place.letters.height() / 4.0;
     for (const CurvePoint& mark : marks)

@@ -47,6 +47,7 @@ public:
 private:
     QPointF pixel(const CurvePoint& point) const { return m_place.toPixel(point.x, point.y); }
     QLineF pixels(const CurveLine& line) const { return {pixel(line.from), pixel(line.to)}; }
+    double width(double weight) const;
     void drawLevelText(const HeightLabel& label) const;
 
     QPainter& m_painter;

@@ -30,8 +30,7 @@ public:
     {
         const QPalette& colours = label.palette();
         m_isSelected = label.hasSelectedText();
-        if (m_isSelected)
-            m_painter.fillRect(label.rect(), colours.color(QPalette::Highlight));
+        if (m_isSelected) m_painter.fillRect(label.rect(), colours.color(QPalette::Highlight));
         m_reversed = colours.color(QPalette::HighlightedText);
     }
     /// @param at on the line that the letters stand on

@@ -132,8 +132,8 @@ void TideDayPanel::layOutQuestion(QGridLayout* grid, std::size_t question)
     m_units[question]->setForegroundRole(quietRole);
     m_headings[question] = new QLabel(dayResults[question == 0 ? heightThen : timesOf].caption);
     int column = 0;
-    for (QWidget* each : std::initializer_list<QWidget*>{
-             caption, m_boxes[question], m_units[question], m_headings[question]})
+    for (QWidget* each : std::initializer_list<QWidget*>{caption, m_boxes[question],
+                                                         m_units[question], m_headings[question]})
         grid->addWidget(each, row, column++);
 }
 

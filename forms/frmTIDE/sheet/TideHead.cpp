@@ -70,9 +70,9 @@ void TideHead::layOutHead()
         row->addWidget(each);
     row->addStretch();
     row->startGroup();
-    for (QWidget* each : std::initializer_list<QWidget*>{
-             m_labels[flood], m_labels[ebb], new QLabel(headResults[zoneTime].caption),
-             m_labels[zoneTime]})
+    for (QWidget* each : std::initializer_list<QWidget*>{m_labels[flood], m_labels[ebb],
+                                                         new QLabel(headResults[zoneTime].caption),
+                                                         m_labels[zoneTime]})
         row->addWidget(each);
 }
 

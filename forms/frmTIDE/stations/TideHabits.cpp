@@ -43,8 +43,7 @@ Record recordOf(const TideHabits& habits)
         record.emplace_back(station.TideMode);
         record.emplace_back(station.place);
     }
-    if (habits.showsDetails)
-        record.back() = textOf(record.back()) + std::string(detailsMark);
+    if (habits.showsDetails) record.back() = textOf(record.back()) + std::string(detailsMark);
     return record;
 }
 

@@ -18,8 +18,8 @@ struct StationChoice {
 };
 
 /// What the window remembers beside its settings record: "KV_TideOwn.ini", the year in which the
-/// extension was last offered unasked, whether all constituents are drawn, the last stations, behind
-/// the last of them whether the details are open.
+/// extension was last offered unasked, whether all constituents are drawn, the last stations,
+/// behind the last of them whether the details are open.
 struct TideHabits {
     static constexpr std::size_t kept = 5;
 

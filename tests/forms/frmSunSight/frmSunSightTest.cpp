@@ -20,7 +20,85 @@ using ::testing::StartsWith;
 
 class frmSunSightTest : public WindowTest
 {
+protected:
+    /// Three sights of which one is out by twenty miles.
+    static void recordThree(QWidget& window)
+    {
+        const std::pair<const char*, const char*> sights[] = {
+            {"11:45:11", "24.350"}, {"15:30:00", "52.220"}, {"18:10:20", "35.34"}};
+        type(window, "txtSunDR(0)", "14.020");
+        type(window, "txtSunDR(1)", "-52.110");
+        type(window, "txtSunRun(0)", "2020/12/17 11:45:11");
+        type(window, "txtSunRun(1)", "271");
+        type(window, "txtSunRun(2)", "8");
+        for (const auto& [time, Hs] : sights) {
+            type(window, "txtSunSight(0)", "2020/12/17");
+            type(window, "txtSunSight(1)", time);
+            type(window, "txtSunSight(4)", Hs);
+            type(window, "txtSunSight(5)", "4");
+            type(window, "txtSunSight(6)", "2.8");
+            click(window, "cmdRecord");
+        }
+    }
 };
+
+TEST_F(frmSunSightTest, theWorksheetFoldsAndIsRemembered)
+{
+    auto& window = open<frmSunSight>();
+    recordThree(window);
+    const auto isOpen = [](const QWidget& each) {
+        return control(each, "lblSunValue(0)").isVisible();
+    };
+    EXPECT_EQ(text(window, "lblSunTerm(0)"), "Hs");
+    EXPECT_FALSE(isOpen(window));
+    click(window, "cmdDetails");
+    EXPECT_TRUE(isOpen(window));
+    close(window);
+    auto& again = open<frmSunSight>();
+    EXPECT_TRUE(isOpen(again));
+    click(again, "cmdDetails");
+    close(again);
+    EXPECT_FALSE(isOpen(open<frmSunSight>()));
+}
+
+TEST_F(frmSunSightTest, whatIsSaidOfSightsThatDoNotAgreeScrolls)
+{
+    auto& window = open<frmSunSight>();
+    recordThree(window);
+    window.resize(1016, 730);
+    QTest::qWait(10);
+    const auto& without = static_cast<ResultLabel&>(control(window, "lblSunFix(5)"));
+    for (const char* time : {"11:45:11", "15:30:00", "18:10:20"})
+        EXPECT_THAT(without.text().toStdString(), ::testing::HasSubstr(time));
+    EXPECT_FALSE(without.isCut());
+    const auto& area = static_cast<QScrollArea&>(control(window, "areaSunFix"));
+    EXPECT_GE(area.widget()->height(), without.geometry().bottom());
+    EXPECT_EQ(area.widget()->width(), area.viewport()->width()) << "up and down only";
+}
+
+TEST_F(frmSunSightTest, wordsOfThePlotKeepOffEachOtherAndOffTheLines)
+{
+    auto& window = open<frmSunSight>();
+    recordThree(window);
+    auto& picture = static_cast<SightPicture&>(control(window, "picSunSight"));
+    for (const QSize size : {QSize(360, 300), QSize(420, 480), QSize(560, 490), QSize(1200, 900)}) {
+        picture.resize(size);
+        const auto letters = picture.lettering();
+        ASSERT_EQ(letters.size(), 9U) << "scale, fix, DR, three fixes without, three lines";
+        for (std::size_t i = 0; i < letters.size(); ++i) {
+            const std::string words = letters[i].words.toStdString();
+            EXPECT_TRUE(picture.plotArea().contains(letters[i].room)) << words;
+            for (std::size_t other = 0; other < i; ++other)
+                EXPECT_FALSE(letters[i].room.intersects(letters[other].room))
+                    << words << " on " << letters[other].words.toStdString();
+            for (const PlotLine& line : picture.plot().lines)
+                for (const auto& run : line.runs)
+                    for (const PlotPoint& point : run)
+                        EXPECT_FALSE(letters[i].room.contains(picture.toPixel(point.x, point.y)))
+                            << words << " on line " << line.label << " at " << size.width();
+        }
+    }
+}
 
 TEST_F(frmSunSightTest, thePointerReadsThePosition)
 {
@@ -61,7 +139,8 @@ TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)
     QApplication::processEvents();
     const auto& sights = static_cast<QListWidget&>(control(window, "lstSunSight"));
     EXPECT_TRUE(sights.viewport()->rect().contains(sights.visualItemRect(sights.item(7))));
-    EXPECT_GE(control(window, "picSunSight").height(), 240);
+    EXPECT_GE(control(window, "picSunSight").height(), 340);
+    EXPECT_GE(control(window, "picSunSight").width(), 400);
     EXPECT_LE(sights.sizeHintForColumn(0), sights.viewport()->width()) << "residuals cut off";
 }
 

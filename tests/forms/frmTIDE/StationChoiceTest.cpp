@@ -163,6 +163,15 @@ TEST(TideHabits, theLastFiveStationsOutliveTheWindow)
     EXPECT_EQ(places, "Brothers~ Tokyo Sasebo Irago Kobe ");
     EXPECT_EQ(read.offeredYear, 2026);
     EXPECT_FALSE(read.drawsAll);
+    EXPECT_FALSE(read.showsDetails);
+    for (const std::size_t kept : {5u, 0u}) {
+        habits.stations.resize(kept);
+        habits.showsDetails = true;
+        const ReadRecord open = readRecord(writeRecord(recordOf(habits)), habitKinds());
+        EXPECT_EQ(open.damageText(), "");
+        EXPECT_TRUE(habitsOf(open.record).showsDetails);
+        EXPECT_EQ(habitsOf(open.record).stations, habits.stations) << "beside the mark";
+    }
     habits.stations = {{true, "../AF2005"}, {true, "Brothers"}};
     EXPECT_EQ(habitsOf(recordOf(habits)).stations.size(), 1u) << "only what the menus have";
 }

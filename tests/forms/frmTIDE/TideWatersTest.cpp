@@ -200,6 +200,27 @@ TEST(TideWaters, questionsOfTheOfficer)
     EXPECT_THAT(timesOfHeight(both, "9").all, HasSubstr("all constituents never"));
 }
 
+TEST(TideWaters, theNextHighAndTheNextLowWater)
+{
+    const auto water = [](double hour, bool isHigh) {
+        return WaterPair{NavFunc113::TideTurn{Hours(hour), 1, isHigh}, {}};
+    };
+    const WaterPair byAllAlone{{}, NavFunc113::TideTurn{Hours(8), 1, true}};
+    const std::vector<WaterPair> waters = {water(1, false), water(7, true), byAllAlone,
+                                           water(13, false), water(19.5, true)};
+    using ::testing::ElementsAre;
+    using ::testing::IsEmpty;
+    EXPECT_THAT(nextWaters(waters, Hours(0)), ElementsAre(1, 0));
+    EXPECT_THAT(nextWaters(waters, Hours(7)), ElementsAre(1, 3)) << "at its very time";
+    EXPECT_THAT(nextWaters(waters, Hours(7.5)), ElementsAre(4, 3));
+    EXPECT_THAT(nextWaters(waters, Hours(14)), ElementsAre(4)) << "no low water any more";
+    EXPECT_THAT(nextWaters(waters, Hours(23)), IsEmpty());
+    EXPECT_THAT(nextWaters(waters, {}), IsEmpty()) << "of another day";
+    EXPECT_NEAR(hourOf(37816, Hours(9), 37815.75)->value(), 3, 1e-6);
+    EXPECT_FALSE(hourOf(37816, Hours(9), 37815.6)) << "the day before";
+    EXPECT_FALSE(hourOf(37816, Hours(9), 37816.625)) << "the day after";
+}
+
 TEST(TideWaters, rangeMoonAndNow)
 {
     const std::pair<double, const char*> elongations[] = {{0, "springs"},

@@ -11,8 +11,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPicture>
+#include <QScrollArea>
 #include <QTest>
 #include <QWheelEvent>
+
+#include <set>
 
 namespace korvel
 {
@@ -285,9 +288,61 @@ TEST_F(frmTIDETest, everyMnemonicOfAMenuIsItsOwn)
     }
 }
 
+TEST_F(frmTIDETest, detailsFoldAndAreRemembered)
+{
+    const auto isOpen = [](const QWidget& window) {
+        std::set<bool> shown;
+        for (const char* name : {"lblWaterAll(0)", "lblTideInfo", "lblAccuracy", "lblSource"}) {
+            EXPECT_GT(text(window, name).size(), 5) << name << ", folded or not";
+            shown.insert(control(window, name).isVisible());
+        }
+        EXPECT_EQ(shown.size(), 1) << "all or nothing";
+        return *shown.begin();
+    };
+    auto& window = open<frmTIDE>();
+    setDate(window, "2003/7/15");
+    choose(window, yokohama);
+    EXPECT_FALSE(isOpen(window));
+    click(window, "cmdDetails");
+    EXPECT_TRUE(isOpen(window));
+    close(window);
+    auto& again = open<frmTIDE>();
+    EXPECT_TRUE(isOpen(again));
+    click(again, "cmdDetails");
+    close(again);
+    EXPECT_FALSE(isOpen(open<frmTIDE>()));
+}
+
+TEST_F(frmTIDETest, theCurveStaysAndKeepsItsHeightAtTwiceTheSize)
+{
+    auto& window = open<frmTIDE>();
+    setDate(window, "2003/7/15");
+    const auto& picture = control(window, "picTIDE");
+    const auto& area = *window.findChild<QScrollArea*>();
+    const auto expectStill = [&] {
+        choose(window, yokohama);
+        QApplication::processEvents();
+        const QRect before(picture.mapTo(area.widget(), QPoint()), picture.size());
+        for (const char* station : {portDickson, brothersStream}) {
+            choose(window, station); // with estimates; with directions and more waters
+            QApplication::processEvents();
+            EXPECT_EQ(QRect(picture.mapTo(area.widget(), QPoint()), picture.size()), before)
+                << station;
+        }
+        return before.height();
+    };
+    expectStill();
+    while (program().screen().choices().zoom < 200)
+        program().screen().zoom(1);
+    window.resize(1362, 730); // of a screen of 1366 x 768
+    QApplication::processEvents();
+    EXPECT_GE(expectStill(), 240);
+}
+
 TEST_F(frmTIDETest, answersAreReadWholeAtTheFirstSize)
 {
     auto& window = open<frmTIDE>();
+    click(window, "cmdDetails");
     setDate(window, "2003/7/15");
     choose(window, yokohama);
     type(window, "txtAtTime", "5:30");
