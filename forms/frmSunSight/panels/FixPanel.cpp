@@ -7,6 +7,7 @@
 
 #include <QGridLayout>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -77,6 +78,7 @@ QWidget* FixPanel::sentences()
         column->addWidget(sentence);
     without->setWordWrap(true);
     without->setRoomByText();
+    without->setMinimumWidth(1); // a long word does not widen it
     without->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     column->addStretch(1);
     auto* area = new QScrollArea;
@@ -86,6 +88,8 @@ QWidget* FixPanel::sentences()
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(part);
+    // Kept free for the bar: no words lie below it, and none wrap anew when it comes.
+    column->setContentsMargins(0, 0, area->verticalScrollBar()->sizeHint().width(), 0);
     area->setMinimumHeight(leastSentences * fontMetrics().lineSpacing());
     return area;
 }

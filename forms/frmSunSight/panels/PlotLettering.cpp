@@ -11,7 +11,7 @@ namespace
 {
 
 // What a place costs; a line through the words is read past, other words or a mark are not.
-constexpr double perLine = 10, perMark = 1000, perNearerMark = 5, perStep = 0.1;
+constexpr double perLine = 10, perMark = 1000, perNearerMark = 5, perStep = 0.01;
 
 /// Beside a point: where the nearer edge of the words lies, -1 left or above, 1 right or below.
 constexpr std::array<std::pair<int, int>, 8> sides = {
@@ -67,7 +67,7 @@ QRectF PlotLettering::place(const QSizeF& words, const std::vector<QPointF>& poi
     QRectF best;
     double least = std::numeric_limits<double>::infinity();
     double step = 0; // the later a place is tried the less it is wanted
-    for (const double distance : {m_unit, 2 * m_unit, 4 * m_unit}) {
+    for (const double distance : {m_unit, 2 * m_unit, 4 * m_unit, 7 * m_unit, 11 * m_unit}) {
         for (const QPointF& point : points) {
             for (const auto& side : sides) {
                 QRectF room = roomBeside(point, words, side, distance);

@@ -74,7 +74,8 @@ void SightLines::showSight(int row, const QString& sight, const QString& result,
 
 void SightLines::write(QListWidgetItem& item) const
 {
-    const QString text = joined(item.data(Sight).toString(), item.data(Outcome).toString(), m_inTwo);
+    const QString text =
+        joined(item.data(Sight).toString(), item.data(Outcome).toString(), m_inTwo);
     if (item.text() != text) item.setText(text);
 }
 

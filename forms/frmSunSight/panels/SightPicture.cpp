@@ -356,7 +356,7 @@ void SightPicture::paintDR(QPainter& painter) const
 void SightPicture::paintFix(QPainter& painter, const PlotFix& fix, bool isWithout) const
 {
     painter.setPen(
-        pen(colours().tertiary, LineWeight::second, isWithout ? Qt::DashLine : Qt::SolidLine));
+        pen(colours().tertiary, LineWeight::subject, isWithout ? Qt::DashLine : Qt::SolidLine));
     painter.drawPolygon(polygon(fix.ellipse));
     painter.setPen(pen(colours().marker, LineWeight::subject));
     const QPointF at = pixel(fix.at);

@@ -26,6 +26,7 @@ TideFoot::TideFoot(QWidget* parent, QWidget* range, const std::vector<QWidget*>&
     auto* column = new QVBoxLayout(this);
     layOutBody(*column, Spacing::Dense);
     column->addLayout(layOutLine(range));
+    column->addWidget(m_lblStation);
     column->addLayout(layOutNotes());
     column->addLayout(layOutFile());
     layOutDetails(details);
@@ -38,9 +39,7 @@ QLayout* TideFoot::layOutLine(QWidget* range)
 {
     auto* row = new WrappingRow;
     row->setGap(3 * fontMetrics().height() / 2);
-    m_lblStation->setWordWrap(false);
     row->addWidget(range);
-    row->addWidget(m_lblStation);
     row->addStretch();
     row->addWidget(m_details);
     return row;

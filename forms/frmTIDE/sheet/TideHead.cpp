@@ -51,6 +51,12 @@ void TideHead::layOutHead()
     cmdToday->setToolTip("Show the ship's date of today");
     connect(cmdToday, &QPushButton::clicked, this, [this] { onToday(); });
     makeFindBox();
+    // All of the line as high as its button, so that it begins where one begins to read.
+    m_txtFind->setMinimumHeight(cmdToday->sizeHint().height());
+    for (ResultLabel* label :
+         std::initializer_list<ResultLabel*>{m_lblPlace, m_lblDate, m_labels[HeadShown::zoneTime],
+                                             m_labels[HeadShown::flood], m_labels[HeadShown::ebb]})
+        label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* find = new QLabel("&Find");
     find->setBuddy(m_txtFind);
 
