@@ -45,6 +45,7 @@ void TideSheet::layOut()
     auto* grid = new QGridLayout(this);
     layOutBody(*grid, Spacing::Dense);
     grid->setHorizontalSpacing(partGap);
+    grid->setVerticalSpacing(partGap / 2);
     grid->addWidget(m_head, 0, 0, 1, 2);
     grid->addLayout(row, 1, 0);
     grid->addWidget(m_day->watersPart(), 1, 1);
