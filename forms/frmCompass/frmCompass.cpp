@@ -50,8 +50,6 @@ frmCompass::frmCompass(Program& program)
     readModel();
     useRecord();
     m_book->load();
-    for (const auto& results : {m_error->results(), m_courses->results()})
-        setAnswers(results);
     loadSettings();
     m_book->show();
     calculations().run(m_deviationCalculation);

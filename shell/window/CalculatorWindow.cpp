@@ -250,33 +250,12 @@ void CalculatorWindow::setDimmed(QWidget& result, bool dimmed)
         setTextColour(&result, m_program.colours().dimmed);
     } else {
         m_dimmed.erase(&result);
-        giveOwnColour(&result);
+        resetTextColour(&result);
     }
     // Seen without colours too.
     QFont letters = result.font();
     letters.setItalic(dimmed);
     result.setFont(letters);
-}
-
-void CalculatorWindow::giveOwnColour(QWidget* result)
-{
-    if (m_answers.contains(result))
-        setTextColour(result, m_program.colours().route);
-    else
-        resetTextColour(result);
-}
-
-void CalculatorWindow::setAnswers(const std::vector<ResultLabel*>& labels)
-{
-    constexpr double larger = 1.9; // than captions
-    for (ResultLabel* label : labels) {
-        if (label->weight() != Weight::Answer) continue;
-        QFont letters = label->font();
-        letters.setPointSizeF(font().pointSizeF() * larger);
-        letters.setWeight(QFont::DemiBold);
-        label->setFont(letters);
-        m_answers.insert(label);
-    }
 }
 
 void CalculatorWindow::applyColours()
@@ -287,8 +266,6 @@ void CalculatorWindow::applyColours()
         setTextColour(box->echo(), colours.echo);
     for (PictureBox* picture : findChildren<PictureBox*>())
         picture->setColours(colours);
-    for (QWidget* label : m_answers)
-        giveOwnColour(label);
     for (QWidget* result : m_dimmed)
         setTextColour(result, colours.dimmed);
 }

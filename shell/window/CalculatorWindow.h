@@ -137,9 +137,6 @@ protected:
     void setDimmed(const std::vector<QLabel*>& labels, bool dimmed);
     void setDimmed(QWidget& result, bool dimmed);
     bool isDimmed(QWidget* result) const { return m_dimmed.contains(result); }
-    /// Shows those of these results that are answers as what the window is for: large, in the
-    /// colour of its main line.
-    void setAnswers(const std::vector<ResultLabel*>& labels);
     /// Applies the colour scheme to controls with colours of their own; call the base first.
     virtual void applyColours();
 
@@ -153,7 +150,6 @@ private:
     void sayThatItIsFull(const EntryBox& box);
     void openPaper();
     void letResultsBeStored();
-    void giveOwnColour(QWidget* result);
     void storeInMemo(const QString& figure);
     void fit();
     void placeStrip();
@@ -170,7 +166,6 @@ private:
     QPointer<PaperWindow> m_paperWindow;
     std::vector<FieldBoxes> m_fields;
     std::vector<ResultLabel*> m_labels;
-    std::set<QWidget*> m_answers;
     std::set<QWidget*> m_dimmed;
     FollowingScrollArea* m_scrollArea = nullptr;
     FollowingScrollArea* m_strip = nullptr;
