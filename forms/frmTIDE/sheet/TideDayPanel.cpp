@@ -58,7 +58,7 @@ void TideDayPanel::layOutWaters()
     column->setSpacing(0);
     column->addWidget(m_labels[now]);
     keepRoom(*m_labels[now]); // on other days
-    m_waterHeading = panelTitle("High and low water");
+    m_waterHeading = sectionHead("High and low water");
     column->addSpacing(sideGap);
     column->addWidget(m_waterHeading);
     auto* list = new QWidget;

@@ -19,7 +19,7 @@ TideFoot::TideFoot(QWidget* parent, QWidget* range, const std::vector<QWidget*>&
       m_lblUncertainty(addNoteLabel(this, "lblUncertainty")),
       m_lblEstimates(addNoteLabel(this, "lblEstimates")),
       m_lblAccuracy(addNoteLabel(this, "lblAccuracy")),
-      m_lblSource(addNoteLabel(this, "lblSource")), m_lblInUse(new ResultLabel(this)),
+      m_lblSource(addNoteLabel(this, "lblSource")), m_lblInUse(addNoteLabel(this, "lblInUse")),
       m_progress(new QProgressBar(this)), m_folded(new QWidget(this)),
       m_details(new DetailsFold(m_folded, this))
 {
@@ -66,10 +66,7 @@ QLayout* TideFoot::layOutNotes()
 
 QLayout* TideFoot::layOutFile()
 {
-    m_lblInUse->setObjectName("lblInUse");
-    m_lblInUse->declare("Factors file in use", {}, Weight::Remark);
-    m_lblInUse->setEliding();
-    m_lblInUse->passByTab();
+    m_lblInUse->setForegroundRole(quietRole);
     m_progress->setObjectName("barExtend");
     m_progress->setAccessibleName("Predictions that are made, per cent");
     auto* row = new QHBoxLayout;

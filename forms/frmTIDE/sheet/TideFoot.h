@@ -4,7 +4,6 @@
 #include "forms/frmTIDE/data/TideDates.h"
 #include "forms/frmTIDE/day/StationLines.h"
 #include "shell/controls/DetailsFold.h"
-#include "shell/controls/ResultLabel.h"
 
 #include <QLabel>
 #include <QProgressBar>
@@ -46,7 +45,7 @@ private:
     QLabel* m_lblEstimates;
     QLabel* m_lblAccuracy;
     QLabel* m_lblSource;
-    ResultLabel* m_lblInUse;
+    QLabel* m_lblInUse;
     QProgressBar* m_progress;
     QWidget* m_folded;
     DetailsFold* m_details;
