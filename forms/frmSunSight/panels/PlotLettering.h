@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLineF>
+#include <QPointF>
 #include <QPolygonF>
 #include <QRectF>
+#include <QSizeF>
 
 #include <vector>
 
