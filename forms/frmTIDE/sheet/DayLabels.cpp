@@ -94,7 +94,7 @@ QSize WaterLabel::sizeHint() const
 void WaterLabel::paintEvent(QPaintEvent* event)
 {
     if (text().isEmpty()) return;
-    if (hasSelectedText() && selectedText() != text()) return QLabel::paintEvent(event);
+    if (hasSelectedText() && selectedText() != text()) return ResultLabel::paintEvent(event);
     const QString water = text().section(parting, 0, 0), figure = text().section(parting, 1);
     const QString value = figure.section(' ', 0, 0), unit = ' ' + figure.section(' ', 1);
     const QFontMetricsF large(font()), small(smallLetters());
@@ -121,7 +121,7 @@ QSize NowLabel::sizeHint() const
 void NowLabel::paintEvent(QPaintEvent* event)
 {
     if (text().isEmpty()) return;
-    if (hasSelectedText() && selectedText() != text()) return QLabel::paintEvent(event);
+    if (hasSelectedText() && selectedText() != text()) return ResultLabel::paintEvent(event);
     const QString state = text().section(parting, 1, 1);
     const QFontMetricsF large(font()), small(smallLetters());
     const QColor quiet = palette().color(quietRole);
