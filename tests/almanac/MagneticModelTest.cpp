@@ -175,8 +175,9 @@ TEST(CoefficientFile, aDamagedOneIsNamedByItsLine)
         else
             EXPECT_EQ(faultOf(damaged), "") << each.what << " by " << each.by;
     }
-    EXPECT_THAT(faultOf(std::string(64 * 1024 + 1, ' ')), HasSubstr("64 KiB"));
-    EXPECT_THAT(faultOf(std::string(64 * 1024, ' ')), Not(HasSubstr("64 KiB")));
+    constexpr std::size_t longest = 65536;
+    EXPECT_THAT(faultOf(std::string(longest + 1, ' ')), HasSubstr("64 KiB"));
+    EXPECT_THAT(faultOf(std::string(longest, ' ')), Not(HasSubstr("64 KiB")));
     EXPECT_NE(faultOf(std::string(60000, '\0')), "");
 }
 

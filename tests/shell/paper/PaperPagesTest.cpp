@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTextEdit>
 
 // The pages of papers, long ones too (tests/papers), as a reader gets them out of their PDF.
