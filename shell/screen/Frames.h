@@ -3,7 +3,7 @@
 
 #include <QObject>
 
-class QMainWindow;
+class QWidget;
 
 namespace korvel
 {
