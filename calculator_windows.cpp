@@ -15,7 +15,7 @@
 #include "forms/frmTIDE/frmTIDE.h"
 #include "forms/frmWeather/frmWeather.h"
 #include "forms/frmWind/frmWind.h"
-#include "navlib/unit_tables.h"
+#include "navlib/ship/unit_tables.h"
 #include "shell/machine/AsQString.h"
 
 namespace korvel

@@ -6,7 +6,7 @@
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
-#include "navlib/ephemeris.h"
+#include "navlib/sky/ephemeris.h"
 #include "tests/navlib/accuracy/ErfaReference.h"
 
 #include <algorithm>

@@ -18,7 +18,7 @@ add_library(erfa_reference STATIC
 target_compile_definitions(erfa_reference PRIVATE KORVEL_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 target_link_libraries(erfa_reference PUBLIC navlib ${ERFA_LIBRARY})
 
-# Prints the figures stated in navlib/ephemeris.h, navlib/rise_set.h, forms/frmSunMoon and
+# Prints the figures stated in navlib/sky/ephemeris.h, navlib/sky/rise_set.h, forms/frmSunMoon and
 # docs/manual/frmSunMoon.md.
 add_executable(ephemeris_accuracy ${CMAKE_CURRENT_LIST_DIR}/EphemerisAccuracy.cpp)
 target_link_libraries(ephemeris_accuracy PRIVATE frmSunMoon_calculation erfa_reference)

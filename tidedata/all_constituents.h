@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/tide.h"
+#include "navlib/sea/tide.h"
 
 #include <cstdint>
 #include <span>
@@ -10,7 +10,7 @@
 #include <vector>
 
 /// The prediction from every constituent of a station's record: a plain harmonic sum with nodal
-/// corrections, beside the four-constituent form of navlib/tide.h.
+/// corrections, beside the four-constituent form of navlib/sea/tide.h.
 namespace tidedata
 {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/tide.h"
+#include "navlib/sea/tide.h"
 #include "tidedata/astronomy.h"
 
 #include <cstdint>

@@ -3,7 +3,7 @@
 
 #include "app/records/SettingsRecord.h"
 #include "app/records/Value.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <array>
 #include <string>

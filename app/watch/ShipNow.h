@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/Instant.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <optional>
 #include <string>

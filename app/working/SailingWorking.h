@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/working/Working.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <array>
 #include <span>

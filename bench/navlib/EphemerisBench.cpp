@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Sun and Moon against ERFA's earth and moon position with sidereal time (at most 0.12 of its
 // time), and a table of sixteen places against libnova's rise and set (at most 0.01).
-#include "navlib/ephemeris.h"
-#include "navlib/rise_set.h"
+#include "navlib/sky/ephemeris.h"
+#include "navlib/sky/rise_set.h"
 
 #include <benchmark/benchmark.h>
 #include <erfa.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/angles.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <GeographicLib/Geodesic.hpp>
 #include <GeographicLib/GeodesicLine.hpp>

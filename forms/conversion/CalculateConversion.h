@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/unit_tables.h"
+#include "navlib/ship/unit_tables.h"
 
 #include <cstddef>
 #include <optional>

@@ -4,8 +4,8 @@
 #include "forms/conversion/CalculateConversion.h"
 #include "forms/conversion/ConversionWorking.h"
 #include "navlib/arithmetic_error.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/TypeScale.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/TypeScale.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

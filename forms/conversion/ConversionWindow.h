@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/unit_tables.h"
-#include "shell/controls/FocusFollower.h"
+#include "navlib/ship/unit_tables.h"
+#include "shell/layout/FocusFollower.h"
 #include "shell/window/CalculatorWindow.h"
 
 namespace korvel

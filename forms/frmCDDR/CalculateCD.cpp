@@ -3,7 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "forms/frmCDDR/CDDRFields.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 namespace korvel
 {

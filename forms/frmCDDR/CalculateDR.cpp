@@ -4,7 +4,7 @@
 #include "app/reading/Format.h"
 #include "forms/frmCDDR/CDDRFields.h"
 #include "navlib/arithmetic_error.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <array>
 #include <optional>

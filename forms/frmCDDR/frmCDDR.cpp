@@ -7,7 +7,7 @@
 #include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
 #include "navlib/angles.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>

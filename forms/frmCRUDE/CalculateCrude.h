@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/Remarks.h"
-#include "navlib/cargo.h"
+#include "navlib/ship/cargo.h"
 
 #include <optional>
 #include <string>

@@ -2,7 +2,7 @@
 #include "forms/frmCRUDE/CrudeResults.h"
 
 #include "forms/frmCRUDE/CrudeShown.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 
 #include <algorithm>
 

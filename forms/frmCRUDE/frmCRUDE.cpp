@@ -3,7 +3,7 @@
 
 #include "forms/frmCRUDE/CrudeFields.h"
 #include "forms/frmCRUDE/CrudeWorking.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 

@@ -6,8 +6,8 @@
 #include "app/reading/TypedTime.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"
-#include "navlib/compass.h"
 #include "navlib/datetime.h"
+#include "navlib/sailing/compass.h"
 
 #include <cmath>
 

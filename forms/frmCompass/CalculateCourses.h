@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/reading/Field.h"
-#include "navlib/current.h"
-#include "navlib/deviation.h"
+#include "navlib/sailing/deviation.h"
+#include "navlib/sea/current.h"
 
 #include <array>
 #include <optional>

@@ -5,7 +5,7 @@
 #include "app/reading/Reading.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"
-#include "navlib/compass.h"
+#include "navlib/sailing/compass.h"
 
 #include <cmath>
 

@@ -3,7 +3,7 @@
 
 #include "app/working/WorkingPaper.h"
 #include "forms/frmCompass/CompassBook.h"
-#include "navlib/deviation.h"
+#include "navlib/sailing/deviation.h"
 
 #include <optional>
 #include <string>

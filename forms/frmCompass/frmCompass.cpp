@@ -16,8 +16,8 @@
 #include "forms/frmCompass/pages/DeviationPicture.h"
 #include "forms/frmCompass/pages/ErrorPage.h"
 #include "navlib/angles.h"
-#include "shell/controls/FollowingScrollArea.h"
-#include "shell/controls/PageBar.h"
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/PageBar.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>

@@ -6,7 +6,7 @@
 #include "forms/frmETA/ETAWorking.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "forms/frmETA/Steps.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>

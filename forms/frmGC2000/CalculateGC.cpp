@@ -4,7 +4,7 @@
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
 #include "forms/frmGC2000/GCFields.h"
-#include "navlib/great_circle.h"
+#include "navlib/sailing/great_circle.h"
 
 #include <algorithm>
 #include <cmath>

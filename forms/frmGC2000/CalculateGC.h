@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/great_circle.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/great_circle.h"
+#include "navlib/sailing/sailing.h"
 #include "navlib/units.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmGC2000/GCPicture.h"
 
-#include "shell/controls/Legend.h"
-#include "shell/controls/LineWeight.h"
+#include "shell/layout/Legend.h"
+#include "shell/layout/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <QLineF>

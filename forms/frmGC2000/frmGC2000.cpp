@@ -7,8 +7,8 @@
 #include "forms/frmGC2000/GCPicture.h"
 #include "forms/frmGC2000/GCWorking.h"
 #include "navlib/arithmetic_error.h"
-#include "shell/controls/FollowingScrollArea.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>

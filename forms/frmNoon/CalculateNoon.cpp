@@ -8,7 +8,7 @@
 #include "forms/frmPassage/PlanTexts.h"
 #include "navlib/arithmetic_error.h"
 #include "navlib/datetime.h"
-#include "navlib/propulsion.h"
+#include "navlib/ship/propulsion.h"
 
 #include <algorithm>
 #include <sstream>

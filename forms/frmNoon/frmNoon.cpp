@@ -4,9 +4,9 @@
 #include "app/records/KeyedLines.h"
 #include "forms/frmNoon/NoonFields.h"
 #include "forms/frmPassage/PlanRecord.h"
-#include "shell/controls/CellLayout.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/CellLayout.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/screen/WidgetColours.h"
 
 #include <QAction>

@@ -3,8 +3,8 @@
 
 #include "forms/frmPassage/PassageFields.h"
 #include "forms/frmPassage/PlanTable.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmPassage/PlanReading.h"
-#include "navlib/composite_sailing.h"
+#include "navlib/sailing/composite_sailing.h"
 
 #include <optional>
 #include <string>

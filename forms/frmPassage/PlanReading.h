@@ -3,7 +3,7 @@
 
 #include "app/reading/Remarks.h"
 #include "forms/frmPassage/PassagePlan.h"
-#include "navlib/great_circle_arc.h"
+#include "navlib/sailing/great_circle_arc.h"
 
 namespace korvel
 {

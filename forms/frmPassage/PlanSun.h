@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/Instant.h"
-#include "navlib/great_circle_arc.h"
+#include "navlib/sailing/great_circle_arc.h"
 
 #include <string>
 

@@ -9,9 +9,9 @@
 #include "forms/frmPassage/PlanSun.h"
 #include "forms/frmPassage/PlanTable.h"
 #include "forms/frmPassage/PlanWorking.h"
-#include "shell/controls/CellLayout.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/CellLayout.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 

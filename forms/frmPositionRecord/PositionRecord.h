@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmPositionRecord/PositionRows.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include <optional>
 #include <vector>

@@ -9,9 +9,9 @@
 #include "forms/frmPositionRecord/RecordPaper.h"
 #include "forms/frmPositionRecord/RecordText.h"
 #include "forms/frmPositionRecord/RowReading.h"
-#include "shell/controls/CellLayout.h"
-#include "shell/controls/FollowingScrollArea.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/CellLayout.h"
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>

@@ -3,7 +3,7 @@
 
 #include "forms/frmPositionRecord/PositionTable.h"
 #include "forms/frmPositionRecord/RecordMemory.h"
-#include "shell/controls/FocusFollower.h"
+#include "shell/layout/FocusFollower.h"
 #include "shell/window/CalculatorWindow.h"
 
 namespace korvel

@@ -6,8 +6,8 @@
 #include "app/reading/Reading.h"
 #include "app/reading/TypedTime.h"
 #include "navlib/arithmetic_error.h"
-#include "navlib/ephemeris.h"
-#include "navlib/rise_set.h"
+#include "navlib/sky/ephemeris.h"
+#include "navlib/sky/rise_set.h"
 
 #include <cmath>
 

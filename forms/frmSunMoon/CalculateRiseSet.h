@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/NumberField.h"
-#include "navlib/rise_set.h"
+#include "navlib/sky/rise_set.h"
 
 #include <array>
 #include <optional>

@@ -3,8 +3,8 @@
 
 #include "app/reading/Format.h"
 #include "forms/frmSunMoon/RiseSetWorking.h"
-#include "shell/controls/FollowingScrollArea.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 

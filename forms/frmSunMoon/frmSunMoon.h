@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/frmSunMoon/CalculateRiseSet.h"
-#include "shell/controls/FocusFollower.h"
 #include "shell/controls/RowTable.h"
+#include "shell/layout/FocusFollower.h"
 #include "shell/window/CalculatorWindow.h"
 
 class QScrollBar;

@@ -5,7 +5,7 @@
 #include "forms/frmSunSight/panels/FixPanel.h"
 #include "forms/frmSunSight/panels/LinePanel.h"
 #include "forms/frmSunSight/panels/SightListPanel.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

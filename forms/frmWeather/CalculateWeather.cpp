@@ -3,7 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
-#include "navlib/weather_terms.h"
+#include "navlib/sea/weather_terms.h"
 
 namespace korvel
 {

@@ -4,9 +4,9 @@
 #include "forms/frmWeather/CalculateWeather.h"
 #include "forms/frmWeather/WeatherFields.h"
 #include "forms/frmWeather/WeatherWorking.h"
-#include "navlib/weather_terms.h"
-#include "shell/controls/CellLayout.h"
-#include "shell/controls/Panels.h"
+#include "navlib/sea/weather_terms.h"
+#include "shell/layout/CellLayout.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

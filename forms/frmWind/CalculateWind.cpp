@@ -3,7 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "forms/frmWind/WindFields.h"
-#include "navlib/wind.h"
+#include "navlib/sea/wind.h"
 
 namespace korvel
 {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmWind/WindPicture.h"
-#include "navlib/wind.h"
+#include "navlib/sea/wind.h"
 
 #include <array>
 #include <optional>

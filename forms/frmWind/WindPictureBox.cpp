@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmWind/WindPictureBox.h"
 
-#include "shell/controls/Legend.h"
-#include "shell/controls/LineWeight.h"
 #include "shell/controls/VectorArrow.h"
+#include "shell/layout/Legend.h"
+#include "shell/layout/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <QLineF>

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/frmWind/WindPicture.h"
-#include "shell/controls/FigureText.h"
 #include "shell/controls/PictureBox.h"
+#include "shell/layout/FigureText.h"
 #include "shell/program/Program.h"
 
 #include <optional>

@@ -5,7 +5,7 @@
 #include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"
 #include "forms/frmWind/WindWorking.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "navlib/angles.h"
-#include "navlib/composite_sailing.h"
+#include "navlib/sailing/composite_sailing.h"
 #include "routes/route/Route.h"
 
 #include <vector>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/AnswerStrip.h"
 
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/screen/ColourScheme.h"
 
 #include <QGridLayout>

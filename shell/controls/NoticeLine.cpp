@@ -3,7 +3,7 @@
 
 #include "shell/controls/Boxes.h"
 #include "shell/controls/NoticeSign.h"
-#include "shell/controls/WrappedText.h"
+#include "shell/layout/WrappedText.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 

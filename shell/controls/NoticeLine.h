@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/reading/NumberField.h"
-#include "shell/controls/FocusFollower.h"
 #include "shell/controls/ResultLabel.h"
+#include "shell/layout/FocusFollower.h"
 
 #include <map>
 #include <set>

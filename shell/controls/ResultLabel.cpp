@@ -2,8 +2,8 @@
 #include "shell/controls/ResultLabel.h"
 
 #include "app/reading/PackedText.h"
-#include "shell/controls/TypeScale.h"
-#include "shell/controls/WrappedText.h"
+#include "shell/layout/TypeScale.h"
+#include "shell/layout/WrappedText.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/ColourScheme.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/Result.h"
-#include "shell/controls/FigureText.h"
+#include "shell/layout/FigureText.h"
 
 #include <QLabel>
 

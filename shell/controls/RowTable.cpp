@@ -2,8 +2,8 @@
 #include "shell/controls/RowTable.h"
 
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/screen/ColourScheme.h"
 
 #include <QKeyEvent>

@@ -3,8 +3,8 @@
 
 #include "app/reading/NumberField.h"
 #include "app/reading/Result.h"
-#include "shell/controls/FocusFollower.h"
 #include "shell/controls/PositionBox.h"
+#include "shell/layout/FocusFollower.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/ZoomSizes.h"
 

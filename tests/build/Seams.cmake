@@ -88,8 +88,8 @@ check_seam(routes_files SEES routes/route/Route.h routes/files/RouteFiles.h ${to
 # What the program as a whole does with its folder, with faults and at its end is for main alone.
 set(of_program shell/machine/FolderLock.h shell/machine/ProgramFolder.h
     shell/machine/RecordsFolder.h shell/machine/FaultGuard.h shell/machine/SystemBell.h)
-check_floor(ROOMS shell_screen shell_controls shell_manual shell_program shell_paper shell_window
-            HEADERS shell/screen/Screen.h shell/controls/Boxes.h shell/manual/HelpDesk.h
+check_floor(ROOMS shell_screen shell_layout shell_controls shell_manual shell_program shell_paper shell_window
+            HEADERS shell/screen/Screen.h shell/layout/Panels.h shell/controls/Boxes.h shell/manual/HelpDesk.h
                     shell/program/Program.h shell/paper/PaperMenu.h
                     shell/window/CalculatorWindow.h
             SEES ${library} app/watch/Alarms.h shell/machine/Machine.h ${toolkit}

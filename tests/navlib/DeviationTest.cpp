@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/deviation.h"
+#include "navlib/sailing/deviation.h"
 
 #include "navlib/angles.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/ephemeris.h"
+#include "navlib/sky/ephemeris.h"
 
-#include "navlib/rise_set.h"
+#include "navlib/sky/rise_set.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/line_checks.h"
+#include "navlib/sky/line_checks.h"
 
 #include "navlib/angles.h"
 #include "tests/golden/Golden.h"

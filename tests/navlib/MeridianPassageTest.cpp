@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/meridian_passage.h"
+#include "navlib/sky/meridian_passage.h"
 
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
-#include "navlib/ephemeris.h"
+#include "navlib/sky/ephemeris.h"
 #include "tests/golden/Golden.h"
 
 #include <gtest/gtest.h>

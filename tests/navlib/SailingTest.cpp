@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/sailing.h"
+#include "navlib/sailing/sailing.h"
 
 #include "navlib/angles.h"
-#include "navlib/great_circle.h"
-#include "navlib/great_circle_arc.h"
+#include "navlib/sailing/great_circle.h"
+#include "navlib/sailing/great_circle_arc.h"
 
 #include <gtest/gtest.h>
 

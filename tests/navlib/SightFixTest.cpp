@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/sight_fix.h"
+#include "navlib/sky/sight_fix.h"
 
 #include "navlib/angles.h"
 #include "tests/golden/Golden.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/arithmetic_error.h"
-#include "navlib/cargo.h"
 #include "navlib/datetime.h"
-#include "navlib/ephemeris_series.h"
-#include "navlib/unit_tables.h"
-#include "navlib/weather_terms.h"
+#include "navlib/sea/weather_terms.h"
+#include "navlib/ship/cargo.h"
+#include "navlib/ship/unit_tables.h"
+#include "navlib/sky/ephemeris_series.h"
 
 #include <gtest/gtest.h>
 

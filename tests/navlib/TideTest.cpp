@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/tide.h"
+#include "navlib/sea/tide.h"
 
 #include <gtest/gtest.h>
 

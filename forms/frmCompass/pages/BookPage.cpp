@@ -2,7 +2,7 @@
 #include "forms/frmCompass/pages/BookPage.h"
 
 #include "forms/frmCompass/pages/BookTable.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/WrappingRow.h"
 
 #include <QVBoxLayout>
 

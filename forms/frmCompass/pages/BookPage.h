@@ -3,7 +3,7 @@
 
 #include "forms/frmCompass/CompassBook.h"
 #include "forms/frmCompass/pages/PageParts.h"
-#include "shell/controls/FollowingScrollArea.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 namespace korvel
 {

@@ -2,8 +2,8 @@
 #include "forms/frmCompass/pages/CoursesPage.h"
 
 #include "forms/frmCompass/pages/CoursesPicture.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

@@ -2,8 +2,8 @@
 #include "forms/frmCompass/pages/CoursesPicture.h"
 
 #include "navlib/angles.h"
-#include "shell/controls/Legend.h"
 #include "shell/controls/VectorArrow.h"
+#include "shell/layout/Legend.h"
 
 #include <QLineF>
 

@@ -5,8 +5,8 @@
 #include "forms/frmCompass/CompassTexts.h"
 #include "forms/frmCompass/pages/DeviationPicture.h"
 #include "forms/frmCompass/pages/TextTable.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

@@ -4,7 +4,7 @@
 #include "app/reading/Format.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"
-#include "shell/controls/Legend.h"
+#include "shell/layout/Legend.h"
 #include "shell/machine/AsQString.h"
 
 #include <algorithm>

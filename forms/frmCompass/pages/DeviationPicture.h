@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/frmCompass/DeviationCurve.h"
-#include "shell/controls/FigureText.h"
 #include "shell/controls/PictureBox.h"
+#include "shell/layout/FigureText.h"
 
 namespace korvel
 {

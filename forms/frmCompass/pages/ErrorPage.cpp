@@ -2,8 +2,8 @@
 #include "forms/frmCompass/pages/ErrorPage.h"
 
 #include "forms/frmCompass/CompassTexts.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

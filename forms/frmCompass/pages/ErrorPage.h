@@ -3,8 +3,8 @@
 
 #include "forms/frmCompass/CompassResults.h"
 #include "forms/frmCompass/pages/PageParts.h"
-#include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/ResultLabels.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 class QGridLayout;
 class QLayout;

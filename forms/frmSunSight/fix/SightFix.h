@@ -3,7 +3,7 @@
 
 #include "app/reading/Remarks.h"
 #include "forms/frmSunSight/sight/SightList.h"
-#include "navlib/line_checks.h"
+#include "navlib/sky/line_checks.h"
 
 #include <optional>
 #include <string>

@@ -4,7 +4,7 @@
 #include "app/reading/Reading.h"
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/sight/SightLine.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QButtonGroup>

@@ -3,8 +3,8 @@
 
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
-#include "shell/controls/DetailsFold.h"
 #include "shell/controls/ResultLabels.h"
+#include "shell/layout/DetailsFold.h"
 
 #include <array>
 

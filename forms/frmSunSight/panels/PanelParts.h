@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "shell/controls/Panels.h"
 #include "shell/controls/ResultLabel.h"
+#include "shell/layout/Panels.h"
 
 #include <QGroupBox>
 

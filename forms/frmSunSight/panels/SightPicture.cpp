@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/panels/SightPicture.h"
 
-#include "shell/controls/LineWeight.h"
+#include "shell/layout/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <QKeyEvent>

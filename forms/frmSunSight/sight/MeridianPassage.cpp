@@ -5,8 +5,8 @@
 #include "app/reading/Reading.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
-#include "navlib/ephemeris.h"
-#include "navlib/meridian_passage.h"
+#include "navlib/sky/ephemeris.h"
+#include "navlib/sky/meridian_passage.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmSunSight/sight/SightInput.h"
-#include "navlib/meridian_passage.h"
+#include "navlib/sky/meridian_passage.h"
 
 #include <string>
 #include <vector>

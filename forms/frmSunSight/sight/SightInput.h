@@ -3,9 +3,9 @@
 
 #include "app/reading/Remarks.h"
 #include "forms/frmSunSight/sight/SightTexts.h"
-#include "navlib/ephemeris.h"
-#include "navlib/sight_fix.h"
-#include "navlib/sight_reduction.h"
+#include "navlib/sky/ephemeris.h"
+#include "navlib/sky/sight_fix.h"
+#include "navlib/sky/sight_reduction.h"
 #include "navlib/units.h"
 
 #include <optional>

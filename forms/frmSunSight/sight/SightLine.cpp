@@ -4,7 +4,7 @@
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
 #include "navlib/angles.h"
-#include "navlib/sight_reduction.h"
+#include "navlib/sky/sight_reduction.h"
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/sight_fix.h"
+#include "navlib/sky/sight_fix.h"
 
 #include <optional>
 #include <string>

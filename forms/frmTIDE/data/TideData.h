@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/records/FileStore.h"
-#include "navlib/tide.h"
+#include "navlib/sea/tide.h"
 
 #include <array>
 #include <cstdint>

@@ -2,7 +2,7 @@
 #include "forms/frmTIDE/day/DrawCurve.h"
 
 #include "app/reading/Format.h"
-#include "navlib/wind.h"
+#include "navlib/sea/wind.h"
 
 #include <algorithm>
 #include <cmath>

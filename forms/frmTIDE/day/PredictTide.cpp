@@ -4,7 +4,7 @@
 #include "app/reading/Format.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
-#include "navlib/wind.h"
+#include "navlib/sea/wind.h"
 
 #include <cstdint>
 

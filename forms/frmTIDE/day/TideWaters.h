@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/frmTIDE/day/PredictTide.h"
-#include "navlib/ephemeris.h"
-#include "navlib/tide_turns.h"
+#include "navlib/sea/tide_turns.h"
+#include "navlib/sky/ephemeris.h"
 #include "tidedata/all_constituents.h"
 
 #include <optional>

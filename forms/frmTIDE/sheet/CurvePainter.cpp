@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/CurvePainter.h"
 
-#include "shell/controls/LineWeight.h"
+#include "shell/layout/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/DayLabels.h"
 
-#include "shell/controls/TypeScale.h"
+#include "shell/layout/TypeScale.h"
 #include "shell/screen/ColourScheme.h"
 
 #include <QPainter>

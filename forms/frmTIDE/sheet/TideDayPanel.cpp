@@ -3,8 +3,8 @@
 
 #include "forms/frmTIDE/sheet/DayLabels.h"
 #include "forms/frmTIDE/sheet/NoteLabel.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/TypeScale.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/TypeScale.h"
 #include "shell/screen/ColourScheme.h"
 
 #include <QGridLayout>

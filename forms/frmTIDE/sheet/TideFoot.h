@@ -3,7 +3,7 @@
 
 #include "forms/frmTIDE/data/TideDates.h"
 #include "forms/frmTIDE/day/StationLines.h"
-#include "shell/controls/DetailsFold.h"
+#include "shell/layout/DetailsFold.h"
 
 #include <QLabel>
 #include <QProgressBar>

@@ -2,8 +2,8 @@
 #include "forms/frmTIDE/sheet/TideHead.h"
 
 #include "forms/frmTIDE/sheet/NoteLabel.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QHBoxLayout>

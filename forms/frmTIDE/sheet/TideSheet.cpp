@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/sheet/TideSheet.h"
 
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>

@@ -5,7 +5,7 @@
 #include "forms/frmTIDE/sheet/TideFoot.h"
 #include "forms/frmTIDE/sheet/TideHead.h"
 #include "forms/frmTIDE/sheet/frmTIDEPicture.h"
-#include "shell/controls/FollowingScrollArea.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 #include <cstdint>
 #include <functional>

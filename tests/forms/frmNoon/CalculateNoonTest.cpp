@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmNoon/CalculateNoon.h"
 
-#include "navlib/propulsion.h"
+#include "navlib/ship/propulsion.h"
 
 #include <gmock/gmock.h>
 

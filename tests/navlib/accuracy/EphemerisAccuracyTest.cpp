@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/angles.h"
-#include "navlib/ephemeris.h"
+#include "navlib/sky/ephemeris.h"
 #include "tests/navlib/accuracy/ErfaReference.h"
 
 #include <gtest/gtest.h>

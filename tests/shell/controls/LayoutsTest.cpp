@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "shell/controls/CellLayout.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/CellLayout.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/ResultLabels.h"
-#include "shell/controls/WrappedText.h"
+#include "shell/layout/WrappedText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
-#include "navlib/ephemeris_series.h"
+#include "navlib/sky/ephemeris_series.h"
 #include "shell/paper/PaperWindow.h"
 #include "tests/SourceFolder.h"
 #include "tests/shell/paper/StepFigures.h"

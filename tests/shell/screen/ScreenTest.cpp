@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/NoticeLine.h"
-#include "shell/controls/PageBar.h"
+#include "shell/layout/PageBar.h"
 #include "tests/shell/WholeProgram.h"
 
 #include <QAbstractButton>

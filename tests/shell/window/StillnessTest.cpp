@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/controls/PageBar.h"
+#include "shell/layout/PageBar.h"
 #include "tests/shell/WholeProgram.h"
 
 #include <fstream>

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "shell/layout/FollowingScrollArea.h"
+
+#include "shell/screen/ZoomSizes.h"
+
+#include <QApplication>
+#include <QScrollBar>
+#include <QShowEvent>
+
+#include <algorithm>
+
+namespace korvel
+{
+
+FollowingScrollArea::FollowingScrollArea(QWidget* content)
+    : m_focus([this](QWidget* now) { follow(now); })
+{
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(content);
+    setFocusPolicy(Qt::NoFocus); // Tab goes from box to box
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] { placeHeading(); });
+}
+
+void FollowingScrollArea::follow(QWidget* focus)
+{
+    if (!focus || !widget()->isAncestorOf(focus)) return;
+    // A row above and below comes along where there is room, so that it is seen where the next
+    // Enter leads.
+    const QSize room = (viewport()->size() - focus->size()) / 2;
+    const QSize around(std::clamp(room.width(), 0, focus->height()),
+                       std::clamp(room.height(), 0, 3 * focus->height() / 2));
+    // The toolkit's own way only looks after the text cursor; the whole box is to be seen.
+    const QPoint middle = focus->mapTo(widget(), focus->rect().center());
+    ensureVisible(middle.x(), middle.y(), focus->width() / 2 + around.width(),
+                  focus->height() / 2 + around.height());
+}
+
+void FollowingScrollArea::setHeading(QWidget* heading)
+{
+    m_heading = heading;
+    heading->setParent(this);
+    placeHeading();
+}
+
+void FollowingScrollArea::foldColumns()
+{
+    m_fold = std::make_unique<ColumnFold>(*widget()->layout());
+}
+
+void FollowingScrollArea::foldFor(int width)
+{
+    if (!m_fold) return;
+    // As if the bar were there: what it takes away must not bring it back and forth.
+    m_fold->fold(width - verticalScrollBar()->sizeHint().width() < m_fold->widthUnfolded());
+}
+
+QSize FollowingScrollArea::sizeFor(int width)
+{
+    foldFor(width);
+    settleLayouts(*widget());
+    QSize wanted = sizeHint().boundedTo(QSize(width, QWIDGETSIZE_MAX));
+    const int bar = verticalScrollBar()->sizeHint().width();
+    const QLayout* content = widget()->layout();
+    if (content->hasHeightForWidth()) {
+        const int heading = m_heading ? headingHeight(wanted.width() - bar) : 0;
+        const int room = wanted.width() - bar;
+        // Preferred heights are rounded otherwise than least ones.
+        wanted.setHeight(std::max(content->totalHeightForWidth(room),
+                                  content->totalMinimumHeightForWidth(room)) +
+                         heading);
+    }
+    return wanted;
+}
+
+QSize FollowingScrollArea::sizeHint() const
+{
+    const int heading = m_heading ? m_heading->sizeHint().height() : 0;
+    return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) +
+           QSize(verticalScrollBar()->sizeHint().width(), heading);
+}
+
+void FollowingScrollArea::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    if (!m_isFoldedByHand) foldFor(width());
+    placeHeading();
+    follow(QApplication::focusWidget());
+}
+
+/// What the groups need side by side may be another width than when they last stood so: the letters
+/// of a page that nobody saw were sized meanwhile.
+void FollowingScrollArea::showEvent(QShowEvent* event)
+{
+    QScrollArea::showEvent(event);
+    if (!m_fold || m_isFoldedByHand || event->spontaneous()) return;
+    foldFor(QWIDGETSIZE_MAX);
+    settleLayouts(*widget());
+    foldFor(width());
+    settleLayouts(*widget());
+}
+
+/// Of a heading that wraps as its table does.
+int FollowingScrollArea::headingHeight(int width) const
+{
+    const int wrapped = m_heading->heightForWidth(width);
+    return wrapped > 0 ? wrapped : m_heading->sizeHint().height();
+}
+
+void FollowingScrollArea::placeHeading()
+{
+    if (!m_heading) return;
+    const int height =
+        headingHeight(std::max(viewport()->width(), widget()->minimumSizeHint().width()));
+    const QMargins margins(0, height, 0, 0);
+    if (viewportMargins() != margins) setViewportMargins(margins); // letters of another size too
+    const QRect seen = viewport()->geometry();
+    const int left = horizontalScrollBar()->value();
+    m_heading->setGeometry(seen.left() - left, seen.top() - height,
+                           std::max(seen.width(), widget()->width()), height);
+    // What has scrolled out on the left must not cover its neighbours.
+    m_heading->setMask(QRect(left, 0, seen.width(), height));
+}
+
+} // namespace korvel
