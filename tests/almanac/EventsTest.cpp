@@ -161,6 +161,7 @@ TEST(Page, saysWhyThereIsNoTime)
     EXPECT_EQ(at(june, 60).nauticalDawn.kind, Twilight);
     EXPECT_EQ(at(june, 62).civilDawn.kind, Twilight);
     const DailyPage december = makeDailyPage(instantOf("2026-12-20T00:00:00Z"));
+    EXPECT_EQ(at(december, -60).nauticalDawn.kind, Twilight) << "the southern summer";
     EXPECT_EQ(at(december, 70).sunrise.kind, Below);
     EXPECT_EQ(at(december, 70).civilDawn.kind, At);
     // The Moon passes each meridian later by 50 minutes a day: in a month one day is left out.

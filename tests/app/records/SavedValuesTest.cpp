@@ -32,6 +32,17 @@ TEST(SavedValues, aNewInstallation)
         "\"00:00\"\r\n\r\n\r\n\"00:00\"\r\n\r\n\r\n\r\n\r\n\r\n1\r\n0\r\n0\r\n0\r\n9\r\n");
 }
 
+TEST(SavedValues, dayIsNoNightThereAndBack)
+{
+    KV_Savedvalue saved;
+    EXPECT_FALSE(saved.nightColours());
+    saved.setNightColours(true);
+    EXPECT_TRUE(saved.nightColours());
+    saved.setNightColours(false);
+    EXPECT_FALSE(saved.nightColours());
+    EXPECT_EQ(writeRecord(saved.record()), writeRecord(KV_Savedvalue().record()));
+}
+
 TEST(SavedValues, bringWhatTheyReadIntoOrder)
 {
     KV_Savedvalue saved;

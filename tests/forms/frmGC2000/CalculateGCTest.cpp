@@ -35,6 +35,7 @@ std::map<std::string, std::string> shown(const GCResult& result)
         {"vertexLong", result.vertexLong},
         {"vertex", result.vertexRemark},
         {"saving", result.saving},
+        {"notice", result.notice},
         {"arrival",
          result.route.waypoints.empty() ? "" : result.rows[result.route.waypoints.size() - 1].lat},
     };

@@ -205,6 +205,7 @@ TEST(PlanRecord, damageIsNamedAndTheRestRead)
     for (int i = 0; i < 501; ++i)
         many += "row\nname=A\nkept=a\tb\n";
     EXPECT_EQ(readPlanRecord(many).plan.rows.size(), 500u);
+    EXPECT_EQ(readPlanRecord(many).plan.rows.back().kept.size(), 1u);
     EXPECT_EQ(readPlanRecord(many).damage, "line 1502: more than 500 rows");
 }
 

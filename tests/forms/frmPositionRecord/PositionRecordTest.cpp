@@ -135,13 +135,15 @@ TEST(PositionRecord, copiedText)
 {
     auto input = fourDays();
     input.rows[4] = {"half typed", "", "36.", ""};
+    input.rows[5] = {"", "-3.5", "", ""};
     const std::string text = positionRecordText(input, CalculatePositionRecord(input));
     EXPECT_THAT(text, HasSubstr("1\t2024/05/01 12:00\t+9.0\t2024/05/01 03:00\t35°00.0'N\t"
                                 "142°00.0'E\t<073.6>\t318.'6\t23.0\t13.85\t\t\n"));
     EXPECT_THAT(text, HasSubstr("5\thalf typed\t"));
+    EXPECT_THAT(text, HasSubstr("\n6\t\t-3.5\t\t"));
     EXPECT_THAT(text, HasSubstr("\t980.'5\t70.0\t14.01\n"));
     EXPECT_THAT(text, HasSubstr("\nMiles\t1nm=1' (of LATITUDE) (sphere)\n"));
-    EXPECT_EQ(std::ranges::count(text, '\n'), 8);
+    EXPECT_EQ(std::ranges::count(text, '\n'), 9);
 }
 
 TEST(PositionRecord, aSavedListIsReadWholeOrNotAtAll)

@@ -72,7 +72,9 @@ TEST(SightSettings, roundTrip)
     settings.sight.SMT = true;
     settings.track = track1990;
     settings.options = {"0.5", "10", "1", true};
-    settings.list = listOf({morning2020, noon2020});
+    SightTexts ofShipsTime = noon2020;
+    ofShipsTime.SMT = true;
+    settings.list = listOf({morning2020, ofShipsTime});
     settings.list.setOn(1, false);
     const std::string file = writeRecord(recordOf(settings));
     const SightSettings back = settingsOf(readRecord(file, sightKinds()).record);
