@@ -28,12 +28,22 @@ void FollowingScrollArea::follow(QWidget* focus)
     // A row above and below comes along where there is room, so that it is seen where the next
     // Enter leads.
     const QSize room = (viewport()->size() - focus->size()) / 2;
-    const QSize around(std::clamp(room.width(), 0, focus->height()),
-                       std::clamp(room.height(), 0, 3 * focus->height() / 2));
-    // The toolkit's own way only looks after the text cursor; the whole box is to be seen.
-    const QPoint middle = focus->mapTo(widget(), focus->rect().center());
-    ensureVisible(middle.x(), middle.y(), focus->width() / 2 + around.width(),
-                  focus->height() / 2 + around.height());
+    bringIntoView(*focus, QSize(std::clamp(room.width(), 0, focus->height()),
+                                std::clamp(room.height(), 0, 3 * focus->height() / 2)));
+    // What stands together is seen together where it fits: the answer below its boxes.
+    const QWidget* group = focus;
+    for (const QWidget* around = focus; around != widget(); around = around->parentWidget())
+        if (around->height() <= viewport()->height()) group = around;
+    bringIntoView(*group, {});
+}
+
+/// The toolkit's own way only looks after the text cursor; the whole of it is to be seen.
+void FollowingScrollArea::bringIntoView(const QWidget& part, QSize around)
+{
+    const QPoint middle = part.mapTo(widget(), part.rect().center());
+    constexpr int rounding = 2; // of the middle, and of the last line of the area
+    ensureVisible(middle.x(), middle.y(), part.width() / 2 + rounding + around.width(),
+                  part.height() / 2 + rounding + around.height());
 }
 
 void FollowingScrollArea::setHeading(QWidget* heading)

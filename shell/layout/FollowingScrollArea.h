@@ -55,6 +55,7 @@ protected:
 
 private:
     void follow(QWidget* focus);
+    void bringIntoView(const QWidget& part, QSize around);
     void placeHeading();
     int headingHeight(int width) const;
 

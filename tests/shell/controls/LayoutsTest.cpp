@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "shell/layout/CellLayout.h"
+#include "shell/layout/FollowingScrollArea.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
 
+#include <QLineEdit>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include <sstream>
 
@@ -131,6 +134,48 @@ TEST(CellLayout, readsAsItIsTold)
     EXPECT_EQ(placesOfCells(Qt::Vertical, false), "0,0 0,1 1,0 1,1 ");
     for (const auto reading : {Qt::Horizontal, Qt::Vertical})
         EXPECT_EQ(placesOfCells(reading, true), "0,0 0,1 0,2 0,3 ");
+}
+
+/// Groups of boxes 20 pixels high with a result below them, in an area of 120.
+TEST(FollowingScrollArea, whatStandsTogetherIsSeenTogetherWhereItFits)
+{
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins({});
+    std::vector<QWidget*> groups;
+    for (int boxes : {4, 4, 9}) {
+        groups.push_back(new QWidget(content));
+        auto* rows = new QVBoxLayout(groups.back());
+        rows->setContentsMargins({});
+        rows->setSpacing(0);
+        for (int i = 0; i <= boxes; ++i) {
+            QWidget* part = i < boxes ? new QLineEdit : new QWidget;
+            part->setFixedHeight(20);
+            rows->addWidget(part);
+        }
+        column->addWidget(groups.back());
+    }
+    FollowingScrollArea area(content);
+    area.resize(200, 120);
+    area.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
+    const auto isSeen = [&](const QWidget* part) {
+        return area.viewport()->rect().contains(
+            QRect(part->mapTo(area.viewport(), QPoint()), part->size()));
+    };
+    const auto boxOf = [&](std::size_t group, int box) {
+        return groups[group]->findChildren<QLineEdit*>().at(box);
+    };
+    for (int box : {0, 3}) {
+        boxOf(1, box)->setFocus();
+        EXPECT_TRUE(isSeen(groups[1])) << box;
+        boxOf(0, box)->setFocus();
+        EXPECT_TRUE(isSeen(groups[0])) << box;
+    }
+    for (int box : {0, 4, 8}) {
+        boxOf(2, box)->setFocus();
+        EXPECT_TRUE(isSeen(boxOf(2, box))) << box << " of a group that does not fit";
+    }
 }
 
 } // namespace
