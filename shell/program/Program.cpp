@@ -8,8 +8,9 @@ namespace korvel
 
 Program::Program(const Machine& machine, KV_Savedvalue& saved, Screen& screen,
                  KORVEL2000Actions& actions, ShipsTime& shipsTime, HelpDesk& help)
-    : m_machine(machine), m_saved(saved), m_screen(screen), m_actions(actions),
-      m_shipsTime(shipsTime), m_help(help)
+    : m_machine(machine),
+      m_plannedFile(machine.files, machine.questions, machine.clock, plannedSightsFile),
+      m_saved(saved), m_screen(screen), m_actions(actions), m_shipsTime(shipsTime), m_help(help)
 {
     connect(&screen, &Screen::coloursChanged, this, &Program::coloursChanged);
 }
@@ -25,6 +26,35 @@ void Program::sendToPlan(const PlanExchange::Circle& circle)
     plan.circleForPlan = circle;
     openWindow("frmPassage");
     emit circleOffered();
+}
+
+const PlannedSights& Program::plannedSights()
+{
+    if (m_plannedSights) return *m_plannedSights;
+    m_plannedSights.emplace();
+    const FileStore::Content file = m_plannedFile.read();
+    if (file.status != FileStore::Content::Status::Read) return *m_plannedSights;
+    const ReadPlannedSights read = readPlannedSights(file.bytes);
+    m_plannedSights = read.sights;
+    if (!read.damage.empty())
+        m_plannedFile.report("is damaged: " + read.damage, !read.sights.empty());
+    return *m_plannedSights;
+}
+
+std::string Program::planSights(const PlannedSights& sights)
+{
+    plannedSights(); // a damaged file is told of before it is written over
+    m_plannedSights = sights;
+    std::string fault = m_plannedFile.saveQuietly(plannedSightsText(sights));
+    emit sightsPlanned();
+    return fault;
+}
+
+std::string Program::sendToSights(const PlannedSights& sights)
+{
+    std::string fault = planSights(sights);
+    openWindow("frmSunSight");
+    return fault;
 }
 
 std::optional<ShipNow::Position> Program::shipsPosition() const

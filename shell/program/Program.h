@@ -3,6 +3,8 @@
 
 #include "app/records/KORVEL2000Actions.h"
 #include "app/records/KV_Savedvalue.h"
+#include "app/records/RecordFile.h"
+#include "app/watch/PlannedSights.h"
 #include "app/watch/ShipNow.h"
 #include "app/watch/ShipsTime.h"
 #include "app/working/WorkingPaper.h"
@@ -15,6 +17,8 @@
 #include <QString>
 #include <QWidget>
 
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace korvel
@@ -67,6 +71,12 @@ public:
 
     PlanExchange plan;
 
+    /// Sights that are to be taken; those of the last run from their file.
+    const PlannedSights& plannedSights();
+    /// Plans other sights instead, and writes their file.
+    /// @return why the file could not be written, in words; the plan stands all the same
+    std::string planSights(const PlannedSights& sights);
+
     /// The heading of a working paper that is made at this moment.
     PaperHeading paperHeading() const;
 
@@ -94,6 +104,9 @@ public:
     void tellShipNow() { emit shipNowChanged(); }
     /// A circle is to be taken into the plan, whose window is opened.
     void sendToPlan(const PlanExchange::Circle& circle);
+    /// Sights are to be taken: plans them and opens the window that takes them.
+    /// @return as planSights()
+    std::string sendToSights(const PlannedSights& sights);
     /// Has every window write its record now: the program may be about to end.
     void saveRecords() { emit recordsWanted(); }
 
@@ -104,6 +117,8 @@ signals:
     void shipNowChanged();
     /// PlanExchange::circleForPlan is there to be taken.
     void circleOffered();
+    /// plannedSights() are others now.
+    void sightsPlanned();
     /// Every window is to write its record now: the program may be about to end.
     void recordsWanted();
     /// The clocks show another minute.
@@ -116,6 +131,8 @@ signals:
 
 private:
     Machine m_machine;
+    RecordFile m_plannedFile;
+    std::optional<PlannedSights> m_plannedSights; ///< nothing before the file was read
     KV_Savedvalue& m_saved;
     Screen& m_screen;
     KORVEL2000Actions& m_actions;

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "app/watch/PlannedSights.h"
+
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
+#include "app/records/KeyedLines.h"
+
+#include <array>
+#include <optional>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::Degrees;
+
+constexpr std::string_view plannedKind = "KORVEL2000 planned sights ";
+
+std::string figureIn(Degrees angle)
+{
+    return Format(angle, "0.#####");
+}
+
+std::optional<Degrees> angleOf(const std::string& text, double low, double high)
+{
+    const auto value = readLeadingNumber(text);
+    if (!value || *value < low || *value > high) return std::nullopt;
+    return Degrees(*value);
+}
+
+/// "time;altitude;azimuth;body": the body last, whatever letters its name has.
+std::optional<PlannedSight> plannedSightOf(const std::string& text)
+{
+    std::array<std::string, 3> heads;
+    std::size_t from = 0;
+    for (std::string& head : heads) {
+        const std::size_t to = text.find(';', from);
+        if (to == std::string::npos) return std::nullopt;
+        head = text.substr(from, to - from);
+        from = to + 1;
+    }
+    const auto utc = readIso(heads[0]);
+    const auto altitude = angleOf(heads[1], 0, 90);
+    const auto azimuth = angleOf(heads[2], 0, 360);
+    const std::string body = text.substr(from);
+    if (!utc || !altitude || !azimuth || body.empty()) return std::nullopt;
+    return PlannedSight{body, *utc, *altitude, *azimuth};
+}
+
+} // namespace
+
+std::string plannedSightsText(const PlannedSights& sights)
+{
+    std::string text = std::string(plannedKind) + "1\n";
+    std::size_t written = 0;
+    for (const PlannedSight& sight : sights) {
+        if (++written > mostPlannedSights) break;
+        std::string line = isoText(sight.utc);
+        line += ';';
+        line += figureIn(sight.sextantAltitude);
+        line += ';';
+        line += figureIn(sight.azimuth);
+        line += ';';
+        line += sight.body;
+        addKeyedLine(text, "sight", line);
+    }
+    return text;
+}
+
+ReadPlannedSights readPlannedSights(std::string_view bytes)
+{
+    ReadPlannedSights read;
+    if (!bytes.starts_with(plannedKind)) {
+        read.damage = "line 1: these are no planned sights";
+        return read;
+    }
+    constexpr std::string_view key = "sight=";
+    int line = 0;
+    for (const std::string_view each : recordLines(bytes)) {
+        ++line;
+        if (!each.starts_with(key)) continue; // the first line, or of a later version
+        const auto sight = plannedSightOf(unescapedLine(each.substr(key.size())));
+        if (sight && read.sights.size() < mostPlannedSights)
+            read.sights.push_back(*sight);
+        else if (read.damage.empty())
+            read.damage = "line " + std::to_string(line);
+    }
+    return read;
+}
+
+} // namespace korvel
