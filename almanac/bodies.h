@@ -31,6 +31,12 @@ std::span<const BodyEntry> bodies();
 
 const BodyEntry& entryOf(Body body);
 
+/// Whether a sextant brings a limb down to the horizon: of the Sun and the Moon.
+constexpr bool hasLimbs(Body body)
+{
+    return body == Body::Sun || body == Body::Moon;
+}
+
 /// Body of a name, capitals or not, or of a star's number ("18"). "Venus" is her centre of light,
 /// as almanacs have it since 1985; "Venus-disc" the centre of her disc.
 std::optional<Body> findBody(std::string_view nameOrNumber);

@@ -55,6 +55,15 @@ Direction computedDirection(const Place& body, const Observer& observer)
     return directionOf(meridianVector(body, observer), observer.latitude);
 }
 
+std::array<double, 3> standOverHorizon(const Observer& observer)
+{
+    const Vector standing = stand(observer);
+    const double north =
+        cos(observer.latitude) * standing[2] - sin(observer.latitude) * standing[0];
+    const double up = cos(observer.latitude) * standing[0] + sin(observer.latitude) * standing[2];
+    return {north, 0, up};
+}
+
 SeenBody seenFrom(const Place& body, const Observer& observer)
 {
     // The radii of the earth in a second, of 86164.1 that it takes to turn, over those of light.

@@ -4,6 +4,8 @@
 #include "almanac/sky.h"
 #include "navlib/units.h"
 
+#include <array>
+
 namespace almanac
 {
 
@@ -26,6 +28,9 @@ struct Direction {
 /// observer's latitude and longitude on the sphere, no parallax. Unlike a quotient of cosines it
 /// has no place where it fails.
 Direction computedDirection(const Place& body, const Observer& observer);
+
+/// The observer from the earth's centre, in radii of the equator: to the north, to the east, up.
+std::array<double, 3> standOverHorizon(const Observer& observer);
 
 /// Direction and size of a body as seen from the observer's eye.
 struct SeenBody {
