@@ -3,6 +3,10 @@
 # user in it. Sourced by the proofs.
 
 clean_root=$packages/clean-debian
+# What makes it takes no blank in its path; a checkout may have one.
+case $clean_root in
+*[[:space:]]*) clean_root=/var/tmp/korvel2000-clean-debian.$(cksum <<<"$top" | cut -d ' ' -f 1) ;;
+esac
 
 # fresh_debian  Leaves a fresh minimal system in $clean_root, of the release of this machine.
 fresh_debian() {
