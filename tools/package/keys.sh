@@ -81,10 +81,12 @@ enter() {
 # open_main_window TD  Answers what a first start asks and closes the page that it shows.
 # FIRST_START=1: the question about earlier records comes first and is answered with No.
 open_main_window() {
-    await '^KORVEL2000$' 2
     if [ -n "${FIRST_START:-}" ]; then
+        await '^Brinemark$'
         press alt+n
         await '^KORVEL2000$'
+    else
+        await '^KORVEL2000$' 2
     fi
     answer_time_difference "$1"
     await 'KORVEL2000 manual$'
