@@ -53,17 +53,18 @@ add_program() {
 # libraries_of FILE..  Every shared library that the files need, directly or not, but those of the
 # C library: they belong to the kernel's side of the system and must be its own.
 libraries_of() {
-    ldd "$@" | sed -n 's/.* => \(\/[^ ]*\) .*/\1/p' | sort -u |
+    ldd "$@" | sed -n 's/.* => \(\/.*\) (0x[0-9a-f]*)$/\1/p' | sort -u |
         grep -vE '/(libc|libm|libdl|libpthread|librt|libresolv|ld-linux[^/]*)\.so'
 }
 
 add_libraries() {
-    local library
-    # shellcheck disable=SC2046
-    for library in $(libraries_of "$folder/korvel2000" "$folder/almanac" "$folder/passage" $(find "$folder/plugins" -name '*.so')); do
+    local library files libraries
+    mapfile -d '' files < <(find "$folder/plugins" -name '*.so' -print0)
+    libraries=$(libraries_of "$folder/korvel2000" "$folder/almanac" "$folder/passage" "${files[@]}")
+    while read -r library; do
         # What was found in the folder's own lib/ does not count as the system's.
         cp -L "$library" "$folder/lib/"
-    done
+    done <<<"$libraries"
     shorten_unicode_data
     chmod 644 "$folder"/lib/*
 }
