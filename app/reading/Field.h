@@ -40,6 +40,10 @@ std::string writingOf(const Field& field);
 /// @return nothing when the field cannot be used
 std::optional<double> readField(std::string_view text, const Field& field, Remarks& remarks);
 
+/// The same for a field that may stay empty: while it is empty or half typed it gives nothing and
+/// no word.
+std::optional<double> readIfTyped(std::string_view text, const Field& field, Remarks& remarks);
+
 /// Reads all fields of a calculation.
 /// @return nothing when one of them cannot be used; the remarks name each that cannot
 template <std::size_t N>

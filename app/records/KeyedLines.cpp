@@ -52,4 +52,22 @@ std::vector<std::string_view> recordLines(std::string_view file)
     return lines;
 }
 
+std::string
+readKeyedLines(std::string_view file, std::string_view kind, const std::string& what,
+               const std::function<void(std::string_view key, const std::string& value)>& take)
+{
+    if (!file.starts_with(kind)) return "line 1: it is no " + what;
+    std::string damage;
+    int number = 0;
+    for (const std::string_view line : recordLines(file)) {
+        if (++number == 1 || line.empty()) continue;
+        const std::size_t sign = line.find('=');
+        if (sign != std::string_view::npos)
+            take(line.substr(0, sign), unescapedLine(line.substr(sign + 1)));
+        else if (damage.empty())
+            damage = "line " + std::to_string(number) + ": it cannot be read";
+    }
+    return damage;
+}
+
 } // namespace korvel

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,5 +20,14 @@ void addKeyedLine(std::string& file, std::string_view key, std::string_view valu
 
 /// The lines of a file, LF or CR LF behind each, without these.
 std::vector<std::string_view> recordLines(std::string_view file);
+
+/// Reads such a file; lines of keys that nobody knows are passed over.
+/// @param kind what the first line has to begin with
+/// @param what the file is then: "noon report"
+/// @param take is given every key with its value
+/// @return what could not be read, for the officer; empty when all was
+std::string
+readKeyedLines(std::string_view file, std::string_view kind, const std::string& what,
+               const std::function<void(std::string_view key, const std::string& value)>& take);
 
 } // namespace korvel

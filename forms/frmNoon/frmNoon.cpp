@@ -176,21 +176,12 @@ std::string frmNoon::recordText() const
 
 std::string frmNoon::take(const std::string& bytes)
 {
-    if (!bytes.starts_with(kind)) return "line 1: it is no noon report";
-    std::string damage;
-    int number = 0;
-    for (const std::string_view line : recordLines(bytes)) {
-        if (++number == 1 || line.empty()) continue;
-        const std::size_t sign = line.find('=');
-        if (sign == std::string_view::npos) {
-            if (damage.empty()) damage = "line " + std::to_string(number) + ": it cannot be read";
-            continue;
-        }
-        for (std::size_t i = 0; i < NoonFields.size(); ++i)
-            if (line.substr(0, sign) == NoonFields[i].name)
-                m_boxes[i]->setText(asQString(unescapedLine(line.substr(sign + 1))));
-    }
-    return damage;
+    return readKeyedLines(bytes, kind, "noon report",
+                          [this](std::string_view key, const std::string& value) {
+                              for (std::size_t i = 0; i < NoonFields.size(); ++i)
+                                  if (key == NoonFields[i].name)
+                                      m_boxes[i]->setText(asQString(value));
+                          });
 }
 
 void frmNoon::run()
