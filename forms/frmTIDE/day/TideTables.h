@@ -34,6 +34,9 @@ public:
     /// the place of a shipped one. What is known about the shipped one does not hold for it.
     bool isOwn() const { return m_isOwn; }
 
+    /// East positive.
+    NavFunc113::Hours zone() const { return m_station.zone; }
+
 private:
     FileStore& m_factors;
     TideKind m_kind;

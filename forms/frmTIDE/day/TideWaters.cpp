@@ -71,29 +71,6 @@ Hours timeOf(const WaterPair& water)
     return water.four ? water.four->time : water.all->time;
 }
 
-// When a curve stands at a level or above it, each time that the level decides with its mark.
-std::string spansAbove(const NavFunc113::TideCurve& curve, double level,
-                       const std::vector<NavFunc113::TidePassage>& passages,
-                       const std::string& mark)
-{
-    if (passages.empty()) return mark + (curve(Hours(0)) > level ? "all day" : "never");
-    std::string text;
-    const auto add = [&text](const std::string& part) {
-        text += (text.empty() ? "" : ", ") + part;
-    };
-    std::string from = passages.front().isRising ? "" : "00:00";
-    for (const NavFunc113::TidePassage& passage : passages) {
-        if (passage.isRising) {
-            from = mark + clockTime(passage.time);
-        } else {
-            add(from.append(" to ").append(mark).append(clockTime(passage.time)));
-            from.clear();
-        }
-    }
-    if (!from.empty()) add(from + " to 24:00");
-    return text;
-}
-
 } // namespace
 
 std::string clockTime(Hours time)
@@ -105,6 +82,42 @@ std::string clockTime(Hours time)
                            static_cast<char>('0' + value % 10)};
     };
     return twoDigits(minutes / 60) + ":" + twoDigits(minutes % 60);
+}
+
+std::vector<HoursSpan> spansAbove(const NavFunc113::TideCurve& curve, double level,
+                                  const std::vector<NavFunc113::TidePassage>& passages)
+{
+    constexpr Hours dayEnd(24);
+    if (passages.empty() && !(curve(Hours(0)) > level)) return {};
+    std::vector<HoursSpan> spans;
+    std::optional<Hours> from;
+    if (passages.empty() || !passages.front().isRising) from = Hours(0);
+    for (const NavFunc113::TidePassage& passage : passages) {
+        if (passage.isRising) {
+            from = passage.time;
+        } else {
+            spans.push_back({from.value_or(passage.time), passage.time});
+            from.reset();
+        }
+    }
+    if (from) spans.push_back({*from, dayEnd});
+    return spans;
+}
+
+std::string spansText(const std::vector<HoursSpan>& spans, const std::string& mark)
+{
+    const auto isMidnight = [](Hours time) { return time == Hours(0) || time == Hours(24); };
+    if (spans.empty()) return mark + "never";
+    if (spans.size() == 1 && isMidnight(spans[0].from) && isMidnight(spans[0].to))
+        return mark + "all day";
+    std::string text;
+    for (const HoursSpan& span : spans) {
+        if (!text.empty()) text += ", ";
+        // What the day begins and ends with is not decided by the level.
+        text.append(isMidnight(span.from) ? "" : mark).append(clockTime(span.from));
+        text.append(" to ").append(isMidnight(span.to) ? "" : mark).append(clockTime(span.to));
+    }
+    return text;
 }
 
 std::string waterName(const TideTurn& turn, TideKind kind)
@@ -289,14 +302,14 @@ CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeigh
     if (!level) return answer;
     const NavFunc113::TideCurve four = [&day](Hours t) { return day.four.at(t); };
     const auto passages = NavFunc113::PassagesOf(four, *level);
-    answer.text = spansAbove(four, *level, passages, markOf(day));
+    answer.text = spansText(spansAbove(four, *level, passages), markOf(day));
     answer.level = level;
     for (const NavFunc113::TidePassage& passage : passages)
         answer.times.push_back(passage.time);
     if (day.all) {
         const NavFunc113::TideCurve all = [&day](Hours t) { return day.all->at(t); };
-        answer.all = "all constituents " +
-                     spansAbove(all, *level, NavFunc113::PassagesOf(all, *level), markOf(day));
+        const auto spans = spansAbove(all, *level, NavFunc113::PassagesOf(all, *level));
+        answer.all = "all constituents " + spansText(spans, markOf(day));
     }
     return answer;
 }

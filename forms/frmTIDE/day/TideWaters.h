@@ -76,6 +76,21 @@ std::string springOrNeap(NavFunc113::Degrees elongation);
 /// hh:mm of a day, rounded to the minute; 24:00 is a time of it.
 std::string clockTime(NavFunc113::Hours time);
 
+/// Hours of a day from one time to another.
+struct HoursSpan {
+    NavFunc113::Hours from; ///< 0 <= from <= to <= 24
+    NavFunc113::Hours to;
+};
+
+/// When a curve stands at a level or above it.
+/// @param passages of the curve through the level
+std::vector<HoursSpan> spansAbove(const NavFunc113::TideCurve& curve, double level,
+                                  const std::vector<NavFunc113::TidePassage>& passages);
+
+/// "00:00 to 04:12, 09:51 to 24:00", "all day", "never".
+/// @param mark before each time that the level decides: "~" for one of an estimate
+std::string spansText(const std::vector<HoursSpan>& spans, const std::string& mark = {});
+
 /// "High" or "Low"; of a stream "Flood" or "Ebb", and "Least ebb" or "Least flood" where it
 /// slackens without turning.
 std::string waterName(const NavFunc113::TideTurn& turn, TideKind kind);
