@@ -13,6 +13,7 @@
 #include "forms/frmSunMoon/frmSunMoon.h"
 #include "forms/frmSunSight/frmSunSight.h"
 #include "forms/frmTIDE/frmTIDE.h"
+#include "forms/frmUKC/frmUKC.h"
 #include "forms/frmWeather/frmWeather.h"
 #include "forms/frmWind/frmWind.h"
 #include "navlib/ship/unit_tables.h"
@@ -87,6 +88,7 @@ WindowCatalogue calculatorWindows()
         // Behind the others: these keep their keys.
         behindALine(window<frmPassage>("mnuNAV", 4, "frmPassage", "Passage pla&n")),
         window<frmNoon>("mnuWATCH", 7, "frmNoon", "Noon report"),
+        window<frmUKC>("mnuWATCH", 8, "frmUKC", "Under-keel clearance"),
     };
 }
 
