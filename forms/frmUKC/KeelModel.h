@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "navlib/under_keel.h"
+#include "navlib/ship/under_keel.h"
 
 #include <optional>
 

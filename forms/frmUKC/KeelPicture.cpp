@@ -2,7 +2,7 @@
 #include "forms/frmUKC/KeelPicture.h"
 
 #include "app/reading/Format.h"
-#include "shell/controls/LineWeight.h"
+#include "shell/layout/LineWeight.h"
 #include "shell/machine/AsQString.h"
 
 #include <algorithm>

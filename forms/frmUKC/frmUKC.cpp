@@ -7,8 +7,8 @@
 #include "forms/frmUKC/UKCFields.h"
 #include "forms/frmUKC/UKCResults.h"
 #include "forms/frmUKC/UKCWorking.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
 

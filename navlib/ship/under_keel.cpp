@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "navlib/under_keel.h"
+#include "navlib/ship/under_keel.h"
 
 #include "navlib/angles.h"
 #include "navlib/arithmetic_error.h"
