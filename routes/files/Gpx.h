@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/working/WorkingPaper.h"
 #include "routes/files/WrittenRoute.h"
 #include "routes/route/Route.h"
 
@@ -22,5 +23,11 @@ ReadRoute readGpx(std::string_view bytes);
 /// is written as -180.
 /// @param creator name and version of the program
 WrittenRoute writeGpx(const Route& route, const std::string& creator);
+
+/// Writes the line of a working paper, a route or a track, point by point. Its name and those of
+/// its points are of their own: a chart program would take the points of another day with the same
+/// names for these.
+/// @param SMT when it is made, by ship's time
+std::string writeGpx(const ExportLine& line, const std::string& creator, NavFunc113::DateTime SMT);
 
 } // namespace korvel

@@ -2,9 +2,9 @@
 #include "shell/paper/PaperMenu.h"
 
 #include "app/working/Journal.h"
+#include "routes/files/Gpx.h"
 #include "shell/controls/Boxes.h"
 #include "shell/machine/AsQString.h"
-#include "shell/paper/GpxText.h"
 #include "shell/program/Program.h"
 
 #include <QAction>
@@ -119,9 +119,7 @@ void PaperMenu::exportLine() const
     const PaperDocument document = m_hooks.document();
     if (!document.paper().line) return;
     save("Save for a chart program", offeredName(document.heading(), document.paper(), "gpx"),
-         gpxText(*document.paper().line, asQString(document.heading().program),
-                 document.heading().SMT)
-             .toStdString());
+         writeGpx(*document.paper().line, document.heading().program, document.heading().SMT));
 }
 
 } // namespace korvel

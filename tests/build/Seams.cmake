@@ -94,6 +94,8 @@ check_floor(ROOMS shell_screen shell_layout shell_controls shell_manual shell_pr
                     shell/window/CalculatorWindow.h
             SEES ${library} app/watch/Alarms.h shell/machine/Machine.h ${toolkit}
             MUST_NOT_SEE shell/main/frmKORVEL2000.h ${of_program} ${calculation} ${window})
+check_seam(shell_paper SEES routes/files/Gpx.h MUST_NOT_SEE forms/frmPassage/PassagePlan.h)
+check_seam(shell_window SEES shell/paper/PaperMenu.h MUST_NOT_SEE routes/files/Gpx.h)
 check_seam(shell_machine SEES shell/machine/Machine.h
            MUST_NOT_SEE shell/screen/Screen.h shell/main/frmKORVEL2000.h ${window} ${fakes})
 check_seam(shell_main SEES shell/main/frmKORVEL2000.h shell/window/CalculatorWindow.h ${of_program}
