@@ -14,7 +14,14 @@ using Status = FileStore::Content::Status;
 
 RecordFile::RecordFile(FileStore& files, Questions& questions, const ComputerClock& clock,
                        std::string name)
-    : m_files(files), m_questions(questions), m_clock(clock), m_name(std::move(name))
+    : RecordFile(files, questions, clock, std::move(name), Words())
+{
+}
+
+RecordFile::RecordFile(FileStore& files, Questions& questions, const ComputerClock& clock,
+                       std::string name, Words words)
+    : m_files(files), m_questions(questions), m_clock(clock), m_name(std::move(name)),
+      m_words(std::move(words))
 {
 }
 
@@ -27,10 +34,15 @@ FileStore::Content RecordFile::read()
 
 void RecordFile::report(const std::string& trouble, bool somethingRead)
 {
+    report(trouble, somethingRead
+                        ? std::string("What could be read is taken over: check every value.")
+                        : m_words.nothingRead);
+}
+
+void RecordFile::report(const std::string& trouble, const std::string& taken)
+{
     m_asideName = asideName(m_files, m_name, m_clock.now());
-    m_questions.ask({"The settings file \"" + m_name + "\" " + trouble + ".\r" +
-                         (somethingRead ? "What could be read is taken over: check every value."
-                                        : "The window opens with its defaults.") +
+    m_questions.ask({"The " + m_words.what + " \"" + m_name + "\" " + trouble + ".\r" + taken +
                          "\rBefore anything is written over the file, it is kept as \"" +
                          m_asideName + "\".",
                      programTitle, Buttons::Ok});
@@ -64,7 +76,7 @@ bool RecordFile::saveAtClose(const std::string& bytes)
         const std::string fault = saveQuietly(bytes);
         if (fault.empty()) return true;
         const Answer answer = m_questions.ask(
-            {"The settings file " + fault + ".\r\rTry again?\rNo leaves without saving it.",
+            {"The " + m_words.what + " " + fault + ".\r\rTry again?\rNo leaves without saving it.",
              confirmationTitle, Buttons::YesNo});
         if (answer != Answer::Yes) return false;
     }

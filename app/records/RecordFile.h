@@ -15,9 +15,17 @@ namespace korvel
 class RecordFile
 {
 public:
+    /// How the officer is told of it.
+    struct Words {
+        std::string what = "settings file";
+        std::string nothingRead = "The window opens with its defaults.";
+    };
+
     /// @param files, questions, clock must outlive this object
     RecordFile(FileStore& files, Questions& questions, const ComputerClock& clock,
                std::string name);
+    RecordFile(FileStore& files, Questions& questions, const ComputerClock& clock, std::string name,
+               Words words);
 
     /// Its bytes. That a file cannot be read is reported here.
     FileStore::Content read();
@@ -26,6 +34,8 @@ public:
     /// @param trouble       "is damaged: line 3: no number"
     /// @param somethingRead whether what could be read was taken over
     void report(const std::string& trouble, bool somethingRead);
+    /// @param taken what was taken over, in a sentence
+    void report(const std::string& trouble, const std::string& taken);
 
     /// Saves while the window goes on, without any box.
     /// @return the fault in words, empty when all is well
@@ -47,6 +57,7 @@ private:
     Questions& m_questions;
     const ComputerClock& m_clock;
     std::string m_name;
+    Words m_words;
     std::string m_asideName; ///< where the damaged file goes; empty when there is none
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCompass/CompassBookFile.h"
 
-#include "app/records/AsideName.h"
 #include "forms/frmCompass/CompassRecord.h"
 
 #include <utility>
@@ -11,40 +10,26 @@ namespace korvel
 namespace
 {
 
-using Status = FileStore::Content::Status;
-
-std::string inQuotes(const std::string& name)
-{
-    return '"' + name + '"';
-}
+constexpr const char* emptyBook = "The book is empty.";
 
 } // namespace
 
 CompassBookFile::CompassBookFile(FileStore& files, Questions& questions, const ComputerClock& clock)
-    : m_files(files), m_questions(questions), m_clock(clock)
+    : m_file(files, questions, clock, compassBookFile, {"compass book", emptyBook})
 {
 }
 
 void CompassBookFile::load()
 {
-    const FileStore::Content file = m_files.read(compassBookFile);
-    if (file.status == Status::Missing) return;
-    if (file.status == Status::Unreadable) return report("cannot be read: " + file.reason);
+    const FileStore::Content file = m_file.read();
+    if (file.status != FileStore::Content::Status::Read) return;
     ReadCompassBook read = readCompassBook(file.bytes);
     m_book = std::move(read.book);
-    if (!read.damage.empty()) report("is damaged: " + read.damage);
-}
-
-void CompassBookFile::report(const std::string& trouble)
-{
-    m_asideName = asideName(m_files, compassBookFile, m_clock.now());
-    const std::string taken =
-        m_book.empty() ? "The book is empty."
-                       : "Taken over: " + std::to_string(m_book.size()) + " lines. Check them.";
-    m_questions.ask({"The compass book " + inQuotes(compassBookFile) + " " + trouble + ".\r" +
-                         taken + "\rBefore anything is written over the file, it is kept as " +
-                         inQuotes(m_asideName) + ".",
-                     programTitle, Buttons::Ok});
+    if (read.damage.empty()) return;
+    m_file.report("is damaged: " + read.damage,
+                  m_book.empty()
+                      ? emptyBook
+                      : "Taken over: " + std::to_string(m_book.size()) + " lines. Check them.");
 }
 
 std::string CompassBookFile::change(const std::function<void(CompassBook&)>& change)
@@ -66,38 +51,14 @@ std::string CompassBookFile::undo()
 std::string CompassBookFile::save()
 {
     if (m_isSaved) return {};
-    if (std::string fault = keepAside(); !fault.empty()) return fault;
-    const auto reason = m_files.save(compassBookFile, compassBookText(m_book));
-    m_isSaved = !reason;
-    return reason ? inQuotes(compassBookFile) + " could not be saved: " + *reason : std::string();
-}
-
-/// @return the fault in words, empty when nothing is in the way any more
-std::string CompassBookFile::keepAside()
-{
-    if (m_asideName.empty() || m_files.look(compassBookFile).status == Status::Missing) {
-        m_asideName.clear();
-        return {};
-    }
-    if (m_files.look(m_asideName).status != Status::Missing)
-        m_asideName = asideName(m_files, compassBookFile, m_clock.now());
-    if (const auto reason = m_files.rename(compassBookFile, m_asideName))
-        return inQuotes(compassBookFile) + " could not be kept as " + inQuotes(m_asideName) + ": " +
-               *reason;
-    m_asideName.clear();
-    return {};
+    std::string fault = m_file.saveQuietly(compassBookText(m_book));
+    m_isSaved = fault.empty();
+    return fault;
 }
 
 void CompassBookFile::saveAtClose()
 {
-    for (;;) {
-        const std::string fault = save();
-        if (fault.empty()) return;
-        const Answer answer = m_questions.ask(
-            {"The compass book " + fault + ".\r\rTry again?\rNo leaves without saving it.",
-             confirmationTitle, Buttons::YesNo});
-        if (answer != Answer::Yes) return;
-    }
+    if (!m_isSaved) m_isSaved = m_file.saveAtClose(compassBookText(m_book));
 }
 
 } // namespace korvel

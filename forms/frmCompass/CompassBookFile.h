@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/machine/ComputerClock.h"
-#include "app/machine/Questions.h"
-#include "app/records/FileStore.h"
+#include "app/records/RecordFile.h"
 #include "forms/frmCompass/CompassBook.h"
 
 #include <functional>
@@ -40,15 +38,9 @@ public:
     void saveAtClose();
 
 private:
-    void report(const std::string& trouble);
-    std::string keepAside();
-
-    FileStore& m_files;
-    Questions& m_questions;
-    const ComputerClock& m_clock;
+    RecordFile m_file;
     CompassBook m_book;
     std::optional<CompassBook> m_before; ///< the last change
-    std::string m_asideName;             ///< where a damaged file goes; empty when there is none
     bool m_isSaved = true;
 };
 

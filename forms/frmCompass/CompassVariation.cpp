@@ -14,6 +14,22 @@ std::string CompassVariation::text() const
     return value + " ±" + Format(*uncertainty, "0.0") + " (" + source + ")";
 }
 
+OwnModel modelOfFolder(FileStore& files)
+{
+    constexpr const char* name = "WMM.COF";
+    const FileStore::Content file = files.read(name);
+    if (file.status == FileStore::Content::Status::Missing) return {};
+    std::string fault = file.reason;
+    if (file.status == FileStore::Content::Status::Read) {
+        try {
+            return {almanac::MagneticModel::read(file.bytes), {}};
+        } catch (const almanac::ModelFault& wrong) {
+            fault = wrong.what();
+        }
+    }
+    return {{}, name + (" cannot be used: " + fault)};
+}
+
 const almanac::MagneticModel& modelFor(const almanac::MagneticModel& chosen,
                                        NavFunc113::DateTime ut)
 {

@@ -3,6 +3,7 @@
 
 #include "almanac/magnetic_model.h"
 #include "app/reading/Remarks.h"
+#include "app/records/FileStore.h"
 
 #include <optional>
 #include <string>
@@ -18,6 +19,13 @@ struct CompassVariation {
 
     std::string text() const; ///< "8.0 E", "8.0 E ±0.4 (WMM-2025)"
 };
+
+/// Another edition that lies beside the program, "WMM.COF" in its producer's format.
+struct OwnModel {
+    std::optional<almanac::MagneticModel> model; ///< nothing: there is none that can be used
+    std::string fault;                           ///< why a file cannot be used, in words
+};
+OwnModel modelOfFolder(FileStore& files);
 
 /// The edition to go by: the one that was chosen where it holds for the time, else the program's.
 const almanac::MagneticModel& modelFor(const almanac::MagneticModel& chosen,

@@ -2,20 +2,14 @@
 #include "forms/frmCompass/frmCompass.h"
 
 #include "app/reading/Format.h"
-#include "app/reading/PositionText.h"
 #include "app/records/KORVEL2000Actions.h"
 #include "forms/frmCompass/CompassList.h"
-#include "forms/frmCompass/CompassPaper.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "forms/frmCompass/pages/BookKeeping.h"
 #include "forms/frmCompass/pages/BookPage.h"
 #include "forms/frmCompass/pages/CoursesPage.h"
-#include "forms/frmCompass/pages/CoursesPicture.h"
-#include "forms/frmCompass/pages/DeviationCard.h"
 #include "forms/frmCompass/pages/DeviationPage.h"
-#include "forms/frmCompass/pages/DeviationPicture.h"
 #include "forms/frmCompass/pages/ErrorPage.h"
-#include "navlib/angles.h"
 #include "shell/layout/FollowingScrollArea.h"
 #include "shell/layout/PageBar.h"
 #include "shell/machine/AsQString.h"
@@ -25,17 +19,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace korvel
 {
-namespace
-{
-
-constexpr const char* recordKind = "Compass error 1";
-constexpr const char* modelFile = "WMM.COF";
-
-} // namespace
 
 frmCompass::frmCompass(Program& program)
     : CalculatorWindow(program, "frmCompass", "Compass error"), m_pages(new PageBar),
@@ -48,7 +33,8 @@ frmCompass::frmCompass(Program& program)
     addMenus();
     addCalculations();
     readModel();
-    useRecord();
+    keepPages(record(), "KV_Compass Error.ini", "Compass error 1",
+              {m_error->kept(), m_lines->kept(), m_deviation->kept(), m_courses->kept()});
     m_book->load();
     loadSettings();
     m_book->show();
@@ -171,53 +157,15 @@ void frmCompass::addCalculations()
 
 void frmCompass::readModel()
 {
-    const FileStore::Content file = program().files().read(modelFile);
-    if (file.status == FileStore::Content::Status::Missing) return;
-    std::string fault = file.reason;
-    if (file.status == FileStore::Content::Status::Read) {
-        try {
-            m_ownModel = almanac::MagneticModel::read(file.bytes);
-        } catch (const almanac::ModelFault& wrong) {
-            fault = wrong.what();
-        }
-    }
-    if (fault.empty()) return;
-    setNotice("0 model", QString("%1 cannot be used: %2; variation by %3")
-                             .arg(modelFile, asQString(fault), asQString(model().name())));
+    OwnModel own = modelOfFolder(program().files());
+    m_ownModel = std::move(own.model);
+    if (own.fault.empty()) return;
+    setNotice("0 model", asQString(own.fault + "; variation by " + model().name()));
 }
 
 const almanac::MagneticModel& frmCompass::model() const
 {
     return m_ownModel ? *m_ownModel : almanac::MagneticModel::ofProgram();
-}
-
-void frmCompass::useRecord()
-{
-    PageRecord kept = m_error->kept();
-    for (const PageRecord& each : {m_lines->kept(), m_deviation->kept(), m_courses->kept()}) {
-        kept.boxes.insert(kept.boxes.end(), each.boxes.begin(), each.boxes.end());
-        kept.choices.insert(kept.choices.end(), each.choices.begin(), each.choices.end());
-    }
-    std::vector<FieldKind> kinds = recordKinds(kept.boxes);
-    kinds.insert(kinds.begin(), FieldKind::Text);
-    kinds.insert(kinds.end(), kept.choices.size(), FieldKind::Number);
-    record().use(
-        "KV_Compass Error.ini", std::move(kinds),
-        [kept] {
-            Record values = {std::string(recordKind)};
-            for (const EntryBox* box : kept.boxes)
-                values.emplace_back(box->value());
-            for (const PageRecord::Choice& choice : kept.choices)
-                values.emplace_back(static_cast<double>(choice.get()));
-            return values;
-        },
-        [kept](const Record& values) {
-            std::size_t next = 1;
-            for (EntryBox* box : kept.boxes)
-                box->setText(asQString(textOf(values[next++])));
-            for (const PageRecord::Choice& choice : kept.choices)
-                choice.set(static_cast<int>(numberOf(values[next++])));
-        });
 }
 
 CompassInput frmCompass::errorInput() const
@@ -310,21 +258,6 @@ void frmCompass::takeErrors()
     put(CourseBox::Deviation, m_found.readings[kind].deviation);
 }
 
-void frmCompass::printCard()
-{
-    const DeviationCurve& curve = shownCurve();
-    if (!curve.fit) return refuse("No card: " + asQString(curve.notice));
-    const PaperHeading heading = program().paperHeading();
-    const DeviationCard card{compassNames[static_cast<std::size_t>(m_deviation->kind())],
-                             asQString(heading.ship),
-                             asQString(Format(heading.UTC, "yyyy-mm-dd hh:mm")) + " UTC",
-                             paperPicture(m_deviation->picture(), "Deviation", QSize(360, 560))};
-    printer().print("Deviation card", QPageLayout::Portrait,
-                    [&](QPainter& painter, const QRect& room) {
-                        drawDeviationCard(painter, room, card, curve, m_book->book());
-                    });
-}
-
 /// Says why something was not done, until the next change.
 void frmCompass::refuse(const QString& why)
 {
@@ -361,70 +294,6 @@ void frmCompass::closeEvent(QCloseEvent* event)
 {
     m_book->saveAtClose();
     CalculatorWindow::closeEvent(event);
-}
-
-void frmCompass::tellError(WorkingPaper& paper) const
-{
-    const CompassInput input = errorInput();
-    paper.inputs = m_error->paperFigures();
-    for (const ResultLabel* label : m_error->results())
-        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
-    paper.workings = compassWorkings(input, m_found);
-    paper.limits = compassLimits(input, m_found);
-    if (m_found.latitude && m_found.longitude)
-        paper.place =
-            positionForCopy(DegToDegMin(*m_found.latitude), DegToDegMin(*m_found.longitude));
-}
-
-void frmCompass::tellCourses(WorkingPaper& paper) const
-{
-    paper.kind = "Courses";
-    paper.inputs = m_courses->paperFigures();
-    for (const ResultLabel* label : m_courses->results())
-        if (!label->text().isEmpty()) paper.results.push_back(paperFigure(*label));
-    std::string curve = "as typed";
-    if (const auto kind = m_courses->curve())
-        curve = std::string("curve of the book, ") + compassNames[static_cast<std::size_t>(*kind)] +
-                " compass, solved for its head";
-    paper.workings = coursesWorkings(m_courseInput, m_course, curve);
-    paper.remarks = {};
-    if (!m_course.notice.empty()) paper.remarks.push_back(m_course.notice);
-    paper.limits = {"Set and drift are taken to be the same for the whole time",
-                    "A degree of leeway or half a knot of drift is seldom known better"};
-}
-
-WorkingPaper frmCompass::paper() const
-{
-    WorkingPaper paper = CalculatorWindow::paper();
-    switch (m_pages->page()) {
-    case Book:
-        paper.remarks.clear(); // they are of the observation
-        tellBook(paper, m_book->book(), m_lines->kind());
-        break;
-    case Deviation:
-        paper.inputs = m_deviation->paperFigures();
-        tellDeviation(paper, shownCurve(), m_book->book(), m_deviation->kind());
-        break;
-    case Courses:
-        tellCourses(paper);
-        break;
-    default:
-        tellError(paper);
-    }
-    if (!m_book->book().empty())
-        paper.list = compassList(m_book->book(), compassLines(m_book->book(), m_lines->kind()));
-    return paper;
-}
-
-std::vector<PaperPicture> frmCompass::paperPictures()
-{
-    if (m_pages->page() == Deviation && !shownCurve().points.empty())
-        return {paperPicture(m_deviation->picture(), "Deviation over the compass head",
-                             QSize(420, 560))};
-    if (m_pages->page() == Courses && m_course.triangle)
-        return {paperPicture(m_courses->picture(), "Course, current and track, knots, north up",
-                             QSize(460, 480))};
-    return {};
 }
 
 void frmCompass::applyColours()

@@ -46,7 +46,6 @@ private:
     void addMenus();
     void addMemoMenus();
     void addCalculations();
-    void useRecord();
     void readModel();
 
     CompassInput errorInput() const;

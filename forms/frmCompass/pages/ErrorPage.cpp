@@ -104,6 +104,9 @@ void ErrorPage::makeControls()
         m_lblCompass[i]->setRoom(widestResults[i]);
     for (const std::size_t remark : {StandardCurve, SteeringCurve})
         m_lblCompass[remark]->setFont(font());
+    connect(m_optVariation, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
+        if (chosen) showVariation();
+    });
     for (Options* each : {m_optClock, m_optMethod, m_optVariation})
         connect(each, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
             if (!chosen) return;
@@ -112,7 +115,7 @@ void ErrorPage::makeControls()
         });
     for (QComboBox* each : {m_cboHorizon, m_cboSide})
         connect(each, &QComboBox::currentIndexChanged, this, &ErrorPage::choiceChanged);
-    // A variation that is recalled from a memory is one that counts.
+    // One that is typed, or recalled from a memory, is one that counts.
     connect(box(CompassBox::Variation), &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!text.isEmpty()) m_optVariation->choose(1);
     });
@@ -254,13 +257,24 @@ QLayout* ErrorPage::layOutDetails()
     return row;
 }
 
-/// The choices that count with the method and the variation that are chosen.
+/// By the model the box has that of the model, as a hint; the typed one comes back with its choice.
+void ErrorPage::showVariation()
+{
+    EntryBox* variation = box(CompassBox::Variation);
+    const bool isTyped = m_optVariation->chosen() == 1;
+    if (!isTyped && !variation->text().isEmpty()) m_typedVariation = variation->text();
+    if (!isTyped)
+        variation->clear();
+    else if (variation->text().isEmpty())
+        variation->setText(m_typedVariation);
+}
+
+/// The choices that count with the method that is chosen.
 void ErrorPage::showChoices()
 {
     const bool isAmplitude = m_optMethod->chosen() == 1;
     m_cboHorizon->setEnabled(isAmplitude);
     m_cboSide->setEnabled(isAmplitude);
-    box(CompassBox::Variation)->setEnabled(m_optVariation->chosen() == 1);
 }
 
 CompassInput ErrorPage::input(NavFunc113::Hours TD, const almanac::MagneticModel& model) const

@@ -55,6 +55,7 @@ private:
     QLayout* layOutRecord();
     QLayout* layOutAnswers();
     QLayout* layOutDetails();
+    void showVariation();
     void showChoices();
 
     FieldBoxes m_txtCompass;
@@ -62,6 +63,7 @@ private:
     Options* m_optClock;
     Options* m_optMethod;
     Options* m_optVariation;
+    QString m_typedVariation; ///< while that of the model is shown
     QComboBox* m_cboHorizon;
     QComboBox* m_cboSide;
     QPushButton* m_cmdNow;
