@@ -82,11 +82,13 @@ bool WindowRecord::loadText()
 {
     const FileStore::Content content = m_text->read();
     const bool isRead = content.status == FileStore::Content::Status::Read;
-    m_isLoading = true;
+    m_isLoaded = false;
     const std::string damage = isRead ? m_takeText(content.bytes) : std::string();
     if (!damage.empty()) m_text->report("is damaged: " + damage, true);
-    m_isLoading = false;
-    if (isRead && damage.empty()) m_onDisk = m_saveText();
+    m_isLoaded = true;
+    // A window in which nothing was typed is not worth a file either.
+    const bool isMissing = content.status == FileStore::Content::Status::Missing;
+    if (isMissing || (isRead && damage.empty())) m_onDisk = m_saveText();
     watchControls();
     return isRead;
 }
@@ -95,14 +97,14 @@ bool WindowRecord::load()
 {
     if (m_text) return loadText();
     if (!m_file) return false;
-    m_isLoading = true;
+    m_isLoaded = false;
     const auto record = m_file->load(m_save());
     if (record) m_load(*record);
     const std::string cut = record ? cutValues(*record, m_save()) : std::string();
     if (!cut.empty()) m_file->protect("holds texts that are too long for their boxes: " + cut);
     const bool isWhole = record && !m_file->isProtected();
     if (m_salvage && m_file->damagedText()) m_salvage(*m_file->damagedText());
-    m_isLoading = false;
+    m_isLoaded = true;
     if (isWhole) m_onDisk = bytes();
     watchControls();
     return record || m_file->damagedText();
@@ -126,12 +128,12 @@ void WindowRecord::watchControls()
 void WindowRecord::changed()
 {
     // Not started anew: whoever types on without a pause would never be saved.
-    if (isUsed() && !m_isLoading && !m_burst.isActive()) m_burst.start();
+    if (isUsed() && m_isLoaded && !m_burst.isActive()) m_burst.start();
 }
 
 void WindowRecord::saveNow()
 {
-    if (!isUsed() || m_isLoading) return;
+    if (!isUsed() || !m_isLoaded) return;
     m_burst.stop();
     std::string now = bytes();
     if (now == m_onDisk) return; // typed and taken back, or only looked at
@@ -143,7 +145,7 @@ void WindowRecord::saveNow()
 
 void WindowRecord::saveSoon()
 {
-    if (isUsed() && !m_isLoading)
+    if (isUsed() && m_isLoaded)
         QMetaObject::invokeMethod(this, &WindowRecord::saveNow, Qt::QueuedConnection);
 }
 
