@@ -31,6 +31,7 @@ struct PassageShown {
     std::string circle; ///< "saves 100.2 nm" or "a great circle would save 100.2 nm", limits
     std::string sun;    ///< see SunOfDay; a caller's, who need not have it at each key
     std::string twilight;
+    std::string tide; ///< see PlanTide; the same
 
     std::string notice;
     bool isWhole = true; ///< every distance and time is there

@@ -159,6 +159,8 @@ Working rowWorking(const PlanInHand& work, const PassageShown& shown)
     add("Circle", "rhumb line less circle", shown.circle);
     add("Sun", "upper limb on the horizon, by the almanac of the program", shown.sun);
     add("Twilight", "Sun 6° and 12° below the horizon", shown.twilight);
+    add("Tide", "height at the ETA in the station's own zone, as the tide window has it",
+        shown.tide);
     if (working.steps.empty()) working.whyNone = "The row holds nothing.";
     return working;
 }

@@ -9,57 +9,26 @@
 #include "forms/frmPassage/PlanSun.h"
 #include "forms/frmPassage/PlanTable.h"
 #include "forms/frmPassage/PlanWorking.h"
+#include "shell/controls/AnswerStrip.h"
 #include "shell/layout/CellLayout.h"
 #include "shell/layout/Panels.h"
-#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
-#include "shell/screen/WidgetColours.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
 
 namespace korvel
 {
-namespace
-{
-
-constexpr double answerSize = 1.7; // of the letters of a caption
-void makeAnswer(ResultLabel* label, const QString& widest)
-{
-    QFont letters = label->font();
-    letters.setPointSizeF(letters.pointSizeF() * answerSize);
-    letters.setWeight(QFont::DemiBold);
-    label->setFont(letters);
-    label->setRoom(widest);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignBaseline);
-}
-
-QWidget* captioned(const QString& caption, std::initializer_list<QWidget*> answer, QWidget* below)
-{
-    auto* block = new QWidget;
-    auto* column = new QVBoxLayout(block);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
-    column->addWidget(new QLabel(caption));
-    auto* line = new QHBoxLayout;
-    line->setSpacing(8);
-    for (QWidget* each : answer)
-        line->addWidget(each, 0, Qt::AlignBaseline);
-    line->addStretch();
-    column->addLayout(line);
-    column->addWidget(below);
-    return block;
-}
-
-} // namespace
 
 frmPassage::frmPassage(Program& program)
     : CalculatorWindow(program, "frmPassage", "Passage plan"), m_work(conditions()),
+      m_tide(program.files()),
       m_boxes(new PlanBoxes(m_work, addFields(PlanHeadFields), addFields(PlanRowFields), this)),
       m_table(new PlanTable(program, m_work)), m_picture(new PlanPicture),
       m_results(addResults(PassageResults))
 {
-    giveRoom();
+    for (std::size_t i = 0; i < PassageResults.size(); ++i)
+        m_results[i]->setRoom(PassageRooms[i]);
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid);
     auto* head = new QWidget;
@@ -100,31 +69,14 @@ frmPassage::~frmPassage()
     program().plan.legInHand.reset();
 }
 
-void frmPassage::giveRoom()
+QWidget* frmPassage::layOutAnswers() const
 {
-    for (std::size_t i = 0; i < PassageResults.size(); ++i) {
-        if (PassageResults[i].weight == Weight::Answer)
-            makeAnswer(m_results[i], PassageRooms[i]);
-        else
-            m_results[i]->setFont(font());
-        m_results[i]->setRoom(PassageRooms[i]);
-    }
-}
-
-QWidget* frmPassage::layOutAnswers()
-{
-    auto* answers = new QWidget;
-    auto* row = new WrappingRow(answers);
-    const auto put = [&](PassageLabel answer, QWidget* below) {
-        row->startGroup();
-        row->addWidget(captioned(PassageResults[answer].caption,
-                                 {m_results[answer], new QLabel(PassageResults[answer].unit)},
-                                 below));
-    };
-    put(LabelToGo, new QLabel(" "));
-    put(LabelArrival, m_results[LabelArrivalUTC]);
-    put(LabelSpeed, m_results[LabelSpeedFor]);
-    row->addStretch();
+    auto* answers = new AnswerStrip;
+    for (const auto& [answer, below] : {std::pair(LabelToGo, PassageAnswers),
+                                        {LabelArrival, LabelArrivalUTC},
+                                        {LabelSpeed, LabelSpeedFor}})
+        answers->add(PassageResults[answer].caption, m_results[answer], PassageResults[answer].unit,
+                     below == PassageAnswers ? nullptr : m_results[below]);
     return answers;
 }
 
@@ -173,7 +125,7 @@ void frmPassage::run()
     if (m_boxes->isFilling()) return;
     m_work.setConditions(conditions());
     m_shown = passageShown(m_work);
-    findSun();
+    findSunAndTide();
     tellLeg();
     m_results.show(m_shown);
     m_table->showPlan();
@@ -182,9 +134,8 @@ void frmPassage::run()
     record().changed();
 }
 
-/// The Sun at the row in hand on the day of its arrival: found when one of them changes, not at
-/// every key.
-void frmPassage::findSun()
+/// Sun and tide at the row in hand: found when its place or arrival changes, not at every key.
+void frmPassage::findSunAndTide()
 {
     const PlanReckoning& plan = m_work.reckoning();
     if (m_work.row() >= plan.size()) return;
@@ -197,6 +148,11 @@ void frmPassage::findSun()
         m_sun = {*position, day, figures.zone, sunOfDay(*position, *figures.eta, figures.zone)};
     m_shown.sun = m_sun.events.riseAndSet;
     m_shown.twilight = m_sun.events.twilight;
+    const Instant minute = nearestMinute(*figures.eta);
+    if (m_water.at.lat != position->lat || m_water.at.longitude != position->longitude ||
+        m_water.minute != minute)
+        m_water = {*position, minute, m_tide.at(*position, minute)};
+    m_shown.tide = m_water.text;
 }
 
 WorkingPaper frmPassage::paper() const
@@ -217,17 +173,6 @@ std::vector<PaperPicture> frmPassage::paperPictures()
     if (!m_work.reckoning().totals().distance) return {};
     return {paperPicture(*m_picture, "The plan on Mercator's projection. No navigational chart.",
                          QSize(640, 400))};
-}
-
-void frmPassage::applyColours()
-{
-    CalculatorWindow::applyColours();
-    const ColourScheme& colours = program().colours();
-    for (std::size_t i = 0; i < PassageAnswers; ++i) {
-        const bool isAnswer = PassageResults[i].weight == Weight::Answer;
-        if (!isDimmed(m_results[i]))
-            setTextColour(m_results[i], isAnswer ? colours.route : colours.echo);
-    }
 }
 
 } // namespace korvel

@@ -5,6 +5,7 @@
 #include "forms/frmPassage/PlanChart.h"
 #include "forms/frmPassage/PlanFiles.h"
 #include "forms/frmPassage/PlanSun.h"
+#include "forms/frmPassage/PlanTide.h"
 #include "shell/window/CalculatorWindow.h"
 
 namespace korvel
@@ -28,12 +29,10 @@ public:
 protected:
     WorkingPaper paper() const override;
     std::vector<PaperPicture> paperPictures() override;
-    void applyColours() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void giveRoom();
-    QWidget* layOutAnswers();
+    QWidget* layOutAnswers() const;
     QWidget* layOutFigures();
     void connectParts();
     void addMenus();
@@ -43,7 +42,7 @@ private:
 
     PlanConditions conditions() const;
     void run();
-    void findSun();
+    void findSunAndTide();
     void tellLeg();
     void takeCircle();
     void refresh();
@@ -60,6 +59,7 @@ private:
     void copyAsText() const;
 
     PlanInHand m_work;
+    PlanTide m_tide;
     PassageShown m_shown;
     PlanChartMaker m_chart;
     PlanBoxes* m_boxes;
@@ -74,6 +74,11 @@ private:
         Span zone{};
         SunOfDay events;
     } m_sun; ///< as it was found last
+    struct {
+        NavFunc113::GeoPoint at;
+        Instant minute{};
+        std::string text;
+    } m_water; ///< the same
 };
 
 } // namespace korvel

@@ -26,7 +26,8 @@ AnswerStrip::AnswerStrip(QWidget* parent) : QWidget(parent), m_row(new WrappingR
     sizeByLetters();
 }
 
-void AnswerStrip::add(const QString& caption, ResultLabel* answer, const QString& unit)
+void AnswerStrip::add(const QString& caption, ResultLabel* answer, const QString& unit,
+                      QWidget* below)
 {
     auto* cell = new QWidget;
     auto* grid = new QGridLayout(cell);
@@ -37,6 +38,7 @@ void AnswerStrip::add(const QString& caption, ResultLabel* answer, const QString
     QLabel* words = quietWords(unit);
     words->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     grid->addWidget(words, 1, 1);
+    if (below) grid->addWidget(below, 2, 0, 1, 2);
     m_units.push_back({words, answer});
     m_row->addWidget(cell);
     sizeByLetters();

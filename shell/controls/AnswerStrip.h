@@ -19,7 +19,9 @@ public:
     explicit AnswerStrip(QWidget* parent = nullptr);
 
     /// @param answer has room for whatever it shows, for nothing moves when it shows it
-    void add(const QString& caption, ResultLabel* answer, const QString& unit);
+    /// @param below  what is said of it in a line of its own; nullptr: nothing
+    void add(const QString& caption, ResultLabel* answer, const QString& unit,
+             QWidget* below = nullptr);
 
     void sizeByLetters() final;
 

@@ -321,7 +321,7 @@ std::optional<Hours> hourOf(std::int64_t serial, Hours zone, NavFunc113::DateTim
     return Hours(days * 24);
 }
 
-std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc)
+std::string waterText(const TideDayShown& day, NavFunc113::DateTime utc)
 {
     const double zoneTime = utc + NavFunc113::DaysOfHours(day.four.station.zone);
     const Hours time((zoneTime - static_cast<double>(day.four.serial)) * 24);
@@ -332,10 +332,15 @@ std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc)
                                                  : isRising                        ? " rising"
                                                                                    : " falling");
     };
-    std::string text = "Now " + Format(zoneTime, "yyyy/mm/dd hh:mm") + "   " +
-                       state([&day](Hours t) { return day.four.at(t); });
+    std::string text = state([&day](Hours t) { return day.four.at(t); });
     if (day.all) text += "   all constituents " + state([&day](Hours t) { return day.all->at(t); });
     return text;
+}
+
+std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc)
+{
+    const double zoneTime = utc + NavFunc113::DaysOfHours(day.four.station.zone);
+    return "Now " + Format(zoneTime, "yyyy/mm/dd hh:mm") + "   " + waterText(day, utc);
 }
 
 } // namespace korvel

@@ -127,7 +127,11 @@ CurveAnswer timesOfHeight(const TideDayShown& day, const std::string& typedHeigh
 std::optional<NavFunc113::Hours> hourOf(std::int64_t serial, NavFunc113::Hours zone,
                                         NavFunc113::DateTime utc);
 
-/// What the water does at this moment.
+/// What the water does at an instant, "1.23 m rising   all constituents 1.20 m rising".
+/// @param day of the station that holds the instant in its zone time
+std::string waterText(const TideDayShown& day, NavFunc113::DateTime utc);
+
+/// What the water does at this moment: its time in the station's zone, then the same.
 /// @param utc the present
 /// @param day of the station that holds the present in its zone time
 std::string nowText(const TideDayShown& day, NavFunc113::DateTime utc);
