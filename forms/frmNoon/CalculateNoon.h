@@ -1,43 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/reading/Instant.h"
-#include "forms/frmPassage/PlanReckoning.h"
-#include "forms/frmPositionRecord/PositionRecord.h"
-
-#include <array>
+#include "forms/frmNoon/NoonArrival.h"
+#include "forms/frmNoon/NoonDay.h"
 
 /// The noon report: from the record of positions and the passage plan, nothing typed twice.
 namespace korvel
 {
-
-/// The boxes as typed; an empty one takes what record and plan say.
-struct NoonBoxes {
-    std::array<std::string, 2> fixes; ///< rows of the record; empty: the last two at noon
-    std::string fullAway;             ///< row of the record where the passage began
-    std::string stopped;              ///< hours
-    std::string next;                 ///< row of the plan that comes next
-    std::string toGo;                 ///< miles, where there is no plan
-    std::string portTD; ///< hours; empty: that of the plan's last row, else the ship's
-    std::array<std::string, 3> speeds;  ///< knots; the first empty: the day's average
-    std::string wanted;                 ///< arrival, port time
-    std::string pitch;                  ///< metres
-    std::array<std::string, 2> counter; ///< revolutions, at both fixes
-    std::string wake;                   ///< fraction, 0 to 1
-    std::array<std::string, 3> before;  ///< fuel on board, tons
-    std::array<std::string, 3> onBoard;
-    std::string weather; ///< words
-    std::string remark;
-    std::string order; ///< of the fields of the mail
-
-    bool operator==(const NoonBoxes&) const = default;
-};
 
 struct NoonInput {
     NoonBoxes boxes;
     PositionRecordInput record;
     PassagePlan plan;
     NavFunc113::Hours shipsTD;
+};
+
+/// The propeller's day.
+struct NoonEngine {
+    NavFunc113::Metres pitch;
+    double first = 0; ///< counters
+    double last = 0;
+    NavFunc113::Miles miles; ///< of 1852 m
+    std::optional<double> wake;
 };
 
 /// What the window shows; an empty text blanks the label.
@@ -56,16 +40,26 @@ struct NoonResult {
     std::string engine;              ///< miles of 1852 m
     std::string apparentSlip;        ///< per cent
     std::string realSlip;            ///< per cent
-    std::array<std::string, 3> fuel; ///< "25.0 t, 0.0725 t/nm"
+    std::array<std::string, 3> fuel; ///< "25.0 t, 0.0725 t per nm"
+    std::string sea;                 ///< "4-Moderate, Slight swell"
+    std::string visibility;          ///< "7-Good, 10.8 nm"
+    std::string weather;             ///< "b Blue sky, c Cloudy"
     std::string notice;
     bool isWhole = false; ///< there is a day's run
     std::string mail;     ///< the report as a block of text
+
+    // The same in full.
+    PositionRecordResult record;
+    std::optional<NoonDay> day;
+    std::optional<NoonWay> way;
+    std::optional<NoonArrivals> arrivals;
+    std::optional<NoonEngine> propeller;
+    struct Fuel {
+        double before, onBoard; ///< tons
+    };
+    std::array<std::optional<Fuel>, 3> tons;
 };
 
 NoonResult CalculateNoon(const NoonInput& input);
-
-/// The fields of the mail in the order that is usual.
-inline constexpr const char* usualOrder =
-    "date position hours run speed togo eta wanted drift slip fuel weather remark";
 
 } // namespace korvel

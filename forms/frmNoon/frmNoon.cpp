@@ -2,12 +2,13 @@
 #include "forms/frmNoon/frmNoon.h"
 
 #include "app/records/KeyedLines.h"
-#include "forms/frmNoon/NoonFields.h"
+#include "forms/frmNoon/NoonMail.h"
+#include "forms/frmNoon/NoonResults.h"
+#include "forms/frmNoon/NoonWorking.h"
 #include "forms/frmPassage/PlanRecord.h"
+#include "shell/controls/AnswerStrip.h"
 #include "shell/layout/CellLayout.h"
 #include "shell/layout/Panels.h"
-#include "shell/layout/WrappingRow.h"
-#include "shell/screen/WidgetColours.h"
 
 #include <QAction>
 #include <QApplication>
@@ -22,7 +23,6 @@ namespace
 {
 
 constexpr std::string_view kind = "KORVEL2000 noon report ";
-constexpr double answerSize = 1.7; // of the letters of a caption
 
 } // namespace
 
@@ -30,16 +30,17 @@ frmNoon::frmNoon(Program& program)
     : CalculatorWindow(program, "frmNoon", "Noon report"), m_boxes(addFields(NoonFields)),
       m_results(addResults(NoonResults))
 {
-    giveRoom();
+    box(NoonBox::Order)->setPlaceholderText(usualOrder);
     auto* column = new QVBoxLayout(scrollBody());
     layOutBody(*column);
     column->addWidget(layOutAnswers());
     column->addWidget(layOutResults());
-    column->addWidget(layOutGroup("Record and plan", 0, 7));
-    column->addWidget(layOutGroup("Arrival", 7, 11));
-    column->addWidget(layOutGroup("Engine", 11, 15));
-    column->addWidget(layOutGroup("Fuel", 15, 21));
-    column->addWidget(layOutGroup("Mail", 21, NoonFields.size()));
+    column->addWidget(layOutGroup("Record and plan", NoonBox::FirstFix, NoonBox::Speed));
+    column->addWidget(layOutGroup("Arrival", NoonBox::Speed, NoonBox::Pitch));
+    column->addWidget(layOutGroup("Engine", NoonBox::Pitch, NoonBox::Before));
+    column->addWidget(layOutGroup("Fuel", NoonBox::Before, NoonBox::Wave));
+    column->addWidget(layOutGroup("Weather", NoonBox::Wave, NoonBox::Remark));
+    column->addWidget(layOutGroup("Mail", NoonBox::Remark, NoonBox::End));
     column->addStretch();
     addMenus();
     m_calculation = calculations().add(
@@ -52,35 +53,11 @@ frmNoon::frmNoon(Program& program)
     m_boxes[0]->setFocus();
 }
 
-void frmNoon::giveRoom()
+QWidget* frmNoon::layOutAnswers() const
 {
-    for (std::size_t i = 0; i < NoonResults.size(); ++i) {
-        QFont letters = font();
-        if (NoonResults[i].weight == Weight::Answer) {
-            letters.setPointSizeF(letters.pointSizeF() * answerSize);
-            letters.setWeight(QFont::DemiBold);
-        }
-        m_results[i]->setFont(letters);
-        m_results[i]->setRoom(NoonRooms[i]);
-    }
-    m_boxes[NoonFields.size() - 1]->setPlaceholderText(usualOrder);
-}
-
-QWidget* frmNoon::layOutAnswers()
-{
-    auto* answers = new QWidget;
-    auto* row = new WrappingRow(answers);
-    for (std::size_t i = 0; i < noonAnswers; ++i) {
-        auto* block = new QWidget;
-        auto* lines = new QVBoxLayout(block);
-        layOutBody(*lines, Spacing::Dense);
-        const QString unit = *NoonResults[i].unit ? QString(", ") + NoonResults[i].unit : "";
-        lines->addWidget(new QLabel(NoonResults[i].caption + unit));
-        lines->addWidget(m_results[i]);
-        row->startGroup();
-        row->addWidget(block);
-    }
-    row->addStretch();
+    auto* answers = new AnswerStrip;
+    for (std::size_t i = 0; i < noonAnswers; ++i)
+        m_results.addAnswer(answers, i, NoonRooms[i]);
     return answers;
 }
 
@@ -89,13 +66,14 @@ QWidget* frmNoon::layOutResults() const
     auto* figures = new QWidget;
     auto* cells = new CellLayout(figures, 2, Qt::Vertical);
     for (std::size_t i = noonAnswers; i < NoonResults.size(); ++i) {
+        m_results[i]->setRoom(NoonRooms[i]);
         const QString unit = *NoonResults[i].unit ? QString(", ") + NoonResults[i].unit : "";
         cells->addCell({new QLabel(NoonResults[i].caption + unit), m_results[i]});
     }
     return figures;
 }
 
-QWidget* frmNoon::layOutGroup(const char* title, std::size_t first, std::size_t end) const
+QWidget* frmNoon::layOutGroup(const char* title, NoonBox first, NoonBox end) const
 {
     auto* group = new QWidget;
     auto* column = new QVBoxLayout(group);
@@ -103,7 +81,7 @@ QWidget* frmNoon::layOutGroup(const char* title, std::size_t first, std::size_t 
     column->addWidget(sectionHead(title));
     auto* boxes = new QWidget;
     auto* cells = new CellLayout(boxes, 4, Qt::Horizontal);
-    for (std::size_t field = first; field < end; ++field) {
+    for (std::size_t field = placeOf(first); field < placeOf(end); ++field) {
         auto* caption = new QLabel(NoonFields[field].caption);
         caption->setBuddy(m_boxes[field]);
         const bool isText = NoonFields[field].kind == FieldKind::Text;
@@ -129,8 +107,9 @@ void frmNoon::addMenus()
     });
     menus().addStoreSingle("&Day's run", [this] { return m_shown.run; });
     menus().addStoreSingle("&Average speed", [this] { return m_shown.average; });
-    menus().addRecallSingle("into &to go", m_boxes[5]);
-    menus().addShipNow(WindowMenus::ShipFigure::Speed, "into the second speed", m_boxes[8]);
+    menus().addRecallSingle("into &to go", box(NoonBox::ToGo));
+    menus().addShipNow(WindowMenus::ShipFigure::Speed, "into the second speed",
+                       m_boxes[placeOf(NoonBox::Speed) + 1]);
     menus().addLinks("mnuLinks");
 }
 
@@ -160,8 +139,8 @@ void frmNoon::readSources()
 NoonBoxes frmNoon::boxes() const
 {
     NoonBoxes typed;
-    for (std::size_t i = 0; i < NoonTexts.size(); ++i)
-        NoonTexts[i].text(typed) = m_boxes[i]->value();
+    for (std::size_t i = 0; i < NoonFields.size(); ++i)
+        noonText(typed, i) = m_boxes[i]->value();
     return typed;
 }
 
@@ -184,12 +163,17 @@ std::string frmNoon::take(const std::string& bytes)
                           });
 }
 
-void frmNoon::run()
+NoonInput frmNoon::input() const
 {
     NoonInput input{boxes(), m_record, m_plan, NavFunc113::Hours(double(program().saved().TD()))};
     input.record.earth = program().earth();
     input.record.shipsTD = double(program().saved().TD());
-    m_shown = CalculateNoon(input);
+    return input;
+}
+
+void frmNoon::run()
+{
+    m_shown = CalculateNoon(input());
     m_results.show(m_shown);
     setNotice("report", asQString(m_shown.notice), levelBeside(m_shown.isWhole));
 }
@@ -215,17 +199,11 @@ WorkingPaper frmNoon::paper() const
     std::erase_if(paper.inputs, [](const PaperFigure& input) {
         return input.value == "nothing entered"; // what record and plan say stands in the results
     });
+    paper.workings = noonWorkings(input(), m_shown);
     paper.limits = {"Times are added in UTC; the run is the sum of the rhumb lines between the "
                     "fixes of the record",
                     "Engine miles have 1852 m: pitch x revolutions / 1852"};
     return paper;
-}
-
-void frmNoon::applyColours()
-{
-    CalculatorWindow::applyColours();
-    for (std::size_t i = 0; i < noonAnswers; ++i)
-        if (!isDimmed(m_results[i])) setTextColour(m_results[i], program().colours().route);
 }
 
 } // namespace korvel

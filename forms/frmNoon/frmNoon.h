@@ -18,18 +18,18 @@ public:
 
 protected:
     WorkingPaper paper() const override;
-    void applyColours() override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void giveRoom();
-    QWidget* layOutAnswers();
-    QWidget* layOutGroup(const char* title, std::size_t first, std::size_t end) const;
+    QWidget* layOutAnswers() const;
+    QWidget* layOutGroup(const char* title, NoonBox first, NoonBox end) const;
     QWidget* layOutResults() const;
     void addMenus();
 
     void readSources();
+    EntryBox* box(NoonBox which) const { return m_boxes[placeOf(which)]; }
     NoonBoxes boxes() const;
+    NoonInput input() const;
     std::string recordText() const;
     std::string take(const std::string& bytes);
     void run();

@@ -6,6 +6,7 @@
 #include "forms/frmGC2000/frmGC2000.h"
 #include "forms/frmPassage/PlanRecord.h"
 #include "forms/frmPassage/PlanTable.h"
+#include "tests/SourceFolder.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAction>
@@ -199,38 +200,12 @@ TEST_F(frmPassageTest, aFileThatCannotBeTakenChangesNothing)
 }
 
 /// Two great circles, a composite leg, two stops, four changes of clocks, in 40 rows.
-std::string oceanPassage()
-{
-    std::string rows = "name;latitude;longitude;leg;speed;stop;zone;remark\n";
-    for (int i = 0; i < 40; ++i) {
-        const double longitude = 140 + i * 2.5;
-        const char* leg = i == 7 || i == 20 ? "great circle 10 deg"
-                          : i == 30         ? "composite 44"
-                                            : "rhumb";
-        rows += "WP " + std::to_string(i + 1) + ";" + std::to_string(35 + i % 7) + ",5;" +
-                std::to_string(longitude > 180 ? longitude - 360 : longitude) + ";" + leg + ";" +
-                (i == 1    ? "14,5"
-                 : i == 20 ? "12"
-                           : "") +
-                ";" + (i == 5 || i == 33 ? "2,5" : "") + ";" +
-                (i == 0    ? "9"
-                 : i == 8  ? "10"
-                 : i == 16 ? "11"
-                 : i == 24 ? "-10"
-                 : i == 32 ? "-9"
-                           : "") +
-                ";" + (i == 3 ? "pilot \"off\" & <on>" : "") + "\n";
-    }
-    for (char& sign : rows)
-        if (sign == '.') sign = ',';
-    return rows;
-}
-
 TEST_F(frmPassageTest, anOceanPassageComesBackFromEveryFormatThatCanSayIt)
 {
     auto& window = open<frmPassage>();
     type(window, "txtPlanTime", "2026/11/20 3:00");
-    QApplication::clipboard()->setText(QString::fromStdString(oceanPassage()));
+    QApplication::clipboard()->setText(
+        QString::fromStdString(contentOf(sourceFile("tests/forms/frmPassage/ocean-passage.csv"))));
     choose(window, "mnuRow(4)");
     type(window, "txtPlan", "Ocean");
     const PassagePlan plan = onDisk();
