@@ -3,3 +3,8 @@
 # waypoints read into a plan at most 5 times the toolkit's reader that only goes through it.
 add_executable(passage_bench routes/PassageBench.cpp)
 target_link_libraries(passage_bench PRIVATE routes_files frmPassage_calculation benchmark::benchmark)
+
+# Its window with 500 rows against itself with 20: a key to the painted rows at most 3 times, the window
+# opened, and a file of a route let go over it; these two do work for every row.
+add_executable(passage_ui_bench ui/PassageBench.cpp)
+target_link_libraries(passage_ui_bench PRIVATE ui_bench frmPassage)
