@@ -80,7 +80,7 @@ void showSlip(NoonReader& boxes, const NoonInput& input, NoonResult& noon)
         return boxes.remarks.fault("Slip: the propeller has not turned between the counters");
     noon.propeller = NoonEngine{metres, *first, *last, miles, wake};
     const Miles run = noon.day->run->miles;
-    noon.engine = Format(miles, "0.0");
+    noon.engine = Format(miles, "0.0") + " of 1852 m";
     noon.apparentSlip = Format(100 * NavFunc113::ApparentSlip(miles, run), "0.00");
     if (wake) noon.realSlip = Format(100 * NavFunc113::RealSlip(miles, run, *wake), "0.00");
     // A slip without its mile is worth nothing: the engine's are of 1852 m.

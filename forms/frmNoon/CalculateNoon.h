@@ -37,7 +37,7 @@ struct NoonResult {
     std::array<std::string, 3> eta;  ///< "14.5 kn: Thu 2026/12/03 06:00 TD -8; UTC .."
     std::string speedNeeded;         ///< knots
     std::string setAndDrift;         ///< "259°, 26.4 nm = 1.15 kn"
-    std::string engine;              ///< miles of 1852 m
+    std::string engine;              ///< "377.0 of 1852 m"
     std::string apparentSlip;        ///< per cent
     std::string realSlip;            ///< per cent
     std::array<std::string, 3> fuel; ///< "25.0 t, 0.0725 t per nm"

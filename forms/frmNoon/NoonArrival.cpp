@@ -95,7 +95,7 @@ std::string NoonWay::inWords() const
                              : byPlan->leg.kind == LegKind::GreatCircle ? "great circle"
                                                                         : "composite";
     std::string words = line + (" to row " + std::to_string(byPlan->row + 1));
-    words += " of the plan, then by it";
+    words += ", then by the plan";
     if (byPlan->stops > Span(0)) words += "; stops " + spanText(byPlan->stops);
     return words;
 }

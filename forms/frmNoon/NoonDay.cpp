@@ -105,7 +105,7 @@ std::string clocksBetween(const RecordedFix& from, const RecordedFix& to)
     const auto zone = [](const RecordedFix& fix) {
         return Format(hoursOf(zoneOfFix(fix)), "+0.##;-0.##");
     };
-    std::string text = "row " + std::to_string(from.row + 1) + " to " + std::to_string(to.row + 1) +
+    std::string text = "rows " + std::to_string(from.row + 1) + "-" + std::to_string(to.row + 1) +
                        ", TD " + zone(from) + " to " + zone(to);
     if (minutes.count() == 0) return text + ": clocks kept";
     return text + ": clocks " + spanText(std::chrono::abs(minutes)) +

@@ -34,7 +34,7 @@ std::optional<NoonDay> noonDay(NoonReader& boxes, const PositionRecordResult& re
 /// Time difference of a fix, east positive: its SMT less its UTC.
 Span zoneOfFix(const RecordedFix& fix);
 
-/// "row 1 to 2, TD +9 to +10: clocks 1 h 00 m forward".
+/// "rows 1-2, TD +9 to +10: clocks 1 h 00 m forward".
 std::string clocksBetween(const RecordedFix& from, const RecordedFix& to);
 
 } // namespace korvel

@@ -40,8 +40,7 @@ std::string eta(NoonReader&, const NoonResult& noon)
 
 std::string slip(NoonReader&, const NoonResult& noon)
 {
-    return line("Engine miles of 1852 m", noon.engine) +
-           line("Slip, apparent", noon.apparentSlip, " %") +
+    return line("Engine miles", noon.engine) + line("Slip, apparent", noon.apparentSlip, " %") +
            line("Slip, real", noon.realSlip, " %");
 }
 

@@ -159,7 +159,7 @@ Working engineWorking(const NoonResult& noon)
                  figure(engine.pitch, 3) + " × (" + figure(engine.last, 0) + " - " +
                      figure(engine.first, 0) + ") / 1852",
                  miles, "nautical miles");
-    working.resultStep("Engine miles", "rounded to 0.1", noon.engine, "nautical miles");
+    working.resultStep("Engine miles", "rounded to 0.1", noon.engine);
     working.step("Apparent slip", "100 (engine miles - run) / engine miles",
                  "100 × (" + miles + " - " + run + ") / " + miles, noon.apparentSlip, "%");
     if (engine.wake)

@@ -59,7 +59,8 @@ enum PassageLabel : std::size_t {
     LabelArrivalUTC,
     LabelSpeed,
     LabelSpeedFor,
-    PassageAnswers
+    PassageAnswers,
+    LabelTide = PassageAnswers + 5
 };
 inline constexpr std::array PassageResults = {
     Result<PassageShown>{"lblToGo", "To go from the row in hand", "nautical miles", Weight::Answer,
@@ -112,7 +113,7 @@ inline constexpr std::array<const char*, PassageResults.size()> PassageRooms = {
     "rises 00:00, sets 00:00",
     "civil 00:00 to 00:00, nautical 00:00 to 00:00",
     "a great circle would save 0000.0 nm",
-    "Saint Petersburg, 000 nm: 2038/08/04 20:38 TD +00, ~00.00 m falling   all constituents",
+    "Saint Petersburg, 000 nm: no tide of 2038/08/04; the",
     "Wed 2038/08/04 20:38; UTC Wed 20:38",
     "00000.0",
     "000 d 00 h 00 m",

@@ -28,7 +28,7 @@ frmPassage::frmPassage(Program& program)
       m_results(addResults(PassageResults))
 {
     for (std::size_t i = 0; i < PassageResults.size(); ++i)
-        m_results[i]->setRoom(PassageRooms[i]);
+        m_results[i]->setRoom(PassageRooms[i], i == LabelTide ? 2 : 1);
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid);
     auto* head = new QWidget;
