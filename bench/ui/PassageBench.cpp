@@ -73,6 +73,8 @@ Work drop(std::size_t rows)
         QMimeData file;
         file.setUrls({QUrl::fromLocalFile(program.folder.filePath("plan.rtz"))});
         round([&] {
+            QDragEnterEvent comes({2, 2}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&box, &comes);
             QDropEvent let(QPointF(2, 2), Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
             QApplication::sendEvent(&box, &let);
             QApplication::processEvents();

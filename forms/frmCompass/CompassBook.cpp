@@ -30,9 +30,9 @@ std::string errorText(const PerhapsDegrees& error)
 std::string placeText(const CompassLine& line)
 {
     if (!line.latitude) return "";
-    std::string latitude = positionInFull(DegToDegMin(*line.latitude), Axis::Latitude);
+    std::string latitude = positionForCopy(DegToDegMin(*line.latitude), Axis::Latitude);
     if (!line.longitude) return latitude;
-    return latitude + " " + positionInFull(DegToDegMin(*line.longitude), Axis::Longitude);
+    return latitude + " " + positionForCopy(DegToDegMin(*line.longitude), Axis::Longitude);
 }
 
 } // namespace

@@ -7,14 +7,18 @@ void tellBook(WorkingPaper& paper, const CompassBook& book, std::optional<Compas
 {
     const std::string which = kind ? compassNames[static_cast<std::size_t>(*kind)] : "all";
     paper.kind = kind ? "Compass book, " + which : "Compass book";
-    PaperTable table{"Lines, the latest first", {}, {}};
+    PaperTable table{kind ? "Lines, the latest first: bearing and head by compass, error, "
+                            "variation, deviation"
+                          : "Lines, the latest first: variation, error of the gyro, error and "
+                            "deviation of the standard and the steering compass",
+                     {},
+                     {}};
     table.headings =
-        kind ? std::vector<std::string>{"UTC",         "Position", "Body",    "True °",
-                                        "Bearing °",   "Head °",   "Error °", "Variation °",
-                                        "Deviation °", "By",       "Remark"}
-             : std::vector<std::string>{"UTC",         "Position",    "Body",       "True °",
-                                        "Variation °", "Gyro °",      "Standard °", "Deviation °",
-                                        "Steering °",  "Deviation °", "By",         "Remark"};
+        kind
+            ? std::vector<std::string>{"UTC",     "Position", "Body",   "True °", "Brg °", "Head °",
+                                       "Error °", "Var. °",   "Dev. °", "By",     "Remark"}
+            : std::vector<std::string>{"UTC",   "Position", "Body",   "True °", "Var. °", "Gyro °",
+                                       "Std °", "Dev. °",   "Str. °", "Dev. °", "By",     "Remark"};
     const auto lines = compassLines(book, kind);
     for (const std::size_t i : lines) {
         const CompassLineTexts texts = compassLineTexts(book[i]);

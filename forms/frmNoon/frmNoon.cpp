@@ -39,8 +39,8 @@ frmNoon::frmNoon(Program& program)
     column->addWidget(layOutGroup("Arrival", NoonBox::Speed, NoonBox::Pitch));
     column->addWidget(layOutGroup("Engine", NoonBox::Pitch, NoonBox::Before));
     column->addWidget(layOutGroup("Fuel", NoonBox::Before, NoonBox::Wave));
-    column->addWidget(layOutGroup("Weather", NoonBox::Wave, NoonBox::Remark));
-    column->addWidget(layOutGroup("Mail", NoonBox::Remark, NoonBox::End));
+    column->addWidget(layOutGroup("Weather", NoonBox::Wave, NoonBox::Weather));
+    column->addWidget(layOutGroup("Mail", NoonBox::Weather, NoonBox::End));
     column->addStretch();
     addMenus();
     m_calculation = calculations().add(

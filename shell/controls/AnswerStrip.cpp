@@ -39,6 +39,7 @@ void AnswerStrip::add(const QString& caption, ResultLabel* answer, const QString
     words->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     grid->addWidget(words, 1, 1);
     if (below) grid->addWidget(below, 2, 0, 1, 2);
+    grid->setRowStretch(3, 1); // side by side the answers stand on one line
     m_units.push_back({words, answer});
     m_row->addWidget(cell);
     sizeByLetters();
