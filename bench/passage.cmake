@@ -5,6 +5,7 @@ add_executable(passage_bench routes/PassageBench.cpp)
 target_link_libraries(passage_bench PRIVATE routes_files frmPassage_calculation benchmark::benchmark)
 
 # Its window with 500 rows against itself with 20: a key to the painted rows at most 3 times, the window
-# opened, and a file of a route let go over it; these two do work for every row.
+# opened at most 2 times, an RTZ file let go over it (work for every row, of which there are 25 times as
+# many) at most 10 times.
 add_executable(passage_ui_bench ui/PassageBench.cpp)
 target_link_libraries(passage_ui_bench PRIVATE ui_bench frmPassage)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmNoon/NoonBoxes.h"
 
-#include "app/reading/NumberField.h"
 #include "app/reading/TypedTime.h"
 
 namespace korvel
@@ -23,9 +22,7 @@ std::string& noonText(NoonBoxes& boxes, std::size_t place)
 std::optional<double> NoonReader::number(NoonBox which, std::size_t index)
 {
     const std::size_t place = placeOf(which) + index;
-    const Field& field = NoonFields[place];
-    return readIfTyped(noonText(m_boxes, place), {field.words, field.low, field.high, field.unit},
-                       remarks);
+    return readIfTyped(noonText(m_boxes, place), NoonFields[place], remarks);
 }
 
 void NoonReader::readAll()
