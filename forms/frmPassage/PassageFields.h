@@ -67,7 +67,7 @@ inline constexpr std::array PassageResults = {
                          &PassageShown::toGo},
     Result<PassageShown>{"lblArrival", "Arrival, ship's time", "", Weight::Answer,
                          &PassageShown::arrival, "Arrival"},
-    Result<PassageShown>{"lblArrivalUTC", "", "", Weight::Figure, &PassageShown::arrivalUTC,
+    Result<PassageShown>{"lblArrivalUTC", "", "", Weight::Remark, &PassageShown::arrivalUTC,
                          "Arrival in UTC"},
     Result<PassageShown>{"lblSpeedNeeded", "Speed needed", "knots", Weight::Answer,
                          &PassageShown::speed},
@@ -105,7 +105,7 @@ inline constexpr std::array PassageResults = {
 inline constexpr std::array<const char*, PassageResults.size()> PassageRooms = {
     "00000.0",
     "Wed 2038/08/04 20:38",
-    "row 000 to 000, Wed 2038/08/04 20:38 TD -11",
+    "TD +10.5 (ZD -10.5); UTC Wed 2038/08/04 20:38",
     "00.00",
     "row 000 to 000, Wed 2038/08/04 20:38 TD -11",
     "00000.0",
