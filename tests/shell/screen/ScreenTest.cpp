@@ -42,7 +42,12 @@ Layout layoutOf(const QWidget& window)
 void expectSame(const Layout& before, const QWidget& window)
 {
     const auto after = layoutOf(window);
-    ASSERT_EQ(before.size(), after.size()) << nameOf(window);
+    std::string names;
+    for (const Layout& layout : {before, after}) {
+        names += "\n";
+        for (const auto& [name, place] : layout) names += name + textOf(place) + "; ";
+    }
+    ASSERT_EQ(before.size(), after.size()) << nameOf(window) << names;
     for (std::size_t i = 0; i < before.size(); ++i)
         EXPECT_TRUE(before[i] == after[i]) << before[i].first << ": " << textOf(before[i].second)
                                            << " became " << textOf(after[i].second);
