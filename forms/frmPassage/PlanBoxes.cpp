@@ -63,7 +63,8 @@ PlanBoxes::PlanBoxes(PlanInHand& work, const FieldBoxes& head, const FieldBoxes&
         makeSwitch("optClock", {"UTC", "Ship's time"}, "Clock of that time", &PlanBoxes::typeHead);
     m_optLeg = makeSwitch("optLeg", {"Rhumb line", "Great circle", "Composite"},
                           "Leg to the row in hand", &PlanBoxes::typeRow);
-    m_optStepUnit = makeSwitch("optStepUnit", {"deg", "nm"}, "Unit of the step", &PlanBoxes::typeRow);
+    m_optStepUnit =
+        makeSwitch("optStepUnit", {"deg", "nm"}, "Unit of the step", &PlanBoxes::typeRow);
     m_optStepUnit[0]->setAccessibleName("Step in degrees of longitude");
     m_optStepUnit[1]->setAccessibleName("Step in miles");
     connectBoxes();

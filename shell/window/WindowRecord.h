@@ -78,7 +78,7 @@ private:
     Load m_load;
     Salvage m_salvage;
     std::optional<std::string> m_onDisk; ///< what the file holds for sure
-    bool m_isLoaded = false; ///< what the window shows before is no record of anything
+    bool m_isLoaded = false;             ///< what the window shows before is no record of anything
 };
 
 } // namespace korvel

@@ -34,7 +34,7 @@ TEST(CompassBook, lineKeepsWhatWasFoundAndNothingIsRecordedWithoutAnError)
 {
     const CompassLineTexts texts = compassLineTexts(threeLines()[0]);
     EXPECT_EQ(texts.UTC, "2008/07/20 04:06");
-    EXPECT_EQ(texts.position, "44°31.0' N 069°42.0' E");
+    EXPECT_EQ(texts.position, "44°31.0'N 069°42.0'E");
     EXPECT_EQ(texts.trueBearing, "103.1");
     EXPECT_EQ(texts.variation, "8.0 E");
     const auto& standard = texts.compasses[1];

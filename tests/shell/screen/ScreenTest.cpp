@@ -45,7 +45,8 @@ void expectSame(const Layout& before, const QWidget& window)
     std::string names;
     for (const Layout& layout : {before, after}) {
         names += "\n";
-        for (const auto& [name, place] : layout) names += name + textOf(place) + "; ";
+        for (const auto& [name, place] : layout)
+            names += name + textOf(place) + "; ";
     }
     ASSERT_EQ(before.size(), after.size()) << nameOf(window) << names;
     for (std::size_t i = 0; i < before.size(); ++i)
