@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "almanac/day_events.h"
 #include "almanac/moon_phase.h"
 #include "almanac/sky.h"
 
@@ -51,18 +52,7 @@ struct PageDay {
     MoonPhase moon;                               ///< at noon
 };
 
-/// A time of rise, set or twilight, or why there is none.
-struct PageTime {
-    enum class Kind {
-        At,
-        Above,    ///< above the horizon all day
-        Below,    ///< below the horizon all day; for twilight: darker all day
-        Twilight, ///< twilight lasts all night
-        None      ///< on another day: the Moon's time falls beyond midnight
-    };
-    Kind kind = Kind::None;
-    DateTime instant = 0;
-};
+using PageTime = EventTime;
 
 struct PageLatitude {
     Degrees latitude;

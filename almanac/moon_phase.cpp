@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "almanac/moon_phase.h"
+#include "almanac/place_vector.h"
 #include "almanac/vectors.h"
 #include "navlib/angles.h"
 
@@ -11,14 +12,6 @@ namespace
 {
 
 constexpr Degrees meanObliquity(23.4393); // of 2000; a century changes it by 0.013
-
-/// Along the true equator and equinox of date, in radii of the earth.
-Vector placeVector(const Place& place)
-{
-    return fromPolar(-NavFunc113::DegToRad(place.sha).value(),
-                     NavFunc113::DegToRad(place.declination).value(),
-                     1 / sin(place.horizontalParallax));
-}
 
 double eclipticLongitude(const Vector& v)
 {

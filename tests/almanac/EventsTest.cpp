@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "almanac/events.h"
 #include "almanac/daily_page.h"
+#include "almanac/day_events.h"
 #include "tests/almanac/AlmanacTesting.h"
 
 #include <gmock/gmock.h>
@@ -149,6 +150,52 @@ TEST(Page, holdsThreeDays)
     const double jupiter =
         sky.place(Body::Jupiter).gha.value() + 24 * (15 + page.planets[2].excess.value());
     EXPECT_LE(minutesApart(Sky(first + 65.0 / 24).place(Body::Jupiter).gha, jupiter), 0.5);
+}
+
+// A day of a ship under way: what she meets is where she is then, and what there is not has its
+// reason.
+TEST(Events, dayOfAShip)
+{
+    using enum EventTime::Kind;
+    const double day = instantOf("2026-11-22T00:00:00Z");
+    const HourlyPlaces sun(Body::Sun, day, day + 1), moon(Body::Moon, day, day + 1);
+    // 24 knots to the west along the equator from Greenwich: her noon comes 38 minutes later.
+    const Track west = [=](DateTime ut) {
+        return Observer{Degrees(0), Degrees((day - ut) * 24 * 24 / 60), {}};
+    };
+    const SunDay moving = sunDay(sun, west, day, day + 1, Degrees(0));
+    const SunDay still = sunDay(sun, standingAt({}), day, day + 1, Degrees(0));
+    ASSERT_TRUE(moving.passage && still.passage);
+    const double later = (moving.passage->instant - still.passage->instant) * 1440;
+    EXPECT_NEAR(later, (moving.passage->instant - day) * 24 * 24 / 60 * 4, 0.1);
+    EXPECT_NEAR(moving.passage->direction.altitude.value(), 90 - 20.2, 0.1);
+    // Twilight, rise and set in their order, and the dip of 20 m is 7.9' to either side.
+    const SunDay high = sunDay(sun, west, day, day + 1, Degrees(7.9 / 60));
+    EXPECT_LT(moving.nautical.up.instant, moving.civil.up.instant);
+    EXPECT_LT(moving.civil.up.instant, moving.rise.up.instant);
+    EXPECT_LT(moving.rise.down.instant, moving.civil.down.instant);
+    EXPECT_LT(moving.civil.down.instant, moving.nautical.down.instant);
+    EXPECT_NEAR((moving.rise.up.instant - high.rise.up.instant) * 1440, 7.9 / 15 / cos(Degrees(20)),
+                0.05);
+    EXPECT_EQ(high.civil.up.instant, moving.civil.up.instant) << "twilight has no dip";
+
+    const auto sunAt = [&](double latitude) {
+        return sunDay(sun, standingAt({Degrees(latitude), {}, {}}), day, day + 1, Degrees(0));
+    };
+    EXPECT_EQ(sunAt(75).rise.up.kind, Below);
+    EXPECT_EQ(sunAt(75).civil.up.kind, At);
+    EXPECT_EQ(sunAt(89).nautical.up.kind, Below);
+    EXPECT_EQ(sunAt(-75).rise.down.kind, Above);
+    EXPECT_EQ(sunAt(-75).civil.down.kind, Above);
+    EXPECT_EQ(sunAt(-60).nautical.down.kind, Twilight);
+    EXPECT_LT(sunAt(75).passage->direction.altitude, Degrees(0)) << "it passes below the horizon";
+    // The Moon of this day sets and rises; in the far north she does not set.
+    const auto moonAt = [&](double latitude) {
+        return moonDay(moon, standingAt({Degrees(latitude), {}, {}}), day, day + 1, Degrees(0));
+    };
+    EXPECT_EQ(moonAt(0).rise.up.kind, At);
+    EXPECT_EQ(moonAt(80).rise.up.kind, moonAt(80).rise.down.kind);
+    EXPECT_TRUE(moonAt(0).passage);
 }
 
 TEST(Page, saysWhyThereIsNoTime)
