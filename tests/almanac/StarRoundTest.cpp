@@ -3,7 +3,7 @@
 #include "almanac/magnitudes.h"
 #include "almanac/sextant.h"
 #include "almanac/star_round.h"
-#include "navlib/compass.h"
+#include "navlib/sailing/compass.h"
 #include "tests/almanac/AlmanacTesting.h"
 
 #include <gmock/gmock.h>

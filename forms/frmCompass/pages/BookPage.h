@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmCompass/CompassBook.h"
-#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/PageParts.h"
 #include "shell/layout/FollowingScrollArea.h"
 
 namespace korvel

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmCompass/CompassBook.h"
-#include "forms/frmCompass/pages/TextTable.h"
+#include "shell/controls/TextTable.h"
 
 namespace korvel
 {

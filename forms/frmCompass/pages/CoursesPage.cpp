@@ -40,14 +40,14 @@ CoursesPage::CoursesPage(QWidget* parent)
                    box(CourseBox::GyroError), box(CourseBox::Variation),
                    box(CourseBox::Deviation)});
     auto* left = new QVBoxLayout;
-    left->setSpacing(groupGap);
+    left->setSpacing(pageGroupGap);
     left->addLayout(layOutCourse());
     left->addLayout(layOutCompass());
     left->addStretch();
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(pageGap);
-    grid->setVerticalSpacing(groupGap);
+    grid->setVerticalSpacing(pageGroupGap);
     grid->addLayout(left, 0, 0);
     grid->addWidget(m_picture, 0, 1);
     grid->addLayout(layOutResults(), 1, 0, 1, 2);

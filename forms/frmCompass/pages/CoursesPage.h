@@ -3,7 +3,7 @@
 
 #include "forms/frmCompass/CompassFields.h"
 #include "forms/frmCompass/CompassResults.h"
-#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/PageParts.h"
 #include "shell/controls/ResultLabels.h"
 #include "shell/layout/FollowingScrollArea.h"
 

@@ -4,7 +4,7 @@
 #include "app/reading/TypedTime.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "forms/frmCompass/pages/DeviationPicture.h"
-#include "forms/frmCompass/pages/TextTable.h"
+#include "shell/controls/TextTable.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"

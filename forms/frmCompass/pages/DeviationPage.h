@@ -3,7 +3,7 @@
 
 #include "app/reading/Remarks.h"
 #include "forms/frmCompass/CompassResults.h"
-#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/PageParts.h"
 #include "shell/controls/ResultLabels.h"
 #include "shell/layout/FollowingScrollArea.h"
 

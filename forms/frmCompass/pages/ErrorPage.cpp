@@ -72,7 +72,7 @@ ErrorPage::ErrorPage(QWidget* parent)
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(pageGap);
-    grid->setVerticalSpacing(groupGap);
+    grid->setVerticalSpacing(pageGroupGap);
     grid->addLayout(layOutObservation(), 0, 0);
     grid->addLayout(layOutBearings(), 0, 1);
     grid->addLayout(layOutRecord(), 1, 0, 1, 2);

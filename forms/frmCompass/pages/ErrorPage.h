@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmCompass/CompassResults.h"
-#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/PageParts.h"
 #include "shell/controls/ResultLabels.h"
 #include "shell/layout/FollowingScrollArea.h"
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "forms/frmSunSight/fix/DrawLOP.h"
-#include "forms/frmSunSight/panels/PlotLettering.h"
 #include "shell/controls/PictureBox.h"
+#include "shell/layout/PlotLettering.h"
 #include "shell/screen/ColourScheme.h"
 
 namespace korvel

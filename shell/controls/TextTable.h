@@ -4,13 +4,15 @@
 #include <QTableView>
 
 #include <functional>
+#include <optional>
 #include <span>
 
 namespace korvel
 {
 
-/// A table of texts as a book has them: whole rows are chosen, hairlines lie between them, nothing
-/// is typed into, one stop of the Tab key. Ctrl+C copies the chosen rows, tabs between columns.
+/// A table of texts, as a book or a list has them: whole rows are chosen, hairlines lie between
+/// them, nothing is typed into, one stop of the Tab key. Ctrl+C copies the chosen rows, tabs
+/// between columns.
 class TextTable : public QTableView
 {
 public:

@@ -16,7 +16,7 @@
 class QGridLayout;
 class QHBoxLayout;
 
-/// What the pages of the compass window are made of.
+/// What the pages of a window with several are made of.
 namespace korvel
 {
 
@@ -24,8 +24,8 @@ class WindowRecord;
 
 /// Pixels between the columns of a page, between its groups, between rows.
 inline constexpr int pageGap = 24;
-inline constexpr int groupGap = 16;
-inline constexpr int rowGap = 4;
+inline constexpr int pageGroupGap = 16;
+inline constexpr int pageRowGap = 4;
 
 /// A grid of captions and boxes or figures, without margins of its own.
 QGridLayout* newGrid();
@@ -69,7 +69,7 @@ PageRecord::Choice choiceOf(QComboBox* list);
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption,
                         const QString& tip);
 
-/// A caption in quiet letters; PageColours tints it.
+/// A caption in quiet letters; tintQuietLabels() tints it.
 QLabel* quietLabel(const QString& text, QWidget* buddy = nullptr);
 /// Gives all quiet labels of a page their colour.
 void tintQuietLabels(QWidget& page, const ColourScheme& colours);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmCompass/pages/PageParts.h"
+#include "shell/controls/PageParts.h"
 
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
@@ -23,7 +23,7 @@ QGridLayout* newGrid()
     auto* grid = new QGridLayout;
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(pageGap / 3);
-    grid->setVerticalSpacing(rowGap);
+    grid->setVerticalSpacing(pageRowGap);
     return grid;
 }
 

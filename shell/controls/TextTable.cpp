@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmCompass/pages/TextTable.h"
+#include "shell/controls/TextTable.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "forms/frmSunSight/panels/PlotLettering.h"
+#include "shell/layout/PlotLettering.h"
 
 #include <algorithm>
 #include <array>
