@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/almanac/page_text.h"
+#include "almanac/page_cells.h"
 #include "navlib/datetime.h"
-#include "tools/almanac/page_cells.h"
 
 #include <array>
 #include <cmath>
