@@ -121,6 +121,14 @@ std::string positionForCopy(NavFunc113::DegMin latitude, NavFunc113::DegMin long
            positionForCopy(longitude, Axis::Longitude);
 }
 
+std::string altitudeText(NavFunc113::Degrees altitude)
+{
+    const double tenths = std::round(std::fabs(altitude.value()) * 600);
+    const double whole = std::floor(tenths / 600);
+    const std::string sign = altitude < NavFunc113::Degrees(0) && tenths > 0 ? "-" : "";
+    return sign + Format(whole, "0") + "°" + Format((tenths - 600 * whole) / 10, "00.0") + "'";
+}
+
 std::string packedText(NavFunc113::Degrees angle)
 {
     // Whole units first: minutes that round up to 60 are the next degree.

@@ -37,6 +37,9 @@ std::string positionForCopy(NavFunc113::DegMin value, Axis axis);
 /// Latitude and longitude to be copied: "35°30.5'N 139°45.2'E".
 std::string positionForCopy(NavFunc113::DegMin latitude, NavFunc113::DegMin longitude);
 
+/// An altitude or another angle of no hemisphere, "-12°34.5'", minutes carried at 60.
+std::string altitudeText(NavFunc113::Degrees altitude);
+
 /// Decimal degrees in the packed form of the boxes, "35.305", to 0.00001 of a minute (2 cm); at
 /// least the minutes' two digits.
 std::string packedText(NavFunc113::Degrees angle);

@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Instant.h"
+#include "app/reading/PositionText.h"
 #include "app/reading/TypedTime.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"

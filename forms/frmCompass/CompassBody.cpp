@@ -2,6 +2,7 @@
 #include "forms/frmCompass/CompassBody.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "app/reading/Reading.h"
 #include "forms/frmCompass/CompassTexts.h"
 #include "navlib/angles.h"

@@ -31,14 +31,6 @@ std::string gyroErrorText(Degrees error)
     return text.ends_with('W') ? text + " (high)" : text;
 }
 
-std::string altitudeText(Degrees altitude)
-{
-    const double tenths = std::round(std::fabs(altitude.value()) * 600);
-    const double whole = std::floor(tenths / 600);
-    const std::string sign = altitude < Degrees(0) && tenths > 0 ? "-" : "";
-    return sign + Format(whole, "0") + "°" + Format((tenths - 600 * whole) / 10, "00.0") + "'";
-}
-
 bool isBlankBox(std::string_view box)
 {
     return box.find_first_not_of(" \t") == std::string_view::npos;

@@ -18,9 +18,6 @@ std::string eastWestText(NavFunc113::Degrees angle);
 /// The same of a gyro, "1.2 W (high)": one that reads too high has a westerly error.
 std::string gyroErrorText(NavFunc113::Degrees error);
 
-/// "12°34.5'", negative with a minus.
-std::string altitudeText(NavFunc113::Degrees altitude);
-
 /// Nothing but blanks.
 bool isBlankBox(std::string_view box);
 

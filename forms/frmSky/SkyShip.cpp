@@ -19,8 +19,8 @@ namespace
 {
 
 using NavFunc113::DateTime;
-using NavFunc113::Degrees;
 using NavFunc113::DegMin;
+using NavFunc113::Degrees;
 
 const Field& fieldOf(SkyBox which)
 {
@@ -68,9 +68,9 @@ private:
     {
         const Field& field = fieldOf(which);
         const std::size_t faults = m_remarks.faults.size();
-        const auto packed =
-            readAngleIfTyped(m_input.box(which),
-                             {field.words, field.low, field.high, field.unit, field.kind}, m_remarks);
+        const auto packed = readAngleIfTyped(
+            m_input.box(which), {field.words, field.low, field.high, field.unit, field.kind},
+            m_remarks);
         if (!packed && m_remarks.faults.size() == faults)
             m_remarks.fault(std::string(field.words) + ": nothing entered");
         return packed;
@@ -91,8 +91,8 @@ private:
         const std::string& box = m_input.box(SkyBox::Moment);
         const auto time = readShipsTime(box, field, {}, m_remarks);
         if (isBlank(box)) m_remarks.fault(std::string(field.words) + ": nothing entered");
-        const auto day = readShipsTime(m_input.box(SkyBox::Day), fieldOf(SkyBox::Day), {},
-                                       m_remarks);
+        const auto day =
+            readShipsTime(m_input.box(SkyBox::Day), fieldOf(SkyBox::Day), {}, m_remarks);
         if (!time || (!day && !isBlank(m_input.box(SkyBox::Day)))) return false;
         m_ship.of = m_ship.utcOf(*time);
         m_ship.day = m_ship.utcOf(std::floor(day.value_or(*time)));
@@ -121,8 +121,9 @@ private:
         try {
             for (const DateTime end : {m_ship.day - 0.5, m_ship.day + 1.5}) {
                 const Degrees latitude = m_ship.at(end).latitude;
-                if (fabs(latitude) > NavFunc113::quarterTurn) throw NavFunc113::ArithmeticError(
-                    NavFunc113::ArithmeticError::Condition::InvalidArgument);
+                if (fabs(latitude) > NavFunc113::quarterTurn)
+                    throw NavFunc113::ArithmeticError(
+                        NavFunc113::ArithmeticError::Condition::InvalidArgument);
             }
             return true;
         } catch (const NavFunc113::ArithmeticError&) {
@@ -147,8 +148,8 @@ almanac::Observer SkyShip::at(DateTime utc) const
     NavFunc113::GeoPoint reached = position;
     if (run.value() > 0) {
         reached.lat = NavFunc113::DRLatitude(position.lat, way, run, earth);
-        reached.longitude = NavFunc113::DRLongitude(position.lat, position.longitude, way, run,
-                                                    earth, reached.lat);
+        reached.longitude =
+            NavFunc113::DRLongitude(position.lat, position.longitude, way, run, earth, reached.lat);
     }
     return {DegMinToDeg(reached.lat), DegMinToDeg(reached.longitude), eye};
 }
@@ -199,15 +200,6 @@ std::string dayAndTimeText(DateTime time)
 std::string dayText(DateTime day)
 {
     return weekdayOf(instantOf(day)) + " " + Format(day, "yyyy/mm/dd");
-}
-
-std::string altitudeText(Degrees altitude)
-{
-    const double tenths = std::round(std::fabs(altitude.value()) * 600);
-    const double whole = std::floor(tenths / 600);
-    std::string text = altitude < Degrees(0) && tenths > 0 ? "-" : "";
-    text += Format(whole, "0") + "°" + Format((tenths - 600 * whole) / 10, "00.0") + "'";
-    return text;
 }
 
 std::string presetText(Degrees altitude)

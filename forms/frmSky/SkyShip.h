@@ -3,6 +3,7 @@
 
 #include "almanac/events.h"
 #include "app/reading/Instant.h"
+#include "app/reading/PositionText.h"
 #include "app/reading/Remarks.h"
 #include "forms/frmSky/SkyFields.h"
 #include "navlib/great_circle_arc.h"
@@ -72,8 +73,6 @@ std::string timeOfDayText(NavFunc113::DateTime time);
 std::string dayAndTimeText(NavFunc113::DateTime time);
 /// "Sun 2026/11/22".
 std::string dayText(NavFunc113::DateTime day);
-/// "-12°34.5'", minutes carried at 60.
-std::string altitudeText(NavFunc113::Degrees altitude);
 /// "34°12'": to the minute, as a sextant is preset.
 std::string presetText(NavFunc113::Degrees altitude);
 /// "35°30.5'N 139°45.2'E".
