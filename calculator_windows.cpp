@@ -10,6 +10,7 @@
 #include "forms/frmNoon/frmNoon.h"
 #include "forms/frmPassage/frmPassage.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
+#include "forms/frmSky/frmSky.h"
 #include "forms/frmSunMoon/frmSunMoon.h"
 #include "forms/frmSunSight/frmSunSight.h"
 #include "forms/frmTIDE/frmTIDE.h"
@@ -89,6 +90,8 @@ WindowCatalogue calculatorWindows()
         behindALine(window<frmPassage>("mnuNAV", 4, "frmPassage", "Passage pla&n")),
         window<frmNoon>("mnuWATCH", 7, "frmNoon", "Noon report"),
         window<frmUKC>("mnuWATCH", 8, "frmUKC", "Under-keel clearance"),
+        withPlaces(window<frmSky>("mnuNAV", 5, "frmSky", "&Twilight and stars"),
+                   frmSky::pagesToGoTo),
     };
 }
 

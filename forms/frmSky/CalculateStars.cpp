@@ -99,8 +99,8 @@ private:
         const almanac::Sky now(utc);
         const auto before = almanac::Sky::nearRange(utc - half);
         const auto after = almanac::Sky::nearRange(utc + half);
-        m_found.when = dayText(std::floor(ship().shipsTime(utc))) + " " +
-                       timeOfDayText(ship().shipsTime(utc)) + ", UTC " + dayAndTimeText(utc);
+        m_found.time = timeOfDayText(ship().shipsTime(utc));
+        m_found.zulu = minuteText(instantOf(utc));
         m_found.where = placeText(ship().at(utc));
         for (const BodyEntry& entry : almanac::bodies()) {
             const Direction seen = seenAt(now, entry.body);

@@ -55,7 +55,8 @@ struct SkyStars {
     std::optional<NavFunc113::Degrees>
         moonBrightLimb;  ///< towards where on the horizon, as seen:
                          ///< position angle from the zenith, clockwise
-    std::string when;    ///< "Sun 2026/11/22 17:58, UTC 11/22 08:58"
+    std::string time;    ///< "17:58", ship's time
+    std::string zulu;    ///< "2026/11/22 08:58", UTC
     std::string where;   ///< the ship's position then
     std::string round;   ///< "Vega, Deneb, Fomalhaut"
     std::string quality; ///< what the round makes of the position

@@ -53,21 +53,45 @@ void PagePrinter::print(const PaperDocument& document) const
 void PagePrinter::print(const QString& title, QPageLayout::Orientation orientation,
                         const Draw& draw) const
 {
+    print(title, orientation, std::vector{draw});
+}
+
+void PagePrinter::print(const QString& title, QPageLayout::Orientation orientation,
+                        const std::vector<Draw>& pages) const
+{
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, orientation);
+    const DrawPages draw = framed(title, pages);
+    if (letChoose(title, printer, draw)) paint(printer, draw);
+}
+
+QByteArray PagePrinter::PDF(const QString& title, const std::vector<Draw>& pages) const
+{
+    const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, printMargins,
+                             QPageLayout::Millimeter);
+    return pdfBytes(title, programTitle, layout, framed(title, pages));
+}
+
+/// The pages in the frame of all papers.
+DrawPages PagePrinter::framed(const QString& title, const std::vector<Draw>& pages) const
+{
     const PageFrame frame{m_program.paperHeading(), title};
-    const DrawPages framed = [&](QPagedPaintDevice& device, QPainter& painter) {
+    return [frame, pages](QPagedPaintDevice& device, QPainter& painter) {
         const QRectF sheet(0, 0, device.width(), device.height());
-        frame.drawHead(painter, sheet);
-        frame.drawFoot(painter, sheet, 1, 1);
-        const double head = PageFrame::headHeight(painter);
-        const double high = sheet.height() - head - PageFrame::footHeight(painter);
-        painter.save();
-        painter.translate(0, head);
-        draw(painter, QRect(0, 0, device.width(), qFloor(high)));
-        painter.restore();
+        const int count = static_cast<int>(pages.size());
+        for (int page = 1; page <= count; ++page) {
+            if (page > 1) device.newPage();
+            frame.drawHead(painter, sheet);
+            frame.drawFoot(painter, sheet, page, count);
+            const double head = PageFrame::headHeight(painter);
+            const double high = sheet.height() - head - PageFrame::footHeight(painter);
+            painter.save();
+            painter.translate(0, head);
+            pages[static_cast<std::size_t>(page - 1)](painter,
+                                                      QRect(0, 0, device.width(), qFloor(high)));
+            painter.restore();
+        }
     };
-    if (letChoose(title, printer, framed)) paint(printer, framed);
 }
 
 void PagePrinter::paint(QPrinter& printer, const DrawPages& draw) const

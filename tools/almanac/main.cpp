@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "almanac/page_text.h"
 #include "tools/almanac/instant_text.h"
-#include "tools/almanac/page_text.h"
 #include "tools/almanac/table_input.h"
 #include "tools/almanac/tables.h"
 

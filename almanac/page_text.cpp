@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tools/almanac/page_text.h"
+#include "almanac/page_text.h"
 #include "almanac/page_cells.h"
 #include "navlib/datetime.h"
 

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "forms/frmSky/SkyResults.h"
+#include "shell/controls/FieldBoxes.h"
+#include "shell/controls/FollowingScrollArea.h"
+#include "shell/controls/PageParts.h"
+#include "shell/controls/ResultLabels.h"
+#include "shell/controls/RowTable.h"
+
+class QLayout;
+
+namespace korvel
+{
+
+/// The ship, and twilight, Sun and Moon of a day.
+class DayPage : public ScrolledBody
+{
+    Q_OBJECT
+
+public:
+    /// @param boxes of SkyFields; those of the ship get their places here
+    DayPage(QWidget* parent, const FieldBoxes& boxes);
+
+    void show(const SkyDay& day);
+    void setColours(const ColourScheme& colours);
+    std::vector<ResultLabel*> results() const;
+    /// Those that are not in the table of the times.
+    const std::vector<ResultLabel*>& answers() const { return m_labels.all(); }
+
+signals:
+    void nowAsked();
+    /// Another day is wanted, so many later.
+    void dayAsked(int later);
+
+private:
+    QLayout* layOutShip();
+    QLayout* layOutDay();
+    QLayout* layOutAnswers();
+
+    FieldBoxes m_boxes;
+    ResultLabels<SkyDay> m_labels;
+    RowTable* m_events;
+};
+
+} // namespace korvel
