@@ -27,8 +27,8 @@ enum class SkyEvent : std::size_t {
 };
 inline constexpr std::size_t skyEvents = 10;
 inline constexpr std::array<const char*, skyEvents> skyEventNames{
-    "Nautical twilight", "Civil twilight",    "Sunrise",  "Sun's passage",  "Sunset",
-    "Civil twilight",    "Nautical twilight", "Moonrise", "Moon's passage", "Moonset"};
+    "Nautical twilight begins", "Civil twilight begins",  "Sunrise",  "Sun's passage",  "Sunset",
+    "Civil twilight ends",      "Nautical twilight ends", "Moonrise", "Moon's passage", "Moonset"};
 
 /// A line of the day: a time and where the ship is then, or why there is none.
 struct SkyEventLine {

@@ -128,8 +128,16 @@ private:
                 almanac::magnitudeOf(body, now),
                 late.altitude - early.altitude,
                 NavFunc113::WithinHalfTurn(late.azimuth - early.azimuth),
-                almanac::sextantAltitude(seen.altitude, ship().dip()),
+                preset(now.place(body), body),
                 false};
+    }
+
+    /// Of the lower limb for Sun and Moon.
+    Degrees preset(const almanac::Place& place, Body body) const
+    {
+        const auto sextant = almanac::sextantAltitude(place, body, almanac::Limb::Lower,
+                                                      meanAir(ship().eye), ship().at(*m_found.utc));
+        return sextant.value_or(Degrees(0));
     }
 
     void tellPolaris(const Direction& seen)

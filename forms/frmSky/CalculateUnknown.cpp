@@ -103,7 +103,11 @@ private:
     {
         const almanac::Sky sky(*m_found.utc);
         const almanac::Observer observer = ship.at(*m_found.utc);
-        m_found.observed = {almanac::altitudeOfSextant(shown, ship.dip()), bearing};
+        // A star's: what is seen of another body lies within the half degree that altitudes are
+        // given here.
+        const auto terms = almanac::correctSextant({}, almanac::Body::Venus, shown,
+                                                   almanac::Limb::Lower, meanAir(ship.eye), {});
+        m_found.observed = {terms.seen, bearing};
         m_found.likely = almanac::likelyBodies(sky, observer, m_found.observed, likelyCount);
         for (std::size_t i = 0; i < m_found.likely.size(); ++i)
             m_found.lines[i] = lineOf(m_found.likely[i], sky);

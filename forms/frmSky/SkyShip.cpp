@@ -8,8 +8,8 @@
 #include "app/reading/TypedTime.h"
 #include "navlib/angles.h"
 #include "navlib/arithmetic_error.h"
-#include "navlib/compass.h"
 #include "navlib/datetime.h"
+#include "navlib/sailing/compass.h"
 
 #include <cmath>
 

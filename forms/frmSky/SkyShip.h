@@ -2,12 +2,13 @@
 #pragma once
 
 #include "almanac/events.h"
+#include "almanac/sextant.h"
 #include "app/reading/Instant.h"
 #include "app/reading/PositionText.h"
 #include "app/reading/Remarks.h"
 #include "forms/frmSky/SkyFields.h"
-#include "navlib/great_circle_arc.h"
-#include "navlib/sailing.h"
+#include "navlib/sailing/great_circle_arc.h"
+#include "navlib/sailing/sailing.h"
 
 #include <optional>
 #include <string>
@@ -52,6 +53,12 @@ public:
         return shipsTime - NavFunc113::DaysOfHours(TD);
     }
 };
+
+/// The air of presets and unknown bodies.
+inline almanac::SextantAir meanAir(NavFunc113::Metres heightOfEye)
+{
+    return {heightOfEye, 10, 10, 1010};
+}
 
 /// Reads the ship and the day. The day is that of the position's time unless another is typed; a
 /// date without a time is noon; empty course, speed and height of eye are 0.

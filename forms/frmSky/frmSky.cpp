@@ -12,8 +12,8 @@
 #include "forms/frmSky/pages/SkyDisc.h"
 #include "forms/frmSky/pages/StarsPage.h"
 #include "forms/frmSky/pages/UnknownPage.h"
-#include "shell/controls/FollowingScrollArea.h"
-#include "shell/controls/PageBar.h"
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/PageBar.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>
@@ -52,6 +52,7 @@ frmSky::frmSky(Program& program)
     record().useText(
         "KV_Sky.ini", [this] { return recordText(); },
         [this](const std::string& bytes) { return take(bytes); });
+    fitToScreen();
     loadSettings();
     box(SkyBox::Moment)->setFocus();
 }
@@ -385,7 +386,7 @@ WorkingPaper frmSky::paper() const
 std::vector<PaperPicture> frmSky::paperPictures()
 {
     if (m_pages->page() != StarsOfMinute || !m_shownStars.utc) return {};
-    return {paperPicture(m_stars->disc(), "The sky, zenith in the middle", QSize(600, 600))};
+    return {paperPicture(m_stars->disc(), "The sky, zenith in the middle", QSize(480, 480))};
 }
 
 void frmSky::applyColours()

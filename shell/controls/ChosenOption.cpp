@@ -14,12 +14,12 @@ namespace korvel
 namespace
 {
 
-using Options = std::vector<QRadioButton*>;
+using WindowOptions = std::vector<QRadioButton*>;
 
 /// The options that one is chosen among, itself included.
-Options groupOf(const QRadioButton& option)
+WindowOptions groupOf(const QRadioButton& option)
 {
-    Options group;
+    WindowOptions group;
     const auto take = [&](const auto& buttons) {
         for (QAbstractButton* each : buttons)
             if (auto* member = qobject_cast<QRadioButton*>(each);
@@ -36,7 +36,7 @@ Options groupOf(const QRadioButton& option)
 
 /// The toolkit looks after the stop only once the group has the focus: Tab came to the first
 /// option, and Space there made E of the W that was chosen.
-void stopTabAtChosen(const Options& group)
+void stopTabAtChosen(const WindowOptions& group)
 {
     const auto isChosen = [](const QRadioButton* option) { return option->isChecked(); };
     const auto chosen = std::ranges::find_if(group, isChosen);

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "almanac/likely_bodies.h"
 #include "almanac/magnitudes.h"
-#include "almanac/sextant.h"
 #include "almanac/star_round.h"
-#include "navlib/sailing/compass.h"
 #include "tests/almanac/AlmanacTesting.h"
 
 #include <gmock/gmock.h>
@@ -167,19 +165,6 @@ TEST(LikelyBodies, findEveryBodyOfTheSky)
             }
         }
     EXPECT_GT(asked, 350);
-}
-
-TEST(Sextant, presetAndObservedAltitudesAreEachOthersInverse)
-{
-    const Degrees dip = NavFunc113::DipOfHorizon(NavFunc113::Metres(20));
-    for (double seen = -0.5; seen <= 90; seen += 0.25) {
-        const Degrees shown = sextantAltitude(Degrees(seen), dip);
-        EXPECT_NEAR(altitudeOfSextant(shown, dip).value(), seen, 0.001 / 60) << seen;
-    }
-    // Refraction as tables print it: 34.5' on the horizon, 5.3' at 10 degrees, 1.0' at 45.
-    EXPECT_NEAR(altitudeOfSextant(Degrees(0), Degrees(0)).value() * 60, -34.5, 0.1);
-    EXPECT_NEAR(altitudeOfSextant(Degrees(10), Degrees(0)).value() * 60, 600 - 5.3, 0.1);
-    EXPECT_NEAR(altitudeOfSextant(Degrees(45), Degrees(0)).value() * 60, 2700 - 1.0, 0.1);
 }
 
 // As published for oppositions and other days of note.

@@ -2,7 +2,7 @@
 #include "forms/frmSky/pages/AlmanacPage.h"
 
 #include "almanac/page_text.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QFontDatabase>

@@ -4,8 +4,8 @@
 #include "almanac/daily_page.h"
 #include "forms/frmSky/SkyFields.h"
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/PageParts.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 #include <QPlainTextEdit>
 

@@ -127,7 +127,7 @@ void drawHours(Sheet& sheet, const DailyPage& page, double wide)
         if (ofDay == 1)
             sheet.text(0, line, 4, std::to_string(NavFunc113::DateOf(page.hours[i].ut).day),
                        Side::Left, true);
-        sheet.text(3, line, 3, almanac::padded(static_cast<int>(ofDay), 2, '0'));
+        sheet.text(4.2, line, 2.4, almanac::padded(static_cast<int>(ofDay), 2, '0'));
     }
     sheet.rule(0, top + 0.2 + hourLines, wide);
 }
@@ -153,7 +153,7 @@ void drawPlaces(Sheet& sheet, const DailyPage& page, double column, std::size_t 
     }
 }
 
-constexpr double ariesAt = 6, planetsAt = 16, planetWide = 19.5, starsAt = 96, starsEnd = 133;
+constexpr double ariesAt = 7, planetsAt = 16.5, planetWide = 19.5, starsAt = 96.5, starsEnd = 133.5;
 
 void drawStars(Sheet& sheet, const DailyPage& page)
 {
@@ -181,8 +181,8 @@ void drawPlanetTable(Sheet& sheet, const DailyPage& page)
     double line = headLines + columnHeads + 0.5 + static_cast<double>(page.stars.size()) + 1;
     const double wide = starsEnd - starsAt;
     sheet.text(starsAt, line, wide, "Planets, middle day", Side::Middle, true);
-    constexpr Column columns[] = {{"", 8},    {"Mag.", 4.5}, {"SHA", 8.5}, {"Pass.", 6},
-                                  {"HP′", 4}, {"v′", 3},     {"d′", 3.5}};
+    constexpr Column columns[] = {{"", 7},    {"Mag.", 4}, {"SHA", 8.5}, {"Pass.", 6},
+                                  {"HP′", 4}, {"v′", 3.7}, {"d′", 3.8}};
     const almanac::Sky noon(page.firstDay + 1.5);
     const auto row = [&](const std::vector<std::string>& cells) {
         double at = starsAt;
@@ -228,7 +228,7 @@ void drawStarSheet(QPainter& painter, const QRect& room, const DailyPage& page)
     drawPlanetTable(sheet, page);
 }
 
-constexpr double sunAt = 6, moonAt = 26, latitudesAt = 71, latitudesEnd = 124;
+constexpr double sunAt = 7, moonAt = 26, latitudesAt = 71, latitudesEnd = 124;
 
 void drawMoon(Sheet& sheet, const DailyPage& page)
 {
@@ -308,12 +308,12 @@ void drawDays(Sheet& sheet, const DailyPage& page, double line)
 {
     const double wide = latitudesEnd - latitudesAt;
     sheet.rule(latitudesAt, line, wide);
-    sheet.text(latitudesAt + 6, line, 15, "Equation of time", Side::Middle, true);
-    sheet.text(latitudesAt + 22, line, 12, "Passage", Side::Middle, true);
-    sheet.text(latitudesAt + 34, line, 19, "Moon", Side::Middle, true);
-    constexpr Column columns[] = {{"Day", 5},   {"00h", 8},     {"12h", 8},
-                                  {"Sun", 6.5}, {"upper", 6.5}, {"lower", 6.5},
-                                  {"age", 5},   {"lit %", 4},   {"SD′", 4}};
+    sheet.text(latitudesAt + 5, line, 16, "Equation of time", Side::Right, true);
+    sheet.text(latitudesAt + 21, line, 19.5, "Passage", Side::Middle, true);
+    sheet.text(latitudesAt + 41, line, 12, "Moon", Side::Middle, true);
+    constexpr Column columns[] = {{"Day", 5},   {"00h", 8},    {"12h", 8},
+                                  {"Sun", 6.5}, {"Moon", 6.5}, {"lower", 6.5},
+                                  {"age", 4.5}, {"lit %", 4},  {"SD′", 4}};
     const auto row = [&](const std::vector<std::string>& cells) {
         double at = latitudesAt;
         for (std::size_t i = 0; i < cells.size(); ++i) {
@@ -340,7 +340,7 @@ void drawDays(Sheet& sheet, const DailyPage& page, double line)
 void drawSunSheet(QPainter& painter, const QRect& room, const DailyPage& page)
 {
     using almanac::PageLatitude;
-    Sheet sheet(painter, room, latitudesEnd, headLines + columnHeads + hourLines + 2);
+    Sheet sheet(painter, room, latitudesEnd, headLines + columnHeads + hourLines + 3.5);
     drawHead(sheet, page, latitudesEnd, "Sun, Moon, twilight");
     drawHours(sheet, page, latitudesAt - 2);
     drawPlaceHeads(sheet, sunAt, "Sun");
@@ -364,10 +364,14 @@ void drawSunSheet(QPainter& painter, const QRect& room, const DailyPage& page)
                    almanac::minutesCell(page.sunChange, 0) +
                    "′ of the middle day; GHA exact, not smoothed",
                Side::Left);
-    sheet.text(0, headLines + columnHeads + 1.2 + hourLines, latitudesEnd,
-               "Rise, set, twilight: local mean time, Sun of the middle day. above, below: of the "
-               "horizon all day (twilight: darker); /////: twilight all night; -----: not on this "
-               "day. Equation: apparent less mean.",
+    const double foot = headLines + columnHeads + 1.3 + hourLines;
+    sheet.text(0, foot, latitudesEnd,
+               "Rise, set and twilight: local mean time, Sun of the middle day. above, below: of "
+               "the horizon all day (of twilight: darker all day)",
+               Side::Left);
+    sheet.text(0, foot + 1, latitudesEnd,
+               "/////: twilight all night; -----: not on this day. Equation of time: apparent "
+               "less mean time",
                Side::Left);
 }
 

@@ -2,7 +2,7 @@
 #include "forms/frmSky/pages/DayPage.h"
 
 #include "shell/controls/AnswerStrip.h"
-#include "shell/controls/Panels.h"
+#include "shell/layout/Panels.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -19,8 +19,9 @@ constexpr const char* widestBox = "0000/00/00 00:00:00";
 
 using EventColumn = RowColumn<SkyEventLine>;
 constexpr std::array eventColumns = {
-    EventColumn{{"lblEvent", "", "Nautical twilight ", TableColumn::Label::Result, "Event %1"},
-                &SkyEventLine::name},
+    EventColumn{
+        {"lblEvent", "", "Nautical twilight begins ", TableColumn::Label::Result, "Event %1"},
+        &SkyEventLine::name},
     EventColumn{{"lblShips", "Ship's time", "Ship's time", TableColumn::Label::Result,
                  "Ship's time of event %1", "", Qt::AlignRight},
                 &SkyEventLine::ships},

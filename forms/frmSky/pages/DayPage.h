@@ -3,10 +3,10 @@
 
 #include "forms/frmSky/SkyResults.h"
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/PageParts.h"
 #include "shell/controls/ResultLabels.h"
 #include "shell/controls/RowTable.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 class QLayout;
 

@@ -2,8 +2,8 @@
 #include "forms/frmSky/pages/SkyDisc.h"
 
 #include "navlib/angles.h"
-#include "shell/controls/LineWeight.h"
-#include "shell/controls/PlotLettering.h"
+#include "shell/layout/LineWeight.h"
+#include "shell/layout/PlotLettering.h"
 #include "shell/machine/AsQString.h"
 
 #include <QHelpEvent>
@@ -182,9 +182,18 @@ void SkyDisc::draw(QPainter& painter)
     drawShipsHead(painter);
     if (!m_stars || !m_stars->utc) return;
     drawSun(painter);
-    for (const SkyBody& body : m_stars->bodies)
-        drawBody(painter, body);
+    for (std::size_t i = m_stars->bodies.size(); i-- > 0;) // the round last: on top
+        drawBody(painter, m_stars->bodies[i]);
     drawNames(painter);
+}
+
+/// Room of the words of a bearing, outside the horizon.
+QRectF SkyDisc::rimRoom(int bearing) const
+{
+    const QPointF at = discPoint(Degrees(-6.5), Degrees(bearing) - up());
+    QRectF room(0, 0, 2 * lineHeight(), lineHeight());
+    room.moveCenter(toPixel(at.x(), at.y()));
+    return room;
 }
 
 void SkyDisc::drawRings(QPainter& painter) const
@@ -210,10 +219,7 @@ void SkyDisc::drawRings(QPainter& painter) const
         const QString text = bearing % 90 == 0
                                  ? QString(points[static_cast<std::size_t>(bearing / 90)])
                                  : QString("%1").arg(bearing, 3, 10, QChar('0'));
-        const QPointF at = discPoint(Degrees(-6.5), on);
-        QRectF room(0, 0, 4 * lineHeight(), lineHeight());
-        room.moveCenter(toPixel(at.x(), at.y()));
-        painter.drawText(room, Qt::AlignCenter, text);
+        painter.drawText(rimRoom(bearing), Qt::AlignCenter, text);
     }
     painter.setPen(pen(colours().grid, LineWeight::fine));
     const double arm = 0.3 * lineHeight();
@@ -262,8 +268,10 @@ void SkyDisc::drawMoon(QPainter& painter, const QPointF& at) const
     painter.save();
     painter.translate(at);
     painter.rotate(turn);
+    // What is lit is the lighter of the two, by day and by night.
+    const bool isInkLight = isNight(colours().palette) && !isOnPaper();
     painter.setPen(pen(colours().ink, LineWeight::fine));
-    painter.setBrush(colours().paper);
+    painter.setBrush(isInkLight ? colours().paper : colours().ink);
     painter.drawEllipse(QPointF(), radius, radius);
     // Half a circle towards the Sun, and half an ellipse that adds to it or takes from it.
     QPainterPath lit;
@@ -275,8 +283,7 @@ void SkyDisc::drawMoon(QPainter& painter, const QPointF& at) const
         const double angle = NavFunc113::Pi() * i / steps;
         lit.lineTo(-half * std::sin(angle), radius * std::cos(angle));
     }
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colours().ink);
+    painter.setBrush(isInkLight ? colours().ink : colours().paper);
     painter.drawPath(lit);
     painter.restore();
 }
@@ -314,6 +321,8 @@ bool SkyDisc::isNamed(std::size_t index) const
 void SkyDisc::drawNames(QPainter& painter) const
 {
     PlotLettering places(plotArea(), 0.35 * lineHeight());
+    for (int bearing = 0; bearing < 360; bearing += 30)
+        places.keepOff(rimRoom(bearing));
     for (const SkyBody& body : m_stars->bodies) {
         const double room = (body.isInRound ? 0.6 : 0.25) * lineHeight();
         const QPointF at = pointOf(body.seen);

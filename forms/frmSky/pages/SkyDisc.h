@@ -47,6 +47,7 @@ private:
     double radiusOf(const SkyBody& body) const;
     std::optional<std::size_t> bodyAt(QPointF pixel) const;
     void goAround(int step);
+    QRectF rimRoom(int bearing) const;
     void drawRings(QPainter& painter) const;
     void drawShipsHead(QPainter& painter) const;
     void drawSun(QPainter& painter) const;

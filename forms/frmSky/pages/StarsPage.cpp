@@ -3,15 +3,17 @@
 
 #include "forms/frmSky/pages/SkyDisc.h"
 #include "shell/controls/AnswerStrip.h"
-#include "shell/controls/Panels.h"
 #include "shell/controls/TextTable.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>
 #include <QItemSelectionModel>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -24,19 +26,19 @@ constexpr std::array<TextTable::Column, 9> starColumns = {{
     {"", "●", false},
     {"No.", "00", true},
     {"Body", "Kaus Australis", false},
-    {"Mag.", "-0.0", true},
-    {"Altitude", "00°00.0'", true},
-    {"Azimuth", "000.0", true},
-    {"Alt. ′/min", "-00.0", true},
-    {"Az. °/min", "-00.00", true},
     {"Preset", "00°00'", true},
+    {"Azimuth", "000.0", true},
+    {"Altitude", "00°00.0'", true},
+    {"′/min", "-00.0", true},
+    {"°/min", "-00.00", true},
+    {"Mag.", "-0.0", true},
 }};
 
 QString cellOf(const SkyBodyTexts& row, std::size_t column)
 {
     const std::array<const std::string*, starColumns.size()> texts{
-        &row.mark,    &row.number,         &row.name,          &row.magnitude, &row.altitude,
-        &row.azimuth, &row.altitudeChange, &row.azimuthChange, &row.preset};
+        &row.mark,     &row.number,         &row.name,          &row.preset,   &row.azimuth,
+        &row.altitude, &row.altitudeChange, &row.azimuthChange, &row.magnitude};
     return asQString(*texts[column]);
 }
 
@@ -67,8 +69,7 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
     grid->addLayout(layOutFigures(), 1, 0);
     grid->addWidget(m_table, 2, 0);
     grid->addWidget(m_disc, 1, 1, 2, 1);
-    grid->setColumnStretch(0, 3);
-    grid->setColumnStretch(1, 4);
+    grid->setColumnStretch(1, 1);
     grid->setRowStretch(2, 1);
     for (Options* each : {m_optTwilight, m_optCount})
         connect(each, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
@@ -79,6 +80,8 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
     connect(m_cmdSend, &QPushButton::clicked, this, &StarsPage::sendAsked);
     connect(m_disc, &SkyDisc::picked, this, &StarsPage::pick);
     m_table->showRows(starColumns, 0, {});
+    // All columns are in sight where the screen has the room.
+    m_table->setMinimumWidth(std::min(m_table->sizeHint().width(), 40 * fontMetrics().height()));
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { m_disc->pick(m_table->chosenRow()); });
 }

@@ -3,9 +3,9 @@
 
 #include "forms/frmSky/SkyResults.h"
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/PageParts.h"
 #include "shell/controls/ResultLabels.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 class QLayout;
 

@@ -2,8 +2,8 @@
 #include "forms/frmSky/pages/UnknownPage.h"
 
 #include "shell/controls/AnswerStrip.h"
-#include "shell/controls/Panels.h"
 #include "shell/controls/TextTable.h"
+#include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
 #include <QGridLayout>

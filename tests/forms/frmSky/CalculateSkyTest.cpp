@@ -149,6 +149,7 @@ TEST(SkyStars, areThoseOfTheMiddleOfTheTwilight)
         const SkyBody& each = stars.bodies[i];
         EXPECT_EQ(each.isInRound, i < 5);
         EXPECT_GT(each.seen.altitude.value(), 0);
+        if (each.body == almanac::Body::Moon) continue; // preset to her limb
         // What is preset is higher by dip (7.9') and refraction.
         EXPECT_GT((each.sextant - each.seen.altitude).value(), 7.8 / 60);
         if (!each.isInRound) continue;
