@@ -69,7 +69,8 @@ private:
         if (typed) return checked(ship().utcOf(*typed));
         const auto middle = m_asked.twilight == SkyTwilight::Morning ? m_day.middleOfMorning
                                                                      : m_day.middleOfEvening;
-        if (!middle) m_remarks.fault("At: there is no such twilight on this day, write a time");
+        if (!middle)
+            m_remarks.fault("Stars at: there is no such twilight on this day, write a time");
         if (!middle) return std::nullopt;
         return std::round(*middle * 1440) / 1440;
     }
@@ -78,7 +79,7 @@ private:
     {
         // A day to either side, for an evening that belongs to the night before.
         if (utc >= ship().day - 0.5 && utc <= ship().day + 1.5 && isWithinYears(utc)) return utc;
-        m_remarks.fault("At: not on the day that is shown");
+        m_remarks.fault("Stars at: not on the day that is shown");
         return std::nullopt;
     }
 

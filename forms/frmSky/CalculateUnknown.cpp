@@ -84,7 +84,7 @@ private:
     {
         constexpr double farthest = 14; // days from the position, as the day that is shown
         if (ship.speed.value() > 0 && std::fabs(*m_found.utc - ship.of) > farthest) {
-            m_remarks.fault("Time of the unknown body: more than 14 days from the position");
+            m_remarks.fault("Time: more than 14 days from the position");
             return false;
         }
         try {
@@ -92,7 +92,7 @@ private:
             if (fabs(ship.at(*m_found.utc).latitude) <= NavFunc113::quarterTurn) return true;
             m_remarks.fault("Course: the ship comes to a pole on the way");
         } catch (const almanac::OutOfRange& fault) {
-            m_remarks.fault("Time of the unknown body: " + std::string(fault.what()));
+            m_remarks.fault("Time: " + std::string(fault.what()));
         } catch (const NavFunc113::ArithmeticError&) {
             m_remarks.fault("Course: the ship comes to a pole on the way");
         }

@@ -70,9 +70,9 @@ void frmSky::addPages()
         body()->layout()->addWidget(its);
         m_pages->addPage(caption, name, words, its);
     };
-    add(m_stars, "Sta&rs", "cmdPage(1)", "Page of the stars");
+    add(m_stars, "&Stars", "cmdPage(1)", "Page of the stars");
     add(m_unknown, "&Unknown body", "cmdPage(2)", "Page of an unknown body");
-    add(m_almanac, "&Almanac", "cmdPage(3)", "Page of the almanac");
+    add(m_almanac, "A&lmanac", "cmdPage(3)", "Page of the almanac");
     foldColumns();
 }
 

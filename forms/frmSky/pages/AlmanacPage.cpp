@@ -15,7 +15,7 @@ AlmanacPage::AlmanacPage(QWidget* parent, const FieldBoxes& boxes)
     : ScrolledBody(parent), m_text(new QPlainTextEdit(this)),
       m_cmdPrint(makeButton(this, "cmdPrintAlmanac", "&Print..",
                             "Shows the two sheets of the three days and prints them")),
-      m_cmdSave(makeButton(this, "cmdSaveAlmanac", "Sa&ve as PDF..", "The two sheets as a file"))
+      m_cmdSave(makeButton(this, "cmdSaveAlmanac", "Save as P&DF..", "The two sheets as a file"))
 {
     EntryBox* day = boxes[placeOf(SkyBox::FirstDay)];
     day->setFixedWidth(day->fontMetrics().horizontalAdvance("0000/00/00 00:00"));
@@ -31,6 +31,8 @@ AlmanacPage::AlmanacPage(QWidget* parent, const FieldBoxes& boxes)
     m_text->setAccessibleName("Three days of the almanac");
     m_text->setReadOnly(true);
     m_text->setTabChangesFocus(true);
+    m_text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    m_text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     auto* column = new QVBoxLayout(this);

@@ -36,7 +36,7 @@ constexpr std::array eventColumns = {
                 &SkyEventLine::altitude},
     EventColumn{{"lblWhere", "Position then, or why there is none",
                  "the Moon is below the horizon all day", TableColumn::Label::Result,
-                 "Position at event %1, or why there is none", "", Qt::AlignLeft, true},
+                 "Position at event %1, or why there is none", "", Qt::AlignLeft, true, true},
                 &SkyEventLine::where},
 };
 constexpr auto eventTable = columnsOf(eventColumns);
@@ -47,20 +47,19 @@ DayPage::DayPage(QWidget* parent, const FieldBoxes& boxes)
     : ScrolledBody(parent), m_boxes(boxes), m_labels(DayResults, this),
       m_events(new RowTable(eventTable, skyEvents))
 {
-    auto* top = new QHBoxLayout;
-    top->setSpacing(pageGap);
-    top->addLayout(layOutShip());
-    top->addLayout(layOutDay(), 1);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(pageGroupGap);
-    column->addLayout(top);
     auto* table = new QVBoxLayout;
     table->setSpacing(0);
     table->addWidget(m_events->makeHeading());
     table->addWidget(m_events);
-    column->addLayout(table);
-    column->addStretch();
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(pageGap);
+    grid->setVerticalSpacing(pageGroupGap);
+    grid->addLayout(layOutShip(), 0, 0);
+    grid->addLayout(layOutDay(), 0, 1);
+    grid->addLayout(table, 1, 0, 1, 2);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(2, 1);
 }
 
 QLayout* DayPage::layOutShip()
@@ -127,6 +126,13 @@ QLayout* DayPage::layOutDay()
     grid->setRowStretch(row, 1);
     grid->setColumnStretch(1, 1);
     return grid;
+}
+
+/// As wide as the page of the stars wants, for the window opens as this page asks.
+QSize DayPage::sizeHint() const
+{
+    constexpr int linesWide = 58;
+    return ScrolledBody::sizeHint().expandedTo({linesWide * fontMetrics().height(), 0});
 }
 
 std::vector<ResultLabel*> DayPage::results() const

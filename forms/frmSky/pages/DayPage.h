@@ -24,6 +24,7 @@ public:
 
     void show(const SkyDay& day);
     void setColours(const ColourScheme& colours);
+    QSize sizeHint() const override;
     std::vector<ResultLabel*> results() const;
     /// Those that are not in the table of the times.
     const std::vector<ResultLabel*>& answers() const { return m_labels.all(); }

@@ -13,8 +13,6 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace korvel
 {
 namespace
@@ -54,7 +52,7 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
           {{"3", "A round of three"}, {"5", "A round of five"}, {"7", "A round of seven"}})),
       m_optUp(new Options(this, "optUp",
                           {{"north up", "Disc with north up"}, {"head up", "Disc with head up"}})),
-      m_cmdSend(makeButton(this, "cmdSend", "Round to the &sights",
+      m_cmdSend(makeButton(this, "cmdSend", "Round to the si&ghts",
                            "Hands the bodies of the round to the window of the sights")),
       m_table(new TextTable(this, "tblStars", "Bodies above the horizon, the round first")),
       m_disc(new SkyDisc(this))
@@ -69,7 +67,8 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
     grid->addLayout(layOutFigures(), 1, 0);
     grid->addWidget(m_table, 2, 0);
     grid->addWidget(m_disc, 1, 1, 2, 1);
-    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(1, 2);
     grid->setRowStretch(2, 1);
     for (Options* each : {m_optTwilight, m_optCount})
         connect(each, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
@@ -80,8 +79,7 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
     connect(m_cmdSend, &QPushButton::clicked, this, &StarsPage::sendAsked);
     connect(m_disc, &SkyDisc::picked, this, &StarsPage::pick);
     m_table->showRows(starColumns, 0, {});
-    // All columns are in sight where the screen has the room.
-    m_table->setMinimumWidth(std::min(m_table->sizeHint().width(), 40 * fontMetrics().height()));
+    m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or it would come with the stars
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { m_disc->pick(m_table->chosenRow()); });
 }

@@ -50,7 +50,7 @@ UnknownPage::UnknownPage(QWidget* parent, const FieldBoxes& boxes)
             grid->addWidget(position->echo(), row, 2);
         ++row;
     }
-    auto* now = makeButton(this, "cmdUnknownNow", "No&w (F5)", "The present time into the box");
+    auto* now = makeButton(this, "cmdUnknownNow", "N&ow (F5)", "The present time into the box");
     connect(now, &QPushButton::clicked, this, &UnknownPage::nowAsked);
     grid->addWidget(now, 1, 2, Qt::AlignLeft);
     grid->addWidget(quietLabel("° true"), 3, 2);
