@@ -195,8 +195,7 @@ private:
     {
         const double square = almanac::errorOfRound(round);
         if (!std::isfinite(square)) return;
-        m_found.quality =
-            "position to " + Format(std::sqrt(square), "0.0") + " times the error of one sight";
+        m_found.quality = Format(std::sqrt(square), "0.0") + " × the error of a sight";
         constexpr double poor = 9;
         if (square > poor)
             m_remarks.warn("The bearings of this round lie too close together: the fix is poor");

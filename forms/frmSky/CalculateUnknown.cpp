@@ -113,8 +113,8 @@ private:
             m_found.lines[i] = lineOf(m_found.likely[i], sky);
         m_found.answer = m_found.lines[0].name;
         m_found.observedText = altitudeText(m_found.observed.altitude);
-        m_found.where =
-            "UTC " + Format(*m_found.utc, "yyyy/mm/dd hh:mm:ss") + ", " + placeText(observer);
+        m_found.zulu = Format(*m_found.utc, "yyyy/mm/dd hh:mm:ss");
+        m_found.where = placeText(observer);
         judge();
     }
 

@@ -32,7 +32,8 @@ struct UnknownResult {
     std::array<UnknownLine, likelyCount> lines;
     std::string answer;       ///< name of the likeliest
     std::string observedText; ///< "29°27.1' without dip and refraction"
-    std::string where;        ///< time in UTC and the ship's position then
+    std::string zulu;         ///< "1981/01/14 15:22:28", UTC
+    std::string where;        ///< the ship's position then
     std::string notice;
 };
 

@@ -2,6 +2,7 @@
 #include "forms/frmSky/SkyPaper.h"
 
 #include "app/reading/Format.h"
+#include "forms/frmSky/SkyWorking.h"
 #include "navlib/angles.h"
 
 namespace korvel
@@ -10,11 +11,11 @@ namespace
 {
 
 constexpr const char* accuracyOfTimes =
-    "Times of twilight and passage are those of full theory within a second; rise and set take "
+    "Times of twilight and passage are within 2 seconds of another program's; rise and set take "
     "34' of refraction on the horizon and the dip of the eye, and real air moves them by a minute "
     "or two, by more in high latitudes. A mile of position is 4 seconds of time east or west";
 constexpr const char* accuracyOfStars =
-    "Altitudes and azimuths within 0.02' of full theory; UT taken as UTC, 0.25' at most. A mile of "
+    "Altitudes and azimuths within 0.02' of full theory; UT taken as UTC, 0.23' at most. A mile of "
     "position is a mile of altitude. Preset altitudes take mean air (10 °C, 1010 hPa), the dip of "
     "the eye and no index error";
 constexpr const char* notOfficial = "No official almanac: check it before you rely on it";
@@ -56,6 +57,7 @@ void tellDay(WorkingPaper& paper, const SkyDay& day)
         paper.tables = {std::move(table)};
         paper.list = std::move(list);
     }
+    paper.workings = dayWorkings(day);
     paper.limits = {"Nautical and civil twilight: Sun's centre 12° and 6° below the horizon",
                     accuracyOfTimes, notOfficial};
 }
@@ -84,6 +86,7 @@ void tellStars(WorkingPaper& paper, const SkyDay& day, const SkyStars& stars)
         paper.results.push_back({"Day", day.date});
         paper.results.push_back({"Height of the Sun", altitudeText(stars.sun.altitude)});
     }
+    paper.workings = roundWorkings(day, stars);
     paper.limits = {"The round: magnitude 3.0 or brighter, 15° to 65° high, away from the Moon; "
                     "of all such rounds the one whose fix has the least error when an error common "
                     "to all sights is solved for as well, faint stars counting less",

@@ -15,7 +15,7 @@ inline constexpr std::array DayResults = {
     Result<SkyDay>{"lblSky(0)", "Stars in the morning", "", Weight::Answer, &SkyDay::morning},
     Result<SkyDay>{"lblSky(1)", "Stars in the evening", "", Weight::Answer, &SkyDay::evening},
     Result<SkyDay>{"lblSky(2)", "Sun's passage", "", Weight::Answer, &SkyDay::noon,
-                   "Sun's passage, ship's time"},
+                   "Sun's passage by ship's time"},
     Result<SkyDay>{"lblSky(3)", "Day", "", Weight::Figure, &SkyDay::date, "Day and TD"},
     Result<SkyDay>{"lblSky(4)", "Moon", "", Weight::Figure, &SkyDay::moonPhase,
                    "Phase of the Moon"},
@@ -27,12 +27,11 @@ inline constexpr std::array DayResults = {
 /// The results of a minute.
 inline constexpr std::array StarsResults = {
     Result<SkyStars>{"lblStars(0)", "Ship's time", "", Weight::Answer, &SkyStars::time,
-                     "Minute of the stars, ship's time"},
-    Result<SkyStars>{"lblStars(1)", "UTC", "", Weight::Figure, &SkyStars::zulu,
-                     "Minute of the stars, UTC"},
+                     "Minute of the stars by ship's time"},
+    Result<SkyStars>{"lblStars(1)", "UTC", "", Weight::Figure, &SkyStars::zulu, "UTC of the stars"},
     Result<SkyStars>{"lblStars(2)", "Position then", "", Weight::Figure, &SkyStars::where},
-    Result<SkyStars>{"lblStars(3)", "The round gives the", "", Weight::Figure, &SkyStars::quality,
-                     "What the round gives"},
+    Result<SkyStars>{"lblStars(3)", "Fix of the round", "", Weight::Figure, &SkyStars::quality,
+                     "Error of the fix of the round"},
     Result<SkyStars>{"lblStars(4)", "Polaris", "", Weight::Figure, &SkyStars::polaris},
 };
 
@@ -40,10 +39,12 @@ inline constexpr std::array StarsResults = {
 inline constexpr std::array UnknownResults = {
     Result<UnknownResult>{"lblUnknown(0)", "Likeliest", "", Weight::Answer, &UnknownResult::answer,
                           "Likeliest body"},
-    Result<UnknownResult>{"lblUnknown(1)", "Altitude, dip and refraction off", "", Weight::Figure,
+    Result<UnknownResult>{"lblUnknown(1)", "Altitude seen", "", Weight::Figure,
                           &UnknownResult::observedText, "Altitude with dip and refraction off"},
-    Result<UnknownResult>{"lblUnknown(2)", "Time and position then", "", Weight::Figure,
-                          &UnknownResult::where},
+    Result<UnknownResult>{"lblUnknown(2)", "UTC", "", Weight::Figure, &UnknownResult::zulu,
+                          "UTC of the unknown body"},
+    Result<UnknownResult>{"lblUnknown(3)", "Position then", "", Weight::Figure,
+                          &UnknownResult::where, "Position at the unknown body's time"},
 };
 
 } // namespace korvel

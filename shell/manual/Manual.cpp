@@ -29,6 +29,7 @@ const QStringList& Manual::pages()
         "main-window", "first-start", "frmCDDR",    "frmGC2000", "frmSunMoon", "frmPositionRecord",
         "frmSunSight", "frmCompass",  "frmETA",     "frmWind",   "frmWeather", "frmCRUDE",
         "conversion",  "frmTIDE",     "frmPassage", "frmNoon",   "frmUKC",     "paper",
+        "conversion",  "frmTIDE",     "frmPassage", "frmNoon",   "frmSky",     "paper",
         "messages",    "installing",  "about",
     };
     return all;

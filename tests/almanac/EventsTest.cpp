@@ -3,6 +3,7 @@
 #include "almanac/daily_page.h"
 #include "almanac/day_events.h"
 #include "tests/almanac/AlmanacTesting.h"
+#include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
 
@@ -150,6 +151,34 @@ TEST(Page, holdsThreeDays)
     const double jupiter =
         sky.place(Body::Jupiter).gha.value() + 24 * (15 + page.planets[2].excess.value());
     EXPECT_LE(minutesApart(Sky(first + 65.0 / 24).place(Body::Jupiter).gha, jupiter), 0.5);
+}
+
+/// The instant of a day that a row of sky_events.csv speaks of.
+DateTime eventOf(const std::string& event, bool isUp, DateTime day, const Track& track)
+{
+    const bool isMoon = event.starts_with("moon");
+    const HourlyPlaces places(isMoon ? Body::Moon : Body::Sun, day, day + 1);
+    if (event.ends_with("passage")) return upperPassage(places, track, day, day + 1)->instant;
+    const auto wanted = event == "nautical" ? nauticalTwilight()
+                        : event == "civil"  ? civilTwilight()
+                                            : upperLimbOnHorizon();
+    for (const Crossing& crossing : crossings(places, track, wanted, day, day + 1))
+        if (crossing.rising == isUp) return crossing.instant;
+    return 0;
+}
+
+// Largest difference of 80 cases: 2.0 s of the Moon's passages, 1.4 s of twilight, 1.0 s of rise,
+// set and the Sun's passages.
+TEST(Events, areThoseOfAnotherProgram)
+{
+    for (const korvel::testing::Golden& row : korvel::testing::golden("sky_events")) {
+        const DateTime day = instantOf(row.text("day"));
+        const Observer eye{row.degrees("lat_deg"), row.degrees("lon_deg"), {}};
+        const DateTime found =
+            eventOf(row.text("event"), row.text("side") == "up", day, standingAt(eye));
+        const double off = std::fabs((found - day) * 86400 - row.number("seconds"));
+        EXPECT_LE(off, 2.1) << row;
+    }
 }
 
 // A day of a ship under way: what she meets is where she is then, and what there is not has its

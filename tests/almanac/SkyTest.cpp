@@ -59,6 +59,22 @@ TEST(Sky, placesOfAllBodies)
     }
 }
 
+// Another catalogue and another theory of precession and nutation: what a wrong column or sign in
+// the catalogue would show. Double stars differ by the point that is meant.
+TEST(Sky, starsAreThoseOfAnotherProgram)
+{
+    const Sky sky(instantOf("2026-11-22T08:00:00Z"));
+    int stars = 0;
+    for (const Golden& row : golden("almanac_stars_peer")) {
+        const Place place = sky.place(*findBody(row.text("body")));
+        const double level = cos(place.declination);
+        EXPECT_LE(minutesApart(place.sha, row.number("sha_deg")) * level, 0.015) << row;
+        EXPECT_LE(minutesApart(place.declination, row.number("dec_deg")), 0.015) << row;
+        ++stars;
+    }
+    EXPECT_EQ(stars, 80);
+}
+
 TEST(Sky, directionsOverTheHorizon)
 {
     for (const Golden& row : golden("almanac_altitudes")) {

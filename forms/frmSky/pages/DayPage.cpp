@@ -36,7 +36,7 @@ constexpr std::array eventColumns = {
                 &SkyEventLine::altitude},
     EventColumn{{"lblWhere", "Position then, or why there is none",
                  "the Moon is below the horizon all day", TableColumn::Label::Result,
-                 "Position at event %1, or why there is none", "", Qt::AlignLeft, true, true},
+                 "Position or reason of event %1", "", Qt::AlignLeft, true, true},
                 &SkyEventLine::where},
 };
 constexpr auto eventTable = columnsOf(eventColumns);

@@ -23,7 +23,7 @@ constexpr std::array<std::size_t, 3> counts{3, 5, 7};
 constexpr std::array<TextTable::Column, 9> starColumns = {{
     {"", "●", false},
     {"No.", "00", true},
-    {"Body", "Kaus Australis", false},
+    {"Body", "Kaus Australis 0", false},
     {"Preset", "00°00'", true},
     {"Azimuth", "000.0", true},
     {"Altitude", "00°00.0'", true},
@@ -54,7 +54,7 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
                           {{"north up", "Disc with north up"}, {"head up", "Disc with head up"}})),
       m_cmdSend(makeButton(this, "cmdSend", "Round to the si&ghts",
                            "Hands the bodies of the round to the window of the sights")),
-      m_table(new TextTable(this, "tblStars", "Bodies above the horizon, the round first")),
+      m_table(new TextTable(this, "tblStars", "Bodies above the horizon")),
       m_disc(new SkyDisc(this))
 {
     m_optTwilight->choose(1);
@@ -117,8 +117,7 @@ QLayout* StarsPage::layOutFigures()
     m_labels.addAnswer(strip, 0, "00:00");
     grid->addWidget(strip, 0, 0, 4, 1, Qt::AlignTop);
     constexpr std::array widest{"0000/00/00 00:00", "00°00.0'N 000°00.0'W",
-                                "position to 00.0 times the error of one sight",
-                                "azimuth 000.0°, altitude 00°00.0'"};
+                                "00.0 × the error of a sight", "azimuth 000.0°, altitude 00°00.0'"};
     for (std::size_t i = 0; i < widest.size(); ++i) {
         m_labels[i + 1]->setRoom(widest[i]);
         grid->addWidget(quietLabel(StarsResults[i + 1].caption), static_cast<int>(i), 1);

@@ -60,7 +60,8 @@ UnknownPage::UnknownPage(QWidget* parent, const FieldBoxes& boxes)
     m_labels.addAnswer(strip, 0, "Kaus Australis");
     auto* figures = newGrid();
     m_labels[1]->setRoom("-00°00.0'");
-    m_labels[2]->setRoom("UTC 0000/00/00 00:00:00, 00°00.0'N 000°00.0'W");
+    m_labels[2]->setRoom("0000/00/00 00:00:00");
+    m_labels[3]->setRoom("00°00.0'N 000°00.0'W");
     for (std::size_t i = 1; i < UnknownResults.size(); ++i)
         addResultLine(figures, static_cast<int>(i), UnknownResults[i].caption, m_labels[i]);
     figures->setColumnStretch(1, 1);

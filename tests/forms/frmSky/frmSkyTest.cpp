@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmSky/frmSky.h"
+
+#include "forms/frmSky/pages/SkyDisc.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QTest>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+using ::testing::HasSubstr;
+
+class frmSkyTest : public WindowTest
+{
+protected:
+    /// The ship in the North Pacific, typed from box to box.
+    frmSky& openWithShip()
+    {
+        auto& window = open<frmSky>();
+        type(window, "txtSky(0)", "2026/11/22 12:00\r35.123\r142.031\r75\r14.5\r22\r9\r");
+        return window;
+    }
+    static QAbstractItemModel& rowsOf(const QWidget& window, const char* table)
+    {
+        return *dynamic_cast<QAbstractItemView&>(control(window, table)).model();
+    }
+    static int roundOf(const QWidget& window)
+    {
+        const auto& rows = rowsOf(window, "tblStars");
+        int marked = 0;
+        for (int row = 0; row < rows.rowCount(); ++row)
+            marked += rows.index(row, 0).data().toString().contains("●");
+        return marked;
+    }
+};
+
+// An evening's plan by the keys alone: ship, day, round, sights, unknown body.
+TEST_F(frmSkyTest, anEveningIsPlannedByKeys)
+{
+    auto& window = openWithShip();
+    EXPECT_EQ(text(window, "lblSky(1)"), "16:44 – 17:14");
+    EXPECT_EQ(text(window, "lblShips(4)"), "16:18") << "sunset";
+    EXPECT_EQ(focused(), "txtSky(7)");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(text(window, "txtSky(7)"), "2026/11/23");
+    EXPECT_EQ(text(window, "lblSky(3)"), "Mon 2026/11/23, TD +9");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp, Qt::ControlModifier);
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return focused() == "txtSky(8)"; }, 1000));
+    EXPECT_EQ(text(window, "lblStars(0)"), "16:59");
+    EXPECT_EQ(roundOf(window), 5);
+    type(window, "txtSky(8)", "17:05");
+    EXPECT_EQ(text(window, "lblStars(0)"), "17:05");
+    type(window, "txtSky(8)", "27:05");
+    EXPECT_EQ(text(window, "lblStars(0)"), "");
+    EXPECT_EQ(roundOf(window), 0);
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("Minute of the stars"));
+    type(window, "txtSky(8)", "\b");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+    ASSERT_EQ(program().plannedSights().size(), 5u);
+    EXPECT_EQ(program().plannedSights()[0].body, "Polaris");
+}
+
+TEST_F(frmSkyTest, discAndTableChooseTheSameBody)
+{
+    auto& window = openWithShip();
+    click(window, "cmdPage(1)");
+    auto& disc = dynamic_cast<SkyDisc&>(control(window, "picSky"));
+    auto& table = dynamic_cast<QAbstractItemView&>(control(window, "tblStars"));
+    disc.setFocus();
+    QTest::keyClick(&disc, Qt::Key_Right);
+    EXPECT_EQ(table.currentIndex().row(), 0) << "Polaris, a degree east of north";
+    QTest::keyClick(&disc, Qt::Key_Left);
+    QTest::keyClick(&disc, Qt::Key_Left);
+    const int west = table.currentIndex().row();
+    EXPECT_GT(west, 4);
+    // A press on a star: Mirfak bears 047, 28 high.
+    const double radius = (90 - 28.16) / 90, turn = 46.8 * 3.14159265 / 180;
+    const QPointF at = disc.toPixel(radius * std::sin(turn), radius * std::cos(turn));
+    QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
+    EXPECT_EQ(table.currentIndex().row(), 1);
+    // With the head up the same star stands elsewhere.
+    click(window, "optUp(1)");
+    QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
+    EXPECT_NE(table.currentIndex().row(), 1);
+}
+
+TEST_F(frmSkyTest, recordBringsBoxesAndChoicesBack)
+{
+    {
+        auto& window = openWithShip();
+        click(window, "cmdPage(1)");
+        click(window, "optCount(2)");
+        click(window, "optTwilight(0)");
+        close(window);
+    }
+    EXPECT_THAT(fileText("KV_Sky.ini"), HasSubstr("txtSky(1)=35.123\n"));
+    auto& window = open<frmSky>();
+    EXPECT_EQ(text(window, "lblSky(0)"), "05:22 – 05:52");
+    EXPECT_EQ(text(window, "lblStars(0)"), "05:37");
+    EXPECT_EQ(roundOf(window), 7);
+    close(window);
+    // A damaged one is named, and what can be read of it is taken.
+    writeFile("KV_Sky.ini", "KORVEL2000 twilight and stars 1\nnonsense\ntxtSky(1)=35\nround=99\n");
+    questions.willAnswer(Answer::Ok);
+    auto& again = open<frmSky>();
+    EXPECT_EQ(text(again, "txtSky(1)"), "35");
+}
+
+TEST_F(frmSkyTest, unknownBodyAndAlmanac)
+{
+    auto& window = open<frmSky>();
+    type(window, "txtSky(0)", "1981/1/14 15:22:28\r-27.185\r67.18\r\r\r\r0\r");
+    click(window, "cmdPage(2)");
+    type(window, "txtSky(9)", "15:22:28\r29.35\r29");
+    EXPECT_EQ(text(window, "lblUnknown(0)"), "Elnath");
+    EXPECT_EQ(rowsOf(window, "tblUnknown").rowCount(), 3);
+
+    click(window, "cmdPage(3)");
+    EXPECT_FALSE(control(window, "txtAlmanac").property("plainText").toString().isEmpty());
+    type(window, "txtSky(12)", "2101/1/1");
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("1950 to 2100"));
+    EXPECT_FALSE(control(window, "cmdSaveAlmanac").isEnabled());
+    type(window, "txtSky(12)", "2026/11/22");
+    const QString page = control(window, "txtAlmanac").property("plainText").toString();
+    EXPECT_TRUE(page.startsWith("2026 November 22, 23, 24"));
+    EXPECT_TRUE(page.contains("Not an official almanac"));
+}
+
+} // namespace
+} // namespace korvel
