@@ -329,26 +329,15 @@ std::string frmSky::recordText() const
 
 std::string frmSky::take(const std::string& bytes)
 {
-    if (!bytes.starts_with(recordKind)) return "line 1: it is no record of twilight and stars";
-    std::string damage;
-    int number = 0;
-    for (const std::string_view line : recordLines(bytes)) {
-        if (++number == 1 || line.empty()) continue;
-        const std::size_t sign = line.find('=');
-        if (sign == std::string_view::npos) {
-            if (damage.empty()) damage = "line " + std::to_string(number) + ": it cannot be read";
-            continue;
-        }
-        const std::string_view key = line.substr(0, sign);
-        const std::string value = unescapedLine(line.substr(sign + 1));
+    const auto put = [this](std::string_view key, const std::string& value) {
         for (std::size_t i = 0; i < SkyFields.size(); ++i)
             if (key == SkyFields[i].name) m_boxes[i]->setText(asQString(value));
         int chosen = -1;
         std::from_chars(value.data(), value.data() + value.size(), chosen);
         for (const Choice& each : choices())
             if (key == each.key) each.choice.set(chosen);
-    }
-    return damage;
+    };
+    return readKeyedLines(bytes, recordKind, "record of twilight and stars", put);
 }
 
 WorkingPaper frmSky::paper() const

@@ -28,9 +28,8 @@ const QStringList& Manual::pages()
     static const QStringList all = {
         "main-window", "first-start", "frmCDDR",    "frmGC2000", "frmSunMoon", "frmPositionRecord",
         "frmSunSight", "frmCompass",  "frmETA",     "frmWind",   "frmWeather", "frmCRUDE",
-        "conversion",  "frmTIDE",     "frmPassage", "frmNoon",   "frmUKC",     "paper",
-        "conversion",  "frmTIDE",     "frmPassage", "frmNoon",   "frmSky",     "paper",
-        "messages",    "installing",  "about",
+        "conversion",  "frmTIDE",     "frmPassage", "frmNoon",   "frmUKC",     "frmSky",
+        "paper",       "messages",    "installing", "about",
     };
     return all;
 }
