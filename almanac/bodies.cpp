@@ -79,4 +79,21 @@ std::optional<Body> findBody(std::string_view nameOrNumber)
     return found->body;
 }
 
+std::string bodyInSentence(Body body)
+{
+    std::string name(entryOf(body).name);
+    return body == Body::Sun || body == Body::Moon ? "the " + name : name;
+}
+
+std::vector<Body> bodiesBeginning(std::string_view beginning)
+{
+    if (const auto body = findBody(beginning)) return {*body};
+    std::vector<Body> found;
+    if (beginning.empty()) return found;
+    for (const BodyEntry& entry : bodies())
+        if (isAlike(entry.name.substr(0, beginning.size()), beginning))
+            found.push_back(entry.body);
+    return found;
+}
+
 } // namespace almanac

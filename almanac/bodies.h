@@ -3,7 +3,9 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 /// Places of the Sun, the Moon, planets and stars, and magnetic variation, for 1950 to 2100.
 namespace almanac
@@ -30,6 +32,13 @@ struct BodyEntry {
 std::span<const BodyEntry> bodies();
 
 const BodyEntry& entryOf(Body body);
+
+/// "the Sun", "the Moon", "Venus", "Arcturus".
+std::string bodyInSentence(Body body);
+
+/// Bodies whose names begin so, capitals or not, in the order of bodies(); a whole name or a
+/// star's number stands for itself alone.
+std::vector<Body> bodiesBeginning(std::string_view beginning);
 
 /// Whether a sextant brings a limb down to the horizon: of the Sun and the Moon.
 constexpr bool hasLimbs(Body body)

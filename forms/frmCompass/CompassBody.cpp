@@ -86,12 +86,6 @@ std::optional<almanac::Body> bodyOfBox(std::string_view box)
     return almanac::findBody(name);
 }
 
-std::string bodyInSentence(almanac::Body body)
-{
-    const std::string name(almanac::entryOf(body).name);
-    return body == almanac::Body::Sun || body == almanac::Body::Moon ? "the " + name : name;
-}
-
 void judgeBearing(almanac::Body body, const TrueBearing& seen, Remarks& remarks)
 {
     constexpr Degrees highest(60), fastest(0.5), lowest(-1.5);

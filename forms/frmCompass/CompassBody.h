@@ -55,9 +55,6 @@ std::optional<almanac::Crossing> crossingNear(almanac::Body body, NavFunc113::Da
 /// @return nothing for what is not in the almanac
 std::optional<almanac::Body> bodyOfBox(std::string_view box);
 
-/// "the Sun", "the Moon", "Venus", "Arcturus".
-std::string bodyInSentence(almanac::Body body);
-
 /// Why a bearing is worth little: above 60 degrees, faster than 0.5 degrees a minute, below the
 /// horizon.
 void judgeBearing(almanac::Body body, const TrueBearing& seen, Remarks& remarks);

@@ -9,6 +9,7 @@
 #include "forms/frmSunSight/panels/LinePanel.h"
 #include "forms/frmSunSight/panels/SightListPanel.h"
 #include "forms/frmSunSight/paper/SightPaper.h"
+#include "forms/frmSunSight/sight/SightBodies.h"
 #include "shell/machine/AsQString.h"
 
 #include <QMenu>
@@ -23,8 +24,10 @@ frmSunSight::frmSunSight(Program& program)
       m_lines(new LinePanel(body())), m_fixes(new FixPanel(body())),
       m_sights(new SightListPanel(body())),
       m_habits(program.files(), program.questions(), program.clock(), "KV_SunSightOwn.ini",
-               {FieldKind::Tick})
+               {FieldKind::Tick}),
+      m_bodies(program.files(), program.questions(), program.clock(), sightBodiesFile)
 {
+    m_entry->setBodyLabel(m_lines->bodyLabel());
     layOut({*m_entry, *m_lines, *m_fixes, *m_sights}, *scrollBody());
     foldColumns();
     connectPanels();
@@ -36,6 +39,7 @@ frmSunSight::frmSunSight(Program& program)
     followTD();
     useRecord();
     loadSettings();
+    loadBodies();
     offerDate();
     if (!m_list.list().sights().empty()) calculations().run(m_fixCalculation);
     m_entry->box(SightField::date)->setFocus();
@@ -148,6 +152,34 @@ void frmSunSight::takeOver(const SightSettings& settings)
                               .arg(count));
 }
 
+/// After the record, whose sights they belong to.
+void frmSunSight::loadBodies()
+{
+    const FileStore::Content file = m_bodies.read();
+    if (file.status != FileStore::Content::Status::Read) return;
+    m_bodiesOnDisk = file.bytes;
+    SightSettings settings{m_entry->sight(), m_entry->track(), m_entry->options(), m_list.list()};
+    const std::string damage = takeSightBodies(file.bytes, settings);
+    if (!damage.empty()) m_bodies.report("is damaged: " + damage, true);
+    m_list.take(settings.list);
+    m_entry->fill(settings.options);
+    m_entry->bodyBox()->setText(asQString(settings.sight.body));
+    calculations().runAll();
+}
+
+void frmSunSight::saveBodies()
+{
+    if (calculations().isHeld()) return;
+    const std::string bytes =
+        sightBodiesText({m_entry->sight(), m_entry->track(), m_entry->options(), m_list.list()});
+    // Who never took another body than the Sun has no such file.
+    const bool isFirst = m_bodiesOnDisk.empty() && bytes.find('=') == std::string::npos;
+    if (bytes == m_bodiesOnDisk || isFirst) return;
+    const std::string fault = m_bodies.saveQuietly(bytes);
+    if (fault.empty()) m_bodiesOnDisk = bytes;
+    setNotice("bodies~", asQString(fault), NoticeLevel::Fault);
+}
+
 void frmSunSight::salvage(const std::string& bytes)
 {
     m_list.take(SightList::salvaged(bytes));
@@ -170,6 +202,8 @@ void frmSunSight::runLine()
     m_line = CalculateLOP(sight, track, context());
     m_noon = CalculateMeridian(sight, track, context());
     m_lines->showResults(m_line, m_noon);
+    m_entry->showBody(m_line.figures.observation.body);
+    saveBodies();
     setNotice("1 sight", asQString(m_line.notice), m_line.level);
 }
 
@@ -194,6 +228,7 @@ void frmSunSight::cmdMark_Click()
 
 void frmSunSight::cmdRecord_Click()
 {
+    if (!isBodyMeant()) return;
     const auto outcome = m_list.put(m_entry->sight());
     if (outcome != SightList::Outcome::Recorded) {
         program().questions().ask({outcomeText(outcome), programTitle, Buttons::Ok});
@@ -205,7 +240,22 @@ void frmSunSight::cmdRecord_Click()
     const auto recorded = std::ranges::find(sights, m_entry->sight(), &RecordedSight::texts);
     if (recorded != sights.end())
         m_sights->choose(static_cast<std::size_t>(recorded - sights.begin()));
-    m_entry->turnTo(SightField::time);
+    // The next star of a round is another one, the next sight of the Sun is not.
+    if (m_entry->sight().body.empty())
+        m_entry->turnTo(SightField::time);
+    else
+        m_entry->bodyBox()->setFocus(Qt::TabFocusReason);
+}
+
+/// Asks about a body that can hardly be the one that was observed.
+bool frmSunSight::isBodyMeant()
+{
+    const BodyDoubt& doubt = m_line.doubt;
+    if (m_entry->sight().body.empty() || doubt.why.empty()) return true;
+    std::string question = doubt.why + ".";
+    if (!doubt.likely.empty()) question += "\rLikeliest other: " + doubt.likely + ".";
+    question += "\r\rRecord it as " + m_entry->sight().body + " all the same?";
+    return program().questions().ask({question, confirmationTitle, Buttons::YesNo}) == Answer::Yes;
 }
 
 void frmSunSight::cmdEdit_Click()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/records/RecordFile.h"
 #include "app/records/SettingsFile.h"
 #include "forms/frmSunSight/fix/SightFix.h"
 #include "forms/frmSunSight/sight/CalculateLOP.h"
@@ -19,10 +20,12 @@ class FixPanel;
 class LinePanel;
 class SightListPanel;
 
-/// A sight of the Sun with its worksheet, the list of recorded sights, their plot, and the fix.
+/// A sight of the Sun or of any other body with its worksheet, the list of recorded sights, their
+/// plot, and the fix.
 ///
 /// Record of "KV_SunSight.ini": see SightSettings.h. It is written at once whenever the list of
-/// sights changes. "KV_SunSightOwn.ini": whether the details are open.
+/// sights changes. "KV_SunSightOwn.ini": whether the details are open. "KV_SightBodies.ini": of
+/// which body each sight is, see SightBodies.h.
 class frmSunSight : public CalculatorWindow
 {
 public:
@@ -35,6 +38,9 @@ protected:
 private:
     void connectPanels();
     void rememberDetails();
+    void loadBodies();
+    void saveBodies();
+    bool isBodyMeant();
     void addSightMenu();
     void addMemoMenus();
     void addCalculations();
@@ -69,6 +75,8 @@ private:
     SightListPanel* m_sights;
 
     SettingsFile m_habits;
+    RecordFile m_bodies;
+    std::string m_bodiesOnDisk;
     SightEditing m_list;
     QString m_shipsTD;     ///< as it was put into the box
     QString m_offeredDate; ///< of a sight that is not begun, as it was put into the box

@@ -88,7 +88,8 @@ std::string timeLabel(const FixLine& line, const SightFixResult& fix)
     const std::string taken = Format(line.UTC, "hhmm");
     const std::string advanced = Format(*fix.UTC, "hhmm");
     const bool moved = fix.motion.speed > Knots(0) && fabs(line.sight.sinceFix) > Hours(1.0 / 60);
-    return moved ? taken + "-" + advanced : taken;
+    const std::string times = moved ? taken + "-" + advanced : taken;
+    return line.body.empty() ? times : line.body + " " + times;
 }
 
 PlotLine plotLine(const FixLine& line, const SightFixResult& fix, const PlotView& view)

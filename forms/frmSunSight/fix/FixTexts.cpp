@@ -29,11 +29,18 @@ std::string ellipseText(const ErrorEllipse& ellipse)
            " nm";
 }
 
-/// Time of day of a sight, with its date when it was not on the day of the fix.
+/// Body and time of day of a sight, with its date when it was not on the day of the fix.
 std::string timeOf(const FixLine& line, const SightFixResult& result)
 {
     const bool sameDay = std::floor(line.UTC) == std::floor(*result.UTC);
-    return Format(line.UTC, sameDay ? "hh:mm:ss" : "yyyy/mm/dd hh:mm:ss");
+    return (line.body.empty() ? "" : line.body + " ") +
+           Format(line.UTC, sameDay ? "hh:mm:ss" : "yyyy/mm/dd hh:mm:ss");
+}
+
+/// In the plot: its body, of a sight of the Sun its time.
+std::string shortName(const FixLine& line)
+{
+    return line.body.empty() ? Format(line.UTC, "hhmm") : line.body;
 }
 
 /// "11:45:11 by 12.3 miles away".
@@ -51,7 +58,7 @@ void addWithout(const std::vector<LineCheck>& checks, const std::string& times,
     const ErrorEllipse ellipse = EllipseOf(rest.matrix, AssumedSigmaFactor());
     std::string label = "without";
     for (const LineCheck& check : checks)
-        label += " " + Format(result.lines[check.index].UTC, "hhmm");
+        label += " " + shortName(result.lines[check.index]);
     result.without.push_back({rest.position, ellipse, label});
     result.withoutText += (result.withoutText.empty() ? "Without " : "; without ") + times + ": " +
                           positionText(rest.position) + ", 95 %: " + axesText(ellipse);

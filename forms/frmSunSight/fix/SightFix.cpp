@@ -37,9 +37,13 @@ std::vector<Observation> takeSights(const SightList& list, SightFixResult& resul
         if (!observation.complete()) continue;
         for (const std::string& warning : ofSight.warnings)
             remarks.warn("Sight of " + Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss") +
-                         " UTC: " + warning);
+                         " UTC: " + warning); // the paper looks for these words
         result.UTC = std::max(result.UTC.value_or(*observation.UTC), *observation.UTC);
-        result.lines.push_back({i, *observation.UTC, {}, {}, {}, {}});
+        FixLine line;
+        line.index = i;
+        line.UTC = *observation.UTC;
+        if (!observation.isSun()) line.body = almanac::entryOf(observation.body).name;
+        result.lines.push_back(line);
         observations.push_back(observation);
     }
     return observations;
@@ -53,10 +57,11 @@ bool makeLines(const std::vector<Observation>& observations, const Track& track,
     if (!result.DR) return false;
     for (std::size_t i = 0; i < observations.size(); ++i) {
         FixLine& line = result.lines[i];
-        const Observation& seen = observations[i];
         const auto DR = track.at(line.UTC);
         if (!DR) return false;
+        const Observation seen = observations[i].takenAt(*DR);
         line.DR = *DR;
+        line.Ho = seen.corrections->Ho;
         line.sight = seen.sight(*result.UTC);
         line.line = LineAt(line.sight, line.DR, {});
         line.line.azimuth = azimuthOfSun(*seen.GHA, *seen.declination, line.DR);
@@ -65,6 +70,17 @@ bool makeLines(const std::vector<Observation>& observations, const Track& track,
                     courseText(line.line.azimuth, "000.0");
     }
     return true;
+}
+
+/// A round of stars is referred to the time of the DR position when that lies within the round, as
+/// an officer plans it; every other fix to the last sight.
+DateTime timeOfFix(const Track& track, const SightFixResult& result)
+{
+    const auto isOfOther = [](const FixLine& line) { return !line.body.empty(); };
+    const DateTime last = *result.UTC;
+    if (!track.UTC || std::ranges::none_of(result.lines, isOfOther)) return last;
+    const DateTime first = std::ranges::min_element(result.lines, {}, &FixLine::UTC)->UTC;
+    return *track.UTC > first && *track.UTC < last ? *track.UTC : last;
 }
 
 std::string whyNoFix(FixOutcome outcome)
@@ -114,6 +130,7 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
         const std::vector<Observation> observations = takeSights(list, result, remarks);
         const Track track = readTrack(trackTexts, result.UTC, true, ofTrack);
         result.motion = track.motion.value_or(Motion{});
+        if (result.UTC) result.UTC = timeOfFix(track, result);
         const auto errors = readErrors(options, remarks);
         if (!result.UTC) {
             // The chart is laid out before the first sight.

@@ -16,6 +16,8 @@ namespace korvel
 struct FixLine {
     std::size_t index = 0; ///< in the list
     NavFunc113::DateTime UTC = 0;
+    std::string body; ///< its name; empty for the Sun
+    NavFunc113::DegMin Ho;
     NavFunc113::Sight sight;
     NavFunc113::LineOfPosition line; ///< referred to the DR position
     NavFunc113::Position DR;         ///< run to the time of the sight
@@ -30,7 +32,9 @@ struct FixPoint {
 };
 
 struct SightFixResult {
-    std::optional<NavFunc113::DateTime> UTC; ///< time of the last sight that is on
+    /// Time of the last sight that is on; in a round of stars that of the DR position, where this
+    /// lies within the round.
+    std::optional<NavFunc113::DateTime> UTC;
     std::optional<NavFunc113::Position> DR;  ///< run to that time: the middle of the plot. With
                                              ///< no sight on, as typed
     NavFunc113::Motion motion;
@@ -55,7 +59,7 @@ struct SightFixResult {
     NoticeLevel level = NoticeLevel::Remark; ///< of the notice
 };
 
-/// The fix from all recorded sights that are on, at the time of the last of them.
+/// The fix from all recorded sights that are on.
 /// @param now  UTC, for sights that lie ahead of it
 SightFixResult CalculateFix(const SightList& list, const TrackTexts& track,
                             const SightFixOptions& options,

@@ -3,6 +3,7 @@
 
 #include "app/reading/Reading.h"
 #include "forms/frmSunSight/panels/PanelParts.h"
+#include "forms/frmSunSight/sight/SightBody.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
@@ -57,10 +58,14 @@ void fillBoxes(const Texts& texts, const std::array<std::string Texts::*, N>& me
 } // namespace
 
 EntryPanel::EntryPanel(QWidget* parent)
-    : QWidget(parent), m_entry(entryFields, this), m_quality(qualityFields, this),
-      m_qualityRow(new QWidget(parent))
+    : QWidget(parent), m_body(bodyField, this), m_entry(entryFields, this),
+      m_quality(qualityFields, this), m_qualityRow(new QWidget(parent))
 {
     using namespace SightField;
+    bodyBox()->setPlaceholderText("Sun");
+    bodyBox()->setNext(m_entry[date]);
+    bodyBox()->setToolTip("Empty: the Sun. A name, as much of it as no other begins with, or the "
+                          "number of a star");
     m_entry[DRTime]->setToolTip("Empty: the time of the last sight that is on; a time alone: "
                                 "the one nearest to that sight");
     m_entry[air]->setPlaceholderText("10");
@@ -95,9 +100,10 @@ void EntryPanel::addOptions()
 QGroupBox* EntryPanel::layOutSight()
 {
     using namespace SightField;
-    auto* group = new QGroupBox("Sight of the Sun");
-    auto* grid = gridOf(group, Spacing::Dense);
+    auto* group = m_sightGroup = new QGroupBox("Sight of the Sun");
+    auto* grid = m_sightGrid = gridOf(group, Spacing::Dense);
     int row = 0;
+    m_body.addRow(grid, row++, 0);
     const auto addOptionRow = [&](const char* caption, const auto& buttons) {
         auto* line = new QHBoxLayout;
         for (QRadioButton* button : buttons)
@@ -163,6 +169,7 @@ void EntryPanel::layOutQuality()
 SightTexts EntryPanel::sight() const
 {
     SightTexts texts;
+    texts.body = bodyForRecord(bodyBox()->value());
     takeTexts(texts, sightMembers, m_entry, 0);
     texts.SMT = m_optSunScale[1]->isChecked();
     texts.upperLimb = m_optSunLimb[1]->isChecked();
@@ -187,9 +194,15 @@ SightFixOptions EntryPanel::options() const
 std::vector<PaperFigure> EntryPanel::paperFigures() const
 {
     using namespace SightField;
-    std::vector<PaperFigure> figures = {
-        {"The watch keeps", m_optSunScale[1]->isChecked() ? "SMT, ship's mean time" : "UTC"},
-        {"Limb", m_optSunLimb[1]->isChecked() ? "upper" : "lower"}};
+    const bool isSun = sight().body.empty();
+    Remarks unheard;
+    const auto body = readBody(bodyBox()->value(), unheard);
+    std::vector<PaperFigure> figures;
+    if (!isSun) figures.push_back({"Body", sight().body});
+    figures.push_back(
+        {"The watch keeps", m_optSunScale[1]->isChecked() ? "SMT, ship's mean time" : "UTC"});
+    if (body && almanac::hasLimbs(*body))
+        figures.push_back({"Limb", m_optSunLimb[1]->isChecked() ? "upper" : "lower"});
     const auto add = [&](const FieldBoxes& boxes, std::size_t field, const QString& empty) {
         PaperFigure figure = boxes.paperFigure(field);
         if (boxes[field]->value().empty() && !empty.isEmpty()) {
@@ -222,9 +235,29 @@ std::vector<PaperFigure> EntryPanel::paperFigures() const
 
 void EntryPanel::fill(const SightTexts& sight)
 {
+    bodyBox()->setText(asQString(sight.body));
     fillBoxes(sight, sightMembers, m_entry, 0);
     m_optSunScale[sight.SMT ? 1 : 0]->setChecked(true);
     m_optSunLimb[sight.upperLimb ? 1 : 0]->setChecked(true);
+}
+
+void EntryPanel::setBodyLabel(QWidget* label)
+{
+    m_sightGrid->addWidget(label, 0, 2);
+}
+
+void EntryPanel::showBody(almanac::Body body)
+{
+    m_sightGroup->setTitle("Sight of " + asQString(almanac::bodyInSentence(body)));
+    for (QRadioButton* limb : m_optSunLimb)
+        limb->setEnabled(almanac::hasLimbs(body));
+}
+
+std::vector<EntryBox*> EntryPanel::lineBoxes() const
+{
+    std::vector<EntryBox*> boxes = m_entry.all();
+    boxes.push_back(bodyBox());
+    return boxes;
 }
 
 void EntryPanel::clearSight()

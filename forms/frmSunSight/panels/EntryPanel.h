@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "almanac/bodies.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "shell/controls/FieldBoxes.h"
 
 #include <QWidget>
 
 class QCheckBox;
+class QGridLayout;
 class QGroupBox;
 class QPushButton;
 class QRadioButton;
@@ -14,8 +16,8 @@ class QRadioButton;
 namespace korvel
 {
 
-/// The boxes of the sun sight window: the sight being entered and the track; on a row of their own
-/// how good the lines are held to be.
+/// The boxes of the sun sight window: the sight being entered, its body first, and the track; on a
+/// row of their own how good the lines are held to be.
 class EntryPanel : public QWidget
 {
     Q_OBJECT
@@ -37,12 +39,19 @@ public:
 
     EntryBox* box(std::size_t field) const { return m_entry[field]; }
     /// What the line of position depends on: sight and track.
-    std::vector<EntryBox*> lineBoxes() const { return m_entry.all(); }
+    std::vector<EntryBox*> lineBoxes() const;
     /// What the fix depends on: how good the lines are, and the track.
     std::vector<EntryBox*> fixBoxes() const;
 
     /// The row of boxes that lies beside the fix.
     QWidget* qualityRow() const { return m_qualityRow; }
+
+    /// The box of the body, before all others.
+    EntryBox* bodyBox() const { return m_body[0]; }
+    /// Says beside it what the body is.
+    void setBodyLabel(QWidget* label);
+    /// What can be entered of a sight of this body.
+    void showBody(almanac::Body body);
 
     /// Moves the focus to a box, its text selected.
     void turnTo(std::size_t field);
@@ -62,11 +71,14 @@ private:
     QGroupBox* layOutTrack();
     void layOutQuality();
 
+    FieldBoxes m_body;
     FieldBoxes m_entry;
     FieldBoxes m_quality;
     std::array<QRadioButton*, 2> m_optSunScale{}; ///< UTC, SMT
     std::array<QRadioButton*, 2> m_optSunLimb{};  ///< lower, upper
     QCheckBox* m_chkSunMeasured = nullptr;
+    QGroupBox* m_sightGroup = nullptr;
+    QGridLayout* m_sightGrid = nullptr;
     QWidget* m_qualityRow;
     QPushButton* m_cmdRecord = nullptr;
     QPushButton* m_cmdNew = nullptr;

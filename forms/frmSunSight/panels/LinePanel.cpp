@@ -14,11 +14,12 @@ namespace korvel
 LinePanel::LinePanel(QWidget* parent)
     : QWidget(parent), m_noon(new QGroupBox("Meridian passage", parent)),
       m_worksheet(new QGroupBox("Worksheet", this)), m_details(new DetailsFold(m_worksheet, this)),
-      m_lblSunTime(sightTimeResults, this), m_lblSunLine(lineResults, this),
-      m_lblSunNoon(noonResults, this)
+      m_lblSunBody(sightBodyResults, this), m_lblSunTime(sightTimeResults, this),
+      m_lblSunLine(lineResults, this), m_lblSunNoon(noonResults, this)
 {
     auto* column = new QVBoxLayout(this);
     layOutBody(*column, Spacing::Dense);
+    makeSentence(bodyLabel(), 1);
     layOutWorksheet();
     column->addWidget(layOutLine());
     column->addWidget(m_details, 0, Qt::AlignLeft);
@@ -93,6 +94,7 @@ void LinePanel::layOutNoon()
 std::vector<ResultLabel*> LinePanel::results() const
 {
     std::vector<ResultLabel*> all = m_lblSunTime.all();
+    all.push_back(bodyLabel());
     all.insert(all.end(), m_lblSunValue.begin(), m_lblSunValue.end());
     all.insert(all.end(), m_lblSunLine.all().begin(), m_lblSunLine.all().end());
     all.insert(all.end(), m_lblSunNoon.all().begin(), m_lblSunNoon.all().end());
@@ -101,6 +103,7 @@ std::vector<ResultLabel*> LinePanel::results() const
 
 void LinePanel::showResults(const LOPResult& line, const MeridianResult& noon)
 {
+    m_lblSunBody.show(line);
     m_lblSunTime.show(line);
     showWorksheet(line.worksheet);
     m_lblSunLine.show(line);

@@ -24,6 +24,8 @@ public:
 
     std::vector<ResultLabel*> results() const;
 
+    /// What the body is, for the place beside its box.
+    ResultLabel* bodyLabel() const { return m_lblSunBody[0]; }
     QGroupBox* noon() const { return m_noon; }
     DetailsFold& details() { return *m_details; }
 
@@ -39,6 +41,7 @@ private:
     QGroupBox* m_noon;
     QGroupBox* m_worksheet;
     DetailsFold* m_details;
+    ResultLabels<LOPResult> m_lblSunBody;
     ResultLabels<LOPResult> m_lblSunTime;
     std::array<QLabel*, worksheetLines> m_lblSunTerm{};
     std::array<ResultLabel*, worksheetLines> m_lblSunValue{};

@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/sight/SightBody.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 
@@ -29,10 +30,12 @@ std::string watchErrorText(const SightTexts& sight)
            (seconds > 0 ? "fast, taken off" : "slow, added");
 }
 
-std::vector<WorksheetLine> worksheetOf(const SightCorrections& sight)
+using Applied = std::vector<std::pair<const char*, double>>;
+
+Applied appliedToSun(const SightCorrections& sight)
 {
     const AltitudeCorrectionTerms& terms = sight.terms;
-    std::vector<std::pair<const char*, double>> applied = {
+    Applied applied = {
         {"Index error", -sight.indexError},
         {"Dip", terms.dip},
         {"Refraction", -terms.refraction},
@@ -45,6 +48,33 @@ std::vector<WorksheetLine> worksheetOf(const SightCorrections& sight)
     };
     if (sight.upperLimb != 0)
         applied.emplace_back("Upper limb: less the diameter", sight.upperLimb);
+    return applied;
+}
+
+Applied appliedToOther(const SightCorrections& sight)
+{
+    const almanac::SextantTerms& terms = *sight.ofBody;
+    Applied applied = {
+        {"Index error", -sight.indexError},
+        {"Dip", terms.dip},
+        {"Air - sea", terms.airSea},
+        {"Refraction", terms.refraction},
+        {"Air temperature", terms.temperature},
+        {"Pressure", terms.pressure},
+    };
+    if (terms.semiDiameter != 0) {
+        applied.emplace_back(terms.semiDiameter < 0 ? "Semi-diameter, upper limb" : "Semi-diameter",
+                             terms.semiDiameter);
+        applied.emplace_back("Augmentation", terms.augmentation);
+    }
+    if (terms.parallax != 0) applied.emplace_back("Parallax", terms.parallax);
+    if (terms.semiDiameter != 0) applied.emplace_back("Shape of the earth", terms.oblateness);
+    return applied;
+}
+
+std::vector<WorksheetLine> worksheetOf(const SightCorrections& sight)
+{
+    const Applied applied = sight.ofBody ? appliedToOther(sight) : appliedToSun(sight);
     std::vector<WorksheetLine> lines = {{"Hs", angleText(sight.Hs)}};
     int sum = tenthsShown(sight.Hs);
     for (const auto& [caption, minutes] : applied) {
@@ -81,14 +111,23 @@ void showLine(const Observation& observation, const Position& DR, LOPResult& res
     result.figures.sun = sun;
     result.figures.isByQuotient = quotient.has_value();
     result.Zn = courseText(*result.azimuth, "000.0");
-    if (sun.altitude < Degrees(0))
+    result.doubt = doubtOf(observation, DR);
+    if (!observation.isSun()) remarks.warn(result.doubt.remark());
+    if (observation.isSun() && sun.altitude < Degrees(0))
         remarks.warn("The Sun is below the horizon of the DR position: check date, time and "
                      "position");
     if (!observation.corrections) return;
     const DegMin Ho = observation.corrections->Ho;
     result.intercept = interceptText(Ho, Hc);
-    if (fabs(Intercept(DegMinToDeg(Ho), sun.altitude)) > Miles(60))
+    if (observation.isSun() && fabs(Intercept(DegMinToDeg(Ho), sun.altitude)) > Miles(60))
         remarks.warn("Intercept of more than 60 miles: check date, time, altitude and position");
+}
+
+/// Beside its box: what the body is, or what it may have been instead.
+std::string bodyShown(almanac::Body body, const BodyDoubt& doubt)
+{
+    if (!doubt.likely.empty()) return "likeliest: " + doubt.likely;
+    return bodyFacts(body);
 }
 
 } // namespace
@@ -98,7 +137,7 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
 {
     LOPResult result;
     Remarks remarks;
-    const Observation observation = readObservation(sight, remarks);
+    Observation observation = readObservation(sight, remarks);
     const Track track = readTrack(trackTexts, std::max(context.lastSight, observation.UTC),
                                   sight.isBegun(), remarks);
     if (observation.UTC) {
@@ -109,20 +148,22 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
     const auto shipsTD = context.shipsTD;
     if (sight.SMT && sight.isBegun() && shipsTD && Hours(readNumber(sight.TD)) != *shipsTD)
         remarks.warn("TD is not the ship's, which is " + Format(*shipsTD, "0.##"));
-    if (observation.corrections) {
-        result.worksheet = worksheetOf(*observation.corrections);
-        result.Ho = angleText(observation.corrections->Ho);
-    }
     std::optional<Position> DR;
     if (observation.GHA && observation.declination) {
         result.GHA = angleText(withinCircle(*observation.GHA));
         result.declination = angleText(*observation.declination);
         DR = track.at(*observation.UTC);
+        if (DR) observation = observation.takenAt(*DR);
+    }
+    if (observation.corrections) {
+        result.worksheet = worksheetOf(*observation.corrections);
+        result.Ho = angleText(observation.corrections->Ho);
     }
     if (DR)
         showLine(observation, *DR, result, remarks);
     else if (track.position && track.timeUsable && track.motion && observation.UTC)
         remarks.fault("DR position: the run from its time ends beyond latitude 89");
+    result.body = bodyShown(observation.body, result.doubt);
     result.figures.observation = observation;
     result.figures.track = track;
     result.figures.DR = DR;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/reading/Remarks.h"
+#include "forms/frmSunSight/sight/BodySight.h"
 #include "forms/frmSunSight/sight/SightInput.h"
 
 #include <string>
@@ -26,6 +27,7 @@ struct LOPFigures {
 };
 
 struct LOPResult {                        ///< an empty text blanks the label
+    std::string body;                     ///< what is known of it, or what else it may have been
     std::string UTC;                      ///< resolved, with its date
     std::string SMT;                      ///< the same with TD, when the watch keeps SMT
     std::string watchError;               ///< how it was applied
@@ -39,6 +41,7 @@ struct LOPResult {                        ///< an empty text blanks the label
     std::string Zn;
     std::optional<NavFunc113::Degrees> azimuth; ///< the same in full
     LOPFigures figures;
+    BodyDoubt doubt;    ///< whether it was that body at all; empty without a DR position
     std::string notice; ///< every input that cannot be used, then what the officer should know
     NoticeLevel level = NoticeLevel::Remark; ///< of the notice
 };

@@ -10,6 +10,11 @@
 namespace korvel
 {
 
+/// What is said of its body.
+inline constexpr std::array<Result<LOPResult>, 1> sightBodyResults = {{
+    {"lblSunBody", "", "", Weight::Remark, &LOPResult::body, "Body of the sight"},
+}};
+
 /// What is said of the time of the sight being entered.
 inline constexpr std::array<Result<LOPResult>, 3> sightTimeResults = {{
     {"lblSunTime(0)", "", "UTC", Weight::Remark, &LOPResult::UTC, "Time of the sight"},

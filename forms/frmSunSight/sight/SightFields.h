@@ -68,6 +68,11 @@ inline constexpr std::array<Field, SightField::ofSight + SightField::ofTrack> en
      100},
 }};
 
+/// The body of the sight, before all else.
+inline constexpr std::array<Field, 1> bodyField = {{
+    {"txtSunBody", "Body", "Body of the sight", "name or number", FieldKind::Text, ""},
+}};
+
 /// How good the lines are held to be.
 inline constexpr std::array<Field, 3> qualityFields = {{
     {"txtSunSigma(0)", "Sigma", "Sigma of a line", "nautical miles", FieldKind::Figure, "nm", 0.1,

@@ -6,6 +6,8 @@
 #include "app/reading/PackedText.h"
 #include "app/reading/Reading.h"
 #include "app/reading/TypedTime.h"
+#include "forms/frmSunSight/sight/BodySight.h"
+#include "forms/frmSunSight/sight/SightBody.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
@@ -103,31 +105,48 @@ void warnOfRefraction(DegMin observed, const AltitudeCorrectionTerms& terms, Rem
                  (usual > shown ? " too great" : " too small"));
 }
 
-/// The library is given the altitude above the sea horizon, index error taken off.
-std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<DateTime> UTC,
-                                        Remarks& remarks)
+void warnOfMinutes(DegMin Hs, Remarks& remarks)
+{
+    if (Hs.packed() - std::floor(Hs.packed()) >= 0.6)
+        remarks.warn("Sextant altitude: minutes of 60 and more, read as " +
+                     inFullForm(Format(DegToDegMin(DegMinToDeg(Hs)), "0.00'0")));
+}
+
+/// What the boxes say of an altitude, before anything is corrected.
+std::optional<SightCorrections> readCorrections(const SightTexts& texts,
+                                                std::optional<DateTime> UTC, Remarks& remarks)
 {
     const AltitudeInputs inputs = readAltitude(texts, remarks);
     if (!inputs.complete() || !UTC) return std::nullopt;
     SightCorrections corrections;
     corrections.Hs = DegMin(*inputs.Hs);
     corrections.indexError = *inputs.indexError;
-    const DegMin observed =
+    corrections.observed =
         DegToDegMin(DegMinToDeg(corrections.Hs) - Degrees(corrections.indexError / 60));
-    const auto month = static_cast<float>(DateOf(*UTC).month);
-    const Metres eye(*inputs.eye);
-    const auto pressure = static_cast<float>(*inputs.pressure);
-    corrections.observed = observed;
     corrections.month = DateOf(*UTC).month;
-    corrections.heightOfEye = eye;
+    corrections.heightOfEye = Metres(*inputs.eye);
     corrections.air = *inputs.air;
     corrections.sea = *inputs.sea;
-    corrections.pressure = pressure;
+    corrections.pressure = static_cast<float>(*inputs.pressure);
+    corrections.limb = texts.upperLimb ? almanac::Limb::Upper : almanac::Limb::Lower;
+    return corrections;
+}
+
+/// The library is given the altitude above the sea horizon, index error taken off.
+std::optional<SightCorrections> correctSun(const SightTexts& texts, std::optional<DateTime> UTC,
+                                           Remarks& remarks)
+{
+    auto read = readCorrections(texts, UTC, remarks);
+    if (!read) return std::nullopt;
+    SightCorrections& corrections = *read;
+    const auto month = static_cast<float>(corrections.month);
     try {
         corrections.terms =
-            SunAltitudeTerms(observed, month, eye, *inputs.air, *inputs.sea, pressure);
+            SunAltitudeTerms(corrections.observed, month, corrections.heightOfEye, corrections.air,
+                             corrections.sea, corrections.pressure);
         corrections.Ho =
-            SunAltitudeCorrection(observed, month, eye, *inputs.air, *inputs.sea, pressure);
+            SunAltitudeCorrection(corrections.observed, month, corrections.heightOfEye,
+                                  corrections.air, corrections.sea, corrections.pressure);
     } catch (const ArithmeticError& error) {
         remarks.fault(std::string("Altitude correction: ") + error.what());
         return std::nullopt;
@@ -139,11 +158,40 @@ std::optional<SightCorrections> correct(const SightTexts& texts, std::optional<D
         corrections.Ho =
             DegToDegMin(DegMinToDeg(corrections.Ho) + Degrees(corrections.upperLimb / 60));
     }
-    if (*inputs.Hs - std::floor(*inputs.Hs) >= 0.6)
-        remarks.warn("Sextant altitude: minutes of 60 and more, read as " +
-                     inFullForm(Format(DegToDegMin(DegMinToDeg(corrections.Hs)), "0.00'0")));
-    warnOfRefraction(observed, corrections.terms, remarks);
-    return corrections;
+    warnOfMinutes(corrections.Hs, remarks);
+    warnOfRefraction(corrections.observed, corrections.terms, remarks);
+    return read;
+}
+
+void observeSun(const SightTexts& texts, Observation& observation, Remarks& remarks)
+{
+    observation.corrections = correctSun(texts, observation.UTC, remarks);
+    if (!observation.UTC) return;
+    try {
+        observation.sun = FiguresOfSun(*observation.UTC);
+        observation.GHA = observation.sun->GHA;
+        observation.declination = observation.sun->declination;
+    } catch (const ArithmeticError& error) {
+        remarks.fault(std::string("Place of the Sun: ") + error.what());
+    }
+}
+
+void observeOther(const SightTexts& texts, Observation& observation, Remarks& remarks)
+{
+    const auto corrections = readCorrections(texts, observation.UTC, remarks);
+    if (!observation.UTC) return;
+    try {
+        observation.place = almanac::Sky(*observation.UTC).place(observation.body);
+    } catch (const almanac::OutOfRange& outside) {
+        remarks.fault(std::string("Date of the sight: ") + outside.what());
+        return;
+    }
+    observation.GHA = DegToDegMin(observation.place->gha);
+    observation.declination = DegToDegMin(observation.place->declination);
+    if (!corrections) return;
+    observation.corrections = corrected(*corrections, observation, {});
+    warnOfMinutes(corrections->Hs, remarks);
+    warnOfLowBody(*observation.corrections, remarks);
 }
 
 } // namespace
@@ -164,17 +212,11 @@ std::optional<double> readBox(const Field& field, const std::string& text,
 Observation readObservation(const SightTexts& texts, Remarks& remarks)
 {
     Observation observation;
+    const auto body = readBody(texts.body, remarks);
     observation.UTC = readUTC(texts, remarks);
-    observation.corrections = correct(texts, observation.UTC, remarks);
-    if (observation.UTC) {
-        try {
-            observation.sun = FiguresOfSun(*observation.UTC);
-            observation.GHA = observation.sun->GHA;
-            observation.declination = observation.sun->declination;
-        } catch (const ArithmeticError& error) {
-            remarks.fault(std::string("Place of the Sun: ") + error.what());
-        }
-    }
+    if (!body) return observation;
+    observation.body = *body;
+    (observation.isSun() ? observeSun : observeOther)(texts, observation, remarks);
     return observation;
 }
 

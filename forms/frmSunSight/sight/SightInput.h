@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "almanac/sextant.h"
+#include "almanac/sky.h"
 #include "app/reading/Remarks.h"
 #include "forms/frmSunSight/sight/SightTexts.h"
 #include "navlib/sky/ephemeris.h"
@@ -30,27 +32,37 @@ struct SightCorrections {
     NavFunc113::DegMin observed; ///< index error taken off: the altitude above the sea horizon
     int month = 0;
     NavFunc113::Metres heightOfEye;
-    double air = 0;     ///< degrees Celsius
-    double sea = 0;     ///< degrees Celsius
-    float pressure = 0; ///< hectopascals
-    NavFunc113::AltitudeCorrectionTerms terms;
-    double upperLimb = 0; ///< minutes; 0 for the lower limb
+    double air = 0;                            ///< degrees Celsius
+    double sea = 0;                            ///< degrees Celsius
+    float pressure = 0;                        ///< hectopascals
+    NavFunc113::AltitudeCorrectionTerms terms; ///< of the Sun
+    double upperLimb = 0;                      ///< minutes, of the Sun; 0 for the lower limb
+    almanac::Limb limb = almanac::Limb::Lower;
+    std::optional<almanac::SextantTerms> ofBody; ///< of every other body, instead of these
     NavFunc113::DegMin Ho;
 };
 
 /// A sight with its inputs resolved; what could not be resolved is absent.
 struct Observation {
+    almanac::Body body = almanac::Body::Sun;
     std::optional<NavFunc113::DateTime> UTC;
-    std::optional<NavFunc113::SunFigures> sun; ///< what the two below follow from
+    std::optional<NavFunc113::SunFigures> sun; ///< what the two below follow from; the Sun's alone
+    std::optional<almanac::Place> place;       ///< the same of every other body
     std::optional<NavFunc113::DegMin> GHA;     ///< as the library gives it
     std::optional<NavFunc113::DegMin> declination;
     std::optional<SightCorrections> corrections;
+
+    bool isSun() const { return body == almanac::Body::Sun; }
+    /// The sight as it is from a place: what the earth's shape adds to the parallax, 0.2' for the
+    /// Moon. A sight of the Sun comes back as it is.
+    Observation takenAt(const NavFunc113::Position& place) const;
 
     bool complete() const { return UTC && GHA && declination && corrections; }
     /// The sight as the fix takes it. @pre complete()
     NavFunc113::Sight sight(NavFunc113::DateTime timeOfFix) const;
 };
-/// Of a sight that is not begun nothing empty is remarked upon.
+/// Of a body other than the Sun the sight is corrected for the sphere; takenAt() goes on from
+/// there. Of a sight that is not begun nothing empty is remarked upon.
 Observation readObservation(const SightTexts& texts, Remarks& remarks);
 
 /// The track resolved; what could not be resolved is absent.

@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/sight/SightBody.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightInput.h"
 #include "forms/frmSunSight/sight/SightLine.h"
@@ -32,8 +33,8 @@ bool isSameSight(const SightTexts& a, const SightTexts& b)
     const Observation first = observationOf(a), second = observationOf(b);
     constexpr double halfSecond = 0.5 / 86400;
     constexpr double halfTenth = 0.05 / 60;
-    return first.complete() && second.complete() && a.upperLimb == b.upperLimb &&
-           std::fabs(*first.UTC - *second.UTC) < halfSecond &&
+    return first.complete() && second.complete() && first.body == second.body &&
+           a.upperLimb == b.upperLimb && std::fabs(*first.UTC - *second.UTC) < halfSecond &&
            fabs(NavFunc113::DegMinToDeg(first.corrections->Ho) -
                 NavFunc113::DegMinToDeg(second.corrections->Ho)) < NavFunc113::Degrees(halfTenth);
 }
@@ -114,6 +115,16 @@ SightList::Outcome SightList::replace(std::size_t index, const SightTexts& texts
 void SightList::setOn(std::size_t index, bool on)
 {
     if (index < m_sights.size()) m_sights[index].on = on;
+}
+
+void SightList::setBody(std::size_t index, const std::string& body)
+{
+    if (index < m_sights.size()) m_sights[index].texts.body = body;
+}
+
+std::string SightList::textWithoutBody(const SightTexts& sight)
+{
+    return textOfSight({sight, true});
 }
 
 void SightList::remove(std::size_t index)
@@ -221,8 +232,11 @@ std::string listLine(const RecordedSight& sight)
 {
     const Observation observation = observationOf(sight.texts);
     if (!observation.complete()) return "?";
-    return Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC  Hs " +
-           angleText(observation.corrections->Hs) + (sight.texts.upperLimb ? " upper limb" : "") +
+    const bool isUpper = sight.texts.upperLimb && almanac::hasLimbs(observation.body);
+    const std::string time = Format(*observation.UTC, "yyyy/mm/dd hh:mm:ss");
+    // Of other bodies their name stands where the Sun's line has the scale.
+    return time + (observation.isSun() ? " UTC" : "  " + bodyForRecord(sight.texts.body)) +
+           "  Hs " + angleText(observation.corrections->Hs) + (isUpper ? " upper limb" : "") +
            "  Ho " + angleText(observation.corrections->Ho);
 }
 

@@ -36,6 +36,8 @@ public:
     /// Puts an edited sight in the place of another; nothing changes unless Recorded.
     Outcome replace(std::size_t index, const SightTexts& texts);
     void setOn(std::size_t index, bool on);
+    /// Of which body a sight is, kept in a file of its own.
+    void setBody(std::size_t index, const std::string& body);
     void remove(std::size_t index);
     void clear();
 
@@ -54,6 +56,8 @@ public:
     /// Texts for the settings record, always `most` of them: the sights, then what could not be
     /// read, then empty ones.
     std::vector<std::string> texts() const;
+    /// A sight as its record has it, but for whether it is on: what its body is kept by.
+    static std::string textWithoutBody(const SightTexts& sight);
     /// Takes the texts over. What cannot be read as a sight is kept as it stands and written back.
     static SightList fromTexts(const std::vector<std::string>& texts);
     /// True for a text of texts() that is a sight.

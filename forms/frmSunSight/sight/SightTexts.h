@@ -7,9 +7,10 @@
 namespace korvel
 {
 
-/// A sight of the Sun as typed. Empty boxes: index error, watch error, TD and height of eye are 0;
+/// A sight as typed. Empty boxes: index error, watch error, TD and height of eye are 0;
 /// air and sea 10 degrees (the sea: as the air), pressure 1013 hPa, the air of the tables.
 struct SightTexts {
+    std::string body;       ///< name or number; empty: the Sun
     std::string date;       ///< by the scale below
     std::string time;       ///< by the watch, h:mm:ss
     bool SMT = false;       ///< the watch keeps ship's mean time; else UTC
@@ -44,6 +45,7 @@ struct SightFixOptions {
     std::string runAlong;  ///< per cent of the distance run; empty: 5
     std::string runCourse; ///< degrees of the course made good; empty: 2
     bool measured = false; ///< scale the ellipse by the residuals (three lines or more)
+    bool series = false;   ///< shots of one body within a quarter of an hour are one line
 };
 
 } // namespace korvel
