@@ -33,6 +33,50 @@ std::optional<MeridianLatitudes> LatitudesByAltitude(Degrees declination, Degree
 /// much.
 bool IsNearMeridian(Degrees hourAngle, Degrees observedAltitude);
 
+/// An altitude taken near the upper or the lower meridian, reduced to it without approximation.
+struct ExMeridian {
+    Degrees latitude;
+    Miles reduction;        ///< latitude less that of the same altitude on the meridian
+    bool isUpper = true;    ///< else below the pole
+    double minutes = 0;     ///< of time from that meridian, after it positive
+    double limit = 0;       ///< of these: as many as the zenith distance has degrees, at most 30
+    double ofLongitude = 0; ///< minutes of latitude that a minute of longitude is worth
+    bool isWithinLimit() const;
+};
+/// @param near latitude by dead reckoning: of the two possible ones the nearer comes back
+/// @return nothing when the body stands that high nowhere on the meridian
+std::optional<ExMeridian> ReducedToMeridian(Degrees declination, Degrees observedAltitude,
+                                            Degrees hourAngle, Degrees near);
+
+/// One of two altitudes of a body on both sides of the meridian.
+struct AltitudeOfPair {
+    Degrees GHA;
+    Degrees declination;
+    Degrees observedAltitude; ///< corrected
+    Hours sinceMean;          ///< from the mean of the two times
+};
+/// Longitude from two altitudes of a body to the east and to the west of a moving ship. They need
+/// not be equal: the longitude is the one at which the altitudes differ as they were observed to,
+/// the ship on her track, so that the body's change of declination and the ship's of latitude are
+/// taken in whole.
+struct EqualAltitudes {
+    Position atMean;        ///< at the mean of the times; the latitude is that given
+    double ofAltitudes = 0; ///< minutes of longitude for a minute in each altitude
+    double ofNorthing = 0;  ///< minutes of longitude for a minute an hour in the rate of latitude
+};
+/// @return nothing when both lie on one side of the meridian, or nearer to it than two degrees
+std::optional<EqualAltitudes> LongitudeByEqualAltitudes(const AltitudeOfPair& first,
+                                                        const AltitudeOfPair& second,
+                                                        const Position& atMean,
+                                                        const Motion& motion);
+
+/// Seconds by which the passage comes after the mean of two times of equal altitude, for hour
+/// angles that are small: 15.28 (tan L - tan d) (ship's rate - body's rate). A ship that goes away
+/// from the body has its greatest altitude before the passage.
+/// @param bodyNorthward, shipNorthward rates in minutes of arc an hour
+double PassageAfterMean(Degrees latitude, Degrees declination, double bodyNorthward,
+                        double shipNorthward);
+
 /// One step towards the passage over the meridian.
 struct NoonStep {
     DateTime instant = 0;

@@ -81,13 +81,16 @@ void LinePanel::layOutNoon()
     makeSentence(m_lblSunNoon[passage], 1);
     makeSentence(m_lblSunNoon[greatest], 1);
     makeSentence(m_lblSunNoon[note], 2);
+    makeSentence(m_lblSunNoon[exMeridian], 2);
     m_lblSunNoon[latitude]->setRoom("00-.00'0N");
-    grid->addWidget(new QLabel(noonResults[passage].caption), 0, 0);
+    m_passage = new QLabel(noonResults[passage].caption);
+    grid->addWidget(m_passage, 0, 0);
     grid->addWidget(m_lblSunNoon[greatest], 0, 1);
     grid->addWidget(m_lblSunNoon[passage], 1, 0, 1, 2);
     grid->addWidget(new QLabel(noonResults[latitude].caption), 2, 0);
     grid->addWidget(m_lblSunNoon[latitude], 2, 1);
     grid->addWidget(m_lblSunNoon[note], 3, 0, 1, 2);
+    grid->addWidget(m_lblSunNoon[exMeridian], 4, 0, 1, 2);
     grid->setColumnStretch(1, 1);
 }
 
@@ -107,6 +110,8 @@ void LinePanel::showResults(const LOPResult& line, const MeridianResult& noon)
     m_lblSunTime.show(line);
     showWorksheet(line.worksheet);
     m_lblSunLine.show(line);
+    m_passage->setText(noon.caption.empty() ? noonResults[NoonShown::passage].caption
+                                            : asQString(noon.caption));
     m_lblSunNoon.show(noon);
     tellSentencesInTips(m_lblSunNoon.all());
 }

@@ -41,6 +41,7 @@ private:
     QGroupBox* m_noon;
     QGroupBox* m_worksheet;
     DetailsFold* m_details;
+    QLabel* m_passage = nullptr; ///< caption of the passage
     ResultLabels<LOPResult> m_lblSunBody;
     ResultLabels<LOPResult> m_lblSunTime;
     std::array<QLabel*, worksheetLines> m_lblSunTerm{};

@@ -126,8 +126,8 @@ void showLine(const Observation& observation, const Position& DR, LOPResult& res
 /// Beside its box: what the body is, or what it may have been instead.
 std::string bodyShown(almanac::Body body, const BodyDoubt& doubt)
 {
-    if (!doubt.likely.empty()) return "likeliest: " + doubt.likely;
-    return bodyFacts(body);
+    if (doubt.likely.empty()) return bodyFacts(body);
+    return doubt.likely.substr(0, doubt.likely.find(" (")) + "?";
 }
 
 } // namespace
@@ -161,7 +161,8 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
     }
     if (DR)
         showLine(observation, *DR, result, remarks);
-    else if (track.position && track.timeUsable && track.motion && observation.UTC)
+    else if (track.position && track.timeUsable && track.motion && observation.UTC &&
+             (sight.body.empty() || observation.GHA))
         remarks.fault("DR position: the run from its time ends beyond latitude 89");
     result.body = bodyShown(observation.body, result.doubt);
     result.figures.observation = observation;

@@ -39,13 +39,15 @@ inline constexpr std::array<Result<LOPResult>, 6> lineResults = {{
 /// The meridian passage nearest to it.
 namespace NoonShown
 {
-enum : std::size_t { passage, greatest, latitude, note };
+enum : std::size_t { passage, greatest, latitude, note, exMeridian };
 }
-inline constexpr std::array<Result<MeridianResult>, 4> noonResults = {{
+inline constexpr std::array<Result<MeridianResult>, 5> noonResults = {{
     {"lblSunNoon(0)", "Local apparent noon", "", Weight::Remark, &MeridianResult::noon},
     {"lblSunNoon(1)", "", "", Weight::Remark, &MeridianResult::greatest, "Greatest altitude"},
     {"lblSunNoon(2)", "Latitude by the sight", "", Weight::Figure, &MeridianResult::latitude},
     {"lblSunNoon(3)", "", "", Weight::Remark, &MeridianResult::note, "The sight and the meridian"},
+    {"lblSunNoon(4)", "", "", Weight::Remark, &MeridianResult::exMeridian,
+     "Reduction to the meridian"},
 }};
 
 } // namespace korvel

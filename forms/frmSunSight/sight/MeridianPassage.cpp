@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/sight/BodyMeridian.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 #include "navlib/sky/ephemeris.h"
@@ -49,15 +50,6 @@ std::string greatestText(DateTime noon, const Position& ship, const Motion& moti
            (figures.delay < 0 ? "earlier" : "later");
 }
 
-/// A DR position is trusted as far as the plot reaches, forty miles each way: the other latitude is
-/// possible too unless it lies further from it by more than that span.
-bool isSideInDoubt(const MeridianLatitudes& latitudes, Degrees shipLatitude)
-{
-    const Degrees ofSouth = fabs(latitudes.bodyToTheSouth - shipLatitude);
-    const Degrees ofNorth = fabs(latitudes.bodyToTheNorth - shipLatitude);
-    return MilesOfArc(fabs(ofSouth - ofNorth)) < Miles(80);
-}
-
 std::string meridianNote(Degrees hourAngle, Miles reduction)
 {
     const double minutes = hourAngle.value() * 4;
@@ -79,6 +71,9 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     figures.GHA = DegMinToDeg(*observation.GHA);
     figures.longitude = ship.longitude;
     figures.hourAngle = hourAngle;
+    if (const auto reduced = ReducedToMeridian(declination, Ho, hourAngle, ship.latitude);
+        reduced && reduced->isUpper)
+        result.exMeridian = exMeridianText(*reduced);
     if (!IsNearMeridian(hourAngle, Ho)) {
         result.note = "No latitude: the sight is not near the meridian, " +
                       Format(fabs(hourAngle).value() * 4, "0.0") + " min from it";
@@ -105,6 +100,15 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
 
 } // namespace
 
+/// A DR position is trusted as far as the plot reaches, forty miles each way: the other latitude is
+/// possible too unless it lies further from it by more than that span.
+bool isSideInDoubt(const MeridianLatitudes& latitudes, Degrees shipLatitude)
+{
+    const Degrees ofSouth = fabs(latitudes.bodyToTheSouth - shipLatitude);
+    const Degrees ofNorth = fabs(latitudes.bodyToTheNorth - shipLatitude);
+    return MilesOfArc(fabs(ofSouth - ofNorth)) < Miles(80);
+}
+
 MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trackTexts,
                                  const SightContext& context)
 {
@@ -117,6 +121,10 @@ MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trac
     const auto ship = track.at(*observation.UTC);
     if (!ship) return result;
     try {
+        if (!observation.isSun()) {
+            passageOfBody(sight, observation, track, *ship, result);
+            return result;
+        }
         if (track.motion) {
             const DateTime noon =
                 LocalApparentNoon(*observation.UTC, *ship, *track.motion, result.figures.steps);
@@ -130,6 +138,8 @@ MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trac
     } catch (const ArithmeticError& error) {
         result = {};
         result.note = std::string("Meridian passage: ") + error.what();
+    } catch (const almanac::OutOfRange&) {
+        result.noon.clear(); // the passage lies beyond the last year of the almanac
     }
     return result;
 }

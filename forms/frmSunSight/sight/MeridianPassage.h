@@ -34,12 +34,18 @@ struct MeridianFigures {
 };
 
 struct MeridianResult {   ///< an empty text blanks the label
+    std::string caption;  ///< of the passage, where it is not the Sun's: "Lower passage"
     std::string noon;     ///< local apparent noon of the moving ship, UTC and SMT
     std::string greatest; ///< when the greatest altitude comes
     std::string latitude; ///< by the sight, reduced to the meridian; two when the side is in doubt
+    std::string exMeridian; ///< the reduction to the meridian, its limit and what it is worth
     MeridianFigures figures;
     std::string note; ///< how far from the meridian the sight was taken, or why no latitude
 };
+
+/// Whether a body stands so near the zenith that the latitude on its other side is possible too.
+bool isSideInDoubt(const NavFunc113::MeridianLatitudes& latitudes,
+                   NavFunc113::Degrees shipLatitude);
 
 /// Meridian passage nearest to the time of the sight, and the latitude by the sight when it was
 /// taken near enough to the meridian to be reduced to it.

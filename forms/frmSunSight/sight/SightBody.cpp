@@ -96,11 +96,9 @@ std::string bodyForRecord(const std::string& box)
 std::string bodyFacts(Body body)
 {
     const almanac::BodyEntry& entry = almanac::entryOf(body);
-    if (body == Body::Sun) return {};
-    if (entry.kind != almanac::BodyKind::Star) return nameOf(body);
-    std::string facts = nameOf(body);
-    if (entry.number) facts += ", star " + std::to_string(entry.number);
-    return facts + ", magnitude " + Format(entry.magnitude.value_or(0), "0.0");
+    if (entry.kind != almanac::BodyKind::Star) return {};
+    if (entry.number) return "star " + std::to_string(entry.number);
+    return "mag. " + Format(entry.magnitude.value_or(0), "0.0");
 }
 
 std::string sentenceOf(std::string name)

@@ -23,7 +23,7 @@ std::optional<almanac::Body> readBody(std::string_view box, Remarks& remarks);
 /// stands.
 std::string bodyForRecord(const std::string& box);
 
-/// What is known of a body by its name alone: "star 12, magnitude 0.1".
+/// What a name does not tell: "star 12", "mag. 2.0"; nothing of the Sun, the Moon and planets.
 std::string bodyFacts(almanac::Body body);
 
 /// A name at the beginning of a sentence: "The Moon", "Venus".
