@@ -92,6 +92,7 @@ void addLatitude(Working& working, const MeridianResult& noon)
 
 std::optional<Working> meridianWorking(const MeridianResult& noon)
 {
+    if (!noon.caption.empty()) return bodyMeridianWorking(noon);
     if (!noon.figures.noon && noon.note.empty()) return std::nullopt;
     Working working{
         "Meridian passage",

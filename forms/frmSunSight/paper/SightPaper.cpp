@@ -10,6 +10,7 @@
 #include "navlib/angles.h"
 
 #include <algorithm>
+#include <array>
 
 namespace korvel
 {
@@ -32,6 +33,20 @@ std::string datesInFull(std::string text)
     }
     return text;
 }
+
+constexpr std::array limitsOfSun = {
+    "Place of the Sun, 2000 to 2050, against an independent ephemeris: GHA 0.11' (95 %), 0.16' "
+    "at the worst; declination 0.03', 0.07'",
+    "The refraction is tabulated from 10 to 85 degrees and extrapolated beyond: 1.9' out at 5 "
+    "degrees",
+    "The fix refers to the sphere, 1' of arc = 1 mile; its ellipse holds as far as sigma and "
+    "run do"};
+
+constexpr const char* limitsOfBodies =
+    "Places of the Moon, planets and stars, 1960 to 2060, against full series: 0.03' at the worst "
+    "of "
+    "108; UTC for UT1 is worth up to 0.23' of hour angle; parallax 0.02' at the worst of 24; "
+    "refraction from the horizon up 0.1' in mean air, below 10 degrees minutes in unusual air";
 
 /// Adds a result that is there, written out where the window writes it otherwise.
 void addResult(WorkingPaper& paper, const std::string& name, const std::string& shown,
@@ -79,10 +94,13 @@ void addLineResults(const SightPaperParts& parts, WorkingPaper& paper)
                   inFull(DegToDegMin(line.figures.sun->altitude)));
     addResult(paper, "Intercept, T towards, A away", line.intercept, "", "nautical miles");
     addResult(paper, "Azimuth Zn", line.Zn, "", "degrees true");
-    addResult(paper, "Local apparent noon", parts.noon.noon);
+    const std::string& passage = parts.noon.caption;
+    addResult(paper, passage.empty() ? "Local apparent noon" : passage, parts.noon.noon);
     addResult(paper, "Greatest altitude", parts.noon.greatest);
     addResult(paper, "Latitude by the sight", parts.noon.latitude, latitudeInFull(parts.noon));
     addResult(paper, "The sight and the meridian", parts.noon.note);
+    // Of the Sun the note has it already, as far as the latitude is reduced by it.
+    if (!seen.isSun()) addResult(paper, "Reduction to the meridian", parts.noon.exMeridian);
 }
 
 void addFixResults(const SightFixResult& fix, WorkingPaper& paper)
@@ -122,17 +140,31 @@ std::vector<ListedSight> listed(const SightList& list, const SightFixResult& fix
     return sights;
 }
 
+/// Of which body a sight is, and which limb of the Sun and the Moon.
+std::string limbOf(const ListedSight& sight)
+{
+    const std::string limb = sight.recorded.texts.upperLimb ? "upper" : "lower";
+    if (sight.seen.isSun()) return limb;
+    const std::string& body = sight.recorded.texts.body;
+    return almanac::hasLimbs(sight.seen.body) ? body + ", " + limb : body;
+}
+
 PaperTable sightTable(const std::vector<ListedSight>& sights)
 {
+    const bool isSunAlone =
+        std::ranges::all_of(sights, [](const ListedSight& sight) { return sight.seen.isSun(); });
     PaperTable table{
-        "Recorded sights", {"", "UTC", "Limb", "Hs", "Ho", "Line, as in the window"}, {}};
+        "Recorded sights",
+        {"", "UTC", isSunAlone ? "Limb" : "Body, limb", "Hs", "Ho", "Line, as in the window"},
+        {}};
     for (const ListedSight& sight : sights) {
         if (!sight.seen.complete()) continue;
         const SightCorrections& corrections = *sight.seen.corrections;
-        table.rows.push_back(
-            {std::to_string(table.rows.size() + 1), Format(*sight.seen.UTC, "yyyy-mm-dd hh:mm:ss"),
-             sight.recorded.texts.upperLimb ? "upper" : "lower", angleInFull(corrections.Hs),
-             angleInFull(corrections.Ho), sight.line ? sight.line->text : "not used"});
+        table.rows.push_back({std::to_string(table.rows.size() + 1),
+                              Format(*sight.seen.UTC, "yyyy-mm-dd hh:mm:ss"), limbOf(sight),
+                              angleInFull(corrections.Hs),
+                              angleInFull(sight.line ? sight.line->Ho : corrections.Ho),
+                              sight.line ? sight.line->text : "not used"});
     }
     return table;
 }
@@ -140,18 +172,19 @@ PaperTable sightTable(const std::vector<ListedSight>& sights)
 std::vector<std::string> exportedRow(const ListedSight& sight)
 {
     const SightCorrections& corrections = *sight.seen.corrections;
-    std::vector<std::string> cells = {Format(*sight.seen.UTC, "yyyy-mm-ddThh:mm:ss") + "Z",
-                                      sight.recorded.on ? "yes" : "no",
-                                      sight.recorded.texts.upperLimb ? "upper" : "lower",
-                                      figure(DegMinToDeg(corrections.Hs), 5),
-                                      figure(corrections.indexError, 2),
-                                      figure(corrections.heightOfEye, 2),
-                                      figure(corrections.air, 1),
-                                      figure(corrections.sea, 1),
-                                      figure(corrections.pressure, 1),
-                                      figure(DegMinToDeg(corrections.Ho), 5),
-                                      figure(DegMinToDeg(withinCircle(*sight.seen.GHA)), 5),
-                                      figure(DegMinToDeg(*sight.seen.declination), 5)};
+    std::vector<std::string> cells = {
+        Format(*sight.seen.UTC, "yyyy-mm-ddThh:mm:ss") + "Z",
+        sight.recorded.on ? "yes" : "no",
+        limbOf(sight),
+        figure(DegMinToDeg(corrections.Hs), 5),
+        figure(corrections.indexError, 2),
+        figure(corrections.heightOfEye, 2),
+        figure(corrections.air, 1),
+        figure(corrections.sea, 1),
+        figure(corrections.pressure, 1),
+        figure(DegMinToDeg(sight.line ? sight.line->Ho : corrections.Ho), 5),
+        figure(DegMinToDeg(withinCircle(*sight.seen.GHA)), 5),
+        figure(DegMinToDeg(*sight.seen.declination), 5)};
     cells.push_back(sight.line ? figure(sight.line->line.intercept, 3) : "");
     cells.push_back(sight.line ? figure(sight.line->line.azimuth, 3) : "");
     cells.push_back(sight.residual ? figure(*sight.residual, 3) : "");
@@ -218,13 +251,11 @@ void addSights(const SightPaperParts& parts, WorkingPaper& paper)
         const Position& at = parts.fix.solution->position;
         paper.place = positionForCopy(DegToDegMin(at.latitude), DegToDegMin(at.longitude));
     }
-    paper.limits = {
-        "Place of the Sun, 2000 to 2050, against an independent ephemeris: GHA 0.11' (95 %), 0.16' "
-        "at the worst; declination 0.03', 0.07'",
-        "The refraction is tabulated from 10 to 85 degrees and extrapolated beyond: 1.9' out at 5 "
-        "degrees",
-        "The fix refers to the sphere, 1' of arc = 1 mile; its ellipse holds as far as sigma and "
-        "run do"};
+    if (std::ranges::any_of(sights, [](const ListedSight& each) { return !each.seen.isSun(); }) ||
+        !parts.line.figures.observation.isSun())
+        paper.limits.emplace_back(limitsOfBodies);
+    for (const char* each : limitsOfSun)
+        paper.limits.emplace_back(each);
 }
 
 } // namespace korvel

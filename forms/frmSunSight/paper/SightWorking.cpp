@@ -243,13 +243,18 @@ void addRun(Working& working, const LOPResult& line)
     working.resultStep("DR at the sight", "degrees and minutes of φ and λ", line.DR);
 }
 
+std::string nameOfBody(const LOPResult& line)
+{
+    return line.figures.observation.isSun() ? "Sun" : "body";
+}
+
 void addAzimuth(Working& working, const LOPResult& line, const std::string& phi,
                 const std::string& delta, const std::string& t)
 {
     if (line.figures.isByQuotient)
         working.step("Azimuth",
-                     "cos Z = (cos φ sin δ - sin φ cos δ cos t) / cos Hc; Zn = 360° - Z with the "
-                     "Sun to the west (sin t > 0)",
+                     "cos Z = (cos φ sin δ - sin φ cos δ cos t) / cos Hc; Zn = 360° - Z with the " +
+                         nameOfBody(line) + " to the west (sin t > 0)",
                      std::string(*line.azimuth > Degrees(180) ? "360° - " : "") + "arccos((cos " +
                          phi + " × sin " + delta + " - sin " + phi + " × cos " + delta + " × cos " +
                          t + ") / cos " + sightTerm(line.figures.sun->altitude) + ")",
@@ -287,7 +292,8 @@ Working lineWorking(const LOPResult& line)
     working.resultStep("Computed altitude", "degrees and minutes of Hc", line.Hc);
     addAzimuth(working, line, phi, delta, sightTerm(t));
     if (!line.intercept.empty())
-        working.step("Intercept, T towards the Sun, A away", "p = Ho - Hc, both as they are shown",
+        working.step("Intercept, T towards the " + nameOfBody(line) + ", A away",
+                     "p = Ho - Hc, both as they are shown",
                      angleInFull(seen.corrections->Ho) + " - " +
                          angleInFull(DegToDegMin(figures.sun->altitude)),
                      line.intercept, "miles");
@@ -303,7 +309,9 @@ std::vector<Working> sightWorkings(const SightTexts& texts, const LOPResult& lin
         return {{"Sight", {}, {}, {}, "No sight is being entered, or the remarks say why not."}};
     std::vector<Working> workings = {timeWorking(texts, line)};
     if (figures.observation.sun) workings.push_back(sunWorking(line));
-    if (figures.observation.corrections) workings.push_back(altitudeWorking(line));
+    if (figures.observation.place) workings.push_back(bodyPlaceWorking(line));
+    if (const auto& corrections = figures.observation.corrections)
+        workings.push_back(corrections->ofBody ? bodyAltitudeWorking(line) : altitudeWorking(line));
     if (figures.DR && figures.sun) workings.push_back(lineWorking(line));
     return workings;
 }

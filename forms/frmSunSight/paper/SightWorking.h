@@ -12,6 +12,11 @@ namespace korvel
 /// How time, place of the Sun, corrections and line of position of a sight came about.
 std::vector<Working> sightWorkings(const SightTexts& texts, const LOPResult& line);
 
+/// The same parts of a sight of another body than the Sun.
+Working bodyPlaceWorking(const LOPResult& line);
+Working bodyAltitudeWorking(const LOPResult& line);
+Working bodyMeridianWorking(const MeridianResult& noon);
+
 /// How the meridian passage and the latitude by the sight came about; nothing without them.
 std::optional<Working> meridianWorking(const MeridianResult& noon);
 
