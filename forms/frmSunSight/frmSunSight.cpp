@@ -40,6 +40,7 @@ frmSunSight::frmSunSight(Program& program)
     useRecord();
     loadSettings();
     loadBodies();
+    showPlanned();
     offerDate();
     if (!m_list.list().sights().empty()) calculations().run(m_fixCalculation);
     m_entry->box(SightField::date)->setFocus();
@@ -64,6 +65,7 @@ void frmSunSight::connectPanels()
     connect(m_sights, &SightListPanel::editAsked, this, &frmSunSight::cmdEdit_Click);
     connect(m_sights, &SightListPanel::deleteAsked, this, &frmSunSight::cmdDelete_Click);
     connect(m_sights, &SightListPanel::undoAsked, this, &frmSunSight::undo);
+    connect(&program(), &Program::sightsPlanned, this, &frmSunSight::showPlanned);
     connect(&program(), &Program::TDChanged, this, &frmSunSight::followTD);
     m_fixes->onView = [this](const std::string& outside) {
         setNotice("3 plot", asQString(outside));
@@ -236,6 +238,7 @@ void frmSunSight::cmdRecord_Click()
     }
     showEditing();
     listChanged();
+    strikeOffPlan(m_entry->sight().body.empty() ? "Sun" : m_entry->sight().body);
     const auto& sights = m_list.list().sights();
     const auto recorded = std::ranges::find(sights, m_entry->sight(), &RecordedSight::texts);
     if (recorded != sights.end())
@@ -260,6 +263,7 @@ bool frmSunSight::isBodyMeant()
 
 void frmSunSight::cmdEdit_Click()
 {
+    if (const auto planned = chosenPlanned()) return takePlanned(*planned);
     const auto chosen = m_sights->chosen();
     if (!chosen) return;
     m_list.edit(chosen);
@@ -277,6 +281,7 @@ void frmSunSight::cmdNew_Click()
 
 void frmSunSight::cmdDelete_Click()
 {
+    if (const auto planned = chosenPlanned()) return deletePlanned(*planned);
     const auto chosen = m_sights->chosen();
     if (!chosen) return;
     const Message question{"Delete this sight?\r\r" + listLine(m_list.list().sights()[*chosen]),

@@ -66,6 +66,13 @@ private:
     void followTD();
     void offerDate();
 
+    void showPlanned();
+    std::optional<std::size_t> chosenPlanned();
+    void takePlanned(std::size_t index);
+    void deletePlanned(std::size_t index);
+    void strikeOffPlan(const std::string& body);
+    void plan(const PlannedSights& sights);
+
     void listChanged();
     void showEditing();
 

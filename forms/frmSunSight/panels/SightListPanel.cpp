@@ -30,6 +30,7 @@ SightListPanel::SightListPanel(QWidget* parent)
     m_lstSunSight->setObjectName("lstSunSight");
     m_lstSunSight->setAccessibleName("Recorded sights; the space bar switches one on and off");
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
+        if (m_lstSunSight->row(item) >= m_recorded) return;
         emit switched(static_cast<std::size_t>(m_lstSunSight->row(item)),
                       item->checkState() == Qt::Checked);
     });
@@ -60,7 +61,7 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
     std::vector<std::string> lines(list.sights().size());
     for (const FixLine& line : fix.lines)
         if (line.index < lines.size()) lines[line.index] = line.text;
-    const int count = static_cast<int>(lines.size());
+    const int count = m_recorded = static_cast<int>(lines.size());
     while (m_lstSunSight->count() > count)
         delete m_lstSunSight->takeItem(m_lstSunSight->count() - 1);
     while (m_lstSunSight->count() < count)
@@ -75,7 +76,32 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
         m_lstSunSight->showSight(row, sightOf(sight), result,
                                  asQString(inFullForm(whole.trimmed().toStdString())));
     }
-    if (count > 0 && m_lstSunSight->currentRow() < 0) m_lstSunSight->setCurrentRow(0);
+    writePlanned();
+    if (m_lstSunSight->count() > 0 && m_lstSunSight->currentRow() < 0)
+        m_lstSunSight->setCurrentRow(0);
+}
+
+void SightListPanel::showPlanned(const std::vector<std::string>& lines)
+{
+    const QSignalBlocker quiet(m_lstSunSight);
+    m_planned = lines;
+    while (m_lstSunSight->count() > m_recorded)
+        delete m_lstSunSight->takeItem(m_lstSunSight->count() - 1);
+    writePlanned();
+}
+
+void SightListPanel::writePlanned()
+{
+    for (const std::string& line : m_planned) {
+        const int row = m_lstSunSight->count();
+        m_lstSunSight->addItem(QString());
+        QListWidgetItem* item = m_lstSunSight->item(row);
+        item->setFlags(item->flags() & ~Qt::ItemIsUserCheckable);
+        QFont letters = m_lstSunSight->font();
+        letters.setItalic(true);
+        item->setFont(letters);
+        m_lstSunSight->showSight(row, asQString(line), {}, asQString(inFullForm(line)));
+    }
 }
 
 std::optional<std::size_t> SightListPanel::chosen() const

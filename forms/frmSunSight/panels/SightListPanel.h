@@ -25,10 +25,14 @@ public:
     /// The sights, each with its line as far as the fix has made one of it.
     void showSights(const SightList& list, const SightFixResult& fix);
 
+    /// What is still to be taken, a line each, below the sights.
+    void showPlanned(const std::vector<std::string>& lines);
+
+    /// The row in hand: a sight, or behind the sights one of those that are to be taken.
     std::optional<std::size_t> chosen() const;
-    /// Lets the button offer to take back what was deleted.
     /// Makes a sight the one in hand.
     void choose(std::size_t index);
+    /// Lets the button offer to take back what was deleted.
     void setUndo(bool canUndo);
 
 signals:
@@ -38,7 +42,11 @@ signals:
     void undoAsked();
 
 private:
+    void writePlanned();
+
     SightLines* m_lstSunSight;
+    std::vector<std::string> m_planned;
+    int m_recorded = 0; ///< rows
     QPushButton* m_cmdUndo;
 };
 

@@ -4,6 +4,7 @@
 #include "almanac/horizon.h"
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 
 #include <algorithm>
@@ -99,6 +100,13 @@ std::string bodyFacts(Body body)
     if (entry.kind != almanac::BodyKind::Star) return {};
     if (entry.number) return "star " + std::to_string(entry.number);
     return "mag. " + Format(entry.magnitude.value_or(0), "0.0");
+}
+
+std::string plannedLine(const PlannedSight& planned)
+{
+    return planned.body + "  preset " +
+           angleText(NavFunc113::DegToDegMin(planned.sextantAltitude)) + "  bearing " +
+           courseText(planned.azimuth, "000") + "  at " + minuteText(planned.utc) + " UTC";
 }
 
 std::string sentenceOf(std::string name)

@@ -3,6 +3,7 @@
 
 #include "almanac/sky.h"
 #include "app/reading/Remarks.h"
+#include "app/watch/PlannedSights.h"
 #include "navlib/sky/sight_fix.h"
 
 #include <optional>
@@ -25,6 +26,9 @@ std::string bodyForRecord(const std::string& box);
 
 /// What a name does not tell: "star 12", "mag. 2.0"; nothing of the Sun, the Moon and planets.
 std::string bodyFacts(almanac::Body body);
+
+/// A sight that is to be taken: "Capella  preset 50.-06'4  bearing 005.5  at 1978/02/28 12:20 UTC".
+std::string plannedLine(const PlannedSight& planned);
 
 /// A name at the beginning of a sentence: "The Moon", "Venus".
 std::string sentenceOf(std::string name);
