@@ -4,6 +4,7 @@
 #include "forms/frmSunSight/panels/EntryPanel.h"
 #include "forms/frmSunSight/panels/FixPanel.h"
 #include "forms/frmSunSight/panels/LinePanel.h"
+#include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/panels/SightListPanel.h"
 #include "shell/layout/Panels.h"
 
@@ -28,6 +29,8 @@ void layOut(const SightPanels& panels, QWidget& content)
     layOutBody(*typed, Spacing::Dense);
     typed->addWidget(&panels.entry);
     typed->addWidget(panels.lines.noon());
+    makeSentence(panels.fixes.equalAltitudes(), 3);
+    typed->addWidget(panels.fixes.equalAltitudes());
     typed->addStretch(1);
     grid->addLayout(typed, 0, 0, 3, 1);
     auto* answers = new QVBoxLayout;
@@ -38,6 +41,7 @@ void layOut(const SightPanels& panels, QWidget& content)
     grid->addWidget(&panels.fixes, 0, 2);
     grid->addWidget(&panels.sights, 1, 1, 1, 2);
     grid->addWidget(panels.entry.qualityRow(), 2, 1, 1, 2);
+    grid->addWidget(panels.fixes.seriesPart(), 3, 1, 1, 2);
     grid->setHorizontalSpacing(columnGap);
     grid->setColumnStretch(2, 1);
     grid->setRowStretch(0, 1);

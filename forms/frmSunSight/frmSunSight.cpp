@@ -96,6 +96,9 @@ void frmSunSight::addSightMenu()
     add(sight, "mnuSight", 3, "&Delete the chosen sight", &frmSunSight::cmdDelete_Click);
     add(sight, "mnuSight", 4, "&Fix becomes the DR position", &frmSunSight::fixBecomesDR);
     menus().addEntry(sight, "mnuSight", 5, "&Print", [this] { printPaper(); });
+    m_series = menus().addEntry(sight, "mnuSight", 6, "&Series: shots of one body are one line",
+                                [this] { listChanged(); });
+    m_series->setCheckable(true);
     QMenu* clear = menus().add("&Clear", "mnuAC");
     add(clear, "mnuAC", 0, "&Sight being entered", &frmSunSight::clearSight);
     add(clear, "mnuAC", 1, "&All recorded sights", &frmSunSight::deleteAll);
@@ -133,7 +136,7 @@ void frmSunSight::useRecord()
             SightTexts sight = m_entry->sight();
             // The day of a sight that is not begun is that of the next opening.
             if (!sight.isBegun() && asQString(sight.date) == m_offeredDate) sight.date.clear();
-            return recordOf({sight, m_entry->track(), m_entry->options(), m_list.list()});
+            return recordOf({sight, m_entry->track(), options(), m_list.list()});
         },
         [this](const Record& record) { takeOver(settingsOf(record)); },
         [this](const std::string& bytes) { salvage(bytes); });
@@ -160,11 +163,11 @@ void frmSunSight::loadBodies()
     const FileStore::Content file = m_bodies.read();
     if (file.status != FileStore::Content::Status::Read) return;
     m_bodiesOnDisk = file.bytes;
-    SightSettings settings{m_entry->sight(), m_entry->track(), m_entry->options(), m_list.list()};
+    SightSettings settings{m_entry->sight(), m_entry->track(), options(), m_list.list()};
     const std::string damage = takeSightBodies(file.bytes, settings);
     if (!damage.empty()) m_bodies.report("is damaged: " + damage, true);
     m_list.take(settings.list);
-    m_entry->fill(settings.options);
+    m_series->setChecked(settings.options.series);
     m_entry->bodyBox()->setText(asQString(settings.sight.body));
     calculations().runAll();
 }
@@ -173,7 +176,7 @@ void frmSunSight::saveBodies()
 {
     if (calculations().isHeld()) return;
     const std::string bytes =
-        sightBodiesText({m_entry->sight(), m_entry->track(), m_entry->options(), m_list.list()});
+        sightBodiesText({m_entry->sight(), m_entry->track(), options(), m_list.list()});
     // Who never took another body than the Sun has no such file.
     const bool isFirst = m_bodiesOnDisk.empty() && bytes.find('=') == std::string::npos;
     if (bytes == m_bodiesOnDisk || isFirst) return;
@@ -212,12 +215,18 @@ void frmSunSight::runLine()
 void frmSunSight::runFix()
 {
     m_fix = {};
-    m_fix = CalculateFix(m_list.list(), m_entry->track(), m_entry->options(),
-                         program().shipsTime().UTC());
+    m_fix = CalculateFix(m_list.list(), m_entry->track(), options(), program().shipsTime().UTC());
     const std::string outside = m_fixes->showFix(m_fix);
     m_sights->showSights(m_list.list(), m_fix);
     setNotice("2 fix", asQString(m_fix.notice), m_fix.level);
     setNotice("3 plot", asQString(outside));
+}
+
+SightFixOptions frmSunSight::options() const
+{
+    SightFixOptions options = m_entry->options();
+    options.series = m_series->isChecked();
+    return options;
 }
 
 void frmSunSight::cmdMark_Click()

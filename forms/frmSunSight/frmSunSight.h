@@ -52,6 +52,7 @@ private:
     void runLine();
     void runFix();
     SightContext context();
+    SightFixOptions options() const;
 
     void cmdMark_Click();
     void cmdRecord_Click();
@@ -90,6 +91,7 @@ private:
     LOPResult m_line;
     MeridianResult m_noon;
     SightFixResult m_fix;
+    QAction* m_series = nullptr; ///< shots of one body are one line
     int m_lineCalculation = 0;
     int m_fixCalculation = 0;
 };

@@ -45,7 +45,7 @@ LineCheck checkAgainst(const Fix& rest, std::size_t index, const Round& round)
 {
     const Sight& sight = round.sights[index];
     const LineOfPosition line = LineAt(sight, rest.position, round.motion);
-    const double variance = LineVariance(round.errors, round.motion, sight.sinceFix, line.azimuth) +
+    const double variance = LineVariance(round.errors, round.motion, sight, line.azimuth) +
                             varianceAlong(rest.matrix, line.azimuth);
     return {index, line.intercept, line.intercept.value() / std::sqrt(variance), rest};
 }

@@ -68,7 +68,7 @@ std::optional<ExMeridian> ReducedToMeridian(Degrees declination, Degrees observe
 }
 
 double PassageAfterMean(Degrees latitude, Degrees declination, double bodyNorthward,
-                         double shipNorthward)
+                        double shipNorthward)
 {
     return 15.28 * (tan(latitude) - tan(declination)) * (shipNorthward - bodyNorthward);
 }

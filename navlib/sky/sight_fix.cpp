@@ -46,7 +46,7 @@ Pass passFrom(std::span<const Sight> sights, const Position& atFix, const Motion
     NormalMatrix& matrix = pass.sums.matrix;
     for (const Sight& sight : sights) {
         const LineOfPosition line = LineAt(sight, atFix, motion);
-        const double w = Quotient(1, LineVariance(errors, motion, sight.sinceFix, line.azimuth));
+        const double w = Quotient(1, LineVariance(errors, motion, sight, line.azimuth));
         const double cosZ = cos(line.azimuth);
         const double sinZ = sin(line.azimuth);
         matrix.A += w * cosZ * cosZ;
@@ -116,13 +116,15 @@ LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& m
     return {Intercept(sight.observedAltitude, body.altitude), body.azimuth, body.altitude};
 }
 
-double LineVariance(const ErrorModel& errors, const Motion& motion, Hours sinceFix, Degrees azimuth)
+double LineVariance(const ErrorModel& errors, const Motion& motion, const Sight& sight,
+                    Degrees azimuth)
 {
-    const Miles run = motion.speed * fabs(sinceFix);
+    const Miles run = motion.speed * fabs(sight.sinceFix);
     const Degrees toCourse = azimuth - motion.course;
     const Miles along = errors.runAlong * run * cos(toCourse);
     const Miles across = run * sin(errors.runCourse) * sin(toCourse);
-    return square(errors.sigma.value()) + square(along.value()) + square(across.value());
+    return square(sight.sigmas * errors.sigma.value()) + square(along.value()) +
+           square(across.value());
 }
 
 Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const Motion& motion,

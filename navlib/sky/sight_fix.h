@@ -47,6 +47,7 @@ struct Sight {
     Degrees declination;
     Degrees observedAltitude; ///< corrected
     Hours sinceFix;           ///< time of the sight less that of the fix; before it negative
+    double sigmas = 1;        ///< of the model's sigma: less for what several shots agree on
 };
 
 /// How good the sights and the run between them are held to be.
@@ -66,7 +67,7 @@ LineOfPosition LineAt(const Sight& sight, const Position& atFix, const Motion& m
 
 /// Variance of one line in square miles: that of the sight, and the part of the run's error that
 /// lies across the line.
-double LineVariance(const ErrorModel& errors, const Motion& motion, Hours sinceFix,
+double LineVariance(const ErrorModel& errors, const Motion& motion, const Sight& sight,
                     Degrees azimuth);
 
 /// Sums of the weighted lines: cos^2 Z, cos Z sin Z, sin^2 Z, each divided by sigma^2.

@@ -89,7 +89,8 @@ std::string timeLabel(const FixLine& line, const SightFixResult& fix)
     const std::string advanced = Format(*fix.UTC, "hhmm");
     const bool moved = fix.motion.speed > Knots(0) && fabs(line.sight.sinceFix) > Hours(1.0 / 60);
     const std::string times = moved ? taken + "-" + advanced : taken;
-    return line.body.empty() ? times : line.body + " " + times;
+    const std::string label = line.body.empty() ? times : line.body + " " + times;
+    return line.shots > 1 ? label + " x" + std::to_string(line.shots) : label;
 }
 
 PlotLine plotLine(const FixLine& line, const SightFixResult& fix, const PlotView& view)

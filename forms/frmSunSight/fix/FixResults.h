@@ -11,7 +11,7 @@ namespace korvel
 {
 
 /// The fix, and how good it is.
-inline constexpr std::array<Result<SightFixResult>, 6> fixResults = {{
+inline constexpr std::array<Result<SightFixResult>, 8> fixResults = {{
     {"lblSunFix(0)", "", "", Weight::Answer, &SightFixResult::latitude, "Latitude of the fix"},
     {"lblSunFix(1)", "", "", Weight::Answer, &SightFixResult::longitude, "Longitude of the fix"},
     {"lblSunFix(2)", "", "", Weight::Remark, &SightFixResult::time, "Time of the fix"},
@@ -21,6 +21,9 @@ inline constexpr std::array<Result<SightFixResult>, 6> fixResults = {{
      "Where its sigma comes from"},
     {"lblSunFix(5)", "", "", Weight::Remark, &SightFixResult::withoutText,
      "Fix without the sights that do not fit"},
+    {"lblSunFix(6)", "", "", Weight::Remark, &SightFixResult::equalText,
+     "Longitude by equal altitudes"},
+    {"lblSunFix(7)", "", "", Weight::Remark, &SightFixResult::seriesText, "Series of shots"},
 }};
 
 /// What the plot tells of the place under the pointer.

@@ -2,7 +2,9 @@
 #include "forms/frmSunSight/fix/SightFix.h"
 
 #include "app/reading/Format.h"
+#include "forms/frmSunSight/fix/EqualAltitudeText.h"
 #include "forms/frmSunSight/fix/FixTexts.h"
+#include "forms/frmSunSight/fix/SightSeries.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightInput.h"
 #include "forms/frmSunSight/sight/SightLine.h"
@@ -138,6 +140,10 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
         } else {
             warnOfTimes(now, result, remarks);
             if (track.motion && makeLines(observations, track, result)) {
+                result.equalText = equalAltitudeText(result, errors.value_or(ErrorModel{}));
+                if (options.series && errors) fitSeries(observations, track, *errors, result);
+                warnOfWildShots(result, remarks);
+                result.seriesText = seriesText(result);
                 if (errors) takeFix(*errors, options, result, remarks);
             } else {
                 result.lines.clear();

@@ -22,6 +22,24 @@ struct FixLine {
     NavFunc113::LineOfPosition line; ///< referred to the DR position
     NavFunc113::Position DR;         ///< run to the time of the sight
     std::string text;                ///< intercept, Zn, and the residual once there is a fix
+    int shots = 1;                   ///< of which it was made
+};
+
+/// Shots of one body that were made one line.
+struct SeriesShot {
+    std::size_t index = 0; ///< in the list
+    NavFunc113::DateTime UTC = 0;
+    NavFunc113::Miles residual; ///< observed less fitted
+    bool isWild = false;
+};
+struct SightSeries {
+    std::string body;             ///< empty for the Sun
+    NavFunc113::DateTime UTC = 0; ///< the mean
+    NavFunc113::DegMin Ho;        ///< fitted, at that time
+    NavFunc113::Miles intercept;
+    NavFunc113::Miles scatter; ///< standard deviation of a shot, by the residuals
+    NavFunc113::Miles sigma;   ///< of the line, as it goes into the fix
+    std::vector<SeriesShot> shots;
 };
 
 /// A position that the lines give, with what it is called.
@@ -35,10 +53,11 @@ struct SightFixResult {
     /// Time of the last sight that is on; in a round of stars that of the DR position, where this
     /// lies within the round.
     std::optional<NavFunc113::DateTime> UTC;
-    std::optional<NavFunc113::Position> DR;  ///< run to that time: the middle of the plot. With
-                                             ///< no sight on, as typed
+    std::optional<NavFunc113::Position> DR; ///< run to that time: the middle of the plot. With
+                                            ///< no sight on, as typed
     NavFunc113::Motion motion;
     std::vector<FixLine> lines;
+    std::vector<SightSeries> series; ///< those of the lines that were made of several shots
 
     std::optional<NavFunc113::Fix> solution; ///< what all below follows from
     NavFunc113::Agreement agreement;
@@ -55,6 +74,8 @@ struct SightFixResult {
     std::string ellipseText;
     std::string sigmaText;                   ///< where the sigma of the ellipse comes from
     std::string withoutText;                 ///< the fixes without what does not fit
+    std::string equalText;                   ///< passage and longitude by equal altitudes
+    std::string seriesText;                  ///< what the series came to
     std::string notice;                      ///< why there is no fix, and warnings
     NoticeLevel level = NoticeLevel::Remark; ///< of the notice
 };

@@ -3,9 +3,11 @@
 
 #include "forms/frmSunSight/fix/FixResults.h"
 #include "forms/frmSunSight/panels/PanelParts.h"
+#include "forms/frmSunSight/panels/SeriesPicture.h"
 #include "forms/frmSunSight/panels/SightPicture.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -20,12 +22,13 @@ constexpr int leastSentences = 5; // lines that are seen
 } // namespace
 
 FixPanel::FixPanel(QWidget* parent)
-    : QWidget(parent), m_fixPart(new QGroupBox("Fix", parent)),
-      m_picSunSight(new SightPicture(this)), m_lblSunFix(fixResults, this),
-      m_lblSunCursor(cursorResults, this)
+    : QWidget(parent), m_fixPart(new QGroupBox("Fix", parent)), m_seriesPart(new QWidget(parent)),
+      m_picSeries(new SeriesPicture(m_seriesPart)), m_picSunSight(new SightPicture(this)),
+      m_lblSunFix(fixResults, this), m_lblSunCursor(cursorResults, this)
 {
     layOutPlot();
     layOutFix();
+    layOutSeries();
 }
 
 void FixPanel::layOutPlot()
@@ -58,6 +61,16 @@ void FixPanel::layOutFix()
     column->addWidget(m_lblSunFix[0]);
     column->addWidget(m_lblSunFix[1]);
     column->addWidget(sentences(), 1);
+}
+
+void FixPanel::layOutSeries()
+{
+    auto* row = new QHBoxLayout(m_seriesPart);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_picSeries, 1);
+    makeSentence(m_lblSunFix[7], 6);
+    row->addWidget(m_lblSunFix[7], 1);
+    m_seriesPart->hide();
 }
 
 /// How good the fix is. Sights that do not agree have more to be said of them than there is room
@@ -101,6 +114,9 @@ std::string FixPanel::showFix(const SightFixResult& fix)
     m_lblSunFix.show(fix);
     tellSentencesInTips(m_lblSunFix.all());
     m_picSunSight->showPlot(plot);
+    m_picSeries->showSeries(fix.series);
+    m_picSeries->setAccessibleDescription(asQString(fix.seriesText));
+    m_seriesPart->setVisible(!fix.series.empty());
     m_picSunSight->setAccessibleDescription(
         asQString(fix.time + " " + fix.latitude + " " + fix.longitude + " " + fix.ellipseText));
     return plot.notice;
@@ -118,11 +134,18 @@ std::vector<PaperPicture> FixPanel::paperPictures()
 {
     constexpr int side = 540; // pixels of a screen: the plot stays square
     if (!m_picSunSight->plot().middle) return {};
-    return {makePaperPicture("Lines of position, 40 miles each way around the DR position",
-                             QSize(side * 10 / 9, side),
-                             [this](QPainter& painter, const QSize& size) {
-                                 m_picSunSight->drawOn(painter, size, ColourScheme::day());
-                             })};
+    std::vector<PaperPicture> pictures = {
+        makePaperPicture("Lines of position, 40 miles each way around the DR position",
+                         QSize(side * 10 / 9, side), [this](QPainter& painter, const QSize& size) {
+                             m_picSunSight->drawOn(painter, size, ColourScheme::day());
+                         })};
+    if (!m_fix.series.empty())
+        pictures.push_back(makePaperPicture(
+            "Residuals of the shots in minutes, over the minutes from the mean of each series",
+            QSize(side * 10 / 9, side / 3), [this](QPainter& painter, const QSize& size) {
+                m_picSeries->drawOn(painter, size, ColourScheme::day());
+            }));
+    return pictures;
 }
 
 void FixPanel::showCursor(QPointF user)

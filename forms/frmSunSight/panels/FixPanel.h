@@ -13,6 +13,7 @@ class QGroupBox;
 namespace korvel
 {
 
+class SeriesPicture;
 class SightPicture;
 
 /// The fix from the recorded sights: its plot and, in a group beside it, its position and how good
@@ -30,17 +31,24 @@ public:
     /// Called with what lies outside the plot when the officer has looked at another part of it.
     std::function<void(const std::string&)> onView;
 
+    /// Longitude by equal altitudes, for the place of the meridian passage.
+    ResultLabel* equalAltitudes() const { return m_lblSunFix[6]; }
+    /// The series of shots: residuals drawn and in words; hidden while there is none.
+    QWidget* seriesPart() const { return m_seriesPart; }
     QGroupBox* fixPart() const { return m_fixPart; }
     const std::vector<ResultLabel*>& results() const { return m_lblSunFix.all(); }
 
 private:
     void layOutPlot();
     void layOutFix();
+    void layOutSeries();
     QWidget* sentences();
     void showCursor(QPointF user);
     void showView(const PlotView& view);
 
     QGroupBox* m_fixPart;
+    QWidget* m_seriesPart;
+    SeriesPicture* m_picSeries;
     SightFixResult m_fix;
     PlotView m_view;
     SightPicture* m_picSunSight;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/panels/SightListPanel.h"
 
+#include "app/reading/Format.h"
 #include "app/reading/PackedText.h"
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/panels/SightLines.h"
@@ -61,6 +62,12 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
     std::vector<std::string> lines(list.sights().size());
     for (const FixLine& line : fix.lines)
         if (line.index < lines.size()) lines[line.index] = line.text;
+    for (const SightSeries& series : fix.series)
+        for (const SeriesShot& shot : series.shots) {
+            std::string& line = lines.at(shot.index);
+            line = "shot " + Format(shot.residual, "+0.0';-0.0'") + (shot.isWild ? " wild" : "") +
+                   (line.empty() ? "" : "  ") + line;
+        }
     const int count = m_recorded = static_cast<int>(lines.size());
     while (m_lstSunSight->count() > count)
         delete m_lstSunSight->takeItem(m_lstSunSight->count() - 1);
