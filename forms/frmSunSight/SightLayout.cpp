@@ -4,7 +4,6 @@
 #include "forms/frmSunSight/panels/EntryPanel.h"
 #include "forms/frmSunSight/panels/FixPanel.h"
 #include "forms/frmSunSight/panels/LinePanel.h"
-#include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/panels/SightListPanel.h"
 #include "shell/layout/Panels.h"
 
@@ -29,8 +28,6 @@ void layOut(const SightPanels& panels, QWidget& content)
     layOutBody(*typed, Spacing::Dense);
     typed->addWidget(&panels.entry);
     typed->addWidget(panels.lines.noon());
-    makeSentence(panels.fixes.equalAltitudes(), 3);
-    typed->addWidget(panels.fixes.equalAltitudes());
     typed->addStretch(1);
     grid->addLayout(typed, 0, 0, 3, 1);
     auto* answers = new QVBoxLayout;

@@ -82,17 +82,20 @@ QWidget* FixPanel::sentences()
     layOutBody(*column);
     column->setSpacing(0);
     ResultLabel *time = m_lblSunFix[2], *ellipse = m_lblSunFix[3], *sigma = m_lblSunFix[4],
-                *without = m_lblSunFix[5];
+                *without = m_lblSunFix[5], *equal = m_lblSunFix[6];
     makeSentence(time, 2);
     makeSentence(ellipse, 2);
     makeSentence(without, 1);
+    makeSentence(equal, 1);
     makeSentence(sigma, 4);
-    for (ResultLabel* sentence : {time, ellipse, without, sigma})
+    for (ResultLabel* sentence : {time, ellipse, without, equal, sigma})
         column->addWidget(sentence);
-    without->setWordWrap(true);
-    without->setRoomByText();
-    without->setMinimumWidth(1); // a long word does not widen it
-    without->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    for (ResultLabel* sentence : {without, equal}) {
+        sentence->setWordWrap(true);
+        sentence->setRoomByText();
+        sentence->setMinimumWidth(1); // a long word does not widen it
+        sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    }
     column->addStretch(1);
     auto* area = new QScrollArea;
     area->setObjectName("areaSunFix");

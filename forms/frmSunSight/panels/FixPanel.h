@@ -31,8 +31,6 @@ public:
     /// Called with what lies outside the plot when the officer has looked at another part of it.
     std::function<void(const std::string&)> onView;
 
-    /// Longitude by equal altitudes, for the place of the meridian passage.
-    ResultLabel* equalAltitudes() const { return m_lblSunFix[6]; }
     /// The series of shots: residuals drawn and in words; hidden while there is none.
     QWidget* seriesPart() const { return m_seriesPart; }
     QGroupBox* fixPart() const { return m_fixPart; }

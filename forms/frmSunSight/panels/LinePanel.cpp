@@ -81,7 +81,7 @@ void LinePanel::layOutNoon()
     makeSentence(m_lblSunNoon[passage], 1);
     makeSentence(m_lblSunNoon[greatest], 1);
     makeSentence(m_lblSunNoon[note], 2);
-    makeSentence(m_lblSunNoon[exMeridian], 2);
+    makeSentence(m_lblSunNoon[exMeridian], 1);
     m_lblSunNoon[latitude]->setRoom("00-.00'0N");
     m_passage = new QLabel(noonResults[passage].caption);
     grid->addWidget(m_passage, 0, 0);
@@ -92,6 +92,9 @@ void LinePanel::layOutNoon()
     grid->addWidget(m_lblSunNoon[note], 3, 0, 1, 2);
     grid->addWidget(m_lblSunNoon[exMeridian], 4, 0, 1, 2);
     grid->setColumnStretch(1, 1);
+    // A small screen has no room to spare below the last group.
+    const QMargins margins = grid->contentsMargins();
+    grid->setContentsMargins(margins.left(), 0, margins.right(), 0);
 }
 
 std::vector<ResultLabel*> LinePanel::results() const

@@ -102,6 +102,11 @@ std::optional<Working> meridianWorking(const MeridianResult& noon)
         {}};
     if (noon.figures.noon) addNoon(working, noon);
     if (noon.figures.latitudes) addLatitude(working, noon);
+    if (!noon.exMeridian.empty())
+        working.resultStep(
+            "Reduction to the meridian",
+            "φ = χ ± ζ, tan χ = tan δ / cos t, less δ ± (90° - Ho); up to 30 minutes",
+            noon.exMeridian);
     if (!noon.note.empty())
         working.resultStep("The sight and the meridian", "t / 15° an hour", noon.note);
     return working;

@@ -99,8 +99,7 @@ void addLineResults(const SightPaperParts& parts, WorkingPaper& paper)
     addResult(paper, "Greatest altitude", parts.noon.greatest);
     addResult(paper, "Latitude by the sight", parts.noon.latitude, latitudeInFull(parts.noon));
     addResult(paper, "The sight and the meridian", parts.noon.note);
-    // Of the Sun the note has it already, as far as the latitude is reduced by it.
-    if (!seen.isSun()) addResult(paper, "Reduction to the meridian", parts.noon.exMeridian);
+    addResult(paper, "Reduction to the meridian", parts.noon.exMeridian);
 }
 
 void addFixResults(const SightFixResult& fix, WorkingPaper& paper)
@@ -116,6 +115,8 @@ void addFixResults(const SightFixResult& fix, WorkingPaper& paper)
     addResult(paper, "Error ellipse", fix.ellipseText);
     addResult(paper, "Sigma", fix.sigmaText);
     addResult(paper, "Fix without what does not fit", fix.withoutText);
+    addResult(paper, "Longitude by equal altitudes", fix.equalText);
+    addResult(paper, "Series of shots", fix.seriesText);
 }
 
 /// A recorded sight with its line, when it is on.
@@ -246,6 +247,8 @@ void addSights(const SightPaperParts& parts, WorkingPaper& paper)
     }
     paper.workings = sightWorkings(parts.sight, parts.line);
     if (const auto noon = meridianWorking(parts.noon)) paper.workings.push_back(*noon);
+    if (const auto equal = equalAltitudeWorking(parts.fix)) paper.workings.push_back(*equal);
+    if (const auto series = seriesWorking(parts.fix)) paper.workings.push_back(*series);
     paper.workings.push_back(fixWorking(parts.fix));
     if (parts.fix.solution) {
         const Position& at = parts.fix.solution->position;

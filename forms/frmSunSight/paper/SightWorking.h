@@ -23,6 +23,10 @@ std::optional<Working> meridianWorking(const MeridianResult& noon);
 /// How the fix came about: lines, run, passes, residuals, what does not fit, ellipse.
 Working fixWorking(const SightFixResult& fix);
 
+/// Series of shots, and the longitude by equal altitudes; nothing without them.
+std::optional<Working> seriesWorking(const SightFixResult& fix);
+std::optional<Working> equalAltitudeWorking(const SightFixResult& fix);
+
 /// The table that the corrections are added up in, as the window shows it.
 PaperTable worksheetTable(const LOPResult& line);
 

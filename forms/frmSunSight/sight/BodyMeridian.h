@@ -13,7 +13,7 @@ namespace korvel
 void passageOfBody(const SightTexts& sight, const Observation& observation, const Track& track,
                    const NavFunc113::Position& ship, MeridianResult& result);
 
-/// What the reduction to the meridian is worth, with its limit; of every body, the Sun's too.
+/// What the reduction to the meridian is worth, with its limit.
 std::string exMeridianText(const NavFunc113::ExMeridian& reduced);
 
 } // namespace korvel

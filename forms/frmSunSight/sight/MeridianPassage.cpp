@@ -71,10 +71,11 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     figures.GHA = DegMinToDeg(*observation.GHA);
     figures.longitude = ship.longitude;
     figures.hourAngle = hourAngle;
-    if (const auto reduced = ReducedToMeridian(declination, Ho, hourAngle, ship.latitude);
-        reduced && reduced->isUpper)
-        result.exMeridian = exMeridianText(*reduced);
     if (!IsNearMeridian(hourAngle, Ho)) {
+        // Further off than the window reduces by itself: the officer weighs what it is worth.
+        if (const auto reduced = ReducedToMeridian(declination, Ho, hourAngle, ship.latitude);
+            reduced && reduced->isUpper && reduced->isWithinLimit())
+            result.exMeridian = exMeridianText(*reduced);
         result.note = "No latitude: the sight is not near the meridian, " +
                       Format(fabs(hourAngle).value() * 4, "0.0") + " min from it";
         return;

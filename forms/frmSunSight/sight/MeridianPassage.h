@@ -38,7 +38,9 @@ struct MeridianResult {   ///< an empty text blanks the label
     std::string noon;     ///< local apparent noon of the moving ship, UTC and SMT
     std::string greatest; ///< when the greatest altitude comes
     std::string latitude; ///< by the sight, reduced to the meridian; two when the side is in doubt
-    std::string exMeridian; ///< the reduction to the meridian, its limit and what it is worth
+    /// The reduction to the meridian, its limit and what it is worth; of the Sun where the latitude
+    /// above is not given any more.
+    std::string exMeridian;
     MeridianFigures figures;
     std::string note; ///< how far from the meridian the sight was taken, or why no latitude
 };
