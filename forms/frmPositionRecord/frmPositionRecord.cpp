@@ -52,6 +52,7 @@ frmPositionRecord::frmPositionRecord(Program& program)
     : CalculatorWindow(program, "frmPositionRecord", "Position record"), m_table(new PositionTable),
       m_steered(addFields(steeredFields)), m_txtCourseSteered(m_steered[0]),
       m_txtSpeedSteered(m_steered[1]), m_results(addResults(recordResults)),
+      m_fixesFile(program.files(), program.questions(), program.clock(), observedFixesFile),
       m_focus([this](QWidget* now) { focusMoved(now); })
 {
     auto* area = new FollowingScrollArea(m_table);
@@ -63,6 +64,8 @@ frmPositionRecord::frmPositionRecord(Program& program)
     useRecordSettings();
     loadSettings();
     m_table->row(0).satelliteSMT->setFocus();
+    loadFixes();
+    connect(&program, &Program::fixOffered, this, &frmPositionRecord::takeFix);
 }
 
 void frmPositionRecord::addTotals()
@@ -190,6 +193,7 @@ void frmPositionRecord::focusMoved(const QWidget* now)
     const auto row = m_table->rowOf(now);
     if (!row) return;
     m_row = *row;
+    tellFixOfRow();
 }
 
 PositionRecordInput frmPositionRecord::input() const
@@ -361,6 +365,7 @@ WorkingPaper frmPositionRecord::paper() const
 {
     WorkingPaper paper = CalculatorWindow::paper();
     tellRecord(paper, input(), m_shown);
+    addFixes(paper);
     return paper;
 }
 

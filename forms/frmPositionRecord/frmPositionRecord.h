@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/records/RecordFile.h"
+#include "app/watch/ObservedFix.h"
 #include "forms/frmPositionRecord/PositionTable.h"
 #include "forms/frmPositionRecord/RecordMemory.h"
 #include "shell/layout/FocusFollower.h"
@@ -12,7 +14,7 @@ namespace korvel
 /// 29 fixes with times, and what lies between them.
 ///
 /// Record of the settings file: the texts of the rows, each SMT, TD, latitude, longitude; then
-/// course and speed steered.
+/// course and speed steered. "KV_PositionFixes.ini": kind and ellipse of fixes by observation.
 class frmPositionRecord : public CalculatorWindow
 {
 public:
@@ -47,6 +49,12 @@ private:
     void print();
     void importList();
 
+    void loadFixes();
+    void takeFix();
+    const ObservedFix* fixOfRow(std::size_t row) const;
+    void tellFixOfRow();
+    void addFixes(WorkingPaper& paper) const;
+
     PositionTable* m_table;
     FieldBoxes m_steered;
     EntryBox* m_txtCourseSteered;
@@ -57,6 +65,8 @@ private:
     RecordMemory m_memory;                  ///< of the calculation that m_shown came from
     std::optional<RowChange> m_lastChange;  ///< of rows; what is typed is no change of rows
     std::function<bool()> m_isStillRefused; ///< while the notice line says why
+    RecordFile m_fixesFile;
+    ObservedFixes m_observed; ///< kind and ellipse of rows that hold fixes by observation
     int m_calculation = 0;
     std::size_t m_row = 0;  ///< the row that has, or last had, the focus
     bool m_filling = false; ///< many boxes are being filled, one calculation follows

@@ -8,7 +8,8 @@
 
 #include <algorithm>
 
-/// The sights that are to be taken, below the recorded ones.
+/// What the window of the sights shares with others: the sights that are to be taken, below the
+/// recorded ones, and the fix for the position record.
 namespace korvel
 {
 
@@ -66,6 +67,14 @@ void frmSunSight::strikeOffPlan(const std::string& body)
     if (taken == planned.end()) return;
     planned.erase(taken);
     plan(planned);
+}
+
+void frmSunSight::fixIntoRecord()
+{
+    if (const auto fix = fixForRecord(m_fix))
+        program().sendToRecord(*fix);
+    else
+        sayForAWhileAs(NoticeLevel::Remark, "There is no fix yet.");
 }
 
 void frmSunSight::plan(const PlannedSights& sights)

@@ -64,6 +64,7 @@ private:
     void deleteAll();
     void undo();
     void fixBecomesDR();
+    void fixIntoRecord();
     void followTD();
     void offerDate();
 

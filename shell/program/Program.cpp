@@ -28,6 +28,13 @@ void Program::sendToPlan(const PlanExchange::Circle& circle)
     emit circleOffered();
 }
 
+void Program::sendToRecord(const ObservedFix& fix)
+{
+    fixForRecord = fix;
+    openWindow("frmPositionRecord");
+    emit fixOffered();
+}
+
 const PlannedSights& Program::plannedSights()
 {
     if (m_plannedSights) return *m_plannedSights;

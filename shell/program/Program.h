@@ -4,6 +4,7 @@
 #include "app/records/KORVEL2000Actions.h"
 #include "app/records/KV_Savedvalue.h"
 #include "app/records/RecordFile.h"
+#include "app/watch/ObservedFix.h"
 #include "app/watch/PlannedSights.h"
 #include "app/watch/ShipNow.h"
 #include "app/watch/ShipsTime.h"
@@ -71,6 +72,9 @@ public:
 
     PlanExchange plan;
 
+    /// A fix by observation that waits to be taken into the position record.
+    std::optional<ObservedFix> fixForRecord;
+
     /// Sights that are to be taken; those of the last run from their file.
     const PlannedSights& plannedSights();
     /// Plans other sights instead, and writes their file.
@@ -104,6 +108,8 @@ public:
     void tellShipNow() { emit shipNowChanged(); }
     /// A circle is to be taken into the plan, whose window is opened.
     void sendToPlan(const PlanExchange::Circle& circle);
+    /// A fix is to be taken into the position record, whose window is opened.
+    void sendToRecord(const ObservedFix& fix);
     /// Sights are to be taken: plans them and opens the window that takes them.
     /// @return as planSights()
     std::string sendToSights(const PlannedSights& sights);
@@ -117,6 +123,8 @@ signals:
     void shipNowChanged();
     /// PlanExchange::circleForPlan is there to be taken.
     void circleOffered();
+    /// fixForRecord is there to be taken.
+    void fixOffered();
     /// plannedSights() are others now.
     void sightsPlanned();
     /// Every window is to write its record now: the program may be about to end.

@@ -9,8 +9,10 @@
 #include "forms/frmSunSight/sight/SightInput.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
+#include "navlib/datetime.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace korvel
 {
@@ -157,6 +159,22 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
     result.notice = remarks.text();
     result.level = remarks.level();
     return result;
+}
+
+std::optional<ObservedFix> fixForRecord(const SightFixResult& fix)
+{
+    if (!fix.fix || !fix.solution) return std::nullopt;
+    const auto tenths = [](Degrees angle) {
+        return DegToDegMin(Degrees(std::round(angle.value() * 600) / 600));
+    };
+    const bool isRunning = fix.time.starts_with("R FIX");
+    std::string kind =
+        (isRunning ? "Running fix, " : "Fix, ") + std::to_string(fix.lines.size()) + " lines: ";
+    for (std::size_t i = 0; i < fix.lines.size(); ++i)
+        kind += (i ? ", " : "") + (fix.lines[i].body.empty() ? "Sun" : fix.lines[i].body);
+    return ObservedFix{tenths(fix.solution->position.latitude),
+                       tenths(fix.solution->position.longitude), instantOf(NearestSecond(*fix.UTC)),
+                       kind, fix.ellipseText};
 }
 
 TrackTexts trackFrom(const SightFixResult& fix, const TrackTexts& before)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/reading/Remarks.h"
+#include "app/watch/ObservedFix.h"
 #include "forms/frmSunSight/sight/SightList.h"
 #include "navlib/sky/line_checks.h"
 
@@ -85,6 +86,9 @@ struct SightFixResult {
 SightFixResult CalculateFix(const SightList& list, const TrackTexts& track,
                             const SightFixOptions& options,
                             std::optional<NavFunc113::DateTime> now);
+
+/// A fix as the position record takes it; nothing without one.
+std::optional<ObservedFix> fixForRecord(const SightFixResult& fix);
 
 /// The track that goes on from a fix, with the course and speed of the one before.
 /// @param fix with a position
