@@ -99,7 +99,7 @@ void frmSunSight::addSightMenu()
     m_series = menus().addEntry(sight, "mnuSight", 6, "&Series: shots of one body are one line",
                                 [this] { listChanged(); });
     m_series->setCheckable(true);
-    add(sight, "mnuSight", 7, "Fix into the position &record", &frmSunSight::fixIntoRecord);
+    add(sight, "mnuSight", 7, "Fi&x into the position record", &frmSunSight::fixIntoRecord);
     QMenu* clear = menus().add("&Clear", "mnuAC");
     add(clear, "mnuAC", 0, "&Sight being entered", &frmSunSight::clearSight);
     add(clear, "mnuAC", 1, "&All recorded sights", &frmSunSight::deleteAll);

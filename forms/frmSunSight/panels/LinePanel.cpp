@@ -84,6 +84,7 @@ void LinePanel::layOutNoon()
     makeSentence(m_lblSunNoon[exMeridian], 1);
     m_lblSunNoon[latitude]->setRoom("00-.00'0N");
     m_passage = new QLabel(noonResults[passage].caption);
+    m_passage->setMinimumWidth(m_passage->sizeHint().width()); // the longest that stands there
     grid->addWidget(m_passage, 0, 0);
     grid->addWidget(m_lblSunNoon[greatest], 0, 1);
     grid->addWidget(m_lblSunNoon[passage], 1, 0, 1, 2);

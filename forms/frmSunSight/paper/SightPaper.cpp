@@ -45,7 +45,7 @@ constexpr std::array limitsOfSun = {
 constexpr const char* limitsOfBodies =
     "Places of the Moon, planets and stars, 1960 to 2060, against full series: 0.03' at the worst "
     "of "
-    "108; UTC for UT1 is worth up to 0.23' of hour angle; parallax 0.02' at the worst of 24; "
+    "108; UTC for UT1 is worth up to 0.23' of hour angle; parallax 0.025' at the worst of 40; "
     "refraction from the horizon up 0.1' in mean air, below 10 degrees minutes in unusual air";
 
 /// Adds a result that is there, written out where the window writes it otherwise.
