@@ -90,7 +90,7 @@ WindowCatalogue calculatorWindows()
         behindALine(window<frmPassage>("mnuNAV", 4, "frmPassage", "Passage pla&n")),
         window<frmNoon>("mnuWATCH", 7, "frmNoon", "Noon report"),
         window<frmUKC>("mnuWATCH", 8, "frmUKC", "Under-keel clearance"),
-        withPlaces(window<frmSky>("mnuNAV", 5, "frmSky", "&Twilight and stars"),
+        withPlaces(window<frmSky>("mnuNAV", 5, "frmSky", "Twilig&ht and stars"),
                    frmSky::pagesToGoTo),
     };
 }

@@ -13,6 +13,7 @@
 #include "shell/layout/FollowingScrollArea.h"
 #include "shell/layout/PageBar.h"
 #include "shell/machine/AsQString.h"
+#include "shell/window/KeptPages.h"
 
 #include <QAction>
 #include <QMenu>

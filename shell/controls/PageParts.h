@@ -20,8 +20,6 @@ class QHBoxLayout;
 namespace korvel
 {
 
-class WindowRecord;
-
 /// Pixels between the columns of a page, between its groups, between rows.
 inline constexpr int pageGap = 24;
 inline constexpr int pageGroupGap = 16;
@@ -40,11 +38,6 @@ struct PageRecord {
     std::vector<EntryBox*> boxes;
     std::vector<Choice> choices;
 };
-
-/// Has the record of a window hold its kind, then the boxes of its pages, behind them their
-/// choices.
-void keepPages(WindowRecord& record, const char* file, const char* kind,
-               const std::vector<PageRecord>& pages);
 
 /// Options of which one is chosen, as buttons in a row; the first at the start.
 /// @param array   of their names, "optClock"
