@@ -4,6 +4,9 @@
 #include "app/reading/Format.h"
 #include "app/working/SailingWorking.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace korvel
 {
 namespace
@@ -104,16 +107,18 @@ void addArrivals(Working& working, const NoonInput& input, const NoonResult& noo
     const RecordedFix& fix = noon.record.fixes[noon.day->to];
     const std::string distance = figure(noon.way->distance, milesInFull);
     const std::string stops = hours(noon.way->stops());
+    const std::string from = isoText(instantOf(fix.utc)) + " and these hours; port time with TD " +
+                             figure(hoursOf(arrivals.zone), 2);
     for (std::size_t i = 0; i < arrivals.at.size(); ++i) {
         if (!arrivals.at[i]) continue;
         const auto& [speed, utc] = *arrivals.at[i];
-        working.step("Hours at " + Format(speed, "0.00") + " kn", "miles / speed + stops",
-                     distance + " / " + figure(speed, 6) + " + " + stops,
+        std::string name = "Hours at ";
+        name.append(Format(speed, "0.00")).append(" kn");
+        std::string terms = distance;
+        terms.append(" / ").append(figure(speed, 6)).append(" + ").append(stops);
+        working.step(std::move(name), "miles / speed + stops", std::move(terms),
                      hours(utc - instantOf(fix.utc)), "h");
-        working.resultStep("ETA",
-                           isoText(instantOf(fix.utc)) + " and these hours; port time with TD " +
-                               figure(hoursOf(arrivals.zone), 2),
-                           noon.eta[i]);
+        working.resultStep("ETA", from, noon.eta[i]);
     }
     if (!arrivals.needed) return;
     const Span left = *arrivals.wanted - instantOf(fix.utc);
