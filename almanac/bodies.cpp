@@ -91,8 +91,7 @@ std::vector<Body> bodiesBeginning(std::string_view beginning)
     std::vector<Body> found;
     if (beginning.empty()) return found;
     for (const BodyEntry& entry : bodies())
-        if (isAlike(entry.name.substr(0, beginning.size()), beginning))
-            found.push_back(entry.body);
+        if (isAlike(entry.name.substr(0, beginning.size()), beginning)) found.push_back(entry.body);
     return found;
 }
 
