@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "navlib/exact_factors.h"
+
 /// Crude oil: volume correction, densities, barrels, kilolitres and tons.
 ///
 /// Formulas: ASTM D1250-80 / API MPMS chapter 11.1, crude oils, tables 5A, 6A, 53A and 54A; with
@@ -22,9 +24,9 @@ using LongTons = double;
 enum class CrudeEdition { Of1980, Of2004 };
 
 /// 42 US gallons of 231 cubic inches; exact.
-inline constexpr CubicMetres cubicMetresPerBarrel = 0.158987294928;
+inline constexpr CubicMetres cubicMetresPerBarrel = exact::litresPerBarrel / 1000;
 /// 2240 lb; exact.
-inline constexpr MetricTons metricTonsPerLongTon = 1.0160469088;
+inline constexpr MetricTons metricTonsPerLongTon = exact::kilogramsPerLongTon / 1000;
 
 Celsius CelsiusOfFahrenheit(Fahrenheit value);
 Fahrenheit FahrenheitOfCelsius(Celsius value);

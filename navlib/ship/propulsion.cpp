@@ -2,13 +2,14 @@
 #include "navlib/ship/propulsion.h"
 
 #include "navlib/arithmetic_error.h"
+#include "navlib/exact_factors.h"
 
 namespace NavFunc113
 {
 namespace
 {
 
-constexpr double metresOfMile = 1852;
+constexpr double metresOfMile = exact::metresPerMile;
 
 } // namespace
 

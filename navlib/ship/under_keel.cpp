@@ -3,6 +3,7 @@
 
 #include "navlib/angles.h"
 #include "navlib/arithmetic_error.h"
+#include "navlib/exact_factors.h"
 
 #include <cmath>
 
@@ -12,8 +13,8 @@ namespace
 {
 
 constexpr double powerOfSpeed = 2.08;
-constexpr double metresASecond = 1852.0 / 3600; // of a knot
-constexpr double gravity = 9.80665;             // m/s2, standard
+constexpr double metresASecond = exact::metresPerMile / 3600; // of a knot
+constexpr double gravity = exact::standardGravity;
 
 double divisorOf(SquatFormula formula)
 {

@@ -146,18 +146,23 @@ Routine refined(std::optional<DateTime> (*function)(Parameters...))
 
 Result converted(const Arguments& texts)
 {
-    const std::map<std::string, Quantity> quantities = {{"length", Quantity::Length},
-                                                        {"area", Quantity::Area},
-                                                        {"volume", Quantity::Volume},
-                                                        {"pressure", Quantity::Pressure},
-                                                        {"weight", Quantity::Weight}};
+    const std::map<std::string, Quantity> quantities = {
+        {"length", Quantity::Length}, {"area", Quantity::Area},
+        {"volume", Quantity::Volume}, {"pressure", Quantity::Pressure},
+        {"weight", Quantity::Weight}, {"temperature", Quantity::Temperature},
+        {"speed", Quantity::Speed},   {"density", Quantity::Density},
+        {"flow", Quantity::Flow},     {"energy", Quantity::Energy},
+        {"angle", Quantity::Angle}};
     const auto unit = [&](std::string symbol) -> const Unit& {
         std::replace(symbol.begin(), symbol.end(), '_', ' ');
         for (const Unit& each : UnitTable(quantities.at(texts.at(0))))
             if (each.symbol == symbol) return each;
         throw std::invalid_argument(symbol);
     };
-    return parts(ConvertUnits(numberOf(texts.at(1)), unit(texts.at(2)), unit(texts.at(3))));
+    UnitConditions known; // density, power, hours
+    for (std::size_t i = 4; i < texts.size(); ++i)
+        (i == 4 ? known.density : i == 5 ? known.power : known.hours) = numberOf(texts[i]);
+    return parts(ConvertUnits(numberOf(texts.at(1)), unit(texts.at(2)), unit(texts.at(3)), known));
 }
 
 /// t; phase and amplitude of M2, S2, K1, O1; angle and factor of each this day and the next;
