@@ -53,7 +53,8 @@ CatalogueEntry withUnits(CatalogueEntry entry, const char* box, NavFunc113::Quan
         std::vector<CatalogueEntry::Place> units;
         for (const NavFunc113::Unit& unit : NavFunc113::UnitTable(quantity))
             units.push_back({asQString(unit.caption),
-                             QString("%1(%2)").arg(box).arg(static_cast<int>(units.size()))});
+                             QString("%1(%2)").arg(box).arg(static_cast<int>(units.size())),
+                             asQString(unit.symbol)});
         return units;
     });
 }
@@ -92,6 +93,17 @@ WindowCatalogue calculatorWindows()
         window<frmUKC>("mnuWATCH", 8, "frmUKC", "Under-keel clearance"),
         withPlaces(window<frmSky>("mnuNAV", 5, "frmSky", "Twilig&ht and stars"),
                    frmSky::pagesToGoTo),
+        behindALine(withUnits(window<frmTemperature>("mnuCONV", 8, "frmTemperature", "Temperature"),
+                              "txtTemperature", Quantity::Temperature)),
+        withUnits(window<frmSpeed>("mnuCONV", 9, "frmSpeed", "Speed"), "txtSpeed", Quantity::Speed),
+        withUnits(window<frmDensity>("mnuCONV", 10, "frmDensity", "Density"), "txtDensity",
+                  Quantity::Density),
+        withUnits(window<frmFlow>("mnuCONV", 11, "frmFlow", "Flow and consumption"), "txtFlow",
+                  Quantity::Flow),
+        withUnits(window<frmEnergy>("mnuCONV", 12, "frmEnergy", "Energy and power"), "txtEnergy",
+                  Quantity::Energy),
+        withUnits(window<frmAngle>("mnuCONV", 13, "frmAngle", "Angle and time"), "txtAngle",
+                  Quantity::Angle),
     };
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/ConversionWindow.h"
 
+#include "app/records/KeyedLines.h"
 #include "forms/conversion/CalculateConversion.h"
-#include "forms/conversion/ConversionWorking.h"
 #include "navlib/arithmetic_error.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/TypeScale.h"
@@ -43,13 +43,17 @@ QString numbered(std::size_t index, const NavFunc113::Unit& unit)
 
 ConversionWindow::ConversionWindow(Program& program, const ConversionKind& kind)
     : CalculatorWindow(program, kind.name, kind.caption), m_quantity(kind.quantity),
+      m_needs(kind.conditions), m_conditions(addFields(kind.conditions.fields)),
       m_focus([this](QWidget* now) { focusMoved(now); })
 {
     addBoxes(kind.box);
     layOut();
     addMenus();
     addCalculation();
-    useConversionSettings(kind.file);
+    if (*kind.record)
+        useConversionLines(kind);
+    else
+        useConversionSettings(kind.file);
     loadSettings();
     m_boxes[m_lead]->setFocus();
     focusMoved(m_boxes[m_lead]);
@@ -65,6 +69,9 @@ void ConversionWindow::addBoxes(const char* name)
         box->declare(asQString(unit.caption), asQString(unit.symbol));
         box->setToolTip(asQString(unitToolTip(m_quantity, index)));
         box->setReading({.name = {}});
+        box->isUnderstood = [this, index](const std::string& text) {
+            return isReadWhole(m_quantity, index, text);
+        };
         box->setAlignment(Qt::AlignRight);
         giveRoom(*box);
         m_boxes.push_back(box);
@@ -77,6 +84,10 @@ void ConversionWindow::addCalculation()
 {
     const int conversion = calculations().add(
         {"Conversion", {m_boxes.begin(), m_boxes.end()}, {}, [this] { convert(); }});
+    for (EntryBox* condition : m_conditions.all())
+        connect(condition, &QLineEdit::textChanged, this, [this, conversion] {
+            if (!calculations().isHeld()) calculations().run(conversion);
+        });
     for (std::size_t index = 0; index < m_boxes.size(); ++index)
         m_boxes[index]->onKeyUp = [this, index, conversion] {
             if (calculations().isHeld()) return;
@@ -89,9 +100,11 @@ void ConversionWindow::layOut()
 {
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid, Spacing::Dense);
+    addConditions(*grid);
+    const int first = static_cast<int>(m_conditions.size());
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
-        const int row = static_cast<int>(i);
+        const int row = first + static_cast<int>(i);
         auto* caption = new QLabel(asQString(units[i].caption));
         auto* symbol = new QLabel(asQString(units[i].symbol));
         caption->setBuddy(m_boxes[i]);
@@ -102,7 +115,33 @@ void ConversionWindow::layOut()
         grid->addWidget(symbol, row, 2);
     }
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(static_cast<int>(units.size()), 1);
+    grid->setRowStretch(first + static_cast<int>(units.size()), 1);
+}
+
+/// Above the units, in letters of their own size: they are no answers.
+void ConversionWindow::addConditions(QGridLayout& grid)
+{
+    for (std::size_t i = 0; i < m_conditions.size(); ++i) {
+        auto* caption = new QLabel(m_needs.fields[i].caption);
+        caption->setBuddy(m_conditions[i]);
+        grid.addWidget(caption, static_cast<int>(i), 0);
+        grid.addWidget(m_conditions[i], static_cast<int>(i), 1);
+        grid.addWidget(new QLabel(m_needs.fields[i].unit), static_cast<int>(i), 2);
+    }
+}
+
+NavFunc113::UnitConditions ConversionWindow::conditions() const
+{
+    Remarks unsaid;
+    return conditions(unsaid);
+}
+
+NavFunc113::UnitConditions ConversionWindow::conditions(Remarks& remarks) const
+{
+    std::vector<std::string> texts;
+    for (const EntryBox* box : m_conditions.all())
+        texts.push_back(box->value());
+    return readConditions(m_needs, texts, remarks);
 }
 
 void ConversionWindow::focusMoved(const QWidget* now)
@@ -138,7 +177,7 @@ void ConversionWindow::addMenus()
     const auto units = NavFunc113::UnitTable(m_quantity);
     for (std::size_t i = 0; i < units.size(); ++i) {
         menus().addStoreSingle(numbered(i, units[i]), [this, i] {
-            return convertedInFull(m_quantity, m_lead, m_boxes[m_lead]->value(), i);
+            return convertedInFull(m_quantity, m_lead, m_boxes[m_lead]->value(), i, conditions());
         });
         menus().addRecallSingle("into " + numbered(i, units[i]), m_boxes[i]);
     }
@@ -166,6 +205,32 @@ void ConversionWindow::useConversionSettings(const char* file)
     record().use(file, std::move(kinds), save, load);
 }
 
+void ConversionWindow::useConversionLines(const ConversionKind& kind)
+{
+    const auto save = [this, begin = std::string(kind.record)] {
+        std::string text = begin;
+        text += "1\n";
+        for (std::size_t i = 0; i < m_conditions.size(); ++i)
+            addKeyedLine(text, m_needs.fields[i].name, m_conditions[i]->value());
+        addKeyedLine(text, m_boxes[m_lead]->objectName().toStdString(), m_boxes[m_lead]->value());
+        return text;
+    };
+    const auto take = [this, begin = std::string(kind.record)](const std::string& bytes) {
+        return readKeyedLines(bytes, begin, "record of this window",
+                              [this](std::string_view key, const std::string& value) {
+                                  for (std::size_t i = 0; i < m_conditions.size(); ++i)
+                                      if (key == m_needs.fields[i].name)
+                                          m_conditions[i]->setText(asQString(value));
+                                  for (std::size_t i = 0; i < m_boxes.size(); ++i)
+                                      if (key == m_boxes[i]->objectName().toStdString()) {
+                                          m_lead = i;
+                                          m_boxes[i]->fill(asQString(value));
+                                      }
+                              });
+    };
+    record().useText(kind.file, save, take);
+}
+
 /// Figures that rest on one of which only the beginning was read are in doubt.
 void ConversionWindow::dimOthers()
 {
@@ -181,10 +246,15 @@ void ConversionWindow::convert()
         m_boxes[index]->fill(asQString(figure));
     };
     try {
-        const auto figures = CalculateConversion(m_quantity, m_lead, m_boxes[m_lead]->value());
+        const std::string& text = m_boxes[m_lead]->value();
+        const auto figures = CalculateConversion(m_quantity, m_lead, text, conditions());
         for (std::size_t i = 0; i < figures.size(); ++i)
             if (figures[i]) show(i, *figures[i]);
-        setNotice("typed", asQString(remarkOn(m_boxes[m_lead]->value())), NoticeLevel::Fault);
+        const ConversionNotice notice = noticeOn(m_quantity, m_lead, text, conditions());
+        setNotice("typed", asQString(notice.text), notice.level);
+        Remarks remarks;
+        conditions(remarks);
+        setNotice("conditions", asQString(remarks.text()), NoticeLevel::Fault);
     } catch (const NavFunc113::ArithmeticError&) {
         // No box may keep a figure that does not belong to the one typed in.
         for (std::size_t i = 0; i < m_boxes.size(); ++i)
@@ -193,17 +263,23 @@ void ConversionWindow::convert()
     }
 }
 
+Converted ConversionWindow::converted() const
+{
+    Converted converted{m_quantity, m_lead, m_boxes[m_lead]->value(), conditions()};
+    for (const KeyUpBox* box : m_boxes)
+        converted.boxes.push_back(box->value());
+    return converted;
+}
+
 WorkingPaper ConversionWindow::paper() const
 {
-    std::vector<std::string> boxes;
-    for (const KeyUpBox* box : m_boxes)
-        boxes.push_back(box->value());
-    const std::string typed = boxes[m_lead];
     WorkingPaper paper = CalculatorWindow::paper();
     paper.kind = "Conversion of " + windowTitle().toLower().toStdString();
-    paper.inputs = {convertedFrom(m_quantity, m_lead, typed)};
-    paper.results = convertedInto(m_quantity, m_lead, boxes);
-    paper.workings = {conversionWorking(m_quantity, m_lead, typed, boxes)};
+    std::erase_if(paper.inputs,
+                  [](const PaperFigure& input) { return input.value == "nothing entered"; });
+    paper.inputs.insert(paper.inputs.begin(), convertedFrom(converted()));
+    paper.results = convertedInto(converted());
+    paper.workings = {conversionWorking(converted())};
     paper.limits = {"Figures are shown with seven significant digits, whole digits always in full"};
     return paper;
 }
@@ -240,6 +316,72 @@ frmPressure::frmPressure(Program& program)
 frmWeight::frmWeight(Program& program)
     : ConversionWindow(program,
                        {"frmWeight", "Weight", "KV_Weight.ini", "txtWeight", Quantity::Weight})
+{
+}
+
+frmTemperature::frmTemperature(Program& program)
+    : ConversionWindow(program, {"frmTemperature",
+                                 "Temperature",
+                                 "KV_Temperature.ini",
+                                 "txtTemperature",
+                                 Quantity::Temperature,
+                                 {},
+                                 "KORVEL2000 temperature "})
+{
+}
+
+frmSpeed::frmSpeed(Program& program)
+    : ConversionWindow(program, {"frmSpeed",
+                                 "Speed",
+                                 "KV_Speed.ini",
+                                 "txtSpeed",
+                                 Quantity::Speed,
+                                 {},
+                                 "KORVEL2000 speed "})
+{
+}
+
+frmDensity::frmDensity(Program& program)
+    : ConversionWindow(program, {"frmDensity",
+                                 "Density",
+                                 "KV_Density.ini",
+                                 "txtDensity",
+                                 Quantity::Density,
+                                 {},
+                                 "KORVEL2000 density "})
+{
+}
+
+frmFlow::frmFlow(Program& program)
+    : ConversionWindow(program, {"frmFlow",
+                                 "Flow and consumption",
+                                 "KV_Flow.ini",
+                                 "txtFlow",
+                                 Quantity::Flow,
+                                 {flowConditions, flowNeeds},
+                                 "KORVEL2000 flow and consumption "})
+{
+}
+
+frmEnergy::frmEnergy(Program& program)
+    : ConversionWindow(program, {"frmEnergy",
+                                 "Energy and power",
+                                 "KV_Energy.ini",
+                                 "txtEnergy",
+                                 Quantity::Energy,
+                                 {energyConditions, energyNeeds},
+                                 "KORVEL2000 energy and power "})
+{
+}
+
+frmAngle::frmAngle(Program& program)
+    : ConversionWindow(program, {"frmAngle",
+                                 "Angle and time",
+                                 "KV_Angle.ini",
+                                 "txtAngle",
+                                 Quantity::Angle,
+                                 {},
+                                 "KORVEL2000 angle and time "})
 {
 }
 

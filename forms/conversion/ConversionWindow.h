@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "forms/conversion/ConversionFields.h"
+#include "forms/conversion/ConversionWorking.h"
 #include "navlib/ship/unit_tables.h"
 #include "shell/layout/FocusFollower.h"
 #include "shell/window/CalculatorWindow.h"
+
+class QGridLayout;
 
 namespace korvel
 {
@@ -15,12 +19,16 @@ struct ConversionKind {
     const char* file;              ///< its settings file
     const char* box;               ///< name of its control array
     NavFunc113::Quantity quantity; ///< its unit table
+    ConditionFields conditions = {};
+    /// What a record of lines with keys begins with; empty: a settings record.
+    const char* record = "";
 };
 
 /// A box a unit; whichever is typed in leads the others, at every key released.
 ///
 /// Record of the settings file: the texts of the boxes in the order of the unit table, then the
-/// index of the box that leads.
+/// index of the box that leads. A record of lines with keys holds the box that leads alone, and the
+/// conditions.
 class ConversionWindow : public CalculatorWindow
 {
 public:
@@ -36,6 +44,11 @@ private:
     void layOut();
     void addMenus();
     void useConversionSettings(const char* file);
+    void useConversionLines(const ConversionKind& kind);
+    void addConditions(QGridLayout& grid);
+    NavFunc113::UnitConditions conditions(Remarks& remarks) const;
+    NavFunc113::UnitConditions conditions() const;
+    Converted converted() const;
     void convert();
     void dimOthers();
     void clearBoxes();
@@ -43,13 +56,15 @@ private:
     void dressBoxes();
 
     NavFunc113::Quantity m_quantity;
+    ConditionFields m_needs;
+    FieldBoxes m_conditions;
     std::vector<KeyUpBox*> m_boxes;
     std::size_t m_lead = 0;             ///< the box that was typed in last
     const KeyUpBox* m_inHand = nullptr; ///< the box that has the focus, or had it last
     FocusFollower m_focus;
 };
 
-/// The five windows, by the names that the menus know.
+/// The windows, by the names that the menus know.
 class frmArea : public ConversionWindow
 {
 public:
@@ -78,6 +93,42 @@ class frmWeight : public ConversionWindow
 {
 public:
     explicit frmWeight(Program& program);
+};
+
+class frmTemperature : public ConversionWindow
+{
+public:
+    explicit frmTemperature(Program& program);
+};
+
+class frmSpeed : public ConversionWindow
+{
+public:
+    explicit frmSpeed(Program& program);
+};
+
+class frmDensity : public ConversionWindow
+{
+public:
+    explicit frmDensity(Program& program);
+};
+
+class frmFlow : public ConversionWindow
+{
+public:
+    explicit frmFlow(Program& program);
+};
+
+class frmEnergy : public ConversionWindow
+{
+public:
+    explicit frmEnergy(Program& program);
+};
+
+class frmAngle : public ConversionWindow
+{
+public:
+    explicit frmAngle(Program& program);
 };
 
 } // namespace korvel

@@ -1,82 +1,129 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/ConversionWorking.h"
 
-#include "app/reading/Reading.h"
 #include "app/records/KORVEL2000Actions.h"
+#include "forms/conversion/MeasureReading.h"
 
 namespace korvel
 {
 namespace
 {
 
-/// The unit in which the factors of a quantity are given.
-const char* baseUnit(NavFunc113::Quantity quantity)
+using NavFunc113::Unit;
+using NavFunc113::UnitScale;
+
+std::optional<double> typedValue(const Converted& converted)
 {
-    switch (quantity) {
-    case NavFunc113::Quantity::Length:
-        return "m";
-    case NavFunc113::Quantity::Area:
-        return "m²";
-    case NavFunc113::Quantity::Volume:
-        return "l";
-    case NavFunc113::Quantity::Pressure:
-        return "Pa";
-    case NavFunc113::Quantity::Weight:
+    const Unit& from = NavFunc113::UnitTable(converted.quantity)[converted.typed];
+    return readMeasure(converted.quantity, from, converted.text).value;
+}
+
+/// A table of sizes alone: one formula does for all its units.
+bool isOfRatios(NavFunc113::Quantity quantity)
+{
+    for (const Unit& unit : NavFunc113::UnitTable(quantity))
+        if (unit.scale != UnitScale::Ratio || unit.needs != NavFunc113::UnitNeed::Nothing)
+            return false;
+    return true;
+}
+
+void addSizes(Working& working, const Converted& converted, double value)
+{
+    const auto units = NavFunc113::UnitTable(converted.quantity);
+    const Unit& from = units[converted.typed];
+    const std::string base(NavFunc113::BaseUnit(converted.quantity));
+    const auto size = [&](const Unit& unit) { return memoText(unit.factor); };
+    working.step("Size of the unit entered", "1 " + std::string(from.symbol) + " in " + base,
+                 std::string(from.definition), size(from), base);
+    for (std::size_t i = 0; i < units.size(); ++i)
+        if (i != converted.typed && !converted.boxes[i].empty())
+            working.step("In " + std::string(units[i].caption),
+                         "1 " + std::string(units[i].symbol) + " = " + size(units[i]) + ' ' + base +
+                             " (" + std::string(units[i].definition) + ")",
+                         memoText(value) + " × " + size(from) + " / " + size(units[i]),
+                         converted.boxes[i], std::string(units[i].symbol));
+}
+
+/// How a value of a unit comes from the base unit and goes there.
+std::string relationOf(const Unit& unit, const std::string& base)
+{
+    const std::string symbol(unit.symbol), factor = memoText(unit.factor);
+    switch (unit.scale) {
+    case UnitScale::Offset:
+        return base + " = (" + symbol + " + " + memoText(unit.offset) + ") × " + factor;
+    case UnitScale::Reciprocal:
+        return base + " = " + factor + " / " + symbol;
+    case UnitScale::APIDegrees:
+        return base + " = 141.5 × 999.012 / (131.5 + " + symbol + ")";
+    case UnitScale::PackedArc:
+        return base + " = degrees + minutes / 60";
+    case UnitScale::Clock:
+    case UnitScale::Ratio:
         break;
     }
-    return "kg";
+    std::string relation = base + " = " + symbol + " × " + factor;
+    if (unit.needs == NavFunc113::UnitNeed::Density) relation += " × density";
+    if (unit.needs == NavFunc113::UnitNeed::Power) relation += " × power";
+    if (unit.needs == NavFunc113::UnitNeed::Duration) relation += " × hours";
+    return relation;
+}
+
+void addRelations(Working& working, const Converted& converted, double value)
+{
+    const auto units = NavFunc113::UnitTable(converted.quantity);
+    const Unit& from = units[converted.typed];
+    const std::string base(NavFunc113::BaseUnit(converted.quantity));
+    const std::string typed = memoText(value) + " " + std::string(from.symbol);
+    working.resultStep("Entered: " + std::string(from.caption), relationOf(from, base), typed);
+    for (std::size_t i = 0; i < units.size(); ++i)
+        if (i != converted.typed && !converted.boxes[i].empty())
+            working.step("In " + std::string(units[i].caption), relationOf(units[i], base),
+                         std::string(units[i].definition), converted.boxes[i],
+                         std::string(units[i].symbol));
 }
 
 } // namespace
 
-Working conversionWorking(NavFunc113::Quantity quantity, std::size_t typed, std::string_view text,
-                          const std::vector<std::string>& boxes)
+Working conversionWorking(const Converted& converted)
 {
-    Working working{"Conversion",
-                    {"Value times the size of its unit, divided by the size of the other; sizes "
-                     "are exact by definition, or the double nearest to the defining ratio"},
-                    {}};
-    const auto value = readLeadingNumber(text);
-    if (!value) {
+    const bool isOfSizes = isOfRatios(converted.quantity);
+    Working working{"Conversion", {}, {}};
+    working.method = {isOfSizes
+                          ? "Value times the size of its unit, divided by the size of the other; "
+                            "sizes are exact by definition, or the double nearest to the defining "
+                            "ratio"
+                          : "By way of " + std::string(NavFunc113::BaseUnit(converted.quantity)) +
+                                ": each unit's relation to it, there and back; factors are exact "
+                                "by definition, or the double nearest to the defining ratio"};
+    const auto value = typedValue(converted);
+    if (!value)
         working.whyNone = "No number was entered.";
-        return working;
-    }
-    const auto units = NavFunc113::UnitTable(quantity);
-    const NavFunc113::Unit& from = units[typed];
-    const std::string base = baseUnit(quantity);
-    const auto size = [&](const NavFunc113::Unit& unit) { return memoText(unit.factor); };
-    working.step("Size of the unit entered", "1 " + std::string(from.symbol) + " in " + base,
-                 std::string(from.definition), size(from), base);
-    for (std::size_t i = 0; i < units.size(); ++i)
-        if (i != typed && !boxes[i].empty())
-            working.step("In " + std::string(units[i].caption),
-                         "1 " + std::string(units[i].symbol) + " = " + size(units[i]) + ' ' + base +
-                             " (" + std::string(units[i].definition) + ")",
-                         memoText(*value) + " × " + size(from) + " / " + size(units[i]), boxes[i],
-                         std::string(units[i].symbol));
+    else if (isOfSizes)
+        addSizes(working, converted, *value);
+    else
+        addRelations(working, converted, *value);
     return working;
 }
 
-PaperFigure convertedFrom(NavFunc113::Quantity quantity, std::size_t typed, std::string_view text)
+PaperFigure convertedFrom(const Converted& converted)
 {
-    const NavFunc113::Unit& unit = NavFunc113::UnitTable(quantity)[typed];
-    const auto value = readLeadingNumber(text);
+    const Unit& unit = NavFunc113::UnitTable(converted.quantity)[converted.typed];
+    const auto value = typedValue(converted);
     PaperFigure figure{std::string(unit.caption), value ? memoText(*value) : "not understood",
                        value ? std::string(unit.symbol) : ""};
-    if (text.empty()) figure.value = "nothing entered";
-    if (figure.value != text) figure.shown = text;
+    if (converted.text.empty()) figure.value = "nothing entered";
+    if (figure.value != converted.text) figure.shown = converted.text;
     return figure;
 }
 
-std::vector<PaperFigure> convertedInto(NavFunc113::Quantity quantity, std::size_t typed,
-                                       const std::vector<std::string>& boxes)
+std::vector<PaperFigure> convertedInto(const Converted& converted)
 {
     std::vector<PaperFigure> figures;
-    const auto units = NavFunc113::UnitTable(quantity);
+    const auto units = NavFunc113::UnitTable(converted.quantity);
     for (std::size_t i = 0; i < units.size(); ++i)
-        if (i != typed && !boxes[i].empty())
+        if (i != converted.typed && !converted.boxes[i].empty())
             figures.push_back(
-                {std::string(units[i].caption), boxes[i], std::string(units[i].symbol)});
+                {std::string(units[i].caption), converted.boxes[i], std::string(units[i].symbol)});
     return figures;
 }
 

@@ -113,6 +113,7 @@ const std::optional<NumberReading>& EntryBox::halfRead() const
     if (!m_reading || text() == m_halfReadText) return m_halfRead;
     m_halfReadText = text();
     m_halfRead.reset();
+    if (isUnderstood && isUnderstood(value())) return m_halfRead;
     NumberReading reading = readField(value(), *m_reading);
     const bool isHalf = reading.kind == NumberReading::Kind::Beginning && !reading.remark.empty();
     if (isHalf) m_halfRead = std::move(reading);

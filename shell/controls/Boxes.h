@@ -51,6 +51,8 @@ public:
 
     /// Says that the box takes a number, and which. Its name is the box's own.
     void setReading(const NumberField& reading);
+    /// Whether a text is read whole though a number is only its beginning: "6 ft 3 in".
+    std::function<bool(const std::string& text)> isUnderstood;
     /// What of the text is read where that is only its beginning, and what all of it may have been
     /// meant as; nothing when it is read whole, or not at all.
     const std::optional<NumberReading>& halfRead() const;

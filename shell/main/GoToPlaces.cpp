@@ -59,10 +59,11 @@ void addPlacesInWindows(std::vector<GoToPlace>& places, CalculatorWindows& windo
     for (const CatalogueEntry& entry : windows.catalogue()) {
         if (!entry.places) continue;
         for (const CatalogueEntry::Place& each : entry.places())
-            places.push_back({each.caption, withoutMnemonics(entry.caption),
-                              [&windows, name = entry.name, place = each.place] {
-                                  windows.openAt(name, place);
-                              }});
+            places.push_back(
+                {each.symbol.isEmpty() ? each.caption : each.caption + " (" + each.symbol + ")",
+                 withoutMnemonics(entry.caption),
+                 [&windows, name = entry.name, place = each.place] { windows.openAt(name, place); },
+                 each.symbol});
     }
 }
 
@@ -109,6 +110,10 @@ std::vector<const GoToPlace*> findPlaces(const std::vector<GoToPlace>& places, c
     const QStringList words = letters.isEmpty() ? QStringList("") : letters.split(' ');
     std::vector<std::pair<int, const GoToPlace*>> ranked;
     for (const GoToPlace& place : places) {
+        if (!letters.isEmpty() && place.symbol.compare(letters, Qt::CaseInsensitive) == 0) {
+            ranked.emplace_back(place.symbol == letters ? -2 : -1, &place); // ST is not st
+            continue;
+        }
         if (letters.size() < leastLetters && place.where != windowKind) continue;
         if (const auto rank = rankOf(place.name, words)) ranked.emplace_back(*rank, &place);
     }

@@ -19,6 +19,7 @@ struct GoToPlace {
     QString name;             ///< "Yokohama"
     QString where;            ///< "Tide and tidal stream"
     std::function<void()> go; ///< after the box has closed
+    QString symbol = {};      ///< a short name, which is found whole: "nm"
 };
 
 /// Everywhere: windows, the menu entries of the window in hand that can be chosen now, stations and
@@ -28,7 +29,8 @@ struct GoToPlace {
 std::vector<GoToPlace> placesToGo(CalculatorWindows& windows, QWidget& from, HelpDesk& help);
 
 /// The places whose name holds all the typed words, those that begin with them first, then those
-/// with a word that does. Less than three letters find windows alone.
+/// with a word that does. A whole symbol comes before them; less than three letters find windows
+/// and symbols alone.
 std::vector<const GoToPlace*> findPlaces(const std::vector<GoToPlace>& places,
                                          const QString& typed);
 

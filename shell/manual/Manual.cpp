@@ -36,8 +36,9 @@ const QStringList& Manual::pages()
 
 QString Manual::pageOf(const QString& window)
 {
-    static const QStringList conversions = {"frmLength", "frmVolume", "frmArea", "frmWeight",
-                                            "frmPressure"};
+    static const QStringList conversions = {
+        "frmLength", "frmVolume",  "frmArea", "frmWeight", "frmPressure", "frmTemperature",
+        "frmSpeed",  "frmDensity", "frmFlow", "frmEnergy", "frmAngle"};
     static const QStringList papers = {"frmPaper", "frmJournal", "dlgPreview"};
     if (conversions.contains(window)) return "conversion";
     if (papers.contains(window)) return "paper";

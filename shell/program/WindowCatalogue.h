@@ -24,8 +24,9 @@ struct CatalogueEntry {
 
     /// A place in the window that can be gone to by its name.
     struct Place {
-        QString caption; ///< "Yokohama", "Nautical miles"
-        QString place;   ///< as the window calls it
+        QString caption;     ///< "Yokohama", "Nautical miles"
+        QString place;       ///< as the window calls it
+        QString symbol = {}; ///< "nm", which finds it whole
     };
     std::function<std::vector<Place>()> places = nullptr;
     bool isBehindLine = false; ///< a line parts its entry from those before it

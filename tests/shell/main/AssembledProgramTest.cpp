@@ -66,7 +66,7 @@ protected:
 
 TEST_F(AssembledProgramTest, everyEntryAndEveryLinkOpensWhatItSays)
 {
-    EXPECT_EQ(catalogue.size(), 20u);
+    EXPECT_EQ(catalogue.size(), 26u);
     expectUniqueMnemonics("frmKORVEL2000", main.menuBar()->actions());
     for (const CatalogueEntry& entry : catalogue) {
         choose(main, entry.entryName().toStdString());
@@ -85,6 +85,30 @@ TEST_F(AssembledProgramTest, everyEntryAndEveryLinkOpensWhatItSays)
                 << from.name.toStdString() << " to " << to.name.toStdString();
         }
     }
+}
+
+/// A unit that no letters find, or that opens another window or another box.
+TEST_F(AssembledProgramTest, everyUnitIsFoundByItsSymbolAndHasTheKeyboard)
+{
+    int found = 0;
+    for (const CatalogueEntry& entry : catalogue) {
+        if (!entry.places) continue;
+        for (const CatalogueEntry::Place& unit : entry.places()) {
+            if (unit.symbol.isEmpty()) continue;
+            main.program().goTo(main);
+            QApplication::processEvents();
+            QWidget* box = shown("dlgGoTo");
+            ASSERT_NE(box, nullptr);
+            box->findChild<QLineEdit*>("txtGoTo")->setText(unit.symbol);
+            QTest::keyClick(box->findChild<QLineEdit*>("txtGoTo"), Qt::Key_Return);
+            QApplication::processEvents();
+            ASSERT_NE(shown(entry.name), nullptr) << unit.caption.toStdString();
+            ASSERT_EQ(shown(entry.name)->focusWidget()->objectName(), unit.place)
+                << unit.caption.toStdString();
+            ++found;
+        }
+    }
+    EXPECT_GT(found, 120);
 }
 
 /// Recalls into the boxes and stores from them what the memories hold.

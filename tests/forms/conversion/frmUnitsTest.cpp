@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#include "forms/conversion/ConversionWindow.h"
+#include "tests/shell/ShellTesting.h"
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+using ::testing::StartsWith;
+
+class frmUnitsTest : public WindowTest
+{
+};
+
+TEST_F(frmUnitsTest, whatIsKnownBesideAValueIsThereAgain)
+{
+    auto& window = open<frmFlow>();
+    type(window, "txtFlow(1)", "30");
+    EXPECT_EQ(text(window, "txtFlow(0)"), "1.25");
+    EXPECT_THAT(text(window, "txtFlow(5)"), IsEmpty());
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("type the density"));
+    type(window, "txtFlowDensity", "991");
+    EXPECT_EQ(text(window, "txtFlow(5)"), "1.261352");
+    type(window, "txtFlowPower", "0");
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("Power of the engine"));
+    type(window, "txtFlowPower", "9000");
+    EXPECT_EQ(text(window, "txtFlow(11)"), "138.8889");
+    EXPECT_THAT(window.notice().toStdString(), Not(HasSubstr("type the")));
+    close(window);
+    EXPECT_EQ(fileText("KV_Flow.ini"), "KORVEL2000 flow and consumption 1\ntxtFlowDensity=991\n"
+                                       "txtFlowPower=9000\ntxtFlow(1)=30\n");
+    EXPECT_EQ(text(open<frmFlow>(), "txtFlow(11)"), "138.8889");
+}
+
+TEST_F(frmUnitsTest, aSumOfUnitsStaysAsItWasTyped)
+{
+    auto& window = open<frmLength>();
+    type(window, "txtLength(0)", "6 ft 3 in");
+    EXPECT_EQ(text(window, "txtLength(8)"), "75");
+    close(window);
+    EXPECT_THAT(fileText("KV_Length.ini"), StartsWith("\"6 ft 3 in\""));
+    EXPECT_EQ(text(open<frmLength>(), "txtLength(8)"), "75");
+}
+
+} // namespace
+} // namespace korvel
