@@ -22,7 +22,7 @@ inline constexpr std::array<Field, 2> flowConditions = {{
 
 /// What powers need among energies.
 inline constexpr std::array<Field, 1> energyConditions = {{
-    {"txtEnergyHours", "During", "Hours of the power", "hours", FieldKind::Figure, "h", 0.001,
+    {"txtEnergyHours", "Hours", "Hours of the power", "hours", FieldKind::Figure, "h", 0.001,
      100000},
 }};
 

@@ -68,17 +68,54 @@ std::string relationOf(const Unit& unit, const std::string& base)
     return relation;
 }
 
+/// What a factor is multiplied with beside the value: " × 991"; empty where that is nothing.
+std::string besideFactor(const Unit& unit, const NavFunc113::UnitConditions& conditions)
+{
+    const auto known = conditions.of(unit.needs);
+    if (unit.needs == NavFunc113::UnitNeed::Nothing || !known) return {};
+    return " × " + memoText(*known);
+}
+
+/// The relation of a unit with its figures, from the value of the base unit.
+std::string figuresOf(const Unit& unit, const std::string& base,
+                      const NavFunc113::UnitConditions& conditions)
+{
+    const std::string factor = memoText(unit.factor);
+    switch (unit.scale) {
+    case UnitScale::Offset:
+        return base + " / " + factor + " - " + memoText(unit.offset);
+    case UnitScale::Reciprocal:
+        return factor + " / " + base;
+    case UnitScale::APIDegrees:
+        return "141.5 × 999.012 / " + base + " - 131.5";
+    case UnitScale::PackedArc:
+        return base + "° in degrees and minutes";
+    case UnitScale::Clock:
+        return base + "° / " + factor + " in hours, minutes and seconds";
+    case UnitScale::Ratio:
+        break;
+    }
+    const std::string beside = besideFactor(unit, conditions);
+    return base + " / " + (beside.empty() ? factor : "(" + factor + beside + ")");
+}
+
 void addRelations(Working& working, const Converted& converted, double value)
 {
     const auto units = NavFunc113::UnitTable(converted.quantity);
     const Unit& from = units[converted.typed];
     const std::string base(NavFunc113::BaseUnit(converted.quantity));
-    const std::string typed = memoText(value) + " " + std::string(from.symbol);
-    working.resultStep("Entered: " + std::string(from.caption), relationOf(from, base), typed);
+    const auto known = converted.conditions.of(from.needs);
+    // Without it the units that need the same are left, and what they need is none of theirs.
+    const std::string inBase = memoText(NavFunc113::InBaseUnit(value, from) * known.value_or(1));
+    working.step("In " + base, relationOf(from, base),
+                 memoText(value) + " " + std::string(from.symbol) +
+                     besideFactor(from, converted.conditions),
+                 inBase, base);
     for (std::size_t i = 0; i < units.size(); ++i)
         if (i != converted.typed && !converted.boxes[i].empty())
-            working.step("In " + std::string(units[i].caption), relationOf(units[i], base),
-                         std::string(units[i].definition), converted.boxes[i],
+            working.step("In " + std::string(units[i].caption),
+                         relationOf(units[i], base) + " (" + std::string(units[i].definition) + ")",
+                         figuresOf(units[i], inBase, converted.conditions), converted.boxes[i],
                          std::string(units[i].symbol));
 }
 
@@ -98,6 +135,8 @@ Working conversionWorking(const Converted& converted)
     const auto value = typedValue(converted);
     if (!value)
         working.whyNone = "No number was entered.";
+    else if (convertedInto(converted).empty())
+        working.whyNone = "The remarks say why there is no result.";
     else if (isOfSizes)
         addSizes(working, converted, *value);
     else

@@ -153,10 +153,18 @@ TEST(MeasureReading, thePaperTellsTheRelations)
     Converted converted{Quantity::Temperature, 0, "15", {}, {"15", "59", "288.15", "518.67"}};
     const Working working = conversionWorking(converted);
     ASSERT_EQ(working.steps.size(), 4u);
-    EXPECT_EQ(working.steps[1].formula, "K = (°F + 459.67) × 0.555555555555556");
+    EXPECT_EQ(working.steps[0].value, "288.15");
+    EXPECT_EQ(working.steps[1].figures, "288.15 / 0.555555555555556 - 459.67");
     EXPECT_EQ(working.steps[1].value, "59");
     converted.text = "abc";
     EXPECT_FALSE(conversionWorking(converted).whyNone.empty());
+    // No density leads to the base unit: nothing is worked out of it.
+    const Converted none{Quantity::Density,
+                         unitCalled(Quantity::Density, "°API"),
+                         "-131.5",
+                         {},
+                         std::vector<std::string>(NavFunc113::UnitTable(Quantity::Density).size())};
+    EXPECT_FALSE(conversionWorking(none).whyNone.empty());
 }
 
 } // namespace
