@@ -38,6 +38,11 @@ Working timeWorking(const SightTexts& texts, const LOPResult& line)
     const std::string error = Format(readNumber(texts.watchError), "0.#");
     const std::string typed = dateInFigures(texts.date) + " " + texts.time + " - " + error + " s";
     const double TD = texts.SMT ? readNumber(texts.TD) : 0;
+    if (!line.body.empty())
+        working.resultStep("Body of the sight",
+                           "by name or number; with a question mark: by the "
+                           "altitude it may have been this one",
+                           line.body);
     working.resultStep("Watch error", "fast positive", line.watchError);
     working.step("UTC",
                  texts.SMT ? "date and time - watch error - TD" : "date and time - watch error",
