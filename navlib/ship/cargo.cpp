@@ -2,8 +2,9 @@
 #include "navlib/ship/cargo.h"
 
 #include "navlib/arithmetic_error.h"
+#include "navlib/ship/oil_tables.h"
+#include "navlib/ship/thermal_expansion.h"
 
-#include <array>
 #include <cmath>
 
 namespace NavFunc113
@@ -11,82 +12,9 @@ namespace NavFunc113
 namespace
 {
 
-// Expansion coefficient of crude oil is K0 / density^2; the density at the table's reference.
-constexpr double K0of54A = 613.9723;
-constexpr double K0of6A = 341.0957;
-
-constexpr Celsius reference60F = 140 / 9.0; // 60 degF
-constexpr Fahrenheit reference15C = 59;     // 15 degC
-
 void requirePositive(double value)
 {
     if (!(value > 0)) throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
-}
-
-/// Solves density x factor(density) = target by repeated division.
-template <typename Factor>
-KilogramsPerCubicMetre densityThatGives(KilogramsPerCubicMetre target, Factor factor)
-{
-    KilogramsPerCubicMetre density = target;
-    for (int i = 0; i < 50; ++i) {
-        const KilogramsPerCubicMetre next = Quotient(target, factor(density));
-        const bool settled = std::fabs(next - density) < 1e-6;
-        density = next;
-        if (settled) return density;
-    }
-    throw ArithmeticError(ArithmeticError::Condition::InvalidArgument);
-}
-
-VolumeCorrection correctionOf1980(double K0, KilogramsPerCubicMetre density,
-                                  double temperatureDifference)
-{
-    const double alpha = K0 / (density * density);
-    const double x = alpha * temperatureDifference;
-    return {density, K0, alpha, temperatureDifference, 0, 1, std::exp(-x * (1 + 0.8 * x))};
-}
-
-/// Temperature of the scale of 1968, in which the expansion was measured, from today's scale.
-Fahrenheit onScaleOf1968(Fahrenheit temperature)
-{
-    constexpr std::array<double, 8> a{-0.148759, -0.267408, 1.080760, 1.269056,
-                                      -4.089591, -1.871251, 7.438081, -3.536296};
-    const Celsius t90 = CelsiusOfFahrenheit(temperature);
-    const double x = t90 / 630;
-    double difference = 0;
-    for (std::size_t i = a.size(); i-- > 0;)
-        difference = (difference + a[i]) * x;
-    return FahrenheitOfCelsius(t90 - difference);
-}
-
-VolumeCorrection correctionOf2004(KilogramsPerCubicMetre density60, Fahrenheit temperature)
-{
-    // 60 degF lies at 60.0068749 on the scale of 1968; the base density moves by that much.
-    constexpr double shiftOf60F = 0.01374979547;
-    const double A = shiftOf60F / 2 * K0of6A / (density60 * density60);
-    const double B = 2;
-    const KilogramsPerCubicMetre base =
-        density60 * (1 + (std::exp(A * (1 + 0.8 * A)) - 1) / (1 + A * (1 + 1.6 * A) * B));
-    const double alpha = K0of6A / (base * base);
-    const double dt = onScaleOf1968(temperature) - 60.0068749;
-    return {base,
-            K0of6A,
-            alpha,
-            dt,
-            shiftOf60F,
-            1,
-            std::exp(-alpha * dt * (1 + 0.8 * alpha * (dt + shiftOf60F)))};
-}
-
-double factorOf2004(KilogramsPerCubicMetre density60, Fahrenheit temperature)
-{
-    return correctionOf2004(density60, temperature).factor;
-}
-
-VolumeCorrection correctionTo60F(KilogramsPerCubicMetre density60, Fahrenheit temperature,
-                                 CrudeEdition edition)
-{
-    if (edition == CrudeEdition::Of2004) return correctionOf2004(density60, temperature);
-    return correctionOf1980(K0of6A, density60, temperature - 60);
 }
 
 } // namespace
@@ -120,7 +48,7 @@ APIGravity APIFromDensity60(KilogramsPerCubicMetre density60, CrudeEdition editi
 
 KilogramsPerCubicMetre Density15FromAPI(APIGravity api, CrudeEdition edition)
 {
-    return densityThatGives(Density60FromAPI(api, edition), [edition](auto density15) {
+    return DensityThatGives(Density60FromAPI(api, edition), [edition](auto density15) {
         return VCF54A(density15, reference60F, edition);
     });
 }
@@ -145,21 +73,12 @@ double HydrometerCorrectionF(Fahrenheit temperature)
 VolumeCorrection CorrectionBy54A(KilogramsPerCubicMetre density15, Celsius temperature,
                                  CrudeEdition edition)
 {
-    requirePositive(density15);
-    if (edition == CrudeEdition::Of1980)
-        return correctionOf1980(K0of54A, density15, temperature - 15);
-    // The revision knows one base, 60 degF; the way to 15 degC leads over it.
-    const KilogramsPerCubicMetre density60 = densityThatGives(
-        density15, [](auto density) { return factorOf2004(density, reference15C); });
-    VolumeCorrection correction = correctionOf2004(density60, FahrenheitOfCelsius(temperature));
-    correction.atReference = factorOf2004(density60, reference15C);
-    correction.factor = Quotient(correction.factor, correction.atReference);
-    return correction;
+    return CorrectionTo15C({OilTable::Crude, density15}, temperature, edition);
 }
 
 VolumeCorrection CorrectionBy6A(APIGravity api, Fahrenheit temperature, CrudeEdition edition)
 {
-    return correctionTo60F(Density60FromAPI(api, edition), temperature, edition);
+    return CorrectionTo60F(OilTable::Crude, api, temperature, edition);
 }
 
 double VCF54A(KilogramsPerCubicMetre density15, Celsius temperature, CrudeEdition edition)
@@ -198,7 +117,7 @@ KilogramsPerCubicMetre Density15FromObserved(KilogramsPerCubicMetre observed, Ce
 {
     if (means == ReadWith::Hydrometer) observed *= HydrometerCorrection(temperature);
     requirePositive(observed);
-    return densityThatGives(observed, [temperature, edition](auto density15) {
+    return DensityThatGives(observed, [temperature, edition](auto density15) {
         return VCF54A(density15, temperature, edition);
     });
 }
@@ -209,10 +128,10 @@ APIGravity API60FromObserved(APIGravity observed, Fahrenheit temperature, ReadWi
     KilogramsPerCubicMetre density = Density60FromAPI(observed, edition);
     if (means == ReadWith::Hydrometer) density *= HydrometerCorrectionF(temperature);
     requirePositive(density);
-    const KilogramsPerCubicMetre density60 =
-        densityThatGives(density, [temperature, edition](auto candidate) {
-            return correctionTo60F(candidate, temperature, edition).factor;
-        });
+    const KilogramsPerCubicMetre density60 = DensityThatGives(density, [temperature,
+                                                                        edition](auto candidate) {
+        return CorrectionTo60FOfDensity(OilTable::Crude, candidate, temperature, edition).factor;
+    });
     return APIFromDensity60(density60, edition);
 }
 

@@ -62,6 +62,8 @@ struct VolumeCorrection {
     double shift = 0;       ///< of the base itself on the scale of 1968; 0 in the edition of 1980
     double atReference = 1; ///< 54A of 2004: the factor at 15 degC, for the base is 60 degF
     double factor = 1;
+    double K1 = 0; ///< of kinds of oil whose alpha has them: + K1 / density + K2
+    double K2 = 0;
 };
 VolumeCorrection CorrectionBy54A(KilogramsPerCubicMetre density15, Celsius temperature,
                                  CrudeEdition edition = CrudeEdition::Of1980);

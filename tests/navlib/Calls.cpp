@@ -13,7 +13,9 @@
 #include "navlib/sea/weather_terms.h"
 #include "navlib/sea/wind.h"
 #include "navlib/ship/cargo.h"
+#include "navlib/ship/oil_tables.h"
 #include "navlib/ship/unit_tables.h"
+#include "navlib/ship/vessel_experience.h"
 #include "navlib/sky/ephemeris.h"
 #include "navlib/sky/meridian_passage.h"
 #include "navlib/sky/rise_set.h"
@@ -205,6 +207,65 @@ Result picked(const Arguments& texts)
     return parts(PickItem<double>(argumentOf<int>(texts.at(0)), n));
 }
 
+/// "crude 870", "own 870 0.00085": the arguments that an oil takes.
+Oil oilOf(const Arguments& texts)
+{
+    Oil oil{argumentOf<OilTable>(texts.at(0)), numberOf(texts.at(1)), 0};
+    if (oil.table == OilTable::Own) oil.coefficient = numberOf(texts.at(2));
+    return oil;
+}
+
+/// The argument so many behind those of the oil.
+const std::string& behindOil(const Arguments& texts, std::size_t place)
+{
+    const std::size_t ofOil = argumentOf<OilTable>(texts.at(0)) == OilTable::Own ? 3 : 2;
+    return texts.at(ofOil + place);
+}
+
+Result factorTo15C(const Arguments& texts)
+{
+    return parts(FactorTo15C(oilOf(texts), numberOf(behindOil(texts, 0)),
+                             argumentOf<CrudeEdition>(behindOil(texts, 1)),
+                             argumentOf<FactorRounding>(behindOil(texts, 2))));
+}
+
+Result correction15(const Arguments& texts)
+{
+    return parts(CorrectionTo15C(oilOf(texts), numberOf(behindOil(texts, 0)),
+                                 argumentOf<CrudeEdition>(behindOil(texts, 1)))
+                     .factor);
+}
+
+Result correction60(const Arguments& texts)
+{
+    return parts(CorrectionTo60F(argumentOf<OilTable>(texts.at(0)), numberOf(texts.at(1)),
+                                 numberOf(texts.at(2)), argumentOf<CrudeEdition>(texts.at(3)))
+                     .factor);
+}
+
+Result withinTable(const Arguments& texts)
+{
+    return parts(WithinTable(oilOf(texts), numberOf(behindOil(texts, 0)),
+                             argumentOf<CrudeEdition>(behindOil(texts, 1))));
+}
+
+/// Ships and shores in turn. The factor, or 0 for none, the mean, how many count, and a sign a
+/// voyage: 0 counts, 1 gross, 2 off the mean.
+Result vesselExperience(const Arguments& texts)
+{
+    const auto numbers = all<double>(texts);
+    std::vector<VoyageQuantities> voyages;
+    for (std::size_t i = 0; i + 1 < numbers.size(); i += 2)
+        voyages.push_back({numbers[i], numbers[i + 1]});
+    const VesselExperience found = VesselExperienceFactor(voyages);
+    std::string standings = "of";
+    for (const VoyageRatio& voyage : found.voyages)
+        standings += std::to_string(static_cast<int>(voyage.standing));
+    Result result = parts(found.factor.value_or(0), found.mean, static_cast<double>(found.counted));
+    result.add(standings);
+    return result;
+}
+
 const std::map<std::string, Routine>& routines()
 {
     static const std::map<std::string, Routine> table = {
@@ -343,6 +404,16 @@ const std::map<std::string, Routine>& routines()
         {"LongTonsOf", routine(LongTonsOf)},
         {"Table56Factor", routine(Table56Factor)},
         {"Table56FactorAsPrinted", routine(Table56FactorAsPrinted)},
+        {"FactorTo15C", factorTo15C},
+        {"FactorTo60F", routine(FactorTo60F)},
+        {"Correction15", correction15},
+        {"Correction60", correction60},
+        {"Density15OfGravity", routine(Density15OfGravity)},
+        {"GravityOfOil", [](const Arguments& a) { return parts(GravityOfOil(oilOf(a))); }},
+        {"CubicMetresPerBarrel",
+         [](const Arguments& a) { return parts(CubicMetresPerBarrel(oilOf(a))); }},
+        {"WithinTable", withinTable},
+        {"VesselExperienceFactor", vesselExperience},
     };
     return table;
 }
@@ -384,6 +455,13 @@ double numberOf(const std::string& argument)
         {"of2004", static_cast<double>(CrudeEdition::Of2004)},
         {"hydrometer", static_cast<double>(ReadWith::Hydrometer)},
         {"other", static_cast<double>(ReadWith::OtherMeans)},
+        {"crude", static_cast<double>(OilTable::Crude)},
+        {"products", static_cast<double>(OilTable::Products)},
+        {"own", static_cast<double>(OilTable::Own)},
+        {"lubricating", static_cast<double>(OilTable::Lubricating)},
+        {"five", static_cast<double>(FactorRounding::FiveDecimals)},
+        {"four", static_cast<double>(FactorRounding::FourDecimals)},
+        {"procedure", static_cast<double>(FactorRounding::Procedure1980)},
         {"south", 1},
         {"north", 0},
         {"rising", 1},

@@ -60,7 +60,8 @@ TEST_P(Calls, giveTheFiguresOfTheTable)
 INSTANTIATE_TEST_SUITE_P(Navlib, Calls,
                          ::testing::Values("angles", "datetime", "sailing", "great_circle",
                                            "composite", "compass", "wind", "weather", "units",
-                                           "ephemeris", "rise_set", "sights", "tide", "cargo"),
+                                           "ephemeris", "rise_set", "sights", "tide", "cargo",
+                                           "tanks"),
                          [](const auto& table) { return std::string(table.param); });
 
 } // namespace
