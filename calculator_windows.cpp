@@ -14,6 +14,7 @@
 #include "forms/frmSunMoon/frmSunMoon.h"
 #include "forms/frmSunSight/frmSunSight.h"
 #include "forms/frmTIDE/frmTIDE.h"
+#include "forms/frmTanks/frmTanks.h"
 #include "forms/frmUKC/frmUKC.h"
 #include "forms/frmWeather/frmWeather.h"
 #include "forms/frmWind/frmWind.h"
@@ -93,8 +94,10 @@ WindowCatalogue calculatorWindows()
         window<frmUKC>("mnuWATCH", 8, "frmUKC", "Under-keel clearance"),
         withPlaces(window<frmSky>("mnuNAV", 5, "frmSky", "Twilig&ht and stars"),
                    frmSky::pagesToGoTo),
-        behindALine(withUnits(window<frmTemperature>("mnuCONV", 8, "frmTemperature", "Temperature"),
-                              "txtTemperature", Quantity::Temperature)),
+        behindALine(withPlaces(window<frmTanks>("mnuCONV", 7, "frmTanks", "Tank list and bunkers"),
+                               frmTanks::pagesToGoTo)),
+        withUnits(window<frmTemperature>("mnuCONV", 8, "frmTemperature", "Temperature"),
+                  "txtTemperature", Quantity::Temperature),
         withUnits(window<frmSpeed>("mnuCONV", 9, "frmSpeed", "Speed"), "txtSpeed", Quantity::Speed),
         withUnits(window<frmDensity>("mnuCONV", 10, "frmDensity", "Density"), "txtDensity",
                   Quantity::Density),

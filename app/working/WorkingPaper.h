@@ -49,6 +49,7 @@ struct WorkingPaper {
     std::vector<std::string> limits = {}; ///< of the accuracy
     std::optional<ExportTable> list = {};
     std::optional<ExportLine> line = {};
+    std::vector<std::string> signatures = {}; ///< who signs; empty: one line without a name
 };
 
 /// Who calculated, when and with what.

@@ -137,15 +137,15 @@ QVariant PlanModel::data(const QModelIndex& index, int role) const
 {
     const auto row = static_cast<std::size_t>(index.row());
     const int column = index.column();
-    if (role == HasRemark || role == Qt::ToolTipRole) {
-        if (role == HasRemark) return isThere(row) && m_work.reckoning().isDoubtful(row);
+    if (role == RowsView::HasRemark || role == Qt::ToolTipRole) {
+        if (role == RowsView::HasRemark) return isThere(row) && m_work.reckoning().isDoubtful(row);
         const std::string remark = isThere(row) ? textsOf(row).remark : std::string();
         const Lines lines = linesOf(row, column);
         if (column == PlanTable::Number) return asQString(remark);
         return asQString(joined({lines.first, lines.second}));
     }
     if (role == Qt::DisplayRole) return asQString(linesOf(row, column).first);
-    if (role == SecondLine) return asQString(linesOf(row, column).second);
+    if (role == RowsView::SecondLine) return asQString(linesOf(row, column).second);
     if (role == Qt::AccessibleTextRole) {
         const Lines lines = linesOf(row, column);
         return asQString(joined({lines.first, lines.second}));

@@ -16,8 +16,6 @@ class PlanModel : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Role { SecondLine = Qt::UserRole, HasRemark };
-
     PlanModel(const PlanInHand& work, QObject* parent);
 
     /// The plan is another.

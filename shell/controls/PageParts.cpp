@@ -4,8 +4,6 @@
 #include "shell/screen/WidgetColours.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
-#include <QRadioButton>
 
 namespace korvel
 {
@@ -25,36 +23,6 @@ QGridLayout* newGrid()
     return grid;
 }
 
-Options::Options(QWidget* parent, const char* array, const std::vector<Words>& options)
-    : QButtonGroup(parent)
-{
-    for (const auto& [caption, words] : options) {
-        const int id = static_cast<int>(buttons().size());
-        auto* button = new QRadioButton(caption, parent);
-        button->setObjectName(memberName(array, id));
-        button->setAccessibleName(words);
-        addButton(button, id);
-    }
-    button(0)->setChecked(true);
-}
-
-void Options::choose(int option)
-{
-    if (QAbstractButton* chosen = button(option)) chosen->setChecked(true);
-}
-
-void Options::addTo(QHBoxLayout* row) const
-{
-    for (QAbstractButton* each : buttons())
-        row->addWidget(each);
-    row->addStretch();
-}
-
-PageRecord::Choice Options::choice()
-{
-    return {[this] { return chosen(); }, [this](int option) { choose(option); }};
-}
-
 QComboBox* makeList(QWidget* parent, const char* name, const char* words,
                     const QStringList& choices)
 {
@@ -71,6 +39,12 @@ PageRecord::Choice choiceOf(QComboBox* list)
             [list](int choice) {
                 if (choice >= 0 && choice < list->count()) list->setCurrentIndex(choice);
             }};
+}
+
+PageRecord::Choice choiceOf(Options* options)
+{
+    return {[options] { return options->chosen(); },
+            [options](int choice) { options->choose(choice); }};
 }
 
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption,

@@ -2,19 +2,17 @@
 #pragma once
 
 #include "shell/controls/FieldBoxes.h"
+#include "shell/controls/Options.h"
 #include "shell/screen/ColourScheme.h"
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QPushButton>
 
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
 class QGridLayout;
-class QHBoxLayout;
 
 /// What the pages of a window with several are made of.
 namespace korvel
@@ -39,25 +37,10 @@ struct PageRecord {
     std::vector<Choice> choices;
 };
 
-/// Options of which one is chosen, as buttons in a row; the first at the start.
-/// @param array   of their names, "optClock"
-/// @param options caption and words for assistive tools
-class Options : public QButtonGroup
-{
-public:
-    using Words = std::pair<const char*, const char*>;
-    Options(QWidget* parent, const char* array, const std::vector<Words>& options);
-
-    int chosen() const { return checkedId(); }
-    void choose(int option);
-    /// Adds the buttons to a row, and what room is left behind them.
-    void addTo(QHBoxLayout* row) const;
-    PageRecord::Choice choice();
-};
-
 QComboBox* makeList(QWidget* parent, const char* name, const char* words,
                     const QStringList& choices);
 PageRecord::Choice choiceOf(QComboBox* list);
+PageRecord::Choice choiceOf(Options* options);
 
 QPushButton* makeButton(QWidget* parent, const char* name, const QString& caption,
                         const QString& tip);

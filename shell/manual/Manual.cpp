@@ -26,10 +26,10 @@ QString escaped(QString text)
 const QStringList& Manual::pages()
 {
     static const QStringList all = {
-        "main-window", "first-start", "frmCDDR",    "frmGC2000", "frmSunMoon", "frmPositionRecord",
-        "frmSunSight", "frmCompass",  "frmETA",     "frmWind",   "frmWeather", "frmCRUDE",
-        "conversion",  "frmTIDE",     "frmPassage", "frmNoon",   "frmUKC",     "frmSky",
-        "paper",       "messages",    "installing", "about",
+        "main-window", "first-start", "frmCDDR",    "frmGC2000",  "frmSunMoon", "frmPositionRecord",
+        "frmSunSight", "frmCompass",  "frmETA",     "frmWind",    "frmWeather", "frmCRUDE",
+        "conversion",  "frmTIDE",     "frmPassage", "frmNoon",    "frmUKC",     "frmSky",
+        "frmTanks",    "paper",       "messages",   "installing", "about",
     };
     return all;
 }

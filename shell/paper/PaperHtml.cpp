@@ -140,13 +140,28 @@ QString beginningHtml(const PaperHeading& heading, const WorkingPaper& paper, st
     return html;
 }
 
+/// A line for each who signs, or one without a name.
+QString signaturesHtml(const std::vector<std::string>& who)
+{
+    QString html = "<p>&nbsp;</p>";
+    if (who.empty())
+        return html + "<p>Signature " + signatureLine + " &nbsp; Date ______________</p>";
+    Rows rows;
+    for (const std::string& each : who)
+        rows.push_back({escaped(each), signatureLine, "Date ______________"});
+    html += "<table cellspacing='0' cellpadding='6'>";
+    for (const QStringList& row : rows)
+        html += rowHtml(row, "td");
+    return html + "</table>";
+}
+
 QString endHtml(const WorkingPaper& paper)
 {
     QString html;
     if (!paper.remarks.empty()) html += titleHtml("Remarks") + sentencesHtml(paper.remarks);
     if (!paper.limits.empty())
         html += titleHtml("Limits of accuracy") + sentencesHtml(paper.limits);
-    return html + "<p>&nbsp;</p><p>Signature " + signatureLine + " &nbsp; Date ______________</p>";
+    return html + signaturesHtml(paper.signatures);
 }
 
 } // namespace

@@ -165,7 +165,7 @@ void CoursesPage::setColours(const ColourScheme& colours)
 
 PageRecord CoursesPage::kept()
 {
-    return {m_txtCourses.all(), {m_optGiven->choice(), choiceOf(m_cboCurve)}};
+    return {m_txtCourses.all(), {choiceOf(m_optGiven), choiceOf(m_cboCurve)}};
 }
 
 std::vector<PaperFigure> CoursesPage::paperFigures() const

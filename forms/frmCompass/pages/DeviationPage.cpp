@@ -71,7 +71,8 @@ QLayout* DeviationPage::layOutChoice()
 {
     auto* grid = newGrid();
     auto* options = new QHBoxLayout;
-    m_optDeviation->addTo(options);
+    m_optDeviation->addTo(*options);
+    options->addStretch();
     grid->addWidget(quietLabel("Compass"), 0, 0);
     grid->addLayout(options, 0, 1);
     grid->addWidget(m_cmdCard, 0, 2, Qt::AlignLeft);
@@ -144,7 +145,7 @@ void DeviationPage::setColours(const ColourScheme& colours)
 
 PageRecord DeviationPage::kept()
 {
-    return {m_txtSince.all(), {m_optDeviation->choice()}};
+    return {m_txtSince.all(), {choiceOf(m_optDeviation)}};
 }
 
 std::vector<PaperFigure> DeviationPage::paperFigures() const

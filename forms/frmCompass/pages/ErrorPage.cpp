@@ -147,11 +147,13 @@ QLayout* ErrorPage::layOutObservation()
     }
     auto* clock = new QHBoxLayout;
     clock->addWidget(m_cmdNow);
-    m_optClock->addTo(clock);
+    m_optClock->addTo(*clock);
+    clock->addStretch();
     grid->addLayout(clock, 1, 2);
     grid->addWidget(quietLabel("name, or number of a star"), 4, 2);
     auto* method = new QHBoxLayout;
-    m_optMethod->addTo(method);
+    m_optMethod->addTo(*method);
+    method->addStretch();
     grid->addWidget(quietLabel("Method"), row, 0);
     grid->addLayout(method, row++, 1, 1, 2);
     grid->addWidget(quietLabel("It stood with its"), row, 0);
@@ -189,7 +191,8 @@ QLayout* ErrorPage::layOutBearings()
         ++row;
     }
     auto* variation = new QHBoxLayout;
-    m_optVariation->addTo(variation);
+    m_optVariation->addTo(*variation);
+    variation->addStretch();
     grid->addLayout(variation, 5, 2, 1, 2);
     grid->setColumnStretch(3, 1);
     return grid;
@@ -310,8 +313,8 @@ PageRecord ErrorPage::kept()
     PageRecord kept{m_txtCompass.all(), {}};
     kept.boxes.push_back(m_txtBook[0]);
     kept.boxes.push_back(m_txtBook[1]);
-    kept.choices = {m_optClock->choice(), m_optMethod->choice(), choiceOf(m_cboHorizon),
-                    choiceOf(m_cboSide), m_optVariation->choice()};
+    kept.choices = {choiceOf(m_optClock), choiceOf(m_optMethod), choiceOf(m_cboHorizon),
+                    choiceOf(m_cboSide), choiceOf(m_optVariation)};
     return kept;
 }
 

@@ -161,7 +161,7 @@ void StarsPage::setColours(const ColourScheme& colours)
 
 std::vector<PageRecord::Choice> StarsPage::choices()
 {
-    return {m_optTwilight->choice(), m_optCount->choice(), m_optUp->choice()};
+    return {choiceOf(m_optTwilight), choiceOf(m_optCount), choiceOf(m_optUp)};
 }
 
 } // namespace korvel

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/watch/BunkersNow.h"
+#include "forms/frmTanks/TankReckoning.h"
+
+namespace korvel
+{
+
+/// What was consumed of each fuel between the surveys: before, and received, less remaining. A fuel
+/// is what parcels of one line of the noon report are; a parcel without a line is of the first.
+/// @param list of bunkers, of which reckoning has taken everything
+BunkersNow bunkersNow(const TankList& list, const TankReckoning& reckoning);
+
+} // namespace korvel

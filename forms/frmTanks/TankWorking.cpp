@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmTanks/TankWorking.h"
+
+#include "app/reading/Format.h"
+#include "forms/frmTanks/TankTexts.h"
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::CrudeEdition;
+using NavFunc113::FactorRounding;
+using NavFunc113::OilTable;
+
+std::string plain(double value)
+{
+    return Format(value, "0.######");
+}
+
+void addVolumes(Working& working, const TankSums& sums, const TankChoices& choices)
+{
+    const char* unit = unitOf(choices.volume);
+    working.step("Gross observed volume", "GOV = TOV - free water",
+                 plain(sums.observed) + " - " + plain(sums.water), plain(sums.gross), unit);
+}
+
+/// alpha = K0 / density² + K1 / density + K2, with what there is of it.
+std::string alphaFigures(const NavFunc113::VolumeCorrection& correction)
+{
+    const std::string density = plain(correction.density);
+    std::vector<std::string> terms;
+    if (correction.K0 != 0) terms.push_back(plain(correction.K0) + " / " + density + "²");
+    if (correction.K1 != 0) terms.push_back(plain(correction.K1) + " / " + density);
+    std::string text;
+    for (const std::string& term : terms)
+        text += (text.empty() ? "" : " + ") + term;
+    if (correction.K2 != 0) text += " - " + Format(-correction.K2, "0.########");
+    return text;
+}
+
+void addFactor(Working& working, const ReadGrade& grade, const TankFigures& figures,
+               const TankChoices& choices)
+{
+    const bool at60F = grade.table->isAt60F;
+    const NavFunc113::VolumeCorrection correction =
+        at60F ? NavFunc113::CorrectionTo60F(grade.table->table, grade.api, *figures.temperature,
+                                            choices.edition)
+              : NavFunc113::CorrectionTo15C(*grade.oil, *figures.temperature, choices.edition);
+    if (at60F)
+        working.step("Density at 60 °F", "141.5 × water / (131.5 + API)", "API " + plain(grade.api),
+                     plain(NavFunc113::Density60FromAPI(grade.api, choices.edition)), "kg/m³");
+    if (grade.table->table == OilTable::Own)
+        working.step("Coefficient of expansion", "as given", "", figure(correction.alpha, 8),
+                     at60F ? "per °F" : "per °C");
+    else
+        working.step("Coefficient of expansion", "α = K0 / ρ² + K1 / ρ + K2",
+                     alphaFigures(correction), figure(correction.alpha, 8),
+                     at60F || choices.edition == CrudeEdition::Of2004 ? "per °F" : "per °C");
+    if (choices.edition == CrudeEdition::Of1980) {
+        const std::string dt = plain(*figures.temperature) + (at60F ? " - 60" : " - 15");
+        working.step("Volume correction factor", "VCF = exp(-α Δt (1 + 0.8 α Δt))", "Δt = " + dt,
+                     figure(correction.factor, 7));
+    } else {
+        working.step("Volume correction factor",
+                     "exp(-α Δt (1 + 0.8 α (Δt + δ))) / the same at the reference",
+                     "Δt = " + figure(correction.difference, 5) +
+                         " °F of 1968, δ = " + plain(correction.shift),
+                     figure(correction.factor, 7));
+    }
+}
+
+void addQuantities(Working& working, const ReadGrade& grade, const TankFigures& figures,
+                   const TankTexts& texts, const TankChoices& choices)
+{
+    const TankSums& sums = *figures.quantities;
+    const std::string unit = unitOf(choices.volume);
+    working.step("Rounded, as it is multiplied with", "VCF", "", texts.factor);
+    working.step("Gross standard volume", "GSV = GOV × VCF, in m³ at 15 °C",
+                 plain(sums.gross) + " " + unit + " × " + texts.factor, texts.standard, "m³");
+    if (sums.water > 0)
+        working.step("Total calculated volume", "TCV = GSV + free water", "", texts.total, "m³");
+    working.step("Barrels at 60 °F", "GSV / m³ of a barrel",
+                 texts.standard + " / " + figure(grade.barrel, 8), texts.barrels, "bbl");
+    const double density = grade.oil->density15;
+    working.step("Mass in vacuo", "GSV × ρ15 / 1000", texts.standard + " × " + plain(density),
+                 texts.inVacuo, "t");
+    if (choices.air == TankAirWeight::Density1_1)
+        working.step("Weight in air", "GSV × (ρ15 - 1.1) / 1000",
+                     texts.standard + " × " + plain(density - 1.1), texts.inAir, "t");
+    else
+        working.step("Weight in air", "mass × factor of table 56",
+                     texts.inVacuo + " × " + figure(NavFunc113::Table56FactorAsPrinted(density), 5),
+                     texts.inAir, "t");
+    working.step("Long tons", "t / 1.0160469088", "", texts.longTons, "long tons");
+}
+
+} // namespace
+
+Working tankWorking(const SheetInHand& work, ListKind kind)
+{
+    Working working;
+    const TankReckoning& reckoning = work.reckoning(kind);
+    const std::size_t row = work.row(kind);
+    working.title = "one tank";
+    if (row >= reckoning.rows()) {
+        working.whyNone = "No tank is in hand";
+        return working;
+    }
+    const Survey survey = work.survey(kind);
+    working.title = "tank " + tankName(work.list(kind), row) + ", " + surveyName(kind, survey);
+    const TankFigures& figures = reckoning.tank(row, survey);
+    if (!figures.quantities || !figures.factor) {
+        working.whyNone = figures.remark.empty() ? "There is no oil in it" : figures.remark;
+        return working;
+    }
+    const ReadGrade& grade = reckoning.grades()[*figures.grade];
+    const TankTexts texts = tankTexts(
+        work.rowInHand(kind).surveys[static_cast<std::size_t>(survey)], figures, reckoning);
+    working.method = {grade.name + ", table " + grade.table->name + ", " +
+                      plain(grade.oil->density15) + " kg/m³ at 15 °C"};
+    addVolumes(working, *figures.quantities, reckoning.choices());
+    addFactor(working, grade, figures, reckoning.choices());
+    addQuantities(working, grade, figures, texts, reckoning.choices());
+    return working;
+}
+
+std::vector<std::string> tankLimits(const TankReckoning& reckoning)
+{
+    const TankChoices& choices = reckoning.choices();
+    const bool of1980 = choices.edition == CrudeEdition::Of1980;
+    std::string factor = of1980 ? "Volume correction of the edition of 1980, "
+                                : "Volume correction of the edition of 2004, ";
+    factor += choices.rounding == FactorRounding::FourDecimals   ? "four decimals"
+              : choices.rounding == FactorRounding::FiveDecimals ? "five decimals"
+                                                                 : "rounded as its procedure says";
+    return {factor + "; sums are made of figures that are not rounded",
+            choices.air == TankAirWeight::Table56 ? "Weight in air by table 56"
+                                                  : "Weight in air with density less 1.1 kg/m³",
+            "Barrels at 60 °F, volumes and densities at 15 °C; TCV = GSV + free water"};
+}
+
+} // namespace korvel
