@@ -26,4 +26,11 @@ BunkersNow bunkersNow(const TankList& list, const TankReckoning& reckoning)
     return bunkers;
 }
 
+BunkersNow bunkersNow(const TankSheet& sheet)
+{
+    TankReckoning reckoning(ListKind::Bunkers);
+    reckoning.takeAll(sheet.list(ListKind::Bunkers), sheet.choices);
+    return bunkersNow(sheet.list(ListKind::Bunkers), reckoning);
+}
+
 } // namespace korvel

@@ -11,5 +11,7 @@ namespace korvel
 /// is what parcels of one line of the noon report are; a parcel without a line is of the first.
 /// @param list of bunkers, of which reckoning has taken everything
 BunkersNow bunkersNow(const TankList& list, const TankReckoning& reckoning);
+/// The same of a sheet as it was kept.
+BunkersNow bunkersNow(const TankSheet& sheet);
 
 } // namespace korvel

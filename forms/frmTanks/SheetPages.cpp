@@ -3,9 +3,9 @@
 
 #include "forms/frmTanks/TankFields.h"
 #include "shell/controls/AnswerStrip.h"
-#include "shell/controls/CellLayout.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/CellLayout.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -57,6 +57,7 @@ GradesPage::GradesPage(SheetInHand& work, SheetBinding& binding, const FieldBoxe
     layOutBody(*column);
     auto* head = new QWidget;
     auto* row = new WrappingRow(head);
+    row->setGap(2 * head->fontMetrics().averageCharWidth());
     const std::array rooms{"Rotterdam, berth 0000000000", "2038/08/04 20:38 ", "2038/08/04 20:38 "};
     for (std::size_t field = PortBox; field < BunkerTimes; ++field) {
         auto* caption = new QLabel(SheetFields[field].caption);
@@ -64,6 +65,7 @@ GradesPage::GradesPage(SheetInHand& work, SheetBinding& binding, const FieldBoxe
         fields[field]->setFixedWidth(head->fontMetrics().horizontalAdvance(rooms[field]));
         row->startGroup();
         row->addWidget(caption);
+        row->stayClose();
         row->addWidget(fields[field]);
     }
     row->addStretch();
@@ -129,6 +131,11 @@ TotalsPage::TotalsPage(const ResultLabels<TanksShown>& labels)
 {
     auto* column = new QVBoxLayout(this);
     layOutBody(*column);
+    auto* figures = new QWidget;
+    auto* cells = new CellLayout(figures, 2, Qt::Horizontal);
+    for (const std::size_t each : {LabelAgainst, LabelByExperience, LabelOnBoard, LabelTotalMoved})
+        cells->addCell({new QLabel(TanksResults[each].caption), labels[each]});
+    column->addWidget(figures);
     column->addWidget(sectionHead("Totals"));
     auto* options = new QWidget;
     auto* row = new WrappingRow(options);
@@ -139,11 +146,6 @@ TotalsPage::TotalsPage(const ResultLabels<TanksShown>& labels)
     addTable(*column, *m_totals);
     column->addWidget(sectionHead("Ship against bill of lading, or outturn"));
     addTable(*column, *m_compare);
-    auto* figures = new QWidget;
-    auto* cells = new CellLayout(figures, 2, Qt::Horizontal);
-    for (const std::size_t each : {LabelAgainst, LabelByExperience, LabelOnBoard, LabelTotalMoved})
-        cells->addCell({new QLabel(TanksResults[each].caption), labels[each]});
-    column->addWidget(figures);
     column->addStretch();
     connect(m_optTotals, &QButtonGroup::idClicked, this, &TotalsPage::chosen);
 }

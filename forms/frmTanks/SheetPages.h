@@ -3,9 +3,9 @@
 
 #include "forms/frmTanks/SheetTables.h"
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/Options.h"
 #include "shell/controls/ResultLabels.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 /// The pages of the window beside those of tanks.
 namespace korvel

@@ -49,7 +49,10 @@ std::string unitBehind(const Quantity& quantity, const TankChoices& choices)
 std::string plainName(const std::string& heading)
 {
     std::string name;
-    for (const char each : asciiForms(heading)) {
+    std::string plain = asciiForms(heading);
+    if (const auto cubed = plain.find("³"); cubed != std::string::npos)
+        plain.replace(cubed, std::string_view("³").size(), "3");
+    for (const char each : plain) {
         if (each >= 'A' && each <= 'Z')
             name += static_cast<char>(each - 'A' + 'a');
         else if ((each >= 'a' && each <= 'z') || (each >= '0' && each <= '9'))

@@ -3,9 +3,9 @@
 
 #include "forms/frmTanks/TankFields.h"
 #include "forms/frmTanks/TankModel.h"
-#include "shell/controls/Panels.h"
 #include "shell/controls/RowsView.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 #include "shell/program/Program.h"
 
@@ -19,9 +19,9 @@ namespace korvel
 namespace
 {
 
-constexpr std::array widest{"000 !",   "Slop tank P", "Previous: sounding", "00000.000",
-                            "-00.00",  "000000.000",  "Before: sounding",   "00000.000",
-                            "0.00000", "000000.000"};
+constexpr std::array widest{
+    "000 !", "Slop tank P 00",     "Previous: sounding", "00000.000", "-00.00",    "000000.000",
+    "000",   "Previous: sounding", "00000.000",          "0.00000",   "000000.000"};
 static_assert(widest.size() == TankModel::Columns);
 
 constexpr std::array<std::string TankReading::*, TankFieldCount> readingTexts{
@@ -44,7 +44,7 @@ void put(EntryBox* box, const std::string& text)
 TankListPage::TankListPage(Program& program, SheetInHand& work, Parts parts)
     : m_work(work), m_parts(std::move(parts)), m_model(new TankModel(work, m_parts.kind, this)),
       m_table(new RowsView(*m_model,
-                           {widest, TankModel::Tank, 8,
+                           {widest, RowsView::Look::nothing, 8,
                             [&program]() -> const ColourScheme& { return program.colours(); },
                             [&work, kind = m_parts.kind] { return work.row(kind); }},
                            this))
@@ -56,10 +56,10 @@ TankListPage::TankListPage(Program& program, SheetInHand& work, Parts parts)
     const bool isCargo = m_parts.kind == ListKind::Cargo;
     m_optSurvey = isCargo ? new Options(this, m_parts.options,
                                         {{"&Before", "Survey before loading or discharge"},
-                                         {"&After", "Survey after loading or discharge"}})
+                                         {"A&fter", "Survey after loading or discharge"}})
                           : new Options(this, m_parts.options,
-                                        {{"Pre&vious", "Previous survey of the bunkers"},
-                                         {"No&w", "Survey of the bunkers now"}});
+                                        {{"Previo&us", "Previous survey of the bunkers"},
+                                         {"&Now", "Survey of the bunkers now"}});
     for (QLabel*& unit : m_units)
         unit = new QLabel;
     auto* column = new QVBoxLayout(this);
@@ -72,7 +72,11 @@ TankListPage::TankListPage(Program& program, SheetInHand& work, Parts parts)
 QWidget* TankListPage::layOutBoxes()
 {
     auto* panel = new QWidget;
-    auto* row = new WrappingRow(panel);
+    auto* lines = new QVBoxLayout(panel);
+    lines->setContentsMargins(0, 0, 0, 0);
+    auto* row = new WrappingRow;
+    lines->addLayout(row);
+    row->setGap(2 * panel->fontMetrics().averageCharWidth());
     row->startGroup();
     m_optSurvey->addTo(*row);
     const std::array fields = m_parts.kind == ListKind::Cargo ? CargoTankFields : BunkerTankFields;
@@ -86,25 +90,31 @@ QWidget* TankListPage::layOutBoxes()
         caption->setBuddy(box);
         row->startGroup();
         row->addWidget(caption);
+        row->stayClose();
         row->addWidget(box);
-        if (field >= TankVolume && field <= TankTemperature)
-            row->addWidget(m_units[field - TankVolume]);
+        if (field < TankVolume || field > TankTemperature) continue;
+        row->stayClose();
+        row->addWidget(m_units[field - TankVolume]);
     }
-    layOutResults(*row);
+    row->addStretch();
+    auto* results = new WrappingRow;
+    lines->addLayout(results);
+    results->setGap(row->spacing());
+    layOutResults(*results);
     return panel;
 }
 
-void TankListPage::layOutResults(QLayout& row)
+void TankListPage::layOutResults(WrappingRow& row)
 {
-    auto& wrapping = static_cast<WrappingRow&>(row);
     const auto& labels = m_parts.results.all();
     for (std::size_t i = 0; i < labels.size(); ++i) {
         labels[i]->setRoom(tankRoom);
-        wrapping.startGroup();
-        wrapping.addWidget(new QLabel(m_parts.captions[i]));
-        wrapping.addWidget(labels[i]);
+        row.startGroup();
+        row.addWidget(new QLabel(m_parts.captions[i]));
+        row.stayClose();
+        row.addWidget(labels[i]);
     }
-    wrapping.addStretch();
+    row.addStretch();
 }
 
 void TankListPage::connectBoxes()
@@ -192,10 +202,10 @@ void TankListPage::show()
 void TankListPage::typeInto(int column, const QString& text)
 {
     std::size_t field = TankNameBox;
-    if (column >= TankModel::FirstSurvey) {
+    if (const auto place = TankModel::placeOf(column)) {
         constexpr std::array fields{TankSounding, TankVolume, TankTemperature, TankGrade};
-        field = fields[static_cast<std::size_t>(column - TankModel::FirstSurvey) % fields.size()];
-        goToSurvey(TankModel::surveyOf(column));
+        field = fields[place->column];
+        goToSurvey(place->survey);
     }
     m_parts.boxes[field]->setFocus(Qt::TabFocusReason);
     if (!text.isEmpty()) m_parts.boxes[field]->insert(text); // all is selected

@@ -3,9 +3,9 @@
 
 #include "forms/frmTanks/TankTexts.h"
 #include "shell/controls/FieldBoxes.h"
-#include "shell/controls/FollowingScrollArea.h"
 #include "shell/controls/Options.h"
 #include "shell/controls/ResultLabels.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 namespace korvel
 {
@@ -13,6 +13,7 @@ namespace korvel
 class Program;
 class RowsView;
 class TankModel;
+class WrappingRow;
 
 /// The tanks of a list: the rows of both surveys, and the boxes of the row and the survey in hand.
 /// What is typed goes into the sheet key by key.
@@ -57,7 +58,7 @@ protected:
 
 private:
     QWidget* layOutBoxes();
-    void layOutResults(QLayout& row);
+    void layOutResults(WrappingRow& row);
     void connectBoxes();
     void typeRow(const QString& box);
     void typeInto(int column, const QString& text);

@@ -48,9 +48,11 @@ int TankModel::columnCount(const QModelIndex& parent) const
     return parent.isValid() ? 0 : Columns;
 }
 
-Survey TankModel::surveyOf(int column)
+std::optional<TankModel::Place> TankModel::placeOf(int column)
 {
-    return column < FirstSurvey + ColumnsOfSurvey ? Survey::First : Survey::Last;
+    if (column < FirstSurvey || column == Gap) return std::nullopt;
+    if (column < Gap) return Place{Survey::First, std::size_t(column - FirstSurvey)};
+    return Place{Survey::Last, std::size_t(column - LastSurvey)};
 }
 
 bool TankModel::isThere(std::size_t row) const
@@ -64,11 +66,13 @@ TankModel::Lines TankModel::linesOf(std::size_t row, int column) const
     if (!isThere(row)) return {};
     const TankRow& typed = m_work.list(m_kind).rows[row];
     if (column == Tank) return {typed.tank, ""};
-    const Survey survey = surveyOf(column);
+    const auto place = placeOf(column);
+    if (!place) return {};
+    const Survey survey = place->survey;
     const TankReckoning& reckoning = m_work.reckoning(m_kind);
     const TankTexts texts = tankTexts(typed.surveys[static_cast<std::size_t>(survey)],
                                       reckoning.tank(row, survey), reckoning);
-    switch ((column - FirstSurvey) % ColumnsOfSurvey) {
+    switch (place->column) {
     case 0:
         return {texts.sounding, texts.grade};
     case 1:
@@ -101,8 +105,8 @@ QVariant TankModel::data(const QModelIndex& index, int role) const
         return asQString(joined({lines.first, lines.second}));
     }
     if (role != Qt::TextAlignmentRole) return {};
-    const bool isText =
-        column == Tank || (column >= FirstSurvey && (column - FirstSurvey) % ColumnsOfSurvey == 0);
+    const auto place = placeOf(column);
+    const bool isText = column == Tank || (place && place->column == 0);
     return static_cast<int>(isText ? Qt::AlignLeft : Qt::AlignRight);
 }
 
@@ -114,11 +118,13 @@ QVariant TankModel::headerData(int section, Qt::Orientation orientation, int rol
     if (role != Qt::DisplayRole) return {};
     if (section == Number) return "No.";
     if (section == Tank) return "Tank";
-    const auto of = static_cast<std::size_t>((section - FirstSurvey) % ColumnsOfSurvey);
-    const QString head = headsOfSurvey[of];
-    if (of > 0) return head;
-    const auto survey = static_cast<std::size_t>(surveyOf(section));
-    return QString(surveyHeads[static_cast<std::size_t>(m_kind)][survey]) + ": " + head;
+    const auto place = placeOf(section);
+    if (!place) return {};
+    const QString head = headsOfSurvey[place->column];
+    if (place->column > 0) return head;
+    return QString(surveyHeads[static_cast<std::size_t>(m_kind)]
+                              [static_cast<std::size_t>(place->survey)]) +
+           ": " + head;
 }
 
 } // namespace korvel

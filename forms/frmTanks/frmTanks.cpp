@@ -6,10 +6,10 @@
 #include "forms/frmTanks/TankListPage.h"
 #include "forms/frmTanks/TankPaper.h"
 #include "forms/frmTanks/TankRecord.h"
-#include "shell/controls/FollowingScrollArea.h"
-#include "shell/controls/PageBar.h"
-#include "shell/controls/Panels.h"
-#include "shell/controls/WrappingRow.h"
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/PageBar.h"
+#include "shell/layout/Panels.h"
+#include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
 #include <QPushButton>
@@ -81,17 +81,13 @@ void frmTanks::bindFields()
     }
 }
 
-QWidget* frmTanks::layOutTanks()
+/// The answers about the cargo, above every page that is about it.
+AnswerStrip* frmTanks::layOutAnswers()
 {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    layOutBody(*column);
     auto* answers = new AnswerStrip;
     for (const std::size_t each : {LabelMoved, LabelMovedVolume, LabelPercent})
         m_results.addAnswer(answers, each, TanksRooms[each]);
-    column->addWidget(answers);
-    column->addWidget(m_tanks, 1);
-    return page;
+    return answers;
 }
 
 QWidget* frmTanks::layOutBunkers()
@@ -105,9 +101,11 @@ QWidget* frmTanks::layOutBunkers()
     column->addWidget(answers);
     auto* fuels = new QWidget;
     auto* row = new WrappingRow(fuels);
+    row->setGap(2 * page->fontMetrics().averageCharWidth());
     for (std::size_t i = 0; i < fuelCount; ++i) {
         row->startGroup();
         row->addWidget(new QLabel(TanksResults[LabelFuels + i].caption));
+        row->stayClose();
         row->addWidget(m_results[LabelFuels + i]);
     }
     for (std::size_t i = BunkerTimes; i < BunkerTimes + surveyCount; ++i) {
@@ -116,6 +114,7 @@ QWidget* frmTanks::layOutBunkers()
         m_fields[i]->setFixedWidth(page->fontMetrics().horizontalAdvance("2038/08/04 20:38 "));
         row->startGroup();
         row->addWidget(caption);
+        row->stayClose();
         row->addWidget(m_fields[i]);
     }
     row->addStretch();
@@ -130,9 +129,12 @@ QWidget* frmTanks::layOutBunkers()
 
 void frmTanks::addPages()
 {
-    auto* area = new FollowingScrollArea(layOutTanks());
+    auto* area = new FollowingScrollArea(m_tanks);
     setScrollArea(area);
-    static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, m_pages);
+    m_answers = layOutAnswers();
+    auto* column = static_cast<QVBoxLayout*>(body()->layout());
+    column->insertWidget(0, m_pages);
+    column->insertWidget(1, m_answers);
     m_pages->addPage("&Tanks", "cmdTankPage(0)", "Page of the tanks", area);
     int index = 1;
     const auto add = [this, &index](QWidget* content, const char* caption, const char* words) {
@@ -144,7 +146,7 @@ void frmTanks::addPages()
     m_totals = new TotalsPage(m_results);
     m_experience = new ExperiencePage(*m_binding, m_results);
     add(m_grades, "&Grades", "Page of the grades and bills");
-    add(m_totals, "Totals and &bill", "Page of the totals and of ship against bill of lading");
+    add(m_totals, "Totals an&d bill", "Page of the totals and of ship against bill of lading");
     add(layOutBunkers(), "Bun&kers", "Page of the bunkers");
     add(m_experience, "E&xperience", "Page of the vessel experience factor");
 }
@@ -199,6 +201,7 @@ void frmTanks::showPage()
                   levelBeside(m_shown.isWhole[list]));
     };
     const std::size_t page = m_pages->page();
+    m_answers->setVisible(page <= Totals);
     say("cargo", ListKind::Cargo, page <= Totals);
     say("bunkers", ListKind::Bunkers, page == Bunkers);
     QStringList factors;

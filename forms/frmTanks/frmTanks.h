@@ -36,7 +36,7 @@ private:
     enum Page : std::size_t { Tanks, Grades, Totals, Bunkers, Experience };
 
     TankListPage* makeList(ListKind kind);
-    QWidget* layOutTanks();
+    AnswerStrip* layOutAnswers();
     QWidget* layOutBunkers();
     void addPages();
     void bindFields();
@@ -70,6 +70,7 @@ private:
     FieldBoxes m_fields;
     ResultLabels<TanksShown> m_results;
     PageBar* m_pages;
+    AnswerStrip* m_answers = nullptr;
     TankListPage* m_tanks;
     GradesPage* m_grades;
     TotalsPage* m_totals;

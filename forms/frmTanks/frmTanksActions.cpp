@@ -4,7 +4,7 @@
 #include "forms/frmTanks/TankFields.h"
 #include "forms/frmTanks/TankListPage.h"
 #include "forms/frmTanks/frmTanks.h"
-#include "shell/controls/PageBar.h"
+#include "shell/layout/PageBar.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>

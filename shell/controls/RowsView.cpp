@@ -111,7 +111,8 @@ RowsView::RowsView(QAbstractItemModel& model, Look look, QWidget* parent)
     horizontalHeader()->setMinimumSectionSize(1);
     for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
         header->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setSectionResizeMode(m_look.stretched, QHeaderView::Stretch);
+    if (m_look.stretched != Look::nothing)
+        horizontalHeader()->setSectionResizeMode(m_look.stretched, QHeaderView::Stretch);
     connect(this, &QTableView::doubleClicked, this,
             [this](const QModelIndex& index) { emit typed(index.column(), {}); });
     sizeByLetters();

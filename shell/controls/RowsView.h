@@ -24,8 +24,9 @@ public:
 
     struct Look {
         std::span<const char* const>
-            widest;        ///< of each column what has to fit, first line or second
-        int stretched = 0; ///< column that takes the room that is left
+            widest; ///< of each column what has to fit, first line or second
+        static constexpr int nothing = -1;
+        int stretched = nothing; ///< column that takes the room that is left
         int usualRows = 7;
         std::function<const ColourScheme&()> colours;
         std::function<std::size_t()> rowInHand;

@@ -1,0 +1,413 @@
+// SPDX-License-Identifier: MIT
+#include "app/working/WorkingPaper.h"
+#include "forms/frmNoon/CalculateNoon.h"
+#include "forms/frmTanks/BunkerReckoning.h"
+#include "forms/frmTanks/TankCsv.h"
+#include "forms/frmTanks/TankPaper.h"
+#include "forms/frmTanks/TankRecord.h"
+#include "forms/frmTanks/TankTexts.h"
+
+#include <gmock/gmock.h>
+
+namespace korvel
+{
+namespace
+{
+
+using NavFunc113::CrudeEdition;
+using NavFunc113::FactorRounding;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+GradeBoxes grade(const char* name, const char* table, const char* density)
+{
+    GradeBoxes boxes;
+    boxes.name = name;
+    boxes.table = table;
+    boxes.density = density;
+    return boxes;
+}
+
+TankRow tank(const char* name, const TankReading& first, const TankReading& last)
+{
+    return {name, {first, last}};
+}
+
+/// The cargo of an ullage report: two grades, after loading.
+TankSheet cargoOfReport()
+{
+    TankSheet sheet;
+    TankList& cargo = sheet.list(ListKind::Cargo);
+    cargo.grades[0] = grade("Gasoline", "54B", "721.4");
+    cargo.grades[1] = grade("Gas oil", "54b", "842.8");
+    cargo.rows = {tank("1", {}, {"", "8834.839", "0.046", "22.0", "1"}),
+                  tank("2", {}, {"", "2202.606", "0.169", "22.5", "gas oil"})};
+    return sheet;
+}
+
+SheetInHand inHand(const TankSheet& sheet)
+{
+    SheetInHand work;
+    work.take(sheet);
+    return work;
+}
+
+TEST(TankList, cargoOfAnUllageReport)
+{
+    TankSheet sheet = cargoOfReport();
+    SheetInHand work = inHand(sheet);
+    const TankReckoning& reckoning = work.reckoning(ListKind::Cargo);
+    EXPECT_EQ(tankTexts({}, reckoning.tank(0, Survey::Last), reckoning).factor, "0.99106");
+    EXPECT_EQ(tankTexts({}, reckoning.tank(1, Survey::Last), reckoning).factor, "0.99369");
+    const auto five = totalsRows(reckoning, TotalsOf::Moved).back();
+    EXPECT_EQ(five.inVacuo, "8160.942");
+    EXPECT_EQ(five.observed, "11037.445");
+    EXPECT_EQ(five.total, "10944.565") << "GSV and the free water";
+    // The report was made with factors of four decimals.
+    sheet.choices.rounding = FactorRounding::FourDecimals;
+    work = inHand(sheet);
+    EXPECT_EQ(totalsRows(work.reckoning(ListKind::Cargo), TotalsOf::Moved).back().inVacuo,
+              "8161.216");
+    EXPECT_EQ(tanksShown(work).notices[0], "");
+}
+
+TEST(TankList, unitsOfATankAreThoseOfTheSheet)
+{
+    // The same oil by both tables: barrels and Fahrenheit give what cubic metres and Celsius do.
+    TankSheet sheet = cargoOfReport();
+    TankList& cargo = sheet.list(ListKind::Cargo);
+    cargo.rows.resize(1);
+    const double metric = inHand(sheet).reckoning(ListKind::Cargo).movedOfShip().inAir;
+    cargo.rows[0].surveys[1].volume = "55569.465";
+    cargo.rows[0].surveys[1].water = "0.289";
+    cargo.rows[0].surveys[1].temperature = "71.6";
+    sheet.choices.volume = TankVolumeUnit::Barrels;
+    sheet.choices.temperature = TankTemperatureUnit::Fahrenheit;
+    const SheetInHand inBarrels = inHand(sheet);
+    EXPECT_NEAR(inBarrels.reckoning(ListKind::Cargo).movedOfShip().inAir, metric, 0.001);
+    cargo.grades[0].table = "6B";
+    cargo.grades[0].density = "64.5914"; // of 721.4 at 15 degC
+    const SheetInHand american = inHand(sheet);
+    const TankSums sums = american.reckoning(ListKind::Cargo).movedOfShip();
+    EXPECT_NEAR(sums.inAir, metric, metric * 2e-5);
+    EXPECT_NEAR(sums.barrels, inBarrels.reckoning(ListKind::Cargo).movedOfShip().barrels, 2);
+}
+
+TEST(TankList, whatIsLeftOutIsSaidAndNoSumIsShown)
+{
+    struct Case {
+        const char* fault;
+        TankReading reading;
+        const char* said;
+    };
+    const std::vector<Case> cases = {
+        {"no grade", {"", "100", "", "20", ""}, "1 after: which grade?"},
+        {"unknown grade", {"", "100", "", "20", "9"}, "there is no grade \"9\""},
+        {"no temperature", {"", "100", "", "", "1"}, "the temperature is missing"},
+        {"half a temperature", {"", "100", "", "-", "1"}, "half typed"},
+        {"more water than volume", {"", "100", "101", "20", "1"}, "more water than volume"},
+        {"no number", {"", "abc", "", "20", "1"}, "volume"},
+        {"comma", {"", "1,234.5", "", "20", "1"}, "volume"},
+        {"beyond any tank", {"", "1e99", "", "20", "1"}, "volume"},
+        {"cold beyond sense", {"", "100", "", "-61", "1"}, "temperature"},
+        {"outside the table", {"", "100", "", "130", "1"}, "outside table 54B"},
+    };
+    for (const Case& each : cases) {
+        TankSheet sheet = cargoOfReport();
+        sheet.list(ListKind::Cargo).rows[0].surveys[1] = each.reading;
+        const TanksShown shown = tanksShown(inHand(sheet));
+        EXPECT_THAT(shown.notices[0], HasSubstr(each.said)) << each.fault;
+        const bool isWarning = each.reading.temperature == "130" || each.reading.volume[1] == ',' ||
+                               each.reading.volume == "1e99"; // its beginning is a number
+        EXPECT_EQ(shown.moved.empty(), !isWarning) << each.fault;
+    }
+    // An empty tank needs nothing; water alone is no oil.
+    TankSheet sheet = cargoOfReport();
+    sheet.list(ListKind::Cargo).rows.push_back(tank("3", {}, {"", "0", "", "", ""}));
+    sheet.list(ListKind::Cargo).rows.push_back(tank("Slop", {}, {"", "12.5", "12.5", "", ""}));
+    const SheetInHand work = inHand(sheet);
+    EXPECT_EQ(tanksShown(work).notices[0], "");
+    EXPECT_NEAR(work.reckoning(ListKind::Cargo).movedOfShip().total - 10944.565, 12.5, 0.001);
+}
+
+TEST(TankList, gradesAreCheckedBeforeATankRestsOnThem)
+{
+    struct Case {
+        const char* fault;
+        GradeBoxes grade;
+        const char* said;
+    };
+    GradeBoxes own = grade("Wax", "54C", "830");
+    GradeBoxes wild = own;
+    wild.coefficient = "85";
+    GradeBoxes sediment = grade("Crude", "54A", "870");
+    sediment.sediment = "101";
+    const std::vector<Case> cases = {
+        {"no table", grade("Naphtha", "", "700"), "Naphtha, table: one of"},
+        {"no such table", grade("Naphtha", "54E", "700"), "Naphtha, table: one of"},
+        {"no density", grade("Naphtha", "54B", ""), "Naphtha, density is missing"},
+        {"density of kg/l", grade("Naphtha", "54B", "0.7"), "Naphtha, density"},
+        {"gravity of no oil", grade("Naphtha", "6B", "-131.5"), "Naphtha, API"},
+        {"no coefficient", own, "Wax: table 54C needs the coefficient"},
+        {"coefficient in parts of a million", wild, "Wax, coefficient"},
+        {"more sediment than oil", sediment, "Crude, sediment and water"},
+    };
+    for (const Case& each : cases) {
+        TankSheet sheet = cargoOfReport();
+        sheet.list(ListKind::Cargo).grades[0] = each.grade;
+        const TanksShown shown = tanksShown(inHand(sheet));
+        EXPECT_THAT(shown.notices[0], HasSubstr(each.said)) << each.fault;
+        EXPECT_FALSE(shown.isWhole[0]) << each.fault;
+    }
+}
+
+/// A loading with what was on board before, against its bill.
+TankSheet loading()
+{
+    TankSheet sheet = cargoOfReport();
+    TankList& cargo = sheet.list(ListKind::Cargo);
+    cargo.rows[1].surveys[0] = {"", "2.400", "", "20", "2"};
+    cargo.grades[0].billWeight = "6320";
+    cargo.grades[0].billVolume = "8760";
+    cargo.grades[1].billWeight = "1842.5";
+    sheet.choices.rounding = FactorRounding::FourDecimals;
+    return sheet;
+}
+
+TEST(TankList, shipAgainstBillOfLading)
+{
+    TankSheet sheet = loading();
+    // 2.400 x 0.9958 x (842.8 - 1.1) / 1000 was on board.
+    sheet.list(ListKind::Cargo).rows[0].surveys[0] = {"", "0", "", "", ""};
+    TanksShown shown = tanksShown(inHand(sheet));
+    EXPECT_EQ(shown.onBoard, "OBQ 2.390 m³, 2.012 t");
+    EXPECT_EQ(shown.moved, "8147.165");
+    EXPECT_EQ(shown.percent, "-0.188");
+    EXPECT_THAT(shown.against, HasSubstr("bill 8162.500 t: -15.335 t"));
+    EXPECT_EQ(shown.byExperience, "");
+    const auto rows = compareRows(inHand(sheet).reckoning(ListKind::Cargo));
+    EXPECT_EQ(rows[0].measures[0].difference, "-3.837") << "8834.793 x 0.9911 - 8760";
+    EXPECT_EQ(rows[gradeCount].measures[0].bill, "") << "the gas oil has no bill in m3";
+    // By a factor of 1.00120 the ship's 8147.165 are 8137.401 of the shore.
+    for (int i = 0; i < 5; ++i)
+        sheet.voyages[0][std::size_t(i)] = {"", "100120", "100000"};
+    shown = tanksShown(inHand(sheet));
+    EXPECT_THAT(shown.byExperience, HasSubstr("1.00120 = 8137.400 t: -0.307 %"));
+    // Discharge is the other way round, and has the other factor.
+    sheet.choices.movement = Movement::Discharge;
+    std::swap(sheet.list(ListKind::Cargo).rows[0].surveys[0],
+              sheet.list(ListKind::Cargo).rows[0].surveys[1]);
+    std::swap(sheet.list(ListKind::Cargo).rows[1].surveys[0],
+              sheet.list(ListKind::Cargo).rows[1].surveys[1]);
+    shown = tanksShown(inHand(sheet));
+    EXPECT_EQ(shown.moved, "8147.165");
+    EXPECT_EQ(shown.onBoard, "ROB 2.390 m³, 2.012 t");
+    EXPECT_EQ(shown.byExperience, "");
+}
+
+TEST(TankList, aTankThatWasForgottenIsNoDischargedTank)
+{
+    TankSheet sheet = loading();
+    sheet.list(ListKind::Cargo).rows[1].surveys[1].volume.clear();
+    const TanksShown shown = tanksShown(inHand(sheet));
+    EXPECT_EQ(shown.moved, "");
+    EXPECT_THAT(shown.notices[0], HasSubstr("2 has no volume after"));
+}
+
+TEST(TankList, bunkersOfASurveyGoIntoTheNoonReport)
+{
+    TankSheet sheet;
+    TankList& bunkers = sheet.list(ListKind::Bunkers);
+    bunkers.grades[0] = grade("HFO", "", "992.0");
+    bunkers.grades[1] = grade("MGO", "", "845");
+    bunkers.grades[1].fuel = "2";
+    bunkers.grades[1].received = "50";
+    bunkers.rows = {tank("1P", {"", "190", "", "36", "1"}, {"", "161.28", "", "36", "1"}),
+                    tank("DO", {"", "60", "", "30", "2"}, {"", "110", "", "30", "mgo"})};
+    bunkers.times = {"2026/11/21 12:00", "2026/11/22 12:00"};
+    sheet.choices.rounding = FactorRounding::FourDecimals;
+    SheetInHand work = inHand(sheet);
+    const BunkersNow now =
+        bunkersNow(work.list(ListKind::Bunkers), work.reckoning(ListKind::Bunkers));
+    EXPECT_NEAR(now.fuels[0].remaining.value_or(0), 157.53, 0.005);
+    EXPECT_NEAR(now.fuels[0].consumed().value_or(0), (190 - 161.28) * 0.9857 * 0.9909, 0.001);
+    EXPECT_LT(now.fuels[1].consumed().value_or(99), 50) << "what was received counts";
+    NoonInput noon;
+    noon.bunkers = now;
+    NoonResult report = CalculateNoon(noon);
+    EXPECT_EQ(report.fuel[0], "28.1 t");
+    EXPECT_EQ(report.fuelBy, "tank list, 2026/11/22 12:00");
+    noon.boxes.before[0] = "200";
+    EXPECT_EQ(CalculateNoon(noon).fuel[0], "42.5 t") << "what is typed counts";
+    noon.record.rows[0] = {"2026/11/24 12:00", "0", "0", "0"};
+    noon.record.rows[1] = {"2026/11/25 12:00", "0", "0", "5"};
+    EXPECT_THAT(CalculateNoon(noon).notice, HasSubstr("the tank list is of 2026/11/22"));
+    EXPECT_THAT(CalculateNoon(noon).mail, HasSubstr("ROB 1: 157.5 t\n"));
+    EXPECT_THAT(CalculateNoon(noon).mail, HasSubstr("Bunkered 2: 50.0 t\n"));
+    // The next day begins with what is on board now.
+    work.beginNextSurvey(ListKind::Bunkers);
+    EXPECT_EQ(work.list(ListKind::Bunkers).rows[0].surveys[0].volume, "161.28");
+    EXPECT_EQ(work.list(ListKind::Bunkers).grades[1].received, "");
+    EXPECT_FALSE(bunkersNow(work.list(ListKind::Bunkers), work.reckoning(ListKind::Bunkers))
+                     .fuels[0]
+                     .consumed());
+}
+
+TEST(TankList, recordComesBackAsItWas)
+{
+    TankSheet sheet = loading();
+    sheet.port = "R\\dam = \"4\"\t";
+    sheet.choices = {
+        CrudeEdition::Of2004,    FactorRounding::Procedure1980,   TankAirWeight::Table56,
+        TankVolumeUnit::Barrels, TankTemperatureUnit::Fahrenheit, Movement::Discharge};
+    sheet.list(ListKind::Cargo).times = {"2026/11/22 10:00", "x"};
+    sheet.list(ListKind::Bunkers) = sheet.list(ListKind::Cargo);
+    sheet.list(ListKind::Bunkers)
+        .rows.insert(sheet.list(ListKind::Bunkers).rows.begin(), TankRow());
+    sheet.list(ListKind::Bunkers).grades[7].fuel = "3";
+    sheet.voyages[1][19] = {"Ölhafen", "1", "2"};
+    const std::string text = tankRecordText(sheet);
+    EXPECT_TRUE(text.starts_with("KORVEL2000 tank list 1\n"));
+    const ReadTankRecord read = readTankRecord(text);
+    EXPECT_EQ(read.damage, "");
+    EXPECT_TRUE(read.sheet == sheet);
+    for (std::size_t end = 0; end < text.size(); ++end) // cut anywhere it is read as far as it goes
+        readTankRecord(std::string_view(text).substr(0, end));
+    EXPECT_EQ(readTankRecord("\"noon\"\r\n").damage, "line 1: it is no tank list");
+    EXPECT_EQ(readTankRecord("KORVEL2000 tank list 1\nedition=1952\n").damage,
+              "line 2: no such choice");
+    EXPECT_EQ(
+        readTankRecord("KORVEL2000 tank list 1\nport=A\ncargo\ngrade 9\nname=B\ntank\nname=C\n")
+            .damage,
+        "line 4: it cannot be read");
+    std::string many = "KORVEL2000 tank list 2\nlater=1\ncargo\n";
+    for (int i = 0; i < 201; ++i)
+        many += "tank\nname=T\n";
+    const ReadTankRecord beyond = readTankRecord(many);
+    EXPECT_EQ(beyond.damage, "line 404: more than 200 tanks");
+    EXPECT_EQ(beyond.sheet.list(ListKind::Cargo).rows.size(), mostTanks);
+}
+
+ReadTanks readCsv(const std::string& text, const TankList& list = {}, Survey survey = Survey::Last)
+{
+    return readTanks(text, list, {}, survey);
+}
+
+TEST(TankCsv, aSavedListComesBack)
+{
+    TankList list = loading().list(ListKind::Cargo);
+    list.rows[0].tank = "1, \"P\"";
+    list.rows[0].surveys[1].sounding = "=1+1";
+    const ReadTanks read = readCsv(spreadsheetMark + csvText(tankTable(list, {})));
+    EXPECT_EQ(read.fault, "");
+    EXPECT_TRUE(read.rows == list.rows);
+}
+
+TEST(TankCsv, aFileOfOneSurveyLeavesTheOther)
+{
+    const TankList list = loading().list(ListKind::Cargo);
+    const ReadTanks read =
+        readCsv("Tank;Volume (m³);temperature\n2;2.500;21,5\nSlop;3;20\n", list, Survey::First);
+    ASSERT_EQ(read.fault, "");
+    ASSERT_EQ(read.rows.size(), 3);
+    EXPECT_TRUE(read.rows[0] == list.rows[0]);
+    EXPECT_EQ(read.rows[1].surveys[0].volume, "2.500");
+    EXPECT_EQ(read.rows[1].surveys[0].temperature, "21.5");
+    EXPECT_EQ(read.rows[1].surveys[0].grade, "2");
+    EXPECT_TRUE(read.rows[1].surveys[1] == list.rows[1].surveys[1]);
+    EXPECT_EQ(read.rows[2].tank, "Slop");
+}
+
+TEST(TankCsv, whatIsWrongIsNamedByLineAndField)
+{
+    struct Case {
+        const char* fault;
+        std::string text;
+        const char* said;
+    };
+    std::string many = "tank,volume\n";
+    for (int i = 0; i < 100000; ++i)
+        many += std::to_string(i) + ",1\n";
+    const std::vector<Case> cases = {
+        {"nothing", "", "it is empty"},
+        {"a heading alone", "tank,volume\n", "there is no tank in it"},
+        {"no tank", "volume,water\n1,2\n", "line 1: there is no column \"tank\""},
+        {"an unknown column", "tank,colour\n1,2\n", "line 1, column \"colour\""},
+        {"a column twice", "tank,volume,volume\n1,2,3\n", "it is there twice"},
+        {"other units", "tank,volume_bbl\n1,2\n", "this list has it in m3"},
+        {"no number", "tank,volume\n1,2\n2,x\n", "line 3: volume: \"x\" is no number"},
+        {"half a number", "tank,volume\n1,12 m\n", "line 2: volume: \"12 m\" is no number"},
+        {"an infinity", "tank,volume\n1,inf\n", "\"inf\" is no number"},
+        {"cut in a line", "tank,volume,water\n1,2\n", "line 2: fewer fields than columns"},
+        {"too many fields", "tank,volume\n1,2,3\n", "line 2: more fields"},
+        {"a quote that never ends", "tank,volume\n\"1,2\n3,4\n", "line 2: a double quote"},
+        {"a tank twice", "tank,volume\n1,2\n1,3\n", "line 3: tank: \"1\" is there twice"},
+        {"no name", "tank,volume\n ,2\n", "line 2: tank: the tank has no name"},
+        {"endless", many, "line 202: more than 200 tanks"},
+        {"one endless field", "tank,sounding\n1," + std::string(1000000, '9'), "is too long"},
+        {"no text", std::string("tank,sounding\n1,\xFF\xFE\n"), "line 2: sounding: no UTF-8"},
+        {"a line end in a name", "tank,volume\n\"1\n2\",2\n", "line 2: tank: a control"},
+        {"a picture", std::string("\x89PNG\r\n\x1A\n\0\0", 10), "line 1, column"},
+    };
+    for (const Case& each : cases) {
+        const ReadTanks read = readCsv(each.text);
+        EXPECT_THAT(read.fault, HasSubstr(each.said)) << each.fault;
+        EXPECT_TRUE(read.rows.empty()) << each.fault;
+    }
+}
+
+TEST(SheetInHand, keysInABoxAreOneStepAndComeBack)
+{
+    SheetInHand work;
+    TankRow row;
+    for (const char* typed : {"1", "1P"}) {
+        row.tank = typed;
+        work.typeRow(ListKind::Cargo, row, "txtTank(0)");
+    }
+    row.surveys[0].volume = "5";
+    work.typeRow(ListKind::Cargo, row, "txtTank(2)");
+    work.goToRow(ListKind::Cargo, 1);
+    EXPECT_EQ(work.shownRows(ListKind::Cargo), 2);
+    EXPECT_TRUE(work.insertRow(ListKind::Cargo));
+    EXPECT_EQ(work.undo(), "Typing");
+    EXPECT_EQ(work.list(ListKind::Cargo).rows[0].surveys[0].volume, "");
+    EXPECT_EQ(work.redo(), "Typing");
+    EXPECT_EQ(work.reckoning(ListKind::Cargo).sums(Survey::First).measured, 1);
+    work.goToRow(ListKind::Cargo, 0);
+    work.deleteRow(ListKind::Cargo);
+    EXPECT_EQ(work.redo(), "") << "a new step ends what was undone";
+    work.undo();
+    work.undo();
+    work.undo();
+    EXPECT_TRUE(work.list(ListKind::Cargo).rows.empty());
+    EXPECT_EQ(work.undo(), "");
+    TankSheet full;
+    full.list(ListKind::Cargo).rows.resize(mostTanks, row);
+    work.take(full);
+    EXPECT_FALSE(work.insertRow(ListKind::Cargo));
+    EXPECT_EQ(work.shownRows(ListKind::Cargo), mostTanks);
+}
+
+TEST(TankPaper, whatIsSignedHasTanksTotalsAndThoseWhoSign)
+{
+    const SheetInHand work = inHand(loading());
+    const TanksShown shown = tanksShown(work);
+    SheetInHand after = work;
+    after.goToSurvey(ListKind::Cargo, Survey::Last);
+    WorkingPaper paper;
+    tellSurvey(paper, after, shown, ListKind::Cargo);
+    EXPECT_EQ(paper.kind, "Ullage report, After loading");
+    EXPECT_EQ(paper.tables[0].rows.size(), 2);
+    EXPECT_EQ(paper.tables[1].rows.back()[6], "8161.216");
+    EXPECT_THAT(paper.signatures, ElementsAre("Chief officer", "Surveyor", "Terminal"));
+    tellMoved(paper, after, shown);
+    ASSERT_EQ(paper.workings.size(), 1);
+    EXPECT_THAT(paper.workings[0].steps.back().value, "6207.454") << "long tons of the gasoline";
+    tellExperience(paper, after, shown);
+    EXPECT_TRUE(paper.tables.empty());
+    tellBunkers(paper, after, shown);
+    EXPECT_THAT(paper.kind, HasSubstr("Bunkers"));
+}
+
+} // namespace
+} // namespace korvel
