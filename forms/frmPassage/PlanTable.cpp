@@ -22,7 +22,7 @@ PlanTable::PlanTable(Program& program, const PlanInHand& work, QWidget* parent)
 
 PlanTable::PlanTable(Program& program, const PlanInHand& work, PlanModel* model, QWidget* parent)
     : RowsView(*model,
-               {widest, Waypoint, 7,
+               {widest, Waypoint, 7, 2,
                 [&program]() -> const ColourScheme& { return program.colours(); },
                 [&work] { return work.row(); }},
                parent),

@@ -15,13 +15,13 @@ BunkersNow bunkersNow(const TankList& list, const TankReckoning& reckoning)
         BunkersNow::Fuel& fuel = bunkers.fuels[parcel.fuel.value_or(0)];
         fuel.name += (fuel.name.empty() ? "" : " + ") + parcel.name;
         fuel.received += parcel.received.value_or(0);
-        const auto add = [&reckoning, i](std::optional<double>& to, Survey survey) {
+        const auto add = [&reckoning, i](std::optional<double>& to, TankSurvey survey) {
             const SurveySums& sums = reckoning.sums(survey);
             if (sums.measured > 0 && sums.faults == 0) to = to.value_or(0) + sums.grades[i].inAir;
         };
-        add(fuel.previous, Survey::First);
+        add(fuel.previous, TankSurvey::First);
         // A tank that was forgotten would be taken for consumed.
-        if (reckoning.notMeasuredAgain().empty()) add(fuel.remaining, Survey::Last);
+        if (reckoning.notMeasuredAgain().empty()) add(fuel.remaining, TankSurvey::Last);
     }
     return bunkers;
 }

@@ -43,7 +43,7 @@ void SheetInHand::goToRow(ListKind kind, std::size_t row)
     endTyping();
 }
 
-void SheetInHand::goToSurvey(ListKind kind, Survey survey)
+void SheetInHand::goToSurvey(ListKind kind, TankSurvey survey)
 {
     at(kind).survey = survey;
     endTyping();
@@ -120,7 +120,7 @@ void SheetInHand::beginNextSurvey(ListKind kind)
     list.times = {std::move(list.times[1]), std::string()};
     for (GradeBoxes& grade : list.grades)
         grade.received.clear();
-    at(kind).survey = Survey::Last;
+    at(kind).survey = TankSurvey::Last;
     reckonAll();
 }
 

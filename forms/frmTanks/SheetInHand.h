@@ -26,10 +26,10 @@ public:
     /// to type into, as long as a list may have that many.
     std::size_t shownRows(ListKind kind) const;
     std::size_t row(ListKind kind) const { return at(kind).row; }
-    Survey survey(ListKind kind) const { return at(kind).survey; }
+    TankSurvey survey(ListKind kind) const { return at(kind).survey; }
     /// @param row the last one at most is gone to
     void goToRow(ListKind kind, std::size_t row);
-    void goToSurvey(ListKind kind, Survey survey);
+    void goToSurvey(ListKind kind, TankSurvey survey);
     /// What the row in hand holds; nothing in the one behind the last.
     TankRow rowInHand(ListKind kind) const;
 
@@ -57,7 +57,7 @@ public:
 private:
     struct Place {
         std::size_t row = 0;
-        Survey survey = Survey::First;
+        TankSurvey survey = TankSurvey::First;
     };
     struct Step {
         std::string name;

@@ -69,7 +69,7 @@ std::string plainName(const std::string& heading)
 struct Target {
     std::string heading;
     const Quantity* quantity = nullptr; ///< none: the name of the tank
-    Survey survey = Survey::First;
+    TankSurvey survey = TankSurvey::First;
 };
 
 struct Layout {
@@ -78,15 +78,15 @@ struct Layout {
 };
 
 std::optional<Target> targetOf(const std::string& heading, const TankChoices& choices,
-                               Survey inHand, std::string& fault)
+                               TankSurvey inHand, std::string& fault)
 {
     std::string name = plainName(heading);
     if (name == "tank" || name == "name") return Target{heading, nullptr, inHand};
     Target target{heading, nullptr, inHand};
-    for (const auto& [word, survey] : {std::pair{"first_", Survey::First},
-                                       {"before_", Survey::First},
-                                       {"last_", Survey::Last},
-                                       {"after_", Survey::Last}}) {
+    for (const auto& [word, survey] : {std::pair{"first_", TankSurvey::First},
+                                       {"before_", TankSurvey::First},
+                                       {"last_", TankSurvey::Last},
+                                       {"after_", TankSurvey::Last}}) {
         if (!name.starts_with(word)) continue;
         target.survey = survey;
         name = name.substr(std::string_view(word).size());
@@ -103,7 +103,7 @@ std::optional<Target> targetOf(const std::string& heading, const TankChoices& ch
     return std::nullopt;
 }
 
-Layout layoutOf(const DelimitedLine& line, const TankChoices& choices, Survey inHand)
+Layout layoutOf(const DelimitedLine& line, const TankChoices& choices, TankSurvey inHand)
 {
     Layout layout;
     bool hasTank = false;
@@ -238,7 +238,7 @@ ExportTable tankTable(const TankList& list, const TankChoices& choices)
 }
 
 ReadTanks readTanks(std::string_view text, const TankList& list, const TankChoices& choices,
-                    Survey survey)
+                    TankSurvey survey)
 {
     if (text.starts_with(spreadsheetMark)) text.remove_prefix(3);
     const char separator = separatorOf(text);

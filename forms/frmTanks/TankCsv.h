@@ -29,6 +29,6 @@ struct ReadTanks {
 /// @param text UTF-8
 /// @param survey in hand
 ReadTanks readTanks(std::string_view text, const TankList& list, const TankChoices& choices,
-                    Survey survey);
+                    TankSurvey survey);
 
 } // namespace korvel

@@ -160,7 +160,7 @@ inline constexpr std::array<const char*, TanksLabelCount> TanksRooms = {
     "000000.000",
     "000000.000",
     "-00.000",
-    "ship 000000.000, bill 000000.000 bbl: -00000.000 bbl",
+    "ship 000000.000, bill 000000.000 bbl",
     "ship / 0.00000 = 000000.000 bbl: -00.000 %",
     "OBQ 000000.000 m³, 000000.000 t",
     "000000.000",

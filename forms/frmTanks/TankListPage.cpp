@@ -44,7 +44,7 @@ void put(EntryBox* box, const std::string& text)
 TankListPage::TankListPage(Program& program, SheetInHand& work, Parts parts)
     : m_work(work), m_parts(std::move(parts)), m_model(new TankModel(work, m_parts.kind, this)),
       m_table(new RowsView(*m_model,
-                           {widest, RowsView::Look::nothing, 8,
+                           {widest, RowsView::Look::nothing, 8, 3,
                             [&program]() -> const ColourScheme& { return program.colours(); },
                             [&work, kind = m_parts.kind] { return work.row(kind); }},
                            this))
@@ -134,7 +134,7 @@ void TankListPage::connectBoxes()
     setEntryOrder(boxes.all());
     boxes[TankGrade]->onEnter = [this] { goToRow(m_work.row(m_parts.kind) + 1); };
     connect(m_optSurvey, &QButtonGroup::idClicked, this,
-            [this](int survey) { goToSurvey(static_cast<Survey>(survey)); });
+            [this](int survey) { goToSurvey(static_cast<TankSurvey>(survey)); });
     connect(m_table, &RowsView::rowChosen, this, &TankListPage::goToRow);
     connect(m_table, &RowsView::typed, this, &TankListPage::typeInto);
     connect(m_table, &RowsView::deleteWanted, this, &TankListPage::deleteWanted);
@@ -149,7 +149,7 @@ void TankListPage::goToRow(std::size_t row)
     if (auto* box = dynamic_cast<EntryBox*>(focusWidget())) box->selectAll();
 }
 
-void TankListPage::goToSurvey(Survey survey)
+void TankListPage::goToSurvey(TankSurvey survey)
 {
     m_work.goToSurvey(m_parts.kind, survey);
     fill();
@@ -160,7 +160,7 @@ void TankListPage::fill()
 {
     m_isFilling = true;
     const TankRow row = m_work.rowInHand(m_parts.kind);
-    const Survey survey = m_work.survey(m_parts.kind);
+    const TankSurvey survey = m_work.survey(m_parts.kind);
     put(m_parts.boxes[TankNameBox], row.tank);
     for (std::size_t field = TankSounding; field < TankFieldCount; ++field)
         put(m_parts.boxes[field],
@@ -192,7 +192,7 @@ void TankListPage::show()
     const TankReckoning& reckoning = m_work.reckoning(m_parts.kind);
     const std::size_t row = m_work.row(m_parts.kind);
     if (row >= reckoning.rows()) return m_parts.results.show(TankTexts());
-    const Survey survey = m_work.survey(m_parts.kind);
+    const TankSurvey survey = m_work.survey(m_parts.kind);
     m_parts.results.show(
         tankTexts(m_work.rowInHand(m_parts.kind).surveys[static_cast<std::size_t>(survey)],
                   reckoning.tank(row, survey), reckoning));

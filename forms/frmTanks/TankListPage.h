@@ -43,7 +43,7 @@ public:
     std::vector<EntryBox*> boxes() const { return m_parts.boxes.all(); }
     EntryBox* box(std::size_t field) const { return m_parts.boxes[field]; }
     void goToRow(std::size_t row);
-    void goToSurvey(Survey survey);
+    void goToSurvey(TankSurvey survey);
 
 signals:
     /// The sheet, or what is in hand of it, changed by other means than keys in a box.

@@ -51,8 +51,8 @@ int TankModel::columnCount(const QModelIndex& parent) const
 std::optional<TankModel::Place> TankModel::placeOf(int column)
 {
     if (column < FirstSurvey || column == Gap) return std::nullopt;
-    if (column < Gap) return Place{Survey::First, std::size_t(column - FirstSurvey)};
-    return Place{Survey::Last, std::size_t(column - LastSurvey)};
+    if (column < Gap) return Place{TankSurvey::First, std::size_t(column - FirstSurvey)};
+    return Place{TankSurvey::Last, std::size_t(column - LastSurvey)};
 }
 
 bool TankModel::isThere(std::size_t row) const
@@ -68,7 +68,7 @@ TankModel::Lines TankModel::linesOf(std::size_t row, int column) const
     if (column == Tank) return {typed.tank, ""};
     const auto place = placeOf(column);
     if (!place) return {};
-    const Survey survey = place->survey;
+    const TankSurvey survey = place->survey;
     const TankReckoning& reckoning = m_work.reckoning(m_kind);
     const TankTexts texts = tankTexts(typed.surveys[static_cast<std::size_t>(survey)],
                                       reckoning.tank(row, survey), reckoning);
@@ -88,8 +88,8 @@ std::string TankModel::remarkOf(std::size_t row) const
 {
     if (!isThere(row)) return {};
     const TankReckoning& reckoning = m_work.reckoning(m_kind);
-    return joined(
-        {reckoning.tank(row, Survey::First).remark, reckoning.tank(row, Survey::Last).remark});
+    return joined({reckoning.tank(row, TankSurvey::First).remark,
+                   reckoning.tank(row, TankSurvey::Last).remark});
 }
 
 QVariant TankModel::data(const QModelIndex& index, int role) const

@@ -36,7 +36,7 @@ public:
 
     /// The survey of a column, and which of its four it is; nothing for those of neither.
     struct Place {
-        Survey survey;
+        TankSurvey survey;
         std::size_t column;
     };
     static std::optional<Place> placeOf(int column);

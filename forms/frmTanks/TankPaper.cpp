@@ -35,7 +35,7 @@ void addGrades(WorkingPaper& paper, const TankReckoning& reckoning)
         if (grade.isUsed) paper.inputs.push_back({grade.name, gradeInWords(grade)});
 }
 
-PaperTable tanksTable(const SheetInHand& work, ListKind kind, Survey survey)
+PaperTable tanksTable(const SheetInHand& work, ListKind kind, TankSurvey survey)
 {
     const TankReckoning& reckoning = work.reckoning(kind);
     const TankChoices& choices = reckoning.choices();
@@ -110,14 +110,14 @@ void tellSurvey(WorkingPaper& paper, const SheetInHand& work, const TanksShown& 
                 ListKind kind)
 {
     addHead(paper, work, shown, kind);
-    const Survey survey = work.survey(kind);
+    const TankSurvey survey = work.survey(kind);
     const TankReckoning& reckoning = work.reckoning(kind);
     paper.kind = (kind == ListKind::Cargo ? "Ullage report, " : "Sounding report, ") +
                  surveyTitle(work, kind, survey);
     addIfTyped(paper.inputs, "Time of the survey",
                work.list(kind).times[static_cast<std::size_t>(survey)]);
     addGrades(paper, reckoning);
-    const TotalsOf what = survey == Survey::First ? TotalsOf::First : TotalsOf::Last;
+    const TotalsOf what = survey == TankSurvey::First ? TotalsOf::First : TotalsOf::Last;
     const PaperTable totals = totalsTable(reckoning, what, "Totals");
     const TotalsRow ship = totalsRows(reckoning, what).back();
     addFigure(paper, "Gross standard volume", ship.standard, "m³ at 15 °C");
@@ -144,11 +144,12 @@ void tellMoved(WorkingPaper& paper, const SheetInHand& work, const TanksShown& s
     addFigure(paper, "Ship less bill", shown.percent, "per cent");
     addFigure(paper, "By weight or volume", shown.against, "");
     addFigure(paper, "With the experience factor", shown.byExperience, "");
-    paper.tables = {
-        totalsTable(reckoning, TotalsOf::First, surveyTitle(work, ListKind::Cargo, Survey::First)),
-        totalsTable(reckoning, TotalsOf::Last, surveyTitle(work, ListKind::Cargo, Survey::Last)),
-        totalsTable(reckoning, TotalsOf::Moved, isLoading ? "Loaded" : "Discharged"),
-        billTable(reckoning, isLoading)};
+    paper.tables = {totalsTable(reckoning, TotalsOf::First,
+                                surveyTitle(work, ListKind::Cargo, TankSurvey::First)),
+                    totalsTable(reckoning, TotalsOf::Last,
+                                surveyTitle(work, ListKind::Cargo, TankSurvey::Last)),
+                    totalsTable(reckoning, TotalsOf::Moved, isLoading ? "Loaded" : "Discharged"),
+                    billTable(reckoning, isLoading)};
     paper.workings = {tankWorking(work, ListKind::Cargo)};
     paper.limits = tankLimits(reckoning);
     paper.signatures = {"Chief officer", "Surveyor", "Terminal"};

@@ -37,13 +37,16 @@ public:
     void takeRow(const TankList& list, std::size_t row);
 
     std::size_t rows() const { return m_tanks.size(); }
-    const TankFigures& tank(std::size_t row, Survey survey) const
+    const TankFigures& tank(std::size_t row, TankSurvey survey) const
     {
         return m_tanks[row][static_cast<std::size_t>(survey)];
     }
     const std::array<ReadGrade, gradeCount>& grades() const { return m_grades; }
     const TankChoices& choices() const { return m_choices; }
-    const SurveySums& sums(Survey survey) const { return m_sums[static_cast<std::size_t>(survey)]; }
+    const SurveySums& sums(TankSurvey survey) const
+    {
+        return m_sums[static_cast<std::size_t>(survey)];
+    }
 
     /// Both surveys are there and no tank is in doubt: what was loaded or discharged is known.
     bool isMoved() const;

@@ -14,7 +14,7 @@ namespace korvel
 
 /// The two surveys of a list: before and after loading or discharge; of bunkers the one before and
 /// the latest.
-enum class Survey : std::size_t { First, Last };
+enum class TankSurvey : std::size_t { First, Last };
 inline constexpr std::size_t surveyCount = 2;
 
 /// What was measured in a tank.

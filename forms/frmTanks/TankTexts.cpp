@@ -34,14 +34,16 @@ TotalsRow totalsRow(const std::string& name, const TankSums& sums, TankVolumeUni
 TankSums sumsOf(const TankReckoning& reckoning, TotalsOf what, std::optional<std::size_t> grade)
 {
     if (what == TotalsOf::Moved) return grade ? reckoning.moved(*grade) : reckoning.movedOfShip();
-    const SurveySums& sums = reckoning.sums(what == TotalsOf::First ? Survey::First : Survey::Last);
+    const SurveySums& sums =
+        reckoning.sums(what == TotalsOf::First ? TankSurvey::First : TankSurvey::Last);
     return grade ? sums.grades[*grade] : sums.ship;
 }
 
 bool isThere(const TankReckoning& reckoning, TotalsOf what)
 {
     if (what == TotalsOf::Moved) return reckoning.isMoved();
-    const SurveySums& sums = reckoning.sums(what == TotalsOf::First ? Survey::First : Survey::Last);
+    const SurveySums& sums =
+        reckoning.sums(what == TotalsOf::First ? TankSurvey::First : TankSurvey::Last);
     return sums.measured > 0 && sums.faults == 0;
 }
 
@@ -74,8 +76,7 @@ void showAgainst(const TankReckoning& cargo, TanksShown& shown)
     const CompareTexts texts = compareTexts(comparisons[*measure], *measure);
     const std::string unit = std::string(" ") + measureUnits[*measure];
     shown.percent = texts.percent;
-    shown.against =
-        "ship " + texts.ship + ", bill " + texts.bill + unit + ": " + texts.difference + unit;
+    shown.against = "ship " + texts.ship + ", bill " + texts.bill + unit;
     const auto& factor = shown.experience[static_cast<std::size_t>(cargo.choices().movement)].value;
     if (!factor) return;
     BillComparison by = comparisons[*measure];
@@ -120,7 +121,7 @@ void showBunkers(const SheetInHand& work, TanksShown& shown)
 }
 
 /// The remark of a tank with its name and survey in front.
-std::string tankRemark(const SheetInHand& work, ListKind kind, std::size_t row, Survey survey)
+std::string tankRemark(const SheetInHand& work, ListKind kind, std::size_t row, TankSurvey survey)
 {
     const TankFigures& figures = work.reckoning(kind).tank(row, survey);
     if (figures.remark.empty()) return {};
@@ -137,7 +138,7 @@ std::string tanksNotice(const SheetInHand& work, ListKind kind)
     std::size_t others = 0;
     std::string first;
     for (std::size_t row = 0; row < reckoning.rows(); ++row) {
-        for (const Survey survey : {Survey::First, Survey::Last}) {
+        for (const TankSurvey survey : {TankSurvey::First, TankSurvey::Last}) {
             if (row == inHand) said.push_back(tankRemark(work, kind, row, survey));
             if (row == inHand || !reckoning.tank(row, survey).isFault) continue;
             if (others++ == 0) first = tankRemark(work, kind, row, survey);
@@ -151,7 +152,7 @@ std::string tanksNotice(const SheetInHand& work, ListKind kind)
                        (missing.size() > 1
                             ? " and " + std::to_string(missing.size() - 1) + " more have"
                             : " has") +
-                       " no volume " + surveyName(kind, Survey::Last));
+                       " no volume " + surveyName(kind, TankSurvey::Last));
     return joined(said);
 }
 
@@ -186,18 +187,18 @@ std::string tankName(const TankList& list, std::size_t row)
     return isBlank(name) ? "Row " + std::to_string(row + 1) : name;
 }
 
-const char* surveyName(ListKind kind, Survey survey)
+const char* surveyName(ListKind kind, TankSurvey survey)
 {
-    if (kind == ListKind::Bunkers) return survey == Survey::First ? "previous" : "now";
-    return survey == Survey::First ? "before" : "after";
+    if (kind == ListKind::Bunkers) return survey == TankSurvey::First ? "previous" : "now";
+    return survey == TankSurvey::First ? "before" : "after";
 }
 
-std::string surveyTitle(const SheetInHand& work, ListKind kind, Survey survey)
+std::string surveyTitle(const SheetInHand& work, ListKind kind, TankSurvey survey)
 {
     if (kind == ListKind::Bunkers)
-        return survey == Survey::First ? "Bunkers, previous survey" : "Bunkers, survey now";
+        return survey == TankSurvey::First ? "Bunkers, previous survey" : "Bunkers, survey now";
     const bool isLoading = work.sheet().choices.movement == Movement::Loading;
-    return std::string(survey == Survey::First ? "Before " : "After ") +
+    return std::string(survey == TankSurvey::First ? "Before " : "After ") +
            (isLoading ? "loading" : "discharge");
 }
 
@@ -276,7 +277,7 @@ TanksShown tanksShown(const SheetInHand& work)
         shown.notices[list] = joined({tanksNotice(work, kind), gradesNotice(reckoning)});
         for (const ReadGrade& grade : reckoning.grades())
             if (!grade.remarks.faults.empty()) shown.isWhole[list] = false;
-        for (const Survey survey : {Survey::First, Survey::Last})
+        for (const TankSurvey survey : {TankSurvey::First, TankSurvey::Last})
             if (reckoning.sums(survey).faults > 0) shown.isWhole[list] = false;
         if (!reckoning.notMeasuredAgain().empty()) shown.isWhole[list] = false;
     }

@@ -43,7 +43,7 @@ struct TanksShown {
     std::string moved;                           ///< t in air
     std::string movedVolume;                     ///< GSV, m3
     std::string percent;                         ///< of the bill, "-0.123"
-    std::string against;                         ///< "by weight: ship 8161.216, bill 8170.000 t"
+    std::string against;                         ///< "ship 8161.216, bill 8170.000 t"
     std::string byExperience;                    ///< the same with the experience factor
     std::string onBoard;                         ///< "OBQ 12.345 m³, 10.000 t" or ROB
     std::string totalMoved;                      ///< TCV, m3
@@ -58,9 +58,9 @@ TanksShown tanksShown(const SheetInHand& work);
 /// "1P" or "Row 3"
 std::string tankName(const TankList& list, std::size_t row);
 /// "before", "after"; of bunkers "previous", "now"
-const char* surveyName(ListKind kind, Survey survey);
+const char* surveyName(ListKind kind, TankSurvey survey);
 /// "Before loading", "After discharge", "Bunkers, previous survey"
-std::string surveyTitle(const SheetInHand& work, ListKind kind, Survey survey);
+std::string surveyTitle(const SheetInHand& work, ListKind kind, TankSurvey survey);
 
 std::string volumeText(double cubicMetres);
 std::string weightText(double tons);

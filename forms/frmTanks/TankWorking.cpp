@@ -107,7 +107,7 @@ Working tankWorking(const SheetInHand& work, ListKind kind)
         working.whyNone = "No tank is in hand";
         return working;
     }
-    const Survey survey = work.survey(kind);
+    const TankSurvey survey = work.survey(kind);
     working.title = "tank " + tankName(work.list(kind), row) + ", " + surveyName(kind, survey);
     const TankFigures& figures = reckoning.tank(row, survey);
     if (!figures.quantities || !figures.factor) {

@@ -44,7 +44,7 @@ frmTanks::frmTanks(Program& program)
             refresh();
             return read.damage;
         });
-    m_work.goToSurvey(ListKind::Bunkers, Survey::Last);
+    m_work.goToSurvey(ListKind::Bunkers, TankSurvey::Last);
     loadSettings();
     refresh();
     m_tanks->box(TankNameBox)->setFocus();

@@ -61,7 +61,7 @@ private:
     void paste();
     void takeList(const std::string& text, const std::string& from);
     void saveList();
-    void printSurvey(Survey survey);
+    void printSurvey(TankSurvey survey);
     void tellRefused(const std::string& what, const std::string& why);
 
     SheetInHand m_work;

@@ -49,8 +49,8 @@ void frmTanks::addListMenu()
     entry("&Open a list of tanks (CSV)..", "Ctrl+O", [this] { openList(); });
     entry("&Save the list of tanks (CSV)..", "Ctrl+S", [this] { saveList(); });
     entry("&Begin the next survey", "", [this] { beginNextSurvey(); });
-    entry("Ullage report of the survey be&fore..", "", [this] { printSurvey(Survey::First); });
-    entry("Ullage report of the survey &after..", "", [this] { printSurvey(Survey::Last); });
+    entry("Ullage report of the survey be&fore..", "", [this] { printSurvey(TankSurvey::First); });
+    entry("Ullage report of the survey &after..", "", [this] { printSurvey(TankSurvey::Last); });
     entry("&Undo", "Ctrl+Z", [this] { undo(); });
     entry("Re&do", "Ctrl+Y", [this] { redo(); });
 }
@@ -70,8 +70,8 @@ void frmTanks::addRowMenu()
     entry("&Paste rows of a spreadsheet", "Ctrl+Shift+V", [this] { paste(); });
     entry("&Other survey", "Ctrl+Shift+S", [this] {
         const ListKind kind = listInHand();
-        pageOf(kind).goToSurvey(m_work.survey(kind) == Survey::First ? Survey::Last
-                                                                     : Survey::First);
+        pageOf(kind).goToSurvey(m_work.survey(kind) == TankSurvey::First ? TankSurvey::Last
+                                                                         : TankSurvey::First);
     });
 }
 
@@ -168,7 +168,7 @@ void frmTanks::saveList()
 }
 
 /// The report of a survey is that of the page of tanks, of the list in hand.
-void frmTanks::printSurvey(Survey survey)
+void frmTanks::printSurvey(TankSurvey survey)
 {
     const ListKind kind = listInHand();
     if (kind == ListKind::Cargo) m_pages->turnTo(Tanks);

@@ -183,7 +183,7 @@ QSize RowsView::sizeHint() const
 
 QSize RowsView::minimumSizeHint() const
 {
-    return {sizeHint().width() / 2, heightFor(fewestRows)};
+    return {sizeHint().width() / m_look.leastPart, heightFor(fewestRows)};
 }
 
 } // namespace korvel

@@ -28,6 +28,7 @@ public:
         static constexpr int nothing = -1;
         int stretched = nothing; ///< column that takes the room that is left
         int usualRows = 7;
+        int leastPart = 2; ///< of its width: what is narrower scrolls sideways
         std::function<const ColourScheme&()> colours;
         std::function<std::size_t()> rowInHand;
     };

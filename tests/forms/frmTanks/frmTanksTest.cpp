@@ -114,7 +114,9 @@ TEST_F(frmTanksTest, aLoadingIsWorkedByKeys)
     EXPECT_EQ(cell(window, 11, TankModel::LastSurvey + 2, true), "0.9937");
     EXPECT_EQ(text(window, "lblMoved(1)"), "10944.725");
     EXPECT_EQ(text(window, "lblMoved(2)"), "-0.182");
-    press(window, Qt::Key_D, "optTotals(2)");
+    QTest::keyClick(&window, Qt::Key_D, Qt::AltModifier);
+    const QWidget& total = control(window, "lblTotalVacuo(8)");
+    EXPECT_TRUE(QTest::qWaitFor([&total] { return total.isVisible(); }));
     EXPECT_EQ(text(window, "lblTotalVacuo(8)"), "8161.216");
     EXPECT_EQ(text(window, "lblTotalWater(0)"), "0.046");
     EXPECT_EQ(text(window, "lblLessVolume(0)"), "-3.837");
