@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
+#include "app/reading/TypedTime.h"
 #include "forms/frmNoon/NoonMail.h"
 #include "forms/frmWeather/CalculateWeather.h"
 #include "navlib/sea/weather_terms.h"
@@ -89,20 +90,40 @@ void showSlip(NoonReader& boxes, const NoonInput& input, NoonResult& noon)
             "slip: the run is in minutes of latitude, the engine's miles have 1852 m");
 }
 
-void showFuel(NoonReader& boxes, NoonResult& noon)
+/// The tank list may be of another day than the report.
+void tellTanks(NoonReader& boxes, const BunkersNow& bunkers, NoonResult& noon)
+{
+    noon.fuelBy = "tank list, " + (bunkers.now.empty() ? std::string("no time") : bunkers.now);
+    const TypedTime now = readTypedTime(bunkers.now, Due::DateAndTime);
+    if (!now.value || !noon.day) return;
+    const Span apart = instantOf(*now.value) - instantOf(noon.record.fixes[noon.day->to].smt);
+    if (apart > std::chrono::hours(12) || apart < -std::chrono::hours(12))
+        boxes.remarks.warn("fuel: the tank list is of " + bunkers.now);
+}
+
+void showFuel(NoonReader& boxes, const BunkersNow& bunkers, NoonResult& noon)
 {
     const auto& run = noon.day ? noon.day->run : std::nullopt;
+    bool isByTanks = false;
     for (std::size_t i = 0; i < noon.fuel.size(); ++i) {
-        const auto before = boxes.number(NoonBox::Before, 2 * i);
-        const auto onBoard = boxes.number(NoonBox::Before, 2 * i + 1);
+        const BunkersNow::Fuel& tanks = bunkers.fuels[i];
+        auto before = boxes.number(NoonBox::Before, 2 * i);
+        auto onBoard = boxes.number(NoonBox::Before, 2 * i + 1);
+        const bool takesBefore = boxes.text(NoonBox::Before, 2 * i).empty() && tanks.previous;
+        const bool takesOnBoard = boxes.text(NoonBox::Before, 2 * i + 1).empty() && tanks.remaining;
+        if (takesBefore) before = tanks.previous;
+        if (takesOnBoard) onBoard = noon.byTanks[i] = tanks.remaining;
+        isByTanks = isByTanks || takesBefore || takesOnBoard;
         if (!before || !onBoard) continue;
-        noon.tons[i] = {*before, *onBoard};
-        noon.fuel[i] = Format(*before - *onBoard, "0.0") + " t";
-        if (*onBoard > *before) boxes.remarks.warn("more fuel than the day before: bunkered?");
+        const double received = takesBefore || takesOnBoard ? tanks.received : 0;
+        noon.tons[i] = {*before, *onBoard, received};
+        const double used = *before + received - *onBoard;
+        noon.fuel[i] = Format(used, "0.0") + " t";
+        if (used < 0) boxes.remarks.warn("more fuel than the day before: bunkered?");
         if (run && run->miles > Miles(0))
-            noon.fuel[i] +=
-                ", " + Format((*before - *onBoard) / run->miles.value(), "0.0000") + " t per nm";
+            noon.fuel[i] += ", " + Format(used / run->miles.value(), "0.0000") + " t per nm";
     }
+    if (isByTanks) tellTanks(boxes, bunkers, noon);
 }
 
 /// Letters of the weather with their names, "bc Blue sky with clouds, r Rain".
@@ -161,7 +182,7 @@ NoonResult CalculateNoon(const NoonInput& input)
     if (noon.day) showDay(noon);
     showArrivals(boxes, input, noon);
     showSlip(boxes, input, noon);
-    showFuel(boxes, noon);
+    showFuel(boxes, input.bunkers, noon);
     showWeather(boxes, noon);
     noon.mail = noonMail(boxes, noon);
     noon.notice = boxes.remarks.text();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/watch/BunkersNow.h"
 #include "forms/frmNoon/NoonArrival.h"
 #include "forms/frmNoon/NoonDay.h"
 
@@ -13,6 +14,7 @@ struct NoonInput {
     PositionRecordInput record;
     PassagePlan plan;
     NavFunc113::Hours shipsTD;
+    BunkersNow bunkers = {}; ///< what the boxes for fuel stand for while they are empty
 };
 
 /// The propeller's day.
@@ -41,6 +43,7 @@ struct NoonResult {
     std::string apparentSlip;        ///< per cent
     std::string realSlip;            ///< per cent
     std::array<std::string, 3> fuel; ///< "25.0 t, 0.0725 t per nm"
+    std::string fuelBy;              ///< where the fuel on board comes from, and of when
     std::string sea;                 ///< "4-Moderate, Slight swell"
     std::string visibility;          ///< "7-Good, 10.8 nm"
     std::string weather;             ///< "b Blue sky, c Cloudy"
@@ -56,8 +59,10 @@ struct NoonResult {
     std::optional<NoonEngine> propeller;
     struct Fuel {
         double before, onBoard; ///< tons
+        double received = 0;    ///< between them, by the tank list
     };
     std::array<std::optional<Fuel>, 3> tons;
+    std::array<std::optional<double>, 3> byTanks; ///< on board, where the box is empty
 };
 
 NoonResult CalculateNoon(const NoonInput& input);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmNoon/NoonMail.h"
 
+#include "app/reading/Format.h"
+
 #include <map>
 #include <sstream>
 
@@ -44,11 +46,25 @@ std::string slip(NoonReader&, const NoonResult& noon)
            line("Slip, real", noon.realSlip, " %");
 }
 
+/// As typed, or by the tank list.
+std::string onBoard(NoonReader& boxes, const NoonResult& noon, std::size_t fuel)
+{
+    const auto& tons = noon.byTanks[fuel];
+    return tons ? Format(*tons, "0.0") : boxes.text(NoonBox::Before, 2 * fuel + 1);
+}
+
+std::string received(const NoonResult& noon, std::size_t fuel)
+{
+    const bool isAny = noon.tons[fuel] && noon.tons[fuel]->received > 0;
+    return isAny ? Format(noon.tons[fuel]->received, "0.0") : "";
+}
+
 std::string fuel(NoonReader& boxes, const NoonResult& noon)
 {
     std::string text;
     for (std::size_t i = 0; i < noon.fuel.size(); ++i)
-        text += numbered("ROB", i, boxes.text(NoonBox::Before, 2 * i + 1), " t") +
+        text += numbered("ROB", i, onBoard(boxes, noon, i), " t") +
+                numbered("Bunkered", i, received(noon, i), " t") +
                 numbered("Consumed", i, noon.fuel[i]);
     return text;
 }

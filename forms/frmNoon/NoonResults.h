@@ -46,6 +46,8 @@ inline constexpr std::array NoonResults = {
             "Visibility in the log's terms"},
     NoonRow{"lblNoon(21)", "Sky", "", Weight::Figure, &NoonResult::weather,
             "Weather in the log's terms"},
+    NoonRow{"lblNoon(22)", "Fuel by", "", Weight::Remark, &NoonResult::fuelBy,
+            "Where the fuel on board comes from"},
 };
 
 inline constexpr std::array<const char*, NoonResults.size()> NoonRooms = {
@@ -70,6 +72,7 @@ inline constexpr std::array<const char*, NoonResults.size()> NoonRooms = {
     "00000.0 t, 0.0000 t per nm",
     "9-Phenomenal, Mod./Rough swell",
     "9-Visivility exceptional, 000.0 nm",
-    "c Cloudy, o Overcast, r Rain, q Squalls"};
+    "c Cloudy, o Overcast, r Rain, q Squalls",
+    "tank list, 2038/08/04 20:38"};
 
 } // namespace korvel

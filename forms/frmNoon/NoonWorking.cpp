@@ -181,10 +181,14 @@ Working fuelWorking(const NoonResult& noon)
     for (std::size_t i = 0; i < noon.tons.size(); ++i) {
         if (!noon.tons[i]) continue;
         const std::string name = "Fuel " + std::to_string(i + 1);
-        const auto& [before, onBoard] = *noon.tons[i];
-        const double used = before - onBoard;
-        working.step(name + ", tons", "the day before less on board",
-                     figure(before, 3) + " - " + figure(onBoard, 3), figure(used, 3), "t");
+        const auto& [before, onBoard, received] = *noon.tons[i];
+        const double used = before + received - onBoard;
+        working.step(name + ", tons",
+                     received > 0 ? "the day before and received, less on board"
+                                  : "the day before less on board",
+                     figure(before, 3) + (received > 0 ? " + " + figure(received, 3) : "") + " - " +
+                         figure(onBoard, 3),
+                     figure(used, 3), "t");
         if (noon.day && noon.day->run && noon.day->run->miles > Miles(0))
             working.step(name + ", tons a mile", "tons / run",
                          term(used, 3) + " / " + figure(noon.day->run->miles, milesInFull),

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmNoon/frmNoon.h"
 
+#include "app/reading/Format.h"
 #include "app/records/KeyedLines.h"
 #include "forms/frmNoon/NoonMail.h"
 #include "forms/frmNoon/NoonResults.h"
 #include "forms/frmNoon/NoonWorking.h"
 #include "forms/frmPassage/PlanRecord.h"
+#include "forms/frmTanks/BunkerReckoning.h"
+#include "forms/frmTanks/TankRecord.h"
 #include "shell/controls/AnswerStrip.h"
 #include "shell/layout/CellLayout.h"
 #include "shell/layout/Panels.h"
@@ -97,7 +100,7 @@ QWidget* frmNoon::layOutGroup(const char* title, NoonBox first, NoonBox end) con
 void frmNoon::addMenus()
 {
     QMenu* report = menus().add("R&eport", "mnuReport");
-    menus().addEntry(report, "mnuReport", 0, "Read record and plan &anew", [this] {
+    menus().addEntry(report, "mnuReport", 0, "Read record, plan and tanks &anew", [this] {
         readSources();
         calculations().run(m_calculation);
     });
@@ -134,6 +137,24 @@ void frmNoon::readSources()
     }
     const auto plan = program().files().read("KV_Passage.ini");
     if (plan.status == Status::Read) m_plan = readPlanRecord(plan.bytes).plan;
+    readBunkers();
+}
+
+/// From the file of the tank list. A box for fuel that is empty shows what it stands for.
+void frmNoon::readBunkers()
+{
+    m_bunkers = {};
+    const auto tanks = program().files().read(tankFile);
+    if (tanks.status == FileStore::Content::Status::Read)
+        m_bunkers = bunkersNow(readTankRecord(tanks.bytes).sheet);
+    const auto offer = [this](std::size_t place, const std::optional<double>& tons) {
+        m_boxes[placeOf(NoonBox::Before) + place]->setPlaceholderText(
+            tons ? asQString(Format(*tons, "0.0") + " tank list") : QString());
+    };
+    for (std::size_t i = 0; i < m_bunkers.fuels.size(); ++i) {
+        offer(2 * i, m_bunkers.fuels[i].previous);
+        offer(2 * i + 1, m_bunkers.fuels[i].remaining);
+    }
 }
 
 NoonBoxes frmNoon::boxes() const
@@ -165,7 +186,8 @@ std::string frmNoon::take(const std::string& bytes)
 
 NoonInput frmNoon::input() const
 {
-    NoonInput input{boxes(), m_record, m_plan, NavFunc113::Hours(double(program().saved().TD()))};
+    NoonInput input{boxes(), m_record, m_plan, NavFunc113::Hours(double(program().saved().TD())),
+                    m_bunkers};
     input.record.earth = program().earth();
     input.record.shipsTD = double(program().saved().TD());
     return input;

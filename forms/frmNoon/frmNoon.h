@@ -27,6 +27,7 @@ private:
     void addMenus();
 
     void readSources();
+    void readBunkers();
     EntryBox* box(NoonBox which) const { return m_boxes[placeOf(which)]; }
     NoonBoxes boxes() const;
     NoonInput input() const;
@@ -38,6 +39,7 @@ private:
     ResultLabels<NoonResult> m_results;
     PositionRecordInput m_record;
     PassagePlan m_plan;
+    BunkersNow m_bunkers;
     NoonResult m_shown;
     int m_calculation = 0;
 };
