@@ -14,21 +14,12 @@ namespace korvel
 namespace
 {
 
-<<<<<<< HEAD
 using WindowOptions = std::vector<QRadioButton*>;
 
 /// The options that one is chosen among, itself included.
 WindowOptions groupOf(const QRadioButton& option)
 {
     WindowOptions group;
-=======
-using OptionGroup = std::vector<QRadioButton*>;
-
-/// The options that one is chosen among, itself included.
-OptionGroup groupOf(const QRadioButton& option)
-{
-    OptionGroup group;
->>>>>>> d414dc8 (Tank list: fits at twice the size; the counts of windows)
     const auto take = [&](const auto& buttons) {
         for (QAbstractButton* each : buttons)
             if (auto* member = qobject_cast<QRadioButton*>(each);
@@ -45,11 +36,7 @@ OptionGroup groupOf(const QRadioButton& option)
 
 /// The toolkit looks after the stop only once the group has the focus: Tab came to the first
 /// option, and Space there made E of the W that was chosen.
-<<<<<<< HEAD
 void stopTabAtChosen(const WindowOptions& group)
-=======
-void stopTabAtChosen(const OptionGroup& group)
->>>>>>> d414dc8 (Tank list: fits at twice the size; the counts of windows)
 {
     const auto isChosen = [](const QRadioButton* option) { return option->isChecked(); };
     const auto chosen = std::ranges::find_if(group, isChosen);

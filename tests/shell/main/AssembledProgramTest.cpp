@@ -66,7 +66,7 @@ protected:
 
 TEST_F(AssembledProgramTest, everyEntryAndEveryLinkOpensWhatItSays)
 {
-    EXPECT_EQ(catalogue.size(), 20u);
+    EXPECT_EQ(catalogue.size(), 27u);
     expectUniqueMnemonics("frmKORVEL2000", main.menuBar()->actions());
     for (const CatalogueEntry& entry : catalogue) {
         choose(main, entry.entryName().toStdString());
