@@ -123,8 +123,8 @@ double LineVariance(const ErrorModel& errors, const Motion& motion, const Sight&
     const Degrees toCourse = azimuth - motion.course;
     const Miles along = errors.runAlong * run * cos(toCourse);
     const Miles across = run * sin(errors.runCourse) * sin(toCourse);
-    return square(sight.sigmas * errors.sigma.value()) + square(along.value()) +
-           square(across.value());
+    const double ofSight = square(sight.sigmas * errors.sigma.value());
+    return ofSight + square(along.value()) + square(across.value());
 }
 
 Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const Motion& motion,
