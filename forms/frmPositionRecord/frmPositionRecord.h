@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/records/ObservedFix.h"
 #include "app/records/RecordFile.h"
-#include "app/watch/ObservedFix.h"
 #include "forms/frmPositionRecord/PositionTable.h"
 #include "forms/frmPositionRecord/RecordMemory.h"
 #include "shell/layout/FocusFollower.h"

@@ -3,7 +3,7 @@
 
 #include "almanac/moon_phase.h"
 #include "almanac/star_round.h"
-#include "app/watch/PlannedSights.h"
+#include "app/records/PlannedSights.h"
 #include "forms/frmSky/CalculateDay.h"
 
 #include <optional>

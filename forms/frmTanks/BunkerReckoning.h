@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/watch/BunkersNow.h"
+#include "app/records/BunkersNow.h"
 #include "forms/frmTanks/TankReckoning.h"
 
 namespace korvel

@@ -5,7 +5,11 @@
 #include "app/records/KeyedLines.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace korvel
 {

@@ -3,9 +3,9 @@
 
 #include "app/records/KORVEL2000Actions.h"
 #include "app/records/KV_Savedvalue.h"
+#include "app/records/ObservedFix.h"
+#include "app/records/PlannedSights.h"
 #include "app/records/RecordFile.h"
-#include "app/watch/ObservedFix.h"
-#include "app/watch/PlannedSights.h"
 #include "app/watch/ShipNow.h"
 #include "app/watch/ShipsTime.h"
 #include "app/working/WorkingPaper.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/reading/Remarks.h"
-#include "app/watch/ObservedFix.h"
+#include "app/records/ObservedFix.h"
 #include "forms/frmSunSight/sight/SightList.h"
 #include "navlib/sky/line_checks.h"
 

@@ -3,7 +3,7 @@
 
 #include "almanac/sky.h"
 #include "app/reading/Remarks.h"
-#include "app/watch/PlannedSights.h"
+#include "app/records/PlannedSights.h"
 #include "navlib/sky/sight_fix.h"
 
 #include <optional>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/watch/ObservedFix.h"
+#include "app/records/ObservedFix.h"
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/watch/PlannedSights.h"
+#include "app/records/PlannedSights.h"
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
