@@ -162,8 +162,9 @@ void frmTanks::saveList()
     named.kind = listInHand() == ListKind::Cargo ? "Tank list" : "Bunker tanks";
     const auto path = program().questions().fileToWrite(
         "Save the list of tanks", offeredName(program().paperHeading(), named, "csv"));
+    if (!path) return; // the window may have gone under the question
     const ExportTable table = tankTable(m_work.list(listInHand()), m_work.sheet().choices);
-    if (!path || !printer().write(*path, spreadsheetMark + csvText(table))) return;
+    if (!printer().write(*path, spreadsheetMark + csvText(table))) return;
     sayForAWhile("Saved as " + fileName(*path) + ".");
 }
 

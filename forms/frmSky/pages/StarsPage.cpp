@@ -90,7 +90,7 @@ QLayout* StarsPage::layOutQuestion()
     row->setGap(pageGap);
     EntryBox* at = m_boxes[placeOf(SkyBox::StarsAt)];
     at->setFixedWidth(at->fontMetrics().horizontalAdvance("0000/00/00 00:00"));
-    at->setPlaceholderText("middle of the");
+    at->setPlaceholderText("middle");
     const auto add = [row](std::initializer_list<QWidget*> controls) {
         row->startGroup();
         bool isFirst = true;

@@ -204,7 +204,7 @@ TEST_F(frmTanksTest, aKeyInTheTableGoesToTheBoxOfItsColumnAndSurvey)
     table.setCurrentIndex(table.model()->index(0, TankModel::LastSurvey + 1));
     QTest::keyClick(&table, '7');
     EXPECT_EQ(focused(), "txtTank(2)");
-    const TankReading& after = onDisk().list(ListKind::Cargo).rows[0].surveys[1];
+    const TankReading after = onDisk().list(ListKind::Cargo).rows[0].surveys[1];
     EXPECT_EQ(after.volume, "7");
 }
 
