@@ -286,6 +286,7 @@ void frmSky::sendRound()
 std::vector<PagePrinter::Draw> frmSky::almanacDrawings() const
 {
     std::vector<PagePrinter::Draw> drawings;
+    drawings.reserve(almanacSheets);
     for (int sheet = 0; sheet < almanacSheets; ++sheet)
         drawings.push_back([page = *m_page, sheet](QPainter& painter, const QRect& room) {
             drawAlmanacSheet(painter, room, page, sheet);

@@ -56,7 +56,8 @@ public:
         const Qt::Alignment across = side == Side::Right  ? Qt::AlignRight
                                      : side == Side::Left ? Qt::AlignLeft
                                                           : Qt::AlignHCenter;
-        m_painter.drawText(cell, across | Qt::AlignVCenter | Qt::TextDontClip, asQString(words));
+        const Qt::Alignment place = across | Qt::AlignVCenter;
+        m_painter.drawText(cell, static_cast<int>(place) | Qt::TextDontClip, asQString(words));
     }
 
     void rule(double column, double line, double width)
@@ -93,7 +94,8 @@ constexpr double gapOfHours = 0.35; ///< after every six
 /// Line of an hour of the page, counted from the first.
 double lineOfHour(std::size_t hour)
 {
-    return static_cast<double>(hour) + gapOfHours * static_cast<double>(hour / 6);
+    const std::size_t gaps = hour / 6;
+    return static_cast<double>(hour) + gapOfHours * static_cast<double>(gaps);
 }
 
 const double hourLines = lineOfHour(almanac::pageHours) + 0.3;
