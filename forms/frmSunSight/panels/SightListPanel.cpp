@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include <utility>
+
 namespace korvel
 {
 namespace
@@ -65,8 +67,11 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
     for (const SightSeries& series : fix.series)
         for (const SeriesShot& shot : series.shots) {
             std::string& line = lines.at(shot.index);
-            line = "shot " + Format(shot.residual, "+0.0';-0.0'") + (shot.isWild ? " wild" : "") +
-                   (line.empty() ? "" : "  ") + line;
+            std::string words = "shot " + Format(shot.residual, "+0.0';-0.0'");
+            if (shot.isWild) words += " wild";
+            if (!line.empty()) words += "  ";
+            words += line;
+            line = std::move(words);
         }
     const int count = m_recorded = static_cast<int>(lines.size());
     while (m_lstSunSight->count() > count)

@@ -144,7 +144,7 @@ std::vector<ListedSight> listed(const SightList& list, const SightFixResult& fix
 /// Of which body a sight is, and which limb of the Sun and the Moon.
 std::string limbOf(const ListedSight& sight)
 {
-    const std::string limb = sight.recorded.texts.upperLimb ? "upper" : "lower";
+    std::string limb = sight.recorded.texts.upperLimb ? "upper" : "lower";
     if (sight.seen.isSun()) return limb;
     const std::string& body = sight.recorded.texts.body;
     return almanac::hasLimbs(sight.seen.body) ? body + ", " + limb : body;
