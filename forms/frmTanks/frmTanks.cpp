@@ -54,6 +54,7 @@ TankListPage* frmTanks::makeList(ListKind kind)
 {
     const auto captions = [](const auto& table) {
         std::vector<QString> all;
+        all.reserve(table.size());
         for (const auto& each : table)
             all.push_back(*each.unit ? QString(each.caption) + ", " + each.unit
                                      : QString(each.caption));
