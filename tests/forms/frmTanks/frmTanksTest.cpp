@@ -40,7 +40,7 @@ protected:
     }
     static void turnTo(frmTanks& window, int page)
     {
-        click(window, QString("cmdTankPage(%1)").arg(page).toStdString().c_str());
+        click(window, QString("cmdTankPage(%1)").arg(page).toStdString());
     }
 
     TankSheet onDisk()
@@ -232,9 +232,8 @@ TEST_F(frmTanksTest, factorsOfLoadingAndDischargeStandApart)
     auto& window = open<frmTanks>();
     turnTo(window, 4);
     for (int i = 0; i < 6; ++i) {
-        type(window, QString("txtLoadingShip(%1)").arg(i).toStdString().c_str(),
-             i == 5 ? "103" : "100.1");
-        type(window, QString("txtLoadingShore(%1)").arg(i).toStdString().c_str(), "100");
+        type(window, QString("txtLoadingShip(%1)").arg(i).toStdString(), i == 5 ? "103" : "100.1");
+        type(window, QString("txtLoadingShore(%1)").arg(i).toStdString(), "100");
     }
     EXPECT_EQ(text(window, "lblFactor(0)"), "1.00100");
     EXPECT_EQ(text(window, "lblLoadingStanding(5)"), "gross error, out");

@@ -97,6 +97,7 @@ protected:
         ASSERT_EQ(texts.size(), 60u);
         const Rooms before = placesIn(window);
         std::vector<QString> were;
+        were.reserve(boxes.size());
         for (const EntryBox* box : boxes)
             were.push_back(box->text());
         for (std::size_t i = 0; i < boxes.size(); ++i) {
