@@ -11,7 +11,7 @@ namespace korvel
 
 /// The largest file of a route that is read: a plan of 500 rows with all that others add to it has
 /// a tenth of that.
-inline constexpr std::size_t mostRouteBytes = 8 * 1024 * 1024;
+inline constexpr std::size_t mostRouteBytes = std::size_t{8} * 1024 * 1024;
 
 /// Reads a route from the bytes of a file: RTZ, GPX or a list, told apart by what it begins with.
 ReadRoute readRoute(std::string_view bytes);

@@ -30,6 +30,7 @@ std::vector<RoundBody> bodiesAt(std::initializer_list<double> azimuths)
 std::vector<double> azimuthsOf(const std::vector<RoundBody>& round)
 {
     std::vector<double> azimuths;
+    azimuths.reserve(round.size());
     for (const RoundBody& body : round)
         azimuths.push_back(std::round(body.direction.azimuth.value()));
     return azimuths;

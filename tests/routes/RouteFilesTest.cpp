@@ -20,6 +20,7 @@
 #include <sys/stat.h>
 
 #include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -124,8 +125,8 @@ TEST(RouteFiles, hostileFilesAreRefusedAtOnce)
         std::filesystem::temp_directory_path() / ("routes " + std::to_string(getpid()));
     std::filesystem::create_directories(folder);
     mkfifo((folder / "pipe").c_str(), 0600);
-    std::ofstream(folder / "large");
-    std::filesystem::resize_file(folder / "large", 100 * 1000 * 1000);
+    std::ofstream(folder / "large") << "<";
+    std::filesystem::resize_file(folder / "large", std::uintmax_t{100} * 1000 * 1000);
     for (const auto& file : {std::filesystem::path("/dev/zero"), folder / "pipe", folder,
                              folder / "large", folder / "none"})
         EXPECT_NE(readRouteFile(file).fault, "") << file;
