@@ -111,9 +111,10 @@ add_fonts() {
     chmod 644 "$folder"/fonts/*
 }
 
-# add_licences  The terms of every Debian package that a file of the folder comes from.
+# add_licences  The terms of every Debian package that a file of the folder comes from, once where
+# packages of one source have the same.
 add_licences() {
-    local file package
+    local file package terms
     for file in "$folder"/lib/* $plugins; do
         case $file in /*) file=$system_libraries/${file##*/} ;; *) file=$toolkit_plugins/$file ;; esac
         dpkg -S "$file" 2>/dev/null || dpkg -S "$(realpath "$file")" 2>/dev/null ||
@@ -121,11 +122,20 @@ add_licences() {
     done | sed 's/:.*//' | sort -u >"$folder/licences/packages"
     printf '%s\n' fonts-vlgothic fonts-dejavu-core >>"$folder/licences/packages"
     while read -r package; do
-        cp -L "/usr/share/doc/$package/copyright" "$folder/licences/$package"
-        dpkg-query -W -f '${Package} ${Version} (source ${source:Package} ${source:Version})\n' \
+        terms=$(same_terms "/usr/share/doc/$package/copyright")
+        [ -n "$terms" ] || cp -L "/usr/share/doc/$package/copyright" "$folder/licences/$package"
+        dpkg-query -W -f "\${Package} \${Version} (source \${source:Package} \${source:Version})${terms:+, terms: $terms}\n" \
             "$package" | head -1
     done <"$folder/licences/packages" >"$folder/licences/versions"
     mv "$folder/licences/versions" "$folder/licences/packages"
     add_common_licences "$folder/licences"
     cp tools/package/linux/libraries.txt "$folder/licences/README"
+}
+
+# same_terms FILE  Name of the file of terms that holds the same; nothing where there is none.
+same_terms() {
+    local kept
+    for kept in "$folder"/licences/*; do
+        ! cmp -s "$1" "$kept" || { echo "${kept##*/}" && return; }
+    done
 }
