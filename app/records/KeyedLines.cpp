@@ -70,4 +70,21 @@ readKeyedLines(std::string_view file, std::string_view kind, const std::string& 
     return damage;
 }
 
+std::string readListedLines(std::string_view file, std::string_view kind, const std::string& what,
+                            std::string_view key,
+                            const std::function<bool(const std::string& value)>& take)
+{
+    if (!file.starts_with(kind)) return "line 1: these are no " + what;
+    const std::string head = std::string(key) + "=";
+    std::string damage;
+    int number = 0;
+    for (const std::string_view line : recordLines(file)) {
+        ++number;
+        if (!line.starts_with(head)) continue; // the first line, or of a later version
+        if (!take(unescapedLine(line.substr(head.size()))) && damage.empty())
+            damage = "line " + std::to_string(number);
+    }
+    return damage;
+}
+
 } // namespace korvel

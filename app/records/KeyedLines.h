@@ -30,4 +30,13 @@ std::string
 readKeyedLines(std::string_view file, std::string_view kind, const std::string& what,
                const std::function<void(std::string_view key, const std::string& value)>& take);
 
+/// Reads a file whose lines of one key are the things of a list; other lines are passed over.
+/// @param kind what the first line has to begin with
+/// @param what they are: "planned sights"
+/// @param take is given the value of each, and says whether it could be read and kept
+/// @return what could not be, for the officer; empty when all was
+std::string readListedLines(std::string_view file, std::string_view kind, const std::string& what,
+                            std::string_view key,
+                            const std::function<bool(const std::string& value)>& take);
+
 } // namespace korvel

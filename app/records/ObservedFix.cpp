@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr std::string_view fixesKind = "KORVEL2000 observed fixes ";
-constexpr std::string_view fixKey = "fix=";
+constexpr std::string_view fixKey = "fix";
 
 /// "time;latitude;longitude;kind;ellipse", the words without semicolons.
 std::string lineOfFix(const ObservedFix& fix)
@@ -67,26 +67,19 @@ std::string observedFixesText(const ObservedFixes& fixes)
     const std::size_t first =
         fixes.size() > mostObservedFixes ? fixes.size() - mostObservedFixes : 0;
     for (std::size_t i = first; i < fixes.size(); ++i)
-        addKeyedLine(text, "fix", lineOfFix(fixes[i]));
+        addKeyedLine(text, fixKey, lineOfFix(fixes[i]));
     return text;
 }
 
 ReadObservedFixes readObservedFixes(std::string_view bytes)
 {
     ReadObservedFixes read;
-    if (!bytes.starts_with(fixesKind)) {
-        read.damage = "line 1: these are no observed fixes";
-        return read;
-    }
-    int line = 0;
-    for (const std::string_view each : recordLines(bytes)) {
-        ++line;
-        if (!each.starts_with(fixKey)) continue; // the first line, or of a later version
-        if (const auto fix = fixOfLine(unescapedLine(each.substr(fixKey.size()))))
-            read.fixes.push_back(*fix);
-        else if (read.damage.empty())
-            read.damage = "line " + std::to_string(line);
-    }
+    read.damage =
+        readListedLines(bytes, fixesKind, "observed fixes", fixKey, [&](const std::string& line) {
+            const auto fix = fixOfLine(line);
+            if (fix) read.fixes.push_back(*fix);
+            return fix.has_value();
+        });
     return read;
 }
 

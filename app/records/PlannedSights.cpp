@@ -16,6 +16,7 @@ namespace
 using NavFunc113::Degrees;
 
 constexpr std::string_view plannedKind = "KORVEL2000 planned sights ";
+constexpr std::string_view sightKey = "sight";
 
 std::string figureIn(Degrees angle)
 {
@@ -63,7 +64,7 @@ std::string plannedSightsText(const PlannedSights& sights)
         line += figureIn(sight.azimuth);
         line += ';';
         line += sight.body;
-        addKeyedLine(text, "sight", line);
+        addKeyedLine(text, sightKey, line);
     }
     return text;
 }
@@ -71,21 +72,13 @@ std::string plannedSightsText(const PlannedSights& sights)
 ReadPlannedSights readPlannedSights(std::string_view bytes)
 {
     ReadPlannedSights read;
-    if (!bytes.starts_with(plannedKind)) {
-        read.damage = "line 1: these are no planned sights";
-        return read;
-    }
-    constexpr std::string_view key = "sight=";
-    int line = 0;
-    for (const std::string_view each : recordLines(bytes)) {
-        ++line;
-        if (!each.starts_with(key)) continue; // the first line, or of a later version
-        const auto sight = plannedSightOf(unescapedLine(each.substr(key.size())));
-        if (sight && read.sights.size() < mostPlannedSights)
-            read.sights.push_back(*sight);
-        else if (read.damage.empty())
-            read.damage = "line " + std::to_string(line);
-    }
+    read.damage = readListedLines(
+        bytes, plannedKind, "planned sights", sightKey, [&](const std::string& line) {
+            const auto sight = plannedSightOf(line);
+            const bool isKept = sight && read.sights.size() < mostPlannedSights;
+            if (isKept) read.sights.push_back(*sight);
+            return isKept;
+        });
     return read;
 }
 

@@ -17,7 +17,6 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -51,10 +50,7 @@ void frmCompass::addPages()
     m_pages->addPage("&Error", "cmdPage(0)", "Page of the compass error", area);
     const auto add = [this](QWidget* content, const char* caption, const char* name,
                             const char* words) {
-        auto* its = new FollowingScrollArea(content);
-        its->foldColumns();
-        body()->layout()->addWidget(its);
-        m_pages->addPage(caption, name, words, its);
+        addScrolledPage(*body(), *m_pages, content, caption, name, words);
     };
     add(m_lines, "B&ook", "cmdPage(1)", "Page of the book");
     add(m_deviation, "Dev&iation", "cmdPage(2)", "Page of the deviation");
@@ -68,13 +64,6 @@ std::vector<CatalogueEntry::Place> frmCompass::pagesToGoTo()
             {"Deviation curve and card", "cmdPage(2)"},
             {"Courses: true, gyro, compass", "cmdPage(3)"},
             {"Course to steer through a current", "cmdPage(3)"}};
-}
-
-void frmCompass::goTo(const QString& place)
-{
-    auto* page = findChild<QPushButton*>(place);
-    if (!page) return CalculatorWindow::goTo(place);
-    page->click();
 }
 
 void frmCompass::connectPages()

@@ -30,8 +30,6 @@ public:
 
     /// The pages by what they are looked for.
     static std::vector<CatalogueEntry::Place> pagesToGoTo();
-    /// @param place "cmdPage(1)": the page of that name; else as in every window
-    void goTo(const QString& place) override;
 
 protected:
     WorkingPaper paper() const override;

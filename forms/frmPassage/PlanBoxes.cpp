@@ -3,12 +3,11 @@
 
 #include "forms/frmPassage/PassageFields.h"
 #include "forms/frmPassage/PlanTable.h"
+#include "shell/controls/RowsView.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QRadioButton>
@@ -299,19 +298,12 @@ bool PlanBoxes::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     if (!isOfRow) return false;
-    if (key->matches(QKeySequence::Paste) &&
-        QApplication::clipboard()->text().trimmed().contains('\n')) {
+    if (pastesRows(*key)) {
         emit pasteWanted();
         return true;
     }
-    constexpr int page = 5;
-    const bool isPlain = !(key->modifiers() & ~Qt::KeypadModifier);
-    const int by = key->key() == Qt::Key_Up         ? -1
-                   : key->key() == Qt::Key_Down     ? 1
-                   : key->key() == Qt::Key_PageUp   ? -page
-                   : key->key() == Qt::Key_PageDown ? page
-                                                    : 0;
-    if (!isPlain || by == 0) return false;
+    const int by = rowsWanted(*key);
+    if (by == 0) return false;
     emit rowWanted(by);
     return true;
 }

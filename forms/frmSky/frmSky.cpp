@@ -12,13 +12,13 @@
 #include "forms/frmSky/pages/SkyDisc.h"
 #include "forms/frmSky/pages/StarsPage.h"
 #include "forms/frmSky/pages/UnknownPage.h"
+#include "shell/controls/PageParts.h"
 #include "shell/layout/FollowingScrollArea.h"
 #include "shell/layout/PageBar.h"
 #include "shell/machine/AsQString.h"
 
 #include <QAction>
 #include <QMenu>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <charconv>
@@ -65,10 +65,7 @@ void frmSky::addPages()
     m_pages->addPage("&Twilight", "cmdPage(0)", "Page of the ship and her day", area);
     const auto add = [this](QWidget* content, const char* caption, const char* name,
                             const char* words) {
-        auto* its = new FollowingScrollArea(content);
-        its->foldColumns();
-        body()->layout()->addWidget(its);
-        m_pages->addPage(caption, name, words, its);
+        addScrolledPage(*body(), *m_pages, content, caption, name, words);
     };
     add(m_stars, "&Stars", "cmdPage(1)", "Page of the stars");
     add(m_unknown, "&Unknown body", "cmdPage(2)", "Page of an unknown body");
@@ -82,13 +79,6 @@ std::vector<CatalogueEntry::Place> frmSky::pagesToGoTo()
             {"Stars, best round, disc of the sky", "cmdPage(1)"},
             {"Star finder: an unknown body", "cmdPage(2)"},
             {"Almanac pages", "cmdPage(3)"}};
-}
-
-void frmSky::goTo(const QString& place)
-{
-    auto* page = findChild<QPushButton*>(place);
-    if (!page) return CalculatorWindow::goTo(place);
-    page->click();
 }
 
 void frmSky::connectPages()

@@ -9,8 +9,6 @@
 #include "shell/machine/AsQString.h"
 #include "shell/program/Program.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
@@ -219,19 +217,12 @@ bool TankListPage::eventFilter(QObject* watched, QEvent* event)
         emit redoWanted();
         return true;
     }
-    if (key->matches(QKeySequence::Paste) &&
-        QApplication::clipboard()->text().trimmed().contains('\n')) {
+    if (pastesRows(*key)) {
         emit pasteWanted();
         return true;
     }
-    constexpr int page = 5;
-    const bool isPlain = !(key->modifiers() & ~Qt::KeypadModifier);
-    const int by = key->key() == Qt::Key_Up         ? -1
-                   : key->key() == Qt::Key_Down     ? 1
-                   : key->key() == Qt::Key_PageUp   ? -page
-                   : key->key() == Qt::Key_PageDown ? page
-                                                    : 0;
-    if (!isPlain || by == 0) return false;
+    const int by = rowsWanted(*key);
+    if (by == 0) return false;
     const auto to = static_cast<std::ptrdiff_t>(m_work.row(m_parts.kind)) + by;
     goToRow(static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, to)));
     return true;

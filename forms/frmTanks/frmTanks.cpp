@@ -6,13 +6,13 @@
 #include "forms/frmTanks/TankListPage.h"
 #include "forms/frmTanks/TankPaper.h"
 #include "forms/frmTanks/TankRecord.h"
+#include "shell/controls/PageParts.h"
 #include "shell/layout/FollowingScrollArea.h"
 #include "shell/layout/PageBar.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -139,10 +139,8 @@ void frmTanks::addPages()
     m_pages->addPage("&Tanks", "cmdTankPage(0)", "Page of the tanks", area);
     int index = 1;
     const auto add = [this, &index](QWidget* content, const char* caption, const char* words) {
-        auto* its = new FollowingScrollArea(content);
-        its->foldColumns();
-        body()->layout()->addWidget(its);
-        m_pages->addPage(caption, QString("cmdTankPage(%1)").arg(index++), words, its);
+        addScrolledPage(*body(), *m_pages, content, caption,
+                        QString("cmdTankPage(%1)").arg(index++), words);
     };
     m_totals = new TotalsPage(m_results);
     m_experience = new ExperiencePage(*m_binding, m_results);
@@ -158,13 +156,6 @@ std::vector<CatalogueEntry::Place> frmTanks::pagesToGoTo()
             {"Ship against bill of lading", "cmdTankPage(2)"},
             {"Bunkers on board", "cmdTankPage(3)"},
             {"Vessel experience factor", "cmdTankPage(4)"}};
-}
-
-void frmTanks::goTo(const QString& place)
-{
-    auto* page = findChild<QPushButton*>(place);
-    if (!page) return CalculatorWindow::goTo(place);
-    page->click();
 }
 
 void frmTanks::connectParts()

@@ -26,7 +26,6 @@ class frmTanks : public CalculatorWindow
 public:
     explicit frmTanks(Program& program);
 
-    void goTo(const QString& place) override;
     static std::vector<CatalogueEntry::Place> pagesToGoTo();
 
 protected:

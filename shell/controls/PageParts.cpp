@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/PageParts.h"
 
+#include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/PageBar.h"
 #include "shell/screen/WidgetColours.h"
 
 #include <QGridLayout>
@@ -21,6 +23,15 @@ QGridLayout* newGrid()
     grid->setHorizontalSpacing(pageGap / 3);
     grid->setVerticalSpacing(pageRowGap);
     return grid;
+}
+
+void addScrolledPage(QWidget& body, PageBar& bar, QWidget* content, const QString& caption,
+                     const QString& name, const QString& words)
+{
+    auto* area = new FollowingScrollArea(content);
+    area->foldColumns();
+    body.layout()->addWidget(area);
+    bar.addPage(caption, name, words, area);
 }
 
 QComboBox* makeList(QWidget* parent, const char* name, const char* words,

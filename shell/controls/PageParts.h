@@ -18,6 +18,8 @@ class QGridLayout;
 namespace korvel
 {
 
+class PageBar;
+
 /// Pixels between the columns of a page, between its groups, between rows.
 inline constexpr int pageGap = 24;
 inline constexpr int pageGroupGap = 16;
@@ -25,6 +27,11 @@ inline constexpr int pageRowGap = 4;
 
 /// A grid of captions and boxes or figures, without margins of its own.
 QGridLayout* newGrid();
+
+/// Adds a page that scrolls to a window's body and to its bar.
+/// @param name, words see PageBar::addPage
+void addScrolledPage(QWidget& body, PageBar& bar, QWidget* content, const QString& caption,
+                     const QString& name, const QString& words);
 
 /// What a page has the record keep, in its order.
 struct PageRecord {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/RowsView.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -184,6 +186,30 @@ QSize RowsView::sizeHint() const
 QSize RowsView::minimumSizeHint() const
 {
     return {sizeHint().width() / m_look.leastPart, heightFor(fewestRows)};
+}
+
+int rowsWanted(const QKeyEvent& key)
+{
+    constexpr int page = 5;
+    if (key.modifiers() & ~Qt::KeypadModifier) return 0;
+    switch (key.key()) {
+    case Qt::Key_Up:
+        return -1;
+    case Qt::Key_Down:
+        return 1;
+    case Qt::Key_PageUp:
+        return -page;
+    case Qt::Key_PageDown:
+        return page;
+    default:
+        return 0;
+    }
+}
+
+bool pastesRows(const QKeyEvent& key)
+{
+    return key.matches(QKeySequence::Paste) &&
+           QApplication::clipboard()->text().trimmed().contains('\n');
 }
 
 } // namespace korvel

@@ -64,4 +64,9 @@ private:
     bool m_isFollowing = false;
 };
 
+/// By how many rows a key pressed in a box of the row in hand wants to go; 0 for any other key.
+int rowsWanted(const QKeyEvent& key);
+/// Whether it pastes several lines, which belong to rows and into no box.
+bool pastesRows(const QKeyEvent& key);
+
 } // namespace korvel

@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace korvel
@@ -108,7 +109,10 @@ void CalculatorWindow::storeInMemo(const QString& figure)
 
 void CalculatorWindow::goTo(const QString& place)
 {
-    if (auto* control = findChild<QWidget*>(place)) control->setFocus(Qt::TabFocusReason);
+    if (auto* page = findChild<QPushButton*>(place))
+        page->click();
+    else if (auto* control = findChild<QWidget*>(place))
+        control->setFocus(Qt::TabFocusReason);
 }
 
 void CalculatorWindow::addPaperMenu()

@@ -39,7 +39,8 @@ public:
     /// @param caption title of the window
     CalculatorWindow(Program& program, const QString& name, const QString& caption);
 
-    /// Goes to a place of the catalogue: the control of this name, where the window knows no other.
+    /// Goes to a place of the catalogue: the page whose button has this name, or the control of the
+    /// name, where the window knows no other.
     virtual void goTo(const QString& place);
 
     /// The text of the notice line.
