@@ -13,6 +13,9 @@ namespace
 // What a place costs; a line through the words is read past, other words or a mark are not.
 constexpr double perLine = 10, perMark = 1000, perNearerMark = 5, perStep = 0.01;
 
+/// Pieces of a line that are looked at one by one only where their rectangle meets the words.
+constexpr qsizetype piecesTogether = 8;
+
 /// Beside a point: where the nearer edge of the words lies, -1 left or above, 1 right or below.
 constexpr std::array<std::pair<int, int>, 8> sides = {
     {{1, -1}, {1, 1}, {-1, -1}, {-1, 1}, {1, 0}, {-1, 0}, {0, -1}, {0, 1}}};
@@ -26,40 +29,69 @@ QRectF roomBeside(const QPointF& point, const QSizeF& words, std::pair<int, int>
     return room;
 }
 
-bool crosses(const QLineF& line, const QRectF& room)
+/// Edges that touch meet too, as they do for a line: a line across has a rectangle without height.
+bool meet(const QRectF& one, const QRectF& other)
 {
-    if (room.contains(line.p1()) || room.contains(line.p2())) return true;
-    const std::array<QPointF, 4> corners = {room.topLeft(), room.topRight(), room.bottomRight(),
-                                            room.bottomLeft()};
-    for (std::size_t i = 0; i < corners.size(); ++i)
-        if (QLineF(corners[i], corners[(i + 1) % corners.size()]).intersects(line, nullptr) ==
-            QLineF::BoundedIntersection)
-            return true;
-    return false;
+    return one.left() <= other.right() && other.left() <= one.right() &&
+           one.top() <= other.bottom() && other.top() <= one.bottom();
+}
+
+double distanceSquared(const QPointF& one, const QPointF& other)
+{
+    return QPointF::dotProduct(other - one, other - one);
+}
+
+/// Whether the straight piece enters the room: not all corners lie on one side of it.
+bool crosses(const QPointF& from, const QPointF& to, const QRectF& room)
+{
+    if (!meet(QRectF(from, to).normalized(), room)) return false;
+    const QPointF way = to - from;
+    const auto side = [&](const QPointF& corner) {
+        return way.x() * (corner.y() - from.y()) - way.y() * (corner.x() - from.x());
+    };
+    const auto [least, most] = std::minmax({side(room.topLeft()), side(room.topRight()),
+                                            side(room.bottomLeft()), side(room.bottomRight())});
+    return least <= 0 && most >= 0;
 }
 
 } // namespace
 
 void PlotLettering::keepOff(const QPolygonF& line)
 {
-    for (qsizetype i = 1; i < line.size(); ++i)
-        m_lines.emplace_back(line[i - 1], line[i]);
+    for (qsizetype i = 1; i < line.size(); i += piecesTogether) {
+        const QPolygonF part = line.mid(i - 1, piecesTogether + 1);
+        if (meet(part.boundingRect(), m_area)) m_lines.push_back({part.boundingRect(), part});
+    }
+}
+
+/// How often the line goes through the room of the words.
+int PlotLettering::crossings(const Line& line, const QRectF& room)
+{
+    if (!meet(line.around, room)) return 0;
+    int found = 0;
+    for (qsizetype i = 1; i < line.points.size(); ++i)
+        found += crosses(line.points[i - 1], line.points[i], room);
+    return found;
 }
 
 /// @param point that the words belong to
-double PlotLettering::trouble(const QRectF& room, const QPointF& point) const
+/// @param most a place that costs so much is out: the rest of its cost is not counted
+double PlotLettering::trouble(const QRectF& room, const QPointF& point, double most) const
 {
-    const auto inTheWay = [&room](const QRectF& mark) { return mark.intersects(room); };
-    const auto through = [&room](const QLineF& line) { return crosses(line, room); };
-    const double away = QLineF(room.center(), point).length();
-    const auto isNearer = [&](const QRectF& mark) {
-        return !mark.contains(point) && QLineF(room.center(), mark.center()).length() < away;
-    };
+    const auto inTheWay = [&room](const QRectF& mark) { return meet(mark, room); };
     const auto taken =
         std::ranges::count_if(m_marks, inTheWay) + std::ranges::count_if(m_words, inTheWay);
-    return perMark * static_cast<double>(taken) +
-           perLine * static_cast<double>(std::ranges::count_if(m_lines, through)) +
-           perNearerMark * static_cast<double>(std::ranges::count_if(m_marks, isNearer));
+    double cost = perMark * static_cast<double>(taken);
+    if (cost >= most) return cost;
+    const double away = distanceSquared(room.center(), point);
+    for (const QRectF& mark : m_marks)
+        if (!mark.contains(point) && distanceSquared(room.center(), mark.center()) < away)
+            cost += perNearerMark;
+    for (const Line& line : m_lines) {
+        if (cost >= most) break;
+        cost += perLine * crossings(line, room);
+    }
+    return cost;
 }
 
 QRectF PlotLettering::place(const QSizeF& words, const std::vector<QPointF>& points)
@@ -75,7 +107,9 @@ QRectF PlotLettering::place(const QSizeF& words, const std::vector<QPointF>& poi
                                          std::max(m_area.left(), m_area.right() - room.width())));
                 room.moveTop(std::clamp(room.top(), m_area.top(),
                                         std::max(m_area.top(), m_area.bottom() - room.height())));
-                const double cost = trouble(room, point) + perStep * step++;
+                const double late = perStep * step++;
+                if (late >= least) break; // no later one is better
+                const double cost = trouble(room, point, least - late) + late;
                 if (cost >= least) continue;
                 least = cost;
                 best = room;

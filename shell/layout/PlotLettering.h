@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLineF>
 #include <QPointF>
 #include <QPolygonF>
 #include <QRectF>
@@ -29,11 +28,18 @@ public:
     QRectF place(const QSizeF& words, const std::vector<QPointF>& points);
 
 private:
-    double trouble(const QRectF& room, const QPointF& point) const;
+    /// Some pieces of a line.
+    struct Line {
+        QRectF around;
+        QPolygonF points;
+    };
+
+    static int crossings(const Line& line, const QRectF& room);
+    double trouble(const QRectF& room, const QPointF& point, double most) const;
 
     QRectF m_area;
     double m_unit;
-    std::vector<QLineF> m_lines;
+    std::vector<Line> m_lines; ///< as far as the area shows them
     std::vector<QRectF> m_marks;
     std::vector<QRectF> m_words; ///< that have their place
 };

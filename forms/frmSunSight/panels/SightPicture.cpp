@@ -209,10 +209,12 @@ void SightPicture::keepOffMarks(PlotLettering& places) const
     places.keepOff(QPolygonF({scaleBar().p1(), scaleBar().p2()}));
 }
 
-/// Places along a line, that of the plot first, then what is nearest to the rim.
+/// Places along a line, that of the plot first, then what is nearest to the rim; the fewer the more
+/// lines there are, as few of a day's forty find a clear one anywhere.
 std::vector<QPointF> SightPicture::pointsFor(const PlotLine& line) const
 {
-    constexpr std::size_t most = 12;
+    constexpr std::size_t ofAll = 80, fewest = 2, mostOfOne = 12;
+    const std::size_t most = std::clamp(ofAll / m_plot.lines.size(), fewest, mostOfOne);
     std::vector<PlotPoint> seen;
     for (const std::vector<PlotPoint>& run : line.runs)
         std::ranges::copy_if(run, std::back_inserter(seen),
