@@ -103,7 +103,8 @@ CourseInput coursesOf(const Golden& row)
         if (box != courseBoxNames.end())
             input.txtCourses[static_cast<std::size_t>(box - courseBoxNames.begin())] = text;
         else if (name == "curve")
-            input.curve = NavFunc113::DeviationCoefficients{{}, Degrees(10), {}, {}, {}};
+            input.curve = NavFunc113::DeviationCoefficients{
+                {}, Degrees(text == "steep" ? 80 : 10), {}, {}, {}};
         else
             input.given = text == "gyro"      ? CourseGiven::GyroHead
                           : text == "compass" ? CourseGiven::CompassHead
