@@ -33,21 +33,31 @@ Degrees asItStands(DegMin lat)
     return Degrees(std::fabs(lat.packed()));
 }
 
-// The steps of InterpolateLagrange over a table whose nodes the compiler knows, so that it can
-// unroll them and work on several weights at once.
+/// Each factor over the distances of its node from the others: what of Lagrange's formula does not
+/// depend on the latitude.
 template <std::size_t n>
-double factorAt(Degrees lat, const std::array<FactorNode, n>& table)
+constexpr std::array<double, n> sharesOf(const std::array<FactorNode, n>& table)
 {
-    std::array<double, n> weights;
-    weights.fill(1);
-    for (std::size_t i = 0; i < n; ++i)
-        for (std::size_t j = 0; j < n; ++j)
-            if (i != j)
-                weights[j] =
-                    weights[j] * (lat.value() - table[i].lat) / (table[j].lat - table[i].lat);
-    double sum = 0;
-    for (std::size_t j = 0; j < n; ++j)
-        sum += table[j].factor * weights[j];
+    std::array<double, n> shares{};
+    for (std::size_t j = 0; j < n; ++j) {
+        shares[j] = table[j].factor;
+        for (std::size_t i = 0; i < n; ++i)
+            if (i != j) shares[j] /= table[j].lat - table[i].lat;
+    }
+    return shares;
+}
+
+/// InterpolateLagrange over a table that the compiler knows, node by node and without a division.
+template <const auto& table>
+double factorAt(Degrees lat)
+{
+    static constexpr auto shares = sharesOf(table);
+    double sum = 0, product = 1;
+    for (std::size_t j = 0; j < shares.size(); ++j) {
+        const double away = lat.value() - table[j].lat;
+        sum = sum * away + shares[j] * product;
+        product *= away;
+    }
     if (!std::isfinite(sum)) throw ArithmeticError(ArithmeticError::Condition::Overflow);
     return sum;
 }
@@ -156,12 +166,12 @@ double MeridionalParts(Degrees lat)
 
 double LatitudeFactor(Degrees lat)
 {
-    return factorAt(lat, latitudeFactors);
+    return factorAt<latitudeFactors>(lat);
 }
 
 double ParallelFactor(Degrees lat)
 {
-    return factorAt(lat, parallelFactors);
+    return factorAt<parallelFactors>(lat);
 }
 
 std::span<const FactorNode> LatitudeFactorTable()
@@ -255,7 +265,7 @@ LongitudeRun RunInLongitude(DegMin lat1, DegMin long1, Degrees course, Miles dis
         steps.alongParallel = true;
         steps.change = ArcOfMiles(Quotient(run, cos(phi1)));
         if (earth == Earth::Spheroid) {
-            steps.factor = factorAt(asItStands(lat1), runFactors);
+            steps.factor = factorAt<runFactors>(asItStands(lat1));
             steps.change = Quotient(steps.change, steps.factor);
         }
     } else {
