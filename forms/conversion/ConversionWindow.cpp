@@ -13,6 +13,7 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <array>
 
 namespace korvel
 {
@@ -41,7 +42,56 @@ QString numbered(std::size_t index, const NavFunc113::Unit& unit)
 
 } // namespace
 
-ConversionWindow::ConversionWindow(Program& program, const ConversionKind& kind)
+/// What one conversion window has of its own.
+struct ConversionWindow::Kind {
+    const char* name;              ///< class name of the window
+    const char* caption;           ///< its title
+    const char* file;              ///< its settings file
+    const char* box;               ///< name of its control array
+    NavFunc113::Quantity quantity; ///< its unit table
+    /// What a record of lines with keys begins with; empty: a settings record.
+    const char* record = "";
+    ConditionFields conditions = {};
+};
+
+const ConversionWindow::Kind& ConversionWindow::kindOf(Quantity quantity)
+{
+    static constexpr std::array kinds{
+        Kind{"frmArea", "Area", "KV_Area.ini", "txtArea", Quantity::Area},
+        Kind{"frmLength", "Length", "KV_Length.ini", "txtLength", Quantity::Length},
+        Kind{"frmVolume", "Volume", "KV_Volume.ini", "txtVolume", Quantity::Volume},
+        Kind{"frmPressure", "Pressure", "KV_Pressure.ini", "txtPressure", Quantity::Pressure},
+        Kind{"frmWeight", "Weight", "KV_Weight.ini", "txtWeight", Quantity::Weight},
+        Kind{"frmTemperature", "Temperature", "KV_Temperature.ini", "txtTemperature",
+             Quantity::Temperature, "KORVEL2000 temperature "},
+        Kind{"frmSpeed", "Speed", "KV_Speed.ini", "txtSpeed", Quantity::Speed, "KORVEL2000 speed "},
+        Kind{"frmDensity", "Density", "KV_Density.ini", "txtDensity", Quantity::Density,
+             "KORVEL2000 density "},
+        Kind{"frmFlow",
+             "Flow and consumption",
+             "KV_Flow.ini",
+             "txtFlow",
+             Quantity::Flow,
+             "KORVEL2000 flow and consumption ",
+             {flowConditions, flowNeeds}},
+        Kind{"frmEnergy",
+             "Energy and power",
+             "KV_Energy.ini",
+             "txtEnergy",
+             Quantity::Energy,
+             "KORVEL2000 energy and power ",
+             {energyConditions, energyNeeds}},
+        Kind{"frmAngle", "Angle and time", "KV_Angle.ini", "txtAngle", Quantity::Angle,
+             "KORVEL2000 angle and time "}};
+    return *std::ranges::find(kinds, quantity, &Kind::quantity);
+}
+
+ConversionWindow::ConversionWindow(Program& program, Quantity quantity)
+    : ConversionWindow(program, kindOf(quantity))
+{
+}
+
+ConversionWindow::ConversionWindow(Program& program, const Kind& kind)
     : CalculatorWindow(program, kind.name, kind.caption), m_quantity(kind.quantity),
       m_needs(kind.conditions), m_conditions(addFields(kind.conditions.fields)),
       m_focus([this](QWidget* now) { focusMoved(now); })
@@ -205,7 +255,7 @@ void ConversionWindow::useConversionSettings(const char* file)
     record().use(file, std::move(kinds), save, load);
 }
 
-void ConversionWindow::useConversionLines(const ConversionKind& kind)
+void ConversionWindow::useConversionLines(const Kind& kind)
 {
     const auto save = [this, begin = std::string(kind.record)] {
         std::string text = begin;
@@ -288,101 +338,6 @@ void ConversionWindow::clearBoxes()
 {
     m_boxes[m_lead]->clear();
     m_boxes[m_lead]->setFocus();
-}
-
-frmArea::frmArea(Program& program)
-    : ConversionWindow(program, {"frmArea", "Area", "KV_Area.ini", "txtArea", Quantity::Area})
-{
-}
-
-frmLength::frmLength(Program& program)
-    : ConversionWindow(program,
-                       {"frmLength", "Length", "KV_Length.ini", "txtLength", Quantity::Length})
-{
-}
-
-frmVolume::frmVolume(Program& program)
-    : ConversionWindow(program,
-                       {"frmVolume", "Volume", "KV_Volume.ini", "txtVolume", Quantity::Volume})
-{
-}
-
-frmPressure::frmPressure(Program& program)
-    : ConversionWindow(program, {"frmPressure", "Pressure", "KV_Pressure.ini", "txtPressure",
-                                 Quantity::Pressure})
-{
-}
-
-frmWeight::frmWeight(Program& program)
-    : ConversionWindow(program,
-                       {"frmWeight", "Weight", "KV_Weight.ini", "txtWeight", Quantity::Weight})
-{
-}
-
-frmTemperature::frmTemperature(Program& program)
-    : ConversionWindow(program, {"frmTemperature",
-                                 "Temperature",
-                                 "KV_Temperature.ini",
-                                 "txtTemperature",
-                                 Quantity::Temperature,
-                                 {},
-                                 "KORVEL2000 temperature "})
-{
-}
-
-frmSpeed::frmSpeed(Program& program)
-    : ConversionWindow(program, {"frmSpeed",
-                                 "Speed",
-                                 "KV_Speed.ini",
-                                 "txtSpeed",
-                                 Quantity::Speed,
-                                 {},
-                                 "KORVEL2000 speed "})
-{
-}
-
-frmDensity::frmDensity(Program& program)
-    : ConversionWindow(program, {"frmDensity",
-                                 "Density",
-                                 "KV_Density.ini",
-                                 "txtDensity",
-                                 Quantity::Density,
-                                 {},
-                                 "KORVEL2000 density "})
-{
-}
-
-frmFlow::frmFlow(Program& program)
-    : ConversionWindow(program, {"frmFlow",
-                                 "Flow and consumption",
-                                 "KV_Flow.ini",
-                                 "txtFlow",
-                                 Quantity::Flow,
-                                 {flowConditions, flowNeeds},
-                                 "KORVEL2000 flow and consumption "})
-{
-}
-
-frmEnergy::frmEnergy(Program& program)
-    : ConversionWindow(program, {"frmEnergy",
-                                 "Energy and power",
-                                 "KV_Energy.ini",
-                                 "txtEnergy",
-                                 Quantity::Energy,
-                                 {energyConditions, energyNeeds},
-                                 "KORVEL2000 energy and power "})
-{
-}
-
-frmAngle::frmAngle(Program& program)
-    : ConversionWindow(program, {"frmAngle",
-                                 "Angle and time",
-                                 "KV_Angle.ini",
-                                 "txtAngle",
-                                 Quantity::Angle,
-                                 {},
-                                 "KORVEL2000 angle and time "})
-{
 }
 
 } // namespace korvel

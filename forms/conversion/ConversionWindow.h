@@ -12,18 +12,6 @@ class QGridLayout;
 namespace korvel
 {
 
-/// What one conversion window has of its own.
-struct ConversionKind {
-    const char* name;              ///< class name of the window
-    const char* caption;           ///< its title
-    const char* file;              ///< its settings file
-    const char* box;               ///< name of its control array
-    NavFunc113::Quantity quantity; ///< its unit table
-    ConditionFields conditions = {};
-    /// What a record of lines with keys begins with; empty: a settings record.
-    const char* record = "";
-};
-
 /// A box a unit; whichever is typed in leads the others, at every key released.
 ///
 /// Record of the settings file: the texts of the boxes in the order of the unit table, then the
@@ -32,19 +20,23 @@ struct ConversionKind {
 class ConversionWindow : public CalculatorWindow
 {
 public:
-    ConversionWindow(Program& program, const ConversionKind& kind);
+    ConversionWindow(Program& program, NavFunc113::Quantity quantity);
 
 protected:
     WorkingPaper paper() const override;
     void applyColours() override;
 
 private:
+    struct Kind;
+    static const Kind& kindOf(NavFunc113::Quantity quantity);
+    ConversionWindow(Program& program, const Kind& kind);
+
     void addBoxes(const char* name);
     void addCalculation();
     void layOut();
     void addMenus();
     void useConversionSettings(const char* file);
-    void useConversionLines(const ConversionKind& kind);
+    void useConversionLines(const Kind& kind);
     void addConditions(QGridLayout& grid);
     NavFunc113::UnitConditions conditions(Remarks& remarks) const;
     NavFunc113::UnitConditions conditions() const;
@@ -68,67 +60,83 @@ private:
 class frmArea : public ConversionWindow
 {
 public:
-    explicit frmArea(Program& program);
+    explicit frmArea(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Area) {}
 };
 
 class frmLength : public ConversionWindow
 {
 public:
-    explicit frmLength(Program& program);
+    explicit frmLength(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Length)
+    {
+    }
 };
 
 class frmVolume : public ConversionWindow
 {
 public:
-    explicit frmVolume(Program& program);
+    explicit frmVolume(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Volume)
+    {
+    }
 };
 
 class frmPressure : public ConversionWindow
 {
 public:
-    explicit frmPressure(Program& program);
+    explicit frmPressure(Program& program)
+        : ConversionWindow(program, NavFunc113::Quantity::Pressure)
+    {
+    }
 };
 
 class frmWeight : public ConversionWindow
 {
 public:
-    explicit frmWeight(Program& program);
+    explicit frmWeight(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Weight)
+    {
+    }
 };
 
 class frmTemperature : public ConversionWindow
 {
 public:
-    explicit frmTemperature(Program& program);
+    explicit frmTemperature(Program& program)
+        : ConversionWindow(program, NavFunc113::Quantity::Temperature)
+    {
+    }
 };
 
 class frmSpeed : public ConversionWindow
 {
 public:
-    explicit frmSpeed(Program& program);
+    explicit frmSpeed(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Speed) {}
 };
 
 class frmDensity : public ConversionWindow
 {
 public:
-    explicit frmDensity(Program& program);
+    explicit frmDensity(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Density)
+    {
+    }
 };
 
 class frmFlow : public ConversionWindow
 {
 public:
-    explicit frmFlow(Program& program);
+    explicit frmFlow(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Flow) {}
 };
 
 class frmEnergy : public ConversionWindow
 {
 public:
-    explicit frmEnergy(Program& program);
+    explicit frmEnergy(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Energy)
+    {
+    }
 };
 
 class frmAngle : public ConversionWindow
 {
 public:
-    explicit frmAngle(Program& program);
+    explicit frmAngle(Program& program) : ConversionWindow(program, NavFunc113::Quantity::Angle) {}
 };
 
 } // namespace korvel
