@@ -220,9 +220,9 @@ void frmPassage::paste()
         return tellRefused("The rows were not taken",
                            "a plan has " + std::to_string(mostPlanRows) + " at most");
     refresh();
-    sayForAWhile(QString("%1 rows pasted. %2")
-                     .arg(rows.plan.rows.size())
-                     .arg(asQString(joined(rows.remarks))));
+    rows.remarks.insert(rows.remarks.begin(),
+                        std::to_string(rows.plan.rows.size()) + " rows pasted");
+    sayForAWhile(asQString(joined(rows.remarks)));
 }
 
 void frmPassage::openFile()

@@ -94,17 +94,23 @@ void NoticeLine::join()
     m_lasting.clear();
     m_level.reset();
     m_key.clear();
+    QString meant; // what the key writes
     for (const NoticeLevel level : {NoticeLevel::Fault, NoticeLevel::Remark, NoticeLevel::Done})
         for (const auto& [key, said] : m_said) {
             if (said.level != level) continue;
             m_level = std::max(m_level.value_or(level), level);
-            if (said.hasKey) m_key = "  F4 writes it.";
+            if (said.hasKey) {
+                m_key = "  F4 writes it.";
+                meant = said.essence;
+            }
             if (isSaidElsewhere(said)) continue;
             all << said.text;
             if (!key.contains('~')) m_lasting << said.text;
         }
     m_first = all.value(0);
     setText(all.join("  "));
+    const qsizetype at = text().indexOf(meant);
+    m_shown = text().insert(at < 0 ? text().size() : at + meant.size(), m_key);
     setToolTip(this->text());
     setAccessibleDescription(m_level ? noticeWord(*m_level) + m_key : QString());
     setTextColour(this, colour());
@@ -135,7 +141,7 @@ void NoticeLine::paintEvent(QPaintEvent* event)
     }
     drawNoticeSign(painter, sign, m_level);
     painter.drawText(room, static_cast<int>(alignment()),
-                     shownLines(text() + m_key, font(), room.size()).lines.join('\n'));
+                     shownLines(m_shown, font(), room.size()).lines.join('\n'));
 }
 
 } // namespace korvel

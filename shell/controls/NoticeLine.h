@@ -76,7 +76,8 @@ private:
     std::optional<NoticeLevel> m_level;
     QString m_first;
     QStringList m_lasting;
-    QString m_key; ///< behind the text on the screen
+    QString m_key;   ///< what it is said to do
+    QString m_shown; ///< the text on the screen, the key behind what it writes
     FocusFollower m_focus;
 };
 
