@@ -45,6 +45,8 @@ void SheetInHand::goToRow(ListKind kind, std::size_t row)
 
 void SheetInHand::goToSurvey(ListKind kind, TankSurvey survey)
 {
+    // Behind the last tank the next one was wanted; of another survey the first is.
+    if (survey != at(kind).survey && row(kind) >= list(kind).rows.size()) at(kind).row = 0;
     at(kind).survey = survey;
     endTyping();
 }

@@ -69,6 +69,7 @@ GradesPage::GradesPage(SheetInHand& work, SheetBinding& binding, const FieldBoxe
         row->addWidget(fields[field]);
     }
     row->addStretch();
+    fields[BunkerTimes - 1]->setNext(m_table->boxes().front()); // not the next page's
     column->addWidget(head);
     column->addWidget(sectionHead("Grades and bill of lading, or outturn"));
     addTable(*column, *m_table);

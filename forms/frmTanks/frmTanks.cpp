@@ -119,6 +119,7 @@ QWidget* frmTanks::layOutBunkers()
         row->addWidget(m_fields[i]);
     }
     row->addStretch();
+    m_fields.all().back()->setNext(m_bunkers->box(TankNameBox));
     column->addWidget(fuels);
     column->addWidget(m_bunkers, 1);
     column->addWidget(sectionHead("Parcels, and what was received"));

@@ -191,7 +191,11 @@ QSize RowsView::minimumSizeHint() const
 int rowsWanted(const QKeyEvent& key)
 {
     constexpr int page = 5;
-    if (key.modifiers() & ~Qt::KeypadModifier) return 0;
+    constexpr int all = 100000; // more than any list has
+    const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier)
+        return key.key() == Qt::Key_Home ? -all : key.key() == Qt::Key_End ? all : 0;
+    if (modifiers) return 0;
     switch (key.key()) {
     case Qt::Key_Up:
         return -1;

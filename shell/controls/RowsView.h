@@ -64,7 +64,8 @@ private:
     bool m_isFollowing = false;
 };
 
-/// By how many rows a key pressed in a box of the row in hand wants to go; 0 for any other key.
+/// By how many rows a key pressed in a box of the row in hand wants to go, beyond the ends of any
+/// list with Ctrl+Home and Ctrl+End; 0 for any other key.
 int rowsWanted(const QKeyEvent& key);
 /// Whether it pastes several lines, which belong to rows and into no box.
 bool pastesRows(const QKeyEvent& key);
