@@ -106,6 +106,7 @@ TideActions frmTIDE::actions()
         .printWeek = reported(std::mem_fn(&TideReports::printWeek)),
         .saveMonth = reported(std::mem_fn(&TideReports::saveMonth)),
         .drawAll = [this](bool isWanted) { drawAll(isWanted); },
+        .openKeel = [this] { openKeel(); },
     };
 }
 
@@ -150,6 +151,14 @@ void frmTIDE::findStation(const std::string& typed)
     if (!reason.isEmpty()) return setNotice(findKey, asQString(first.place) + ": " + reason);
     choose(first);
     setNotice(findKey, asQString(answer.notice), NoticeLevel::Done);
+}
+
+/// The hours of the station when a ship has water enough.
+void frmTIDE::openKeel()
+{
+    if (m_choice.lblPlace.empty() || !m_choice.TideMode)
+        return setNotice(findKey, "Under-keel clearance: choose a tide station first");
+    program().openWindowAt("frmUKC", "station " + asQString(m_choice.lblPlace));
 }
 
 std::int64_t frmTIDE::today()

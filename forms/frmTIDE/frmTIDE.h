@@ -51,6 +51,7 @@ private:
 
     void choose(const StationChoice& station);
     void findStation(const std::string& typed);
+    void openKeel();
     void askDate();
     void chooseDate(std::int64_t date);
     void stepTo(std::int64_t date);

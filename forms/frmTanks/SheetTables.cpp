@@ -226,6 +226,19 @@ void VoyagesTable::show(const ExperienceShown& shown)
         showRow(row, loadingTable, shown.lines[row]);
 }
 
+namespace
+{
+
+/// Grades that there are, and the ship; one row at least, which tells what belongs there.
+template <typename Rows>
+void showRowsOfGrades(RowTable& table, const Rows& shown)
+{
+    for (std::size_t row = 1; row < gradeCount; ++row)
+        table.setRowSeen(row, !shown[row].name.empty());
+}
+
+} // namespace
+
 TotalsTable::TotalsTable() : RowTable(totalsColumns, gradeCount + 1)
 {
     number(gradeCount)->clear(); // the ship's is no grade
@@ -235,6 +248,7 @@ void TotalsTable::show(const std::array<TotalsRow, gradeCount + 1>& shown)
 {
     for (std::size_t row = 0; row < shown.size(); ++row)
         showRow(row, totalsTable, shown[row]);
+    showRowsOfGrades(*this, shown);
 }
 
 CompareTable::CompareTable() : RowTable(compareColumns, gradeCount + 1)
@@ -246,6 +260,7 @@ void CompareTable::show(const std::array<CompareRow, gradeCount + 1>& shown)
 {
     for (std::size_t row = 0; row < shown.size(); ++row)
         showRow(row, compareTable, shown[row]);
+    showRowsOfGrades(*this, shown);
 }
 
 } // namespace korvel

@@ -112,7 +112,8 @@ void frmUKC::giveRoom()
         const bool isNote = UKCResults[i].weight == Weight::Remark;
         label->setAlignment((isNote || i >= UKCShown::Hours ? Qt::AlignLeft : Qt::AlignRight) |
                             Qt::AlignVCenter);
-        label->setRoom(isNote ? "Mina Saud 20:38, all constituents"
+        label->setRoom(i == UKCShown::FromTide ? "Port Rashid 20:38, lowest, all constituents"
+                       : isNote                ? "blockage 0.000, at the stern"
                        : i >= UKCShown::Hours
                            ? "Wed 8/04   ~00:00 to ~00:00, ~00:00 to ~00:00, ~00:00 ~"
                            : "-000.00");
@@ -207,7 +208,8 @@ QWidget* frmUKC::layOutColumn()
     addSum(*grid, Dynamic);
     grid->setRowMinimumHeight(grid->rowCount(), fontMetrics().height() / 2);
     addLine(*grid, UKCShown::Charted);
-    addLine(*grid, UKCShown::Tide, m_results[FromTide]);
+    addLine(*grid, UKCShown::Tide);
+    grid->addWidget(m_results[FromTide], grid->rowCount(), 0, 1, 4);
     addLine(*grid, Uncertainty);
     addSum(*grid, Depth);
     grid->setRowMinimumHeight(grid->rowCount(), fontMetrics().height() / 2);
@@ -245,6 +247,15 @@ void frmUKC::addMenus()
     menus().addRecallSingle("into &tide", m_boxes[Tide]);
     menus().addShipNow(WindowMenus::ShipFigure::Speed, "into speed", m_boxes[Speed]);
     menus().addLinks("mnuLinks");
+}
+
+void frmUKC::goTo(const QString& place)
+{
+    const QString station = "station ";
+    if (!place.startsWith(station)) return CalculatorWindow::goTo(place);
+    m_boxes[Station]->setText(place.mid(station.size()));
+    // What the ship is comes first where nothing is typed of her yet.
+    m_boxes[m_boxes[Forward]->value().empty() ? Forward : Time]->setFocus(Qt::TabFocusReason);
 }
 
 /// As the tide window last wrote it.

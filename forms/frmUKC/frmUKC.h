@@ -22,6 +22,9 @@ class frmUKC : public CalculatorWindow
 public:
     explicit frmUKC(Program& program);
 
+    /// "station Yokohama" chooses that station; any other place is a control's name.
+    void goTo(const QString& place) override;
+
 protected:
     WorkingPaper paper() const override;
     std::vector<PaperPicture> paperPictures() override;

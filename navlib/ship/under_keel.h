@@ -27,7 +27,7 @@ enum class SquatFormula {
 };
 
 /// Greatest squat by a short formula of Barrass.
-/// @param block block coefficient; the formulas were drawn from 0.5 to 0.9
+/// @param block block coefficient, 0.5 to 0.9 by the ranges usually quoted
 /// @param speed through the water, 0 or more; to about 20 knots
 /// @return metres; at the bow where block is above 0.7, at the stern where it is below
 ///

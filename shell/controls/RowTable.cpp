@@ -269,6 +269,11 @@ QLabel* RowTable::number(std::size_t row) const
     return static_cast<QLabel*>(m_lines.at(row).front());
 }
 
+void RowTable::setRowSeen(std::size_t row, bool isSeen)
+{
+    number(row)->parentWidget()->setVisible(isSeen);
+}
+
 std::vector<EntryBox*> RowTable::boxesOfRow(std::size_t row) const
 {
     std::vector<EntryBox*> all;
@@ -338,8 +343,10 @@ bool RowTable::eventFilter(QObject* watched, QEvent* event)
     auto* control = qobject_cast<QWidget*>(watched);
     const auto row = event->type() == QEvent::KeyPress ? rowOf(control) : std::nullopt;
     if (!row) return QWidget::eventFilter(watched, event);
-    const auto wanted = rowByKey(*static_cast<QKeyEvent*>(event), *row);
+    auto wanted = rowByKey(*static_cast<QKeyEvent*>(event), *row);
     if (!wanted) return QWidget::eventFilter(watched, event);
+    while (number(*wanted)->parentWidget()->isHidden() && *wanted + 1 < rows() && *wanted > 0)
+        *wanted = *wanted > *row ? *wanted + 1 : *wanted - 1;
     const auto column = std::ranges::find(m_lines[*row], control) - m_lines[*row].begin();
     QWidget* there = m_lines[*wanted][static_cast<std::size_t>(column)];
     // A blank result takes no focus.

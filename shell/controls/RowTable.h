@@ -84,6 +84,8 @@ public:
     PositionBox* position(std::size_t row, std::size_t column) const;
     ResultLabel* result(std::size_t row, std::size_t column) const;
     QLabel* number(std::size_t row) const;
+    /// Rows that have nothing to tell leave no room behind. Those of boxes stay.
+    void setRowSeen(std::size_t row, bool isSeen);
 
     /// The boxes row by row, in their Enter order.
     std::vector<EntryBox*> boxes() const;

@@ -35,6 +35,7 @@ CalculatorWindows::CalculatorWindows(Program& program, WindowCatalogue catalogue
     for (const CatalogueEntry& entry : m_catalogue)
         m_program.links.push_back({entry.name, entry.caption});
     connect(&m_program, &Program::windowWanted, this, &CalculatorWindows::open);
+    connect(&m_program, &Program::placeWanted, this, &CalculatorWindows::openAt);
     connect(&m_program, &Program::windowClosed, this, &CalculatorWindows::forget);
 }
 

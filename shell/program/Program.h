@@ -91,6 +91,8 @@ public:
 
     /// Opens a window by its name, as its menu entry does.
     void openWindow(const QString& name) { emit windowWanted(name); }
+    /// The same at a place, as CalculatorWindow::goTo() takes it.
+    void openWindowAt(const QString& name, const QString& place) { emit placeWanted(name, place); }
     /// Gives the keyboard to the open window after this one, the main window among them.
     void nextWindow(const QWidget& from) { emit nextWanted(&from); }
     /// Asks the officer where to go.
@@ -132,6 +134,7 @@ signals:
     /// The clocks show another minute.
     void minuteChanged();
     void windowWanted(const QString& name);
+    void placeWanted(const QString& name, const QString& place);
     void nextWanted(const QWidget* from);
     void goToWanted(QWidget* from);
     /// A calculator window closed; its menu entry is unticked.

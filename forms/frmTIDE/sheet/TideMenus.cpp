@@ -71,6 +71,8 @@ void TideMenus::addDays(bool drawsAll)
     all->setCheckable(true);
     all->setChecked(drawsAll);
     QObject::connect(all, &QAction::toggled, all, m_do.drawAll);
+    days->addSeparator();
+    m_menus.addEntry(days, "mnuDay", 5, "Under-&keel clearance here", m_do.openKeel);
 }
 
 } // namespace korvel

@@ -26,6 +26,7 @@ struct TideActions {
     std::function<void()> printWeek;
     std::function<void()> saveMonth;
     std::function<void(bool)> drawAll;
+    std::function<void()> openKeel;
 };
 
 /// The menus of the tide window, from left to right.
