@@ -40,19 +40,29 @@ const TableName* tableOf(const std::string& typed)
     return found == tableNames.end() ? nullptr : &*found;
 }
 
+/// As readIfTyped(), but what is half typed is a fault: nothing would be taken for none.
+std::optional<double> readWhole(const std::string& text, const NumberField& field, Remarks& remarks)
+{
+    const std::size_t faults = remarks.faults.size();
+    const auto value = readIfTyped(text, field, remarks);
+    if (!value && !isBlank(text) && remarks.faults.size() == faults)
+        remarks.fault(std::string(field.name) + ": half typed");
+    return value;
+}
+
 void readOil(const GradeBoxes& boxes, const TankChoices& choices, ReadGrade& grade)
 {
     const bool isGravity = grade.table->isAt60F;
     const std::string what = grade.name + (isGravity ? ", API" : ", density");
-    const auto density = readIfTyped(boxes.density,
-                                     isGravity ? NumberField{what, -20, 130, "API at 60 °F"}
-                                               : NumberField{what, 400, 1300, "kg/m³ at 15 °C"},
-                                     grade.remarks);
+    const auto density = readWhole(boxes.density,
+                                   isGravity ? NumberField{what, -20, 130, "API at 60 °F"}
+                                             : NumberField{what, 400, 1300, "kg/m³ at 15 °C"},
+                                   grade.remarks);
     std::optional<double> coefficient;
     if (grade.table->table == OilTable::Own) {
         coefficient =
-            readIfTyped(boxes.coefficient, {grade.name + ", coefficient", 0.0001, 0.005, "per °C"},
-                        grade.remarks);
+            readWhole(boxes.coefficient, {grade.name + ", coefficient", 0.0001, 0.005, "per °C"},
+                      grade.remarks);
         if (!coefficient && isBlank(boxes.coefficient))
             grade.remarks.fault(grade.name + ": table 54C needs the coefficient of expansion");
     }
@@ -162,8 +172,8 @@ private:
     void readBoxes()
     {
         const char* unit = unitOf(m_choices.volume);
-        m_volume = readIfTyped(m_reading.volume, {"volume", 0, 1e7, unit}, m_remarks);
-        m_water = readIfTyped(m_reading.water, {"free water", 0, 1e7, unit}, m_remarks).value_or(0);
+        m_volume = readWhole(m_reading.volume, {"volume", 0, 1e7, unit}, m_remarks);
+        m_water = readWhole(m_reading.water, {"free water", 0, 1e7, unit}, m_remarks).value_or(0);
         const bool inF = m_choices.temperature == TankTemperatureUnit::Fahrenheit;
         m_typedTemperature = readIfTyped(
             m_reading.temperature,
@@ -250,7 +260,7 @@ ReadGrade readGrade(const GradeBoxes& boxes, std::size_t number, ListKind kind,
         grade.remarks.fault(grade.name + ", table: one of 54A, 54B, 54C, 54D, 6A, 6B, 6D");
     const auto read = [&](const std::string& box, const char* what, double high,
                           std::string_view unit) {
-        return readIfTyped(box, {grade.name + ", " + what, 0, high, unit}, grade.remarks);
+        return readWhole(box, {grade.name + ", " + what, 0, high, unit}, grade.remarks);
     };
     grade.sediment = read(boxes.sediment, "sediment and water", 100, "per cent").value_or(0) / 100;
     grade.billVolume = read(boxes.billVolume, "bill of lading in m³", 1e7, "m³");
@@ -258,7 +268,7 @@ ReadGrade readGrade(const GradeBoxes& boxes, std::size_t number, ListKind kind,
     grade.billWeight = read(boxes.billWeight, "bill of lading in tons", 1e7, "t");
     grade.received = read(boxes.received, "received", 1e6, "t");
     const auto fuel =
-        readIfTyped(boxes.fuel, {grade.name + ", fuel", 1, fuelCount, ""}, grade.remarks);
+        readWhole(boxes.fuel, {grade.name + ", fuel", 1, fuelCount, ""}, grade.remarks);
     if (fuel && *fuel != double(std::size_t(*fuel)))
         grade.remarks.fault(grade.name + ", fuel: 1, 2 or 3");
     else if (fuel)

@@ -70,22 +70,6 @@ PaperTable totalsTable(const TankReckoning& reckoning, TotalsOf what, const std:
     return table;
 }
 
-PaperTable billTable(const TankReckoning& reckoning, bool isLoading)
-{
-    PaperTable table{isLoading ? "Ship against bill of lading" : "Ship against outturn",
-                     {"Grade", "Measure", "Ship", isLoading ? "Bill of lading" : "Outturn",
-                      "Difference", "Per cent"},
-                     {}};
-    constexpr std::array names{"m³ at 15 °C", "bbl at 60 °F", "t in air"};
-    for (const CompareRow& row : compareRows(reckoning))
-        for (std::size_t i = 0; i < names.size(); ++i)
-            if (!row.measures[i].bill.empty())
-                table.rows.push_back({row.name, names[i], row.measures[i].ship,
-                                      row.measures[i].bill, row.measures[i].difference,
-                                      row.measures[i].percent});
-    return table;
-}
-
 void addHead(WorkingPaper& paper, const SheetInHand& work, const TanksShown& shown, ListKind kind)
 {
     paper.inputs.clear();
@@ -147,10 +131,9 @@ void tellMoved(WorkingPaper& paper, const SheetInHand& work, const TanksShown& s
     paper.tables = {totalsTable(reckoning, TotalsOf::First,
                                 surveyTitle(work, ListKind::Cargo, TankSurvey::First)),
                     totalsTable(reckoning, TotalsOf::Last,
-                                surveyTitle(work, ListKind::Cargo, TankSurvey::Last)),
-                    totalsTable(reckoning, TotalsOf::Moved, isLoading ? "Loaded" : "Discharged"),
-                    billTable(reckoning, isLoading)};
-    paper.workings = {tankWorking(work, ListKind::Cargo)};
+                                surveyTitle(work, ListKind::Cargo, TankSurvey::Last))};
+    paper.workings = {movedWorking(work, shown), tankWorking(work, ListKind::Cargo)};
+    if (!paper.workings.back().whyNone.empty()) paper.workings.pop_back();
     paper.limits = tankLimits(reckoning);
     paper.signatures = {"Chief officer", "Surveyor", "Terminal"};
     paper.list = tankTable(work.list(ListKind::Cargo), reckoning.choices());

@@ -156,6 +156,19 @@ std::string tanksNotice(const SheetInHand& work, ListKind kind)
     return joined(said);
 }
 
+/// Times are for papers and the noon report: one that cannot be read holds nothing up.
+std::string timesNotice(const SheetInHand& work, ListKind kind)
+{
+    std::vector<std::string> said;
+    for (const TankSurvey survey : {TankSurvey::First, TankSurvey::Last}) {
+        const std::string& time = work.list(kind).times[static_cast<std::size_t>(survey)];
+        if (!isBlank(time) && !readDateTime(time))
+            said.push_back(std::string("Time of the survey ") + surveyName(kind, survey) +
+                           ": year/month/day hh:mm");
+    }
+    return joined(said);
+}
+
 std::string gradesNotice(const TankReckoning& reckoning)
 {
     std::vector<std::string> said;
@@ -274,7 +287,8 @@ TanksShown tanksShown(const SheetInHand& work)
     for (const ListKind kind : {ListKind::Cargo, ListKind::Bunkers}) {
         const auto list = static_cast<std::size_t>(kind);
         const TankReckoning& reckoning = work.reckoning(kind);
-        shown.notices[list] = joined({tanksNotice(work, kind), gradesNotice(reckoning)});
+        shown.notices[list] =
+            joined({tanksNotice(work, kind), gradesNotice(reckoning), timesNotice(work, kind)});
         for (const ReadGrade& grade : reckoning.grades())
             if (!grade.remarks.faults.empty()) shown.isWhole[list] = false;
         for (const TankSurvey survey : {TankSurvey::First, TankSurvey::Last})

@@ -95,7 +95,93 @@ void addQuantities(Working& working, const ReadGrade& grade, const TankFigures& 
     working.step("Long tons", "t / 1.0160469088", "", texts.longTons, "long tons");
 }
 
+/// The survey in hand, or the other one where only that found oil in the tank in hand.
+TankSurvey surveyWithOil(const SheetInHand& work, ListKind kind)
+{
+    const TankSurvey inHand = work.survey(kind);
+    const TankSurvey other = inHand == TankSurvey::First ? TankSurvey::Last : TankSurvey::First;
+    const auto hasOil = [&](TankSurvey survey) {
+        return work.reckoning(kind).tank(work.row(kind), survey).factor.has_value();
+    };
+    return !hasOil(inHand) && hasOil(other) ? other : inHand;
+}
+
+/// Volumes and weights, with what the tables of the surveys have no room for.
+std::vector<PaperTable> movedTables(const TankReckoning& reckoning)
+{
+    const std::string unit = std::string(" ") + unitOf(reckoning.choices().volume);
+    PaperTable ofVolume{
+        "Volumes",
+        {"Grade", "TOV" + unit, "Water" + unit, "GOV" + unit, "GSV m³", "NSV m³", "TCV m³"},
+        {}};
+    PaperTable ofWeight{
+        "Weights and barrels",
+        {"Grade", "bbl at 60 °F", "t in vacuo", "t in air", "Net t in air", "Long tons"},
+        {}};
+    for (const TotalsRow& row : totalsRows(reckoning, TotalsOf::Moved)) {
+        if (row.name.empty()) continue;
+        ofVolume.rows.push_back(
+            {row.name, row.observed, row.water, row.gross, row.standard, row.net, row.total});
+        ofWeight.rows.push_back(
+            {row.name, row.barrels, row.inVacuo, row.inAir, row.netInAir, row.longTons});
+    }
+    return {std::move(ofVolume), std::move(ofWeight)};
+}
+
+PaperTable billTable(const TankReckoning& reckoning, bool isLoading)
+{
+    PaperTable table{isLoading ? "Ship against bill of lading" : "Ship against outturn",
+                     {"Grade", "Measure", "Ship", isLoading ? "Bill of lading" : "Outturn",
+                      "Difference", "Per cent"},
+                     {}};
+    constexpr std::array names{"m³ at 15 °C", "bbl at 60 °F", "t in air"};
+    for (const CompareRow& row : compareRows(reckoning))
+        for (std::size_t i = 0; i < names.size(); ++i)
+            if (!row.measures[i].bill.empty())
+                table.rows.push_back({row.name, names[i], row.measures[i].ship,
+                                      row.measures[i].bill, row.measures[i].difference,
+                                      row.measures[i].percent});
+    return table;
+}
+
 } // namespace
+
+Working movedWorking(const SheetInHand& work, const TanksShown& shown)
+{
+    const TankReckoning& reckoning = work.reckoning(ListKind::Cargo);
+    const bool isLoading = reckoning.choices().movement == Movement::Loading;
+    Working working;
+    working.title = isLoading ? "what was loaded" : "what was discharged";
+    if (shown.moved.empty()) {
+        working.whyNone = "A survey is missing, or a tank of one is in doubt";
+        return working;
+    }
+    const TankSums& more = reckoning.sums(isLoading ? TankSurvey::Last : TankSurvey::First).ship;
+    const TankSums& less = reckoning.sums(isLoading ? TankSurvey::First : TankSurvey::Last).ship;
+    working.method = {isLoading ? "After loading less before loading, tank by tank and added up"
+                                : "Before discharge less after discharge, tank by tank and added "
+                                  "up"};
+    working.step(isLoading ? "On board before" : "Remaining on board", "TCV, weight in air", "",
+                 shown.onBoard);
+    const auto difference = [&working, isLoading](const char* name, double from, double off,
+                                                  const std::string& value, const char* unit) {
+        working.step(name, isLoading ? "after - before" : "before - after",
+                     volumeText(from) + " - " + volumeText(off), value, unit);
+    };
+    difference("Gross standard volume", more.standard, less.standard, shown.movedVolume, "m³");
+    difference("Total calculated volume", more.total, less.total, shown.totalMoved, "m³");
+    difference("Weight in air", more.inAir, less.inAir, shown.moved, "t");
+    if (!shown.percent.empty())
+        working.step("Ship less bill", "(ship - bill) / bill × 100", shown.against, shown.percent,
+                     "per cent");
+    if (!shown.byExperience.empty())
+        working.step("With the experience factor", "ship / factor, then as above", "",
+                     shown.byExperience);
+    working.tables = movedTables(reckoning);
+    PaperTable bill = billTable(reckoning, isLoading);
+    if (!bill.rows.empty()) working.tables.push_back(std::move(bill));
+    return working;
+}
 
 Working tankWorking(const SheetInHand& work, ListKind kind)
 {
@@ -107,7 +193,7 @@ Working tankWorking(const SheetInHand& work, ListKind kind)
         working.whyNone = "No tank is in hand";
         return working;
     }
-    const TankSurvey survey = work.survey(kind);
+    const TankSurvey survey = surveyWithOil(work, kind);
     working.title = "tank " + tankName(work.list(kind), row) + ", " + surveyName(kind, survey);
     const TankFigures& figures = reckoning.tank(row, survey);
     if (!figures.quantities || !figures.factor) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmUKC/frmUKC.h"
 
+#include "shell/controls/Boxes.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/shell/ShellTesting.h"
 
@@ -105,6 +106,35 @@ TEST_F(frmUKCTest, aDamagedRecordFillsWhatCanBeRead)
     EXPECT_EQ(text(window, "txtBlock"), "0.8");
     EXPECT_EQ(dynamic_cast<QComboBox&>(control(window, "cboWater")).currentIndex(), 0);
     EXPECT_EQ(dynamic_cast<QComboBox&>(control(window, "cboSurvey")).currentIndex(), 2);
+}
+
+/// Every box answers in the line, and nothing that was typed is lost.
+TEST_F(frmUKCTest, everyBoxAnswersInTheLine)
+{
+    auto& window = open<frmUKC>();
+    fillByKeys(window);
+    type(window, "txtShip(0)", "230");
+    type(window, "txtShip(2)", "70000");
+    type(window, "txtTide", "1");
+    EXPECT_EQ(window.notice().toStdString(), "");
+    std::size_t tried = 0;
+    for (EntryBox* box : window.findChildren<EntryBox*>()) {
+        const std::string name = box->objectName().toStdString();
+        const QString was = box->text();
+        // The time is asked for where no tide is typed.
+        if (name == "txtTideTime") type(window, "txtTide", "");
+        for (const char* bad : {"abc", "1e308", "-99999999", "99999999999", "1,2", "9/99/99"}) {
+            box->setText(bad);
+            EXPECT_THAT(window.notice().toStdString(), Not(IsEmpty())) << name << ": " << bad;
+            ++tried;
+        }
+        program().saveRecords();
+        EXPECT_THAT(fileText("KV_UKC.ini"), HasSubstr(name + "=9/99/99\n"));
+        box->setText(was);
+        type(window, "txtTide", "1");
+        EXPECT_EQ(window.notice().toStdString(), "") << name;
+    }
+    EXPECT_EQ(tried, 24U * 6);
 }
 
 } // namespace
