@@ -39,8 +39,9 @@ std::string alphaFigures(const NavFunc113::VolumeCorrection& correction)
     return text;
 }
 
-void addFactor(Working& working, const ReadGrade& grade, const TankFigures& figures,
-               const TankChoices& choices)
+/// @return the factor before it was rounded
+std::string addFactor(Working& working, const ReadGrade& grade, const TankFigures& figures,
+                      const TankChoices& choices)
 {
     const bool at60F = grade.table->isAt60F;
     const NavFunc113::VolumeCorrection correction =
@@ -68,6 +69,7 @@ void addFactor(Working& working, const ReadGrade& grade, const TankFigures& figu
                          " °F of 1968, δ = " + plain(correction.shift),
                      figure(correction.factor, 7));
     }
+    return figure(correction.factor, 7);
 }
 
 void addQuantities(Working& working, const ReadGrade& grade, const TankFigures& figures,
@@ -75,24 +77,26 @@ void addQuantities(Working& working, const ReadGrade& grade, const TankFigures& 
 {
     const TankSums& sums = *figures.quantities;
     const std::string unit = unitOf(choices.volume);
-    working.step("Rounded, as it is multiplied with", "VCF", "", texts.factor);
     working.step("Gross standard volume", "GSV = GOV × VCF, in m³ at 15 °C",
                  plain(sums.gross) + " " + unit + " × " + texts.factor, texts.standard, "m³");
     if (sums.water > 0)
-        working.step("Total calculated volume", "TCV = GSV + free water", "", texts.total, "m³");
+        working.step("Total calculated volume", "TCV = GSV + free water",
+                     texts.standard + " + " + volumeText(sums.total - sums.standard), texts.total,
+                     "m³");
     working.step("Barrels at 60 °F", "GSV / m³ of a barrel",
                  texts.standard + " / " + figure(grade.barrel, 8), texts.barrels, "bbl");
     const double density = grade.oil->density15;
-    working.step("Mass in vacuo", "GSV × ρ15 / 1000", texts.standard + " × " + plain(density),
-                 texts.inVacuo, "t");
+    working.step("Mass in vacuo", "GSV × ρ15 / 1000",
+                 texts.standard + " × " + plain(density) + " / 1000", texts.inVacuo, "t");
     if (choices.air == TankAirWeight::Density1_1)
         working.step("Weight in air", "GSV × (ρ15 - 1.1) / 1000",
-                     texts.standard + " × " + plain(density - 1.1), texts.inAir, "t");
+                     texts.standard + " × " + plain(density - 1.1) + " / 1000", texts.inAir, "t");
     else
         working.step("Weight in air", "mass × factor of table 56",
                      texts.inVacuo + " × " + figure(NavFunc113::Table56FactorAsPrinted(density), 5),
                      texts.inAir, "t");
-    working.step("Long tons", "t / 1.0160469088", "", texts.longTons, "long tons");
+    working.step("Long tons", "t / 1.0160469088", texts.inAir + " / 1.0160469088", texts.longTons,
+                 "long tons");
 }
 
 /// The survey in hand, or the other one where only that found oil in the tank in hand.
@@ -161,8 +165,8 @@ Working movedWorking(const SheetInHand& work, const TanksShown& shown)
     working.method = {isLoading ? "After loading less before loading, tank by tank and added up"
                                 : "Before discharge less after discharge, tank by tank and added "
                                   "up"};
-    working.step(isLoading ? "On board before" : "Remaining on board", "TCV, weight in air", "",
-                 shown.onBoard);
+    working.step(isLoading ? "On board before" : "Remaining on board", "TCV, weight in air",
+                 "totals of that survey", shown.onBoard);
     const auto difference = [&working, isLoading](const char* name, double from, double off,
                                                   const std::string& value, const char* unit) {
         working.step(name, isLoading ? "after - before" : "before - after",
@@ -175,7 +179,7 @@ Working movedWorking(const SheetInHand& work, const TanksShown& shown)
         working.step("Ship less bill", "(ship - bill) / bill × 100", shown.against, shown.percent,
                      "per cent");
     if (!shown.byExperience.empty())
-        working.step("With the experience factor", "ship / factor, then as above", "",
+        working.step("With the experience factor", "ship / factor, then as above", shown.against,
                      shown.byExperience);
     working.tables = movedTables(reckoning);
     PaperTable bill = billTable(reckoning, isLoading);
@@ -206,7 +210,8 @@ Working tankWorking(const SheetInHand& work, ListKind kind)
     working.method = {grade.name + ", table " + grade.table->name + ", " +
                       plain(grade.oil->density15) + " kg/m³ at 15 °C"};
     addVolumes(working, *figures.quantities, reckoning.choices());
-    addFactor(working, grade, figures, reckoning.choices());
+    const std::string factor = addFactor(working, grade, figures, reckoning.choices());
+    working.step("Rounded, as it is multiplied with", "VCF", factor, texts.factor);
     addQuantities(working, grade, figures, texts, reckoning.choices());
     return working;
 }

@@ -143,13 +143,13 @@ QString beginningHtml(const PaperHeading& heading, const WorkingPaper& paper, st
 /// A line for each who signs, or one without a name.
 QString signaturesHtml(const std::vector<std::string>& who)
 {
-    QString html = "<p>&nbsp;</p>";
     if (who.empty())
-        return html + "<p>Signature " + signatureLine + " &nbsp; Date ______________</p>";
+        return QString("<p>&nbsp;</p><p>Signature ") + signatureLine +
+               " &nbsp; Date ______________</p>";
     Rows rows;
     for (const std::string& each : who)
         rows.push_back({escaped(each), signatureLine, "Date ______________"});
-    html += "<table cellspacing='0' cellpadding='6'>";
+    QString html = titleHtml("Signatures") + "<table cellspacing='0' cellpadding='6'>";
     for (const QStringList& row : rows)
         html += rowHtml(row, "td");
     return html + "</table>";

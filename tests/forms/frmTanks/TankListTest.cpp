@@ -402,8 +402,13 @@ TEST(TankPaper, whatIsSignedHasTanksTotalsAndThoseWhoSign)
     EXPECT_EQ(paper.tables[1].rows.back()[6], "8161.216");
     EXPECT_THAT(paper.signatures, ElementsAre("Chief officer", "Surveyor", "Terminal"));
     tellMoved(paper, after, shown);
-    ASSERT_EQ(paper.workings.size(), 1);
-    EXPECT_THAT(paper.workings[0].steps.back().value, "6207.454") << "long tons of the gasoline";
+    ASSERT_EQ(paper.workings.size(), 2);
+    EXPECT_EQ(paper.workings[0].title, "what was loaded");
+    EXPECT_EQ(paper.workings[0].tables[1].rows.back()[3], shown.moved);
+    EXPECT_EQ(paper.workings[0].tables.back().rows.size(), 4) << "bills: m³ and t of one, t, ship";
+    EXPECT_THAT(paper.workings[1].steps.back().value, "6207.454") << "long tons of the gasoline";
+    tellMoved(paper, work, shown);
+    EXPECT_THAT(paper.workings[1].title, HasSubstr("after")) << "before there was no oil in it";
     tellExperience(paper, after, shown);
     EXPECT_TRUE(paper.tables.empty());
     tellBunkers(paper, after, shown);
