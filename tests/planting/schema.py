@@ -113,6 +113,12 @@ class Schema:
             for fault in guilty:
                 self.alone.append(self.waiting.pop(fault.number))
 
+    def first(self, fault):
+        """The line of a fault, or that of the word before it that had to give way."""
+        if not fault.relaxed:
+            return fault.first
+        return min(fault.first, self.texts[fault.file].count("\n", 0, fault.relaxed[0][0]) + 1)
+
     def guilty(self, output):
         """The faults on the lines where the compiler stopped, or else on those it speaks of."""
         for pattern in (r"(\S+?):(\d+):\d+: (?:fatal )?error:", r"(\S+?):(\d+):\d+:   required",
@@ -120,7 +126,7 @@ class Schema:
             named = {(os.path.relpath(os.path.realpath(self.plot.build / path), self.plot.source),
                       int(line)) for path, line in re.findall(pattern, output)}
             found = [fault for fault in self.waiting.values()
-                     if any(fault.file == path and fault.first <= line <= fault.last
+                     if any(fault.file == path and self.first(fault) <= line <= fault.last
                             for path, line in named)]
             if found:
                 return found
