@@ -59,7 +59,7 @@ struct NoonResult {
     std::optional<NoonEngine> propeller;
     struct Fuel {
         double before, onBoard; ///< tons
-        double received = 0;    ///< between them, by the tank list
+        double received;        ///< between them, by the tank list
     };
     std::array<std::optional<Fuel>, 3> tons;
     std::array<std::optional<double>, 3> byTanks; ///< on board, where the box is empty

@@ -79,7 +79,7 @@ double PassageAfterMean(Degrees latitude, Degrees declination, double bodyNorthw
 
 /// One step towards the passage over the meridian.
 struct NoonStep {
-    DateTime instant = 0;
+    DateTime instant;
     Degrees longitude; ///< of the ship then
     Degrees GHA;       ///< of the Sun then
     Degrees toGo;      ///< to the meridian; the next instant lies toGo / 360 days later

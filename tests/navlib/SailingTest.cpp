@@ -84,6 +84,12 @@ TEST(GreatCircleArc, itsPointsAndCoursesAreThoseOfTheTrack)
                               .value(),
                           1e-6);
             }
+    // Over the pole it touches the parallel of its vertex, and crosses none beyond it.
+    const auto touching =
+        GreatCircleArc({DegMin(0), DegMin(10)}, {DegMin(60), DegMin(10)}).runsAt(DegMin(90));
+    ASSERT_TRUE(touching);
+    EXPECT_NEAR((*touching)[0].value(), 90, 1e-5);
+    EXPECT_NEAR((*touching)[1].value(), 90, 1e-5);
     const GeoPoint here{DegMin(35.305), DegMin(139)};
     EXPECT_EQ(GreatCircleArc(here, here).distance(Earth::Spheroid), Miles(0));
     EXPECT_FALSE(GreatCircleArc(here, {DegMin(-35.305), DegMin(-41)}).isDefined());

@@ -6,6 +6,7 @@
 #include "forms/frmPassage/PlanRoute.h"
 #include "navlib/angles.h"
 #include "routes/files/Gpx.h"
+#include "routes/files/RtzPlaces.h"
 #include "routes/files/RtzReader.h"
 #include "routes/files/RtzWriter.h"
 #include "routes/route/LegWords.h"
@@ -281,6 +282,18 @@ TEST(RouteFiles, keptElementsStandForThemselvesAndWhatWasSetByHandGoesFirst)
     const std::string both =
         replaced(wholeFile, "windDirection=\"165\"", "speed=\"9\" windDirection=\"165\"");
     EXPECT_EQ(described(readRtz(both)), described(readRtz(wholeFile)));
+}
+
+TEST(RouteFiles, aPositionKeptInADamagedRecordIsWrittenFromTheRow)
+{
+    for (const char* damaged : {"35.25", "north east", "35.25 east", "north 139"}) {
+        Route route = readRtz(wholeFile).route;
+        for (KeptPart& part : route.points[0].kept)
+            if (part.place == rtz::position) part.text = damaged;
+        const ReadRoute again = readRtz(writeRtz(route).bytes);
+        EXPECT_EQ(again.fault, "") << damaged;
+        EXPECT_NEAR(again.route.points[0].latitude.value(), 35.25, 1e-8) << damaged;
+    }
 }
 
 TEST(RouteFiles, prefixesAndOlderSpellingsAreRead)

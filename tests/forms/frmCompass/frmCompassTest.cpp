@@ -137,6 +137,33 @@ TEST_F(frmCompassTest, aMonthOfWatchesKeptByKeys)
         << "the latest first";
 }
 
+TEST_F(frmCompassTest, aLineOfTheBookComesBackIntoTheBoxes)
+{
+    auto& window = open<frmCompass>();
+    keepWatch(window, 0);
+    type(window, "txtCompass(10)", "-7");
+    keepWatch(window, 1);
+    const auto takeBack = [&](int row) {
+        click(window, "cmdPage(1)");
+        auto& list = dynamic_cast<QAbstractItemView&>(control(window, "tblBook"));
+        list.setCurrentIndex(list.model()->index(row, 0));
+        click(window, "cmdTake");
+    };
+    takeBack(1); // the earlier one
+    EXPECT_EQ(text(window, "txtCompass(10)"), "-7.0");
+    EXPECT_EQ(text(window, "lblCompass(15)"), "7.0 W");
+    takeBack(0);
+    EXPECT_EQ(text(window, "txtCompass(10)"), "");
+    EXPECT_THAT(text(window, "lblCompass(15)"), ::testing::HasSubstr("(WMM-2025)"));
+    EXPECT_EQ(text(window, "txtCompass(1)"), "35.1");
+    type(window, "txtCourses(0)", "100");
+    choose(window, "mnuAC(1)");
+    EXPECT_EQ(text(window, "txtCourses(0)"), "");
+    EXPECT_EQ(text(window, "txtCompass(1)"), "35.1") << "the observation is another's to clear";
+    choose(window, "mnuAC(0)");
+    EXPECT_EQ(text(window, "txtCompass(1)"), "");
+}
+
 /// Coefficients of 2025 as another edition, in their producer's format.
 std::string otherEdition()
 {

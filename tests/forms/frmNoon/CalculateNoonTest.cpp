@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmNoon/CalculateNoon.h"
 
+#include "forms/frmNoon/NoonWorking.h"
 #include "navlib/ship/propulsion.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace korvel
 {
@@ -104,6 +107,11 @@ TEST(CalculateNoon, theMailHasTheFieldsInTheOfficersOrder)
     EXPECT_EQ(CalculateNoon(input).mail,
               "NOON REPORT\nRun: 300.0 nm\nROB 1: 470 t\nConsumed 1: 30.0 t, 0.1000 t "
               "per nm\nPosition: 00°00.0'N 145°00.0'E\n");
+    const std::vector<Working> workings = noonWorkings(input, CalculateNoon(input));
+    const auto fuel = std::ranges::find(workings, "Fuel", &Working::title);
+    ASSERT_NE(fuel, workings.end());
+    EXPECT_EQ(fuel->steps[0].name, "Fuel 1, tons");
+    EXPECT_EQ(fuel->steps[0].figures, "500.000 - 470.000");
     EXPECT_THAT(CalculateNoon({}).notice, HasSubstr("no two fixes"));
     EXPECT_EQ(CalculateNoon({}).mail, "");
     input.boxes.fixes = {"2", "1"};
