@@ -16,8 +16,9 @@ mkdir -p "$packages" "$cache"
 SOURCE_DATE_EPOCH=${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CMakeLists.txt)}
 export SOURCE_DATE_EPOCH LC_ALL=C.UTF-8 TZ=UTC
 release_date=$(date -d "@$SOURCE_DATE_EPOCH" +%F)
-# In quotes that the build's shell takes off: a checkout may lie in a path with blanks.
-path_flags="'-ffile-prefix-map=$top=.'"
+# In quotes that the build's shell takes off: a checkout may lie in a path with blanks. Single ones
+# would be lost on the way to the compiler for Windows.
+path_flags="\"-ffile-prefix-map=$top=.\""
 umask 022
 
 say() { echo "== $*"; }

@@ -35,7 +35,7 @@ build_toolkit() {
     [ -d "$source" ] || fetch_debian_source "qt6-base=$toolkit_version" "$toolkit/source"
     # A build that was stopped goes on where it was, from whatever checkout.
     cp tools/package/windows/mingw.cmake "$toolkit/mingw.cmake"
-    local flags="'-ffile-prefix-map=$toolkit=toolkit'"
+    local flags="\"-ffile-prefix-map=$toolkit=toolkit\""
     SOURCE_DATE_EPOCH=0 cmake -S "$source" -B "$build" -G Ninja \
         -DCMAKE_BUILD_TYPE=Release -DBUILD_SHARED_LIBS=OFF \
         -DCMAKE_TOOLCHAIN_FILE="$toolkit/mingw.cmake" \
