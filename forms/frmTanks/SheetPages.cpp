@@ -2,7 +2,6 @@
 #include "forms/frmTanks/SheetPages.h"
 
 #include "forms/frmTanks/TankFields.h"
-#include "shell/controls/AnswerStrip.h"
 #include "shell/layout/CellLayout.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
@@ -169,9 +168,6 @@ ExperiencePage::ExperiencePage(SheetBinding& binding, const ResultLabels<TanksSh
         auto* column = new QVBoxLayout(group);
         layOutBody(*column);
         column->addWidget(sectionHead(heads[i]));
-        auto* answers = new AnswerStrip;
-        labels.addAnswer(answers, LabelFactors + i, TanksRooms[LabelFactors + i]);
-        column->addWidget(answers);
         auto* figures = new QWidget;
         auto* cells = new CellLayout(figures, 3, Qt::Horizontal);
         for (const std::size_t each : {LabelMeans + i, LabelCounted + i, LabelSums + i})

@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr std::array widest{
-    "000 !", "Slop tank P 00",     "Previous: sounding", "00000.000", "-00.00",    "000000.000",
+    "000 !", "Slop tank P 00",     "Previous: sounding", "00000.000", "0.00000",   "000000.000",
     "000",   "Previous: sounding", "00000.000",          "0.00000",   "000000.000"};
 static_assert(widest.size() == TankModel::Columns);
 
@@ -211,7 +211,7 @@ void TankListPage::typeInto(int column, const QString& text)
 
 bool TankListPage::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+    if (event->type() != QEvent::KeyPress) return ScrolledBody::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->matches(QKeySequence::Redo)) {
         emit redoWanted();

@@ -17,7 +17,7 @@ class WrappingRow;
 
 /// The tanks of a list: the rows of both surveys, and the boxes of the row and the survey in hand.
 /// What is typed goes into the sheet key by key.
-class TankListPage : public QWidget
+class TankListPage : public ScrolledBody
 {
     Q_OBJECT
 

@@ -82,13 +82,19 @@ void frmTanks::bindFields()
     }
 }
 
-/// The answers about the cargo, above every page that is about it.
-AnswerStrip* frmTanks::layOutAnswers()
+/// Answers stand above what a page scrolls: those about the cargo on each that is about it.
+void frmTanks::addAnswers(QVBoxLayout& column)
 {
-    auto* answers = new AnswerStrip;
-    for (const std::size_t each : {LabelMoved, LabelMovedVolume, LabelPercent})
-        m_results.addAnswer(answers, each, TanksRooms[each]);
-    return answers;
+    const auto strip = [&](std::initializer_list<std::size_t> labels, Page first, Page last) {
+        auto* answers = new AnswerStrip;
+        for (const std::size_t each : labels)
+            m_results.addAnswer(answers, each, TanksRooms[each]);
+        column.insertWidget(1, answers);
+        m_answers.push_back({answers, first, last});
+    };
+    strip({LabelMoved, LabelMovedVolume, LabelPercent}, Tanks, Totals);
+    strip({LabelConsumed, LabelConsumed + 1, LabelConsumed + 2}, Bunkers, Bunkers);
+    strip({LabelFactors, LabelFactors + 1}, Experience, Experience);
 }
 
 QWidget* frmTanks::layOutBunkers()
@@ -96,10 +102,6 @@ QWidget* frmTanks::layOutBunkers()
     auto* page = new ScrolledBody;
     auto* column = new QVBoxLayout(page);
     layOutBody(*column);
-    auto* answers = new AnswerStrip;
-    for (std::size_t i = 0; i < fuelCount; ++i)
-        m_results.addAnswer(answers, LabelConsumed + i, TanksRooms[LabelConsumed + i]);
-    column->addWidget(answers);
     auto* fuels = new QWidget;
     auto* row = new WrappingRow(fuels);
     row->setGap(2 * page->fontMetrics().averageCharWidth());
@@ -133,10 +135,9 @@ void frmTanks::addPages()
 {
     auto* area = new FollowingScrollArea(m_tanks);
     setScrollArea(area);
-    m_answers = layOutAnswers();
     auto* column = static_cast<QVBoxLayout*>(body()->layout());
     column->insertWidget(0, m_pages);
-    column->insertWidget(1, m_answers);
+    addAnswers(*column);
     m_pages->addPage("&Tanks", "cmdTankPage(0)", "Page of the tanks", area);
     int index = 1;
     const auto add = [this, &index](QWidget* content, const char* caption, const char* words) {
@@ -194,7 +195,8 @@ void frmTanks::showPage()
                   levelBeside(m_shown.isWhole[list]));
     };
     const std::size_t page = m_pages->page();
-    m_answers->setVisible(page <= Totals);
+    for (const Answers& each : m_answers)
+        each.strip->setVisible(page >= each.first && page <= each.last);
     say("cargo", ListKind::Cargo, page <= Totals);
     say("bunkers", ListKind::Bunkers, page == Bunkers);
     QStringList factors;

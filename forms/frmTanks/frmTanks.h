@@ -6,6 +6,8 @@
 #include "shell/program/WindowCatalogue.h"
 #include "shell/window/CalculatorWindow.h"
 
+class QVBoxLayout;
+
 namespace korvel
 {
 
@@ -33,9 +35,15 @@ protected:
 
 private:
     enum Page : std::size_t { Tanks, Grades, Totals, Bunkers, Experience };
+    /// Answers of the pages from the first to the last.
+    struct Answers {
+        AnswerStrip* strip;
+        Page first;
+        Page last;
+    };
 
     TankListPage* makeList(ListKind kind);
-    AnswerStrip* layOutAnswers();
+    void addAnswers(QVBoxLayout& column);
     QWidget* layOutBunkers();
     void addPages();
     void bindFields();
@@ -69,7 +77,7 @@ private:
     FieldBoxes m_fields;
     ResultLabels<TanksShown> m_results;
     PageBar* m_pages;
-    AnswerStrip* m_answers = nullptr;
+    std::vector<Answers> m_answers;
     TankListPage* m_tanks;
     GradesPage* m_grades;
     TotalsPage* m_totals;

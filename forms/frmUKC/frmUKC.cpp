@@ -61,7 +61,7 @@ frmUKC::frmUKC(Program& program)
     auto* parts = new QWidget;
     auto* row = new WrappingRow(parts);
     row->setGap(3 * fontMetrics().height() / 2);
-    for (QWidget* part : {layOutInputs(), layOutColumn(), layOutTide()}) {
+    for (QWidget* part : {layOutInputs(), layOutResults(), layOutTide()}) {
         part->setContentsMargins(0, fontMetrics().descent(), 0, fontMetrics().descent());
         row->addWidget(part);
     }
@@ -193,6 +193,19 @@ void frmUKC::addSum(QGridLayout& grid, std::size_t result) const
     addLine(grid, result);
 }
 
+QWidget* frmUKC::layOutResults()
+{
+    auto* part = new QWidget;
+    auto* column = new QVBoxLayout(part);
+    layOutBody(*column, Spacing::Dense);
+    column->addWidget(layOutColumn());
+    column->addWidget(sectionHead("Minimum kept, zone time of the station"));
+    for (std::size_t day = 0; day < TideWeek::mostDays; ++day)
+        column->addWidget(m_results[UKCShown::Hours + day]);
+    column->addStretch();
+    return part;
+}
+
 QWidget* frmUKC::layOutColumn()
 {
     using namespace UKCShown;
@@ -218,7 +231,6 @@ QWidget* frmUKC::layOutColumn()
     addLine(*grid, UKCShown::Block);
     addLine(*grid, Others);
     grid->setColumnStretch(3, 1);
-    grid->setRowStretch(grid->rowCount(), 1);
     return part;
 }
 
@@ -227,9 +239,7 @@ QWidget* frmUKC::layOutTide()
     auto* part = new QWidget;
     auto* column = new QVBoxLayout(part);
     layOutBody(*column, Spacing::Dense);
-    column->addWidget(sectionHead("Minimum kept, zone time of the station"));
-    for (std::size_t day = 0; day < TideWeek::mostDays; ++day)
-        column->addWidget(m_results[UKCShown::Hours + day]);
+    column->addWidget(sectionHead("Tide of these days"));
     column->addWidget(m_picture, 1);
     return part;
 }

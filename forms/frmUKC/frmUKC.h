@@ -38,6 +38,7 @@ private:
     QWidget* layOutInputs();
     void addGroup(QGridLayout& grid, const char* title, std::size_t first, std::size_t end,
                   QComboBox* choice = nullptr, const char* caption = "") const;
+    QWidget* layOutResults();
     QWidget* layOutColumn();
     void addLine(QGridLayout& grid, std::size_t result, QWidget* remark = nullptr) const;
     void addSum(QGridLayout& grid, std::size_t result) const;

@@ -203,6 +203,38 @@ TEST(TankList, shipAgainstBillOfLading)
     EXPECT_EQ(shown.moved, "8147.165");
     EXPECT_EQ(shown.onBoard, "ROB 2.390 m³, 2.012 t");
     EXPECT_EQ(shown.byExperience, "");
+    // 6307.064 against 7000: in per cent of the bill, not of the ship, and of the grade alone.
+    sheet.list(ListKind::Cargo).grades[0].billWeight = "7000";
+    const auto discharged = compareRows(inHand(sheet).reckoning(ListKind::Cargo));
+    EXPECT_EQ(discharged[0].measures[2].ship, "6307.064");
+    EXPECT_EQ(discharged[0].measures[2].percent, "-9.899");
+}
+
+TEST(TankList, tanksOfAGradeAreAddedUp)
+{
+    TankSheet sheet = cargoOfReport();
+    TankList& cargo = sheet.list(ListKind::Cargo);
+    cargo.rows[0].surveys[1].volume = "4000";
+    cargo.rows.push_back(tank("3", {}, {"", "4834.839", "", "22.0", "gasoline"}));
+    const auto rows = totalsRows(inHand(sheet).reckoning(ListKind::Cargo), TotalsOf::Last);
+    EXPECT_EQ(rows[0].inVacuo, "6316.441") << "8834.793 x 0.99106 x 721.4 / 1000";
+    EXPECT_EQ(rows[0].observed, "8834.839");
+}
+
+TEST(TankList, parcelsOfOneFuelAreAdded)
+{
+    TankSheet sheet;
+    TankList& bunkers = sheet.list(ListKind::Bunkers);
+    for (std::size_t i = 0; i < 2; ++i) {
+        bunkers.grades[i] = grade(i == 0 ? "Old" : "New", "", "992.0");
+        bunkers.grades[i].received = i == 0 ? "10" : "20.5";
+        bunkers.rows.push_back(
+            tank(i == 0 ? "1P" : "1S", {}, {"", "161.28", "", "36", i == 0 ? "1" : "2"}));
+    }
+    const BunkersNow::Fuel fuel = bunkersNow(sheet).fuels[0];
+    EXPECT_EQ(fuel.name, "Old + New");
+    EXPECT_NEAR(fuel.received, 30.5, 1e-9);
+    EXPECT_NEAR(fuel.remaining.value(), 2 * 157.53, 0.02) << "161.28 x 0.9857 x 0.9909";
 }
 
 TEST(TankList, aTankThatWasForgottenIsNoDischargedTank)
