@@ -7,6 +7,7 @@
 #include "forms/frmCDDR/CDDRWorking.h"
 #include "forms/frmCDDR/hemisphere.h"
 #include "navlib/angles.h"
+#include "shell/controls/Options.h"
 #include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
@@ -117,11 +118,7 @@ void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
 {
     m_txtCDDR.addRow(grid, row, field);
     grid->removeWidget(m_txtCDDR.position(field)->echo());
-    auto* halves = new QHBoxLayout;
-    halves->setSpacing(0);
-    halves->addWidget(m_optNSEW[2 * field]);
-    halves->addWidget(m_optNSEW[2 * field + 1]);
-    grid->addLayout(halves, row, 2);
+    grid->addLayout(switchOf(std::span(m_optNSEW).subspan(2 * field, 2)), row, 2);
     grid->addWidget(m_txtCDDR.position(field)->echo(), row, 3);
 }
 

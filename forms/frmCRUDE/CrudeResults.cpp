@@ -2,6 +2,7 @@
 #include "forms/frmCRUDE/CrudeResults.h"
 
 #include "forms/frmCRUDE/CrudeShown.h"
+#include "shell/controls/AnswerStrip.h"
 #include "shell/layout/Panels.h"
 
 #include <algorithm>
@@ -9,9 +10,10 @@
 namespace korvel
 {
 
-CrudeResults::CrudeResults() : m_labels(CrudeShown, this)
+CrudeResults::CrudeResults() : m_labels(CrudeShown, this), m_answers(new AnswerStrip(this))
 {
     dressLabels();
+    layOutAnswers();
     auto* grid = new QGridLayout(this);
     layOutBody(*grid);
     grid->setVerticalSpacing(fontMetrics().leading() + fontMetrics().descent());
@@ -36,37 +38,71 @@ void CrudeResults::dressLabels()
 {
     for (ResultLabel* label : labels()) {
         const bool isNote = label->weight() == Weight::Remark;
-        label->setAlignment((isNote ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
-        if (label->weight() == Weight::Answer) label->setRoom("0000000.000");
+        const bool isAnswer = label->weight() == Weight::Answer;
+        label->setAlignment((isNote || isAnswer ? Qt::AlignLeft : Qt::AlignRight) |
+                            Qt::AlignVCenter);
+        if (isAnswer) label->setRoom("0000000.000");
         if (!isNote) continue;
         label->setFont(font());
         label->setRoom({});
     }
-    // Two lines: the rows below stand still when a factor of one's own makes it long.
+    // Two lines: what is below stands still when a factor of one's own makes it long.
     for (const char* note : {"lblBarrelsMethod", "lblKilolitresMethod"})
-        named(note)->setRoom({}, 2);
+        named(note)->setRoom("at 60 °F = kL at 15 °C / 0.1589156,", 2);
+}
+
+namespace
+{
+
+/// Answers have a place of their own; a note behind one goes with it.
+bool isNoteOfAnswer(std::size_t result)
+{
+    return result < CrudeShown.size() && CrudeShown[result].weight == Weight::Remark &&
+           CrudeShown[result - 1].weight == Weight::Answer;
+}
+
+} // namespace
+
+void CrudeResults::layOutAnswers()
+{
+    for (std::size_t i = 0; i < CrudeShown.size(); ++i) {
+        if (CrudeShown[i].weight != Weight::Answer) continue;
+        ResultLabel* note = isNoteOfAnswer(i + 1) ? m_labels[i + 1] : nullptr;
+        m_answers->add(CrudeShown[i].caption, m_labels[i], CrudeShown[i].unit, note);
+    }
 }
 
 /// Rows of a caption and the figures that belong to it, up to a result.
 void CrudeResults::layOutRows(QGridLayout* grid, const char* last, bool unitsBeside)
 {
-    constexpr int columns = 4;
     const ResultLabel* end = named(last);
-    for (bool isLast = false; !isLast; ++m_row) {
-        const CrudeFigure& first = CrudeTable::figures[m_next];
-        grid->addWidget(new QLabel(first.shown.caption), m_row, 0);
-        int column = 1;
+    for (bool isLast = false; !isLast;) {
+        const std::size_t first = m_next;
         do {
-            ResultLabel* label = m_labels[m_next];
-            const bool isNote = label->weight() == Weight::Remark;
-            grid->addWidget(label, m_row, column, 1, isNote ? columns - column : 1);
-            isLast = label == end;
-            ++column;
+            isLast = m_labels[m_next] == end;
             ++m_next;
         } while (m_next < CrudeShown.size() && !CrudeShown[m_next].caption);
-        if (unitsBeside && *first.unit)
-            grid->addWidget(new QLabel(first.unit), m_row, column, 1, columns - column);
+        if (!isNoteOfAnswer(first + 1)) layOutRow(grid, first, m_next, unitsBeside);
     }
+}
+
+void CrudeResults::layOutRow(QGridLayout* grid, std::size_t first, std::size_t end, bool unitBeside)
+{
+    constexpr int columns = 4;
+    const CrudeFigure& row = CrudeTable::figures[first];
+    grid->addWidget(new QLabel(row.shown.caption), m_row, 0);
+    int column = 1;
+    for (std::size_t i = first; i < end; ++i, ++column) {
+        const Weight weight = CrudeShown[i].weight;
+        const int wide = weight == Weight::Remark ? columns - column : 1;
+        if (weight == Weight::Answer)
+            grid->addWidget(new QLabel("above"), m_row, column, Qt::AlignRight);
+        else
+            grid->addWidget(m_labels[i], m_row, column, 1, wide);
+    }
+    if (unitBeside && *row.unit)
+        grid->addWidget(new QLabel(row.unit), m_row, column, 1, columns - column);
+    ++m_row;
 }
 
 void CrudeResults::addHead(QGridLayout* grid, const char* title)
@@ -93,10 +129,6 @@ void CrudeResults::giveRoom(QGridLayout* grid)
     grid->setColumnMinimumWidth(1, figure);
     grid->setColumnMinimumWidth(2, figure);
     grid->setColumnMinimumWidth(3, fontMetrics().horizontalAdvance("Table 56 exact, 0.999999 "));
-    // Where there is room for it the usual note of the barrels stands in one line.
-    const int note =
-        fontMetrics().horizontalAdvance("at 60 °F = kL at 15 °C / 0.1589156, by density ");
-    grid->addItem(new QSpacerItem(note - figure, 0, QSizePolicy::Preferred), m_row, 3);
 }
 
 } // namespace korvel

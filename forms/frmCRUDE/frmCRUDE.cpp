@@ -3,6 +3,7 @@
 
 #include "forms/frmCRUDE/CrudeFields.h"
 #include "forms/frmCRUDE/CrudeWorking.h"
+#include "shell/controls/AnswerStrip.h"
 #include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 #include "shell/screen/WidgetColours.h"
@@ -62,6 +63,7 @@ frmCRUDE::frmCRUDE(Program& program)
     left->addStretch();
     columns->addLayout(left);
     columns->addWidget(m_results, 1);
+    pinAnswers(m_results->answers());
     foldColumns();
     addMenus();
 

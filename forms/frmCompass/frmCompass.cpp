@@ -47,14 +47,16 @@ void frmCompass::addPages()
     auto* area = new FollowingScrollArea(m_error);
     setScrollArea(area);
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, m_pages);
+    pinAnswers(m_error->answers());
     m_pages->addPage("&Error", "cmdPage(0)", "Page of the compass error", area);
     const auto add = [this](QWidget* content, const char* caption, const char* name,
                             const char* words) {
-        addScrolledPage(*body(), *m_pages, content, caption, name, words);
+        return addScrolledPage(*body(), *m_pages, content, caption, name, words);
     };
     add(m_lines, "B&ook", "cmdPage(1)", "Page of the book");
     add(m_deviation, "Dev&iation", "cmdPage(2)", "Page of the deviation");
-    add(m_courses, "Co&urses", "cmdPage(3)", "Page of the courses");
+    add(m_courses, "Co&urses", "cmdPage(3)", "Page of the courses")
+        ->setAnswers(m_courses->answers());
     foldColumns();
 }
 

@@ -68,14 +68,14 @@ frmGC2000::frmGC2000(Program& program)
     prepareResults();
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid, Spacing::Frameless);
-    grid->addWidget(layOutPositions(), 0, 0, 2, 1);
+    pinAnswers(layOutAnswers());
+    grid->addWidget(layOutPositions(), 0, 0);
     grid->addWidget(layOutDistances(), 0, 1);
     grid->addWidget(layOutTrack(), 0, 2);
-    grid->addWidget(layOutAnswers(), 1, 1, 1, 2);
-    grid->addWidget(layOutTable(), 2, 0);
-    grid->addWidget(m_picGC, 2, 1, 1, 2);
+    grid->addWidget(layOutTable(), 1, 0);
+    grid->addWidget(m_picGC, 1, 1, 1, 2);
     grid->setColumnStretch(2, 1);
-    grid->setRowStretch(2, 1);
+    grid->setRowStretch(1, 1);
     foldColumns();
     addMenus();
 

@@ -36,7 +36,7 @@ frmNoon::frmNoon(Program& program)
     box(NoonBox::Order)->setPlaceholderText(usualOrder);
     auto* column = new QVBoxLayout(scrollBody());
     layOutBody(*column);
-    column->addWidget(layOutAnswers());
+    pinAnswers(layOutAnswers());
     column->addWidget(layOutResults());
     column->addWidget(layOutGroup("Record and plan", NoonBox::FirstFix, NoonBox::Speed));
     column->addWidget(layOutGroup("Arrival", NoonBox::Speed, NoonBox::Pitch));

@@ -3,6 +3,7 @@
 
 #include "forms/frmPassage/PassageFields.h"
 #include "forms/frmPassage/PlanTable.h"
+#include "shell/controls/Options.h"
 #include "shell/controls/RowsView.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
@@ -94,10 +95,8 @@ PlanBoxes::Switch PlanBoxes::makeSwitch(const char* name,
 QWidget* PlanBoxes::layOutSwitch(const Switch& options)
 {
     QWidget* group = options.front()->parentWidget();
-    auto* row = new QHBoxLayout(group);
-    row->setContentsMargins(0, 0, 0, 0);
-    for (QRadioButton* option : options)
-        row->addWidget(option);
+    group->setLayout(switchOf(options));
+    group->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return group;
 }
 

@@ -31,12 +31,8 @@ frmPassage::frmPassage(Program& program)
         m_results[i]->setRoom(PassageRooms[i], i == LabelTide ? 2 : 1);
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid);
-    auto* head = new QWidget;
-    auto* headLines = new QVBoxLayout(head);
-    layOutBody(*headLines);
-    headLines->addWidget(m_boxes->layOutHead());
-    headLines->addWidget(layOutAnswers());
-    grid->addWidget(head, 0, 0, 1, 2);
+    pinAnswers(layOutAnswers());
+    grid->addWidget(m_boxes->layOutHead(), 0, 0, 1, 2);
     grid->addWidget(m_table, 1, 0);
     grid->addWidget(m_picture, 1, 1);
     grid->addWidget(m_boxes->layOutRow(), 2, 0, 1, 2);

@@ -27,12 +27,12 @@ void layOut(const SightPanels& panels, QWidget& content)
     auto* typed = new QVBoxLayout;
     layOutBody(*typed, Spacing::Dense);
     typed->addWidget(&panels.entry);
-    typed->addWidget(panels.lines.noon());
     typed->addStretch(1);
     grid->addLayout(typed, 0, 0, 3, 1);
     auto* answers = new QVBoxLayout;
     layOutBody(*answers, Spacing::Groups);
     answers->addWidget(&panels.lines);
+    answers->addWidget(panels.lines.noon());
     answers->addWidget(panels.fixes.fixPart(), 1);
     grid->addLayout(answers, 0, 1);
     grid->addWidget(&panels.fixes, 0, 2);

@@ -29,6 +29,8 @@ frmSunSight::frmSunSight(Program& program)
 {
     m_entry->setBodyLabel(m_lines->bodyLabel());
     layOut({*m_entry, *m_lines, *m_fixes, *m_sights}, *scrollBody());
+    m_fixes->addAnswers(*m_lines->answers());
+    pinAnswers(m_lines->answers());
     foldColumns();
     connectPanels();
     rememberDetails();

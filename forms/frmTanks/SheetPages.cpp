@@ -19,7 +19,7 @@ void addOptions(WrappingRow& row, const char* caption, const Options& options)
 {
     row.startGroup();
     row.addWidget(new QLabel(caption));
-    options.addTo(row);
+    row.addWidget(options.makeSwitch());
 }
 
 void addTable(QVBoxLayout& column, RowTable& table)

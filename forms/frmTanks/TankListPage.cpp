@@ -62,7 +62,7 @@ TankListPage::TankListPage(Program& program, SheetInHand& work, Parts parts)
         unit = new QLabel;
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(m_table, 1);
+    column->addWidget(m_table, 1, Qt::AlignLeft); // as wide as its columns
     column->addWidget(layOutBoxes());
     connectBoxes();
 }
@@ -76,7 +76,7 @@ QWidget* TankListPage::layOutBoxes()
     lines->addLayout(row);
     row->setGap(2 * panel->fontMetrics().averageCharWidth());
     row->startGroup();
-    m_optSurvey->addTo(*row);
+    row->addWidget(m_optSurvey->makeSwitch());
     const std::array fields = m_parts.kind == ListKind::Cargo ? CargoTankFields : BunkerTankFields;
     constexpr std::array<const char*, TankFieldCount> rooms{
         "Slop tank P 0", "00.000 m 000", "0000000.0000", "00000.000", "-00.000", "Gasoline 95 0"};

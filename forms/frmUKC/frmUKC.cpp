@@ -57,7 +57,7 @@ frmUKC::frmUKC(Program& program)
     giveRoom();
     auto* column = new QVBoxLayout(scrollBody());
     layOutBody(*column);
-    column->addWidget(layOutAnswers());
+    pinAnswers(layOutAnswers());
     auto* parts = new QWidget;
     auto* row = new WrappingRow(parts);
     row->setGap(3 * fontMetrics().height() / 2);

@@ -5,6 +5,7 @@
 #include "forms/frmWind/WindFields.h"
 #include "forms/frmWind/WindPictureBox.h"
 #include "forms/frmWind/WindWorking.h"
+#include "shell/controls/Options.h"
 #include "shell/layout/Panels.h"
 #include "shell/machine/AsQString.h"
 
@@ -82,8 +83,7 @@ QGroupBox* frmWind::layOutOptions()
     auto* group = new QGroupBox("Picture");
     auto* row = new QHBoxLayout(group);
     row->setContentsMargins(0, 8, 0, 0);
-    for (QRadioButton* option : m_optWind)
-        row->addWidget(option);
+    row->addLayout(switchOf(m_optWind));
     row->addStretch();
     return group;
 }

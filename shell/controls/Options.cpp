@@ -2,8 +2,9 @@
 #include "shell/controls/Options.h"
 
 #include "shell/controls/Boxes.h"
+#include "shell/screen/ScreenStyle.h"
 
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QRadioButton>
 
 namespace korvel
@@ -27,10 +28,28 @@ void Options::choose(int option)
     if (QAbstractButton* chosen = button(option)) chosen->setChecked(true);
 }
 
-void Options::addTo(QLayout& row) const
+QWidget* Options::makeSwitch() const
 {
+    std::vector<QRadioButton*> options;
     for (QAbstractButton* each : buttons())
-        row.addWidget(each);
+        options.push_back(static_cast<QRadioButton*>(each));
+    auto* line = new QWidget(options.front()->parentWidget());
+    line->setLayout(switchOf(options));
+    line->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    return line;
+}
+
+QHBoxLayout* switchOf(std::span<QRadioButton* const> options)
+{
+    auto* parts = new QHBoxLayout;
+    parts->setContentsMargins(0, 0, 0, 0);
+    parts->setSpacing(0);
+    for (QRadioButton* option : options) {
+        drawAsSwitchPart(*option);
+        option->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        parts->addWidget(option);
+    }
+    return parts;
 }
 
 } // namespace korvel

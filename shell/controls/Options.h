@@ -3,15 +3,17 @@
 
 #include <QButtonGroup>
 
+#include <span>
 #include <utility>
 #include <vector>
 
-class QLayout;
+class QHBoxLayout;
+class QRadioButton;
 
 namespace korvel
 {
 
-/// Options of which one is chosen, as buttons in a row; the first at the start.
+/// Options of which one is chosen; the first at the start.
 class Options : public QButtonGroup
 {
 public:
@@ -22,8 +24,11 @@ public:
 
     int chosen() const { return checkedId(); }
     void choose(int option);
-    /// Adds the buttons to a row.
-    void addTo(QLayout& row) const;
+    /// The buttons as one switch, made for whoever lays it out.
+    QWidget* makeSwitch() const;
 };
+
+/// Options of one line as the parts of one switch, which touch each other.
+QHBoxLayout* switchOf(std::span<QRadioButton* const> options);
 
 } // namespace korvel

@@ -25,13 +25,15 @@ QGridLayout* newGrid()
     return grid;
 }
 
-void addScrolledPage(QWidget& body, PageBar& bar, QWidget* content, const QString& caption,
-                     const QString& name, const QString& words)
+FollowingScrollArea* addScrolledPage(QWidget& body, PageBar& bar, QWidget* content,
+                                     const QString& caption, const QString& name,
+                                     const QString& words)
 {
     auto* area = new FollowingScrollArea(content);
     area->foldColumns();
     body.layout()->addWidget(area);
     bar.addPage(caption, name, words, area);
+    return area;
 }
 
 QComboBox* makeList(QWidget* parent, const char* name, const char* words,

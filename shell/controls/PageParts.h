@@ -18,6 +18,7 @@ class QGridLayout;
 namespace korvel
 {
 
+class FollowingScrollArea;
 class PageBar;
 
 /// Pixels between the columns of a page, between its groups, between rows.
@@ -30,8 +31,10 @@ QGridLayout* newGrid();
 
 /// Adds a page that scrolls to a window's body and to its bar.
 /// @param name, words see PageBar::addPage
-void addScrolledPage(QWidget& body, PageBar& bar, QWidget* content, const QString& caption,
-                     const QString& name, const QString& words);
+/// @return the area that scrolls it
+FollowingScrollArea* addScrolledPage(QWidget& body, PageBar& bar, QWidget* content,
+                                     const QString& caption, const QString& name,
+                                     const QString& words);
 
 /// What a page has the record keep, in its order.
 struct PageRecord {

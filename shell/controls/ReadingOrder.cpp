@@ -2,6 +2,7 @@
 #include "shell/controls/ReadingOrder.h"
 
 #include "shell/controls/ResultLabel.h"
+#include "shell/layout/FollowingScrollArea.h"
 
 #include <QGridLayout>
 #include <QMainWindow>
@@ -51,6 +52,8 @@ void readLayout(const QLayout& layout, std::vector<QWidget*>& order)
 void readWidget(QWidget& widget, std::vector<QWidget*>& order)
 {
     if (auto* area = qobject_cast<QScrollArea*>(&widget)) {
+        auto* withHeading = qobject_cast<FollowingScrollArea*>(area);
+        if (withHeading && withHeading->heading()) readWidget(*withHeading->heading(), order);
         if (area->widget()) readWidget(*area->widget(), order);
         return;
     }

@@ -50,7 +50,8 @@ QFont small(QFont letters)
 
 } // namespace
 
-/// The ground of a row: a hairline below it, and tinted while the row is in hand.
+/// The ground of a row: tinted while the row is in hand, a hairline below it while it holds
+/// anything; empty rows are no fence.
 class RowTable::Ground final : public QWidget
 {
 public:
@@ -59,17 +60,25 @@ public:
         m_isInHand = inHand;
         update();
     }
+    void setFilled(bool filled)
+    {
+        if (filled == m_isFilled) return;
+        m_isFilled = filled;
+        update(0, height() - 1, width(), 1);
+    }
 
 protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
         if (m_isInHand) painter.fillRect(rect(), palette().alternateBase());
-        painter.fillRect(0, height() - 1, width(), 1, palette().color(hairRole));
+        if (m_isFilled || m_isInHand)
+            painter.fillRect(0, height() - 1, width(), 1, palette().color(hairRole));
     }
 
 private:
     bool m_isInHand = false;
+    bool m_isFilled = false;
 };
 
 RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
@@ -90,6 +99,8 @@ RowTable::RowTable(std::span<const TableColumn> columns, std::size_t rows)
         layOut(line, *widget);
         lines->addWidget(widget);
         m_lines.push_back(std::move(line));
+        for (const EntryBox* box : boxesOfRow(row))
+            connect(box, &QLineEdit::textChanged, this, [this, row] { showWhetherFilled(row); });
     }
     lines->addStretch();
     setEntryOrder(boxes());
@@ -108,10 +119,22 @@ void RowTable::setInHand(std::size_t row)
     m_inHand = row;
 }
 
+RowTable::Ground* RowTable::ground(std::size_t row) const
+{
+    return static_cast<Ground*>(number(row)->parentWidget());
+}
+
+void RowTable::showWhetherFilled(std::size_t row)
+{
+    const auto hasText = [](const auto* control) { return !control->text().isEmpty(); };
+    ground(row)->setFilled(std::ranges::any_of(boxesOfRow(row), hasText) ||
+                           std::ranges::any_of(resultsOfRow(row), hasText));
+}
+
 /// Boxes have their frames and answers stand out in the row in hand alone.
 void RowTable::dress(std::size_t row, bool inHand)
 {
-    static_cast<Ground*>(number(row)->parentWidget())->setInHand(inHand);
+    ground(row)->setInHand(inHand);
     QFont ofNumber = font();
     ofNumber.setBold(inHand);
     number(row)->setFont(ofNumber);

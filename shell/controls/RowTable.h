@@ -102,6 +102,7 @@ public:
             if (const std::string* text = Result<Row>::textOf(*table[i].text, shown))
                 result(row, i)->setText(asQString(*text));
         }
+        showWhetherFilled(row);
     }
 
     /// Row of a control; nothing when it is none of the table's.
@@ -115,6 +116,8 @@ private:
     class Ground;
     using Line = std::vector<QWidget*>; ///< by column
 
+    Ground* ground(std::size_t row) const;
+    void showWhetherFilled(std::size_t row);
     void setInHand(std::size_t row);
     void dress(std::size_t row, bool inHand);
     std::optional<std::size_t> rowByKey(const QKeyEvent& key, std::size_t from) const;

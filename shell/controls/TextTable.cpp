@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 #include <utility>
@@ -124,12 +125,13 @@ TextTable::TextTable(QWidget* parent, const QString& name, const QString& words)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(1);
-    horizontalHeader()->setStretchLastSection(true);
     giveWidths();
 }
 
 void TextTable::showRows(std::span<const Column> columns, std::size_t rows, Text text)
 {
+    // Figures keep to the figures beside them.
+    horizontalHeader()->setStretchLastSection(!columns.empty() && !columns.back().isFigure);
     m_rows->show(columns, rows, std::move(text));
     giveWidths();
 }
@@ -153,14 +155,26 @@ void TextTable::chooseRow(std::size_t row)
     scrollTo(at);
 }
 
-void TextTable::giveWidths()
+int TextTable::widthOf(const Column& column) const
 {
     const QFontMetrics metrics = fontMetrics();
-    verticalHeader()->setDefaultSectionSize(metrics.height() * 3 / 2);
+    return metrics.height() + std::max(metrics.horizontalAdvance(column.heading),
+                                       metrics.horizontalAdvance(column.widest));
+}
+
+void TextTable::giveWidths()
+{
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     for (int column = 0; const Column& each : m_rows->columns())
-        setColumnWidth(column++,
-                       metrics.height() + std::max(metrics.horizontalAdvance(each.heading),
-                                                   metrics.horizontalAdvance(each.widest)));
+        setColumnWidth(column++, widthOf(each));
+}
+
+int TextTable::widthOfColumns() const
+{
+    int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    for (const Column& each : m_rows->columns())
+        width += widthOf(each);
+    return width;
 }
 
 QSize TextTable::sizeHint() const

@@ -15,8 +15,9 @@ namespace korvel
 /// between columns.
 class TextTable : public QTableView
 {
-public:
-    struct Column {
+    Q_OBJECT // findChildren() tells it from other tables by this
+
+        public : struct Column {
         const char* heading;
         const char* widest; ///< of its texts, as a rule
         bool isFigure = true;
@@ -33,6 +34,8 @@ public:
     std::optional<std::size_t> chosenRow() const;
     void chooseRow(std::size_t row);
 
+    /// What its columns take, with the bar beside them.
+    int widthOfColumns() const;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -42,6 +45,7 @@ protected:
 
 private:
     class Rows;
+    int widthOf(const Column& column) const;
     void giveWidths();
     void copy() const;
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -50,7 +51,25 @@ void FollowingScrollArea::setHeading(QWidget* heading)
 {
     m_heading = heading;
     heading->setParent(this);
+    heading->installEventFilter(this);
     placeHeading();
+}
+
+/// Letters of another size make the heading higher.
+bool FollowingScrollArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_heading && event->type() == QEvent::LayoutRequest) placeHeading();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+void FollowingScrollArea::setAnswers(QWidget* answers)
+{
+    constexpr int below = 8;
+    auto* heading = new QWidget;
+    auto* column = new QVBoxLayout(heading);
+    column->setContentsMargins(0, 0, 0, below);
+    column->addWidget(answers);
+    setHeading(heading);
 }
 
 void FollowingScrollArea::foldColumns()

@@ -36,6 +36,9 @@ public:
 
     /// Puts a heading above the content. It moves sideways with it and never up.
     void setHeading(QWidget* heading);
+    /// The same for the answers of the content: they are in sight whatever one types below.
+    void setAnswers(QWidget* answers);
+    QWidget* heading() const { return m_heading; } ///< nullptr: there is none
 
     /// Puts the groups that stand side by side in the content one below the other where the area is
     /// too narrow for them.
@@ -52,6 +55,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void follow(QWidget* focus);

@@ -3,6 +3,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -70,7 +71,7 @@ QWidget* firstStop(QWidget& page)
                             each->isVisibleTo(&page) && each->isEnabled();
         if (!isStop) continue;
         if (qobject_cast<QLineEdit*>(each)) return each;
-        if (!first) first = each;
+        if (!first || qobject_cast<QLabel*>(first)) first = each; // a figure: only to be read
     }
     return first;
 }

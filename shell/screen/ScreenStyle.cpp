@@ -147,27 +147,49 @@ void drawHead(QPainter& painter, const QStyleOptionGroupBox& option)
     painter.restore();
 }
 
-/// Options of one letter, N and S or E and W, are the halves of a switch.
-const QStyleOptionButton* asSwitchHalf(const QStyleOption* option)
+constexpr const char* switchPart = "isSwitchPart";
+
+const QStyleOptionButton* asSwitchPart(const QStyleOption* option, const QWidget* widget)
 {
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    return button && button->text.size() == 1 ? button : nullptr;
+    const bool isPart = widget && widget->property(switchPart).toBool();
+    return isPart ? qstyleoption_cast<const QStyleOptionButton*>(option) : nullptr;
 }
 
-void drawSwitchHalf(QPainter& painter, const QStyleOptionButton& option)
+/// A part that cannot be chosen now has no ground of its own, as a box that takes nothing.
+QBrush groundOfPart(const QStyleOptionButton& option)
 {
     const bool isChosen = option.state & QStyle::State_On;
-    drawPanel(painter, option, isChosen ? option.palette.brush(accentRole) : option.palette.base(),
-              hasFocus(option));
+    if (!(option.state & QStyle::State_Enabled))
+        return option.palette.brush(isChosen ? QPalette::AlternateBase : QPalette::Window);
+    return isChosen ? option.palette.brush(accentRole) : option.palette.base();
+}
+
+QColor lettersOfPart(const QStyleOptionButton& option)
+{
+    if (!(option.state & QStyle::State_Enabled)) return markColour(option);
+    return option.palette.color(option.state & QStyle::State_On ? QPalette::Base : quietRole);
+}
+
+void drawSwitchPart(QPainter& painter, const QStyleOptionButton& option)
+{
+    const bool isChosen = option.state & QStyle::State_On;
+    drawPanel(painter, option, groundOfPart(option), hasFocus(option));
     painter.save();
     if (isChosen && hasFocus(option)) { // its outline alone is lost beside the ground
         painter.setPen(QPen(option.palette.color(QPalette::Base), focusWidth));
         painter.drawRect(option.rect.adjusted(4, 4, -4, -4));
     }
     if (isChosen) painter.setFont(headLetters(painter.font()));
-    painter.setPen(option.palette.color(isChosen ? QPalette::Base : quietRole));
-    painter.drawText(option.rect, Qt::AlignCenter, option.text);
+    painter.setPen(lettersOfPart(option));
+    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextShowMnemonic, option.text);
     painter.restore();
+}
+
+QSize sizeOfPart(const QStyleOptionButton& option, const QFont& letters)
+{
+    const QFontMetrics bold(headLetters(letters));
+    const int words = bold.size(Qt::TextShowMnemonic, option.text).width();
+    return {std::max(2 * bold.height(), words + bold.height()), bold.height() * 3 / 2};
 }
 
 /// Degrees that an arrow which points down is turned by.
@@ -232,6 +254,11 @@ bool isMessageIcon(QStyle::StandardPixmap which)
 }
 
 } // namespace
+
+void drawAsSwitchPart(QRadioButton& option)
+{
+    option.setProperty(switchPart, true);
+}
 
 ScreenStyle::ScreenStyle() : QProxyStyle("Fusion") {}
 
@@ -322,8 +349,14 @@ void ScreenStyle::drawControl(ControlElement element, const QStyleOption* option
                           outlineOf(*option));
         return;
     }
+    if (element == CE_HeaderSection) { // names of columns over a hairline, as in every table
+        painter->fillRect(option->rect, option->palette.window());
+        painter->fillRect(QRect(option->rect.bottomLeft(), QSize(option->rect.width(), 1)),
+                          option->palette.color(hairRole));
+        return;
+    }
     if (element == CE_RadioButton) {
-        if (const auto* half = asSwitchHalf(option)) return drawSwitchHalf(*painter, *half);
+        if (const auto* part = asSwitchPart(option, widget)) return drawSwitchPart(*painter, *part);
     }
     const auto draw = [&](const QStyleOption& with) {
         QProxyStyle::drawControl(element, &with, painter, widget);
@@ -335,10 +368,6 @@ void ScreenStyle::drawControl(ControlElement element, const QStyleOption* option
                                      drawTinted(*option, &QStyleOptionMenuItem::icon, draw) ||
                                      drawTinted(*option, &QStyleOptionComboBox::currentIcon, draw));
     if (!done) draw(*option);
-    if (element != CE_HeaderSection) return;
-    painter->setPen(outlineOf(*option));
-    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
-    painter->drawLine(option->rect.topRight(), option->rect.bottomRight());
 }
 
 void ScreenStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -390,9 +419,7 @@ QRect ScreenStyle::subControlRect(ComplexControl control, const QStyleOptionComp
 QRect ScreenStyle::subElementRect(SubElement element, const QStyleOption* option,
                                   const QWidget* widget) const
 {
-    const auto* radio = qobject_cast<const QRadioButton*>(widget);
-    if (element == SE_RadioButtonIndicator && radio && radio->text().size() == 1)
-        return option->rect;
+    if (element == SE_RadioButtonIndicator && asSwitchPart(option, widget)) return option->rect;
     return QProxyStyle::subElementRect(element, option, widget);
 }
 
@@ -437,9 +464,9 @@ QSize ScreenStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
                              .size(Qt::TextShowMnemonic, group->text)
                              .width());
     }
-    if (type == CT_RadioButton && asSwitchHalf(option)) {
-        const int letter = option->fontMetrics.height();
-        own = QSize(2 * letter, letter * 3 / 2);
+    if (type == CT_RadioButton) {
+        if (const auto* part = asSwitchPart(option, widget))
+            return sizeOfPart(*part, widget->font());
     }
     return own;
 }

@@ -3,6 +3,7 @@
 
 #include <QProxyStyle>
 
+class QRadioButton;
 class QStyleOptionSlider;
 
 namespace korvel
@@ -56,5 +57,8 @@ private:
 
     int m_zoom = 100;
 };
+
+/// Has an option drawn as a part of a switch: filled while it is chosen, without a mark.
+void drawAsSwitchPart(QRadioButton& option);
 
 } // namespace korvel

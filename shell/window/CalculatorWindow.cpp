@@ -6,6 +6,7 @@
 #include "shell/controls/ChosenOption.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/ReadingOrder.h"
+#include "shell/controls/TextTable.h"
 #include "shell/layout/FollowingScrollArea.h"
 #include "shell/paper/PaperWindow.h"
 #include "shell/screen/WidgetColours.h"
@@ -211,6 +212,11 @@ void CalculatorWindow::foldColumns()
     m_scrollArea->foldColumns();
 }
 
+void CalculatorWindow::pinAnswers(QWidget* answers)
+{
+    m_scrollArea->setAnswers(answers);
+}
+
 void CalculatorWindow::addBelow(QWidget* widget)
 {
     auto* column = static_cast<QVBoxLayout*>(centralWidget()->layout());
@@ -309,7 +315,10 @@ void CalculatorWindow::fit()
     if (m_strip) m_strip->setFixedHeight(m_strip->widget()->sizeHint().height());
     settleLayouts(*this);
     const QSize around = sizeHint() - m_scrollArea->sizeHint();
-    const QSize wanted = m_scrollArea->sizeFor(room.width() - around.width()) + around;
+    QSize wanted = m_scrollArea->sizeFor(room.width() - around.width()) + around;
+    // Tables of other pages scroll up and down only where the screen has the room.
+    for (const TextTable* table : m_body->findChildren<TextTable*>())
+        wanted = wanted.expandedTo(QSize(table->widthOfColumns() + around.width(), 0));
     settleLayouts(*this);
     m_scrollArea->foldByHand(false);
     resize(wanted.expandedTo(menus).boundedTo(room));

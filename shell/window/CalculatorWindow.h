@@ -121,6 +121,8 @@ protected:
     /// Lets the groups in it stand one below the other where the window is narrow; called when they
     /// are laid out.
     void foldColumns();
+    /// Keeps the answers above what scrolls.
+    void pinAnswers(QWidget* answers);
     /// Puts a scroll area of the window's own into the body.
     void setScrollArea(FollowingScrollArea* area);
     /// Opens the window as large as it wants and the screen allows. A scroll area asks for this by

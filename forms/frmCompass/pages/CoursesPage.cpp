@@ -31,7 +31,7 @@ CoursesPage::CoursesPage(QWidget* parent)
                           {"as typed", "curve, standard", "curve, steering"})),
       m_cmdErrors(makeButton(this, "cmdErrors", "Errors as &found",
                              "Gyro error, variation and deviation of the first page")),
-      m_picture(new CoursesPicture(this))
+      m_picture(new CoursesPicture(this)), m_answers(new QWidget(this))
 {
     for (ResultLabel* label : m_lblCourses.all())
         label->setRoom(label == m_lblCourses.all().back() ? "0000 d 00 h 00 m" : "<000.0>");
@@ -48,9 +48,10 @@ CoursesPage::CoursesPage(QWidget* parent)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(pageGap);
     grid->setVerticalSpacing(pageGroupGap);
-    grid->addLayout(left, 0, 0);
+    grid->addLayout(left, 0, 0, 2, 1);
     grid->addWidget(m_picture, 0, 1);
-    grid->addLayout(layOutResults(), 1, 0, 1, 2);
+    grid->addLayout(layOutFigures(), 1, 1);
+    layOutAnswers();
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(0, 1);
     connect(m_optGiven, &QButtonGroup::idToggled, this, [this](int, bool chosen) {
@@ -80,11 +81,8 @@ QLayout* CoursesPage::layOutCourse()
 {
     auto* grid = newGrid();
     grid->addWidget(sectionHead("Course and current"), 0, 0, 1, 3);
-    auto* options = new WrappingRow;
-    for (QAbstractButton* each : m_optGiven->buttons())
-        options->addWidget(each);
     grid->addWidget(quietLabel("It is the"), 1, 0);
-    grid->addLayout(options, 1, 1, 1, 2);
+    grid->addWidget(m_optGiven->makeSwitch(), 1, 1, 1, 2);
     int row = 2;
     for (const CourseBox which : {CourseBox::Course, CourseBox::Speed, CourseBox::Leeway,
                                   CourseBox::Set, CourseBox::Drift, CourseBox::Distance})
@@ -106,9 +104,9 @@ QLayout* CoursesPage::layOutCompass()
     return grid;
 }
 
-QLayout* CoursesPage::layOutResults()
+void CoursesPage::layOutAnswers()
 {
-    auto* row = new WrappingRow;
+    auto* row = new WrappingRow(m_answers);
     row->setGap(pageGap);
     const auto part = [&](const char* head, std::size_t first, std::size_t last) {
         auto* grid = newGrid();
@@ -124,17 +122,20 @@ QLayout* CoursesPage::layOutResults()
     };
     part("Head to steer", SteeredTrue, SteeredByCompass);
     part("Made good", Track, SpeedMadeGood);
+    row->addStretch();
+}
+
+QLayout* CoursesPage::layOutFigures()
+{
     auto* details = newGrid();
-    details->addWidget(sectionHead("Beside it"), 0, 0, 1, 4);
+    details->addWidget(sectionHead("Beside it"), 0, 0, 1, 5);
     for (std::size_t i = Magnetic; i < CourseResults.size(); ++i) {
         const int place = static_cast<int>(i - Magnetic);
         details->addWidget(quietLabel(CourseResults[i].caption), 1 + place / 2, place % 2 * 2);
         details->addWidget(m_lblCourses[i], 1 + place / 2, place % 2 * 2 + 1);
     }
-    details->setRowStretch(3, 1);
-    row->addLayout(details);
-    row->addStretch();
-    return row;
+    details->setColumnStretch(4, 1);
+    return details;
 }
 
 std::optional<CompassKind> CoursesPage::curve() const
@@ -161,6 +162,7 @@ void CoursesPage::show(const CourseResult& result)
 void CoursesPage::setColours(const ColourScheme& colours)
 {
     tintQuietLabels(*this, colours);
+    tintQuietLabels(*m_answers, colours); // they have left the page
 }
 
 PageRecord CoursesPage::kept()

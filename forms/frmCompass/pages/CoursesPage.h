@@ -36,6 +36,9 @@ public:
     CoursesPicture& picture() const { return *m_picture; }
     void clear() { m_txtCourses.clear(0, m_txtCourses.size()); }
 
+    /// Head to steer and what is made good, for above what scrolls.
+    QWidget* answers() const { return m_answers; }
+
 signals:
     void choiceChanged();
     void errorsAsked();
@@ -43,7 +46,8 @@ signals:
 private:
     QLayout* layOutCourse();
     QLayout* layOutCompass();
-    QLayout* layOutResults();
+    void layOutAnswers();
+    QLayout* layOutFigures();
     void addRow(QGridLayout* grid, int row, CourseBox which) const;
 
     FieldBoxes m_txtCourses;
@@ -52,6 +56,7 @@ private:
     QComboBox* m_cboCurve;
     QPushButton* m_cmdErrors;
     CoursesPicture* m_picture;
+    QWidget* m_answers;
 };
 
 } // namespace korvel

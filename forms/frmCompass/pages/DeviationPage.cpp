@@ -71,7 +71,7 @@ QLayout* DeviationPage::layOutChoice()
 {
     auto* grid = newGrid();
     auto* options = new QHBoxLayout;
-    m_optDeviation->addTo(*options);
+    options->addWidget(m_optDeviation->makeSwitch());
     options->addStretch();
     grid->addWidget(quietLabel("Compass"), 0, 0);
     grid->addLayout(options, 0, 1);

@@ -66,9 +66,10 @@ constexpr std::array<const char*, CompassResults.size()> widestResults{
 
 ErrorPage::ErrorPage(QWidget* parent)
     : ScrolledBody(parent), m_txtCompass(CompassFields, this), m_txtBook(bookFields, this),
-      m_lblCompass(CompassResults, this)
+      m_lblCompass(CompassResults, this), m_answers(new QWidget(this))
 {
     makeControls();
+    layOutAnswers();
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(pageGap);
@@ -76,9 +77,8 @@ ErrorPage::ErrorPage(QWidget* parent)
     grid->addLayout(layOutObservation(), 0, 0);
     grid->addLayout(layOutBearings(), 0, 1);
     grid->addLayout(layOutRecord(), 1, 0, 1, 2);
-    grid->addLayout(layOutAnswers(), 2, 0, 1, 2);
-    grid->addLayout(layOutDetails(), 3, 0, 1, 2);
-    grid->setRowStretch(4, 1);
+    grid->addLayout(layOutDetails(), 2, 0, 1, 2);
+    grid->setRowStretch(3, 1);
     grid->setColumnStretch(1, 1);
 }
 
@@ -147,12 +147,12 @@ QLayout* ErrorPage::layOutObservation()
     }
     auto* clock = new QHBoxLayout;
     clock->addWidget(m_cmdNow);
-    m_optClock->addTo(*clock);
+    clock->addWidget(m_optClock->makeSwitch());
     clock->addStretch();
     grid->addLayout(clock, 1, 2);
     grid->addWidget(quietLabel("name, or number of a star"), 4, 2);
     auto* method = new QHBoxLayout;
-    m_optMethod->addTo(*method);
+    method->addWidget(m_optMethod->makeSwitch());
     method->addStretch();
     grid->addWidget(quietLabel("Method"), row, 0);
     grid->addLayout(method, row++, 1, 1, 2);
@@ -191,7 +191,7 @@ QLayout* ErrorPage::layOutBearings()
         ++row;
     }
     auto* variation = new QHBoxLayout;
-    m_optVariation->addTo(*variation);
+    variation->addWidget(m_optVariation->makeSwitch());
     variation->addStretch();
     grid->addLayout(variation, 5, 2, 1, 2);
     grid->setColumnStretch(3, 1);
@@ -211,14 +211,14 @@ QLayout* ErrorPage::layOutRecord()
     return row;
 }
 
-QLayout* ErrorPage::layOutAnswers()
+void ErrorPage::layOutAnswers()
 {
     struct Part {
         const char* head;
         std::vector<std::size_t> answers;
         std::size_t curve;
     };
-    auto* row = new WrappingRow;
+    auto* row = new WrappingRow(m_answers);
     row->setGap(pageGap);
     for (const Part& part :
          {Part{"True bearing", {True}, 0}, Part{"Gyro", {GyroError}, 0},
@@ -237,7 +237,6 @@ QLayout* ErrorPage::layOutAnswers()
         row->addLayout(grid);
     }
     row->addStretch();
-    return row;
 }
 
 QLayout* ErrorPage::layOutDetails()
@@ -306,6 +305,7 @@ void ErrorPage::show(const CompassResult& result)
 void ErrorPage::setColours(const ColourScheme& colours)
 {
     tintQuietLabels(*this, colours);
+    tintQuietLabels(*m_answers, colours); // they have left the page
 }
 
 PageRecord ErrorPage::kept()

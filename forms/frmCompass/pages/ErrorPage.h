@@ -43,6 +43,9 @@ public:
     bool isShipsTime() const { return m_optClock->chosen() == 1; }
     void choose(CompassClock clock, CompassMethod method, bool usesModel);
 
+    /// Errors and deviations, for above what scrolls.
+    QWidget* answers() const { return m_answers; }
+
 signals:
     void choiceChanged();
     void nowAsked();
@@ -53,7 +56,7 @@ private:
     QLayout* layOutObservation();
     QLayout* layOutBearings();
     QLayout* layOutRecord();
-    QLayout* layOutAnswers();
+    void layOutAnswers();
     QLayout* layOutDetails();
     void showVariation();
     void showChoices();
@@ -69,6 +72,7 @@ private:
     QPushButton* m_cmdNow;
     QPushButton* m_cmdRecord;
     ResultLabels<CompassResult> m_lblCompass;
+    QWidget* m_answers;
 };
 
 } // namespace korvel

@@ -4,15 +4,31 @@
 #include "almanac/page_text.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
+#include "shell/screen/ZoomSizes.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QVBoxLayout>
 
 namespace korvel
 {
 
+/// Columns of figures in letters of one width, as large as those around them.
+class AlmanacPage::Sheet final : public QPlainTextEdit, public SizedByLetters
+{
+public:
+    explicit Sheet(QWidget* parent) : QPlainTextEdit(parent) { sizeByLetters(); }
+
+    void sizeByLetters() override
+    {
+        QFont letters = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+        letters.setPointSizeF(QApplication::font().pointSizeF());
+        setFont(letters);
+    }
+};
+
 AlmanacPage::AlmanacPage(QWidget* parent, const FieldBoxes& boxes)
-    : ScrolledBody(parent), m_text(new QPlainTextEdit(this)),
+    : ScrolledBody(parent), m_text(new Sheet(this)),
       m_cmdPrint(makeButton(this, "cmdPrintAlmanac", "&Print..",
                             "Shows the two sheets of the three days and prints them")),
       m_cmdSave(makeButton(this, "cmdSaveAlmanac", "Save as P&DF..", "The two sheets as a file"))
@@ -34,7 +50,6 @@ AlmanacPage::AlmanacPage(QWidget* parent, const FieldBoxes& boxes)
     m_text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(pageGroupGap);

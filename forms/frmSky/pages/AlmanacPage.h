@@ -29,6 +29,8 @@ signals:
     void saveAsked();
 
 private:
+    class Sheet;
+
     QPlainTextEdit* m_text;
     QPushButton* m_cmdPrint;
     QPushButton* m_cmdSave;

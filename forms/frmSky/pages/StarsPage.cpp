@@ -100,13 +100,12 @@ QLayout* StarsPage::layOutQuestion()
             isFirst = false;
         }
     };
-    add({quietLabel(SkyFields[placeOf(SkyBox::StarsAt)].caption, at), at, m_optTwilight->button(0),
-         m_optTwilight->button(1), quietLabel("twilight")});
-    add({quietLabel("Round of"), m_optCount->button(0), m_optCount->button(1),
-         m_optCount->button(2)});
+    add({quietLabel(SkyFields[placeOf(SkyBox::StarsAt)].caption, at), at,
+         m_optTwilight->makeSwitch(), quietLabel("twilight")});
+    add({quietLabel("Round of"), m_optCount->makeSwitch()});
     add({m_cmdSend});
     row->addStretch();
-    add({m_optUp->button(0), m_optUp->button(1)});
+    add({m_optUp->makeSwitch()});
     return row;
 }
 

@@ -43,7 +43,7 @@ UnknownPage::UnknownPage(QWidget* parent, const FieldBoxes& boxes)
     for (const SkyBox which :
          {SkyBox::UnknownAt, SkyBox::UnknownAltitude, SkyBox::UnknownBearing}) {
         EntryBox* entry = boxes[placeOf(which)];
-        entry->setFixedWidth(entry->fontMetrics().horizontalAdvance("0000/00/00 00:00:00"));
+        entry->setFixedWidth(entry->fontMetrics().horizontalAdvance("0000/00/00 00:00:00 00"));
         grid->addWidget(quietLabel(SkyFields[placeOf(which)].caption, entry), row, 0);
         grid->addWidget(entry, row, 1);
         if (auto* position = dynamic_cast<PositionBox*>(entry))

@@ -12,8 +12,10 @@ namespace korvel
 
 /// The fix, and how good it is.
 inline constexpr std::array<Result<SightFixResult>, 8> fixResults = {{
-    {"lblSunFix(0)", "", "", Weight::Answer, &SightFixResult::latitude, "Latitude of the fix"},
-    {"lblSunFix(1)", "", "", Weight::Answer, &SightFixResult::longitude, "Longitude of the fix"},
+    {"lblSunFix(0)", "Fix, latitude", "", Weight::Answer, &SightFixResult::latitude,
+     "Latitude of the fix"},
+    {"lblSunFix(1)", "Fix, longitude", "", Weight::Answer, &SightFixResult::longitude,
+     "Longitude of the fix"},
     {"lblSunFix(2)", "", "", Weight::Remark, &SightFixResult::time, "Time of the fix"},
     {"lblSunFix(3)", "", "", Weight::Remark, &SightFixResult::ellipseText,
      "Error ellipse of the fix"},

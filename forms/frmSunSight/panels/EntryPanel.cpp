@@ -5,6 +5,7 @@
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/sight/SightBody.h"
 #include "forms/frmSunSight/sight/SightLine.h"
+#include "shell/controls/Options.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/machine/AsQString.h"
 
@@ -105,9 +106,7 @@ QGroupBox* EntryPanel::layOutSight()
     int row = 0;
     m_body.addRow(grid, row++, 0);
     const auto addOptionRow = [&](const char* caption, const auto& buttons) {
-        auto* line = new QHBoxLayout;
-        for (QRadioButton* button : buttons)
-            line->addWidget(button);
+        QHBoxLayout* line = switchOf(buttons);
         line->addStretch(1);
         grid->addWidget(new QLabel(caption), row, 0);
         grid->addLayout(line, row++, 1, 1, 2);

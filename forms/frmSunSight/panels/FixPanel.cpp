@@ -5,6 +5,7 @@
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/panels/SeriesPicture.h"
 #include "forms/frmSunSight/panels/SightPicture.h"
+#include "shell/controls/AnswerStrip.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -17,7 +18,7 @@ namespace korvel
 namespace
 {
 
-constexpr int leastSentences = 5; // lines that are seen
+constexpr int leastSentences = 4; // lines that are seen
 
 } // namespace
 
@@ -56,11 +57,13 @@ void FixPanel::layOutFix()
     auto* column = new QVBoxLayout(m_fixPart);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    m_lblSunFix[0]->setRoom("00-.00'0N ");
-    m_lblSunFix[1]->setRoom("000-.00'0W");
-    column->addWidget(m_lblSunFix[0]);
-    column->addWidget(m_lblSunFix[1]);
     column->addWidget(sentences(), 1);
+}
+
+void FixPanel::addAnswers(AnswerStrip& strip) const
+{
+    m_lblSunFix.addAnswer(&strip, 0, "00-.00'0N ");
+    m_lblSunFix.addAnswer(&strip, 1, "000-.00'0W");
 }
 
 void FixPanel::layOutSeries()

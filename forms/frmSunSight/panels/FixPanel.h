@@ -33,6 +33,8 @@ public:
 
     /// The series of shots: residuals drawn and in words; hidden while there is none.
     QWidget* seriesPart() const { return m_seriesPart; }
+    /// Adds the position of the fix to the answers of the window.
+    void addAnswers(AnswerStrip& strip) const;
     QGroupBox* fixPart() const { return m_fixPart; }
     const std::vector<ResultLabel*>& results() const { return m_lblSunFix.all(); }
 

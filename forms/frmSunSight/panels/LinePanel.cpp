@@ -3,6 +3,7 @@
 
 #include "forms/frmSunSight/panels/PanelParts.h"
 #include "forms/frmSunSight/sight/LineResults.h"
+#include "shell/controls/AnswerStrip.h"
 #include "shell/controls/Boxes.h"
 
 #include <QGridLayout>
@@ -15,7 +16,8 @@ LinePanel::LinePanel(QWidget* parent)
     : QWidget(parent), m_noon(new QGroupBox("Meridian passage", parent)),
       m_worksheet(new QGroupBox("Worksheet", this)), m_details(new DetailsFold(m_worksheet, this)),
       m_lblSunBody(sightBodyResults, this), m_lblSunTime(sightTimeResults, this),
-      m_lblSunLine(lineResults, this), m_lblSunNoon(noonResults, this)
+      m_lblSunLine(lineResults, this), m_lblSunNoon(noonResults, this),
+      m_answers(new AnswerStrip(this))
 {
     auto* column = new QVBoxLayout(this);
     layOutBody(*column, Spacing::Dense);
@@ -58,11 +60,9 @@ QGroupBox* LinePanel::layOutLine()
     auto* group = new QGroupBox("Line of position");
     auto* grid = gridOf(group, Spacing::Dense);
     using namespace LineShown;
-    auto* answers = new AnswerStrip;
-    m_lblSunLine.addAnswer(answers, intercept, "000'.0 T");
-    m_lblSunLine.addAnswer(answers, Zn, "000.0");
-    grid->addWidget(answers, 0, 0, 1, 2);
-    int row = 1;
+    m_lblSunLine.addAnswer(m_answers, intercept, "000'.0 T");
+    m_lblSunLine.addAnswer(m_answers, Zn, "000.0");
+    int row = 0;
     for (const std::size_t figure : {declination, GHA, DR, Hc}) {
         m_lblSunLine[figure]->setRoom("000.-00'0W", figure == DR ? 2 : 1);
         m_lblSunLine[figure]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

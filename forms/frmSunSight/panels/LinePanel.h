@@ -27,6 +27,8 @@ public:
     /// What the body is, for the place beside its box.
     ResultLabel* bodyLabel() const { return m_lblSunBody[0]; }
     QGroupBox* noon() const { return m_noon; }
+    /// Intercept and azimuth, for above what scrolls.
+    AnswerStrip* answers() const { return m_answers; }
     DetailsFold& details() { return *m_details; }
 
 private:
@@ -48,6 +50,7 @@ private:
     std::array<ResultLabel*, worksheetLines> m_lblSunValue{};
     ResultLabels<LOPResult> m_lblSunLine;
     ResultLabels<MeridianResult> m_lblSunNoon;
+    AnswerStrip* m_answers;
 };
 
 } // namespace korvel

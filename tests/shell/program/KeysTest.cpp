@@ -91,8 +91,11 @@ std::vector<QWidget*> tabStops(QWidget& window)
     } while (at != first);
     // From the one that stands first on the screen.
     const auto place = [&](QWidget* each) {
-        const QPoint p = each->mapTo(&window, QPoint());
-        return p.y() + p.x();
+        QPoint p = each->mapTo(&window, QPoint());
+        for (QWidget* around = each; around != &window; around = around->parentWidget())
+            if (auto* area = qobject_cast<QScrollArea*>(around)) // what has scrolled out at its top
+                p.setY(std::max(p.y(), area->viewport()->mapTo(&window, QPoint()).y()));
+        return 4 * p.y() + p.x(); // columns stand side by side
     };
     const auto start = std::min_element(stops.begin(), stops.end(),
                                         [&](auto* a, auto* b) { return place(a) < place(b); });
