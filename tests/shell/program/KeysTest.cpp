@@ -93,8 +93,8 @@ std::vector<QWidget*> tabStops(QWidget& window)
     const auto place = [&](QWidget* each) {
         QPoint p = each->mapTo(&window, QPoint());
         for (QWidget* around = each; around != &window; around = around->parentWidget())
-            if (auto* area = qobject_cast<QScrollArea*>(around)) // what has scrolled out at its top
-                p.setY(std::max(p.y(), area->viewport()->mapTo(&window, QPoint()).y()));
+            if (around->parentWidget() && around->objectName() == "qt_scrollarea_viewport")
+                p.setY(std::max(p.y(), around->mapTo(&window, QPoint()).y())); // scrolled out
         return 4 * p.y() + p.x(); // columns stand side by side
     };
     const auto start = std::min_element(stops.begin(), stops.end(),
