@@ -55,11 +55,13 @@ void FollowingScrollArea::setHeading(QWidget* heading)
     placeHeading();
 }
 
-/// Letters of another size make the heading higher.
+/// Letters of another size make the heading higher, groups that fold make the content narrower.
 bool FollowingScrollArea::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_heading && event->type() == QEvent::LayoutRequest) placeHeading();
-    return QScrollArea::eventFilter(watched, event);
+    const bool done = QScrollArea::eventFilter(watched, event);
+    const auto changes = watched == m_heading ? QEvent::LayoutRequest : QEvent::Resize;
+    if (m_heading && event->type() == changes) placeHeading();
+    return done;
 }
 
 void FollowingScrollArea::setAnswers(QWidget* answers)

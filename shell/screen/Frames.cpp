@@ -3,6 +3,7 @@
 
 #include "shell/screen/DarkFrames.h"
 #include "shell/screen/OwnFrame.h"
+#include "shell/screen/OwnTitle.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -22,6 +23,17 @@ OwnFrame* ownFrameOf(QMainWindow& window, bool isWanted)
     frame = new OwnFrame(window);
     window.setProperty(kept, QVariant::fromValue(frame));
     return frame;
+}
+
+/// That of the manual or of a dialog.
+OwnTitle* ownTitleOf(QWidget& window, bool isWanted)
+{
+    constexpr const char* kept = "ownTitle";
+    auto* title = window.property(kept).value<OwnTitle*>();
+    if (title || !isWanted) return title;
+    title = new OwnTitle(window);
+    window.setProperty(kept, QVariant::fromValue(title));
+    return title;
 }
 
 bool hasFrame(const QWidget& window)
@@ -58,7 +70,12 @@ void Frames::dress(QWidget& window) const
     if (!hasFrame(window)) return;
     if (m_wereDark) wishForFrame(window, m_isDark);
     auto* withMenus = qobject_cast<QMainWindow*>(&window);
-    if (!withMenus || !withMenus->menuWidget() || !withMenus->centralWidget()) return;
+    if (!withMenus) {
+        if (OwnTitle* title = window.layout() ? ownTitleOf(window, m_areOwn) : nullptr)
+            title->hold(m_areOwn);
+        return;
+    }
+    if (!withMenus->menuWidget() || !withMenus->centralWidget()) return;
     if (OwnFrame* frame = ownFrameOf(*withMenus, m_areOwn)) frame->hold(m_areOwn);
 }
 

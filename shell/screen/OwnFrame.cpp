@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/screen/OwnFrame.h"
 
+#include "shell/screen/OwnTitle.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
@@ -15,26 +17,6 @@
 
 namespace korvel
 {
-namespace
-{
-
-QToolButton* addButton(QHBoxLayout& row, const QString& sign, const QString& name,
-                       const QString& says)
-{
-    auto* button = new QToolButton;
-    button->setText(sign);
-    button->setObjectName(name);
-    button->setAccessibleName(says);
-    button->setToolTip(says);
-    button->setAutoRaise(true);
-    button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
-    button->setFocusPolicy(Qt::NoFocus); // Tab goes through the work, as with the desktop's frame
-    row.addWidget(button);
-    return button;
-}
-
-} // namespace
-
 OwnFrame::OwnFrame(QMainWindow& window) : QWidget(&window), m_window(window), m_title(new QLabel)
 {
     setObjectName("ownFrame");
@@ -43,9 +25,9 @@ OwnFrame::OwnFrame(QMainWindow& window) : QWidget(&window), m_window(window), m_
     row->setSpacing(fontMetrics().averageCharWidth());
     row->addWidget(m_title);
     m_title->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    connect(addButton(*row, "–", "cmdMinimise", "Minimise"), &QToolButton::clicked, &window,
+    connect(addFrameButton(*row, "–", "cmdMinimise", "Minimise"), &QToolButton::clicked, &window,
             &QWidget::showMinimized);
-    connect(addButton(*row, "×", "cmdCloseWindow", "Close"), &QToolButton::clicked, &window,
+    connect(addFrameButton(*row, "×", "cmdCloseWindow", "Close"), &QToolButton::clicked, &window,
             &QWidget::close);
     connect(&window, &QWidget::windowTitleChanged, this, &OwnFrame::fitTitle);
     window.menuBar()->installEventFilter(this);

@@ -50,6 +50,15 @@ void WindowTest::writeFile(const std::string& name, const std::string& bytes)
     file.write(bytes.data(), static_cast<qint64>(bytes.size()));
 }
 
+std::string WindowTest::newFile(const char* name, const std::string& bytes) const
+{
+    const QString path = folder.filePath(name);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromStdString(bytes));
+    return path.toStdString();
+}
+
 QWidget* shown(const QString& name)
 {
     for (QWidget* each : QApplication::topLevelWidgets())

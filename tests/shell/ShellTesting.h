@@ -52,6 +52,8 @@ protected:
 
     std::string fileText(const std::string& name) const;
     void writeFile(const std::string& name, const std::string& bytes);
+    /// A file that the officer has there already. @return its path
+    std::string newFile(const char* name, const std::string& bytes) const;
 
     QTemporaryDir folder;
     FakeQuestions questions;
@@ -64,6 +66,18 @@ private:
 
     std::unique_ptr<frmKORVEL2000> m_main;
     std::vector<QPointer<QWidget>> m_opened;
+};
+
+/// Counts how often what it watches is painted.
+class Paints : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        seen += event->type() == QEvent::Paint;
+        return false;
+    }
+    int seen = 0;
 };
 
 /// A window on the screen by its object name; none when it is not there.

@@ -13,7 +13,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
-#include <QFile>
 #include <QMimeData>
 #include <QTest>
 
@@ -58,15 +57,6 @@ protected:
         return at.data(line == 0 ? int(Qt::DisplayRole) : int(Qt::UserRole))
             .toString()
             .toStdString();
-    }
-
-    std::string newFile(const char* name, const std::string& bytes)
-    {
-        const QString path = folder.filePath(name);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromStdString(bytes));
-        return path.toStdString();
     }
 };
 

@@ -10,7 +10,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QFile>
 #include <QTest>
 
 namespace korvel
@@ -59,15 +58,6 @@ protected:
             .data(second ? int(RowsView::SecondLine) : int(Qt::DisplayRole))
             .toString()
             .toStdString();
-    }
-
-    std::string newFile(const char* name, const std::string& bytes)
-    {
-        const QString path = folder.filePath(name);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray::fromStdString(bytes));
-        return path.toStdString();
     }
 };
 

@@ -129,14 +129,7 @@ TEST_F(BoxesTest, aKeyCountsWhenItIsReleased)
 
 TEST_F(BoxesTest, theFootTellsWhatABoxTakes)
 {
-    struct Paints : QObject {
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            seen += event->type() == QEvent::Paint;
-            return false;
-        }
-        int seen = 0;
-    } paints;
+    Paints paints;
     NoticeLine foot;
     foot.setParent(&window);
     foot.resize(300, 40);

@@ -367,6 +367,10 @@ TEST_F(NightTest, windowsDoWithoutTheDesktopsFrameWhereOneWantsThat)
     EXPECT_TRUE(isFrameless(wind) && isFrameless(main));
     EXPECT_EQ(title(wind), wind.windowTitle());
     EXPECT_EQ(wind.findChild<QMenuBar*>()->height(), menus.height()) << "what is below moves";
+    main.help().openPage("frmWind");
+    QTest::qWait(20);
+    EXPECT_EQ(title(onScreen("frmHelp")), onScreen("frmHelp").windowTitle());
+    EXPECT_TRUE(isFrameless(onScreen("frmHelp")));
     QWidget& opened = window("frmETA");
     EXPECT_TRUE(isFrameless(opened));
     QTest::mouseClick(opened.findChild<QWidget*>("cmdCloseWindow"), Qt::LeftButton);
@@ -374,8 +378,17 @@ TEST_F(NightTest, windowsDoWithoutTheDesktopsFrameWhereOneWantsThat)
     // An older version knows nothing of it, and loses none of the places for it.
     const auto kept = ScreenChoices::of(main.program().screen().choices().record());
     EXPECT_TRUE(kept.ownFrames && kept == main.program().screen().choices());
+    QTimer::singleShot(50, [&] {
+        auto* question = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(question);
+        EXPECT_EQ(title(*question), QString(programTitle));
+        QTest::mouseClick(question->findChild<QWidget*>("cmdCloseWindow"), Qt::LeftButton);
+    });
+    EXPECT_EQ(MessageQuestions().ask({"Are you sure to exit?", programTitle, Buttons::OkCancel}),
+              Answer::Cancel);
     QTest::keyClick(&wind, Qt::Key_F8);
-    EXPECT_FALSE(isFrameless(wind) || isFrameless(main));
+    EXPECT_FALSE(isFrameless(wind) || isFrameless(main) || isFrameless(onScreen("frmHelp")));
+    EXPECT_EQ(title(onScreen("frmHelp")), "none");
     EXPECT_EQ(title(wind), "none");
 }
 
@@ -398,14 +411,7 @@ TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
 /// A sheet that stays white by night until something else paints it.
 TEST_F(NightTest, aSheetOfPaperFollowsAtOnce)
 {
-    struct Paints : QObject {
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            seen += event->type() == QEvent::Paint;
-            return false;
-        }
-        int seen = 0;
-    } paints;
+    Paints paints;
     choose(window("frmWind"), "mnuPaper(0)");
     QTest::qWait(20); // until all of it is written
     onScreen("frmPaper").findChild<QTextEdit*>()->viewport()->installEventFilter(&paints);

@@ -65,17 +65,26 @@ protected:
                 ADD_FAILURE() << after << " brings " << nameOf(*control);
     }
 
-    /// Rows of a table are alike: the first, the second and the last stand for all.
+    /// Rows of a table are alike: the first and the last stand for all.
     static std::vector<EntryBox*> boxesOf(const QWidget& window)
     {
         std::vector<EntryBox*> boxes;
-        for (auto* box : window.findChildren<EntryBox*>()) {
+        const auto all = window.findChildren<EntryBox*>();
+        std::map<QString, int> rows;
+        for (const EntryBox* box : all)
+            ++rows[arrayOf(*box)];
+        for (EntryBox* box : all) {
             const int row = box->objectName().section('(', 1).section(')', 0, 0).toInt();
-            const bool isInTable = window.findChildren<EntryBox*>().size() > 40;
-            if (box->isVisible() && (!isInTable || row < 1 || row == 15)) boxes.push_back(box);
+            const int count = rows[arrayOf(*box)];
+            const bool isInTable = all.size() > 40 && count >= fewestRows;
+            if (box->isVisible() && (!isInTable || row == 0 || row == count - 1))
+                boxes.push_back(box);
         }
         return boxes;
     }
+
+    static constexpr int fewestRows = 8;
+    static QString arrayOf(const EntryBox& box) { return box.objectName().section('(', 0, 0); }
 
     /// So that every key has all results change: "frmCDDR txtCDDR(0) 35.08".
     void fillWithWorkedFigures(const QWidget& window)
