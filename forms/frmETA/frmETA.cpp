@@ -249,9 +249,9 @@ void frmETA::takeLeg(const PlanExchange::Leg& leg)
     for (std::size_t end = 0; end < 2; ++end) {
         m_txtTD[end]->setText(asQString(Format(hoursOf(leg.zones[end]), "0.0#")));
         if (!moments[end]) continue;
-        const std::string local = minuteText(nearestMinute(*moments[end] + leg.zones[end]));
-        m_txtTime[2 * end]->setText(asQString(local.substr(0, 10)));
-        m_txtTime[2 * end + 1]->setText(asQString(local.substr(11)));
+        const auto local = dateTimeOf(nearestMinute(*moments[end] + leg.zones[end]));
+        m_txtTime[2 * end]->setText(asQString(Format(local, "yyyy/mm/dd")));
+        m_txtTime[2 * end + 1]->setText(asQString(Format(local, "hh:mm")));
     }
     m_txtDist->setText(asQString(Format(leg.distance, "0.0#")));
     if (leg.speed) m_txtSpeed->setText(asQString(Format(*leg.speed, "0.0#")));

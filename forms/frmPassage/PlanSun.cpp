@@ -49,7 +49,7 @@ public:
 private:
     std::string timeOfDay(DateTime ut) const
     {
-        return minuteText(nearestMinute(instantOf(ut) + m_zone)).substr(sizeof "yyyy/mm/dd");
+        return Format(dateTimeOf(nearestMinute(instantOf(ut) + m_zone)), "hh:mm");
     }
 
     Span m_zone;

@@ -3,6 +3,7 @@
 #include "forms/frmPassage/PlanPaper.h"
 #include "forms/frmPassage/PlanReckoning.h"
 #include "forms/frmPassage/PlanRecord.h"
+#include "forms/frmPassage/PlanSun.h"
 #include "tests/forms/frmPassage/Plans.h"
 #include "tests/golden/Golden.h"
 
@@ -236,6 +237,20 @@ TEST(PlanPaper, oneLineALegAndWhatOnlySomeRowsHave)
     WorkingPaper empty{"Passage plan"};
     tellPlan(empty, {}, PlanReckoning({}, {}));
     EXPECT_TRUE(empty.tables.empty() && empty.inputs.empty() && !empty.list);
+}
+
+/// At the ends of the calendar a local time has no text that could be cut at its hours.
+TEST(PlanSun, aDayThatTheCalendarDoesNotHaveIsNoFault)
+{
+    const auto of = [](const char* utc, double zone) {
+        return sunOfDay({NavFunc113::DegMin(35.1), NavFunc113::DegMin(139.46)},
+                        readIso(utc).value(), spanOf(Hours(zone)).value());
+    };
+    EXPECT_EQ(of("2026-11-22T03:00:00Z", 9).riseAndSet, "rises 06:22, sets 16:32");
+    for (const char* utc : {"0100-01-01T00:10:00Z", "0100-01-01T12:00:00Z", "9999-12-31T12:00:00Z",
+                            "9999-12-31T23:50:00Z"})
+        for (const double zone : {-1.7e6, -12.0, 0.0, 12.0, 1.7e6})
+            EXPECT_NO_THROW(of(utc, zone)) << utc << " " << zone;
 }
 
 } // namespace
