@@ -40,7 +40,7 @@ std::string joined(const std::vector<std::string>& sentences)
 {
     std::string line;
     for (const std::string& sentence : sentences) {
-        if (!line.empty() && !sentence.empty()) line += "; ";
+        if (!line.empty() && !sentence.empty()) line += line.back() == '?' ? " " : "; ";
         line += sentence;
     }
     return line;

@@ -13,6 +13,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace korvel
 {
 namespace
@@ -100,7 +102,7 @@ QWidget* FixPanel::sentences()
         sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     }
     column->addStretch(1);
-    auto* area = new QScrollArea;
+    auto* area = m_sentences = new QScrollArea;
     area->setObjectName("areaSunFix");
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
@@ -119,6 +121,10 @@ std::string FixPanel::showFix(const SightFixResult& fix)
     const SightPlot plot = DrawLOP(fix, m_view);
     m_lblSunFix.show(fix);
     tellSentencesInTips(m_lblSunFix.all());
+    const auto isSaid = [](const ResultLabel* sentence) { return !sentence->text().isEmpty(); };
+    m_sentences->setVerticalScrollBarPolicy(std::ranges::any_of(m_lblSunFix.all(), isSaid)
+                                                ? Qt::ScrollBarAsNeeded
+                                                : Qt::ScrollBarAlwaysOff);
     m_picSunSight->showPlot(plot);
     m_picSeries->showSeries(fix.series);
     m_picSeries->setAccessibleDescription(asQString(fix.seriesText));

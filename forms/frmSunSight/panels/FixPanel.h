@@ -9,6 +9,7 @@
 #include <functional>
 
 class QGroupBox;
+class QScrollArea;
 
 namespace korvel
 {
@@ -47,6 +48,7 @@ private:
     void showView(const PlotView& view);
 
     QGroupBox* m_fixPart;
+    QScrollArea* m_sentences = nullptr; ///< of the fix
     QWidget* m_seriesPart;
     SeriesPicture* m_picSeries;
     SightFixResult m_fix;
