@@ -3,6 +3,7 @@
 #include "app/reading/Reading.h"
 #include "forms/frmPositionRecord/RecordPaper.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
+#include "navlib/datetime.h"
 #include "shell/machine/AsQString.h"
 
 #include <algorithm>
@@ -19,8 +20,9 @@ PositionRow rowOf(const ObservedFix& fix, double TD)
 {
     const NavFunc113::DateTime SMT =
         dateTimeOf(fix.utc) + NavFunc113::DaysOfHours(NavFunc113::Hours(TD));
-    return {Format(SMT, "yyyy/mm/dd hh:mm:ss"), Format(TD, "0.0"), Format(fix.latitude, "0.000"),
-            Format(fix.longitude, "0.000")};
+    const bool isWholeMinute = NavFunc113::TimeOf(SMT).second == 0;
+    return {Format(SMT, isWholeMinute ? "yyyy/mm/dd hh:mm" : "yyyy/mm/dd hh:mm:ss"),
+            Format(TD, "0.0#####"), Format(fix.latitude, "0.000"), Format(fix.longitude, "0.000")};
 }
 
 } // namespace

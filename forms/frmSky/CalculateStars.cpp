@@ -138,7 +138,7 @@ private:
     {
         const auto sextant = almanac::sextantAltitude(place, body, almanac::Limb::Lower,
                                                       meanAir(ship().eye), ship().at(*m_found.utc));
-        return sextant.value_or(Degrees(0));
+        return sextant ? *sextant + ship().indexError : Degrees(0);
     }
 
     void tellPolaris(const Direction& seen)

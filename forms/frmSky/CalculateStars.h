@@ -21,7 +21,7 @@ struct SkyBody {
     std::optional<double> magnitude;    ///< none of Sun and Moon
     NavFunc113::Degrees altitudeChange; ///< in a minute, for the moving ship
     NavFunc113::Degrees azimuthChange;  ///< clockwise positive
-    NavFunc113::Degrees sextant;        ///< to be preset; lower limb of Sun and Moon
+    NavFunc113::Degrees sextant;        ///< to be preset, as it reads; lower limb of Sun and Moon
     bool isInRound = false;
 };
 

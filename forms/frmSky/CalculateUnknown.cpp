@@ -105,8 +105,9 @@ private:
         const almanac::Observer observer = ship.at(*m_found.utc);
         // A star's: what is seen of another body lies within the half degree that altitudes are
         // given here.
-        const auto terms = almanac::correctSextant({}, almanac::Body::Venus, shown,
-                                                   almanac::Limb::Lower, meanAir(ship.eye), {});
+        const auto terms =
+            almanac::correctSextant({}, almanac::Body::Venus, shown - ship.indexError,
+                                    almanac::Limb::Lower, meanAir(ship.eye), {});
         m_found.observed = {terms.seen, bearing};
         m_found.likely = almanac::likelyBodies(sky, observer, m_found.observed, likelyCount);
         for (std::size_t i = 0; i < m_found.likely.size(); ++i)

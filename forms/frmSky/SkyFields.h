@@ -18,6 +18,7 @@ enum class SkyBox : std::size_t {
     Course,
     Speed,
     HeightOfEye,
+    IndexError,
     TD,
     Day,
     StarsAt,
@@ -28,7 +29,7 @@ enum class SkyBox : std::size_t {
 };
 
 /// The boxes of the sky, in their Enter order, which is that of the record.
-inline constexpr std::array<Field, 13> SkyFields = {{
+inline constexpr std::array<Field, 14> SkyFields = {{
     {"txtSky(0)", "Position of", "Time of the position", "ship's time, yyyy/m/d hh:mm",
      FieldKind::Moment},
     {"txtSky(1)", "Latitude", "Latitude", "degrees.minutes", FieldKind::Latitude, "degrees", -90,
@@ -38,6 +39,8 @@ inline constexpr std::array<Field, 13> SkyFields = {{
     {"txtSky(3)", "Course", "Course", "degrees true", FieldKind::Figure, "degrees", 0, 360},
     {"txtSky(4)", "Speed", "Speed", "knots", FieldKind::Figure, "kn", 0, 100},
     {"txtSky(5)", "Height of eye", "Height of eye", "metres", FieldKind::Figure, "m", 0, 200},
+    {"txtSky(13)", "Index error", "Index error", "minutes of arc", FieldKind::Figure,
+     "minutes of arc", -60, 60, "on the arc positive"},
     {"txtSky(6)", "TD", "TD of ship's time", "hours", FieldKind::Figure, "h", -12, 14,
      "east positive"},
     {"txtSky(7)", "Day", "Day that is shown", "yyyy/m/d", FieldKind::Moment},

@@ -17,7 +17,14 @@ constexpr const char* accuracyOfTimes =
 constexpr const char* accuracyOfStars =
     "Altitudes and azimuths within 0.02' of full theory; UT taken as UTC, 0.23' at most. A mile of "
     "position is a mile of altitude. Preset altitudes take mean air (10 °C, 1010 hPa), the dip of "
-    "the eye and no index error";
+    "the eye and the index error that was entered. Magnitudes of stars as catalogued, of planets "
+    "within 0.1, of Mars 0.2";
+constexpr const char* accuracyOfPhase =
+    "Age of the Moon to 0.1 day and her lit part to 1 %, at noon, ship's time";
+constexpr const char* accuracyOfUnknown =
+    "Places of bodies within 0.02' of full theory: how far an observation is off is that of the "
+    "observation, of the position (a mile is a minute) and of the bearing. Altitudes in mean air "
+    "(10 °C, 1010 hPa), of the centre: a limb of Sun or Moon is off by 0.3°";
 constexpr const char* notOfficial = "No official almanac: check it before you rely on it";
 
 std::string decimalDegrees(NavFunc113::Degrees angle)
@@ -59,7 +66,7 @@ void tellDay(WorkingPaper& paper, const SkyDay& day)
     }
     paper.workings = dayWorkings(day);
     paper.limits = {"Nautical and civil twilight: Sun's centre 12° and 6° below the horizon",
-                    accuracyOfTimes, notOfficial};
+                    accuracyOfTimes, accuracyOfPhase, notOfficial};
 }
 
 void tellStars(WorkingPaper& paper, const SkyDay& day, const SkyStars& stars)
@@ -106,7 +113,8 @@ void tellUnknown(WorkingPaper& paper, const UnknownResult& found)
     }
     if (!table.rows.empty()) paper.tables = {std::move(table)};
     paper.limits = {"Among Sun, Moon, four planets and 96 stars; half a degree of altitude counts "
-                    "as much as 2 degrees of great circle across the bearing"};
+                    "as much as 2 degrees of great circle across the bearing",
+                    accuracyOfUnknown};
 }
 
 } // namespace korvel

@@ -45,6 +45,7 @@ public:
         m_ship.course = Degrees(figure(SkyBox::Course).value_or(0));
         m_ship.speed = NavFunc113::Knots(figure(SkyBox::Speed).value_or(0));
         m_ship.eye = NavFunc113::Metres(figure(SkyBox::HeightOfEye).value_or(0));
+        m_ship.indexError = Degrees(figure(SkyBox::IndexError).value_or(0) / 60);
         const bool isPlaced = readPosition(), isTimed = readDay();
         if (!isPlaced || !isTimed || !m_isWhole || !isWithinYears() || !isClearOfPoles())
             return std::nullopt;
@@ -204,9 +205,11 @@ std::string dayText(DateTime day)
 
 std::string presetText(Degrees altitude)
 {
-    const double minutes = std::round(altitude.value() * 60);
+    const double minutes = std::round(std::fabs(altitude.value()) * 60);
     const double whole = std::floor(minutes / 60);
-    return Format(whole, "00") + "°" + Format(minutes - 60 * whole, "00") + "'";
+    std::string text = altitude < Degrees(0) && minutes > 0 ? "-" : "";
+    text += Format(whole, "00") + "°" + Format(minutes - 60 * whole, "00") + "'";
+    return text;
 }
 
 std::string placeText(const almanac::Observer& observer)

@@ -36,6 +36,7 @@ public:
     NavFunc113::Degrees course;    ///< true
     NavFunc113::Knots speed;
     NavFunc113::Metres eye;
+    NavFunc113::Degrees indexError; ///< of the sextant, on the arc positive: it reads so much more
     NavFunc113::Hours TD;
     NavFunc113::DateTime day = 0; ///< that is shown: 0 hours of ship's time, as UTC
     NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
@@ -61,7 +62,7 @@ inline almanac::SextantAir meanAir(NavFunc113::Metres heightOfEye)
 }
 
 /// Reads the ship and the day. The day is that of the position's time unless another is typed; a
-/// date without a time is noon; empty course, speed and height of eye are 0.
+/// date without a time is noon; empty course, speed, height of eye and index error are 0.
 /// @return nothing when something is missing or cannot be used; the remarks say what
 std::optional<SkyShip> readShip(const SkyInput& input, Remarks& remarks);
 

@@ -83,26 +83,29 @@ std::vector<Working> roundWorkings(const SkyDay& day, const SkyStars& stars)
     if (!day.ship || !stars.utc || stars.roundSize() == 0) return {};
     Working working{"Preset altitudes of the round",
                     {"sin Hc = sin φ sin δ + cos φ cos δ cos LHA; from Hc the parallax is taken "
-                     "off, refraction and dip are put on: what a sextant without index error shows",
+                     "off, refraction, dip and index error are put on: what the sextant shows",
                      "Position " + stars.where + ", " + stars.zulu + " UTC"},
                     {}};
     PaperTable table{
-        "", {"Body", "GHA", "Dec", "LHA", "Hc", "Zn °", "Par. ′", "Refr. ′", "Dip ′", "Hs"}, {}};
+        "",
+        {"Body", "GHA", "Dec", "LHA", "Hc", "Zn °", "Par. ′", "Refr. ′", "Dip ′", "I.E. ′", "Hs"},
+        {}};
     const almanac::Sky sky(*stars.utc);
     const almanac::Observer there = day.ship->at(*stars.utc);
     for (const SkyBody& each : stars.bodies) {
         if (!each.isInRound) continue;
         const Place place = sky.place(each.body);
         const almanac::Direction computed = almanac::computedDirection(place, there);
-        const auto terms = almanac::correctSextant(place, each.body, each.sextant,
-                                                   almanac::Limb::Lower, meanAir(day.ship->eye),
-                                                   almanac::SightPlace{there, computed.azimuth});
+        const auto terms = almanac::correctSextant(
+            place, each.body, each.sextant - day.ship->indexError, almanac::Limb::Lower,
+            meanAir(day.ship->eye), almanac::SightPlace{there, computed.azimuth});
         table.rows.push_back(
             {std::string(almanac::entryOf(each.body).name), almanac::turnCell(place.gha),
              almanac::declinationCell(place.declination),
              almanac::turnCell(hourAngle(place, there)), altitudeText(computed.altitude),
              courseText(computed.azimuth, "000.0"), minutesText(-terms.parallax - terms.oblateness),
-             minutesText(-terms.refraction), minutesText(-terms.dip), altitudeText(each.sextant)});
+             minutesText(-terms.refraction), minutesText(-terms.dip),
+             minutesText(day.ship->indexError.value() * 60), altitudeText(each.sextant)});
     }
     working.tables.push_back(std::move(table));
     return {working};

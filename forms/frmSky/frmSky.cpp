@@ -114,13 +114,13 @@ void frmSky::addCalculations()
     std::vector<ResultLabel*> results = m_day->results();
     for (ResultLabel* label : m_stars->results())
         results.push_back(label);
-    m_dayCalculation = calculations().add(
-        {"Twilight and stars",
-         boxes({Moment, Latitude, Longitude, Course, Speed, HeightOfEye, TD, Day, StarsAt}),
-         results, [this] { runDay(); }});
+    m_dayCalculation = calculations().add({"Twilight and stars",
+                                           boxes({Moment, Latitude, Longitude, Course, Speed,
+                                                  HeightOfEye, IndexError, TD, Day, StarsAt}),
+                                           results, [this] { runDay(); }});
     calculations().add({"Unknown body",
-                        boxes({Moment, Latitude, Longitude, Course, Speed, HeightOfEye, TD,
-                               UnknownAt, UnknownAltitude, UnknownBearing}),
+                        boxes({Moment, Latitude, Longitude, Course, Speed, HeightOfEye, IndexError,
+                               TD, UnknownAt, UnknownAltitude, UnknownBearing}),
                         m_unknown->results(), [this] { runUnknown(); }});
     m_almanacCalculation = calculations().add(
         {"Almanac", boxes({FirstDay, Day, Moment}), {}, [this] { runAlmanac(); }});

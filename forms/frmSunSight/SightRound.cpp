@@ -19,6 +19,7 @@ void frmSunSight::showPlanned()
     for (const PlannedSight& planned : program().plannedSights())
         lines.push_back(plannedLine(planned));
     m_sights->showPlanned(lines);
+    if (!lines.empty()) m_sights->choose(m_list.list().sights().size()); // Edit takes the first
 }
 
 std::optional<std::size_t> frmSunSight::chosenPlanned()

@@ -67,8 +67,9 @@ QLayout* DayPage::layOutShip()
     auto* grid = newGrid();
     grid->addWidget(sectionHead("Ship"), 0, 0, 1, 3);
     int row = 1;
-    for (const SkyBox which : {SkyBox::Moment, SkyBox::Latitude, SkyBox::Longitude, SkyBox::Course,
-                               SkyBox::Speed, SkyBox::HeightOfEye, SkyBox::TD, SkyBox::Day}) {
+    for (const SkyBox which :
+         {SkyBox::Moment, SkyBox::Latitude, SkyBox::Longitude, SkyBox::Course, SkyBox::Speed,
+          SkyBox::HeightOfEye, SkyBox::IndexError, SkyBox::TD, SkyBox::Day}) {
         const std::size_t field = placeOf(which);
         EntryBox* entry = m_boxes[field];
         entry->setFixedWidth(entry->fontMetrics().horizontalAdvance(widestBox));
@@ -78,6 +79,8 @@ QLayout* DayPage::layOutShip()
             grid->addWidget(position->echo(), row, 2);
         else if (which == SkyBox::Course)
             grid->addWidget(quietLabel("° true"), row, 2);
+        else if (which == SkyBox::IndexError)
+            grid->addWidget(quietLabel("′, on the arc +"), row, 2);
         else if (which != SkyBox::Moment && which != SkyBox::Day)
             grid->addWidget(quietLabel(SkyFields[field].unit), row, 2);
         ++row;

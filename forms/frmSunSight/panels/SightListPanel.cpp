@@ -47,7 +47,7 @@ SightListPanel::SightListPanel(QWidget* parent)
     m_cmdUndo->setEnabled(false);
     auto* grid = new QGridLayout(this);
     layOutBody(*grid, Spacing::Dense);
-    auto* caption = new QLabel("Recorded\nsights");
+    auto* caption = new QLabel("Recorded\nsi&ghts");
     caption->setBuddy(m_lstSunSight);
     grid->addWidget(m_lstSunSight, 0, 0, 5, 1);
     grid->addWidget(caption, 0, 1);
@@ -82,6 +82,7 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
         const RecordedSight& sight = list.sights()[static_cast<std::size_t>(row)];
         QListWidgetItem* item = m_lstSunSight->item(row);
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
+        item->setFont(m_lstSunSight->font()); // the row may have been one of the plan
         item->setCheckState(sight.on ? Qt::Checked : Qt::Unchecked);
         const QString result = asQString(lines[static_cast<std::size_t>(row)]);
         const QString whole = sightOf(sight) + "  " + result;

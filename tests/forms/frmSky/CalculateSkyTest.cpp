@@ -18,9 +18,11 @@ using ::testing::HasSubstr;
 SkyInput inputOf(std::initializer_list<const char*> boxes)
 {
     SkyInput input;
+    using enum SkyBox;
+    constexpr std::array places{Moment, Latitude, Longitude, Course, Speed, HeightOfEye, TD, Day};
     std::size_t at = 0;
     for (const char* box : boxes)
-        input.txtSky[at++] = box;
+        input.txtSky[placeOf(places.at(at++))] = box;
     input.TD = NavFunc113::Hours(9);
     return input;
 }
@@ -197,6 +199,34 @@ TEST(SkyStars, roundIsKeptFromTheMoonAndOfTheCountThatIsAsked)
                 }
         }
     }
+}
+
+// On the arc the sextant reads more: what is preset is more, what was read less.
+TEST(SkyStars, indexErrorIsPutOnPresetsAndTakenOffReadings)
+{
+    SkyInput input = inputOf({"2026/11/22 12:00", "35", "140", "90", "15", "20", "9"});
+    SkyPlaces places;
+    const SkyStars without = starsOf(CalculateDay(input, places));
+    input.txtSky[placeOf(SkyBox::IndexError)] = "-2.4";
+    const SkyStars with = starsOf(CalculateDay(input, places));
+    ASSERT_EQ(with.bodies.size(), without.bodies.size());
+    for (std::size_t i = 0; i < with.bodies.size(); ++i) {
+        EXPECT_NEAR((with.bodies[i].sextant - without.bodies[i].sextant).value() * 60, -2.4, 1e-6);
+        EXPECT_EQ(with.bodies[i].seen.altitude, without.bodies[i].seen.altitude);
+    }
+    const auto readAs = [&](const char* error) {
+        input.txtSky[placeOf(SkyBox::IndexError)] = error;
+        input.txtSky[placeOf(SkyBox::UnknownAt)] = "17:30";
+        input.txtSky[placeOf(SkyBox::UnknownAltitude)] = "40";
+        input.txtSky[placeOf(SkyBox::UnknownBearing)] = "300";
+        return CalculateUnknown(input).observed.altitude.value();
+    };
+    EXPECT_NEAR((readAs("-2.4") - readAs("")) * 60, 2.4, 0.01);
+    input.txtSky[placeOf(SkyBox::IndexError)] = "70";
+    EXPECT_THAT(CalculateDay(input, places).notice, HasSubstr("Index error: "));
+    // A preset below 0, of a body on the horizon, keeps its sign.
+    EXPECT_EQ(presetText(NavFunc113::Degrees(-0.5)), "-00°30'");
+    EXPECT_EQ(presetText(NavFunc113::Degrees(34.1999)), "34°12'");
 }
 
 TEST(SkyStars, sayWhatSpoilsThem)

@@ -25,7 +25,7 @@ protected:
     frmSky& openWithShip()
     {
         auto& window = open<frmSky>();
-        type(window, "txtSky(0)", "2026/11/22 12:00\r35.123\r142.031\r75\r14.5\r22\r9\r");
+        type(window, "txtSky(0)", "2026/11/22 12:00\r35.123\r142.031\r75\r14.5\r22\r\r9\r");
         return window;
     }
     static QAbstractItemModel& rowsOf(const QWidget& window, const char* table)
@@ -119,7 +119,7 @@ TEST_F(frmSkyTest, recordBringsBoxesAndChoicesBack)
 TEST_F(frmSkyTest, unknownBodyAndAlmanac)
 {
     auto& window = open<frmSky>();
-    type(window, "txtSky(0)", "1981/1/14 15:22:28\r-27.185\r67.18\r\r\r\r0\r");
+    type(window, "txtSky(0)", "1981/1/14 15:22:28\r-27.185\r67.18\r\r\r\r\r0\r");
     click(window, "cmdPage(2)");
     type(window, "txtSky(9)", "15:22:28\r29.35\r29");
     EXPECT_EQ(text(window, "lblUnknown(0)"), "Elnath");
