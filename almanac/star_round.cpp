@@ -19,9 +19,7 @@ struct NormalSums {
 
     void add(const RoundBody& body)
     {
-        // A star of the second magnitude is found and brought down half as exactly again as one of
-        // magnitude 0 to 1: what almanacs call first choice.
-        const double sigma = 1 + 0.25 * std::clamp(body.magnitude - 0.5, 0.0, 4.0);
+        const double sigma = errorByMagnitude(body.magnitude);
         const double w = 1 / (sigma * sigma);
         const double n = cos(body.direction.azimuth), e = sin(body.direction.azimuth);
         weight += w;
@@ -32,16 +30,12 @@ struct NormalSums {
         eastEast += w * e * e;
     }
 
-    /// Sum of the variances of north and east with the constant eliminated.
-    double variance() const
+    /// With the constant eliminated.
+    RoundNormals reduced() const
     {
-        const double a = northNorth - north * north / weight;
-        const double b = northEast - north * east / weight;
-        const double c = eastEast - east * east / weight;
-        const double determinant = a * c - b * b;
-        constexpr double none = 1e-6; // all bearings equal
-        if (weight <= 0 || determinant < none) return std::numeric_limits<double>::infinity();
-        return (a + c) / determinant;
+        if (weight <= 0) return {};
+        return {northNorth - north * north / weight, northEast - north * east / weight,
+                eastEast - east * east / weight};
     }
 };
 
@@ -50,7 +44,7 @@ double errorOf(std::span<const RoundBody> all, const Indices& chosen)
     NormalSums sums;
     for (const std::size_t index : chosen)
         sums.add(all[index]);
-    return sums.variance();
+    return sums.reduced().variance();
 }
 
 bool holds(const Indices& chosen, std::size_t index)
@@ -135,12 +129,31 @@ std::vector<RoundBody> fitForRound(std::span<const RoundBody> bodies, std::span<
     return fit;
 }
 
-double errorOfRound(std::span<const RoundBody> round)
+double errorByMagnitude(double magnitude)
+{
+    return 1 + 0.25 * std::clamp(magnitude - 0.5, 0.0, 4.0);
+}
+
+double RoundNormals::variance() const
+{
+    const double determinant = northNorth * eastEast - northEast * northEast;
+    constexpr double none = 1e-6; // all bearings equal
+    if (determinant < none) return std::numeric_limits<double>::infinity();
+    return (northNorth + eastEast) / determinant;
+}
+
+RoundNormals normalsOfRound(std::span<const RoundBody> round)
 {
     NormalSums sums;
     for (const RoundBody& body : round)
         sums.add(body);
-    return round.size() < 3 ? std::numeric_limits<double>::infinity() : sums.variance();
+    return sums.reduced();
+}
+
+double errorOfRound(std::span<const RoundBody> round)
+{
+    if (round.size() < 3) return std::numeric_limits<double>::infinity();
+    return normalsOfRound(round).variance();
 }
 
 std::vector<RoundBody> bestRound(std::span<const RoundBody> fit, std::size_t count)

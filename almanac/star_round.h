@@ -42,6 +42,20 @@ Degrees angleBetween(const Direction& a, const Direction& b);
 std::vector<RoundBody> fitForRound(std::span<const RoundBody> bodies,
                                    std::span<const Glare> glares);
 
+/// Error of a sight of a star, in units of that of a bright one: a star of the second magnitude is
+/// found and brought down half as exactly again as one of magnitude 0 to 1, which almanacs call
+/// first choice. Our own rule; 1 to 2.
+double errorByMagnitude(double magnitude);
+
+/// Normal equations of a round for north and east, an error common to all sights eliminated.
+struct RoundNormals {
+    double northNorth = 0, northEast = 0, eastEast = 0;
+
+    /// Sum of the variances of north and east; infinity where there is no fix.
+    double variance() const;
+};
+RoundNormals normalsOfRound(std::span<const RoundBody> round);
+
 /// How good a round is: the square of the mean error of the position in either direction, in units
 /// of that of one sight of a bright star, when an error common to all sights (horizon, dip, index)
 /// is solved for as well. Faint stars count as less exact. For three sights 120 degrees apart it

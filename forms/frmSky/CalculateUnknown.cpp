@@ -108,6 +108,9 @@ private:
         const auto terms =
             almanac::correctSextant({}, almanac::Body::Venus, shown - ship.indexError,
                                     almanac::Limb::Lower, meanAir(ship.eye), {});
+        m_found.ship = ship;
+        m_found.shown = shown;
+        m_found.terms = terms;
         m_found.observed = {terms.seen, bearing};
         m_found.likely = almanac::likelyBodies(sky, observer, m_found.observed, likelyCount);
         for (std::size_t i = 0; i < m_found.likely.size(); ++i)

@@ -26,6 +26,9 @@ struct UnknownLine {
 };
 
 struct UnknownResult {
+    std::optional<SkyShip> ship;
+    NavFunc113::Degrees shown;   ///< by the sextant
+    almanac::SextantTerms terms; ///< from there to what was seen
     std::optional<NavFunc113::DateTime> utc;
     almanac::Direction observed; ///< dip and refraction taken off
     std::vector<almanac::LikelyBody> likely;

@@ -93,7 +93,7 @@ void tellStars(WorkingPaper& paper, const SkyDay& day, const SkyStars& stars)
         paper.results.push_back({"Day", day.date});
         paper.results.push_back({"Height of the Sun", altitudeText(stars.sun.altitude)});
     }
-    paper.workings = roundWorkings(day, stars);
+    paper.workings = starsWorkings(day, stars);
     paper.limits = {"The round: magnitude 3.0 or brighter, 15° to 65° high, away from the Moon; "
                     "of all such rounds the one whose fix has the least error when an error common "
                     "to all sights is solved for as well, faint stars counting less",
@@ -112,6 +112,7 @@ void tellUnknown(WorkingPaper& paper, const UnknownResult& found)
                               line.altitudeOff, line.bearingOff});
     }
     if (!table.rows.empty()) paper.tables = {std::move(table)};
+    paper.workings = unknownWorkings(found);
     paper.limits = {"Among Sun, Moon, four planets and 96 stars; half a degree of altitude counts "
                     "as much as 2 degrees of great circle across the bearing",
                     accuracyOfUnknown};

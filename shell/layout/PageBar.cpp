@@ -118,6 +118,13 @@ void PageBar::turnTo(std::size_t page)
     emit turned(page);
 }
 
+bool PageBar::isTurnedAway(const QWidget& control) const
+{
+    for (std::size_t i = 0; i < m_pages.size(); ++i)
+        if (i != m_page && m_pages[i]->isAncestorOf(&control)) return true;
+    return false;
+}
+
 void PageBar::enterPage()
 {
     QWidget& page = *m_pages.at(m_page);

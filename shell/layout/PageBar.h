@@ -30,6 +30,8 @@ public:
     std::size_t page() const { return m_page; }
     /// Shows a page; a number that is none leaves the page as it is.
     void turnTo(std::size_t page);
+    /// Whether a control stands on another page than the one that is shown.
+    bool isTurnedAway(const QWidget& control) const;
     /// Puts the focus where it was in the page; at first onto its first box.
     void enterPage();
 

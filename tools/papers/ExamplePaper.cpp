@@ -4,6 +4,7 @@
 #include "app/reading/Reading.h"
 #include "calculator_windows.h"
 #include "shell/controls/ResultLabel.h"
+#include "shell/layout/PageBar.h"
 #include "shell/paper/PaperWindow.h"
 
 #include <QAbstractButton>
@@ -158,8 +159,10 @@ std::vector<std::string> resultsWithoutStep(const QWidget& window, const QString
         "^(echo .*|lblNotice|lblWpNo.*|lblPlace|lblDate|lblTD|lblNow)$");
     const QString working = paperText.section("Working: ", 1).simplified();
     std::vector<std::string> missing;
+    const auto* pages = window.findChild<PageBar*>();
     for (const auto* label : window.findChildren<ResultLabel*>())
-        if (!others.match(label->objectName()).hasMatch() &&
+        if (!(pages && pages->isTurnedAway(*label)) &&
+            !others.match(label->objectName()).hasMatch() &&
             !working.contains(label->text().simplified()))
             missing.push_back(label->objectName().toStdString());
     return missing;

@@ -57,7 +57,8 @@ struct ExamplePaper {
 /// Works an example and takes its paper.
 ExamplePaper workExample(const std::string& example, const QString& data);
 
-/// Names of the results that a window shows and no working of its paper has.
+/// Names of the results that a window shows and no working of its paper has. A window of pages
+/// shows one of them, which its paper tells.
 std::vector<std::string> resultsWithoutStep(const QWidget& window, const QString& paperText);
 
 } // namespace korvel

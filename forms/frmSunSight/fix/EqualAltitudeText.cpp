@@ -6,6 +6,7 @@
 #include "navlib/angles.h"
 #include "navlib/sky/meridian_passage.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace korvel
@@ -34,17 +35,23 @@ bool isPair(const FixLine& first, const FixLine& second)
            sin(second.line.azimuth) < 0;
 }
 
-std::optional<SightPair> bestPair(const SightFixResult& result)
+/// No two of them share a sight, all are of one body; those of the nearest altitudes first.
+std::vector<SightPair> pairsOf(const SightFixResult& result)
 {
     constexpr Degrees farthest(1);
-    std::optional<SightPair> best;
+    std::vector<SightPair> all, chosen;
     for (const FixLine& first : result.lines)
-        for (const FixLine& second : result.lines) {
-            if (!isPair(first, second)) continue;
-            const SightPair pair{&first, &second};
-            if (pair.apart() <= farthest && (!best || pair.apart() < best->apart())) best = pair;
-        }
-    return best;
+        for (const FixLine& second : result.lines)
+            if (isPair(first, second)) all.push_back({&first, &second});
+    std::erase_if(all, [&](const SightPair& pair) { return pair.apart() > farthest; });
+    std::ranges::stable_sort(all, {}, &SightPair::apart);
+    for (const SightPair& pair : all)
+        if (std::ranges::all_of(chosen, [&](const SightPair& other) {
+                return pair.first->body == other.first->body && pair.first != other.first &&
+                       pair.second != other.second;
+            }))
+            chosen.push_back(pair);
+    return chosen;
 }
 
 /// Standard deviation of the rate of latitude, minutes an hour.
@@ -55,40 +62,87 @@ double northingError(const ErrorModel& errors, const Motion& motion)
                       speed * sin(errors.runCourse) * sin(motion.course));
 }
 
-} // namespace
-
-std::string equalAltitudeText(const SightFixResult& result, const ErrorModel& errors)
+std::optional<EqualAltitudePair> worked(const SightPair& pair, const ErrorModel& errors,
+                                        const Motion& motion)
 {
-    const auto pair = bestPair(result);
-    if (!pair) return {};
-    const FixLine &first = *pair->first, &second = *pair->second;
+    const FixLine &first = *pair.first, &second = *pair.second;
     const DateTime mean = (first.UTC + second.UTC) / 2;
     const Hours half((second.UTC - first.UTC) * 12);
-    const Position atMean = Advanced(first.DR, result.motion, half);
+    const Position atMean = Advanced(first.DR, motion, half);
     const auto found = LongitudeByEqualAltitudes(
         {first.sight.GHA, first.sight.declination, first.sight.observedAltitude, -half},
         {second.sight.GHA, second.sight.declination, second.sight.observedAltitude, half}, atMean,
-        result.motion);
-    if (!found) return {};
+        motion);
+    if (!found) return std::nullopt;
     const Degrees turned = second.sight.GHA - first.sight.GHA +
                            (second.sight.GHA < first.sight.GHA ? fullTurn : Degrees(0));
     const Degrees hourAngle =
         WithinHalfTurn(first.sight.GHA + turned / 2 + found->atMean.longitude);
-    const double eastward =
-        WithinHalfTurn(Advanced(found->atMean, result.motion, Hours(1)).longitude -
-                       found->atMean.longitude)
-            .value();
+    const double eastward = WithinHalfTurn(Advanced(found->atMean, motion, Hours(1)).longitude -
+                                           found->atMean.longitude)
+                                .value();
     const double turning = turned.value() / (2 * half.value()) + eastward;
-    const double seconds = -hourAngle.value() / turning * 3600;
-    const double sigma = std::hypot(errors.sigma.value() * found->ofAltitudes,
-                                    northingError(errors, result.motion) * found->ofNorthing);
-    const Position atPassage =
-        Advanced(found->atMean, result.motion, Hours(-hourAngle.value() / turning));
-    return "Equal altitudes " + Format(first.UTC, "hh:mm:ss") + " and " +
-           Format(second.UTC, "hh:mm:ss") + ": passage " +
-           Format(mean + seconds / 86400, "hh:mm:ss") + " UTC, the mean " +
-           (seconds < 0 ? "less " : "and ") + Format(std::fabs(seconds), "0") + " s; longitude " +
-           longitudeText(atPassage.longitude) + " ± " + Format(sigma, "0.0'");
+    const Hours later(-hourAngle.value() / turning);
+    return EqualAltitudePair{first.UTC,
+                             second.UTC,
+                             mean + DaysOfHours(later),
+                             Advanced(found->atMean, motion, later).longitude,
+                             Degrees(errors.sigma.value() * found->ofAltitudes / 60),
+                             Degrees(northingError(errors, motion) * found->ofNorthing / 60)};
+}
+
+std::string textOfOne(const EqualAltitudePair& pair)
+{
+    const double seconds = (pair.passage - (pair.first + pair.second) / 2) * 86400;
+    return "Equal altitudes " + Format(pair.first, "hh:mm:ss") + " and " +
+           Format(pair.second, "hh:mm:ss") + ": passage " + Format(pair.passage, "hh:mm:ss") +
+           " UTC, the mean " + (seconds < 0 ? "less " : "and ") + Format(std::fabs(seconds), "0") +
+           " s; longitude " + longitudeText(pair.longitude) + " ± " +
+           Format(std::hypot(pair.byAltitudes.value(), pair.byRun.value()) * 60, "0.0'");
+}
+
+/// The weighted mean. The run is common to all pairs: its error does not shrink with their number.
+std::string textOfMean(const std::vector<EqualAltitudePair>& pairs)
+{
+    const Degrees near = pairs.front().longitude;
+    double weight = 0, off = 0, run = 0, square = 0;
+    DateTime passage = 0;
+    const auto weightOf = [](const EqualAltitudePair& pair) {
+        return 1 / (pair.byAltitudes.value() * pair.byAltitudes.value());
+    };
+    for (const EqualAltitudePair& each : pairs) {
+        const double w = weightOf(each);
+        weight += w;
+        off += w * WithinHalfTurn(each.longitude - near).value();
+        run += w * each.byRun.value();
+        passage += w * (each.passage - pairs.front().passage);
+    }
+    const Degrees longitude = WithinHalfTurn(near + Degrees(off / weight));
+    std::string apart;
+    for (const EqualAltitudePair& each : pairs) {
+        const double of = WithinHalfTurn(each.longitude - longitude).value();
+        square += weightOf(each) * of * of;
+        apart += Format(of * 60, " +0.0'; -0.0'");
+    }
+    // Pairs that scatter more than their sigma says are worth what they show.
+    const double scatter = std::sqrt(square / static_cast<double>(pairs.size() - 1));
+    const double sigma = std::hypot(std::max(1.0, scatter) / std::sqrt(weight), run / weight);
+    return "Equal altitudes, mean of " + std::to_string(pairs.size()) + " pairs: passage " +
+           Format(pairs.front().passage + passage / weight, "hh:mm:ss") + " UTC; longitude " +
+           longitudeText(longitude) + " ± " + Format(sigma * 60, "0.0'") + "; the pairs" + apart;
+}
+
+} // namespace
+
+void findEqualAltitudes(const ErrorModel& errors, SightFixResult& result)
+{
+    result.equalPairs.clear();
+    for (const SightPair& pair : pairsOf(result))
+        if (const auto each = worked(pair, errors, result.motion))
+            result.equalPairs.push_back(*each);
+    if (result.equalPairs.empty()) return;
+    result.equalText = result.equalPairs.size() == 1 ? textOfOne(result.equalPairs.front())
+                                                     : textOfMean(result.equalPairs);
 }
 
 } // namespace korvel

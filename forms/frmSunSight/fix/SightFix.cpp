@@ -142,7 +142,7 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
         } else {
             warnOfTimes(now, result, remarks);
             if (track.motion && makeLines(observations, track, result)) {
-                result.equalText = equalAltitudeText(result, errors.value_or(ErrorModel{}));
+                findEqualAltitudes(errors.value_or(ErrorModel{}), result);
                 if (options.series && errors) fitSeries(observations, track, *errors, result);
                 warnOfWildShots(result, remarks);
                 result.seriesText = seriesText(result);

@@ -26,6 +26,16 @@ struct FixLine {
     int shots = 1;                   ///< of which it was made
 };
 
+/// Two sights of one body at nearly the same altitude, to the east and to the west of the meridian.
+struct EqualAltitudePair {
+    NavFunc113::DateTime first = 0; ///< UTC
+    NavFunc113::DateTime second = 0;
+    NavFunc113::DateTime passage = 0;
+    NavFunc113::Degrees longitude;   ///< of the ship at the passage
+    NavFunc113::Degrees byAltitudes; ///< standard deviation of it
+    NavFunc113::Degrees byRun;       ///< the same, by the errors of course and speed
+};
+
 /// Shots of one body that were made one line.
 struct SeriesShot {
     std::size_t index = 0; ///< in the list
@@ -73,8 +83,9 @@ struct SightFixResult {
     std::string memoLatitude;      ///< DegMin in full, for the Position Memo
     std::string memoLongitude;
     std::string ellipseText;
-    std::string sigmaText;                   ///< where the sigma of the ellipse comes from
-    std::string withoutText;                 ///< the fixes without what does not fit
+    std::string sigmaText;   ///< where the sigma of the ellipse comes from
+    std::string withoutText; ///< the fixes without what does not fit
+    std::vector<EqualAltitudePair> equalPairs;
     std::string equalText;                   ///< passage and longitude by equal altitudes
     std::string seriesText;                  ///< what the series came to
     std::string notice;                      ///< why there is no fix, and warnings

@@ -35,13 +35,22 @@ std::optional<Working> equalAltitudeWorking(const SightFixResult& fix)
          "apart in altitude at most; the latitude by dead reckoning. The longitude at "
          "which the altitudes differ as they were observed to, the ship on her track; "
          "near noon the passage is the mean and 15.28 s (tan φ - tan δ) (ship's - body's "
-         "northing in ' an hour)"},
+         "northing in ' an hour)",
+         "Several pairs, each sight in one: the mean by their sigmas of the altitudes, or by their "
+         "scatter where this is larger; the sigma of the run is common to them"},
         {}};
     working.resultStep(
         "Longitude by equal altitudes",
         "λ moved by the difference of the intercepts / (cos φ (sin Z1 - sin Z2)) "
         "until there is none; its sigma by sigma of a line and the errors of the run",
         fix.equalText);
+    PaperTable table{
+        "Pairs", {"UTC", "UTC", "Passage, UTC", "λ °", "σ of altitudes ′", "σ of the run ′"}, {}};
+    for (const EqualAltitudePair& pair : fix.equalPairs)
+        table.rows.push_back({sightInstant(pair.first), sightInstant(pair.second),
+                              sightInstant(pair.passage), sightFigure(pair.longitude),
+                              figure(pair.byAltitudes * 60, 2), figure(pair.byRun * 60, 2)});
+    working.tables = {std::move(table)};
     return working;
 }
 

@@ -38,9 +38,10 @@ constexpr std::array limitsOfSun = {
     "Place of the Sun, 2000 to 2050, against an independent ephemeris: GHA 0.11' (95 %), 0.16' "
     "at the worst; declination 0.03', 0.07'",
     "The refraction is tabulated from 10 to 85 degrees and extrapolated beyond: 1.9' out at 5 "
-    "degrees",
+    "degrees"};
+constexpr const char* limitOfFix =
     "The fix refers to the sphere, 1' of arc = 1 mile; its ellipse holds as far as sigma and "
-    "run do"};
+    "run do";
 
 constexpr const char* limitsOfBodies =
     "Places of the Moon, planets and stars, 1960 to 2060, against full series: 0.03' at the worst "
@@ -119,11 +120,12 @@ void addFixResults(const SightFixResult& fix, WorkingPaper& paper)
     addResult(paper, "Series of shots", fix.seriesText);
 }
 
-/// A recorded sight with its line, when it is on.
+/// A recorded sight with its line, when it is on; of a series the first one has it.
 struct ListedSight {
     const RecordedSight& recorded;
     Observation seen;
     const FixLine* line = nullptr;
+    const SeriesShot* shot = nullptr; ///< of a series that it belongs to
     std::optional<Miles> residual;
 };
 
@@ -132,12 +134,15 @@ std::vector<ListedSight> listed(const SightList& list, const SightFixResult& fix
     std::vector<ListedSight> sights;
     Remarks unheard; // the window names them
     for (const RecordedSight& each : list.sights())
-        sights.push_back({each, readObservation(each.texts, unheard), nullptr, {}});
+        sights.push_back({each, readObservation(each.texts, unheard), nullptr, nullptr, {}});
     for (std::size_t i = 0; i < fix.lines.size(); ++i) {
         ListedSight& sight = sights.at(fix.lines[i].index);
         sight.line = &fix.lines[i];
         if (fix.solution) sight.residual = fix.solution->residuals.at(i);
     }
+    for (const SightSeries& series : fix.series)
+        for (const SeriesShot& shot : series.shots)
+            sights.at(shot.index).shot = &shot;
     return sights;
 }
 
@@ -148,6 +153,22 @@ std::string limbOf(const ListedSight& sight)
     if (sight.seen.isSun()) return limb;
     const std::string& body = sight.recorded.texts.body;
     return almanac::hasLimbs(sight.seen.body) ? body + ", " + limb : body;
+}
+
+/// Of a shot its own altitude: the line of a series has that of the mean.
+DegMin observedOf(const ListedSight& sight)
+{
+    return sight.line && !sight.shot ? sight.line->Ho : sight.seen.corrections->Ho;
+}
+
+/// As the window's list has it.
+std::string lineOf(const ListedSight& sight)
+{
+    if (!sight.shot) return sight.line ? sight.line->text : "not used";
+    std::string text = "shot " + Format(sight.shot->residual, "+0.0';-0.0'");
+    if (sight.shot->isWild) text += " wild";
+    if (sight.line) text += "; series " + sight.line->text;
+    return text;
 }
 
 PaperTable sightTable(const std::vector<ListedSight>& sights)
@@ -163,9 +184,8 @@ PaperTable sightTable(const std::vector<ListedSight>& sights)
         const SightCorrections& corrections = *sight.seen.corrections;
         table.rows.push_back({std::to_string(table.rows.size() + 1),
                               Format(*sight.seen.UTC, "yyyy-mm-dd hh:mm:ss"), limbOf(sight),
-                              angleInFull(corrections.Hs),
-                              angleInFull(sight.line ? sight.line->Ho : corrections.Ho),
-                              sight.line ? sight.line->text : "not used"});
+                              angleInFull(corrections.Hs), angleInFull(observedOf(sight)),
+                              lineOf(sight)});
     }
     return table;
 }
@@ -173,19 +193,18 @@ PaperTable sightTable(const std::vector<ListedSight>& sights)
 std::vector<std::string> exportedRow(const ListedSight& sight)
 {
     const SightCorrections& corrections = *sight.seen.corrections;
-    std::vector<std::string> cells = {
-        Format(*sight.seen.UTC, "yyyy-mm-ddThh:mm:ss") + "Z",
-        sight.recorded.on ? "yes" : "no",
-        limbOf(sight),
-        figure(DegMinToDeg(corrections.Hs), 5),
-        figure(corrections.indexError, 2),
-        figure(corrections.heightOfEye, 2),
-        figure(corrections.air, 1),
-        figure(corrections.sea, 1),
-        figure(corrections.pressure, 1),
-        figure(DegMinToDeg(sight.line ? sight.line->Ho : corrections.Ho), 5),
-        figure(DegMinToDeg(withinCircle(*sight.seen.GHA)), 5),
-        figure(DegMinToDeg(*sight.seen.declination), 5)};
+    std::vector<std::string> cells = {Format(*sight.seen.UTC, "yyyy-mm-ddThh:mm:ss") + "Z",
+                                      sight.recorded.on ? "yes" : "no",
+                                      limbOf(sight),
+                                      figure(DegMinToDeg(corrections.Hs), 5),
+                                      figure(corrections.indexError, 2),
+                                      figure(corrections.heightOfEye, 2),
+                                      figure(corrections.air, 1),
+                                      figure(corrections.sea, 1),
+                                      figure(corrections.pressure, 1),
+                                      figure(DegMinToDeg(observedOf(sight)), 5),
+                                      figure(DegMinToDeg(withinCircle(*sight.seen.GHA)), 5),
+                                      figure(DegMinToDeg(*sight.seen.declination), 5)};
     cells.push_back(sight.line ? figure(sight.line->line.intercept, 3) : "");
     cells.push_back(sight.line ? figure(sight.line->line.azimuth, 3) : "");
     cells.push_back(sight.residual ? figure(*sight.residual, 3) : "");
@@ -205,6 +224,19 @@ ExportTable exported(const std::vector<ListedSight>& sights)
     for (const ListedSight& sight : sights)
         if (sight.seen.complete()) list.rows.push_back(exportedRow(sight));
     return list;
+}
+
+/// What holds for the bodies that were observed.
+void addLimits(const LOPResult& line, const std::vector<ListedSight>& sights, WorkingPaper& paper)
+{
+    const auto isSun = [](const ListedSight& each) { return each.seen.isSun(); };
+    const bool isSunEntered = line.figures.observation.isSun();
+    if (!isSunEntered || !std::ranges::all_of(sights, isSun))
+        paper.limits.emplace_back(limitsOfBodies);
+    if (isSunEntered || std::ranges::any_of(sights, isSun))
+        for (const char* each : limitsOfSun)
+            paper.limits.emplace_back(each);
+    paper.limits.emplace_back(limitOfFix);
 }
 
 /// The sentences that joined() put into one line.
@@ -254,11 +286,7 @@ void addSights(const SightPaperParts& parts, WorkingPaper& paper)
         const Position& at = parts.fix.solution->position;
         paper.place = positionForCopy(DegToDegMin(at.latitude), DegToDegMin(at.longitude));
     }
-    if (std::ranges::any_of(sights, [](const ListedSight& each) { return !each.seen.isSun(); }) ||
-        !parts.line.figures.observation.isSun())
-        paper.limits.emplace_back(limitsOfBodies);
-    for (const char* each : limitsOfSun)
-        paper.limits.emplace_back(each);
+    addLimits(parts.line, sights, paper);
 }
 
 } // namespace korvel

@@ -81,6 +81,12 @@ TEST(SightSeries, aWildShotIsNamed)
     EXPECT_THAT(CalculateFix(seriesWith(0.9), track, options, {}).notice, "");
 }
 
+/// What stands behind ± in a sentence, minutes.
+double sigmaOf(const std::string& text)
+{
+    return std::stod(text.substr(text.find("± ") + std::string("± ").size()));
+}
+
 // A ship on 0 at 18 knots has the Sun north of her in the morning and in the afternoon.
 TEST(SightSeries, longitudeByEqualAltitudes)
 {
@@ -97,6 +103,22 @@ TEST(SightSeries, longitudeByEqualAltitudes)
     EXPECT_THAT(fix.equalText, ::testing::StartsWith("Equal altitudes 05:54:00 and 06:55:00"));
     EXPECT_THAT(fix.equalText, HasSubstr("longitude 080-.00'0E ± ")) << fix.equalText;
     EXPECT_EQ(CalculateFix(listOf({sunAt(-60), sunAt(-30)}), off, {}, {}).equalText, "");
+
+    // Three pairs: a sight in one of them only, and the error of altitudes by the root of three.
+    const SightFixResult mean = CalculateFix(
+        listOf({sunAt(-30), sunAt(-28), sunAt(-26), sunAt(29), sunAt(31), sunAt(33)}), off, {}, {});
+    ASSERT_EQ(mean.equalPairs.size(), 3U);
+    for (const EqualAltitudePair& pair : mean.equalPairs)
+        EXPECT_NEAR(pair.longitude.value(), 80, 0.2 / 60);
+    EXPECT_THAT(mean.equalText,
+                ::testing::StartsWith("Equal altitudes, mean of 3 pairs: passage "));
+    EXPECT_THAT(mean.equalText, HasSubstr("longitude 080-.00'0E ± ")) << mean.equalText;
+    const EqualAltitudePair& one = fix.equalPairs.at(0);
+    EXPECT_NEAR(sigmaOf(fix.equalText), std::hypot(one.byAltitudes.value(), one.byRun.value()) * 60,
+                0.06);
+    EXPECT_NEAR(std::pow(sigmaOf(mean.equalText), 2),
+                std::pow(one.byAltitudes.value() * 60, 2) / 3 + std::pow(one.byRun.value() * 60, 2),
+                1.5);
 }
 
 } // namespace
