@@ -5,6 +5,7 @@
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 
+#include <cmath>
 #include <utility>
 
 namespace korvel
@@ -56,21 +57,27 @@ void addSizeAndParallax(Working& working, const Observation& seen)
     const almanac::SextantTerms& terms = *seen.corrections->ofBody;
     const almanac::Place& place = *seen.place;
     if (terms.semiDiameter != 0) {
+        const std::string side = terms.semiDiameter < 0 ? "-" : "";
         addTerm(working, "Semi-diameter", "+ of the lower, - of the upper limb",
-                inMinutes(place.semiDiameter.value() * 60), terms.semiDiameter);
+                side + inMinutes(place.semiDiameter.value() * 60), terms.semiDiameter);
+        const Degrees grown((std::fabs(terms.semiDiameter) + std::fabs(terms.augmentation)) / 60);
+        const std::string SD = angleTerm(place.semiDiameter, 7);
         addTerm(working, "Augmentation",
-                "what the eye's being nearer than the earth's centre adds to it", "",
+                "± (arcsin(sin SD / n) - SD), n the distance from the eye by that from the "
+                "earth's centre",
+                side + "60 × (arcsin(sin " + SD + " / " +
+                    figure(sin(place.semiDiameter) / sin(grown), 7) + ") - " + SD + ")",
                 terms.augmentation);
     }
     if (terms.parallax == 0) return;
     const std::string HP = sightTerm(place.horizontalParallax), h = sightTerm(terms.seen);
     addTerm(working, "Parallax in altitude",
             "sin p = sin HP cos h', h' of the middle as it is seen",
-            "arcsin(sin " + HP + " × cos " + h + ")", terms.parallax);
+            "60 × arcsin(sin " + HP + " × cos " + h + ")", terms.parallax);
     addTerm(working, "Shape of the earth",
             "what the ellipsoid of WGS 84 adds, from the DR position; about HP / 298.3 "
             "(sin 2φ cos Zn sin h' - sin² φ cos h')",
-            "", terms.oblateness);
+            "at the DR position, h' " + h, terms.oblateness);
 }
 
 } // namespace
@@ -88,18 +95,21 @@ Working bodyPlaceWorking(const LOPResult& line)
         {}};
     working.step("Terrestrial less universal time", "ΔT", sightInstant(*seen.UTC),
                  figure(sky.deltaT().seconds, 1), "s");
-    working.step("Greenwich hour angle of Aries", "GHA Aries", "", sightFigure(sky.ghaAries()),
+    const std::string here = "by the almanac, " + sightInstant(*seen.UTC);
+    working.step("Greenwich hour angle of Aries", "GHA Aries", here, sightFigure(sky.ghaAries()),
                  "°");
-    if (isStar) working.step("Sidereal hour angle", "SHA", "", sightFigure(place.sha), "°");
-    working.step("Greenwich hour angle", isStar ? "GHA = GHA Aries + SHA" : "GHA", "",
-                 sightFigure(place.gha), "°");
+    if (isStar) working.step("Sidereal hour angle", "SHA", here, sightFigure(place.sha), "°");
+    const bool isBeyond = sky.ghaAries() + place.sha >= fullTurn;
+    const std::string sum = sightTerm(sky.ghaAries()) + " + " + sightTerm(place.sha);
+    working.step("Greenwich hour angle", isStar ? "GHA = GHA Aries + SHA" : "GHA",
+                 isStar ? sum + (isBeyond ? " - 360°" : "") : here, sightFigure(place.gha), "°");
     working.resultStep("Greenwich hour angle", "degrees and minutes of GHA, 0 to 360", line.GHA);
     working.step("Declination",
-                 seen.body == almanac::Body::Venus ? "δ, of her centre of light" : "δ", "",
+                 seen.body == almanac::Body::Venus ? "δ, of her centre of light" : "δ", here,
                  sightFigure(place.declination), "°");
     working.resultStep("Declination", "degrees and minutes of δ, south negative", line.declination);
     if (!isStar)
-        working.step("Horizontal parallax", "HP, of the equator", "",
+        working.step("Horizontal parallax", "HP, of the equator", here,
                      inMinutes(place.horizontalParallax.value() * 60), "'");
     return working;
 }
