@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <set>
 
 namespace korvel
@@ -113,6 +114,8 @@ TEST(SkyDay, refusesWhatCannotBeUsedAndSaysSo)
     EXPECT_EQ(dayOf({}).notice, "") << "nothing entered, nothing claimed";
     // A date alone is noon, and the ends of the years hold.
     EXPECT_TRUE(dayOf({"2026/11/22", "35", "140"}).hasTimes());
+    EXPECT_EQ(dayOf({"2026/11/22", "35", "140", "90", "15"}).event(SkyEvent::Sunset).where,
+              dayOf({"2026/11/22 12:00", "35", "140", "90", "15"}).event(SkyEvent::Sunset).where);
     EXPECT_TRUE(dayOf({"1950/1/2", "35", "140"}).hasTimes());
     EXPECT_TRUE(dayOf({"2100/12/30", "35", "140"}).hasTimes());
     EXPECT_TRUE(dayOf({"2026/11/22", "90", "140"}).hasTimes()) << "at the pole, at anchor";
@@ -199,6 +202,25 @@ TEST(SkyStars, roundIsKeptFromTheMoonAndOfTheCountThatIsAsked)
                 }
         }
     }
+}
+
+// Over a month the Moon passes many that would serve but for her.
+TEST(SkyStars, roundLeavesOutWhatStandsInTheMoonlight)
+{
+    int drowned = 0;
+    for (int date = 1; date <= 30; ++date) {
+        const std::string day = "2026/11/" + std::to_string(date);
+        const SkyStars stars = starsOf(dayOf({day.c_str(), "35", "140", "", "", "", "9"}), "", 7);
+        const auto moon = std::ranges::find(stars.bodies, almanac::Body::Moon, &SkyBody::body);
+        if (moon == stars.bodies.end()) continue;
+        for (const SkyBody& each : stars.bodies) {
+            if (almanac::angleBetween(moon->seen, each.seen) >= almanac::reachOfMoon(stars.moonLit))
+                continue;
+            EXPECT_FALSE(each.isInRound) << day;
+            drowned += each.body != almanac::Body::Moon;
+        }
+    }
+    EXPECT_GE(drowned, 3);
 }
 
 // On the arc the sextant reads more: what is preset is more, what was read less.

@@ -6,6 +6,9 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
+#include <set>
+
 namespace korvel
 {
 namespace
@@ -104,21 +107,28 @@ TEST(SightSeries, longitudeByEqualAltitudes)
     EXPECT_THAT(fix.equalText, HasSubstr("longitude 080-.00'0E ± ")) << fix.equalText;
     EXPECT_EQ(CalculateFix(listOf({sunAt(-60), sunAt(-30)}), off, {}, {}).equalText, "");
 
-    // Three pairs: a sight in one of them only, and the error of altitudes by the root of three.
-    const SightFixResult mean = CalculateFix(
-        listOf({sunAt(-30), sunAt(-28), sunAt(-26), sunAt(29), sunAt(31), sunAt(33)}), off, {}, {});
-    ASSERT_EQ(mean.equalPairs.size(), 3U);
-    for (const EqualAltitudePair& pair : mean.equalPairs)
+    // Three pairs, a sight in one of them only. The error of the altitudes, here 2', goes by the
+    // root of three; that of the run, here 20 % of 18 knots, stays.
+    const SightList six =
+        listOf({sunAt(-30), sunAt(-28), sunAt(-26), sunAt(29), sunAt(31), sunAt(33)});
+    const SightFixResult byAltitudes = CalculateFix(six, off, {"2", "0", "0"}, {});
+    ASSERT_EQ(byAltitudes.equalPairs.size(), 3U);
+    std::set<double> sights;
+    double weight = 0;
+    for (const EqualAltitudePair& pair : byAltitudes.equalPairs) {
         EXPECT_NEAR(pair.longitude.value(), 80, 0.2 / 60);
-    EXPECT_THAT(mean.equalText,
-                ::testing::StartsWith("Equal altitudes, mean of 3 pairs: passage "));
-    EXPECT_THAT(mean.equalText, HasSubstr("longitude 080-.00'0E ± ")) << mean.equalText;
-    const EqualAltitudePair& one = fix.equalPairs.at(0);
-    EXPECT_NEAR(sigmaOf(fix.equalText), std::hypot(one.byAltitudes.value(), one.byRun.value()) * 60,
-                0.06);
-    EXPECT_NEAR(std::pow(sigmaOf(mean.equalText), 2),
-                std::pow(one.byAltitudes.value() * 60, 2) / 3 + std::pow(one.byRun.value() * 60, 2),
-                1.5);
+        EXPECT_EQ(pair.byRun, Degrees(0));
+        weight += 1 / std::pow(pair.byAltitudes.value() * 60, 2);
+        sights.insert({pair.first, pair.second});
+    }
+    EXPECT_EQ(sights.size(), 6U);
+    EXPECT_THAT(byAltitudes.equalText,
+                ::testing::StartsWith("Equal altitudes, mean of 3 pairs: passage 06:26:0"));
+    EXPECT_THAT(byAltitudes.equalText, HasSubstr("longitude 080-.00'0E ± "));
+    EXPECT_NEAR(sigmaOf(byAltitudes.equalText), 1 / std::sqrt(weight), 0.06);
+    const SightFixResult byRun = CalculateFix(six, off, {"0.1", "20", "0"}, {});
+    EXPECT_NEAR(sigmaOf(byRun.equalText), byRun.equalPairs[0].byRun.value() * 60, 0.3);
+    EXPECT_GT(sigmaOf(byRun.equalText), 2);
 }
 
 } // namespace
