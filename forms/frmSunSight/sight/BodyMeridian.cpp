@@ -133,12 +133,12 @@ void latitudeOfBody(const Observation& observation, const Position& ship, Meridi
 
 std::string exMeridianText(const ExMeridian& reduced)
 {
-    const std::string limit = "limit " + Format(reduced.limit, "0") + " min";
+    const std::string limit = Format(reduced.limit, "0") + " min";
     if (!reduced.isWithinLimit())
-        return "Ex-meridian: " + Format(std::fabs(reduced.minutes), "0.0") +
-               " min from the meridian, " + limit;
+        return "Ex-meridian: none, " + Format(std::fabs(reduced.minutes), "0.0") +
+               " min is beyond " + limit;
     return "Ex-meridian " + latitudeText(reduced.latitude) + ", reduced by " +
-           Format(fabs(reduced.reduction), "0.0'") + ", " + limit + "; 1' of longitude is " +
+           Format(fabs(reduced.reduction), "0.0'") + ", limit " + limit + "; 1' of longitude is " +
            Format(reduced.ofLongitude, "0.0#'") + " of latitude";
 }
 
