@@ -10,6 +10,12 @@
 namespace almanac
 {
 
+/// What every page says of itself: ASCII.
+inline constexpr std::string_view notOfficial =
+    "Worked by KORVEL2000. Not an official almanac: check it before you rely on it.";
+/// How good its places are, measured against full theories.
+inline constexpr std::string_view accuracyOfPage = "Within 0.02' of full theory, rounded to 0.1'";
+
 std::string padded(const std::string& text, std::size_t width, char filler = ' ');
 std::string padded(int number, std::size_t width, char filler = ' ');
 std::string leftAligned(std::string_view text, std::size_t width);

@@ -11,12 +11,14 @@ namespace almanac
 namespace
 {
 
-constexpr std::string_view notOfficial =
-    "Worked by KORVEL2000. Not an official almanac: check it before you rely on it.\n";
-
 std::string heading(const DailyPage& page)
 {
-    return datesText(page.firstDay, pageDays) + "\n" + std::string(notOfficial);
+    std::string lines = datesText(page.firstDay, pageDays) + "\n";
+    for (const std::string_view sentence : {notOfficial, accuracyOfPage}) {
+        lines += sentence;
+        lines += '\n';
+    }
+    return lines;
 }
 
 std::string hourCell(const PageHour& hour)

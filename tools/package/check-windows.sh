@@ -103,6 +103,7 @@ work_in_folder() {
     same_records "$stick/$folder_name"
     saved_paper "$home"
     same_page "$home/run" "$stick/$folder_name/almanac.exe"
+    let_wine_settle
 }
 
 ask_for_clock() {

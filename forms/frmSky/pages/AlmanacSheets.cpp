@@ -87,7 +87,7 @@ struct Column {
     double width;
 };
 
-constexpr double headLines = 3;     ///< above the tables
+constexpr double headLines = 3.3;   ///< above the tables
 constexpr double columnHeads = 2;   ///< two lines of headings
 constexpr double gapOfHours = 0.35; ///< after every six
 
@@ -104,9 +104,8 @@ void drawHead(Sheet& sheet, const DailyPage& page, double wide, const std::strin
 {
     sheet.text(0, 0, wide, almanac::datesText(page.firstDay, almanac::pageDays), Side::Left, true);
     sheet.text(0, 0, wide, what, Side::Right, true);
-    sheet.text(0, 1, wide,
-               "Worked by KORVEL2000. Not an official almanac: check it before you rely on it.",
-               Side::Left);
+    sheet.text(0, 1, wide, std::string(almanac::notOfficial), Side::Left);
+    sheet.text(0, 2, wide, std::string(almanac::accuracyOfPage), Side::Left);
     const bool isAssumed = page.deltaT.source == almanac::DeltaT::Source::Assumed;
     sheet.text(0, 1, wide,
                "UT taken as UTC; Delta T " + almanac::tenthsCell(page.deltaT.seconds, 0) + " s" +
