@@ -59,10 +59,14 @@ END
     let_wine_settle
 }
 
-# let_wine_settle  Services and a desktop without a display linger after a program of its own; one that
-# is started while they end waits for them for ever.
+# let_wine_settle  Services and a desktop without a display linger after a program of its own, and
+# after the server too; a program that is started while they end waits for them for ever.
 let_wine_settle() {
     timeout 60 "${visitor[@]}" env WINEPREFIX="$home/wine" "$wine/wineserver64" --wait || close_wine
+    for _ in $(seq 300); do
+        pgrep -f '^C:.windows.system32|^[^ ]*/wineserver64' >/dev/null || break
+        sleep 0.1
+    done
 }
 
 # give_fonts  Windows has a Tahoma and, for Japanese and full-width letters, an MS UI Gothic. Wine has
