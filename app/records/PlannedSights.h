@@ -15,8 +15,8 @@ namespace korvel
 struct PlannedSight {
     std::string body; ///< as almanacs name it, "Capella", "Venus"
     Instant utc;      ///< for which it was worked
-    NavFunc113::Degrees
-        sextantAltitude;         ///< to be preset: index error, dip and refraction put on; 0 to 90
+    /// To be preset: index error, dip and refraction put on; 0 to 90.
+    NavFunc113::Degrees sextantAltitude;
     NavFunc113::Degrees azimuth; ///< true, 0 <= azimuth < 360
 
     bool operator==(const PlannedSight&) const = default;

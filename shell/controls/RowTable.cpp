@@ -294,7 +294,7 @@ QLabel* RowTable::number(std::size_t row) const
 
 void RowTable::setRowSeen(std::size_t row, bool isSeen)
 {
-    number(row)->parentWidget()->setVisible(isSeen);
+    ground(row)->setVisible(isSeen);
 }
 
 std::vector<EntryBox*> RowTable::boxesOfRow(std::size_t row) const
@@ -368,7 +368,7 @@ bool RowTable::eventFilter(QObject* watched, QEvent* event)
     if (!row) return QWidget::eventFilter(watched, event);
     auto wanted = rowByKey(*static_cast<QKeyEvent*>(event), *row);
     if (!wanted) return QWidget::eventFilter(watched, event);
-    while (number(*wanted)->parentWidget()->isHidden() && *wanted + 1 < rows() && *wanted > 0)
+    while (ground(*wanted)->isHidden() && *wanted + 1 < rows() && *wanted > 0)
         *wanted = *wanted > *row ? *wanted + 1 : *wanted - 1;
     const auto column = std::ranges::find(m_lines[*row], control) - m_lines[*row].begin();
     QWidget* there = m_lines[*wanted][static_cast<std::size_t>(column)];

@@ -15,9 +15,10 @@ namespace korvel
 /// between columns.
 class TextTable : public QTableView
 {
-    Q_OBJECT // findChildren() tells it from other tables by this
+    Q_OBJECT
 
-        public : struct Column {
+public:
+    struct Column {
         const char* heading;
         const char* widest; ///< of its texts, as a rule
         bool isFigure = true;

@@ -14,26 +14,15 @@ namespace korvel
 namespace
 {
 
-/// That of a window with a menu bar; made when it is first wanted.
-OwnFrame* ownFrameOf(QMainWindow& window, bool isWanted)
+/// A window's frame of our own, kept in its property of that name; made when it is first wanted.
+template <typename Frame, typename Window>
+Frame* frameOf(Window& window, const char* kept, bool isWanted)
 {
-    constexpr const char* kept = "ownFrame";
-    auto* frame = window.property(kept).value<OwnFrame*>();
+    auto* frame = window.property(kept).template value<Frame*>();
     if (frame || !isWanted) return frame;
-    frame = new OwnFrame(window);
+    frame = new Frame(window);
     window.setProperty(kept, QVariant::fromValue(frame));
     return frame;
-}
-
-/// That of the manual or of a dialog.
-OwnTitle* ownTitleOf(QWidget& window, bool isWanted)
-{
-    constexpr const char* kept = "ownTitle";
-    auto* title = window.property(kept).value<OwnTitle*>();
-    if (title || !isWanted) return title;
-    title = new OwnTitle(window);
-    window.setProperty(kept, QVariant::fromValue(title));
-    return title;
 }
 
 bool hasFrame(const QWidget& window)
@@ -71,12 +60,12 @@ void Frames::dress(QWidget& window) const
     if (m_wereDark) wishForFrame(window, m_isDark);
     auto* withMenus = qobject_cast<QMainWindow*>(&window);
     if (!withMenus) {
-        if (OwnTitle* title = window.layout() ? ownTitleOf(window, m_areOwn) : nullptr)
-            title->hold(m_areOwn);
+        auto* title = window.layout() ? frameOf<OwnTitle>(window, "ownTitle", m_areOwn) : nullptr;
+        if (title) title->hold(m_areOwn);
         return;
     }
     if (!withMenus->menuWidget() || !withMenus->centralWidget()) return;
-    if (OwnFrame* frame = ownFrameOf(*withMenus, m_areOwn)) frame->hold(m_areOwn);
+    if (auto* frame = frameOf<OwnFrame>(*withMenus, "ownFrame", m_areOwn)) frame->hold(m_areOwn);
 }
 
 } // namespace korvel
