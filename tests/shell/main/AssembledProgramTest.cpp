@@ -5,9 +5,11 @@
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
+#include <QTest>
 
 #include <set>
 
