@@ -24,6 +24,7 @@ constexpr double latitudeFactorDivisor = 2.05;
 
 constexpr Degrees dueEast(90);
 constexpr Degrees dueWest(270);
+constexpr Radians sineIsEnough(1.3);  // 74 degrees
 constexpr Degrees sameParallel(1e-9); // nearer than this two latitudes are one
 
 /// A packed latitude taken for decimal degrees, unconverted: its factor varies too slowly for the
@@ -161,7 +162,12 @@ std::string_view NameOf(EastOrWest way)
 double MeridionalParts(Degrees lat)
 {
     const Radians phi = DegToRad(lat);
-    return 7915.7 * Log10(tan(Radians(Pi() / 4) + phi / 2)) - 23.1 * sin(phi);
+    const double sine = sin(phi);
+    // log tan(45° + phi/2) is half of log((1 + sin phi) / (1 - sin phi)), without a tangent; but
+    // towards a pole the difference in it loses figures.
+    const double logarithm = fabs(phi) < sineIsEnough ? Log10((1 + sine) / (1 - sine)) / 2
+                                                      : Log10(tan(Radians(Pi() / 4) + phi / 2));
+    return 7915.7 * logarithm - 23.1 * sine;
 }
 
 double LatitudeFactor(Degrees lat)
