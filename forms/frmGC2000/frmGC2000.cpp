@@ -251,17 +251,11 @@ void frmGC2000::runGC()
         m_result = CalculateGC({m_txtGC.texts<0, 4>(), program().earth()});
     } catch (const NavFunc113::ArithmeticError&) {
         m_result = {};
-        for (std::size_t row = 0; row < rowCount; ++row)
-            showRow(row);
+        showRows();
         m_picGC->setChart({});
         throw; // the runner blanks the other labels and says so
     }
-
-    // All of the table at once: seventy labels one by one are seventy pieces of a screen to be kept
-    // apart.
-    m_waypoints->update();
-    for (std::size_t row = 0; row < m_result.rows.size(); ++row)
-        showRow(row);
+    showRows();
     m_shown.show(m_result);
     m_picGC->setChart(DrawWPs(m_result.route));
     setNotice("input", asQString(m_result.notice), levelBeside(m_result.figures.has_value()));
@@ -292,14 +286,15 @@ std::vector<PaperPicture> frmGC2000::paperPictures()
                          QSize(640, 400))};
 }
 
-void frmGC2000::showRow(std::size_t row)
+void frmGC2000::showRows()
 {
     const std::size_t waypoints = m_result.route.waypoints.size();
-    m_waypoints->number(row)->setText(row >= waypoints       ? QString()
-                                      : row == 0             ? "Dep."
-                                      : row == waypoints - 1 ? "Arr."
-                                                             : QString::number(row));
-    m_waypoints->showRow(row, waypointRows, m_result.rows[row]);
+    for (std::size_t row = 0; row < rowCount; ++row)
+        m_waypoints->number(row)->setText(row >= waypoints       ? QString()
+                                          : row == 0             ? "Dep."
+                                          : row == waypoints - 1 ? "Arr."
+                                                                 : QString::number(row));
+    m_waypoints->showRows(0, waypointRows, std::span<const GCRow>(m_result.rows));
 }
 
 } // namespace korvel

@@ -37,7 +37,7 @@ private:
     void nameWaypointEntries();
 
     void runGC();
-    void showRow(std::size_t row);
+    void showRows();
     std::vector<ResultLabel*> allResults() const;
     std::string waypointText(std::size_t waypoint,
                              NavFunc113::DegMin GCWaypoint::*coordinate) const;

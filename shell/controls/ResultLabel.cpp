@@ -15,30 +15,40 @@
 #include <QMenu>
 #include <QToolTip>
 
+#include <array>
 #include <cmath>
+#include <utility>
 
 namespace korvel
 {
 namespace
 {
 
-/// The toolkit has a window lay itself out for every text of a label. It does not for a hidden one,
-/// and the room of these labels does not depend on their text.
-class WithoutLayout
+/// The toolkit has a window lay itself out for every text of a label, and the whole label painted.
+/// It does neither for a hidden one without updates, and the room of these labels does not depend
+/// on their text.
+class Still
 {
 public:
-    explicit WithoutLayout(QWidget& label)
-        : m_label(label), m_isHidden(label.testAttribute(Qt::WA_WState_Hidden))
+    explicit Still(QWidget& label) : m_label(label)
     {
-        m_label.setAttribute(Qt::WA_WState_Hidden);
+        for (auto& [attribute, was] : m_before) {
+            was = m_label.testAttribute(attribute);
+            m_label.setAttribute(attribute);
+        }
     }
-    ~WithoutLayout() { m_label.setAttribute(Qt::WA_WState_Hidden, m_isHidden); }
-    WithoutLayout(const WithoutLayout&) = delete;
-    WithoutLayout& operator=(const WithoutLayout&) = delete;
+    ~Still()
+    {
+        for (const auto& [attribute, was] : m_before)
+            m_label.setAttribute(attribute, was);
+    }
+    Still(const Still&) = delete;
+    Still& operator=(const Still&) = delete;
 
 private:
     QWidget& m_label;
-    bool m_isHidden;
+    std::array<std::pair<Qt::WidgetAttribute, bool>, 2> m_before{
+        {{Qt::WA_WState_Hidden, false}, {Qt::WA_UpdatesDisabled, false}}};
 };
 
 /// The toolkit tells a label's text or its accessible name, never both.
@@ -115,20 +125,28 @@ void ResultLabel::dressAsInHand()
     setForegroundRole(accentRole);
 }
 
-void ResultLabel::setText(const QString& text)
+QRect ResultLabel::changeText(const QString& text)
 {
-    if (text == this->text()) return;
+    const QString before = this->text();
+    if (text == before) return {};
+    QRect changed = contentsRect();
     if (m_isRoomByText) {
         QLabel::setText(text);
     } else {
-        const WithoutLayout still(*this);
+        const bool wasWhole = isOneLine() && !isCut();
+        const Still still(*this);
         QLabel::setText(text);
+        if (wasWhole && isOneLine() && !isCut() && !isBeingSelected())
+            changed =
+                m_figures.difference(font(), changed, alignment(), before, text).toAlignedRect();
     }
     if (m_isEliding) setToolTip(text);
     if (focusPolicy() == Qt::NoFocus || focusPolicy() == Qt::TabFocus) stopTabHere();
-    if (!QAccessible::isActive() || accessibleName().isEmpty()) return; // the label tells it itself
+    if (!QAccessible::isActive() || accessibleName().isEmpty())
+        return changed; // the label tells it itself
     QAccessibleEvent told(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&told);
+    return changed;
 }
 
 /// The toolkit keeps a text document behind a label that can be selected or take the focus. It is
@@ -226,7 +244,7 @@ void ResultLabel::paintEvent(QPaintEvent* event)
     }
     const QString shown =
         isCut() ? fontMetrics().elidedText(text(), Qt::ElideRight, width()) : text();
-    m_figures.draw(painter, contentsRect(), alignment(), shown);
+    m_figures.draw(painter, contentsRect(), alignment(), shown, event->rect());
 }
 
 void ResultLabel::mousePressEvent(QMouseEvent* event)

@@ -42,7 +42,10 @@ public:
     /// Stores what copying gives in a memory; an empty function where there is none.
     std::function<void(const QString& copied)> storeInMemo;
 
-    void setText(const QString& text);
+    void setText(const QString& text) { update(changeText(text)); }
+    /// The same for many labels at once: the painting is left to the caller.
+    /// @return what of the label is to be painted
+    QRect changeText(const QString& text);
     void clear() { setText({}); }
 
     /// Gives the label room for a text and this many lines of it, by the letters that it has. What

@@ -124,6 +124,15 @@ RowTable::Ground* RowTable::ground(std::size_t row) const
     return static_cast<Ground*>(number(row)->parentWidget());
 }
 
+/// Returns what of the table is to be painted.
+QRect RowTable::changeText(std::size_t row, std::size_t column, const QString& text)
+{
+    ResultLabel* label = result(row, column);
+    const QRect changed = label->changeText(text);
+    return changed.isEmpty() ? QRect()
+                             : QRect(label->mapTo(this, changed.topLeft()), changed.size());
+}
+
 void RowTable::showWhetherFilled(std::size_t row)
 {
     const auto hasText = [](const auto* control) { return !control->text().isEmpty(); };

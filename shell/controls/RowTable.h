@@ -97,12 +97,25 @@ public:
     template <typename Row, std::size_t N>
     void showRow(std::size_t row, const std::array<RowColumn<Row>, N>& table, const Row& shown)
     {
+        showRows(row, table, std::span(&shown, 1));
+    }
+
+    /// The same for rows one below another. What changes in a column is painted as one piece: label
+    /// by label they would be dozens of pieces of a screen to be kept apart.
+    template <typename Row, std::size_t N>
+    void showRows(std::size_t first, const std::array<RowColumn<Row>, N>& table,
+                  std::span<const Row> shown)
+    {
         for (std::size_t i = 0; i < N; ++i) {
             if (!table[i].text) continue;
-            if (const std::string* text = Result<Row>::textOf(*table[i].text, shown))
-                result(row, i)->setText(asQString(*text));
+            QRect changed;
+            for (std::size_t k = 0; k < shown.size(); ++k)
+                if (const std::string* text = Result<Row>::textOf(*table[i].text, shown[k]))
+                    changed |= changeText(first + k, i, asQString(*text));
+            update(changed);
         }
-        showWhetherFilled(row);
+        for (std::size_t k = 0; k < shown.size(); ++k)
+            showWhetherFilled(first + k);
     }
 
     /// Row of a control; nothing when it is none of the table's.
@@ -117,6 +130,7 @@ private:
     using Line = std::vector<QWidget*>; ///< by column
 
     Ground* ground(std::size_t row) const;
+    QRect changeText(std::size_t row, std::size_t column, const QString& text);
     void showWhetherFilled(std::size_t row);
     void setInHand(std::size_t row);
     void dress(std::size_t row, bool inHand);

@@ -10,6 +10,7 @@
 #include <QFontDatabase>
 #include <QImage>
 #include <QMenu>
+#include <QPainter>
 #include <QTest>
 
 namespace korvel
@@ -46,6 +47,75 @@ TEST(ResultLabel, itsRoomHoldsEveryStroke)
             label.resize(2 * label.width(), label.height());
             const long whole = inkOf(label);
             EXPECT_GE(inRoom, whole - whole / 100) << family.toStdString() << " " << points;
+        }
+    }
+}
+
+/// A label as it stands on a screen where only what changes is painted.
+class OnScreen
+{
+public:
+    explicit OnScreen(ResultLabel& label)
+        : m_label(label), m_screen(label.size(), QImage::Format_RGB32)
+    {
+        paint(label.rect());
+    }
+
+    void show(const QString& text) { paint(m_label.changeText(text)); }
+    const QImage& picture() const { return m_screen; }
+
+private:
+    void paint(const QRect& part)
+    {
+        if (part.isEmpty()) return;
+        QPainter painter(&m_screen);
+        painter.fillRect(part, Qt::white);
+        m_label.render(&painter, part.topLeft(), part, QWidget::RenderFlags());
+    }
+
+    ResultLabel& m_label;
+    QImage m_screen;
+};
+
+TEST(ResultLabel, paintsWhatChangesAndLeavesNothingBehind)
+{
+    for (const QString& family : QFontDatabase::families(QFontDatabase::Latin)) {
+        for (const Qt::Alignment side : {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight}) {
+            ResultLabel label;
+            label.setFont(QFont(family, 13));
+            label.setAlignment(side | Qt::AlignVCenter);
+            label.resize(110, 24);
+            OnScreen screen(label);
+            for (const char* const text : {"104.4",
+                                           "104.6",
+                                           "1104.6",
+                                           "104.6",
+                                           "-104.6",
+                                           "99.9",
+                                           "100.0",
+                                           "7.1",
+                                           "7\u00b0.1",
+                                           "",
+                                           "W",
+                                           "fj Wf",
+                                           "j.f'W",
+                                           "0 \u6771",
+                                           "0 \u5317",
+                                           "12",
+                                           "no room for all of this",
+                                           "no room for all of that",
+                                           "1\n2",
+                                           "1",
+                                           "-1"}) {
+                screen.show(text);
+                ResultLabel anew;
+                anew.setFont(label.font());
+                anew.setAlignment(label.alignment());
+                anew.resize(label.size());
+                anew.setText(text);
+                EXPECT_TRUE(screen.picture() == OnScreen(anew).picture())
+                    << family.toStdString() << " " << text;
+            }
         }
     }
 }
