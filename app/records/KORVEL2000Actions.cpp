@@ -2,6 +2,7 @@
 #include "app/records/KORVEL2000Actions.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 
 #include <cmath>
 
@@ -67,6 +68,17 @@ bool KORVEL2000Actions::storeSingle(double value, const std::string& refusal)
     if (answer != Answer::Yes) return false;
     m_saved.setSingleMemo(value);
     return true;
+}
+
+bool isPositionForMemo(const std::string& figure)
+{
+    const auto position = parsePosition(figure, Axis::Latitude);
+    return position && position->latitude && position->longitude;
+}
+
+bool isForMemo(const std::string& figure)
+{
+    return isPositionForMemo(figure) || (isNumeric(figure) && readNumber(figure) > 0);
 }
 
 void KORVEL2000Actions::storePosition(const std::string& latitude, const std::string& longitude)

@@ -66,6 +66,11 @@ private:
     double PendingMemoLat = 0; ///< between the two halves of a position store
 };
 
+/// Whether a text is a latitude and a longitude, as the Position Memo keeps them.
+bool isPositionForMemo(const std::string& figure);
+/// Whether a memory can keep a figure: a position, or a number above 0.
+bool isForMemo(const std::string& figure);
+
 /// Asks until the answer is a number in low .. high; a wrong answer is named.
 /// @return defaultAnswer when nobody answers any more
 std::string askNumberInRange(Questions& questions, const std::string& prompt,

@@ -122,6 +122,7 @@ void ConversionWindow::addBoxes(const char* name)
         box->isUnderstood = [this, index](const std::string& text) {
             return isReadWhole(m_quantity, index, text);
         };
+        box->setResultUnit(asQString(unit.symbol));
         box->setAlignment(Qt::AlignRight);
         giveRoom(*box);
         m_boxes.push_back(box);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTanks/SheetTables.h"
 
+#include <string_view>
+
 namespace korvel
 {
 namespace
@@ -158,9 +160,10 @@ constexpr RowColumn<CompareRow> compared(const char* name, const char* heading, 
                                          const char* measure, RowColumn<CompareRow>::Text text,
                                          bool startsGroup = false)
 {
-    return {{name, heading, "000000.000", Label::Result, words, measure, Qt::AlignRight, false,
-             startsGroup},
-            text};
+    const char* widest = std::string_view(heading) == "%" ? "-00.000" : "000000.000";
+    return {
+        {name, heading, widest, Label::Result, words, measure, Qt::AlignRight, false, startsGroup},
+        text};
 }
 using Texts = CompareTexts;
 constexpr std::array<RowColumn<CompareRow>, 14> compareTable = {{
@@ -242,6 +245,7 @@ void showRowsOfGrades(RowTable& table, const Rows& shown)
 TotalsTable::TotalsTable() : RowTable(totalsColumns, gradeCount + 1)
 {
     number(gradeCount)->clear(); // the ship's is no grade
+    nameRowsBy(1);
 }
 
 void TotalsTable::show(const std::array<TotalsRow, gradeCount + 1>& shown)
@@ -254,6 +258,7 @@ void TotalsTable::show(const std::array<TotalsRow, gradeCount + 1>& shown)
 CompareTable::CompareTable() : RowTable(compareColumns, gradeCount + 1)
 {
     number(gradeCount)->clear();
+    nameRowsBy(1);
 }
 
 void CompareTable::show(const std::array<CompareRow, gradeCount + 1>& shown)

@@ -2,7 +2,9 @@
 #include "shell/controls/Boxes.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QValidator>
 
@@ -207,6 +209,16 @@ void KeyUpBox::focusOutEvent(QFocusEvent* event)
 {
     settle(); // a key may be released in the next box
     EntryBox::focusOutEvent(event);
+}
+
+void KeyUpBox::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (m_resultUnit.isEmpty()) return EntryBox::contextMenuEvent(event);
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose); // the window may be closed under it
+    menu->addSeparator();
+    addCopies(*menu, {text(), plainFigure(text()), figureInFull({}, text(), m_resultUnit)}, *this);
+    menu->popup(event->globalPos());
 }
 
 void KeyUpBox::settle()

@@ -3,6 +3,7 @@
 
 #include "app/reading/NumberField.h"
 #include "app/records/SettingsRecord.h"
+#include "shell/controls/FigureMenu.h"
 
 #include <QLineEdit>
 
@@ -92,7 +93,7 @@ private:
 
 /// A text box whose calculation runs when a key is released, not while it goes down. Text that
 /// comes without a key (recalled, pasted by mouse, from an input method) counts at once.
-class KeyUpBox : public EntryBox
+class KeyUpBox : public EntryBox, public StoresFigures
 {
     Q_OBJECT
 
@@ -105,15 +106,20 @@ public:
     /// Shows a text that is a result of the window's own and starts nothing.
     void fill(const QString& text);
 
+    /// Unit of a box that shows results: its menu offers the copies that a result has.
+    void setResultUnit(const QString& unit) { m_resultUnit = unit; }
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     void settle();
 
     QString m_held;
+    QString m_resultUnit;
     bool m_keyGoingDown = false;
 };
 

@@ -34,6 +34,7 @@ PositionBox::PositionBox(Axis axis, QWidget* parent)
     m_echo->setFont(font());
     m_echo->passByTab(); // the box tells it with itself
     m_echo->copyText = [this] { return positionToCopy(); };
+    m_echo->wordsInFull = [this] { return words(); };
     connect(this, &QLineEdit::textChanged, this, [this] { showEcho(); });
     connect(this, &QObject::objectNameChanged, this,
             [this](const QString& name) { m_echo->setObjectName("echo " + name); });

@@ -140,6 +140,7 @@ QRect ResultLabel::changeText(const QString& text)
             changed =
                 m_figures.difference(font(), changed, alignment(), before, text).toAlignedRect();
     }
+    if (text.isEmpty()) emit emptied();
     if (m_isEliding) setToolTip(text);
     if (focusPolicy() == Qt::NoFocus || focusPolicy() == Qt::TabFocus) stopTabHere();
     if (!QAccessible::isActive() || accessibleName().isEmpty())
@@ -281,20 +282,14 @@ void ResultLabel::keyPressEvent(QKeyEvent* event)
 
 void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
 {
-    const auto toClipboard = [](const QString& copied) {
-        return [copied] { QApplication::clipboard()->setText(copied); };
-    };
     // Its own: the window may be closed under the open menu.
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (hasSelectedText() && selectedText() != text())
-        menu->addAction("&Copy what is selected", this, toClipboard(selectedText()));
-    menu->addAction("Copy as &shown", this, toClipboard(text()));
-    menu->addAction("Copy &plain", this, toClipboard(plainText()));
-    menu->addAction("Copy in &full", this, toClipboard(textInFull()));
-    if (storeInMemo) menu->addAction("Store in &memo", this, [this] { storeInMemo(plainText()); });
-    for (QAction* each : menu->actions())
-        each->setEnabled(!text().isEmpty());
+        menu->addAction("&Copy what is selected", [selected = selectedText()] {
+            QApplication::clipboard()->setText(selected);
+        });
+    addCopies(*menu, toCopy(), *this);
     menu->popup(event->globalPos());
 }
 
@@ -302,14 +297,13 @@ void ResultLabel::contextMenuEvent(QContextMenuEvent* event)
 QString ResultLabel::plainText() const
 {
     const QString own = copyText ? copyText() : QString();
-    return own.isEmpty() ? asQString(plainForm(text().toStdString())) : own;
+    return own.isEmpty() ? plainFigure(text()) : own;
 }
 
-/// For a log or a letter: what it is, the figure, its unit.
-QString ResultLabel::textInFull() const
+FigureToCopy ResultLabel::toCopy() const
 {
-    const QString figure = asQString(plainForm(text().toStdString()));
-    return QStringList({m_words, figure, m_unit}).join(' ').simplified();
+    const QString words = wordsInFull ? wordsInFull() : m_words;
+    return {text(), plainText(), figureInFull(words, text(), m_unit)};
 }
 
 void ResultLabel::copy()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/reading/Result.h"
+#include "shell/controls/FigureMenu.h"
 #include "shell/layout/FigureText.h"
 
 #include <QLabel>
@@ -16,7 +17,7 @@ namespace korvel
 /// the keyboard: Tab stops at it while it shows something. Assistive tools get its text behind its
 /// accessible name. The tip of a label without one of its own shows its figures in full form where
 /// the label keeps the program's packed writing.
-class ResultLabel : public QLabel
+class ResultLabel : public QLabel, public StoresFigures
 {
     Q_OBJECT
 
@@ -39,8 +40,8 @@ public:
     std::function<QString()> copyText;
     /// What a paper says, when the figure is written out there.
     std::function<std::string()> paperText;
-    /// Stores what copying gives in a memory; an empty function where there is none.
-    std::function<void(const QString& copied)> storeInMemo;
+    /// What a copy in full calls the figure, where that changes or its words do not tell enough.
+    std::function<QString()> wordsInFull;
 
     void setText(const QString& text) { update(changeText(text)); }
     /// The same for many labels at once: the painting is left to the caller.
@@ -72,6 +73,10 @@ public:
         return m_isRoomByText && QLabel::hasHeightForWidth();
     }
 
+signals:
+    /// Whoever took its text away: a calculation that ends in a fault knows of no rows.
+    void emptied();
+
 protected:
     /// True while the toolkit's own text document shows the text.
     bool isBeingSelected() const { return textInteractionFlags() != Qt::NoTextInteraction; }
@@ -89,7 +94,7 @@ private:
     void stopTabHere();
     void copy();
     QString plainText() const;
-    QString textInFull() const;
+    FigureToCopy toCopy() const;
 
     bool isOneLine() const;
     bool hasOwnTip() const { return !toolTip().isEmpty() && toolTip() != text(); }

@@ -8,6 +8,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -32,6 +33,14 @@ bool holds(const TableColumn& column, std::variant<FieldKind, Label> what)
 bool isResult(const TableColumn& column)
 {
     return holds(column, Label::Result) || holds(column, Label::Correction);
+}
+
+/// Figures keep to the right, typed ones too: places of the same worth stand below each other.
+Qt::Alignment sideOf(const TableColumn& column)
+{
+    const auto* kind = std::get_if<FieldKind>(&column.holds);
+    const bool isTypedFigure = kind && *kind != FieldKind::Text && *kind != FieldKind::Moment;
+    return isTypedFigure ? Qt::Alignment(Qt::AlignRight) : column.side;
 }
 
 EntryBox* boxOf(FieldKind kind, QWidget* parent)
@@ -181,13 +190,17 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
         auto* label = static_cast<ResultLabel*>(made);
         label->declare(words, measure, column.weight);
         label->dressAs(Weight::Figure); // also an answer: it is one in the row in hand
+        connect(label, &ResultLabel::emptied, this, [this, row] { showWhetherFilled(row); });
         if (holds(column, Label::Correction)) label->setFont(small(font()));
     } else if (isBox(column))
         static_cast<EntryBox*>(made)->declare(words, measure);
     else
         made->setAccessibleName(words);
     if (isBox(column) || isResult(column)) made->installEventFilter(this);
-    if (isBox(column)) static_cast<EntryBox*>(made)->recordKind = std::get<FieldKind>(column.holds);
+    if (isBox(column)) {
+        static_cast<EntryBox*>(made)->recordKind = std::get<FieldKind>(column.holds);
+        static_cast<EntryBox*>(made)->setAlignment(sideOf(column) | Qt::AlignVCenter);
+    }
     if (holds(column, FieldKind::Figure)) static_cast<EntryBox*>(made)->setReading({.name = {}});
     if (holds(column, FieldKind::Text))
         static_cast<EntryBox*>(made)->setMaxLength(EntryBox::longestText);
@@ -203,6 +216,21 @@ QWidget* RowTable::makeControl(const TableColumn& column, std::size_t row, const
     if (auto* label = qobject_cast<QLabel*>(made))
         label->setAlignment(column.side | Qt::AlignVCenter);
     return made;
+}
+
+void RowTable::nameRowsBy(std::size_t column)
+{
+    static const QRegularExpression number(" (of|at) \\w+ %1$");
+    for (std::size_t i = 0; i < m_columns.size(); ++i) {
+        if (!isResult(m_columns[i])) continue;
+        const QString words =
+            QString(m_columns[i].words).remove("Row %1, ").section(',', 0, 0).remove(number);
+        for (std::size_t row = 0; row < rows(); ++row)
+            result(row, i)->wordsInFull = [name = result(row, column), words,
+                                           isName = i == column] {
+                return isName ? QString() : name->text() + ", " + words;
+            };
+    }
 }
 
 int RowTable::widthOf(const TableColumn& column) const
@@ -260,7 +288,7 @@ public:
     explicit Heading(const RowTable& table) : m_table(table)
     {
         for (const TableColumn& column : table.m_columns) {
-            QLabel* label = columnHead(column.heading, column.side);
+            QLabel* label = columnHead(column.heading, sideOf(column));
             label->setSizePolicy(column.stretches ? QSizePolicy::Expanding : QSizePolicy::Preferred,
                                  QSizePolicy::Preferred);
             m_line.push_back(label);

@@ -87,6 +87,9 @@ public:
     /// Rows that have nothing to tell leave no room behind. Those of boxes stay.
     void setRowSeen(std::size_t row, bool isSeen);
 
+    /// Has copies in full call a row by what a result of it says, for its number tells nobody.
+    void nameRowsBy(std::size_t column);
+
     /// The boxes row by row, in their Enter order.
     std::vector<EntryBox*> boxes() const;
     std::vector<EntryBox*> boxesOfRow(std::size_t row) const;

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -139,12 +140,19 @@ void RowsView::keyPressEvent(QKeyEvent* event)
     const bool isPlain = !(event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
     const QString text = event->text();
     if (event->matches(QKeySequence::Paste)) return emit pasteWanted();
+    if (event->matches(QKeySequence::Copy) && currentIndex().isValid())
+        return QApplication::clipboard()->setText(rowToCopy(*this, currentIndex().row()) + '\n');
     if (isPlain && event->key() == Qt::Key_Delete) return emit deleteWanted();
     if (isPlain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         return emit typed(currentIndex().column(), {});
     if (isPlain && !text.isEmpty() && text[0].isPrint())
         return emit typed(currentIndex().column(), text);
     QTableView::keyPressEvent(event);
+}
+
+void RowsView::contextMenuEvent(QContextMenuEvent* event)
+{
+    openCellMenu(*this, *event, *this);
 }
 
 void RowsView::changeEvent(QEvent* event)

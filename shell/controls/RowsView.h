@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/controls/FigureMenu.h"
 #include "shell/screen/ColourScheme.h"
 #include "shell/screen/ZoomSizes.h"
 
@@ -14,13 +15,16 @@ namespace korvel
 
 /// Rows of a list that may be long, two lines each, of which one is in hand. It shows them and
 /// types nothing itself: a key in a column goes to the box of the row in hand.
-class RowsView : public QTableView, public SizedByLetters
+class RowsView : public QTableView, public SizedByLetters, public StoresFigures
 {
     Q_OBJECT
 
 public:
     /// What a model tells beside the text of a cell.
-    enum Role { SecondLine = Qt::UserRole, HasRemark /**< of a row, asked of its first column */ };
+    enum Role {
+        SecondLine = secondLineRole,
+        HasRemark /**< of a row, asked of its first column */
+    };
 
     struct Look {
         std::span<const char* const>
@@ -53,6 +57,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 

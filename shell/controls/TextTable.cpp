@@ -4,6 +4,7 @@
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -204,15 +205,16 @@ void TextTable::keyPressEvent(QKeyEvent* event)
         QTableView::keyPressEvent(event);
 }
 
+void TextTable::contextMenuEvent(QContextMenuEvent* event)
+{
+    openCellMenu(*this, *event, *this);
+}
+
 void TextTable::copy() const
 {
     QString text;
-    for (const QModelIndex& row : selectionModel()->selectedRows()) {
-        QStringList cells;
-        for (int column = 0; column < m_rows->columnCount(); ++column)
-            cells << m_rows->index(row.row(), column).data().toString().trimmed();
-        text += cells.join('\t') + '\n';
-    }
+    for (const QModelIndex& row : selectionModel()->selectedRows())
+        text += rowToCopy(*this, row.row()) + '\n';
     if (!text.isEmpty()) QApplication::clipboard()->setText(text);
 }
 

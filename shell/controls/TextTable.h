@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "shell/controls/FigureMenu.h"
+
 #include <QTableView>
 
 #include <functional>
@@ -13,7 +15,7 @@ namespace korvel
 /// A table of texts, as a book or a list has them: whole rows are chosen, hairlines lie between
 /// them, nothing is typed into, one stop of the Tab key. Ctrl+C copies the chosen rows, tabs
 /// between columns.
-class TextTable : public QTableView
+class TextTable : public QTableView, public StoresFigures
 {
     Q_OBJECT
 
@@ -43,6 +45,7 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
     class Rows;

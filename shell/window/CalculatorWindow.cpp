@@ -90,22 +90,19 @@ void CalculatorWindow::sayThatItIsFull(const EntryBox& box)
 
 void CalculatorWindow::letResultsBeStored()
 {
-    for (ResultLabel* label : findChildren<ResultLabel*>())
-        if (label != m_notices)
-            label->storeInMemo = [this](const QString& figure) { storeInMemo(figure); };
+    for (QWidget* each : findChildren<QWidget*>())
+        if (auto* figures = dynamic_cast<StoresFigures*>(each); figures && each != m_notices)
+            figures->storeInMemo = [this](const QString& figure) { storeInMemo(figure); };
 }
 
-/// A position goes into the Position Memo, a figure into the Single Memo; what is neither, as a
-/// time of day, is refused like any other text.
+/// A position goes into the Position Memo, a figure into the Single Memo.
 void CalculatorWindow::storeInMemo(const QString& figure)
 {
-    const auto position = parsePosition(figure.toStdString(), Axis::Latitude);
-    if (position && position->latitude && position->longitude)
-        m_program.actions().storePosition(*position->latitude, *position->longitude);
-    else
-        m_program.actions().StoreInMemo(KORVEL2000Actions::Single, isNumeric(figure.toStdString())
-                                                                       ? figure.toStdString()
-                                                                       : std::string());
+    const std::string text = figure.toStdString();
+    if (!isPositionForMemo(text))
+        return m_program.actions().StoreInMemo(KORVEL2000Actions::Single, text);
+    const auto position = parsePosition(text, Axis::Latitude);
+    m_program.actions().storePosition(*position->latitude, *position->longitude);
 }
 
 void CalculatorWindow::goTo(const QString& place)

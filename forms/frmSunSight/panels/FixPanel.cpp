@@ -32,6 +32,16 @@ FixPanel::FixPanel(QWidget* parent)
     layOutPlot();
     layOutFix();
     layOutSeries();
+    copyFixWhole();
+}
+
+/// Half a position is of use to no other box and to no memory.
+void FixPanel::copyFixWhole()
+{
+    for (const std::size_t half : {0U, 1U})
+        m_lblSunFix[half]->copyText = [latitude = m_lblSunFix[0], longitude = m_lblSunFix[1]] {
+            return plainFigure(latitude->text() + ' ' + longitude->text());
+        };
 }
 
 void FixPanel::layOutPlot()
@@ -78,8 +88,8 @@ void FixPanel::layOutSeries()
     m_seriesPart->hide();
 }
 
-/// How good the fix is. Sights that do not agree have more to be said of them than there is room
-/// for: then it scrolls.
+/// How good the fix is, each sentence in as many lines as it takes. More of them than there is room
+/// for scroll, and nothing around them moves.
 QWidget* FixPanel::sentences()
 {
     auto* part = new QWidget;
@@ -88,14 +98,9 @@ QWidget* FixPanel::sentences()
     column->setSpacing(0);
     ResultLabel *time = m_lblSunFix[2], *ellipse = m_lblSunFix[3], *sigma = m_lblSunFix[4],
                 *without = m_lblSunFix[5], *equal = m_lblSunFix[6];
-    makeSentence(time, 2);
-    makeSentence(ellipse, 2);
-    makeSentence(without, 1);
-    makeSentence(equal, 1);
-    makeSentence(sigma, 4);
-    for (ResultLabel* sentence : {time, ellipse, without, equal, sigma})
+    for (ResultLabel* sentence : {time, ellipse, without, equal, sigma}) {
+        makeSentence(sentence, 1);
         column->addWidget(sentence);
-    for (ResultLabel* sentence : {without, equal}) {
         sentence->setWordWrap(true);
         sentence->setRoomByText();
         sentence->setMinimumWidth(1); // a long word does not widen it

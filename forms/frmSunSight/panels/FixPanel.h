@@ -43,6 +43,7 @@ private:
     void layOutPlot();
     void layOutFix();
     void layOutSeries();
+    void copyFixWhole();
     QWidget* sentences();
     void showCursor(QPointF user);
     void showView(const PlotView& view);

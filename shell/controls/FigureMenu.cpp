@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "shell/controls/FigureMenu.h"
+
+#include "app/reading/PackedText.h"
+#include "app/records/KORVEL2000Actions.h"
+#include "shell/machine/AsQString.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QStringList>
+#include <QTableView>
+
+#include <algorithm>
+
+namespace korvel
+{
+namespace
+{
+
+/// How many words at the end of one text are those at the beginning of the other.
+qsizetype wordsInCommon(const QStringList& before, const QStringList& behind)
+{
+    for (qsizetype n = std::min(before.size(), behind.size()); n > 0; --n) {
+        const QStringList end = before.mid(before.size() - n);
+        if (end.join(' ').compare(behind.mid(0, n).join(' '), Qt::CaseInsensitive) == 0) return n;
+    }
+    return 0;
+}
+
+QString lineOf(const QModelIndex& cell, int role)
+{
+    return cell.data(role).toString().trimmed();
+}
+
+/// A position stands in two lines and is one; of any other two lines the one that is meant counts.
+QString figureOf(const QModelIndex& cell, bool isSecondMeant)
+{
+    QString first = lineOf(cell, Qt::DisplayRole);
+    QString second = lineOf(cell, secondLineRole);
+    if (second.isEmpty()) return first;
+    QString both = first + ' ' + second;
+    if (isPositionForMemo(both.toStdString())) return both;
+    return isSecondMeant ? second : first;
+}
+
+QString headingOf(const QModelIndex& cell)
+{
+    return cell.model()->headerData(cell.column(), Qt::Horizontal).toString();
+}
+
+/// A cell is told with the first one of its row, which names the row.
+FigureToCopy figureToCopy(const QModelIndex& cell, bool isSecondMeant)
+{
+    const QString shown = figureOf(cell, isSecondMeant);
+    const QModelIndex first = cell.siblingAtColumn(0);
+    QString full = figureInFull(headingOf(cell), shown, {});
+    if (cell.column() > 0)
+        full = (headingOf(first) + ' ' + lineOf(first, Qt::DisplayRole)).simplified() + ", " + full;
+    return {shown, plainFigure(shown), full};
+}
+
+} // namespace
+
+QString plainFigure(const QString& shown)
+{
+    QString plain = asQString(plainForm(shown.toStdString()));
+    for (const char* sign : {"°", "%"}) {
+        const QString mark = QString::fromUtf8(sign);
+        if (!plain.endsWith(mark)) continue;
+        QString number = plain.chopped(mark.size()).trimmed();
+        bool isNumber = false;
+        number.toDouble(&isNumber);
+        if (isNumber) return number;
+    }
+    return plain;
+}
+
+QString figureInFull(const QString& words, const QString& shown, const QString& unit)
+{
+    const QStringList what = words.simplified().split(' ', Qt::SkipEmptyParts);
+    const QStringList figure = asQString(plainForm(shown.toStdString())).simplified().split(' ');
+    return (what + figure.mid(wordsInCommon(what, figure)) + QStringList(unit)).join(' ').trimmed();
+}
+
+void addCopies(QMenu& menu, const FigureToCopy& figure, const StoresFigures& memory)
+{
+    const auto add = [&](const QString& caption, const QString& copied) {
+        menu.addAction(caption, [copied] { QApplication::clipboard()->setText(copied); })
+            ->setEnabled(!figure.shown.isEmpty());
+    };
+    add("Copy as &shown", figure.shown);
+    add("Copy &plain", figure.plain);
+    add("Copy in &full", figure.full);
+    if (!memory.storeInMemo) return;
+    menu.addAction("Store in &memo",
+                   [store = memory.storeInMemo, plain = figure.plain] { store(plain); })
+        ->setEnabled(isForMemo(figure.plain.toStdString()));
+}
+
+QString rowToCopy(const QTableView& table, int row)
+{
+    QStringList texts;
+    for (int column = 0; column < table.model()->columnCount(); ++column) {
+        const QModelIndex cell = table.model()->index(row, column);
+        texts << lineOf(cell, Qt::DisplayRole);
+        if (const QString second = lineOf(cell, secondLineRole); !second.isEmpty()) texts << second;
+    }
+    return texts.join('\t');
+}
+
+void openCellMenu(QTableView& table, const QContextMenuEvent& event, const StoresFigures& memory)
+{
+    const bool byKey = event.reason() == QContextMenuEvent::Keyboard;
+    const QPoint at = table.viewport()->mapFromGlobal(event.globalPos());
+    const QModelIndex cell = byKey ? table.currentIndex() : table.indexAt(at);
+    if (!cell.isValid()) return;
+    const QRect room = table.visualRect(cell);
+    const FigureToCopy figure = figureToCopy(cell, !byKey && at.y() > room.center().y());
+    // The table's own: the window may be closed under the open menu.
+    auto* menu = new QMenu(&table);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    // By keyboard a row is in hand: which cell of it is meant has to be said.
+    menu->addAction(figure.full)->setEnabled(false);
+    menu->addSeparator();
+    addCopies(*menu, figure, memory);
+    menu->addAction("Copy &row", [row = rowToCopy(table, cell.row())] {
+        QApplication::clipboard()->setText(row + '\n');
+    });
+    menu->popup(byKey ? table.viewport()->mapToGlobal(room.bottomLeft()) : event.globalPos());
+}
+
+} // namespace korvel
