@@ -146,11 +146,6 @@ ChartView ChartView::zoomed(double by, ChartSpot at) const
     return {{at.x + (centre.x - at.x) * share, at.y + (centre.y - at.y) * share}, half};
 }
 
-ChartView ChartView::moved(double right, double up) const
-{
-    return {{centre.x + right * halfWidth, centre.y + up * halfWidth}, halfWidth};
-}
-
 std::vector<GraticuleLine> meridiansOf(double west, double east, std::size_t most)
 {
     std::vector<GraticuleLine> lines;

@@ -67,7 +67,6 @@ struct ChartView {
     /// @param by of the width, below 1 nearer; what lies at a spot stays there
     ChartView zoomed(double by, ChartSpot at) const;
     /// @param right, up in half widths
-    ChartView moved(double right, double up) const;
 };
 
 /// A line of the graticule.

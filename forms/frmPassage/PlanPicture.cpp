@@ -3,11 +3,6 @@
 
 #include "navlib/angles.h"
 
-#include <QKeyEvent>
-#include <QWheelEvent>
-
-#include <cmath>
-
 namespace korvel
 {
 namespace
@@ -15,8 +10,6 @@ namespace
 
 constexpr double thin = 0.06; // widths of lines in heights of a line of text
 constexpr double thick = 0.14;
-constexpr double zoomStep = 1.25;
-constexpr double panStep = 0.25;    // of the half width
 constexpr double furthest = 100000; // pixels: what lies beyond is not drawn
 
 } // namespace
@@ -27,10 +20,6 @@ PlanPicture::PlanPicture()
     setAccessibleName("Chart of the plan; plus and minus zoom, arrows move, Home shows all of it");
     setToolTip("Wheel or + and -: zoom. Drag or arrows: move. Home: the whole plan. A press on a "
                "waypoint goes to its row.");
-    setFocusPolicy(Qt::StrongFocus);
-    connect(this, &PictureBox::pressed, this, &PlanPicture::press);
-    connect(this, &PictureBox::pointed, this, &PlanPicture::drag);
-    connect(this, &PictureBox::released, this, [this] { m_held.reset(); });
     look({});
 }
 
@@ -81,81 +70,35 @@ void PlanPicture::lookAtAll()
 
 void PlanPicture::resizeEvent(QResizeEvent* event)
 {
-    PictureBox::resizeEvent(event);
+    ChartBox::resizeEvent(event);
     if (m_showsAll)
         lookAtAll();
     else
         look(m_view);
 }
 
-void PlanPicture::keyPressEvent(QKeyEvent* event)
+void PlanPicture::zoomBy(double factor, QPointF around)
 {
-    const auto lookAt = [this](const ChartView& view) {
-        m_showsAll = false;
-        look(view);
-    };
-    switch (event->key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        return lookAt(m_view.zoomed(1 / zoomStep, m_view.centre));
-    case Qt::Key_Minus:
-        return lookAt(m_view.zoomed(zoomStep, m_view.centre));
-    case Qt::Key_Left:
-        return lookAt(m_view.moved(-panStep, 0));
-    case Qt::Key_Right:
-        return lookAt(m_view.moved(panStep, 0));
-    case Qt::Key_Up:
-        return lookAt(m_view.moved(0, panStep));
-    case Qt::Key_Down:
-        return lookAt(m_view.moved(0, -panStep));
-    case Qt::Key_Home:
-        return lookAtAll();
-    default:
-        PictureBox::keyPressEvent(event);
-    }
-}
-
-void PlanPicture::wheelEvent(QWheelEvent* event)
-{
-    constexpr double notch = 120;
-    const QPointF at = toUser(event->position());
     m_showsAll = false;
-    look(m_view.zoomed(std::pow(zoomStep, -event->angleDelta().y() / notch), {at.x(), at.y()}));
-    event->accept(); // the window is not to scroll with it
+    look(m_view.zoomed(factor, {around.x(), around.y()}));
 }
 
-void PlanPicture::press(QPointF user, Qt::MouseButtons buttons)
+void PlanPicture::moveBy(QPointF by)
 {
-    if (!(buttons & Qt::LeftButton)) return;
-    m_held = user;
+    m_showsAll = false;
+    look({{m_view.centre.x + by.x(), m_view.centre.y + by.y()}, m_view.halfWidth});
+}
+
+/// A press on a waypoint is for its row.
+bool PlanPicture::takesHold(QPointF user)
+{
     const QPointF at = toPixel(user.x(), user.y());
     for (const PlanChart::Mark& mark : m_chart.marks)
         if ((pixel(mark.at) - at).manhattanLength() < lineHeight() / 2) {
-            m_held.reset();
-            return emit rowChosen(mark.row);
+            emit rowChosen(mark.row);
+            return false;
         }
-}
-
-void PlanPicture::drag(QPointF user, Qt::MouseButtons buttons)
-{
-    if (!m_held || !(buttons & Qt::LeftButton)) return;
-    m_showsAll = false;
-    ChartView view = m_view;
-    view.centre.x += m_held->x() - user.x();
-    view.centre.y += m_held->y() - user.y();
-    look(view); // what the pointer holds is under it again
-}
-
-void PlanPicture::focusInEvent(QFocusEvent* event)
-{
-    PictureBox::focusInEvent(event);
-    update();
-}
-
-void PlanPicture::focusOutEvent(QFocusEvent* event)
-{
-    PictureBox::focusOutEvent(event);
-    update();
+    return true;
 }
 
 void PlanPicture::placeMargins()
@@ -185,8 +128,7 @@ void PlanPicture::draw(QPainter& painter)
     drawScaleBar(painter);
     painter.restore();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
-                                              : pen(colours().grid, thin));
+    painter.setPen(rim(pen(colours().grid, thin)));
     painter.drawRect(plotArea());
 }
 

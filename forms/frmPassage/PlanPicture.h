@@ -2,15 +2,13 @@
 #pragma once
 
 #include "forms/frmPassage/PlanChart.h"
-#include "shell/controls/PictureBox.h"
-
-#include <optional>
+#include "shell/controls/ChartBox.h"
 
 namespace korvel
 {
 
-/// The chart of a plan, the row in hand marked: wheel, keys and drag zoom and move it.
-class PlanPicture : public PictureBox
+/// The chart of a plan, the row in hand marked.
+class PlanPicture : public ChartBox
 {
     Q_OBJECT
 
@@ -28,11 +26,11 @@ signals:
     void rowChosen(std::size_t row);
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
+    void zoomBy(double factor, QPointF around) override;
+    void moveBy(QPointF by) override;
+    void showHome() override { lookAtAll(); }
+    bool takesHold(QPointF user) override;
     void resizeEvent(QResizeEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void draw(QPainter& painter) override;
     void placeMargins() override;
 
@@ -40,8 +38,6 @@ private:
     void look(const ChartView& view);
     void lookAtAll();
     UserScale scaleOf(const ChartView& view) const;
-    void press(QPointF user, Qt::MouseButtons buttons);
-    void drag(QPointF user, Qt::MouseButtons buttons);
 
     void drawGraticule(QPainter& painter) const;
     void drawLegs(QPainter& painter) const;
@@ -54,8 +50,7 @@ private:
     PlanChart m_chart;
     std::size_t m_row = 0;
     ChartView m_view;
-    bool m_showsAll = true;        ///< the officer has not looked elsewhere
-    std::optional<QPointF> m_held; ///< what the pointer drags, in units of the chart
+    bool m_showsAll = true; ///< the officer has not looked elsewhere
 };
 
 } // namespace korvel

@@ -6,7 +6,6 @@
 
 #include <QKeyEvent>
 #include <QPainterPath>
-#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -17,9 +16,6 @@ namespace korvel
 {
 namespace
 {
-
-constexpr double zoomStep = 1.25;
-constexpr double panStep = 0.25; // of the half width
 
 UserScale scaleOf(const PlotView& view)
 {
@@ -37,17 +33,13 @@ int milesOfScale(const PlotView& view)
 
 } // namespace
 
-SightPicture::SightPicture(QWidget* parent) : PictureBox(parent)
+SightPicture::SightPicture(QWidget* parent) : ChartBox(parent)
 {
     setObjectName("picSunSight");
     setAccessibleName("Plot of the lines of position, around the DR position; plus and minus zoom, "
                       "arrows move, Home shows 40 miles each way, End all lines");
     setToolTip("Wheel or + and -: zoom. Drag or arrows: move. Home: 40 miles each way. End: all "
                "lines");
-    setFocusPolicy(Qt::StrongFocus);
-    connect(this, &PictureBox::pointed, this, &SightPicture::drag);
-    connect(this, &PictureBox::pressed, this, [this](QPointF user) { m_dragged = user; });
-    connect(this, &PictureBox::released, this, [this] { m_dragged.reset(); });
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     setFont(small);
@@ -71,65 +63,21 @@ void SightPicture::showPlot(const SightPlot& plot)
 
 void SightPicture::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal:
-        return emit viewWanted(zoomed(m_plot.view, 1 / zoomStep, m_plot.view.centre));
-    case Qt::Key_Minus:
-        return emit viewWanted(zoomed(m_plot.view, zoomStep, m_plot.view.centre));
-    case Qt::Key_Left:
-        return pan(-panStep, 0);
-    case Qt::Key_Right:
-        return pan(panStep, 0);
-    case Qt::Key_Up:
-        return pan(0, panStep);
-    case Qt::Key_Down:
-        return pan(0, -panStep);
-    case Qt::Key_Home:
-        return emit viewWanted({});
-    case Qt::Key_End:
-        return emit allWanted();
-    default:
-        PictureBox::keyPressEvent(event);
-    }
+    if (event->key() == Qt::Key_End) return emit allWanted();
+    ChartBox::keyPressEvent(event);
 }
 
-void SightPicture::pan(double right, double up)
+void SightPicture::zoomBy(double factor, QPointF around)
+{
+    emit viewWanted(zoomed(m_plot.view, factor, {around.x(), around.y()}));
+}
+
+void SightPicture::moveBy(QPointF by)
 {
     PlotView view = m_plot.view;
-    view.centre.x += right * view.half;
-    view.centre.y += up * view.half;
+    view.centre.x += by.x();
+    view.centre.y += by.y();
     emit viewWanted(view);
-}
-
-void SightPicture::wheelEvent(QWheelEvent* event)
-{
-    constexpr double notch = 120;
-    const QPointF at = toUser(event->position());
-    emit viewWanted(zoomed(m_plot.view, std::pow(zoomStep, -event->angleDelta().y() / notch),
-                           {at.x(), at.y()}));
-    event->accept(); // the window is not to scroll with it
-}
-
-void SightPicture::drag(QPointF user, Qt::MouseButtons buttons)
-{
-    if (!m_dragged || !(buttons & Qt::LeftButton)) return;
-    PlotView view = m_plot.view;
-    view.centre.x += m_dragged->x() - user.x();
-    view.centre.y += m_dragged->y() - user.y();
-    emit viewWanted(view); // what the pointer holds is under it again
-}
-
-void SightPicture::focusInEvent(QFocusEvent* event)
-{
-    PictureBox::focusInEvent(event);
-    update();
-}
-
-void SightPicture::focusOutEvent(QFocusEvent* event)
-{
-    PictureBox::focusOutEvent(event);
-    update();
 }
 
 double SightPicture::unit() const
@@ -294,8 +242,7 @@ void SightPicture::paintGrid(QPainter& painter) const
             free = from.x() + width / 2 + 3 * unit();
         }
     }
-    painter.setPen(hasFocus() && !isOnPaper() ? QPen(palette().color(QPalette::Highlight), 3)
-                                              : pen(colours().ink, LineWeight::fine));
+    painter.setPen(rim(pen(colours().ink, LineWeight::fine)));
     painter.drawRect(area);
 }
 

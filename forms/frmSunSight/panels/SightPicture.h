@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/frmSunSight/fix/DrawLOP.h"
-#include "shell/controls/PictureBox.h"
+#include "shell/controls/ChartBox.h"
 #include "shell/layout/PlotLettering.h"
 #include "shell/screen/ColourScheme.h"
 
@@ -11,7 +11,7 @@ namespace korvel
 
 /// picSunSight: the lines of position around the DR position. The plot is kept square, so that
 /// angles are true.
-class SightPicture : public PictureBox
+class SightPicture : public ChartBox
 {
     Q_OBJECT
 
@@ -37,9 +37,9 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
+    void zoomBy(double factor, QPointF around) override;
+    void moveBy(QPointF by) override;
+    void showHome() override { emit viewWanted({}); }
     void draw(QPainter& painter) override;
     void placeMargins() override;
 
@@ -60,11 +60,7 @@ private:
     QPolygonF polygon(const std::vector<PlotPoint>& points) const;
     double unit() const; ///< a length of the picture's font, for marks and pens
 
-    void pan(double right, double up);
-    void drag(QPointF user, Qt::MouseButtons buttons);
-
     SightPlot m_plot;
-    std::optional<QPointF> m_dragged; ///< what the pointer holds, in the picture's units
 };
 
 } // namespace korvel
