@@ -145,7 +145,9 @@ std::string tanksNotice(const SheetInHand& work, ListKind kind)
         }
     }
     if (others > 0) said.push_back(first);
-    if (others > 1) said.push_back("so are " + std::to_string(others - 1) + " more left out");
+    if (others > 1)
+        said.push_back(std::to_string(others - 1) + (others > 2 ? " more are" : " more is") +
+                       " left out too");
     const auto missing = reckoning.notMeasuredAgain();
     if (!missing.empty())
         said.push_back(tankName(work.list(kind), missing.front()) +

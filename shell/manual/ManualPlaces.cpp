@@ -23,20 +23,24 @@ namespace korvel
 namespace
 {
 
-bool bearsName(const QString& words, const QString& name)
+/// How many letters of a name a line of the manual gives, the dots that stand for any left out; 0
+/// when it is none of its names.
+qsizetype lettersOfName(const QString& words, const QString& name)
 {
+    qsizetype most = 0;
     for (const QString& each : words.split(" / ")) {
-        if (each.compare(name, Qt::CaseInsensitive) == 0) return true;
+        if (each.compare(name, Qt::CaseInsensitive) == 0) return name.size() + 1;
         if (!each.contains(QChar(u'…')) || each.size() == 1) continue; // any name is no name
         QStringList parts = each.split(QChar(u'…'));
+        const qsizetype letters = parts.join(QString()).size();
         for (QString& part : parts)
             part = QRegularExpression::escape(part);
         const QRegularExpression pattern(QRegularExpression::anchoredPattern(parts.join(".+")),
                                          QRegularExpression::CaseInsensitiveOption |
                                              QRegularExpression::DotMatchesEverythingOption);
-        if (pattern.match(name).hasMatch()) return true;
+        if (pattern.match(name).hasMatch()) most = std::max(most, letters);
     }
-    return false;
+    return most;
 }
 
 /// Calls a function with every block: its row's whole text, and whether it is one that gives
@@ -78,18 +82,23 @@ QString wordsOf(const QWidget& control)
 
 } // namespace
 
+/// Of several lines that may be meant it is the one that says the most of the name.
 std::optional<PagePlace> placeOf(const QTextDocument& page, const QString& name)
 {
     std::optional<PagePlace> place;
     std::optional<PagePlace> entry; // a button does what an entry of its name does
+    qsizetype most = 0;
     if (name.isEmpty()) return place;
     forEachBlock(page, [&](const QTextBlock& block, const QString& text, bool givesName) {
         if (!givesName) return false;
         const QString words = block.text();
-        if (bearsName(words, name)) place = {block.position(), text};
-        if (!entry && words.contains(": ") && bearsName(words.section(": ", 1), name))
+        if (const qsizetype letters = lettersOfName(words, name); letters > most) {
+            most = letters;
+            place = {block.position(), text};
+        }
+        if (!entry && words.contains(": ") && lettersOfName(words.section(": ", 1), name) > 0)
             entry = {block.position(), text};
-        return place.has_value();
+        return most > name.size();
     });
     return place ? place : entry;
 }
