@@ -111,8 +111,16 @@ void frmCompass::addMenus()
     entry("&Import a saved list (CSV)..", [this] { m_book->importList(); });
     entry("Print the deviation &card..", [this] { printCard(); });
     QMenu* clear = menus().add("&Clear", "mnuAC");
-    menus().addEntry(clear, "mnuAC", 0, "&Observation", [this] { m_error->clear(); });
-    menus().addEntry(clear, "mnuAC", 1, "&Courses", [this] { m_courses->clear(); });
+    menus().addEntry(clear, "mnuAC", 0, "&Observation", [this] {
+        m_pages->turnTo(0);
+        m_error->clear();
+        m_error->boxes().front()->setFocus(Qt::TabFocusReason); // there Ctrl+Z brings it back
+    });
+    menus().addEntry(clear, "mnuAC", 1, "&Courses", [this] {
+        goTo("cmdPage(3)");
+        m_courses->clear();
+        m_courses->boxes().front()->setFocus(Qt::TabFocusReason);
+    });
     addMemoMenus();
     menus().addLinks("mnuLinks");
 }

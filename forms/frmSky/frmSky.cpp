@@ -62,6 +62,7 @@ void frmSky::addPages()
     auto* area = new FollowingScrollArea(m_day);
     setScrollArea(area);
     static_cast<QVBoxLayout*>(body()->layout())->insertWidget(0, m_pages);
+    pinAnswers(m_day->strip());
     m_pages->addPage("&Twilight", "cmdPage(0)", "Page of the ship and her day", area);
     const auto add = [this](QWidget* content, const char* caption, const char* name,
                             const char* words) {
@@ -143,10 +144,11 @@ void frmSky::addMenus()
     entry("&Print the almanac pages..", "", [this] { printAlmanac(); });
     entry("&Save the almanac pages as PDF..", "", [this] { saveAlmanac(); });
     QMenu* clear = menus().add("&Clear", "mnuAC");
-    menus().addEntry(clear, "mnuAC", 0, "&Ship and day",
-                     [this] { m_boxes.clear(0, placeOf(SkyBox::StarsAt) + 1); });
+    menus().addEntry(clear, "mnuAC", 0, "&Ship and day", [this] {
+        clearBoxes(DayOfShip, SkyBox::Moment, placeOf(SkyBox::StarsAt) + 1);
+    });
     menus().addEntry(clear, "mnuAC", 1, "&Unknown body",
-                     [this] { m_boxes.clear(placeOf(SkyBox::UnknownAt), 3); });
+                     [this] { clearBoxes(Unknown, SkyBox::UnknownAt, 3); });
     addMemoMenus();
     menus().addLinks("mnuLinks");
 }
@@ -252,6 +254,14 @@ void frmSky::enterNow(SkyBox which)
                                          isUnknown ? "yyyy/mm/dd hh:mm:ss" : "yyyy/mm/dd hh:mm")));
     m_pages->turnTo(isUnknown ? Unknown : DayOfShip);
     box(isUnknown ? SkyBox::UnknownAltitude : SkyBox::Latitude)->setFocus(Qt::TabFocusReason);
+}
+
+/// Where they are seen to be empty, and Ctrl+Z brings them back.
+void frmSky::clearBoxes(std::size_t page, SkyBox first, std::size_t count)
+{
+    m_pages->turnTo(page);
+    m_boxes.clear(placeOf(first), count);
+    box(first)->setFocus(Qt::TabFocusReason);
 }
 
 /// Another day, from the one that is shown; without one from today.

@@ -49,6 +49,7 @@ private:
     void showNotices();
 
     void enterNow(SkyBox which);
+    void clearBoxes(std::size_t page, SkyBox first, std::size_t count);
     void showDay(int later);
     void sendRound();
     void printAlmanac();

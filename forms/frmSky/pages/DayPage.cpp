@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSky/pages/DayPage.h"
 
-#include "shell/controls/AnswerStrip.h"
 #include "shell/layout/Panels.h"
 
 #include <QGridLayout>
@@ -25,8 +24,8 @@ constexpr std::array eventColumns = {
     EventColumn{{"lblShips", "Ship's time", "Ship's time", TableColumn::Label::Result,
                  "Ship's time of event %1", "", Qt::AlignRight},
                 &SkyEventLine::ships},
-    EventColumn{{"lblZulu", "UTC", "00/00 00:00", TableColumn::Label::Result, "UTC of event %1",
-                 "month/day hh:mm", Qt::AlignRight},
+    EventColumn{{"lblZulu", "UTC", "00/00 00:00", TableColumn::Label::Result,
+                 "UTC of event %1, month/day hh:mm", "", Qt::AlignRight},
                 &SkyEventLine::zulu},
     EventColumn{{"lblBearing", "Bearing", "Bearing", TableColumn::Label::Result,
                  "Bearing at event %1", "degrees true", Qt::AlignRight},
@@ -45,8 +44,10 @@ constexpr auto eventTable = columnsOf(eventColumns);
 
 DayPage::DayPage(QWidget* parent, const FieldBoxes& boxes)
     : ScrolledBody(parent), m_boxes(boxes), m_labels(DayResults, this),
-      m_events(new RowTable(eventTable, skyEvents))
+      m_strip(new AnswerStrip(this)), m_events(new RowTable(eventTable, skyEvents))
 {
+    layOutAnswers();
+    m_events->nameRowsBy(0);
     auto* table = new QVBoxLayout;
     table->setSpacing(0);
     table->addWidget(m_events->makeHeading());
@@ -103,23 +104,18 @@ QLayout* DayPage::layOutShip()
     return grid;
 }
 
-QLayout* DayPage::layOutAnswers()
+void DayPage::layOutAnswers()
 {
-    auto* column = new QVBoxLayout;
-    auto* strip = new AnswerStrip;
-    m_labels.addAnswer(strip, 0, "00:00 – 00:00");
-    m_labels.addAnswer(strip, 1, "00:00 – 00:00");
-    m_labels.addAnswer(strip, 2, "00:00");
-    column->addWidget(strip);
-    return column;
+    m_labels.addAnswer(m_strip, 0, "00:00 – 00:00");
+    m_labels.addAnswer(m_strip, 1, "00:00 – 00:00");
+    m_labels.addAnswer(m_strip, 2, "00:00");
 }
 
 QLayout* DayPage::layOutDay()
 {
     auto* grid = newGrid();
     grid->addWidget(sectionHead("Day, ship's time"), 0, 0, 1, 2);
-    grid->addLayout(layOutAnswers(), 1, 0, 1, 2);
-    int row = 2;
+    int row = 1;
     constexpr std::array widest = {"Sun 0000/00/00, TD +00.00", "waxing crescent", "00.0 days",
                                    "000 %"};
     for (std::size_t i = dayAnswers; i < DayResults.size(); ++i) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "forms/frmSky/SkyResults.h"
+#include "shell/controls/AnswerStrip.h"
 #include "shell/controls/FieldBoxes.h"
 #include "shell/controls/PageParts.h"
 #include "shell/controls/ResultLabels.h"
@@ -28,6 +29,8 @@ public:
     std::vector<ResultLabel*> results() const;
     /// Those that are not in the table of the times.
     const std::vector<ResultLabel*>& answers() const { return m_labels.all(); }
+    /// What stays in sight above the page.
+    QWidget* strip() const { return m_strip; }
 
 signals:
     void nowAsked();
@@ -37,10 +40,11 @@ signals:
 private:
     QLayout* layOutShip();
     QLayout* layOutDay();
-    QLayout* layOutAnswers();
+    void layOutAnswers();
 
     FieldBoxes m_boxes;
     ResultLabels<SkyDay> m_labels;
+    AnswerStrip* m_strip;
     RowTable* m_events;
 };
 

@@ -264,7 +264,16 @@ void EntryPanel::clearSight()
     SightTexts empty;
     empty.SMT = sight().SMT;
     empty.TD = sight().TD;
+    const SightTexts before = sight();
     fill(empty);
+    if (!before.isBegun()) return;
+    for (EntryBox* box : m_entry.part(0, SightField::ofSight))
+        box->onUndo = [this, before] {
+            const SightTexts now = sight(); // its date may be the one that is offered
+            if (!now.time.empty() || !now.Hs.empty()) return false;
+            fill(before);
+            return true;
+        };
 }
 
 void EntryPanel::fill(const TrackTexts& track)

@@ -12,6 +12,7 @@
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -296,6 +297,29 @@ TEST_F(KeysTest, whatTakesTheMouseAndWhatShowsAResultTakesTabAndIsCopied)
             QTest::keyClick(result, Qt::Key_C, Qt::ControlModifier);
             EXPECT_FALSE(QApplication::clipboard()->text().isEmpty()) << nameOf(*each);
         }
+    }
+}
+
+/// Boxes of a page that nobody saw stayed empty, and so did those of a sight.
+TEST_F(KeysTest, whatAnEntryClearsComesBackWhereverTheFocusWas)
+{
+    struct Case {
+        const char* window;
+        const char* entry;
+        const char* box;
+        const char* typed;
+    };
+    for (const auto& [name, entry, box, typed] :
+         {Case{"frmSky", "mnuAC(1)", "txtSky(10)", "29.35"},
+          Case{"frmCompass", "mnuAC(1)", "txtCourses(8)", "250"},
+          Case{"frmSunSight", "mnuAC(0)", "txtSunSight(4)", "38.10"},
+          Case{"frmCDDR", "mnuAC(1)", "txtCDDR(5)", "148.15"}}) {
+        QWidget& opened = window(name);
+        static_cast<QLineEdit&>(control(opened, box)).setText(typed);
+        choose(opened, entry);
+        EXPECT_EQ(text(opened, box), "") << name;
+        press(opened, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(text(opened, box), typed) << name;
     }
 }
 
