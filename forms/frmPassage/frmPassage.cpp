@@ -68,10 +68,13 @@ frmPassage::~frmPassage()
 QWidget* frmPassage::layOutAnswers() const
 {
     auto* answers = new AnswerStrip;
+    // What the boxes of the wish say too may be cut short where the answers would take two lines.
+    m_results[LabelSpeedFor]->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     for (const auto& [answer, below] : {std::pair(LabelToGo, PassageAnswers),
                                         {LabelArrival, LabelArrivalUTC},
                                         {LabelSpeed, LabelSpeedFor}})
-        answers->add(PassageResults[answer].caption, m_results[answer], PassageResults[answer].unit,
+        answers->add(PassageResults[answer].caption, m_results[answer],
+                     answer == LabelToGo ? "nm" : PassageResults[answer].unit,
                      below == PassageAnswers ? nullptr : m_results[below]);
     return answers;
 }

@@ -28,6 +28,18 @@ QString textOfTerm(std::string_view term)
     return QString::fromUtf8(term.data(), static_cast<qsizetype>(term.size()));
 }
 
+/// No height, and the width of what is pinned above: it too is scrolled to where letters are huge.
+class AsWideAs final : public QWidget
+{
+public:
+    explicit AsWideAs(const QWidget& other) : m_other(other) {}
+    QSize sizeHint() const override { return minimumSizeHint(); }
+    QSize minimumSizeHint() const override { return {m_other.minimumSizeHint().width(), 0}; }
+
+private:
+    const QWidget& m_other;
+};
+
 } // namespace
 
 frmWeather::frmWeather(Program& program)
@@ -36,7 +48,9 @@ frmWeather::frmWeather(Program& program)
 {
     auto* column = new QVBoxLayout(scrollBody());
     layOutBody(*column, Spacing::Groups);
-    column->addWidget(layOutTerms());
+    QWidget* terms = layOutTerms();
+    pinAnswers(terms); // the letters scroll below them on a small screen
+    column->addWidget(new AsWideAs(*terms));
     column->addWidget(layOutLetters());
     column->addStretch();
     menus().addLinks("mnuWeather");

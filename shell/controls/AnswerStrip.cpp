@@ -39,6 +39,9 @@ void AnswerStrip::add(const QString& caption, ResultLabel* answer, const QString
     words->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
     grid->addWidget(words, 1, 1);
     if (below) grid->addWidget(below, 2, 0, 1, 2);
+    // What is said below may take the room that is left; the unit keeps to its figure.
+    if (below && below->sizePolicy().expandingDirections() & Qt::Horizontal)
+        grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1); // side by side the answers stand on one line
     m_units.push_back({words, answer});
     m_row->addWidget(cell);

@@ -211,29 +211,32 @@ QLayout* ErrorPage::layOutRecord()
     return row;
 }
 
+/// Two lines for each compass, and what the book says below: with large letters on a small screen
+/// they leave the boxes more than half of the room.
 void ErrorPage::layOutAnswers()
 {
     struct Part {
-        const char* head;
-        std::vector<std::size_t> answers;
+        std::vector<std::pair<const char*, std::size_t>> answers;
         std::size_t curve;
     };
     auto* row = new WrappingRow(m_answers);
     row->setGap(pageGap);
     for (const Part& part :
-         {Part{"True bearing", {True}, 0}, Part{"Gyro", {GyroError}, 0},
-          Part{"Standard compass", {StandardError, StandardDeviation}, StandardCurve},
-          Part{"Steering compass", {SteeringError, SteeringDeviation}, SteeringCurve}}) {
+         {Part{{{"True bearing, °", True}}, 0}, Part{{{"Gyro error", GyroError}}, 0},
+          Part{{{"Standard: error", StandardError}, {"deviation", StandardDeviation}},
+               StandardCurve},
+          Part{{{"Steering: error", SteeringError}, {"deviation", SteeringDeviation}},
+               SteeringCurve}}) {
         auto* grid = newGrid();
         grid->setHorizontalSpacing(pageGap);
+        grid->setVerticalSpacing(0);
         int column = 0;
-        for (const std::size_t answer : part.answers) {
-            grid->addWidget(quietLabel(CompassResults[answer].caption), 1, column);
-            grid->addWidget(m_lblCompass[answer], 2, column++);
+        for (const auto& [caption, answer] : part.answers) {
+            grid->addWidget(quietLabel(caption), 0, column);
+            grid->addWidget(m_lblCompass[answer], 1, column++);
         }
-        grid->addWidget(sectionHead(part.head), 0, 0, 1, column);
-        if (part.curve) grid->addWidget(m_lblCompass[part.curve], 3, 0, 1, column);
-        grid->setRowStretch(4, 1);
+        if (part.curve) grid->addWidget(m_lblCompass[part.curve], 2, 0, 1, column);
+        grid->setRowStretch(3, 1);
         row->addLayout(grid);
     }
     row->addStretch();
