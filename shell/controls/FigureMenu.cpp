@@ -45,19 +45,34 @@ QString figureOf(const QModelIndex& cell, bool isSecondMeant)
     return isSecondMeant ? second : first;
 }
 
-QString headingOf(const QModelIndex& cell)
+/// @param line of a heading in two lines, as its cells are
+QString headingOf(const QModelIndex& cell, int line)
 {
-    return cell.model()->headerData(cell.column(), Qt::Horizontal).toString();
+    const QString heading = cell.model()->headerData(cell.column(), Qt::Horizontal).toString();
+    return heading.contains('\n') ? heading.section('\n', line, line) : heading;
 }
 
-/// A cell is told with the first one of its row, which names the row.
+/// The first cell that says what its row is: neither a mark nor a number of the row.
+QModelIndex nameOfRow(const QModelIndex& cell)
+{
+    for (int column = 0; column < cell.model()->columnCount(); ++column) {
+        const QModelIndex each = cell.siblingAtColumn(column);
+        const QString heading = headingOf(each, 0).trimmed();
+        if (!heading.isEmpty() && heading != "No." && !lineOf(each, Qt::DisplayRole).isEmpty())
+            return each;
+    }
+    return cell.siblingAtColumn(0);
+}
+
+/// A cell is told with the name of its row.
 FigureToCopy figureToCopy(const QModelIndex& cell, bool isSecondMeant)
 {
     const QString shown = figureOf(cell, isSecondMeant);
-    const QModelIndex first = cell.siblingAtColumn(0);
-    QString full = figureInFull(headingOf(cell), shown, {});
-    if (cell.column() > 0)
-        full = (headingOf(first) + ' ' + lineOf(first, Qt::DisplayRole)).simplified() + ", " + full;
+    const QModelIndex name = nameOfRow(cell);
+    const bool isSecond = shown == lineOf(cell, secondLineRole);
+    QString full = figureInFull(headingOf(cell, isSecond ? 1 : 0), shown, {});
+    if (cell.column() != name.column())
+        full = figureInFull(headingOf(name, 0), lineOf(name, Qt::DisplayRole), {}) + ", " + full;
     return {shown, plainFigure(shown), full};
 }
 
@@ -105,7 +120,8 @@ QString rowToCopy(const QTableView& table, int row)
     for (int column = 0; column < table.model()->columnCount(); ++column) {
         const QModelIndex cell = table.model()->index(row, column);
         texts << lineOf(cell, Qt::DisplayRole);
-        if (const QString second = lineOf(cell, secondLineRole); !second.isEmpty()) texts << second;
+        const QString second = lineOf(cell, secondLineRole);
+        if (!second.isEmpty() || headingOf(cell, 0) != headingOf(cell, 1)) texts << second;
     }
     return texts.join('\t');
 }

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <vector>
 
 namespace korvel
 {
@@ -69,14 +70,17 @@ TEST(FigureMenu, offersTheMemoryForWhatItKeepsAlone)
 
 TEST(FigureMenu, aCellIsToldWithItsRow)
 {
-    constexpr TextTable::Column columns[] = {{"Body", "Rigil Kent", false}, {"Zn", "000.0"}};
+    constexpr TextTable::Column columns[] = {
+        {"", "+"}, {"No.", "00"}, {"Body", "Rigil Kent", false}, {"Zn", "000.0"}};
     TextTable table(nullptr, "tblStars", "Bodies");
-    table.showRows(columns, 2, [](std::size_t row, std::size_t column) {
-        return QString(column == 0 ? (row == 0 ? "Vega" : "Acrux") : (row == 0 ? "54.6" : "148.1"));
+    const std::vector<QStringList> rows = {{"+", "49", "Vega", "54.6"},
+                                           {"", "30", "Acrux", "148.1"}};
+    table.showRows(columns, rows.size(), [&rows](std::size_t row, std::size_t column) {
+        return rows[row][static_cast<int>(column)];
     });
     QString stored;
     table.storeInMemo = [&stored](const QString& figure) { stored = figure; };
-    table.setCurrentIndex(table.model()->index(1, 1));
+    table.setCurrentIndex(table.model()->index(1, 3));
     QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
     QApplication::sendEvent(&table, &asked);
     const auto* menu = table.findChild<QMenu*>();
@@ -88,7 +92,7 @@ TEST(FigureMenu, aCellIsToldWithItsRow)
     };
     EXPECT_EQ(copied("Copy plain"), "148.1");
     EXPECT_EQ(copied("Copy in full"), "Body Acrux, Zn 148.1");
-    EXPECT_EQ(copied("Copy row"), "Acrux\t148.1\n");
+    EXPECT_EQ(copied("Copy row"), "\t30\tAcrux\t148.1\n");
     copied("Store in memo");
     EXPECT_EQ(stored, "148.1");
 }
