@@ -11,16 +11,16 @@ namespace korvel
 
 /// The results of a compass error. The places of the pairs of a compass follow each other.
 inline constexpr std::array CompassResults = {
-    Result<CompassResult>{"lblCompass(0)", "degrees true", "degrees true", Weight::Answer,
+    Result<CompassResult>{"lblCompass(0)", "True bearing, °", "degrees true", Weight::Answer,
                           &CompassResult::trueBearing, "True bearing"},
-    Result<CompassResult>{"lblCompass(1)", "error", "", Weight::Answer,
+    Result<CompassResult>{"lblCompass(1)", "Gyro error", "", Weight::Answer,
                           textAt<&CompassResult::errors, 0>, "Gyro error"},
-    Result<CompassResult>{"lblCompass(2)", "error", "", Weight::Answer,
+    Result<CompassResult>{"lblCompass(2)", "Standard: error", "", Weight::Answer,
                           textAt<&CompassResult::errors, 1>, "Error of the standard compass"},
     Result<CompassResult>{"lblCompass(3)", "deviation", "", Weight::Answer,
                           textAt<&CompassResult::deviations, 1>,
                           "Deviation of the standard compass"},
-    Result<CompassResult>{"lblCompass(4)", "error", "", Weight::Answer,
+    Result<CompassResult>{"lblCompass(4)", "Steering: error", "", Weight::Answer,
                           textAt<&CompassResult::errors, 2>, "Error of the steering compass"},
     Result<CompassResult>{"lblCompass(5)", "deviation", "", Weight::Answer,
                           textAt<&CompassResult::deviations, 2>,
@@ -72,14 +72,14 @@ inline constexpr std::array DeviationResults = {
 
 /// The results of courses; those to be steered and what is made good come first.
 inline constexpr std::array CourseResults = {
-    Result<CourseResult>{"lblCourses(0)", "true", "", Weight::Answer, &CourseResult::trueHead,
-                         "True head"},
+    Result<CourseResult>{"lblCourses(0)", "Steer: true", "", Weight::Answer,
+                         &CourseResult::trueHead, "True head"},
     Result<CourseResult>{"lblCourses(1)", "by gyro", "", Weight::Answer, &CourseResult::gyroHead,
                          "Gyro head"},
     Result<CourseResult>{"lblCourses(2)", "by compass", "", Weight::Answer,
                          &CourseResult::compassHead, "Compass head"},
-    Result<CourseResult>{"lblCourses(3)", "track", "", Weight::Answer, &CourseResult::track,
-                         "Track made good"},
+    Result<CourseResult>{"lblCourses(3)", "Made good: track", "", Weight::Answer,
+                         &CourseResult::track, "Track made good"},
     Result<CourseResult>{"lblCourses(4)", "knots", "knots", Weight::Answer, &CourseResult::speed,
                          "Speed made good"},
     Result<CourseResult>{"lblCourses(5)", "Magnetic head", "", Weight::Figure,

@@ -68,6 +68,7 @@ void CoursesPage::addRow(QGridLayout* grid, int row, CourseBox which) const
 {
     const Field& field = CourseFields[static_cast<std::size_t>(which)];
     EntryBox* entry = box(which);
+    entry->setAlignment(Qt::AlignRight); // also figures with E or W behind them
     entry->setFixedWidth(entry->fontMetrics().horizontalAdvance("000000000000"));
     grid->addWidget(quietLabel(field.caption, entry), row, 0);
     grid->addWidget(entry, row, 1);
@@ -104,24 +105,25 @@ QLayout* CoursesPage::layOutCompass()
     return grid;
 }
 
+/// Two lines, as on the first page: the rest of the height is for boxes and picture.
 void CoursesPage::layOutAnswers()
 {
     auto* row = new WrappingRow(m_answers);
     row->setGap(pageGap);
-    const auto part = [&](const char* head, std::size_t first, std::size_t last) {
+    const auto part = [&](std::size_t first, std::size_t last) {
         auto* grid = newGrid();
         grid->setHorizontalSpacing(pageGap);
-        grid->addWidget(sectionHead(head), 0, 0, 1, static_cast<int>(last - first) + 1);
+        grid->setVerticalSpacing(0);
         for (std::size_t i = first; i <= last; ++i) {
             const int place = static_cast<int>(i - first);
-            grid->addWidget(quietLabel(CourseResults[i].caption), 1, place);
-            grid->addWidget(m_lblCourses[i], 2, place);
+            grid->addWidget(quietLabel(CourseResults[i].caption), 0, place);
+            grid->addWidget(m_lblCourses[i], 1, place);
         }
-        grid->setRowStretch(3, 1);
+        grid->setRowStretch(2, 1);
         row->addLayout(grid);
     };
-    part("Head to steer", SteeredTrue, SteeredByCompass);
-    part("Made good", Track, SpeedMadeGood);
+    part(SteeredTrue, SteeredByCompass);
+    part(Track, SpeedMadeGood);
     row->addStretch();
 }
 

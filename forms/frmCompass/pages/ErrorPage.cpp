@@ -85,6 +85,7 @@ ErrorPage::ErrorPage(QWidget* parent)
 void ErrorPage::makeControls()
 {
     box(CompassBox::Body)->setPlaceholderText("Sun");
+    box(CompassBox::Variation)->setAlignment(Qt::AlignRight); // a figure, with E or W behind it
     m_optClock = new Options(this, "optClock",
                              {{"UTC", "The time is UTC"}, {"SMT", "The time is ship's mean time"}});
     m_optMethod =
@@ -216,23 +217,20 @@ QLayout* ErrorPage::layOutRecord()
 void ErrorPage::layOutAnswers()
 {
     struct Part {
-        std::vector<std::pair<const char*, std::size_t>> answers;
+        std::vector<std::size_t> answers;
         std::size_t curve;
     };
     auto* row = new WrappingRow(m_answers);
     row->setGap(pageGap);
-    for (const Part& part :
-         {Part{{{"True bearing, °", True}}, 0}, Part{{{"Gyro error", GyroError}}, 0},
-          Part{{{"Standard: error", StandardError}, {"deviation", StandardDeviation}},
-               StandardCurve},
-          Part{{{"Steering: error", SteeringError}, {"deviation", SteeringDeviation}},
-               SteeringCurve}}) {
+    for (const Part& part : {Part{{True}, 0}, Part{{GyroError}, 0},
+                             Part{{StandardError, StandardDeviation}, StandardCurve},
+                             Part{{SteeringError, SteeringDeviation}, SteeringCurve}}) {
         auto* grid = newGrid();
         grid->setHorizontalSpacing(pageGap);
         grid->setVerticalSpacing(0);
         int column = 0;
-        for (const auto& [caption, answer] : part.answers) {
-            grid->addWidget(quietLabel(caption), 0, column);
+        for (const std::size_t answer : part.answers) {
+            grid->addWidget(quietLabel(CompassResults[answer].caption), 0, column);
             grid->addWidget(m_lblCompass[answer], 1, column++);
         }
         if (part.curve) grid->addWidget(m_lblCompass[part.curve], 2, 0, 1, column);
