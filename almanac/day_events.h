@@ -18,7 +18,7 @@ struct EventTime {
         None      ///< not in this span: the Moon's time falls beyond midnight
     };
     Kind kind = Kind::None;
-    DateTime instant = 0;
+    DateTime instant = {};
 };
 
 /// The two times at which a body passes an altitude.

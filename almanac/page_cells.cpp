@@ -14,8 +14,8 @@ namespace
 std::string degreesAndMinutes(long tenths, std::size_t degreesWidth)
 {
     const auto minutes = static_cast<double>(tenths % 600) / 10;
-    return padded(static_cast<int>(tenths / 600), degreesWidth) + " " + (minutes < 10 ? "0" : "") +
-           tenthsCell(minutes, 0);
+    return padded(static_cast<int>(tenths / 600), degreesWidth) + " " +
+           padded(tenthsCell(minutes, 0), 4, '0');
 }
 
 } // namespace

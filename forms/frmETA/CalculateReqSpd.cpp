@@ -67,7 +67,7 @@ ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
             departure,
             arrival,
             distance,
-            hours,
+            NavFunc113::Hours(hours),
             {readNumber(input.txtTD[0]), readNumber(input.txtTD[1])}};
 }
 

@@ -22,7 +22,7 @@ struct ReqSpdResult {
     NavFunc113::DateTime departure = 0; ///< UTC, when there is a speed
     NavFunc113::DateTime arrival = 0;   ///< UTC, when there is a speed
     double distance = 0;                ///< nautical miles
-    double hours = 0;
+    NavFunc113::Hours hours = {};
     std::array<double, 2> TD = {}; ///< hours, at departure and arrival
 };
 

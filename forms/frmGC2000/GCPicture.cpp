@@ -191,8 +191,9 @@ void GCPicture::drawMark(QPainter& painter, QPointF at, Mark mark) const
 void GCPicture::drawPoints(QPainter& painter) const
 {
     const auto& route = m_chart.route;
-    for (std::size_t i = 1; i + 1 < route.size(); ++i)
-        drawMark(painter, pixel(route[i]), Mark::Waypoint);
+    // The marks of the ends cover those of the first and the last.
+    for (const auto& point : route)
+        drawMark(painter, pixel(point), Mark::Waypoint);
     drawMark(painter, pixel(route.back()), Mark::Arrival);
     drawMark(painter, pixel(route.front()), Mark::Departure);
 }

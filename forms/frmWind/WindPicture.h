@@ -27,8 +27,8 @@ struct WindFigures {
 /// Outer end of a vector from the centre, in knots. A wind is drawn on the side it blows from, so
 /// the apparent wind is the true wind and the ship's own motion added: a parallelogram.
 struct WindVector {
-    double x = 0;
-    double y = 0;
+    double x;
+    double y;
 };
 
 struct WindLabel {

@@ -12,11 +12,6 @@
 
 namespace korvel
 {
-namespace
-{
-
-} // namespace
-
 WindPictureBox::WindPictureBox()
 {
     setObjectName("picWind");

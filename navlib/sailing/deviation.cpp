@@ -119,12 +119,13 @@ Degrees CompassHeading(Degrees magneticHeading, const DeviationCoefficients& cur
     if (!(DegToRad(slope) < Radians(1)) || !std::isfinite(curve.A.value())) throwInvalidArgument();
     Degrees low = magneticHeading - curve.bound();
     Degrees high = magneticHeading + curve.bound();
-    while (high - low > Degrees(1e-10)) {
-        const Degrees middle = (low + high) / 2;
-        if (middle == low || middle == high) break;
+    Degrees middle = magneticHeading;
+    // Until no number lies between them, however large the heading is.
+    do {
         (middle + curve.at(middle) < magneticHeading ? low : high) = middle;
-    }
-    return withinTurn((low + high) / 2);
+        middle = (low + high) / 2;
+    } while (low < middle && middle < high);
+    return withinTurn(middle);
 }
 
 DeviationFit::Row DeviationFit::termsAt(Degrees heading)

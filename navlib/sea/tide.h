@@ -54,12 +54,12 @@ Degrees DiurnalChange(Degrees thisDay, Degrees nextDay);
 
 /// The parts of a value of the harmonic part.
 struct TideSums {
-    double cosine = 0; ///< C, of the combined semidiurnal wave
-    double sine = 0;   ///< S
-    double diurnal = 0;
-    double quarter = 0; ///< quarter- and sixth-diurnal term
-    double sixth = 0;
-    double sum = 0;
+    double cosine; ///< C, of the combined semidiurnal wave
+    double sine;   ///< S
+    double diurnal;
+    double quarter; ///< quarter- and sixth-diurnal term
+    double sixth;
+    double sum;
 };
 
 /// What a value of the harmonic part was calculated from.

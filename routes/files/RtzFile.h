@@ -23,7 +23,7 @@ private:
     /// A waypoint as the file has it, tangent points too.
     struct Waypoint {
         RoutePoint point;
-        std::int64_t id = 0;
+        std::int64_t id;
         bool isTangent = false;
         bool namesItsLeg = false;
         std::string legWords; ///< as this program wrote them

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/TerminationWatch.h"
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
 
@@ -9,12 +10,13 @@ namespace korvel
 namespace
 {
 
-// All that a signal's handler may touch.
-volatile std::sig_atomic_t terminationRequested = 0;
+// A signal's handler may touch nothing that could wait.
+std::atomic_bool terminationRequested;
+static_assert(std::atomic_bool::is_always_lock_free);
 
 void request(int)
 {
-    terminationRequested = 1;
+    terminationRequested = true;
 }
 
 } // namespace
@@ -27,9 +29,7 @@ TerminationWatch::TerminationWatch()
     std::signal(SIGHUP, request);
 #endif
     connect(&m_timer, &QTimer::timeout, this, [this] {
-        if (!terminationRequested) return;
-        terminationRequested = 0;
-        emit requested();
+        if (terminationRequested.exchange(false)) emit requested();
     });
     m_timer.start(std::chrono::milliseconds(300));
 }

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/sea/tide.h"
+#include "navlib/sea/tide_turns.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace NavFunc113
 {
@@ -57,6 +60,18 @@ TEST(Tide, searchStartsAtHalfPastMidnightWithItsOwnBounds)
     found = SearchHighestLowest(values, earlier);
     EXPECT_EQ(found.lowest, 5);
     EXPECT_EQ(found.timeLow, Hours(11.5));
+}
+
+TEST(TurnsOf, aTurnThatIsNoParabolaIsFoundToo)
+{
+    // A parabola through the heights ten minutes around 05:03 has its vertex 52 seconds too early.
+    const Hours time(5.05);
+    for (const double sign : {1.0, -1.0}) {
+        const auto turns = TurnsOf([&](Hours t) { return -sign * std::fabs((t - time).value()); });
+        ASSERT_EQ(turns.size(), 1u);
+        EXPECT_EQ(turns[0].isHigh, sign > 0);
+        EXPECT_NEAR((turns[0].time - time).value() * 3600, 0, 5);
+    }
 }
 
 } // namespace

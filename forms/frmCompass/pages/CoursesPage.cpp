@@ -64,8 +64,9 @@ CoursesPage::CoursesPage(QWidget* parent)
     connect(m_cmdErrors, &QPushButton::clicked, this, &CoursesPage::errorsAsked);
 }
 
-void CoursesPage::addRow(QGridLayout* grid, int row, CourseBox which) const
+void CoursesPage::addRow(QGridLayout* grid, CourseBox which) const
 {
+    const int row = grid->rowCount();
     const Field& field = CourseFields[static_cast<std::size_t>(which)];
     EntryBox* entry = box(which);
     entry->setAlignment(Qt::AlignRight); // also figures with E or W behind them
@@ -84,10 +85,9 @@ QLayout* CoursesPage::layOutCourse()
     grid->addWidget(sectionHead("Course and current"), 0, 0, 1, 3);
     grid->addWidget(quietLabel("It is the"), 1, 0);
     grid->addWidget(m_optGiven->makeSwitch(), 1, 1, 1, 2);
-    int row = 2;
     for (const CourseBox which : {CourseBox::Course, CourseBox::Speed, CourseBox::Leeway,
                                   CourseBox::Set, CourseBox::Drift, CourseBox::Distance})
-        addRow(grid, row++, which);
+        addRow(grid, which);
     grid->setColumnStretch(2, 1);
     return grid;
 }
@@ -96,9 +96,8 @@ QLayout* CoursesPage::layOutCompass()
 {
     auto* grid = newGrid();
     grid->addWidget(sectionHead("Compasses"), 0, 0, 1, 3);
-    int row = 1;
     for (const CourseBox which : {CourseBox::GyroError, CourseBox::Variation, CourseBox::Deviation})
-        addRow(grid, row++, which);
+        addRow(grid, which);
     grid->addWidget(m_cmdErrors, 1, 2, Qt::AlignLeft);
     grid->addWidget(m_cboCurve, 3, 2, Qt::AlignLeft);
     grid->setColumnStretch(2, 1);

@@ -48,7 +48,7 @@ private:
     QLayout* layOutCompass();
     void layOutAnswers();
     QLayout* layOutFigures();
-    void addRow(QGridLayout* grid, int row, CourseBox which) const;
+    void addRow(QGridLayout* grid, CourseBox which) const;
 
     FieldBoxes m_txtCourses;
     ResultLabels<CourseResult> m_lblCourses;

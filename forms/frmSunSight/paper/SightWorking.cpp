@@ -56,24 +56,20 @@ Working timeWorking(const SightTexts& texts, const LOPResult& line)
     return working;
 }
 
-/// What the cosines of the series add to the mean longitude.
-Degrees cosines(const SunFigures& sun)
-{
-    return WithinHalfTurn(sun.longitude - Degrees(280.4659 + 36000.7695 * sun.centuries));
-}
-
 void addApparentLongitude(Working& working, const SunFigures& sun, DateTime UTC)
 {
     const double T = sun.centuries;
     const std::string t = term(T, 10);
+    const Degrees mean(280.4659 + 36000.7695 * T);
+    const Degrees cosines = WithinHalfTurn(sun.longitude - mean);
     working.step("Julian day", "JD of the UTC", sightInstant(UTC), figure(sun.julianDay, 6));
     working.step("Julian centuries", "T = (JD + 60 s - 2451545) / 36525, dynamical time",
                  "(" + figure(sun.julianDay, 6) + " + 60 / 86400 - 2451545) / 36525",
                  figure(sun.centuries, 10));
     working.step("Ecliptic longitude, mean equinox",
                  "Λ = 280.4659 + 36000.7695 T + 16 cosines, less whole turns",
-                 "280.4659 + 36000.7695 × " + t + " + " + sightTerm(cosines(sun)) +
-                     sightTurns(Degrees(280.4659 + 36000.7695 * T), sun.longitude),
+                 "280.4659 + 36000.7695 × " + t + " + " + sightTerm(cosines) +
+                     sightTurns(mean, sun.longitude),
                  sightFigure(sun.longitude), "°");
     working.step("Aberration", "a = -0.005693 / R, R the distance of the Sun by 8 cosines",
                  "-0.005693 / " + figure(-0.005693 / sun.aberration.value(), 6),

@@ -19,14 +19,15 @@ std::string shortDate(std::int64_t serial)
     return Format(static_cast<double>(serial), "yyyy/m/d");
 }
 
-// Lines of a factors file whose last line stands where the layout puts it; 0 otherwise.
-std::int64_t wellFormedLines(FileStore& files)
+// The last date of a factors file whose last line stands where the layout puts it; the first date
+// otherwise.
+std::int64_t lastSerialOf(FileStore& files)
 {
     // The last line's CR LF may be missing.
     const std::int64_t lines = (files.look(factorsFileName).size + 2) / factorsLineLength;
-    if (lines < 2) return 0;
     const std::int64_t lastLine = (lines - 1) * factorsLineLength;
-    return files.readAt(factorsFileName, lastLine - 2, 2).bytes == "\r\n" ? lines : 0;
+    const bool isInLayout = files.readAt(factorsFileName, lastLine - 2, 2).bytes == "\r\n";
+    return isInLayout ? firstFactorsSerial + lines - 2 : firstFactorsSerial;
 }
 
 } // namespace
@@ -34,8 +35,7 @@ std::int64_t wellFormedLines(FileStore& files)
 TideDates TideDates::of(FileStore& files)
 {
     TideDates dates;
-    dates.m_lastSerial =
-        std::max(dates.m_lastSerial, firstFactorsSerial + wellFormedLines(files) - 2);
+    dates.m_lastSerial = std::max(dates.m_lastSerial, lastSerialOf(files));
     return dates;
 }
 

@@ -15,10 +15,10 @@ namespace korvel
 
 /// The picture's user scale.
 struct CurveScale {
-    double left = 0;
-    double right = 24;
-    double top = 0;
-    double bottom = 0;
+    double left;
+    double right;
+    double top;
+    double bottom;
 };
 
 struct CurvePoint {
@@ -45,7 +45,7 @@ struct HeightLabel {
 };
 
 struct CurvePicture {
-    CurveScale scale;
+    CurveScale scale = {};
     std::array<HourLabel, 11> lblTime;
     std::array<HeightLabel, 6> lblHeight;
     std::vector<HeightLabel> furtherLevels; ///< whole levels of the scale that lblHeight lacks

@@ -2,14 +2,17 @@
 #include "app/reading/Reading.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/Instant.h"
 #include "app/reading/NumberField.h"
 #include "app/reading/TypedTime.h"
 #include "tests/golden/Golden.h"
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <clocale>
 #include <map>
+#include <optional>
 
 namespace korvel
 {
@@ -97,6 +100,33 @@ TEST(Reading, typedTimes)
     }
     EXPECT_DOUBLE_EQ(readDateTime("6:00").value(), 0.25) << "a time alone has no date";
     EXPECT_FALSE(readDateTime("1899/12/31"));
+}
+
+TEST(Instant, readsUTCAsFilesHaveIt)
+{
+    using namespace std::chrono;
+    const Instant half = sys_days(2026y / November / 22) + 10h + 20min + 30s;
+    const struct {
+        const char* text;
+        std::optional<Span> later;
+    } rows[] = {{"2026-11-22T10:20:30Z", 0s},
+                {"2026-11-22T10:20:30", 0s},
+                {"2026-11-22T10:20:30.25z", 250ms},
+                {"2026-11-22T10:20:30.0000429Z", 42us},
+                {"2026-11-22T12:20:30.1+02:00", 100ms},
+                {"2026-11-22T05:50:30-04:30", 0s},
+                {"2026-11-22T24:00:00Z", 13h + 39min + 30s},
+                {"2026-11-22T24:00:01Z", {}},
+                {"2026-11-22T10:60:00Z", {}},
+                {"2026-11-22T10:20:60Z", {}},
+                {"2026-02-29T10:20:30Z", {}},
+                {"2026-11-22T10:20:30.Z", {}},
+                {"2026-11-22T10:20:30+15:00", {}},
+                {"2026-11-22T10:20:30+02:60", {}},
+                {"2026-11-22T10:20:30+02:00 ", {}},
+                {"2026-11-22T10:20:30 UTC", {}}};
+    for (const auto& [text, later] : rows)
+        EXPECT_EQ(readIso(text), later ? std::optional(half + *later) : std::nullopt) << text;
 }
 
 TEST(Remarks, aLineOfThem)

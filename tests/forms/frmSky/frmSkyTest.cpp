@@ -53,6 +53,10 @@ TEST_F(frmSkyTest, anEveningIsPlannedByKeys)
     EXPECT_EQ(text(window, "txtSky(7)"), "2026/11/23");
     EXPECT_EQ(text(window, "lblSky(3)"), "Mon 2026/11/23, TD +9");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp, Qt::ControlModifier);
+    click(window, "cmdDay(1)");
+    EXPECT_EQ(text(window, "txtSky(7)"), "2026/11/23");
+    click(window, "cmdDay(0)");
+    EXPECT_EQ(text(window, "txtSky(7)"), "2026/11/22");
 
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([] { return focused() == "txtSky(8)"; }, 1000));
@@ -83,9 +87,14 @@ TEST_F(frmSkyTest, discAndTableChooseTheSameBody)
     QTest::keyClick(&disc, Qt::Key_Left);
     const int west = table.currentIndex().row();
     EXPECT_GT(west, 4);
-    // A press on a star: Mirfak bears 047, 28 high.
-    const double radius = (90 - 28.16) / 90, turn = 46.8 * 3.14159265 / 180;
-    const QPointF at = disc.toPixel(radius * std::sin(turn), radius * std::cos(turn));
+    // A press on a star: Mirfak bears 047, 28 high, Polaris 001, 35 high.
+    const auto placeOf = [&](double altitude, double azimuth) {
+        const double radius = (90 - altitude) / 90, turn = azimuth * 3.14159265 / 180;
+        return disc.toPixel(radius * std::sin(turn), radius * std::cos(turn));
+    };
+    QTest::mouseClick(&disc, Qt::LeftButton, {}, placeOf(35, 1).toPoint());
+    EXPECT_EQ(table.currentIndex().row(), 0);
+    const QPointF at = placeOf(28.16, 46.8);
     QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
     EXPECT_EQ(table.currentIndex().row(), 1);
     // With the head up the same star stands elsewhere.
@@ -134,6 +143,12 @@ TEST_F(frmSkyTest, unknownBodyAndAlmanac)
     const QString page = control(window, "txtAlmanac").property("plainText").toString();
     EXPECT_TRUE(page.startsWith("2026 November 22, 23, 24"));
     EXPECT_TRUE(page.contains("Not an official almanac"));
+    // What a page complains of is not said on the others.
+    click(window, "cmdPage(0)");
+    type(window, "txtSky(1)", "95");
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("Latitude"));
+    click(window, "cmdPage(3)");
+    EXPECT_EQ(window.notice(), "");
 }
 
 } // namespace

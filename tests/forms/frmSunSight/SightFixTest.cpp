@@ -78,6 +78,11 @@ TEST(CalculateFix, sightsSwitchedOffDoNotCount)
     const SightFixResult lost = fixOf(listOf({morning2020, noon2020}), none);
     EXPECT_THAT(lost.notice, HasSubstr("No fix: the DR position"));
     EXPECT_TRUE(lost.lines.empty());
+    // At 15:30 in 88.5 N, at 11:45 75 miles nearer the pole.
+    const TrackTexts polar{"88.300", "-52.110", "2020/12/17 15:30:00", "180", "20"};
+    const SightFixResult north = fixOf(listOf({morning2020, noon2020}), polar);
+    EXPECT_THAT(north.notice, HasSubstr("No fix: the DR position"));
+    EXPECT_TRUE(north.lines.empty());
 }
 
 /// A day's round from a ship at anchor; one sight out by some miles.

@@ -147,6 +147,8 @@ TEST(TideDates, followTheFactorsFile)
                 {"longer by half a line", shipped + day.substr(0, 20), 38717},
                 {"shorter", shipped.substr(0, 46L * 500), 38717},
                 {"longer, but lines of another length", lfOnly, 38717},
+                {"longer, the line before the last without its line end",
+                 shipped + day.substr(0, 44) + "\n\n" + day, 38717},
                 {"empty", "", 38717}};
     for (const auto& row : rows) {
         beside.write("AF2005.txt", row.factors);

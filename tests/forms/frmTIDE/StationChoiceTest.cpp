@@ -149,6 +149,7 @@ TEST(TideExtension, isOfferedForDatesThatAFileCanReach)
 TEST(TideHabits, theLastFiveStationsOutliveTheWindow)
 {
     TideHabits habits;
+    EXPECT_EQ(habits.offeredYear, 0) << "of no year until it was offered";
     habits.offeredYear = 2026;
     habits.drawsAll = false;
     for (const char* place : {"Kobe", "Ube", "Otaru", "Kobe", "Irago", "Sasebo", "Tokyo"})

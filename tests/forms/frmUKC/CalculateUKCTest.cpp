@@ -113,6 +113,7 @@ TEST(CalculateUKC, theBlockCoefficientByTheHull)
     EXPECT_EQ(with(input, {{Forward, "10.6"}, {Midships, "11.1"}, {Aft, "10.8"}}).block, "0.800");
     EXPECT_THAT(with(input, {{Displacement, "80000"}}).notice, HasSubstr("do not belong together"));
     EXPECT_THAT(with(input, {{Displacement, "80000"}}).clearance, IsEmpty());
+    EXPECT_THAT(with(input, {{Displacement, "80000"}}).block, IsEmpty());
 }
 
 TEST(CalculateUKC, whatIsMissingIsNamedAndClaimsNothing)
@@ -355,6 +356,15 @@ TEST(CalculateUKC, thePaperTellsEveryLine)
                             "Depth to count on", "Clearance", "Minimum", "Over the minimum",
                             "Least tide that keeps the minimum", "Squat that the minimum leaves",
                             "Speed of that squat", "Greatest speed"));
+    // 32.2 x 11.2 m of 2000 square metres.
+    input = companysForm();
+    input.water = Water::Channel;
+    input.boxes[Section] = "2000";
+    const Working ofSection = columnWorking(input, CalculateUKC(input, {}));
+    const auto speed =
+        std::ranges::find(ofSection.steps, "Speed of that squat", &WorkingStep::name);
+    ASSERT_NE(speed, ofSection.steps.end());
+    EXPECT_THAT(speed->figures, HasSubstr("0.8800 × (360.64 / 1639.36)^⅔"));
     const auto table = hoursTable(shown, week);
     ASSERT_TRUE(table);
     ASSERT_EQ(table->rows.size(), 7u);

@@ -194,6 +194,7 @@ TEST(PictureBox, countsInItsUserScale)
             onPaper = isOnPaper() ? plotArea() : QRectF();
             drawnIn = colours().ink;
         }
+        using PictureBox::lineHeight;
         QRectF onPaper;
         QColor drawnIn;
     } picture;
@@ -223,6 +224,10 @@ TEST(PictureBox, countsInItsUserScale)
     picture.grab();
     EXPECT_EQ(picture.drawnIn, ColourScheme::night(0).ink);
     EXPECT_EQ(picture.plotArea(), QRectF(10, 20, 200, 100)) << "on the screen as before";
+    QFont larger = picture.font();
+    larger.setPointSizeF(2 * larger.pointSizeF());
+    picture.setFont(larger);
+    EXPECT_EQ(picture.lineHeight(), QFontMetricsF(larger).height());
 }
 
 } // namespace

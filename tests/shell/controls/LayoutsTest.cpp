@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "shell/layout/CellLayout.h"
+#include "shell/layout/FigureText.h"
 #include "shell/layout/FollowingScrollArea.h"
+#include "shell/layout/Legend.h"
 #include "shell/layout/Panels.h"
 #include "shell/layout/WrappingRow.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
 
+#include <QImage>
 #include <QLineEdit>
+#include <QPainter>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -137,6 +141,22 @@ TEST(CellLayout, readsAsItIsTold)
 }
 
 /// Groups of boxes 20 pixels high with a result below them, in an area of 120.
+TEST(Legend, itsWidthHoldsWhatItDraws)
+{
+    QImage image(100, 100, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QFontMetrics metrics(painter.font());
+    FigureText figures;
+    Legend legend(painter, figures, {0, 0}, Qt::black);
+    legend.line(QPen(), "course");
+    double last = 0;
+    for (const char* words : {"departure", "waypoint", "arrival"})
+        legend.mark([&](QPointF at) { last = at.x() + metrics.horizontalAdvance(words); }, words);
+    const int wide = Legend::width(metrics, "coursedeparturewaypointarrival", 1, 3);
+    EXPECT_LT(last, wide);
+    EXPECT_GT(last, wide - 4 * metrics.height());
+}
+
 TEST(FollowingScrollArea, whatStandsTogetherIsSeenTogetherWhereItFits)
 {
     auto* content = new QWidget;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/paper/PaperPages.h"
 #include "shell/paper/PaperWindow.h"
 #include "tests/SourceFolder.h"
 #include "tools/papers/ExamplePaper.h"
@@ -9,7 +10,10 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextDocument>
 #include <QTextEdit>
+
+#include <vector>
 
 // The pages of papers, long ones too (tests/papers), as a reader gets them out of their PDF.
 
@@ -114,6 +118,18 @@ TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
         tables += static_cast<int>(all.size());
     }
     EXPECT_GE(tables, 30);
+}
+
+TEST(PaperPages, aPageIsFullWhereNothingStaysTogether)
+{
+    QTextDocument text;
+    text.setDocumentMargin(0);
+    text.setPlainText("eight lines" + QString("\u2028in a paragraph").repeated(7) +
+                      QString("\na paragraph").repeated(8));
+    const double line = text.size().height() / 16;
+    const std::vector<PaperPage> pages = pagesOf(text, 10.5 * line);
+    ASSERT_EQ(pages.size(), 2u);
+    EXPECT_NEAR(pages[0].body.height(), 10 * line, 1);
 }
 
 } // namespace

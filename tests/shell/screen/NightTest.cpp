@@ -359,6 +359,9 @@ TEST_F(NightTest, windowsDoWithoutTheDesktopsFrameWhereOneWantsThat)
         return bool(of.windowHandle()->flags() & Qt::FramelessWindowHint);
     };
     const QRect menus = wind.findChild<QMenuBar*>()->geometry();
+    QTest::keyClick(&wind, Qt::Key_F8);
+    EXPECT_FALSE(isFrameless(wind)) << "where nobody wants it";
+    QTest::keyClick(&wind, Qt::Key_F8);
     choose(main, "mnuOwnFrames");
     EXPECT_FALSE(isFrameless(wind)) << "by day";
     QTest::keyClick(&wind, Qt::Key_F8);

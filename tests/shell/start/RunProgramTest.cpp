@@ -92,6 +92,14 @@ TEST(RunProgram, anotherStartAFaultAndTheEndOfTheSession)
     std::thread other;
     std::atomic<bool> cameToFront = false;
     steps = {
+        [&] {
+            const QWidget *box = QApplication::activeModalWidget(),
+                          *title = shown("frmKORVELstart");
+            if (!box || !title) return false;
+            EXPECT_GT(box->geometry().top(), title->geometry().bottom());
+            EXPECT_NEAR(box->geometry().center().x(), title->geometry().center().x(), 5);
+            return true;
+        },
         answered("Input time difference", Qt::Key_Return),
         [&] { return shown("frmKORVEL2000") && !shown("frmKORVELstart"); },
         [&] {

@@ -30,4 +30,5 @@ int endOfWatch(int hour);
 double drift(double seconds, double days);
 double ofTwoDays(double seconds);
 int untested(int hour);
+int later(int one, int other);
 int smaller(int one, int other);

@@ -29,6 +29,7 @@ TEST(Watch, figures)
     EXPECT_EQ(endOfWatch(100), -1);
     EXPECT_EQ(endOfSecond(12), 20);
     EXPECT_EQ(ofTwoDays(9), 4.5);
+    EXPECT_EQ(later(2, 3), 3);
     EXPECT_EQ(smaller(2, 3), 2);
     EXPECT_EQ(smaller(3, 2), 2);
 }
