@@ -123,7 +123,6 @@ void RtzFile::readDefaultWaypoint()
     if (m_xml.isRefused()) return;
     // It goes back as a whole; of what is in it only the kind of leg matters here.
     GuardedXml copy(kept.back().text);
-    Waypoint waypoint;
     if (!copy.nextChild()) return;
     while (copy.nextChild()) {
         std::string geometry;
