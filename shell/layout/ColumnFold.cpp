@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "shell/layout/ColumnFold.h"
 
-#include <QBoxLayout>
-
 #include <algorithm>
 
 namespace korvel
 {
+
+ColumnFold::ColumnFold(QLayout& columns)
+    : m_columns(columns), m_row(qobject_cast<QBoxLayout*>(&columns))
+{
+    if (m_row && m_row->direction() != QBoxLayout::LeftToRight) m_row = nullptr;
+}
 
 int ColumnFold::widthUnfolded()
 {
@@ -19,8 +23,7 @@ void ColumnFold::fold(bool folded)
     if (folded == m_folded) return;
     if (folded) widthUnfolded();
     m_folded = folded;
-    if (auto* row = qobject_cast<QBoxLayout*>(&m_columns))
-        row->setDirection(folded ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    if (m_row) m_row->setDirection(folded ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (auto* grid = qobject_cast<QGridLayout*>(&m_columns)) foldGrid(*grid, folded);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QBoxLayout>
 #include <QGridLayout>
 
 #include <vector>
@@ -13,8 +14,9 @@ namespace korvel
 class ColumnFold
 {
 public:
-    /// @param columns the layout of the groups: a row of them, or a grid
-    explicit ColumnFold(QLayout& columns) : m_columns(columns) {}
+    /// @param columns the layout of the groups: a row of them, or a grid. What stands one below the
+    ///                other already stays so.
+    explicit ColumnFold(QLayout& columns);
 
     void fold(bool folded);
     /// The room that the groups need side by side, as it was when they last stood so.
@@ -31,6 +33,7 @@ private:
     void foldGrid(QGridLayout& grid, bool folded);
 
     QLayout& m_columns;
+    QBoxLayout* m_row;            ///< nothing where the groups are no row
     std::vector<Placed> m_groups; ///< of a grid, in the order of reading
     int m_width = 0;
     bool m_folded = false;

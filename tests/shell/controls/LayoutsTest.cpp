@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/layout/CellLayout.h"
+#include "shell/layout/ColumnFold.h"
 #include "shell/layout/FigureText.h"
 #include "shell/layout/FollowingScrollArea.h"
 #include "shell/layout/Legend.h"
@@ -10,6 +11,7 @@
 #include <gmock/gmock.h>
 
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QTest>
@@ -140,7 +142,21 @@ TEST(CellLayout, readsAsItIsTold)
         EXPECT_EQ(placesOfCells(reading, true), "0,0 0,1 0,2 0,3 ");
 }
 
-/// Groups of boxes 20 pixels high with a result below them, in an area of 120.
+TEST(ColumnFold, aRowGoesBelowEachOtherAndBackAndAColumnStays)
+{
+    for (const auto direction : {QBoxLayout::LeftToRight, QBoxLayout::TopToBottom}) {
+        QWidget body;
+        auto* groups = new QBoxLayout(direction, &body);
+        groups->addWidget(new QLabel("entries"));
+        groups->addWidget(new QLabel("answers"));
+        ColumnFold columns(*groups);
+        columns.fold(true);
+        EXPECT_EQ(groups->direction(), QBoxLayout::TopToBottom);
+        columns.fold(false);
+        EXPECT_EQ(groups->direction(), direction);
+    }
+}
+
 TEST(Legend, itsWidthHoldsWhatItDraws)
 {
     QImage image(100, 100, QImage::Format_RGB32);
@@ -157,6 +173,7 @@ TEST(Legend, itsWidthHoldsWhatItDraws)
     EXPECT_GT(last, wide - 4 * metrics.height());
 }
 
+/// Groups of boxes 20 pixels high with a result below them, in an area of 120.
 TEST(FollowingScrollArea, whatStandsTogetherIsSeenTogetherWhereItFits)
 {
     auto* content = new QWidget;
