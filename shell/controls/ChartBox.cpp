@@ -81,16 +81,4 @@ void ChartBox::drag(QPointF user, Qt::MouseButtons buttons)
     if (m_held && (buttons & Qt::LeftButton)) moveBy(*m_held - user); // it stays under the pointer
 }
 
-void ChartBox::focusInEvent(QFocusEvent* event)
-{
-    PictureBox::focusInEvent(event);
-    update();
-}
-
-void ChartBox::focusOutEvent(QFocusEvent* event)
-{
-    PictureBox::focusOutEvent(event);
-    update();
-}
-
 } // namespace korvel

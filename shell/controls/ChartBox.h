@@ -33,8 +33,6 @@ protected:
 
     void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void press(QPointF user, Qt::MouseButtons buttons);

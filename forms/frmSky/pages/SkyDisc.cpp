@@ -143,18 +143,6 @@ void SkyDisc::goAround(int step)
     emit picked(order[static_cast<std::size_t>(next)]);
 }
 
-void SkyDisc::focusInEvent(QFocusEvent* event)
-{
-    PictureBox::focusInEvent(event);
-    update();
-}
-
-void SkyDisc::focusOutEvent(QFocusEvent* event)
-{
-    PictureBox::focusOutEvent(event);
-    update();
-}
-
 void SkyDisc::placeMargins()
 {
     // A degree is as long everywhere round the zenith: the plot is square.

@@ -25,6 +25,7 @@ std::int64_t lastSerialOf(FileStore& files)
 {
     // The last line's CR LF may be missing.
     const std::int64_t lines = (files.look(factorsFileName).size + 2) / factorsLineLength;
+    if (lines < 2) return firstFactorsSerial;
     const std::int64_t lastLine = (lines - 1) * factorsLineLength;
     const bool isInLayout = files.readAt(factorsFileName, lastLine - 2, 2).bytes == "\r\n";
     return isInLayout ? firstFactorsSerial + lines - 2 : firstFactorsSerial;

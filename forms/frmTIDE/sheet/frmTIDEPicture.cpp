@@ -189,18 +189,6 @@ void frmTIDEPicture::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void frmTIDEPicture::focusInEvent(QFocusEvent* event)
-{
-    PictureBox::focusInEvent(event);
-    update();
-}
-
-void frmTIDEPicture::focusOutEvent(QFocusEvent* event)
-{
-    PictureBox::focusOutEvent(event);
-    update();
-}
-
 void frmTIDEPicture::drawForPaper(QPainter& painter, const QSize& size)
 {
     drawOn(painter, size, ColourScheme::day());
