@@ -22,7 +22,7 @@ struct BodyEntry {
     Body body = Body::Sun;
     BodyKind kind = BodyKind::Sun;
     std::string_view name; ///< as almanacs print it, "Al Na'ir"
-    int number = 0;        ///< 1 to 57 for the stars that almanacs number; 0 for all others
+    int number{};          ///< 1 to 57 for the stars that almanacs number; 0 for all others
     std::string_view bayer;
     std::optional<double> magnitude; ///< visual, of the catalogue's epoch; stars only
 };

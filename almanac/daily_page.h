@@ -21,7 +21,7 @@ inline constexpr int pageHours = 24 * pageDays;
 inline constexpr std::size_t wanderers = 6;
 
 struct PageHour {
-    DateTime ut = 0;
+    DateTime ut{};
     Degrees ghaAries;
     std::array<Place, wanderers> places;
     Degrees moonExcess; ///< v: what the Moon's GHA gains in the hour beyond 14 degrees 19.0'
@@ -44,9 +44,9 @@ struct PageStar {
 };
 
 struct PageDay {
-    DateTime date = 0;
+    DateTime date{};
     Degrees sunExcess[2]; ///< equation of time as an angle, apparent less mean, at 0 and 12 hours
-    DateTime sunPassage = 0;
+    DateTime sunPassage{};
     std::optional<DateTime> moonUpper, moonLower; ///< a day may be without either
     Degrees moonSemiDiameter;                     ///< at noon
     MoonPhase moon;                               ///< at noon
@@ -61,11 +61,11 @@ struct PageLatitude {
 };
 
 struct DailyPage {
-    DateTime firstDay = 0;
+    DateTime firstDay{};
     DeltaT deltaT;
-    DateTime ariesPassage = 0; ///< of the middle day
-    Degrees sunSemiDiameter;   ///< at noon of the middle day
-    Degrees sunChange;         ///< d: of the declination in an hour of the middle day
+    DateTime ariesPassage{}; ///< of the middle day
+    Degrees sunSemiDiameter; ///< at noon of the middle day
+    Degrees sunChange;       ///< d: of the declination in an hour of the middle day
     std::vector<PageHour> hours;
     std::array<PagePlanet, 4> planets;
     std::vector<PageStar> stars; ///< the 57 by number and Polaris, noon of the middle day

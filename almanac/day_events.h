@@ -35,7 +35,7 @@ EventPair eventPair(const HourlyPlaces& places, const Track& track, const Altitu
 
 /// A body over the upper branch of the observer's meridian.
 struct UpperPassage {
-    DateTime instant = 0;
+    DateTime instant{};
     Direction direction; ///< the navigator's computed one: no parallax, no refraction
 };
 /// The first of a span; the Moon leaves out a day in each month.

@@ -25,7 +25,7 @@ AltitudeWanted civilTwilight();
 AltitudeWanted nauticalTwilight();
 
 struct Crossing {
-    DateTime instant = 0; ///< UT, to a tenth of a second of the places given
+    DateTime instant{}; ///< UT, to a tenth of a second of the places given
     bool rising = false;
 };
 
@@ -35,7 +35,7 @@ std::vector<Crossing> crossings(const HourlyPlaces& places, const Track& track,
                                 const AltitudeWanted& wanted, DateTime from, DateTime to);
 
 struct Passage {
-    DateTime instant = 0;
+    DateTime instant{};
     bool upper = false; ///< over the observer's meridian; else over the opposite one
 };
 std::vector<Passage> passages(const HourlyPlaces& places, const Track& track, DateTime from,

@@ -14,7 +14,7 @@ struct LikelyBody {
     Direction direction; ///< as seen, without refraction
     Degrees altitudeOff; ///< observed less that of the body; positive: observed higher
     Degrees bearingOff;  ///< the same, -180 to 180; clockwise positive
-    double apart = 0;    ///< how unlikely: what the ranking goes by, see likelyBodies()
+    double apart{};      ///< how unlikely: what the ranking goes by, see likelyBodies()
 };
 
 /// The bodies of the almanac that are likeliest to have been seen in a direction, the likeliest

@@ -16,18 +16,18 @@ using NavFunc113::Degrees;
 
 /// Where and when the field is wanted.
 struct MagneticPoint {
-    double year = 2025;    ///< decimal
-    double kilometres = 0; ///< over the WGS 84 ellipsoid, -1 to 850
-    Degrees latitude;      ///< geodetic, north positive, -90 to 90
-    Degrees longitude;     ///< east positive, -360 to 360
+    double year = 2025;  ///< decimal
+    double kilometres{}; ///< over the WGS 84 ellipsoid, -1 to 850
+    Degrees latitude;    ///< geodetic, north positive, -90 to 90
+    Degrees longitude;   ///< east positive, -360 to 360
 };
 
 /// The field of the earth's core, nanotesla.
 struct MagneticField {
-    double north = 0;
-    double east = 0;
-    double down = 0;
-    double horizontal = 0;
+    double north{};
+    double east{};
+    double down{};
+    double horizontal{};
     Degrees declination;       ///< east positive, -180 to 180
     Degrees declinationChange; ///< a year
 };
@@ -47,8 +47,8 @@ struct Variation {
     /// One standard deviation, the crust's field in it: sqrt(0.26^2 + (5417 / H)^2), not above 180.
     /// The producer's error model for 2025; other editions are taken to be as good.
     Degrees uncertainty;
-    Degrees change;        ///< of the variation in a year, east positive
-    double horizontal = 0; ///< nanotesla
+    Degrees change;      ///< of the variation in a year, east positive
+    double horizontal{}; ///< nanotesla
     CompassZone zone = CompassZone::Reliable;
 };
 
@@ -97,7 +97,7 @@ public:
 
 private:
     struct Coefficient {
-        double g = 0, h = 0, gChange = 0, hChange = 0;
+        double g{}, h{}, gChange{}, hChange{};
     };
     static constexpr std::size_t count = degree * (degree + 3) / 2;
     static constexpr std::size_t indexOf(int n, int m)
@@ -109,7 +109,7 @@ private:
 
     std::string m_name;
     std::string m_released;
-    double m_epoch = 0;
+    double m_epoch{};
     std::array<Coefficient, count> m_coefficients;
 };
 

@@ -14,10 +14,10 @@ enum class Limb { Lower, Upper };
 
 /// What dip and refraction depend on.
 struct SextantAir {
-    Metres heightOfEye;  ///< 0 or more
-    double air = 10;     ///< degrees Celsius, above absolute zero
-    double sea = 10;     ///< degrees Celsius
-    double pressure = 0; ///< hectopascals
+    Metres heightOfEye; ///< 0 or more
+    double air = 10;    ///< degrees Celsius, above absolute zero
+    double sea = 10;    ///< degrees Celsius
+    double pressure{};  ///< hectopascals
 };
 
 /// Where the sight was taken, as far as the earth's shape matters: 0.2' for the Moon.
@@ -28,17 +28,17 @@ struct SightPlace {
 
 /// The terms of a correction in minutes of arc, each with the sign that it is applied with.
 struct SextantTerms {
-    double dip = 0;          ///< -1.76 sqrt(height of eye)
-    double airSea = 0;       ///< 0.2 for each degree by which the air is warmer than the sea
-    double refraction = 0;   ///< of mean air: 10 degrees, 1010 hPa
-    double temperature = 0;  ///< what the air's temperature changes of it
-    double pressure = 0;     ///< and the pressure
-    double semiDiameter = 0; ///< of the Sun and the Moon, as seen from the earth's centre
-    double augmentation = 0; ///< what the observer's being nearer adds to it
-    double parallax = 0;     ///< in altitude, on a sphere of the equator's radius
-    double oblateness = 0;   ///< what the earth's shape adds; 0 where no place is known
-    Degrees apparent;        ///< altitude above the horizontal of the eye: dip and airSea put on
-    Degrees seen;            ///< of the centre, refraction and semi-diameter put on
+    double dip{};          ///< -1.76 sqrt(height of eye)
+    double airSea{};       ///< 0.2 for each degree by which the air is warmer than the sea
+    double refraction{};   ///< of mean air: 10 degrees, 1010 hPa
+    double temperature{};  ///< what the air's temperature changes of it
+    double pressure{};     ///< and the pressure
+    double semiDiameter{}; ///< of the Sun and the Moon, as seen from the earth's centre
+    double augmentation{}; ///< what the observer's being nearer adds to it
+    double parallax{};     ///< in altitude, on a sphere of the equator's radius
+    double oblateness{};   ///< what the earth's shape adds; 0 where no place is known
+    Degrees apparent;      ///< altitude above the horizontal of the eye: dip and airSea put on
+    Degrees seen;          ///< of the centre, refraction and semi-diameter put on
     Degrees corrected;
 };
 

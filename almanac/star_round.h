@@ -15,7 +15,7 @@ namespace almanac
 struct RoundBody {
     Body body = Body::Sun;
     Direction direction; ///< as seen
-    double magnitude = 0;
+    double magnitude{};
 };
 
 /// What is to be kept away from. A body above the horizon or a little below it.
@@ -49,7 +49,7 @@ double errorByMagnitude(double magnitude);
 
 /// Normal equations of a round for north and east, an error common to all sights eliminated.
 struct RoundNormals {
-    double northNorth = 0, northEast = 0, eastEast = 0;
+    double northNorth{}, northEast{}, eastEast{};
 
     /// Sum of the variances of north and east; infinity where there is no fix.
     double variance() const;

@@ -32,7 +32,7 @@ struct DeltaT {
         Estimate,    ///< before there was UTC: a fitted curve, good to 0.1 s
         Assumed      ///< beyond the announced leap seconds: the last known TAI - UTC, 37 s, kept
     };
-    double seconds = 0;
+    double seconds{};
     Source source = Source::LeapSeconds;
 };
 

@@ -17,9 +17,9 @@ struct CivilDate {
 
 /// A time of day, cut to the whole second.
 struct TimeOfDay {
-    int hour = 0;   ///< 0 to 23
-    int minute = 0; ///< 0 to 59
-    int second = 0; ///< 0 to 59
+    int hour{};   ///< 0 to 23
+    int minute{}; ///< 0 to 59
+    int second{}; ///< 0 to 59
 };
 
 /// Day number of a date: 0 is 1899-12-30. Months and days beyond the calendar are not checked.

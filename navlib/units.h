@@ -51,7 +51,7 @@ public:
     friend Measure fabs(Measure a) { return Measure(std::fabs(a.m_value)); }
 
 private:
-    double m_value = 0;
+    double m_value{};
 };
 
 using Degrees = Measure<struct DegreesUnit>; ///< decimal degrees
@@ -81,7 +81,7 @@ public:
     friend constexpr auto operator<=>(DegMin, DegMin) = default;
 
 private:
-    double m_packed = 0;
+    double m_packed{};
 };
 
 constexpr Miles operator*(Knots speed, Hours time)

@@ -16,9 +16,9 @@ namespace tidedata
 
 /// A constituent as it is published.
 struct HarmonicConstant {
-    std::string name;        ///< "M2"
-    double amplitude = 0;    ///< metres
-    double greenwichLag = 0; ///< degrees, referred to Greenwich, times in UT
+    std::string name;      ///< "M2"
+    double amplitude{};    ///< metres
+    double greenwichLag{}; ///< degrees, referred to Greenwich, times in UT
 };
 
 /// Longitude of the lunar node and perigee turned into the inclination of the Moon's orbit to the
@@ -63,7 +63,7 @@ public:
 
 private:
     friend class AllConstituents;
-    double m_level = 0;
+    double m_level{};
     std::vector<Wave> m_waves;
 };
 

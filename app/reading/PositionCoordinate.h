@@ -14,8 +14,8 @@ namespace korvel
 /// A latitude or longitude as it was written, its numbers not judged yet.
 struct Coordinate {
     std::vector<PositionToken> numbers; ///< degrees, minutes, seconds, as far as they are there
-    char letter = 0;                    ///< N, S, E, W; 0 when none is there
-    char word = 0;                      ///< N for a latitude word, E for a longitude word
+    char letter{};                      ///< N, S, E, W; 0 when none is there
+    char word{};                        ///< N for a latitude word, E for a longitude word
     bool suffix = false;                ///< the letter stands behind
     bool sign = false;
     bool negative = false;

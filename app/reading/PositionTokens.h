@@ -27,7 +27,7 @@ struct PositionToken {
     Kind kind;
     std::string digits;   ///< of a number, before the point
     std::string decimals; ///< of a number, after the point
-    char letter = 0;
+    char letter{};
     bool attached = false; ///< no blank before it
     bool spelled = false;  ///< a unit written as a word or letter
 };

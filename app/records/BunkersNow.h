@@ -13,7 +13,7 @@ struct BunkersNow {
     struct Fuel {
         std::string name;               ///< "VLSFO"; of several parcels "VLSFO old + VLSFO new"
         std::optional<double> previous; ///< at the survey before
-        double received = 0;            ///< since then
+        double received{};              ///< since then
         std::optional<double> remaining;
 
         std::optional<double> consumed() const

@@ -21,9 +21,9 @@ public:
     struct Content {
         enum class Status { Missing, Unreadable, Read };
         Status status = Status::Missing;
-        std::string bytes;     ///< when Read
-        std::string reason;    ///< in words, when Unreadable
-        std::int64_t size = 0; ///< of the whole file in bytes, when Read
+        std::string bytes;   ///< when Read
+        std::string reason;  ///< in words, when Unreadable
+        std::int64_t size{}; ///< of the whole file in bytes, when Read
     };
 
     virtual ~FileStore() = default;

@@ -63,7 +63,7 @@ private:
     Questions& m_questions;
     SettingsFile& m_settings;
     Hooks m_hooks;
-    double PendingMemoLat = 0; ///< between the two halves of a position store
+    double PendingMemoLat{}; ///< between the two halves of a position store
 };
 
 /// Whether a text is a latitude and a longitude, as the Position Memo keeps them.

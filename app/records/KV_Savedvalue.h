@@ -142,7 +142,7 @@ private:
     static int placeOf(int n, SavedValue which) { return static_cast<int>(which) + 3 * (n - 1); }
 
     std::array<Value, count> m_values;
-    unsigned m_revision = 0;
+    unsigned m_revision{};
 };
 
 } // namespace korvel

@@ -41,8 +41,8 @@ private:
     Questions& m_questions;
     const ComputerClock& m_clock;
     SettingsFile m_file;
-    std::string m_kept;          ///< the values of which the disk knows
-    unsigned m_keptRevision = 0; ///< of the same
+    std::string m_kept;        ///< the values of which the disk knows
+    unsigned m_keptRevision{}; ///< of the same
 };
 
 /// The values that the bytes of such a file hold, whatever is wrong with them.

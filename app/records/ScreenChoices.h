@@ -11,10 +11,10 @@ namespace korvel
 
 /// Where a window stood on the screen and how large it was, in pixels, without its frame.
 struct WindowPlace {
-    int x = 0; ///< upper left corner inside the frame
-    int y = 0;
-    int width = 0;
-    int height = 0;
+    int x{}; ///< upper left corner inside the frame
+    int y{};
+    int width{};
+    int height{};
     int zoom = 100;    ///< percent that the size belongs to
     bool open = false; ///< at the last exit
 
@@ -27,8 +27,8 @@ struct ScreenChoices {
     static constexpr const char* file = "KV_Screen.ini";
     static constexpr int dimSteps = 3;
 
-    int dimStep = 0; ///< of the night colours, 0 the brightest .. dimSteps - 1
-    int zoom = 100;  ///< percent, one of zoomSteps()
+    int dimStep{};  ///< of the night colours, 0 the brightest .. dimSteps - 1
+    int zoom = 100; ///< percent, one of zoomSteps()
     bool reopensWindows = false;
     bool clockOnTop = false;
     bool ownFrames = false; ///< at night the windows do without the desktop's frames

@@ -89,7 +89,7 @@ private:
         bool enabled = false;
         std::string time;
         std::optional<int> minuteOfDay; ///< nothing when the text is no time
-        std::int64_t from = 0;          ///< first minute that counts
+        std::int64_t from{};            ///< first minute that counts
         RungMinutes rung;
     };
     struct Rung {

@@ -79,7 +79,7 @@ private:
     Questions& m_questions;
     ComputerClock& m_clock;
     Hooks m_hooks;
-    double m_offset = 0;
+    double m_offset{};
     bool m_toldAboutOffset = false;
     std::optional<std::int64_t> m_minuteShown;
 };

@@ -53,8 +53,8 @@ private:
     FileStore& m_files;
     std::string m_words; ///< in small letters
     std::vector<std::string> m_days;
-    std::size_t m_day = 0; ///< that is being read
-    std::int64_t m_at = 0; ///< where in its file
+    std::size_t m_day{}; ///< that is being read
+    std::int64_t m_at{}; ///< where in its file
     std::vector<std::string> m_found;
 };
 

@@ -51,7 +51,7 @@ private:
     ConditionFields m_needs;
     FieldBoxes m_conditions;
     std::vector<KeyUpBox*> m_boxes;
-    std::size_t m_lead = 0;             ///< the box that was typed in last
+    std::size_t m_lead{};               ///< the box that was typed in last
     const KeyUpBox* m_inHand = nullptr; ///< the box that has the focus, or had it last
     FocusFollower m_focus;
 };

@@ -61,16 +61,16 @@ struct CrudeFigures {
     std::optional<double> api60;
     std::optional<double> temperature;   ///< of the cargo, in the unit of its box
     std::optional<double> totalObserved; ///< in the unit of the volume box, as is what follows
-    double freeWater = 0;
-    double grossStandard = 0;
-    double netStandard = 0;
+    double freeWater{};
+    double grossStandard{};
+    double netStandard{};
     std::optional<NavFunc113::VolumeCorrection> correction;
     std::optional<double> percent;     ///< sediment and water
     std::optional<double> klPerBarrel; ///< by the density
     std::optional<double> typedFactor; ///< KL/Bbl as typed
-    double kilolitres15OfGross = 0;
-    double kilolitres15 = 0; ///< of the net volume
-    double kilolitres60 = 0;
+    double kilolitres15OfGross{};
+    double kilolitres15{}; ///< of the net volume
+    double kilolitres60{};
 };
 
 struct CrudeResult {           // an empty text blanks the label

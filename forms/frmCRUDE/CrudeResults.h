@@ -38,8 +38,8 @@ private:
 
     ResultLabels<CrudeResult> m_labels;
     AnswerStrip* m_answers;
-    std::size_t m_next = 0; ///< the first result that has no place yet
-    int m_row = 0;          ///< below all that have one
+    std::size_t m_next{}; ///< the first result that has no place yet
+    int m_row{};          ///< below all that have one
 };
 
 } // namespace korvel

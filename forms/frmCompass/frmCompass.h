@@ -77,9 +77,9 @@ private:
     CompassResult m_found;
     CourseInput m_courseInput;
     CourseResult m_course;
-    int m_errorCalculation = 0;
-    int m_deviationCalculation = 0;
-    int m_courseCalculation = 0;
+    int m_errorCalculation{};
+    int m_deviationCalculation{};
+    int m_courseCalculation{};
 };
 
 } // namespace korvel

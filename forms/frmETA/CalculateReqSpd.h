@@ -17,11 +17,11 @@ struct ReqSpdInput {
 };
 
 struct ReqSpdResult {
-    std::optional<std::string> speed;   ///< knots; nothing: the label stays as it was, shown dimmed
-    std::string notice;                 ///< why it stays; empty when it does not
-    NavFunc113::DateTime departure = 0; ///< UTC, when there is a speed
-    NavFunc113::DateTime arrival = 0;   ///< UTC, when there is a speed
-    double distance = 0;                ///< nautical miles
+    std::optional<std::string> speed; ///< knots; nothing: the label stays as it was, shown dimmed
+    std::string notice;               ///< why it stays; empty when it does not
+    NavFunc113::DateTime departure{}; ///< UTC, when there is a speed
+    NavFunc113::DateTime arrival{};   ///< UTC, when there is a speed
+    double distance{};                ///< nautical miles
     NavFunc113::Hours hours = {};
     std::array<double, 2> TD = {}; ///< hours, at departure and arrival
 };

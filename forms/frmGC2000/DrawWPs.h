@@ -11,8 +11,8 @@ namespace korvel
 {
 
 struct ChartPoint {
-    double longitude = 0; ///< decimal degrees in the frame of the chart, -180 .. 540
-    double lat = 0;       ///< decimal degrees
+    double longitude{}; ///< decimal degrees in the frame of the chart, -180 .. 540
+    double lat{};       ///< decimal degrees
 };
 
 struct ChartLine {
@@ -21,7 +21,7 @@ struct ChartLine {
 };
 
 struct ChartLabel {
-    double at = 0;    ///< decimal degrees along its edge, in the frame of the chart
+    double at{};      ///< decimal degrees along its edge, in the frame of the chart
     std::string text; ///< "140°E", "40°N"
 };
 

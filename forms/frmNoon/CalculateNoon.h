@@ -20,8 +20,8 @@ struct NoonInput {
 /// The propeller's day.
 struct NoonEngine {
     NavFunc113::Metres pitch;
-    double first = 0; ///< counters
-    double last = 0;
+    double first{}; ///< counters
+    double last{};
     NavFunc113::Miles miles; ///< of 1852 m
     std::optional<double> wake;
 };

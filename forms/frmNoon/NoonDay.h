@@ -16,8 +16,8 @@ struct NoonRun {
 
 /// The day between two fixes of the record.
 struct NoonDay {
-    std::size_t from = 0; ///< places among the fixes of the record
-    std::size_t to = 0;
+    std::size_t from{}; ///< places among the fixes of the record
+    std::size_t to{};
     std::optional<NoonRun> run; ///< stoppages in its hours; nothing: a leg cannot be calculated
     NavFunc113::Hours stopped;
     NavFunc113::Hours underWay;               ///< without the stoppages

@@ -41,7 +41,7 @@ private:
     PassagePlan m_plan;
     BunkersNow m_bunkers;
     NoonResult m_shown;
-    int m_calculation = 0;
+    int m_calculation{};
 };
 
 } // namespace korvel

@@ -13,8 +13,8 @@ namespace korvel
 /// A place on the chart, in degrees of longitude from Greenwich. A plan is drawn in one piece: x
 /// goes on beyond 180 where the ship does.
 struct ChartSpot {
-    double x = 0; ///< east positive
-    double y = 0; ///< Mercator's, north positive
+    double x{}; ///< east positive
+    double y{}; ///< Mercator's, north positive
 };
 
 /// y of a latitude; beyond 85 degrees that of 85. Source: Mercator's projection of the sphere,

@@ -26,7 +26,7 @@ PlanHead headOf(const PassagePlan& plan);
 /// A change of a plan: from a place on some rows are replaced by others, and perhaps the head.
 struct PlanEdit {
     std::string name; ///< "Insert rows": what an undo is called by
-    std::size_t at = 0;
+    std::size_t at{};
     PlanRows before;
     PlanRows after;
     std::optional<PlanHead> headBefore = {};

@@ -62,7 +62,7 @@ private:
     PlanConditions m_conditions;
     PlanReckoning m_reckoning;
     PlanHistory m_history;
-    std::size_t m_row = 0;
+    std::size_t m_row{};
 };
 
 } // namespace korvel

@@ -38,7 +38,7 @@ private:
     Lines legOf(std::size_t row) const;
 
     const PlanInHand& m_work;
-    int m_rows = 0;
+    int m_rows{};
     mutable std::vector<std::optional<PlanRowTexts>> m_texts;
 };
 

@@ -48,7 +48,7 @@ private:
     QPointF pixel(const ChartSpot& spot) const { return toPixel(spot.x, spot.y); }
     double aspect() const;
     PlanChart m_chart;
-    std::size_t m_row = 0;
+    std::size_t m_row{};
     ChartView m_view;
     bool m_showsAll = true; ///< the officer has not looked elsewhere
 };

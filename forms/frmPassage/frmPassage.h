@@ -65,7 +65,7 @@ private:
     PlanBoxes* m_boxes;
     PlanTable* m_table;
     PlanPicture* m_picture;
-    int m_calculation = 0;
+    int m_calculation{};
 
     ResultLabels<PassageShown> m_results;
     struct {

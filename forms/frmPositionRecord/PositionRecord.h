@@ -14,7 +14,7 @@ namespace korvel
 struct PositionRecordInput {
     PositionRows rows;
     NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
-    double shipsTD = 0;                      ///< hours, for rows that name none
+    double shipsTD{};                        ///< hours, for rows that name none
     std::optional<NavFunc113::DateTime> now; ///< UTC; nothing: no fix lies in the future
     std::string
         courseSteered;        ///< since the last fix but one, degrees true; empty: no set and drift

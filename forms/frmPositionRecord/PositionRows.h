@@ -36,7 +36,7 @@ void clearRow(PositionRows& rows, std::size_t at);
 struct RowChange {
     enum class Kind { Inserted, Deleted, Replaced };
     Kind kind = Kind::Replaced;
-    std::size_t at = 0;  ///< the row that was inserted or deleted
+    std::size_t at{};    ///< the row that was inserted or deleted
     PositionRows before; ///< the rows when it was made
     PositionRows after;  ///< and as it left them
 };

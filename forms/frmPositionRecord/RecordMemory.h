@@ -34,12 +34,12 @@ struct RecordMemory {
     /// A row as it was read, and what that rests on.
     struct ReadBefore {
         PositionRow typed;
-        double tdAbove = 0;
+        double tdAbove{};
         bool isTypingTime = false;
 
         std::optional<RecordedFix> fix;
         PositionRowResult result;
-        double tdBelow = 0;
+        double tdBelow{};
     };
     struct Figures {
         ShownFigure course;

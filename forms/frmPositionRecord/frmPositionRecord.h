@@ -67,8 +67,8 @@ private:
     std::function<bool()> m_isStillRefused; ///< while the notice line says why
     RecordFile m_fixesFile;
     ObservedFixes m_observed; ///< kind and ellipse of rows that hold fixes by observation
-    int m_calculation = 0;
-    std::size_t m_row = 0;  ///< the row that has, or last had, the focus
+    int m_calculation{};
+    std::size_t m_row{};    ///< the row that has, or last had, the focus
     bool m_filling = false; ///< many boxes are being filled, one calculation follows
     FocusFollower m_focus;
 };

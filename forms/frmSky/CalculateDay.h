@@ -82,7 +82,7 @@ public:
 private:
     void make(NavFunc113::DateTime from, NavFunc113::DateTime to);
 
-    NavFunc113::DateTime m_from = 0, m_to = 0;
+    NavFunc113::DateTime m_from{}, m_to{};
     std::optional<almanac::HourlyPlaces> m_sun, m_moon;
 };
 

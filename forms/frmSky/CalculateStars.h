@@ -51,7 +51,7 @@ struct SkyStars {
     std::optional<NavFunc113::DateTime> utc;
     std::vector<SkyBody> bodies; ///< those of the round by azimuth, then the others by azimuth
     almanac::Direction sun;      ///< wherever it is
-    double moonLit = 0;          ///< part of the disc
+    double moonLit{};            ///< part of the disc
     std::optional<NavFunc113::Degrees>
         moonBrightLimb;  ///< towards where on the horizon, as seen:
                          ///< position angle from the zenith, clockwise

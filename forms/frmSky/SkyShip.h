@@ -32,13 +32,13 @@ class SkyShip
 {
 public:
     NavFunc113::GeoPoint position; ///< at the time `of`
-    NavFunc113::DateTime of = 0;   ///< UTC
+    NavFunc113::DateTime of{};     ///< UTC
     NavFunc113::Degrees course;    ///< true
     NavFunc113::Knots speed;
     NavFunc113::Metres eye;
     NavFunc113::Degrees indexError; ///< of the sextant, on the arc positive: it reads so much more
     NavFunc113::Hours TD;
-    NavFunc113::DateTime day = 0; ///< that is shown: 0 hours of ship's time, as UTC
+    NavFunc113::DateTime day{}; ///< that is shown: 0 hours of ship's time, as UTC
     NavFunc113::Earth earth = NavFunc113::Earth::Sphere;
 
     /// @throws NavFunc113::ArithmeticError when she crosses a pole on the way

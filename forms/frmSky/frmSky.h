@@ -74,8 +74,8 @@ private:
     UnknownResult m_shownUnknown;
     std::optional<almanac::DailyPage> m_page;
     std::string m_almanacNotice;
-    int m_dayCalculation = 0;
-    int m_almanacCalculation = 0;
+    int m_dayCalculation{};
+    int m_almanacCalculation{};
 };
 
 } // namespace korvel

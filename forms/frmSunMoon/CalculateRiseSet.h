@@ -58,7 +58,7 @@ struct RiseSetFigures {
 /// What an azimuth was calculated from.
 struct AzimuthFigures {
     NavFunc113::DegMin latitude; ///< as the searches before it moved it
-    NavFunc113::DateTime instant = 0;
+    NavFunc113::DateTime instant{};
     NavFunc113::DegMin declination;
     std::optional<NavFunc113::Degrees> azimuth;
 };
@@ -80,7 +80,7 @@ struct RiseSetResult {
     RiseSetLabel moonRiseTime;
     RiseSetLabel moonSetTime;
     std::string notice; ///< for the notice line, the row's place in front; empty: nothing to say
-    NavFunc113::DateTime date = 0;              ///< valid when there is an age of the Moon
+    NavFunc113::DateTime date{};                ///< valid when there is an age of the Moon
     std::optional<NavFunc113::MoonPhase> phase; ///< at 12:00 UTC of the date
     std::optional<RowFigures> figures;          ///< when successful
 };

@@ -9,7 +9,7 @@ namespace korvel
 
 /// A row of the window: what was typed into it and what came of it.
 struct RiseSetTableRow {
-    std::size_t number = 0; ///< counted from 1
+    std::size_t number{}; ///< counted from 1
     RiseSetInput typed;
     const RiseSetResult* result = nullptr;
     std::string line = {}; ///< of the row in focus, as the window shows it

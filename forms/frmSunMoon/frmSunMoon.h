@@ -53,7 +53,7 @@ private:
     RowTable* m_table = nullptr;
     std::array<RiseSetRow, rows> m_numbers;
     std::array<RiseSetResult, rows> m_results;
-    std::size_t m_row = 0;          ///< the row that last had the focus
+    std::size_t m_row{};            ///< the row that last had the focus
     std::vector<QString> m_cleared; ///< texts of all boxes before they were cleared
     FocusFollower m_focus;
 };

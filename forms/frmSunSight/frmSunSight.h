@@ -93,8 +93,8 @@ private:
     MeridianResult m_noon;
     SightFixResult m_fix;
     QAction* m_series = nullptr; ///< shots of one body are one line
-    int m_lineCalculation = 0;
-    int m_fixCalculation = 0;
+    int m_lineCalculation{};
+    int m_fixCalculation{};
 };
 
 } // namespace korvel

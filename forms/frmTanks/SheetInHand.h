@@ -56,7 +56,7 @@ public:
 
 private:
     struct Place {
-        std::size_t row = 0;
+        std::size_t row{};
         TankSurvey survey = TankSurvey::First;
     };
     struct Step {

@@ -32,9 +32,9 @@ struct ReadGrade {
     std::string name;    ///< "Grade 2" where none was typed
     const TableName* table = nullptr;
     std::optional<NavFunc113::Oil> oil; ///< nothing: tanks of this grade cannot be calculated
-    double api = 0;
-    NavFunc113::CubicMetres barrel = 0; ///< m3 at 15 degC of a barrel at 60 degF
-    double sediment = 0;                ///< part of 1
+    double api{};
+    NavFunc113::CubicMetres barrel{}; ///< m3 at 15 degC of a barrel at 60 degF
+    double sediment{};                ///< part of 1
     std::optional<double> billVolume, billBarrels, billWeight, received;
     std::optional<std::size_t> fuel;
     Remarks remarks;
@@ -46,17 +46,17 @@ ReadGrade readGrade(const GradeBoxes& boxes, std::size_t number, ListKind kind,
 
 /// Quantities of a tank, of a grade or of the ship. Tons and barrels are those of GSV.
 struct TankSums {
-    double observed = 0; ///< total observed volume, of the sheet's unit
-    double water = 0;    ///< of the same
-    double gross = 0;    ///< observed less water
-    double standard = 0; ///< GSV, m3 at 15 degC
-    double net = 0;      ///< NSV: without sediment and water, m3 at 15 degC
-    double total = 0;    ///< TCV: GSV and free water, m3
-    double barrels = 0;  ///< at 60 degF
-    double inVacuo = 0;  ///< t
-    double inAir = 0;    ///< t
-    double netInAir = 0; ///< t, of NSV
-    double longTons = 0; ///< in air
+    double observed{}; ///< total observed volume, of the sheet's unit
+    double water{};    ///< of the same
+    double gross{};    ///< observed less water
+    double standard{}; ///< GSV, m3 at 15 degC
+    double net{};      ///< NSV: without sediment and water, m3 at 15 degC
+    double total{};    ///< TCV: GSV and free water, m3
+    double barrels{};  ///< at 60 degF
+    double inVacuo{};  ///< t
+    double inAir{};    ///< t
+    double netInAir{}; ///< t, of NSV
+    double longTons{}; ///< in air
 
     TankSums& operator+=(const TankSums& other);
     TankSums operator-(const TankSums& other) const;

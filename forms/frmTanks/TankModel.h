@@ -52,7 +52,7 @@ private:
 
     const SheetInHand& m_work;
     ListKind m_kind;
-    int m_rows = 0;
+    int m_rows{};
 };
 
 } // namespace korvel

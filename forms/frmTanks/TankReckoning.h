@@ -10,8 +10,8 @@ namespace korvel
 struct SurveySums {
     std::array<TankSums, gradeCount> grades;
     TankSums ship;
-    std::size_t measured = 0; ///< tanks
-    std::size_t faults = 0;   ///< tanks that have no quantities; the sums are without them
+    std::size_t measured{}; ///< tanks
+    std::size_t faults{};   ///< tanks that have no quantities; the sums are without them
 };
 
 /// Ship and bill of lading, or outturn, in one measure.

@@ -83,7 +83,7 @@ private:
     TotalsPage* m_totals;
     TankListPage* m_bunkers;
     ExperiencePage* m_experience;
-    int m_calculation = 0;
+    int m_calculation{};
 };
 
 } // namespace korvel

@@ -18,7 +18,7 @@ enum class Water {
 /// The section of a channel, by its bottom and banks or as it was typed.
 struct ChannelShape {
     NavFunc113::Metres bottom;
-    double slope = 0; ///< of the banks, run over rise
+    double slope{}; ///< of the banks, run over rise
     std::optional<NavFunc113::SquareMetres> section = {};
 
     NavFunc113::SquareMetres at(NavFunc113::Metres depth) const
@@ -36,7 +36,7 @@ struct KeelModel {
     Metres density; ///< sinkage by it
     Metres list;    ///< sinkage by it
     Metres heave;
-    double block = 0;
+    double block{};
     Metres breadth;
     Water water = Water::Open;
     ChannelShape channel;

@@ -61,7 +61,7 @@ private:
     TideWeeks m_weeks;
     TideWeek m_week; ///< that of the results
     UKCResult m_shown;
-    int m_calculation = 0;
+    int m_calculation{};
 };
 
 } // namespace korvel

@@ -45,7 +45,7 @@ private:
     WindPictureBox* m_picWind = nullptr;
     WindResult m_wind;
     bool m_dragging = false;
-    int m_calculation = 0;
+    int m_calculation{};
 };
 
 } // namespace korvel

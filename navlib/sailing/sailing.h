@@ -75,8 +75,8 @@ Miles RhumbDistance(DegMin lat1, DegMin long1, DegMin lat2, DegMin long2, Earth 
 /// What a rhumb-line leg was calculated from, in the order of its working.
 struct RhumbSteps {
     Degrees changeOfLongitude; ///< by the shorter way, east positive
-    double parts1 = 0;         ///< meridional parts of either latitude
-    double parts2 = 0;
+    double parts1{};           ///< meridional parts of either latitude
+    double parts2{};
     Degrees lookup;             ///< latitude with which latitudeFactor was looked up
     double latitudeFactor = 1;  ///< miles of a minute of latitude; 1 on the sphere
     Degrees changeOfLatitude;   ///< times that factor
@@ -132,8 +132,8 @@ DegMin DRLongitude(DegMin lat1, DegMin long1, Degrees course, Miles distance, Ea
 struct LongitudeRun {
     bool alongParallel = false;
     double factor = 1; ///< along a parallel: miles of a minute of longitude by its cosine
-    double parts1 = 0; ///< otherwise: meridional parts of either latitude
-    double parts2 = 0;
+    double parts1{};   ///< otherwise: meridional parts of either latitude
+    double parts2{};
     Degrees change; ///< of longitude
     DegMin reached;
 };

@@ -19,22 +19,22 @@ namespace NavFunc113
 
 /// A station's constant of one constituent.
 struct TideConstituent {
-    Degrees phase;        ///< phase lag, referred to the station's zone time
-    double amplitude = 0; ///< metres or knots
+    Degrees phase;      ///< phase lag, referred to the station's zone time
+    double amplitude{}; ///< metres or knots
 };
 
 /// One constituent's line entry of a day, for 00:00.
 struct DailyFactor {
-    Degrees angle;     ///< runs backwards in time
-    double factor = 0; ///< multiplies the amplitude
+    Degrees angle;   ///< runs backwards in time
+    double factor{}; ///< multiplies the amplitude
 };
 
 /// Shallow-water terms of a station: powers of its combined semidiurnal wave.
 struct ShallowWaterTerms {
     Degrees quarterPhase;
-    double quarterCoefficient = 0; ///< multiplies the square; per metre or per knot
+    double quarterCoefficient{}; ///< multiplies the square; per metre or per knot
     Degrees sixthPhase;
-    double sixthCoefficient = 0; ///< multiplies the cube; per square metre or square knot
+    double sixthCoefficient{}; ///< multiplies the cube; per square metre or square knot
 };
 
 using TideConstituents = std::array<TideConstituent, 4>;
@@ -67,10 +67,10 @@ struct TideSteps : TideSums {
     struct Wave {
         Degrees phaseAtMidnight; ///< angle of the day and phase lag of the station
         Degrees speed;           ///< by which the phase goes back in an hour
-        double amplitude = 0;    ///< of the station by the factor at that time
+        double amplitude{};      ///< of the station by the factor at that time
         Degrees phase;           ///< at that time
-        double cosine = 0;       ///< amplitude times cosine and sine of the phase
-        double sine = 0;
+        double cosine{};         ///< amplitude times cosine and sine of the phase
+        double sine{};
     };
     std::array<Wave, 4> waves;
 };
@@ -127,9 +127,9 @@ double TideHarmonicSum(Hours t, const TideConstituents& station, const DailyFact
 
 /// The day's highest and lowest value with their times.
 struct TideExtremes {
-    double highest = 0;
+    double highest{};
     Hours timeHigh; ///< decimal hours
-    double lowest = 0;
+    double lowest{};
     Hours timeLow; ///< decimal hours
 };
 

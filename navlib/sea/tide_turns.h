@@ -21,8 +21,8 @@ inline constexpr Hours tenMinutes(1.0 / 6);
 
 /// A high or low water; for a stream the greatest rate of a flood or an ebb.
 struct TideTurn {
-    Hours time;       ///< 0 <= time < 24
-    double value = 0; ///< metres or knots
+    Hours time;     ///< 0 <= time < 24
+    double value{}; ///< metres or knots
     bool isHigh = false;
 };
 

@@ -55,15 +55,15 @@ APIGravity APIFromDensity15(KilogramsPerCubicMetre density15,
 /// A volume correction factor with what it was calculated from:
 /// exp(-alpha x difference x (1 + 0.8 alpha (difference + shift))) / atReference.
 struct VolumeCorrection {
-    KilogramsPerCubicMetre density = 0; ///< at the base of the formula
-    double K0 = 0;
-    double alpha = 0;       ///< K0 / density^2, per degree of the base
-    double difference = 0;  ///< of temperature from the base
-    double shift = 0;       ///< of the base itself on the scale of 1968; 0 in the edition of 1980
+    KilogramsPerCubicMetre density{}; ///< at the base of the formula
+    double K0{};
+    double alpha{};         ///< K0 / density^2, per degree of the base
+    double difference{};    ///< of temperature from the base
+    double shift{};         ///< of the base itself on the scale of 1968; 0 in the edition of 1980
     double atReference = 1; ///< 54A of 2004: the factor at 15 degC, for the base is 60 degF
     double factor = 1;
-    double K1 = 0; ///< of kinds of oil whose alpha has them: + K1 / density + K2
-    double K2 = 0;
+    double K1{}; ///< of kinds of oil whose alpha has them: + K1 / density + K2
+    double K2{};
 };
 VolumeCorrection CorrectionBy54A(KilogramsPerCubicMetre density15, Celsius temperature,
                                  CrudeEdition edition = CrudeEdition::Of1980);

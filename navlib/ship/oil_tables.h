@@ -28,8 +28,8 @@ enum class OilTable {
 /// An oil as its certificate describes it.
 struct Oil {
     OilTable table = OilTable::Products;
-    KilogramsPerCubicMetre density15 = 0; ///< at 15 degC, in vacuo
-    double coefficient = 0; ///< of an Own oil: per degC at 15 degC, "0.000841"; else not used
+    KilogramsPerCubicMetre density15{}; ///< at 15 degC, in vacuo
+    double coefficient{}; ///< of an Own oil: per degC at 15 degC, "0.000841"; else not used
 };
 
 /// How a factor is rounded before anything is multiplied with it, half away from zero.

@@ -13,9 +13,9 @@ namespace NavFunc113
 /// Constants of a kind of oil. Its coefficient of expansion is K0 / density^2 + K1 / density + K2,
 /// per degree of the base that the constants belong to: 15 degC, or 60 degF.
 struct ExpansionConstants {
-    double K0 = 0;
-    double K1 = 0;
-    double K2 = 0;
+    double K0{};
+    double K1{};
+    double K2{};
 };
 
 inline constexpr Celsius reference60F = 140 / 9.0; ///< 60 degF

@@ -91,7 +91,7 @@ enum class ZoneOfConfidence { A1, A2, B, C };
 /// Uncertainty of a charted depth, at 95 %: a fixed part and a share of the depth.
 struct DepthUncertainty {
     Metres fixed;
-    double share = 0;
+    double share{};
 
     Metres of(Metres charted) const { return fixed + fabs(charted) * share; }
 };

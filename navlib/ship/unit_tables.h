@@ -49,7 +49,7 @@ struct Unit {
     double factor;               ///< size in the base unit, see BaseUnit()
     std::string_view definition; ///< what fixes the size, in words
     UnitScale scale = UnitScale::Ratio;
-    double offset = 0;
+    double offset{};
     UnitNeed needs = UnitNeed::Nothing;
 };
 

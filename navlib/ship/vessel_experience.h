@@ -17,8 +17,8 @@ namespace NavFunc113
 /// mixed in one list. The ship's figure is loaded or discharged: without what was on board before,
 /// or remained.
 struct VoyageQuantities {
-    double ship = 0;
-    double shore = 0;
+    double ship{};
+    double shore{};
 };
 
 struct VoyageRatio {
@@ -27,7 +27,7 @@ struct VoyageRatio {
         GrossError, ///< the ratio is outside 0.98000 to 1.02000
         OffMean     ///< it is more than 0.30 % of the mean off the mean
     };
-    double ratio = 0; ///< ship / shore
+    double ratio{}; ///< ship / shore
     Standing standing = Standing::Counts;
 };
 
@@ -36,11 +36,11 @@ struct VesselExperience {
     static constexpr std::size_t fewestVoyages = 5;
 
     std::vector<VoyageRatio> voyages; ///< of the list, in its order
-    double mean = 0;                  ///< sum of ships / sum of shores without the gross errors; 0:
+    double mean{};                    ///< sum of ships / sum of shores without the gross errors; 0:
                                       ///< every voyage is one
-    std::size_t counted = 0;
-    double ship = 0; ///< sums of the voyages that count
-    double shore = 0;
+    std::size_t counted{};
+    double ship{}; ///< sums of the voyages that count
+    double shore{};
     std::optional<double> factor; ///< ship / shore; nothing with fewer than five voyages that count
 };
 

@@ -70,9 +70,9 @@ BodyPlace MoonPlace(DateTime instant);
 /// The Sun's declination and GHA at one instant with all that they follow from, bit for bit those
 /// of the single routines.
 struct SunFigures {
-    double julianDay = 0;
-    double centuries = 0; ///< Julian centuries from 2000 January 1.5, dynamical time
-    Degrees longitude;    ///< ecliptic, referred to the mean equinox
+    double julianDay{};
+    double centuries{}; ///< Julian centuries from 2000 January 1.5, dynamical time
+    Degrees longitude;  ///< ecliptic, referred to the mean equinox
     Degrees aberration;
     Degrees nutation;          ///< in longitude
     Degrees apparentLongitude; ///< the sum of the three
@@ -88,7 +88,7 @@ SunFigures FiguresOfSun(DateTime instant);
 struct MoonPhase {
     Degrees moonLongitude;
     Degrees sunLongitude;
-    double age = 0; ///< as MoonAge
+    double age{}; ///< as MoonAge
 };
 MoonPhase PhaseOfMoon(DateTime instant);
 

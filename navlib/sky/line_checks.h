@@ -18,10 +18,10 @@ namespace NavFunc113
 
 /// A line against the fix from others.
 struct LineCheck {
-    std::size_t index = 0; ///< in the sights
-    Miles misfit;          ///< how far it passes from that fix; positive towards the body
-    double ratio = 0;      ///< misfit in its standard deviations, that of the fix included
-    Fix without;           ///< the fix from the others
+    std::size_t index{}; ///< in the sights
+    Miles misfit;        ///< how far it passes from that fix; positive towards the body
+    double ratio{};      ///< misfit in its standard deviations, that of the fix included
+    Fix without;         ///< the fix from the others
 };
 
 /// The check of every line against all others, in the order of the sights. A line without which

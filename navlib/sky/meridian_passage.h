@@ -36,11 +36,11 @@ bool IsNearMeridian(Degrees hourAngle, Degrees observedAltitude);
 /// An altitude taken near the upper or the lower meridian, reduced to it without approximation.
 struct ExMeridian {
     Degrees latitude;
-    Miles reduction;        ///< latitude less that of the same altitude on the meridian
-    bool isUpper = true;    ///< else below the pole
-    double minutes = 0;     ///< of time from that meridian, after it positive
-    double limit = 0;       ///< of these: as many as the zenith distance has degrees, at most 30
-    double ofLongitude = 0; ///< minutes of latitude that a minute of longitude is worth
+    Miles reduction;      ///< latitude less that of the same altitude on the meridian
+    bool isUpper = true;  ///< else below the pole
+    double minutes{};     ///< of time from that meridian, after it positive
+    double limit{};       ///< of these: as many as the zenith distance has degrees, at most 30
+    double ofLongitude{}; ///< minutes of latitude that a minute of longitude is worth
     bool isWithinLimit() const;
 };
 /// @param near latitude by dead reckoning: of the two possible ones the nearer comes back
@@ -60,9 +60,9 @@ struct AltitudeOfPair {
 /// the ship on her track, so that the body's change of declination and the ship's of latitude are
 /// taken in whole.
 struct EqualAltitudes {
-    Position atMean;        ///< at the mean of the times; the latitude is that given
-    double ofAltitudes = 0; ///< minutes of longitude for a minute in each altitude
-    double ofNorthing = 0;  ///< minutes of longitude for a minute an hour in the rate of latitude
+    Position atMean;      ///< at the mean of the times; the latitude is that given
+    double ofAltitudes{}; ///< minutes of longitude for a minute in each altitude
+    double ofNorthing{};  ///< minutes of longitude for a minute an hour in the rate of latitude
 };
 /// @return nothing when both lie on one side of the meridian, or nearer to it than two degrees
 std::optional<EqualAltitudes> LongitudeByEqualAltitudes(const AltitudeOfPair& first,

@@ -97,11 +97,11 @@ struct EventStep {
     int round =
         0; ///< of the search: -1, 0, 1 days from the date; of the refined one 0 for the
            ///< check of a time found, then 1, 2, 3 from the start, middle and end of the day
-    DateTime instant = 0; ///< UTC
+    DateTime instant{}; ///< UTC
     BodyPlace body;
     std::optional<Degrees> hourAngle; ///< of the event; absent: the body does not meet the altitude
-    DateTime event = 0; ///< local time; without an hour angle that of the culmination in the
-                        ///< refined search, and 0 in the other
+    DateTime event{}; ///< local time; without an hour angle that of the culmination in the
+                      ///< refined search, and 0 in the other
 };
 
 /// The searches above, their steps added to a list; those before a fault stay in it.

@@ -53,7 +53,7 @@ struct Sight {
 /// How good the sights and the run between them are held to be.
 struct ErrorModel {
     Miles sigma = Miles(1); ///< of one line; more than 0
-    double runAlong = 0;    ///< of the distance run, as a part of it (0.05: five per cent)
+    double runAlong{};      ///< of the distance run, as a part of it (0.05: five per cent)
     Degrees runCourse;      ///< of the course made good
 };
 
@@ -72,9 +72,9 @@ double LineVariance(const ErrorModel& errors, const Motion& motion, const Sight&
 
 /// Sums of the weighted lines: cos^2 Z, cos Z sin Z, sin^2 Z, each divided by sigma^2.
 struct NormalMatrix {
-    double A = 0;
-    double B = 0;
-    double C = 0;
+    double A{};
+    double B{};
+    double C{};
     double determinant() const { return A * C - B * B; }
 };
 
@@ -89,8 +89,8 @@ enum class FixOutcome {
 struct FixPass {
     Position from;       ///< position at the time of the fix that the lines are reduced from
     NormalMatrix matrix; ///< miles^-2
-    double D = 0;        ///< sum of intercept cos Z / sigma^2
-    double E = 0;        ///< sum of intercept sin Z / sigma^2
+    double D{};          ///< sum of intercept cos Z / sigma^2
+    double E{};          ///< sum of intercept sin Z / sigma^2
     Miles north;         ///< move to the next position
     Miles east;
 };
@@ -100,8 +100,8 @@ struct Fix {
     Position position;            ///< valid when Found, as is all below
     NormalMatrix matrix;          ///< of the last pass, miles^-2
     std::vector<Miles> residuals; ///< in the order of the sights; positive towards the body
-    double weightedSquares = 0;   ///< sum of (residual / sigma)^2
-    int passes = 0;
+    double weightedSquares{};     ///< sum of (residual / sigma)^2
+    int passes{};
     std::vector<FixPass> steps;        ///< the passes
     std::vector<LineOfPosition> lines; ///< of the last pass, in the order of the sights
     std::vector<double> weights;       ///< of these, 1 / sigma^2
@@ -118,8 +118,8 @@ Fix LeastSquaresFix(std::span<const Sight> sights, const Position& atFix, const 
 
 /// Error ellipse in miles.
 struct ErrorEllipse {
-    double mean = 0;   ///< of the eigenvalues of the matrix: (A + C) / 2
-    double spread = 0; ///< half their difference
+    double mean{};     ///< of the eigenvalues of the matrix: (A + C) / 2
+    double spread{};   ///< half their difference
     double factor = 1; ///< k of the axes
     double scale = 1;  ///< of the sigmas
     Miles semiMajor;

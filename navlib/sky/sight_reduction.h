@@ -23,14 +23,14 @@ Degrees ComputedAzimuth(DegMin GHA, DegMin declination, DegMin latitude, DegMin 
 
 /// The terms of a Sun altitude correction in minutes of arc.
 struct AltitudeCorrectionTerms {
-    double dip = 0;                 ///< 0 or less
-    double refraction = 0;          ///< as tabulated, to be subtracted
-    double semiDiameter = 0;        ///< in July, the smallest of the year
-    double parallax = 0;            ///< in altitude
-    double temperature = 0;         ///< departure of the refraction from that of mean air
-    double pressure = 0;            ///< the same for the pressure
-    double semiDiameterOfMonth = 0; ///< what the month adds to that of July
-    double airSea = 0;              ///< departure of the dip with the air warmer than the sea
+    double dip{};                 ///< 0 or less
+    double refraction{};          ///< as tabulated, to be subtracted
+    double semiDiameter{};        ///< in July, the smallest of the year
+    double parallax{};            ///< in altitude
+    double temperature{};         ///< departure of the refraction from that of mean air
+    double pressure{};            ///< the same for the pressure
+    double semiDiameterOfMonth{}; ///< what the month adds to that of July
+    double airSea{};              ///< departure of the dip with the air warmer than the sea
 };
 
 /// Corrections of an altitude of the Sun's lower limb.

@@ -145,7 +145,7 @@ private:
 
     std::span<const TableColumn> m_columns;
     std::vector<Line> m_lines;
-    std::size_t m_inHand = 0; ///< the row that has the focus, or had it last
+    std::size_t m_inHand{}; ///< the row that has the focus, or had it last
     FocusFollower m_focus;
 };
 

@@ -54,7 +54,7 @@ private:
 
     std::vector<std::unique_ptr<QLayoutItem>> m_parts;
     std::vector<std::pair<std::size_t, std::size_t>> m_places; ///< of each part: its cell and place
-    std::size_t m_cells = 0;
+    std::size_t m_cells{};
     std::size_t m_columns;
     Qt::Orientation m_reading;
 };

@@ -35,7 +35,7 @@ private:
     QLayout& m_columns;
     QBoxLayout* m_row;            ///< nothing where the groups are no row
     std::vector<Placed> m_groups; ///< of a grid, in the order of reading
-    int m_width = 0;
+    int m_width{};
     bool m_folded = false;
 };
 

@@ -31,7 +31,7 @@ public:
 private:
     static constexpr std::size_t simpleCharacters = 96; ///< of ASCII, and the degree sign
     struct Glyph {
-        quint32 index = 0;
+        quint32 index{};
         double advance = -1; ///< not asked for yet
     };
     /// Glyphs side by side, the first at the left edge of the text.
@@ -39,7 +39,7 @@ private:
         QList<quint32> indexes;
         QList<QPointF> places;
         QPointF start;
-        double wide = 0;
+        double wide{};
 
         double left(qsizetype i) const { return start.x() + places[i].x(); }
         double right(qsizetype i) const

@@ -42,7 +42,7 @@ private:
     QHBoxLayout* m_row;
     QButtonGroup* m_buttons;
     std::vector<QWidget*> m_pages;
-    std::size_t m_page = 0;
+    std::size_t m_page{};
 };
 
 } // namespace korvel

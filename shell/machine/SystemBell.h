@@ -45,7 +45,7 @@ private:
     QTimer m_timer;
     std::unique_ptr<QTemporaryFile> m_file;
     QProcess* m_process = nullptr; ///< the player at work
-    std::size_t m_player = 0;      ///< players before this one did not work since the start
+    std::size_t m_player{};        ///< players before this one did not work since the start
 };
 
 } // namespace korvel

@@ -44,7 +44,7 @@ public:
 private:
     ResultLabel* makeLabel(const QString& name, const QString& words, double size);
 
-    int m_leastWidth = 0;
+    int m_leastWidth{};
     ResultLabel* m_lblTime;
     ResultLabel* m_lblAlarm;
     ResultLabel* m_lblOffset;

@@ -10,8 +10,8 @@ namespace korvel
 
 /// A stretch of a document, from one height to another.
 struct PaperSlice {
-    double top = 0;
-    double bottom = 0;
+    double top{};
+    double bottom{};
 
     double height() const { return bottom - top; }
 };

@@ -38,7 +38,7 @@ private:
     Program& m_program;
     PaperDocument m_paper;
     QTextBrowser* m_text;
-    std::size_t m_rest = 0; ///< part of the paper that is still to be written; 0 for none
+    std::size_t m_rest{}; ///< part of the paper that is still to be written; 0 for none
     PaperMenu m_menu;
     WindowMenus m_menus;
 };

@@ -10,7 +10,7 @@ namespace korvel
 /// Colours and size of everything on the screen.
 struct Looks {
     bool night = false;
-    int dimStep = 0;
+    int dimStep{};
     int zoom = 100; ///< percent
 
     ColourScheme colours() const

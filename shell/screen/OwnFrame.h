@@ -34,7 +34,7 @@ private:
     QMainWindow& m_window;
     QLabel* m_title;
     bool m_isHeld = false;
-    int m_leastWidth = 0; ///< of the content, as it is with the desktop's frame
+    int m_leastWidth{}; ///< of the content, as it is with the desktop's frame
     QPointer<QSizeGrip> m_corner;
 };
 

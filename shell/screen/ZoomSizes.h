@@ -52,7 +52,7 @@ private:
     void followOf(QSpacerItem& gap, const QFont& letters);
 
     int m_zoom;
-    int m_before = 0;
+    int m_before{};
     std::map<Owner, Size> m_known;
     std::map<Owner, Size> m_kept; ///< of what is still there
     std::map<std::pair<QFont, int>, double> m_widths;

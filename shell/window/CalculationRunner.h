@@ -66,7 +66,7 @@ private:
     NoticeLine& m_notices;
     Dim m_dim;
     QTimer m_announcement; ///< of the answer, to assistive tools
-    int m_changed = 0;     ///< the calculation that it is about
+    int m_changed{};       ///< the calculation that it is about
     std::vector<Entered> m_calculations;
     bool m_held = false;
 };

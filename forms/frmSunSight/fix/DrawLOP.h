@@ -13,8 +13,8 @@ namespace korvel
 {
 
 struct PlotPoint {
-    double x = 0;
-    double y = 0;
+    double x{};
+    double y{};
 };
 
 struct PlotGridLine {
@@ -23,7 +23,7 @@ struct PlotGridLine {
 };
 
 struct PlotLine {
-    std::size_t index = 0; ///< in the list of sights
+    std::size_t index{}; ///< in the list of sights
     /// Runs of points on the circle of position, more than one where it leaves the chart's world
     /// near a pole; not clipped.
     std::vector<std::vector<PlotPoint>> runs;

@@ -15,8 +15,8 @@ namespace korvel
 
 /// One recorded sight that is on, as a line of the fix.
 struct FixLine {
-    std::size_t index = 0; ///< in the list
-    NavFunc113::DateTime UTC = 0;
+    std::size_t index{}; ///< in the list
+    NavFunc113::DateTime UTC{};
     std::string body; ///< its name; empty for the Sun
     NavFunc113::DegMin Ho;
     NavFunc113::Sight sight;
@@ -28,9 +28,9 @@ struct FixLine {
 
 /// Two sights of one body at nearly the same altitude, to the east and to the west of the meridian.
 struct EqualAltitudePair {
-    NavFunc113::DateTime first = 0; ///< UTC
-    NavFunc113::DateTime second = 0;
-    NavFunc113::DateTime passage = 0;
+    NavFunc113::DateTime first{}; ///< UTC
+    NavFunc113::DateTime second{};
+    NavFunc113::DateTime passage{};
     NavFunc113::Degrees longitude;   ///< of the ship at the passage
     NavFunc113::Degrees byAltitudes; ///< standard deviation of it
     NavFunc113::Degrees byRun;       ///< the same, by the errors of course and speed
@@ -38,15 +38,15 @@ struct EqualAltitudePair {
 
 /// Shots of one body that were made one line.
 struct SeriesShot {
-    std::size_t index = 0; ///< in the list
-    NavFunc113::DateTime UTC = 0;
+    std::size_t index{}; ///< in the list
+    NavFunc113::DateTime UTC{};
     NavFunc113::Miles residual; ///< observed less fitted
     bool isWild = false;
 };
 struct SightSeries {
-    std::string body;             ///< empty for the Sun
-    NavFunc113::DateTime UTC = 0; ///< the mean
-    NavFunc113::DegMin Ho;        ///< fitted, at that time
+    std::string body;           ///< empty for the Sun
+    NavFunc113::DateTime UTC{}; ///< the mean
+    NavFunc113::DegMin Ho;      ///< fitted, at that time
     NavFunc113::Miles intercept;
     NavFunc113::Miles scatter; ///< standard deviation of a shot, by the residuals
     NavFunc113::Miles sigma;   ///< of the line, as it goes into the fix

@@ -46,7 +46,7 @@ private:
 
     SightLines* m_lstSunSight;
     std::vector<std::string> m_planned;
-    int m_recorded = 0; ///< rows
+    int m_recorded{}; ///< rows
     QPushButton* m_cmdUndo;
 };
 

@@ -19,9 +19,9 @@ struct MeridianFigures {
     NavFunc113::Degrees declinationEarlier; ///< half an hour before noon
     NavFunc113::Degrees declinationLater;   ///< half an hour after it
     std::optional<NavFunc113::Motion> motion;
-    double sunNorthward = 0;  ///< minutes of arc an hour
-    double shipNorthward = 0; ///< minutes of arc an hour
-    double delay = 0;         ///< seconds, of the greatest altitude
+    double sunNorthward{};  ///< minutes of arc an hour
+    double shipNorthward{}; ///< minutes of arc an hour
+    double delay{};         ///< seconds, of the greatest altitude
 
     NavFunc113::Degrees Ho; ///< of the sight, as are those below
     NavFunc113::Degrees declination;

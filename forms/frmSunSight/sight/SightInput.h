@@ -28,15 +28,15 @@ struct SightContext {
 /// Corrections of a sight, those of the library and what stands before and after them.
 struct SightCorrections {
     NavFunc113::DegMin Hs;
-    double indexError = 0;       ///< minutes, as taken off
+    double indexError{};         ///< minutes, as taken off
     NavFunc113::DegMin observed; ///< index error taken off: the altitude above the sea horizon
-    int month = 0;
+    int month{};
     NavFunc113::Metres heightOfEye;
-    double air = 0;                            ///< degrees Celsius
-    double sea = 0;                            ///< degrees Celsius
-    float pressure = 0;                        ///< hectopascals
+    double air{};                              ///< degrees Celsius
+    double sea{};                              ///< degrees Celsius
+    float pressure{};                          ///< hectopascals
     NavFunc113::AltitudeCorrectionTerms terms; ///< of the Sun
-    double upperLimb = 0;                      ///< minutes, of the Sun; 0 for the lower limb
+    double upperLimb{};                        ///< minutes, of the Sun; 0 for the lower limb
     almanac::Limb limb = almanac::Limb::Lower;
     std::optional<almanac::SextantTerms> ofBody; ///< of every other body, instead of these
     NavFunc113::DegMin Ho;

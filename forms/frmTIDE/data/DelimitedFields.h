@@ -35,7 +35,7 @@ private:
     std::string m_file;
     DelimitedText m_text;
     std::int64_t m_line;
-    int m_field = 0;
+    int m_field{};
 };
 
 } // namespace korvel

@@ -60,7 +60,7 @@ DaysFactors readDaysFactors(FileStore& files, std::int64_t dayNumber);
 struct TideStation {
     std::string title;
     NavFunc113::Hours zone; ///< east positive
-    double meanLevel = 0;   ///< metres above chart datum, or mean stream in knots
+    double meanLevel{};     ///< metres above chart datum, or mean stream in knots
     NavFunc113::TideConstituents constituents;
     NavFunc113::ShallowWaterTerms shallowWater;
     std::array<double, 12> monthlyCorrections{}; ///< metres; tide stations only

@@ -22,8 +22,8 @@ struct CurveScale {
 };
 
 struct CurvePoint {
-    double x = 0;
-    double y = 0;
+    double x{};
+    double y{};
 };
 
 struct CurveLine {
@@ -34,13 +34,13 @@ struct CurveLine {
 /// A label with the position of its top left corner. Labels outside the scale lie outside the
 /// picture.
 struct HourLabel {
-    double left = 0;
-    double top = 0;
-    int hour = 0;
+    double left{};
+    double top{};
+    int hour{};
     std::string caption;
 };
 struct HeightLabel {
-    double top = 0;
+    double top{};
     std::string caption;
 };
 

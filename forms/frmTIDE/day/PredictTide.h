@@ -30,11 +30,11 @@ struct TidePrediction {
     std::string lblTideInfo;
     std::string remark; ///< what of lblTideInfo is not of this day, in words; else empty
     std::array<std::string, 2> lblCuDirection; ///< blank for a tide station
-    std::int64_t serial = 0;                   ///< the day
+    std::int64_t serial{};                     ///< the day
     TideStation station;
     std::optional<NavFunc113::TideDay> day;
     DaysFactors factors;
-    double level = 0; ///< mean level with the month's correction, or mean stream
+    double level{}; ///< mean level with the month's correction, or mean stream
 
     /// The curve itself, at any instant. A prediction must have been made.
     double at(NavFunc113::Hours t) const { return day->at(t) + level; }

@@ -12,7 +12,7 @@ namespace korvel
 
 /// A field of a station's file, as the check finds it.
 struct CheckedField {
-    int number = 0;
+    int number{};
     std::string name; ///< "Phase of M2"
     std::string value;
     std::string unit;

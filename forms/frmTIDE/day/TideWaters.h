@@ -47,8 +47,8 @@ std::vector<WaterLine> waterLines(const TideDayShown& day);
 
 /// The highest and the lowest water of a day, its ends included.
 struct DaysRange {
-    double highest = 0; ///< metres
-    double lowest = 0;
+    double highest{}; ///< metres
+    double lowest{};
 };
 DaysRange rangeOf(const TideDayShown& day);
 

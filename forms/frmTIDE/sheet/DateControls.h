@@ -34,7 +34,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    int m_turned = 0; ///< eighths of a degree that have not made a notch yet
+    int m_turned{}; ///< eighths of a degree that have not made a notch yet
 };
 
 } // namespace korvel

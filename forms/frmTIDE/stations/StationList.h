@@ -28,11 +28,11 @@ struct StationNotes {
 /// How far the four-constituent method was from the sum of all constituents at a station, over the
 /// years 2003 to 2005.
 struct MethodError {
-    double rms = 0;         ///< metres, of the half-hourly heights
-    double highRms = 0;     ///< metres, of the day's highest
-    double lowRms = 0;      ///< metres, of its lowest
-    double highMinutes = 0; ///< mean error of their times
-    double lowMinutes = 0;
+    double rms{};         ///< metres, of the half-hourly heights
+    double highRms{};     ///< metres, of the day's highest
+    double lowRms{};      ///< metres, of its lowest
+    double highMinutes{}; ///< mean error of their times
+    double lowMinutes{};
 };
 
 /// stations.txt and accuracy.txt, read once. Either may be missing: a file made from the ship's own

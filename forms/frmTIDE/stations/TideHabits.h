@@ -23,7 +23,7 @@ struct StationChoice {
 struct TideHabits {
     static constexpr std::size_t kept = 5;
 
-    int offeredYear = 0;
+    int offeredYear{};
     bool drawsAll = true;
     bool showsDetails = false;
     std::vector<StationChoice> stations; ///< the last one first
