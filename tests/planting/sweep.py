@@ -17,6 +17,7 @@ NO_PRODUCT = ("tests", "bench", "tools", "docs", "data", "cmake", "package")
 RESERVE = 0.3  # more than the sample, for faults that do not compile
 MOST_EQUIVALENT = 0.05
 LEAST_KILLED = 0.95
+LEAST_JUDGED = 20  # faults of a room
 
 
 def lines(path):
@@ -232,13 +233,17 @@ class Sweep:
         for told, faults in (("killed", self.killed), ("survive", self.survivors),
                              ("equivalent", self.alike)):
             for fault in faults:
-                by_room[str(PurePath(fault.file).parent)][told] += 1
+                for room in list(PurePath(fault.file).parents)[:-1]:
+                    by_room[str(room)][told] += 1
         enough = True
         for room, counts in sorted(by_room.items()):
             planted = counts["killed"] + counts["survive"]
             share = counts["killed"] / planted if planted else 1
-            enough = enough and share >= LEAST_KILLED
-            print(f"{100 * share:5.1f} %  {counts['killed']} of {planted}  {room}")
+            # One of three says nothing about 95 %: a small room is judged with those around it.
+            judged = planted >= LEAST_JUDGED or "/" not in room
+            enough = enough and (share >= LEAST_KILLED or not judged)
+            print(f"{100 * share:5.1f} %  {counts['killed']} of {planted}  {room}"
+                  f"{'' if judged else '  (too few to judge alone)'}")
         planted = len(self.killed) + len(self.survivors) + len(self.alike)
         print(f"{len(self.survivors)} of {planted} survive, {len(self.alike)} more are equivalent; "
               f"{len(self.broken)} did not compile and were replaced")
