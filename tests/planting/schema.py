@@ -8,6 +8,7 @@ from pathlib import Path
 from places import Fault
 from plot import Misplanted
 
+MEMBER = re.compile(r"(?!return|if|for)[\w:<>, ]+ \w+ = [^;]*;")
 DECLARATION = "bool planted(int site) noexcept; "
 
 
@@ -131,7 +132,9 @@ class Schema:
             if found:
                 return found
         return [fault for fault in self.waiting.values()
-                if f"/{Path(fault.file).name}.o" in output]
+                if f"/{Path(fault.file).name}.o" in output] or \
+            [fault for fault in self.waiting.values()  # what constants elsewhere begin with
+             if fault.file.endswith(".h") and MEMBER.match(fault.old)]
 
     def build_alone(self, fault, targets):
         """Builds one fault; false when it does not compile."""
