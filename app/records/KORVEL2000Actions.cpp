@@ -70,23 +70,24 @@ bool KORVEL2000Actions::storeSingle(double value, const std::string& refusal)
     return true;
 }
 
-bool isPositionForMemo(const std::string& figure)
+std::optional<PositionTexts> positionForMemo(const std::string& figure)
 {
     const auto position = parsePosition(figure, Axis::Latitude);
-    return position && position->latitude && position->longitude;
+    if (!position || !position->latitude || !position->longitude) return std::nullopt;
+    return PositionTexts{*position->latitude, *position->longitude};
 }
 
 bool isForMemo(const std::string& figure)
 {
-    return isPositionForMemo(figure) || (isNumeric(figure) && readNumber(figure) > 0);
+    return positionForMemo(figure) || (isNumeric(figure) && readNumber(figure) > 0);
 }
 
-void KORVEL2000Actions::storePosition(const std::string& latitude, const std::string& longitude)
+void KORVEL2000Actions::storePosition(const PositionTexts& position)
 {
-    const double value = readNumber(latitude);
-    const bool accepted = isNumeric(latitude) && value != 0 && std::fabs(value) <= 90;
-    StoreInMemo(Latitude, latitude);
-    if (accepted) StoreInMemo(Longitude, longitude);
+    const double value = readNumber(position.latitude);
+    const bool accepted = isNumeric(position.latitude) && value != 0 && std::fabs(value) <= 90;
+    StoreInMemo(Latitude, position.latitude);
+    if (accepted) StoreInMemo(Longitude, position.longitude);
 }
 
 Answer KORVEL2000Actions::ConfirmMemoRecall(MemoName memoName)

@@ -8,10 +8,17 @@
 #include "navlib/units.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace korvel
 {
+
+/// A position as the texts of its two halves.
+struct PositionTexts {
+    std::string latitude;
+    std::string longitude;
+};
 
 /// The actions of the main window that the other windows share: both memories, range questions and
 /// the end of the program. (The range check itself is `IsInRange` of reading.h.)
@@ -41,7 +48,7 @@ public:
 
     /// Stores a position: the longitude only when its latitude was accepted, so that a refused
     /// latitude is never paired with an older one.
-    void storePosition(const std::string& latitude, const std::string& longitude);
+    void storePosition(const PositionTexts& position);
 
     /// Shows what a memory holds and asks whether to use it.
     /// @return Yes or No
@@ -66,8 +73,8 @@ private:
     double PendingMemoLat{}; ///< between the two halves of a position store
 };
 
-/// Whether a text is a latitude and a longitude, as the Position Memo keeps them.
-bool isPositionForMemo(const std::string& figure);
+/// Latitude and longitude of a text that holds both, as the Position Memo keeps them.
+std::optional<PositionTexts> positionForMemo(const std::string& figure);
 /// Whether a memory can keep a figure: a position, or a number above 0.
 bool isForMemo(const std::string& figure);
 

@@ -209,8 +209,8 @@ void frmSunMoon::addMenus()
     const Entry entries[] = {
         {memo, "&Position of",
          [this] {
-             program().actions().storePosition(m_table->position(m_row, Latitude)->value(),
-                                               m_table->position(m_row, Longitude)->value());
+             program().actions().storePosition({m_table->position(m_row, Latitude)->value(),
+                                                m_table->position(m_row, Longitude)->value()});
          }},
         {memo, "Sun &rise azimuth of",
          [this] {

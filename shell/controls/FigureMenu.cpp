@@ -41,7 +41,7 @@ QString figureOf(const QModelIndex& cell, bool isSecondMeant)
     QString second = lineOf(cell, secondLineRole);
     if (second.isEmpty()) return first;
     QString both = first + ' ' + second;
-    if (isPositionForMemo(both.toStdString())) return both;
+    if (positionForMemo(both.toStdString())) return both;
     return isSecondMeant ? second : first;
 }
 

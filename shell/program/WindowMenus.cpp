@@ -53,7 +53,7 @@ QAction* WindowMenus::addStorePosition(const QString& caption, Text latitude, Te
 {
     return addMemoEntry(m_mnuMemo, "&Memo", "mnuMemo", caption,
                         [this, latitude = std::move(latitude), longitude = std::move(longitude)] {
-                            m_program.actions().storePosition(latitude(), longitude());
+                            m_program.actions().storePosition({latitude(), longitude()});
                         });
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/window/CalculatorWindow.h"
 
-#include "app/reading/PositionText.h"
 #include "app/reading/Reading.h"
 #include "shell/controls/ChosenOption.h"
 #include "shell/controls/PictureBox.h"
@@ -99,10 +98,9 @@ void CalculatorWindow::letResultsBeStored()
 void CalculatorWindow::storeInMemo(const QString& figure)
 {
     const std::string text = figure.toStdString();
-    if (!isPositionForMemo(text))
-        return m_program.actions().StoreInMemo(KORVEL2000Actions::Single, text);
-    const auto position = parsePosition(text, Axis::Latitude);
-    m_program.actions().storePosition(*position->latitude, *position->longitude);
+    if (const auto position = positionForMemo(text))
+        return m_program.actions().storePosition(*position);
+    m_program.actions().StoreInMemo(KORVEL2000Actions::Single, text);
 }
 
 void CalculatorWindow::goTo(const QString& place)

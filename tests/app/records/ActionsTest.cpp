@@ -72,11 +72,11 @@ TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
 {
     actions.StoreInMemo(KORVEL2000Actions::Latitude, "12");
     questions.willAnswer(Answer::Ok);
-    actions.storePosition("95", "20");
+    actions.storePosition({"95", "20"});
     EXPECT_EQ(questions.asked.size(), 1u) << "the longitude is not asked for";
     EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(0));
     questions.willAnswer(Answer::Yes);
-    actions.storePosition("90", "180");
+    actions.storePosition({"90", "180"});
     EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(90));
     EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(180));
 }
