@@ -43,6 +43,33 @@ protected:
         QWidget* focus = window.focusWidget() ? window.focusWidget() : &window;
         QTest::keyClick(focus, key, modifiers);
     }
+    /// The keys for size, colours and the end of the program, pressed in one window.
+    void expectKeysOfTheProgram(QWidget& window)
+    {
+        const std::string where = nameOf(window);
+        Screen& screen = main.program().screen();
+        const auto zoomAfter = [&](Qt::Key key) {
+            press(window, key, Qt::ControlModifier);
+            return screen.choices().zoom;
+        };
+        EXPECT_GT(zoomAfter(Qt::Key_Plus), 100) << where;
+        EXPECT_LT(zoomAfter(Qt::Key_Minus), 110) << where;
+        EXPECT_LT(zoomAfter(Qt::Key_Minus), 100) << where;
+        EXPECT_EQ(zoomAfter(Qt::Key_0), 100) << where;
+        const int step = screen.choices().dimStep;
+        for (const auto& [modifiers, isNight] : {std::pair(Qt::ShiftModifier, true),
+                                                 {Qt::NoModifier, false},
+                                                 {Qt::NoModifier, true}}) {
+            press(window, Qt::Key_F8, modifiers);
+            EXPECT_EQ(main.program().saved().nightColours(), isNight) << where;
+            EXPECT_EQ(screen.choices().dimStep, step) << where;
+        }
+        press(window, Qt::Key_F8);
+        questions.willAnswer(Answer::No);
+        const auto asked = questions.asked.size();
+        press(window, Qt::Key_Q, Qt::ControlModifier);
+        EXPECT_EQ(questions.asked.size(), asked + 1) << where;
+    }
 };
 
 /// Every shortcut of a window by its keys.
@@ -172,40 +199,29 @@ TEST_F(KeysTest, keysOfTheWindows)
     EXPECT_TRUE(main.isVisible());
 }
 
-/// Every key in every window, by what it does.
+/// Every key in every window, by what it does. Size and colours are those of all open windows, so
+/// each window stands with the clock alone; where it stands among all others the kinds of windows
+/// stand for theirs: a key that another window has as well does nothing in any of them.
 TEST_F(KeysTest, eachKeyDoesTheSameInEveryWindow)
 {
-    Screen& screen = main.program().screen();
-    for (QWidget* each : openAll()) {
-        const std::string where = nameOf(*each);
-        const auto zoomAfter = [&](Qt::Key key) {
-            press(*each, key, Qt::ControlModifier);
-            return screen.choices().zoom;
-        };
-        EXPECT_GT(zoomAfter(Qt::Key_Plus), 100) << where;
-        EXPECT_LT(zoomAfter(Qt::Key_Minus), 110) << where;
-        EXPECT_LT(zoomAfter(Qt::Key_Minus), 100) << where;
-        EXPECT_EQ(zoomAfter(Qt::Key_0), 100) << where;
-        const int step = screen.choices().dimStep;
-        for (const auto& [modifiers, isNight] : {std::pair(Qt::ShiftModifier, true),
-                                                 {Qt::NoModifier, false},
-                                                 {Qt::NoModifier, true}}) {
-            press(*each, Qt::Key_F8, modifiers);
-            EXPECT_EQ(main.program().saved().nightColours(), isNight) << where;
-            EXPECT_EQ(screen.choices().dimStep, step) << where;
-        }
-        press(*each, Qt::Key_F8);
-        questions.willAnswer(Answer::No);
-        const auto asked = questions.asked.size();
-        press(*each, Qt::Key_Q, Qt::ControlModifier);
-        EXPECT_EQ(questions.asked.size(), asked + 1) << where;
+    for (const CatalogueEntry& entry : calculatorWindows()) {
+        QWidget& alone = window(entry.name);
+        fillBoxes({&alone}, "12.34");
+        expectKeysOfTheProgram(alone);
+        alone.close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    const std::vector<QWidget*> all = openAll();
+    for (const char* name : {"frmWind", "frmPaper", "frmJournal", "frmHelp"})
+        expectKeysOfTheProgram(onScreen(name));
+    expectKeysOfTheProgram(main);
+    for (QWidget* each : all)
         for (int i = 0; i < 9; ++i) {
             QWidget& opened = onScreen(calculatorWindows()[std::size_t(i)].name);
             if (&opened == each) continue;
             press(*each, Qt::Key(Qt::Key_1 + i), Qt::ControlModifier);
-            EXPECT_TRUE(QTest::qWaitForWindowActive(&opened)) << where << " Ctrl+" << i + 1;
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&opened)) << nameOf(*each) << " Ctrl+" << i + 1;
         }
-    }
 }
 
 /// The page that F1 opens from each window, and the window that it leaves.
