@@ -63,21 +63,19 @@ private:
             m_others += (m_others.empty() ? "" : ", ") + quotation(route.name);
     }
 
-    Degrees angle(const char* name, double most)
+    void readAngle(const char* name, double most, Degrees& angle)
     {
         std::string text;
-        if (!m_xml.attribute(name, text))
-            return m_xml.refuse(std::string("no ") + name), Degrees(0);
+        if (!m_xml.attribute(name, text)) return m_xml.refuse(std::string("no ") + name);
         const auto value = readDecimal(text);
-        if (!value)
-            m_xml.refuse(name + (" " + quotation(text)) + " is no number");
-        else if (most == 180 && *value == 180)
-            m_xml.refuse("lon 180 is not allowed, it is written -180");
-        else if (!(*value >= -most && *value <= most))
-            m_xml.refuse(
+        if (!value) return m_xml.refuse(name + (" " + quotation(text)) + " is no number");
+        if (most == 180 && *value == 180)
+            return m_xml.refuse("lon 180 is not allowed, it is written -180");
+        if (!(*value >= -most && *value <= most))
+            return m_xml.refuse(
                 name + (" " + text) +
                 (most == 90 ? " is not within -90 to 90" : " is not within -180 to below 180"));
-        return Degrees(value.value_or(0));
+        angle = Degrees(*value);
     }
 
     void readPoint(Route& route)
@@ -85,8 +83,8 @@ private:
         if (route.points.size() == mostRoutePoints)
             return m_xml.refuse("more than " + std::to_string(mostRoutePoints) + " points");
         RoutePoint point;
-        point.latitude = angle("lat", 90);
-        point.longitude = angle("lon", 180);
+        readAngle("lat", 90, point.latitude);
+        readAngle("lon", 180, point.longitude);
         while (m_xml.nextChild()) {
             if (m_xml.isNamed("name"))
                 point.name = m_xml.text();

@@ -25,9 +25,9 @@ constexpr Degrees sameAngle(1e-5); // a metre: nobody moves a waypoint by less
 
 bool isAt(const RoutePoint& point, const GeoPoint& place)
 {
-    const GeoPoint at = geoPoint(point);
-    return fabs(DegMinToDeg(at.lat) - DegMinToDeg(place.lat)) < sameAngle &&
-           fabs(NavFunc113::ChangeOfLongitude(at.longitude, place.longitude)) < sameAngle;
+    const Degrees aside = point.longitude - DegMinToDeg(place.longitude);
+    return fabs(point.latitude - DegMinToDeg(place.lat)) < sameAngle &&
+           fabs(NavFunc113::WithinHalfTurn(aside)) < sameAngle;
 }
 
 } // namespace
@@ -40,7 +40,6 @@ ReadRoute readRtz(std::string_view bytes)
 ReadRoute RtzFile::read()
 {
     if (m_xml.nextChild()) readRoute();
-    if (!m_xml.isRefused() && !m_hasWaypoints) m_xml.refuse("it is no route");
     while (!m_xml.isRefused() && m_xml.nextChild())
         m_xml.skip();
     if (m_xml.isRefused()) return {{}, m_xml.fault(), {}};
@@ -136,26 +135,24 @@ void RtzFile::readDefaultWaypoint()
     }
 }
 
-bool RtzFile::readWaypointAttributes(Waypoint& waypoint)
+void RtzFile::readWaypointAttributes(Waypoint& waypoint)
 {
     std::string text;
-    if (!m_xml.attribute("id", text)) return m_xml.refuse("no id"), false;
+    if (!m_xml.attribute("id", text)) return m_xml.refuse("no id");
     const auto id = readIdentifier(text);
-    if (!id) return m_xml.refuse("id " + quotation(text) + " is no whole number"), false;
+    if (!id) return m_xml.refuse("id " + quotation(text) + " is no whole number");
     const auto [known, isNew] = m_lineOfId.emplace(*id, m_xml.line());
     if (!isNew)
         return m_xml.refuse("id " + text + " is that of line " + std::to_string(known->second) +
-                            " too"),
-               false;
+                            " too");
     const bool hasRevision = m_xml.attribute("revision", text);
     if (!hasRevision && m_version == RtzVersion::V1_2)
-        return m_xml.refuse("no revision, which 1.2 requires"), false;
+        return m_xml.refuse("no revision, which 1.2 requires");
     if (hasRevision && !readIdentifier(text))
-        return m_xml.refuse("revision " + quotation(text) + " is no whole number"), false;
+        return m_xml.refuse("revision " + quotation(text) + " is no whole number");
     waypoint.id = *id;
     m_xml.attribute("name", waypoint.point.name);
     keepAttributes(waypoint.point.kept, rtz::waypoint, {"name"});
-    return true;
 }
 
 void RtzFile::readWaypoint()
@@ -163,7 +160,7 @@ void RtzFile::readWaypoint()
     if (m_waypoints.size() == 2 * mostRoutePoints)
         return m_xml.refuse("more than " + std::to_string(mostRoutePoints) + " waypoints");
     Waypoint waypoint;
-    if (!readWaypointAttributes(waypoint)) return;
+    readWaypointAttributes(waypoint);
     bool hasPosition = false;
     while (m_xml.nextChild()) {
         if (m_xml.isNamed("position"))

@@ -46,7 +46,7 @@ private:
     void readWaypoints();
     void readDefaultWaypoint();
     void readWaypoint();
-    bool readWaypointAttributes(Waypoint& waypoint);
+    void readWaypointAttributes(Waypoint& waypoint);
     void readPosition(RoutePoint& point);
     void readLeg(Waypoint& waypoint);
     void readExtensions(Kept& kept, const char* place, Waypoint* waypoint);

@@ -70,8 +70,8 @@ std::optional<Span> readDuration(std::string_view text)
             due = std::max<std::size_t>(due, 1);
             continue;
         }
-        char letter = 0;
-        double value = 0;
+        char letter{};
+        double value{};
         if (!takePart(text, letter, value)) return std::nullopt;
         const std::size_t place = order.find(letter, due);
         if (place == std::string_view::npos || (place > 0) != isBehindT) return std::nullopt;
@@ -120,7 +120,7 @@ std::optional<std::int64_t> readIdentifier(std::string_view text)
 {
     text = trimmed(text);
     if (text.starts_with('+')) text.remove_prefix(1);
-    std::int64_t value = 0;
+    std::int64_t value{};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size() || value < 0) return std::nullopt;
     return value;

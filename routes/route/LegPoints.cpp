@@ -20,7 +20,7 @@ void addOnMeridians(std::vector<LegPoint>& points, const GreatCircleArc& arc, co
                     const GeoPoint& to, Degrees step)
 {
     const Degrees change = ChangeOfLongitude(from.longitude, to.longitude);
-    const double eastward = change > Degrees(0) ? 1 : -1;
+    const double eastward = std::copysign(1.0, change.value());
     const Degrees start = eastward * DegMinToDeg(from.longitude);
     const Degrees end = start + fabs(change) - nearAnEnd;
     for (double n = std::floor((start + nearAnEnd) / step) + 1; n * step < end; ++n) {

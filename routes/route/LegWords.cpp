@@ -52,11 +52,11 @@ std::string stepWords(const CircleStep& step)
     return step.miles ? " " + Format(*step.miles, "0.######") + " nm" : "";
 }
 
-/// The step in the last two words, which are taken off.
+/// The step in the last two words behind the kind of leg, which are taken off.
 /// @return false when they are a number and no unit of a step
 bool takeStep(std::vector<std::string>& words, CircleStep& step)
 {
-    if (words.size() < 2 || (words.back() != "deg" && words.back() != "nm")) return true;
+    if (words.size() < 3 || (words.back() != "deg" && words.back() != "nm")) return true;
     const auto value = wholeNumber(words[words.size() - 2]);
     if (!value || !(*value > 0)) return false;
     if (words.back() == "deg")

@@ -93,12 +93,13 @@ private:
         m_longitude = NavFunc113::DegMinToDeg(NavFunc113::DegMin(readNumber(*position->longitude)));
     }
 
-    void takeSide(std::optional<Degrees>& angle, const std::string& field, std::size_t column,
+    /// The letter of a hemisphere, which may stand in front of its angle.
+    void takeSide(bool& isNegative, const std::string& field, std::size_t column,
                   std::string_view letters)
     {
         if (field.size() != 1 || !isLetterOf(letters, field[0]))
             return refuse(column, quotation(field) + " is no hemisphere");
-        if (angle && isLetterOf("sw", field[0])) angle = -fabs(*angle);
+        isNegative = isLetterOf("sw", field[0]);
     }
 
     std::optional<double> number(const std::string& field, std::size_t column, double low,
@@ -143,10 +144,10 @@ private:
             takeAngle(Axis::Longitude, field, at);
             break;
         case Column::NorthSouth:
-            takeSide(m_latitude, field, at, "ns");
+            takeSide(m_isSouth, field, at, "ns");
             break;
         case Column::EastWest:
-            takeSide(m_longitude, field, at, "ew");
+            takeSide(m_isWest, field, at, "ew");
             break;
         case Column::Position:
             takePosition(field, at);
@@ -188,20 +189,21 @@ private:
         }
     }
 
+    /// Where the layout has one half of the position, or all of it.
     std::size_t columnAt(Column wanted) const
     {
-        const auto found = std::ranges::find(m_layout.columns, wanted);
-        return found == m_layout.columns.end()
-                   ? 0
-                   : static_cast<std::size_t>(found - m_layout.columns.begin());
+        const auto found = std::ranges::find_if(m_layout.columns, [wanted](Column each) {
+            return each == wanted || each == Column::Position;
+        });
+        return static_cast<std::size_t>(found - m_layout.columns.begin());
     }
 
     void requirePosition()
     {
-        if (!m_latitude) refuse(columnAt(Column::Latitude), "there is no latitude");
-        if (!m_longitude) refuse(columnAt(Column::Longitude), "there is no longitude");
-        m_point.latitude = m_latitude.value_or(Degrees(0));
-        m_point.longitude = m_longitude.value_or(Degrees(0));
+        if (!m_latitude) return refuse(columnAt(Column::Latitude), "there is no latitude");
+        if (!m_longitude) return refuse(columnAt(Column::Longitude), "there is no longitude");
+        m_point.latitude = m_isSouth ? -fabs(*m_latitude) : *m_latitude;
+        m_point.longitude = m_isWest ? -fabs(*m_longitude) : *m_longitude;
     }
 
     const DelimitedLine& m_line;
@@ -209,6 +211,8 @@ private:
     RoutePoint m_point;
     std::optional<Degrees> m_latitude;
     std::optional<Degrees> m_longitude;
+    bool m_isSouth = false;
+    bool m_isWest = false;
     std::string m_fault;
 };
 
