@@ -21,10 +21,7 @@ DegMin SumDegMin(std::initializer_list<DegMin> values)
 
 Degrees CourseOfParts(double east, double north)
 {
-    const Degrees course = RadToDeg(Radians(std::atan2(east, north)));
-    if (course >= Degrees(0)) return course;
-    // A hair west of north rounds to 360.
-    return course + fullTurn < fullTurn ? course + fullTurn : Degrees(0);
+    return AsCourse(RadToDeg(Radians(std::atan2(east, north))));
 }
 
 Radians ArcSin(double x)

@@ -4,6 +4,7 @@
 #include "navlib/arithmetic_error.h"
 #include "navlib/units.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
@@ -114,15 +115,22 @@ inline Radians ArcTan2(double& x, double y)
 {
     if (x == 0) x = 1e-11;
     const double angle = std::atan(Quotient(y, x));
-    if (x > 0) return Radians(y == 0 ? 0 : angle);
-    if (y == 0) return Radians(Pi());
-    return Radians(y > 0 ? angle + Pi() : angle - Pi());
+    if (!std::signbit(x)) return Radians(angle);
+    return Radians(y >= 0 ? angle + Pi() : angle - Pi());
 }
 
 /// The same where the caller has no further use for x.
 inline Radians ArcTan2(double&& x, double y)
 {
     return ArcTan2(x, y);
+}
+
+/// An angle of less than a turn either way as a course. @return 0 <= course < 360
+inline Degrees AsCourse(Degrees angle)
+{
+    const Degrees turned = angle + fullTurn;
+    // A hair west of north rounds to 360.
+    return turned < fullTurn ? turned : std::max(angle, Degrees(0));
 }
 
 /// Course of a way with these parts towards east and north, of any one length.

@@ -87,7 +87,7 @@ CompositeTrack CompositeSailing(const GeoPoint& from, const GeoPoint& to, DegMin
 {
     const Degrees wanted = DegMinToDeg(limit);
     if (!(fabs(wanted) > Degrees(0) && fabs(wanted) < quarterTurn)) throwInvalidArgument();
-    const double towards = wanted > Degrees(0) ? 1 : -1;
+    const double towards = std::copysign(1.0, wanted.value());
     const Degrees most = fabs(wanted);
     const Degrees phi1 = towards * DegMinToDeg(from.lat);
     const Degrees phi2 = towards * DegMinToDeg(to.lat);
@@ -107,10 +107,10 @@ CompositeTrack CompositeSailing(const GeoPoint& from, const GeoPoint& to, DegMin
         return track;
     }
     track.kind = kindOf(first, second);
-    const double eastward = change > Degrees(0) ? 1 : -1;
+    const double eastward = std::copysign(1.0, change.value());
     track.firstChange = first.change;
     track.secondChange = second.change;
-    track.parallelCourse = Degrees(eastward > 0 ? 90 : 270);
+    track.parallelCourse = Degrees(180 - 90 * eastward);
     track.joins = shifted(limit, from.longitude, eastward * first.change);
     track.leaves = shifted(limit, to.longitude, -eastward * second.change);
     track.leavingTheCircle = leavingTheCircle(circle, limit, from, to, earth);

@@ -26,7 +26,7 @@ Degrees withinHalfTurn(Degrees lambda)
 /// Whether the end that is farther from the equator lies north of it.
 bool isNorthern(Radians phi1, Radians phi2)
 {
-    return (fabs(phi1) > fabs(phi2) ? phi1 : phi2) > Radians(0);
+    return !std::signbit((fabs(phi1) > fabs(phi2) ? phi1 : phi2).value());
 }
 
 struct Departure {
@@ -47,8 +47,9 @@ std::optional<Vertex> vertexOf(const Departure& from, DegMin long1, Radians phi2
     // run leads to the northern vertex; the southern one lies half a turn away.
     bool northern = isNorthern(from.phi1, phi2);
     const Degrees southernRun = run > Degrees(0) ? run - halfTurn : run + halfTurn;
-    const bool northernOnRoute = run > Degrees(0) && run < whole;
-    const bool southernOnRoute = southernRun > Degrees(0) && southernRun < whole;
+    const auto isOnRoute = [whole](Degrees at) { return at > Degrees(0) && at < whole; };
+    const bool northernOnRoute = isOnRoute(run);
+    const bool southernOnRoute = isOnRoute(southernRun);
     if (northernOnRoute || southernOnRoute) northern = northernOnRoute;
     if (!northern) run = southernRun;
 

@@ -104,9 +104,7 @@ Degrees courseBetween(const Place& from, const Place& to, RhumbSteps& steps)
         if (change == Degrees(0)) return Degrees(0);
         return eastward(from.lambda, to.lambda) ? dueEast : dueWest;
     }
-    Degrees course = RadToDeg(ArcTan2(double(parts), 60 * change.value()));
-    if (course < Degrees(0)) course += fullTurn;
-    return course < fullTurn ? course : Degrees(0); // a hair west of north rounds to 360
+    return AsCourse(RadToDeg(ArcTan2(double(parts), 60 * change.value())));
 }
 
 Miles alongParallel(const Place& from, const Place& to)

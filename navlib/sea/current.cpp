@@ -26,8 +26,8 @@ std::optional<SteeredTrack> CourseThroughCurrent(Degrees track, Knots speed,
 {
     if (std::isnan(speed.value())) throwInvalidArgument();
     const Degrees angle = current.direction - track;
-    const double across = current.speed.value() * sin(angle); // towards starboard of the track
-    if (std::fabs(across) > speed.value() || speed == Knots(0)) return std::nullopt;
+    const double across = current.speed.value() * sin(angle);    // towards starboard of the track
+    if (std::fabs(across) >= speed.value()) return std::nullopt; // it is carried aside
     const Radians against(std::asin(-across / speed.value()));
     const Knots madeGood(speed.value() * cos(against) + current.speed.value() * cos(angle));
     if (!(madeGood > Knots(0))) return std::nullopt;

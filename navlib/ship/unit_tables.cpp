@@ -283,8 +283,6 @@ double ConvertUnits(double value, const Unit& from, const Unit& to,
 {
     if (!CanConvert(from, to, conditions)) throwInvalidArgument();
     const bool areAlike = from.needs == to.needs;
-    if (areAlike && from.scale == UnitScale::Ratio && to.scale == UnitScale::Ratio)
-        return Quotient(value * from.factor, to.factor);
     double base = InBaseUnit(value, from);
     if (!areAlike) base *= Quotient(*conditions.of(from.needs), *conditions.of(to.needs));
     switch (to.scale) {

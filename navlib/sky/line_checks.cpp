@@ -124,8 +124,8 @@ Agreement AgreementOfLines(std::span<const Sight> sights, const Position& atFix,
     agreement.chance = chanceOf(agreement.checks, sights.size());
     agreement.agrees = agree(agreement.chance);
     if (agreement.agrees) return agreement;
-    for (int lines = 1; lines <= 2 && sights.size() >= static_cast<std::size_t>(lines) + 2;
-         ++lines) {
+    for (const int lines : {1, 2}) {
+        if (sights.size() < static_cast<std::size_t>(lines) + 2) break;
         const std::vector<Omission> best = bestOmissions(round, lines);
         if (best.empty()) continue;
         const std::vector<Sight> rest = without(sights, best[0].left);

@@ -21,9 +21,9 @@ struct Triangle {
     double cosineProduct;
 };
 
-Triangle triangleOf(DegMin latitude, DegMin declination)
+Triangle triangleOf(Degrees latitude, DegMin declination)
 {
-    const Radians phi = DegToRad(DegMinToDeg(latitude));
+    const Radians phi = DegToRad(latitude);
     const Radians delta = DegToRad(DegMinToDeg(declination));
     return {sin(phi) * sin(delta), cos(phi) * cos(delta)};
 }
@@ -37,7 +37,7 @@ DateTime dayCount(double wholeDays, Degrees hourAngle, Hours TD, Degrees hourAng
 
 Degrees sunEventHourAngle(DegMin latitude, DegMin declination)
 {
-    const auto [sineProduct, cosineProduct] = triangleOf(latitude, declination);
+    const auto [sineProduct, cosineProduct] = triangleOf(DegMinToDeg(latitude), declination);
     return RadToDeg(ArcCos(Quotient(sin(sunEventAltitude) - sineProduct, cosineProduct)));
 }
 
@@ -45,7 +45,7 @@ Degrees moonEventHourAngle(DegMin latitude, DegMin declination)
 {
     // Refraction and the rim raise the Moon about as much as its parallax lowers it, so its centre
     // on the horizon serves.
-    const auto [sineProduct, cosineProduct] = triangleOf(latitude, declination);
+    const auto [sineProduct, cosineProduct] = triangleOf(DegMinToDeg(latitude), declination);
     return RadToDeg(ArcCos(Quotient(-sineProduct, cosineProduct)));
 }
 
@@ -133,7 +133,8 @@ StepToEvent stepToEvent(const Quest& quest, int round, DateTime instant)
 {
     const Event& event = quest.event;
     const BodyPlace body = event.place(instant);
-    const auto [sineProduct, cosineProduct] = triangleOf(quest.latitude, body.declination);
+    const auto [sineProduct, cosineProduct] =
+        triangleOf(DegMinToDeg(quest.latitude), body.declination);
     const double cosine = (sin(event.rule.altitude) - sineProduct) / cosineProduct;
     const bool isMet = std::fabs(cosine) <= 1;
     const Degrees hourAngle = (instant - std::floor(instant)) * fullTurn + body.hourAngleOffset +

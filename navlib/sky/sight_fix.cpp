@@ -98,10 +98,7 @@ HorizonPlace PlaceAboveHorizon(Degrees GHA, Degrees declination, const Position&
     const double east = -cos(declination) * sin(t);
     const double up = sin(position.latitude) * sin(declination) +
                       cos(position.latitude) * cos(declination) * cos(t);
-    Degrees azimuth = RadToDeg(Radians(std::atan2(east, north)));
-    if (azimuth < Degrees(0)) azimuth += fullTurn;
-    if (azimuth >= fullTurn) azimuth = Degrees(0);
-    return {RadToDeg(Radians(std::atan2(up, std::hypot(north, east)))), azimuth};
+    return {RadToDeg(Radians(std::atan2(up, std::hypot(north, east)))), CourseOfParts(east, north)};
 }
 
 Miles Intercept(Degrees observedAltitude, Degrees computedAltitude)

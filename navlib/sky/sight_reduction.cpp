@@ -17,11 +17,6 @@ Radians radiansOf(DegMin value)
     return DegToRad(DegMinToDeg(value));
 }
 
-Radians localHourAngle(DegMin GHA, DegMin longitude)
-{
-    return DegToRad(DegMinToDeg(GHA) + DegMinToDeg(longitude));
-}
-
 /// Above this altitude the corrections for temperature and pressure no longer show.
 constexpr DegMin lowAltitude(30);
 
@@ -97,7 +92,7 @@ DegMin ComputedAltitude(DegMin GHA, DegMin declination, DegMin latitude, DegMin 
 {
     const Radians phi = radiansOf(latitude);
     const Radians delta = radiansOf(declination);
-    const Radians t = localHourAngle(GHA, longitude);
+    const Radians t = DegToRad(DegMinToDeg(GHA) + DegMinToDeg(longitude));
     const double s = cos(delta) * cos(phi) * cos(t) + sin(delta) * sin(phi);
     return DegToDegMin(RadToDeg(ArcSin(s)));
 }
@@ -106,7 +101,7 @@ Degrees ComputedAzimuth(DegMin GHA, DegMin declination, DegMin latitude, DegMin 
 {
     const Radians phi = radiansOf(latitude);
     const Radians delta = radiansOf(declination);
-    const Radians t = localHourAngle(GHA, longitude);
+    const Radians t = DegToRad(DegMinToDeg(GHA) + DegMinToDeg(longitude));
     const Radians h = radiansOf(ComputedAltitude(GHA, declination, latitude, longitude));
     const double x = Quotient(cos(phi) * sin(delta) - sin(phi) * cos(delta) * cos(t), cos(h));
     const Degrees Z = RadToDeg(ArcCos(x));

@@ -110,14 +110,16 @@ TEST(Deviation, blundersAreThoseOfOneFitForEachPoint)
     EXPECT_EQ(worst, 7u);
     EXPECT_THAT(Blunders(points), ElementsAre(2u, 7u));
     // With the last of them alone just beyond its tolerance, and just within.
-    for (const double nearly : {0.999, 1.001}) {
-        auto swung = swing(25);
-        auto others = swung;
-        others.erase(others.begin() + 5);
-        const Degrees edge = DeviationFit::of(others)->tolerance(swung[5].heading);
-        swung[5].deviation += nearly * edge;
-        EXPECT_THAT(Blunders(swung), ::testing::SizeIs(nearly > 1 ? 1u : 0u));
-    }
+    for (const double wrong : {0.0, 2.0})
+        for (const double nearly : {0.999, 1.001}) {
+            auto swung = swing(25, wrong);
+            auto others = swung;
+            others.erase(others.begin() + 5);
+            const auto fit = DeviationFit::of(others);
+            const Degrees heading = swung[5].heading;
+            swung[5].deviation = fit->coefficients().at(heading) + nearly * fit->tolerance(heading);
+            EXPECT_THAT(Blunders(swung), ::testing::SizeIs(nearly > 1 ? 1u : 0u)) << wrong;
+        }
 }
 
 TEST(Deviation, headingByCompassIsTheWayBack)

@@ -45,6 +45,18 @@ TEST(OilTables, noProductJumpsAtTheBoundsOfItsGroups)
     }
 }
 
+// Worked with the constants of the heavier group of each bound, 50 degF above the base.
+TEST(OilTables, aBoundOfTheAmericanGroupsBelongsToTheHeavier)
+{
+    const struct {
+        double density60, factor;
+    } rows[] = {{838.3127, 0.976342588}, {787.5195, 0.973170057}, {770.352, 0.967672659}};
+    for (const auto& [density60, factor] : rows)
+        EXPECT_NEAR(CorrectionTo60FOfDensity(OilTable::Products, density60, 110).factor, factor,
+                    1e-9)
+            << density60;
+}
+
 TEST(OilTables, twentyVoyagesAreTheMost)
 {
     std::vector<VoyageQuantities> voyages(20, {1001, 1000});

@@ -90,6 +90,23 @@ TEST(GreatCircleArc, itsPointsAndCoursesAreThoseOfTheTrack)
     ASSERT_TRUE(touching);
     EXPECT_NEAR((*touching)[0].value(), 90, 1e-5);
     EXPECT_NEAR((*touching)[1].value(), 90, 1e-5);
+    const GeoPoint equator{DegMin(0), DegMin(0)};
+    const auto vertexAtPole = GreatCircleArc(equator, {DegMin(90), DegMin(0)}).runsAt(DegMin(90));
+    ASSERT_TRUE(vertexAtPole);
+    EXPECT_EQ((*vertexAtPole)[0], Degrees(90));
+    const auto across = GreatCircleArc({DegMin(-10), DegMin(0)}, {DegMin(10), DegMin(0)});
+    EXPECT_NEAR((*across.runsAt(DegMin(0)))[0].value(), 10, 1e-9) << "northbound, then back";
+    EXPECT_NEAR((*across.runsAt(DegMin(0)))[1].value(), 190, 1e-9);
+    EXPECT_FALSE(across.latitudeAt(DegMin(0))) << "a meridian has no one latitude on itself";
+    EXPECT_FALSE(GreatCircleArc(equator, {DegMin(0), DegMin(90)}).runsAt(DegMin(0)));
+    EXPECT_FALSE(GreatCircleArc(equator, equator).latitudeAt(DegMin(20)));
+    EXPECT_FALSE(GreatCircleArc(equator, equator).runsAt(DegMin(0)));
+    // Sixty degrees of a meridian: the mean length of the minute in the middle of each five.
+    double minutes = 0;
+    for (double middle = 2.5; middle < 60; middle += 5)
+        minutes += 300 * LatitudeFactor(Degrees(middle));
+    EXPECT_NEAR(GreatCircleArc(equator, {DegMin(60), DegMin(0)}).distance(Earth::Spheroid).value(),
+                minutes, 1e-9);
     const GeoPoint here{DegMin(35.305), DegMin(139)};
     EXPECT_EQ(GreatCircleArc(here, here).distance(Earth::Spheroid), Miles(0));
     EXPECT_FALSE(GreatCircleArc(here, {DegMin(-35.305), DegMin(-41)}).isDefined());

@@ -66,6 +66,14 @@ TEST(SightFix, ellipses)
         EXPECT_NEAR(ellipse.semiMajor.value(), major, 0.01);
         EXPECT_NEAR(ellipse.semiMinor.value(), minor, 0.01);
         EXPECT_NEAR(ellipse.majorAxis.value(), axis, 0.5);
+        // What the working shows: the eigenvalues m - q and m + q are those of the axes.
+        EXPECT_EQ(ellipse.factor, AssumedSigmaFactor());
+        EXPECT_EQ(ellipse.scale, 1);
+        const auto axisOf = [&](double eigenvalue) {
+            return ellipse.factor / std::sqrt(eigenvalue);
+        };
+        EXPECT_NEAR(axisOf(ellipse.mean - ellipse.spread), ellipse.semiMajor.value(), 1e-9);
+        EXPECT_NEAR(axisOf(ellipse.mean + ellipse.spread), ellipse.semiMinor.value(), 1e-9);
     };
     const std::vector<Example> list = examples();
     expectEllipse(fixOf(list[0], {}), 3.63, 1.97, 63);

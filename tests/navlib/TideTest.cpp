@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "navlib/sea/tide.h"
+
+#include "navlib/angles.h"
 #include "navlib/sea/tide_turns.h"
 
 #include <gtest/gtest.h>
@@ -60,6 +62,36 @@ TEST(Tide, searchStartsAtHalfPastMidnightWithItsOwnBounds)
     found = SearchHighestLowest(values, earlier);
     EXPECT_EQ(found.lowest, 5);
     EXPECT_EQ(found.timeLow, Hours(11.5));
+}
+
+// A wave of 36 minutes, the shortest of a harbour: its turns are 18 minutes apart.
+TEST(TurnsOf, everyTurnOfAShortWaveIsFoundOnce)
+{
+    for (const double first : {0.02, 0.17, 0.28}) {
+        const auto turns =
+            TurnsOf([&](Hours t) { return 3 + std::cos(2 * Pi() * (t.value() - first) / 0.6); });
+        ASSERT_EQ(turns.size(), 80u);
+        for (std::size_t i = 0; i < turns.size(); ++i) {
+            EXPECT_NEAR(turns[i].time.value(), first + 0.3 * static_cast<double>(i), 1.0 / 3600);
+            EXPECT_EQ(turns[i].isHigh, i % 2 == 0);
+            EXPECT_NEAR(turns[i].value, i % 2 == 0 ? 4 : 2, 1e-5);
+        }
+    }
+    EXPECT_EQ(TurnsOf([](Hours t) { return -t.value() * t.value(); }).size(), 1u) << "at midnight";
+    EXPECT_TRUE(TurnsOf([](Hours) { return 1.0; }).empty()) << "stand of the tide all day";
+}
+
+TEST(PassagesOf, aHeightIsPassedToTheSecond)
+{
+    for (double wanted = 0.013; wanted < 24; wanted += 0.777)
+        for (const double sign : {1.0, -1.0}) {
+            const auto passages =
+                PassagesOf([&](Hours t) { return sign * t.value(); }, sign * wanted);
+            ASSERT_EQ(passages.size(), 1u);
+            EXPECT_NEAR(passages[0].time.value(), wanted, 1.0 / 3600);
+            EXPECT_EQ(passages[0].isRising, sign > 0);
+        }
+    EXPECT_TRUE(PassagesOf([](Hours) { return 1.0; }, 1).empty()) << "reached and not passed";
 }
 
 TEST(TurnsOf, aTurnThatIsNoParabolaIsFoundToo)
