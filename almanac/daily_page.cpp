@@ -75,7 +75,7 @@ PageDay dayOf(DateTime date, const HourlyPlaces& sun, const HourlyPlaces& moon)
 {
     PageDay day;
     day.date = date;
-    for (int half = 0; half < 2; ++half) {
+    for (const int half : {0, 1}) {
         const DateTime at = date + 0.5 * half;
         const Degrees mean((half == 0 ? 180 : 0));
         day.sunExcess[half] = NavFunc113::WithinHalfTurn(sun.at(at).gha - mean);

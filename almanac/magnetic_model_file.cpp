@@ -118,7 +118,7 @@ private:
 
     MagneticModel m_model;
     std::string_view m_rest;
-    int m_line = 0;
+    int m_line{};
 };
 
 MagneticModel MagneticModel::read(std::string_view file)

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <cmath>
 #include <sstream>
 
 namespace almanac
@@ -61,6 +62,18 @@ TEST(MagneticModel, uncertaintyGrowsAndZonesAreNamedTowardsThePoles)
     EXPECT_GT(pole.uncertainty.value(), 3);
     EXPECT_LE(pole.uncertainty.value(), 180);
     EXPECT_THAT(std::string(describe(pole.zone)), HasSubstr("not to be used"));
+    // The bounds of the zones, met to some nanoteslas on the way to a pole.
+    double nearest[] = {HUGE_VAL, HUGE_VAL};
+    for (double latitude = 55; latitude < 89; latitude += 0.02) {
+        const Variation found = at(latitude, -100);
+        const CompassZone zone = found.horizontal < 2000   ? CompassZone::Unreliable
+                                 : found.horizontal < 6000 ? CompassZone::Caution
+                                                           : CompassZone::Reliable;
+        EXPECT_EQ(found.zone, zone) << found.horizontal;
+        nearest[0] = std::min(nearest[0], std::fabs(found.horizontal - 2000));
+        nearest[1] = std::min(nearest[1], std::fabs(found.horizontal - 6000));
+    }
+    EXPECT_LT(std::max(nearest[0], nearest[1]), 10);
     // At a geographic pole the field is one, whatever longitude is named.
     const auto total = [&](double longitude) { return at(90, longitude).horizontal; };
     EXPECT_NEAR(total(0), total(123), 1e-6);
@@ -139,6 +152,7 @@ TEST(CoefficientFile, aCutOneIsNeverTaken)
     const std::size_t firstNines = whole.find("99999999");
     for (std::size_t length = 0; length < firstNines + 8; ++length)
         ASSERT_NE(faultOf(whole.substr(0, length)), "") << length;
+    EXPECT_EQ(faultOf(whole.substr(0, firstNines + 8)), "") << "eight are enough";
     EXPECT_EQ(faultOf(whole.substr(0, firstNines + 48)), "")
         << "the second line of 9s says nothing";
 }
@@ -153,6 +167,19 @@ TEST(CoefficientFile, aDamagedOneIsNamedByItsLine)
         {"2030.0", "2030", ""},
         {"2030.0", "30.0", "line 1 of the coefficient file: 30.0 is no year"},
         {"2030.0", "nan", "line 1"},
+        {"2030.0", "1900.0", ""},
+        {"2030.0", "1899.9", "line 1 of the coefficient file: 1899.9 is no year"},
+        {"2030.0", "2200.0", ""},
+        {"2030.0", "2200.1", "line 1 of the coefficient file: 2200.1 is too large"},
+        {"WMM-TEST", "WMM-TEST-of-forty-letters-0123456789-ABC", ""},
+        {"WMM-TEST", "WMM-TEST-of-41-letters-0123456789-ABCDEFG", "line 1"},
+        {"  1 0 -29351.8", "  1 0 -100000.0", ""},
+        {"  1 0 -29351.8", "  1 0 -100000.1",
+         "line 2 of the coefficient file: -100000.1 is too large"},
+        {" 12.0 ", " 1000.0 ", ""},
+        {" 12.0 ", " 1000.1 ", "line 2 of the coefficient file: 1000.1 is too large"},
+        {"  1 1 ", "  2 1 ", "line 3 of the coefficient file: degree and order 1 1 are due"},
+        {"\n9999", "\n8999", "line 92 of the coefficient file: the line of 9s"},
         {"WMM-TEST", "", "line 1"},
         {"WMM-TEST", "WMM\x1b[31m", "line 1"},
         {"  1 0 -29351.8", "  1 0 -29351.8.", "line 2"},

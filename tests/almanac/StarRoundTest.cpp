@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace almanac
 {
@@ -61,6 +62,15 @@ TEST(StarRound, isTakenAllRoundTheHorizonAndBright)
     EXPECT_EQ(bestRound(all, 7).size(), 4u);
     EXPECT_EQ(bestRound({}, 3).size(), 0u);
     EXPECT_EQ(bestRound(bodiesAt({10}), 5).size(), 1u);
+}
+
+TEST(StarRound, faintOnesAreTakenLessWellAndAFullMoonDrownsMore)
+{
+    for (const auto& [magnitude, error] :
+         {std::pair{-1.5, 1.0}, {0.5, 1.0}, {1.5, 1.25}, {4.5, 2.0}, {6.0, 2.0}})
+        EXPECT_NEAR(errorByMagnitude(magnitude), error, 1e-12) << magnitude;
+    for (const auto& [lit, reach] : {std::pair{0.0, 4.0}, {0.5, 8.0}, {1.0, 12.0}, {1.1, 12.0}})
+        EXPECT_NEAR(reachOfMoon(lit).value(), reach, 1e-12) << lit;
 }
 
 TEST(StarRound, whatServes)
