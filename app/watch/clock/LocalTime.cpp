@@ -31,6 +31,23 @@ NavFunc113::DateTime dateTime(const std::tm& time)
 
 } // namespace
 
+#ifndef _WIN32
+std::time_t instantOfLocalTime(NavFunc113::DateTime shown)
+{
+    const NavFunc113::CivilDate date = NavFunc113::DateOf(shown);
+    const NavFunc113::TimeOfDay time = NavFunc113::TimeOf(shown);
+    std::tm civil{};
+    civil.tm_year = date.year - 1900;
+    civil.tm_mon = date.month - 1;
+    civil.tm_mday = date.day;
+    civil.tm_hour = time.hour;
+    civil.tm_min = time.minute;
+    civil.tm_sec = time.second;
+    civil.tm_isdst = -1;
+    return std::mktime(&civil);
+}
+#endif
+
 LocalTime localTime()
 {
 #ifdef _WIN32

@@ -3,6 +3,8 @@
 
 #include "navlib/units.h"
 
+#include <ctime>
+
 namespace korvel
 {
 
@@ -12,5 +14,11 @@ struct LocalTime {
     double hoursAheadOfUTC;    ///< of the zone in force at that time
 };
 LocalTime localTime();
+
+#ifndef _WIN32
+/// The instant at which a clock of the computer's zone shows that, summer time as it will be then;
+/// seconds since 1970, UTC.
+std::time_t instantOfLocalTime(NavFunc113::DateTime shown);
+#endif
 
 } // namespace korvel

@@ -19,11 +19,12 @@ namespace korvel
 namespace
 {
 
-using NavFunc113::CivilDate;
 using NavFunc113::DateTime;
-using NavFunc113::TimeOfDay;
 
 #ifdef _WIN32
+using NavFunc113::CivilDate;
+using NavFunc113::TimeOfDay;
+
 /// Why the system refused, in its own language. The library's message is English or, where the
 /// system has no English texts, none at all.
 std::string reasonOf(DWORD error)
@@ -50,18 +51,12 @@ public:
     DateTime now() const override { return localTime().time; }
     double hoursAheadOfUTC() const override { return localTime().hoursAheadOfUTC; }
 
+    // Both systems take time of day and date in one call, so no midnight can fall between them.
+#ifdef _WIN32
     std::optional<std::string> set(DateTime value) override
     {
         const CivilDate date = NavFunc113::DateOf(value);
         const TimeOfDay time = NavFunc113::TimeOf(value);
-        return setCivil(date, time);
-    }
-
-private:
-    // Both systems take time of day and date in one call, so no midnight can fall between them.
-#ifdef _WIN32
-    static std::optional<std::string> setCivil(const CivilDate& date, const TimeOfDay& time)
-    {
         SYSTEMTIME local{};
         local.wYear = static_cast<WORD>(date.year);
         local.wMonth = static_cast<WORD>(date.month);
@@ -76,21 +71,11 @@ private:
         return reasonOf(GetLastError());
     }
 #else
-    static std::optional<std::string> setCivil(const CivilDate& date, const TimeOfDay& time)
+    std::optional<std::string> set(DateTime value) override
     {
-        std::tm civil{};
-        civil.tm_year = date.year - 1900;
-        civil.tm_mon = date.month - 1;
-        civil.tm_mday = date.day;
-        civil.tm_hour = time.hour;
-        civil.tm_min = time.minute;
-        civil.tm_sec = time.second;
-        civil.tm_isdst = -1;
-        std::timespec instant{};
-        instant.tv_sec = std::mktime(&civil);
-        if (instant.tv_sec != -1 && clock_settime(CLOCK_REALTIME, &instant) == 0)
-            return std::nullopt;
-        return std::generic_category().message(instant.tv_sec == -1 ? EOVERFLOW : errno);
+        const std::timespec instant{.tv_sec = instantOfLocalTime(value), .tv_nsec = {}};
+        if (clock_settime(CLOCK_REALTIME, &instant) == 0) return std::nullopt;
+        return std::generic_category().message(errno);
     }
 #endif
 };

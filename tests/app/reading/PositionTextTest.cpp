@@ -2,9 +2,14 @@
 #include "app/reading/PositionText.h"
 
 #include "app/reading/Format.h"
+#include "app/reading/PackedText.h"
 #include "tests/golden/Golden.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <utility>
 
 namespace korvel
 {
@@ -59,6 +64,54 @@ TEST(PositionText, paste)
         EXPECT_EQ(remarkOn(row.text("text")), row.text("remark")) << row;
     }
     EXPECT_EQ(pasted("139-45.2", Axis::Longitude), "|139.452") << "the box decides the axis";
+}
+
+TEST(PositionText, pasteReadsSoMuchAndNoMore)
+{
+    const std::string pair = "35-30N,139-45E"; // nine signs and numbers
+    const std::string field = ",3530.5,N,13945.2,E";
+    const auto sentence = [&](int before) {
+        std::string text = "$X";
+        for (int i = 0; i < before; ++i)
+            text += ",x";
+        return text + field;
+    };
+    const struct {
+        std::string most, tooMuch;
+    } rows[] = {{"35.5000000000000N", "35.50000000000000N"}, // fifteen digits
+                {pair + std::string(31, ','), pair + std::string(32, ',')},
+                {std::string(386, ' ') + pair, std::string(387, ' ') + pair},
+                {sentence(25), sentence(26)}};
+    for (const auto& [most, tooMuch] : rows) {
+        EXPECT_NE(pasted(most), "-") << most;
+        EXPECT_EQ(pasted(tooMuch), "-") << tooMuch;
+    }
+}
+
+TEST(PositionText, anglesAreWrittenInTenthsOfMinutesAndPacked)
+{
+    const struct {
+        double degrees;
+        const char *altitude, *packed;
+    } rows[] = {{35.508333333333, "35°30.5'", "35.305"}, {-0.5, "-0°30.0'", "-0.3"},
+                {-0.0008, "0°00.0'", "-0.00048"},        {-0.0009, "-0°00.1'", "-0.00054"},
+                {59.99999999, "60°00.0'", "60.0"},       {9.9992, "10°00.0'", "9.59952"},
+                {-0.00000000001, "0°00.0'", "0.0"}};
+    for (const auto& each : rows) {
+        EXPECT_EQ(altitudeText(NavFunc113::Degrees(each.degrees)), each.altitude) << each.degrees;
+        EXPECT_EQ(packedText(NavFunc113::Degrees(each.degrees)), each.packed) << each.degrees;
+    }
+    EXPECT_EQ(positionInFull(DegMin(-5.3), Axis::Longitude), "005°30.0' W");
+    for (const double beyond : {100000.0, -100000.0, std::nan("")}) {
+        EXPECT_EQ(positionInFull(DegMin(beyond), Axis::Latitude), "");
+        EXPECT_EQ(positionForCopy(DegMin(beyond), Axis::Latitude), "");
+    }
+    EXPECT_EQ(positionForCopy(DegMin(99999), Axis::Latitude), "99999°00.0'N");
+    for (const auto& [shown, plain] : {std::pair{"  35.30'5N ", "35°30.5' N"},
+                                       {"< 4730'.0 >", " 4730.0 "},
+                                       {"<>", "<>"},
+                                       {"<a>b", "<a>b"}})
+        EXPECT_EQ(plainForm(shown), plain);
 }
 
 TEST(PositionText, pasteOfBrokenOrEndlessTextIsLeftAlone)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Reading.h"
 
+#include "app/reading/Field.h"
 #include "app/reading/Format.h"
 #include "app/reading/Instant.h"
 #include "app/reading/NumberField.h"
+#include "app/reading/Remarks.h"
 #include "app/reading/TypedTime.h"
 #include "tests/golden/Golden.h"
 
@@ -11,6 +13,7 @@
 
 #include <chrono>
 #include <clocale>
+#include <cmath>
 #include <map>
 #include <optional>
 
@@ -77,6 +80,22 @@ TEST(Reading, numbersWithTheirRemarks)
     EXPECT_EQ(readField(std::string(400, '9'), {}).remark, "too large a number");
 }
 
+TEST(Reading, sixtyMinutesOfAnAngleAreTheNextDegree)
+{
+    for (const auto& [text, fault] : {std::pair{"35.5999", ""},
+                                      {"35.6", "Box: minutes of 60"},
+                                      {"-35.75", "Box: minutes of 75"}}) {
+        Remarks remarks;
+        const auto angle = readAngleIfTyped(text, {.name = "Box"}, remarks);
+        EXPECT_EQ(angle.has_value(), *fault == '\0') << text;
+        EXPECT_EQ(remarks.text(), fault);
+    }
+    Remarks remarks;
+    EXPECT_FALSE(readAngleIfTyped(" ", {.name = "Box"}, remarks));
+    EXPECT_FALSE(readIfTyped("-", NumberField{.name = "Box"}, remarks));
+    EXPECT_EQ(remarks.text(), "") << "what is not typed yet is no fault";
+}
+
 TEST(Reading, kindsOfANumber)
 {
     using Kind = NumberReading::Kind;
@@ -122,11 +141,50 @@ TEST(Instant, readsUTCAsFilesHaveIt)
                 {"2026-02-29T10:20:30Z", {}},
                 {"2026-11-22T10:20:30.Z", {}},
                 {"2026-11-22T10:20:30+15:00", {}},
+                {"2026-11-22T10:20:30+14:59", -14h - 59min},
+                {"2026-11-22T10:59:59Z", 39min + 29s},
+                {"2026-11-22T24:00:00.5Z", {}},
+                {"2026-11-22T10:20:30-2:00", {}},
                 {"2026-11-22T10:20:30+02:60", {}},
                 {"2026-11-22T10:20:30+02:00 ", {}},
                 {"2026-11-22T10:20:30 UTC", {}}};
     for (const auto& [text, later] : rows)
         EXPECT_EQ(readIso(text), later ? std::optional(half + *later) : std::nullopt) << text;
+}
+
+TEST(Instant, isShownToTheNearestMinuteOrSecond)
+{
+    using namespace std::chrono;
+    const Instant noon = sys_days(2026y / November / 22) + 12h;
+    EXPECT_EQ(instantOf(38425.40625), Instant(sys_days(2005y / March / 14) + 9h + 45min));
+    EXPECT_DOUBLE_EQ(dateTimeOf(instantOf(-0.25)), -0.25) << "before the first day";
+    EXPECT_EQ(minuteText(noon + 29999ms), "2026/11/22 12:00");
+    EXPECT_EQ(minuteText(noon + 30s), "2026/11/22 12:01");
+    EXPECT_EQ(minuteText(noon - 30s), "2026/11/22 12:00");
+    EXPECT_EQ(isoText(noon + 499ms), "2026-11-22T12:00:00Z");
+    EXPECT_EQ(isoText(noon + 500ms), "2026-11-22T12:00:01Z");
+    EXPECT_EQ(weekdayOf(noon), "Sun");
+    EXPECT_EQ(weekdayOf(sys_days(1969y / December / 31) + 23h), "Wed");
+    const struct {
+        Span span;
+        const char* text;
+    } rows[] = {{0s, "00 h 00 m"},
+                {29s, "00 h 00 m"},
+                {30s, "00 h 01 m"},
+                {-29s, "00 h 00 m"},
+                {-30s, "-00 h 01 m"},
+                {9h + 9min, "09 h 09 m"},
+                {10h + 10min, "10 h 10 m"},
+                {23h + 59min + 29s, "23 h 59 m"},
+                {23h + 59min + 30s, "1 d 00 h 00 m"},
+                {-49h, "-2 d 01 h 00 m"}};
+    for (const auto& [span, text] : rows)
+        EXPECT_EQ(spanText(span), text);
+    const double twoHundredYears = 200 * 365.25 * 24;
+    for (const double hours : {1.5, twoHundredYears, -twoHundredYears})
+        EXPECT_EQ(hoursOf(spanOf(NavFunc113::Hours(hours)).value()).value(), hours);
+    for (const double hours : {twoHundredYears + 0.5, -twoHundredYears - 0.5, std::nan("")})
+        EXPECT_FALSE(spanOf(NavFunc113::Hours(hours)));
 }
 
 TEST(Remarks, aLineOfThem)
@@ -142,6 +200,9 @@ TEST(Remarks, aLineOfThem)
     EXPECT_EQ(quotation(std::string(23, 'x') + "°°"), '"' + std::string(23, 'x') + "…\"")
         << "no character is cut in two";
     EXPECT_EQ(quotation(std::string(22, 'x') + "°"), '"' + std::string(22, 'x') + "°\"");
+    EXPECT_EQ(quotation(std::string(24, 'x')), '"' + std::string(24, 'x') + '"');
+    EXPECT_EQ(quotation(std::string(25, 'x')), '"' + std::string(24, 'x') + "…\"");
+    EXPECT_EQ(joined({"really?", "", "yes", "or no"}), "really? yes; or no");
 }
 
 TEST(CourseText, thereIsNoCourse360)

@@ -40,6 +40,9 @@ TEST(SavedValues, dayIsNoNightThereAndBack)
     EXPECT_TRUE(saved.nightColours());
     saved.setNightColours(false);
     EXPECT_FALSE(saved.nightColours());
+    const auto revision = saved.revision();
+    saved.setNightColours(false);
+    EXPECT_EQ(saved.revision(), revision) << "the same again is no change";
     EXPECT_EQ(writeRecord(saved.record()), writeRecord(KV_Savedvalue().record()));
 }
 

@@ -7,11 +7,13 @@
 #include "tests/app/FakeMachine.h"
 #include "tests/golden/Golden.h"
 
+#include <cmath>
 #include <cstdint>
 #include <map>
 #include <random>
 #include <set>
 #include <sstream>
+#include <utility>
 
 namespace korvel
 {
@@ -54,6 +56,42 @@ std::string kept(const KV_Savedvalue& saved)
     const auto tick = [](bool on) { return on ? " on" : " off"; };
     return saved.alarmTime(2) + " " + saved.alarmComment(2) + tick(saved.alarmEnabled(2)) +
            ", signal " + std::to_string(saved.timeSignalMinutes()) + tick(saved.timeSignal());
+}
+
+TEST(AlarmSetUp, aMinuteIsBegunHalfASecondAfterItsStart)
+{
+    for (const auto& [seconds, due] : {std::pair{0.498, "23:58"}, {0.502, "23:59"}}) {
+        KV_Savedvalue saved;
+        testing::FakeQuestions questions;
+        questions.will("Yes; +1; ; Yes; Yes");
+        setUpAlarm(
+            1, saved, questions,
+            [&] {
+                return NavFunc113::MakeDateTime({2005, 3, 14}, 23 * 3600 + 57 * 60 + seconds);
+            },
+            [] {});
+        EXPECT_EQ(saved.alarmTime(1), due) << seconds;
+    }
+}
+
+TEST(NextAlarm, isTheNearestOfThoseThatAreOn)
+{
+    const struct {
+        const char *settings, *next;
+    } rows[] = {{"", "No alarm"},
+                {"alarm 1 09:40 a; alarm 2 10:00 b", "Next alarm 10:00 b"},
+                {"alarm 1 09:44 a; alarm 2 09:45 b", "Next alarm 09:44 a"}, // that of now has rung
+                {"alarm 1 09:45 a", "Next alarm 09:45 a"},
+                {"alarm 1 09:46 a; alarm 2 09:45 b", "Next alarm 09:46 a"},
+                {"alarm 2 10:00 b; alarm 4 10:00 d", "Next alarm 10:00 b"},
+                {"alarm 1 10:00 a; alarm 5 09:50 e; off 1", "Next alarm 09:50 e"},
+                {"alarm 1 6.30 a", "No alarm"}};
+    for (const auto& [settings, next] : rows) {
+        KV_Savedvalue saved;
+        set(saved, settings);
+        EXPECT_EQ(nextAlarmText(saved, 38425.40625), next) << settings; // 09:45
+        EXPECT_EQ(nextAlarmText(saved, HUGE_VAL), "No alarm");
+    }
 }
 
 TEST(AlarmSetUp, asksAndKeeps)

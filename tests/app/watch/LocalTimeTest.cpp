@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/watch/clock/LocalTime.h"
 #include "app/watch/clock/MakeComputerClock.h"
 #include "navlib/datetime.h"
 
@@ -12,6 +13,28 @@ namespace korvel
 {
 namespace
 {
+
+// Central European summer time holds from the last Sunday of March to that of October.
+TEST(LocalTime, aClockIsSetToWhatItsZoneWillShow)
+{
+    const struct {
+        NavFunc113::CivilDate date;
+        int second;
+        double hoursAhead;
+    } rows[] = {{{2026, 1, 15}, 43200, 1},
+                {{2026, 7, 15}, 43200, 2},
+                {{2005, 12, 31}, 86399, 1},
+                {{1900, 1, 1}, 3723, 1},
+                {{9999, 12, 31}, 0, 1}};
+    setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1);
+    for (const auto& [date, second, hoursAhead] : rows) {
+        const auto days = NavFunc113::DaySerial(date) - NavFunc113::DaySerial({1970, 1, 1});
+        EXPECT_EQ(static_cast<double>(instantOfLocalTime(NavFunc113::MakeDateTime(date, second))),
+                  static_cast<double>(days) * 86400 + second - hoursAhead * 3600)
+            << date.year;
+    }
+    unsetenv("TZ");
+}
 
 TEST(LocalTime, readsTheComputersClockByWhateverZoneItHasNow)
 {

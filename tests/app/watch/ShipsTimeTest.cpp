@@ -167,6 +167,17 @@ TEST_F(ShipsTimeTest, staysOnTheCalendarWithAnyTD)
         EXPECT_EQ(captions.back() == "KORVEL (3.0 hE)", !taken) << row;
         EXPECT_EQ(questions.asked.back().find("calendar") != std::string::npos, !taken) << row;
     }
+    // While the officer is told so, the title says already what holds.
+    at("2005/3/14 9:30");
+    saved.setTD(3);
+    questions.willAnswer(Answer::Yes);
+    questions.willType("9999/12/31 23:59");
+    questions.willAnswer(Answer::Ok);
+    questions.willType("-12");
+    std::string title;
+    questions.willAnswer(Answer::Ok, [&] { title = captions.back(); });
+    ship.setUp();
+    EXPECT_EQ(title, "KORVEL (3.0 hE)");
     // Nor does it leave it when it runs on.
     at("9999/12/31 23:59");
     clock.time += 10;
