@@ -163,7 +163,7 @@ SightFixResult CalculateFix(const SightList& list, const TrackTexts& trackTexts,
 
 std::optional<ObservedFix> fixForRecord(const SightFixResult& fix)
 {
-    if (!fix.fix || !fix.solution) return std::nullopt;
+    if (!fix.solution) return std::nullopt;
     const auto tenths = [](Degrees angle) {
         return DegToDegMin(Degrees(std::round(angle.value() * 600) / 600));
     };

@@ -48,10 +48,9 @@ double meanOf(const std::vector<double>& values)
     return sum / static_cast<double>(values.size());
 }
 
-/// Standard deviation of one; nothing is known of a single value.
+/// Standard deviation of one. @pre two values at least
 double deviationOf(const std::vector<double>& values)
 {
-    if (values.size() < 2) return 0;
     const double mean = meanOf(values);
     double squares = 0;
     for (const double value : values)

@@ -96,7 +96,6 @@ std::string BodyDoubt::remark() const
 BodyDoubt doubtOf(const Observation& observation, const Position& DR)
 {
     BodyDoubt doubt;
-    if (!observation.UTC || !observation.GHA || !observation.declination) return doubt;
     try {
         const almanac::Sky sky(*observation.UTC);
         doubt.why = whyDoubted(observation, DR, sky);

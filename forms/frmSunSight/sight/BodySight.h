@@ -29,6 +29,7 @@ struct BodyDoubt {
 };
 /// @param observation of any body; of the Sun only what else it may have been is told
 /// @param DR          from where it was observed
+/// @pre its UTC, GHA and declination are known
 BodyDoubt doubtOf(const Observation& observation, const NavFunc113::Position& DR);
 
 } // namespace korvel

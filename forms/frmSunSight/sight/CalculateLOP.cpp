@@ -119,7 +119,7 @@ void showLine(const Observation& observation, const Position& DR, LOPResult& res
     if (!observation.corrections) return;
     const DegMin Ho = observation.corrections->Ho;
     result.intercept = interceptText(Ho, Hc);
-    if (observation.isSun() && fabs(Intercept(DegMinToDeg(Ho), sun.altitude)) > Miles(60))
+    if (observation.isSun() && MilesOfArc(fabs(DegMinToDeg(Ho) - sun.altitude)) > Miles(60))
         remarks.warn("Intercept of more than 60 miles: check date, time, altitude and position");
 }
 

@@ -2,10 +2,18 @@
 #include "forms/frmSky/CalculateStars.h"
 #include "forms/frmSky/CalculateUnknown.h"
 
+#include "almanac/horizon.h"
+#include "app/reading/Format.h"
+#include "navlib/angles.h"
+
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <set>
+#include <tuple>
+#include <vector>
 
 namespace korvel
 {
@@ -45,6 +53,79 @@ TEST(SkyDay, twilightAndSunriseOfPublishedShips)
     EXPECT_EQ(march.event(SkyEvent::Sunrise).ships, "05:36");
     EXPECT_EQ(march.event(SkyEvent::Sunrise).zulu, "03/26 19:36");
     EXPECT_EQ(march.notice, "");
+}
+
+TEST(SkyDay, answersFollowTheEventsOfTheDay)
+{
+    const auto spanOf = [](const SkyDay& day, SkyEvent first, SkyEvent last) {
+        return day.event(first).ships + " – " + day.event(last).ships;
+    };
+    const auto middleOf = [](const SkyDay& day, SkyEvent first, SkyEvent last) {
+        return (*day.event(first).utc + *day.event(last).utc) / 2;
+    };
+    using enum SkyEvent;
+    const SkyDay march = dayOf({"1981/3/27 3:30", "23.32", "154.47", "105", "20", "", "10"});
+    EXPECT_EQ(march.morning, spanOf(march, NauticalDawn, CivilDawn));
+    EXPECT_EQ(march.evening, spanOf(march, CivilDusk, NauticalDusk));
+    EXPECT_EQ(march.noon, march.event(SunPassage).ships);
+    EXPECT_EQ(march.middleOfMorning, middleOf(march, NauticalDawn, CivilDawn));
+    EXPECT_EQ(march.middleOfEvening, middleOf(march, CivilDusk, NauticalDusk));
+    // New Moon was on the 6th at 10:31 UTC, noon by ship's time is at 2:00 UTC.
+    EXPECT_EQ(march.moonAge, "20.6 days");
+    EXPECT_EQ(march.moonPhase, "waning gibbous");
+    EXPECT_EQ(march.event(Sunrise).bearing, "087.0");
+    EXPECT_EQ(march.event(SunPassage).altitude, "69°40.0'");
+    EXPECT_EQ(march.event(Moonset).altitude, "") << "of passages alone";
+    // One end of a twilight alone.
+    const SkyDay winter = dayOf({"2026/12/21 12:00", "75", "20", "", "", "", "1"});
+    EXPECT_EQ(winter.morning, winter.event(NauticalDawn).ships + " – ..");
+    EXPECT_EQ(winter.middleOfMorning, winter.event(NauticalDawn).utc);
+    const SkyDay light = dayOf({"2026/6/21 12:00", "60", "20", "", "", "", "1"});
+    EXPECT_EQ(light.morning, ".. – " + light.event(CivilDawn).ships);
+    EXPECT_EQ(light.evening, light.event(CivilDusk).ships + " – ..");
+    EXPECT_EQ(light.middleOfMorning, light.event(CivilDawn).utc);
+    EXPECT_EQ(light.middleOfEvening, light.event(CivilDusk).utc);
+    const SkyDay summer = dayOf({"2026/6/21 12:00", "75", "20", "", "", "", "1"});
+    EXPECT_FALSE(summer.middleOfMorning || summer.middleOfEvening);
+    const SkyDay south = dayOf({"2026/11/22 12:00", "-35", "140", "", "", "", "9.5"});
+    EXPECT_EQ(south.event(SunPassage).bearing, "000.0");
+    EXPECT_EQ(south.date, "Sun 2026/11/22, TD +9.5");
+}
+
+// Times are to the nearest minute, and the last one of a day is its 24:00.
+TEST(SkyDay, midnightIsOfTheDayThatIsShown)
+{
+    SkyPlaces places;
+    std::set<std::string> midnights;
+    for (int step = 0; step < 120; ++step) {
+        const std::string longitude =
+            std::to_string(120 + step / 12) + "." + std::to_string(step % 12 * 5 + 100).substr(1);
+        const SkyInput input =
+            inputOf({"2026/11/22 12:00", "35", longitude.c_str(), "", "", "", "9"});
+        const SkyDay day = CalculateDay(input, places);
+        for (const SkyEventLine& line : day.events) {
+            if (!line.utc) continue;
+            const auto minutes = std::lround((*line.utc - day.ship->day) * 1440);
+            EXPECT_EQ(line.ships,
+                      minutes == 1440 ? "24:00" : Format(double(minutes) / 1440, "hh:mm"))
+                << line.name << longitude;
+            EXPECT_GE(*line.utc, day.ship->day);
+            if (minutes == 0 || minutes == 1440) midnights.insert(line.ships);
+        }
+    }
+    EXPECT_EQ(midnights, (std::set<std::string>{"00:00", "24:00"}));
+}
+
+TEST(SkyDay, placesThatAreKeptAreThoseOfTheirDay)
+{
+    SkyPlaces kept;
+    for (const char* date : {"2026/11/22", "2026/11/23", "2026/11/23", "2026/5/1", "2026/11/22"}) {
+        const SkyInput input = inputOf({date, "35", "140", "", "", "", "9"});
+        SkyPlaces fresh;
+        const SkyDay again = CalculateDay(input, kept), day = CalculateDay(input, fresh);
+        for (std::size_t i = 0; i < skyEvents; ++i)
+            EXPECT_EQ(again.events[i].utc, day.events[i].utc) << date << " " << day.events[i].name;
+    }
 }
 
 TEST(SkyDay, isThatOfTheMovingShip)
@@ -112,6 +193,35 @@ TEST(SkyDay, refusesWhatCannotBeUsedAndSaysSo)
         EXPECT_EQ(CalculateStars(day, {}).bodies.size(), 0u);
     }
     EXPECT_EQ(dayOf({}).notice, "") << "nothing entered, nothing claimed";
+    // To their limits, and no further.
+    const struct {
+        SkyBox box;
+        std::vector<const char*> good, bad;
+    } limits[] = {
+        {SkyBox::Latitude, {"90", "-90"}, {"90.001", "-90.001"}},
+        {SkyBox::Longitude, {"180", "-180"}, {"180.001", "-180.001"}},
+        {SkyBox::Course, {"0", "360"}, {"-0.1", "360.1"}},
+        {SkyBox::Speed, {"0", "100"}, {"-0.1", "100.1"}},
+        {SkyBox::HeightOfEye, {"0", "200"}, {"-0.1", "200.1"}},
+        {SkyBox::IndexError, {"-60", "60"}, {"-60.1", "60.1"}},
+        {SkyBox::TD, {"-12", "14"}, {"-12.1", "14.1"}},
+    };
+    SkyPlaces places;
+    for (const auto& each : limits) {
+        SkyInput input = inputOf({"2026/11/22 12:00", "10", "140"});
+        for (const bool isGood : {true, false})
+            for (const char* typed : isGood ? each.good : each.bad) {
+                input.txtSky[placeOf(each.box)] = typed;
+                EXPECT_EQ(CalculateDay(input, places).hasTimes(), isGood)
+                    << SkyFields[placeOf(each.box)].words << " " << typed;
+            }
+    }
+    // Fourteen days on one course, as long as one likes at anchor.
+    EXPECT_TRUE(dayOf({"2026/11/1", "10", "140", "90", "1", "", "9", "2026/11/15"}).hasTimes());
+    EXPECT_FALSE(dayOf({"2026/11/1", "10", "140", "90", "1", "", "9", "2026/11/16"}).hasTimes());
+    EXPECT_TRUE(dayOf({"2026/11/16", "10", "140", "90", "1", "", "9", "2026/11/3"}).hasTimes());
+    EXPECT_FALSE(dayOf({"2026/11/16", "10", "140", "90", "1", "", "9", "2026/11/1"}).hasTimes());
+    EXPECT_TRUE(dayOf({"2026/11/1", "10", "140", "90", "0", "", "9", "2027/2/1"}).hasTimes());
     // A date alone is noon, and the ends of the years hold.
     EXPECT_TRUE(dayOf({"2026/11/22", "35", "140"}).hasTimes());
     EXPECT_EQ(dayOf({"2026/11/22", "35", "140", "90", "15"}).event(SkyEvent::Sunset).where,
@@ -204,6 +314,119 @@ TEST(SkyStars, roundIsKeptFromTheMoonAndOfTheCountThatIsAsked)
     }
 }
 
+/// North, east, up.
+std::array<double, 3> vectorTo(const almanac::Direction& seen)
+{
+    return {cos(seen.altitude) * cos(seen.azimuth), cos(seen.altitude) * sin(seen.azimuth),
+            sin(seen.altitude)};
+}
+
+double along(const std::array<double, 3>& a, const std::array<double, 3>& b)
+{
+    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+}
+
+// What almanacs have by hand and stands above the horizon, whatever its brightness; the Moon's
+// bright limb looks to the Sun along the great circle.
+TEST(SkyStars, areAllThatAlmanacsHave)
+{
+    const SkyDay day = dayOf({"2026/11/22 12:00", "35", "140", "90", "15", "20", "9"});
+    for (const char* at : {"17:30", "11:00", "2026/11/23 05:40"}) {
+        const SkyStars stars = starsOf(day, at);
+        const almanac::Sky sky(*stars.utc);
+        std::set<almanac::Body> listed;
+        for (const SkyBody& each : stars.bodies)
+            listed.insert(each.body);
+        for (const almanac::BodyEntry& entry : almanac::bodies()) {
+            const bool isByHand = entry.kind != almanac::BodyKind::Star || entry.number > 0 ||
+                                  entry.name == "Polaris";
+            const auto direction =
+                almanac::seenFrom(sky.place(entry.body), day.ship->at(*stars.utc)).direction;
+            EXPECT_EQ(listed.contains(entry.body),
+                      isByHand && direction.altitude > NavFunc113::Degrees(0))
+                << entry.name << " " << at;
+        }
+        EXPECT_EQ(stars.zulu, Format(*stars.utc, "yyyy/mm/dd hh:mm"));
+        const auto moon = std::ranges::find(stars.bodies, almanac::Body::Moon, &SkyBody::body);
+        ASSERT_EQ(stars.moonBrightLimb.has_value(), moon != stars.bodies.end());
+        if (!stars.moonBrightLimb) continue;
+        const auto sun = vectorTo(stars.sun);
+        const auto up =
+            vectorTo({moon->seen.altitude + NavFunc113::quarterTurn, moon->seen.azimuth});
+        const auto right = vectorTo({{}, moon->seen.azimuth + NavFunc113::quarterTurn});
+        EXPECT_NEAR(std::remainder(stars.moonBrightLimb->value() -
+                                       std::atan2(along(sun, right), along(sun, up)) * 180 /
+                                           NavFunc113::Pi(),
+                                   360),
+                    0, 1e-6)
+            << at;
+    }
+}
+
+// Stars are hardly seen above -3 degrees of the Sun, no horizon below -13; by day too few serve.
+TEST(SkyStars, lightAndNumberAreJudged)
+{
+    const SkyDay day = dayOf({"2026/11/22 12:00", "35", "140", "90", "15", "20", "9"});
+    bool isHardly = false, isDark = false, areFew = false;
+    for (int minute = 0; minute < 150; minute += 3) {
+        const std::string at =
+            std::to_string(16 + minute / 60) + ":" + std::to_string(100 + minute % 60).substr(1);
+        const SkyStars stars = starsOf(day, at.c_str(), 7);
+        const double sun = stars.sun.altitude.value();
+        const auto says = [&](const std::string& words) {
+            return stars.notice.find(words) != std::string::npos;
+        };
+        EXPECT_EQ(says("high: stars are hardly seen"), sun > -3) << at << stars.notice;
+        EXPECT_EQ(says("below the horizon, which is dark"), sun < -13) << at << stars.notice;
+        const auto round = stars.roundSize();
+        EXPECT_EQ(says("Only " + std::to_string(round) + " bodies serve for a round of 7"),
+                  round < 7)
+            << at;
+        if (!stars.quality.empty()) {
+            const double quality = std::stod(stars.quality);
+            EXPECT_TRUE(std::fabs(quality - 3) < 0.06 ||
+                        says("lie too close together") == (quality > 3));
+        }
+        isHardly = isHardly || sun > -3;
+        isDark = isDark || sun < -13;
+        areFew = areFew || round < 7;
+    }
+    EXPECT_TRUE(isHardly && isDark && areFew);
+}
+
+TEST(SkyStars, belongToTheDayThatIsShownOrTheNightsBesideIt)
+{
+    const SkyDay day = dayOf({"2026/11/22 12:00", "35", "140", "", "", "", "9"});
+    for (const char* at : {"2026/11/21 12:00", "2026/11/23 12:00", "2026/11/22 03:00", "0:00"})
+        EXPECT_TRUE(starsOf(day, at).utc) << at;
+    for (const char* at : {"2026/11/21 11:58", "2026/11/23 12:02"}) {
+        EXPECT_FALSE(starsOf(day, at).utc) << at;
+        EXPECT_EQ(starsOf(day, at).notice, "Stars at: not on the day that is shown");
+    }
+    EXPECT_FALSE(
+        starsOf(dayOf({"1950/1/1 12:00", "35", "0", "", "", "", "0"}), "1949/12/31 18:00").utc)
+        << "before the almanac";
+}
+
+TEST(SkyStars, areWrittenAsTheTableHasThem)
+{
+    using NavFunc113::Degrees;
+    const SkyBodyTexts vega = textsOf({*almanac::findBody("Vega"),
+                                       {Degrees(34.255), Degrees(301.04)},
+                                       0.03,
+                                       Degrees(-0.015),
+                                       Degrees(0.124),
+                                       Degrees(34.41),
+                                       false});
+    EXPECT_THAT(
+        (std::vector{vega.mark, vega.number, vega.name, vega.magnitude, vega.altitude, vega.azimuth,
+                     vega.altitudeChange, vega.azimuthChange, vega.preset}),
+        ElementsAre("", "49", "Vega", "0.0", "34°15.3'", "301.0", "-0.9", "+0.12", "34°25'"));
+    const SkyBodyTexts moon = textsOf({almanac::Body::Moon, {}, {}, {}, {}, {}, true});
+    EXPECT_THAT((std::vector{moon.mark, moon.number, moon.name, moon.magnitude}),
+                ElementsAre("●", "", "Moon", ""));
+}
+
 // Over a month the Moon passes many that would serve but for her.
 TEST(SkyStars, roundLeavesOutWhatStandsInTheMoonlight)
 {
@@ -292,8 +515,76 @@ TEST(SkyUnknown, isNamed)
                 HasSubstr("No body of the almanac stood near"));
 }
 
+// What was observed less what stood there; and how sure the answer is.
+TEST(SkyUnknown, isToldHowFarAndHowSurely)
+{
+    const std::initializer_list<const char*> ship = {
+        "1981/1/14 15:22:28", "-27.185", "67.18", "", "", "", "0"};
+    const auto found = [&](const char* altitude, const char* bearing) {
+        return CalculateUnknown(withUnknown(ship, "15:22:28", altitude, bearing));
+    };
+    const UnknownResult above = found("30.35", "31"), below = found("28.35", "27");
+    EXPECT_THAT(above.lines[0].altitudeOff, ::testing::StartsWith("+"));
+    EXPECT_THAT(below.lines[0].altitudeOff, ::testing::StartsWith("-"));
+    EXPECT_NEAR((above.likely[0].altitudeOff - below.likely[0].altitudeOff).value(), 2, 0.01);
+    EXPECT_NEAR((above.likely[0].bearingOff - below.likely[0].bearingOff).value(), 4, 1e-9);
+    EXPECT_EQ(above.lines[0].magnitude, "1.7");
+    for (const UnknownLine& line : above.lines) {
+        const auto at =
+            std::ranges::find(above.lines, line.name, &UnknownLine::name) - above.lines.begin();
+        const auto minutes =
+            std::lround(std::fabs(above.likely[std::size_t(at)].altitudeOff.value()) * 60);
+        EXPECT_EQ(line.altitudeOff.substr(1), std::to_string(minutes / 60) + "°" +
+                                                  std::to_string(100 + minutes % 60).substr(1) +
+                                                  "'");
+    }
+    int none = 0, doubted = 0;
+    for (double altitude = 11; altitude < 80; altitude += 4)
+        for (int bearing = 5; bearing < 360; bearing += 30) {
+            const UnknownResult each =
+                found(std::to_string(altitude).c_str(), std::to_string(bearing).c_str());
+            const double first = each.likely[0].apart, second = each.likely[1].apart;
+            const bool isNone = first > 6, isDoubted = !isNone && second < first + 2;
+            none += isNone;
+            doubted += isDoubted;
+            EXPECT_EQ(each.notice,
+                      isNone      ? "No body of the almanac stood near: check date, TD and position"
+                      : isDoubted ? each.lines[0].name + " and " + each.lines[1].name +
+                                        " are hardly told apart by this"
+                                  : std::string());
+        }
+    EXPECT_GT(none, 3);
+    EXPECT_GT(doubted, 3);
+}
+
 TEST(SkyUnknown, needsAllThatItRestsOn)
 {
+    // The limits of its boxes, and of the run to it.
+    const auto answerOf = [](const char* at, const char* altitude, const char* bearing,
+                             const char* speed) {
+        return CalculateUnknown(withUnknown({"1981/1/14", "27.185", "67.18", "90", speed, "", "0"},
+                                            at, altitude, bearing))
+            .answer;
+    };
+    for (const auto& [at, altitude, bearing, speed, isGood] :
+         {std::tuple("15:22", "0", "0", "", true),
+          {"15:22", "90", "360", "", true},
+          {"15:22", "90.001", "10", "", false},
+          {"15:22", "-0.001", "10", "", false},
+          {"15:22", "20", "360.1", "", false},
+          {"15:22", "20", "-0.1", "", false},
+          {"1981/1/27 15:22", "20", "10", "12", true},
+          {"1981/1/29 15:22", "20", "10", "12", false},
+          {"1981/1/1 15:22", "20", "10", "12", true},
+          {"1980/12/30 15:22", "20", "10", "12", false},
+          {"1981/5/29 15:22", "20", "10", "0", true}})
+        EXPECT_EQ(!answerOf(at, altitude, bearing, speed).empty(), isGood)
+            << at << " " << altitude << " " << bearing << " " << speed;
+    EXPECT_THAT(CalculateUnknown(withUnknown({"1981/1/14", "80", "67.18", "0", "20", "", "0"},
+                                             "1981/1/20 15:22", "29", "10"))
+                    .notice,
+                HasSubstr("comes to a pole"));
+
     const std::initializer_list<const char*> ship = {"1981/1/14", "-27.185", "67.18"};
     EXPECT_EQ(CalculateUnknown(withUnknown(ship, "", "", "")).notice, "");
     EXPECT_EQ(CalculateUnknown(withUnknown(ship, "15:22", "29.35", "")).answer, "");

@@ -1,13 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/sight/BodySight.h"
 
+#include "almanac/horizon.h"
 #include "almanac/sextant.h"
+#include "app/reading/TypedTime.h"
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
 #include "forms/frmSunSight/sight/SightBodies.h"
+#include "forms/frmSunSight/sight/SightBody.h"
+#include "navlib/sky/ephemeris.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
 
 namespace korvel
 {
@@ -67,6 +75,159 @@ TEST(BodySight, latitudeByPolaris)
     }
 }
 
+using NavFunc113::DateTime;
+using NavFunc113::Degrees;
+using NavFunc113::Position;
+
+/// Altitude over a ship under way, by a place of the almanac, of the Sun by the short series.
+Degrees altitudeOver(almanac::Body body, DateTime UTC, const Position& ship)
+{
+    using namespace NavFunc113;
+    if (body == almanac::Body::Sun) {
+        const SunFigures sun = FiguresOfSun(UTC);
+        return PlaceAboveHorizon(DegMinToDeg(sun.GHA), DegMinToDeg(sun.declination), ship).altitude;
+    }
+    const almanac::Place place = almanac::Sky(UTC).place(body);
+    return PlaceAboveHorizon(place.gha, place.declination, ship).altitude;
+}
+
+Degrees hourAngleOver(almanac::Body body, DateTime UTC, const Position& ship)
+{
+    using namespace NavFunc113;
+    const Degrees GHA = body == almanac::Body::Sun ? DegMinToDeg(FiguresOfSun(UTC).GHA)
+                                                   : almanac::Sky(UTC).place(body).gha;
+    return WithinHalfTurn(GHA + ship.longitude);
+}
+
+/// Seconds after an instant at which a body stands highest (lowest) over the moving ship, by
+/// halving.
+double extremeAfter(almanac::Body body, DateTime passage, const Position& atSight, DateTime sight,
+                    const NavFunc113::Motion& motion, double sign)
+{
+    const auto altitudeAt = [&](double seconds) {
+        const DateTime then = passage + seconds / 86400;
+        const Position ship = Advanced(atSight, motion, NavFunc113::Hours((then - sight) * 24));
+        return sign * altitudeOver(body, then, ship).value();
+    };
+    double from = -3000, to = 3000;
+    while (to - from > 2) {
+        const double third = (to - from) / 3;
+        if (altitudeAt(from + third) < altitudeAt(to - third))
+            from += third;
+        else
+            to -= third;
+    }
+    return (from + to) / 2;
+}
+
+// Where the body stands at the passage that is told, and when it stands highest, are searched for
+// with the almanac and the ship's run alone.
+TEST(BodySight, passagesOfTheMovingShip)
+{
+    const struct {
+        const char *body, *time, *latitude, *longitude, *course, *speed, *caption, *extreme;
+    } cases[] = {
+        {"Moon", "20:00", "35.00", "-40.00", "020", "20", "Upper passage", "greatest"},
+        {"Moon", "21:30", "-50.00", "-35.00", "160", "24", "Upper passage", "greatest"},
+        {"Saturn", "20:49", "27.00", "-45.00", "245", "15", "Upper passage", "greatest"},
+        {"Dubhe", "18:00", "60.00", "30.00", "000", "30", "Lower passage", "least"},
+        {"Dubhe", "18:00", "60.00", "30.00", "090", "30", "Lower passage", "least"},
+        {"Vega", "16:00", "10.00", "10.00", "180", "30", "Upper passage", "greatest"},
+        {"Canopus", "12:00", "20.00", "10.00", "180", "20", "Upper passage", "greatest"},
+        {"Canopus", "12:00", "50.00", "10.00", "180", "20", "Upper passage", "below the horizon"},
+        {"", "14:37", "13.42", "-44.55", "200", "25", "", "greatest"},
+        {"", "14:37", "-60.42", "-44.55", "340", "25", "", "greatest"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(std::string(each.body) + " " + each.latitude + " " + each.course);
+        SightTexts texts = bodySight(each.body, "2026/11/22", each.time, "30", "", "");
+        const TrackTexts track{each.latitude, each.longitude, "", each.course, each.speed};
+        Remarks unheard;
+        const Observation seen = readObservation(texts, unheard);
+        const Track run = readTrack(track, seen.UTC, true, unheard);
+        const MeridianResult found = CalculateMeridian(texts, track, {});
+        EXPECT_EQ(found.caption, each.caption);
+        const auto passage = readTypedTime(found.noon.substr(0, 19), Due::DateAndTime).value;
+        ASSERT_TRUE(passage) << found.noon;
+        EXPECT_LT(std::fabs(*passage - *seen.UTC), 1.0);
+        const Position then =
+            Advanced(*run.position, *run.motion, NavFunc113::Hours((*passage - *seen.UTC) * 24));
+        const bool isLower = *each.extreme == 'l';
+        const Degrees off = hourAngleOver(seen.body, *passage, then) +
+                            (isLower ? NavFunc113::halfTurn : Degrees(0));
+        EXPECT_NEAR(NavFunc113::WithinHalfTurn(off).value() * 240, 0, 1) << found.noon;
+        ASSERT_THAT(found.greatest, ::testing::StartsWith(each.extreme));
+        if (*each.extreme == 'b') continue;
+        EXPECT_GT(altitudeOver(seen.body, *passage, then), Degrees(0));
+        const double later = extremeAfter(seen.body, *passage, *run.position, *seen.UTC,
+                                          *run.motion, isLower ? -1 : 1);
+        const double said = std::stod(found.greatest.substr(found.greatest.find("altitude ") + 9)) *
+                            (found.greatest.ends_with("earlier") ? -1 : 1);
+        EXPECT_NEAR(said, later, 4 + 0.06 * std::fabs(later)) << found.greatest;
+
+        // By the clock of a watch that keeps ship's mean time, three hours behind.
+        texts.SMT = true;
+        texts.TD = "-3";
+        texts.time = Format(*seen.UTC - 3.0 / 24, "hh:mm:ss");
+        texts.date = Format(*seen.UTC - 3.0 / 24, "yyyy/mm/dd");
+        EXPECT_EQ(CalculateMeridian(texts, track, {}).noon,
+                  found.noon + ", " + Format(*passage - 3.0 / 24, "MM/dd hh:mm:ss") + " SMT");
+    }
+}
+
+// From a ship on the other side of a body near the zenith its altitude is the same.
+TEST(BodySight, latitudeByABodyNearTheMeridian)
+{
+    const struct {
+        const char* fault;
+        double latitude, longitude;
+        const char *body, *time, *note;
+        bool isInDoubt;
+    } cases[] = {
+        {"south of the zenith", 20, 10, "Diphda", "20:04:00", " the upper meridian at the sight",
+         false},
+        {"below the pole", 60, 30, "Dubhe", "18:25:00", " the lower meridian at the sight", false},
+        {"right in the zenith", -17.7, 10, "Diphda", "19:20:00",
+         "; first with it to the south, then to the north", true},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(each.fault);
+        // Where the body is on the meridian then, and a degree of longitude off it.
+        const DateTime UTC =
+            *readTypedTime(std::string("2026/11/22 ") + each.time, Due::DateAndTime).value;
+        const almanac::Body body = *almanac::findBody(each.body);
+        const Degrees meridian = -hourAngleOver(body, UTC, {}) +
+                                 (each.latitude > 50 ? NavFunc113::halfTurn : Degrees(0));
+        const Position ship{Degrees(each.latitude),
+                            NavFunc113::WithinHalfTurn(meridian + Degrees(0.02))};
+        const SightTexts texts = seenFrom(ship, "2026/11/22", each.time, 0, each.body);
+        const MeridianResult found =
+            CalculateMeridian(texts,
+                              {Format(DegToDegMin(ship.latitude + Degrees(0.1)), "0.0000"),
+                               Format(DegToDegMin(ship.longitude), "0.0000"), "", "", ""},
+                              {});
+        EXPECT_THAT(found.note, HasSubstr(each.note));
+        EXPECT_EQ(found.note.find("first with it") != std::string::npos, each.isInDoubt);
+        const auto latitudeOf = [](const std::string& shown) {
+            return Degrees(milesOf(shown) / 60 * (shown.ends_with('S') ? -1 : 1));
+        };
+        const std::size_t split = found.latitude.find(" or ");
+        ASSERT_EQ(split != std::string::npos, each.isInDoubt) << found.latitude;
+        if (!each.isInDoubt) {
+            EXPECT_NEAR((latitudeOf(found.latitude) - ship.latitude).value() * 60, 0, 0.11);
+            continue;
+        }
+        const Degrees south = latitudeOf(found.latitude.substr(0, split));
+        const Degrees north = latitudeOf(found.latitude.substr(split + 4));
+        EXPECT_GT(south, north) << "the body to the south: the ship north of it";
+        Remarks unheard;
+        const Degrees Ho = DegMinToDeg(readObservation(texts, unheard).corrections->Ho);
+        for (const Degrees latitude : {south, north})
+            EXPECT_NEAR((altitudeOver(body, UTC, {latitude, ship.longitude}) - Ho).value() * 60, 0,
+                        0.11);
+    }
+}
+
 /// Every body above the horizon of a ship at midnight and at noon, as her sextant shows it.
 TEST(BodySight, whatStandsThereIsObservedWithoutAnIntercept)
 {
@@ -122,12 +283,22 @@ TEST(BodySight, aBodyThatCanHardlyBeItIsDoubted)
         EXPECT_EQ(doubt.why.empty(), *each.why == 0) << doubt.why;
         EXPECT_THAT(doubt.likely, ::testing::StartsWith(each.likely)) << each.body;
     }
+    // How far off it is, by the line of position that is shown.
+    const LOPResult sirius = CalculateLOP(
+        bodySight("Sirius", "1978/2/28", "12:20:26", "50.060", "0", "23"), track1978, {});
+    const double off = (milesOf(sirius.Ho) - milesOf(sirius.Hc)) / 60;
+    EXPECT_THAT(sirius.doubt.why, HasSubstr("stand " + Format(std::fabs(off), "0.0") + "° " +
+                                            (off > 0 ? "lower" : "higher") + " than was observed"));
     const auto noticeOf = [](const char* body) {
         return CalculateLOP(bodySight(body, "1978/2/28", "12:20:26", "50.060", "0", "23"),
                             track1978, {})
             .notice;
     };
-    EXPECT_THAT(noticeOf("al"), HasSubstr("\"al\" may be Alpheratz"));
+    EXPECT_EQ(noticeOf("cap"), "Body of the sight: \"cap\" may be Capella, Caph");
+    EXPECT_THAT(noticeOf("al"), HasSubstr("\"al\" may be Al"));
+    EXPECT_EQ(std::ranges::count(noticeOf("al"), ','), 3) << "four of them are named";
+    EXPECT_THAT(noticeOf("al"), ::testing::EndsWith(" .."));
+    EXPECT_EQ(noticeOf(" capella\t "), "");
     EXPECT_THAT(noticeOf("Pluto"), HasSubstr("\"Pluto\" is not in the almanac"));
     EXPECT_EQ(noticeOf("12"), "");
     EXPECT_THAT(
@@ -136,9 +307,56 @@ TEST(BodySight, aBodyThatCanHardlyBeItIsDoubted)
         HasSubstr("Date of the sight: "));
 }
 
+// A body is likely within a degree of what was seen; a quarter of a degree weighs as a magnitude.
+TEST(BodySight, likelyBodiesAreNearBrightAndAboveTheHorizon)
+{
+    using almanac::Body;
+    const Position ship{Degrees(6), Degrees(90.6)};
+    std::set<Body> byDay;
+    int found = 0, full = 0;
+    for (int hour = 0; hour < 24; ++hour) {
+        const almanac::Sky sky(28549 + (hour + 0.5) / 24); // 1978 February 28
+        const bool isDay = hour < 12;                      // the Sun sets at 12:07 UTC there
+        EXPECT_EQ(isByDay(sky, ship), isDay) << hour;
+        for (double altitude = 1; altitude < 90; altitude += 2) {
+            const auto likely = likelyBodies(sky, Degrees(altitude), ship, Body::Jupiter);
+            EXPECT_LE(likely.size(), 3U);
+            full += likely.size() == 3;
+            double last = -100;
+            for (const LikelyBody& each : likely) {
+                ++found;
+                if (isDay) byDay.insert(each.body);
+                EXPECT_NE(each.body, Body::Jupiter);
+                EXPECT_TRUE(isDay || each.body != Body::Sun);
+                const auto stands =
+                    almanac::seenFrom(sky.place(each.body), {ship.latitude, ship.longitude, {}});
+                EXPECT_LE(fabs(each.off), Degrees(1));
+                EXPECT_GE(stands.direction.altitude, Degrees(0));
+                EXPECT_EQ(each.azimuth, stands.direction.azimuth);
+                const double limb = almanac::hasLimbs(each.body) ? stands.semiDiameter.value() : 0;
+                EXPECT_NEAR(
+                    fabs(each.off).value(),
+                    std::fabs(std::fabs(altitude - stands.direction.altitude.value()) - limb),
+                    1e-9);
+                const auto& entry = almanac::entryOf(each.body);
+                if (entry.kind != almanac::BodyKind::Star) continue;
+                const double rank = std::pow(each.off.value() * 4, 2) + *entry.magnitude;
+                EXPECT_GE(rank, last - 1e-9) << entry.name;
+                last = rank;
+            }
+        }
+    }
+    EXPECT_GT(found, 500);
+    EXPECT_GT(full, 50);
+    EXPECT_EQ(byDay, (std::set{Body::Sun, Body::Moon, Body::Venus}));
+    EXPECT_EQ(bodyFacts(*almanac::findBody("Polaris")), "mag. 2.0");
+    EXPECT_EQ(bodyFacts(Body::Venus), "");
+}
+
 TEST(BodySight, bodiesComeBackFromTheirFile)
 {
     SightSettings settings;
+    settings.options.series = true;
     settings.sight = bodySight("Moon", "1978/2/28", "12:40:00", "", "", "");
     settings.list = round1978;
     settings.list.record(noon2020);
@@ -149,7 +367,12 @@ TEST(BodySight, bodiesComeBackFromTheirFile)
     EXPECT_EQ(takeSightBodies(bytes, read), "");
     EXPECT_EQ(read.list.sights(), settings.list.sights());
     EXPECT_EQ(read.sight.body, "Moon");
-    EXPECT_EQ(takeSightBodies(bytes + "sight=Capella\n", read), "line 7");
+    EXPECT_TRUE(read.options.series);
+    EXPECT_EQ(takeSightBodies(bytes + "shape=round\n\nsight=Capella\nsight=Pluto;x\n", read),
+              "line 10");
+    settings.options.series = false;
+    EXPECT_EQ(takeSightBodies(sightBodiesText(settings), read), "");
+    EXPECT_TRUE(read.options.series) << "nothing is said of it";
     EXPECT_EQ(takeSightBodies("nonsense", read), "line 1: these are no bodies of sights");
 }
 

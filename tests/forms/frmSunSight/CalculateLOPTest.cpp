@@ -175,6 +175,17 @@ TEST(CalculateLOP, azimuthOnTheMeridianAndThePrimeVertical)
     EXPECT_NEAR(azimuth(270, 0, 0, 30), 90, 1e-9);
 }
 
+TEST(CalculateLOP, anglesAndSpansInWords)
+{
+    using namespace NavFunc113;
+    EXPECT_EQ(angleInFull(DegMin(-23.226)), "-23°22.6'");
+    EXPECT_EQ(angleInFull(DegMin(9.05)), "9°05.0'");
+    EXPECT_EQ(spanText(Hours(24)), "1.0 days");
+    EXPECT_EQ(spanText(Hours(-23.95)), "24.0 h");
+    EXPECT_EQ(spanText(Hours(1)), "1.0 h");
+    EXPECT_EQ(spanText(Hours(0.98)), "59 min");
+}
+
 TEST(MeridianPassage, noonOfTheMovingShip)
 {
     const MeridianResult noon = CalculateMeridian(noon2020, track2020, {});

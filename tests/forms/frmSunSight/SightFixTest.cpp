@@ -78,6 +78,7 @@ TEST(CalculateFix, sightsSwitchedOffDoNotCount)
     const SightFixResult lost = fixOf(listOf({morning2020, noon2020}), none);
     EXPECT_THAT(lost.notice, HasSubstr("No fix: the DR position"));
     EXPECT_TRUE(lost.lines.empty());
+    EXPECT_EQ(lost.level, NoticeLevel::Fault);
     // At 15:30 in 88.5 N, at 11:45 75 miles nearer the pole.
     const TrackTexts polar{"88.300", "-52.110", "2020/12/17 15:30:00", "180", "20"};
     const SightFixResult north = fixOf(listOf({morning2020, noon2020}), polar);
@@ -109,6 +110,9 @@ TEST(CalculateFix, aSightThatDoesNotFitIsNamed)
     EXPECT_FALSE(bad.fix->ellipse);
     EXPECT_THAT(bad.ellipseText, HasSubstr("No ellipse"));
     EXPECT_THAT(bad.lines[1].text, ::testing::EndsWith("does not fit: -12.0 nm"));
+    EXPECT_THAT(bad.lines[1].text, Not(HasSubstr("residual"))) << "there is room for one";
+    EXPECT_THAT(bad.lines[0].text, HasSubstr("residual"));
+    EXPECT_EQ(bad.level, NoticeLevel::Remark);
     ASSERT_EQ(bad.without.size(), 1U);
     EXPECT_LT(milesBetween(bad.without[0].position, 14.0, -52.0), 0.1);
     EXPECT_THAT(bad.withoutText,
@@ -151,10 +155,109 @@ TEST(CalculateFix, sightsOfAnotherDayAreNamed)
                 HasSubstr("The sight of 2020/12/17 11:45:11 UTC and 1 more lie 20.3 h in the"));
 }
 
+TEST(CalculateFix, sightsOfAnotherDayAreNamedWithIt)
+{
+    const NavFunc113::Position place{NavFunc113::Degrees(14), NavFunc113::Degrees(-52)};
+    SightList list = roundWith(0);
+    list.record(seenFrom(place, "2020/12/16", "19:00:00", -15));
+    EXPECT_THAT(fixOf(list, atAnchor).notice,
+                HasSubstr("The sight of 2020/12/16 19:00:00 by 15.0 miles away does not fit the "
+                          "others ("));
+    list.record(seenFrom(place, "2020/12/17", "19:30:00", 30));
+    const SightFixResult two = fixOf(list, atAnchor);
+    EXPECT_THAT(two.withoutText,
+                ::testing::StartsWith("Without 19:30:00 and 2020/12/16 19:00:00: "))
+        << two.notice;
+    EXPECT_EQ(two.without[0].label, "without 1930 1900");
+}
+
+// Weak geometry is told below 30 degrees, a fix far from where the ship was thought to be beyond 40
+// miles: neither before.
+TEST(CalculateFix, weakCutsAndFarFixesAreTold)
+{
+    const NavFunc113::Position place{NavFunc113::Degrees(14), NavFunc113::Degrees(-52)};
+    int weak = 0, strong = 0;
+    for (int minute = 0; minute < 60; minute += 3) {
+        const std::string time =
+            "14:" + std::to_string(minute / 10) + std::to_string(minute % 10) + ":00";
+        const SightFixResult fix = fixOf(listOf({seenFrom(place, "2020/12/17", "12:40:00"),
+                                                 seenFrom(place, "2020/12/17", time.c_str())}),
+                                         atAnchor);
+        const double cut = fabs(fix.lines[1].line.azimuth - fix.lines[0].line.azimuth).value();
+        if (std::fabs(cut - 30) < 0.4) continue;
+        (cut < 30 ? weak : strong) += 1;
+        EXPECT_EQ(fix.notice.find("Small cut angle of ") == 0, cut < 30) << cut << fix.notice;
+        EXPECT_EQ(fix.notice.find(" of " + Format(cut, "0") + " degrees") != std::string::npos,
+                  cut < 30);
+    }
+    EXPECT_GT(weak, 1);
+    EXPECT_GT(strong, 1);
+    for (const char* latitude : {"13.15", "13.22", "14.38", "14.45"})
+        for (const char* longitude : {"-52", "-52.30"}) {
+            const SightFixResult fix = fixOf(roundWith(0), {latitude, longitude, "", "", ""});
+            const double miles = std::hypot((fix.DR->latitude - place.latitude).value() * 60,
+                                            (fix.DR->longitude - place.longitude).value() * 60 *
+                                                cos(place.latitude));
+            EXPECT_EQ(fix.notice, miles > 40 ? "The fix is " + Format(miles, "0") +
+                                                   " miles from the DR position"
+                                             : std::string());
+        }
+}
+
+TEST(CalculateFix, linesThatDoNotMeetAreNoFix)
+{
+    SightTexts higher = noon2020;
+    higher.Hs = "52.300";
+    EXPECT_EQ(fixOf(listOf({noon2020, higher}), track2020).notice,
+              "No fix: the lines are parallel");
+    SightTexts low = noon2020;
+    low.Hs = "8.00";
+    EXPECT_THAT(fixOf(listOf({morning2020, low}), track2020).notice,
+                HasSubstr("Sight of 2020/12/17 15:30:00 UTC: Altitude below 10 degrees"));
+}
+
+// Twenty minutes: below that nobody calls it a running fix.
+TEST(CalculateFix, isCalledARunningFixAfterTwentyMinutes)
+{
+    const NavFunc113::Position place{NavFunc113::Degrees(14), NavFunc113::Degrees(-52)};
+    for (const auto& [time, kind] :
+         {std::pair("15:19:30", "FIX 2020/12/17 15:19:30 UTC, run 0-00:19:30"),
+          {"15:20:30", "R FIX 2020/12/17 15:20:30 UTC, run 0-00:20:30"}}) {
+        const SightFixResult fix = fixOf(listOf({seenFrom(place, "2020/12/17", "15:00:00"),
+                                                 seenFrom(place, "2020/12/17", time)}),
+                                         atAnchor);
+        EXPECT_EQ(fix.time, kind);
+        EXPECT_EQ(fix.fix->label, std::string(kind).substr(0, std::string(kind).find(" 20")) +
+                                      " 15" + std::string(time).substr(3, 2));
+        const auto sent = fixForRecord(fix);
+        ASSERT_TRUE(sent);
+        EXPECT_EQ(sent->kind,
+                  std::string(*kind == 'R' ? "Running fix" : "Fix") + ", 2 lines: Sun, Sun");
+        EXPECT_NEAR(sent->latitude.packed(), 14, 0.002);
+        EXPECT_NEAR(sent->longitude.packed(), -52, 0.002);
+        EXPECT_EQ(sent->ellipse, fix.ellipseText);
+    }
+    EXPECT_FALSE(fixForRecord(fixOf({}, atAnchor)));
+}
+
+// Only a round of other bodies is referred to the time of the DR position, and only within it.
+TEST(CalculateFix, timeOfTheFixOfTheSunIsThatOfTheLastSight)
+{
+    TrackTexts between = track2020;
+    between.time = "2020/12/17 13:00:00";
+    EXPECT_THAT(fixOf(listOf({morning2020, noon2020}), between).time, HasSubstr("15:30:00 UTC"));
+}
+
 TEST(CalculateFix, sigmaIsCalledWhatItIs)
 {
     const SightFixResult assumed = fixOf(roundWith(1), atAnchor, {"0.5", "", "", false});
     const SightFixResult measured = fixOf(roundWith(1), atAnchor, {"0.5", "", "", true});
+    const double scale = measured.fix->ellipse->scale;
+    EXPECT_NE(scale, 1);
+    EXPECT_NEAR(measured.fix->ellipse->sigmaNorth / assumed.fix->ellipse->sigmaNorth, scale, 1e-9);
+    EXPECT_NEAR(measured.fix->ellipse->sigmaEast / assumed.fix->ellipse->sigmaEast, scale, 1e-9);
+    EXPECT_THAT(assumed.sigmaText,
+                HasSubstr("the residuals say " + Format(scale / 2, "0.0#") + " nm"));
     EXPECT_THAT(assumed.sigmaText, HasSubstr("assumed, not measured: 0.5 nm"));
     EXPECT_THAT(assumed.sigmaText, HasSubstr("the residuals say"));
     EXPECT_THAT(measured.sigmaText, HasSubstr("measured from the residuals of 5 lines"));

@@ -36,6 +36,13 @@ TEST(SightList, recordsEachSightOnce)
     EXPECT_EQ(list.record(morning2020), Outcome::Recorded);
     EXPECT_EQ(list.sights().front().texts, morning2020) << "in the order of their times";
     EXPECT_EQ(list.record({}), Outcome::Unusable);
+    SightTexts aSecondLater = noon2020, tenthMore = noon2020, lessThanThat = noon2020;
+    aSecondLater.time = "15:30:01";
+    tenthMore.Hs = "52.2206";
+    lessThanThat.Hs = "52.2204";
+    EXPECT_EQ(list.record(lessThanThat), Outcome::Already) << "to the tenth that is shown";
+    EXPECT_EQ(listOf({noon2020, aSecondLater}).sights().size(), 2U);
+    EXPECT_EQ(listOf({noon2020, tenthMore}).sights().size(), 2U);
 
     EXPECT_EQ(list.replace(0, upper), Outcome::Already);
     EXPECT_EQ(list.replace(0, morning2020), Outcome::Recorded) << "its own place is free to it";
@@ -63,6 +70,52 @@ TEST(SightList, fullAtForty)
     for (int i = 0; i < int(SightList::most); ++i)
         ASSERT_EQ(list.record(numbered(i)), Outcome::Recorded);
     EXPECT_EQ(list.record(numbered(45)), Outcome::Full);
+    list.remove(3);
+    EXPECT_EQ(list.record(numbered(45)), Outcome::Recorded);
+    EXPECT_EQ(list.takeBack(), 0U) << "no room for it";
+    EXPECT_TRUE(list.canTakeBack());
+    list.remove(0); // the last removal, in its place
+    EXPECT_EQ(list.takeBack(), 1U);
+}
+
+TEST(SightList, theLastThatIsOn)
+{
+    SightList list = listOf({noon2020, morning2020});
+    const auto at = [](const std::optional<NavFunc113::DateTime>& time) {
+        return time ? Format(*time, "hh:mm") : std::string("none");
+    };
+    EXPECT_EQ(at(list.lastOn()), "15:30");
+    EXPECT_EQ(at(list.lastOn(1)), "11:45") << "but for the one being edited";
+    EXPECT_EQ(at(list.lastOn(0)), "15:30");
+    list.setOn(1, false);
+    EXPECT_EQ(at(list.lastOn()), "11:45");
+    EXPECT_EQ(at(list.lastOn(0)), "none");
+}
+
+TEST(SightList, textsThatAreNoSightAreKept)
+{
+    SightTexts odd = noon2020;
+    odd.watchError = "0;0";
+    EXPECT_EQ(SightList::textWithoutBody(odd),
+              "SIGHT;on;UTC;L;2020/12/17;15:30:00;;0 0;52.220;4.0;2.8;;;");
+    const SightList list = SightList::fromTexts(
+        {"SIGHT;on;UTC", "", "SIGHT;off;SMT;U;2020/12/17;12:30:00;-3;;52.220", "tail"});
+    EXPECT_EQ(list.unreadable(), (std::vector<std::string>{"SIGHT;on;UTC", "tail"}));
+    ASSERT_EQ(list.sights().size(), 1U);
+    EXPECT_FALSE(list.sights()[0].on);
+    EXPECT_TRUE(list.sights()[0].texts.SMT && list.sights()[0].texts.upperLimb);
+    SightList cleared = list;
+    cleared.clear();
+    EXPECT_TRUE(cleared.unreadable().empty() && cleared.canTakeBack());
+    EXPECT_EQ(cleared.takeBack(), 3U);
+    EXPECT_EQ(cleared.unreadable(), list.unreadable());
+    EXPECT_EQ(cleared.texts().size(), SightList::most);
+    // Of a removal alone nothing else comes back.
+    cleared.clear();
+    cleared.record(morning2020);
+    cleared.remove(0);
+    EXPECT_EQ(cleared.takeBack(), 1U);
+    EXPECT_TRUE(cleared.unreadable().empty());
 }
 
 TEST(SightSettings, roundTrip)
@@ -82,6 +135,7 @@ TEST(SightSettings, roundTrip)
     EXPECT_EQ(back.track.time, settings.track.time);
     EXPECT_TRUE(back.options.measured);
     EXPECT_EQ(back.list.sights(), settings.list.sights());
+    EXPECT_EQ(settingsOf({}).sight, SightTexts()) << "a record without anything";
 }
 
 TEST(SightSettings, damageLosesNoReadableSight)

@@ -51,12 +51,14 @@ inline SightList listOf(std::initializer_list<SightTexts> sights)
     return list;
 }
 
-/// A sight as a ship lying at a place reads it, out by some miles (too great: towards the Sun).
+/// A sight as a ship lying at a place reads it, out by some miles (too great: towards the body).
+/// @param body the Sun, or a star
 inline SightTexts seenFrom(const NavFunc113::Position& place, const char* date, const char* time,
-                           double miles = 0)
+                           double miles = 0, const char* body = "")
 {
     using namespace NavFunc113;
     SightTexts texts = sight(date, time, "30", "", "");
+    texts.body = body;
     for (int pass = 0; pass < 5; ++pass) {
         Remarks unheard;
         const Observation seen = readObservation(texts, unheard);
