@@ -35,7 +35,13 @@ constexpr const char* widestDistance = "00000'.0";
 constexpr const char* widestLatitude = "00-.00'0N";
 constexpr const char* widestLongitude = "000-.00'0W";
 
-/// Under the four rows of entries.
+/// Each calculator has four rows of entries.
+int rowOf(std::size_t field)
+{
+    return static_cast<int>(field % deadReckoning);
+}
+
+/// Under the rows of entries.
 void addAnswers(QGridLayout* grid, AnswerStrip* answers)
 {
     grid->addWidget(answers, 4, 0, 1, -1);
@@ -114,8 +120,9 @@ void frmCDDR::addOptions()
     }
 }
 
-void frmCDDR::addPositionRow(QGridLayout* grid, int row, std::size_t field)
+void frmCDDR::addPositionRow(QGridLayout* grid, std::size_t field)
 {
+    const int row = rowOf(field);
     m_txtCDDR.addRow(grid, row, field);
     grid->removeWidget(m_txtCDDR.position(field)->echo());
     grid->addLayout(switchOf(std::span(m_optNSEW).subspan(2 * field, 2)), row, 2);
@@ -126,10 +133,8 @@ QGroupBox* frmCDDR::layOutCD()
 {
     auto* group = new QGroupBox("Course and distance (rhumb line)");
     auto* grid = gridOf(group);
-    addPositionRow(grid, 0, 0);
-    addPositionRow(grid, 1, 1);
-    addPositionRow(grid, 2, 2);
-    addPositionRow(grid, 3, 3);
+    for (std::size_t field = courseAndDistance; field < deadReckoning; ++field)
+        addPositionRow(grid, field);
     auto* answers = new AnswerStrip;
     m_lblCD.addAnswer(answers, 0, widestCourse);
     m_lblCD.addAnswer(answers, 1, widestDistance);
@@ -141,10 +146,10 @@ QGroupBox* frmCDDR::layOutDR()
 {
     auto* group = new QGroupBox("Dead reckoning");
     auto* grid = gridOf(group);
-    addPositionRow(grid, 0, deadReckoning);
-    addPositionRow(grid, 1, deadReckoning + 1);
-    m_txtCDDR.addRow(grid, 2, course);
-    m_txtCDDR.addRow(grid, 3, distance);
+    for (std::size_t field = deadReckoning; field < course; ++field)
+        addPositionRow(grid, field);
+    m_txtCDDR.addRow(grid, rowOf(course), course);
+    m_txtCDDR.addRow(grid, rowOf(distance), distance);
     auto* answers = new AnswerStrip;
     m_lblDR.addAnswer(answers, 0, widestLatitude);
     m_lblDR.addAnswer(answers, 1, widestLongitude);

@@ -27,7 +27,7 @@ private:
     void addOptions();
     QGroupBox* layOutCD();
     QGroupBox* layOutDR();
-    void addPositionRow(QGridLayout* grid, int row, std::size_t field);
+    void addPositionRow(QGridLayout* grid, std::size_t field);
     void addMenus();
     void addDataMenu();
     void addMemoMenus();

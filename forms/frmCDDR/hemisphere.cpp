@@ -4,6 +4,8 @@
 #include "app/reading/Reading.h"
 #include "app/records/KORVEL2000Actions.h"
 
+#include <cmath>
+
 namespace korvel
 {
 
@@ -19,7 +21,7 @@ std::optional<bool> hemisphereOf(std::string_view boxText)
 {
     const double value = readNumber(boxText);
     if (value == 0) return std::nullopt;
-    return value > 0;
+    return !std::signbit(value);
 }
 
 } // namespace korvel

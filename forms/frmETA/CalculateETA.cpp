@@ -63,7 +63,7 @@ ETAResult CalculateETA(const ETAInput& input)
 
     ETALabels labels;
     Passage passage{
-        departure, {readNumber(input.txtTD[0]), readNumber(input.txtTD[1])}, distance, {}, {}};
+        departure, {readNumber(input.txtTD[0]), readNumber(input.txtTD[1])}, distance, {}};
     // Single precision, as the speeds are shown: the arrivals belong to these very values.
     float speed = static_cast<float>(readNumber(input.txtSpeed));
     if (speed == 0)
@@ -71,7 +71,6 @@ ETAResult CalculateETA(const ETAInput& input)
                                 warningsOn(input)})};
     for (std::size_t i = 0; i < labels.lblSPD.size(); ++i, speed += 0.25F) {
         const double hours = NavFunc113::Quotient(distance, static_cast<double>(speed));
-        passage.speeds[i] = static_cast<double>(speed);
         passage.hours[i] = hours;
         labels.lblSPD[i] = Format(static_cast<double>(speed), "0.00 ");
         labels.lblETA[i] = arrivalText(departure + passage.TDChange() / 24 + hours / 24);

@@ -28,8 +28,7 @@ struct Passage {
     NavFunc113::DateTime departure; ///< local
     std::array<double, 2> TD;       ///< hours, at departure and arrival
     double distance;                ///< nautical miles
-    std::array<double, 5> speeds;   ///< knots
-    std::array<double, 5> hours;
+    std::array<double, 5> hours;    ///< at the five speeds
 
     double TDChange() const { return TD[1] - TD[0]; } ///< hours
 };

@@ -14,7 +14,7 @@ namespace korvel
 
 namespace ETAField
 {
-enum : std::size_t { departureTD = 4, arrivalTD, distance, speed };
+enum : std::size_t { departureDate, arrivalDate = 2, departureTD = 4, arrivalTD, distance, speed };
 }
 
 /// The boxes of the ETA window; in this order in the record.

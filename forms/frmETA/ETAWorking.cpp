@@ -45,7 +45,7 @@ Working arrivalsWorking(const ETAResult& result)
         "nearest second, then cut to the minute",
         {"Knots", "Distance, miles", "Hours", "ΔTD, h", "Arrival, local time", "In the window"},
         {}};
-    for (std::size_t i = 0; i < passage.speeds.size(); ++i)
+    for (std::size_t i = 0; i < passage.hours.size(); ++i)
         table.rows.push_back({result.labels->lblSPD[i], memoText(passage.distance),
                               figure(passage.hours[i], 5), memoText(passage.TDChange()),
                               Format(arrivalOf(passage, i), "yyyy-mm-dd hh:mm:ss"),
@@ -61,7 +61,7 @@ PaperTable arrivalsTable(const ETAResult& result)
                       "Local time at arrival, TD " + Format(result.passage->TD[1], "+0.0##;-0.0##"),
                       "In the window"},
                      {}};
-    for (std::size_t i = 0; i < result.passage->speeds.size(); ++i)
+    for (std::size_t i = 0; i < result.passage->hours.size(); ++i)
         table.rows.push_back({result.labels->lblSPD[i],
                               Format(arrivalOf(*result.passage, i), inFull),
                               result.labels->lblETA[i]});

@@ -70,7 +70,7 @@ frmETA::frmETA(Program& program)
     calculations().add({"ETA", m_boxes.all(), shown, [this] { runETA(); }});
     record().useTexts("KV_ETA.ini", m_boxes.all(), [this](Record& texts) {
         for (std::size_t end = 0; end < m_TD.size(); ++end)
-            texts[4 + end] = m_TD[end]->recorded();
+            texts[ETAField::departureTD + end] = m_TD[end]->recorded();
     });
     for (FollowingTD* TD : m_TD)
         TD->awaitRecord();
@@ -144,9 +144,9 @@ QGroupBox* frmETA::layOutPassage()
 {
     auto* group = new QGroupBox("Passage");
     auto* grid = gridOf(group);
-    const auto caption = [grid](int row, const char* text, EntryBox* box) {
-        auto* label = new QLabel(text);
-        label->setBuddy(box);
+    const auto caption = [this, grid](int row, std::size_t field) {
+        auto* label = new QLabel(ETAFields[field].caption);
+        label->setBuddy(m_boxes[field]);
         grid->addWidget(label, row, 0);
     };
     grid->addWidget(columnHead("Date, year/month/day"), 0, 1);
@@ -154,7 +154,7 @@ QGroupBox* frmETA::layOutPassage()
     grid->addWidget(columnHead("Hours earlier or later"), 0, 3, 1, 2);
     int row = 1;
     for (const TimeEntry* entry : {&m_departure, &m_arrival}) {
-        caption(row, row == 1 ? "Departure" : "Arrival wanted", entry->date);
+        caption(row, entry == &m_departure ? ETAField::departureDate : ETAField::arrivalDate);
         grid->addWidget(entry->date, row, 1, Qt::AlignLeft);
         grid->addWidget(entry->time, row, 2, Qt::AlignLeft);
         grid->addWidget(entry->bar, row, 3);
@@ -169,15 +169,15 @@ QGroupBox* frmETA::layOutPassage()
     grid->addWidget(now, 1, 4);
 
     for (std::size_t end = 0; end < m_txtTD.size(); ++end, ++row) {
-        caption(row, end == 0 ? "TD at departure" : "TD at arrival", m_txtTD[end]);
+        caption(row, ETAField::departureTD + end);
         grid->addWidget(m_txtTD[end], row, 1, Qt::AlignLeft);
         grid->addWidget(new QLabel("hours"), row, 2);
         grid->addWidget(m_lblZD[end], row, 3);
     }
-    caption(row, "Distance", m_txtDist);
+    caption(row, ETAField::distance);
     grid->addWidget(m_txtDist, row, 1, Qt::AlignLeft);
     grid->addWidget(new QLabel("miles"), row++, 2);
-    caption(row, "Speed", m_txtSpeed);
+    caption(row, ETAField::speed);
     grid->addWidget(m_txtSpeed, row, 1, Qt::AlignLeft);
     grid->addWidget(new QLabel("knots"), row, 2);
     grid->addWidget(m_scrSpeed, row++, 3);

@@ -27,11 +27,11 @@ struct Pieces {
 /// A number of at most four digits and nothing else; nothing for anything else.
 std::optional<int> digitsOnly(std::string_view text)
 {
-    if (text.empty() || text.size() > 4) return std::nullopt;
-    int value = 0;
+    if (text.size() > 4) return std::nullopt;
+    unsigned value = 0; // takes no sign
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    const bool all = error == std::errc() && end == text.data() + text.size() && value >= 0;
-    return all && text.front() != '-' ? std::optional(value) : std::nullopt;
+    const bool all = error == std::errc() && end == text.data() + text.size();
+    return all ? std::optional(static_cast<int>(value)) : std::nullopt;
 }
 
 /// Cuts the text before the first of the marks off.
@@ -89,7 +89,7 @@ void readDate(std::string_view text, Pieces& pieces)
     if (marks == 1) pieces.month = digitsOnly(takeUntil(text, '/'));
     pieces.day = digitsOnly(text);
     // 2000 is a leap year: 2/29 is a date of some year.
-    if (!pieces.day || marks > 1 || (marks == 1 && !pieces.month) ||
+    if (!pieces.day || (marks == 1 && !pieces.month) ||
         !NavFunc113::IsCivilDate({2000, pieces.month.value_or(1), *pieces.day}))
         pieces.fault = typed + (marks == 0 ? " is no day of a month" : " is no date");
 }
@@ -124,7 +124,7 @@ Pieces piecesOf(std::string_view typed)
 
 /// The most recent day of the pieces that are there: of a time alone the one on which it was last,
 /// of others no more than a day after today.
-std::optional<std::int64_t> dayOf(const Pieces& pieces, NavFunc113::DateTime now)
+std::int64_t dayOf(const Pieces& pieces, NavFunc113::DateTime now)
 {
     const std::int64_t today = NavFunc113::DaySerial(NavFunc113::DateOf(now));
     if (pieces.year) return NavFunc113::DaySerial({*pieces.year, *pieces.month, *pieces.day});
@@ -133,12 +133,11 @@ std::optional<std::int64_t> dayOf(const Pieces& pieces, NavFunc113::DateTime now
         const double clock = NavFunc113::MakeDateTime(NavFunc113::DateOf(now), pieces.seconds);
         return clock > now + watchAhead ? today - 1 : today;
     }
-    constexpr std::int64_t eightYears = 2922; // the longest wait for a 29th of February
-    for (std::int64_t day = today + 1; day >= today - eightYears; --day) {
+    // It ends: the longest wait is that of eight years for a 29th of February.
+    for (std::int64_t day = today + 1;; --day) {
         const CivilDate date = NavFunc113::DateOfSerial(day);
         if (date.day == *pieces.day && date.month == pieces.month.value_or(date.month)) return day;
     }
-    return std::nullopt;
 }
 
 } // namespace
@@ -149,11 +148,14 @@ NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime now)
     if (isBlank(typed)) return {asTyped, {}};
     const Pieces pieces = piecesOf(typed);
     if (!pieces.fault.empty()) return {asTyped, pieces.fault};
-    const auto day = dayOf(pieces, now);
-    if (!day) return {asTyped, asTyped + " is no date of the last years"};
-    const double value = NavFunc113::MakeDateTime(NavFunc113::DateOfSerial(*day), pieces.seconds);
-    return {Format(value, pieces.seconds % 60 == 0 ? "yyyy/mm/dd hh:mm" : "yyyy/mm/dd hh:mm:ss"),
-            {}};
+    const CivilDate date = NavFunc113::DateOfSerial(dayOf(pieces, now));
+    return {fixTimeText(NavFunc113::MakeDateTime(date, pieces.seconds)), {}};
+}
+
+std::string fixTimeText(NavFunc113::DateTime time)
+{
+    const bool isWholeMinute = NavFunc113::TimeOf(time).second == 0;
+    return Format(time, isWholeMinute ? "yyyy/mm/dd hh:mm" : "yyyy/mm/dd hh:mm:ss");
 }
 
 std::optional<NavFunc113::DateTime> readFixTime(std::string_view text)

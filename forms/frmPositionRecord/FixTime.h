@@ -27,6 +27,9 @@ struct NormalisedSMT {
 /// @param now ship's mean time
 NormalisedSMT NormaliseSMT(std::string_view typed, NavFunc113::DateTime now);
 
+/// A time of fix as the box keeps it: yyyy/mm/dd hh:mm, with :ss when it is no whole minute.
+std::string fixTimeText(NavFunc113::DateTime time);
+
 /// The box read as a full date and time; nothing for anything shorter.
 std::optional<NavFunc113::DateTime> readFixTime(std::string_view text);
 

@@ -13,14 +13,13 @@ bool PositionRow::isEmpty() const
 
 bool insertRow(PositionRows& rows, std::size_t at)
 {
-    if (at >= rows.size() || !rows.back().isEmpty()) return false;
+    if (!rows.back().isEmpty()) return false;
     std::rotate(rows.begin() + static_cast<std::ptrdiff_t>(at), rows.end() - 1, rows.end());
     return true;
 }
 
 void deleteRow(PositionRows& rows, std::size_t at)
 {
-    if (at >= rows.size()) return;
     const auto row = rows.begin() + static_cast<std::ptrdiff_t>(at);
     *row = {};
     std::rotate(row, row + 1, rows.end());
@@ -28,7 +27,7 @@ void deleteRow(PositionRows& rows, std::size_t at)
 
 void clearRow(PositionRows& rows, std::size_t at)
 {
-    if (at < rows.size()) rows[at] = {};
+    rows[at] = {};
 }
 
 std::string takeBack(PositionRows& rows, const RowChange& change)

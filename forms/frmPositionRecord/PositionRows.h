@@ -22,7 +22,7 @@ struct PositionRow {
 inline constexpr std::size_t positionRowCount = 29;
 using PositionRows = std::array<PositionRow, positionRowCount>;
 
-/// Opens an empty row at the index and moves those below down by one.
+/// Opens an empty row at the index of a row and moves it and those below down by one.
 /// @return false, and nothing is changed, when the last row is in use: it would be lost
 bool insertRow(PositionRows& rows, std::size_t at);
 

@@ -88,9 +88,7 @@ void PositionTable::show(const PositionRecordResult& record)
         if (m_shown[i] == record.rows[i]) continue;
         const PositionRowResult& shown = m_shown[i] = record.rows[i];
         showRow(i, rowTable, shown);
-        const QString assumed = asQString(shown.assumedTD);
-        if (row(i).satelliteTD->placeholderText() != assumed)
-            row(i).satelliteTD->setPlaceholderText(assumed);
+        row(i).satelliteTD->setPlaceholderText(asQString(shown.assumedTD));
         const bool warned = !shown.remark.empty();
         number(i)->setToolTip(asQString(shown.remark));
         number(i)->setAccessibleDescription(number(i)->toolTip());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/RecordList.h"
 
+#include "app/reading/Ascii.h"
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
 #include "app/reading/Remarks.h"
@@ -80,8 +81,7 @@ public:
         std::string text = m_cells[field];
         if (text.empty()) return std::nullopt;
         std::string shape = text;
-        for (char& each : shape)
-            if (each >= '0' && each <= '9') each = '0';
+        std::ranges::replace_if(shape, isDigit, '0');
         std::optional<DateTime> value;
         if (shape == std::string(timePattern) + std::string(zone)) {
             text.resize(text.size() - zone.size());
@@ -106,10 +106,7 @@ PositionRow boxesOf(const std::optional<DateTime>& smt, const std::optional<doub
                     const std::optional<double>& latitude, const std::optional<double>& longitude)
 {
     PositionRow row;
-    if (smt)
-        row.satelliteSMT =
-            Format(*smt, NavFunc113::TimeOf(*smt).second == 0 ? "yyyy/mm/dd hh:mm"
-                                                              : "yyyy/mm/dd hh:mm:ss");
+    if (smt) row.satelliteSMT = fixTimeText(*smt);
     if (td) row.satelliteTD = Format(*td, "0.0#####");
     if (latitude) row.latitude = packedText(NavFunc113::Degrees(*latitude));
     if (longitude) row.longitude = packedText(NavFunc113::Degrees(*longitude));
@@ -121,7 +118,7 @@ PositionRow boxesOf(const std::optional<DateTime>& smt, const std::optional<doub
 std::string takeLine(Line line, PositionRows& rows, double& above)
 {
     const auto number = line.number(Row, 1, positionRowCount);
-    if (!number && line.fault().empty()) line.refuse(Row, "it is empty");
+    if (!number) line.refuse(Row, "it is empty");
     if (number && *number != std::floor(*number)) line.refuse(Row, "it is no whole number");
     if (number && *number <= above) line.refuse(Row, "the rows are not in their order");
     const auto smt = line.time(SMT, "");
@@ -131,11 +128,11 @@ std::string takeLine(Line line, PositionRows& rows, double& above)
     const auto utc = line.time(UTC, "Z");
     const bool isDue = smt && td;
     if (utc.has_value() != isDue ||
-        (utc && std::fabs(*utc - NavFunc113::NearestSecond(*smt - *td / 24)) > 0.5 / 86400))
+        (utc && NavFunc113::NearestSecond(*utc) != NavFunc113::NearestSecond(*smt - *td / 24)))
         line.refuse(UTC, "it is not SMT less TD");
     line.number(Course, 0, 360);
     for (const std::size_t field : {Distance, HoursOfLeg, Speed})
-        line.number(field, -1e9, 1e9);
+        line.number(field, -HUGE_VAL, HUGE_VAL);
     if (!line.fault().empty()) return line.fault();
     above = *number;
     rows[static_cast<std::size_t>(*number) - 1] = boxesOf(smt, td, latitude, longitude);

@@ -35,8 +35,7 @@ PaperTable rowsInUse(const PositionRecordInput& input, const PositionRecordResul
         const PositionRowResult& shown = result.rows[i];
         if (row.isEmpty()) continue;
         table.rows.push_back({numberOfRow(i), instantOr(shown.read.smt, row.satelliteSMT),
-                              timeDifferenceOfBox(row.satelliteTD, shown.assumedTD),
-                              instantOr(shown.read.utc, shown.utc),
+                              timeDifferenceOf(row, shown), instantOr(shown.read.utc, shown.utc),
                               positionOfBox(row.latitude, Axis::Latitude),
                               positionOfBox(row.longitude, Axis::Longitude), shown.remark});
     }

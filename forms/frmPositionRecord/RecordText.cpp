@@ -22,9 +22,9 @@ std::string positionOfBox(const std::string& box, Axis axis)
     return isNumeric(box) ? positionForCopy(NavFunc113::DegMin(readNumber(box)), axis) : box;
 }
 
-std::string timeDifferenceOfBox(const std::string& box, const std::string& assumed)
+std::string timeDifferenceOf(const PositionRow& row, const PositionRowResult& shown)
 {
-    const std::string& text = assumed.empty() ? box : assumed;
+    const std::string& text = shown.assumedTD.empty() ? row.satelliteTD : shown.assumedTD;
     return isNumeric(text) ? Format(readNumber(text), "+0.0#;-0.0#") : text;
 }
 
@@ -37,7 +37,7 @@ std::string positionRecordText(const PositionRecordInput& input, const PositionR
         const PositionRowResult& shown = result.rows[i];
         if (row.isEmpty()) continue;
         text += Format(static_cast<double>(i + 1), "0") + "\t" + row.satelliteSMT + "\t" +
-                timeDifferenceOfBox(row.satelliteTD, shown.assumedTD) + "\t" + shown.utc + "\t" +
+                timeDifferenceOf(row, shown) + "\t" + shown.utc + "\t" +
                 positionOfBox(row.latitude, Axis::Latitude) + "\t" +
                 positionOfBox(row.longitude, Axis::Longitude) + "\t" + shown.course + "\t" +
                 shown.distance + "\t" + shown.hours + "\t" + shown.speed + "\t" + shown.dayRun +

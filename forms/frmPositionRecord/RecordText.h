@@ -15,8 +15,7 @@ std::string positionRecordText(const PositionRecordInput& input,
 /// A box of a position in full, "35°30.5'N"; as typed when it holds no number.
 std::string positionOfBox(const std::string& box, Axis axis);
 
-/// The time difference of a row with its sign, "+9.0".
-/// @param assumed where the box is empty
-std::string timeDifferenceOfBox(const std::string& box, const std::string& assumed);
+/// The time difference of a row with its sign, "+9.0": where its box is empty, the one assumed.
+std::string timeDifferenceOf(const PositionRow& row, const PositionRowResult& shown);
 
 } // namespace korvel

@@ -17,7 +17,8 @@ namespace
 using NavFunc113::DateTime;
 using NavFunc113::DegMin;
 
-constexpr double clockLeeway = 2.0 / 1440; ///< days by which the ship's clock may be slow
+/// Days by which the ship's clock may be slow.
+constexpr double clockLeeway = NavFunc113::DaysOfHours(NavFunc113::Hours(2.0 / 60));
 
 std::optional<DegMin> angleIn(const std::string& box, const NumberField& field, std::string& remark)
 {
@@ -40,8 +41,7 @@ std::optional<double> timeDifferenceIn(const std::string& box, std::string& rema
     const auto value = numberIn(box, RowField::timeDifference, remark);
     const auto typed = readLeadingNumber(box);
     // Zones differ by whole quarters of an hour: 9.3 was hardly meant as 9 h 18 min.
-    if (value && std::fabs(*value * 4 - std::round(*value * 4)) > 1e-9)
-        say(remark, "TD of " + hoursAndMinutes(*value));
+    if (value && std::fmod(*value, 0.25) != 0) say(remark, "TD of " + hoursAndMinutes(*value));
     // Clocks of +13 show the same time of day as those of -11, a day later.
     if (!value && typed && std::fabs(*typed) <= 15)
         say(remark, *typed > 0

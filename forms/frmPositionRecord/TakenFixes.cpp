@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/RecordPaper.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 #include "navlib/datetime.h"
@@ -20,9 +21,8 @@ PositionRow rowOf(const ObservedFix& fix, double TD)
 {
     const NavFunc113::DateTime SMT =
         dateTimeOf(fix.utc) + NavFunc113::DaysOfHours(NavFunc113::Hours(TD));
-    const bool isWholeMinute = NavFunc113::TimeOf(SMT).second == 0;
-    return {Format(SMT, isWholeMinute ? "yyyy/mm/dd hh:mm" : "yyyy/mm/dd hh:mm:ss"),
-            Format(TD, "0.0#####"), Format(fix.latitude, "0.000"), Format(fix.longitude, "0.000")};
+    return {fixTimeText(SMT), Format(TD, "0.0#####"), Format(fix.latitude, "0.000"),
+            Format(fix.longitude, "0.000")};
 }
 
 } // namespace
@@ -67,11 +67,11 @@ const ObservedFix* frmPositionRecord::fixOfRow(std::size_t row) const
 {
     const auto read = std::ranges::find(m_shown.fixes, row, &RecordedFix::row);
     if (read == m_shown.fixes.end()) return nullptr;
+    const auto written = [](NavFunc113::DegMin angle) { return Format(angle, "0.#####"); };
     const auto same = [&](const ObservedFix& fix) {
-        constexpr double second = 1.0 / 86400, digit = 1e-6;
-        return std::abs(dateTimeOf(fix.utc) - read->utc) < second &&
-               std::abs(fix.latitude.packed() - read->latitude.packed()) < digit &&
-               std::abs(fix.longitude.packed() - read->longitude.packed()) < digit;
+        return NavFunc113::NearestSecond(dateTimeOf(fix.utc)) == read->utc &&
+               written(fix.latitude) == written(read->latitude) &&
+               written(fix.longitude) == written(read->longitude);
     };
     const auto found = std::ranges::find_if(m_observed, same);
     return found == m_observed.end() ? nullptr : &*found;

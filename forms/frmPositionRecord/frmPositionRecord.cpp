@@ -212,7 +212,6 @@ PositionRecordInput frmPositionRecord::input() const
 void frmPositionRecord::run()
 {
     if (m_filling) return;
-    m_shown = {};
     m_shown = CalculatePositionRecord(input(), m_memory);
     m_table->show(m_shown);
     m_results.show(m_shown);

@@ -5,7 +5,7 @@
 
 #include "tests/golden/Golden.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace korvel
 {
@@ -13,6 +13,7 @@ namespace
 {
 
 using namespace korvel::testing;
+using ::testing::HasSubstr;
 
 TEST(CalculateCD, coursesAndDistances)
 {
@@ -23,6 +24,7 @@ TEST(CalculateCD, coursesAndDistances)
         EXPECT_EQ(result.course, row.text("course")) << row;
         EXPECT_EQ(result.distance, row.text("distance")) << row;
         EXPECT_EQ(result.notice.empty(), !result.distance.empty()) << row << result.notice;
+        EXPECT_THAT(result.notice, HasSubstr(row.text("notice"))) << row;
     }
 }
 
@@ -35,6 +37,7 @@ TEST(CalculateDR, positionsReached)
         EXPECT_EQ(result.latitude, row.text("latitude")) << row;
         EXPECT_EQ(result.longitude, row.text("longitude")) << row;
         EXPECT_EQ(result.notice.empty(), !result.longitude.empty()) << row << result.notice;
+        EXPECT_THAT(result.notice, HasSubstr(row.text("notice"))) << row;
     }
 }
 

@@ -35,7 +35,8 @@ std::map<std::string, std::string> shown(const Golden& row)
     std::map<std::string, std::string> texts = {{"notice", arrival.notice},
                                                 {"ETA", "left"},
                                                 {"speeds", "left"},
-                                                {"required", required.speed.value_or("left")}};
+                                                {"required", required.speed.value_or("left")},
+                                                {"requiredNotice", required.notice}};
     if (arrival.labels) {
         texts["ETA"] = texts["speeds"] = "";
         for (std::size_t i = 0; i < 5; ++i) {
@@ -53,6 +54,10 @@ TEST(CalculateETA, arrivalsAndTheSpeedRequired)
     EXPECT_FALSE(
         CalculateETA({"2024/1/1", "08:00", {"9", "9"}, std::string(400, '9'), "10"}).labels)
         << "no number holds it";
+    EXPECT_EQ(CalculateReqSpd(
+                  {{"2024/1/1", "08:00", "2024/1/2", "08:00"}, {"9", "9"}, std::string(400, '9')})
+                  .notice,
+              "A number is too large.");
 }
 
 TEST(Steps, timesMoveByWholeHours)
@@ -78,7 +83,12 @@ TEST(Steps, speedsMoveByQuarterKnots)
 {
     EXPECT_EQ(speedOfStep(51), "12.75");
     EXPECT_EQ(stepOfSpeed("12.8"), 51);
-    EXPECT_EQ(stepOfSpeed(std::string(400, '9')), speedStepLimit);
+    EXPECT_EQ(stepOfSpeed("0.2"), 1);
+    EXPECT_EQ(stepOfSpeed("-3"), 0);
+    EXPECT_EQ(stepOfSpeed(std::string(400, '9')), 200) << "50 knots";
+    EXPECT_EQ(speedOnLeaving("0"), "0.00");
+    EXPECT_EQ(speedOnLeaving("0.1"), std::nullopt) << "under way";
+    EXPECT_EQ(speedOnLeaving("x"), std::nullopt);
     EXPECT_EQ(speedOnLeaving("12.62"), "12.50");
     EXPECT_EQ(speedOnLeaving("12.625"), "12.75");
     EXPECT_EQ(speedOnLeaving("50"), "50.00");

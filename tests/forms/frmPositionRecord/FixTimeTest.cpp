@@ -28,7 +28,13 @@ TEST(FixTime, shortFormsBecomeFullOnes)
                 {" 09:30:15 ", "2024/03/13 09:30:15"},
                 {"0000", "2024/03/13 00:00"},
                 {"1358", "2024/03/13 13:58"}, // by a watch that is fast
+                {"13:58:18", "2024/03/13 13:58:18"},
+                {"13:58:22", "2024/03/12 13:58:22"},
                 {"1359", "2024/03/12 13:59"},
+                {"09:30:59", "2024/03/13 09:30:59"},
+                {"0009:30", "2024/03/13 09:30"},
+                {"14 - 0930", "2024/03/14 09:30"},
+                {"2199/12/31 2359", "2199/12/31 23:59"},
                 {"2359", "2024/03/12 23:59"}, // no fix of tonight yet
                 {"13-2359", "2024/03/13 23:59"},
                 {"14-0930", "2024/03/14 09:30"}, // a day ahead: beyond the date line it is tomorrow
@@ -50,6 +56,8 @@ TEST(FixTime, shortFormsBecomeFullOnes)
     EXPECT_EQ(NormaliseSMT("31-0930", at(2023, 12, 30)).text, "2023/12/31 09:30");
     EXPECT_EQ(NormaliseSMT("1-0930", at(2023, 12, 31)).text, "2024/01/01 09:30") << "over New Year";
     EXPECT_EQ(NormaliseSMT("2359", at(2024, 1, 1)).text, "2023/12/31 23:59");
+    EXPECT_EQ(NormaliseSMT("2/29-0930", at(2104, 2, 27)).text, "2096/02/29 09:30")
+        << "2100 is no leap year";
     EXPECT_EQ(NormaliseSMT("", today).text, "");
     EXPECT_EQ(NormaliseSMT("", today).fault, "");
 }
@@ -71,6 +79,13 @@ TEST(FixTime, whatMakesNoSenseIsNamedAndKept)
                 {"1899/12/31 0930", "before 1900"},
                 {"2024/5/1", "the time is missing"},
                 {"09", "is no time"},
+                {"9:30:", "is no time"},
+                {"9:30:x", "is no time"},
+                {"x:30", "is no time"},
+                {"00009:30", "is no time"},
+                {"9:30:15:1", "is no time"},
+                {"x/5 0930", "x/5 is no date"},
+                {"1/2/3/4 0930", "1/2/3/4 is no date"},
                 {"-0930", "is no day of a month"},
                 {"14-09a0", "is no time"},
                 {"99999999999-0930", "is no day of a month"}};

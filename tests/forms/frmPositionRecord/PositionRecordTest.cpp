@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/RecordList.h"
+#include "forms/frmPositionRecord/RecordMemory.h"
 #include "forms/frmPositionRecord/RecordText.h"
 
 #include "tests/golden/Golden.h"
@@ -7,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <sstream>
 
 namespace korvel
 {
@@ -40,6 +43,10 @@ void type(PositionRecordInput& input, const GoldenPair& box)
         input.courseSteered = box.text;
     else if (box.name == "speed")
         input.speedSteered = box.text;
+    else if (box.name == "typing")
+        input.typingTimeIn = std::stoul(box.text) - 1;
+    else if (box.name == "now")
+        input.now = readFixTime(box.text);
     else {
         PositionRow& row = input.rows.at(std::stoul(box.name) - 1);
         const std::string name = box.name.substr(2);
@@ -65,6 +72,7 @@ std::map<std::string, std::string> shown(const PositionRecordResult& record)
         const PositionRowResult& row = record.rows[i];
         const std::string number = std::to_string(i + 1) + ".";
         texts[number + "utc"] = row.utc;
+        texts[number + "assumed"] = row.assumedTD;
         texts[number + "course"] = row.course;
         texts[number + "miles"] = row.distance;
         texts[number + "hours"] = row.hours;
@@ -78,11 +86,16 @@ std::map<std::string, std::string> shown(const PositionRecordResult& record)
 
 TEST(PositionRecord, whatTheRowsShow)
 {
+    RecordMemory memory;
     for (const Golden& row : golden("position_record")) {
         PositionRecordInput input;
         for (const GoldenPair& box : row.pairs("typed"))
             type(input, box);
         expectTexts(row, "shows", shown(CalculatePositionRecord(input)));
+        // Whatever was typed before.
+        EXPECT_EQ(shown(CalculatePositionRecord(input, memory)),
+                  shown(CalculatePositionRecord(input)))
+            << row;
     }
 }
 
@@ -123,12 +136,10 @@ TEST(PositionRecord, rowsAreOpenedClosedAndCleared)
     input.rows.back().longitude = "1";
     const PositionRows full = input.rows;
     EXPECT_FALSE(insertRow(input.rows, 0)) << "the last row would be lost";
-    EXPECT_FALSE(insertRow(input.rows, positionRowCount));
     EXPECT_EQ(input.rows, full);
     deleteRow(input.rows, positionRowCount - 1);
     EXPECT_TRUE(input.rows.back().isEmpty());
     EXPECT_TRUE(insertRow(input.rows, positionRowCount - 1));
-    clearRow(input.rows, positionRowCount);
 }
 
 TEST(PositionRecord, copiedText)
@@ -146,6 +157,35 @@ TEST(PositionRecord, copiedText)
     EXPECT_EQ(std::ranges::count(text, '\n'), 9);
 }
 
+/// "2024/05/01 12:00|9.0|35.0|142.0".
+PositionRow boxesIn(const std::string& text)
+{
+    std::istringstream cells(text);
+    PositionRow row;
+    for (std::string PositionRow::*cell : {&PositionRow::satelliteSMT, &PositionRow::satelliteTD,
+                                           &PositionRow::latitude, &PositionRow::longitude})
+        std::getline(cells, row.*cell, '|');
+    return row;
+}
+
+TEST(PositionRecord, aListNamesItsRowsAndHasNoSpeedWithoutHours)
+{
+    PositionRecordInput input = fourDays();
+    input.rows[1] = {};
+    input.rows[2].satelliteSMT = "2024/05/01 13:00"; // the same moment as the first
+    const PositionRecordResult result = CalculatePositionRecord(input);
+    const ExportTable list = recordList(input, result);
+    ASSERT_EQ(list.rows.size(), 3U);
+    EXPECT_EQ(list.rows[0][8], "0.0000");
+    EXPECT_EQ(list.rows[0][9], "");
+    EXPECT_EQ(list.rows[2][6], "") << "nothing follows";
+    const ExportLine track = trackOf(result);
+    ASSERT_EQ(track.points.size(), 3U);
+    EXPECT_EQ(track.points[0].name, "row 1");
+    EXPECT_EQ(track.points[1].name, "row 3");
+    EXPECT_DOUBLE_EQ(track.points[1].latitude.value(), 38 + 5 / 60.0);
+}
+
 TEST(PositionRecord, aSavedListIsReadWholeOrNotAtAll)
 {
     auto input = fourDays();
@@ -153,12 +193,23 @@ TEST(PositionRecord, aSavedListIsReadWholeOrNotAtAll)
         input.rows[i] = {};
     const std::string list = csvText(recordList(input, CalculatePositionRecord(input)));
     EXPECT_EQ(readRecordList(list).rows[2].latitude, "38.05");
+    const std::string heading = list.substr(0, list.find('\n') + 1);
+    std::string unclosed = list;
+    unclosed.insert(unclosed.find("row,") + 4, "\"").insert(unclosed.find(",TD"), "\"x");
+    for (const auto& [text, fault] : {std::pair(std::string(), "line 1: it is not the heading"),
+                                      {"row" + heading, "line 1: it is not the heading"},
+                                      {unclosed, "line 1: it is not the heading"},
+                                      {heading, "line 2: there is no row"}})
+        EXPECT_THAT(readRecordList(text).fault, HasSubstr(fault)) << text;
     for (const Golden& row : golden("record_lists")) {
         std::string line = row.text("line");
         std::ranges::replace(line, '\'', '"');
         const ReadList read = readRecordList(list + line + "\r\n");
         EXPECT_EQ(read.rows == PositionRows{}, !row.text("says").empty()) << row << read.fault;
         EXPECT_THAT(read.fault, HasSubstr(row.text("says"))) << row;
+        if (row.has("boxes")) {
+            EXPECT_THAT(read.rows, ::testing::Contains(boxesIn(row.text("boxes")))) << row;
+        }
         // Cut off behind its last field.
         const ReadList cut = readRecordList(list + line);
         EXPECT_EQ(cut.rows, read.rows) << row;

@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
+#include "navlib/datetime.h"
+#include "shell/controls/NoticeLine.h"
+#include "shell/screen/ColourScheme.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
 #include <QScrollArea>
 #include <QTest>
+
+#include <sstream>
+#include <utility>
 
 namespace korvel
 {
@@ -13,6 +19,9 @@ namespace
 {
 
 using namespace korvel::testing;
+using NavFunc113::DegMin;
+using ::testing::HasSubstr;
+using ::testing::Not;
 
 class frmPositionRecordTest : public WindowTest
 {
@@ -21,7 +30,126 @@ protected:
     {
         return memberName(array, row).toStdString();
     }
+
+    /// A row of the record, its boxes parted by semicolons.
+    static void typeFix(const QWidget& record, int row, const std::string& boxes)
+    {
+        std::istringstream cells(boxes);
+        for (const char* box : {"txtSatelliteSMT", "txtSatelliteTD", "txtLat", "txtLong"}) {
+            std::string cell;
+            std::getline(cells, cell, ';');
+            type(record, at(box, row), cell);
+        }
+    }
+
+    static std::string notice(const QWidget& window) { return text(window, "lblNotice"); }
+
+    static ObservedFix observed(int second)
+    {
+        return {DegMin(35.305), DegMin(-142.031),
+                instantOf(NavFunc113::MakeDateTime({2024, 5, 1}, 3 * 3600 + second)),
+                "Fix, 3 lines", "95 %: 1.0 x 0.5 nm"};
+    }
 };
+
+TEST_F(frmPositionRecordTest, anObservedFixGoesBelowTheLastRowAndKeepsItsKind)
+{
+    auto* window = &open<frmPositionRecord>();
+    EXPECT_EQ(focused(), "txtSatelliteSMT(0)");
+    type(*window, "txtLat(3)", "1");
+    program().fixForRecord = observed(30);
+    emit program().fixOffered();
+    const auto row = [&window] {
+        return text(*window, "txtSatelliteSMT(4)") + ";" + text(*window, "txtSatelliteTD(4)") +
+               ";" + text(*window, "txtLat(4)") + ";" + text(*window, "txtLong(4)");
+    };
+    const std::string taken = row();
+    EXPECT_EQ(taken, "2024/05/01 12:00:30;9.0;35.305;-142.031");
+    EXPECT_EQ(focused(), "txtSatelliteSMT(4)");
+    EXPECT_THAT(notice(*window), HasSubstr("Row 5: Fix, 3 lines; 95 %"));
+    for (const char* other :
+         {"2024/05/01 12:00:31;9;35.305;-142.031", "2024/05/01 12:00:30;9;35.306;-142.031",
+          "2024/05/01 12:00:30;9;35.305;-142.03", "2024/05/01 12:00:30;10;35.305;-142.031"}) {
+        typeFix(*window, 4, other);
+        control(*window, "txtLat(4)").setFocus();
+        control(*window, "txtLat(3)").setFocus();
+        control(*window, "txtLat(4)").setFocus();
+        EXPECT_THAT(notice(*window), Not(HasSubstr("Fix, 3 lines"))) << other;
+    }
+    typeFix(*window, 4, taken);
+    close(*window);
+    window = &open<frmPositionRecord>();
+    control(*window, "txtLat(4)").setFocus();
+    EXPECT_THAT(notice(*window), HasSubstr("Row 5: Fix, 3 lines; 95 %"));
+
+    type(*window, "txtLat(28)", "1");
+    program().fixForRecord = observed(0);
+    emit program().fixOffered();
+    EXPECT_THAT(notice(*window), HasSubstr("Row 29 is in use: the fix was not taken"));
+    type(*window, "txtLat(28)", "");
+    EXPECT_THAT(notice(*window), Not(HasSubstr("Row 29")));
+    program().fixForRecord = observed(0);
+    emit program().fixOffered();
+    EXPECT_EQ(text(*window, "txtSatelliteSMT(5)"), "2024/05/01 12:00");
+}
+
+TEST_F(frmPositionRecordTest, theProgramKnowsTheShipByTheLastFixThatIsNotAhead)
+{
+    clock.time = NavFunc113::MakeDateTime({2024, 5, 3}, 12 * 3600); // of TD 9
+    const auto& window = open<frmPositionRecord>();
+    const ShipNow& ship = program().shipNow;
+    EXPECT_FALSE(ship.fix());
+    typeFix(window, 0, "2024/05/02 12:00;9;36.3;148.15");
+    typeFix(window, 1, "2024/05/01 12:00;9;35;142");
+    ASSERT_TRUE(ship.fix());
+    EXPECT_EQ(ship.fix()->latitude, DegMin(36.3)) << "the last by time";
+    EXPECT_EQ(ship.fix()->longitude, DegMin(148.15));
+    typeFix(window, 2, "2024/05/03 12:01;9;37;149");
+    EXPECT_EQ(ship.fix()->latitude, DegMin(36.3)) << "a minute ahead";
+    typeFix(window, 2, "2024/05/03 12:00;9;37;149");
+    EXPECT_EQ(ship.fix()->latitude, DegMin(37)) << "of this moment";
+
+    EXPECT_FALSE(ship.motion());
+    const auto known = [&ship] {
+        return ship.motion()
+                   ? std::pair(ship.motion()->course.value(), ship.motion()->speed.value())
+                   : std::pair(-1.0, -1.0);
+    };
+    const auto steer = [&](const char* course, const char* speed) {
+        type(window, "txtSpeedSteered", "x");
+        type(window, "txtCourseSteered", course);
+        type(window, "txtSpeedSteered", speed);
+        return known();
+    };
+    EXPECT_EQ(steer("0", "0"), std::pair(0.0, 0.0));
+    EXPECT_EQ(steer("360", "100"), std::pair(360.0, 100.0));
+    for (const auto& [course, speed] :
+         {std::pair("360.5", "12"), {"-0.5", "12"}, {"90", "100.5"}, {"90", "-0.5"}, {"x", "12"}})
+        EXPECT_EQ(steer(course, speed), std::pair(360.0, 100.0)) << course << " at " << speed;
+}
+
+TEST_F(frmPositionRecordTest, aRowThatCountsIsInDoubtAndOneThatDoesNotIsAtFault)
+{
+    auto& window = open<frmPositionRecord>();
+    auto& line = dynamic_cast<NoticeLine&>(control(window, "lblNotice"));
+    auto& number = control(window, "lblRow(0)");
+    const auto colour = [&number] { return number.palette().color(number.foregroundRole()); };
+    typeFix(window, 0, "2004/05/01 12:00;9.3;35;142");
+    EXPECT_EQ(line.level(), NoticeLevel::Remark);
+    EXPECT_EQ(number.toolTip(), "TD of 9 h 18 min");
+    EXPECT_EQ(number.accessibleDescription(), "TD of 9 h 18 min");
+    EXPECT_EQ(colour(), program().colours().notice);
+    program().screen().toggleNight();
+    EXPECT_EQ(colour(), program().colours().notice);
+    for (const char* row : {"2004/05/01 12:00;9.3;x;142", "2004/05/01 12:00;9.3;35;x",
+                            "2004/05/01 12:00;13;35;142"}) {
+        typeFix(window, 0, row);
+        EXPECT_EQ(line.level(), NoticeLevel::Fault) << row;
+    }
+    typeFix(window, 0, "2004/05/01 12:00;9;35;142");
+    EXPECT_EQ(line.level(), std::nullopt);
+    EXPECT_NE(colour(), program().colours().notice);
+}
 
 TEST_F(frmPositionRecordTest, enterGoesThroughTheRowsAndTheFocusStaysInSight)
 {
