@@ -49,7 +49,7 @@ std::string faultText(const std::string& file, std::int64_t line, int field,
             throw TideDataFault(factorsFileName, line + 1, 0,
                                 "the line ends with LF alone. Every line must be 44 characters and "
                                 "CR LF: lines are found by their byte positions.");
-        if (characters != charactersOfLine && !(last && characters == 0))
+        if (characters != charactersOfLine)
             throw TideDataFault(factorsFileName, line + 1, 0,
                                 "the line has " + std::to_string(characters) +
                                     " characters, not 44.");

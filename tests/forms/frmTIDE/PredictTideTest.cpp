@@ -110,6 +110,23 @@ TEST_F(PlainTide, pictureAndWhatThePointerReads)
     EXPECT_EQ(picture.levelLines.size(), 5u) << "1 to 5; 0 is the solid line";
     EXPECT_EQ(picture.fineLevelLines.size(), 3u + 20 + 0) << "-0.6 to 5.1 in fifths";
     EXPECT_EQ(picture.curve[48].x, 24);
+    const auto expectLine = [](const CurveLine& line, CurvePoint from, CurvePoint to) {
+        EXPECT_NEAR(line.from.x, from.x, 1e-9);
+        EXPECT_NEAR(line.from.y, from.y, 1e-9);
+        EXPECT_NEAR(line.to.x, to.x, 1e-9);
+        EXPECT_NEAR(line.to.y, to.y, 1e-9);
+    };
+    expectLine(picture.zeroLine, {0, 0}, {24, 0});
+    expectLine(picture.levelLines.front(), {0, 1}, {24, 1});
+    expectLine(picture.fineLevelLines.front(), {0, -0.6}, {24, -0.6});
+    ASSERT_EQ(picture.hourLines.size(), 11u);
+    expectLine(picture.hourLines.back(), {22, -0.6}, {22, 5.1});
+    EXPECT_EQ(picture.lblTime[0].caption, "2");
+    EXPECT_NEAR(picture.lblTime[10].left, 21.7, 1e-9);
+    ASSERT_EQ(picture.ticks.size(), 47u) << "none at the ends of the day";
+    const double half = 0.057; // a hundredth of the scale
+    expectLine(picture.ticks.front(), {0.5, shown.values[1] - half}, {0.5, shown.values[1] + half});
+    EXPECT_TRUE(picture.furtherLevels.empty());
 
     EXPECT_EQ(readCurve(shown, 24)->text, "24:00  3.60m");
     EXPECT_EQ(readCurve(shown, 5.999)->text, "06:00  0.60m");
@@ -123,9 +140,24 @@ TEST_F(PlainTide, pictureAndWhatThePointerReads)
     picture = DrawCurve(stream);
     EXPECT_NEAR(picture.scale.bottom, -2.6, 1e-9);
     EXPECT_EQ(picture.lblHeight[0].caption, "0 kn.");
+    ASSERT_EQ(picture.furtherLevels.size(), 2u);
+    EXPECT_EQ(picture.furtherLevels[0].caption, "-2 kn.");
+    EXPECT_EQ(picture.furtherLevels[1].top, -1);
     EXPECT_EQ(readCurve(stream, 0)->text, "00:00  2.0kn West");
     EXPECT_EQ(readCurve(stream, 6)->text, "06:00  2.0kn East") << "an ebb sets the other way";
     EXPECT_EQ(readCurve(stream, 3)->text, "03:00  0.0kn slack");
+    this->stream("8,0.06,0,0,0,0,0,0,0,0,0,0,0,0,300");
+    EXPECT_EQ(readCurve(predictStream(), 3)->text, "03:00  0.1kn WNW");
+    this->stream("8,-0.06,0,0,0,0,0,0,0,0,0,0,0,0,300");
+    EXPECT_EQ(readCurve(predictStream(), 3)->text, "03:00  0.1kn ESE") << "past north";
+    this->stream("8,0.04,0,0,0,0,0,0,0,0,0,0,0,0,300");
+    EXPECT_EQ(readCurve(predictStream(), 3)->text, "03:00  0.0kn slack");
+    tide("9,8,0,0,0,4,0,0,0,0" + corrections); // to 12.1 m
+    picture = DrawCurve(predictTide("2003/01/31"));
+    EXPECT_EQ(picture.levelLines.size(), 10u) << "beyond 10 they would be a grey field";
+    ASSERT_EQ(picture.furtherLevels.size(), 5u) << "above 5, where the labels end";
+    EXPECT_EQ(picture.furtherLevels.front().caption, "6 m");
+    EXPECT_EQ(picture.furtherLevels.back().top, 10);
 }
 
 TEST(TideDates, followTheFactorsFile)

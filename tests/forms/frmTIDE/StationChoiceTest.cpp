@@ -7,9 +7,14 @@
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
+#include "app/reading/Format.h"
+#include "app/reading/Reading.h"
 #include "forms/frmTIDE/data/TideDates.h"
+#include "navlib/angles.h"
 
-#include <cmath>
+#include <algorithm>
+#include <string>
+#include <vector>
 
 namespace korvel
 {
@@ -31,6 +36,28 @@ TEST(StationSearch, byName)
     EXPECT_EQ(allStations().size(), 114u + 7);
 }
 
+TEST(StationSearch, whatIsSaidOfIt)
+{
+    const struct {
+        const char* typed;
+        const char* first;
+        const char* notice;
+    } rows[] = {
+        {"", "", ""},
+        {"zzz", "", "No station has \"zzz\" (three letters at least)"},
+        {"us", "", "No station has \"us\" (three letters at least)"},
+        {"honolulu", "Honolulu", ""},
+        {"brothers", "Brothers", "Found too: Brothers (stream)"},
+        {"yok", "Yokohama", "Found too: Yokosuka, Yokkaichi"},
+    };
+    for (const auto& row : rows) {
+        const SearchAnswer answer = answerSearch(row.typed);
+        EXPECT_EQ(answer.first ? answer.first->place : "", row.first) << row.typed;
+        EXPECT_EQ(answer.notice, row.notice) << row.typed;
+    }
+    EXPECT_TRUE(answerSearch("brothers").first->TideMode);
+}
+
 TEST(StationSearch, byDistance)
 {
     const StationList list(TideFolder::shipped());
@@ -49,6 +76,39 @@ TEST(StationSearch, byDistance)
     const auto durban = std::ranges::find(fromCape, "Durban", &NearStation::place);
     EXPECT_NEAR(durban->distance.value(), 690, 10);
     EXPECT_EQ(fromCape.size(), 114u);
+    // Along a meridian a degree is 60 miles.
+    const double durbanLatitude = list.notesOf("Durban")->latitude->value();
+    const NavFunc113::Degrees northOfIt(durbanLatitude + 10);
+    const NavFunc113::DegMin meridian = DegToDegMin(*list.notesOf("Durban")->longitude);
+    const auto onMeridian = nearestStations(list, DegToDegMin(northOfIt), meridian, 200);
+    EXPECT_NEAR(std::ranges::find(onMeridian, "Durban", &NearStation::place)->distance.value(), 600,
+                0.01);
+}
+
+TEST(StationList, errorsStandInTheirColumns)
+{
+    TideFolder beside;
+    beside.write("accuracy.txt", "# place, errors\r\n\r\nX\t0.1\t0.2\t0.3\t4\t5\r\n");
+    beside.write("stations.txt", "X\tA\t\tfrom here\tfree\t1.5\t-2.5\testimated\trecord\n"
+                                 "Y\tB\tlarge\tfrom there");
+    const StationList list(beside.files);
+    const MethodError error = list.errorOf("X").value();
+    EXPECT_EQ(error.rms, 0.1);
+    EXPECT_EQ(error.highRms, 0.2);
+    EXPECT_EQ(error.lowRms, 0.3);
+    EXPECT_EQ(error.highMinutes, 4);
+    EXPECT_EQ(error.lowMinutes, 5);
+    EXPECT_FALSE(list.errorOf("Y"));
+    const StationNotes& x = *list.notesOf("X");
+    EXPECT_EQ(x.grade + x.uncertainty + x.source + x.licence, "Afrom herefree");
+    EXPECT_EQ(x.latitude, NavFunc113::Degrees(1.5));
+    EXPECT_EQ(x.longitude, NavFunc113::Degrees(-2.5));
+    EXPECT_TRUE(x.isLevelEstimated);
+    EXPECT_FALSE(x.areMonthsEstimated);
+    EXPECT_EQ(list.notesOf("Y")->source, "from there") << "the last line without its end";
+    EXPECT_FALSE(list.notesOf("Y")->latitude);
+    EXPECT_TRUE(nearestStations(list, NavFunc113::DegMin(0), NavFunc113::DegMin(0), 9).empty())
+        << "of no menu";
 }
 
 TEST(StationCheck, everyFieldIsNamedAndJudged)
@@ -96,6 +156,83 @@ TEST(StationCheck, everyFieldIsNamedAndJudged)
     EXPECT_EQ(stream.fields[4].unit, "kn");
     EXPECT_THAT(checkStation(beside.files, TideKind::Tide, "Bombay").summary(),
                 HasSubstr("there is no such file"));
+}
+
+/// Fields of a station file behind its title: what each is, and what it may be.
+struct FieldSaid {
+    const char* name;
+    const char* unit;
+    const char* low;
+    const char* high;
+};
+
+void expectJudged(TideKind kind, const std::vector<FieldSaid>& said)
+{
+    TideFolder beside;
+    const std::string file =
+        kind == TideKind::Tide ? tideFileName("Brothers") : streamFileName("Brothers");
+    const auto checkedWith = [&](std::size_t field, const std::string& value) {
+        std::string content = "Brothers";
+        for (std::size_t i = 0; i < said.size(); ++i)
+            content += "," + (i == field ? value : "0");
+        beside.write(file, content);
+        return checkStation(beside.files, kind, "Brothers");
+    };
+    for (std::size_t i = 0; i < said.size(); ++i) {
+        const FieldSaid& field = said[i];
+        SCOPED_TRACE(field.name);
+        for (const char* good : {field.low, field.high})
+            EXPECT_EQ(checkedWith(i, good).doubts(), "") << good;
+        const std::string below = Format(readNumber(field.low) - 0.01, "0.##");
+        const std::string above = Format(readNumber(field.high) + 0.01, "0.##");
+        for (const std::string& bad : {below, above}) {
+            const StationCheck check = checkedWith(i, bad);
+            const std::string verdict =
+                "not within " + std::string(field.low) + " to " + field.high + " " + field.unit;
+            EXPECT_EQ(check.doubts(), file + ": 1 of " + std::to_string(said.size() + 1) +
+                                          " fields lies outside what such a figure can be. Field " +
+                                          std::to_string(i + 2) + ", " + field.name + " " + bad +
+                                          ": " + verdict + ".");
+            EXPECT_EQ(check.fields.at(i + 1).unit, field.unit);
+        }
+    }
+}
+
+TEST(StationCheck, everyFieldHasItsNameUnitAndRange)
+{
+    std::vector<FieldSaid> tide = {
+        {"Zone time, east positive", "h", "-12", "14"},
+        {"Mean level above chart datum", "m", "-1", "12"},
+        {"Phase of M2", "degrees", "0", "360"},
+        {"Amplitude of M2", "m", "0", "6"},
+        {"Phase of S2", "degrees", "0", "360"},
+        {"Amplitude of S2", "m", "0", "6"},
+        {"Phase of K1", "degrees", "0", "360"},
+        {"Amplitude of K1", "m", "0", "6"},
+        {"Phase of O1", "degrees", "0", "360"},
+        {"Amplitude of O1", "m", "0", "6"},
+        {"Phase of the quarter-diurnal term", "degrees", "0", "360"},
+        {"Coefficient of the quarter-diurnal term", "per m", "0", "2"},
+        {"Phase of the sixth-diurnal term", "degrees", "0", "360"},
+        {"Coefficient of the sixth-diurnal term", "per square m", "0", "6"},
+    };
+    std::vector<FieldSaid> stream = tide;
+    stream[1] = {"Mean stream, flood positive", "kn", "-5", "5"};
+    stream[3] = {"Rate of M2", "kn", "0", "12"};
+    stream[5] = {"Rate of S2", "kn", "0", "12"};
+    stream[7] = {"Rate of K1", "kn", "0", "12"};
+    stream[9] = {"Rate of O1", "kn", "0", "12"};
+    stream[11].unit = "per kn";
+    stream[13].unit = "per square kn";
+    stream.push_back({"Direction of the flood", "degrees true", "0", "360"});
+    for (const char* month :
+         {"Correction of January", "Correction of February", "Correction of March",
+          "Correction of April", "Correction of May", "Correction of June", "Correction of July",
+          "Correction of August", "Correction of September", "Correction of October",
+          "Correction of November", "Correction of December"})
+        tide.push_back({month, "m", "-1", "1"});
+    expectJudged(TideKind::Tide, tide);
+    expectJudged(TideKind::Stream, stream);
 }
 
 TEST(StationCheck, whatIsShippedIsGoodAndNoneOfTheShipsOwn)

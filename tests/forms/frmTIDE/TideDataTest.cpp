@@ -58,6 +58,8 @@ TEST(Factors, malformedFilesAreReadOrRefused)
         {"an old-style key", with(46UL * 3, 8, "00000004"), 3, none},
         {"trouble elsewhere is none of this day's", with(0, 1, "x"), 3, none},
         {"short by its last line", lines, 7, "AF2005.txt, line 9: the line is missing"},
+        {"a character behind the last line", lines + "x", 7, "line 9: the line has 1 characters"},
+        {"the half of a line end behind it", lines + "\r", 7, "line 9: the line has 0 characters"},
         {"a short line before", with(46 * 2 + 5, 1, ""), 4, "AF2005.txt, line 3: the line has 43"},
         {"an over-long line", with(46 * 4 + 5, 0, "0"), 4, "AF2005.txt, line 5: the line has 45"},
         {"two lines run together", with(46 * 4 - 2, 2, "00"), 4, "line 4: the line has 90"},
@@ -141,6 +143,9 @@ TEST(StationFile, faultsNameFileLineAndField)
     EXPECT_THAT(faultOf("\"X,8"), HasSubstr("field 1: the closing quote"));
     EXPECT_THAT(faultOf("X,inf"), HasSubstr("field 2: \"inf\""));
     EXPECT_THAT(faultOf(""), HasSubstr("field 1: the field is missing"));
+    EXPECT_THAT(faultOf("X,100000000"), HasSubstr("field 3: the field is missing"));
+    EXPECT_THAT(faultOf("X,-100000001"),
+                HasSubstr("field 2: \"-100000001\" is no figure of a tide"));
     EXPECT_THAT(stationFault(beside.files, "Bombay"),
                 ::testing::AllOf(HasSubstr("HC_Bombay.txt"), HasSubstr("27 fields")));
 }

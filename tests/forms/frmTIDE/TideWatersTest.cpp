@@ -13,6 +13,8 @@
 #include <cmath>
 #include <map>
 #include <sstream>
+#include <tuple>
+#include <type_traits>
 
 namespace korvel
 {
@@ -93,6 +95,49 @@ TEST(AllConstituents, areLeftOutBesideAShipsOwnConstants)
           with([](TideStation& s) { s.constituents[3].amplitude += 0.002; }),
           with([](TideStation& s) { s.constituents[1].phase += NavFunc113::Degrees(0.2); })})
         EXPECT_FALSE(constants.of("Tokyo", own));
+}
+
+/// A record in a file of its own, with lines in its place that are no records.
+TEST(AllConstituents, areThoseOfAWholeRecordAlone)
+{
+    TideStation station;
+    station.meanLevel = 1.2;
+    for (std::size_t i = 0; i < 4; ++i)
+        station.constituents[i] = {NavFunc113::Degrees(10.0 * static_cast<double>(i)), 0.5};
+    const std::string record = "\tM2 0.5 0\tS2 0.5 10\tK1 0.5 20\tO1 0.5 30";
+    const auto isKnown = [](const std::string& line, const TideStation& of) {
+        TideFolder beside;
+        beside.write("constituents.txt", "# place\nXX\t0\t9\n" + line + "\n");
+        return FullConstants(beside.files).of("X", of).has_value();
+    };
+    const std::pair<const char*, bool> lines[] = {
+        {"X\t0\t1.2{}\tN2 0.1 5", true},
+        {"X\t0\t1.2{}", false}, // five waves at least
+        {"X\t0\t1.2{}\tN2 0.1", false},
+        {"X\t0\t1.2{}\tN2 0.l 5", false},
+        {"X\t0\t1.2{}\tN2 0.1 5x", false},
+        {"X\t0\t1.2{}\tQQ9 0.1 5", false},
+        {"X\t0.05\t1.2{}\tN2 0.1 5", false},
+        {"X\t0\t1.2\tN2 0 0\tP1 0 0\tM4 0 0\tK2 0 0\tQ1 0 0", false},
+    };
+    for (const auto& [line, known] : lines) {
+        std::string written = line;
+        if (const std::size_t at = written.find("{}"); at != written.npos)
+            written.replace(at, 2, record);
+        EXPECT_EQ(isKnown(written, station), known) << line;
+    }
+    // A station file rounds: hours and degrees to 0.1, levels to 0.01 m, amplitudes to 0.001 m.
+    const std::string whole = "X\t0\t1.2" + record + "\tN2 0.1 5";
+    for (const double sign : {1.0, -1.0})
+        for (const auto& [share, known] : {std::pair(1.0, true), std::pair(1.07, false)}) {
+            const double by = sign * share;
+            TideStation level = station, amplitude = station, phase = station;
+            level.meanLevel += by * 0.005;
+            amplitude.constituents[2].amplitude += by * 0.0005;
+            phase.constituents[0].phase = NavFunc113::Degrees(by * 0.05 + 360);
+            for (const TideStation& rounded : {level, amplitude, phase})
+                EXPECT_EQ(isKnown(whole, rounded), known) << by;
+        }
 }
 
 /// A day of one wave of twelve hours about a level, its crest at an hour; the sum of all
@@ -182,6 +227,49 @@ TEST(TideWaters, bothWaysStandInOneLineWithTheirDifference)
     EXPECT_THAT(waterLines(shippedStation("Berhala").day(37817)).front().four, HasSubstr("   ~"));
 }
 
+TEST(TideWaters, aWaterOfOneSumAloneIsSaidToBeNone)
+{
+    // What one sum has and the other has not stands at its time all the same.
+    TideDayShown flat = plainDay(0, 0, 2);
+    flat.all = shippedStation("Tokyo").day(37817).all;
+    const auto flatLines = waterLines(flat);
+    const auto byAll = NavFunc113::TurnsOf([&flat](Hours t) { return flat.all->at(t); });
+    ASSERT_EQ(flatLines.size(), byAll.size());
+    for (std::size_t i = 0; i < byAll.size(); ++i) {
+        EXPECT_EQ(flatLines[i].four, byAll[i].isHigh ? "High none" : "Low none");
+        EXPECT_EQ(flatLines[i].all,
+                  clockTime(byAll[i].time) + "   " + heightText(byAll[i].value, TideKind::Tide));
+    }
+    // Low waters of Tokyo near the high waters of the other: nothing belongs together.
+    TideDayShown opposite = plainDay(byAll[0].time.value() + (byAll[0].isHigh ? 6 : 0), 1.5, 2);
+    opposite.all = flat.all;
+    std::string times;
+    for (const WaterLine& line : waterLines(opposite)) {
+        EXPECT_EQ(line.four.ends_with(" none"), line.all != "none") << line.four;
+        const std::string& shown = line.all == "none" ? line.four : line.all;
+        const std::string time = shown.substr(shown.find(':') - 2, 5);
+        EXPECT_GE(time, times) << "by their times";
+        times = time;
+    }
+    EXPECT_EQ(waterLines(opposite).size(), 4u + byAll.size());
+}
+
+TEST(TideWaters, whatIsAskedOfAStreamIsARateInKnots)
+{
+    const TideDayShown stream = plainDay(4, 1.5, 0, TideKind::Stream);
+    EXPECT_EQ(heightAt(stream, "4:00").text, "1.5 kn");
+    EXPECT_EQ(timesOfHeight(stream, "0.75").text, "02:00 to 06:00, 14:00 to 18:00");
+    EXPECT_THAT(timesOfHeight(stream, "21").remark,
+                ::testing::AllOf(::testing::StartsWith("Rate"), HasSubstr("knots")));
+    EXPECT_THAT(timesOfHeight(plainDay(4, 1.5, 0), "21").remark,
+                ::testing::AllOf(::testing::StartsWith("Height"), HasSubstr("metres")));
+    TideDayShown there = stream;
+    there.four.station.zone = Hours(9);
+    EXPECT_EQ(nowText(there, 37816.75), "Now 2003/07/15 03:00   1.3 kn")
+        << "neither rises nor falls";
+    EXPECT_EQ(rangeText(plainDay(4, 1.5, 2, TideKind::Stream)).substr(0, 12), "Slack never;");
+}
+
 TEST(TideWaters, questionsOfTheOfficer)
 {
     for (const Golden& row : golden("tide_questions")) {
@@ -269,6 +357,111 @@ TEST(TideWaters, everyFigureOfAnEstimatedLevelIsMarked)
         EXPECT_THAT(row.back(), ::testing::StartsWith("~"));
     EXPECT_EQ(paper.list->headings.back(), "height (metres, estimated level)");
     EXPECT_EQ(paper.workings.back().tables.back().rows.back().back(), "~0.50 m");
+}
+
+/// What the paper of a day of 2003-07-15 in zone 9 says beside its figures.
+TEST(TidePaper, tellsTheDayOfATideAndOfAStream)
+{
+    const auto paperOf = [](TideKind kind) {
+        TideDayShown day = plainDay(4, 1.5, 0, kind);
+        day.four.title = "Example";
+        day.four.station.zone = Hours(9);
+        day.four.lblTD = "9.0hE";
+        day.four.lblTideInfo = "the highest and the lowest";
+        if (kind == TideKind::Stream) day.four.lblCuDirection = {"+ : East", "- : West"};
+        WorkingPaper paper;
+        tellDay(paper, "Brothers", {day, heightAt(day, "4:00"), timesOfHeight(day, "0.75")},
+                {"the station", "its uncertainty", "", "its accuracy", "its source"});
+        return paper;
+    };
+    const auto asText = [](const auto& rows) {
+        std::string text;
+        for (const auto& row : rows) {
+            if constexpr (std::is_same_v<std::decay_t<decltype(row)>, std::string>)
+                text += row + "; ";
+            else
+                text += row.name + ": " + row.value + "; ";
+        }
+        return text;
+    };
+    const WorkingPaper tide = paperOf(TideKind::Tide), stream = paperOf(TideKind::Stream);
+    EXPECT_EQ(tide.kind, "Tide of the day");
+    EXPECT_EQ(stream.kind, "Tidal stream of the day");
+    EXPECT_EQ(tide.place, "Brothers");
+    EXPECT_EQ(asText(tide.inputs),
+              "Place: Brothers; Station: Example; Date: 2003-07-15; Zone time: 9.0hE; ");
+    EXPECT_THAT(
+        asText(tide.results),
+        ::testing::MatchesRegex(
+            "Highest and lowest of the half-hourly values, hours.minutes: the highest and "
+            "the lowest; Range and Moon: Range 3.00 m, springs .*; At the time asked for: "
+            "1.50 m; At the height asked for or above it: 02:00 to 06:00, 14:00 to 18:00; "));
+    EXPECT_THAT(asText(stream.results),
+                ::testing::MatchesRegex(".*; Direction: .* : East; Direction: - : West; Slack and "
+                                        "Moon: Slack 01:00, 07:00, 13:00, 19:00; springs .*; At "
+                                        "the time asked for: 1.5 kn; At the rate asked for or "
+                                        "above it: 02:00 to 06:00, 14:00 to 18:00; "));
+    EXPECT_THAT(asText(tide.limits), ::testing::StartsWith("the station; its uncertainty; its "
+                                                           "accuracy; its source; Weather"));
+    ASSERT_EQ(tide.list->rows.size(), 49u);
+    EXPECT_THAT(tide.list->headings, ElementsAre("zone time", "UTC", "height (metres)"));
+    EXPECT_THAT(stream.list->headings, ElementsAre("zone time", "UTC", "rate (knots)"));
+    EXPECT_THAT(tide.list->rows[1], ElementsAre("2003-07-15T00:30", "2003-07-14T15:30Z", "-0.388"));
+    EXPECT_THAT(tide.list->rows[48],
+                ElementsAre("2003-07-16T00:00", "2003-07-15T15:00Z", "-0.750"));
+    ASSERT_EQ(tide.tables.size(), 2u);
+    EXPECT_EQ(tide.tables[0].rows.size(), 4u);
+    EXPECT_THAT(tide.tables[1].headings, ElementsAre("Zone time 9.0hE", "Height m"));
+    EXPECT_EQ(stream.tables[1].headings[1], "Rate kn");
+    EXPECT_THAT(tide.tables[1].rows[7], ElementsAre("03:30", "1.45"));
+    EXPECT_THAT(stream.tables[0].title, ::testing::StartsWith("Floods and ebbs"));
+
+    // Each instant of which a figure is shown has its waves and its sum, in one order.
+    const auto namesIn = [](const PaperTable& table) {
+        std::string names;
+        for (const auto& row : table.rows)
+            names += row.front() + ", ";
+        return names;
+    };
+    ASSERT_EQ(tide.workings.size(), 2u);
+    const auto& [waves, sums] = std::tie(tide.workings[1].tables[0], tide.workings[1].tables[1]);
+    EXPECT_EQ(namesIn(sums), "Lowest half-hourly value, High water, Low water, High water, Low "
+                             "water, Time asked for, Height asked for is passed, Height asked for "
+                             "is passed, Height asked for is passed, Height asked for is passed, ");
+    EXPECT_EQ(waves.rows.size(), sums.rows.size());
+    EXPECT_EQ(waves.headings.size(), 9u);
+    EXPECT_EQ(sums.headings[7], "h m");
+    EXPECT_THAT(sums.rows[5], ElementsAre("Time asked for", "4.00000", "1.50000", "0.00000",
+                                          "0.00000", "0.00000", "0.00000", "1.50000", "1.50 m"));
+    EXPECT_THAT(waves.rows[5],
+                ElementsAre("4.00000", "0.00000", ::testing::_, "1.50000", ::testing::_, "0.00000",
+                            ::testing::_, "0.00000", ::testing::_));
+    const PaperTable& sumsOfStream = stream.workings[1].tables[1];
+    EXPECT_EQ(sumsOfStream.headings[7], "h kn");
+    EXPECT_THAT(namesIn(sumsOfStream), HasSubstr("Flood, Ebb, Flood, Ebb, Slack, Slack, Slack, "
+                                                 "Slack, Time asked for, Rate asked for"));
+}
+
+TEST(TideTables, whatTheWaterDoesNow)
+{
+    const StationDays tokyo = shippedStation("Tokyo");
+    const auto now = [&tokyo](double utc, bool withAll) {
+        return nowText(tokyo, Hours(9), TideDates(), utc, withAll);
+    };
+    // 24:00 of one day is 00:00 of the next, by whichever day it is read.
+    EXPECT_THAT(now(37816.625, true),
+                ::testing::MatchesRegex("Now 2003/07/15 00:00   .* m (rising|falling)   all "
+                                        "constituents .* m (rising|falling)"));
+    EXPECT_THAT(now(37816.625, false), ::testing::Not(HasSubstr("all constituents")));
+    EXPECT_THAT(now(37816.62, true), HasSubstr("Now 2003/07/14 23:5"));
+    EXPECT_EQ(now(38717.63, true), "") << "beyond the last day";
+    TideFolder beside;
+    beside.write("AF2005.txt", TideFolder::shippedFactors().replace(46u * 287 + 10, 1, "x"));
+    beside.write(tideFileName("Tokyo"), TideFolder::shipped().files.at(tideFileName("Tokyo")));
+    const StationList list(TideFolder::shipped());
+    const FullConstants constants(TideFolder::shipped());
+    const StationDays damaged(beside.files, TideKind::Tide, "Tokyo", list, constants);
+    EXPECT_EQ(nowText(damaged, Hours(9), TideDates(), 37816.75, true), "");
 }
 
 TEST(TideTables, weekAndMonthEndWhereTheDatesDo)
@@ -379,6 +572,17 @@ TEST(StationLines, gradeErrorAndEstimatesOfTheMonth)
     EXPECT_THAT(linesOf("Berhala").estimates,
                 HasSubstr("the mean level and the correction of month 7"));
     EXPECT_THAT(linesOf("Berhala").accuracy, HasSubstr("not measured"));
+    StationNotes notes = *list.notesOf("Tokyo");
+    const auto estimatesOf = [&](bool level, bool months) {
+        notes.isLevelEstimated = level;
+        notes.areMonthsEstimated = months;
+        return describeStation(shippedStation("Tokyo").day(37817).four, &notes, {}).estimates;
+    };
+    EXPECT_EQ(estimatesOf(true, false), "~ estimated: the mean level.");
+    EXPECT_EQ(estimatesOf(false, true),
+              "~ estimated: the correction of month 7, from other places.");
+    notes.grade = "none";
+    EXPECT_EQ(estimatesOf(true, true), "");
     const auto own = describeStation(shippedStation("Tokyo").day(37817).four, nullptr, {});
     EXPECT_EQ(own.accuracy, "");
     EXPECT_THAT(own.source, HasSubstr("ship's own"));
