@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
+#include "shell/controls/PictureBox.h"
 #include "shell/paper/PaperWindow.h"
 #include "tests/scenes/Steps.h"
 #include "tests/shell/Pixels.h"
@@ -201,6 +202,21 @@ void drawn(Stage& stage, const Words& words)
             throw std::runtime_error(words[i].text + (Wanted ? " is not drawn" : " is drawn"));
 }
 
+/// Marks in a colour at places of a picture, in its own units, within two pixels.
+template <bool Wanted>
+void drawnAt(Stage& stage, const Words& words)
+{
+    auto& picture = dynamic_cast<PictureBox&>(stage.control(wordAt(words, 0)));
+    const QRgb colour = schemeColour(stage.program().colours(), wordAt(words, 1)).rgb();
+    const QImage image = imageOf(picture);
+    for (std::size_t i = 2; i < words.size(); i += 2) {
+        const QPoint at = picture.toPixel(numberAt(words, i), numberAt(words, i + 1)).toPoint();
+        if (coloursOf(image, QRect(at - QPoint(2, 2), QSize(5, 5))).contains(colour) != Wanted)
+            throw std::runtime_error(words[1].text + (Wanted ? " is not" : " is") + " drawn at " +
+                                     words[i].text + " " + words[i + 1].text);
+    }
+}
+
 /// In both colour schemes; the one in force is put back.
 void contrasts(Stage& stage, const Words& words)
 {
@@ -316,6 +332,8 @@ const std::map<std::string, Verb>& eyeVerbs()
         {"memory", memory},
         {"drawn", drawn<true>},
         {"not-drawn", drawn<false>},
+        {"drawn-at", drawnAt<true>},
+        {"not-drawn-at", drawnAt<false>},
         {"contrast", contrasts},
         {"worked", worked},
         {"printed", [](S s, W w) { expectText(s.printedText(), w, 0); }},

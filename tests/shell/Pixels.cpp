@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace korvel::testing
 {
@@ -30,6 +31,14 @@ std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part)
         }
     }
     return counts;
+}
+
+bool isLike(QRgb one, QRgb other)
+{
+    constexpr int most = 120;
+    return std::abs(qRed(one) - qRed(other)) + std::abs(qGreen(one) - qGreen(other)) +
+               std::abs(qBlue(one) - qBlue(other)) <=
+           most;
 }
 
 double contrast(QRgb one, QRgb other, double strayLight)

@@ -16,6 +16,9 @@ double luminance(QRgb colour);
 /// How often each colour stands in a part of a picture.
 std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part);
 
+/// Whether a colour stands for another where thin lines are blended with the ground.
+bool isLike(QRgb one, QRgb other);
+
 /// @param strayLight that is added to both luminances; 0.05 by the definition
 double contrast(QRgb one, QRgb other, double strayLight = 0.05);
 

@@ -59,6 +59,7 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
 {
     m_optTwilight->choose(1);
     m_optCount->choose(1);
+    m_cmdSend->setEnabled(false);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(pageGap);

@@ -19,7 +19,7 @@ namespace
 
 UserScale scaleOf(const PlotView& view)
 {
-    return {view.centre.x - view.half, view.centre.x + view.half, view.centre.y + view.half,
+    return {view.centre.x - view.half, view.centre.y + view.half, view.centre.x + view.half,
             view.centre.y - view.half};
 }
 

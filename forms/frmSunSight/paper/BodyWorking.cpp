@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/reading/Format.h"
 #include "app/reading/Reading.h"
 #include "forms/frmSunSight/paper/SightTerms.h"
 #include "forms/frmSunSight/paper/SightWorking.h"
@@ -37,7 +38,7 @@ void addDipAndRefraction(Working& working, const SightCorrections& sight)
     const std::string air = term(sight.air, 1);
     const double pressure = static_cast<double>(sight.pressure);
     addTerm(working, "Dip", "-1.76 √h, h height of eye in metres",
-            "-1.76 × √" + figure(sight.heightOfEye, 2), terms.dip);
+            "-1.76 × √" + Format(sight.heightOfEye, "0.00####"), terms.dip);
     addTerm(working, "Air - sea", "0.2 (air - sea)",
             "0.2 × (" + air + " - " + term(sight.sea, 1) + ")", terms.airSea);
     const std::string h = sightTerm(terms.apparent);

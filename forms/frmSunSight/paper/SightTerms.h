@@ -25,7 +25,7 @@ inline std::string sightTerm(NavFunc113::Degrees angle)
 inline std::string sightTurns(NavFunc113::Degrees sum, NavFunc113::Degrees used)
 {
     const double turns = std::round((used - sum).value() / 360);
-    return turns == 0 ? "" : (turns > 0 ? " + " : " - ") + figure(360 * std::fabs(turns), 0) + "°";
+    return turns == 0 ? "" : Format(360 * turns, " + 0; - 0") + "°";
 }
 
 inline std::string sightInstant(NavFunc113::DateTime instant)

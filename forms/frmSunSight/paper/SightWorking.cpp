@@ -98,9 +98,8 @@ std::string siderealFigures(const SunFigures& sun, DateTime UTC)
     const double nutation = sun.nutation.value() * cos(sun.obliquity) / 15;
     const double turns = std::round((sun.siderealTime.value() - mean - hours - nutation) / 24);
     return "6.697375 + 2400.0513369 × " + term(sun.centuries, 12) +
-           (turns == 0 ? "" : (turns > 0 ? " + " : " - ") + figure(24 * std::fabs(turns), 0)) +
-           " + " + figure(hours, 8) + " + " + sightTerm(sun.nutation) + " × cos " +
-           sightTerm(sun.obliquity) + " / 15";
+           (turns == 0 ? "" : Format(24 * turns, " + 0; - 0")) + " + " + figure(hours, 8) + " + " +
+           sightTerm(sun.nutation) + " × cos " + sightTerm(sun.obliquity) + " / 15";
 }
 
 Working sunWorking(const LOPResult& line)
@@ -165,8 +164,8 @@ void addTerms(Working& working, const SightCorrections& sight)
                          double value) {
         working.step(name, formula, figures, minuteFigure(value), "'");
     };
-    add("Dip", "-1.776 √h, h height of eye in metres", "-1.776 × √" + figure(sight.heightOfEye, 2),
-        terms.dip);
+    add("Dip", "-1.776 √h, h height of eye in metres",
+        "-1.776 × √" + Format(sight.heightOfEye, "0.00####"), terms.dip);
     addLookedUp(working, "Refraction",
                 "-R(hs) by Lagrange's formula from the table below; degrees and minutes of hs are "
                 "read as one decimal",
@@ -225,22 +224,19 @@ void addRun(Working& working, const LOPResult& line)
     const Position& start = *track.position;
     working.angleStep("DR latitude", "φ0", DegToDegMin(start.latitude));
     working.angleStep("DR longitude", "λ0", DegToDegMin(start.longitude));
-    if (track.UTC && track.motion) {
-        const Hours hours((*line.figures.observation.UTC - *track.UTC) * 24);
-        const Miles run = track.motion->speed * hours;
-        const std::string course = sightTerm(track.motion->course);
-        working.step("Run to the sight", "D = speed × hours from " + sightInstant(*track.UTC),
-                     Format(track.motion->speed, "0.0#####") + " × " + term(hours, 6),
-                     figure(run, 4), "miles");
-        working.step("Latitude at the sight", "φ = φ0 + D cos C / 60",
-                     sightTerm(start.latitude) + " + " + term(run, 4) + " × cos " + course +
-                         " / 60",
-                     sightFigure(DR.latitude), "°");
-        working.step("Longitude at the sight", "λ = λ0 + D sin C / (60 cos φm), φm = (φ0 + φ) / 2",
-                     sightTerm(start.longitude) + " + " + term(run, 4) + " × sin " + course +
-                         " / (60 × cos " + sightTerm((start.latitude + DR.latitude) / 2) + ")",
-                     sightFigure(DR.longitude), "°");
-    }
+    const Hours hours((*line.figures.observation.UTC - *track.UTC) * 24);
+    const Miles run = track.motion->speed * hours;
+    const std::string course = sightTerm(track.motion->course);
+    working.step("Run to the sight", "D = speed × hours from " + sightInstant(*track.UTC),
+                 Format(track.motion->speed, "0.0#####") + " × " + term(hours, 6), figure(run, 4),
+                 "miles");
+    working.step("Latitude at the sight", "φ = φ0 + D cos C / 60",
+                 sightTerm(start.latitude) + " + " + term(run, 4) + " × cos " + course + " / 60",
+                 sightFigure(DR.latitude), "°");
+    working.step("Longitude at the sight", "λ = λ0 + D sin C / (60 cos φm), φm = (φ0 + φ) / 2",
+                 sightTerm(start.longitude) + " + " + term(run, 4) + " × sin " + course +
+                     " / (60 × cos " + sightTerm((start.latitude + DR.latitude) / 2) + ")",
+                 sightFigure(DR.longitude), "°");
     working.resultStep("DR at the sight", "degrees and minutes of φ and λ", line.DR);
 }
 
@@ -313,7 +309,7 @@ std::vector<Working> sightWorkings(const SightTexts& texts, const LOPResult& lin
     if (figures.observation.place) workings.push_back(bodyPlaceWorking(line));
     if (const auto& corrections = figures.observation.corrections)
         workings.push_back(corrections->ofBody ? bodyAltitudeWorking(line) : altitudeWorking(line));
-    if (figures.DR && figures.sun) workings.push_back(lineWorking(line));
+    if (figures.sun) workings.push_back(lineWorking(line));
     return workings;
 }
 

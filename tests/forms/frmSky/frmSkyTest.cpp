@@ -2,6 +2,7 @@
 #include "forms/frmSky/frmSky.h"
 
 #include "forms/frmSky/pages/SkyDisc.h"
+#include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAbstractItemView>
@@ -9,6 +10,8 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
+#include <set>
 
 namespace korvel
 {
@@ -97,10 +100,95 @@ TEST_F(frmSkyTest, discAndTableChooseTheSameBody)
     const QPointF at = placeOf(28.16, 46.8);
     QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
     EXPECT_EQ(table.currentIndex().row(), 1);
+    // Once round by the keys, clockwise from the north, and on from the last to the first.
+    const auto azimuthOf = [&](int row) {
+        return rowsOf(window, "tblStars").index(row, 4).data().toString().toDouble();
+    };
+    const int bodies = rowsOf(window, "tblStars").rowCount();
+    std::set<int> rows;
+    for (int step = 0; step < bodies; ++step) {
+        const double before = azimuthOf(table.currentIndex().row());
+        QTest::keyClick(&disc, step % 2 ? Qt::Key_Right : Qt::Key_Down);
+        const double now = azimuthOf(table.currentIndex().row());
+        EXPECT_TRUE(now >= before || before > 300) << before << " " << now;
+        rows.insert(table.currentIndex().row());
+    }
+    EXPECT_EQ(rows.size(), std::size_t(bodies)) << "each once";
+    const int last = table.currentIndex().row();
+    QTest::keyClick(&disc, Qt::Key_Up);
+    EXPECT_LE(azimuthOf(table.currentIndex().row()), azimuthOf(last));
+    QTest::keyClick(&disc, Qt::Key_Right);
+    EXPECT_EQ(table.currentIndex().row(), last);
     // With the head up the same star stands elsewhere.
     click(window, "optUp(1)");
     QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
     EXPECT_NE(table.currentIndex().row(), 1);
+}
+
+// What is drawn stands where the sky has it: the round in its colour, the Sun below the western
+// horizon on its rim, the ship's head on hers.
+TEST_F(frmSkyTest, discShowsTheSkyNorthOrHeadUp)
+{
+    auto& window = openWithShip();
+    click(window, "cmdPage(1)");
+    auto& disc = dynamic_cast<SkyDisc&>(control(window, "picSky"));
+    const ColourScheme& colours = program().colours();
+    const auto isDrawn = [&](double altitude, double bearing, const QColor& colour) {
+        const double radius = (90 - altitude) / 90, turn = bearing * 3.14159265 / 180;
+        const QPoint at = disc.toPixel(radius * std::sin(turn), radius * std::cos(turn)).toPoint();
+        const auto there = coloursOf(disc.grab().toImage(), QRect(at - QPoint(2, 2), QSize(5, 5)));
+        return std::ranges::any_of(
+            there, [&](const auto& each) { return isLike(each.first, colour.rgb()); });
+    };
+    for (const bool isHeadUp : {false, true}) {
+        click(window, isHeadUp ? "optUp(1)" : "optUp(0)");
+        const double up = isHeadUp ? 75 : 0;
+        EXPECT_TRUE(isDrawn(28.16, 46.8 - up, colours.route)) << "Mirfak, of the round";
+        EXPECT_TRUE(isDrawn(35.9, 0.8 - up, colours.route)) << "Polaris";
+        EXPECT_TRUE(isDrawn(0, 248.6 - up, colours.equator)) << "the Sun";
+        EXPECT_FALSE(isDrawn(0, 68.6 - up, colours.equator));
+        EXPECT_TRUE(isDrawn(3, 75 - up, colours.secondary)) << "the ship's head";
+        EXPECT_FALSE(isDrawn(3, 255 - up, colours.secondary));
+    }
+    // By midnight the Sun is too far below the horizon to light any of it.
+    type(window, "txtSky(8)", "23:30");
+    for (int bearing = 0; bearing < 360; bearing += 5)
+        EXPECT_FALSE(isDrawn(0, bearing, colours.equator)) << bearing;
+    // What the disc tells beside the pointer: the body, and none between them.
+    type(window, "txtSky(8)", "\b");
+}
+
+TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
+{
+    auto& window = open<frmSky>();
+    click(window, "cmdPage(1)");
+    EXPECT_FALSE(control(window, "cmdSend").isEnabled());
+    EXPECT_EQ(rowsOf(window, "tblStars").rowCount(), 0);
+    QTest::keyClick(&window, Qt::Key_F6);
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("There is no round yet."));
+    type(window, "txtSky(0)", "2026/11/22 12:00\r35.123\r142.031\r");
+    click(window, "cmdPage(1)");
+    EXPECT_TRUE(control(window, "cmdSend").isEnabled());
+    const int stars = rowsOf(window, "tblStars").rowCount();
+    EXPECT_GT(stars, 10);
+    type(window, "txtSky(8)", "5:00");
+    EXPECT_NE(rowsOf(window, "tblStars").rowCount(), 2 * stars) << "added to those before";
+    click(window, "cmdSend");
+    EXPECT_EQ(program().plannedSights().size(), 5U);
+    // The present time goes into the box of the page that is shown.
+    click(window, "cmdPage(2)");
+    QTest::keyClick(&window, Qt::Key_F5);
+    EXPECT_EQ(text(window, "txtSky(9)"), "2005/03/14 09:45:00");
+    EXPECT_EQ(focused(), "txtSky(10)");
+    click(window, "cmdPage(0)");
+    click(window, "cmdNow");
+    EXPECT_EQ(text(window, "txtSky(0)"), "2005/03/14 09:45");
+    EXPECT_EQ(focused(), "txtSky(1)");
+    // Without a day the next one is that after the ship's today.
+    type(window, "txtSky(1)", "");
+    type(window, "txtSky(7)", "");
+    click(window, "cmdDay(1)");
+    EXPECT_EQ(text(window, "txtSky(7)"), "2005/03/15");
 }
 
 TEST_F(frmSkyTest, recordBringsBoxesAndChoicesBack)

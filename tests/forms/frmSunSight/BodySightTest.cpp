@@ -163,7 +163,7 @@ TEST(BodySight, passagesOfTheMovingShip)
                                           *run.motion, isLower ? -1 : 1);
         const double said = std::stod(found.greatest.substr(found.greatest.find("altitude ") + 9)) *
                             (found.greatest.ends_with("earlier") ? -1 : 1);
-        EXPECT_NEAR(said, later, 4 + 0.06 * std::fabs(later)) << found.greatest;
+        EXPECT_NEAR(said, later, 2 + 0.04 * std::fabs(later)) << found.greatest;
 
         // By the clock of a watch that keeps ship's mean time, three hours behind.
         texts.SMT = true;

@@ -2,13 +2,19 @@
 #include "forms/frmSunSight/frmSunSight.h"
 
 #include "forms/frmSunSight/panels/SightPicture.h"
+#include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <QScrollArea>
 #include <QTest>
+
+#include <algorithm>
+#include <cmath>
 
 namespace korvel
 {
@@ -74,6 +80,111 @@ TEST_F(frmSunSightTest, whatIsSaidOfSightsThatDoNotAgreeScrolls)
     const auto& area = static_cast<QScrollArea&>(control(window, "areaSunFix"));
     EXPECT_GE(area.widget()->height(), without.geometry().bottom());
     EXPECT_LT(without.geometry().right(), area.viewport()->width()) << "up and down only";
+    int lowest = -1;
+    for (const int sentence : {2, 3, 5, 6, 4}) { // how good it is before where that comes from
+        const QWidget& label = control(window, "lblSunFix(" + std::to_string(sentence) + ")");
+        EXPECT_EQ(label.parentWidget(), area.widget()) << sentence;
+        EXPECT_GT(label.y(), lowest) << sentence;
+        lowest = label.y();
+    }
+    // Boxes of how good the lines are, each with its caption before it.
+    for (const auto& [box, words] : {std::pair("txtSunSigma(0)", "Sigma"),
+                                     {"txtSunSigma(1)", "Run"},
+                                     {"txtSunSigma(2)", "Course"}}) {
+        const QWidget& entry = control(window, box);
+        const auto labels = entry.parentWidget()->findChildren<QLabel*>();
+        const auto caption = std::ranges::find(labels, &entry, &QLabel::buddy);
+        ASSERT_NE(caption, labels.end()) << box;
+        EXPECT_EQ((*caption)->text(), words);
+        EXPECT_LE((*caption)->geometry().right(), entry.geometry().left());
+    }
+}
+
+TEST_F(frmSunSightTest, keysAndPointerMoveThePlot)
+{
+    auto& window = open<frmSunSight>();
+    recordThree(window);
+    auto& picture = dynamic_cast<SightPicture&>(control(window, "picSunSight"));
+    const auto view = [&]() -> const PlotView& { return picture.plot().view; };
+    const auto press = [&](int key) { QTest::keyClick(&picture, Qt::Key(key)); };
+    press(Qt::Key_Plus);
+    EXPECT_LT(view().half, 40);
+    const double zoomed = view().half;
+    press(Qt::Key_Right);
+    EXPECT_GT(view().centre.x, 0);
+    EXPECT_EQ(view().centre.y, 0);
+    press(Qt::Key_Up);
+    EXPECT_GT(view().centre.y, 0);
+    EXPECT_EQ(view().half, zoomed);
+    press(Qt::Key_End);
+    const PlotView all = viewOfAll(picture.plot());
+    EXPECT_EQ(view().half, all.half);
+    EXPECT_EQ(view().centre.x, all.centre.x);
+    const UserScale& scale = picture.userScale();
+    EXPECT_NEAR(scale.right - scale.left, 2 * all.half, 1e-9) << "as wide as high";
+    EXPECT_NEAR(scale.top - scale.bottom, 2 * all.half, 1e-9);
+    EXPECT_NEAR(scale.top, all.centre.y + all.half, 1e-9);
+    press(Qt::Key_Home);
+    EXPECT_EQ(view().half, 40);
+    EXPECT_EQ(view().centre.x, 0);
+    EXPECT_EQ(window.notice().toStdString().find("outside the plot"), std::string::npos);
+    for (int step = 0; step < 20; ++step)
+        press(Qt::Key_Plus);
+    EXPECT_EQ(view().half, 2);
+    EXPECT_THAT(window.notice().toStdString(), ::testing::HasSubstr("lies outside the plot"));
+    // Dragged, the chart goes with the pointer.
+    press(Qt::Key_Home);
+    const auto pixel = [&](double x, double y) { return picture.toPixel(x, y).toPoint(); };
+    QTest::mousePress(&picture, Qt::LeftButton, {}, pixel(0, 0));
+    const QPoint there = pixel(10, -5);
+    QMouseEvent drag(QEvent::MouseMove, there, picture.mapToGlobal(there), Qt::NoButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&picture, &drag);
+    QTest::mouseRelease(&picture, Qt::LeftButton, {}, there);
+    EXPECT_NEAR(view().centre.x, -10, 0.3);
+    EXPECT_NEAR(view().centre.y, 5, 0.3);
+}
+
+// Marks where they belong: line, foot, arrow with its barbs, fix, and a bar of round miles.
+TEST_F(frmSunSightTest, thePlotIsDrawnWhereTheLinesLie)
+{
+    auto& window = open<frmSunSight>();
+    recordThree(window);
+    auto& picture = dynamic_cast<SightPicture&>(control(window, "picSunSight"));
+    const ColourScheme& colours = program().colours();
+    const QImage image = picture.grab().toImage();
+    const auto isDrawn = [&](const QPointF& at, const QColor& colour) {
+        const auto there = coloursOf(image, QRect(at.toPoint() - QPoint(1, 1), QSize(3, 3)));
+        return std::ranges::any_of(
+            there, [&](const auto& each) { return isLike(each.first, colour.rgb()); });
+    };
+    const auto pixel = [&](const PlotPoint& at) { return picture.toPixel(at.x, at.y); };
+    const double unit = picture.fontMetrics().height() / 4.0;
+    const PlotLine& line = picture.plot().lines[0];
+    const QPointF foot = pixel(line.foot), tip = pixel(line.arrowTo);
+    EXPECT_TRUE(isDrawn((foot + tip) / 2, colours.secondary));
+    const QPointF back = (foot - tip) / std::hypot(foot.x() - tip.x(), foot.y() - tip.y());
+    for (const double turn : {0.4, -0.4}) {
+        const QPointF barb(back.x() * std::cos(turn) - back.y() * std::sin(turn),
+                           back.x() * std::sin(turn) + back.y() * std::cos(turn));
+        EXPECT_TRUE(isDrawn(tip + 1.7 * unit * barb, colours.secondary)) << turn;
+    }
+    int seen = 0, drawn = 0;
+    for (const PlotPoint& point : line.runs[0]) {
+        if (!picture.plotArea().adjusted(3, 3, -3, -3).contains(pixel(point))) continue;
+        ++seen;
+        drawn += isDrawn(pixel(point), colours.route);
+    }
+    EXPECT_GT(drawn, 0.7 * seen) << "but for words and other lines upon it";
+    // Ten miles, from end to end, above the rim.
+    const auto letters = picture.lettering();
+    const auto isMiles = [](const SightPicture::Lettering& each) { return each.words == "10 nm"; };
+    ASSERT_TRUE(std::ranges::any_of(letters, isMiles));
+    const QPointF end = picture.plotArea().bottomRight() - 2 * QPointF(unit, unit);
+    const double miles = picture.toPixel(10, 0).x() - picture.toPixel(0, 0).x();
+    EXPECT_TRUE(isDrawn(end - QPointF(miles - 2, 0), colours.ink));
+    EXPECT_TRUE(isDrawn(end - QPointF(2, 0), colours.ink));
+    EXPECT_FALSE(isDrawn(end - QPointF(miles + 4, 0), colours.ink));
 }
 
 TEST_F(frmSunSightTest, wordsOfThePlotKeepOffEachOtherAndOffTheLines)
@@ -83,6 +194,10 @@ TEST_F(frmSunSightTest, wordsOfThePlotKeepOffEachOtherAndOffTheLines)
     auto& picture = static_cast<SightPicture&>(control(window, "picSunSight"));
     for (const QSize size : {QSize(360, 300), QSize(420, 480), QSize(560, 490), QSize(1200, 900)}) {
         picture.resize(size);
+        EXPECT_TRUE(QRectF(picture.rect()).contains(picture.plotArea()));
+        EXPECT_NEAR(picture.plotArea().width(), picture.plotArea().height(), 1);
+        EXPECT_LT(picture.width() - picture.plotArea().width(),
+                  picture.height() < picture.width() ? picture.width() : picture.width() / 2);
         const auto letters = picture.lettering();
         ASSERT_EQ(letters.size(), 9U) << "scale, fix, DR, three fixes without, three lines";
         for (std::size_t i = 0; i < letters.size(); ++i) {

@@ -11,7 +11,10 @@
 #include <QDir>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cmath>
+#include <optional>
+#include <string>
 
 // The worked examples of the manual: the program works each anew as the manual has it, and every
 // result that its window shows is a step of the working. (papers docs/manual data writes them.)
@@ -52,6 +55,23 @@ std::optional<SaidValue> saidBy(const WorkingStep& step)
                      0.5 * std::pow(10, -static_cast<double>(match.captured(2).size()))};
 }
 
+const std::string shownInTheWindow = "shown in the window as";
+
+/// Name, formula, figures and value stand each in its own column: a name is words, a formula has
+/// letters for its figures, a value is worked out.
+void expectInItsColumns(const WorkingStep& step)
+{
+    static const QRegularExpression signs("^\\S+ = | [×/+] |√|[0-9] - [0-9]");
+    const QString name = QString::fromStdString(step.name);
+    const QString value = QString::fromStdString(step.value);
+    EXPECT_TRUE(name.isEmpty() || name.front().isUpper() || name.front().isDigit()) << step.name;
+    EXPECT_FALSE(signs.match(name).hasMatch()) << "a formula for a name: " << step.name;
+    EXPECT_FALSE(worked(step.formula)) << "figures for a formula: " << step.formula;
+    EXPECT_NE(step.formula, step.figures);
+    if (step.formula == shownInTheWindow) return;
+    EXPECT_FALSE(signs.match(value).hasMatch()) << "not worked out: " << step.value;
+}
+
 /// How far two figures are apart; an arctan leaves out half turns.
 double apart(const WorkedFigures& figures, double said)
 {
@@ -72,6 +92,7 @@ TEST(PaperExamples, everyStepHasFiguresThatLeadToItsValue)
         for (const Working& working : example.openPaper().paper().paper().workings)
             for (const WorkingStep& step : working.steps) {
                 EXPECT_NE(step.figures, "") << working.title << ": " << step.name;
+                expectInItsColumns(step);
                 const auto said = saidBy(step);
                 const auto figures = worked(step.figures);
                 if (!said || !figures) continue;
