@@ -62,8 +62,7 @@ std::string planetsOfMiddleDay(const DailyPage& page)
 std::string starTable(const DailyPage& page)
 {
     constexpr std::size_t columns = 3;
-    const std::size_t rows =
-        page.stars.size() / columns + 1; // 58 stars: the last column is shorter
+    const std::size_t rows = (page.stars.size() + columns - 1) / columns;
     std::string text = "\nStars of the middle day: number, name, SHA, declination\n";
     for (std::size_t row = 0; row < rows; ++row) {
         for (std::size_t at = row; at < page.stars.size(); at += rows) {

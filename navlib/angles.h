@@ -130,7 +130,7 @@ inline Degrees AsCourse(Degrees angle)
 {
     const Degrees turned = angle + fullTurn;
     // A hair west of north rounds to 360.
-    return turned < fullTurn ? turned : std::max(angle, Degrees(0));
+    return turned < fullTurn ? turned : std::max(Degrees(0), angle);
 }
 
 /// Course of a way with these parts towards east and north, of any one length.

@@ -249,8 +249,7 @@ private:
     /// South, or seconds in 35d30m30s. What could be either is refused: it decides a hemisphere.
     bool takeLetterS(bool last)
     {
-        // Degrees, minutes and their unit stand before seconds.
-        const bool secondsDue = m_tokens.size() > 3 && m_tokens.back().kind == TokenKind::Number &&
+        const bool secondsDue = m_tokens.size() > 1 && m_tokens.back().kind == TokenKind::Number &&
                                 m_tokens[m_tokens.size() - 2].kind == TokenKind::Minute &&
                                 m_tokens[m_tokens.size() - 2].spelled;
         if (!secondsDue) return takeWord({"s", TokenKind::Hemisphere, 'S'});

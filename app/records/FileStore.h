@@ -37,7 +37,7 @@ public:
     virtual Content readAt(const std::string& name, std::int64_t offset, std::size_t length) = 0;
 
     /// Whether there is a file that can be read, and its size, without any of its bytes.
-    Content look(const std::string& name) { return readAt(name, {}, {}); }
+    Content look(const std::string& name) { return readAt(name, 0, 0); }
 
     /// Replaces a file whole or not at all.
     /// @return nothing on success, otherwise the reason in words

@@ -4,8 +4,6 @@
 #include "app/reading/Reading.h"
 #include "app/records/KORVEL2000Actions.h"
 
-#include <cmath>
-
 namespace korvel
 {
 
@@ -21,7 +19,7 @@ std::optional<bool> hemisphereOf(std::string_view boxText)
 {
     const double value = readNumber(boxText);
     if (value == 0) return std::nullopt;
-    return !std::signbit(value);
+    return value > 0;
 }
 
 } // namespace korvel

@@ -6,7 +6,6 @@
 #include "forms/frmETA/ETAFields.h"
 #include "forms/frmETA/PassageTimes.h"
 #include "navlib/arithmetic_error.h"
-#include "navlib/datetime.h"
 
 #include <cmath>
 
@@ -59,10 +58,9 @@ ReqSpdResult CalculateReqSpd(const ReqSpdInput& input)
         *passageTime(input.txtTime[0], input.txtTime[1]) - readNumber(input.txtTD[0]) / 24;
     const double arrival =
         *passageTime(input.txtTime[2], input.txtTime[3]) - readNumber(input.txtTD[1]) / 24;
-    // In one second they are one moment, whatever the last bits of their fractions are.
-    if (NavFunc113::NearestSecond(arrival) <= NavFunc113::NearestSecond(departure))
-        return refused("The arrival does not lie after the departure.");
+    // Within half a second they are one moment, whatever the last bits of their fractions are.
     const double hours = (arrival - departure) * 24;
+    if (hours * 3600 < 0.5) return refused("The arrival does not lie after the departure.");
     const double distance = readNumber(input.txtDist);
     return {Format(NavFunc113::Quotient(distance, hours), "0.00"),
             onArrival,

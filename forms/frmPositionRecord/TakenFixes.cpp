@@ -67,11 +67,11 @@ const ObservedFix* frmPositionRecord::fixOfRow(std::size_t row) const
 {
     const auto read = std::ranges::find(m_shown.fixes, row, &RecordedFix::row);
     if (read == m_shown.fixes.end()) return nullptr;
-    const auto written = [](NavFunc113::DegMin angle) { return Format(angle, "0.#####"); };
     const auto same = [&](const ObservedFix& fix) {
-        return NavFunc113::NearestSecond(dateTimeOf(fix.utc)) == read->utc &&
-               written(fix.latitude) == written(read->latitude) &&
-               written(fix.longitude) == written(read->longitude);
+        constexpr double second = 1.0 / 86400, digit = 1e-6;
+        return std::abs(dateTimeOf(fix.utc) - read->utc) < second &&
+               std::abs(fix.latitude.packed() - read->latitude.packed()) < digit &&
+               std::abs(fix.longitude.packed() - read->longitude.packed()) < digit;
     };
     const auto found = std::ranges::find_if(m_observed, same);
     return found == m_observed.end() ? nullptr : &*found;

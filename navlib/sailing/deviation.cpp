@@ -80,6 +80,8 @@ std::vector<Doubtful> doubtfulPoints(std::span<const DeviationPoint> points,
     std::vector<Doubtful> doubtful;
     for (std::size_t i = 0; i < points.size(); ++i) {
         const double h = std::pow(fit.factor(points[i].heading), 2);
+        constexpr double alone = 1 - 1e-9; // no other point fixes the curve there
+        if (h >= alone) continue;
         const double off = fit.residuals()[i].value() / (1 - h);
         const double rest = std::max(0.0, squares - off * off * (1 - h));
         const Degrees scatter(std::sqrt(rest / static_cast<double>(points.size() - others)));
@@ -96,7 +98,6 @@ std::optional<std::size_t> worstPoint(std::span<const DeviationPoint> points)
 {
     const auto fit = DeviationFit::of(points);
     if (!fit || points.size() <= DeviationFit::fewestPoints) return std::nullopt;
-    // Where no other point fixes the curve on a heading, the others have none at all.
     for (const Doubtful& each : doubtfulPoints(points, *fit))
         if (DeviationFit::of(without(points, each.index))) return each.index;
     return std::nullopt;

@@ -26,7 +26,7 @@ Degrees withinHalfTurn(Degrees lambda)
 /// Whether the end that is farther from the equator lies north of it.
 bool isNorthern(Radians phi1, Radians phi2)
 {
-    return !std::signbit((fabs(phi1) > fabs(phi2) ? phi1 : phi2).value());
+    return (fabs(phi1) > fabs(phi2) ? phi1 : phi2) > Radians(0);
 }
 
 struct Departure {

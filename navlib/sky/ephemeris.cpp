@@ -128,10 +128,14 @@ Hours siderealTime(const Frame& frame)
 
 DegMin hourAngle(Hours siderealTime, DegMin rightAscension)
 {
-    const Degrees x = ArcOfHours(siderealTime) - DegMinToDeg(rightAscension);
-    // An angle between -360 and 0 stays negative, on purpose: callers add a longitude and take sine
-    // and cosine, or reduce it for display.
-    return DegToDegMin(x - fullTurn * std::max(0.0, std::floor(x / fullTurn)));
+    Degrees x = ArcOfHours(siderealTime) - DegMinToDeg(rightAscension);
+    // An angle between -360 and 0 gets 0 added here and stays negative, on purpose: callers add a
+    // longitude and take sine and cosine, or reduce it for display.
+    if (x > fullTurn)
+        x -= fullTurn * std::floor(x / fullTurn);
+    else if (x < Degrees(0))
+        x += fullTurn * (std::floor(x / fullTurn) + 1);
+    return DegToDegMin(x);
 }
 
 Degrees hourAngleOffset(DateTime instant, DegMin GHA)

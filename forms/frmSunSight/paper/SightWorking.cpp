@@ -224,19 +224,22 @@ void addRun(Working& working, const LOPResult& line)
     const Position& start = *track.position;
     working.angleStep("DR latitude", "φ0", DegToDegMin(start.latitude));
     working.angleStep("DR longitude", "λ0", DegToDegMin(start.longitude));
-    const Hours hours((*line.figures.observation.UTC - *track.UTC) * 24);
-    const Miles run = track.motion->speed * hours;
-    const std::string course = sightTerm(track.motion->course);
-    working.step("Run to the sight", "D = speed × hours from " + sightInstant(*track.UTC),
-                 Format(track.motion->speed, "0.0#####") + " × " + term(hours, 6), figure(run, 4),
-                 "miles");
-    working.step("Latitude at the sight", "φ = φ0 + D cos C / 60",
-                 sightTerm(start.latitude) + " + " + term(run, 4) + " × cos " + course + " / 60",
-                 sightFigure(DR.latitude), "°");
-    working.step("Longitude at the sight", "λ = λ0 + D sin C / (60 cos φm), φm = (φ0 + φ) / 2",
-                 sightTerm(start.longitude) + " + " + term(run, 4) + " × sin " + course +
-                     " / (60 × cos " + sightTerm((start.latitude + DR.latitude) / 2) + ")",
-                 sightFigure(DR.longitude), "°");
+    if (track.UTC) { // else she lies where she is typed
+        const Hours hours((*line.figures.observation.UTC - *track.UTC) * 24);
+        const Miles run = track.motion->speed * hours;
+        const std::string course = sightTerm(track.motion->course);
+        working.step("Run to the sight", "D = speed × hours from " + sightInstant(*track.UTC),
+                     Format(track.motion->speed, "0.0#####") + " × " + term(hours, 6),
+                     figure(run, 4), "miles");
+        working.step("Latitude at the sight", "φ = φ0 + D cos C / 60",
+                     sightTerm(start.latitude) + " + " + term(run, 4) + " × cos " + course +
+                         " / 60",
+                     sightFigure(DR.latitude), "°");
+        working.step("Longitude at the sight", "λ = λ0 + D sin C / (60 cos φm), φm = (φ0 + φ) / 2",
+                     sightTerm(start.longitude) + " + " + term(run, 4) + " × sin " + course +
+                         " / (60 × cos " + sightTerm((start.latitude + DR.latitude) / 2) + ")",
+                     sightFigure(DR.longitude), "°");
+    }
     working.resultStep("DR at the sight", "degrees and minutes of φ and λ", line.DR);
 }
 
