@@ -26,7 +26,7 @@ struct NoonWay {
     };
     std::optional<ByPlan> byPlan;
 
-    Span stops() const { return byPlan ? byPlan->stops : Span(0); }
+    Span stops() const { return byPlan ? byPlan->stops : Span{}; }
     /// "as typed"; "great circle to row 5, then by the plan; stops 6 h 00 m".
     std::string inWords() const;
 };

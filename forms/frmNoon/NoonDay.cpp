@@ -61,7 +61,8 @@ void takeRun(NoonReader& boxes, const PositionRecordResult& record, NoonDay& day
     if (!day.run) return boxes.remarks.fault("a leg between the fixes cannot be calculated");
     day.stopped = Hours(boxes.number(NoonBox::Stopped).value_or(0));
     day.underWay = day.run->hours - day.stopped;
-    if (day.underWay > Hours(0))
+    // Hours are differences of dates: what is shorter than a span can be is rounding.
+    if (const auto left = spanOf(day.underWay); left && *left > Span(0))
         day.average = day.run->miles / day.underWay;
     else
         boxes.remarks.fault("Stopped: no time is left under way");
