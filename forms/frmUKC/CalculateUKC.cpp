@@ -128,7 +128,6 @@ private:
         m_remarks.fault("block coefficient " + Format(*m_is.block, "0.000") +
                         ": length, breadth, draught and displacement do not belong together");
         m_is.block.reset();
-        m_lacks = true;
     }
 
     void findList()
@@ -189,8 +188,6 @@ private:
         } else if (m_week.fault.empty()) {
             m_is.tide = TideUsed{Metres(0), "none"};
             m_remarks.warn("no tide is typed: the depth is that of the chart");
-        } else {
-            m_lacks = true;
         }
     }
 
@@ -203,11 +200,7 @@ private:
             time = lowestOf(m_week, 0).time;
         } else {
             const CurveAnswer then = heightAt(m_week.days.front(), typedTime);
-            if (then.times.empty()) {
-                m_remarks.fault(then.remark);
-                m_lacks = true;
-                return;
-            }
+            if (then.times.empty()) return m_remarks.fault(then.remark);
             time = then.times.front();
         }
         std::string from = m_week.place + " " + clockTime(time);
@@ -224,8 +217,8 @@ private:
         for (const std::string& each : m_missing)
             missing += (missing.empty() ? "" : ", ") + each;
         if (!missing.empty()) m_remarks.fault("still to be typed: " + missing);
-        return !m_lacks && m_is.draught && m_is.density && m_is.block && m_is.list &&
-               m_is.charted && m_is.uncertainty && m_is.tide;
+        // What is typed and can be used may still give no block coefficient and no tide.
+        return !m_lacks && m_is.block && m_is.tide;
     }
 
     void makeModel()

@@ -78,10 +78,18 @@ inline constexpr std::array<Field, 24> UKCFields = {{
     {"txtTide", "Tide", "Height of tide", "metres", FieldKind::Figure, "m", -20, 20,
      "empty for that of the station"},
     {"txtStation", "Station", "Tide station", "three letters of its name", FieldKind::Text},
-    {"txtTideDay", "Day", "Day of the station", "year/month/day", FieldKind::Moment, "", -HUGE_VAL,
-     HUGE_VAL, "empty for today"},
-    {"txtTideTime", "Time", "Zone time of the station", "hours:minutes", FieldKind::Moment, "",
-     -HUGE_VAL, HUGE_VAL, "empty for the lowest water of the day"},
+    {.name = "txtTideDay",
+     .caption = "Day",
+     .words = "Day of the station",
+     .measure = "year/month/day",
+     .kind = FieldKind::Moment,
+     .note = "empty for today"},
+    {.name = "txtTideTime",
+     .caption = "Time",
+     .words = "Zone time of the station",
+     .measure = "hours:minutes",
+     .kind = FieldKind::Moment,
+     .note = "empty for the lowest water of the day"},
 }};
 
 } // namespace korvel

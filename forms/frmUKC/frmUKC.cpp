@@ -41,9 +41,8 @@ constexpr int firstChoice = 0;
 
 int choiceIn(const std::string& text, const QComboBox& list)
 {
-    bool isNumber = false;
-    const int index = asQString(text).toInt(&isNumber);
-    return isNumber && index >= 0 && index < list.count() ? index : firstChoice;
+    const int index = asQString(text).toInt(); // 0 where it is no number
+    return index >= 0 && index < list.count() ? index : firstChoice;
 }
 
 } // namespace
@@ -158,8 +157,8 @@ void frmUKC::addGroup(QGridLayout& grid, const char* title, std::size_t first, s
         grid.addWidget(choice, row++, 1, 1, 2 * columnsOfField - 1);
     }
     const int width = fontMetrics().horizontalAdvance("2038/08/04 20");
-    for (std::size_t field = first; field < end; ++field) {
-        const int place = static_cast<int>(field - first);
+    int place = 0;
+    for (std::size_t field = first; field < end; ++field, ++place) {
         const int column = place % 2 * columnsOfField;
         auto* label = new QLabel(UKCFields[field].caption);
         label->setBuddy(m_boxes[field]);
@@ -339,7 +338,7 @@ void frmUKC::run()
 void frmUKC::changeEvent(QEvent* event)
 {
     CalculatorWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) m_weeks.forget();
+    if (event->type() == QEvent::ActivationChange) m_weeks.forget();
 }
 
 WorkingPaper frmUKC::paper() const

@@ -4,6 +4,7 @@
 #include "forms/frmUKC/UKCFields.h"
 #include "forms/frmUKC/UKCWorking.h"
 #include "navlib/datetime.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 
 #include <gmock/gmock.h>
@@ -21,6 +22,7 @@ using NavFunc113::Hours;
 using NavFunc113::Knots;
 using NavFunc113::Metres;
 using ::testing::AllOf;
+using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
@@ -178,6 +180,115 @@ TEST(CalculateUKC, outsideTheFormulasItIsSaid)
     EXPECT_EQ(with(companysForm(), {{Charted, "12"}}).speed, "none");
 }
 
+/// Upright on still water, stopped, over a sea bed of a sounding that is known: draught and depth
+/// are the whole of it.
+UKCInput stopped(const char* charted)
+{
+    UKCInput input;
+    const std::pair<std::size_t, const char*> typed[] = {
+        {Forward, "10"}, {Block, "0.8"},        {Speed, "0"},   {Charted, charted}, {Breadth, "30"},
+        {Margin, "0"},   {UKCField::Tide, "0"}, {Minimum, "2"}, {Section, "100000"}};
+    for (const auto& [field, text] : typed)
+        input.boxes[field] = text;
+    return input;
+}
+
+TEST(CalculateUKC, whatIsJustKeptIsKept)
+{
+    const UKCResult kept = CalculateUKC(stopped("12"), {});
+    EXPECT_EQ(kept.over, "+0.00");
+    EXPECT_EQ(kept.speed, "0.0");
+    EXPECT_EQ(kept.leastTide, "0.00");
+    EXPECT_EQ(kept.notice, "");
+    const UKCResult lacks = CalculateUKC(stopped("11.996"), {});
+    EXPECT_EQ(lacks.over, "0.00");
+    EXPECT_EQ(lacks.speed, "none");
+    EXPECT_THAT(lacks.notice, HasSubstr("is less than 0.01 m below the minimum"));
+}
+
+TEST(CalculateUKC, theRangesOfTheFormulasEndWhereTheySay)
+{
+    struct Row {
+        std::initializer_list<std::pair<std::size_t, const char*>> changed;
+        Water water;
+        const char* said; ///< nothing: no word
+    };
+    for (const Row& row : {
+             Row{{{Charted, "14"}}, Water::Open, ""},
+             Row{{{Charted, "14.01"}}, Water::Open, "1.40 draughts, the formulas hold for 1.1"},
+             Row{{{Charted, "11"}, {Minimum, "0"}}, Water::Open, ""},
+             Row{{{Charted, "10.98"}, {Minimum, "0"}}, Water::Open, "it may be more"},
+             Row{{{Block, "0.5"}}, Water::Open, ""},
+             Row{{{Block, "0.49"}}, Water::Open, "outside 0.5 to 0.9"},
+             Row{{{Block, "0.9"}}, Water::Open, ""},
+             Row{{{Block, "0.91"}}, Water::Open, "outside 0.5 to 0.9"},
+             Row{{{Section, "3000"}}, Water::Channel, ""}, // 300 m2 fill a tenth of it
+             Row{{{Section, "3003"}}, Water::Channel, "fills 0.100 of the channel"},
+             Row{{{Section, "1132"}}, Water::Channel, ""},
+             Row{{{Section, "1123"}}, Water::Channel, "fills 0.267 of the channel"},
+         }) {
+        UKCInput input = stopped("12");
+        input.water = row.water;
+        const UKCResult shown = with(input, row.changed);
+        EXPECT_EQ(shown.notice.empty(), *row.said == '\0') << shown.notice;
+        EXPECT_THAT(shown.notice, HasSubstr(row.said));
+    }
+    // 20 knots over 4000 m.
+    EXPECT_EQ(with(stopped("1000"), {{Speed, "20"}}).notice,
+              with(stopped("1000"), {{Speed, "0"}}).notice);
+}
+
+TEST(CalculateUKC, thePaperHasTheFiguresOfEveryStep)
+{
+    UKCInput input = companysForm();
+    const std::pair<std::size_t, const char*> hull[] = {
+        {Forward, "10.6"},   {Midships, "11.1"}, {Aft, "10.8"},           {Block, ""},
+        {Length, "200"},     {Breadth, "32"},    {Displacement, "57728"}, {Allowance, ""},
+        {MinimumShare, "10"}};
+    for (const auto& [field, text] : hull)
+        input.boxes[field] = text;
+    input.survey = Survey::C;
+    input.water = Water::Confined;
+    const auto lines = korvel::testing::linesOf(columnWorking(input, CalculateUKC(input, {})));
+    for (const char* line : {
+             "Mean draught: (10.6 + 10.8 + 6 × 11.1) / 8 = 11.0000 m",
+             "Block coefficient: 57728 / (1.025 × 200 × 32 × 11.0000) = 0.800",
+             "Static draught: the deepest, midships = 11.10 m",
+             "Squat: 0.8000 × 10² / 50 = 1.60 m",
+             "Squat by the other formulas: for comparison = Cb V² / 100: 0.80 m",
+             "List: 32 / 2 × sin 3° = 0.84 m",
+             "Density: 11.1000 × (1.025 / 1.005 - 1) = 0.22 m",
+             "Dynamic draught: 11.1000 + 1.6000 + 0.8374 + 0.2209 + 0.5000 = 14.26 m",
+             "Uncertainty of the survey: 2.0 + 0.05 × 18 = 2.90 m",
+             "Depth to count on: 18.0000 + 1.0000 - 2.9000 = 16.10 m",
+             "Clearance: 16.1000 - 14.2583 = 1.84 m",
+             "Minimum: 1.5; 10 % × 11.1000 = 1.50 m",
+             "Over the minimum: 1.8417 - 1.5000 = +0.34 m",
+             "Least tide that keeps the minimum: 14.2583 + 1.5000 + 2.9000 - 18.0000 = 0.66 m",
+             "Squat that the minimum leaves: 16.1000 - 11.1000 - 0.8374 - 0.2209 - 0.5000 - 1.5000 "
+             "= 1.9417 m",
+             "Speed of that squat: √(50 × 1.9417 / 0.8000) = 11.02 kn",
+             "Greatest speed: tenths cut off, never rounded up = 11.0 kn",
+         })
+        EXPECT_THAT(lines, Contains(line));
+    for (const auto& [survey, terms, metres] : {std::tuple{Survey::A1, "0.5 + 0.01 × 18", "0.68"},
+                                                {Survey::A2, "1.0 + 0.02 × 18", "1.36"},
+                                                {Survey::B, "1.0 + 0.02 × 18", "1.36"}}) {
+        input.survey = survey;
+        EXPECT_THAT(
+            korvel::testing::linesOf(columnWorking(input, CalculateUKC(input, {}))),
+            Contains("Uncertainty of the survey: " + std::string(terms) + " = " + metres + " m"));
+    }
+    input.boxes[Midships].clear();
+    input.boxes[Forward] = "11.2";
+    EXPECT_THAT(korvel::testing::linesOf(columnWorking(input, CalculateUKC(input, {}))),
+                AllOf(Contains("Mean draught: (11.2 + 10.8) / 2 = 11.0000 m"),
+                      Contains("Static draught: the deepest, forward = 11.20 m")));
+    input.boxes[Forward].clear();
+    EXPECT_THAT(korvel::testing::linesOf(columnWorking(input, CalculateUKC(input, {}))),
+                Contains("Mean draught: T = the draught that is known = 10.8000 m"));
+}
+
 TEST(CalculateUKC, aChannelByItsSection)
 {
     UKCInput input = companysForm();
@@ -316,6 +427,40 @@ TEST(CalculateUKC, aStationThatCannotHelpSaysWhy)
     UKCInput input = overABar();
     input.boxes[Day] = "2005/12/30";
     EXPECT_EQ(weeks.week(input.tide(), 38000).days.size(), 2u);
+}
+
+TEST(CalculateUKC, theDaysAreThoseOfTheStationAndOfItsFiles)
+{
+    korvel::testing::FakeFiles files = TideFolder::shipped();
+    TideWeeks weeks(files);
+    const TideBoxes boxes{"", "yokoh", "", ""};
+    const NavFunc113::DateTime midnight =
+        static_cast<double>(NavFunc113::DaySerial({2005, 5, 5})) - 9.0 / 24; // there, in UTC
+    EXPECT_EQ(weeks.week(boxes, midnight - 1.0 / 1440).days.front().four.serial,
+              NavFunc113::DaySerial({2005, 5, 4}));
+    EXPECT_EQ(weeks.week(boxes, midnight + 1.0 / 1440).days.front().four.serial,
+              NavFunc113::DaySerial({2005, 5, 5}));
+    weeks.forget();
+    files.files.erase("AF2005.txt");
+    EXPECT_FALSE(weeks.week(boxes, midnight + 1.0 / 1440).isThere());
+    files.files["AF2005.txt"] = TideFolder::shippedFactors();
+    weeks.forget();
+    EXPECT_TRUE(weeks.week(boxes, midnight + 1.0 / 1440).isThere());
+}
+
+TEST(CalculateUKC, aMomentIsNoTimeToPass)
+{
+    TideWeeks weeks(TideFolder::shipped());
+    const TideWeek& week = weeks.week({"", "yokoh", "2005/5/5", ""}, 38000);
+    int highest = 1;
+    for (int minute = 1; minute < 24 * 60; ++minute)
+        if (week.at(0, Hours(minute / 60.0)) > week.at(0, Hours(highest / 60.0))) highest = minute;
+    const double top = week.at(0, Hours(highest / 60.0));
+    EXPECT_THAT(hoursAbove(week, 0, top - 1e-9), IsEmpty()) << "one minute alone";
+    const auto spans = hoursAbove(week, 0, top - 0.01);
+    ASSERT_EQ(spans.size(), 1U);
+    EXPECT_LT(spans[0].from, Hours(highest / 60.0));
+    EXPECT_GT(spans[0].to, Hours(highest / 60.0));
 }
 
 TEST(CalculateUKC, hoursOfAnEstimatedLevelSaySo)
