@@ -48,8 +48,13 @@ inline constexpr std::array<Field, 9> PlanRowFields = {{
     {"txtStep", "Step", "Step between the points of a circle", "degrees or miles",
      FieldKind::Figure, "", 1, 5400},
     // "44S" is no number to a box.
-    {"txtLimit", "Limit", "Limiting latitude", "degrees.minutes", FieldKind::Text, "degrees",
-     -HUGE_VAL, HUGE_VAL, "north positive"},
+    {.name = "txtLimit",
+     .caption = "Limit",
+     .words = "Limiting latitude",
+     .measure = "degrees.minutes",
+     .kind = FieldKind::Text,
+     .unit = "degrees",
+     .note = "north positive"},
 }};
 
 /// What the window shows beside the rows: the answers, then three in a column.

@@ -63,15 +63,6 @@ bool PlanInHand::insertRows(const PlanRows& rows)
     return true;
 }
 
-bool PlanInHand::appendRow(PlanRow row)
-{
-    const std::size_t at = std::min(m_row + 1, m_plan.rows.size());
-    auto edit = insertedRows(m_plan.rows, at, {std::move(row)});
-    if (!edit) return false;
-    perform(std::move(*edit), at);
-    return true;
-}
-
 void PlanInHand::deleteRow()
 {
     perform(deletedRows(m_plan.rows, m_row, 1), m_row);
@@ -124,13 +115,12 @@ bool PlanInHand::redo()
     return edit;
 }
 
-bool PlanInHand::setConditions(const PlanConditions& conditions)
+void PlanInHand::setConditions(const PlanConditions& conditions)
 {
     if (conditions.earth == m_conditions.earth && conditions.shipsTD == m_conditions.shipsTD)
-        return false;
+        return;
     m_conditions = conditions;
     m_reckoning.takeAll(m_plan, m_conditions);
-    return true;
 }
 
 } // namespace korvel

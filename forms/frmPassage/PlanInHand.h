@@ -35,8 +35,6 @@ public:
     /// Opens rows before the row in hand, which the first of them is then; they take the place of
     /// an empty one. @return false when the plan would have too many, and nothing is changed
     bool insertRows(const PlanRows& rows);
-    /// Opens a row behind the row in hand and goes there.
-    bool appendRow(PlanRow row);
     void deleteRow();
     /// Moves the row in hand. @param by -1 up, 1 down; beyond the ends nothing happens
     void moveRow(int by);
@@ -51,8 +49,7 @@ public:
     std::string undoName() const { return m_history.undoName(); }
     std::string redoName() const { return m_history.redoName(); }
 
-    /// @return whether they are others
-    bool setConditions(const PlanConditions& conditions);
+    void setConditions(const PlanConditions& conditions);
 
 private:
     void perform(PlanEdit edit, std::size_t row);

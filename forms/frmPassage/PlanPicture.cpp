@@ -238,8 +238,7 @@ void PlanPicture::drawScaleBar(QPainter& painter) const
     for (const QPointF& tick : {start, end})
         painter.drawLine(tick, tick - QPointF(0, unit));
     const double high = letterMetrics().height();
-    painter.drawText(QRectF(start.x() - 10 * unit, start.y() - high - unit / 2,
-                            end.x() - start.x() + 10 * unit, high),
+    painter.drawText(QRectF(area.left(), end.y() - high - unit / 2, end.x() - area.left(), high),
                      Qt::AlignRight | Qt::AlignVCenter, QString("%1 nm").arg(miles));
 }
 

@@ -33,10 +33,10 @@ void PlanReckoning::takeAll(const PassagePlan& plan, const PlanConditions& condi
 {
     m_conditions = conditions;
     m_rows.assign(plan.rows.size(), {});
-    for (std::size_t row = 0; row < m_rows.size(); ++row)
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
         readRow(plan, row);
-    for (std::size_t row = 0; row < m_rows.size(); ++row)
-        reckonLegTo(row);
+        reckonLegTo(row); // from one that was read before
+    }
     takeTimes(plan);
 }
 
@@ -102,6 +102,8 @@ void PlanReckoning::reckonLegTo(std::size_t row)
 void PlanReckoning::addUp()
 {
     m_totals = {};
+    for (Row& row : m_rows)
+        row.figures = {};
     addDistances();
     addToGo();
     addTimes();
@@ -115,7 +117,6 @@ void PlanReckoning::addDistances()
     Miles saving;
     bool isFirst = true;
     for (Row& row : m_rows) {
-        row.figures.run.reset();
         if (row.read.isEmpty) continue;
         if (isFirst && row.read.position)
             run = Miles(0);
@@ -136,7 +137,6 @@ void PlanReckoning::addToGo()
     std::optional<Miles> toGo;
     bool isLast = true;
     for (auto row = m_rows.rbegin(); row != m_rows.rend(); ++row) {
-        row->figures.toGo.reset();
         if (row->read.isEmpty) continue;
         if (isLast && row->read.position) toGo = Miles(0);
         isLast = false;
@@ -156,9 +156,6 @@ void PlanReckoning::addTimes()
     bool isFirst = true;
     for (Row& row : m_rows) {
         PlanFigures& figures = row.figures;
-        figures.speed.reset();
-        figures.underWay.reset();
-        figures.sinceDeparture.reset();
         if (row.read.isEmpty) continue;
         if (row.read.speed || !row.read.hasUsableSpeed) speed = row.read.speed;
         if (isFirst) {
@@ -192,7 +189,6 @@ void PlanReckoning::setZones()
     Span zone = spanOf(m_conditions.shipsTD).value_or(Span(0));
     bool isFirst = true;
     for (Row& row : m_rows) {
-        row.figures.clockChange = Span(0);
         if (!row.read.isEmpty && row.read.zone) {
             if (!isFirst) row.figures.clockChange = *row.read.zone - zone;
             zone = *row.read.zone;
@@ -222,8 +218,6 @@ void PlanReckoning::setInstants()
     const auto first = firstRow();
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         PlanFigures& figures = m_rows[i].figures;
-        figures.eta.reset();
-        figures.etd.reset();
         if (!m_departure || !figures.sinceDeparture) continue;
         figures.eta = *m_departure + *figures.sinceDeparture;
         figures.etd = i == first ? *figures.eta : *figures.eta + m_rows[i].read.stop;

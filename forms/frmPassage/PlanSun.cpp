@@ -42,8 +42,8 @@ public:
     bool isUp() const
     {
         const DateTime noon = dateTimeOf(m_from) + 0.5;
-        return almanac::computedDirection(m_sun.at(noon), m_observer).altitude >
-               NavFunc113::Degrees(0);
+        const auto direction = almanac::computedDirection(m_sun.at(noon), m_observer);
+        return direction.altitude > NavFunc113::Degrees(0);
     }
 
 private:

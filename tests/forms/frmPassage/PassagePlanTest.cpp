@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "forms/frmPassage/PassageShown.h"
 #include "forms/frmPassage/PlanEdit.h"
+#include "forms/frmPassage/PlanInHand.h"
 #include "forms/frmPassage/PlanPaper.h"
 #include "forms/frmPassage/PlanReckoning.h"
 #include "forms/frmPassage/PlanRecord.h"
 #include "forms/frmPassage/PlanSun.h"
+#include "forms/frmPassage/PlanTide.h"
+#include "forms/frmPassage/PlanWorking.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmPassage/Plans.h"
+#include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
@@ -17,6 +23,8 @@ namespace
 using namespace korvel::testing;
 using NavFunc113::Earth;
 using NavFunc113::Hours;
+using ::testing::Contains;
+using ::testing::ElementsAre;
 
 PassagePlan planOf(const Golden& row)
 {
@@ -71,7 +79,7 @@ TEST(PassagePlan, speedNeededToBeThereInTime)
          {std::tuple{0, 2, "2026-11-10T06:00:00Z"}, std::tuple{0, 2, "2026-11-09T00:00:00Z"},
           std::tuple{2, 3, "2026-11-20T00:00:00Z"}, std::tuple{0, 1, "2026-11-10T01:00:00Z"},
           std::tuple{2, 2, "2026-11-20T00:00:00Z"}, std::tuple{0, 4, "2026-11-20T00:00:00Z"},
-          std::tuple{0, 99, "2026-11-20T00:00:00Z"}}) {
+          std::tuple{0, 5, "2026-11-20T00:00:00Z"}}) {
         const SpeedNeeded needed = reckoning.speedNeeded(static_cast<std::size_t>(from),
                                                          static_cast<std::size_t>(to), at(time));
         EXPECT_FALSE(needed.speed) << from << ' ' << to;
@@ -98,6 +106,8 @@ TEST(PlanEdit, eachStepDoesWhatItSaysAndCanBeTakenBack)
          "A 0 0 v=10 stop=1 td=9 / B 1 0 gc:10 v=12 / C 2 0 co:3 stop=2 td=10 / D 3 0 v=8"},
         {movedRow(plan.rows, 1, 3),
          "A 0 0 v=10 stop=1 td=9 / C 2 0 co:3 stop=2 td=10 / D 3 0 v=8 / B 1 0 gc:10 v=12"},
+        {movedRow(plan.rows, 1, 2),
+         "A 0 0 v=10 stop=1 td=9 / C 2 0 co:3 stop=2 td=10 / B 1 0 gc:10 v=12 / D 3 0 v=8"},
         {movedRow(plan.rows, 3, 0),
          "D 3 0 v=8 / A 0 0 v=10 stop=1 td=9 / B 1 0 gc:10 v=12 / C 2 0 co:3 stop=2 td=10"},
         // Legs keep their kinds and speeds, positions their zones and stops.
@@ -169,6 +179,7 @@ TEST(PlanRecord, everythingThatIsTypedOrKeptComesBack)
         planOf("A 35.30 139.45 td=9 / . / B 36 150 gc:300nm v=x / C -5 -170 co:44S stop=6");
     plan.times = planTimes("arr ship 2027/1/1 00:00");
     plan.name = "a \"plan\", \\of= \t 横浜\r\n";
+    plan.wish = {"2", "3", "2027/1/2 3:00"};
     plan.rows[0].remark = "row\nrow=\\n";
     plan.rows[2].kept = {{"rtz leg/extension", "<a b=\"c\">\n\t<d/></a>"}, {"rtz position", ""}};
     plan.kept = {{"rtz version", "1.0"}};
@@ -231,12 +242,144 @@ TEST(PlanPaper, oneLineALegAndWhatOnlySomeRowsHave)
                                        "B|composite 44.0||TD 0 (ZD 0)|clocks 5 h 00 m forward; "
                                        "composite; 21.5 miles more than the full circle",
                                        "C||6||bunkers"));
-    EXPECT_EQ(paper.results[0].value, "3301.6");
+    // 3181.6 at 12 knots are 265 h 08 m, then 120 at 10; the rhumb line has 3260.3.
+    std::vector<std::string> totals;
+    for (const PaperFigure& figure : paper.results)
+        totals.push_back(figure.name + "|" + figure.value + "|" + figure.unit);
+    EXPECT_THAT(totals,
+                ElementsAre("Distance|3301.6|nautical miles", "Time under way|11 d 13 h 08 m|",
+                            "Stops|06 h 00 m|", "From departure to arrival|11 d 19 h 08 m|",
+                            "Saved by circles|78.7|nautical miles",
+                            "Clocks, in all|clocks 5 h 00 m forward|"));
+    ASSERT_EQ(paper.inputs.size(), 2u);
+    EXPECT_EQ(paper.inputs[0].value, "Atlantic");
+    EXPECT_EQ(paper.inputs[1].name + "|" + paper.inputs[1].value + "|" + paper.inputs[1].unit,
+              "Departure|2026/11/10 00:00|UTC");
+    PassagePlan back = plan;
+    back.times = planTimes("arr ship 2026/11/30 12:00");
+    WorkingPaper wanted{"Passage plan"};
+    tellPlan(wanted, back, PlanReckoning(back, {}));
+    EXPECT_EQ(wanted.inputs[1].name + "|" + wanted.inputs[1].unit, "Wanted arrival|ship's time");
     EXPECT_EQ(paper.line->points.size(), 6u) << "four waypoints and two tangent points";
     EXPECT_EQ(paper.list->rows.size(), 4u);
     WorkingPaper empty{"Passage plan"};
     tellPlan(empty, {}, PlanReckoning({}, {}));
     EXPECT_TRUE(empty.tables.empty() && empty.inputs.empty() && !empty.list);
+}
+
+TEST(PlanPaper, theWorkingsHaveTheFiguresOfTheRowsAndOfTheWish)
+{
+    PlanInHand work({});
+    PassagePlan plan = planOf("A 0 0 td=9 / B 2 0 v=12 stop=6 / C 3.30 0 v=10");
+    plan.wish = {"1", "2", "2026/11/10 08:00"};
+    work.take(plan);
+    work.goToRow(1);
+    const PassageShown shown = passageShown(work);
+    EXPECT_THAT(linesOf(rowWorking(work, shown)),
+                ElementsAre("Run: miles from the departure = 120.0",
+                            "To go: miles of the plan less the run = 90.0",
+                            "Leaves: arrival and stop = Wed 2026/11/11 01:00"));
+    const auto lines = linesOf(planWorking(plan, work.reckoning(), shown));
+    for (const char* line : {
+             "Speed needed: by 2026/11/10 08:00 = 15.00 knots",
+             "What it leads to: rows and wanted time = row 1 to 2, Tue 2026/11/10 08:00 UTC",
+             "Under way: sum of the hours 19.00000 = 19 h 00 m",
+             "In all: under way and stops 25.00000 h = 1 d 01 h 00 m",
+             "Arrival: the same with TD 9.00 = Wed 2026/11/11 10:00",
+         })
+        EXPECT_THAT(lines, Contains(line));
+    work.goToRow(3);
+    EXPECT_EQ(rowWorking(work, passageShown(work)).whyNone, "The row holds nothing.");
+    // An end on the limit: there is no tangent point of its own to work out.
+    const auto touching = compositeWorkings(PlanReckoning(planOf("A 44 -72 / B 41 0 co:44"), {}));
+    ASSERT_EQ(touching.size(), 1u);
+    EXPECT_EQ(touching[0].title, "Composite leg to row 2");
+    EXPECT_EQ(touching[0].steps.size(), 3u);
+    // From 50 S: arccos(tan 50 / tan 60) and, from 40 S, arccos(tan 40 / tan 60).
+    const auto southern = compositeWorkings(PlanReckoning(planOf("A -50 0 / B -40 120 co:60"), {}));
+    ASSERT_EQ(southern.size(), 1u);
+    EXPECT_THAT(
+        linesOf(southern[0]),
+        ::testing::IsSupersetOf(
+            {"Limiting latitude: as understood = 60°00.0' S",
+             "Change of longitude to tangent point 1: arccos(tan 50.0000° / tan 60.0000°) = "
+             "46.5233 °",
+             "Change of longitude to tangent point 2: arccos(tan 40.0000° / tan 60.0000°) = "
+             "61.0233 °"}));
+}
+
+TEST(PassagePlan, copiedAsATableItHasEveryRowAndWhatIsKnownOfIt)
+{
+    const PassagePlan plan =
+        planOf("A 0 0 td=9 / . / B 2 0 v=12 stop=6 note=pilot / C 3 - note=unknown");
+    EXPECT_EQ(planAsText(plan, PlanReckoning(plan, {})),
+              "No.\tWaypoint\tLatitude\tLongitude\tCourse\tMiles\tTo go\tRun\tKnots\t"
+              "Under way\tETA UTC\tETA zone\tETD zone\tZone\tStop h\tRemark\n"
+              "1\tA\t00°00.0'N\t000°00.0'E\t\t\t\t0.0\t\t\tTue 2026/11/10 00:00\t"
+              "Tue 2026/11/10 09:00\t\tTD +9 (ZD -9)\t\t\n"
+              "3\tB\t02°00.0'N\t000°00.0'E\t<000.0>\t120.0\t\t120.0\t12.0\t10 h 00 m\t"
+              "Tue 2026/11/10 10:00\tTue 2026/11/10 19:00\tWed 2026/11/11 01:00\tTD +9 (ZD -9)\t"
+              "6\tpilot\n"
+              "4\tC\t3\t\t\t\t\t\t12.0\t\t\t\t\tTD +9 (ZD -9)\t\tunknown\n"
+              "Distance\t\nTime under way\t\nStops\t\nFrom departure to arrival\t\n");
+}
+
+TEST(PlanInHand, eachStepLeavesARowInHandThatIsThere)
+{
+    PlanInHand work({});
+    const auto seen = [&work] { return rowsText(work.plan().rows); };
+    EXPECT_EQ(work.shownRows(), 1u);
+    work.take(planOf("A 0 0"));
+    EXPECT_EQ(work.shownRows(), 2u) << "an empty one to type into";
+    // Nothing is claimed of a way while there is one row, and no time asked for.
+    EXPECT_EQ(passageShown(work).notice, "");
+    EXPECT_EQ(passageShown(work).departure + passageShown(work).distance, "");
+    work.take(planOf("A 0 0 / B 1 0 / ."));
+    EXPECT_EQ(work.shownRows(), 3u) << "the empty one that is there";
+    work.goToRow(9);
+    EXPECT_EQ(work.row(), 2u);
+    work.moveRow(1);
+    EXPECT_EQ(seen(), "A 0 0 / B 1 0 / .");
+    EXPECT_TRUE(work.insertRows(planRows("C 2 0 / D 3 0")));
+    EXPECT_EQ(seen(), "A 0 0 / B 1 0 / C 2 0 / D 3 0") << "in the place of the empty one";
+    EXPECT_EQ(work.row(), 2u);
+    work.moveRow(-1);
+    EXPECT_EQ(seen() + " " + std::to_string(work.row()), "A 0 0 / C 2 0 / B 1 0 / D 3 0 1");
+    work.moveRow(-1);
+    work.moveRow(-1); // beyond the first
+    EXPECT_EQ(seen() + " " + std::to_string(work.row()), "C 2 0 / A 0 0 / B 1 0 / D 3 0 0");
+    work.moveRow(1);
+    EXPECT_EQ(seen() + " " + std::to_string(work.row()), "A 0 0 / C 2 0 / B 1 0 / D 3 0 1");
+    work.reverse();
+    EXPECT_EQ(seen() + " " + std::to_string(work.row()), "D 3 0 / B 1 0 / C 2 0 / A 0 0 0");
+    work.goToRow(3);
+    work.deleteRow();
+    EXPECT_EQ(seen() + " " + std::to_string(work.row()), "D 3 0 / B 1 0 / C 2 0 3");
+    work.goToRow(1);
+    EXPECT_TRUE(work.undo()); // the row that comes back is in hand
+    EXPECT_EQ(seen() + " " + std::to_string(work.row()), "D 3 0 / B 1 0 / C 2 0 / A 0 0 3");
+    work.replace(planOf("Z 9 9 / Y 8 8"), "Open");
+    EXPECT_EQ(work.row(), 0u);
+    EXPECT_EQ(work.undoName() + "|" + work.redoName(), "Open|");
+    work.goToRow(2);
+    EXPECT_TRUE(work.undo());
+    EXPECT_EQ(work.row(), 0u);
+    EXPECT_EQ(work.redoName(), "Open");
+}
+
+TEST(PlanTide, theNextPortHasATideOfItsOwn)
+{
+    const NavFunc113::GeoPoint tokyo{NavFunc113::DegMin(35.39), NavFunc113::DegMin(139.46)};
+    const NavFunc113::GeoPoint yokohama{NavFunc113::DegMin(35.27), NavFunc113::DegMin(139.39)};
+    const Instant utc = *readIso("2005-06-01T00:00:00Z");
+    const std::string alone = PlanTide(TideFolder::shipped()).at(yokohama, utc);
+    PlanTide tide(TideFolder::shipped());
+    const std::string before = tide.at(tokyo, utc);
+    EXPECT_THAT(before, ::testing::StartsWith("Tokyo, "));
+    EXPECT_THAT(alone, ::testing::StartsWith("Yokohama, "));
+    EXPECT_EQ(tide.at(yokohama, utc), alone);
+    EXPECT_EQ(tide.at(tokyo, utc), before);
+    EXPECT_NE(before.substr(before.find(" m ") - 5), alone.substr(alone.find(" m ") - 5));
 }
 
 /// At the ends of the calendar a local time has no text that could be cut at its hours.

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace korvel
@@ -63,6 +64,17 @@ TEST(PlanChart, isMadeAnewWhereThePlanChanged)
     };
     EXPECT_NEAR(lastY("A 41 -72 / B 41 0 gc"), mercatorY(NavFunc113::Degrees(41)), 1e-9);
     EXPECT_NEAR(lastY("A 41 -72 / B 42 0 gc"), mercatorY(NavFunc113::Degrees(42)), 1e-9);
+    EXPECT_EQ(maker.chartOf(reckoningOf("A 40 -72 / B 42 0 gc")).legs.back().points.front().y,
+              mercatorY(NavFunc113::Degrees(40)));
+    const auto highest = [&](const std::string& rows) {
+        double y = -90;
+        const PlanChart chart = maker.chartOf(reckoningOf(rows));
+        for (const ChartSpot& spot : chart.legs.at(0).points)
+            y = std::max(y, spot.y);
+        return latitudeAtY(y).value();
+    };
+    EXPECT_NEAR(highest("A 41 -72 / B 41 0 co:44"), 44, 1e-6);
+    EXPECT_NEAR(highest("A 41 -72 / B 41 0 co:46"), 46, 1e-6) << "another limit";
     EXPECT_EQ(maker.chartOf(reckoningOf("A 41 -72 / B 42 0")).legs.back().points.size(), 2u);
     EXPECT_TRUE(maker.chartOf(reckoningOf("")).isEmpty());
 }
@@ -79,6 +91,9 @@ TEST(PlanChart, viewShowsAllAndKeepsWhatIsUnderThePointer)
     const ChartView near = all.zoomed(0.5, held);
     EXPECT_NEAR((held.x - near.centre.x) / near.halfWidth, (held.x - all.centre.x) / all.halfWidth,
                 1e-9);
+    EXPECT_NEAR((held.y - near.centre.y) / near.halfWidth, (held.y - all.centre.y) / all.halfWidth,
+                1e-9);
+    EXPECT_EQ(near.halfWidth, all.halfWidth / 2);
     EXPECT_GT(ChartView::ofAll(chartOf("A 35 170"), 1).halfWidth, 0);
 }
 
@@ -95,7 +110,17 @@ TEST(PlanChart, graticuleHasRoundFigures)
     EXPECT_EQ(texts(parallelsOf(mercatorY(NavFunc113::Degrees(-12)),
                                 mercatorY(NavFunc113::Degrees(12)), 5)),
               "10°S 5°S 0° 5°N 10°N ");
-    EXPECT_EQ(milesOfScaleBar(734), 500);
+    // 1, 2, 5 and their tens; never longer than there is room for.
+    double shorter = 0.1;
+    for (const double tens : {0.1, 1.0, 10.0, 100.0, 1000.0})
+        for (const double each : {1.0, 2.0, 5.0}) {
+            const double round = each * tens;
+            if (round < 0.2 || round > 2000) continue;
+            EXPECT_DOUBLE_EQ(milesOfScaleBar(round), round);
+            EXPECT_DOUBLE_EQ(milesOfScaleBar(round * 0.99), shorter);
+            shorter = round;
+        }
+    EXPECT_EQ(milesOfScaleBar(9999), 2000);
 }
 
 } // namespace
