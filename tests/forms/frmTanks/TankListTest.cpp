@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/working/WorkingPaper.h"
 #include "forms/frmNoon/CalculateNoon.h"
 #include "forms/frmTanks/BunkerReckoning.h"
 #include "forms/frmTanks/TankCsv.h"
-#include "forms/frmTanks/TankPaper.h"
 #include "forms/frmTanks/TankRecord.h"
 #include "forms/frmTanks/TankTexts.h"
+#include "tests/forms/frmTanks/TankSheets.h"
 
 #include <gmock/gmock.h>
 
@@ -14,43 +13,11 @@ namespace korvel
 namespace
 {
 
+using namespace korvel::testing;
 using NavFunc113::CrudeEdition;
 using NavFunc113::FactorRounding;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-GradeBoxes grade(const char* name, const char* table, const char* density)
-{
-    GradeBoxes boxes;
-    boxes.name = name;
-    boxes.table = table;
-    boxes.density = density;
-    return boxes;
-}
-
-TankRow tank(const char* name, const TankReading& first, const TankReading& last)
-{
-    return {name, {first, last}};
-}
-
-/// The cargo of an ullage report: two grades, after loading.
-TankSheet cargoOfReport()
-{
-    TankSheet sheet;
-    TankList& cargo = sheet.list(ListKind::Cargo);
-    cargo.grades[0] = grade("Gasoline", "54B", "721.4");
-    cargo.grades[1] = grade("Gas oil", "54b", "842.8");
-    cargo.rows = {tank("1", {}, {"", "8834.839", "0.046", "22.0", "1"}),
-                  tank("2", {}, {"", "2202.606", "0.169", "22.5", "gas oil"})};
-    return sheet;
-}
-
-SheetInHand inHand(const TankSheet& sheet)
-{
-    SheetInHand work;
-    work.take(sheet);
-    return work;
-}
 
 TEST(TankList, cargoOfAnUllageReport)
 {
@@ -110,6 +77,7 @@ TEST(TankList, whatIsLeftOutIsSaidAndNoSumIsShown)
         {"comma", {"", "1,234.5", "", "20", "1"}, "volume"},
         {"beyond any tank", {"", "1e99", "", "20", "1"}, "volume"},
         {"cold beyond sense", {"", "100", "", "-61", "1"}, "temperature"},
+        {"hot beyond sense", {"", "100", "", "201", "1"}, "temperature"},
         {"outside the table", {"", "100", "", "130", "1"}, "outside table 54B"},
     };
     for (const Case& each : cases) {
@@ -120,6 +88,7 @@ TEST(TankList, whatIsLeftOutIsSaidAndNoSumIsShown)
         const bool isWarning = each.reading.temperature == "130" || each.reading.volume[1] == ',' ||
                                each.reading.volume == "1e99"; // its beginning is a number
         EXPECT_EQ(shown.moved.empty(), !isWarning) << each.fault;
+        EXPECT_EQ(shown.isWhole[0], isWarning) << each.fault;
     }
     // An empty tank needs nothing; water alone is no oil.
     TankSheet sheet = cargoOfReport();
@@ -147,7 +116,10 @@ TEST(TankList, gradesAreCheckedBeforeATankRestsOnThem)
         {"no such table", grade("Naphtha", "54E", "700"), "Naphtha, table: one of"},
         {"no density", grade("Naphtha", "54B", ""), "Naphtha, density is missing"},
         {"density of kg/l", grade("Naphtha", "54B", "0.7"), "Naphtha, density"},
-        {"gravity of no oil", grade("Naphtha", "6B", "-131.5"), "Naphtha, API"},
+        {"lighter than any oil", grade("Naphtha", "54B", "399.9"), "Naphtha, density"},
+        {"heavier than any oil", grade("Naphtha", "54B", "1300.1"), "Naphtha, density"},
+        {"gravity of no oil", grade("Naphtha", "6B", "-20.1"), "Naphtha, API"},
+        {"gravity beyond any oil", grade("Naphtha", "6B", "130.1"), "Naphtha, API"},
         {"no coefficient", own, "Wax: table 54C needs the coefficient"},
         {"coefficient in parts of a million", wild, "Wax, coefficient"},
         {"more sediment than oil", sediment, "Crude, sediment and water"},
@@ -159,19 +131,6 @@ TEST(TankList, gradesAreCheckedBeforeATankRestsOnThem)
         EXPECT_THAT(shown.notices[0], HasSubstr(each.said)) << each.fault;
         EXPECT_FALSE(shown.isWhole[0]) << each.fault;
     }
-}
-
-/// A loading with what was on board before, against its bill.
-TankSheet loading()
-{
-    TankSheet sheet = cargoOfReport();
-    TankList& cargo = sheet.list(ListKind::Cargo);
-    cargo.rows[1].surveys[0] = {"", "2.400", "", "20", "2"};
-    cargo.grades[0].billWeight = "6320";
-    cargo.grades[0].billVolume = "8760";
-    cargo.grades[1].billWeight = "1842.5";
-    sheet.choices.rounding = FactorRounding::FourDecimals;
-    return sheet;
 }
 
 TEST(TankList, shipAgainstBillOfLading)
@@ -205,9 +164,12 @@ TEST(TankList, shipAgainstBillOfLading)
     EXPECT_EQ(shown.byExperience, "");
     // 6307.064 against 7000: in per cent of the bill, not of the ship, and of the grade alone.
     sheet.list(ListKind::Cargo).grades[0].billWeight = "7000";
+    sheet.list(ListKind::Cargo).grades[1].billWeight = "0";
     const auto discharged = compareRows(inHand(sheet).reckoning(ListKind::Cargo));
     EXPECT_EQ(discharged[0].measures[2].ship, "6307.064");
     EXPECT_EQ(discharged[0].measures[2].percent, "-9.899");
+    EXPECT_EQ(discharged[1].measures[2].difference, discharged[1].measures[2].ship);
+    EXPECT_EQ(discharged[1].measures[2].percent, "") << "of nothing";
 }
 
 TEST(TankList, tanksOfAGradeAreAddedUp)
@@ -216,9 +178,24 @@ TEST(TankList, tanksOfAGradeAreAddedUp)
     TankList& cargo = sheet.list(ListKind::Cargo);
     cargo.rows[0].surveys[1].volume = "4000";
     cargo.rows.push_back(tank("3", {}, {"", "4834.839", "", "22.0", "gasoline"}));
-    const auto rows = totalsRows(inHand(sheet).reckoning(ListKind::Cargo), TotalsOf::Last);
-    EXPECT_EQ(rows[0].inVacuo, "6316.441") << "8834.793 x 0.99106 x 721.4 / 1000";
-    EXPECT_EQ(rows[0].observed, "8834.839");
+    cargo.grades[0].sediment = "0.5";
+    cargo.rows[1].surveys[1].grade = "  GAS oil ";
+    SheetInHand work = inHand(sheet);
+    const auto rows = totalsRows(work.reckoning(ListKind::Cargo), TotalsOf::Last);
+    // 8834.793 x 0.99106 = 8755.810, in barrels of 0.158987295 x 0.99929 m3; x 721.4 and 720.3.
+    const TotalsRow& row = rows[0];
+    EXPECT_THAT(
+        (std::vector{row.name, row.observed, row.water, row.gross, row.standard, row.net, row.total,
+                     row.barrels, row.inVacuo, row.inAir, row.longTons, row.netInAir}),
+        ElementsAre("Gasoline", "8834.839", "0.046", "8834.793", "8755.810", "8712.031", "8755.856",
+                    "55111.40", "6316.441", "6306.810", "6207.203", "6275.276"));
+    EXPECT_EQ(rows[1].observed, "2202.606") << "called by its name";
+    EXPECT_EQ(rows[2].name, "");
+    // A survey that was not taken has no totals, nothing on board and nothing moved from it.
+    const auto before = totalsRows(work.reckoning(ListKind::Cargo), TotalsOf::First);
+    EXPECT_EQ(before[0].name + before[0].inAir + before[gradeCount].inAir, "Gasoline");
+    EXPECT_EQ(tanksShown(work).onBoard, "");
+    EXPECT_EQ(tanksShown(inHand({})).moved, "");
 }
 
 TEST(TankList, parcelsOfOneFuelAreAdded)
@@ -271,9 +248,18 @@ TEST(TankList, bunkersOfASurveyGoIntoTheNoonReport)
     EXPECT_EQ(report.fuelBy, "tank list, 2026/11/22 12:00");
     noon.boxes.before[0] = "200";
     EXPECT_EQ(CalculateNoon(noon).fuel[0], "42.5 t") << "what is typed counts";
-    noon.record.rows[0] = {"2026/11/24 12:00", "0", "0", "0"};
-    noon.record.rows[1] = {"2026/11/25 12:00", "0", "0", "5"};
-    EXPECT_THAT(CalculateNoon(noon).notice, HasSubstr("the tank list is of 2026/11/22"));
+    for (const auto& [apart, last, isSaid] :
+         {std::tuple("twelve hours after", "2026/11/23 0:00", false),
+          {"more", "2026/11/23 0:01", true},
+          {"twelve hours before", "2026/11/22 0:00", false},
+          {"more", "2026/11/21 23:59", true},
+          {"three days", "2026/11/25 12:00", true}}) {
+        noon.record.rows[0] = {"2026/11/20 12:00", "0", "0", "0"};
+        noon.record.rows[1] = {last, "0", "0", "5"};
+        const bool says =
+            CalculateNoon(noon).notice.find("the tank list is of 2026/11/22") != std::string::npos;
+        EXPECT_EQ(says, isSaid) << apart;
+    }
     EXPECT_THAT(CalculateNoon(noon).mail, HasSubstr("ROB 1: 157.5 t\n"));
     EXPECT_THAT(CalculateNoon(noon).mail, HasSubstr("Bunkered 2: 50.0 t\n"));
     // The next day begins with what is on board now.
@@ -312,6 +298,11 @@ TEST(TankList, recordComesBackAsItWas)
         readTankRecord("KORVEL2000 tank list 1\nport=A\ncargo\ngrade 9\nname=B\ntank\nname=C\n")
             .damage,
         "line 4: it cannot be read");
+    for (const char* beyond : {"grade 0", "grade 1x", "grade", "loading voyage 21", "deck"})
+        EXPECT_EQ(
+            readTankRecord("KORVEL2000 tank list 1\ncargo\n" + std::string(beyond) + "\n").damage,
+            "line 3: it cannot be read")
+            << beyond;
     std::string many = "KORVEL2000 tank list 2\nlater=1\ncargo\n";
     for (int i = 0; i < 201; ++i)
         many += "tank\nname=T\n";
@@ -334,6 +325,25 @@ TEST(TankCsv, aSavedListComesBack)
     const ReadTanks read = readCsv(spreadsheetMark + csvText(tankTable(list, {})));
     EXPECT_EQ(read.fault, "");
     EXPECT_TRUE(read.rows == list.rows);
+}
+
+TEST(TankCsv, theHeadingNamesSurveysAndUnits)
+{
+    const std::string names =
+        "tank|first_sounding|first_volume_m3|first_water_m3|first_temperature_c|first_grade|"
+        "last_sounding|last_volume_m3|last_water_m3|last_temperature_c|last_grade";
+    const auto headings = [](const TankChoices& choices) {
+        std::string all;
+        for (const std::string& each : tankTable({}, choices).headings)
+            all += (all.empty() ? "" : "|") + each;
+        return all;
+    };
+    EXPECT_EQ(headings({}), names);
+    TankChoices american;
+    american.volume = TankVolumeUnit::Barrels;
+    american.temperature = TankTemperatureUnit::Fahrenheit;
+    EXPECT_THAT(headings(american),
+                HasSubstr("|last_volume_bbl|last_water_bbl|last_temperature_f|"));
 }
 
 TEST(TankCsv, aFileOfOneSurveyLeavesTheOther)
@@ -387,64 +397,6 @@ TEST(TankCsv, whatIsWrongIsNamedByLineAndField)
         EXPECT_THAT(read.fault, HasSubstr(each.said)) << each.fault;
         EXPECT_TRUE(read.rows.empty()) << each.fault;
     }
-}
-
-TEST(SheetInHand, keysInABoxAreOneStepAndComeBack)
-{
-    SheetInHand work;
-    TankRow row;
-    for (const char* typed : {"1", "1P"}) {
-        row.tank = typed;
-        work.typeRow(ListKind::Cargo, row, "txtTank(0)");
-    }
-    row.surveys[0].volume = "5";
-    work.typeRow(ListKind::Cargo, row, "txtTank(2)");
-    work.goToRow(ListKind::Cargo, 1);
-    EXPECT_EQ(work.shownRows(ListKind::Cargo), 2);
-    EXPECT_TRUE(work.insertRow(ListKind::Cargo));
-    EXPECT_EQ(work.undo(), "Typing");
-    EXPECT_EQ(work.list(ListKind::Cargo).rows[0].surveys[0].volume, "");
-    EXPECT_EQ(work.redo(), "Typing");
-    EXPECT_EQ(work.reckoning(ListKind::Cargo).sums(TankSurvey::First).measured, 1);
-    work.goToRow(ListKind::Cargo, 0);
-    work.deleteRow(ListKind::Cargo);
-    EXPECT_EQ(work.redo(), "") << "a new step ends what was undone";
-    work.undo();
-    work.undo();
-    work.undo();
-    EXPECT_TRUE(work.list(ListKind::Cargo).rows.empty());
-    EXPECT_EQ(work.undo(), "");
-    TankSheet full;
-    full.list(ListKind::Cargo).rows.resize(mostTanks, row);
-    work.take(full);
-    EXPECT_FALSE(work.insertRow(ListKind::Cargo));
-    EXPECT_EQ(work.shownRows(ListKind::Cargo), mostTanks);
-}
-
-TEST(TankPaper, whatIsSignedHasTanksTotalsAndThoseWhoSign)
-{
-    const SheetInHand work = inHand(loading());
-    const TanksShown shown = tanksShown(work);
-    SheetInHand after = work;
-    after.goToSurvey(ListKind::Cargo, TankSurvey::Last);
-    WorkingPaper paper;
-    tellSurvey(paper, after, shown, ListKind::Cargo);
-    EXPECT_EQ(paper.kind, "Ullage report, After loading");
-    EXPECT_EQ(paper.tables[0].rows.size(), 2);
-    EXPECT_EQ(paper.tables[1].rows.back()[6], "8161.216");
-    EXPECT_THAT(paper.signatures, ElementsAre("Chief officer", "Surveyor", "Terminal"));
-    tellMoved(paper, after, shown);
-    ASSERT_EQ(paper.workings.size(), 2);
-    EXPECT_EQ(paper.workings[0].title, "what was loaded");
-    EXPECT_EQ(paper.workings[0].tables[1].rows.back()[3], shown.moved);
-    EXPECT_EQ(paper.workings[0].tables.back().rows.size(), 4) << "bills: m³ and t of one, t, ship";
-    EXPECT_THAT(paper.workings[1].steps.back().value, "6207.454") << "long tons of the gasoline";
-    tellMoved(paper, work, shown);
-    EXPECT_THAT(paper.workings[1].title, HasSubstr("after")) << "before there was no oil in it";
-    tellExperience(paper, after, shown);
-    EXPECT_TRUE(paper.tables.empty());
-    tellBunkers(paper, after, shown);
-    EXPECT_THAT(paper.kind, HasSubstr("Bunkers"));
 }
 
 } // namespace
