@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmNoon/frmNoon.h"
 
+#include "forms/frmNoon/NoonMail.h"
 #include "forms/frmPassage/frmPassage.h"
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 #include "tests/SourceFolder.h"
@@ -9,6 +10,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLineEdit>
+#include <QMenu>
 #include <QTest>
 
 #include <algorithm>
@@ -94,6 +97,43 @@ TEST_F(frmNoonTest, threeDaysOfAnOceanPassage)
     EXPECT_THAT(mail, HasSubstr("ROB 1: 717.9 t\n"));
     program().saveRecords();
     EXPECT_THAT(fileText("KV_Noon.ini"), HasSubstr("\ntxtNoonLetters=bc r\n"));
+}
+
+TEST_F(frmNoonTest, everyBoxIsThereAgain)
+{
+    auto& noon = open<frmNoon>();
+    EXPECT_EQ(focused(), "txtNoonFix(0)");
+    int figure = 1; // another in each box, and of every box's range
+    for (const Field& field : NoonFields)
+        type(noon, field.name,
+             field.kind == FieldKind::Figure
+                 ? std::string(field.name) == "txtWake" ? "0.5" : std::to_string(figure++ % 12)
+                 : std::string("its ") + field.name);
+    std::vector<std::string> typed;
+    for (const Field& field : NoonFields)
+        typed.push_back(text(noon, field.name));
+    close(noon);
+    auto& again = open<frmNoon>();
+    for (std::size_t i = 0; i < typed.size(); ++i)
+        EXPECT_EQ(text(again, NoonFields[i].name), typed[i]) << NoonFields[i].name;
+}
+
+TEST_F(frmNoonTest, menusFillTheBoxesThatTheyName)
+{
+    auto& noon = open<frmNoon>();
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(control(noon, "txtOrder")).placeholderText().toStdString(),
+              usualOrder);
+    EXPECT_EQ(noon.findChild<QMenu*>("mnuReport")->title(), "R&eport");
+    program().saved().setSingleMemo(123.5);
+    questions.willAnswer(Answer::Yes);
+    choose(noon, "mnuRem(0)");
+    EXPECT_EQ(text(noon, "txtToGo"), "123.5");
+    program().shipNow.tellMotion(ShipNow::Motion{NavFunc113::Degrees(85), NavFunc113::Knots(14.5)});
+    program().tellShipNow();
+    choose(noon, "mnuShip(0)");
+    EXPECT_EQ(text(noon, "txtNoonSpeed(1)"), "14.5");
+    choose(noon, "mnuReport(1)");
+    EXPECT_THAT(noon.notice().toStdString(), HasSubstr("There is no report yet."));
 }
 
 TEST_F(frmNoonTest, whatIsTypedWrongIsSaidAndNothingIsLost)

@@ -7,7 +7,7 @@
 #include "forms/frmPassage/PlanRecord.h"
 #include "forms/frmPassage/PlanTable.h"
 #include "tests/SourceFolder.h"
-#include "tests/shell/ShellTesting.h"
+#include "tests/forms/frmPassage/PassageWindow.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,40 +24,11 @@ namespace
 using namespace korvel::testing;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
-class frmPassageTest : public WindowTest
+class frmPassageTest : public PassageWindowTest
 {
-protected:
-    /// Types rows as the officer does: boxes parted by commas in their Enter order, Enter behind
-    /// each row.
-    static void typeRows(frmPassage& window, const std::vector<std::vector<std::string>>& rows)
-    {
-        constexpr const char* boxes[] = {"txtWaypoint", "txtWpLat", "txtWpLong", "txtLegSpeed",
-                                         "txtStop",     "txtZone",  "txtRemark"};
-        for (const auto& row : rows) {
-            for (std::size_t i = 0; i < row.size(); ++i)
-                if (!row[i].empty()) type(window, boxes[i], row[i]);
-            if (&row == &rows.back()) continue;
-            control(window, "txtRemark").setFocus(Qt::TabFocusReason);
-            QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Return);
-        }
-    }
-
-    PassagePlan onDisk()
-    {
-        program().saveRecords();
-        return readPlanRecord(fileText("KV_Passage.ini")).plan;
-    }
-
-    static std::string cell(const frmPassage& window, int row, int column, int line = 0)
-    {
-        const auto& table = static_cast<PlanTable&>(control(window, "tblPlan"));
-        const QModelIndex at = table.model()->index(row, column);
-        return at.data(line == 0 ? int(Qt::DisplayRole) : int(Qt::UserRole))
-            .toString()
-            .toStdString();
-    }
 };
 
 /// A record that is damaged is asked about, and the table painted behind the question.
@@ -99,8 +70,18 @@ TEST_F(frmPassageTest, aStopMovesWhatFollows)
     click(window, "optClock(1)");
     typeRows(window,
              {{"A", "0", "0", "", "", "9"}, {"B", "2", "0", "12", "6"}, {"C", "3.3", "0", "10"}});
+    std::string row;
+    for (int column = 0; column < PlanTable::Columns; ++column)
+        row += cell(window, 1, column) + "/" + cell(window, 1, column, 1) + "; ";
+    EXPECT_EQ(row, "2/; B/; 02°00.0'N/000°00.0'E; rhumb/; 000.0/; 120.0/90.0; 12.0/10 h 00 m; "
+                   "Tue 2026/11/10 18:00/Tue 2026/11/10 09:00; +9/; ");
     EXPECT_EQ(cell(window, 1, PlanTable::Arrival), "Tue 2026/11/10 18:00");
     EXPECT_EQ(text(window, "lblArrival"), "Wed 2026/11/11 09:00");
+    std::vector<std::string> totals;
+    for (int i = 0; i < 7; ++i)
+        totals.push_back(text(window, memberName("lblPlan", i).toStdString()));
+    EXPECT_THAT(totals, ElementsAre("Tue 2026/11/10 08:00; UTC Mon 23:00", "210.0", "19 h 00 m",
+                                    "06 h 00 m", "1 d 01 h 00 m", "0.0", ""));
     QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Up);
     EXPECT_EQ(text(window, "txtWaypoint"), "B");
     EXPECT_EQ(text(window, "lblRow(1)"), "Wed 2026/11/11 00:00");
@@ -109,6 +90,11 @@ TEST_F(frmPassageTest, aStopMovesWhatFollows)
     type(window, "txtWish(1)", "2");
     type(window, "txtWish(2)", "2026/11/10 15:00");
     EXPECT_EQ(text(window, "lblSpeedNeeded"), "17.14");
+    EXPECT_EQ(text(window, "lblSpeedFor"), "row 1 to 2, Tue 2026/11/10 15:00 TD +9 (ZD -9)");
+    const auto& table = static_cast<PlanTable&>(control(window, "tblPlan"));
+    EXPECT_EQ(table.currentIndex().row(), 1) << "the row in hand";
+    for (const auto count : {&QAbstractItemModel::rowCount, &QAbstractItemModel::columnCount})
+        EXPECT_EQ((table.model()->*count)(table.currentIndex()), 0) << "a list, and no tree";
     type(window, "txtWish(1)", "9");
     EXPECT_EQ(text(window, "lblSpeedNeeded"), "");
     EXPECT_EQ(text(window, "lblSpeedFor"), "there is no such row");
@@ -125,14 +111,16 @@ TEST_F(frmPassageTest, everyStepIsTakenBackAndDoneAgain)
             all += cell(window, row, PlanTable::Waypoint);
         return all;
     };
-    std::vector<std::string> seen = {names()};
+    std::vector<std::string> seen = {names()}, inHand;
     for (const char* entry :
          {"mnuRow(2)" /* up */, "mnuRow(0)" /* insert */, "mnuPlan(8)" /* reverse */,
-          "mnuRow(1)" /* delete */, "mnuPlan(0)" /* new */}) {
+          "mnuRow(3)" /* down */, "mnuRow(1)" /* delete */, "mnuPlan(0)" /* new */}) {
         choose(window, entry);
         seen.push_back(names());
+        inHand.push_back(text(window, "txtWaypoint"));
     }
-    EXPECT_THAT(seen, ElementsAre("ABC", "ACB", "ACB", "BCA", "CA", ""));
+    EXPECT_THAT(seen, ElementsAre("ABC", "ACB", "ACB", "BCA", "CBA", "CA", ""));
+    EXPECT_THAT(inHand, ElementsAre("C", "", "B", "B", "A", ""));
     for (std::size_t i = seen.size() - 1; i-- > 0;) {
         choose(window, "mnuPlan(9)");
         EXPECT_EQ(names(), seen[i]) << i;
@@ -156,11 +144,44 @@ TEST_F(frmPassageTest, rowsOfASpreadsheetArePasted)
     EXPECT_EQ(cell(window, 0, PlanTable::Waypoint), "Uraga");
     EXPECT_EQ(cell(window, 1, PlanTable::Position), "34°52.0'N");
     EXPECT_EQ(cell(window, 1, PlanTable::Distance), "22.6");
+    control(window, "tblPlan").setFocus(Qt::TabFocusReason);
+    QApplication::clipboard()->setText("name\tlat\tlon\teta_utc\nC\t0\t0\t2026-01-01T00:00:00Z\n"
+                                       "D\t1\t0\t2026-01-01T06:00:00Z\n");
+    QTest::keyClick(&control(window, "tblPlan"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(onDisk().rows.size(), 4u);
+    EXPECT_EQ(onDisk().rows[1].speed, "10");
+    EXPECT_THAT(window.notice().toStdString(),
+                HasSubstr("2 rows pasted; speeds were worked out from the times of the file"));
     questions.willAnswer(Answer::Ok);
     QApplication::clipboard()->setText("X\t35\t139\nY\t95\t139\n");
     choose(window, "mnuRow(4)");
     EXPECT_THAT(questions.asked.back(), AllOf(HasSubstr("line 2"), HasSubstr("as it was")));
-    EXPECT_EQ(onDisk().rows.size(), 2u);
+    EXPECT_EQ(onDisk().rows.size(), 4u);
+}
+
+TEST_F(frmPassageTest, everyFormatIsSavedUnderItsEnding)
+{
+    auto& window = open<frmPassage>();
+    type(window, "txtPlan", "Ocean");
+    typeRows(window, {{"A", "0", "0"}, {"B", "1", "0", "10"}});
+    for (const auto& [entry, ending, part] : {std::tuple{"mnuPlan(2)", ".rtz", "version=\"1.1\""},
+                                              {"mnuPlan(3)", ".rtz", "version=\"1.0\""},
+                                              {"mnuPlan(4)", ".rtz", "version=\"1.2\""},
+                                              {"mnuPlan(5)", ".gpx", "<rtept"},
+                                              {"mnuPlan(6)", ".csv", "A,0.0000000,0.0000000,"}}) {
+        questions.willType(folder.filePath("saved").toStdString());
+        choose(window, entry);
+        EXPECT_THAT(questions.offered.back(), AllOf(HasSubstr("Ocean"), EndsWith(ending)));
+        EXPECT_THAT(fileText("saved"), HasSubstr(part)) << entry;
+        EXPECT_THAT(window.notice().toStdString(), HasSubstr("Saved as saved"));
+    }
+    type(window, "txtWpLong", "");
+    questions.willAnswer(Answer::Ok);
+    choose(window, "mnuPlan(2)");
+    EXPECT_EQ(questions.asked.back(),
+              "Nothing was saved: Row 2 has no position.\rThe plan is as it was.");
+    choose(window, "mnuPlan(7)");
+    EXPECT_THAT(QApplication::clipboard()->text().toStdString(), HasSubstr("\n2\tB\t1\t\t"));
 }
 
 TEST_F(frmPassageTest, aFileThatCannotBeTakenChangesNothing)
@@ -272,7 +293,21 @@ TEST_F(frmPassageTest, aPlanHas500RowsAndNoMore)
     EXPECT_EQ(static_cast<PlanTable&>(control(window, "tblPlan")).model()->rowCount(), 500);
     questions.willAnswer(Answer::Ok);
     choose(window, "mnuRow(0)");
-    EXPECT_THAT(questions.asked.back(), HasSubstr("500"));
+    EXPECT_EQ(questions.asked.back(),
+              "No row was inserted: a plan has 500 at most.\rThe plan is as it was.");
+    questions.willAnswer(Answer::Ok);
+    choose(window, "mnuRow(4)");
+    EXPECT_EQ(questions.asked.back(),
+              "The rows were not taken: a plan has 500 at most.\rThe plan is as it was.");
+    auto& circle = open<frmGC2000>();
+    for (const auto& [box, degrees] :
+         {std::pair("txtGC(0)", "41"), {"txtGC(1)", "-72"}, {"txtGC(2)", "41"}, {"txtGC(3)", "0"}})
+        type(circle, box, degrees);
+    questions.willAnswer(Answer::Ok);
+    choose(circle, "mnuPlan(0)");
+    EXPECT_EQ(questions.asked.back(),
+              "The circle was not taken: a plan has 500 rows at most.\rThe plan is as it was.");
+    EXPECT_EQ(onDisk().rows.size(), 500u);
 }
 
 TEST_F(frmPassageTest, theProgramsZoneAndUnitHold)
@@ -321,6 +356,8 @@ TEST_F(frmPassageTest, legsGoBetweenTheWindows)
     type(window, "txtZone", "1");
 
     auto& course = open<frmCDDR>();
+    EXPECT_THAT(course.findChild<QAction*>("mnuShip(4)")->text().toStdString(),
+                HasSubstr("row 2 to row 3"));
     choose(course, "mnuShip(4)");
     EXPECT_EQ(text(course, "txtCDDR(1)") + " " + text(course, "txtCDDR(3)"), "0.0 20.0");
     auto& eta = open<frmETA>();
@@ -343,6 +380,12 @@ TEST_F(frmPassageTest, theShipNowIsOfferedAndFillsNothingByItself)
     EXPECT_EQ(text(window, "txtWpLat"), "35.124");
     EXPECT_EQ(text(window, "txtWpLong"), "142.031");
     EXPECT_FALSE(window.findChild<QAction*>("mnuShip(1)")->isEnabled()) << "no speed is known";
+    program().shipNow.tellMotion(ShipNow::Motion{NavFunc113::Degrees(85), NavFunc113::Knots(14.5)});
+    program().tellShipNow();
+    choose(window, "mnuShip(1)");
+    EXPECT_EQ(text(window, "txtLegSpeed"), "14.5");
+    choose(window, "mnuShip(2)");
+    EXPECT_EQ(text(window, "txtZone"), "9.0");
 }
 
 } // namespace

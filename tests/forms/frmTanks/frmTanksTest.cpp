@@ -10,7 +10,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTest>
+
+#include <cstdlib>
 
 namespace korvel
 {
@@ -20,6 +24,7 @@ namespace
 using namespace korvel::testing;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
+using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
 class frmTanksTest : public WindowTest
@@ -166,6 +171,8 @@ TEST_F(frmTanksTest, aHostileListChangesNothingThatIsShown)
     const std::string path = folder.filePath("list.csv").toStdString();
     questions.willType(path);
     choose(window, "mnuTankList(2)");
+    EXPECT_EQ(questions.prompts.back(), "Save the list of tanks");
+    EXPECT_THAT(questions.offered.back(), AllOf(HasSubstr("Tank list"), EndsWith(".csv")));
     choose(window, "mnuTankList(0)");
     EXPECT_TRUE(onDisk().list(ListKind::Cargo).rows.empty());
     questions.willType(path);
@@ -209,12 +216,19 @@ TEST_F(frmTanksTest, bunkersStandInTheNoonReport)
     type(window, "txtBunker(4)", "36");
     EXPECT_EQ(text(window, "lblBunker(2)"), "157.521");
     click(window, "optBunkerSurvey(0)");
+    EXPECT_EQ(text(window, "lblBunker(2)"), "") << "nothing was measured then";
     type(window, "txtBunker(2)", "190");
     type(window, "txtBunker(4)", "36");
     EXPECT_EQ(text(window, "lblConsumed(0)"), "28.051");
     auto& noon = open<frmNoon>();
     EXPECT_EQ(text(noon, "lblNoon(16)"), "28.1 t");
     EXPECT_EQ(text(noon, "txtROB(0)"), "") << "a box fills itself never";
+    const auto offered = [&noon](const char* box) {
+        return dynamic_cast<QLineEdit&>(control(noon, box)).placeholderText().toStdString();
+    };
+    EXPECT_EQ(offered("txtROB(0)"), "157.5 tank list");
+    EXPECT_EQ(offered("txtFuel(0)"), "185.6 tank list");
+    EXPECT_EQ(offered("txtROB(1)"), "");
 }
 
 TEST_F(frmTanksTest, factorsOfLoadingAndDischargeStandApart)
@@ -228,10 +242,141 @@ TEST_F(frmTanksTest, factorsOfLoadingAndDischargeStandApart)
     EXPECT_EQ(text(window, "lblFactor(0)"), "1.00100");
     EXPECT_EQ(text(window, "lblLoadingStanding(5)"), "gross error, out");
     EXPECT_EQ(text(window, "lblFactor(1)"), "");
+    for (int i = 0; i < 5; ++i) {
+        type(window, QString("txtDischargeName(%1)").arg(i).toStdString(), "D");
+        type(window, QString("txtDischargeShip(%1)").arg(i).toStdString(), "99.9");
+        type(window, QString("txtDischargeShore(%1)").arg(i).toStdString(), "100");
+    }
+    EXPECT_EQ(onDisk().voyages[1][4].name, "D");
+    std::vector<std::string> shown;
+    for (const char* label : {"lblFactor(0)", "lblMean(0)", "lblCounted(0)", "lblSums(0)",
+                              "lblFactor(1)", "lblMean(1)", "lblCounted(1)", "lblSums(1)"})
+        shown.push_back(text(window, label));
+    EXPECT_THAT(shown, ElementsAre("1.00100", "1.00100", "5 of 6", "ship 500.5, shore 500",
+                                   "0.99900", "0.99900", "5 of 5", "ship 499.5, shore 500"));
     type(window, "txtLoadingShore(0)", "0");
     EXPECT_EQ(text(window, "lblFactor(0)"), "");
     EXPECT_THAT(window.notice().toStdString(),
                 AllOf(HasSubstr("Loading, voyage 1, shore"), HasSubstr("five voyages")));
+}
+
+TEST_F(frmTanksTest, eachPageHasItsAnswersAboveIt)
+{
+    auto& window = open<frmTanks>();
+    for (int page = 0; page < 5; ++page) {
+        turnTo(window, page);
+        const auto isSeen = [&window](const char* label) {
+            return control(window, label).isVisible();
+        };
+        EXPECT_EQ(isSeen("lblMoved(0)"), page <= 2) << page;
+        EXPECT_EQ(isSeen("lblConsumed(0)"), page == 3) << page;
+        EXPECT_EQ(isSeen("lblFactor(0)"), page == 4) << page;
+        EXPECT_EQ(isSeen("lblFactor(1)"), page == 4) << page;
+    }
+}
+
+TEST_F(frmTanksTest, boxesHaveTheUnitsThatWereChosen)
+{
+    auto& window = open<frmTanks>();
+    const auto unitBehind = [&window](const char* name) {
+        const QWidget& box = control(window, name);
+        const QLabel* nearest = nullptr;
+        for (const QLabel* label : box.parentWidget()->findChildren<QLabel*>())
+            if (label->isVisible() && label->x() > box.x() &&
+                std::abs(label->geometry().center().y() - box.geometry().center().y()) < 8 &&
+                (!nearest || label->x() < nearest->x()))
+                nearest = label;
+        return nearest ? nearest->text().toStdString() : "none";
+    };
+    const auto units = [&unitBehind] {
+        QApplication::processEvents();
+        return unitBehind("txtTank(2)") + " " + unitBehind("txtTank(3)") + " " +
+               unitBehind("txtTank(4)");
+    };
+    EXPECT_EQ(units(), "m³ m³ °C");
+    turnTo(window, 1);
+    click(window, "optVolume(1)");
+    click(window, "optTemperature(1)");
+    turnTo(window, 0);
+    EXPECT_EQ(units(), "bbl bbl °F");
+}
+
+TEST_F(frmTanksTest, aStepInABoxOfTheSheetIsTakenBackAndDoneAgain)
+{
+    auto& window = open<frmTanks>();
+    turnTo(window, 1);
+    type(window, "txtPort", "Kobe");
+    type(window, "txtSurveyTime(0)", "2026/11/21 10:00");
+    type(window, "txtSurveyTime(1)", "2026/11/22 02:00");
+    EXPECT_THAT(onDisk().list(ListKind::Cargo).times,
+                ElementsAre("2026/11/21 10:00", "2026/11/22 02:00"));
+    auto& port = control(window, "txtPort");
+    type(window, "txtPort", "Osaka");
+    QTest::keyClick(&port, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(onDisk().port, "Kobe");
+    EXPECT_EQ(text(window, "txtPort"), "Kobe");
+    QTest::keyClick(&port, Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(onDisk().port, "Osaka");
+    EXPECT_EQ(text(window, "txtPort"), "Osaka");
+    turnTo(window, 3);
+    type(window, "txtBunkerTime(0)", "2026/11/20 12:00");
+    type(window, "txtBunkerTime(1)", "2026/11/21 12:00");
+    EXPECT_THAT(onDisk().list(ListKind::Bunkers).times,
+                ElementsAre("2026/11/20 12:00", "2026/11/21 12:00"));
+}
+
+TEST_F(frmTanksTest, rowsAreInsertedAndDeletedAndTheResultsFollow)
+{
+    auto& window = open<frmTanks>();
+    turnTo(window, 1);
+    type(window, "txtGradeName(0)", "Gas oil");
+    type(window, "txtGradeTable(0)", "54B");
+    type(window, "txtGradeDensity(0)", "842.8");
+    turnTo(window, 0);
+    for (const auto& [name, volume] : {std::pair("1P", "100"), {"1S", "200"}}) {
+        for (const char* typed : {name, "dry", volume, "", "15", "1"})
+            enter(typed);
+    }
+    EXPECT_EQ(text(window, "lblTank(2)"), "") << "the row behind the last";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(text(window, "lblTank(2)"), "200.000");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(text(window, "lblTank(2)"), "100.000");
+    std::string headings, row;
+    for (int column = 0; column < TankModel::Columns; ++column) {
+        headings += static_cast<RowsView&>(control(window, "tblTanks"))
+                        .model()
+                        ->headerData(column, Qt::Horizontal)
+                        .toString()
+                        .replace('\n', '/')
+                        .toStdString() +
+                    "; ";
+        row += cell(window, 0, column) + "/" + cell(window, 0, column, true) + "; ";
+    }
+    EXPECT_EQ(headings, "No.; Tank; Before: sounding/grade; TOV/free water; temp./VCF; "
+                        "GSV m³/t in air; ; After: sounding/grade; TOV/free water; temp./VCF; "
+                        "GSV m³/t in air; ");
+    // 842.8 at 15 degrees: 100 x (842.8 - 1.1) / 1000 t in air.
+    EXPECT_EQ(row, "1/; 1P/; dry/Gas oil; 100.000/0.000; 15/1.00000; 100.000/84.170; /; "
+                   "/; /; /; /; ");
+    choose(window, "mnuTankRow(0)");
+    EXPECT_EQ(onDisk().list(ListKind::Cargo).rows.size(), 3u);
+    EXPECT_EQ(text(window, "txtTank(0)"), "");
+    auto& table = static_cast<RowsView&>(control(window, "tblTanks"));
+    EXPECT_EQ(table.currentIndex().row(), 0);
+    EXPECT_EQ(table.model()->rowCount(table.currentIndex()), 0);
+    EXPECT_EQ(table.model()->columnCount(table.currentIndex()), 0);
+    table.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&table, Qt::Key_Delete);
+    EXPECT_EQ(onDisk().list(ListKind::Cargo).rows.size(), 2u);
+    EXPECT_EQ(text(window, "txtTank(0)"), "1P");
+    program().saved().setSingleMemo(123.5);
+    questions.willAnswer(Answer::Yes);
+    choose(window, "mnuRem(0)");
+    EXPECT_EQ(text(window, "txtTank(2)"), "123.5");
+    questions.willAnswer(Answer::Yes);
+    choose(window, "mnuRem(1)");
+    EXPECT_EQ(text(window, "txtTank(4)"), "123.5");
 }
 
 TEST_F(frmTanksTest, aListHas200TanksAndNoMore)
@@ -246,7 +391,8 @@ TEST_F(frmTanksTest, aListHas200TanksAndNoMore)
     EXPECT_EQ(static_cast<RowsView&>(control(window, "tblTanks")).model()->rowCount(), 200);
     questions.willAnswer(Answer::Ok);
     choose(window, "mnuTankRow(0)");
-    EXPECT_THAT(questions.asked.back(), HasSubstr("200"));
+    EXPECT_EQ(questions.asked.back(),
+              "No row was inserted: a list has 200 at most.\rThe list is as it was.");
 }
 
 } // namespace

@@ -2,11 +2,14 @@
 #include "forms/frmUKC/frmUKC.h"
 
 #include "shell/controls/Boxes.h"
+#include "shell/controls/PictureBox.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QComboBox>
 #include <QDir>
+#include <QImage>
+#include <QLabel>
 #include <QTest>
 
 namespace korvel
@@ -29,6 +32,15 @@ protected:
         for (const char* name : {"AF2005.txt", "constituents.txt", "stations.txt", "accuracy.txt",
                                  "Harmonic Constants/HC_Yokohama.txt"})
             writeFile(name, TideFolder::shipped().files.at(name));
+    }
+
+    static int valueIn(const frmUKC& window, const char* list)
+    {
+        return dynamic_cast<QComboBox&>(control(window, list)).currentIndex();
+    }
+    static Qt::Alignment alignmentOf(const frmUKC& window, const char* label)
+    {
+        return dynamic_cast<QLabel&>(control(window, label)).alignment();
     }
 
     /// The form as an officer goes through it: Enter from box to box, empty ones passed over.
@@ -69,6 +81,7 @@ TEST_F(frmUKCTest, aPassageOverABarByKeysIsThereAgain)
     QTest::keyClick(survey, Qt::Key_End);
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("below the minimum")) << "C";
 
+    EXPECT_EQ(valueIn(window, "cboSurvey"), 4);
     const std::string shownHours = text(window, "lblHours(6)");
     close(window);
     EXPECT_THAT(fileText("KV_UKC.ini"),
@@ -76,6 +89,82 @@ TEST_F(frmUKCTest, aPassageOverABarByKeysIsThereAgain)
     auto& again = open<frmUKC>();
     EXPECT_EQ(text(again, "lblHours(6)"), shownHours);
     EXPECT_EQ(text(again, "txtTideDay"), "2005/5/5");
+    EXPECT_EQ(valueIn(again, "cboSurvey"), 4);
+    // Figures stand below each other by their ends, words and hours by their beginnings.
+    for (const char* figure : {"lblKeel(3)", "lblKeel(5)", "lblKeel(17)"})
+        EXPECT_TRUE(alignmentOf(again, figure) & Qt::AlignRight) << figure;
+    for (const char* words : {"lblKeel(4)", "lblKeel(19)", "lblHours(0)", "lblHours(6)"})
+        EXPECT_TRUE(alignmentOf(again, words) & Qt::AlignLeft) << words;
+}
+
+/// The picture says what the list of hours says.
+TEST_F(frmUKCTest, thePictureTintsTheHours)
+{
+    auto& window = open<frmUKC>();
+    fillByKeys(window);
+    window.resize(1400, 900);
+    QApplication::processEvents();
+    auto& picture = dynamic_cast<PictureBox&>(control(window, "picKeel"));
+    const QImage image = picture.grab().toImage();
+    const ColourScheme& colours = program().colours();
+    const auto apart = [](const QColor& one, const QColor& other) {
+        return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
+               std::abs(one.blue() - other.blue());
+    };
+    // A thin smooth line mixes with the paper.
+    const auto isThere = [&](QPointF at, const QColor& colour, int around) {
+        const int most = around == 0 ? 0 : apart(colour, colours.paper) * 6 / 10;
+        for (int x = -around; x <= around; ++x)
+            for (int y = -around; y <= around; ++y) {
+                const QPoint pixel(qRound(at.x()) + x, qRound(at.y()) + y);
+                if (apart(image.pixelColor(pixel), colour) <= most) return true;
+            }
+        return false;
+    };
+    // 5 May to 06:53, 11:15 to 19:11, from 23:16; 11 May to 09:09 and from 15:44.
+    const double foot = picture.plotArea().bottom() - 2;
+    for (const auto& [hour, isKept] : {std::pair(3.0, true),
+                                       {9.0, false},
+                                       {15.0, true},
+                                       {21.5, false},
+                                       {147.0, true},
+                                       {156.0, false},
+                                       {164.0, true}})
+        EXPECT_EQ(isThere({picture.toPixel(hour, 0).x(), foot}, colours.route, 0), isKept) << hour;
+    // The tide, its ring at 05:30, and the broken line of the least tide, 0.82 m.
+    TideWeeks weeks(TideFolder::shipped());
+    const TideWeek& week = weeks.week({"", "yokoh", "2005/5/5", ""}, 38000);
+    for (const double hour : {2.0, 8.0, 30.0, 100.0, 167.0}) {
+        const auto day = static_cast<std::size_t>(hour / 24);
+        const double height = week.at(day, NavFunc113::Hours(hour - 24 * double(day)));
+        EXPECT_TRUE(isThere(picture.toPixel(hour, height), colours.curve, 1)) << hour;
+    }
+    const double chosen = week.at(0, NavFunc113::Hours(5.5));
+    EXPECT_TRUE(isThere(picture.toPixel(5.5, chosen), colours.paper, 0)) << "the ring";
+    EXPECT_TRUE(isThere(picture.toPixel(9, 0.82), colours.marker, 5)) << "the least tide";
+    // A line at every midnight, also at both ends.
+    for (int day = 0; day <= 7; ++day)
+        EXPECT_TRUE(isThere({picture.toPixel(24 * day, 0).x(), picture.plotArea().top() + 3},
+                            colours.grid, 1))
+            << day;
+}
+
+/// The tide window may have extended its dates, or other files lie there now.
+TEST_F(frmUKCTest, whoeverComesBackSeesTheFilesAsTheyAreNow)
+{
+    const std::string factors = fileText("AF2005.txt");
+    writeFile("AF2005.txt", "");
+    auto& window = open<frmUKC>();
+    fillByKeys(window);
+    EXPECT_THAT(text(window, "lblHours(0)"), IsEmpty());
+    writeFile("AF2005.txt", factors);
+    mainWindow().show();
+    for (QWidget* each : {static_cast<QWidget*>(&mainWindow()), static_cast<QWidget*>(&window)}) {
+        each->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(each));
+    }
+    type(window, "txtTideTime", "5:30");
+    EXPECT_THAT(text(window, "lblHours(0)"), HasSubstr("Thu 5/5   00:00 to 06:53"));
 }
 
 TEST_F(frmUKCTest, theStationOfTheTideWindow)
@@ -97,15 +186,15 @@ TEST_F(frmUKCTest, theStationOfTheTideWindow)
 TEST_F(frmUKCTest, aDamagedRecordFillsWhatCanBeRead)
 {
     writeFile("KV_UKC.ini", "KORVEL2000 under-keel clearance 1\ntxtDraught(0)=9.5\nnonsense\n"
-                            "cboWater=7\ncboSurvey=2\ntxtOfTomorrow=1\ntxtBlock=0.8\n");
+                            "cboWater=3\ncboSurvey=-1\ntxtOfTomorrow=1\ntxtBlock=0.8\n");
     questions.willAnswer(Answer::Ok);
     auto& window = open<frmUKC>();
     ASSERT_EQ(questions.asked.size(), 1u);
     EXPECT_THAT(questions.asked[0], HasSubstr("line 3"));
     EXPECT_EQ(text(window, "txtDraught(0)"), "9.5");
     EXPECT_EQ(text(window, "txtBlock"), "0.8");
-    EXPECT_EQ(dynamic_cast<QComboBox&>(control(window, "cboWater")).currentIndex(), 0);
-    EXPECT_EQ(dynamic_cast<QComboBox&>(control(window, "cboSurvey")).currentIndex(), 2);
+    EXPECT_EQ(valueIn(window, "cboWater"), 0);
+    EXPECT_EQ(valueIn(window, "cboSurvey"), 0);
 }
 
 /// Every box answers in the line, and nothing that was typed is lost.
