@@ -40,9 +40,8 @@ std::optional<Sample> turnBeyondZero(const Curve& curve, const Sample& a, const 
 {
     if (a.positive() != b.positive() || b.positive() != c.positive()) return std::nullopt;
     const double bend = a.value - 2 * b.value + c.value;
-    if (bend == 0) return std::nullopt;
     const double part = (a.value - c.value) / (2 * bend);
-    if (std::fabs(part) > 0.5) return std::nullopt;
+    if (!(std::fabs(part) <= 0.5)) return std::nullopt; // no number where the curve is straight
     const DateTime at = b.at + part * (c.at - b.at);
     const Sample turn{at, curve(at)};
     return turn.positive() == b.positive() ? std::nullopt : std::optional(turn);

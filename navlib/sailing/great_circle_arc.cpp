@@ -3,7 +3,6 @@
 
 #include "navlib/angles.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace NavFunc113
@@ -104,7 +103,7 @@ std::optional<std::array<Degrees, 2>> GreatCircleArc::runsAt(DegMin parallel) co
 Miles GreatCircleArc::distance(Earth earth) const
 {
     if (earth == Earth::Sphere || !m_isDefined) return MilesOfArc(m_arc);
-    const double pieces = std::max(1.0, std::ceil(m_arc / longestPiece));
+    const double pieces = std::ceil(m_arc / longestPiece);
     Miles sum;
     for (double i = 0; i < pieces; ++i) {
         const Degrees middle = m_arc * ((i + 0.5) / pieces);

@@ -3,6 +3,7 @@
 
 #include "navlib/angles.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -73,9 +74,8 @@ Degrees shorterWay(Degrees lambda1, Degrees lambda2)
 
 Radians unsignedShorterWay(Radians lambda1, Radians lambda2)
 {
-    // Exactly half a turn stays half a turn.
     const Radians change = fabs(lambda2 - lambda1);
-    return change > Radians(Pi()) ? fabs(change - Radians(2 * Pi())) : change;
+    return std::min(change, fabs(change - Radians(2 * Pi())));
 }
 
 struct Place {
@@ -109,9 +109,8 @@ Degrees courseBetween(const Place& from, const Place& to, RhumbSteps& steps)
 
 Miles alongParallel(const Place& from, const Place& to)
 {
-    Degrees change = fabs(to.lambda - from.lambda);
-    if (change > halfTurn) change = fullTurn - change;
-    return fabs(MilesOfArc(change) * cos(from.phi));
+    const Degrees change = fabs(to.lambda - from.lambda);
+    return fabs(MilesOfArc(std::min(change, fullTurn - change)) * cos(from.phi));
 }
 
 // The course is asked for only where the distance needs it: along a parallel it may not exist.
@@ -280,9 +279,8 @@ LongitudeRun RunInLongitude(DegMin lat1, DegMin long1, Degrees course, Miles dis
         const double parts = steps.parts2 - steps.parts1;
         steps.change = Degrees(slope * parts / 60);
     }
-    Degrees lambda = DegMinToDeg(long1) + steps.change;
     // Close to a pole a run can go round the earth many times.
-    if (fabs(lambda) > halfTurn + fullTurn) lambda = Degrees(std::fmod(lambda.value(), 360));
+    Degrees lambda(std::fmod((DegMinToDeg(long1) + steps.change).value(), 360));
     if (lambda > halfTurn) lambda -= fullTurn;
     if (lambda < -halfTurn) lambda += fullTurn;
     steps.reached = DegToDegMin(lambda);

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace NavFunc113
@@ -66,6 +67,20 @@ TEST(Deviation, curveComesBackWhereTheHeadingsFixIt)
             cardinals.push_back(point);
     EXPECT_FALSE(DeviationFit::of(cardinals)) << "the cardinal points tell nothing of D";
     EXPECT_FALSE(DeviationFit::of({}));
+}
+
+TEST(Deviation, noCurveIsTakenThatIsLessSureThanOneAndAHalfPoints)
+{
+    double most = 0;
+    for (const int step : {5, 7, 9, 11, 13})
+        for (int end = 150; end < 360; end += step) {
+            const auto fit = DeviationFit::of(swing(step, 0, 0, end));
+            if (!fit) continue;
+            for (int heading = 0; heading < 360; heading += 5)
+                most = std::max(most, fit->factor(Degrees(heading)));
+        }
+    EXPECT_LE(most, 1.5);
+    EXPECT_GT(most, 1.4);
 }
 
 TEST(Deviation, openHeadingLiesInTheWidestGap)

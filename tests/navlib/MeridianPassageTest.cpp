@@ -121,6 +121,16 @@ TEST(MeridianPassage, longitudeByAltitudesOnBothSides)
     const Pair pair({Degrees(0), Knots(0)});
     const Position DR{Degrees(40), Degrees(-30)};
     EXPECT_FALSE(LongitudeByEqualAltitudes(pair.at(1), pair.at(2), DR, pair.motion));
+    // Two degrees from the meridian are the least: sin Z = cos 20 sin 15 t / sin 60.
+    EXPECT_FALSE(LongitudeByEqualAltitudes(pair.at(-0.12), pair.at(0.12), DR, pair.motion));
+    EXPECT_TRUE(LongitudeByEqualAltitudes(pair.at(-0.126), pair.at(0.126), DR, pair.motion));
+    // A mile an hour more to the north than she made.
+    const Pair made({Degrees(0), Knots(18)});
+    const auto right = LongitudeByEqualAltitudes(made.at(-1), made.at(1), DR, made.motion);
+    const auto wrong =
+        LongitudeByEqualAltitudes(made.at(-1), made.at(1), DR, {Degrees(0), Knots(19)});
+    EXPECT_NEAR(std::fabs((wrong->atMean.longitude - right->atMean.longitude).value()) * 60,
+                right->ofNorthing, 0.02 * right->ofNorthing);
 }
 
 // At 12 knots north, 40 N, with the Sun at 20 S halving alone costs 55' of longitude.
