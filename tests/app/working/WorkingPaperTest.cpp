@@ -25,6 +25,43 @@ TEST(WorkingPaper, listsAreReadBackAsTheyWere)
         EXPECT_EQ(textOfCell(cell), text);
 }
 
+TEST(WorkingPaper, itsTextHasEverythingInItsPlace)
+{
+    WorkingPaper paper{"Tide"};
+    paper.inputs = {{"Latitude", "35.5", "°", "35.30"}, {"Speed", "12", "knots", ""}};
+    paper.results = {{"Course", "45", "°", "045.0"}};
+    paper.tables = {{"Waters", {"time", "m"}, {{"00:10", "1.5"}, {"06:20", "0.3"}}}};
+    Working working{"Course", {"by tables", "north positive"}, {}};
+    working.step("Run", "D", "3 + 4", "7", "miles");
+    working.step("Set", "s", "", "2");
+    working.tables = {{"Weights", {"w"}, {}}};
+    working.whyNone = "no distance";
+    paper.workings = {working};
+    paper.remarks = {"careful"};
+    paper.limits = {"a mile", "a degree"};
+    const PaperHeading heading{"", "V1", marchDay, marchDay - 9 / 24.0, 9, "P 1.0"};
+    EXPECT_EQ(paperText(heading, paper),
+              "Tide\n====\n"
+              "Ship: ____________________\nVoyage: V1\n"
+              "Ship's mean time (SMT): 2005-03-14 09:45\nUTC: 2005-03-14 00:45\n"
+              "Time difference (TD): 9.0 hE, SMT = UTC + TD\nProgram: P 1.0\n"
+              "\nInputs as understood\n--------------------\n"
+              "Latitude: 35.5°   (typed 35.30)\nSpeed: 12 knots\n"
+              "\nResults\n-------\nCourse: 45°   (in the window 045.0)\n"
+              "\nWaters\n------\ntime\tm\n00:10\t1.5\n06:20\t0.3\n"
+              "\nWorking: Course\n---------------\n- by tables\n- north positive\n"
+              "1. Run: D = 3 + 4 = 7 miles\n2. Set: s = 2\n"
+              "\nWeights\n-------\nw\nno distance\n"
+              "\nRemarks\n-------\n- careful\n"
+              "\nLimits of accuracy\n------------------\n- a mile\n- a degree\n");
+    EXPECT_EQ(resultsText(paper), "Course\t45\t°\ntime\tm\n00:10\t1.5\n06:20\t0.3\n");
+    const PaperHeading west{"S", "", marchDay, marchDay, -4.5, ""};
+    EXPECT_EQ(headingLines(west)[4].value, "4.5 hW, SMT = UTC + TD");
+    for (const auto& [unit, text] :
+         {std::pair{"", "5"}, {"'", "5'"}, {"° true", "5° true"}, {"h", "5 h"}})
+        EXPECT_EQ(figureText("5", unit), text);
+}
+
 TEST(WorkingPaper, noFileSystemRefusesAnOfferedName)
 {
     WorkingPaper paper{"Tide"};
