@@ -87,7 +87,7 @@ void NoticeLine::join()
 {
     const auto isSaidElsewhere = [this](const Said& said) {
         return !said.essence.isEmpty() && std::ranges::any_of(m_said, [&](const auto& other) {
-            return &other.second != &said && other.second.text.contains(said.essence);
+            return other.second.essence.isEmpty() && other.second.text.contains(said.essence);
         });
     };
     QStringList all;

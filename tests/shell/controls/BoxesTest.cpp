@@ -2,12 +2,16 @@
 #include "shell/controls/NoticeLine.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/PositionBox.h"
+#include "tests/shell/ShellTesting.h"
 
 #include <gmock/gmock.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDialog>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
@@ -16,6 +20,8 @@ namespace korvel
 {
 namespace
 {
+
+using korvel::testing::Paints;
 
 /// Two boxes of a window that is in front.
 class BoxesTest : public ::testing::Test
@@ -104,6 +110,25 @@ TEST_F(BoxesTest, noControlCharacterGetsIn)
     box.insert(QString("3\x01\t5\n") + QChar(0x2028) + "\x7f");
     EXPECT_EQ(box.text(), "3 5  ");
     EXPECT_EQ(box.cursorPosition(), 5);
+    // A joiner between letters is a part of the word; elsewhere nobody sees it, as no mark of
+    // direction is seen.
+    const QString joiner(QChar(0x200C)), letter(QChar(0x0645)), vowel(QChar(0x064E));
+    const std::pair<QString, QString> rows[] = {
+        {letter + joiner + letter, letter + joiner + letter},
+        {letter + vowel + joiner + letter, letter + vowel + joiner + letter},
+        {joiner + letter, letter},
+        {letter + joiner, letter},
+        {"3" + joiner + "5", "35"},
+        {letter + joiner + "5", letter + "5"},
+        {"5" + joiner + letter, "5" + letter},
+        {letter + QChar(0x200F) + letter, letter + letter},
+        {"35" + QString(QChar(0x2212)) + "1", "35" + QString(QChar(0x2212)) + "1"}};
+    for (const auto& [typed, kept] : rows) {
+        box.clear();
+        box.insert(typed);
+        EXPECT_EQ(box.text(), kept) << typed.toStdString();
+        EXPECT_EQ(box.cursorPosition(), kept.size());
+    }
 }
 
 TEST_F(BoxesTest, aKeyCountsWhenItIsReleased)
@@ -151,6 +176,67 @@ TEST_F(BoxesTest, theFootTellsWhatABoxTakes)
     EXPECT_EQ(foot.firstSaid(), "first");
     foot.say("a", {});
     EXPECT_EQ(foot.text(), "second");
+    EXPECT_EQ(foot.sizeHint().height(), 2 * foot.fontMetrics().lineSpacing()) << "two lines";
+}
+
+/// Two boxes that take the word from each other; a calculation that says it too.
+TEST_F(BoxesTest, eachBoxThatWasReadInPartIsNamedOnce)
+{
+    NoticeLine foot;
+    box.setObjectName("txtOne");
+    box.declare("Latitude", {});
+    other.setObjectName("txtOther");
+    other.declare("Speed", {});
+    for (EntryBox* each : {&box, &other}) {
+        each->setReading({.name = {}, .low = 0, .high = 90});
+        each->setText("1,5");
+        foot.sayHalfRead(*each, each->halfRead());
+    }
+    const std::string part = "only 1 was read, write 1.5";
+    EXPECT_EQ(foot.text().toStdString(), "Latitude: " + part + "  Speed: " + part);
+    EXPECT_EQ(foot.accessibleDescription(), "Fault  F4 writes it.");
+    foot.say("Dead reckoning", QString::fromStdString("Departure: " + part));
+    EXPECT_EQ(foot.text().toStdString(), "Departure: " + part);
+    EXPECT_EQ(foot.level(), NoticeLevel::Fault);
+    foot.say("Dead reckoning", {});
+    other.setText("91,5");
+    EXPECT_FALSE(other.halfRead()) << "beyond its limits all of it is refused";
+    foot.sayHalfRead(other, other.halfRead());
+    EXPECT_EQ(foot.text().toStdString(), "Latitude: " + part);
+}
+
+/// The figures of a conversion are copied with the unit of their box.
+TEST_F(BoxesTest, aBoxThatShowsAResultIsCopiedInFull)
+{
+    held.setResultUnit("nm");
+    held.setText("12.5");
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&held, &asked);
+    auto* menu = held.findChild<QMenu*>();
+    ASSERT_TRUE(menu);
+    menu->actions().back()->trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(), "12.5 nm");
+}
+
+/// A half-read position south or west; a degree beyond the pole or the date line read in part.
+TEST(PositionBox, readsWithinItsAxis)
+{
+    QWidget window;
+    PositionBox latitude(Axis::Latitude, &window), longitude(Axis::Longitude, &window);
+    const struct {
+        PositionBox& box;
+        const char* typed;
+        bool isHalfRead;
+    } rows[] = {{latitude, "-89 12.4", true},    {latitude, "89 12.4", true},
+                {latitude, "-90,5", true},       {latitude, "-91 12.4", false},
+                {latitude, "91 12.4", false},    {latitude, "-179 12.4", false},
+                {longitude, "-179 12.4", true},  {longitude, "179 12.4", true},
+                {longitude, "-181 12.4", false}, {longitude, "181 12.4", false},
+                {latitude, "35.124", false}};
+    for (const auto& [box, typed, isHalfRead] : rows) {
+        box.setText(typed);
+        EXPECT_EQ(box.halfRead().has_value(), isHalfRead) << typed;
+    }
 }
 
 TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
@@ -228,6 +314,42 @@ TEST(PictureBox, countsInItsUserScale)
     larger.setPointSizeF(2 * larger.pointSizeF());
     picture.setFont(larger);
     EXPECT_EQ(picture.lineHeight(), QFontMetricsF(larger).height());
+}
+
+/// A picture tells what it is drawn from, as much as anybody listens to.
+TEST(PictureBox, isHeardAsTheResultsOfItsWindow)
+{
+    struct Picture : PictureBox {
+        using PictureBox::PictureBox;
+        void draw(QPainter&) override {}
+    };
+    QWidget window;
+    auto* picture = new Picture(&window);
+    for (int i = 1; i <= 15; ++i) {
+        auto* label = new ResultLabel(&window);
+        label->setText(i == 2 ? QString() : QString::number(i));
+        label->declare(i == 3 ? QString() : "Row " + QString::number(i), {});
+    }
+    window.show();
+    window.findChildren<ResultLabel*>().front()->hide();
+    const auto heard = [&] {
+        return QAccessible::queryAccessibleInterface(picture)->text(QAccessible::Description);
+    };
+    EXPECT_EQ(heard(), "Row 4: 4; Row 5: 5; Row 6: 6; Row 7: 7; Row 8: 8; Row 9: 9; Row 10: 10; "
+                       "Row 11: 11; Row 12: 12; Row 13: 13; Row 14: 14; Row 15: 15");
+    (new ResultLabel(&window))->declare("Row 16", {});
+    window.findChildren<ResultLabel*>().back()->setText("16");
+    window.findChildren<ResultLabel*>().back()->show();
+    EXPECT_TRUE(heard().endsWith("Row 15: 15"));
+    Paints paints;
+    picture->resize(40, 40);
+    QTest::qWait(20);
+    picture->installEventFilter(&paints);
+    picture->setPlotMargins({4, 4, 4, 4});
+    QTest::qWait(20);
+    EXPECT_GT(paints.seen, 0) << "other margins, another picture";
+    picture->setAccessibleDescription("a chart");
+    EXPECT_EQ(heard(), "a chart");
 }
 
 } // namespace
