@@ -44,7 +44,7 @@ void applyZoom(int percent)
     static const double own = QApplication::font().pointSizeF();
     QFont font = QApplication::font();
     const double wanted = own * percent / 100;
-    if (own <= 0 || qFuzzyCompare(font.pointSizeF(), wanted)) return;
+    if (own <= 0 || qFuzzyIsNull(font.pointSizeF() - wanted)) return;
     if (auto* style = dynamic_cast<ScreenStyle*>(QApplication::style())) style->setZoom(percent);
     const double before = font.pointSizeF();
     font.setPointSizeF(wanted);

@@ -36,7 +36,7 @@ QPixmap inShades(const QPixmap& picture, const Shades& shades)
 bool isDark(const QPixmap& picture)
 {
     const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
-    qint64 shades = 0, opaque = 0;
+    qint64 shades{}, opaque{};
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) {
             const QRgb pixel = image.pixel(x, y);
@@ -111,12 +111,12 @@ QPixmap sheetAtNight(const QPixmap& sheet, const QPalette& night)
 {
     const QColor text = night.color(QPalette::WindowText);
     const QColor ground = night.color(QPalette::Base);
-    const double stray = strayLight(night);
+    const double stray = strayLight(night), onWhite = strayLight(ColourScheme::day().palette);
     const double darkest = relativeLuminance(ground);
     Shades shades;
     for (int grey = 0; grey < 256; ++grey) {
         const double offWhite =
-            (1 + strayLight({})) / (relativeLuminance(QColor(grey, grey, grey)) + strayLight({}));
+            (1 + onWhite) / (relativeLuminance(QColor(grey, grey, grey)) + onWhite);
         const double wanted = offWhite * (darkest + stray) - stray;
         shades.at(static_cast<std::size_t>(grey)) =
             grey == 255 ? ground.rgb()

@@ -90,8 +90,7 @@ bool OwnFrame::moveByMenuBar(QEvent& event)
 {
     const auto& press = static_cast<const QMouseEvent&>(event);
     const bool isFree = !m_window.menuBar()->actionAt(press.pos());
-    return isFree && press.button() == Qt::LeftButton && m_window.windowHandle() &&
-           m_window.windowHandle()->startSystemMove();
+    return isFree && press.button() == Qt::LeftButton && m_window.windowHandle()->startSystemMove();
 }
 
 bool OwnFrame::eventFilter(QObject* watched, QEvent* event)

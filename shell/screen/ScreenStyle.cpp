@@ -21,6 +21,7 @@ namespace
 {
 
 constexpr int focusWidth = 2;
+constexpr int outlineWidth = 1;
 constexpr int caretWidth = 2;
 
 QColor outlineOf(const QStyleOption& option)
@@ -34,7 +35,7 @@ void drawPanel(QPainter& painter, const QStyleOption& option, const QBrush& grou
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    const int width = focus ? focusWidth : 1;
+    const int width = focus ? focusWidth : outlineWidth;
     painter.fillRect(option.rect, ground);
     const QColor outline = focus ? option.palette.color(QPalette::Highlight) : outlineOf(option);
     for (int i = 0; i < width; ++i) {
@@ -107,14 +108,14 @@ void drawRadioButton(QPainter& painter, const QStyleOption& option)
     painter.restore();
 }
 
-void drawArrow(QPainter& painter, const QStyleOption& option, int degrees)
+void drawArrow(QPainter& painter, const QStyleOption& option, int quarterTurns)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF room = option.rect;
     const double half = std::min({room.width(), room.height(), 16.0}) * 0.3;
     painter.translate(room.center());
-    painter.rotate(degrees);
+    painter.rotate(90 * quarterTurns);
     painter.setPen(Qt::NoPen);
     painter.setBrush(markColour(option));
     painter.drawPolygon(QPolygonF{{-half, -half / 2}, {half, -half / 2}, {0, half / 2}});
@@ -193,8 +194,8 @@ QSize sizeOfPart(const QStyleOptionButton& option, const QFont& letters)
     return {std::max(2 * bold.height(), words + bold.height()), bold.height() * 3 / 2};
 }
 
-/// Degrees that an arrow which points down is turned by.
-std::optional<int> turnOf(QStyle::PrimitiveElement element)
+/// Quarters of a turn, clockwise, from an arrow that points down.
+std::optional<int> quarterTurnsOf(QStyle::PrimitiveElement element)
 {
     switch (element) {
     case QStyle::PE_IndicatorArrowDown:
@@ -202,11 +203,11 @@ std::optional<int> turnOf(QStyle::PrimitiveElement element)
         return 0;
     case QStyle::PE_IndicatorArrowUp:
     case QStyle::PE_IndicatorSpinUp:
-        return 180;
+        return 2;
     case QStyle::PE_IndicatorArrowLeft:
-        return 90;
+        return 1;
     case QStyle::PE_IndicatorArrowRight:
-        return -90;
+        return 3;
     default:
         return std::nullopt;
     }
@@ -264,7 +265,7 @@ bool ScreenStyle::eventFilter(QObject* watched, QEvent* event)
 void ScreenStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                 QPainter* painter, const QWidget* widget) const
 {
-    if (const auto turn = turnOf(element)) return drawArrow(*painter, *option, *turn);
+    if (const auto turns = quarterTurnsOf(element)) return drawArrow(*painter, *option, *turns);
     switch (element) {
     case PE_FrameLineEdit:
     case PE_PanelLineEdit: {
@@ -367,7 +368,6 @@ void ScreenStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& pain
                                 const QWidget* widget) const
 {
     QStyleOption part = option;
-    part.state &= ~State_HasFocus;
     drawPanel(painter, part, option.palette.base(), hasFocus(option));
     const auto rectOf = [&](SubControl which) {
         return proxy()->subControlRect(CC_ScrollBar, &option, which, widget);
@@ -375,9 +375,9 @@ void ScreenStyle::drawScrollBar(const QStyleOptionSlider& option, QPainter& pain
     painter.fillRect(rectOf(SC_ScrollBarSlider).adjusted(2, 2, -2, -2), outlineOf(option));
     const bool level = option.orientation == Qt::Horizontal;
     part.rect = rectOf(SC_ScrollBarSubLine);
-    drawArrow(painter, part, level ? 90 : 180);
+    drawArrow(painter, part, level ? 1 : 2);
     part.rect = rectOf(SC_ScrollBarAddLine);
-    drawArrow(painter, part, level ? -90 : 0);
+    drawArrow(painter, part, level ? 3 : 0);
 }
 
 QRect ScreenStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,

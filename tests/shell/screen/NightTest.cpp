@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSizeGrip>
 #include <QStyleOptionButton>
 #include <QTextEdit>
 #include <QTimer>
@@ -374,6 +375,19 @@ TEST_F(NightTest, windowsDoWithoutTheDesktopsFrameWhereOneWantsThat)
     QTest::qWait(20);
     EXPECT_EQ(title(onScreen("frmHelp")), onScreen("frmHelp").windowTitle());
     EXPECT_TRUE(isFrameless(onScreen("frmHelp")));
+    for (const QWidget* each : {&wind, &onScreen("frmHelp")}) {
+        const auto* grip = each->findChild<QSizeGrip*>();
+        ASSERT_TRUE(grip) << nameOf(*each);
+        EXPECT_EQ(grip->geometry().bottomRight(), each->rect().bottomRight());
+    }
+    std::set<bool> titled;
+    for (int width = wind.width(); width > wind.minimumSizeHint().width(); width -= 3) {
+        wind.resize(width, wind.height());
+        QApplication::processEvents();
+        titled.insert(!title(wind).isEmpty());
+        EXPECT_TRUE(title(wind).isEmpty() || title(wind).size() > 3) << "says nothing";
+    }
+    EXPECT_EQ(titled.size(), 2u) << "it gives way to the menus";
     QWidget& opened = window("frmETA");
     EXPECT_TRUE(isFrameless(opened));
     QTest::mouseClick(opened.findChild<QWidget*>("cmdCloseWindow"), Qt::LeftButton);
