@@ -20,37 +20,33 @@ namespace
 {
 
 constexpr std::chrono::milliseconds firstSecond{1000};
-constexpr double largestOfAll = 2.5; ///< times the letters of captions; answers have at most 2
+constexpr double largestLetters = 2.5; ///< times the letters of captions; answers have at most 2
 
 /// An alarm is read from the other end of the bridge. A long comment takes smaller letters: the
 /// button has to stay on the screen.
-void enlarge(QMessageBox& box)
+void enlarge(const QMessageBox& box, QLabel& text)
 {
-    auto* text = box.findChild<QLabel*>("qt_msgbox_label");
-    if (!text) return;
     const QSize screen = box.screen()->availableSize();
     const QSize room(screen.width() * 2 / 3, screen.height() / 2);
     QFont letters = box.font();
     letters.setWeight(QFont::DemiBold);
-    for (double times = largestOfAll; times >= 1; times -= 0.25) {
+    for (double times = largestLetters; times >= 1; times -= 0.25) {
         letters.setPointSizeF(box.font().pointSizeF() * times);
         const QRect taken =
-            QFontMetrics(letters).boundingRect(QRect({}, room), Qt::TextWordWrap, text->text());
+            QFontMetrics(letters).boundingRect(QRect({}, room), Qt::TextWordWrap, text.text());
         if (taken.width() <= room.width() && taken.height() <= room.height()) break;
     }
-    text->setFont(letters);
+    text.setFont(letters);
 }
 
 /// A window that is narrower than its title shows it cut off.
 void makeRoomForTitle(QMessageBox& box)
 {
-    auto* grid = qobject_cast<QGridLayout*>(box.layout());
-    if (!grid) return;
-    const QFontMetrics letters(QFontDatabase::systemFont(QFontDatabase::TitleFont));
-    const int buttons = 8 * letters.height(); // icon, three buttons and the gaps between
-    const int last = grid->columnCount() - 1;
-    const int wanted = letters.horizontalAdvance(box.windowTitle()) + buttons;
-    grid->setColumnMinimumWidth(last, std::max(wanted, grid->columnMinimumWidth(last)));
+    const QFontMetrics metrics(QFontDatabase::systemFont(QFontDatabase::TitleFont));
+    const int buttons = 8 * metrics.height(); // icon, three buttons and the gaps between
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->setColumnMinimumWidth(grid->columnCount() - 1,
+                                    metrics.horizontalAdvance(box.windowTitle()) + buttons);
 }
 
 } // namespace
@@ -106,7 +102,7 @@ QMessageBox* AlarmBoxes::makeBox()
     // A message box is modal of itself: a key on its way to another window would be dropped.
     box->setModal(false);
     box->setWindowFlag(Qt::WindowStaysOnTopHint);
-    enlarge(*box);
+    if (auto* text = box->findChild<QLabel*>("qt_msgbox_label")) enlarge(*box, *text);
     keepLinesWhole(*box);
     makeRoomForTitle(*box);
     connect(box, &QMessageBox::finished, this, [this] {

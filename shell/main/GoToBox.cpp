@@ -14,7 +14,8 @@ namespace korvel
 namespace
 {
 
-constexpr int shownRows = 12, shownLetters = 60;
+constexpr int listHeight = 12; // lines
+constexpr int listWidth = 60;  // letters
 
 } // namespace
 
@@ -32,8 +33,8 @@ GoToBox::GoToBox(QWidget& from, std::vector<GoToPlace> places)
     m_lstGoTo->setObjectName("lstGoTo");
     m_lstGoTo->setAccessibleName("Places found");
     m_lstGoTo->setFocusPolicy(Qt::NoFocus); // the box keeps the keyboard, its arrow keys move here
-    m_lstGoTo->setMinimumSize(shownLetters * fontMetrics().averageCharWidth(),
-                              shownRows * fontMetrics().lineSpacing());
+    m_lstGoTo->setMinimumSize(listWidth * fontMetrics().averageCharWidth(),
+                              listHeight * fontMetrics().lineSpacing());
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_txtGoTo);
     column->addWidget(m_lstGoTo);

@@ -21,7 +21,7 @@ constexpr const char* windowKind = "window";
 
 QString withoutMnemonics(const QString& caption)
 {
-    return caption.section('\t', 0, 0).remove('&').remove("...").remove("..");
+    return QString(caption).remove('&').remove("...").remove("..");
 }
 
 void addWindows(std::vector<GoToPlace>& places, CalculatorWindows& windows)

@@ -35,10 +35,13 @@ public:
 
     /// What is above it needs that much room, however short its own texts are.
     void setLeastWidth(int width);
-    QSize sizeHint() const override { return QWidget::sizeHint().expandedTo({m_leastWidth, 0}); }
+    QSize sizeHint() const override
+    {
+        return QWidget::sizeHint().expandedTo(QSize(m_leastWidth, 0));
+    }
     QSize minimumSizeHint() const override
     {
-        return QWidget::minimumSizeHint().expandedTo({m_leastWidth, 0});
+        return QWidget::minimumSizeHint().expandedTo(QSize(m_leastWidth, 0));
     }
 
 private:

@@ -15,13 +15,17 @@
 #include <QMenuBar>
 #include <QTimer>
 
+#include <chrono>
+
 namespace korvel
 {
 namespace
 {
 
-constexpr int clockInterval = 500; // milliseconds: the minute display is never a second late
-constexpr int placingTime = 200;   // milliseconds in which a desktop places a new window
+using namespace std::chrono_literals;
+
+constexpr auto clockInterval = 500ms; // the minute display is never a second late
+constexpr auto placingTime = 200ms;   // in which a desktop places a new window
 
 } // namespace
 

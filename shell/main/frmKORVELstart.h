@@ -3,8 +3,6 @@
 
 #include <QWidget>
 
-class QPainter;
-
 namespace korvel
 {
 
@@ -16,9 +14,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    void draw(QPainter& painter) const;
 };
 
 } // namespace korvel

@@ -89,6 +89,37 @@ TEST_F(AssembledProgramTest, everyEntryAndEveryLinkOpensWhatItSays)
     }
 }
 
+/// What a menu offers, a line between groups: "frmCDDR 1 Ctrl+1 | ..".
+std::string entriesOf(const QMenu& menu)
+{
+    std::string entries;
+    for (const QAction* entry : menu.actions()) {
+        if (entry->menu()) continue;
+        entries +=
+            entry->isSeparator()
+                ? "| "
+                : (entry->objectName() + " " + entry->shortcut().toString() + "; ").toStdString();
+    }
+    return entries;
+}
+
+/// A number in a menu's array that two entries have, or none; a key given to another window, a
+/// window without the key that it always had; a line that is lost.
+TEST_F(AssembledProgramTest, entriesKeepTheirNumbersKeysAndLines)
+{
+    const auto menu = [&](const char* name) { return entriesOf(*main.findChild<QMenu*>(name)); };
+    EXPECT_EQ(menu("mnuNAV"), "mnuNAV(1) Ctrl+1; mnuNAV(2) Ctrl+2; mnuNAV(3) Ctrl+3; "
+                              "| mnuNAV(4) ; mnuNAV(5) ; ");
+    EXPECT_EQ(menu("mnuWATCH"),
+              "mnuWATCH(1) Ctrl+4; mnuWATCH(2) Ctrl+5; mnuWATCH(3) Ctrl+6; mnuWATCH(4) Ctrl+7; "
+              "mnuWATCH(5) Ctrl+8; | mnuWATCH(6) Ctrl+B; mnuWATCH(7) ; mnuWATCH(8) ; ");
+    EXPECT_EQ(menu("mnuUTIL"), "mnuTide Ctrl+T; ");
+    std::string conversions = "mnuCONV(1) Ctrl+9; ";
+    for (int i = 2; i <= 13; ++i)
+        conversions += (i == 7 ? "| mnuCONV(" : "mnuCONV(") + std::to_string(i) + ") ; ";
+    EXPECT_EQ(menu("mnuCONV"), conversions);
+}
+
 /// A unit that no letters find, or that opens another window or another box.
 TEST_F(AssembledProgramTest, everyUnitIsFoundByItsSymbolAndHasTheKeyboard)
 {

@@ -141,6 +141,42 @@ TEST(MessageQuestions, filesAreChosenWhereTheLastOneWas)
     EXPECT_EQ(chosen, (folder + "/Fixes.csv").toStdString());
 }
 
+/// The cross or Escape taken for No, which would switch an alarm off.
+TEST(MessageQuestions, whoeverLeavesHasNotAnswered)
+{
+    enum { Cross = 0 };
+    const struct {
+        Buttons buttons;
+        int key;
+        Answer answer;
+    } rows[] = {
+        {Buttons::YesNo, Cross, Answer::Cancel},
+        {Buttons::YesNo, Qt::Key_Escape, Answer::Cancel},
+        {Buttons::YesNo, Qt::Key_Return, Answer::Yes},
+        {Buttons::YesNo, Qt::Key_N, Answer::No},
+        {Buttons::OkCancel, Cross, Answer::Cancel},
+        {Buttons::OkCancel, Qt::Key_Escape, Answer::Cancel},
+        {Buttons::OkCancel, Qt::Key_Return, Answer::Ok},
+        {Buttons::Ok, Cross, Answer::Ok},
+        {Buttons::Ok, Qt::Key_Escape, Answer::Ok},
+    };
+    for (const auto& [buttons, key, answer] : rows) {
+        QTimer attendant;
+        QObject::connect(&attendant, &QTimer::timeout, &attendant, [&, key = key] {
+            QWidget* box = QApplication::activeModalWidget();
+            if (!box) return;
+            attendant.stop();
+            if (key == Cross)
+                box->close();
+            else
+                QTest::keyClick(box, static_cast<Qt::Key>(key),
+                                key == Qt::Key_N ? Qt::AltModifier : Qt::NoModifier);
+        });
+        attendant.start(5);
+        EXPECT_EQ(MessageQuestions().ask({"A question", "Title", buttons}), answer) << key;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Windows, DialogsTest, ::testing::ValuesIn(calculatorWindows()),
                          [](const auto& tested) { return tested.param.name.toStdString(); });
 

@@ -11,6 +11,9 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
+
+#include <set>
 
 namespace korvel
 {
@@ -123,6 +126,34 @@ TEST(AlarmBoxes, theTextIsTheLargestOfAllAndTheBoxStaysOnTheScreen)
         EXPECT_LT(points, answers);
         EXPECT_TRUE(box.screen()->geometry().contains(box.frameGeometry()));
     });
+    // As large as leaves room on the screen: two thirds of its width and half of its height, never
+    // less than captions have.
+    const double captions = answers / 2, largest = 2.5 * captions;
+    std::set<double> sizes;
+    for (int words = 1; words < 1000; words += words < 80 ? 6 : 400) {
+        comment = "08:45";
+        for (int i = 0; i < words; ++i)
+            comment += " master";
+        boxOf(comment, [&](const QWidget& box, double points) {
+            const QSize screen = box.screen()->availableSize();
+            const auto fits = [&](double size) {
+                QFont letters = box.findChild<QLabel*>("qt_msgbox_label")->font();
+                letters.setPointSizeF(size);
+                const QSize taken = QFontMetrics(letters)
+                                        .boundingRect(QRect(0, 0, screen.width() * 2 / 3, 1),
+                                                      Qt::TextWordWrap, comment.c_str())
+                                        .size();
+                return taken.width() <= screen.width() * 2 / 3 &&
+                       taken.height() <= screen.height() / 2;
+            };
+            EXPECT_TRUE(fits(points) || points == captions) << words;
+            EXPECT_TRUE(points == largest || !fits(points + captions / 4)) << words;
+            sizes.insert(points);
+        });
+    }
+    EXPECT_GE(sizes.size(), 5u);
+    EXPECT_EQ(*sizes.begin(), captions);
+    EXPECT_EQ(*sizes.rbegin(), largest);
 }
 
 TEST_F(MainWindowTest, aWindowClosedAndChosenInOneBurstComesUpAnew)
@@ -166,6 +197,7 @@ TEST_F(MainWindowTest, itsCrossAsks)
     questions.willAnswer(Answer::No);
     window->close();
     EXPECT_TRUE(window->isVisible());
+    EXPECT_LE(window->findChild<QTimer*>("tmrClock")->interval(), 500) << "of a minute gone by";
 }
 
 TEST_F(MainWindowTest, theEndOfTheSessionWritesRecordsAndAsksNothing)
