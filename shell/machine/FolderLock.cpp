@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 // A lock without a readable owner (the power went while it was written) counts for this long. That
 // of a program that runs cannot be taken however old it is: the system holds it too.
-constexpr auto unreadableLock = 2000; // milliseconds
+constexpr auto unreadableLock = 2s;
 constexpr auto lookInterval = 400ms;
 
 /// True for a folder, a pipe or a device that has a file's name.
@@ -36,7 +36,7 @@ FolderLock::FolderLock(const QString& folder)
     m_lock.setStaleLockTime(unreadableLock);
     qint64 owner = 0;
     if (!m_lock.tryLock(0) && isHeldByAnother() && !m_lock.getLockInfo(&owner, nullptr, nullptr))
-        m_lock.tryLock(unreadableLock + 500);
+        m_lock.tryLock(unreadableLock + 500ms);
     if (m_lock.isLocked()) QFile::remove(m_request); // meant for the one before
 }
 

@@ -64,9 +64,9 @@ std::optional<std::string> replace(const QString& path, const std::string& bytes
     if (info.exists() && !info.isFile()) return whatItIs(info);
     QSaveFile file(info.filePath());
     file.setDirectWriteFallback(false);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString().toStdString();
     // commit() alone answers true on a full disk and leaves an empty file: flush first and look.
-    const bool written = file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
+    const bool written = file.open(QIODevice::WriteOnly) &&
+                         file.write(bytes.data(), static_cast<qint64>(bytes.size())) ==
                              static_cast<qint64>(bytes.size()) &&
                          file.flush();
     if (!written) {

@@ -22,8 +22,8 @@ class SystemBell : public QObject, public Bell
 {
 public:
     struct Settings {
-        std::function<void()> beep;             ///< the desktop's bell when not given
-        std::chrono::milliseconds repeat{3000}; ///< from one tone to the next
+        std::function<void()> beep; ///< the desktop's bell when not given
+        std::chrono::milliseconds repeat = std::chrono::seconds(3); ///< from one tone to the next
     };
 
     SystemBell() : SystemBell(Settings{}) {}

@@ -10,6 +10,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <string>
+#include <utility>
 
 #include <fcntl.h>
 
@@ -88,18 +90,24 @@ TEST(ProgramFolder, refusesWhatIsNoFileWithoutWaitingForIt)
     ASSERT_EQ(mkfifo(folder.filePath("pipe").toLocal8Bit(), 0600), 0);
     ASSERT_TRUE(QFile::link("/dev/zero", folder.filePath("device")));
     ASSERT_TRUE(QFile::link("nowhere", folder.filePath("link")));
-    for (const std::string name : {"folder", "pipe", "device", "link"}) {
+    const std::pair<std::string, const char*> rows[] = {
+        {"folder", "it is a folder"},
+        {"pipe", "it is no plain file"},
+        {"device", "it is no plain file"},
+        {"link", "it is a link that leads nowhere"}};
+    for (const auto& [name, reason] : rows) {
         const QFileInfo before(folder.filePath(QString::fromStdString(name)));
         const bool isSymLink = before.isSymLink();
         EXPECT_EQ(files.read(name).status, Status::Unreadable) << name;
-        EXPECT_NE(files.readAt(name, 0, 1).reason, "") << name;
+        EXPECT_EQ(files.readAt(name, 0, 1).reason, reason);
         EXPECT_EQ(files.look(name).status, Status::Unreadable) << name;
         // A save makes the file that a link means. What is written to a device is never tried: as
         // root a save that does not refuse would replace the machine's own.
         if (isSymLink) continue;
-        EXPECT_NE(files.save(name, "a").value_or(""), "") << name;
-        EXPECT_NE(files.rename(name, "kept").value_or(""), "") << name;
-        EXPECT_NE(files.remove(name).value_or(""), "") << name;
+        EXPECT_EQ(files.save(name, "a").value_or(""), reason);
+        EXPECT_EQ(files.append(name, "a").value_or(""), reason);
+        EXPECT_EQ(files.rename(name, "kept").value_or(""), reason);
+        EXPECT_EQ(files.remove(name).value_or(""), reason);
         const QFileInfo after(before.filePath());
         EXPECT_TRUE(after.exists() && !after.isFile() && after.isSymLink() == isSymLink) << name;
     }

@@ -132,5 +132,19 @@ TEST(RecordsFolder, takesOverAnEarlierPortableFolderOnce)
     EXPECT_THAT(questions.asked.back(), HasSubstr("There are no records in"));
 }
 
+TEST(RecordsFolder, takesOverWhatIsReadToo)
+{
+    const Folders folders;
+    const Places places = choosePlaces(folders.bin, folders.home);
+    constexpr int largest = 1 << 20; // of a record that is read at all
+    Folders::write(folders.portable + "/KV_Large.ini", QByteArray(largest, '1'));
+    Folders::write(folders.portable + "/KV_TooLarge.ini", QByteArray(largest + 1, '1'));
+    EXPECT_EQ(takeRecords(folders.portable, places),
+              "Records are kept in\r" + folders.home.toStdString() +
+                  "\r\rTaken over: KV_Large.ini.\rCould not be copied: KV_TooLarge.ini.")
+        << "nor are factors of the shipped length the officer's own";
+    EXPECT_EQ(QDir(folders.home).entryList(QDir::Files), QStringList("KV_Large.ini"));
+}
+
 } // namespace
 } // namespace korvel
