@@ -55,10 +55,10 @@ void AnswerStrip::sizeByLetters()
     const int letter = fontMetrics().averageCharWidth();
     m_row->setGap(gapInLetters * letter);
     for (const auto& [words, answer] : m_units) {
-        const QFontMetrics figure = answer->fontMetrics();
-        const int above = (answer->sizeHint().height() - figure.height()) / 2;
+        const QFontMetrics metrics = answer->fontMetrics();
+        const int above = (answer->sizeHint().height() - metrics.height()) / 2;
         words->setContentsMargins(letter, 0, 0,
-                                  above + figure.descent() - words->fontMetrics().descent());
+                                  above + metrics.descent() - words->fontMetrics().descent());
     }
 }
 

@@ -28,7 +28,7 @@ std::vector<QLayoutItem*> itemsOf(const QLayout& layout)
     std::vector<Placed> placed;
     const auto* grid = qobject_cast<const QGridLayout*>(&layout);
     for (int i = 0; i < layout.count(); ++i) {
-        int row = 0, column = i, rows = 1, columns = 1;
+        int row{}, column = i, rows{}, columns{};
         if (grid) grid->getItemPosition(i, &row, &column, &rows, &columns);
         placed.push_back({row, column, layout.itemAt(i)});
     }

@@ -178,7 +178,6 @@ void ResultLabel::setEliding()
 {
     m_isEliding = true;
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    setMinimumWidth(0);
 }
 
 void ResultLabel::setRoom(const QString& widest, int lines)

@@ -94,8 +94,8 @@ QSize FollowingScrollArea::sizeFor(int width)
     const int bar = verticalScrollBar()->sizeHint().width();
     const QLayout* content = widget()->layout();
     if (content->hasHeightForWidth()) {
-        const int heading = m_heading ? headingHeight(wanted.width() - bar) : 0;
         const int room = wanted.width() - bar;
+        const int heading = m_heading ? headingHeight(room) : 0;
         // Preferred heights are rounded otherwise than least ones.
         wanted.setHeight(std::max(content->totalHeightForWidth(room),
                                   content->totalMinimumHeightForWidth(room)) +
@@ -125,10 +125,10 @@ void FollowingScrollArea::showEvent(QShowEvent* event)
 {
     QScrollArea::showEvent(event);
     if (!m_fold || m_isFoldedByHand || event->spontaneous()) return;
-    foldFor(QWIDGETSIZE_MAX);
-    settleLayouts(*widget());
-    foldFor(width());
-    settleLayouts(*widget());
+    for (const int room : {QWIDGETSIZE_MAX, width()}) {
+        foldFor(room);
+        settleLayouts(*widget());
+    }
 }
 
 /// Of a heading that wraps as its table does.

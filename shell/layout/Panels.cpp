@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr int denseGap = 4;
-constexpr int underHead = 4;
+constexpr int underHeadGap = 4;
 constexpr int framelessGap = 16;
 constexpr int groupGap = 24;
 constexpr int columnGap = 8;
@@ -30,7 +30,7 @@ public:
         QFont bold = font();
         bold.setBold(true);
         setFont(bold);
-        setContentsMargins(0, 0, 0, underHead);
+        setContentsMargins(0, 0, 0, underHeadGap);
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     }
 

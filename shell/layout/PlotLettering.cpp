@@ -67,9 +67,9 @@ void PlotLettering::keepOff(const QPolygonF& line)
 /// How often the line goes through the room of the words.
 int PlotLettering::crossings(const Line& line, const QRectF& room)
 {
-    if (!meet(line.around, room)) return 0;
+    const qsizetype points = meet(line.around, room) ? line.points.size() : 0;
     int found = 0;
-    for (qsizetype i = 1; i < line.points.size(); ++i)
+    for (qsizetype i = 1; i < points; ++i)
         found += crosses(line.points[i - 1], line.points[i], room);
     return found;
 }
@@ -82,7 +82,6 @@ double PlotLettering::trouble(const QRectF& room, const QPointF& point, double m
     const auto taken =
         std::ranges::count_if(m_marks, inTheWay) + std::ranges::count_if(m_words, inTheWay);
     double cost = perMark * static_cast<double>(taken);
-    if (cost >= most) return cost;
     const double away = distanceSquared(room.center(), point);
     for (const QRectF& mark : m_marks)
         if (!mark.contains(point) && distanceSquared(room.center(), mark.center()) < away)

@@ -28,7 +28,11 @@ TEST(NoticeLevels, haveSignsOfTheirOwnAndCanBeRead)
         QImage sign(24, 24, QImage::Format_Grayscale8);
         sign.fill(Qt::white);
         QPainter painter(&sign);
+        const QPen pen(Qt::black, 3);
+        painter.setPen(pen);
         drawNoticeSign(painter, QRectF(4, 4, 16, 16), level);
+        EXPECT_EQ(painter.pen(), pen) << "what is drawn after it";
+        EXPECT_EQ(painter.renderHints() & QPainter::Antialiasing, QPainter::RenderHints());
         painter.end();
         EXPECT_GE(strongestContrast(sign, sign.rect()), 4.5);
         signs.insert(QByteArray(reinterpret_cast<const char*>(sign.constBits()),
