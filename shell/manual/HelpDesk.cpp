@@ -103,8 +103,9 @@ void HelpDesk::openBelow(QWidget& window, const QString& page)
     const bool moves = screen.bottom() - taken.bottom() < screen.height() / 2;
     if (moves) window.move(taken.x(), screen.top());
     const int top = (moves ? screen.top() : taken.top()) + taken.height();
-    const QSize room(screen.width(), screen.bottom() + 1 - top);
-    const QSize size = m_window->size().boundedTo(room - frame);
+    QRect room = screen;
+    room.setTop(top);
+    const QSize size = m_window->size().boundedTo(room.size() - frame);
     const int left = std::min(taken.x(), screen.right() + 1 - size.width() - frame.width());
     m_window->setGeometry({QPoint(left, top) + corner, size});
 }

@@ -58,7 +58,7 @@ QString Manual::text(const QString& page) const
                asQString(m_files.path(fileOf(page))) +
                "\n\nand cannot be read. Copy the folder `manual` of the program's package there.";
     QString text = asQString(content.bytes);
-    if (m_facts.empty() && text.contains('{')) m_facts = facts();
+    if (m_facts.empty()) m_facts = facts();
     for (const auto& [name, fact] : m_facts)
         text.replace('{' + name + '}', escaped(fact));
     return text;

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/manual/ManualPlaces.h"
 
-#include "shell/controls/Boxes.h"
-#include "shell/controls/ResultLabel.h"
-
 #include <QAbstractButton>
 #include <QAction>
 #include <QFontMetricsF>
@@ -29,8 +26,8 @@ qsizetype lettersOfName(const QString& words, const QString& name)
 {
     qsizetype most = 0;
     for (const QString& each : words.split(" / ")) {
-        if (each.compare(name, Qt::CaseInsensitive) == 0) return name.size() + 1;
-        if (!each.contains(QChar(u'…')) || each.size() == 1) continue; // any name is no name
+        if (each.compare(name, Qt::CaseInsensitive) == 0) return name.size();
+        if (!each.contains(QChar(u'…'))) continue;
         QStringList parts = each.split(QChar(u'…'));
         const qsizetype letters = parts.join(QString()).size();
         for (QString& part : parts)
@@ -69,15 +66,7 @@ QString withoutMnemonic(QString text)
 {
     text.remove(QRegularExpression("\\(&\\w\\)|&(?=[^&])"));
     text.remove(QRegularExpression("\\s*(\\.\\.+|…)$"));
-    return text.section('\t', 0, 0).trimmed();
-}
-
-/// What a control is, as it was declared.
-QString wordsOf(const QWidget& control)
-{
-    if (auto* box = qobject_cast<const EntryBox*>(&control)) return box->words();
-    if (auto* label = qobject_cast<const ResultLabel*>(&control)) return label->words();
-    return control.accessibleName();
+    return text.trimmed();
 }
 
 } // namespace
@@ -98,7 +87,7 @@ std::optional<PagePlace> placeOf(const QTextDocument& page, const QString& name)
         }
         if (!entry && words.contains(": ") && lettersOfName(words.section(": ", 1), name) > 0)
             entry = {block.position(), text};
-        return most > name.size();
+        return most == name.size();
     });
     return place ? place : entry;
 }
@@ -141,7 +130,7 @@ QString manualName(const QWidget& control)
 {
     static const QRegularExpression howItIsWritten("[,;:].*$");
     static const QRegularExpression row("^Row \\d+, ");
-    const QString name = wordsOf(control).remove(row);
+    const QString name = control.accessibleName().remove(row);
     if (!name.isEmpty()) return QString(name).remove(howItIsWritten).trimmed();
     if (auto* button = qobject_cast<const QAbstractButton*>(&control))
         return withoutMnemonic(button->text());

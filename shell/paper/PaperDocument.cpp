@@ -47,7 +47,6 @@ QFont paperFont(double points)
 
 void insertPictures(QTextDocument& document, const std::vector<PaperPicture>& pictures)
 {
-    if (pictures.empty()) return;
     document.documentLayout()->registerHandler(PictureObject,
                                                new PictureObjects(pictures, &document));
     for (std::size_t i = 0; i < pictures.size(); ++i) {

@@ -7,13 +7,6 @@
 
 namespace korvel
 {
-namespace
-{
-
-constexpr int dotsOfPDF = 1200; // an inch, as the toolkit's printers have
-
-} // namespace
-
 QByteArray pdfBytes(const QString& title, const QString& creator, const QPageLayout& layout,
                     const DrawPages& draw)
 {
@@ -23,7 +16,6 @@ QByteArray pdfBytes(const QString& title, const QString& creator, const QPageLay
     QPdfWriter writer(&buffer);
     writer.setTitle(title);
     writer.setCreator(creator);
-    writer.setResolution(dotsOfPDF);
     writer.setPageLayout(layout);
     QPainter painter(&writer);
     draw(writer, painter);

@@ -5,11 +5,14 @@
 #include "shell/controls/ResultLabel.h"
 #include "shell/manual/FoundLines.h"
 #include "shell/manual/HelpWindow.h"
+#include "shell/manual/ManualPlaces.h"
+#include "shell/manual/ProgramFacts.h"
 #include "tests/SourceFolder.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAccessible>
 #include <QHelpEvent>
+#include <QImage>
 #include <QInputDialog>
 #include <QListWidget>
 #include <QMenuBar>
@@ -17,6 +20,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QToolTip>
 
 #include <filesystem>
@@ -203,6 +208,68 @@ TEST_F(HelpTest, comesOnceAtTheFirstStartAndGoesWithOneKey)
     EXPECT_EQ(help(), nullptr);
 }
 
+/// A page that is there, and the name on the next one of those that may have it.
+TEST_F(HelpTest, opensThePageThatHasTheName)
+{
+    for (const char* first : {"frmWind", "no page"}) {
+        main->help().open({{first, "messages"}, "Input time difference…"});
+        EXPECT_EQ(help()->view().page(), "messages") << first;
+        EXPECT_EQ(lineInHand(), "Input time difference…") << first;
+    }
+    main->help().open({{"frmWind", "messages"}, "no such name"});
+    EXPECT_EQ(help()->view().page(), "frmWind");
+    EXPECT_EQ(help()->view().verticalScrollBar()->value(), 0);
+    // The contents go along: the page with its sections below it.
+    const auto& contents = dynamic_cast<const QListWidget&>(control(*help(), "lstHelp"));
+    for (const char* page : {"frmTIDE", "frmCDDR"}) {
+        main->help().openPage(page);
+        EXPECT_EQ(contents.currentItem()->text(), main->help().manual().title(page));
+        EXPECT_TRUE(contents.item(contents.currentRow() + 1)->text().startsWith("    "));
+        EXPECT_GT(contents.count(), Manual::pages().size());
+    }
+}
+
+/// Links in the colour of the text; tables with the room of other letters, or lost by night.
+TEST_F(HelpTest, aPageIsDressedInTheColoursAndLettersInForce)
+{
+    main->help().openPage("main-window");
+    const HelpView& view = help()->view();
+    const auto paddingOf = [&] {
+        for (QTextFrame* frame : view.document()->rootFrame()->childFrames())
+            if (auto* table = qobject_cast<QTextTable*>(frame)) {
+                EXPECT_EQ(table->format().borderBrush().color(),
+                          view.palette().placeholderText().color());
+                return table->format().cellPadding();
+            }
+        return 0.0;
+    };
+    const auto expectLinks = [&] {
+        int links = 0;
+        for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next())
+            for (auto part = block.begin(); !part.atEnd(); ++part) {
+                const QTextCharFormat format = part.fragment().charFormat();
+                EXPECT_EQ(format.foreground() == view.palette().link(), format.isAnchor())
+                    << part.fragment().text().toStdString();
+                links += format.isAnchor();
+            }
+        EXPECT_GT(links, 0);
+    };
+    const double before = paddingOf();
+    expectLinks();
+    Screen& screen = main->program().screen();
+    screen.toggleNight();
+    QCoreApplication::processEvents();
+    paddingOf();
+    expectLinks();
+    screen.toggleNight();
+    while (screen.choices().zoom != 200)
+        screen.zoom(1);
+    QCoreApplication::processEvents();
+    EXPECT_GT(paddingOf(), 1.7 * before);
+    EXPECT_GT(before, 2);
+    screen.zoom(0);
+}
+
 TEST_F(HelpTest, saysWhatTheProgramIsMadeOf)
 {
     const std::string about = main->help().manual().text("about").toStdString();
@@ -224,6 +291,18 @@ TEST_F(HelpTest, aPageIsSeenAgainWhereItWasLeft)
     EXPECT_EQ(help()->view().page(), "frmTIDE");
     EXPECT_GT(before, 0);
     EXPECT_EQ(bar.value(), before);
+    // The same by the buttons, which are grey where there is nothing.
+    const auto press = [](const char* button) {
+        EXPECT_TRUE(control(*help(), button).isEnabled()) << button;
+        click(*help(), button);
+        return help()->view().page();
+    };
+    EXPECT_EQ(press("cmdForward"), "frmWind");
+    EXPECT_FALSE(control(*help(), "cmdForward").isEnabled());
+    EXPECT_EQ(press("cmdBack"), "frmTIDE");
+    EXPECT_EQ(bar.value(), before);
+    EXPECT_EQ(help()->windowTitle(),
+              main->help().manual().title("frmTIDE") + " – KORVEL2000 manual");
 }
 
 TEST_F(HelpTest, opensAtTheBoxTheEntryAndTheQuestionInHand)
@@ -291,6 +370,10 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     search("Beaufort");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(help()->view().textCursor().selectedText(), "Beaufort");
+    main->help().openPage("frmWind");
+    search("meridional parts");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(help()->view().page(), "frmCDDR") << "what is not in the page is opened";
     search("Beaufort xyzzy");
     EXPECT_EQ(found.item(0)->text(), "Nothing found");
 }
@@ -313,6 +396,63 @@ TEST_F(HelpTest, aSearchListsOneLineAHitWithTheWordInSight)
         EXPECT_LT(found.visualItemRect(found.item(row)).height(),
                   2 * found.fontMetrics().lineSpacing());
     }
+}
+
+/// The first line that fits somehow taken for the one that has the name.
+TEST(ManualPlaces, theLineThatSaysTheMostOfANameIsItsPlace)
+{
+    QTextDocument page;
+    page.setMarkdown("# Page\n\n## Course / Track\n\n| Name | What it is |\n|---|---|\n"
+                     "| Speed… | any |\n| Speed over ground | by the fix |\n| … | whatever |\n"
+                     "| Memo: Store now / Store later | both |\n| Input …: 5… | asked |\n");
+    const struct {
+        const char *name, *line;
+    } rows[] = {{"Speed over ground", "Speed over ground – by the fix"},
+                {"SPEED", ""},
+                {"Speed made good", "Speed… – any"},
+                {"track", "Course / Track"},
+                {"Store later", "Memo: Store now / Store later – both"},
+                {"Input 7: 5 knots", "Input …: 5… – asked"},
+                {"Name", ""},
+                {"by the fix", ""},
+                {"", ""}};
+    for (const auto& [name, line] : rows) {
+        const auto place = placeOf(page, name);
+        EXPECT_EQ(place ? place->text.toStdString() : "", line) << name;
+    }
+    ASSERT_EQ(sectionsOf(page).size(), 1u);
+    EXPECT_EQ(sectionsOf(page).front().text, "Course / Track");
+    EXPECT_EQ(linesOf(page).size(), 8u);
+}
+
+/// A word that is found and not seen among the others of its line.
+TEST(FoundLines, markTheWords)
+{
+    QListWidget list;
+    FoundLines lines(&list);
+    list.setItemDelegate(&lines);
+    list.addItem("constants of the harmonic series");
+    list.resize(400, 60);
+    const QImage without = list.grab().toImage();
+    EXPECT_EQ(list.grab().toImage(), without);
+    lines.setWords({"harmonic"});
+    EXPECT_NE(list.grab().toImage(), without);
+    lines.setWords({"tide"});
+    EXPECT_EQ(list.grab().toImage(), without);
+}
+
+TEST(ProgramFacts, tellWhatLiesBesideTheProgram)
+{
+    FakeFiles files;
+    auto facts = programFacts(files);
+    EXPECT_EQ(facts["records"], "folder");
+    EXPECT_EQ(facts["packages"], "none: it uses the system's own");
+    EXPECT_TRUE(facts["licence"].endsWith("/copyright"));
+    files.files["LICENSE"] = "MIT";
+    files.files["licences/packages"] = "libicu (72.1) Unicode\nlibpng (1.6) zlib\n";
+    facts = programFacts(files);
+    EXPECT_EQ(facts["packages"], "libicu, libpng; their terms lie in the folder `licences`");
+    EXPECT_EQ(facts["licence"], "LICENSE");
 }
 
 TEST(FoundLine, startsShortlyBeforeTheWord)
