@@ -109,8 +109,7 @@ void NoticeLine::join()
         }
     m_first = all.value(0);
     setText(all.join("  "));
-    const qsizetype at = text().indexOf(meant);
-    m_shown = text().insert(at < 0 ? text().size() : at + meant.size(), m_key);
+    m_shown = text().insert(text().indexOf(meant) + meant.size(), m_key);
     setToolTip(this->text());
     setAccessibleDescription(m_level ? noticeWord(*m_level) + m_key : QString());
     setTextColour(this, colour());

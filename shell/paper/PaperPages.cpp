@@ -39,8 +39,8 @@ bool belongsToNext(const QTextBlock& block)
 {
     const QTextBlock next = block.next();
     const bool isPicture = block.text() == QString(QChar::ObjectReplacementCharacter);
-    return block.blockFormat().headingLevel() > 0 || isPicture || isRule(block) ||
-           (next.isValid() && isRule(next));
+    const bool isTitle = block.blockFormat().headingLevel();
+    return isTitle || isPicture || isRule(block) || (next.isValid() && isRule(next));
 }
 
 PaperSlice slice(const QRectF& room)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/controls/MeantFigure.h"
 #include "shell/controls/NoticeLine.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/PositionBox.h"
@@ -203,6 +204,34 @@ TEST_F(BoxesTest, eachBoxThatWasReadInPartIsNamedOnce)
     EXPECT_FALSE(other.halfRead()) << "beyond its limits all of it is refused";
     foot.sayHalfRead(other, other.halfRead());
     EXPECT_EQ(foot.text().toStdString(), "Latitude: " + part);
+}
+
+/// A figure on a page that nobody sees written instead of the one that is complained of.
+TEST_F(BoxesTest, theKeyWritesWhatIsSeenAndWasReadInPart)
+{
+    for (EntryBox* each : {&box, &other}) {
+        each->setReading({.name = {}, .low = 0, .high = 200});
+        each->setText("1,5");
+    }
+    held.setFocus(Qt::TabFocusReason);
+    box.hide();
+    writeMeantFigure(window);
+    EXPECT_EQ(box.text(), "1,5");
+    EXPECT_EQ(other.text(), "1.5");
+    EXPECT_TRUE(other.hasFocus());
+    EXPECT_EQ(other.selectedText(), "1.5");
+    writeMeantFigure(window); // nothing is left that is seen
+    EXPECT_EQ(box.text(), "1,5");
+    box.show();
+    box.setEnabled(false);
+    writeMeantFigure(window);
+    EXPECT_EQ(box.text(), "1,5");
+    box.setEnabled(true);
+    other.setText("2,5");
+    box.setFocus(Qt::TabFocusReason);
+    writeMeantFigure(window);
+    EXPECT_EQ(box.text(), "1.5") << "the box in hand before the others";
+    EXPECT_EQ(other.text(), "2,5");
 }
 
 /// The figures of a conversion are copied with the unit of their box.

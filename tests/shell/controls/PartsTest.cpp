@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What pages and windows are put together of.
 #include "shell/controls/AnswerStrip.h"
+#include "shell/controls/ChosenOption.h"
 #include "shell/controls/FieldBoxes.h"
 #include "shell/controls/NoticeLine.h"
 #include "shell/controls/Options.h"
@@ -15,6 +16,7 @@
 #include <QImage>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QRadioButton>
 #include <QTest>
 #include <QWidget>
 
@@ -224,6 +226,53 @@ TEST(AnswerStrip, aUnitStandsOnTheLineOfItsFigure)
     ASSERT_GT(figure.first, 0);
     EXPECT_NEAR(letters.second, figure.second, 1);
     EXPECT_GT(letters.first, figure.first) << "the figure is the larger one";
+}
+
+/// Options without a group beside options of one: each has a stop of its own, at the chosen one.
+TEST(ChosenOption, optionsOfAGroupAreNotThoseBesideThem)
+{
+    QWidget window;
+    Options clock(&window, "optClock", {{"S", "Ship's time"}, {"U", "World time"}});
+    auto *north = new QRadioButton("N", &window), *south = new QRadioButton("S", &window);
+    south->setChecked(true);
+    clock.choose(1);
+    keepFocusAtChosenOptions(window);
+    const auto stops = [&] {
+        std::string all;
+        for (const QAbstractButton* each :
+             {clock.button(0), clock.button(1), static_cast<QAbstractButton*>(north),
+              static_cast<QAbstractButton*>(south)})
+            all += each->focusPolicy() & Qt::TabFocus ? '+' : '-';
+        return all;
+    };
+    EXPECT_EQ(stops(), "-+-+");
+    QTest::keyClick(south, Qt::Key_N);
+    EXPECT_TRUE(north->isChecked());
+    EXPECT_EQ(stops(), "-++-");
+    QTest::keyClick(clock.button(1), Qt::Key_S);
+    EXPECT_EQ(clock.chosen(), 0) << "its letter, not that of the others";
+    EXPECT_TRUE(north->isChecked());
+    EXPECT_EQ(stops(), "+-+-");
+    QTest::keyClick(north, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(north->isChecked());
+}
+
+/// A notice that has no room, or takes that of the figures.
+TEST(NoticeLine, isAsWideAsItsWindowAndTwoLinesHigh)
+{
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    auto* foot = new NoticeLine;
+    column->addWidget(new QWidget, 1);
+    column->addWidget(foot);
+    window.resize(300, 300);
+    window.show();
+    const int least = window.minimumSizeHint().width();
+    foot->say("1", QString(40, 'W'));
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(foot->width(), column->contentsRect().width());
+    EXPECT_EQ(foot->height(), 2 * foot->fontMetrics().lineSpacing());
+    EXPECT_EQ(window.minimumSizeHint().width(), least);
 }
 
 /// A sign that runs into the words beside it, or into their second line.

@@ -388,6 +388,7 @@ TEST_F(HelpTest, aSearchListsOneLineAHitWithTheWordInSight)
     ASSERT_GE(found.count(), 4);
     EXPECT_EQ(found.item(0)->flags(), Qt::NoItemFlags);
     EXPECT_EQ(found.currentRow(), 1);
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(control(*help(), "txtFindHelp")).maxLength(), 100);
     for (int row = 1; row < found.count(); ++row) {
         if (found.item(row)->flags() == Qt::NoItemFlags) continue;
         const QString line = found.item(row)->text();

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/NoticeLine.h"
 #include "shell/layout/PageBar.h"
+#include "shell/screen/WindowPlaces.h"
 #include "tests/shell/WholeProgram.h"
 
 #include <QAbstractButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 
@@ -220,6 +222,29 @@ TEST_F(ScreenTest, windowsStandWhereTheyWere)
     EXPECT_TRUE(next.windowFlags() & Qt::WindowStaysOnTopHint);
     EXPECT_FALSE(isTicked(next, "mnuWATCH(3)"));
     next.endSession();
+}
+
+/// A window that is a pixel off, or moved though it is on the screen; one that does not fit.
+TEST(WindowPlaces, whatIsOffTheScreenComesToItsEdge)
+{
+    QWidget window;
+    window.show();
+    const QRect screen = window.screen()->availableGeometry();
+    const QSize size(200, 100);
+    const auto broughtTo = [&](const QPoint& from, const QSize& room) {
+        window.setGeometry({from, room});
+        bringOntoScreen(window);
+        return textOf(window.geometry());
+    };
+    const QPoint corner = screen.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+    for (const QPoint& at : {screen.topLeft(), corner, QPoint(50, 60)})
+        EXPECT_EQ(broughtTo(at, size), textOf({at, size})) << "as it stands";
+    EXPECT_EQ(broughtTo(corner + QPoint(1, 0), size), textOf({corner, size}));
+    EXPECT_EQ(broughtTo(corner + QPoint(0, 1), size), textOf({corner, size}));
+    EXPECT_EQ(broughtTo(corner + QPoint(90, 40), size), textOf({corner, size}));
+    EXPECT_EQ(broughtTo(screen.topLeft() - QPoint(30, 20), size), textOf({screen.topLeft(), size}));
+    EXPECT_EQ(broughtTo(QPoint(50, 60), screen.size() + QSize(10, 20)), textOf(screen));
+    EXPECT_EQ(roomOnScreen(window), screen.size());
 }
 
 TEST_F(ScreenTest, windowsStayClosedAsLongAsNobodyTickedIt)

@@ -15,6 +15,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSizeGrip>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QTest>
@@ -276,6 +277,20 @@ TEST(ScreenStyle, aGroupIsAHeadOverAHairline)
     QGroupBox with("Results"), without;
     EXPECT_GE(with.contentsRect().top(), QFontMetrics(with.font()).height());
     EXPECT_LT(without.contentsRect().top(), 6);
+}
+
+/// A corner to be drawn at that is lost on the dark.
+TEST(ScreenStyle, aGripHasTheColourOfOutlines)
+{
+    QWidget window;
+    QSizeGrip grip(&window);
+    for (const ColourScheme& scheme : allSchemes()) {
+        grip.setPalette(scheme.palette);
+        grip.resize(16, 16);
+        const QImage image = grip.grab().toImage();
+        EXPECT_EQ(image.pixel(image.rect().center()), scheme.palette.color(QPalette::Dark).rgb());
+        EXPECT_NE(image.pixel(1, 8), scheme.palette.color(QPalette::Dark).rgb());
+    }
 }
 
 /// A caret in a box that nobody types into; two in a row of them.
