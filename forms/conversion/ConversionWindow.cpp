@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace korvel
 {
@@ -152,10 +153,9 @@ void ConversionWindow::layOut()
     auto* grid = new QGridLayout(scrollBody());
     layOutBody(*grid, Spacing::Dense);
     addConditions(*grid);
-    const int first = static_cast<int>(m_conditions.size());
+    int row = static_cast<int>(m_conditions.size());
     const auto units = NavFunc113::UnitTable(m_quantity);
-    for (std::size_t i = 0; i < units.size(); ++i) {
-        const int row = first + static_cast<int>(i);
+    for (std::size_t i = 0; i < units.size(); ++i, ++row) {
         auto* caption = new QLabel(asQString(units[i].caption));
         auto* symbol = new QLabel(asQString(units[i].symbol));
         caption->setBuddy(m_boxes[i]);
@@ -166,7 +166,7 @@ void ConversionWindow::layOut()
         grid->addWidget(symbol, row, 2);
     }
     grid->setColumnStretch(1, 1);
-    grid->setRowStretch(first + static_cast<int>(units.size()), 1);
+    grid->setRowStretch(row, 1);
 }
 
 /// Above the units, in letters of their own size: they are no answers.
@@ -249,9 +249,10 @@ void ConversionWindow::useConversionSettings(const char* file)
     const auto load = [this](const Record& values) {
         for (std::size_t i = 0; i < m_boxes.size(); ++i)
             m_boxes[i]->fill(asQString(textOf(values[i])));
-        const double lead = numberOf(values.back());
-        if (lead >= 0 && lead < static_cast<double>(m_boxes.size()))
-            m_lead = static_cast<std::size_t>(lead);
+        // A negative one becomes too large.
+        const auto lead =
+            static_cast<std::size_t>(std::llround(std::trunc(numberOf(values.back()))));
+        if (lead < m_boxes.size()) m_lead = lead;
     };
     record().use(file, std::move(kinds), save, load);
 }

@@ -74,11 +74,11 @@ std::optional<double> sumOfUnits(Quantity quantity, std::string_view text)
     while (!text.empty()) {
         const std::string_view digits = digitsOf(text);
         const auto number = readLeadingNumber(digits);
-        if (digits.empty() || !number || std::ranges::count(digits, '.') > 1) return std::nullopt;
+        if (!number || std::ranges::count(digits, '.') > 1) return std::nullopt;
         text = trimmed(text.substr(digits.size()));
         const std::string_view name = trimmed(text.substr(0, text.find_first_of("0123456789+-.,")));
         const auto factor = factorCalled(quantity, name);
-        if (name.empty() || !factor) return std::nullopt;
+        if (!factor) return std::nullopt;
         sum += *number * *factor;
         text = trimmed(text.substr(name.size()));
     }
@@ -96,7 +96,7 @@ std::optional<double> hoursOfClock(std::string_view text)
     for (; part < size.size() && !text.empty(); ++part) {
         const std::string_view digits = digitsOf(text);
         const auto number = readLeadingNumber(digits);
-        if (digits.empty() || !number || (part > 0 && *number >= 60)) return std::nullopt;
+        if (!number || (part > 0 && *number >= 60)) return std::nullopt;
         hours += *number / size[part];
         text.remove_prefix(digits.size());
         if (text.empty()) continue;
@@ -136,7 +136,7 @@ std::string clockText(double hours)
     const double wholeHours = std::floor(tenths / tenthsOfHour);
     const double minutes = std::floor((tenths - wholeHours * tenthsOfHour) / 600);
     const double seconds = (tenths - wholeHours * tenthsOfHour - minutes * 600) / 10;
-    std::string text = hours < 0 && tenths > 0 ? "-" : "";
+    std::string text = std::signbit(hours) && tenths > 0 ? "-" : "";
     text += Format(wholeHours, "0") + ":" + Format(minutes, "00") + ":";
     return text + Format(seconds, "00.#");
 }
@@ -150,7 +150,7 @@ std::string packedText(double packed)
     const double whole = std::floor(parts / (60 * steps));
     const double minutes = (parts - whole * 60 * steps) / steps;
     const std::string text = Format(whole + minutes / 100, "0.00####");
-    return packed < 0 && parts > 0 ? "-" + text : text;
+    return std::signbit(packed) && parts > 0 ? "-" + text : text;
 }
 
 } // namespace korvel

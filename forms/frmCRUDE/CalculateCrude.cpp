@@ -135,8 +135,7 @@ Correction correctionOf(const CrudeInput& input, const Oil& oil, double temperat
 void showCorrection(const CrudeInput& input, const Correction& correction, CrudeResult& result)
 {
     const bool metric = input.densityBase == DensityBase::Density15;
-    result.vcf =
-        Format(correction.correction.factor, input.vcfDecimals == 4 ? "0.0000" : "0.00000");
+    result.vcf = Format(correction.correction.factor, input.isVCFShort ? "0.0000" : "0.00000");
     const std::string table = metric ? "Table 54A" : "Table 6A";
     const bool of2004 = input.edition == NavFunc113::CrudeEdition::Of2004;
     result.vcfMethod = table + (of2004 ? ", 2004" : ", 1980") + (metric ? ", 15 °C" : ", 60 °F");
@@ -284,7 +283,7 @@ WeighedInAir weighedInAir(WeightRule rule, const Oil& oil)
 CrudeTons tonsOf(WeightRule rule, const Oil& oil, double kilolitres15, std::string& method)
 {
     const double inVacuo = NavFunc113::MassInVacuo(kilolitres15, oil.density15);
-    double inAir = 0;
+    double inAir{};
     if (rule == WeightRule::DensityLess11) {
         inAir = NavFunc113::WeightInAir(kilolitres15, oil.density15);
         method = "density - 1.1";

@@ -41,7 +41,7 @@ struct CrudeInput {                  // boxes as typed
     DensityBase densityBase = DensityBase::Density15;
     bool densityObserved = false; ///< the density was observed and has yet to be reduced
     NavFunc113::ReadWith readWith = NavFunc113::ReadWith::Hydrometer;
-    int vcfDecimals = 5; ///< 5, or 4 as in shore tables
+    bool isVCFShort = false; ///< four decimals as in shore tables, and not five
     WeightRule weightRule = WeightRule::DensityLess11;
     NavFunc113::CrudeEdition edition = NavFunc113::CrudeEdition::Of1980;
 };

@@ -228,7 +228,7 @@ CrudeInput frmCRUDE::input() const
     cargo.densityBase = static_cast<DensityBase>(m_cboDensityBase->currentIndex());
     cargo.densityObserved = m_chkObserved->isChecked();
     cargo.readWith = static_cast<NavFunc113::ReadWith>(m_cboReadWith->currentIndex());
-    cargo.vcfDecimals = m_cboVCFDecimals->currentIndex() == 0 ? 5 : 4;
+    cargo.isVCFShort = m_cboVCFDecimals->currentIndex() == 1;
     cargo.weightRule = static_cast<WeightRule>(m_cboWeightRule->currentIndex());
     cargo.edition = static_cast<NavFunc113::CrudeEdition>(m_cboEdition->currentIndex());
     return cargo;

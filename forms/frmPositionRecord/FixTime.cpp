@@ -28,7 +28,7 @@ struct Pieces {
 std::optional<int> digitsOnly(std::string_view text)
 {
     if (text.size() > 4) return std::nullopt;
-    unsigned value = 0; // takes no sign
+    unsigned value{}; // takes no sign
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
     const bool all = error == std::errc() && end == text.data() + text.size();
     return all ? std::optional(static_cast<int>(value)) : std::nullopt;
@@ -160,7 +160,6 @@ std::string fixTimeText(NavFunc113::DateTime time)
 
 std::optional<NavFunc113::DateTime> readFixTime(std::string_view text)
 {
-    if (isBlank(text)) return std::nullopt;
     const Pieces pieces = piecesOf(text);
     if (!pieces.fault.empty() || !pieces.year) return std::nullopt;
     return NavFunc113::MakeDateTime({*pieces.year, *pieces.month, *pieces.day}, pieces.seconds);

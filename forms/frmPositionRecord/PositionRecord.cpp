@@ -101,7 +101,7 @@ void showRuns(PositionRecordResult& result, RecordMemory& memory)
     const std::vector<RecordedFix>& fixes = result.fixes;
     Run total;
     std::optional<Run> sinceNoon;
-    std::size_t noon = 0;
+    std::size_t noon{};
     for (std::size_t i = 0; i < fixes.size(); ++i) {
         if (i > 0) {
             total.add(result.legs[i - 1]);
@@ -184,10 +184,9 @@ void remarkOnLeg(const std::optional<RecordLeg>& leg, const RecordedFix& from,
 {
     next.outOfOrder = isEarlier;
     const bool tooFast = leg && isTooFast(*leg);
-    if (!isEarlier && !tooFast) return;
-    const std::string row = "row " + Format(static_cast<double>(from.row + 1), "0");
-    if (isEarlier) say(next.remark, "earlier than " + row);
-    if (tooFast) say(next.remark, "more than " + Format(fastest, "0") + " knots from " + row);
+    const auto row = [&from] { return "row " + Format(static_cast<double>(from.row + 1), "0"); };
+    if (isEarlier) say(next.remark, "earlier than " + row());
+    if (tooFast) say(next.remark, "more than " + Format(fastest, "0") + " knots from " + row());
 }
 
 } // namespace

@@ -44,9 +44,8 @@ std::optional<double> timeDifferenceIn(const std::string& box, std::string& rema
     if (value && std::fmod(*value, 0.25) != 0) say(remark, "TD of " + hoursAndMinutes(*value));
     // Clocks of +13 show the same time of day as those of -11, a day later.
     if (!value && typed && std::fabs(*typed) <= 15)
-        say(remark, *typed > 0
-                        ? "take " + Format(*typed - 24, "0.0#") + " and the date a day earlier"
-                        : "take " + Format(*typed + 24, "0.0#") + " and the date a day later");
+        say(remark, "take " + Format(*typed - std::copysign(24, *typed), "0.0#") +
+                        " and the date a day " + (std::signbit(*typed) ? "later" : "earlier"));
     return value;
 }
 

@@ -69,6 +69,9 @@ TEST(CalculateConversion, figuresReadBackAsTheyStand)
     EXPECT_EQ(significantText(1234567890), "1234567890") << "no invented zeros";
     EXPECT_EQ(significantText(0.000001234567849), "0.000001234568");
     EXPECT_EQ(significantText(-0.1), "-0.1");
+    EXPECT_EQ(significantText(1234567.4), "1234567");
+    EXPECT_EQ(significantText(1.234567e-31), "0." + std::string(30, '0') + "123457")
+        << "nothing is smaller on board";
     EXPECT_EQ(significantText(2.0 / 3), "0.6666667");
     for (double value : {1.5e21, 1e15, 4.25e-12})
         EXPECT_DOUBLE_EQ(readNumber(significantText(value)), value);

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/conversion/ConversionWindow.h"
+#include "shell/layout/TypeScale.h"
+#include "shell/screen/ColourScheme.h"
 #include "tests/shell/ShellTesting.h"
 
 namespace korvel
@@ -36,6 +38,43 @@ TEST_F(frmUnitsTest, whatIsKnownBesideAValueIsThereAgain)
     EXPECT_EQ(fileText("KV_Flow.ini"), "KORVEL2000 flow and consumption 1\ntxtFlowDensity=991\n"
                                        "txtFlowPower=9000\ntxtFlow(1)=30\n");
     EXPECT_EQ(text(open<frmFlow>(), "txtFlow(11)"), "138.8889");
+    auto& angle = open<frmAngle>();
+    type(angle, "txtAngle(0)", "7.5");
+    close(angle);
+    EXPECT_EQ(text(open<frmAngle>(), "txtAngle(5)"), "0:30:00");
+}
+
+TEST_F(frmUnitsTest, theBoxInHandStandsOut)
+{
+    auto& window = open<frmLength>();
+    const auto stands = [&](const char* box) {
+        const QWidget& each = control(window, box);
+        const bool isLarge = each.font() == lettersOf(Weight::Answer);
+        EXPECT_EQ(isLarge, each.palette().color(QPalette::Text) == program().colours().accent)
+            << box;
+        return isLarge;
+    };
+    EXPECT_TRUE(stands("txtLength(0)"));
+    EXPECT_FALSE(stands("txtLength(3)"));
+    control(window, "txtLength(3)").setFocus();
+    EXPECT_FALSE(stands("txtLength(0)"));
+    EXPECT_TRUE(stands("txtLength(3)"));
+    program().screen().toggleNight();
+    EXPECT_FALSE(stands("txtLength(0)"));
+    EXPECT_TRUE(stands("txtLength(3)"));
+}
+
+TEST_F(frmUnitsTest, aRecordOfNoBoxBeginsAtTheFirst)
+{
+    for (const char* lead : {"13", "-1", "2"}) {
+        std::string record;
+        for (int box = 0; box < 13; ++box)
+            record += "\"5\"\r\n";
+        writeFile("KV_Area.ini", record + lead + "\r\n");
+        auto& window = open<frmArea>();
+        EXPECT_EQ(focused(), std::string(lead) == "2" ? "txtArea(2)" : "txtArea(0)") << lead;
+        close(window);
+    }
 }
 
 TEST_F(frmUnitsTest, aSumOfUnitsStaysAsItWasTyped)

@@ -14,6 +14,7 @@ namespace
 
 using namespace korvel::testing;
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 TEST(CalculateCD, coursesAndDistances)
 {
@@ -38,6 +39,7 @@ TEST(CalculateDR, positionsReached)
         EXPECT_EQ(result.longitude, row.text("longitude")) << row;
         EXPECT_EQ(result.notice.empty(), !result.longitude.empty()) << row << result.notice;
         EXPECT_THAT(result.notice, HasSubstr(row.text("notice"))) << row;
+        EXPECT_THAT(result.notice, Not(HasSubstr("; "))) << row;
     }
 }
 
@@ -63,7 +65,9 @@ TEST(Hemisphere, optionsAndSigns)
     EXPECT_EQ(withHemisphere("-1", false), std::nullopt);
     EXPECT_EQ(withHemisphere("", false), "0");
     EXPECT_EQ(withHemisphere("0", true), std::nullopt);
+    EXPECT_EQ(withHemisphere("1", false), "-1");
     EXPECT_EQ(hemisphereOf("-0.1"), false);
+    EXPECT_EQ(hemisphereOf("0.5"), true);
     EXPECT_EQ(hemisphereOf("12"), true);
     EXPECT_EQ(hemisphereOf(""), std::nullopt) << "0 has no sign: the choice is kept";
 }

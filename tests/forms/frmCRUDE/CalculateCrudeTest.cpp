@@ -49,7 +49,7 @@ void type(CrudeInput& cargo, const std::string& name, const std::string& value)
     else if (name == "other")
         cargo.readWith = yes ? ReadWith::OtherMeans : ReadWith::Hydrometer;
     else if (name == "decimals")
-        cargo.vcfDecimals = std::stoi(value);
+        cargo.isVCFShort = value == "4";
     else if (name == "rule")
         cargo.weightRule = WeightRule{std::stoi(value)};
     else if (name == "edition")
@@ -86,8 +86,11 @@ std::map<std::string, std::string> shown(const CrudeResult& cargo)
         {"net.inAir", cargo.net.metricInAir},
         {"net.inVacuo", cargo.net.metricInVacuo},
         {"net.long", cargo.net.longInAir},
+        {"gross.longInVacuo", cargo.gross.longInVacuo},
+        {"net.longInVacuo", cargo.net.longInVacuo},
         {"weightMethod", cargo.weightMethod},
         {"notice", cargo.notice},
+        {"level", cargo.level == NoticeLevel::Fault ? "fault" : "remark"},
     };
 }
 

@@ -173,11 +173,13 @@ TEST(PositionRecord, aListNamesItsRowsAndHasNoSpeedWithoutHours)
     PositionRecordInput input = fourDays();
     input.rows[1] = {};
     input.rows[2].satelliteSMT = "2024/05/01 13:00"; // the same moment as the first
+    input.rows[3].satelliteSMT = "2024/05/01 14:30";
     const PositionRecordResult result = CalculatePositionRecord(input);
     const ExportTable list = recordList(input, result);
     ASSERT_EQ(list.rows.size(), 3U);
     EXPECT_EQ(list.rows[0][8], "0.0000");
     EXPECT_EQ(list.rows[0][9], "");
+    EXPECT_NE(list.rows[1][9], "") << "half an hour";
     EXPECT_EQ(list.rows[2][6], "") << "nothing follows";
     const ExportLine track = trackOf(result);
     ASSERT_EQ(track.points.size(), 3U);

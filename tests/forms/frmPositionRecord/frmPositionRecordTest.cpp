@@ -7,6 +7,7 @@
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QTest>
 
@@ -116,9 +117,13 @@ TEST_F(frmPositionRecordTest, theProgramKnowsTheShipByTheLastFixThatIsNotAhead)
                    : std::pair(-1.0, -1.0);
     };
     const auto steer = [&](const char* course, const char* speed) {
-        type(window, "txtSpeedSteered", "x");
-        type(window, "txtCourseSteered", course);
-        type(window, "txtSpeedSteered", speed);
+        // At once: on its way to 100.5 a speed is 100.
+        const auto put = [&window](const char* box, const char* figure) {
+            dynamic_cast<QLineEdit&>(control(window, box)).setText(figure);
+        };
+        put("txtSpeedSteered", "x");
+        put("txtCourseSteered", course);
+        put("txtSpeedSteered", speed);
         return known();
     };
     EXPECT_EQ(steer("0", "0"), std::pair(0.0, 0.0));
