@@ -2,8 +2,10 @@
 #include "tests/shell/Pixels.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
+#include <numeric>
 
 namespace korvel::testing
 {
@@ -39,6 +41,32 @@ bool isLike(QRgb one, QRgb other)
     return std::abs(qRed(one) - qRed(other)) + std::abs(qGreen(one) - qGreen(other)) +
                std::abs(qBlue(one) - qBlue(other)) <=
            most;
+}
+
+int strokesAbout(const QImage& image, QPointF place, int reach, const QColor& colour,
+                 const QColor& ground)
+{
+    using Parts = std::array<double, 3>;
+    const auto partsOf = [](QRgb of, const QColor& from) {
+        return Parts{double(qRed(of) - from.red()), double(qGreen(of) - from.green()),
+                     double(qBlue(of) - from.blue())};
+    };
+    const auto product = [](const Parts& a, const Parts& b) {
+        return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
+    };
+    const Parts whole = partsOf(colour.rgb(), ground);
+    const QPoint corner = place.toPoint() - QPoint(reach, reach);
+    const QSize size(2 * reach + 1, 2 * reach + 1);
+    int strokes = 0;
+    for (const auto& [seen, count] : coloursOf(image, QRect(corner, size))) {
+        const Parts parts = partsOf(seen, ground);
+        const double share = product(parts, whole) / product(whole, whole);
+        Parts rest = parts;
+        for (std::size_t i = 0; i < rest.size(); ++i)
+            rest[i] -= share * whole[i];
+        if (share > 0.4 && product(rest, rest) < 400) strokes += count;
+    }
+    return strokes;
 }
 
 double contrast(QRgb one, QRgb other, double strayLight)

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QImage>
+#include <QPointF>
 #include <QRect>
 
 #include <map>
@@ -18,6 +20,9 @@ std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part);
 
 /// Whether a colour stands for another where thin lines are blended with the ground.
 bool isLike(QRgb one, QRgb other);
+/// How many pixels about a place have a colour on its ground, be it thinned by smoothing.
+int strokesAbout(const QImage& image, QPointF place, int reach, const QColor& colour,
+                 const QColor& ground);
 
 /// @param strayLight that is added to both luminances; 0.05 by the definition
 double contrast(QRgb one, QRgb other, double strayLight = 0.05);

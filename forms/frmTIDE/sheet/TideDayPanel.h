@@ -40,8 +40,6 @@ public:
     const CurveAnswer& heightAnswer() const { return m_texts.height; }
     const CurveAnswer& timesAnswer() const { return m_texts.times; }
 
-    QWidget* firstBox() const { return m_boxes[0]; }
-
 private:
     ResultLabel* make(std::size_t result);
     void layOutWaters();

@@ -28,7 +28,6 @@ public:
     std::function<void()> onToday;
     std::function<void(const std::string& typed)> onFind;
 
-    DateLabel* lblDate() const { return m_lblDate; }
     EntryBox* txtFind() const { return m_txtFind; }
     /// The highest and lowest of the half hours, which stand behind "Details".
     QWidget* halfHours() const { return m_halfHours; }

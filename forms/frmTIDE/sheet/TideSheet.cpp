@@ -30,10 +30,6 @@ TideSheet::TideSheet(QWidget* parent)
     };
 
     layOut();
-    setTabOrder(m_scrDate, m_picTIDE);
-    setTabOrder(m_picTIDE, m_head->lblDate());
-    setTabOrder(m_head->lblDate(), m_head->txtFind());
-    setTabOrder(m_head->txtFind(), m_day->firstBox());
 }
 
 void TideSheet::layOut()

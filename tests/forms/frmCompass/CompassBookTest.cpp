@@ -104,6 +104,23 @@ TEST(CompassList, aFaultIsNamedByLineAndColumnAndNothingIsRead)
               "line 3, utc: \"1.2.2026\" is no date and time of the form 2026-11-21T16:00:00Z");
     EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,91,2,Sun,azimuth,,,typed" + rest + ",\n"),
               "line 2, lat_deg: \"91\" is no angle within 90");
+    const std::pair<const char*, bool> places[] = {
+        {"-90,-180", true}, {"90,180", true},   {"90.1,0", false},
+        {"-90.1,0", false}, {"0,180.1", false}, {"0,-180.1", false},
+    };
+    for (const auto& [place, isGood] : places)
+        EXPECT_EQ(readCompassList(head + "2026-01-01T00:00:00Z," + place +
+                                  ",Sun,azimuth,360,-180,typed,360" + rest.substr(1) + ",\n")
+                      .fault.empty(),
+                  isGood)
+            << place;
+    for (const auto& [figures, why] :
+         {std::pair(",360.1,0,typed,", "true_bearing_deg: \"360.1\" is no angle within 360"),
+          std::pair(",0,180.1,typed,", "variation_deg: \"180.1\" is no angle within 180"),
+          std::pair(",0,0,typed,nan", "gyro_bearing_deg: \"nan\" is no angle within 360")})
+        EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,1,2,Sun,azimuth" + figures + rest.substr(1) +
+                          ",\n"),
+                  std::string("line 2, ") + why);
     EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,1,2,Sun,by eye,,,typed" + rest + ",\n"),
               "line 2, method: \"by eye\" is neither azimuth nor amplitude");
 }
@@ -131,6 +148,10 @@ TEST(CompassRecord, damageIsNamedAndTheRestRead)
     EXPECT_EQ(damageOf(head + "line\n" + time + "latitude=91\n"), "line 4: no angle within 90");
     EXPECT_EQ(damageOf(head + "line\n" + time + "gyro head=nan\n"), "line 4: no angle within 360");
     EXPECT_EQ(damageOf(head + "line\n" + time + "remark=\xff\n"), "line 4: it cannot be read");
+    const ReadCompassBook early = readCompassBook(head + "body=Sun\nline\n" + time);
+    EXPECT_EQ(early.damage, "") << "a value of no line is none's";
+    ASSERT_EQ(early.book.size(), 1u);
+    EXPECT_EQ(early.book[0].body, "");
     const ReadCompassBook timeless = readCompassBook(head + "line\nbody=Sun\nline\n" + time);
     EXPECT_EQ(timeless.damage, "line 2: an observation without a time");
     EXPECT_EQ(timeless.book.size(), 1u);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCompass/CalculateCompass.h"
 
+#include "forms/frmCompass/CompassBody.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
 #include "tests/golden/Golden.h"
@@ -9,6 +10,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <vector>
 
 namespace korvel
 {
@@ -66,6 +69,94 @@ TEST(Compass, errorsOfCompasses)
                      {"visible", result.byHorizon[1]},
                      {"notice", result.notice}});
     }
+}
+
+TEST(Compass, everyBoxHasItsRange)
+{
+    const struct {
+        CompassBox box;
+        const char* name;
+        std::vector<const char*> within;
+        std::vector<const char*> beyond;
+        const char* range;
+    } rows[] = {
+        {CompassBox::Latitude,
+         "Latitude",
+         {"-90", "90"},
+         {"-90.001", "90.001"},
+         "-90 to 90 degrees"},
+        {CompassBox::Longitude,
+         "Longitude",
+         {"-180", "180"},
+         {"-180.001", "180.001"},
+         "-180 to 180 degrees"},
+        {CompassBox::GyroBearing,
+         "Bearing by gyro",
+         {"0", "360"},
+         {"-0.1", "360.1"},
+         "0 to 360 degrees"},
+        {CompassBox::GyroHead, "Head by gyro", {"0", "360"}, {"-0.1", "360.1"}, "0 to 360 degrees"},
+        {CompassBox::StandardBearing,
+         "Bearing by standard compass",
+         {"0", "360"},
+         {"-0.1", "360.1"},
+         "0 to 360 degrees"},
+        {CompassBox::StandardHead,
+         "Head by standard compass",
+         {"0", "360"},
+         {"-0.1", "360.1"},
+         "0 to 360 degrees"},
+        {CompassBox::SteeringBearing,
+         "Bearing by steering compass",
+         {"0", "360"},
+         {"-0.1", "360.1"},
+         "0 to 360 degrees"},
+        {CompassBox::SteeringHead,
+         "Head by steering compass",
+         {"0", "360"},
+         {"-0.1", "360.1"},
+         "0 to 360 degrees"},
+        {CompassBox::Variation,
+         "Variation",
+         {"-180", "180", "180 W"},
+         {"-180.1", "180.1 E"},
+         "-180 to 180"},
+        {CompassBox::HeightOfEye,
+         "Height of eye",
+         {"0", "200"},
+         {"-0.1", "200.1"},
+         "0 to 200 metres"},
+        {CompassBox::Speed, "Ship's speed", {"0", "100"}, {"-0.1", "100.1"}, "0 to 100 knots"},
+    };
+    for (const auto& row : rows) {
+        const auto noticeOf = [&row](const char* typed) {
+            CompassInput input;
+            input.usesModel = false;
+            input.txtCompass[static_cast<std::size_t>(row.box)] = typed;
+            return CalculateCompass(input).notice;
+        };
+        for (const char* typed : row.within)
+            EXPECT_EQ(noticeOf(typed), "") << row.name << " " << typed;
+        for (const char* typed : row.beyond)
+            EXPECT_EQ(noticeOf(typed), std::string(row.name) + ": not within " + row.range)
+                << typed;
+    }
+}
+
+TEST(Compass, aBearingIsWorthLittleBeyondItsLimits)
+{
+    const auto said = [](double altitude, double change) {
+        Remarks remarks;
+        judgeBearing(almanac::Body::Sun, {Degrees(90), Degrees(altitude), Degrees(change)},
+                     remarks);
+        return remarks.text();
+    };
+    EXPECT_EQ(said(60, 0.5), "");
+    EXPECT_EQ(said(-1.5, -0.5), "");
+    EXPECT_EQ(said(60.05, 0), "The Sun stands at 60°03.0', above 60°: the bearing is worth little");
+    EXPECT_EQ(said(0, 0.55), "The bearing changes by 0.6° a minute: it is worth little");
+    EXPECT_EQ(said(0, -0.55), said(0, 0.55));
+    EXPECT_EQ(said(-1.55, 0), "The Sun is below the horizon, at -1°33.0'");
 }
 
 // At the time that was found for an amplitude the azimuth says the same, with every horizon, in

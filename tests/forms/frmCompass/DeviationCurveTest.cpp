@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCompass/DeviationCurve.h"
+#include "app/reading/Format.h"
 #include "forms/frmCompass/CalculateCourses.h"
 #include "tests/golden/Golden.h"
 
@@ -112,6 +113,41 @@ CourseInput coursesOf(const Golden& row)
                                               : CourseGiven::TrueHead;
     }
     return input;
+}
+
+TEST(Courses, everyBoxHasItsRange)
+{
+    const struct {
+        CourseBox box;
+        const char* name;
+        double low;
+        double high;
+        const char* unit;
+    } rows[] = {
+        {CourseBox::Course, "Course", 0, 360, " degrees"},
+        {CourseBox::Speed, "Speed through the water", 0, 100, " knots"},
+        {CourseBox::Leeway, "Leeway", -45, 45, " degrees"},
+        {CourseBox::Set, "Set of the current", 0, 360, " degrees"},
+        {CourseBox::Drift, "Drift of the current", 0, 30, " knots"},
+        {CourseBox::GyroError, "Gyro error", -180, 180, ""},
+        {CourseBox::Variation, "Variation", -180, 180, ""},
+        {CourseBox::Deviation, "Deviation", -180, 180, ""},
+        {CourseBox::Distance, "Distance to make good", 0, 25000, " miles"},
+    };
+    for (const auto& row : rows) {
+        const auto noticeOf = [&row](double typed) {
+            CourseInput input;
+            input.txtCourses[static_cast<std::size_t>(CourseBox::Set)] = "0";
+            input.txtCourses[static_cast<std::size_t>(row.box)] = Format(typed, "0.#");
+            return CalculateCourses(input).notice;
+        };
+        const std::string refused = std::string(row.name) + ": not within " + Format(row.low, "0") +
+                                    " to " + Format(row.high, "0") + row.unit;
+        for (const double typed : {row.low, row.high})
+            EXPECT_EQ(noticeOf(typed), "") << row.name << " " << typed;
+        for (const double typed : {row.low - 0.1, row.high + 0.1})
+            EXPECT_EQ(noticeOf(typed), refused) << typed;
+    }
 }
 
 TEST(Courses, intoEachOther)

@@ -4,14 +4,22 @@
 #include "app/reading/Reading.h"
 #include "forms/frmCompass/CompassRecord.h"
 #include "forms/frmCompass/DeviationCurve.h"
+#include "forms/frmCompass/pages/CoursesPicture.h"
+#include "forms/frmCompass/pages/DeviationPicture.h"
+#include "shell/screen/ColourScheme.h"
 #include "tests/SourceFolder.h"
+#include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QPainter>
 #include <QTest>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <sstream>
 
@@ -155,6 +163,13 @@ TEST_F(frmCompassTest, aLineOfTheBookComesBackIntoTheBoxes)
     takeBack(0);
     EXPECT_EQ(text(window, "txtCompass(10)"), "");
     EXPECT_THAT(text(window, "lblCompass(15)"), ::testing::HasSubstr("(WMM-2025)"));
+    const auto hint = [&] {
+        return dynamic_cast<QLineEdit&>(control(window, "txtCompass(10)")).placeholderText();
+    };
+    EXPECT_TRUE(QString::fromStdString(text(window, "lblCompass(15)")).startsWith(hint() + " ±"));
+    click(window, "optVariation(1)");
+    EXPECT_EQ(hint(), "");
+    click(window, "optVariation(0)");
     EXPECT_EQ(text(window, "txtCompass(1)"), "35.1");
     type(window, "txtCourses(0)", "100");
     choose(window, "mnuAC(1)");
@@ -162,6 +177,109 @@ TEST_F(frmCompassTest, aLineOfTheBookComesBackIntoTheBoxes)
     EXPECT_EQ(text(window, "txtCompass(1)"), "35.1") << "the observation is another's to clear";
     choose(window, "mnuAC(0)");
     EXPECT_EQ(text(window, "txtCompass(1)"), "");
+}
+
+/// How many pixels of a colour stand about a place of a picture.
+int pixelsAbout(const QImage& image, QPointF place, const QColor& colour)
+{
+    return strokesAbout(image, place, 2, colour, ColourScheme::day().paper);
+}
+
+TEST_F(frmCompassTest, theDeviationIsDrawnWhereItsFiguresSay)
+{
+    CompassBook kept;
+    for (int head = 0; head < 360; head += 20) {
+        CompassLine line;
+        line.UTC = *readIso("2026-03-01T04:00:00Z") + std::chrono::hours(head);
+        CompassReading& standard = line.readings[1];
+        standard.head = Degrees(head);
+        standard.deviation = ofStandard.at(Degrees(head)) + Degrees(head == 200      ? 9
+                                                                    : head % 40 == 0 ? 0.3
+                                                                                     : -0.3);
+        standard.error = standard.deviation;
+        kept.push_back(line);
+    }
+    const DeviationCurve curve = deviationCurve(kept, CompassKind::Standard);
+    DeviationPicture picture(nullptr);
+    const ColourScheme colours = ColourScheme::day();
+    picture.setColours(colours);
+    picture.resize(500, 700);
+    picture.show();
+    picture.showCurve(curve);
+    QImage image = picture.grab().toImage();
+    for (int head = 5; head < 360; head += 10)
+        EXPECT_GT(
+            pixelsAbout(image,
+                        picture.toPixel(curve.fit->coefficients().at(Degrees(head)).value(), head),
+                        colours.route),
+            2)
+            << head;
+    const double edge = picture.userScale().right;
+    EXPECT_GE(edge, 9);
+    EXPECT_EQ(picture.userScale().left, -edge);
+    EXPECT_EQ(picture.userScale().top, 0);
+    EXPECT_EQ(picture.userScale().bottom, 360);
+    for (int head = 0; head <= 360; head += 45) // the eight points, and north again
+        EXPECT_GT(pixelsAbout(image, picture.toPixel(edge * 0.93, head), colours.grid), 2) << head;
+    EXPECT_EQ(pixelsAbout(image, picture.toPixel(edge * 0.93, 22), colours.grid), 0);
+    EXPECT_GT(pixelsAbout(image, picture.toPixel(0, 100), colours.ink), 2) << "no deviation";
+    const DeviationCurve::Point& leftOut = curve.points[10];
+    ASSERT_TRUE(leftOut.isBlunder);
+    const QPointF wrong = picture.toPixel(leftOut.at.deviation.value(), 200);
+    EXPECT_GT(pixelsAbout(image, wrong, colours.fault), 2);
+    const NavFunc113::DeviationPoint hand{Degrees(300), Degrees(3)};
+    const QPointF ring =
+        picture.toPixel(3, 300) + QPointF(0.44 * picture.fontMetrics().height(), 0);
+    EXPECT_EQ(pixelsAbout(image, ring, colours.secondary), 0);
+    picture.showInHand(hand);
+    image = picture.grab().toImage();
+    EXPECT_GT(pixelsAbout(image, ring, colours.secondary), 0);
+    QImage paper(500, 700, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    picture.drawOn(painter, paper.size(), colours);
+    painter.end();
+    EXPECT_EQ(coloursOf(paper, paper.rect()).count(colours.secondary.rgb()), 0u)
+        << "what is in hand is of no book";
+}
+
+TEST_F(frmCompassTest, theTriangleOfCourseCurrentAndTrack)
+{
+    CoursesPicture picture(nullptr);
+    const ColourScheme colours = ColourScheme::day();
+    picture.setColours(colours);
+    picture.resize(600, 640);
+    picture.show();
+    using NavFunc113::Knots;
+    // Sides of three, four and five knots: north-westwards through the water, north made good.
+    const CourseTriangle triangle{
+        {Degrees(323.1301), Knots(5)}, {Degrees(90), Knots(3)}, {Degrees(0), Knots(4)}};
+    picture.showTriangle(triangle, Degrees(319.1));
+    const QImage image = picture.grab().toImage();
+    const auto about = [&](double east, double north, const QColor& colour) {
+        return pixelsAbout(image, picture.toPixel(east, north), colour);
+    };
+    EXPECT_GT(about(0, 2.2, colours.route), 3);
+    EXPECT_GT(about(-1.8, 2.4, colours.ink), 3);
+    EXPECT_GT(about(-1.9, 4, colours.secondary) + about(-1.6, 4, colours.secondary), 3);
+    for (const double ring : {2.0, 4.0, 6.0, 8.0}) {
+        EXPECT_GT(about(-ring * std::sqrt(0.5), -ring * std::sqrt(0.5), colours.grid), 1) << ring;
+        EXPECT_GT(about(ring * std::sqrt(0.5), ring * std::sqrt(0.5), colours.paper), 10)
+            << "its figure";
+    }
+    EXPECT_EQ(about(-5 * std::sqrt(0.5), -5 * std::sqrt(0.5), colours.grid), 0);
+    for (const auto& [east, north] : {std::pair(0.0, 5.0), {5.0, 0.0}, {0.0, -5.0}, {-5.0, 0.0}})
+        EXPECT_GT(about(east, north, colours.grid), 2) << "to the points";
+    EXPECT_EQ(picture.userScale().top, -picture.userScale().bottom);
+    for (const auto& [speed, ring] :
+         {std::pair(8.0, 2.0), {8.1, 3.0}, {12.1, 5.0}, {20.1, 10.0}, {40.1, 20.0}, {80.1, 50.0}}) {
+        const NavFunc113::HorizontalMotion ahead{Degrees(0), Knots(speed)};
+        picture.showTriangle(CourseTriangle{ahead, {Degrees(0), Knots(0)}, ahead}, Degrees(0));
+        EXPECT_NEAR(picture.userScale().right, 4 * ring * 1.15, 1e-9) << speed;
+    }
+    picture.showTriangle({}, {});
+    const QImage empty = picture.grab().toImage();
+    EXPECT_EQ(pixelsAbout(empty, picture.toPixel(0, 2.2), colours.route), 0);
 }
 
 /// Coefficients of 2025 as another edition, in their producer's format.

@@ -6,7 +6,9 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <cmath>
+#include <string>
 
 namespace korvel
 {
@@ -52,6 +54,36 @@ TEST(CalculateGC, waypointsAndFigures)
 {
     for (const Golden& row : golden("great_circle_routes"))
         expectTexts(row, "shows", shown(routeOf(row)));
+}
+
+TEST(CalculateGC, everyBoxHasItsRange)
+{
+    const std::array<const char*, 4> good = {"10", "20", "30", "40"};
+    const struct {
+        std::size_t box;
+        const char* name;
+        const char* within[2];
+        const char* beyond[2];
+        const char* range;
+    } rows[] = {
+        {0, "Departure latitude", {"-65", "65"}, {"-65.001", "65.001"}, "-65 to 65 degrees"},
+        {1, "Departure longitude", {"-180", "180"}, {"-180.001", "180.001"}, "-180 to 180 degrees"},
+        {2, "Arrival latitude", {"-65", "65"}, {"-65.001", "65.001"}, "-65 to 65 degrees"},
+        {3, "Arrival longitude", {"-180", "180"}, {"-180.001", "180.001"}, "-180 to 180 degrees"},
+    };
+    for (const auto& row : rows) {
+        const auto resultOf = [&](const char* typed) {
+            GCInput input{{good[0], good[1], good[2], good[3]}};
+            input.txtGC[row.box] = typed;
+            return CalculateGC(input);
+        };
+        for (const char* typed : row.within)
+            EXPECT_EQ(resultOf(typed).notice, "") << row.name << " " << typed;
+        for (const char* typed : row.beyond) {
+            EXPECT_EQ(resultOf(typed).notice, std::string(row.name) + ": not within " + row.range);
+            EXPECT_TRUE(resultOf(typed).route.waypoints.empty());
+        }
+    }
 }
 
 TEST(CalculateGC, lastWaypointIsTheArrivalAsTyped)

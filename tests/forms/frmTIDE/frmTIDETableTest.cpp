@@ -5,6 +5,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
 
@@ -32,6 +34,9 @@ TEST(TableDialog, showsCopiesAndPrints)
     click(dialog, "cmdPrint");
     EXPECT_EQ(printed, 1);
     QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    dialog.show();
+    dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Close)->click();
     EXPECT_FALSE(dialog.isVisible());
     const TableDialog other(nullptr, "dlg", "", "", {"a"}, {}, {});
     EXPECT_EQ(other.findChild<QWidget*>("cmdPrint"), nullptr);

@@ -3,19 +3,34 @@
 
 #include "forms/frmTIDE/data/TideData.h"
 #include "forms/frmTIDE/pages/frmTIDEPage.h"
+#include "forms/frmTIDE/sheet/DayLabels.h"
+#include "forms/frmTIDE/sheet/frmTIDEPicture.h"
+#include "shell/layout/TypeScale.h"
+#include "shell/screen/ColourScheme.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
+#include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QImage>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPicture>
+#include <QProgressBar>
 #include <QScrollArea>
+#include <QTableWidget>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <optional>
 #include <set>
+#include <string>
 
 namespace korvel
 {
@@ -53,6 +68,35 @@ protected:
     static int scrollValue(const QWidget& window)
     {
         return static_cast<QScrollBar&>(control(window, "scrDate")).value();
+    }
+    /// What is seen in a table that a menu entry shows, which is closed then.
+    static void whileShown(const QWidget& window, const std::string& entry, const char* dialog,
+                           const std::function<void(QWidget&)>& look)
+    {
+        bool isSeen = false;
+        QTimer::singleShot(0, &window, [&] {
+            QWidget* box = shown(dialog);
+            ASSERT_TRUE(box) << dialog;
+            isSeen = true;
+            look(*box);
+            box->close();
+        });
+        choose(window, entry);
+        EXPECT_TRUE(isSeen) << entry;
+    }
+    static std::string rowOf(const QWidget& dialog, int row)
+    {
+        const auto& table = dynamic_cast<QTableWidget&>(control(dialog, "tblRows"));
+        std::string cells;
+        for (int column = 0; column < table.columnCount(); ++column)
+            cells += table.item(row, column)->text().toStdString() + " | ";
+        return cells;
+    }
+    static bool hasLabel(const QWidget& window, const QString& words)
+    {
+        return std::ranges::any_of(window.findChildren<QLabel*>(), [&](const QLabel* label) {
+            return label->text() == words && label->isVisible();
+        });
     }
     static std::string tooFar(const std::string& last)
     {
@@ -147,6 +191,286 @@ TEST_F(frmTIDETest, streamsHaveTheirOwnFilesDirectionsAndMode)
     EXPECT_EQ(text(window, "lblTideInfo"), station.day(37818).four.lblTideInfo);
 }
 
+TEST_F(frmTIDETest, tablesOfAWeekAndOfAFile)
+{
+    auto& window = open<frmTIDE>();
+    setDate(window, "2003/7/15");
+    choose(window, yokohama);
+    whileShown(window, "mnuDay(2)", "dlgWeek", [](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Yokohama, seven days");
+        EXPECT_THAT(text(dialog, "lblSummary"), HasSubstr("Zone time 9.0hE.  Not for navigation."));
+        // The waters of the manual's worked example.
+        EXPECT_EQ(rowOf(dialog, 0), "2003-07-15 | springs | High 04:57   1.87 m | 04:54   1.84 m   "
+                                    "(-3 min, -0.03 m) | ");
+        EXPECT_THAT(rowOf(dialog, 1), ::testing::StartsWith(" |  | Low 12:01   -0.01 m | 12:00"));
+        EXPECT_THAT(rowOf(dialog, 3), ::testing::StartsWith("2003-07-16 | springs | "));
+        const auto& table = dynamic_cast<QTableWidget&>(control(dialog, "tblRows"));
+        EXPECT_EQ(table.horizontalHeaderItem(3)->text(), "All constituents (difference)");
+    });
+    questions.willType(FakeQuestions::acceptDefault);
+    whileShown(window, "mnuStation(1)", "dlgCheck", [](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Harmonic Constants/HC_Yokohama.txt");
+        EXPECT_THAT(text(dialog, "lblSummary"), HasSubstr("all 27 fields are good"));
+        EXPECT_EQ(rowOf(dialog, 0), "1 | Title | Yokohama |  | good | ");
+        EXPECT_EQ(rowOf(dialog, 1), "2 | Zone time, east positive | 9 | h | good | ");
+    });
+    questions.willType("Brothers");
+    whileShown(window, "mnuStation(2)", "dlgCheck", [](QWidget& dialog) {
+        EXPECT_THAT(text(dialog, "lblSummary"), HasSubstr("all 16 fields are good"));
+    });
+    EXPECT_THAT(questions.prompts, ElementsAre(::testing::_, "Tide station whose file is checked",
+                                               "Stream station whose file is checked"));
+    EXPECT_EQ(questions.offered.back(), "Yokohama");
+    for (const char* entry : {"mnuStation(2)", "mnuStation(1)"}) {
+        const char* other = entry == std::string("mnuStation(2)") ? "Tokyo" : "Philip Channel";
+        questions.willType(other);
+        questions.willAnswer(Answer::Ok);
+        choose(window, entry);
+        EXPECT_EQ(questions.asked.back(),
+                  "There is no station \"" + std::string(other) + "\" in the menus.");
+    }
+    const std::size_t said = questions.asked.size();
+    for (const char* entry : {"mnuStation(1)", "mnuDay(4)"}) {
+        questions.willType(std::nullopt);
+        choose(window, entry);
+    }
+    EXPECT_EQ(questions.asked.size(), said) << "whoever cancels is told nothing";
+}
+
+TEST_F(frmTIDETest, theProgressOfAnExtensionIsSeen)
+{
+    class Shown : public QObject
+    {
+    public:
+        bool eventFilter(QObject* bar, QEvent* event) override
+        {
+            if (event->type() == QEvent::Show)
+                format = static_cast<QProgressBar*>(bar)->format().toStdString();
+            if (event->type() == QEvent::Paint)
+                values.insert(static_cast<QProgressBar*>(bar)->value());
+            return false;
+        }
+        std::string format;
+        std::set<int> values;
+    } shown;
+    auto& window = open<frmTIDE>();
+    auto& bar = dynamic_cast<QProgressBar&>(control(window, "barExtend"));
+    bar.installEventFilter(&shown);
+    choose(window, "mnuDay(0)");
+    EXPECT_EQ(shown.format, "Making the predictions to 2050: %p %");
+    EXPECT_GT(shown.values.size(), 5u);
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_TRUE(control(window, "lblInUse").isVisible());
+    EXPECT_EQ(static_cast<QScrollBar&>(control(window, "scrDate")).maximum(), 17624)
+        << "days from 2002/10/1 to 2050/12/31";
+}
+
+/// Where the parts of an array stand, from the left and from the top, in the window.
+QPoint placeOf(const QWidget& window, const std::string& name)
+{
+    return control(window, name).mapTo(&window, QPoint());
+}
+
+TEST_F(frmTIDETest, whatBelongsTogetherStandsTogether)
+{
+    auto& window = open<frmTIDE>();
+    click(window, "cmdDetails");
+    setDate(window, "2003/7/15");
+    choose(window, yokohama);
+    QApplication::processEvents();
+    const auto middle = [&](const std::string& name) {
+        return placeOf(window, name).y() + control(window, name).height() / 2;
+    };
+    const auto byAll = [&](int i) {
+        return placeOf(window, "lblWaterAll(" + std::to_string(i) + ")");
+    };
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(byAll(i).y(), byAll(i + 4).y()) << "two columns of four";
+        EXPECT_LT(byAll(i).x(), byAll(i + 4).x());
+        if (i == 0) continue;
+        EXPECT_LT(byAll(i - 1).y(), byAll(i).y());
+        EXPECT_EQ(byAll(i - 1).x(), byAll(i).x());
+    }
+    const int half = control(window, "txtAtTime").height() / 2;
+    EXPECT_NEAR(middle("lblHeightAt"), middle("txtAtTime"), half);
+    EXPECT_NEAR(middle("lblTimesOf"), middle("txtAtHeight"), half);
+    EXPECT_GT(middle("lblHeightAtAll"), middle("lblHeightAt"));
+    EXPECT_LT(middle("lblHeightAtAll"), middle("lblTimesOf"));
+    EXPECT_GT(middle("lblTimesOfAll"), middle("lblTimesOf"));
+    EXPECT_NEAR(middle("lblTD"), middle("lblPlace"), half);
+    EXPECT_GT(placeOf(window, "lblTD").x(), placeOf(window, "lblDate").x());
+    EXPECT_LT(placeOf(window, "txtFind").x(), placeOf(window, "lblPlace").x());
+
+    // Each caption leads to its box, and says what is asked of a tide or a stream.
+    for (const char* words :
+         {"Hei&ght at", "Fro&m a height of", "Height then", "m", "High and low water"})
+        EXPECT_TRUE(hasLabel(window, words)) << words;
+    choose(window, brothersStream);
+    QApplication::processEvents();
+    for (const char* words : {"&Rate at", "Fro&m a rate of", "Rate then", "kn", "Flood and ebb"})
+        EXPECT_TRUE(hasLabel(window, words)) << words;
+    std::set<std::string> led;
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        if (label->buddy())
+            led.insert(label->text().toStdString() + ": " +
+                       label->buddy()->objectName().toStdString());
+    for (const char* each :
+         {"&Rate at: txtAtTime", "Fro&m a rate of: txtAtHeight", "&Find: txtFind"})
+        EXPECT_EQ(led.count(each), 1u) << each;
+}
+
+TEST_F(frmTIDETest, theNextWatersOfTodayAreTheAnswers)
+{
+    auto& window = open<frmTIDE>(); // on 2005/3/14
+    choose(window, yokohama);
+    const auto large = [&] {
+        std::string names;
+        const QFont answer = lettersOf(Weight::Answer);
+        for (int i = 0; i < 4; ++i) {
+            const QWidget& water = control(window, "lblWater(" + std::to_string(i) + ")");
+            if (water.isVisible() && water.font() == answer) names += std::to_string(i) + " ";
+        }
+        return names;
+    };
+    setDate(window, "2003/7/15");
+    EXPECT_EQ(large(), "0 1 2 ") << "no one of them is the next";
+    click(window, "cmdToday");
+    EXPECT_EQ(text(window, "lblDate"), "2005/03/14");
+    const double now = 9.75; // 09:45 by the clock, which keeps the station's zone time
+    std::string next;
+    std::set<std::string> kinds;
+    for (int i = 0; i < 4; ++i) {
+        const std::string water = text(window, "lblWater(" + std::to_string(i) + ")");
+        const std::size_t colon = water.find(':');
+        if (colon == water.npos) continue;
+        const double at =
+            std::stoi(water.substr(colon - 2)) + std::stoi(water.substr(colon + 1)) / 60.0;
+        const std::string kind = water.substr(0, water.find(' ')); // High or Low
+        if (at < now || !kinds.insert(kind).second) continue;
+        next += std::to_string(i) + " ";
+    }
+    EXPECT_EQ(large(), next);
+}
+
+/// Whether anything but the background stands in a part of a picture.
+bool isInked(const QImage& image, const QRect& part)
+{
+    return coloursOf(image, part & image.rect()).size() > 1;
+}
+
+TEST_F(frmTIDETest, aWaterIsWrittenFromEdgeToEdge)
+{
+    const auto imageOf = [this](ResultLabel& label) {
+        label.setAutoFillBackground(true);
+        label.resize(label.sizeHint());
+        return label.grab().toImage();
+    };
+    const QFontMetrics small(lettersOf(Weight::Remark));
+    const int letter = small.averageCharWidth();
+    WaterLabel water(nullptr);
+    water.dress(Weight::Answer, 4);
+    water.setText("Least flood 12:34   ~-0.50 kn");
+    const QImage image = imageOf(water);
+    const int high = image.height(), name = small.horizontalAdvance("Least flood") + letter;
+    EXPECT_TRUE(isInked(image, {0, 0, letter, high})) << "the name";
+    EXPECT_FALSE(isInked(image, {name - letter + 1, 0, letter - 2, high}));
+    EXPECT_TRUE(isInked(image, {name, 0, 2 * letter, high})) << "the time";
+    EXPECT_TRUE(isInked(image, {image.width() - letter, 0, letter, high})) << "the unit";
+    water.setText("High 04:12   3.50 m");
+    const QImage tide = imageOf(water);
+    EXPECT_TRUE(isInked(tide, {0, 0, letter, high}));
+    const int behindName = small.horizontalAdvance("High") + 2;
+    EXPECT_FALSE(isInked(tide, {behindName, 0, name - behindName - 1, high})) << "the name alone";
+    EXPECT_TRUE(isInked(tide, {name, 0, 2 * letter, high}));
+    // Many waters are written smaller, so that all of them have room.
+    const auto lettersAfter = [&water](Weight weight, std::size_t waters) {
+        water.dress(weight, waters);
+        return water.font().pointSizeF() + water.font().pixelSize();
+    };
+    const double ofFour = lettersAfter(Weight::Answer, 4), ofFive = lettersAfter(Weight::Answer, 5);
+    const double ofSix = lettersAfter(Weight::Answer, 6), ofSeven = lettersAfter(Weight::Answer, 7);
+    EXPECT_GT(ofFour, ofFive);
+    EXPECT_EQ(ofFive, ofSix);
+    EXPECT_GT(ofSix, ofSeven);
+    EXPECT_EQ(water.foregroundRole(), accentRole);
+    EXPECT_EQ(lettersAfter(Weight::Figure, 7), ofSeven);
+    EXPECT_EQ(water.foregroundRole(), QPalette::WindowText);
+    EXPECT_GE(WaterLabel::roomOfDay(), 8 * small.lineSpacing());
+
+    NowLabel now(nullptr);
+    now.setFont(lettersOf(Weight::Answer));
+    now.setText("Now 2003/07/15 03:00   3.30 m rising   all constituents 3.28 m rising");
+    const QImage three = imageOf(now);
+    const int line = small.lineSpacing();
+    EXPECT_TRUE(isInked(three, {0, 0, letter, line})) << "when";
+    EXPECT_TRUE(isInked(three, {0, line + 2, letter, three.height() - 2 * line - 4})) << "what";
+    EXPECT_TRUE(isInked(three, {0, three.height() - line + 2, letter, line - 2})) << "by all";
+    EXPECT_TRUE(isInked(three, {3 * letter, three.height() - line + 2, letter, line - 2}));
+}
+
+/// Whether a line of a colour goes through a place of a picture.
+bool isDrawnAt(const QImage& image, QPointF place, const QColor& colour)
+{
+    return strokesAbout(image, place, 1, colour, ColourScheme::day().paper) > 0;
+}
+
+TEST_F(frmTIDETest, thePictureHasEachLineWhereItsFiguresSay)
+{
+    const StationList list(TideFolder::shipped());
+    const FullConstants constants(TideFolder::shipped());
+    const StationDays station(TideFolder::shipped(), TideKind::Tide, "Kobe", list, constants);
+    const TideDayShown day = station.day(37817);
+    const auto all = day.all->halfHourly();
+    frmTIDEPicture picture;
+    const ColourScheme colours = ColourScheme::day();
+    picture.setColours(colours);
+    picture.resize(1000, 700);
+    picture.show();
+    picture.showPrediction(day.four, all);
+    const double low = picture.userScale().bottom, level = 1.1; // off the grid
+    picture.mark({NavFunc113::Hours(4.3)}, level);
+    const QImage image = picture.grab().toImage();
+    const auto at = [&](double hour, double height, const QColor& colour) {
+        return isDrawnAt(image, picture.toPixel(hour, height), colour);
+    };
+    for (std::size_t i = 1; i + 1 < all.size(); ++i)
+        EXPECT_TRUE(at(static_cast<double>(i) / 2, day.four.values[i], colours.curve)) << i;
+    // The thin line where it is well off the thick one.
+    int seen = 0, apart = 0;
+    for (std::size_t i = 1; i + 1 < all.size(); ++i) {
+        if (std::fabs(all[i] - day.four.values[i]) < 0.05) continue;
+        ++apart;
+        seen += at(static_cast<double>(i) / 2, all[i], colours.marker);
+    }
+    EXPECT_GT(apart, 5);
+    EXPECT_GE(seen, apart * 3 / 4) << "of " << apart;
+    const auto alongLevel = [&](double height, const QColor& colour) {
+        int drawn = 0;
+        for (double hour = 0.2; hour < 20; hour += 0.05)
+            drawn += at(hour, height, colour);
+        return drawn;
+    };
+    EXPECT_GT(alongLevel(level, colours.marker), 150) << "the level that is asked for";
+    EXPECT_GT(alongLevel(0, colours.datum), 300);
+    EXPECT_LT(alongLevel(0.5, colours.datum), 60) << "where the curves cross";
+    // Levels beyond the scale are not drawn over the hours below it.
+    const double below = picture.toUser(QPointF(0, picture.height() - 4)).y();
+    ASSERT_LT(below, low);
+    picture.mark({}, below);
+    const QImage without = picture.grab().toImage();
+    int marked = 0;
+    for (double hour = 0.2; hour < 20; hour += 0.05)
+        marked += isDrawnAt(without, picture.toPixel(hour, below), colours.marker);
+    EXPECT_EQ(marked, 0);
+    // The mark is a ring about its place on the curve.
+    const QPointF mark = picture.toPixel(4.3, day.four.at(NavFunc113::Hours(4.3)));
+    const double radius = picture.fontMetrics().height() / 4.0;
+    for (const QPointF side : {QPointF(radius, 0), QPointF(-radius, 0)}) {
+        EXPECT_TRUE(isDrawnAt(image, mark + side, colours.marker));
+        EXPECT_FALSE(isDrawnAt(without, mark + side, colours.marker));
+    }
+}
+
 TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
 {
     auto& window = open<frmTIDE>();
@@ -160,6 +484,19 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     press(window, "picTIDE", {Qt::Key_End});
     press(window, "picTIDE", {Qt::Key_Right, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30  1.09m"));
+    const auto reading = [&] { return control(window, "lblReading").geometry(); };
+    const int line = picture.fontMetrics().height();
+    EXPECT_LT(reading().right(), picture.toPixel(23.5, 0).x()) << "there is no room behind it";
+    EXPECT_LT(reading().top(), line);
+    press(window, "picTIDE", {Qt::Key_Home});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("00:00  "));
+    EXPECT_NEAR(reading().left(), picture.toPixel(0, 0).x() + line / 2, 2);
+    EXPECT_LT(reading().top(), line);
+    press(window, "picTIDE", {Qt::Key_Left});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("00:00  ")) << "the day begins there";
+    press(window, "picTIDE", {Qt::Key_End, Qt::Key_Right});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("24:00  ")) << "and ends there";
+    press(window, "picTIDE", {Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
     choose(window, brothersStream);
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30")) << "the new curve is read there";
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("WSW")) << "an ebb";

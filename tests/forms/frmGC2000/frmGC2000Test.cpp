@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "forms/frmGC2000/frmGC2000.h"
+
+#include "forms/frmGC2000/DrawWPs.h"
+#include "forms/frmGC2000/GCPicture.h"
+#include "navlib/angles.h"
+#include "shell/screen/ColourScheme.h"
+#include "tests/shell/Pixels.h"
+#include "tests/shell/ShellTesting.h"
+
+#include <QImage>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+// Where the lines, marks and texts of the chart stand.
+
+namespace korvel
+{
+namespace
+{
+
+using namespace korvel::testing;
+
+class GCPictureTest : public WindowTest
+{
+protected:
+    /// The chart of a route, 1000 pixels wide.
+    QImage imageOf(const char* lat1, const char* long1, const char* lat2, const char* long2)
+    {
+        chart = DrawWPs(CalculateGC({{lat1, long1, lat2, long2}}).route);
+        picture.setColours(colours);
+        picture.resize(1000, 700);
+        picture.show();
+        picture.setChart(chart);
+        return picture.grab().toImage();
+    }
+    QPointF at(const ChartPoint& point) const
+    {
+        return picture.toPixel(point.longitude, point.lat);
+    }
+
+    /// How many pixels of a colour stand about a place.
+    int pixelsAbout(const QImage& image, QPointF place, int reach, const QColor& colour) const
+    {
+        return strokesAbout(image, place, reach, colour, colours.paper);
+    }
+
+    const ColourScheme colours = ColourScheme::day();
+    GCPicture picture;
+    GCChart chart;
+};
+
+TEST_F(GCPictureTest, linesMarksAndNumbersStandAtTheirPlaces)
+{
+    const QImage image = imageOf("30", "125", "30", "-145");
+    const auto& route = chart.route;
+    const int line = picture.fontMetrics().height();
+    for (std::size_t i = 0; i + 1 < route.size(); ++i) {
+        const QPointF middle = (at(route[i]) + at(route[i + 1])) / 2;
+        EXPECT_GT(pixelsAbout(image, middle, 2, colours.route), 3) << "leg " << i;
+        EXPECT_GT(pixelsAbout(image, at(route[i]), 2, colours.marker), i == 0 ? -1 : 8);
+    }
+    EXPECT_GT(pixelsAbout(image, at(route.back()), 2, colours.marker), 20);
+    // A number stands outside the bend, here to the north; none where the ends are beside it.
+    ColourScheme unseen = colours;
+    unseen.ink = unseen.paper; // what is then another picture was a number
+    picture.setColours(unseen);
+    const QImage without = picture.grab().toImage();
+    for (std::size_t i = 1; i + 2 < route.size(); ++i) {
+        const QPoint place = at(route[i]).toPoint();
+        int written = 0;
+        for (int x = -line; x <= line; ++x)
+            for (int y = -line * 4 / 3; y <= -line / 4; ++y)
+                written += image.pixel(place + QPoint(x, y)) != without.pixel(place + QPoint(x, y));
+        EXPECT_GT(written, 5) << "no number at waypoint " << i;
+    }
+    // Ticks at the edges, from the frame inwards: darker than the grid that goes on from them.
+    const QRectF area = picture.plotArea();
+    const auto darkest = [&](QPointF place) {
+        double least = 1;
+        for (const auto& [colour, count] :
+             coloursOf(image, QRect(place.toPoint() - QPoint(1, 1), QSize(3, 3))))
+            least = std::min(least, luminance(colour));
+        return least;
+    };
+    ASSERT_GT(chart.meridianLabels.size(), 5u);
+    for (const ChartLabel& label : chart.meridianLabels) {
+        const double x = picture.toPixel(label.at, 0).x();
+        EXPECT_LT(darkest({x, area.bottom() - 3}), 0.8 * darkest({x, area.bottom() - line}))
+            << label.text;
+    }
+    for (const ChartLabel& label : chart.parallelLabels) {
+        const double y = picture.toPixel(0, label.at).y();
+        if (std::fabs(y - at(route.back()).y()) < 2 * line) continue; // the lines begin there
+        EXPECT_LT(darkest({area.left() + 3, y}), 0.8 * darkest({area.left() + line, y}))
+            << label.text;
+    }
+}
+
+/// Dashes of five widths and gaps of three, however short the pieces of the line are.
+TEST_F(GCPictureTest, theRhumbLineIsDashedAllAlong)
+{
+    const QImage image = imageOf("10", "-120", "50", "140");
+    int drawn = 0, all = 0, changes = 0;
+    bool before = false;
+    for (std::size_t i = 8; i + 8 < chart.rhumbLine.size(); ++i)
+        for (int part = 0; part < 40; ++part) {
+            const double share = part / 40.0;
+            const QPointF place =
+                at(chart.rhumbLine[i]) * (1 - share) + at(chart.rhumbLine[i + 1]) * share;
+            const bool isDrawn = pixelsAbout(image, place, 0, colours.secondary) > 0;
+            drawn += isDrawn;
+            changes += isDrawn != before;
+            before = isDrawn;
+            ++all;
+        }
+    EXPECT_NEAR(static_cast<double>(drawn) / all, 5.0 / 8, 0.2);
+    EXPECT_GT(changes, 20);
+}
+
+TEST_F(GCPictureTest, boxesAndRowsStandInOrder)
+{
+    auto& window = open<frmGC2000>();
+    const auto place = [&](int i) {
+        return control(window, "txtGC(" + std::to_string(i) + ")").mapTo(&window, QPoint());
+    };
+    for (int i = 1; i < 4; ++i) {
+        EXPECT_EQ(place(i).x(), place(0).x());
+        EXPECT_GT(place(i).y(), place(i - 1).y());
+    }
+    const auto top = [&](const char* name) {
+        return control(window, name).mapTo(&window, QPoint()).y();
+    };
+    EXPECT_LT(top("lblGC2000(0)"), top("lblGC2000(2)"));
+    EXPECT_LT(top("lblFinalCourse"), top("lblVertexLat"));
+    EXPECT_EQ(top("lblVertexLat"), top("lblVertexLong"));
+}
+
+} // namespace
+} // namespace korvel
