@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace korvel
 {
@@ -249,10 +248,9 @@ void ConversionWindow::useConversionSettings(const char* file)
     const auto load = [this](const Record& values) {
         for (std::size_t i = 0; i < m_boxes.size(); ++i)
             m_boxes[i]->fill(asQString(textOf(values[i])));
-        // A negative one becomes too large.
-        const auto lead =
-            static_cast<std::size_t>(std::llround(std::trunc(numberOf(values.back()))));
-        if (lead < m_boxes.size()) m_lead = lead;
+        const double lead = numberOf(values.back());
+        if (lead >= 0 && lead < static_cast<double>(m_boxes.size()))
+            m_lead = static_cast<std::size_t>(lead);
     };
     record().use(file, std::move(kinds), save, load);
 }
