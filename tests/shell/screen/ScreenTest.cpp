@@ -229,22 +229,25 @@ TEST(WindowPlaces, whatIsOffTheScreenComesToItsEdge)
 {
     QWidget window;
     window.show();
-    const QRect screen = window.screen()->availableGeometry();
+    const QRect inside = window.geometry(), frame = window.frameGeometry();
+    const QRect room = window.screen()->availableGeometry().adjusted(
+        inside.left() - frame.left(), inside.top() - frame.top(), inside.right() - frame.right(),
+        inside.bottom() - frame.bottom());
     const QSize size(200, 100);
-    const auto broughtTo = [&](const QPoint& from, const QSize& room) {
-        window.setGeometry({from, room});
+    const auto broughtTo = [&](const QPoint& from, const QSize& wanted) {
+        window.setGeometry({from, wanted});
         bringOntoScreen(window);
         return textOf(window.geometry());
     };
-    const QPoint corner = screen.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
-    for (const QPoint& at : {screen.topLeft(), corner, QPoint(50, 60)})
+    const QPoint corner = room.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+    for (const QPoint& at : {room.topLeft(), corner, QPoint(50, 60)})
         EXPECT_EQ(broughtTo(at, size), textOf({at, size})) << "as it stands";
     EXPECT_EQ(broughtTo(corner + QPoint(1, 0), size), textOf({corner, size}));
     EXPECT_EQ(broughtTo(corner + QPoint(0, 1), size), textOf({corner, size}));
     EXPECT_EQ(broughtTo(corner + QPoint(90, 40), size), textOf({corner, size}));
-    EXPECT_EQ(broughtTo(screen.topLeft() - QPoint(30, 20), size), textOf({screen.topLeft(), size}));
-    EXPECT_EQ(broughtTo(QPoint(50, 60), screen.size() + QSize(10, 20)), textOf(screen));
-    EXPECT_EQ(roomOnScreen(window), screen.size());
+    EXPECT_EQ(broughtTo(room.topLeft() - QPoint(30, 20), size), textOf({room.topLeft(), size}));
+    EXPECT_EQ(broughtTo(QPoint(50, 60), room.size() + QSize(10, 20)), textOf(room));
+    EXPECT_EQ(roomOnScreen(window), room.size());
 }
 
 TEST_F(ScreenTest, windowsStayClosedAsLongAsNobodyTickedIt)
