@@ -121,7 +121,7 @@ TEST(MeasureReading, timesAndAngles)
              Row{Quantity::Angle, "°", "35.99999999", "°.′", "36.00"},
              Row{Quantity::Angle, "°", "14.9999999", "h:m:s", "1:00:00"},
              Row{Quantity::Angle, "°", "-0.0000001", "h:m:s", "0:00:00"},
-             Row{Quantity::Angle, "h:m:s", "61:00", "°", "915"},
+             Row{Quantity::Angle, "h:m:s", "61:30", "°", "922.5"},
              Row{Quantity::Angle, "h:m:s", "0:00:59", "°", "0.2458333"},
              Row{Quantity::Angle, "°", "359.85", "h:m:s", "23:59:24"},
              Row{Quantity::Angle, "°", "-14.9999999", "h:m:s", "-1:00:00"},
