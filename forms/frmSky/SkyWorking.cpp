@@ -262,7 +262,7 @@ std::vector<Working> starsWorkings(const SkyDay& day, const SkyStars& stars)
 
 std::vector<Working> unknownWorkings(const UnknownResult& found)
 {
-    if (!found.ship || !found.utc || found.likely.empty()) return {};
+    if (!found.ship) return {};
     Working working{"The body that was seen",
                     {"The altitude by the sextant less index error, dip and refraction in mean air "
                      "(10 °C, 1010 hPa) is held against the altitude of each body as seen from the "

@@ -180,7 +180,7 @@ void frmSky::runDay()
     SkyStars stars = CalculateStars(m_shownDay, m_stars->asked());
     m_shownStars = std::move(stars);
     m_day->show(m_shownDay);
-    m_stars->show(m_shownStars, m_shownDay.ship ? m_shownDay.ship->course : NavFunc113::Degrees(0));
+    m_stars->show(m_shownStars, m_shownDay.ship ? m_shownDay.ship->course : NavFunc113::Degrees());
     showNotices();
 }
 

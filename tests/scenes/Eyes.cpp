@@ -260,8 +260,17 @@ void worked(Stage& stage, const Words&)
 {
     pressKey("F2");
     auto& text = dynamic_cast<QTextEdit&>(stage.control("txtPaper"));
-    for (const std::string& name : resultsWithoutStep(stage.window(), wholePaper(text)))
+    const QString paper = wholePaper(text);
+    for (const std::string& name : resultsWithoutStep(stage.window(), paper))
         throw std::runtime_error("no step leads to " + name);
+    // Of such a step first what it comes from, then the result.
+    const QStringList cells = paper.split('\n');
+    for (qsizetype at = 0; at + 2 < cells.size(); ++at)
+        for (const auto* label : stage.window().findChildren<QLabel*>(QRegularExpression("^lbl")))
+            if (cells[at] == "shown in the window as" && cells[at + 1] == label->text() &&
+                !cells[at + 2].startsWith(label->text()))
+                throw std::runtime_error("a result among the figures of " +
+                                         cells[at - 1].toStdString());
     text.window()->close();
     stage.turnTo(stage.window().objectName().toStdString());
 }

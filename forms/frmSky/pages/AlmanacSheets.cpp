@@ -76,7 +76,7 @@ private:
     QPainter& m_painter;
     QRect m_room;
     double m_line;
-    double m_figure = 1;
+    double m_figure{};
     QFont m_letters, m_strong;
 };
 

@@ -257,7 +257,7 @@ void SkyDisc::drawMoon(QPainter& painter, const QPointF& at) const
     painter.translate(at);
     painter.rotate(turn);
     // What is lit is the lighter of the two, by day and by night.
-    const bool isInkLight = isNight(colours().palette) && !isOnPaper();
+    const bool isInkLight = isNight(colours().palette);
     painter.setPen(pen(colours().ink, LineWeight::fine));
     painter.setBrush(isInkLight ? colours().paper : colours().ink);
     painter.drawEllipse(QPointF(), radius, radius);

@@ -106,7 +106,7 @@ std::string textOfMean(const std::vector<EqualAltitudePair>& pairs)
 {
     const Degrees near = pairs.front().longitude;
     double weight = 0, off = 0, run = 0, square = 0;
-    DateTime passage = 0;
+    DateTime passage{};
     const auto weightOf = [](const EqualAltitudePair& pair) {
         return 1 / (pair.byAltitudes.value() * pair.byAltitudes.value());
     };

@@ -18,13 +18,13 @@ using namespace NavFunc113;
 
 /// A body that passes the meridian of a ship under way.
 struct Passage {
-    DateTime instant = 0;
+    DateTime instant{};
     Position ship;
     Degrees declination;
-    double turning = 15;      ///< of the hour angle, degrees an hour, the ship's easting in it
-    double bodyNorthward = 0; ///< minutes of arc an hour
-    double shipNorthward = 0; ///< minutes of arc an hour
-    bool isUpper = true;
+    double turning{};       ///< of the hour angle, degrees an hour, the ship's easting in it
+    double bodyNorthward{}; ///< minutes of arc an hour
+    double shipNorthward{}; ///< minutes of arc an hour
+    bool isUpper{};
 };
 
 Passage passageNear(const Observation& observation, const Position& ship, const Motion& motion,
