@@ -170,6 +170,9 @@ TEST(TankList, shipAgainstBillOfLading)
     EXPECT_EQ(discharged[0].measures[2].percent, "-9.899");
     EXPECT_EQ(discharged[1].measures[2].difference, discharged[1].measures[2].ship);
     EXPECT_EQ(discharged[1].measures[2].percent, "") << "of nothing";
+    sheet.list(ListKind::Cargo).grades[0].billWeight = "0";
+    sheet.list(ListKind::Cargo).grades[0].billVolume.clear();
+    EXPECT_EQ(tanksShown(inHand(sheet)).against, "");
 }
 
 TEST(TankList, tanksOfAGradeAreAddedUp)
