@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QScrollArea>
@@ -339,10 +340,13 @@ TEST_F(KeysTest, whatAnEntryClearsComesBackWhereverTheFocusWas)
     }
 }
 
-/// A caption beside a box, and what a screen reader calls the box, have a word in common.
+/// A caption beside a box, and what a screen reader calls the box, have a word in common. A menu's
+/// caption is what an officer reads, its name what the program calls it.
 TEST_F(KeysTest, captionsStandBesideTheirBoxes)
 {
-    for (const QWidget* window : openAll())
+    for (const QWidget* window : openAll()) {
+        for (const auto* menu : window->findChildren<QMenu*>())
+            EXPECT_FALSE(menu->title().startsWith("mnu")) << menu->title().toStdString();
         for (const auto* caption : window->findChildren<QLabel*>()) {
             // "Height at" stands before the time that is asked about, "Times of" before a height.
             if (!caption->buddy() || caption->buddy()->objectName().startsWith("txtAt")) continue;
@@ -357,6 +361,7 @@ TEST_F(KeysTest, captionsStandBesideTheirBoxes)
                 << nameOf(*caption->buddy()) << " is called " << name.toStdString() << " beside "
                 << caption->text().toStdString();
         }
+    }
 }
 
 } // namespace
