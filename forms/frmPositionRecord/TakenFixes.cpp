@@ -68,8 +68,8 @@ const ObservedFix* frmPositionRecord::fixOfRow(std::size_t row) const
     const auto read = std::ranges::find(m_shown.fixes, row, &RecordedFix::row);
     if (read == m_shown.fixes.end()) return nullptr;
     const auto same = [&](const ObservedFix& fix) {
-        constexpr double second = 1.0 / 86400, digit = 1e-6;
-        return std::abs(dateTimeOf(fix.utc) - read->utc) < second &&
+        constexpr double halfASecond = 0.5 / 86400, digit = 1e-6;
+        return std::abs(dateTimeOf(fix.utc) - read->utc) < halfASecond &&
                std::abs(fix.latitude.packed() - read->latitude.packed()) < digit &&
                std::abs(fix.longitude.packed() - read->longitude.packed()) < digit;
     };

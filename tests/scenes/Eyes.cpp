@@ -265,12 +265,19 @@ void worked(Stage& stage, const Words&)
         throw std::runtime_error("no step leads to " + name);
     // Of such a step first what it comes from, then the result.
     const QStringList cells = paper.split('\n');
+    QStringList shown;
+    for (const auto* label : stage.window().findChildren<QLabel*>(QRegularExpression("^lbl")))
+        shown << label->text();
+    const auto isShown = [&shown](const QString& cell) {
+        return std::ranges::any_of(shown, [&cell](const QString& each) {
+            return !each.isEmpty() && cell.startsWith(each);
+        });
+    };
     for (qsizetype at = 0; at + 2 < cells.size(); ++at)
-        for (const auto* label : stage.window().findChildren<QLabel*>(QRegularExpression("^lbl")))
-            if (cells[at] == "shown in the window as" && cells[at + 1] == label->text() &&
-                !cells[at + 2].startsWith(label->text()))
-                throw std::runtime_error("a result among the figures of " +
-                                         cells[at - 1].toStdString());
+        if (cells[at] == "shown in the window as" && shown.contains(cells[at + 1]) &&
+            !isShown(cells[at + 2]))
+            throw std::runtime_error("a result among the figures of " +
+                                     cells[at - 1].toStdString());
     text.window()->close();
     stage.turnTo(stage.window().objectName().toStdString());
 }

@@ -44,26 +44,6 @@ TEST_F(frmUnitsTest, whatIsKnownBesideAValueIsThereAgain)
     EXPECT_EQ(text(open<frmAngle>(), "txtAngle(5)"), "0:30:00");
 }
 
-TEST_F(frmUnitsTest, theBoxInHandStandsOut)
-{
-    auto& window = open<frmLength>();
-    const auto stands = [&](const char* box) {
-        const QWidget& each = control(window, box);
-        const bool isLarge = each.font() == lettersOf(Weight::Answer);
-        EXPECT_EQ(isLarge, each.palette().color(QPalette::Text) == program().colours().accent)
-            << box;
-        return isLarge;
-    };
-    EXPECT_TRUE(stands("txtLength(0)"));
-    EXPECT_FALSE(stands("txtLength(3)"));
-    control(window, "txtLength(3)").setFocus();
-    EXPECT_FALSE(stands("txtLength(0)"));
-    EXPECT_TRUE(stands("txtLength(3)"));
-    program().screen().toggleNight();
-    EXPECT_FALSE(stands("txtLength(0)"));
-    EXPECT_TRUE(stands("txtLength(3)"));
-}
-
 TEST_F(frmUnitsTest, aRecordOfNoBoxBeginsAtTheFirst)
 {
     for (const char* lead : {"13", "-1", "2"}) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/reading/Format.h"
 #include "forms/frmCompass/CalculateCompass.h"
 
 #include "forms/frmCompass/CompassBody.h"
@@ -76,68 +77,32 @@ TEST(Compass, everyBoxHasItsRange)
     const struct {
         CompassBox box;
         const char* name;
-        std::vector<const char*> within;
-        std::vector<const char*> beyond;
+        double most;
         const char* range;
     } rows[] = {
-        {CompassBox::Latitude,
-         "Latitude",
-         {"-90", "90"},
-         {"-90.001", "90.001"},
-         "-90 to 90 degrees"},
-        {CompassBox::Longitude,
-         "Longitude",
-         {"-180", "180"},
-         {"-180.001", "180.001"},
-         "-180 to 180 degrees"},
-        {CompassBox::GyroBearing,
-         "Bearing by gyro",
-         {"0", "360"},
-         {"-0.1", "360.1"},
-         "0 to 360 degrees"},
-        {CompassBox::GyroHead, "Head by gyro", {"0", "360"}, {"-0.1", "360.1"}, "0 to 360 degrees"},
-        {CompassBox::StandardBearing,
-         "Bearing by standard compass",
-         {"0", "360"},
-         {"-0.1", "360.1"},
-         "0 to 360 degrees"},
-        {CompassBox::StandardHead,
-         "Head by standard compass",
-         {"0", "360"},
-         {"-0.1", "360.1"},
-         "0 to 360 degrees"},
-        {CompassBox::SteeringBearing,
-         "Bearing by steering compass",
-         {"0", "360"},
-         {"-0.1", "360.1"},
-         "0 to 360 degrees"},
-        {CompassBox::SteeringHead,
-         "Head by steering compass",
-         {"0", "360"},
-         {"-0.1", "360.1"},
-         "0 to 360 degrees"},
-        {CompassBox::Variation,
-         "Variation",
-         {"-180", "180", "180 W"},
-         {"-180.1", "180.1 E"},
-         "-180 to 180"},
-        {CompassBox::HeightOfEye,
-         "Height of eye",
-         {"0", "200"},
-         {"-0.1", "200.1"},
-         "0 to 200 metres"},
-        {CompassBox::Speed, "Ship's speed", {"0", "100"}, {"-0.1", "100.1"}, "0 to 100 knots"},
+        {CompassBox::Latitude, "Latitude", 90, "-90 to 90 degrees"},
+        {CompassBox::Longitude, "Longitude", 180, "-180 to 180 degrees"},
+        {CompassBox::GyroBearing, "Bearing by gyro", 360, "0 to 360 degrees"},
+        {CompassBox::GyroHead, "Head by gyro", 360, "0 to 360 degrees"},
+        {CompassBox::StandardBearing, "Bearing by standard compass", 360, "0 to 360 degrees"},
+        {CompassBox::StandardHead, "Head by standard compass", 360, "0 to 360 degrees"},
+        {CompassBox::SteeringBearing, "Bearing by steering compass", 360, "0 to 360 degrees"},
+        {CompassBox::SteeringHead, "Head by steering compass", 360, "0 to 360 degrees"},
+        {CompassBox::Variation, "Variation", 180, "-180 to 180"},
+        {CompassBox::HeightOfEye, "Height of eye", 200, "0 to 200 metres"},
+        {CompassBox::Speed, "Ship's speed", 100, "0 to 100 knots"},
     };
     for (const auto& row : rows) {
-        const auto noticeOf = [&row](const char* typed) {
+        const auto noticeOf = [&row](double typed) {
             CompassInput input;
             input.usesModel = false;
-            input.txtCompass[static_cast<std::size_t>(row.box)] = typed;
+            input.txtCompass[static_cast<std::size_t>(row.box)] = Format(typed, "0.###");
             return CalculateCompass(input).notice;
         };
-        for (const char* typed : row.within)
+        const double least = row.range[0] == '-' ? -row.most : 0;
+        for (const double typed : {least, row.most})
             EXPECT_EQ(noticeOf(typed), "") << row.name << " " << typed;
-        for (const char* typed : row.beyond)
+        for (const double typed : {least - 0.1, row.most + 0.1})
             EXPECT_EQ(noticeOf(typed), std::string(row.name) + ": not within " + row.range)
                 << typed;
     }

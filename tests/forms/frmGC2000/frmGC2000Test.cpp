@@ -99,44 +99,5 @@ TEST_F(GCPictureTest, linesMarksAndNumbersStandAtTheirPlaces)
     }
 }
 
-/// Dashes of five widths and gaps of three, however short the pieces of the line are.
-TEST_F(GCPictureTest, theRhumbLineIsDashedAllAlong)
-{
-    const QImage image = imageOf("10", "-120", "50", "140");
-    int drawn = 0, all = 0, changes = 0;
-    bool before = false;
-    for (std::size_t i = 8; i + 8 < chart.rhumbLine.size(); ++i)
-        for (int part = 0; part < 40; ++part) {
-            const double share = part / 40.0;
-            const QPointF place =
-                at(chart.rhumbLine[i]) * (1 - share) + at(chart.rhumbLine[i + 1]) * share;
-            const bool isDrawn = pixelsAbout(image, place, 0, colours.secondary) > 0;
-            drawn += isDrawn;
-            changes += isDrawn != before;
-            before = isDrawn;
-            ++all;
-        }
-    EXPECT_NEAR(static_cast<double>(drawn) / all, 5.0 / 8, 0.2);
-    EXPECT_GT(changes, 20);
-}
-
-TEST_F(GCPictureTest, boxesAndRowsStandInOrder)
-{
-    auto& window = open<frmGC2000>();
-    const auto place = [&](int i) {
-        return control(window, "txtGC(" + std::to_string(i) + ")").mapTo(&window, QPoint());
-    };
-    for (int i = 1; i < 4; ++i) {
-        EXPECT_EQ(place(i).x(), place(0).x());
-        EXPECT_GT(place(i).y(), place(i - 1).y());
-    }
-    const auto top = [&](const char* name) {
-        return control(window, name).mapTo(&window, QPoint()).y();
-    };
-    EXPECT_LT(top("lblGC2000(0)"), top("lblGC2000(2)"));
-    EXPECT_LT(top("lblFinalCourse"), top("lblVertexLat"));
-    EXPECT_EQ(top("lblVertexLat"), top("lblVertexLong"));
-}
-
 } // namespace
 } // namespace korvel

@@ -47,29 +47,6 @@ TEST_F(frmPassageSeenTest, theSunIsThatOfTheRowInHand)
     EXPECT_NE(text(window, "lblRow(2)"), november);
 }
 
-/// Side by side in lines of one height: the boxes of the row in hand.
-TEST_F(frmPassageSeenTest, boxesStandInThreeLines)
-{
-    auto& window = open<frmPassage>();
-    window.resize(1600, 900);
-    QApplication::processEvents();
-    const auto top = [&window](const char* name) {
-        return control(window, name).mapTo(&window, QPoint()).y();
-    };
-    for (const auto& line : {std::vector{"txtWaypoint", "txtLegSpeed", "txtRemark"},
-                             {"txtWpLat", "txtStep", "txtStop"},
-                             {"txtWpLong", "txtLimit", "txtZone"}})
-        for (const char* name : line)
-            EXPECT_EQ(top(name), top(line.front())) << name;
-    for (const auto& [name, limits] : {std::pair("txtWpLat", "-90 to 90"),
-                                       {"txtWpLong", "-180 to 180"},
-                                       {"txtZone", "-12 to 14"},
-                                       {"txtLimit", ""}})
-        EXPECT_EQ(dynamic_cast<EntryBox&>(control(window, name)).limits(), limits) << name;
-    EXPECT_LT(top("txtWaypoint"), top("txtWpLat"));
-    EXPECT_LT(top("txtWpLat"), top("txtWpLong"));
-}
-
 TEST_F(frmPassageSeenTest, theChartHasItsLegsAndAPressGoesToTheRow)
 {
     auto& window = open<frmPassage>();
@@ -110,33 +87,6 @@ TEST_F(frmPassageSeenTest, theChartHasItsLegsAndAPressGoesToTheRow)
                 1e-9);
     QTest::keyClick(&picture, Qt::Key_Home);
     EXPECT_NEAR(picture.userScale().right, whole.right, 1e-9);
-}
-
-/// The bar at the foot is 1, 2 or 5 and tens of miles long where the middle of the chart is.
-TEST_F(frmPassageSeenTest, theScaleBarIsAsLongAsItsMiles)
-{
-    auto& window = open<frmPassage>();
-    typeRows(window, {{"A", "58", "0"}, {"B", "62", "9"}});
-    window.resize(1400, 900);
-    QApplication::processEvents();
-    auto& picture = dynamic_cast<PictureBox&>(control(window, "picPlan"));
-    const QImage image = picture.grab().toImage();
-    const QColor ink = program().colours().ink, paper = program().colours().paper;
-    const QRectF area = picture.plotArea();
-    int longest = 0;
-    for (int y = int(area.bottom()) - 20; y < int(area.bottom()) - 2; ++y)
-        for (int x = int(area.left()) + 2, run = 0; x < int(area.right()) - 1; ++x) {
-            const int light = image.pixelColor(x, y).lightness();
-            const bool isInk =
-                std::abs(light - ink.lightness()) < std::abs(light - paper.lightness());
-            run = isInk ? run + 1 : 0;
-            longest = std::max(longest, run);
-        }
-    const UserScale& scale = picture.userScale();
-    const double middle = latitudeAtY((scale.top + scale.bottom) / 2).value();
-    const double perMile =
-        area.width() / (scale.right - scale.left) / 60 / std::cos(middle * 3.14159265358979 / 180);
-    EXPECT_NEAR(longest / perMile, milesOfScaleBar(area.width() / 3 / perMile), 3 / perMile);
 }
 
 } // namespace

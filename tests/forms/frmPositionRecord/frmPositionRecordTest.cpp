@@ -94,45 +94,6 @@ TEST_F(frmPositionRecordTest, anObservedFixGoesBelowTheLastRowAndKeepsItsKind)
     EXPECT_EQ(text(*window, "txtSatelliteSMT(5)"), "2024/05/01 12:00");
 }
 
-TEST_F(frmPositionRecordTest, theProgramKnowsTheShipByTheLastFixThatIsNotAhead)
-{
-    clock.time = NavFunc113::MakeDateTime({2024, 5, 3}, 12 * 3600); // of TD 9
-    const auto& window = open<frmPositionRecord>();
-    const ShipNow& ship = program().shipNow;
-    EXPECT_FALSE(ship.fix());
-    typeFix(window, 0, "2024/05/02 12:00;9;36.3;148.15");
-    typeFix(window, 1, "2024/05/01 12:00;9;35;142");
-    ASSERT_TRUE(ship.fix());
-    EXPECT_EQ(ship.fix()->latitude, DegMin(36.3)) << "the last by time";
-    EXPECT_EQ(ship.fix()->longitude, DegMin(148.15));
-    typeFix(window, 2, "2024/05/03 12:01;9;37;149");
-    EXPECT_EQ(ship.fix()->latitude, DegMin(36.3)) << "a minute ahead";
-    typeFix(window, 2, "2024/05/03 12:00;9;37;149");
-    EXPECT_EQ(ship.fix()->latitude, DegMin(37)) << "of this moment";
-
-    EXPECT_FALSE(ship.motion());
-    const auto known = [&ship] {
-        return ship.motion()
-                   ? std::pair(ship.motion()->course.value(), ship.motion()->speed.value())
-                   : std::pair(-1.0, -1.0);
-    };
-    const auto steer = [&](const char* course, const char* speed) {
-        // At once: on its way to 100.5 a speed is 100.
-        const auto put = [&window](const char* box, const char* figure) {
-            dynamic_cast<QLineEdit&>(control(window, box)).setText(figure);
-        };
-        put("txtSpeedSteered", "x");
-        put("txtCourseSteered", course);
-        put("txtSpeedSteered", speed);
-        return known();
-    };
-    EXPECT_EQ(steer("0", "0"), std::pair(0.0, 0.0));
-    EXPECT_EQ(steer("360", "100"), std::pair(360.0, 100.0));
-    for (const auto& [course, speed] :
-         {std::pair("360.5", "12"), {"-0.5", "12"}, {"90", "100.5"}, {"90", "-0.5"}, {"x", "12"}})
-        EXPECT_EQ(steer(course, speed), std::pair(360.0, 100.0)) << course << " at " << speed;
-}
-
 TEST_F(frmPositionRecordTest, aRowThatCountsIsInDoubtAndOneThatDoesNotIsAtFault)
 {
     auto& window = open<frmPositionRecord>();

@@ -145,50 +145,6 @@ TEST_F(frmSunSightTest, keysAndPointerMoveThePlot)
     EXPECT_NEAR(view().centre.y, 5, 0.3);
 }
 
-// Marks where they belong: line, foot, arrow with its barbs, fix, and a bar of round miles.
-TEST_F(frmSunSightTest, thePlotIsDrawnWhereTheLinesLie)
-{
-    auto& window = open<frmSunSight>();
-    recordThree(window);
-    auto& picture = dynamic_cast<SightPicture&>(control(window, "picSunSight"));
-    const ColourScheme& colours = program().colours();
-    const QImage image = picture.grab().toImage();
-    const auto isDrawn = [&](const QPointF& at, const QColor& colour) {
-        const auto there = coloursOf(image, QRect(at.toPoint() - QPoint(1, 1), QSize(3, 3)));
-        return std::ranges::any_of(
-            there, [&](const auto& each) { return isLike(each.first, colour.rgb()); });
-    };
-    const auto pixel = [&](const PlotPoint& at) { return picture.toPixel(at.x, at.y); };
-    const double unit = picture.fontMetrics().height() / 4.0;
-    const PlotLine& line = picture.plot().lines[0];
-    const QPointF foot = pixel(line.foot), tip = pixel(line.arrowTo);
-    EXPECT_TRUE(isDrawn((foot + tip) / 2, colours.secondary));
-    const QPointF back = (foot - tip) / std::hypot(foot.x() - tip.x(), foot.y() - tip.y());
-    for (const double turn : {0.4, -0.4}) {
-        const QPointF barb(back.x() * std::cos(turn) - back.y() * std::sin(turn),
-                           back.x() * std::sin(turn) + back.y() * std::cos(turn));
-        EXPECT_TRUE(isDrawn(tip + 1.7 * unit * barb, colours.secondary)) << turn;
-    }
-    int seen = 0, drawn = 0;
-    for (const PlotPoint& point : line.runs[0]) {
-        if (!picture.plotArea().adjusted(3, 3, -3, -3).contains(pixel(point))) continue;
-        ++seen;
-        drawn += isDrawn(pixel(point), colours.route);
-    }
-    EXPECT_GT(drawn, 0.7 * seen) << "but for words and other lines upon it";
-    // Ten miles, from end to end, above the rim.
-    const auto letters = picture.lettering();
-    const auto isMiles = [](const SightPicture::Lettering& each) { return each.words == "10 nm"; };
-    ASSERT_TRUE(std::ranges::any_of(letters, isMiles));
-    const QPointF end = picture.plotArea().bottomRight() - 2 * QPointF(unit, unit);
-    const double miles = picture.toPixel(10, 0).x() - picture.toPixel(0, 0).x();
-    const auto isDark = [&](const QPointF& at) {
-        return strongestContrast(image, QRect(at.toPoint() - QPoint(2, 2), QSize(5, 5))) > 2;
-    };
-    EXPECT_TRUE(isDark(end - QPointF(miles - 4, 0)));
-    EXPECT_TRUE(isDark(end - QPointF(4, 0)));
-}
-
 TEST_F(frmSunSightTest, wordsOfThePlotKeepOffEachOtherAndOffTheLines)
 {
     auto& window = open<frmSunSight>();

@@ -174,34 +174,6 @@ TEST_F(frmTIDETest, tablesOfAWeekAndOfAFile)
     EXPECT_EQ(questions.asked.size(), said) << "whoever cancels is told nothing";
 }
 
-TEST_F(frmTIDETest, theProgressOfAnExtensionIsSeen)
-{
-    class Shown : public QObject
-    {
-    public:
-        bool eventFilter(QObject* bar, QEvent* event) override
-        {
-            if (event->type() == QEvent::Show)
-                format = static_cast<QProgressBar*>(bar)->format().toStdString();
-            if (event->type() == QEvent::Paint)
-                values.insert(static_cast<QProgressBar*>(bar)->value());
-            return false;
-        }
-        std::string format;
-        std::set<int> values;
-    } shown;
-    auto& window = open<frmTIDE>();
-    auto& bar = dynamic_cast<QProgressBar&>(control(window, "barExtend"));
-    bar.installEventFilter(&shown);
-    choose(window, "mnuDay(0)");
-    EXPECT_EQ(shown.format, "Making the predictions to 2050: %p %");
-    EXPECT_GT(shown.values.size(), 5u);
-    EXPECT_FALSE(bar.isVisible());
-    EXPECT_TRUE(control(window, "lblInUse").isVisible());
-    EXPECT_EQ(static_cast<QScrollBar&>(control(window, "scrDate")).maximum(), 17624)
-        << "days from 2002/10/1 to 2050/12/31";
-}
-
 TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
 {
     auto& window = open<frmTIDE>();

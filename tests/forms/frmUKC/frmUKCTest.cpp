@@ -97,58 +97,6 @@ TEST_F(frmUKCTest, aPassageOverABarByKeysIsThereAgain)
         EXPECT_TRUE(alignmentOf(again, words) & Qt::AlignLeft) << words;
 }
 
-/// The picture says what the list of hours says.
-TEST_F(frmUKCTest, thePictureTintsTheHours)
-{
-    auto& window = open<frmUKC>();
-    fillByKeys(window);
-    window.resize(1400, 900);
-    QApplication::processEvents();
-    auto& picture = dynamic_cast<PictureBox&>(control(window, "picKeel"));
-    const QImage image = picture.grab().toImage();
-    const ColourScheme& colours = program().colours();
-    const auto apart = [](const QColor& one, const QColor& other) {
-        return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
-               std::abs(one.blue() - other.blue());
-    };
-    // A thin smooth line mixes with the paper.
-    const auto isThere = [&](QPointF at, const QColor& colour, int around) {
-        const int most = around == 0 ? 0 : apart(colour, colours.paper) * 6 / 10;
-        for (int x = -around; x <= around; ++x)
-            for (int y = -around; y <= around; ++y) {
-                const QPoint pixel(qRound(at.x()) + x, qRound(at.y()) + y);
-                if (apart(image.pixelColor(pixel), colour) <= most) return true;
-            }
-        return false;
-    };
-    // 5 May to 06:53, 11:15 to 19:11, from 23:16; 11 May to 09:09 and from 15:44.
-    const double foot = picture.plotArea().bottom() - 2;
-    for (const auto& [hour, isKept] : {std::pair(3.0, true),
-                                       {9.0, false},
-                                       {15.0, true},
-                                       {21.5, false},
-                                       {147.0, true},
-                                       {156.0, false},
-                                       {164.0, true}})
-        EXPECT_EQ(isThere({picture.toPixel(hour, 0).x(), foot}, colours.route, 0), isKept) << hour;
-    // The tide, its ring at 05:30, and the broken line of the least tide, 0.82 m.
-    TideWeeks weeks(TideFolder::shipped());
-    const TideWeek& week = weeks.week({"", "yokoh", "2005/5/5", ""}, 38000);
-    for (const double hour : {2.0, 8.0, 30.0, 100.0, 167.0}) {
-        const auto day = static_cast<std::size_t>(hour / 24);
-        const double height = week.at(day, NavFunc113::Hours(hour - 24 * double(day)));
-        EXPECT_TRUE(isThere(picture.toPixel(hour, height), colours.curve, 1)) << hour;
-    }
-    const double chosen = week.at(0, NavFunc113::Hours(5.5));
-    EXPECT_TRUE(isThere(picture.toPixel(5.5, chosen), colours.paper, 0)) << "the ring";
-    EXPECT_TRUE(isThere(picture.toPixel(9, 0.82), colours.marker, 5)) << "the least tide";
-    // A line at every midnight, also at both ends.
-    for (int day = 0; day <= 7; ++day)
-        EXPECT_TRUE(isThere({picture.toPixel(24 * day, 0).x(), picture.plotArea().top() + 3},
-                            colours.grid, 1))
-            << day;
-}
-
 /// The tide window may have extended its dates, or other files lie there now.
 TEST_F(frmUKCTest, whoeverComesBackSeesTheFilesAsTheyAreNow)
 {

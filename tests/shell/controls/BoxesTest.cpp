@@ -345,41 +345,5 @@ TEST(PictureBox, countsInItsUserScale)
     EXPECT_EQ(picture.lineHeight(), QFontMetricsF(larger).height());
 }
 
-/// A picture tells what it is drawn from, as much as anybody listens to.
-TEST(PictureBox, isHeardAsTheResultsOfItsWindow)
-{
-    struct Picture : PictureBox {
-        using PictureBox::PictureBox;
-        void draw(QPainter&) override {}
-    };
-    QWidget window;
-    auto* picture = new Picture(&window);
-    for (int i = 1; i <= 15; ++i) {
-        auto* label = new ResultLabel(&window);
-        label->setText(i == 2 ? QString() : QString::number(i));
-        label->declare(i == 3 ? QString() : "Row " + QString::number(i), {});
-    }
-    window.show();
-    window.findChildren<ResultLabel*>().front()->hide();
-    const auto heard = [&] {
-        return QAccessible::queryAccessibleInterface(picture)->text(QAccessible::Description);
-    };
-    EXPECT_EQ(heard(), "Row 4: 4; Row 5: 5; Row 6: 6; Row 7: 7; Row 8: 8; Row 9: 9; Row 10: 10; "
-                       "Row 11: 11; Row 12: 12; Row 13: 13; Row 14: 14; Row 15: 15");
-    (new ResultLabel(&window))->declare("Row 16", {});
-    window.findChildren<ResultLabel*>().back()->setText("16");
-    window.findChildren<ResultLabel*>().back()->show();
-    EXPECT_TRUE(heard().endsWith("Row 15: 15"));
-    Paints paints;
-    picture->resize(40, 40);
-    QTest::qWait(20);
-    picture->installEventFilter(&paints);
-    picture->setPlotMargins({4, 4, 4, 4});
-    QTest::qWait(20);
-    EXPECT_GT(paints.seen, 0) << "other margins, another picture";
-    picture->setAccessibleDescription("a chart");
-    EXPECT_EQ(heard(), "a chart");
-}
-
 } // namespace
 } // namespace korvel

@@ -123,54 +123,6 @@ TEST(ResultLabel, paintsWhatChangesAndLeavesNothingBehind)
     }
 }
 
-/// Where a label of the toolkit would show it.
-TEST(ResultLabel, standsWhereItsAlignmentSays)
-{
-    const auto placeOf = [](QLabel& label, Qt::Alignment alignment) {
-        label.setStyleSheet("background: white; color: black");
-        label.setAlignment(alignment);
-        label.resize(160, 60);
-        const QImage image = label.grab().toImage();
-        QRect ink;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                if (qGray(image.pixel(x, y)) < 128) ink |= QRect(x, y, 1, 1);
-        return ink;
-    };
-    for (const Qt::Alignment level : {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight})
-        for (const Qt::Alignment upright : {Qt::AlignTop, Qt::AlignVCenter, Qt::AlignBottom}) {
-            ResultLabel label;
-            QLabel plain;
-            plain.setFont(label.font());
-            label.setText("104.6");
-            plain.setText("104.6");
-            const QRect seen = placeOf(label, level | upright);
-            const QRect wanted = placeOf(plain, level | upright);
-            EXPECT_NEAR(seen.left(), wanted.left(), 2) << int(level) << " " << int(upright);
-            EXPECT_NEAR(seen.right(), wanted.right(), 2) << int(level) << " " << int(upright);
-            EXPECT_NEAR(seen.top(), wanted.top(), 2) << int(level) << " " << int(upright);
-            EXPECT_NEAR(seen.bottom(), wanted.bottom(), 2) << int(level) << " " << int(upright);
-        }
-}
-
-/// A figure cut though it fits, or shown in part without a word.
-TEST(ResultLabel, oneLineIsCutWhereItsFiguresAre)
-{
-    ResultLabel label;
-    label.setText("104.6 nm");
-    FigureText figures;
-    const double drawn = figures.width(label.font(), label.text());
-    const int whole = static_cast<int>(drawn);
-    for (const auto& [wide, isCut] :
-         {std::pair(whole + 1, false), {whole, false}, {whole - 2, true}}) {
-        label.resize(wide, 3); // however low it is
-        EXPECT_EQ(label.isCut(), isCut) << wide << " for " << drawn;
-    }
-    ASSERT_GT(drawn, whole) << "no whole pixels";
-    label.resize(whole - 1, 20);
-    EXPECT_TRUE(label.isCut()) << "more than a hair";
-}
-
 TEST(ResultLabel, takesTheFocusWhileItShowsSomething)
 {
     QWidget window;

@@ -36,64 +36,6 @@ constexpr std::array<RowColumn<Row>, 3> columnsOfBoxes = {
       &Row::figure}}};
 constexpr auto boxColumns = columnsOf(columnsOfBoxes);
 
-/// The hairline below a row, by the ground of its number.
-bool hasHairline(RowTable& table, std::size_t row)
-{
-    const QWidget& ground = *table.number(row)->parentWidget();
-    const QImage image = table.grab().toImage();
-    const QPoint foot(ground.x() + 1, ground.geometry().bottom());
-    return image.pixel(foot) != image.pixel(foot - QPoint(0, 2));
-}
-
-TEST(RowTable, aRowWithATextOrAResultHasAHairline)
-{
-    RowTable table(boxColumns, 5);
-    table.resize(table.sizeHint());
-    const auto seen = [&] {
-        std::string rows;
-        for (std::size_t row = 0; row < table.rows(); ++row)
-            rows += hasHairline(table, row) ? '_' : ' ';
-        return rows;
-    };
-    EXPECT_EQ(seen(), "_    ") << "the row in hand alone";
-    table.box(2, 1)->setText("12");
-    EXPECT_EQ(seen(), "_ _  ");
-    const std::array<Row, 2> shown = {Row{"7"}, Row{"8"}};
-    table.showRows(3, columnsOfBoxes, std::span<const Row>(shown));
-    EXPECT_EQ(seen(), "_ ___");
-    table.box(2, 1)->clear();
-    table.showRow(4, columnsOfBoxes, Row{});
-    EXPECT_EQ(seen(), "_  _ ");
-}
-
-/// Painted by whoever moves from one row to another, and by nobody who stays in his.
-TEST(RowTable, theRowInHandIsDressedOnce)
-{
-    RowTable table(boxColumns, 3);
-    table.show();
-    table.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&table));
-    table.result(1, 2)->setText("7");
-    struct Changes : QObject {
-        bool eventFilter(QObject*, QEvent* event) override
-        {
-            seen += event->type() == QEvent::PaletteChange;
-            return false;
-        }
-        int seen = 0;
-    } changes;
-    table.box(1, 1)->setFocus();
-    EXPECT_TRUE(table.box(1, 1)->hasFrame());
-    EXPECT_FALSE(table.box(0, 1)->hasFrame());
-    EXPECT_TRUE(table.number(1)->font().bold());
-    table.box(1, 1)->installEventFilter(&changes);
-    table.result(1, 2)->setFocus();
-    EXPECT_EQ(changes.seen, 0);
-    table.box(2, 1)->setFocus();
-    EXPECT_GT(changes.seen, 0);
-    EXPECT_FALSE(table.box(1, 1)->hasFrame());
-}
-
 TEST(RowTable, keysGoToOtherRowsThatAreSeen)
 {
     QScrollArea area;

@@ -229,47 +229,6 @@ TEST_F(HelpTest, opensThePageThatHasTheName)
     }
 }
 
-/// Links in the colour of the text; tables with the room of other letters, or lost by night.
-TEST_F(HelpTest, aPageIsDressedInTheColoursAndLettersInForce)
-{
-    main->help().openPage("main-window");
-    const HelpView& view = help()->view();
-    const auto paddingOf = [&] {
-        for (QTextFrame* frame : view.document()->rootFrame()->childFrames())
-            if (auto* table = qobject_cast<QTextTable*>(frame)) {
-                EXPECT_EQ(table->format().borderBrush().color(),
-                          view.palette().placeholderText().color());
-                return table->format().cellPadding();
-            }
-        return 0.0;
-    };
-    const auto expectLinks = [&] {
-        int links = 0;
-        for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next())
-            for (auto part = block.begin(); !part.atEnd(); ++part) {
-                const QTextCharFormat format = part.fragment().charFormat();
-                EXPECT_EQ(format.foreground() == view.palette().link(), format.isAnchor())
-                    << part.fragment().text().toStdString();
-                links += format.isAnchor();
-            }
-        EXPECT_GT(links, 0);
-    };
-    const double before = paddingOf();
-    expectLinks();
-    Screen& screen = main->program().screen();
-    screen.toggleNight();
-    QCoreApplication::processEvents();
-    paddingOf();
-    expectLinks();
-    screen.toggleNight();
-    while (screen.choices().zoom != 200)
-        screen.zoom(1);
-    QCoreApplication::processEvents();
-    EXPECT_GT(paddingOf(), 1.7 * before);
-    EXPECT_GT(before, 2);
-    screen.zoom(0);
-}
-
 TEST_F(HelpTest, saysWhatTheProgramIsMadeOf)
 {
     const std::string about = main->help().manual().text("about").toStdString();
@@ -424,22 +383,6 @@ TEST(ManualPlaces, theLineThatSaysTheMostOfANameIsItsPlace)
     ASSERT_EQ(sectionsOf(page).size(), 1u);
     EXPECT_EQ(sectionsOf(page).front().text, "Course / Track");
     EXPECT_EQ(linesOf(page).size(), 8u);
-}
-
-/// A word that is found and not seen among the others of its line.
-TEST(FoundLines, markTheWords)
-{
-    QListWidget list;
-    FoundLines lines(&list);
-    list.setItemDelegate(&lines);
-    list.addItem("constants of the harmonic series");
-    list.resize(400, 60);
-    const QImage without = list.grab().toImage();
-    EXPECT_EQ(list.grab().toImage(), without);
-    lines.setWords({"harmonic"});
-    EXPECT_NE(list.grab().toImage(), without);
-    lines.setWords({"tide"});
-    EXPECT_EQ(list.grab().toImage(), without);
 }
 
 TEST(ProgramFacts, tellWhatLiesBesideTheProgram)

@@ -14,8 +14,10 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTest>
+
 #include <QTextDocument>
 #include <QTextEdit>
+#include <algorithm>
 
 #include <vector>
 
@@ -110,7 +112,14 @@ TEST(PaperPages, rowsAreWholeBelowTheirHeadingAndNoTitleIsAlone)
                 const auto holds = [&](const QRegularExpression& heading) {
                     return page.indexOf(heading, at + 1) >= 0;
                 };
-                EXPECT_TRUE(std::ranges::any_of(titles, holds)) << page[at].toStdString();
+                // A working of words alone, as of a sight that makes no fix yet, has none.
+                const auto isOfWords = [&](const Working& working) {
+                    return working.steps.empty() && working.tables.empty() &&
+                           page[at].contains(QString::fromStdString(working.title));
+                };
+                EXPECT_TRUE(std::ranges::any_of(titles, holds) ||
+                            std::ranges::any_of(document.paper().workings, isOfWords))
+                    << page[at].toStdString();
             }
             // Steps go on with a number: the rest of one that was cut would stand further in.
             if (page.front().contains("Formula")) {
@@ -134,101 +143,6 @@ TEST(PaperPages, aPageIsFullWhereNothingStaysTogether)
     const std::vector<PaperPage> pages = pagesOf(text, 10.5 * line);
     ASSERT_EQ(pages.size(), 2u);
     EXPECT_NEAR(pages[0].body.height(), 10 * line, 1);
-}
-
-/// Lines of a plain text on each page; "a" is a line, "7" a paragraph of so many, any other word
-/// stands as it is.
-std::vector<int> linesOfPages(const char* words, int linesOfPage)
-{
-    QStringList lines;
-    for (const QString& word : QString(words).split(' '))
-        lines << (word.toInt() > 0 ? QStringList(word.toInt(), "b").join(QChar(0x2028)) : word);
-    QTextDocument text;
-    text.setDocumentMargin(0);
-    text.setPlainText("a");
-    const double line = text.size().height();
-    text.setPlainText(lines.join('\n'));
-    std::vector<int> pages;
-    for (const PaperPage& page : pagesOf(text, (linesOfPage + 0.5) * line)) {
-        pages.push_back(qRound(page.body.height() / line));
-        EXPECT_EQ(page.heading.height(), 0);
-    }
-    return pages;
-}
-
-/// A title alone at the foot of a page, or a signature alone on the last.
-TEST(PaperPages, whatBelongsTogetherGoesToTheNextPage)
-{
-    const struct {
-        const char* text;
-        int linesOfPage;
-        std::vector<int> pages;
-    } rows[] = {
-        {"a a a", 4, {3}},
-        {"a a a a a a a a a a", 4, {4, 3, 3}}, // the last three stay together
-        {"a a a T --- a a a a a a", 4, {3, 4, 4}},
-        {"a a a T === a a a a a a", 4, {3, 4, 4}},
-        {"a a a T ------ a a a a a a", 4, {3, 4, 4}},
-        {"a a a T -- a a a a a a", 4, {4, 4, 3}},
-        {"a a a T -=- a a a a a a", 4, {4, 4, 3}},
-        {"a a T --- a a a a a a a", 4, {2, 4, 2, 3}},
-        {"a a 6 a a a a", 6, {2, 6, 4}},
-        {"a a 7 a a a a", 6, {6, 4, 3}},
-        {"9 a a a", 6, {6, 6}},
-    };
-    for (const auto& [text, linesOfPage, pages] : rows)
-        EXPECT_EQ(linesOfPages(text, linesOfPage), pages) << text;
-}
-
-/// Letters of another size in the file than on the paper.
-TEST(PaperDocument, isWrittenInItsLettersAndTheWindowsInTheirs)
-{
-    WorkingPaper paper;
-    paper.kind = "Course";
-    paper.results.push_back({"Course", "073.6"});
-    const PaperDocument document({}, paper, {});
-    QTextDocument onPaper, twice;
-    document.fill(onPaper);
-    EXPECT_EQ(document.fillBeginning(twice, 200), 0u);
-    EXPECT_EQ(onPaper.defaultFont(), PaperDocument::letters(100));
-    EXPECT_EQ(twice.defaultFont().pointSizeF(), 2 * onPaper.defaultFont().pointSizeF());
-    EXPECT_GE(onPaper.defaultFont().pointSizeF(), 8) << "what is read without glasses";
-}
-
-/// A picture beyond the margin, or small in a wide one; a painter that is left turned.
-TEST(PictureObjects, fitIntoTheTextAndLeaveThePainterAlone)
-{
-    PictureObjects pictures({makePaperPicture("Chart", {400, 200},
-                                              [](QPainter& painter, const QSize& size) {
-                                                  painter.fillRect(QRect(QPoint(), size),
-                                                                   Qt::black);
-                                              })},
-                            nullptr);
-    QTextCharFormat format;
-    format.setProperty(PictureNumber, 0);
-    QTextDocument text;
-    text.setDocumentMargin(10);
-    for (const auto& [width, size] : {std::pair(-1, QSizeF(400, 200)),
-                                      {220, QSizeF(200, 100)},
-                                      {420, QSizeF(400, 200)},
-                                      {1000, QSizeF(400, 200)}}) {
-        text.setTextWidth(width);
-        EXPECT_EQ(pictures.intrinsicSize(&text, 0, format), size) << width;
-    }
-    QImage sheet(300, 300, QImage::Format_RGB32);
-    sheet.fill(Qt::white);
-    QPainter painter(&sheet);
-    pictures.drawObject(&painter, QRectF(50, 100, 200, 100), &text, 0, format);
-    EXPECT_TRUE(painter.transform().isIdentity());
-    EXPECT_FALSE(painter.hasClipping());
-    painter.end();
-    for (const auto& [at, colour] : {std::pair(QPoint(51, 101), Qt::black),
-                                     {QPoint(248, 198), Qt::black},
-                                     {QPoint(48, 150), Qt::white},
-                                     {QPoint(252, 150), Qt::white},
-                                     {QPoint(150, 98), Qt::white},
-                                     {QPoint(150, 202), Qt::white}})
-        EXPECT_EQ(sheet.pixelColor(at), QColor(colour)) << at.x() << " " << at.y();
 }
 
 } // namespace
