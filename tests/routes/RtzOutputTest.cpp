@@ -79,7 +79,7 @@ TEST(RtzOutput, aRouteIsWrittenToTheByte)
     EXPECT_THAT(older.bytes, Not(HasSubstr("revision")));
     EXPECT_THAT(older.bytes, HasSubstr("id=\"5\" name=\"Tangent point\""));
     EXPECT_EQ(writeRtz(everyKind()).bytes, writeRtz(everyKind(), RtzVersion::V1_1).bytes);
-    for (const std::size_t few : {0, 1}) {
+    for (const std::size_t few : {0U, 1U}) {
         Route route = everyKind();
         route.points.resize(few);
         EXPECT_EQ(writeRtz(route).fault,

@@ -49,8 +49,9 @@ TEST(ObservedFixes, whatIsDamagedIsNamedAndTheRestRead)
           "fix=1978-02-28T12:20:26Z;90.1;139;stars;", "fix=1978-02-28T12:20:26Z;-90.1;139;stars;",
           "fix=1978-02-28T12:20:26Z;35;180.1;stars;", "fix=1978-02-28T12:20:26Z;35;-180.1;stars;",
           "fix=1978-02-28T12:20:26Z;;139;stars;"}) {
-        const auto read =
-            readObservedFixes(fixesHead + soundFix + bad + "\n" + soundFix + "later=1\n");
+        const auto read = readObservedFixes(
+            std::string(fixesHead).append(soundFix).append(bad).append("\n").append(soundFix) +
+            "later=1\n");
         EXPECT_EQ(read.damage, "line 3") << bad;
         EXPECT_EQ(read.fixes.size(), 2u) << bad;
     }

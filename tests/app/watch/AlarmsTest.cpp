@@ -60,7 +60,8 @@ std::string kept(const KV_Savedvalue& saved)
 
 TEST(AlarmSetUp, aMinuteIsBegunHalfASecondAfterItsStart)
 {
-    for (const auto& [seconds, due] : {std::pair{0.498, "23:58"}, {0.502, "23:59"}}) {
+    for (const auto& [after, due] : {std::pair{0.498, "23:58"}, {0.502, "23:59"}}) {
+        const double seconds = after; // a lambda takes no part of a pair
         KV_Savedvalue saved;
         testing::FakeQuestions questions;
         questions.will("Yes; +1; ; Yes; Yes");

@@ -233,25 +233,25 @@ TEST(CalculateNoon, thePaperHasTheFiguresOfEveryStep)
     }
     EXPECT_THAT(titles, ElementsAre("The day between the fixes", "The way to go and the arrival",
                                     "Propeller", "Fuel", "Weather"));
-    for (const char* line : {
-             "Miles: 345.0000 = 345.0000 nautical miles",
-             "Hours: 23.00000 - 3.00000 = 20.00000 h",
-             "Average speed: 345.0000 / 20.00000 = 17.25 knots",
-             "Miles since full away: 345.0000 = 345.0000 nautical miles",
-             "Hours since full away: 23.00000 = 23.00000 h",
-             "Distance to go: 360.0000 rounded to 0.1 = 360.0 nautical miles",
-             "Hours at 17.25 kn: 360.0000 / 17.250000 + 0.00000 = 20.86957 h",
-             "Hours at 12.00 kn: 360.0000 / 12.000000 + 0.00000 = 30.00000 h",
-             "Hours to the wanted arrival: 2026-11-12T20:00:00Z - 2026-11-11T02:00:00Z = 42.00000 "
-             "h",
-             "Speed for the wanted arrival: 360.0000 / (42.00000 - 0.00000) = 8.57 knots",
-             "Engine miles: 5.000 × (130100 - 100) / 1852 = 350.9719 nautical miles",
-             "Apparent slip: 100 × (350.9719 - 345.0000) / 350.9719 = 1.70 %",
-             "Real slip: 100 × (350.9719 - 345.0000 × (1 - 0.3000)) / 350.9719 = 31.19 %",
-             "Fuel 1, tons: 500.000 - 470.000 = 30.000 t",
-             "Fuel 1, tons a mile: 30.000 / 345.0000 = 0.086957 t per nm",
-             "Sea and swell: wave height 2.5 m, swell height 3 m = 4-Moderate, Mod./Rough swell",
-         })
+    for (
+        const char* line : {
+            "Miles: 345.0000 = 345.0000 nautical miles",
+            "Hours: 23.00000 - 3.00000 = 20.00000 h",
+            "Average speed: 345.0000 / 20.00000 = 17.25 knots",
+            "Miles since full away: 345.0000 = 345.0000 nautical miles",
+            "Hours since full away: 23.00000 = 23.00000 h",
+            "Distance to go: 360.0000 rounded to 0.1 = 360.0 nautical miles",
+            "Hours at 17.25 kn: 360.0000 / 17.250000 + 0.00000 = 20.86957 h",
+            "Hours at 12.00 kn: 360.0000 / 12.000000 + 0.00000 = 30.00000 h",
+            R"(Hours to the wanted arrival: 2026-11-12T20:00:00Z - 2026-11-11T02:00:00Z = 42.00000 h)",
+            "Speed for the wanted arrival: 360.0000 / (42.00000 - 0.00000) = 8.57 knots",
+            "Engine miles: 5.000 × (130100 - 100) / 1852 = 350.9719 nautical miles",
+            "Apparent slip: 100 × (350.9719 - 345.0000) / 350.9719 = 1.70 %",
+            "Real slip: 100 × (350.9719 - 345.0000 × (1 - 0.3000)) / 350.9719 = 31.19 %",
+            "Fuel 1, tons: 500.000 - 470.000 = 30.000 t",
+            "Fuel 1, tons a mile: 30.000 / 345.0000 = 0.086957 t per nm",
+            "Sea and swell: wave height 2.5 m, swell height 3 m = 4-Moderate, Mod./Rough swell",
+        })
         EXPECT_THAT(lines, Contains(line));
     ASSERT_EQ(workings[0].tables.size(), 1U);
     EXPECT_THAT(workings[0].tables[0].rows,

@@ -110,6 +110,7 @@ TEST_F(frmNoonTest, everyBoxIsThereAgain)
                  ? std::string(field.name) == "txtWake" ? "0.5" : std::to_string(figure++ % 12)
                  : std::string("its ") + field.name);
     std::vector<std::string> typed;
+    typed.reserve(NoonFields.size());
     for (const Field& field : NoonFields)
         typed.push_back(text(noon, field.name));
     close(noon);

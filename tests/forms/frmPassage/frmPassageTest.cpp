@@ -77,9 +77,9 @@ TEST_F(frmPassageTest, aStopMovesWhatFollows)
                    "Tue 2026/11/10 18:00/Tue 2026/11/10 09:00; +9/; ");
     EXPECT_EQ(cell(window, 1, PlanTable::Arrival), "Tue 2026/11/10 18:00");
     EXPECT_EQ(text(window, "lblArrival"), "Wed 2026/11/11 09:00");
-    std::vector<std::string> totals;
+    std::vector<std::string> totals(7);
     for (int i = 0; i < 7; ++i)
-        totals.push_back(text(window, memberName("lblPlan", i).toStdString()));
+        totals[static_cast<std::size_t>(i)] = text(window, memberName("lblPlan", i).toStdString());
     EXPECT_THAT(totals, ElementsAre("Tue 2026/11/10 08:00; UTC Mon 23:00", "210.0", "19 h 00 m",
                                     "06 h 00 m", "1 d 01 h 00 m", "0.0", ""));
     QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Up);

@@ -13,6 +13,7 @@
 #include "navlib/angles.h"
 
 #include <algorithm>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -187,12 +188,12 @@ void expectJudged(TideKind kind, const std::vector<FieldSaid>& said)
         const std::string above = Format(readNumber(field.high) + 0.01, "0.##");
         for (const std::string& bad : {below, above}) {
             const StationCheck check = checkedWith(i, bad);
-            const std::string verdict =
-                "not within " + std::string(field.low) + " to " + field.high + " " + field.unit;
-            EXPECT_EQ(check.doubts(), file + ": 1 of " + std::to_string(said.size() + 1) +
-                                          " fields lies outside what such a figure can be. Field " +
-                                          std::to_string(i + 2) + ", " + field.name + " " + bad +
-                                          ": " + verdict + ".");
+            std::ostringstream doubts;
+            doubts << file << ": 1 of " << said.size() + 1
+                   << " fields lies outside what such a figure can be. Field " << i + 2 << ", "
+                   << field.name << " " << bad << ": not within " << field.low << " to "
+                   << field.high << " " << field.unit << ".";
+            EXPECT_EQ(check.doubts(), doubts.str());
             EXPECT_EQ(check.fields.at(i + 1).unit, field.unit);
         }
     }

@@ -193,7 +193,7 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     EXPECT_LT(reading().top(), line);
     press(window, "picTIDE", {Qt::Key_Home});
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("00:00  "));
-    EXPECT_NEAR(reading().left(), picture.toPixel(0, 0).x() + line / 2, 2);
+    EXPECT_NEAR(reading().left(), picture.toPixel(0, 0).x() + line / 2.0, 2);
     EXPECT_LT(reading().top(), line);
     press(window, "picTIDE", {Qt::Key_Left});
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("00:00  ")) << "the day begins there";

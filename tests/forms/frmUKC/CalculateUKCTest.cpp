@@ -250,26 +250,26 @@ TEST(CalculateUKC, thePaperHasTheFiguresOfEveryStep)
     input.survey = Survey::C;
     input.water = Water::Confined;
     const auto lines = korvel::testing::linesOf(columnWorking(input, CalculateUKC(input, {})));
-    for (const char* line : {
-             "Mean draught: (10.6 + 10.8 + 6 × 11.1) / 8 = 11.0000 m",
-             "Block coefficient: 57728 / (1.025 × 200 × 32 × 11.0000) = 0.800",
-             "Static draught: the deepest, midships = 11.10 m",
-             "Squat: 0.8000 × 10² / 50 = 1.60 m",
-             "Squat by the other formulas: for comparison = Cb V² / 100: 0.80 m",
-             "List: 32 / 2 × sin 3° = 0.84 m",
-             "Density: 11.1000 × (1.025 / 1.005 - 1) = 0.22 m",
-             "Dynamic draught: 11.1000 + 1.6000 + 0.8374 + 0.2209 + 0.5000 = 14.26 m",
-             "Uncertainty of the survey: 2.0 + 0.05 × 18 = 2.90 m",
-             "Depth to count on: 18.0000 + 1.0000 - 2.9000 = 16.10 m",
-             "Clearance: 16.1000 - 14.2583 = 1.84 m",
-             "Minimum: 1.5; 10 % × 11.1000 = 1.50 m",
-             "Over the minimum: 1.8417 - 1.5000 = +0.34 m",
-             "Least tide that keeps the minimum: 14.2583 + 1.5000 + 2.9000 - 18.0000 = 0.66 m",
-             "Squat that the minimum leaves: 16.1000 - 11.1000 - 0.8374 - 0.2209 - 0.5000 - 1.5000 "
-             "= 1.9417 m",
-             "Speed of that squat: √(50 × 1.9417 / 0.8000) = 11.02 kn",
-             "Greatest speed: tenths cut off, never rounded up = 11.0 kn",
-         })
+    for (
+        const char* line : {
+            "Mean draught: (10.6 + 10.8 + 6 × 11.1) / 8 = 11.0000 m",
+            "Block coefficient: 57728 / (1.025 × 200 × 32 × 11.0000) = 0.800",
+            "Static draught: the deepest, midships = 11.10 m",
+            "Squat: 0.8000 × 10² / 50 = 1.60 m",
+            "Squat by the other formulas: for comparison = Cb V² / 100: 0.80 m",
+            "List: 32 / 2 × sin 3° = 0.84 m",
+            "Density: 11.1000 × (1.025 / 1.005 - 1) = 0.22 m",
+            "Dynamic draught: 11.1000 + 1.6000 + 0.8374 + 0.2209 + 0.5000 = 14.26 m",
+            "Uncertainty of the survey: 2.0 + 0.05 × 18 = 2.90 m",
+            "Depth to count on: 18.0000 + 1.0000 - 2.9000 = 16.10 m",
+            "Clearance: 16.1000 - 14.2583 = 1.84 m",
+            "Minimum: 1.5; 10 % × 11.1000 = 1.50 m",
+            "Over the minimum: 1.8417 - 1.5000 = +0.34 m",
+            "Least tide that keeps the minimum: 14.2583 + 1.5000 + 2.9000 - 18.0000 = 0.66 m",
+            R"(Squat that the minimum leaves: 16.1000 - 11.1000 - 0.8374 - 0.2209 - 0.5000 - 1.5000 = 1.9417 m)",
+            "Speed of that squat: √(50 × 1.9417 / 0.8000) = 11.02 kn",
+            "Greatest speed: tenths cut off, never rounded up = 11.0 kn",
+        })
         EXPECT_THAT(lines, Contains(line));
     for (const auto& [survey, terms, metres] : {std::tuple{Survey::A1, "0.5 + 0.01 × 18", "0.68"},
                                                 {Survey::A2, "1.0 + 0.02 × 18", "1.36"},

@@ -20,6 +20,7 @@
 #include <QTest>
 #include <QWidget>
 
+#include <array>
 #include <cmath>
 #include <memory>
 #include <string>
@@ -29,7 +30,7 @@ namespace korvel
 namespace
 {
 
-constexpr Field fieldsOfAll[] = {
+constexpr std::array<Field, 7> fieldsOfAll = {{
     {"txtName(0)", "Name", "Name", "", FieldKind::Text, "kg"},
     {"txtName(1)", "&Speed", "Speed", "knots", FieldKind::Figure, "kn", 0, 100},
     {"txtName(2)", "Density", "Density", "", FieldKind::Figure, "kg/m3, in air", 0},
@@ -37,7 +38,7 @@ constexpr Field fieldsOfAll[] = {
     {"txtName(4)", "Longitude", "Longitude", "", FieldKind::Longitude, "E", -180, 180},
     {"txtName(5)", "Time", "Time", "", FieldKind::Moment, "UTC, yyyy/mm/dd hh:mm"},
     {"txtName(6)", "Watch", "Watch", "", FieldKind::Moment, "SMT"},
-};
+}};
 
 std::string asText(const PaperFigure& figure)
 {
