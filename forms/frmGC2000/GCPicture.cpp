@@ -223,7 +223,6 @@ QRectF GCPicture::numberRoom(std::size_t waypoint, double wide) const
 void GCPicture::drawNumbers(QPainter& painter) const
 {
     const auto& route = m_chart.route;
-    if (route.size() < 3) return;
     const double wide = letterMetrics().horizontalAdvance("19");
     std::vector<double> places;
     for (std::size_t i = 1; i + 1 < route.size(); ++i)

@@ -4,13 +4,14 @@
 #include "app/reading/Result.h"
 #include "forms/frmNoon/CalculateNoon.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace korvel
 {
 
 using NoonRow = Result<NoonResult>;
-inline constexpr std::size_t noonAnswers = 3;
 inline constexpr std::array NoonResults = {
     NoonRow{"lblNoon(0)", "Day's run", "nautical miles", Weight::Answer, &NoonResult::run},
     NoonRow{"lblNoon(1)", "Steaming time", "", Weight::Answer, &NoonResult::hours},
@@ -49,6 +50,9 @@ inline constexpr std::array NoonResults = {
     NoonRow{"lblNoon(22)", "Fuel by", "", Weight::Remark, &NoonResult::fuelBy,
             "Where the fuel on board comes from"},
 };
+/// They come first.
+inline constexpr auto noonAnswers =
+    static_cast<std::size_t>(std::ranges::count(NoonResults, Weight::Answer, &NoonRow::weight));
 
 inline constexpr std::array<const char*, NoonResults.size()> NoonRooms = {
     "00000.0",

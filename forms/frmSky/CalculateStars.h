@@ -44,7 +44,7 @@ enum class SkyTwilight { Morning, Evening };
 struct SkyStarsAsked {
     std::string at; ///< the box: empty for the middle of the twilight
     SkyTwilight twilight = SkyTwilight::Evening;
-    std::size_t count = 5; ///< bodies of the round
+    std::size_t count{}; ///< bodies of the round
 };
 
 struct SkyStars {

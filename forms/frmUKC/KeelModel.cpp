@@ -53,7 +53,7 @@ std::optional<Metres> KeelModel::tideFor(Knots speed) const
     };
     Metres low = uncertainty - charted; // no water at all
     Metres high(30);
-    if (low >= high || !keeps(high)) return std::nullopt;
+    if (!keeps(high)) return std::nullopt;
     while (high - low > fineEnough) {
         const Metres middle = (low + high) / 2;
         (keeps(middle) ? high : low) = middle;

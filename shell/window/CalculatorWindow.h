@@ -101,15 +101,6 @@ protected:
         return labels;
     }
 
-    /// Result labels name(0) .. name(N - 1).
-    template <std::size_t N>
-    std::array<ResultLabel*, N> addLabels(const QString& name)
-    {
-        std::array<ResultLabel*, N> labels{};
-        for (std::size_t i = 0; i < N; ++i)
-            labels[i] = addLabel(memberName(name, static_cast<int>(i)));
-        return labels;
-    }
     ResultLabel* addLabel(const QString& name);
 
     // Places.

@@ -252,9 +252,9 @@ def month_rows():
         date = first
         while date.month == first.month:
             for name, station in (("four", FourConstituents), ("all", AllConstituents)):
-                for minutes, kind, height in turns(station(place).curve(date)):
-                    yield (f"a {kind} water of {place} moved or lost,{place},{date:%Y/%m/%d},{name},{kind},"
-                           f"{minutes:.2f},{height:.4f}")
+                waters = (f"{kind}={minutes:.2f} {height:.4f}"
+                          for minutes, kind, height in turns(station(place).curve(date)))
+                yield f"a water of {place} moved or lost,{place},{date:%Y/%m/%d},{name},{'; '.join(waters)}"
             date += datetime.timedelta(days=1)
 
 
@@ -285,7 +285,7 @@ if __name__ == "__main__":
           "fault,place,date,hours,height", height_rows())
     write("tide_waters.csv", "High and low waters of a day by all constituents, zone time and metres above chart datum.",
           "fault,place,date,waters", water_rows())
-    write("tide_days.csv", "Every high and low water of a month by both sums: minutes of zone time, metres.",
-          "fault,place,date,sum,water,minutes,height", month_rows())
+    write("tide_days.csv", "Every high and low water of a month by both sums: minutes of zone time and metres, a day a line.",
+          "fault,place,date,sum,waters", month_rows())
     write("tide_answers.csv", "What an officer asks of a day's curve, answered by both sums.",
           "fault,place,date,question,typed,four,all", answer_rows())

@@ -111,6 +111,7 @@ TEST(RtzOutput, aPositionIsThatOfTheFileUntilItIsMoved)
 TEST(RtzOutput, idsAreKeptWhereTheyCanBe)
 {
     for (const auto& [id, written] : {std::pair{"999999999", "id=\"999999999\" revision=\"1\""},
+                                      {"+44", "id=\"44\" revision=\"1\""},
                                       {"1000000000", "id=\"12\" revision=\"1\""}}) {
         std::string file = wholeFile;
         for (int i = 0; i < 3; ++i)

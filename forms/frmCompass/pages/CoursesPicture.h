@@ -38,7 +38,7 @@ private:
 
     std::optional<CourseTriangle> m_triangle;
     std::optional<NavFunc113::Degrees> m_head;
-    double m_step = 5; ///< knots between two rings
+    double m_step{}; ///< knots between two rings
     mutable FigureText m_figures;
 };
 

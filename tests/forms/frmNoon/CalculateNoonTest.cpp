@@ -120,6 +120,9 @@ TEST(CalculateNoon, theWayToGoIsThePlans)
     NoonResult noon = CalculateNoon(input);
     EXPECT_EQ(noon.toGo, "300.0") << "60 to the waypoint, 240 by the plan";
     EXPECT_THAT(noon.by, HasSubstr("row 2"));
+    EXPECT_THAT(testing::linesOf(noonWorkings(input, noon)[1]),
+                AllOf(Contains(HasSubstr("From the fix to row 2: the plan's row = 60.0000 ")),
+                      Contains(HasSubstr("Miles to go: 60.0000 + 240.0000 = 300.0000 "))));
     EXPECT_THAT(noon.eta[0], HasSubstr("12.50 kn: Thu 2026/11/12 13:00 TD +1")) << "24 hours";
     input.boxes.speeds[1] = "15";
     input.boxes.wanted = "2026/11/12 8:00";

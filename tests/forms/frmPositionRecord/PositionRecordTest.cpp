@@ -2,6 +2,7 @@
 #include "forms/frmPositionRecord/FixTime.h"
 #include "forms/frmPositionRecord/RecordList.h"
 #include "forms/frmPositionRecord/RecordMemory.h"
+#include "forms/frmPositionRecord/RecordPaper.h"
 #include "forms/frmPositionRecord/RecordText.h"
 
 #include "tests/golden/Golden.h"
@@ -96,6 +97,17 @@ TEST(PositionRecord, whatTheRowsShow)
         EXPECT_EQ(shown(CalculatePositionRecord(input, memory)),
                   shown(CalculatePositionRecord(input)))
             << row;
+    }
+}
+
+TEST(PositionRecord, aPaperHasLegsFromTheSecondFixOn)
+{
+    for (const std::size_t fixes : {0U, 1U, 2U}) {
+        PositionRecordInput input;
+        std::copy_n(std::begin(days), fixes, input.rows.begin());
+        WorkingPaper paper;
+        tellRecord(paper, input, CalculatePositionRecord(input));
+        EXPECT_EQ(paper.tables.size(), fixes);
     }
 }
 

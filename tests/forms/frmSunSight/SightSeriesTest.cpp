@@ -2,8 +2,10 @@
 #include "almanac/sextant.h"
 #include "app/reading/Reading.h"
 #include "forms/frmSunSight/fix/SightFix.h"
+#include "forms/frmSunSight/paper/SightWorking.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/sky/ephemeris.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
 #include <gmock/gmock.h>
@@ -315,6 +317,8 @@ TEST(SightSeries, longitudeByEqualAltitudes)
     const SightFixResult fix = CalculateFix(listOf({sunAt(-30), sunAt(31)}), off, {}, {});
     EXPECT_THAT(fix.equalText, ::testing::StartsWith("Equal altitudes 05:54:00 and 06:55:00"));
     EXPECT_THAT(fix.equalText, HasSubstr("longitude 080-.00'0E ± ")) << fix.equalText;
+    EXPECT_THAT(testing::linesOf(equalAltitudeWorking(fix).value()),
+                ::testing::Contains(EndsWith("errors of the run = " + fix.equalText)));
     EXPECT_EQ(CalculateFix(listOf({sunAt(-60), sunAt(-30)}), off, {}, {}).equalText, "");
 
     // Three pairs, a sight in one of them only. The error of the altitudes, here 2', goes by the

@@ -9,6 +9,7 @@
 #include "shell/screen/ColourScheme.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/forms/frmTIDE/TideWindow.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
@@ -362,6 +363,19 @@ TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
     const TideDayShown day = station.day(37817);
     const StationLines lines =
         describeStation(day.four, list.notesOf("Saint John NB"), list.errorOf("Saint John NB"));
+    std::vector<std::string> written = {"Saint John NB   2003/07/15 Tide",
+                                        "Height above chart datum, metres",
+                                        lines.station + " Zone time " + day.four.lblTD,
+                                        "Highest, lowest:  " + day.four.lblTideInfo};
+    for (const WaterLine& water : waterLines(day))
+        written.push_back(water.four + " all constituents " + water.all);
+    for (std::size_t row = 0; row < 7; ++row) {
+        std::string& figures = written.emplace_back();
+        for (std::size_t i = row; i < day.four.values.size(); i += 7)
+            figures += (i > row ? " " : "") +
+                       clockTime(NavFunc113::Hours(static_cast<double>(i) / 2)) + " " +
+                       markedFigure(day.four.values[i], day);
+    }
     for (const QSize paper : {QSize(840, 1188), QSize(1188, 840)}) {
         frmTIDEPicture picture;
         picture.showPrediction(day.four);
@@ -375,6 +389,11 @@ TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
         QPainter painter(&recorded);
         page.draw(painter, QRect(QPoint(0, 0), paper));
         painter.end();
+        PaintedTexts sheet(paper);
+        painter.begin(&sheet);
+        page.draw(painter, QRect(QPoint(0, 0), paper));
+        painter.end();
+        EXPECT_THAT(sheet.rows(), ::testing::IsSupersetOf(written));
         EXPECT_GT(curve.height(), 280) << paper.width();
         const int hair = 2; // half the width of a line, rounded up
         const QRect drawn = recorded.boundingRect();

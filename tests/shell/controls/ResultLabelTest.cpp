@@ -121,6 +121,10 @@ TEST(ResultLabel, paintsWhatChangesAndLeavesNothingBehind)
             }
         }
     }
+    ResultLabel label;
+    label.resize(300, 24);
+    label.setText("1234567890123456");
+    EXPECT_LT(label.changeText("1234567890123457").width(), 60) << "one figure of many";
 }
 
 TEST(ResultLabel, takesTheFocusWhileItShowsSomething)

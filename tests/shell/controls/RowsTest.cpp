@@ -76,6 +76,8 @@ TEST(RowTable, keysGoToOtherRowsThatAreSeen)
         table->setRowSeen(row, true);
     EXPECT_EQ(rowAfter(1, Qt::Key_End, 4, Qt::ControlModifier), 11);
     EXPECT_EQ(rowAfter(11, Qt::Key_Down, 4), 11);
+    table->setRowSeen(1, false);
+    EXPECT_EQ(rowAfter(2, Qt::Key_Up, 4), 0);
     EXPECT_FALSE(table->rowOf(&area));
     EXPECT_FALSE(table->rowOf(nullptr));
 }
