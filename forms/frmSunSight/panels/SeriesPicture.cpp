@@ -29,6 +29,12 @@ double roundedUp(double value)
     return 10 * power;
 }
 
+/// Beside a line of the grid; that in the middle has no sign.
+std::string markText(double value, const char* format)
+{
+    return value == 0 ? "0" : Format(value, format);
+}
+
 } // namespace
 
 SeriesPicture::SeriesPicture(QWidget* parent) : PictureBox(parent)
@@ -81,7 +87,7 @@ void SeriesPicture::paintGrid(QPainter& painter) const
         const double y = toPixel(0, arc).y();
         painter.setPen(QPen(arc == 0 ? colours().ink : colours().grid, fine));
         painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
-        const QString words = asQString(Format(arc, "+0.0#';-0.0#';0'")) + " ";
+        const QString words = asQString(markText(arc, "+0.0#;-0.0#")) + "' ";
         painter.setPen(colours().ink);
         painter.drawText(
             QPointF(area.left() - metrics.horizontalAdvance(words), y + metrics.ascent() / 2.0),
@@ -91,7 +97,7 @@ void SeriesPicture::paintGrid(QPainter& painter) const
         const double x = toPixel(time, 0).x();
         painter.setPen(QPen(colours().grid, fine));
         painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
-        const QString words = asQString(Format(time, "+0.#;-0.#;0")) + " min";
+        const QString words = asQString(markText(time, "+0.#;-0.#")) + " min";
         painter.setPen(colours().ink);
         painter.drawText(
             QPointF(x - metrics.horizontalAdvance(words) / 2.0, area.bottom() + metrics.ascent()),

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
 #include "navlib/sky/ephemeris_series.h"
+#include "shell/controls/PictureBox.h"
 #include "shell/paper/PaperWindow.h"
 #include "tests/SourceFolder.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/paper/StepFigures.h"
 #include "tools/papers/ExamplePaper.h"
 
@@ -104,6 +106,63 @@ TEST(PaperExamples, everyStepHasFiguresThatLeadToItsValue)
             }
     }
     EXPECT_GE(reckoned, 250);
+}
+
+// What is written in the pictures, in the order in which it is drawn, and how many lines there are.
+TEST(PaperExamples, picturesSayWhatTheyShow)
+{
+    const struct {
+        const char *example, *picture, *texts;
+        std::size_t lines;
+    } pictures[] = {
+        {"frmCompass by heads", "picDeviation",
+         "N 000|NE 045|E 090|SE 135|S 180|SW 225|W 270|NW 315|N 000|1° W|0|1° E|line|", 12},
+        {"frmCompass courses", "picCourses",
+         "2|4|6|8 kn|N|E|S|W|Through the water|Current|Made good|", 10},
+        {"frmGC2000 south", "picGC",
+         "1|2|3|4|5|6|7|8|9|10|11|12|13|10°E|30°E|50°E|70°E|90°E|110°E|130°E|150°E|60°S|55°S|50°S|"
+         "45°S|40°S|35°S|Departure|Waypoint|Arrival|Great circle|Rhumb line|",
+         148},
+        {"frmPassage", "picPlan",
+         "70°W|60°W|50°W|40°W|30°W|20°W|10°W|0°|15°N|20°N|25°N|30°N|35°N|40°N|45°N|50°N|55°N|60°N|"
+         "1|2|1000 nm|",
+         63},
+        {"frmSky stars", "picSky",
+         "N|030|060|E|120|150|S|210|240|W|300|330|Mirfak|Saturn|Fomalhaut|Altair|Vega|Capella|Moon|"
+         "Deneb|",
+         38},
+        {"frmSunSight round", "picSunSight",
+         "046-.00'0W|045-.40'0W|045-.20'0W|045-.00'0W|044-.40'0W|26-.20'0N|26-.30'0N|26-.40'0N|"
+         "26-.50'0N|27-.00'0N|27-.10'0N|27-.20'0N|27-.30'0N|N|10 nm|FIX 2047|DR 2047|Vega "
+         "2039-2047 "
+         "x3|Altair 2043-2047|Fomalhaut 2046|Saturn 2049-2047|Mirfak 2052-2047|",
+         45},
+        {"frmSunSight round", "picSunSeries", "-1.0' |0' |+1.0' |-2 min|0 min|+2 min|Vega|", 6},
+        {"frmTIDE stream", "picTIDE",
+         "-3 kn.|-2 kn.|-1 kn.|0 kn.|1 kn.|2 kn.|3 kn.|4 kn.|2|4|6|8|10|12|14|16|18|20|22|", 101},
+        {"frmTIDE", "picTIDE",
+         "0 m|1 m|2 m|3 m|2|4|6|8|10|12|14|16|18|20|22|thin: all constituents|", 79},
+        {"frmWind", "picWind",
+         "0|90|180|-90|10|20|30|40 kn|Ship's heading|Apparent wind|True wind|", 20},
+    };
+    for (const auto& [name, picture, texts, lines] : pictures) {
+        const std::string file = std::string(name) + ".example";
+        std::string path = sourceFile("tests/papers/" + file);
+        if (!QFile::exists(QString::fromStdString(path)))
+            path = sourceFile("docs/manual/examples/" + file);
+        const WorkedExample example(contentOf(path), QString::fromStdString(sourceFile("data")));
+        constexpr QSize size(640, 480);
+        testing::PaintedTexts paper(size);
+        QPainter painter(&paper);
+        example.window().findChild<PictureBox*>(picture)->drawOn(painter, size,
+                                                                 ColourScheme::day());
+        painter.end();
+        std::string written;
+        for (const testing::PaintedText& each : paper.texts())
+            written += each.text.toStdString() + "|";
+        EXPECT_EQ(written, texts) << name;
+        EXPECT_EQ(paper.lines().size(), lines) << name << " " << picture;
+    }
 }
 
 template <typename Terms>
