@@ -153,7 +153,7 @@ private:
     bool m_isOpen = false;
     bool m_isBeyond = false; ///< the line in hand is one too many
     bool m_hasTime = false;
-    int m_openedAt = 0;
+    int m_openedAt{};
 };
 
 } // namespace

@@ -54,6 +54,14 @@ void PaintedTexts::Engine::drawLines(const QLineF* drawn, int count)
         lines.push_back(painter()->combinedTransform().map(drawn[i]));
 }
 
+void PaintedTexts::Engine::drawPolygon(const QPointF* points, int count, PolygonDrawMode mode)
+{
+    for (int i = 1; mode == PolylineMode && i < count; ++i) {
+        const QLineF line(points[i - 1], points[i]);
+        drawLines(&line, 1);
+    }
+}
+
 void PaintedTexts::Engine::drawTextItem(const QPointF& at, const QTextItem& item)
 {
     texts.push_back({item.text(), painter()->combinedTransform().map(at), item.width()});

@@ -44,7 +44,7 @@ private:
         void updateState(const QPaintEngineState&) override {}
         void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
         void drawPath(const QPainterPath&) override {}
-        void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
+        void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override;
         void drawLines(const QLineF* drawn, int count) override;
         void drawTextItem(const QPointF& at, const QTextItem& item) override;
 

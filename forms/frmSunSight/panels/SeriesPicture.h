@@ -29,8 +29,8 @@ private:
     void paintShots(QPainter& painter, const SightSeries& series) const;
 
     std::vector<SightSeries> m_series;
-    double m_halfTime = 1; ///< minutes shown each way
-    double m_halfArc = 1;  ///< minutes of arc shown each way
+    double m_halfTime{}; ///< minutes shown each way
+    double m_halfArc{};  ///< minutes of arc shown each way
 };
 
 } // namespace korvel

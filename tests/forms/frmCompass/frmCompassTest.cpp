@@ -5,9 +5,11 @@
 #include "forms/frmCompass/CompassRecord.h"
 #include "forms/frmCompass/DeviationCurve.h"
 #include "forms/frmCompass/pages/CoursesPicture.h"
+#include "forms/frmCompass/pages/DeviationCard.h"
 #include "forms/frmCompass/pages/DeviationPicture.h"
 #include "shell/screen/ColourScheme.h"
 #include "tests/SourceFolder.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
@@ -22,6 +24,7 @@
 #include <chrono>
 #include <cmath>
 #include <sstream>
+#include <utility>
 
 // A month of watches, kept as an officer keeps it: with the keys.
 
@@ -204,10 +207,11 @@ TEST_F(frmCompassTest, anotherEditionOfTheModelServesItsYearsAndIsNamed)
 }
 
 /// Five years of watches: a key still answers, and the book comes back whole.
-TEST_F(frmCompassTest, aFullBookIsReadKeptAndRefusesMore)
+/// Lines of every four hours.
+CompassBook bookOf(std::size_t lines)
 {
-    CompassBook full;
-    for (std::size_t i = 0; i < mostCompassLines; ++i) {
+    CompassBook book;
+    for (std::size_t i = 0; i < lines; ++i) {
         CompassLine line;
         line.UTC = *readIso("2021-01-01T04:00:00Z") + std::chrono::hours(4 * i);
         line.body = "Sun";
@@ -220,8 +224,14 @@ TEST_F(frmCompassTest, aFullBookIsReadKeptAndRefusesMore)
             reading.error = Degrees(5.0 / 7);
             reading.deviation = ofStandard.at(*reading.head) + Degrees(i % 2 == 0 ? 0.4 : -0.4);
         }
-        full.push_back(std::move(line));
+        book.push_back(std::move(line));
     }
+    return book;
+}
+
+TEST_F(frmCompassTest, aFullBookIsReadKeptAndRefusesMore)
+{
+    const CompassBook full = bookOf(mostCompassLines);
     writeFile(compassBookFile, compassBookText(full));
     auto& window = open<frmCompass>();
     keepWatch(window, 0);
@@ -230,6 +240,28 @@ TEST_F(frmCompassTest, aFullBookIsReadKeptAndRefusesMore)
     EXPECT_NEAR(shownFigure(text(window, "lblDeviation(1)")), 5, 0.1);
     close(window);
     EXPECT_EQ(book(), full);
+}
+
+TEST(DeviationCard, hasWhatBelongsToIt)
+{
+    const CompassBook book = bookOf(40);
+    const DeviationCurve curve = deviationCurve(book, CompassKind::Standard);
+    PaintedTexts sheet({794, 1123});
+    QPainter painter(&sheet);
+    drawDeviationCard(painter, {0, 0, 794, 1123},
+                      {"Standard", "Example", "2021-02-01 12:00", PaperPicture()}, curve, book);
+    painter.end();
+    const auto rows = sheet.rows();
+    EXPECT_EQ(rows.at(0), "Deviation card, standard compass");
+    EXPECT_THAT(rows, ::testing::IsSupersetOf({"Ship\u00a0\u00a0\u00a0 Example",
+                                               "Card of\u00a0\u00a0\u00a0 2021-02-01 12:00"}));
+    std::ptrdiff_t at = 0;
+    for (const auto& line : deviationCard(curve)) {
+        const auto found = std::ranges::find(rows, line[0] + " " + line[1] + " " + line[2]);
+        ASSERT_NE(found, rows.end()) << line[0];
+        EXPECT_GT(found - rows.begin(), std::exchange(at, found - rows.begin()));
+    }
+    EXPECT_THAT(rows.back(), ::testing::StartsWith("Date ___"));
 }
 
 } // namespace

@@ -61,6 +61,9 @@ TEST(AlmanacSheets, haveTheRowsOfThePageAsText)
         painter.end();
         for (const std::string& row : paper.rows())
             sheets += simplified(row) + "\n";
+        for (const testing::PaintedText& each : paper.texts())
+            EXPECT_TRUE(QRect(0, 0, 2000, 1400).contains(each.at.toPoint()))
+                << each.text.toStdString();
         std::set<int> heights;
         for (const QLineF& rule : paper.lines())
             heights.insert(qRound(rule.y1()));

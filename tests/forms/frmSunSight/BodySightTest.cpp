@@ -140,6 +140,7 @@ TEST(BodySight, passagesOfTheMovingShip)
         {"Canopus", "12:00", "50.00", "10.00", "180", "20", "Upper passage", "below the horizon"},
         {"", "14:37", "13.42", "-44.55", "200", "25", "", "greatest"},
         {"", "14:37", "-60.42", "-44.55", "340", "25", "", "greatest"},
+        {"", "09:37", "-30.00", "-44.55", "340", "25", "", "greatest"},
     };
     for (const auto& each : cases) {
         SCOPED_TRACE(std::string(each.body) + " " + each.latitude + " " + each.course);
@@ -155,6 +156,9 @@ TEST(BodySight, passagesOfTheMovingShip)
         EXPECT_LT(std::fabs(*passage - *seen.UTC), 1.0);
         const Position then =
             Advanced(*run.position, *run.motion, NavFunc113::Hours((*passage - *seen.UTC) * 24));
+        if (!*each.body) {
+            EXPECT_NEAR((found.figures.atNoon.latitude - then.latitude).value(), 0, 1e-4);
+        }
         const bool isLower = *each.extreme == 'l';
         const Degrees off = hourAngleOver(seen.body, *passage, then) +
                             (isLower ? NavFunc113::halfTurn : Degrees(0));

@@ -128,6 +128,7 @@ std::string placesOfCells(Qt::Orientation reading, bool oneColumn)
     const int two = 2 * cell + 2 * level;
     EXPECT_EQ(cells.sizeHint(), QSize(two, 2 * 20 + upright));
     EXPECT_EQ(cells.minimumSize(), QSize(cell, 0));
+    EXPECT_EQ(cells.takeAt(8), nullptr);
     EXPECT_EQ(cells.heightForWidth(two - 1), 4 * 20 + 3 * upright);
     cells.setGeometry(QRect(7, 3, oneColumn ? two - 1 : two, 200));
     std::string places;

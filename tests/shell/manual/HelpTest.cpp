@@ -399,6 +399,14 @@ TEST(ProgramFacts, tellWhatLiesBesideTheProgram)
     EXPECT_EQ(facts["licence"], "LICENSE");
 }
 
+TEST(Manual, aPageThatIsNotThereSaysWhereItShouldBe)
+{
+    FakeFiles files;
+    const Manual manual(files);
+    EXPECT_TRUE(manual.text("frmETA").startsWith("# No manual\n\nThis page should lie in\n\n    "));
+    EXPECT_FALSE(manual.has("frmETA"));
+}
+
 TEST(FoundLine, startsShortlyBeforeTheWord)
 {
     EXPECT_EQ(foundLine("Tide curve", {"tide"}), "Tide curve");
