@@ -15,8 +15,8 @@ enum class Limb { Lower, Upper };
 /// What dip and refraction depend on.
 struct SextantAir {
     Metres heightOfEye; ///< 0 or more
-    double air = 10;    ///< degrees Celsius, above absolute zero
-    double sea = 10;    ///< degrees Celsius
+    double air{};       ///< degrees Celsius, above absolute zero
+    double sea{};       ///< degrees Celsius
     double pressure{};  ///< hectopascals
 };
 

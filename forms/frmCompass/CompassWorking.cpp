@@ -60,7 +60,7 @@ private:
         const std::string ut = Format(*m_result.ut, "yyyy-mm-dd hh:mm:ss");
         if (m_input.clock == CompassClock::ShipsTime)
             m_working.step("UTC of the bearing", "UTC = SMT - TD",
-                           "SMT less " + figure(m_input.TD, 1) + " h", ut);
+                           "SMT less " + Format(m_input.TD, "0.0#") + " h", ut);
         const std::string body(almanac::entryOf(*m_result.body).name);
         m_working.step("Declination", "d, by the almanac", body + ", " + ut + " UTC",
                        shown(m_result.worked.place->declination), "°");

@@ -253,8 +253,11 @@ TEST(DeviationCard, hasWhatBelongsToIt)
     painter.end();
     const auto rows = sheet.rows();
     EXPECT_EQ(rows.at(0), "Deviation card, standard compass");
-    EXPECT_THAT(rows, ::testing::IsSupersetOf({"Ship\u00a0\u00a0\u00a0 Example",
-                                               "Card of\u00a0\u00a0\u00a0 2021-02-01 12:00"}));
+    EXPECT_THAT(rows, ::testing::IsSupersetOf(
+                          {"Ship\u00a0\u00a0\u00a0 Example",
+                           "Observations\u00a0\u00a0\u00a0 40 lines of the compass book, "
+                           "2021/01/01 04:00 to 2021/01/07 16:00 UTC",
+                           "Card of\u00a0\u00a0\u00a0 2021-02-01 12:00"}));
     std::ptrdiff_t at = 0;
     for (const auto& line : deviationCard(curve)) {
         const auto found = std::ranges::find(rows, line[0] + " " + line[1] + " " + line[2]);

@@ -347,6 +347,7 @@ TEST_F(frmPassageTest, legsGoBetweenTheWindows)
     choose(circle, "mnuPlan(0)");
     EXPECT_EQ(cell(window, 1, PlanTable::Distance), "3160.1");
     EXPECT_EQ(cell(window, 1, PlanTable::Leg, 1), "10°");
+    EXPECT_EQ(cell(window, 2, PlanTable::Leg), "") << "no row yet";
     static_cast<QLineEdit&>(control(circle, "txtGC(1)")).setText("0");
     static_cast<QLineEdit&>(control(circle, "txtGC(3)")).setText("20");
     choose(circle, "mnuPlan(0)");

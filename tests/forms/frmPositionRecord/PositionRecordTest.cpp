@@ -108,6 +108,7 @@ TEST(PositionRecord, aPaperHasLegsFromTheSecondFixOn)
         WorkingPaper paper;
         tellRecord(paper, input, CalculatePositionRecord(input));
         EXPECT_EQ(paper.tables.size(), fixes);
+        EXPECT_EQ(paper.workings.at(0).whyNone.empty(), fixes == 2);
     }
 }
 

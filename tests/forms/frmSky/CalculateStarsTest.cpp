@@ -204,6 +204,7 @@ TEST(SkyStars, areWrittenAsTheTableHasThem)
     const SkyBodyTexts moon = textsOf({almanac::Body::Moon, {}, {}, {}, {}, {}, true});
     EXPECT_THAT((std::vector{moon.mark, moon.number, moon.name, moon.magnitude}),
                 ElementsAre("●", "", "Moon", ""));
+    EXPECT_EQ(textsOf({*almanac::findBody("Alpheratz"), {}, {}, {}, {}, {}, {}}).number, "1");
 }
 
 // Over a month the Moon passes many that would serve but for her.

@@ -4,11 +4,13 @@
 #include "almanac/horizon.h"
 #include "almanac/sextant.h"
 #include "app/reading/TypedTime.h"
+#include "forms/frmSunSight/paper/SightWorking.h"
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
 #include "forms/frmSunSight/sight/SightBodies.h"
 #include "forms/frmSunSight/sight/SightBody.h"
 #include "navlib/sky/ephemeris.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
 #include <gmock/gmock.h>
@@ -296,6 +298,8 @@ TEST(BodySight, aBodyThatCanHardlyBeItIsDoubted)
     const double off = (milesOf(sirius.Ho) - milesOf(sirius.Hc)) / 60;
     EXPECT_THAT(sirius.doubt.why, HasSubstr("stand " + Format(std::fabs(off), "0.0") + "° " +
                                             (off > 0 ? "lower" : "higher") + " than was observed"));
+    EXPECT_THAT(testing::linesOf(bodyAltitudeWorking(sirius)),
+                ::testing::Contains(HasSubstr("Air - sea: 0.2 × (10.0 - 10.0) = ")));
     const auto noticeOf = [](const char* body) {
         return CalculateLOP(bodySight(body, "1978/2/28", "12:20:26", "50.060", "0", "23"),
                             track1978, {})

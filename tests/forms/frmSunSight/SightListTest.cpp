@@ -46,6 +46,10 @@ TEST(SightList, recordsEachSightOnce)
 
     EXPECT_EQ(list.replace(0, upper), Outcome::Already);
     EXPECT_EQ(list.replace(0, morning2020), Outcome::Recorded) << "its own place is free to it";
+    SightTexts vega = noon2020, capella = noon2020;
+    vega.body = "Vega";
+    capella.body = "Capella";
+    EXPECT_EQ(listOf({vega, capella}).sights().size(), 2U) << "two stars of one height";
     list.remove(0);
     list.remove(7);
     EXPECT_EQ(list.sights().size(), 2U);

@@ -77,6 +77,17 @@ TEST_F(frmTIDESheetTest, theNextWatersOfTodayAreTheAnswers)
     EXPECT_EQ(large(), next);
 }
 
+TEST_F(frmTIDESheetTest, aDayOfManyWatersHasSmallerOnes)
+{
+    WaterLabel label(nullptr);
+    const auto lettersOfOne = [&](std::size_t waters) {
+        label.dress(Weight::Figure, waters);
+        return label.font();
+    };
+    EXPECT_EQ(lettersOfOne(6), lettersOf(Weight::Figure));
+    EXPECT_NE(lettersOfOne(7), lettersOf(Weight::Figure));
+}
+
 TEST_F(frmTIDESheetTest, theCurveStaysAndKeepsItsHeightAtTwiceTheSize)
 {
     auto& window = open<frmTIDE>();

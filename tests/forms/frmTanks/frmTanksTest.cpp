@@ -107,6 +107,10 @@ TEST_F(frmTanksTest, aLoadingIsWorkedByKeys)
     EXPECT_EQ(window.notice().toStdString(), "");
     EXPECT_EQ(cell(window, 0, TankModel::LastSurvey + 2, true), "0.9911");
     EXPECT_EQ(cell(window, 11, TankModel::LastSurvey + 2, true), "0.9937");
+    const auto& model = *static_cast<RowsView&>(control(window, "tblTanks")).model();
+    for (const int role : {Qt::AccessibleTextRole, Qt::ToolTipRole})
+        EXPECT_EQ(model.index(0, TankModel::LastSurvey + 2).data(role).toString().toStdString(),
+                  "22.0; 0.9911");
     EXPECT_EQ(text(window, "lblMoved(1)"), "10944.725");
     EXPECT_EQ(text(window, "lblMoved(2)"), "-0.182");
     QTest::keyClick(&window, Qt::Key_D, Qt::AltModifier);

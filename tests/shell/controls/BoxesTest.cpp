@@ -285,6 +285,8 @@ TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
         EXPECT_EQ(static_cast<ResultLabel*>(each->echo())->copyText(),
                   QString::fromUtf8("35°30.5'N 139°45.2'E"));
     }
+    latitude.declare("Departure latitude");
+    EXPECT_EQ(static_cast<ResultLabel*>(latitude.echo())->wordsInFull(), "Departure latitude");
     latitude.setText("x");
     EXPECT_EQ(static_cast<ResultLabel*>(longitude.echo())->copyText(),
               QString::fromUtf8("139°45.2'E"));

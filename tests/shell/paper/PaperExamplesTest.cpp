@@ -180,10 +180,11 @@ TEST(PaperExamples, everyResultIsPaintedAsItStands)
         const WorkedExample example(contentOf(each.filePath().toStdString()),
                                     QString::fromStdString(sourceFile("data")));
         for (ResultLabel* label : example.window().findChildren<ResultLabel*>()) {
-            if (label->text().isEmpty() || label->isHidden()) continue;
+            if (label->text().isEmpty()) continue;
             label->resize(1000, 100);
             testing::PaintedTexts paper(label->size());
             label->render(&paper);
+            if (label->size().isEmpty()) continue; // its layout has no room for it now
             QString painted;
             for (const testing::PaintedText& piece : paper.texts())
                 painted += piece.text;

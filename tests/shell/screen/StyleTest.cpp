@@ -75,6 +75,19 @@ QImage imageOf(int width, int height, const QColor& ground = Qt::transparent)
     return image;
 }
 
+TEST(ColourScheme, everyColourIsOneByDayAndByNight)
+{
+    for (const ColourScheme& scheme : {ColourScheme::day(), ColourScheme::night(0)})
+        for (const auto colour :
+             {&ColourScheme::accent, &ColourScheme::clock, &ColourScheme::memo, &ColourScheme::unit,
+              &ColourScheme::echo, &ColourScheme::done, &ColourScheme::notice, &ColourScheme::fault,
+              &ColourScheme::dimmed, &ColourScheme::paper, &ColourScheme::ink, &ColourScheme::grid,
+              &ColourScheme::equator, &ColourScheme::route, &ColourScheme::secondary,
+              &ColourScheme::tertiary, &ColourScheme::marker, &ColourScheme::curve,
+              &ColourScheme::datum})
+            EXPECT_TRUE((scheme.*colour).isValid());
+}
+
 TEST(NightTint, aSheetStandsOffByNightAsByDay)
 {
     for (int step = 0; step < 3; ++step) {
