@@ -7,6 +7,9 @@
 #include <QApplication>
 #include <QtGlobal>
 
+#include <cstdlib>
+#include <exception>
+
 namespace
 {
 
@@ -23,7 +26,7 @@ void hear(QtMsgType kind, const QMessageLogContext& context, const QString& said
 } // namespace
 
 int main(int argc, char* argv[])
-{
+try {
     ::testing::InitGoogleMock(&argc, argv);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setStyle(new korvel::ScreenStyle);
@@ -32,4 +35,7 @@ int main(int argc, char* argv[])
     before = qInstallMessageHandler(hear);
     korvel::testing::registerScenes();
     return RUN_ALL_TESTS();
+} catch (const std::exception& fault) { // a scene that cannot be read
+    qCritical("%s", fault.what());
+    return EXIT_FAILURE;
 }

@@ -81,8 +81,8 @@ TEST(AlmanacSheets, haveTheRowsOfThePageAsText)
              "\nMag. SHA Pass. HP′ v′ d′\n",
              "\nVenus -4.9 157 08.1",
              "(Sun, Mon, Tue) Sun, Moon, twilight\n",
-             "\nSun Moon Moonrise\nGHA Dec GHA v′ Dec d′ HP′ Lat. Naut. Civil Sunrise 22 23 24 "
-             "25\n",
+             "\nSun Moon Moonrise\nGHA Dec GHA v′ Dec d′ HP′ Lat. Naut. ",
+             " HP′ Lat. Naut. Civil Sunrise 22 23 24 25\n",
              "\nMoonset\n",
              "\nLat. Sunset Civil Naut. 22 23 24 25\n",
              "\nEquation of time Passage Moon\n",
