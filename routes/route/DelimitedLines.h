@@ -10,7 +10,7 @@ namespace korvel
 
 /// A line of a list in its fields, blanks around them taken off.
 struct DelimitedLine {
-    int number = 1; ///< of the line in the text, 1 for the first
+    int number{}; ///< of the line in the text, 1 for the first
     std::vector<std::string> fields;
     bool isClosed = true; ///< false: a double quote was never closed
 };

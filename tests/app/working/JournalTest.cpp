@@ -25,6 +25,8 @@ TEST(Journal, ofADayBeyondAllDaysTheEndIsShown)
     files.files["Journal 2026-11-20.txt"] = "a day's work\n";
     const Journal journal(files);
     EXPECT_EQ(journal.text("2026-11-20"), "a day's work\n");
+    EXPECT_EQ(journal.text("2026-11-22"),
+              "\"folder/Journal 2026-11-22.txt\" could not be read: it is not there");
     const std::string shown = journal.text("2026-11-21");
     EXPECT_THAT(shown, StartsWith("======== the last 512 kB of 3,463 kB"));
     EXPECT_THAT(shown, Not(HasSubstr("---"))) << "no line of which the beginning is missing";

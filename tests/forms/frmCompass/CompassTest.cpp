@@ -157,5 +157,16 @@ TEST(Compass, amplitudeAndAzimuthAgreeAtTheTimeFound)
             }
 }
 
+TEST(Compass, nearTheZenithTheBearingTurnsFastInTheZenithByHalfATurn)
+{
+    using NavFunc113::Degrees;
+    const almanac::Place body{Degrees(0), Degrees(20), {}, {}, {}};
+    const auto changeFrom = [&](double latitude) {
+        return azimuthOf(body, {Degrees(latitude), Degrees(0), {}}).change;
+    };
+    EXPECT_EQ(fabs(changeFrom(20)), NavFunc113::halfTurn);
+    EXPECT_NEAR(fabs(changeFrom(20.5)).value(), 26.9, 0.2) << "0.25° cos d / sin z";
+}
+
 } // namespace
 } // namespace korvel

@@ -133,6 +133,11 @@ TEST_F(frmPassageTest, everyStepIsTakenBackAndDoneAgain)
     type(window, "txtWaypoint", "Dee");
     QTest::keyClick(&control(window, "txtWaypoint"), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text(window, "txtWaypoint"), "C") << "the keys in a box are one step";
+    type(window, "txtWaypoint", "Dee");
+    type(window, "txtRemark", "wait");
+    for (int i = 0; i < 2; ++i)
+        QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text(window, "txtWaypoint"), "C") << "of whatever box it was";
 }
 
 TEST_F(frmPassageTest, rowsOfASpreadsheetArePasted)

@@ -6,12 +6,14 @@
 #include "forms/frmTIDE/day/TideWaters.h"
 #include "forms/frmTIDE/paper/TidePaper.h"
 #include "forms/frmTIDE/paper/TideWorking.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmTIDE/TideDays.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <sstream>
 #include <tuple>
@@ -39,6 +41,7 @@ TEST(TidePaper, tellsTheDayOfATideAndOfAStream)
         day.four.station.zone = Hours(9);
         day.four.lblTD = "9.0hE";
         day.four.lblTideInfo = "the highest and the lowest";
+        day.four.station.meanLevel = 0.4;
         if (kind == TideKind::Stream) day.four.lblCuDirection = {"+ : East", "- : West"};
         WorkingPaper paper;
         tellDay(paper, "Brothers", {day, heightAt(day, "4:00"), timesOfHeight(day, "0.75")},
@@ -115,6 +118,10 @@ TEST(TidePaper, tellsTheDayOfATideAndOfAStream)
     EXPECT_THAT(waves.rows[5],
                 ElementsAre("4.00000", "0.00000", ::testing::_, "1.50000", ::testing::_, "0.00000",
                             ::testing::_, "0.00000", ::testing::_));
+    std::vector<std::string> steps;
+    for (const Working& working : stream.workings)
+        std::ranges::copy(testing::linesOf(working), std::back_inserter(steps));
+    EXPECT_THAT(steps, ::testing::Contains(HasSubstr("Mean stream: 0.4 = 0.0")));
     const PaperTable& sumsOfStream = stream.workings[1].tables[1];
     EXPECT_EQ(sumsOfStream.headings[7], "h kn");
     EXPECT_THAT(namesIn(sumsOfStream), HasSubstr("Flood, Ebb, Flood, Ebb, Slack, Slack, Slack, "
