@@ -222,11 +222,13 @@ def height_rows():
     chance = random.Random(2050)
     for place in STATIONS:
         station = AllConstituents(place)
-        for year in range(2003, 2051):
-            date = datetime.datetime(year, 1, 1) + datetime.timedelta(days=chance.randrange(365))
-            hours = chance.randrange(48) / 2
-            yield (f"sum of {place} with its node of {year},{place},{date:%Y/%m/%d},{hours},"
-                   f"{station.curve(date)(hours):.4f}")
+        for first in range(2003, 2051, 8):
+            heights = []
+            for year in range(first, first + 8):
+                date = datetime.datetime(year, 1, 1) + datetime.timedelta(days=chance.randrange(365))
+                hours = chance.randrange(48) / 2
+                heights.append(f"{date:%Y/%m/%d}={hours} {station.curve(date)(hours):.4f}")
+            yield f"sum of {place} with its nodes from {first},{place},{'; '.join(heights)}"
 
 
 def water_rows():
@@ -281,8 +283,8 @@ def answer_rows():
 
 
 if __name__ == "__main__":
-    write("all_constituents.csv", "Height by all constituents at an instant of zone time, metres above chart datum.",
-          "fault,place,date,hours,height", height_rows())
+    write("all_constituents.csv", "Heights by all constituents at hours of zone time, metres above chart datum, eight years a line.",
+          "fault,place,heights", height_rows())
     write("tide_waters.csv", "High and low waters of a day by all constituents, zone time and metres above chart datum.",
           "fault,place,date,waters", water_rows())
     write("tide_days.csv", "Every high and low water of a month by both sums: minutes of zone time and metres, a day a line.",

@@ -64,7 +64,7 @@ void SeriesPicture::placeMargins()
 {
     const QFontMetrics metrics = letterMetrics();
     setPlotMargins(QMargins(metrics.horizontalAdvance("+10.0' "), metrics.height() / 2,
-                            metrics.horizontalAdvance("00 min"), metrics.height() * 5 / 4));
+                            metrics.horizontalAdvance("00 min"), metrics.height() * 7 / 4));
 }
 
 void SeriesPicture::draw(QPainter& painter)
@@ -93,15 +93,15 @@ void SeriesPicture::paintGrid(QPainter& painter) const
             QPointF(area.left() - metrics.horizontalAdvance(words), y + metrics.ascent() / 2.0),
             words);
     }
+    // Half a line down: the mark of the lowest arc reaches below the corner.
+    const double base = area.bottom() + metrics.height() / 2.0 + metrics.ascent();
     for (const double time : {-m_halfTime, 0.0, m_halfTime}) {
         const double x = toPixel(time, 0).x();
         painter.setPen(QPen(colours().grid, fine));
         painter.drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
         const QString words = asQString(markText(time, "+0.#;-0.#")) + " min";
         painter.setPen(colours().ink);
-        painter.drawText(
-            QPointF(x - metrics.horizontalAdvance(words) / 2.0, area.bottom() + metrics.ascent()),
-            words);
+        painter.drawText(QPointF(x - metrics.horizontalAdvance(words) / 2.0, base), words);
     }
 }
 
