@@ -122,19 +122,28 @@ class Schema:
 
     def guilty(self, output):
         """The faults on the lines where the compiler stopped, or else on those it speaks of."""
-        for pattern in (r"(\S+?):(\d+):\d+: (?:fatal )?error:", r"(\S+?):(\d+):\d+:   required",
-                        r"(\S+?):(\d+):\d+:"):
-            named = {(os.path.relpath(os.path.realpath(self.plot.build / path), self.plot.source),
-                      int(line)) for path, line in re.findall(pattern, output)}
+        stops = r"(\S+?):(\d+):\d+: (?:fatal )?error:"
+        for pattern in (stops, r"(\S+?):(\d+):\d+:   required", r"(\S+?):(\d+):\d+:"):
+            named = self.named(pattern, output)
             found = [fault for fault in self.waiting.values()
                      if any(fault.file == path and self.first(fault) <= line <= fault.last
                             for path, line in named)]
             if found:
                 return found
-        return [fault for fault in self.waiting.values()
-                if f"/{Path(fault.file).name}.o" in output] or \
+        files = {path for path, _ in self.named(stops, output)}
+        there = [fault for fault in self.waiting.values() if fault.file in files]
+        return [fault for fault in there if self.is_size(fault) or MEMBER.match(fault.old)] or \
+            there or \
             [fault for fault in self.waiting.values()  # what constants elsewhere begin with
              if fault.file.endswith(".h") and MEMBER.match(fault.old)]
+
+    def named(self, pattern, output):
+        return {(os.path.relpath(os.path.realpath(self.plot.build / path), self.plot.source),
+                 int(line)) for path, line in re.findall(pattern, output)}
+
+    def is_size(self, fault):
+        """Whether it stands right in brackets, as the size of an array that is used elsewhere."""
+        return self.texts[fault.file][fault.piece[0] - 1] == "["
 
     def build_alone(self, fault, targets):
         """Builds one fault; false when it does not compile."""

@@ -12,12 +12,17 @@ namespace korvel::testing
 
 double luminance(QRgb colour)
 {
-    const auto linear = [](int part) {
-        const double value = part / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) +
-           0.0722 * linear(qBlue(colour));
+    static const auto linear = [] { // asked for every pixel of every window
+        std::array<double, 256> light{};
+        for (std::size_t part = 0; part < light.size(); ++part) {
+            const double value = static_cast<double>(part) / 255.0;
+            light[part] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        }
+        return light;
+    }();
+    const auto light = [](int part) { return linear[static_cast<std::size_t>(part)]; };
+    return 0.2126 * light(qRed(colour)) + 0.7152 * light(qGreen(colour)) +
+           0.0722 * light(qBlue(colour));
 }
 
 std::map<QRgb, int> coloursOf(const QImage& image, const QRect& part)

@@ -314,9 +314,11 @@ TEST_F(NightTest, focusAndSelectionAreSeen)
                 const QImage with = stop->grab().toImage();
                 int clear = 0;
                 for (int y = 0; y < with.height(); ++y)
-                    for (int x = 0; x < with.width(); ++x)
-                        clear += contrast(with.pixel(x, y), without.pixel(x, y), look.strayLight) >=
-                                 ofControls;
+                    for (int x = 0; x < with.width(); ++x) {
+                        const QRgb one = with.pixel(x, y), other = without.pixel(x, y);
+                        if (one == other) continue;
+                        clear += contrast(one, other, look.strayLight) >= ofControls;
+                    }
                 EXPECT_GE(clear, stop->width() / 2) << look.name << ": " << nameOf(*stop);
                 auto* box = qobject_cast<EntryBox*>(stop);
                 if (!box || !box->hasSelectedText()) continue;

@@ -56,6 +56,9 @@ std::vector<QString> awkwardTexts()
 
 enum class Painting { Always, WhenAllIsTyped };
 
+/// A box has each so many-th of the texts, the next box others: boxes of one window are much alike.
+constexpr std::size_t share = 3;
+
 class StillnessTest : public WholeProgram
 {
 protected:
@@ -141,10 +144,11 @@ protected:
         for (const EntryBox* box : boxes)
             were.push_back(box->text());
         for (std::size_t i = 0; i < boxes.size(); ++i) {
-            for (const QString& text : texts) {
-                typeInto(*boxes[i], text);
+            for (std::size_t j = i % share; j < texts.size(); j += share) {
+                typeInto(*boxes[i], texts[j]);
                 expectStill(window, before,
-                            boxes[i]->objectName().toStdString() + " '" + text.toStdString() + "'");
+                            boxes[i]->objectName().toStdString() + " '" + texts[j].toStdString() +
+                                "'");
             }
             typeInto(*boxes[i], were[i]);
         }
