@@ -106,9 +106,8 @@ Node nodeOf(NodeSeries series, const MeanLongitudes& at)
     case NodeSeries::L2:
         return nodeOfL2(at.lunarPerigee, N);
     case NodeSeries::MF:
-        return nodeFrom({1.0429, 0.4135, -0.0040, 0, -23.74, 2.68, -0.38}, N);
     case NodeSeries::MM:
-        return nodeFrom({1.0000, -0.1300, 0.0013, 0, 0, 0, 0}, N);
+        break; // no constituent of the factors file
     }
     throw std::logic_error("node series without coefficients");
 }

@@ -143,7 +143,6 @@ Degrees hourAngleOffset(DateTime instant, DegMin GHA)
     const Degrees timeOfDay = ArcOfHours(Hours(fraction(instant) * 24));
     Degrees offset = DegMinToDeg(GHA) - timeOfDay;
     if (offset < Degrees(0)) offset += fullTurn;
-    if (offset > fullTurn) offset -= fullTurn;
     return offset;
 }
 

@@ -95,9 +95,10 @@ std::vector<Omission> bestOmissions(const Round& round, int lines)
     }
     const auto squares = [](const Omission& each) { return each.rest.weightedSquares; };
     std::ranges::stable_sort(omissions, {}, squares);
-    std::erase_if(omissions,
-                  [least = omissions.empty() ? 0 : squares(omissions[0]),
-                   squares](const Omission& each) { return squares(each) - least >= chiSquared; });
+    const auto isWorse = [&](const Omission& each) {
+        return squares(each) - squares(omissions.front()) >= chiSquared;
+    };
+    omissions.erase(std::ranges::find_if(omissions, isWorse), omissions.end());
     return omissions;
 }
 

@@ -166,9 +166,10 @@ std::optional<DateTime> refine(const Quest& quest, DateTime date, DateTime found
 {
     constexpr double minute = 1.0 / 1440;
     if (found != 0) {
-        const auto instant = iterate(quest, 0, found - DaysOfHours(quest.TD));
-        const DateTime local = instant ? *instant + DaysOfHours(quest.TD) : 0;
-        if (std::fabs(local - found) < minute && std::floor(local) == date) return local;
+        if (const auto instant = iterate(quest, 0, found - DaysOfHours(quest.TD))) {
+            const DateTime local = *instant + DaysOfHours(quest.TD);
+            if (std::fabs(local - found) < minute && std::floor(local) == date) return local;
+        }
     }
     // From both ends and the middle of the day: whatever falls on it is reached from one of them.
     std::optional<DateTime> earliest;

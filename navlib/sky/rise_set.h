@@ -94,9 +94,8 @@ RiseSetRule RuleOf(RiseSet event);
 
 /// One step of a search: the body's place at an instant, and the event that follows from it.
 struct EventStep {
-    int round =
-        0; ///< of the search: -1, 0, 1 days from the date; of the refined one 0 for the
-           ///< check of a time found, then 1, 2, 3 from the start, middle and end of the day
+    int round{}; ///< of the search: -1, 0, 1 days from the date; of the refined one 0 for the
+                 ///< check of a time found, then 1, 2, 3 from the start, middle and end of the day
     DateTime instant{}; ///< UTC
     BodyPlace body;
     std::optional<Degrees> hourAngle; ///< of the event; absent: the body does not meet the altitude

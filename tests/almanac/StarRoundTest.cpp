@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace almanac
@@ -61,6 +62,7 @@ TEST(StarRound, isTakenAllRoundTheHorizonAndBright)
     EXPECT_THAT(azimuthsOf(bestRound(all, 3)), ElementsAre(0, 128, 240));
     EXPECT_EQ(bestRound(all, 7).size(), 4u);
     EXPECT_EQ(bestRound({}, 3).size(), 0u);
+    EXPECT_EQ(errorOfRound({}), std::numeric_limits<double>::infinity());
     EXPECT_EQ(bestRound(bodiesAt({10}), 5).size(), 1u);
 }
 
@@ -194,6 +196,12 @@ TEST(Magnitudes, ofPlanets)
         {"2012-03-03T20:00:00Z", Body::Mars, -1.2, 0.2},
         {"2020-04-28T00:00:00Z", Body::Venus, -4.7, 0.15},
         {"2022-10-22T21:00:00Z", Body::Venus, -3.9, 0.1}, // beyond the Sun
+        // The samples that Mallama and Hilton (2018) publish with their formulas.
+        {"2006-10-28T00:00:00Z", Body::Venus, -3.917, 0.001},
+        {"2005-12-14T00:00:00Z", Body::Venus, -4.916, 0.001},
+        {"2004-06-08T00:00:00Z", Body::Venus, -3.090, 0.01}, // about to pass before the Sun
+        {"2004-09-21T00:00:00Z", Body::Jupiter, -1.667, 0.001},
+        {"2010-09-21T00:00:00Z", Body::Jupiter, -2.934, 0.001},
     };
     for (const auto& each : cases) {
         const auto found = magnitudeOf(each.body, Sky(instantOf(each.ut)));

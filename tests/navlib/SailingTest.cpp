@@ -97,6 +97,8 @@ TEST(GreatCircleArc, itsPointsAndCoursesAreThoseOfTheTrack)
     const auto across = GreatCircleArc({DegMin(-10), DegMin(0)}, {DegMin(10), DegMin(0)});
     EXPECT_NEAR((*across.runsAt(DegMin(0)))[0].value(), 10, 1e-9) << "northbound, then back";
     EXPECT_NEAR((*across.runsAt(DegMin(0)))[1].value(), 190, 1e-9);
+    const GreatCircleArc opposite({DegMin(10), DegMin(20)}, {DegMin(-10), DegMin(-160)});
+    EXPECT_NEAR(opposite.pointAt(Degrees(120)).longitude.packed(), 20, 1e-9) << "nowhere leads on";
     EXPECT_FALSE(across.latitudeAt(DegMin(0))) << "a meridian has no one latitude on itself";
     EXPECT_FALSE(GreatCircleArc(equator, {DegMin(0), DegMin(90)}).runsAt(DegMin(0)));
     EXPECT_FALSE(GreatCircleArc(equator, equator).latitudeAt(DegMin(20)));

@@ -299,10 +299,14 @@ TEST(RouteFiles, whatWasNotUnderstoodGoesBackIntoTheFile)
                                  "fuel=\"500.5\"",
                                  "name=\"second\"",
                                  "name=\"points\"",
+                                 "name=\"arrival\"",
+                                 "name=\"reckoned\"",
                                  "name=\"route\"",
                                  "kept <yard:b>whole</yard:b>",
                                  "id=\"42\" name=\"first\""})
             EXPECT_THAT(bytes, HasSubstr(text));
+        EXPECT_THAT(bytes, HasSubstr("<tag xmlns=\"" + namespaceOf(version) + "\"/>"));
+        EXPECT_EQ(bytes.find("xsi:schemaLocation") != bytes.npos, version == RtzVersion::V1_2);
         EXPECT_THAT(bytes, HasSubstr(version == RtzVersion::V1_0 ? "etaWindowBefore=\"01:30:00\""
                                                                  : "etaWindowBefore=\"PT1H30M\""));
         const ReadRoute again = readRtz(bytes);
