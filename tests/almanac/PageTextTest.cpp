@@ -51,6 +51,7 @@ DailyPage madeUp()
     page.planets[0] = {Body::Venus,   Degrees(319.6667), minutes(-0.41),
                        minutes(1.21), minutes(0.31),     first + 1 + (12 + 5 / 60.0) / 24};
     page.planets[3].body = Body::Saturn;
+    page.planets[3].change = minutes(-0.04);
     page.stars.assign(6, {*findBody("Sirius"), Degrees(258.9667), Degrees(-16.6833)});
     page.stars.push_back({*findBody("Polaris"), Degrees(315.5), Degrees(89.35)});
     PageDay& day = page.days[0];
@@ -82,6 +83,7 @@ DailyPage madeUp()
 TEST(PageText, everyFigureStandsInItsColumn)
 {
     const std::string text = pageText(madeUp());
+    EXPECT_THAT(text, ::testing::Not(HasSubstr("-0.0")));
     const std::string sirius = "18 Sirius          258 58.0 S 16 41.0";
     std::string twice = sirius;
     twice.append("  ").append(sirius);

@@ -391,6 +391,8 @@ TEST(RouteFiles, aMovedTangentPointIsAWaypoint)
                 .route.points.size(),
             points)
             << lat;
+    EXPECT_EQ(readRtz(replaced(bytes, "composite 44", "composite 60")).route.points.size(), 4u)
+        << "a limit that the circle does not reach";
     // Another program may leave our remarks out.
     EXPECT_EQ(readRtz(replaced(bytes, "leg=\"composite", "leg=\"great circle")).route.points.size(),
               4u);
