@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QFont>
+#include <QPalette>
 #include <QtGlobal>
 
 #include <cstdlib>
@@ -23,6 +25,20 @@ void hear(QtMsgType kind, const QMessageLogContext& context, const QString& said
     before(kind, context, said);
 }
 
+/// The letters and colours of the whole program are those of its start again, whatever a test
+/// chose: which test comes next depends on how many parts run at once.
+class AsAtTheStart : public ::testing::EmptyTestEventListener
+{
+    void OnTestEnd(const ::testing::TestInfo& /*test*/) override
+    {
+        if (QApplication::palette() != m_palette) QApplication::setPalette(m_palette);
+        if (QApplication::font() != m_font) QApplication::setFont(m_font);
+    }
+
+    QPalette m_palette = QApplication::palette();
+    QFont m_font = QApplication::font();
+};
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -33,6 +49,7 @@ try {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     before = qInstallMessageHandler(hear);
+    ::testing::UnitTest::GetInstance()->listeners().Append(new AsAtTheStart);
     korvel::testing::registerScenes();
     return RUN_ALL_TESTS();
 } catch (const std::exception& fault) { // a scene that cannot be read
