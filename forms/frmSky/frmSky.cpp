@@ -297,14 +297,14 @@ std::vector<PagePrinter::Draw> frmSky::almanacDrawings() const
 void frmSky::printAlmanac()
 {
     m_pages->turnTo(Almanac);
-    if (!m_page && !hasPage()) return showNotices();
+    if (!m_page) return showNotices();
     printer().print("Almanac", QPageLayout::Portrait, almanacDrawings());
 }
 
 void frmSky::saveAlmanac()
 {
     m_pages->turnTo(Almanac);
-    if (!m_page && !hasPage()) return showNotices();
+    if (!m_page) return showNotices();
     const std::string offered = "Almanac " + Format(m_page->firstDay, "yyyy-mm-dd") + ".pdf";
     const auto path = program().questions().fileToWrite("Save the almanac as PDF", offered);
     if (path && printer().write(*path, printer().PDF("Almanac", almanacDrawings()).toStdString()))

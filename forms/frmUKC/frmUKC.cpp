@@ -260,9 +260,7 @@ void frmUKC::addMenus()
 
 void frmUKC::goTo(const QString& place)
 {
-    const QString station = "station ";
-    if (!place.startsWith(station)) return CalculatorWindow::goTo(place);
-    m_boxes[Station]->setText(place.mid(station.size()));
+    m_boxes[Station]->setText(place.mid(QString("station ").size()));
     // What the ship is comes first where nothing is typed of her yet.
     m_boxes[m_boxes[Forward]->value().empty() ? Forward : Time]->setFocus(Qt::TabFocusReason);
 }

@@ -368,6 +368,8 @@ TEST(SkyUnknown, needsAllThatItRestsOn)
     const std::initializer_list<const char*> ship = {"1981/1/14", "-27.185", "67.18"};
     EXPECT_EQ(CalculateUnknown(withUnknown(ship, "", "", "")).notice, "");
     EXPECT_EQ(CalculateUnknown(withUnknown(ship, "15:22", "29.35", "")).answer, "");
+    EXPECT_THAT(CalculateUnknown(withUnknown(ship, "", "95", "")).notice,
+                HasSubstr("Altitude of the unknown body: "));
     EXPECT_THAT(CalculateUnknown(withUnknown(ship, "15:22", "95", "10")).notice,
                 HasSubstr("Altitude of the unknown body: "));
     EXPECT_THAT(CalculateUnknown(withUnknown({}, "15:22", "29", "10")).notice,

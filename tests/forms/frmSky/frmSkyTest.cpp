@@ -5,9 +5,13 @@
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHelpEvent>
+#include <QLabel>
 #include <QTest>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -158,7 +162,20 @@ TEST_F(frmSkyTest, discShowsTheSkyNorthOrHeadUp)
     for (int bearing = 0; bearing < 360; bearing += 5)
         EXPECT_FALSE(isDrawn(0, bearing, colours.equator)) << bearing;
     // What the disc tells beside the pointer: the body, and none between them.
-    type(window, "txtSky(8)", "\b");
+    type(window, "txtSky(8)", "");
+    click(window, "optUp(0)");
+    const auto tipAt = [&](double altitude, double bearing) {
+        const double radius = (90 - altitude) / 90, turn = bearing * 3.14159265 / 180;
+        const QPoint at = disc.toPixel(radius * std::sin(turn), radius * std::cos(turn)).toPoint();
+        QHelpEvent hover(QEvent::ToolTip, at, disc.mapToGlobal(at));
+        QApplication::sendEvent(&disc, &hover);
+        return QToolTip::text().toStdString();
+    };
+    EXPECT_THAT(tipAt(28.16, 46.8), ::testing::StartsWith("Mirfak  28°"));
+    EXPECT_THAT(tipAt(28.16, 46.8), ::testing::EndsWith("  046.8"));
+    EXPECT_THAT(tipAt(35.9, 0.8), ::testing::StartsWith("Polaris  35°"));
+    tipAt(-30, 45); // in the corner
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
@@ -169,6 +186,7 @@ TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
     EXPECT_EQ(rowsOf(window, "tblStars").rowCount(), 0);
     QTest::keyClick(&window, Qt::Key_F6);
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("There is no round yet."));
+    QTest::keyClick(&control(window, "picSky"), Qt::Key_Right); // there is none to go to
     type(window, "txtSky(0)", "2026/11/22 12:00\r35.123\r142.031\r");
     click(window, "cmdPage(1)");
     EXPECT_TRUE(control(window, "cmdSend").isEnabled());
@@ -187,6 +205,21 @@ TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
     click(window, "cmdNow");
     EXPECT_EQ(text(window, "txtSky(0)"), "2005/03/14 09:45");
     EXPECT_EQ(focused(), "txtSky(1)");
+    // Each box has what belongs behind it.
+    const auto behind = [&window](const char* name) {
+        const QWidget& box = control(window, name);
+        for (const QLabel* label : box.parentWidget()->findChildren<QLabel*>())
+            if (label->x() > box.geometry().right() && label->x() < box.geometry().right() + 30 &&
+                label->geometry().contains(label->x(), box.geometry().center().y()))
+                return label->text().toStdString();
+        return std::string("nothing");
+    };
+    EXPECT_EQ(behind("txtSky(3)"), "° true");
+    EXPECT_EQ(behind("txtSky(4)"), "kn");
+    EXPECT_EQ(behind("txtSky(13)"), "′, on the arc +");
+    EXPECT_EQ(behind("txtSky(7)"), "nothing");
+    EXPECT_EQ(static_cast<QAbstractButton&>(control(window, "cmdNow")).text(), "&Now (F5)");
+    EXPECT_EQ(control(window, "cmdNow").toolTip(), "The present time into the box");
     // Without a day the next one is that after the ship's today.
     type(window, "txtSky(1)", "");
     type(window, "txtSky(7)", "");
@@ -240,6 +273,11 @@ TEST_F(frmSkyTest, unknownBodyAndAlmanac)
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("Latitude"));
     click(window, "cmdPage(3)");
     EXPECT_EQ(window.notice(), "");
+    questions.willType(folder.filePath("pages.pdf").toStdString());
+    click(window, "cmdSaveAlmanac");
+    EXPECT_EQ(questions.offered.back(), "Almanac 2026-11-22.pdf");
+    EXPECT_THAT(fileText("pages.pdf"), ::testing::StartsWith("%PDF"));
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("Almanac saved."));
 }
 
 } // namespace

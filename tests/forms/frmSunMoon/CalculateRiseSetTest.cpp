@@ -2,6 +2,7 @@
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
 #include "forms/frmSunMoon/RiseSetWorking.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
@@ -230,6 +231,19 @@ TEST(CalculateRiseSet, listAndTable)
     EXPECT_THAT(table.rows[2],
                 ::testing::ElementsAre("3", "Beyond", "1", "70", "20", "", "", "", "", "", ""));
     EXPECT_EQ(table.rows[3][9], "") << "no moonrise";
+}
+
+TEST(CalculateRiseSet, anAzimuthThatThereIsNoneOfHasItsReasonOnPaper)
+{
+    RiseSetResult result = calculate({"2024/6/21", "Tokyo", "9", "35.393", "139.447"});
+    result.figures->azimuths[1].azimuth.reset();
+    const auto workings = riseSetWorkings({1, {}, &result, {}});
+    EXPECT_THAT(linesOf(*std::ranges::find(workings, "Sun's azimuth", &Working::title)),
+                ::testing::ElementsAre(
+                    HasSubstr("Declination for sunrise"), HasSubstr("arccos"), HasSubstr("<060.7>"),
+                    HasSubstr("Declination for sunset"),
+                    ::testing::MatchesRegex(
+                        "Azimuth of sunset: sin 23\\.[0-9]+° / cos 35\\.[0-9]+° = none")));
 }
 
 TEST(CalculateRiseSet, scrollBarAndDate)

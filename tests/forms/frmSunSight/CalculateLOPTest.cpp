@@ -3,11 +3,13 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/paper/SightWorking.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/golden/Golden.h"
 
@@ -173,6 +175,13 @@ TEST(CalculateLOP, azimuthOnTheMeridianAndThePrimeVertical)
     EXPECT_NEAR(azimuth(0, 20, 35, 0), 180, 1e-5);
     EXPECT_NEAR(azimuth(0, 20, 10, 0), 0, 1e-5);
     EXPECT_NEAR(azimuth(270, 0, 0, 30), 90, 1e-9);
+    LOPResult line = CalculateLOP(morning2020, track2020, {});
+    line.figures.isByQuotient = false;
+    const auto workings = sightWorkings(morning2020, line);
+    EXPECT_THAT(
+        linesOf(workings.back()),
+        ::testing::Contains(::testing::MatchesRegex(
+            "Azimuth, on the meridian or the prime vertical: arctan\\(-cos .* = 124\\.[0-9]+ °")));
 }
 
 TEST(CalculateLOP, anglesAndSpansInWords)
@@ -216,6 +225,14 @@ TEST(MeridianPassage, latitudeBySightsNearNoon)
             EXPECT_NEAR(tenthsOf(shown[i]), expected, 3) << row << shown[i];
         }
     }
+    // 20.2 minutes off it: what the window does not take for a latitude itself.
+    const MeridianResult off =
+        CalculateMeridian(worked::sight("2020/12/17", "15:30:00", "52.020", "", ""),
+                          {"14.000", "-48.211", "", "", ""}, {});
+    EXPECT_THAT(linesOf(*meridianWorking(off)),
+                ::testing::Contains(
+                    ::testing::AllOf(::testing::StartsWith("Reduction to the meridian: φ = χ ± ζ"),
+                                     HasSubstr(" = Ex-meridian 14-.00'0N, reduced by "))));
 }
 
 } // namespace

@@ -127,6 +127,19 @@ TEST_F(frmSunSightTest, keysAndPointerMoveThePlot)
     press(Qt::Key_Home);
     EXPECT_EQ(view().half, 40);
     EXPECT_EQ(view().centre.x, 0);
+    // Its scale is the round number from a quarter of that half on.
+    for (const auto& [half, miles] : {std::pair(3.9, "1 nm"),
+                                      {8, "2 nm"},
+                                      {40, "10 nm"},
+                                      {41, "20 nm"},
+                                      {200, "50 nm"},
+                                      {201, "100 nm"}}) {
+        SightPlot plot = picture.plot();
+        plot.view.half = half;
+        picture.showPlot(plot);
+        EXPECT_EQ(picture.lettering()[0].words, miles) << half;
+    }
+    press(Qt::Key_Home);
     EXPECT_EQ(window.notice().toStdString().find("outside the plot"), std::string::npos);
     for (int step = 0; step < 20; ++step)
         press(Qt::Key_Plus);
@@ -190,6 +203,11 @@ TEST_F(frmSunSightTest, thePointerReadsThePosition)
     EXPECT_THAT(text(window, "lblSunCursor(1)"), StartsWith("052.-3")) << "20 miles west";
     point({1, 1});
     EXPECT_EQ(text(window, "lblSunCursor(0)"), "");
+    point(picture.toPixel(-20, 30));
+    EXPECT_NE(text(window, "lblSunCursor(1)"), "");
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&picture, &leave);
+    EXPECT_EQ(text(window, "lblSunCursor(0)") + text(window, "lblSunCursor(1)"), "");
 }
 
 TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)

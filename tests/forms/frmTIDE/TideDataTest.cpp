@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/data/TideData.h"
 
+#include "forms/frmTIDE/data/TideExtension.h"
 #include "forms/frmTIDE/stations/StationList.h"
 #include "forms/frmTIDE/stations/Stations.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
@@ -87,6 +88,39 @@ TEST(Factors, malformedFilesAreReadOrRefused)
     }
     beside.files.files.erase("AF2005.txt");
     EXPECT_THROW(readDaysFactors(beside.files, 0), TideDataFault);
+}
+
+/// A disk of which the beginning of the factors can be read, and no more.
+class FailingDisk : public korvel::testing::FakeFiles
+{
+public:
+    Content read(const std::string&) override
+    {
+        return {Content::Status::Unreadable, {}, "the disk fails", {}};
+    }
+    Content readAt(const std::string& name, std::int64_t offset, std::size_t length) override
+    {
+        return name == "AF2005.txt" ? FakeFiles::readAt(name, offset, length) : read(name);
+    }
+};
+
+TEST(TideFiles, whatCannotBeReadIsSaidOfTheWholeFileAndNothingIsWrittenOverIt)
+{
+    FailingDisk disk;
+    disk.files["AF2005.txt"] = "short";
+    try {
+        readDaysFactors(disk, 0);
+        ADD_FAILURE() << "read";
+    } catch (const TideDataFault& fault) {
+        EXPECT_STREQ(fault.what(), "AF2005.txt: the file cannot be read: the disk fails.");
+    }
+    EXPECT_EQ(stationFault(disk, "X"),
+              "Harmonic Constants/HC_X.txt: the file cannot be read: the disk fails.");
+    const ExtensionResult result = extendFactors(disk, 2006, {});
+    EXPECT_FALSE(result.isDone);
+    EXPECT_THAT(result.text, HasSubstr("The predictions were not extended. folder/AF2005.txt: the "
+                                       "disk fails."));
+    EXPECT_EQ(disk.files["AF2005.txt"], "short");
 }
 
 TEST(StationFile, readsWhatSequentialInputReads)

@@ -9,6 +9,7 @@
 #include "shell/screen/ColourScheme.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/forms/frmTIDE/TideWindow.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
@@ -86,6 +87,33 @@ TEST_F(frmTIDESheetTest, aDayOfManyWatersHasSmallerOnes)
     };
     EXPECT_EQ(lettersOfOne(6), lettersOf(Weight::Figure));
     EXPECT_NE(lettersOfOne(7), lettersOf(Weight::Figure));
+}
+
+// A part that is selected to be copied is seen, in the text as it is copied; all of it in its
+// places.
+TEST_F(frmTIDESheetTest, whatIsSelectedOfALabelIsSeen)
+{
+    WaterLabel water(nullptr);
+    NowLabel now(nullptr);
+    const std::pair<ResultLabel*, const char*> labels[] = {
+        {&water, "High water 04:57   1.87 m"}, {&now, "Now, 09:45   1.23 m falling   springs"}};
+    for (const auto& [label, words] : labels) {
+        label->setText(words);
+        label->setTextInteractionFlags(Qt::TextSelectableByKeyboard);
+        label->resize(label->sizeHint());
+        const auto pieces = [each = label] {
+            PaintedTexts sheet(each->size());
+            each->render(&sheet);
+            return sheet.texts().size();
+        };
+        const auto whole = pieces();
+        label->setSelection(0, int(label->text().size()));
+        EXPECT_EQ(pieces(), whole) << words;
+        label->setSelection(5, 3);
+        EXPECT_LT(pieces(), whole) << words;
+        label->setText("");
+        EXPECT_EQ(pieces(), 0U);
+    }
 }
 
 TEST_F(frmTIDESheetTest, theCurveStaysAndKeepsItsHeightAtTwiceTheSize)

@@ -21,6 +21,7 @@
 #include <QMenuBar>
 #include <QPicture>
 #include <QProgressBar>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTableWidget>
 #include <QTest>
@@ -149,6 +150,7 @@ TEST_F(frmTIDETest, tablesOfAWeekAndOfAFile)
     whileShown(window, "mnuStation(1)", "dlgCheck", [](QWidget& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Harmonic Constants/HC_Yokohama.txt");
         EXPECT_THAT(text(dialog, "lblSummary"), HasSubstr("all 27 fields are good"));
+        EXPECT_LE(dialog.height(), dialog.screen()->availableSize().height()) << "27 lines";
         EXPECT_EQ(rowOf(dialog, 0), "1 | Title | Yokohama |  | good | ");
         EXPECT_EQ(rowOf(dialog, 1), "2 | Zone time, east positive | 9 | h | good | ");
     });
@@ -185,6 +187,15 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     auto& picture = static_cast<PictureBox&>(control(window, "picTIDE"));
     QTest::mouseMove(&picture, picture.toPixel(5, 0).toPoint());
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("1.87m"));
+    const QImage curve = picture.grab().toImage();
+    const auto isMarked = [&](double hour, double height) {
+        const QPoint at = picture.toPixel(hour, height).toPoint();
+        return coloursOf(curve, QRect(at - QPoint(2, 2), QSize(5, 5)))
+            .contains(program().colours().marker.rgb());
+    };
+    EXPECT_TRUE(isMarked(5, 1.87));
+    press(window, "picTIDE", {Qt::Key_Escape, Qt::Key_Left});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("11:50  ")) << "from noon";
     press(window, "picTIDE", {Qt::Key_End});
     press(window, "picTIDE", {Qt::Key_Right, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30  1.09m"));

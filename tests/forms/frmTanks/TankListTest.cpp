@@ -36,6 +36,25 @@ TEST(TankList, cargoOfAnUllageReport)
     EXPECT_EQ(totalsRows(work.reckoning(ListKind::Cargo), TotalsOf::Moved).back().inVacuo,
               "8161.216");
     EXPECT_EQ(tanksShown(work).notices[0], "");
+    // What was moved is what is on board after less before, in every column.
+    sheet = loading();
+    sheet.list(ListKind::Cargo).rows[1].surveys[0] = {"", "31.5", "1.25", "20", "2"};
+    sheet.list(ListKind::Cargo).grades[1].sediment = "0.5";
+    work = inHand(sheet);
+    const auto columnsOf = [&](TotalsOf of) {
+        const TotalsRow row = totalsRows(work.reckoning(ListKind::Cargo), of).back();
+        return std::vector{std::stod(row.observed), std::stod(row.water),   std::stod(row.gross),
+                           std::stod(row.standard), std::stod(row.net),     std::stod(row.total),
+                           std::stod(row.barrels),  std::stod(row.inVacuo), std::stod(row.inAir),
+                           std::stod(row.netInAir), std::stod(row.longTons)};
+    };
+    const auto first = columnsOf(TotalsOf::First), last = columnsOf(TotalsOf::Last),
+               moved = columnsOf(TotalsOf::Moved);
+    for (std::size_t i = 0; i < moved.size(); ++i)
+        EXPECT_NEAR(moved[i], last[i] - first[i], 0.011) << i;
+    TankList nameless;
+    nameless.rows.resize(2);
+    EXPECT_EQ(tankName(nameless, 1), "Row 2");
 }
 
 TEST(TankList, unitsOfATankAreThoseOfTheSheet)
@@ -295,6 +314,8 @@ TEST(TankList, recordComesBackAsItWas)
     for (std::size_t end = 0; end < text.size(); ++end) // cut anywhere it is read as far as it goes
         readTankRecord(std::string_view(text).substr(0, end));
     EXPECT_EQ(readTankRecord("\"noon\"\r\n").damage, "line 1: it is no tank list");
+    EXPECT_EQ(readTankRecord("KORVEL2000 tank list 1\nport=\xFF\n").damage,
+              "line 2: it cannot be read");
     EXPECT_EQ(readTankRecord("KORVEL2000 tank list 1\nedition=1952\n").damage,
               "line 2: no such choice");
     EXPECT_EQ(
@@ -386,6 +407,7 @@ TEST(TankCsv, whatIsWrongIsNamedByLineAndField)
         {"an infinity", "tank,volume\n1,inf\n", "\"inf\" is no number"},
         {"cut in a line", "tank,volume,water\n1,2\n", "line 2: fewer fields than columns"},
         {"too many fields", "tank,volume\n1,2,3\n", "line 2: more fields"},
+        {"a heading that never ends", "\"tank,volume\n1,2\n", "line 1: a double quote"},
         {"a quote that never ends", "tank,volume\n\"1,2\n3,4\n", "line 2: a double quote"},
         {"a tank twice", "tank,volume\n1,2\n1,3\n", "line 3: tank: \"1\" is there twice"},
         {"no name", "tank,volume\n ,2\n", "line 2: tank: the tank has no name"},

@@ -195,6 +195,7 @@ UKCInput stopped(const char* charted)
 
 TEST(CalculateUKC, whatIsJustKeptIsKept)
 {
+    EXPECT_THAT(CalculateUKC(stopped("0"), {}).notice, HasSubstr("no water at this tide"));
     const UKCResult kept = CalculateUKC(stopped("12"), {});
     EXPECT_EQ(kept.over, "+0.00");
     EXPECT_EQ(kept.speed, "0.0");
