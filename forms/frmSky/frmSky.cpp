@@ -21,7 +21,6 @@
 #include <QMenu>
 #include <QVBoxLayout>
 
-#include <charconv>
 #include <cmath>
 
 namespace korvel
@@ -333,8 +332,7 @@ std::string frmSky::take(const std::string& bytes)
     const auto put = [this](std::string_view key, const std::string& value) {
         for (std::size_t i = 0; i < SkyFields.size(); ++i)
             if (key == SkyFields[i].name) m_boxes[i]->setText(asQString(value));
-        int chosen = -1;
-        std::from_chars(value.data(), value.data() + value.size(), chosen);
+        const int chosen = value.size() == 1 ? value[0] - '0' : -1;
         for (const Choice& each : choices())
             if (key == each.key) each.choice.set(chosen);
     };

@@ -135,7 +135,7 @@ MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trac
         result = {};
         result.note = std::string("Meridian passage: ") + error.what();
     } catch (const almanac::OutOfRange&) {
-        return result; // the passage lies beyond the last year of the almanac: none is shown
+        // The passage lies beyond the last year of the almanac: none is shown.
     }
     return result;
 }

@@ -233,17 +233,24 @@ TEST(CalculateRiseSet, listAndTable)
     EXPECT_EQ(table.rows[3][9], "") << "no moonrise";
 }
 
-TEST(CalculateRiseSet, anAzimuthThatThereIsNoneOfHasItsReasonOnPaper)
+TEST(CalculateRiseSet, thePaperSaysWhyThereIsNone)
 {
-    RiseSetResult result = calculate({"2024/6/21", "Tokyo", "9", "35.393", "139.447"});
-    result.figures->azimuths[1].azimuth.reset();
-    const auto workings = riseSetWorkings({1, {}, &result, {}});
-    EXPECT_THAT(linesOf(*std::ranges::find(workings, "Sun's azimuth", &Working::title)),
-                ::testing::ElementsAre(
-                    HasSubstr("Declination for sunrise"), HasSubstr("arccos"), HasSubstr("<060.7>"),
-                    HasSubstr("Declination for sunset"),
-                    ::testing::MatchesRegex(
-                        "Azimuth of sunset: sin 23\\.[0-9]+° / cos 35\\.[0-9]+° = none")));
+    enum { Sunrise = 1, Moonrise = 3, Azimuths = 5 };
+    const auto workingsOf = [](const RiseSetInput& input) {
+        RiseSetResult result = calculate(input);
+        result.figures->azimuths[1].azimuth.reset(); // nowhere within the limits
+        return riseSetWorkings({1, input, &result, {}});
+    };
+    EXPECT_EQ(workingsOf({"9999/12/31", "", "9", "35.393", "139.447"})[Sunrise].whyNone,
+              "The calendar ends before the search does.");
+    EXPECT_EQ(workingsOf({"2024/1/4", "", "9", "35.27", "139.39"})[Moonrise].whyNone,
+              "Neither search finds a moonrise on this date.");
+    const auto bergen = workingsOf({"2024/6/21", "", "1.7", "60.235", "5.193"});
+    EXPECT_EQ(bergen[Moonrise].whyNone, "");
+    EXPECT_EQ(linesOf(bergen[Moonrise]).back(),
+              "Refined time: no start leads to an event on the date = none");
+    EXPECT_THAT(linesOf(bergen[Azimuths]).back(),
+                ::testing::MatchesRegex("Azimuth of sunset: sin 23\\..* / cos 60\\..* = none"));
 }
 
 TEST(CalculateRiseSet, scrollBarAndDate)
