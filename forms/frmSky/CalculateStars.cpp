@@ -138,7 +138,7 @@ private:
     {
         const auto sextant = almanac::sextantAltitude(place, body, almanac::Limb::Lower,
                                                       meanAir(ship().eye), ship().at(*m_found.utc));
-        return sextant ? *sextant + ship().indexError : Degrees(0);
+        return sextant.value_or(Degrees()) + ship().indexError; // a body that is seen has one
     }
 
     void tellPolaris(const Direction& seen)
@@ -194,7 +194,6 @@ private:
     void judgeRound(const std::vector<almanac::RoundBody>& round)
     {
         const double square = almanac::errorOfRound(round);
-        if (!std::isfinite(square)) return;
         m_found.quality = Format(std::sqrt(square), "0.0") + " × the error of a sight";
         constexpr double poor = 9;
         if (square > poor)

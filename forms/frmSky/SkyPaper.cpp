@@ -89,7 +89,7 @@ void tellStars(WorkingPaper& paper, const SkyDay& day, const SkyStars& stars)
     for (PaperTable* table : {&round, &others})
         if (!table->rows.empty()) paper.tables.push_back(std::move(*table));
     if (!list.rows.empty()) paper.list = std::move(list);
-    if (day.ship && stars.utc) {
+    if (stars.utc) {
         paper.results.push_back({"Day", day.date});
         paper.results.push_back({"Height of the Sun", altitudeText(stars.sun.altitude)});
     }

@@ -253,7 +253,7 @@ PaperTable likelyTable(const UnknownResult& found)
 
 std::vector<Working> starsWorkings(const SkyDay& day, const SkyStars& stars)
 {
-    if (!day.ship || !stars.utc) return {};
+    if (!stars.utc) return {};
     std::vector<Working> workings{minuteWorking(day, stars)};
     if (stars.roundSize() > 0) workings.push_back(presetWorking(day, stars));
     if (!stars.quality.empty()) workings.push_back(errorWorking(stars));

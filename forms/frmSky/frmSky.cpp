@@ -21,7 +21,6 @@
 #include <QMenu>
 #include <QVBoxLayout>
 
-#include <charconv>
 #include <cmath>
 
 namespace korvel
@@ -297,14 +296,14 @@ std::vector<PagePrinter::Draw> frmSky::almanacDrawings() const
 void frmSky::printAlmanac()
 {
     m_pages->turnTo(Almanac);
-    if (!m_page && !hasPage()) return showNotices();
+    if (!m_page) return showNotices();
     printer().print("Almanac", QPageLayout::Portrait, almanacDrawings());
 }
 
 void frmSky::saveAlmanac()
 {
     m_pages->turnTo(Almanac);
-    if (!m_page && !hasPage()) return showNotices();
+    if (!m_page) return showNotices();
     const std::string offered = "Almanac " + Format(m_page->firstDay, "yyyy-mm-dd") + ".pdf";
     const auto path = program().questions().fileToWrite("Save the almanac as PDF", offered);
     if (path && printer().write(*path, printer().PDF("Almanac", almanacDrawings()).toStdString()))
@@ -333,8 +332,7 @@ std::string frmSky::take(const std::string& bytes)
     const auto put = [this](std::string_view key, const std::string& value) {
         for (std::size_t i = 0; i < SkyFields.size(); ++i)
             if (key == SkyFields[i].name) m_boxes[i]->setText(asQString(value));
-        int chosen = -1;
-        std::from_chars(value.data(), value.data() + value.size(), chosen);
+        const int chosen = value.size() == 1 ? value[0] - '0' : -1;
         for (const Choice& each : choices())
             if (key == each.key) each.choice.set(chosen);
     };

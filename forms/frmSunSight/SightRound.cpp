@@ -27,9 +27,7 @@ std::optional<std::size_t> frmSunSight::chosenPlanned()
     const auto chosen = m_sights->chosen();
     const std::size_t recorded = m_list.list().sights().size();
     if (!chosen || *chosen < recorded) return std::nullopt;
-    const std::size_t index = *chosen - recorded;
-    if (index >= program().plannedSights().size()) return std::nullopt;
-    return index;
+    return *chosen - recorded;
 }
 
 /// The next sight is the chosen one of the plan: its body stands in its box, what the last sight

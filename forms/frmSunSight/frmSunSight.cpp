@@ -177,7 +177,6 @@ void frmSunSight::loadBodies()
 
 void frmSunSight::saveBodies()
 {
-    if (calculations().isHeld()) return;
     const std::string bytes =
         sightBodiesText({m_entry->sight(), m_entry->track(), options(), m_list.list()});
     // Who never took another body than the Sun has no such file.

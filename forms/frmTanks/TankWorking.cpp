@@ -51,14 +51,16 @@ std::string addFactor(Working& working, const ReadGrade& grade, const TankFigure
     if (at60F)
         working.step("Density at 60 °F", "141.5 × water / (131.5 + API)", "API " + plain(grade.api),
                      plain(NavFunc113::Density60FromAPI(grade.api, choices.edition)), "kg/m³");
+    const bool of1980 = choices.edition == CrudeEdition::Of1980;
+    const char* unit = at60F || !of1980 ? "per °F" : "per °C";
     if (grade.table->table == OilTable::Own)
-        working.step("Coefficient of expansion", "as given", "", figure(correction.alpha, 8),
-                     at60F ? "per °F" : "per °C");
+        working.step("Coefficient of expansion", "as given",
+                     of1980 ? "" : plain(grade.oil->coefficient) + " / 1.8",
+                     figure(correction.alpha, 8), unit);
     else
         working.step("Coefficient of expansion", "α = K0 / ρ² + K1 / ρ + K2",
-                     alphaFigures(correction), figure(correction.alpha, 8),
-                     at60F || choices.edition == CrudeEdition::Of2004 ? "per °F" : "per °C");
-    if (choices.edition == CrudeEdition::Of1980) {
+                     alphaFigures(correction), figure(correction.alpha, 8), unit);
+    if (of1980) {
         const std::string dt = plain(*figures.temperature) + (at60F ? " - 60" : " - 15");
         working.step("Volume correction factor", "VCF = exp(-α Δt (1 + 0.8 α Δt))", "Δt = " + dt,
                      figure(correction.factor, 7));

@@ -260,8 +260,7 @@ void frmUKC::addMenus()
 
 void frmUKC::goTo(const QString& place)
 {
-    const QString station = "station ";
-    if (!place.startsWith(station)) return CalculatorWindow::goTo(place);
+    const QString station = "station "; // as the tide window asks for it
     m_boxes[Station]->setText(place.mid(station.size()));
     // What the ship is comes first where nothing is typed of her yet.
     m_boxes[m_boxes[Forward]->value().empty() ? Forward : Time]->setFocus(Qt::TabFocusReason);

@@ -15,12 +15,12 @@ namespace
 using NavFunc113::Degrees;
 using NavFunc113::Knots;
 
-constexpr double margin = 1.15;      // of the outermost ring, for the labels
-constexpr Knots strongestShown(200); // beyond, vectors leave the picture
+constexpr double margin = 1.15;     // of the outermost ring, for the labels
+constexpr Knots longestDrawn(2000); // far outside the picture, and what a painter can still clip
 
 WindVector vectorOf(Degrees bearing, Knots speed)
 {
-    const Knots length = std::min(speed, 10 * strongestShown); // what a painter can still clip
+    const Knots length = std::min(speed, longestDrawn);
     return {length.value() * sin(bearing), length.value() * cos(bearing)};
 }
 
@@ -37,8 +37,7 @@ Knots ringStepFor(Knots strongest)
 WindPicture pictureOfWind(const WindFigures& figures, WindOrientation orientation, Knots heldRadius)
 {
     WindPicture picture;
-    const Knots strongest = std::min(
-        std::max({figures.shipSpeed, figures.apparentSpeed, figures.trueSpeed}), strongestShown);
+    const Knots strongest = std::max({figures.shipSpeed, figures.apparentSpeed, figures.trueSpeed});
     const Knots step = heldRadius > Knots(0) ? heldRadius / 4 : ringStepFor(strongest);
     for (int ring = 1; ring <= 4; ++ring)
         picture.rings.push_back(ring * step);

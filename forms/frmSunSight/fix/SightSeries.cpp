@@ -143,9 +143,8 @@ void fitSeries(const std::vector<Observation>& observations, const Track& track,
             continue;
         }
         SightSeries fit = fitOf(shots, result.lines, errors);
-        const auto DR = track.at(fit.UTC);
-        if (!DR) return;
-        lines.push_back(lineOf(fit, observations[shots.front()], *DR, errors, *result.UTC));
+        const Position DR = track.at(fit.UTC).value(); // between those of its shots
+        lines.push_back(lineOf(fit, observations[shots.front()], DR, errors, *result.UTC));
         result.series.push_back(fit);
     }
     result.lines = lines;

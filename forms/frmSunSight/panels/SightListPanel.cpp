@@ -33,7 +33,6 @@ SightListPanel::SightListPanel(QWidget* parent)
     m_lstSunSight->setObjectName("lstSunSight");
     m_lstSunSight->setAccessibleName("Recorded sights; the space bar switches one on and off");
     connect(m_lstSunSight, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
-        if (m_lstSunSight->row(item) >= m_recorded) return;
         emit switched(static_cast<std::size_t>(m_lstSunSight->row(item)),
                       item->checkState() == Qt::Checked);
     });

@@ -176,7 +176,6 @@ std::vector<QPointF> SightPicture::pointsFor(const PlotLine& line) const
 
 std::vector<SightPicture::Lettering> SightPicture::lettering() const
 {
-    if (!m_plot.middle) return {};
     const QFontMetricsF metrics(letterMetrics());
     PlotLettering places(plotArea(), unit());
     keepOffMarks(places);

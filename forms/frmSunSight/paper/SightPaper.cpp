@@ -85,8 +85,7 @@ void addLineResults(const SightPaperParts& parts, WorkingPaper& paper)
               seen.corrections ? angleInFull(seen.corrections->Ho) : "");
     addResult(paper, "Declination", line.declination,
               seen.declination ? positionForCopy(*seen.declination, Axis::Latitude) : "");
-    addResult(paper, "Greenwich hour angle", line.GHA,
-              seen.GHA ? angleInFull(withinCircle(*seen.GHA)) : "");
+    addResult(paper, "Greenwich hour angle", line.GHA, seen.GHA ? angleInFull(*seen.GHA) : "");
     if (const auto& DR = line.figures.DR)
         addResult(paper, "DR at the sight", line.DR,
                   positionForCopy(DegToDegMin(DR->latitude), DegToDegMin(DR->longitude)));
@@ -203,7 +202,7 @@ std::vector<std::string> exportedRow(const ListedSight& sight)
                                       figure(corrections.sea, 1),
                                       figure(corrections.pressure, 1),
                                       figure(DegMinToDeg(observedOf(sight)), 5),
-                                      figure(DegMinToDeg(withinCircle(*sight.seen.GHA)), 5),
+                                      figure(DegMinToDeg(*sight.seen.GHA), 5),
                                       figure(DegMinToDeg(*sight.seen.declination), 5)};
     cells.push_back(sight.line ? figure(sight.line->line.intercept, 3) : "");
     cells.push_back(sight.line ? figure(sight.line->line.azimuth, 3) : "");

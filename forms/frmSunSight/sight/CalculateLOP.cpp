@@ -150,7 +150,7 @@ LOPResult CalculateLOP(const SightTexts& sight, const TrackTexts& trackTexts,
         remarks.warn("TD is not the ship's, which is " + Format(*shipsTD, "0.##"));
     std::optional<Position> DR;
     if (observation.GHA && observation.declination) {
-        result.GHA = angleText(withinCircle(*observation.GHA));
+        result.GHA = angleText(*observation.GHA);
         result.declination = angleText(*observation.declination);
         DR = track.at(*observation.UTC);
         if (DR) observation = observation.takenAt(*DR);

@@ -71,19 +71,14 @@ void latitudeBySight(const Observation& observation, const Position& ship, Merid
     figures.GHA = DegMinToDeg(*observation.GHA);
     figures.longitude = ship.longitude;
     figures.hourAngle = hourAngle;
-    if (!IsNearMeridian(hourAngle, Ho)) {
+    const auto latitudes = LatitudesByAltitude(declination, Ho, hourAngle);
+    if (!latitudes || !IsNearMeridian(hourAngle, Ho)) {
         // Further off than the window reduces by itself: the officer weighs what it is worth.
         if (const auto reduced = ReducedToMeridian(declination, Ho, hourAngle, ship.latitude);
             reduced && reduced->isUpper && reduced->isWithinLimit())
             result.exMeridian = exMeridianText(*reduced);
         result.note = "No latitude: the sight is not near the meridian, " +
                       Format(fabs(hourAngle).value() * 4, "0.0") + " min from it";
-        return;
-    }
-    const auto latitudes = LatitudesByAltitude(declination, Ho, hourAngle);
-    if (!latitudes) {
-        result.note = "No latitude: the Sun stands so high nowhere on the meridian of the DR "
-                      "position";
         return;
     }
     const bool isSouth = ship.latitude > latitudes->between;
@@ -140,7 +135,7 @@ MeridianResult CalculateMeridian(const SightTexts& sight, const TrackTexts& trac
         result = {};
         result.note = std::string("Meridian passage: ") + error.what();
     } catch (const almanac::OutOfRange&) {
-        result.noon.clear(); // the passage lies beyond the last year of the almanac
+        // The passage lies beyond the last year of the almanac: none is shown.
     }
     return result;
 }

@@ -228,9 +228,7 @@ Sight Observation::sight(DateTime timeOfFix) const
 
 std::optional<Position> Track::at(DateTime instant) const
 {
-    if (!position || !timeUsable) return std::nullopt;
-    if (!UTC) return position;
-    if (!motion) return std::nullopt;
+    if (!position || !UTC || !motion) return std::nullopt;
     try {
         const Position there = Advanced(*position, *motion, Hours((instant - *UTC) * 24));
         if (fabs(there.latitude) > Degrees(89)) return std::nullopt;

@@ -29,12 +29,6 @@ Degrees azimuthOfSun(DegMin GHA, DegMin declination, const Position& position)
     return PlaceAboveHorizon(DegMinToDeg(GHA), DegMinToDeg(declination), position).azimuth;
 }
 
-DegMin withinCircle(DegMin GHA)
-{
-    const Degrees degrees = DegMinToDeg(GHA);
-    return DegToDegMin(degrees < Degrees(0) ? degrees + fullTurn : degrees);
-}
-
 std::string angleText(DegMin angle)
 {
     return Format(angle, "0.-00'0");

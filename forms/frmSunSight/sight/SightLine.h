@@ -21,9 +21,6 @@ std::optional<NavFunc113::Degrees> azimuthByQuotient(NavFunc113::DegMin GHA,
                                                      NavFunc113::DegMin declination,
                                                      const NavFunc113::Position& position);
 
-/// A GHA of the library as it is shown, 0 to 360.
-NavFunc113::DegMin withinCircle(NavFunc113::DegMin GHA);
-
 /// "24.-31'3".
 std::string angleText(NavFunc113::DegMin angle);
 

@@ -114,7 +114,7 @@ SightList::Outcome SightList::replace(std::size_t index, const SightTexts& texts
 
 void SightList::setOn(std::size_t index, bool on)
 {
-    if (index < m_sights.size()) m_sights[index].on = on;
+    m_sights.at(index).on = on;
 }
 
 void SightList::setBody(std::size_t index, const std::string& body)

@@ -16,8 +16,8 @@ namespace
 {
 
 struct Entry {
-    double zone = 0;
-    double meanLevel = 0;
+    double zone{};
+    double meanLevel{};
     std::vector<tidedata::HarmonicConstant> constants;
 };
 

@@ -56,7 +56,6 @@ std::string setOf(const TidePrediction& prediction, double rate)
 {
     if (std::fabs(rate) < 0.05) return " slack";
     const double towards = prediction.floodDirection.value() + (rate > 0 ? 0 : 180);
-    if (!std::isfinite(towards)) return {};
     NavFunc113::Degrees direction(std::fmod(towards, 360));
     if (direction < NavFunc113::Degrees(0)) direction += NavFunc113::fullTurn;
     return " " + NavFunc113::CompassName(direction);

@@ -255,7 +255,6 @@ QRegion frmTIDEPicture::labelsOnGrid() const
 std::vector<CurvePoint> frmTIDEPicture::marks() const
 {
     std::vector<CurvePoint> points;
-    if (!m_prediction || !m_prediction->day) return points;
     for (const NavFunc113::Hours time : m_markedTimes)
         points.push_back({time.value(), m_prediction->at(time)});
     return points;

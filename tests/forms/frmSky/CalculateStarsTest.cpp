@@ -4,6 +4,7 @@
 #include "almanac/horizon.h"
 #include "app/reading/Format.h"
 #include "forms/frmSky/CalculateUnknown.h"
+#include "forms/frmSky/SkyWorking.h"
 #include "navlib/angles.h"
 #include "tests/forms/frmSky/SkyInputs.h"
 
@@ -251,6 +252,8 @@ TEST(SkyStars, indexErrorIsPutOnPresetsAndTakenOffReadings)
     EXPECT_THAT(CalculateDay(input, places).notice, HasSubstr("Index error: "));
     // A preset below 0, of a body on the horizon, keeps its sign.
     EXPECT_EQ(presetText(NavFunc113::Degrees(-0.5)), "-00°30'");
+    EXPECT_EQ(presetText(NavFunc113::Degrees(-0.017)), "-00°01'");
+    EXPECT_EQ(presetText(NavFunc113::Degrees(-0.008)), "00°00'");
     EXPECT_EQ(presetText(NavFunc113::Degrees(34.1999)), "34°12'");
 }
 
@@ -260,6 +263,7 @@ TEST(SkyStars, sayWhatSpoilsThem)
     EXPECT_THAT(starsOf(day, "12:00").notice, HasSubstr("stars are hardly seen"));
     EXPECT_THAT(starsOf(day, "23:00").notice, HasSubstr("which is dark"));
     EXPECT_THAT(starsOf(day, "25:00").notice, HasSubstr("Minute of the stars: "));
+    EXPECT_TRUE(starsWorkings(day, starsOf(day, "25:00")).empty());
     EXPECT_FALSE(starsOf(day, "2026/12/22 18:00").utc);
     EXPECT_EQ(starsOf(day, "2026/11/23 5:00").utc, starsOf(day, "2026/11/23 05:00:00").utc);
     const SkyDay summer = dayOf({"2026/6/21 12:00", "75", "20", "", "", "", "1"});
@@ -368,6 +372,8 @@ TEST(SkyUnknown, needsAllThatItRestsOn)
     const std::initializer_list<const char*> ship = {"1981/1/14", "-27.185", "67.18"};
     EXPECT_EQ(CalculateUnknown(withUnknown(ship, "", "", "")).notice, "");
     EXPECT_EQ(CalculateUnknown(withUnknown(ship, "15:22", "29.35", "")).answer, "");
+    EXPECT_THAT(CalculateUnknown(withUnknown(ship, "", "95", "")).notice,
+                HasSubstr("Altitude of the unknown body: "));
     EXPECT_THAT(CalculateUnknown(withUnknown(ship, "15:22", "95", "10")).notice,
                 HasSubstr("Altitude of the unknown body: "));
     EXPECT_THAT(CalculateUnknown(withUnknown({}, "15:22", "29", "10")).notice,

@@ -7,7 +7,10 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QHelpEvent>
+#include <QLabel>
 #include <QTest>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -34,6 +37,11 @@ protected:
     static QAbstractItemModel& rowsOf(const QWidget& window, const char* table)
     {
         return *dynamic_cast<QAbstractItemView&>(control(window, table)).model();
+    }
+    static QPoint placeOf(const SkyDisc& disc, double altitude, double bearing)
+    {
+        const double radius = (90 - altitude) / 90, turn = bearing * 3.14159265 / 180;
+        return disc.toPixel(radius * std::sin(turn), radius * std::cos(turn)).toPoint();
     }
     static int roundOf(const QWidget& window)
     {
@@ -91,14 +99,10 @@ TEST_F(frmSkyTest, discAndTableChooseTheSameBody)
     const int west = table.currentIndex().row();
     EXPECT_GT(west, 4);
     // A press on a star: Mirfak bears 047, 28 high, Polaris 001, 35 high.
-    const auto placeOf = [&](double altitude, double azimuth) {
-        const double radius = (90 - altitude) / 90, turn = azimuth * 3.14159265 / 180;
-        return disc.toPixel(radius * std::sin(turn), radius * std::cos(turn));
-    };
-    QTest::mouseClick(&disc, Qt::LeftButton, {}, placeOf(35, 1).toPoint());
+    QTest::mouseClick(&disc, Qt::LeftButton, {}, placeOf(disc, 35, 1));
     EXPECT_EQ(table.currentIndex().row(), 0);
-    const QPointF at = placeOf(28.16, 46.8);
-    QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
+    const QPoint at = placeOf(disc, 28.16, 46.8);
+    QTest::mouseClick(&disc, Qt::LeftButton, {}, at);
     EXPECT_EQ(table.currentIndex().row(), 1);
     // Once round by the keys, clockwise from the north, and on from the last to the first.
     const auto azimuthOf = [&](int row) {
@@ -123,7 +127,7 @@ TEST_F(frmSkyTest, discAndTableChooseTheSameBody)
     EXPECT_EQ(table.currentIndex().row(), last);
     // With the head up the same star stands elsewhere.
     click(window, "optUp(1)");
-    QTest::mouseClick(&disc, Qt::LeftButton, {}, at.toPoint());
+    QTest::mouseClick(&disc, Qt::LeftButton, {}, at);
     EXPECT_NE(table.currentIndex().row(), 1);
 }
 
@@ -136,8 +140,7 @@ TEST_F(frmSkyTest, discShowsTheSkyNorthOrHeadUp)
     auto& disc = dynamic_cast<SkyDisc&>(control(window, "picSky"));
     const ColourScheme& colours = program().colours();
     const auto isDrawn = [&](double altitude, double bearing, const QColor& colour) {
-        const double radius = (90 - altitude) / 90, turn = bearing * 3.14159265 / 180;
-        const QPoint at = disc.toPixel(radius * std::sin(turn), radius * std::cos(turn)).toPoint();
+        const QPoint at = placeOf(disc, altitude, bearing);
         const int reach = colour == colours.equator ? 4 : 2; // the Sun's ring is a thin one
         return coloursOf(disc.grab().toImage(),
                          QRect(at - QPoint(reach, reach), QSize(2 * reach + 1, 2 * reach + 1)))
@@ -158,7 +161,17 @@ TEST_F(frmSkyTest, discShowsTheSkyNorthOrHeadUp)
     for (int bearing = 0; bearing < 360; bearing += 5)
         EXPECT_FALSE(isDrawn(0, bearing, colours.equator)) << bearing;
     // What the disc tells beside the pointer: the body, and none between them.
-    type(window, "txtSky(8)", "\b");
+    type(window, "txtSky(8)", "");
+    click(window, "optUp(0)");
+    const auto tipAt = [&](double altitude, double bearing) {
+        const QPoint at = placeOf(disc, altitude, bearing);
+        QHelpEvent hover(QEvent::ToolTip, at, disc.mapToGlobal(at));
+        QApplication::sendEvent(&disc, &hover);
+        return QToolTip::text().toStdString();
+    };
+    EXPECT_THAT(tipAt(28.16, 46.8), ::testing::MatchesRegex("Mirfak  28°.*  046.8"));
+    tipAt(-30, 45); // in the corner
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
@@ -166,9 +179,10 @@ TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
     auto& window = open<frmSky>();
     click(window, "cmdPage(1)");
     EXPECT_FALSE(control(window, "cmdSend").isEnabled());
-    EXPECT_EQ(rowsOf(window, "tblStars").rowCount(), 0);
+    EXPECT_EQ(rowsOf(window, "tblStars").rowCount() + rowsOf(window, "tblUnknown").rowCount(), 0);
     QTest::keyClick(&window, Qt::Key_F6);
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("There is no round yet."));
+    QTest::keyClick(&control(window, "picSky"), Qt::Key_Right); // there is none to go to
     type(window, "txtSky(0)", "2026/11/22 12:00\r35.123\r142.031\r");
     click(window, "cmdPage(1)");
     EXPECT_TRUE(control(window, "cmdSend").isEnabled());
@@ -187,6 +201,9 @@ TEST_F(frmSkyTest, buttonsFollowWhatThereIs)
     click(window, "cmdNow");
     EXPECT_EQ(text(window, "txtSky(0)"), "2005/03/14 09:45");
     EXPECT_EQ(focused(), "txtSky(1)");
+    const auto labels = window.findChildren<QLabel*>(); // behind course and bearing, index error
+    EXPECT_EQ(std::ranges::count(labels, QString("° true"), &QLabel::text), 2);
+    EXPECT_EQ(std::ranges::count(labels, QString("′, on the arc +"), &QLabel::text), 1);
     // Without a day the next one is that after the ship's today.
     type(window, "txtSky(1)", "");
     type(window, "txtSky(7)", "");
@@ -240,6 +257,9 @@ TEST_F(frmSkyTest, unknownBodyAndAlmanac)
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("Latitude"));
     click(window, "cmdPage(3)");
     EXPECT_EQ(window.notice(), "");
+    questions.willType(folder.filePath("pages.pdf").toStdString());
+    click(window, "cmdSaveAlmanac");
+    EXPECT_THAT(fileText("pages.pdf"), ::testing::StartsWith("%PDF"));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "forms/frmSunMoon/CalculateRiseSet.h"
 
 #include "forms/frmSunMoon/RiseSetWorking.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
@@ -230,6 +231,26 @@ TEST(CalculateRiseSet, listAndTable)
     EXPECT_THAT(table.rows[2],
                 ::testing::ElementsAre("3", "Beyond", "1", "70", "20", "", "", "", "", "", ""));
     EXPECT_EQ(table.rows[3][9], "") << "no moonrise";
+}
+
+TEST(CalculateRiseSet, thePaperSaysWhyThereIsNone)
+{
+    enum { Sunrise = 1, Moonrise = 3, Azimuths = 5 };
+    const auto workingsOf = [](const RiseSetInput& input) {
+        RiseSetResult result = calculate(input);
+        result.figures->azimuths[1].azimuth.reset(); // nowhere within the limits
+        return riseSetWorkings({1, input, &result, {}});
+    };
+    EXPECT_EQ(workingsOf({"9999/12/31", "", "9", "35.393", "139.447"})[Sunrise].whyNone,
+              "The calendar ends before the search does.");
+    EXPECT_EQ(workingsOf({"2024/1/4", "", "9", "35.27", "139.39"})[Moonrise].whyNone,
+              "Neither search finds a moonrise on this date.");
+    const auto bergen = workingsOf({"2024/6/21", "", "1.7", "60.235", "5.193"});
+    EXPECT_EQ(bergen[Moonrise].whyNone, "");
+    EXPECT_EQ(linesOf(bergen[Moonrise]).back(),
+              "Refined time: no start leads to an event on the date = none");
+    EXPECT_THAT(linesOf(bergen[Azimuths]).back(),
+                ::testing::MatchesRegex("Azimuth of sunset: sin 23\\..* / cos 60\\..* = none"));
 }
 
 TEST(CalculateRiseSet, scrollBarAndDate)

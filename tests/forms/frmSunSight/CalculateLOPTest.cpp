@@ -3,11 +3,13 @@
 
 #include "app/reading/Format.h"
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/paper/SightWorking.h"
 #include "forms/frmSunSight/sight/MeridianPassage.h"
 #include "forms/frmSunSight/sight/SightFields.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/golden/Golden.h"
 
@@ -173,6 +175,13 @@ TEST(CalculateLOP, azimuthOnTheMeridianAndThePrimeVertical)
     EXPECT_NEAR(azimuth(0, 20, 35, 0), 180, 1e-5);
     EXPECT_NEAR(azimuth(0, 20, 10, 0), 0, 1e-5);
     EXPECT_NEAR(azimuth(270, 0, 0, 30), 90, 1e-9);
+    LOPResult line = CalculateLOP(morning2020, track2020, {});
+    line.figures.isByQuotient = false;
+    const auto workings = sightWorkings(morning2020, line);
+    EXPECT_THAT(
+        linesOf(workings.back()),
+        ::testing::Contains(::testing::MatchesRegex(
+            "Azimuth, on the meridian or the prime vertical: arctan\\(-cos .* = 124\\.[0-9]+ °")));
 }
 
 TEST(CalculateLOP, anglesAndSpansInWords)
@@ -204,6 +213,12 @@ TEST(MeridianPassage, latitudeBySightsNearNoon)
         const MeridianResult result = CalculateMeridian(
             sight, {row.text("DRLatitude"), row.text("DRLongitude"), "", "", ""}, {});
         EXPECT_THAT(result.note, HasSubstr(row.text("note"))) << row;
+        if (!result.exMeridian.empty()) {
+            EXPECT_EQ(linesOf(*meridianWorking(result)).rbegin()[1],
+                      "Reduction to the meridian: φ = χ ± ζ, tan χ = tan δ / cos t, less δ ± "
+                      "(90° - Ho); up to 30 minutes = " +
+                          result.exMeridian);
+        }
         const std::size_t split = result.latitude.find(" or ");
         const std::string shown[] = {
             result.latitude.substr(0, split),

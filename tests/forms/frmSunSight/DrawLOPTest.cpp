@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/fix/DrawLOP.h"
 
-#include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/golden/Golden.h"
 

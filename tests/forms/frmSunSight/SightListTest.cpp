@@ -50,15 +50,19 @@ TEST(SightList, recordsEachSightOnce)
     vega.body = "Vega";
     capella.body = "Capella";
     EXPECT_EQ(listOf({vega, capella}).sights().size(), 2U) << "two stars of one height";
+    EXPECT_EQ(list.replace(list.sights().size(), numbered(1)), Outcome::Unusable);
     list.remove(0);
     list.remove(7);
     EXPECT_EQ(list.sights().size(), 2U);
+    EXPECT_EQ(listLine({sight("2020/13/17", "15:30:00", "52.220", "", ""), true}), "?");
+    EXPECT_EQ(listLine({noon2020, true}), "2020/12/17 15:30:00 UTC  Hs 52.-22'0  Ho 52.-30'6");
 }
 
 TEST(SightList, takesBackWhatWasRemovedLast)
 {
     SightList list = listOf({morning2020, noon2020});
     list.clear();
+    list.clear();          // of nothing
     list.record(noon2020); // again, by hand
     EXPECT_EQ(list.takeBack(), 1U);
     EXPECT_EQ(list.sights().size(), 2U) << "a sight that is there again stays once";

@@ -2,11 +2,9 @@
 #include "forms/frmSunSight/frmSunSight.h"
 
 #include "forms/frmSunSight/panels/SightPicture.h"
-#include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
-#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -14,7 +12,6 @@
 #include <QTest>
 
 #include <algorithm>
-#include <cmath>
 
 namespace korvel
 {
@@ -127,6 +124,14 @@ TEST_F(frmSunSightTest, keysAndPointerMoveThePlot)
     press(Qt::Key_Home);
     EXPECT_EQ(view().half, 40);
     EXPECT_EQ(view().centre.x, 0);
+    // Its scale is the round number from a quarter of that half on.
+    for (const auto& [half, miles] : {std::pair(80, "20 nm"), {82, "50 nm"}, {201, "100 nm"}}) {
+        SightPlot plot = picture.plot();
+        plot.view.half = half;
+        picture.showPlot(plot);
+        EXPECT_EQ(picture.lettering()[0].words, miles) << half;
+    }
+    press(Qt::Key_Home);
     EXPECT_EQ(window.notice().toStdString().find("outside the plot"), std::string::npos);
     for (int step = 0; step < 20; ++step)
         press(Qt::Key_Plus);
@@ -190,6 +195,11 @@ TEST_F(frmSunSightTest, thePointerReadsThePosition)
     EXPECT_THAT(text(window, "lblSunCursor(1)"), StartsWith("052.-3")) << "20 miles west";
     point({1, 1});
     EXPECT_EQ(text(window, "lblSunCursor(0)"), "");
+    point(picture.toPixel(-20, 30));
+    EXPECT_NE(text(window, "lblSunCursor(1)"), "");
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&picture, &leave);
+    EXPECT_EQ(text(window, "lblSunCursor(0)") + text(window, "lblSunCursor(1)"), "");
 }
 
 TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)

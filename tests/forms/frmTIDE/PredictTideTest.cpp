@@ -136,13 +136,16 @@ TEST_F(PlainTide, pictureAndWhatThePointerReads)
     EXPECT_FALSE(readCurve(shown, std::nan("")));
 
     stream("8,0,0,0,0,2,0,0,0,0,0,0,0,0,260");
-    const auto stream = predictStream();
+    auto stream = predictStream();
     picture = DrawCurve(stream);
     EXPECT_NEAR(picture.scale.bottom, -2.6, 1e-9);
     EXPECT_EQ(picture.lblHeight[0].caption, "0 kn.");
     ASSERT_EQ(picture.furtherLevels.size(), 2u);
     EXPECT_EQ(picture.furtherLevels[0].caption, "-2 kn.");
     EXPECT_EQ(picture.furtherLevels[1].top, -1);
+    EXPECT_THAT(readCurve(stream, 0)->text, ::testing::EndsWith(" West"));
+    stream.floodDirection = NavFunc113::Degrees(-100); // written so in a file: 260
+    EXPECT_EQ(readCurve(stream, 0)->text, readCurve(predictStream(), 0)->text);
     EXPECT_EQ(readCurve(stream, 0)->text, "00:00  2.0kn West");
     EXPECT_EQ(readCurve(stream, 6)->text, "06:00  2.0kn East") << "an ebb sets the other way";
     EXPECT_EQ(readCurve(stream, 3)->text, "03:00  0.0kn slack");

@@ -311,6 +311,8 @@ TEST(TideHabits, theLastFiveStationsOutliveTheWindow)
         EXPECT_TRUE(habitsOf(open.record).showsDetails);
         EXPECT_EQ(habitsOf(open.record).stations, habits.stations) << "beside the mark";
     }
+    habits.offeredYear = 20000; // of no calendar
+    EXPECT_EQ(habitsOf(recordOf(habits)).offeredYear, 0);
     habits.stations = {{true, "../AF2005"}, {true, "Brothers"}};
     EXPECT_EQ(habitsOf(recordOf(habits)).stations.size(), 1u) << "only what the menus have";
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/data/TideData.h"
 
+#include "forms/frmTIDE/data/TideExtension.h"
 #include "forms/frmTIDE/stations/StationList.h"
 #include "forms/frmTIDE/stations/Stations.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
@@ -87,6 +88,30 @@ TEST(Factors, malformedFilesAreReadOrRefused)
     }
     beside.files.files.erase("AF2005.txt");
     EXPECT_THROW(readDaysFactors(beside.files, 0), TideDataFault);
+}
+
+/// A disk of which the first lines of the factors can be read, and no more.
+class FailingDisk : public korvel::testing::FakeFiles
+{
+public:
+    Content readAt(const std::string& name, std::int64_t offset, std::size_t length) override
+    {
+        if (name == "AF2005.txt" && length < 1000) return FakeFiles::readAt(name, offset, length);
+        return {Content::Status::Unreadable, {}, "the disk fails", {}};
+    }
+};
+
+TEST(TideFiles, whatCannotBeReadIsSaidOfTheWholeFileAndNothingIsWrittenOverIt)
+{
+    FailingDisk disk;
+    disk.files["AF2005.txt"] = "short";
+    EXPECT_THAT([&disk] { readDaysFactors(disk, 0); },
+                ::testing::ThrowsMessage<TideDataFault>(
+                    "AF2005.txt: the file cannot be read: the disk fails."));
+    EXPECT_EQ(stationFault(disk, "X"),
+              "Harmonic Constants/HC_X.txt: the file cannot be read: the disk fails.");
+    EXPECT_THAT(extendFactors(disk, 2006, {}).text, HasSubstr("/AF2005.txt: the disk fails."));
+    EXPECT_EQ(disk.files["AF2005.txt"], "short");
 }
 
 TEST(StationFile, readsWhatSequentialInputReads)

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/day/TideTables.h"
 
-#include "forms/frmTIDE/day/DrawCurve.h"
 #include "forms/frmTIDE/day/StationLines.h"
 #include "forms/frmTIDE/day/TideWaters.h"
 #include "forms/frmTIDE/paper/TidePaper.h"
-#include "forms/frmTIDE/paper/TideWorking.h"
 #include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmTIDE/TideDays.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <map>
 #include <sstream>
-#include <tuple>
 #include <type_traits>
 
 namespace korvel

@@ -2,7 +2,6 @@
 #include "forms/frmTIDE/day/TideWaters.h"
 
 #include "forms/frmTIDE/day/DrawCurve.h"
-#include "forms/frmTIDE/day/StationLines.h"
 #include "forms/frmTIDE/day/TideTables.h"
 #include "forms/frmTIDE/paper/TidePaper.h"
 #include "forms/frmTIDE/paper/TideWorking.h"
@@ -10,12 +9,8 @@
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/golden/Golden.h"
 
-#include <algorithm>
 #include <cmath>
-#include <map>
 #include <sstream>
-#include <tuple>
-#include <type_traits>
 
 namespace korvel
 {

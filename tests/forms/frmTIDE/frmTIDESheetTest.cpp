@@ -1,37 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmTIDE/frmTIDE.h"
 
-#include "forms/frmTIDE/data/TideData.h"
-#include "forms/frmTIDE/pages/frmTIDEPage.h"
 #include "forms/frmTIDE/sheet/DayLabels.h"
-#include "forms/frmTIDE/sheet/frmTIDEPicture.h"
 #include "shell/layout/TypeScale.h"
-#include "shell/screen/ColourScheme.h"
-#include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/forms/frmTIDE/TideWindow.h"
-#include "tests/shell/Pixels.h"
-#include "tests/shell/ShellTesting.h"
+#include "tests/shell/PaintedTexts.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QImage>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPicture>
-#include <QProgressBar>
+#include <QScreen>
 #include <QScrollArea>
-#include <QTableWidget>
-#include <QTest>
-#include <QTimer>
-#include <QWheelEvent>
 
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <optional>
 #include <set>
 #include <string>
+#include <tuple>
 
 namespace korvel
 {
@@ -88,6 +70,37 @@ TEST_F(frmTIDESheetTest, aDayOfManyWatersHasSmallerOnes)
     EXPECT_NE(lettersOfOne(7), lettersOf(Weight::Figure));
 }
 
+// A part that is selected to be copied is seen, in the text as it is copied; all of it in its
+// places.
+TEST_F(frmTIDESheetTest, whatIsSelectedOfALabelIsSeen)
+{
+    WaterLabel water(nullptr);
+    NowLabel now(nullptr);
+    const std::tuple<ResultLabel*, const char*, const char*> labels[] = {
+        {&water, "High water 04:57   1.87 m", "High water|04:57|1.87| m|"},
+        {&now, "Now, 09:45   1.23 m falling   springs", "Now, 09:45|1.23| m falling|springs|"}};
+    for (const auto& [label, words, pieces] : labels) {
+        label->setText(words);
+        label->setTextInteractionFlags(Qt::TextSelectableByKeyboard);
+        label->resize(label->sizeHint());
+        const auto painted = [each = label] {
+            PaintedTexts sheet(each->size());
+            each->render(&sheet);
+            std::string all;
+            for (const PaintedText& text : sheet.texts())
+                all += text.text.toStdString() + "|";
+            return all;
+        };
+        EXPECT_EQ(painted(), pieces);
+        label->setSelection(0, int(label->text().size()));
+        EXPECT_EQ(painted(), pieces);
+        label->setSelection(5, 3);
+        EXPECT_NE(painted(), pieces);
+        label->setText("");
+        EXPECT_EQ(painted(), "");
+    }
+}
+
 TEST_F(frmTIDESheetTest, theCurveStaysAndKeepsItsHeightAtTwiceTheSize)
 {
     auto& window = open<frmTIDE>();
@@ -112,6 +125,10 @@ TEST_F(frmTIDESheetTest, theCurveStaysAndKeepsItsHeightAtTwiceTheSize)
     window.resize(1362, 730); // of a screen of 1366 x 768
     QApplication::processEvents();
     EXPECT_GE(expectStill(), 240);
+    questions.willType("Yokohama");
+    whileShown(window, "mnuStation(1)", "dlgCheck", [](QWidget& dialog) {
+        EXPECT_LT(dialog.height(), dialog.screen()->availableSize().height()) << "27 lines of it";
+    });
 }
 
 TEST_F(frmTIDESheetTest, answersAreReadWholeAtTheFirstSize)

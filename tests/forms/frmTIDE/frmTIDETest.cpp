@@ -3,9 +3,7 @@
 
 #include "forms/frmTIDE/data/TideData.h"
 #include "forms/frmTIDE/pages/frmTIDEPage.h"
-#include "forms/frmTIDE/sheet/DayLabels.h"
 #include "forms/frmTIDE/sheet/frmTIDEPicture.h"
-#include "shell/layout/TypeScale.h"
 #include "shell/screen/ColourScheme.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
 #include "tests/forms/frmTIDE/TideWindow.h"
@@ -14,22 +12,12 @@
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QImage>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPicture>
 #include <QProgressBar>
-#include <QScrollArea>
 #include <QTableWidget>
 #include <QTest>
-#include <QTimer>
 #include <QWheelEvent>
 
-#include <algorithm>
-#include <cmath>
-#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -118,6 +106,7 @@ TEST_F(frmTIDETest, streamsHaveTheirOwnFilesDirectionsAndMode)
     choose(window, yokohama);
     choose(window, brothersStream);
     EXPECT_THAT(text(window, "lblTideInfo"), HasSubstr("kn"));
+    EXPECT_FALSE(control(window, "lblCuDirection(0)").isHidden());
     EXPECT_EQ(text(window, "lblCuDirection(0)"), "+ : ENE");
     EXPECT_EQ(text(window, "lblCuDirection(1)"), "- : WSW");
     EXPECT_EQ(text(window, "lblStation").find("grade B"), std::string::npos)
@@ -185,6 +174,11 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     auto& picture = static_cast<PictureBox&>(control(window, "picTIDE"));
     QTest::mouseMove(&picture, picture.toPixel(5, 0).toPoint());
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("1.87m"));
+    EXPECT_TRUE(
+        coloursOf(picture.grab().toImage(), QRect(picture.toPixel(5, 1.87).toPoint(), QSize(2, 2)))
+            .contains(program().colours().marker.rgb()));
+    press(window, "picTIDE", {Qt::Key_Escape, Qt::Key_Left});
+    EXPECT_THAT(text(window, "lblReading"), HasSubstr("11:50  ")) << "from noon";
     press(window, "picTIDE", {Qt::Key_End});
     press(window, "picTIDE", {Qt::Key_Right, Qt::Key_Left, Qt::Key_Left, Qt::Key_Left});
     EXPECT_THAT(text(window, "lblReading"), HasSubstr("23:30  1.09m"));
@@ -314,19 +308,10 @@ TEST_F(frmTIDETest, aLongerFactorsFileIsTakenUpWhenTheWindowOpens)
     questions.willAnswer(Answer::Ok);
     choose(window, "mnuEND(2)");
     EXPECT_THAT(questions.asked.back(), HasSubstr("up to 2006/1/1."));
-}
-
-TEST_F(frmTIDETest, everyMnemonicOfAMenuIsItsOwn)
-{
-    auto& window = open<frmTIDE>();
-    for (const QObject* menu : {static_cast<QObject*>(window.menuBar()),
-                                static_cast<QObject*>(window.findChild<QMenu*>("mnuFrmTIDE(0)")),
-                                static_cast<QObject*>(window.findChild<QMenu*>("mnuFrmTIDE(1)"))}) {
-        QStringList mnemonics;
-        for (const QAction* entry : static_cast<const QWidget*>(menu)->actions())
-            mnemonics << entry->text().section('&', 1).left(1).toUpper();
-        EXPECT_EQ(mnemonics.removeDuplicates(), 0) << menu->objectName().toStdString();
-    }
+    Paints paints; // of the bar while the predictions are made
+    window.findChild<QProgressBar*>()->installEventFilter(&paints);
+    choose(window, "mnuDay(0)");
+    EXPECT_GT(paints.seen, 4);
 }
 
 TEST_F(frmTIDETest, detailsFoldAndAreRemembered)

@@ -4,6 +4,8 @@
 #include "forms/frmTanks/TankCsv.h"
 #include "forms/frmTanks/TankRecord.h"
 #include "forms/frmTanks/TankTexts.h"
+#include "forms/frmTanks/TankWorking.h"
+#include "tests/forms/WorkingLines.h"
 #include "tests/forms/frmTanks/TankSheets.h"
 
 #include <gmock/gmock.h>
@@ -36,6 +38,11 @@ TEST(TankList, cargoOfAnUllageReport)
     EXPECT_EQ(totalsRows(work.reckoning(ListKind::Cargo), TotalsOf::Moved).back().inVacuo,
               "8161.216");
     EXPECT_EQ(tanksShown(work).notices[0], "");
+    work = inHand(loading());
+    const auto netOf = [&work](TotalsOf of) {
+        return std::stod(totalsRows(work.reckoning(ListKind::Cargo), of).back().net);
+    };
+    EXPECT_NEAR(netOf(TotalsOf::Moved), netOf(TotalsOf::Last) - netOf(TotalsOf::First), 0.002);
 }
 
 TEST(TankList, unitsOfATankAreThoseOfTheSheet)
@@ -152,6 +159,8 @@ TEST(TankList, shipAgainstBillOfLading)
         sheet.voyages[0][std::size_t(i)] = {"", "100120", "100000"};
     shown = tanksShown(inHand(sheet));
     EXPECT_THAT(shown.byExperience, HasSubstr("1.00120 = 8137.400 t: -0.307 %"));
+    EXPECT_EQ(linesOf(movedWorking(inHand(sheet), shown)).back(),
+              "With the experience factor: " + shown.against + " = " + shown.byExperience);
     // Discharge is the other way round, and has the other factor.
     sheet.choices.movement = Movement::Discharge;
     std::swap(sheet.list(ListKind::Cargo).rows[0].surveys[0],
@@ -221,9 +230,14 @@ TEST(TankList, aTankThatWasForgottenIsNoDischargedTank)
 {
     TankSheet sheet = loading();
     sheet.list(ListKind::Cargo).rows[1].surveys[1].volume.clear();
+    EXPECT_THAT(tanksShown(inHand(sheet)).notices[0], HasSubstr("2 has no volume after"));
+    sheet.list(ListKind::Cargo).rows[1].tank.clear();
     const TanksShown shown = tanksShown(inHand(sheet));
     EXPECT_EQ(shown.moved, "");
-    EXPECT_THAT(shown.notices[0], HasSubstr("2 has no volume after"));
+    EXPECT_THAT(shown.notices[0], HasSubstr("Row 2 has no volume after"));
+    const Working none = movedWorking(inHand(sheet), shown);
+    EXPECT_EQ(none.whyNone, "A survey is missing, or a tank of one is in doubt");
+    EXPECT_TRUE(none.steps.empty());
 }
 
 TEST(TankList, bunkersOfASurveyGoIntoTheNoonReport)
@@ -295,6 +309,8 @@ TEST(TankList, recordComesBackAsItWas)
     for (std::size_t end = 0; end < text.size(); ++end) // cut anywhere it is read as far as it goes
         readTankRecord(std::string_view(text).substr(0, end));
     EXPECT_EQ(readTankRecord("\"noon\"\r\n").damage, "line 1: it is no tank list");
+    EXPECT_EQ(readTankRecord("KORVEL2000 tank list 1\nport=\xFF\n").damage,
+              "line 2: it cannot be read");
     EXPECT_EQ(readTankRecord("KORVEL2000 tank list 1\nedition=1952\n").damage,
               "line 2: no such choice");
     EXPECT_EQ(
@@ -386,6 +402,7 @@ TEST(TankCsv, whatIsWrongIsNamedByLineAndField)
         {"an infinity", "tank,volume\n1,inf\n", "\"inf\" is no number"},
         {"cut in a line", "tank,volume,water\n1,2\n", "line 2: fewer fields than columns"},
         {"too many fields", "tank,volume\n1,2,3\n", "line 2: more fields"},
+        {"a heading that never ends", "\"tank,volume\n1,2\n", "line 1: a double quote"},
         {"a quote that never ends", "tank,volume\n\"1,2\n3,4\n", "line 2: a double quote"},
         {"a tank twice", "tank,volume\n1,2\n1,3\n", "line 3: tank: \"1\" is there twice"},
         {"no name", "tank,volume\n ,2\n", "line 2: tank: the tank has no name"},

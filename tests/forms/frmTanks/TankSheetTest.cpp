@@ -20,6 +20,7 @@ using NavFunc113::FactorRounding;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
 using ::testing::Not;
 
 TEST(SheetInHand, keysInABoxAreOneStepAndComeBack)
@@ -240,6 +241,25 @@ TEST(TankWorking, otherTablesHaveTheirOwnSteps)
                                 ::testing::StartsWith("Density at 60 °F: API 48.04 = 787.3"),
                                 ::testing::EndsWith(" kg/m³"))));
     EXPECT_THAT(linesNow(), Contains("Volume correction factor: Δt = 68 - 60 = 0.9957254"));
+    // A coefficient of its own, the procedure of 2004 and table 56: 840 less 1.1 in air is 838.9.
+    cargo.grades[0] = grade("Naphtha", "54C", "840");
+    cargo.grades[0].coefficient = "0.00091";
+    cargo.grades[0].sediment = "0.75";
+    sheet.choices.edition = NavFunc113::CrudeEdition::Of2004;
+    sheet.choices.air = TankAirWeight::Table56;
+    const auto lines = linesNow();
+    EXPECT_THAT(lines, Contains("Coefficient of expansion: 0.00091 / 1.8 = 0.00050556 per °F"));
+    EXPECT_THAT(lines, Contains(MatchesRegex("Volume correction factor: Δt = 8\\.0020[0-9] °F of "
+                                             "1968, δ = 0\\.01375 = 0\\.99544[0-9]{2}")));
+    EXPECT_THAT(lines, Contains("Weight in air: 836.178 × 0.99865 = 835.049 t"));
+    sheet.choices.edition = NavFunc113::CrudeEdition::Of1980;
+    EXPECT_THAT(linesNow(), Contains("Coefficient of expansion: as given = 0.00091000 per °C"));
+    WorkingPaper paper;
+    SheetInHand own = inHand(sheet);
+    own.goToSurvey(ListKind::Cargo, TankSurvey::Last);
+    tellSurvey(paper, own, tanksShown(own), ListKind::Cargo);
+    EXPECT_THAT(paper.inputs,
+                Contains(::testing::Field(&PaperFigure::value, ::testing::EndsWith("S&W 0.75 %"))));
     // Water alone is no oil.
     cargo.rows[0].surveys[1] = {"", "12.5", "12.5", "", ""};
     SheetInHand work = inHand(sheet);

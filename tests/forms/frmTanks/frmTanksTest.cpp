@@ -139,6 +139,13 @@ TEST_F(frmTanksTest, badInputIsAnsweredInTheLineAndMended)
         ElementsAre("100.503", "92.816", "", "92.816", "100.503", "", "101.172", "100.000"));
     type(window, "txtTank(3)", "101");
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("more water than volume"));
+    const auto& rows = *static_cast<RowsView&>(control(window, "tblTanks")).model();
+    const QModelIndex number = rows.index(0, TankModel::Number);
+    EXPECT_THAT(number.data(Qt::ToolTipRole).toString().toStdString(),
+                HasSubstr("more water than volume"));
+    EXPECT_FALSE(number.data(Qt::DecorationRole).isValid());
+    type(window, "txtTank(3)", "10000000.5");
+    EXPECT_THAT(window.notice().toStdString(), HasSubstr("free water: not within"));
     type(window, "txtTank(3)", "");
     EXPECT_EQ(text(window, "lblMoved(1)"), "100.000");
     type(window, "txtTank(5)", "x");
@@ -147,6 +154,14 @@ TEST_F(frmTanksTest, badInputIsAnsweredInTheLineAndMended)
     EXPECT_EQ(text(window, "lblMoved(1)"), "100.000");
     choose(window, "mnuTankList(7)");
     EXPECT_EQ(text(window, "lblMoved(1)"), "");
+    // The same by keys in a box of the list, and rows that are pasted there.
+    auto& box = control(window, "txtTank(5)");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text(window, "lblMoved(1)"), "100.000");
+    QApplication::clipboard()->setText("tank\tlast_volume\n1P\t5\n1S\t0\n");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(onDisk().list(ListKind::Cargo).rows.size(), 3u);
+    EXPECT_EQ(text(window, "txtTank(5)"), "") << "none of it in the box";
 }
 
 TEST_F(frmTanksTest, aHostileListChangesNothingThatIsShown)
@@ -244,6 +259,7 @@ TEST_F(frmTanksTest, factorsOfLoadingAndDischargeStandApart)
         type(window, QString("txtLoadingShore(%1)").arg(i).toStdString(), "100");
     }
     EXPECT_EQ(text(window, "lblFactor(0)"), "1.00100");
+    EXPECT_EQ(text(window, "lblLoadingStanding(0)"), "counts");
     EXPECT_EQ(text(window, "lblLoadingStanding(5)"), "gross error, out");
     EXPECT_EQ(text(window, "lblFactor(1)"), "");
     for (int i = 0; i < 5; ++i) {

@@ -195,6 +195,9 @@ UKCInput stopped(const char* charted)
 
 TEST(CalculateUKC, whatIsJustKeptIsKept)
 {
+    EXPECT_THAT(CalculateUKC(stopped("0"), {}).notice, HasSubstr("no water at this tide"));
+    EXPECT_EQ(CalculateUKC(stopped("-17.9"), {}).leastTide, "29.90");
+    EXPECT_EQ(CalculateUKC(stopped("-18.5"), {}).leastTide, "") << "no tide is of 30 m";
     const UKCResult kept = CalculateUKC(stopped("12"), {});
     EXPECT_EQ(kept.over, "+0.00");
     EXPECT_EQ(kept.speed, "0.0");

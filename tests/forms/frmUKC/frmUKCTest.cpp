@@ -8,7 +8,6 @@
 
 #include <QComboBox>
 #include <QDir>
-#include <QImage>
 #include <QLabel>
 #include <QTest>
 
@@ -90,6 +89,8 @@ TEST_F(frmUKCTest, aPassageOverABarByKeysIsThereAgain)
     EXPECT_EQ(text(again, "lblHours(6)"), shownHours);
     EXPECT_EQ(text(again, "txtTideDay"), "2005/5/5");
     EXPECT_EQ(valueIn(again, "cboSurvey"), 4);
+    EXPECT_EQ(control(again, "lblKeel(3)").geometry().center().y(),
+              control(again, "lblKeel(4)").geometry().center().y());
     // Figures stand below each other by their ends, words and hours by their beginnings.
     for (const char* figure : {"lblKeel(3)", "lblKeel(5)", "lblKeel(17)"})
         EXPECT_TRUE(alignmentOf(again, figure) & Qt::AlignRight) << figure;

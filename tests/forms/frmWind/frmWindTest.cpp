@@ -26,10 +26,13 @@ TEST_F(frmWindTest, whatIsSaidAtThePointerGoesWithIt)
     type(window, "txtWind(1)", "10");
     auto& picture = dynamic_cast<WindPictureBox&>(control(window, "picWind"));
     const QPoint place = picture.toPixel(0, -15).toPoint();
+    const double scale = picture.userScale().top;
     QTest::mousePress(&picture, Qt::LeftButton, {}, place);
+    EXPECT_EQ(picture.userScale().top, scale) << "a true wind of 25 knots, but the rings stay";
     const QImage held = picture.grab().toImage();
     QTest::mouseRelease(&picture, Qt::LeftButton, {}, place);
     const QImage released = picture.grab().toImage();
+    EXPECT_GT(picture.userScale().top, 1.5 * scale);
     EXPECT_NE(held, released);
     picture.setPointerText({}, {});
     EXPECT_EQ(picture.grab().toImage(), released);
