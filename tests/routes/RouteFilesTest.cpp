@@ -180,7 +180,7 @@ TEST(RouteFiles, hostileFilesAreRefusedAtOnce)
     EXPECT_THAT(readRouteFile(folder / "full").fault, HasSubstr("larger than 8 MB"));
     EXPECT_EQ(readRouteFile(sourceFile("tests/routes/whole.rtz")).fault, "");
     std::filesystem::remove_all(folder);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10))
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60))
         << "a limit for hangs alone";
 }
 
@@ -400,12 +400,13 @@ TEST(RouteFiles, aMovedTangentPointIsAWaypoint)
 
 TEST(RouteFiles, timesAloneBecomeSpeedsAndStops)
 {
-    const ReadRoute read =
-        readRoute("name,lat,lon,eta,etd\nA,0,0,,2026-11-10T00:00:00Z\nB,2,0,2026-11-10 "
-                  "10:00,2026-11-10 16:00\nC,3.5,0,2026-11-11 01:00Z,\n");
+    const ReadRoute read = readRoute(
+        "name,lat,lon,eta,etd\nA,0,0,,2026-11-10T00:00:00Z\nB,2,0,2026-11-10 "
+        "10:00,2026-11-10 16:00\nC,3.5,0,2026-11-11 01:00Z,\nD,3.55,0,2026-11-11 07:00Z,\n");
     ASSERT_EQ(read.fault, "");
     const PlanOfRoute plan = planOfRoute(read.route, {});
-    EXPECT_EQ(rowsText(plan.plan.rows), "A 0.0 0.0 / B 2.0 0.0 v=12 stop=6 / C 3.3 0.0 v=10");
+    EXPECT_EQ(rowsText(plan.plan.rows),
+              "A 0.0 0.0 / B 2.0 0.0 v=12 stop=6 / C 3.3 0.0 v=10 / D 3.33 0.0 v=0.5");
     EXPECT_THAT(plan.remarks, ::testing::ElementsAre(HasSubstr("worked out from the times")));
 
     // A file whose times are not those of its speeds.

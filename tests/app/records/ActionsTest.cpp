@@ -75,6 +75,9 @@ TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
     actions.storePosition({"95", "20"});
     EXPECT_EQ(questions.asked.size(), 1u) << "the longitude is not asked for";
     EXPECT_EQ(saved.memoLongitude(), NavFunc113::DegMin(0));
+    questions.willAnswer(Answer::Ok);
+    actions.storePosition({"0", "20"});
+    EXPECT_EQ(questions.asked.size(), 2u);
     questions.willAnswer(Answer::Yes);
     actions.storePosition({"90", "180"});
     EXPECT_EQ(saved.memoLatitude(), NavFunc113::DegMin(90));

@@ -38,5 +38,15 @@ TEST(ScreenChoices, onlyWholePlacesAreTaken)
     EXPECT_EQ(ScreenChoices::of({3.0, 126.0, false, false, ""}), ScreenChoices());
 }
 
+TEST(ScreenChoices, theLargestZoomIsThreeTimesTheUsual)
+{
+    ScreenChoices choices = ScreenChoices::of({1.0, 250.0, true, false, ""});
+    EXPECT_TRUE(choices.changeZoom(1));
+    EXPECT_EQ(choices.zoom, 300);
+    EXPECT_FALSE(choices.changeZoom(1));
+    EXPECT_TRUE(choices.changeZoom(0));
+    EXPECT_EQ(choices.zoom, 100);
+}
+
 } // namespace
 } // namespace korvel

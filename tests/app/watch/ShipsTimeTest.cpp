@@ -126,6 +126,8 @@ TEST_F(ShipsTimeTest, setUpSetsTheComputersClock)
     ASSERT_EQ(clock.sets.size(), 1u);
     EXPECT_EQ(shown(clock.sets.front()), "2005/03/14 14:00:00");
     EXPECT_THAT(clocks.back(), HasSubstr("SMT 14-2330"));
+    setUp("Yes; 00:00; OK; 9.5");
+    EXPECT_EQ(shown(clock.sets.back()), "2005/03/13 14:30:00") << "midnight alone is of this day";
 }
 
 TEST_F(ShipsTimeTest, setUpCanBeLeftWithoutAChange)

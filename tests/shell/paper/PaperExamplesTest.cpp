@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
+#include "app/reading/PositionText.h"
 #include "navlib/sky/ephemeris_series.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/ResultLabel.h"
@@ -11,13 +12,20 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractItemView>
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 // The worked examples of the manual: the program works each anew as the manual has it, and every
 // result that its window shows is a step of the working. (papers docs/manual data writes them.)
@@ -194,6 +202,67 @@ TEST(PaperExamples, everyResultIsPaintedAsItStands)
         }
     }
     EXPECT_GT(seen, 500U);
+}
+
+/// Digits and letters alone: a paper says "35°30.5' N" where a window has "35-.30'5N".
+QString bare(const QString& text)
+{
+    QString kept;
+    for (const QChar each : text)
+        if (each.isLetterOrNumber()) kept += each;
+    return kept + '|';
+}
+
+/// All that labels, boxes and tables of a window say.
+QString wordsOf(const QWidget& window)
+{
+    QString words;
+    for (const auto* label : window.findChildren<QLabel*>())
+        words += bare(label->text());
+    for (const auto* box : window.findChildren<QLineEdit*>())
+        words += bare(box->text());
+    for (const auto* list : window.findChildren<QAbstractItemView*>())
+        for (int row = 0; row < list->model()->rowCount(); ++row)
+            for (int column = 0; column < list->model()->columnCount(); ++column)
+                words += bare(list->model()->index(row, column).data().toString());
+    return words;
+}
+
+bool hasDigit(const std::string& text)
+{
+    return text.find_first_of("0123456789") != std::string::npos;
+}
+
+/// Words of the paper that stand in several places of the window, or for a choice.
+constexpr std::array<std::string_view, 7> putTogether{
+    "Height of the Sun", "Weight in air by", "Clocks, in all",       "Gasoline",
+    "Gas oil",           "Squat by",         "Quality of the survey"};
+
+// A result of the paper that is another's, or has lost a letter; longitude before latitude.
+TEST(PaperExamples, everyResultStandsInTheWindowToo)
+{
+    for (const QFileInfo& each : allExamples()) {
+        SCOPED_TRACE(each.fileName().toStdString());
+        const WorkedExample example(contentOf(each.filePath().toStdString()),
+                                    QString::fromStdString(sourceFile("data")));
+        const QString window = wordsOf(example.window());
+        const WorkingPaper& paper = example.openPaper().paper().paper();
+        std::vector<PaperFigure> figures = paper.results;
+        std::ranges::copy_if(paper.inputs, std::back_inserter(figures), [](const auto& input) {
+            return hasDigit(input.value) &&
+                   input.value.find("nothing entered") == std::string::npos;
+        });
+        for (const PaperFigure& result : figures) {
+            if (std::ranges::count(putTogether, result.name)) continue;
+            const std::string& shown = result.shown.empty() ? result.value : result.shown;
+            QString wanted = bare(QString::fromStdString(shown));
+            wanted.chop(1);
+            EXPECT_TRUE(window.contains(wanted)) << result.name << ": " << shown;
+        }
+        if (!hasDigit(paper.place)) continue; // a port or a station
+        const auto place = parsePosition(paper.place, Axis::Latitude);
+        EXPECT_TRUE(place && place->latitude && place->longitude) << paper.place;
+    }
 }
 
 template <typename Terms>
