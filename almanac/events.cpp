@@ -55,17 +55,11 @@ std::vector<DateTime> rootsOf(const Curve& curve, DateTime from, DateTime to)
         const DateTime at = from + (to - from) * i / steps;
         samples.push_back({at, curve(at)});
     }
-    std::vector<Sample> all;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        if (i > 0 && i + 1 < samples.size()) {
-            const auto turn = turnBeyondZero(curve, samples[i - 1], samples[i], samples[i + 1]);
-            if (turn && turn->at < samples[i].at) all.push_back(*turn);
-            all.push_back(samples[i]);
-            if (turn && turn->at >= samples[i].at) all.push_back(*turn);
-        } else {
-            all.push_back(samples[i]);
-        }
-    }
+    std::vector<Sample> all = samples;
+    for (std::size_t i = 1; i + 1 < samples.size(); ++i)
+        if (const auto turn = turnBeyondZero(curve, samples[i - 1], samples[i], samples[i + 1]))
+            all.push_back(*turn);
+    std::ranges::sort(all, {}, &Sample::at);
     std::vector<DateTime> roots;
     for (std::size_t i = 1; i < all.size(); ++i)
         if (all[i - 1].positive() != all[i].positive())

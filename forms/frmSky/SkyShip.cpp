@@ -205,9 +205,10 @@ std::string dayText(DateTime day)
 
 std::string presetText(Degrees altitude)
 {
-    const double minutes = std::round(std::fabs(altitude.value()) * 60);
+    const double rounded = std::round(altitude.value() * 60);
+    const double minutes = std::fabs(rounded);
     const double whole = std::floor(minutes / 60);
-    std::string text = altitude < Degrees(0) && minutes > 0 ? "-" : "";
+    std::string text = rounded < 0 ? "-" : "";
     text += Format(whole, "00") + "°" + Format(minutes - 60 * whole, "00") + "'";
     return text;
 }

@@ -66,9 +66,11 @@ Working ageWorking(const RiseSetResult& result)
                  figure(result.phase->moonLongitude, decimals), "°");
     working.step("Longitude of the Sun", "λs, mean equinox", at,
                  figure(result.phase->sunLongitude, decimals), "°");
+    const bool isAhead = result.phase->sunLongitude > result.phase->moonLongitude;
     working.step("Age", "30 (λm - λs) / 360, whole months left out",
                  "30 × (" + figure(result.phase->moonLongitude, decimals) + " - " +
-                     figure(result.phase->sunLongitude, decimals) + ") / 360",
+                     figure(result.phase->sunLongitude, decimals) + (isAhead ? " + 360" : "") +
+                     ") / 360",
                  figure(result.phase->age, 4), "days");
     working.resultStep("Moon's age", "rounded to 0.1", *result.moonAge, "days");
     const DateTime noon = result.date + 0.5;

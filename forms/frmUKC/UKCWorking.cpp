@@ -5,6 +5,8 @@
 #include "app/records/KORVEL2000Actions.h"
 #include "forms/frmUKC/UKCFields.h"
 
+#include <cmath>
+
 namespace korvel
 {
 namespace
@@ -75,10 +77,10 @@ private:
         m_working.resultStep("Place of the squat", "by the block coefficient, above or below 0.7",
                              m_result.formula);
         m_working.resultStep("Squat by the other formulas", "for comparison", m_result.others);
+        const double list = std::fabs(m_is.typed[List].value_or(0)); // the same to either side
         m_working.step("List", "B / 2 × sin list",
-                       m_is.typed[List].value_or(0) == 0
-                           ? "no list"
-                           : typed(Breadth) + " / 2 × sin " + typed(List) + "°",
+                       list == 0 ? "no list"
+                                 : typed(Breadth) + " / 2 × sin " + memoText(list) + "°",
                        m_result.list, "m");
         addDensity();
         m_working.resultStep("Heave or swell", typed(Heave) + " as typed", m_result.heave, "m");
