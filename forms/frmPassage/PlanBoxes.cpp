@@ -2,6 +2,7 @@
 #include "forms/frmPassage/PlanBoxes.h"
 
 #include "forms/frmPassage/PassageFields.h"
+#include "forms/frmPassage/PlanReading.h"
 #include "forms/frmPassage/PlanTable.h"
 #include "shell/controls/Options.h"
 #include "shell/controls/RowsView.h"
@@ -240,6 +241,8 @@ void PlanBoxes::showWhatCounts()
 {
     const int leg = chosenOf(m_optLeg);
     m_row[RowStep]->setEnabled(leg != static_cast<int>(LegKind::Rhumb));
+    const NumberField step = stepField(static_cast<StepUnit>(chosenOf(m_optStepUnit)));
+    m_row[RowStep]->setLimits(limitsInWords(step.low, step.high));
     for (QRadioButton* option : m_optStepUnit)
         option->setEnabled(m_row[RowStep]->isEnabled());
     m_row[RowLimit]->setEnabled(leg == static_cast<int>(LegKind::Composite));

@@ -6,6 +6,7 @@
 #include "app/reading/PositionText.h"
 #include "app/reading/Reading.h"
 #include "app/reading/TypedTime.h"
+#include "forms/frmPassage/PassageFields.h"
 #include "navlib/angles.h"
 
 #include <cmath>
@@ -18,14 +19,18 @@ namespace
 using NavFunc113::DegMin;
 using NavFunc113::Hours;
 
-constexpr NumberField latitudeField{"Latitude", -90, 90, "degrees", FieldKind::Latitude};
-constexpr NumberField longitudeField{"Longitude", -180, 180, "degrees", FieldKind::Longitude};
-constexpr NumberField limitField{"Limiting latitude", -90, 90, "degrees", FieldKind::Latitude};
-constexpr NumberField speedField{"Speed", 0, 100, "knots"};
-constexpr NumberField stopField{"Stop", 0, 10000, "hours"};
-constexpr NumberField zoneField{"Zone", -12, 14, "hours"};
-constexpr NumberField stepInDegrees{"Step", 1, 90, "degrees"};
-constexpr NumberField stepInMiles{"Step", 30, 5400, "miles"};
+/// Its range is that of the box.
+constexpr NumberField fieldOf(PlanRowField box, const char* name, const char* unit)
+{
+    return {name, PlanRowFields[box].low, PlanRowFields[box].high, unit, PlanRowFields[box].kind};
+}
+
+constexpr NumberField latitudeField = fieldOf(RowLatitude, "Latitude", "degrees");
+constexpr NumberField longitudeField = fieldOf(RowLongitude, "Longitude", "degrees");
+constexpr NumberField limitField = fieldOf(RowLatitude, "Limiting latitude", "degrees");
+constexpr NumberField speedField = fieldOf(RowSpeed, "Speed", "knots");
+constexpr NumberField stopField = fieldOf(RowStop, "Stop", "hours");
+constexpr NumberField zoneField = fieldOf(RowZone, "Zone", "hours");
 
 bool isBlank(const std::string& box)
 {
@@ -63,7 +68,7 @@ void readStep(const PlanRow& row, ReadPlanRow& read)
 {
     if (row.leg == LegKind::Rhumb) return;
     const bool inDegrees = row.stepUnit == StepUnit::Degrees;
-    const auto step = readIfTyped(row.step, inDegrees ? stepInDegrees : stepInMiles, read.remarks);
+    const auto step = readIfTyped(row.step, stepField(row.stepUnit), read.remarks);
     if (step && inDegrees) read.step.degrees = NavFunc113::Degrees(*step);
     if (step && !inDegrees) read.step.miles = NavFunc113::Miles(*step);
 }
@@ -94,6 +99,12 @@ void readLimit(const PlanRow& row, ReadPlanRow& read)
 }
 
 } // namespace
+
+NumberField stepField(StepUnit unit)
+{
+    return unit == StepUnit::Degrees ? NumberField{"Step", 1, 90, "degrees"}
+                                     : NumberField{"Step", 30, 5400, "miles"};
+}
 
 ReadPlanRow readPlanRow(const PlanRow& row)
 {

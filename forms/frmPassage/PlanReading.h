@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/NumberField.h"
 #include "app/reading/Remarks.h"
 #include "forms/frmPassage/PassagePlan.h"
 #include "navlib/sailing/great_circle_arc.h"
@@ -29,6 +30,9 @@ struct ReadPlanRow {
 /// whole quarters as a rule. Step: 1 to 90 degrees or 30 to 5400 miles. Limit of a composite leg:
 /// more than 0 and less than 90 degrees, "44", "44N", "-44".
 ReadPlanRow readPlanRow(const PlanRow& row);
+
+/// What the step between the points of a circle may be.
+NumberField stepField(StepUnit unit);
 
 /// The time of the plan as typed. @param remarks says why there is none
 std::optional<Instant> readPlanTime(const PlanTimes& times, Remarks& remarks);

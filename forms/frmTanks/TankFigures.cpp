@@ -171,14 +171,12 @@ public:
 private:
     void readBoxes()
     {
-        const char* unit = unitOf(m_choices.volume);
-        m_volume = readWhole(m_reading.volume, {"volume", 0, 1e7, unit}, m_remarks);
-        m_water = readWhole(m_reading.water, {"free water", 0, 1e7, unit}, m_remarks).value_or(0);
-        const bool inF = m_choices.temperature == TankTemperatureUnit::Fahrenheit;
-        m_typedTemperature = readIfTyped(
-            m_reading.temperature,
-            {"temperature", inF ? -76. : -60., inF ? 400. : 200., unitOf(m_choices.temperature)},
-            m_remarks);
+        NumberField volume{"volume", 0, 1e7, unitOf(m_choices.volume)};
+        m_volume = readWhole(m_reading.volume, volume, m_remarks);
+        volume.name = "free water";
+        m_water = readWhole(m_reading.water, volume, m_remarks).value_or(0);
+        m_typedTemperature =
+            readIfTyped(m_reading.temperature, temperatureField(m_choices.temperature), m_remarks);
         if (m_volume && m_water > *m_volume) m_remarks.fault("more water than volume");
     }
 
@@ -241,6 +239,12 @@ const char* unitOf(TankVolumeUnit unit)
 const char* unitOf(TankTemperatureUnit unit)
 {
     return unit == TankTemperatureUnit::Fahrenheit ? "°F" : "°C";
+}
+
+NumberField temperatureField(TankTemperatureUnit unit)
+{
+    return unit == TankTemperatureUnit::Fahrenheit ? NumberField{"temperature", -76, 400, "°F"}
+                                                   : NumberField{"temperature", -60, 200, "°C"};
 }
 
 ReadGrade readGrade(const GradeBoxes& boxes, std::size_t number, ListKind kind,

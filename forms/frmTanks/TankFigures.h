@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/reading/NumberField.h"
 #include "app/reading/Remarks.h"
 #include "forms/frmTanks/TankSheet.h"
 
@@ -81,5 +82,7 @@ TankFigures tankFigures(const TankReading& reading, const std::array<ReadGrade, 
 const char* unitOf(TankVolumeUnit unit);
 /// "°C" or "°F"
 const char* unitOf(TankTemperatureUnit unit);
+/// What a tank's temperature may be.
+NumberField temperatureField(TankTemperatureUnit unit);
 
 } // namespace korvel

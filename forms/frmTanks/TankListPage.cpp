@@ -65,6 +65,7 @@ TankListPage::TankListPage(Program& program, SheetInHand& work, Parts parts)
     column->addWidget(m_table, 1, Qt::AlignLeft); // as wide as its columns
     column->addWidget(layOutBoxes());
     connectBoxes();
+    showUnits();
 }
 
 QWidget* TankListPage::layOutBoxes()
@@ -177,16 +178,23 @@ void TankListPage::typeRow(const QString& box)
     m_work.typeRow(m_parts.kind, std::move(row), box.toStdString());
 }
 
+void TankListPage::showUnits()
+{
+    const TankChoices& choices = m_work.sheet().choices;
+    for (QLabel* unit : {m_units[0], m_units[1]})
+        unit->setText(unitOf(choices.volume));
+    m_units[2]->setText(unitOf(choices.temperature));
+    const NumberField temperature = temperatureField(choices.temperature);
+    m_parts.boxes[TankTemperature]->setLimits(limitsInWords(temperature.low, temperature.high));
+}
+
 void TankListPage::show()
 {
     m_table->follow(true);
     m_model->follow();
     m_table->showRowInHand();
     m_table->follow(false);
-    const TankChoices& choices = m_work.sheet().choices;
-    for (QLabel* unit : {m_units[0], m_units[1]})
-        unit->setText(unitOf(choices.volume));
-    m_units[2]->setText(unitOf(choices.temperature));
+    showUnits();
     const TankReckoning& reckoning = m_work.reckoning(m_parts.kind);
     const std::size_t row = m_work.row(m_parts.kind);
     if (row >= reckoning.rows()) return m_parts.results.show(TankTexts());

@@ -60,6 +60,7 @@ private:
     QWidget* layOutBoxes();
     void layOutResults(WrappingRow& row);
     void connectBoxes();
+    void showUnits();
     void typeRow(const QString& box);
     void typeInto(int column, const QString& text);
 

@@ -147,6 +147,45 @@ TEST_F(HelpTest, everythingInAWindowHasItsPlaceInTheManual)
     }
 }
 
+/// What a page says of a box: names / of / several – what they take – a range, or each its own.
+/// @return as the box says it; nothing where the page has words alone
+QString rangeIn(const QString& row, const QString& name)
+{
+    const QStringList cells = row.split(" – ");
+    const QStringList names = cells.front().split(" / ");
+    const QStringList ranges = QString(cells.value(2)).replace("−", "-").split(", ");
+    const QString range =
+        ranges.value(ranges.size() < names.size() ? 0 : names.indexOf(name), ranges.front());
+    static const QRegularExpression eachWay("^([0-9.]+) each way"), upTo("^to ([0-9.]+)"),
+        between("^(from [0-9.]+|-?[0-9.]+ to -?[0-9.]+)");
+    for (const auto& [form, words] :
+         {std::pair(&eachWay, "-%1 to %1"), {&upTo, "0 to %1"}, {&between, "%1"}})
+        if (const auto found = form->match(range); found.hasMatch())
+            return QString(words).arg(found.captured(1));
+    return {};
+}
+
+/// A range that was changed in one place only.
+TEST_F(HelpTest, boxesTakeWhatTheManualSays)
+{
+    int seen = 0;
+    for (const QMainWindow* window : allWindows())
+        for (const EntryBox* box : window->findChildren<EntryBox*>()) {
+            if (box->limits().isEmpty()) continue;
+            const HelpTopic topic = HelpDesk::topicOf(*box);
+            QTextDocument page;
+            page.setMarkdown(main->help().manual().text(topic.pages.front()));
+            const auto found = placeOf(page, topic.name);
+            ASSERT_TRUE(found) << topic.name.toStdString();
+            const QString range = rangeIn(found->text, topic.name);
+            if (range.isEmpty()) continue;
+            EXPECT_EQ(box->limits().toStdString(), range.toStdString())
+                << window->objectName().toStdString() << ": " << found->text.toStdString();
+            ++seen;
+        }
+    EXPECT_GE(seen, 150);
+}
+
 /// Every notice that a scene sees whole.
 TEST_F(HelpTest, everyNoticeHasItsPlaceAmongTheMessages)
 {
