@@ -20,6 +20,7 @@ constexpr int milesDecimals = 5;
 constexpr int hoursDecimals = 6;
 constexpr int knotsDecimals = 5;
 constexpr const char* instantFormat = "yyyy-mm-dd hh:mm:ss";
+constexpr const char* tooFewRows = "Fewer than two rows have a time, a latitude and a longitude.";
 
 std::string rowNumber(std::size_t row)
 {
@@ -152,7 +153,7 @@ Working legsWorking(const PositionRecordInput& input, const PositionRecordResult
     PaperTable first = times(input, result);
     if (!first.rows.empty()) working.tables.push_back(std::move(first));
     if (result.fixes.size() < 2)
-        working.whyNone = "Fewer than two rows have a time, a latitude and a longitude.";
+        working.whyNone = tooFewRows;
     else
         for (PaperTable& each :
              std::array{courses(result), distances(result, input.earth), speeds(result)})
@@ -173,9 +174,10 @@ Working runsWorking(const PositionRecordResult& result)
                            result.rows[row].dayRun);
     }
     if (!result.total) {
-        if (result.fixes.size() > 1)
-            working.whyNone = "No totals: a row is earlier than the one before it, no time passed, "
-                              "or no rhumb line leads to it.";
+        working.whyNone = result.fixes.size() < 2
+                              ? tooFewRows
+                              : "No totals: a row is earlier than the one before it, no time "
+                                "passed, or no rhumb line leads to it.";
         return working;
     }
     addSums(working, "Total", result, *result.total);

@@ -100,7 +100,7 @@ void frmUKC::connectChoices()
         });
     connect(&program(), &Program::minuteChanged, this, [this] {
         // Today may be another day now, and what is shown is a day's.
-        if (m_week.isThere() && m_boxes[Day]->value().empty()) calculations().runAll();
+        if (m_boxes[Day]->value().empty()) calculations().runAll();
     });
 }
 

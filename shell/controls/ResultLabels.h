@@ -51,12 +51,7 @@ public:
         strip->add(m_table[result].caption, m_labels.at(result), m_table[result].unit);
     }
 
-    /// Rows of a grid from this one on: caption, figure, unit.
-    void addRows(QGridLayout* grid, int row) const
-    {
-        for (std::size_t i = 0; i < m_labels.size(); ++i)
-            addRow(grid, row + static_cast<int>(i), i);
-    }
+    /// A row of a grid: caption, figure, unit.
     void addRow(QGridLayout* grid, int row, std::size_t result) const
     {
         grid->addWidget(new QLabel(m_table[result].caption), row, 0);

@@ -21,7 +21,8 @@ public:
 
     int heightForWidth(int width) const override
     {
-        return layout() ? layout()->totalMinimumHeightForWidth(width) : -1;
+        return layout() ? layout()->totalMinimumHeightForWidth(width)
+                        : QWidget::heightForWidth(width);
     }
 };
 

@@ -3,6 +3,7 @@
 
 #include "shell/screen/ColourScheme.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPainter>
@@ -45,7 +46,7 @@ protected:
 int gapOf(const QLayout& layout, QStyle::PixelMetric which)
 {
     const QWidget* widget = layout.parentWidget();
-    return widget ? std::max(0, widget->style()->pixelMetric(which)) : 0;
+    return std::max(0, (widget ? widget->style() : QApplication::style())->pixelMetric(which));
 }
 
 } // namespace

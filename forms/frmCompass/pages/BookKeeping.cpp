@@ -95,7 +95,7 @@ void BookKeeping::importList()
              programTitle, Buttons::Ok});
         return;
     }
-    std::size_t added = 0;
+    std::size_t added{};
     take(m_file.change([&](CompassBook& book) { added = addNewLines(book, list.lines); }));
     emit done(QString("%1 of %2 lines added, the others stand in the book already; Undo takes "
                       "them out again.")

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
+#include "calculator_windows.h"
 #include "navlib/sky/ephemeris_series.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/ResultLabel.h"
@@ -83,6 +84,16 @@ void expectInItsColumns(const WorkingStep& step)
     EXPECT_FALSE(signs.match(value).hasMatch()) << "not worked out: " << step.value;
 }
 
+/// A formula for the mean of three has no figures of a mean of two.
+void expectDivisorsIn(const WorkingStep& step)
+{
+    static const QRegularExpression divisor("/ [0-9]+(\\.[0-9]+)?(?! °)\\b");
+    const QString formula = QString::fromStdString(step.formula).section(',', 0, 0);
+    for (const auto& each : divisor.globalMatch(formula))
+        EXPECT_TRUE(QString::fromStdString(step.figures).contains(each.captured()))
+            << step.name << ": " << step.formula << " by " << step.figures;
+}
+
 /// How far two figures are apart; an arctan leaves out half turns.
 double apart(const WorkedFigures& figures, double said)
 {
@@ -114,6 +125,7 @@ TEST(PaperExamples, everyStepHasFiguresThatLeadToItsValue)
                 const auto figures = worked(step.figures);
                 if (!said || !figures) continue;
                 ++reckoned;
+                expectDivisorsIn(step);
                 EXPECT_LE(apart(*figures, said->value),
                           figures->rounding + 1.01 * said->rounding + 1e-9)
                     << working.title << ": " << step.name << ": " << step.figures << " = "
@@ -121,6 +133,18 @@ TEST(PaperExamples, everyStepHasFiguresThatLeadToItsValue)
             }
     }
     EXPECT_GE(reckoned, 250);
+}
+
+TEST(PaperExamples, anEmptyWindowSaysWhyNothingIsWorked)
+{
+    for (const CatalogueEntry& window : calculatorWindows()) {
+        SCOPED_TRACE(window.name.toStdString());
+        const WorkedExample example("window " + window.name.toStdString(),
+                                    QString::fromStdString(sourceFile("data")));
+        const WorkingPaper& paper = example.openPaper().paper().paper();
+        for (const Working& working : paper.workings)
+            EXPECT_TRUE(!working.steps.empty() || !working.whyNone.empty()) << working.title;
+    }
 }
 
 // What is written in the pictures, in the order in which it is drawn, and how many lines there are.
