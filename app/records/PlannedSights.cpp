@@ -7,6 +7,7 @@
 
 #include <array>
 #include <optional>
+#include <sstream>
 
 namespace korvel
 {
@@ -34,17 +35,14 @@ std::optional<Degrees> angleOf(const std::string& text, double low, double high)
 std::optional<PlannedSight> plannedSightOf(const std::string& text)
 {
     std::array<std::string, 3> heads;
-    std::size_t from = 0;
-    for (std::string& head : heads) {
-        const std::size_t to = text.find(';', from);
-        if (to == std::string::npos) return std::nullopt;
-        head = text.substr(from, to - from);
-        from = to + 1;
-    }
+    std::istringstream cells(text);
+    for (std::string& head : heads)
+        std::getline(cells, head, ';');
+    std::string body;
+    std::getline(cells, body);
     const auto utc = readIso(heads[0]);
     const auto altitude = angleOf(heads[1], 0, 90);
     const auto azimuth = angleOf(heads[2], 0, 360);
-    const std::string body = text.substr(from);
     if (!utc || !altitude || !azimuth || body.empty()) return std::nullopt;
     return PlannedSight{body, *utc, *altitude, *azimuth};
 }

@@ -16,7 +16,6 @@ namespace
 OpenedPlan planOf(ReadRoute read, const PlanConditions& conditions)
 {
     OpenedPlan opened{{}, std::move(read.fault), std::move(read.remarks)};
-    if (!opened.fault.empty()) return opened;
     PlanOfRoute plan = planOfRoute(read.route, conditions);
     opened.plan = std::move(plan.plan);
     opened.remarks.insert(opened.remarks.end(), plan.remarks.begin(), plan.remarks.end());

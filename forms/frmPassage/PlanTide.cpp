@@ -46,7 +46,7 @@ std::string tideText(const StationDays& station, const TideDates& dates, Instant
     if (!dates.contains(date))
         return "no tide of " + TideDates::label(date) + "; the tide window extends its dates, to " +
                TideDates::label(dates.lastSerial()) + " now";
-    std::string zoneWords = zoneText(spanOf(zone).value_or(Span(0)));
+    std::string zoneWords = zoneText(spanOf(zone).value_or(Span()));
     zoneWords.resize(zoneWords.find(" ("));
     return Format(zoneTime, "yyyy/mm/dd hh:mm") + " " + zoneWords + ", " +
            waterText(station.day(date), ut);

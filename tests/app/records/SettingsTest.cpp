@@ -129,6 +129,14 @@ TEST_F(SettingsFileTest, keepsADamagedFileAsideBeforeItIsOverwritten)
     EXPECT_EQ(files.files["KV_X.ini"], "3\r\n\r\n");
     EXPECT_EQ(files.files["KV_X damaged 2005-03-14 0945 2.ini"], damaged);
     EXPECT_EQ(files.files.size(), 3u) << "kept aside once";
+
+    files.files["KV_X.ini"] = "x\r\n\"text\"";
+    questions.willAnswer(Answer::Ok);
+    EXPECT_EQ(values(settings.load({1.0, std::string("default")}).value()), "1|\"text\"");
+    files.files["KV_X damaged 2005-03-14 0945 3.ini"] = "of another program meanwhile";
+    EXPECT_EQ(settings.saveQuietly({3.0, Value()}), "");
+    EXPECT_EQ(files.files["KV_X damaged 2005-03-14 0945 3.ini"], "of another program meanwhile");
+    EXPECT_EQ(files.files["KV_X damaged 2005-03-14 0945 4.ini"], "x\r\n\"text\"");
 }
 
 TEST_F(SettingsFileTest, opensWithDefaultsWhenNothingCanBeRead)

@@ -78,6 +78,11 @@ TEST(CompassList, comesBackToTheLastDigitThatItHas)
     EXPECT_EQ(csvText(compassList(read.lines, {0, 1, 2})), text);
     EXPECT_EQ(read.lines[0].remark, book[0].remark);
     EXPECT_TRUE(read.lines[1].readings[1].byHeads);
+    EXPECT_FALSE(read.lines[0].readings[1].byHeads) << "of which nothing was read";
+    EXPECT_EQ(
+        readCompassList(csvText(compassList(book, std::vector<std::size_t>(mostCompassLines, 0))))
+            .lines.size(),
+        mostCompassLines);
     CompassBook grown = {book[0]};
     EXPECT_EQ(addNewLines(grown, read.lines), 2u) << "the first stands there already";
     EXPECT_EQ(addNewLines(grown, read.lines), 0u);

@@ -146,6 +146,7 @@ TEST_F(frmCompassTest, aMonthOfWatchesKeptByKeys)
     EXPECT_EQ(list.model()->rowCount(), watches);
     EXPECT_EQ(list.model()->index(0, 0).data().toString(), "2026/09/30 21:58")
         << "the latest first";
+    EXPECT_EQ(list.currentIndex().row(), 1) << "what was recorded last, of 07:59, is in hand";
 }
 
 TEST_F(frmCompassTest, aLineOfTheBookComesBackIntoTheBoxes)

@@ -8,6 +8,7 @@
 #include "shell/manual/ManualPlaces.h"
 #include "shell/manual/ProgramFacts.h"
 #include "tests/SourceFolder.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QAccessible>
@@ -368,6 +369,8 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     search("Beaufort");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
     EXPECT_EQ(help()->view().textCursor().selectedText(), "Beaufort");
+    EXPECT_EQ(help()->view().extraSelections().size(),
+              help()->view().toPlainText().count("Beaufort", Qt::CaseInsensitive));
     main->help().openPage("frmWind");
     search("meridional parts");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -403,7 +406,8 @@ TEST(ManualPlaces, theLineThatSaysTheMostOfANameIsItsPlace)
     QTextDocument page;
     page.setMarkdown("# Page\n\n## Course / Track\n\n| Name | What it is |\n|---|---|\n"
                      "| Speed… | any |\n| Speed over ground | by the fix |\n| … | whatever |\n"
-                     "| Memo: Store now / Store later | both |\n| Input …: 5… | asked |\n");
+                     "| Memo: Store now / Store later | both |\n| Input …: 5… | asked |\n"
+                     "| Data: Turn round | entry |\n| Edit: Turn round | later |\n");
     const struct {
         const char *name, *line;
     } rows[] = {{"Speed over ground", "Speed over ground – by the fix"},
@@ -411,6 +415,7 @@ TEST(ManualPlaces, theLineThatSaysTheMostOfANameIsItsPlace)
                 {"Speed made good", "Speed… – any"},
                 {"track", "Course / Track"},
                 {"Store later", "Memo: Store now / Store later – both"},
+                {"Turn round", "Data: Turn round – entry"},
                 {"Input 7: 5 knots", "Input …: 5… – asked"},
                 {"Name", ""},
                 {"by the fix", ""},
@@ -421,7 +426,7 @@ TEST(ManualPlaces, theLineThatSaysTheMostOfANameIsItsPlace)
     }
     ASSERT_EQ(sectionsOf(page).size(), 1u);
     EXPECT_EQ(sectionsOf(page).front().text, "Course / Track");
-    EXPECT_EQ(linesOf(page).size(), 8u);
+    EXPECT_EQ(linesOf(page).size(), 10u);
 }
 
 TEST(ProgramFacts, tellWhatLiesBesideTheProgram)
@@ -452,6 +457,21 @@ TEST(FoundLine, startsShortlyBeforeTheWord)
     EXPECT_EQ(foundLine("one two three four five six tides", {"tides"}), "… five six tides");
     EXPECT_EQ(foundLine("averyveryverylongword(tide)", {"tide"}), "… tide)");
     EXPECT_EQ(foundLine("a\nb  tide and much before the ebb", {"tide", "ebb"}).left(8), "a b tide");
+    QListWidget list;
+    list.addItem("Tide and ebb, tide again");
+    FoundLines lines;
+    lines.setWords({"tide", "ebb"});
+    QStyleOptionViewItem option;
+    option.initFrom(&list);
+    option.rect = {0, 0, 400, 40};
+    testing::PaintedTexts sheet({400, 40});
+    QPainter painter(&sheet);
+    lines.paint(&painter, option, list.model()->index(0, 0));
+    painter.end();
+    QStringList pieces;
+    for (const testing::PaintedText& each : sheet.texts())
+        pieces << each.text.trimmed();
+    EXPECT_EQ(pieces.join('|').toStdString(), "Tide|and|ebb|,|tide|again") << "found words apart";
 }
 
 /// A link that leads to no page, or to a name that the page does not have.

@@ -418,6 +418,7 @@ TEST_F(NightTest, theNextStartBeginsInTheColoursOfTheLast)
     Screen& screen = main.program().screen();
     screen.toggleNight();
     screen.dim();
+    EXPECT_EQ(screen.choices().dimStep, 1) << "a step at a time";
     EXPECT_EQ(looksOfLastRun(records).dimStep, screen.choices().dimStep);
     screen.zoom(1);
     const Looks last{true, screen.choices().dimStep, screen.choices().zoom};
