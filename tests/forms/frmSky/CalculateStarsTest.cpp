@@ -264,6 +264,13 @@ TEST(SkyStars, sayWhatSpoilsThem)
     EXPECT_THAT(starsOf(day, "23:00").notice, HasSubstr("which is dark"));
     EXPECT_THAT(starsOf(day, "25:00").notice, HasSubstr("Minute of the stars: "));
     EXPECT_TRUE(starsWorkings(day, starsOf(day, "25:00")).empty());
+    const SkyStars stars = starsOf(day);
+    const auto workings = starsWorkings(day, stars);
+    const auto error =
+        std::ranges::find(workings, "Error of the fix of the round", &Working::title);
+    ASSERT_NE(error, workings.end());
+    EXPECT_EQ(std::ssize(error->tables.at(0).rows),
+              std::ranges::count(stars.bodies, true, &SkyBody::isInRound));
     EXPECT_FALSE(starsOf(day, "2026/12/22 18:00").utc);
     EXPECT_EQ(starsOf(day, "2026/11/23 5:00").utc, starsOf(day, "2026/11/23 05:00:00").utc);
     const SkyDay summer = dayOf({"2026/6/21 12:00", "75", "20", "", "", "", "1"});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What pages and windows are put together of.
 #include "shell/controls/AnswerStrip.h"
+#include "shell/controls/ChartBox.h"
 #include "shell/controls/ChosenOption.h"
 #include "shell/controls/FieldBoxes.h"
 #include "shell/controls/NoticeLine.h"
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QImage>
@@ -18,6 +20,7 @@
 #include <QLabel>
 #include <QRadioButton>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include <array>
@@ -157,6 +160,52 @@ TEST(ChosenOption, optionsOfAGroupAreNotThoseBesideThem)
     EXPECT_EQ(stops(), "+-+-");
     QTest::keyClick(north, Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(north->isChecked());
+}
+
+/// A chart that tells what it is asked for.
+class AskedChart : public ChartBox
+{
+public:
+    std::string asked;
+
+private:
+    void zoomBy(double factor, QPointF at) override { tell(factor > 1 ? "more" : "less", at); }
+    void moveBy(QPointF by) override { tell("by", by); }
+    void showHome() override { asked += "home "; }
+    void draw(QPainter&) override {}
+    void tell(const char* what, QPointF at)
+    {
+        asked += std::string(what) + " " + std::to_string(std::lround(at.x())) + "," +
+                 std::to_string(std::lround(at.y())) + " ";
+    }
+};
+
+TEST(ChartBox, keysAndWheelMoveAndZoom)
+{
+    AskedChart chart;
+    chart.resize(200, 100);
+    chart.setUserScale({100, 500, 180, 420}); // left, top, right, bottom: half as wide is 40
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Plus,
+                              Qt::Key_Equal, Qt::Key_Minus, Qt::Key_Home, Qt::Key_A})
+        QTest::keyClick(&chart, key);
+    EXPECT_EQ(chart.asked, "by -10,0 by 10,0 by 0,10 by 0,-10 less 140,460 less 140,460 "
+                           "more 140,460 home ");
+    for (const int turned : {120, -120}) {
+        chart.asked.clear();
+        QWheelEvent wheel({50, 25}, {50, 25}, {}, {0, turned}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&chart, &wheel);
+        EXPECT_EQ(chart.asked, turned > 0 ? "less 120,480 " : "more 120,480 ");
+    }
+    chart.asked.clear();
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
+        QTest::mousePress(&chart, button, {}, {50, 50});
+        QMouseEvent move(QEvent::MouseMove, QPointF(100, 50), QPointF(100, 50), Qt::NoButton,
+                         button, Qt::NoModifier);
+        QApplication::sendEvent(&chart, &move);
+        QTest::mouseRelease(&chart, button, {}, {100, 50});
+    }
+    EXPECT_EQ(chart.asked, "by -20,0 ") << "drawn along by the left button alone";
 }
 
 } // namespace

@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
+#include <QTableView>
 
 #include <algorithm>
 #include <array>
@@ -257,6 +258,16 @@ bool hasDigit(const std::string& text)
     return text.find_first_of("0123456789") != std::string::npos;
 }
 
+/// Whether a table of the paper has a row that begins like one of the window.
+bool hasRow(const WorkingPaper& paper, const QString& begin)
+{
+    return std::ranges::any_of(paper.tables, [&begin](const PaperTable& table) {
+        return std::ranges::any_of(table.rows, [&begin](const auto& row) {
+            return bare(QString::fromStdString(row.front())) == bare(begin);
+        });
+    });
+}
+
 /// Words of the paper that stand in several places of the window, or for a choice.
 constexpr std::array<std::string_view, 7> putTogether{
     "Height of the Sun", "Weight in air by", "Clocks, in all",       "Gasoline",
@@ -290,6 +301,15 @@ TEST(PaperExamples, everyResultStandsInTheWindowToo)
                 at = window.indexOf(wanted, at + 1);
             EXPECT_GT(at, 0) << result.name << ": " << shown;
         }
+        for (const auto* list : example.window().findChildren<QTableView*>())
+            for (int row = 0; list->isVisible() && row < list->model()->rowCount(); ++row) {
+                const auto cell = [list, row](int column) {
+                    return list->model()->index(row, column).data().toString();
+                };
+                // The last row of a plan waits for what is to be typed.
+                EXPECT_TRUE(cell(1).isEmpty() || hasRow(paper, cell(0)))
+                    << list->objectName().toStdString() << ": " << cell(0).toStdString();
+            }
         if (!hasDigit(paper.place)) continue; // a port or a station
         const auto place = parsePosition(paper.place, Axis::Latitude);
         EXPECT_TRUE(place && place->latitude && place->longitude) << paper.place;
