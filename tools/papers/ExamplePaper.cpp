@@ -18,8 +18,6 @@
 #include <QTextCursor>
 #include <QTextEdit>
 
-#include <sstream>
-
 namespace korvel
 {
 namespace
@@ -33,12 +31,12 @@ struct ExampleLine {
 std::vector<ExampleLine> linesOf(const std::string& example)
 {
     std::vector<ExampleLine> lines;
-    std::istringstream all(example);
-    for (std::string line; std::getline(all, line);) {
-        if (line.empty() || line.front() == '#') continue;
-        const std::size_t end = line.find(' ');
-        const std::string rest = end == line.npos ? "" : line.substr(end);
-        lines.push_back({line.substr(0, end), QString::fromStdString(rest).trimmed()});
+    for (const QString& line : QString::fromStdString(example).split('\n')) {
+        if (line.startsWith('#')) continue;
+        // What belongs together stands in one line: a sight, a row of a record.
+        for (const QString& step : line.split(" | ", Qt::SkipEmptyParts))
+            lines.push_back(
+                {step.section(' ', 0, 0).toStdString(), step.section(' ', 1).trimmed()});
     }
     return lines;
 }
