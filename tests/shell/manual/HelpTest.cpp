@@ -27,7 +27,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <regex>
+#include <set>
 
 namespace korvel
 {
@@ -203,6 +205,32 @@ TEST_F(HelpTest, everyNoticeHasItsPlaceAmongTheMessages)
         }
     }
     EXPECT_GE(seen, 10);
+}
+
+const QObject* windowOf(const QObject* object)
+{
+    while (object && !qobject_cast<const QMainWindow*>(object))
+        object = object->parent();
+    return object;
+}
+
+/// Two entries of one name, a row that is left out. View alone has gaps in its numbers.
+TEST_F(HelpTest, namesOfAWindowAreCountedThrough)
+{
+    static const QRegularExpression numbered("^(\\w+)\\((\\d+)\\)$");
+    for (const QMainWindow* window : allWindows()) {
+        std::map<QString, std::multiset<int>> numbers;
+        for (const QObject* each : window->findChildren<QObject*>())
+            if (const auto name = numbered.match(each->objectName());
+                name.hasMatch() && windowOf(each) == window && name.captured(1) != "mnuView")
+                numbers[name.captured(1)].insert(name.captured(2).toInt());
+        for (const auto& [name, all] : numbers) {
+            int next = *all.begin();
+            for (const int number : all)
+                EXPECT_EQ(number, next++)
+                    << window->objectName().toStdString() << ": " << name.toStdString();
+        }
+    }
 }
 
 /// A control that a screen reader passes by, a result or a box whose figure it does not hear.
