@@ -71,17 +71,17 @@ struct EclipticPlace {
     Degrees latitude;
 };
 
-EclipticPlace apparentSun(const Frame& frame, Degrees longitude, Degrees aberration)
+/// @param longitude with the aberration. The small corrections may carry it just out of 0 .. 360;
+/// sine and cosine do not mind.
+EclipticPlace apparentSun(const Frame& frame, Degrees longitude)
 {
-    // The two small corrections may carry the longitude just out of 0 .. 360; sine and cosine
-    // do not mind.
-    return {longitude + aberration + frame.nutation, Degrees(0)};
+    return {longitude + frame.nutation, Degrees(0)};
 }
 
 EclipticPlace apparentSun(const Frame& frame)
 {
-    return apparentSun(frame, SunLongitude(frame.julianDay),
-                       SunAberration(SunDistance(frame.julianDay)));
+    return apparentSun(frame,
+                       SunLongitude(frame.julianDay) + SunAberration(SunDistance(frame.julianDay)));
 }
 
 EclipticPlace apparentMoon(const Frame& frame)
@@ -289,7 +289,7 @@ SunFigures FiguresOfSun(DateTime instant)
     sun.aberration = SunAberration(SunDistance(frame.julianDay));
     sun.nutation = frame.nutation;
     sun.obliquity = frame.obliquity;
-    const EclipticPlace apparent = apparentSun(frame, sun.longitude, sun.aberration);
+    const EclipticPlace apparent = apparentSun(frame, sun.longitude + sun.aberration);
     sun.apparentLongitude = apparent.longitude;
     sun.declination = sunDeclination(frame, apparent);
     sun.rightAscension = sunRightAscension(frame, apparent);

@@ -30,7 +30,8 @@ public:
     /// The text; good until it changes.
     const std::string& value() const;
 
-    /// Greatest number of characters of a number, a date or a position; of a text for the log.
+    /// Greatest number of characters of a number, a date or a position; of a text for the log, and
+    /// of a search: a pasted page is none.
     static constexpr int longestFigure = 40;
     static constexpr int longestText = 100;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/manual/HelpWindow.h"
 
+#include "shell/controls/Boxes.h"
 #include "shell/controls/ReadingOrder.h"
 #include "shell/manual/FoundLines.h"
 #include "shell/manual/Manual.h"
@@ -23,7 +24,6 @@ namespace
 constexpr int pageRole = Qt::UserRole;
 constexpr int positionRole = Qt::UserRole + 1;
 constexpr int mostFound = 200;
-constexpr int longestSearch = 100; // a pasted page is no search
 
 QPushButton* button(const char* name, const QString& caption, const QString& keys)
 {
@@ -47,7 +47,7 @@ HelpWindow::HelpWindow(const Manual& manual, QWidget* parent)
     setAttribute(Qt::WA_DeleteOnClose);
     m_txtFind->setObjectName("txtFindHelp");
     m_txtFind->setAccessibleName("Find in the manual");
-    m_txtFind->setMaxLength(longestSearch);
+    m_txtFind->setMaxLength(EntryBox::longestText);
     m_lstFound->setObjectName("lstHelp");
     m_lstFound->setAccessibleName("Contents, or what was found");
     m_lstFound->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/paper/JournalWindow.h"
 
+#include "shell/controls/Boxes.h"
 #include "shell/machine/AsQString.h"
 #include "shell/paper/PaperDocument.h"
 #include "shell/program/Program.h"
@@ -24,8 +25,7 @@ namespace
 using namespace std::chrono_literals;
 
 constexpr const char* widestDay = "0000-00-00 00";
-constexpr int longestSearch = 100; // letters: a pasted page is no search
-constexpr auto atOnce = 50ms;      // of a search, before the next key is looked at
+constexpr auto atOnce = 50ms; // of a search, before the next key is looked at
 
 } // namespace
 
@@ -38,7 +38,7 @@ JournalWindow::JournalWindow(Program& program)
     setWindowTitle("Journal of kept papers");
     m_search->setObjectName("txtSearch");
     m_search->setAccessibleName("Words to be found in the journal");
-    m_search->setMaxLength(longestSearch);
+    m_search->setMaxLength(EntryBox::longestText);
     m_searchOn.setSingleShot(true);
     connect(&m_searchOn, &QTimer::timeout, this, [this] {
         const QString before = day();

@@ -3,6 +3,7 @@
 
 #include "app/reading/Format.h"
 #include "forms/frmTIDE/data/TideDates.h"
+#include "forms/frmTIDE/day/TideResults.h"
 
 namespace korvel
 {
@@ -78,8 +79,9 @@ void tellResults(WorkingPaper& paper, const TideAsked& asked)
     paper.results = {
         {"Highest and lowest of the half-hourly values, hours.minutes", four.lblTideInfo}};
     const bool isTide = four.kind == TideKind::Tide;
-    for (const std::string& direction : four.lblCuDirection)
-        if (!direction.empty()) paper.results.push_back({"Direction", direction});
+    for (const std::size_t set : {HeadShown::flood, HeadShown::ebb})
+        if (const std::string* direction = headResults[set].textIn(four); !direction->empty())
+            paper.results.push_back({headResults[set].inWords(), *direction});
     paper.results.push_back({isTide ? "Range and Moon" : "Slack and Moon", rangeText(asked.day)});
     for (const CurveAnswer* answer : {&asked.height, &asked.times}) {
         const char* name = answer == &asked.height ? "At the time asked for"

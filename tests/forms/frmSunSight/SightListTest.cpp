@@ -124,6 +124,9 @@ TEST(SightList, textsThatAreNoSightAreKept)
     cleared.remove(0);
     EXPECT_EQ(cleared.takeBack(), 1U);
     EXPECT_TRUE(cleared.unreadable().empty());
+    SightList full = SightList::fromTexts(std::vector<std::string>(SightList::most - 1, "tail"));
+    EXPECT_EQ(full.record(morning2020), SightList::Outcome::Recorded);
+    EXPECT_NE(full.record(noon2020), SightList::Outcome::Recorded) << "no row is left for it";
 }
 
 TEST(SightSettings, roundTrip)

@@ -67,7 +67,8 @@ TEST(TidePaper, tellsTheDayOfATideAndOfAStream)
             "the lowest; Range and Moon: Range 3.00 m, springs .*; At the time asked for: "
             "1.50 m; At the height asked for or above it: 02:00 to 06:00, 14:00 to 18:00; "));
     EXPECT_THAT(asText(stream.results),
-                ::testing::MatchesRegex(".*; Direction: .* : East; Direction: - : West; Slack and "
+                ::testing::MatchesRegex(".*; Direction of the flood stream: .* : East; "
+                                        "Direction of the ebb stream: - : West; Slack and "
                                         "Moon: Slack 01:00, 07:00, 13:00, 19:00; springs .*; At "
                                         "the time asked for: 1.5 kn; At the rate asked for or "
                                         "above it: 02:00 to 06:00, 14:00 to 18:00; "));

@@ -25,6 +25,7 @@
 #include <cmath>
 #include <iterator>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -287,6 +288,9 @@ TEST(PaperExamples, everyResultStandsInTheWindowToo)
             return hasDigit(input.value) &&
                    input.value.find("nothing entered") == std::string::npos;
         });
+        std::set<std::string> names;
+        for (const PaperFigure& result : paper.results)
+            EXPECT_TRUE(names.insert(result.name + result.unit).second) << "two of " << result.name;
         for (const PaperFigure& result : figures) {
             if (std::ranges::count(putTogether, result.name)) continue;
             const std::string& shown = result.shown.empty() ? result.value : result.shown;
