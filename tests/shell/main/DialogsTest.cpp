@@ -104,7 +104,7 @@ FileDialogSeen inFileDialog(const QString& typed, const std::function<void()>& o
     QTimer attendant;
     QObject::connect(&attendant, &QTimer::timeout, &attendant, [&] {
         auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog) return;
+        if (!dialog || !dialog->isVisible()) return;
         attendant.stop();
         auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
         seen = {dialog->directory().canonicalPath(), dialog->selectedNameFilter(), name->text(),
@@ -164,8 +164,7 @@ TEST(MessageQuestions, whoeverLeavesHasNotAnswered)
         QTimer attendant;
         QObject::connect(&attendant, &QTimer::timeout, &attendant, [&, key = key] {
             QWidget* box = QApplication::activeModalWidget();
-            if (!box) return;
-            attendant.stop();
+            if (!box || !box->isVisible()) return;
             if (key == Cross)
                 box->close();
             else
