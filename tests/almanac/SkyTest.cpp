@@ -184,13 +184,13 @@ TEST(Sky, betweenTheHoursPlacesAreInterpolated)
     }
 }
 
-// Published instants of new Moon, and of other phases.
 TEST(Sky, justPastTheMeridianIsNorthAndNotAFullTurn)
 {
     const Place passed{Degrees(1e-15), Degrees(40), Degrees(0), Degrees(0), Degrees(0)};
     EXPECT_NEAR(computedDirection(passed, {}).azimuth.value(), 0, 1e-9);
 }
 
+// Published instants of new Moon, and of other phases.
 TEST(Sky, phasesOfTheMoon)
 {
     const double minute = 1.0 / 1440;

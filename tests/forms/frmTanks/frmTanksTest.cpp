@@ -4,6 +4,7 @@
 #include "forms/frmNoon/frmNoon.h"
 #include "forms/frmTanks/TankModel.h"
 #include "forms/frmTanks/TankRecord.h"
+#include "shell/controls/Boxes.h"
 #include "shell/controls/RowsView.h"
 #include "tests/shell/ShellTesting.h"
 
@@ -313,12 +314,15 @@ TEST_F(frmTanksTest, boxesHaveTheUnitsThatWereChosen)
         return unitBehind("txtTank(2)") + " " + unitBehind("txtTank(3)") + " " +
                unitBehind("txtTank(4)");
     };
+    const auto& temperature = dynamic_cast<EntryBox&>(control(window, "txtTank(4)"));
     EXPECT_EQ(units(), "m³ m³ °C");
+    EXPECT_EQ(temperature.limits(), "-60 to 200");
     turnTo(window, 1);
     click(window, "optVolume(1)");
     click(window, "optTemperature(1)");
     turnTo(window, 0);
     EXPECT_EQ(units(), "bbl bbl °F");
+    EXPECT_EQ(temperature.limits(), "-76 to 400");
 }
 
 TEST_F(frmTanksTest, aStepInABoxOfTheSheetIsTakenBackAndDoneAgain)
