@@ -2,6 +2,7 @@
 #include "bench/ui/main.h"
 
 #include "bench/ui/Keystroke.h"
+#include "shell/machine/GuardedApplication.h"
 #include "shell/screen/ScreenStyle.h"
 
 #include <benchmark/benchmark.h>
@@ -43,7 +44,7 @@ int runUiBench(int argc, char* argv[], const std::vector<std::pair<std::string, 
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setStyle(new ScreenStyle);
-    QApplication application(argc, argv);
+    GuardedApplication application(argc, argv);
 
     if (argc == 4 && std::string(argv[1]) == "count") {
         WithoutClock still;

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "shell/machine/FaultGuard.h"
+#include "shell/machine/VectorRegisters.h"
 
 #include <QApplication>
 
 namespace korvel
 {
 
-/// The application with a guard around every event.
+/// The application with a guard around every event, which finds the processor at its full speed.
 class GuardedApplication : public QApplication
 {
 public:
@@ -18,6 +19,7 @@ public:
 
     bool notify(QObject* receiver, QEvent* event) override
     {
+        releaseVectorRegisters();
         return guard.run([&] { return QApplication::notify(receiver, event); });
     }
 };
