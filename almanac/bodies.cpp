@@ -68,7 +68,7 @@ const BodyEntry& entryOf(Body body)
 
 std::optional<Body> findBody(std::string_view nameOrNumber)
 {
-    int number = 0;
+    int number{};
     const char* end = nameOrNumber.data() + nameOrNumber.size();
     const auto [rest, fault] = std::from_chars(nameOrNumber.data(), end, number);
     const bool isNumber = fault == std::errc{} && rest == end && number > 0;

@@ -33,12 +33,11 @@ struct Sample {
     bool positive() const { return value >= 0; }
 };
 
-/// The turning point of a parabola through three samples, if it lies between the outer two and on
-/// the other side of 0 than they do.
+/// The turning point of a parabola through three samples, if it lies next to the middle one and on
+/// the other side of 0 than that.
 std::optional<Sample> turnBeyondZero(const Curve& curve, const Sample& a, const Sample& b,
                                      const Sample& c)
 {
-    if (a.positive() != b.positive() || b.positive() != c.positive()) return std::nullopt;
     const double bend = a.value - 2 * b.value + c.value;
     const double part = (a.value - c.value) / (2 * bend);
     if (!(std::fabs(part) <= 0.5)) return std::nullopt; // no number where the curve is straight

@@ -100,7 +100,6 @@ const MagneticModel& MagneticModel::ofProgram()
     static const MagneticModel model = [] {
         MagneticModel made;
         made.m_name = "WMM-2025";
-        made.m_released = "11/13/2024";
         made.m_epoch = 2025;
         for (const FieldTerm& term : fieldTerms)
             made.m_coefficients.at(indexOf(term.n, term.m)) = {term.g, term.h, term.gChange,

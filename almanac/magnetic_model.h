@@ -86,7 +86,6 @@ public:
     static MagneticModel read(std::string_view file);
 
     const std::string& name() const { return m_name; }         ///< "WMM-2025"
-    const std::string& released() const { return m_released; } ///< as the file has it
     double firstYear() const { return m_epoch; }
     double lastYear() const { return m_epoch + yearsOfUse; } ///< still good
 
@@ -108,7 +107,6 @@ private:
     void requireRange(const MagneticPoint& point) const;
 
     std::string m_name;
-    std::string m_released;
     double m_epoch{};
     std::array<Coefficient, count> m_coefficients;
 };

@@ -91,7 +91,6 @@ private:
         m_model.m_epoch = number(words[0], 2200);
         if (m_model.m_epoch < 1900) fail(std::string(words[0]) + " is no year of an edition");
         m_model.m_name = words[1];
-        m_model.m_released = words[2];
     }
 
     void readCoefficient(int n, int m)

@@ -41,8 +41,7 @@ DateTime newMoonBefore(DateTime ut, Degrees elongation)
 MoonPhase moonPhaseAt(DateTime ut)
 {
     const Sky sky(ut);
-    Degrees elongation = elongationAt(sky);
-    if (elongation < Degrees(0)) elongation += NavFunc113::fullTurn;
+    const Degrees elongation = NavFunc113::AsCourse(elongationAt(sky));
     const Vector moon = placeVector(sky.place(Body::Moon));
     const Vector sun = placeVector(sky.place(Body::Sun));
     const double cosPhaseAngle = dot(unit(moon), unit(moon - sun));

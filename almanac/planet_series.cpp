@@ -38,11 +38,6 @@ std::span<const PlanetTerm> termsOf(Body planet)
     return {first, last};
 }
 
-// Of the description of VSOP87: its ecliptic to the equator of J2000.0, within 0.03" of ICRS.
-constexpr Matrix equatorOfVsop{{{1.000000000000, 0.000000440360, -0.000000190919},
-                                {-0.000000479966, 0.917482137087, -0.397776982902},
-                                {0.000000000000, 0.397776982902, 0.917482137087}}};
-
 } // namespace
 
 Vector heliocentricPlanet(Body planet, double daysTT)

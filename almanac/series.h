@@ -7,6 +7,12 @@
 namespace almanac
 {
 
+/// The ecliptic of VSOP87 to the equator of J2000.0, within 0.03" of ICRS.
+/// Source: the description that comes with VSOP87.
+inline constexpr Matrix equatorOfVsop{{{1.000000000000, 0.000000440360, -0.000000190919},
+                                       {-0.000000479966, 0.917482137087, -0.397776982902},
+                                       {0.000000000000, 0.397776982902, 0.917482137087}}};
+
 /// Heliocentric place of Venus, Mars, Jupiter or Saturn, astronomical units, along the axes of
 /// ICRS.
 ///

@@ -111,7 +111,7 @@ Degrees angleBetween(const Direction& a, const Direction& b)
     const double wide = sin((a.azimuth - b.azimuth) / 2);
     const double square = high * high + cos(a.altitude) * cos(b.altitude) * wide * wide;
     return NavFunc113::RadToDeg(
-        NavFunc113::Radians(2 * std::asin(std::sqrt(std::clamp(square, 0.0, 1.0)))));
+        NavFunc113::Radians(2 * std::asin(std::sqrt(std::min(1.0, square)))));
 }
 
 std::vector<RoundBody> fitForRound(std::span<const RoundBody> bodies, std::span<const Glare> glares)

@@ -210,18 +210,18 @@ private:
         if (reading.byHeads)
             m_working.step(name + ", error by heads", "true head less head by compass",
                            degrees(*m_result.worked.trueHead) + " - " + degrees(*reading.head) +
-                               turnsOf(*m_result.worked.trueHead - *reading.head),
+                               turnToHalf(*m_result.worked.trueHead - *reading.head),
                            shown(*reading.error), "°");
         else
             m_working.step(name + ", error", "true bearing less bearing by compass",
                            degrees(m_result.seen->bearing) + " - " + degrees(*reading.bearing) +
-                               turnsOf(m_result.seen->bearing - *reading.bearing),
+                               turnToHalf(m_result.seen->bearing - *reading.bearing),
                            shown(*reading.error), "°");
         m_working.resultStep(name + ", error", "to a tenth of a degree", m_result.errors[i]);
         if (!reading.deviation) return;
         m_working.step(name + ", deviation", "error less variation",
                        degrees(*reading.error) + " - " + degrees(m_result.magnetic->variation) +
-                           turnsOf(*reading.error - m_result.magnetic->variation),
+                           turnToHalf(*reading.error - m_result.magnetic->variation),
                        shown(*reading.deviation), "°");
         m_working.resultStep(name + ", deviation", "to a tenth of a degree",
                              m_result.deviations[i]);
@@ -231,24 +231,15 @@ private:
                                  m_result.besideCurves[i]);
     }
 
-    /// What brings a difference within half a turn.
-    static std::string turnsOf(Degrees difference)
-    {
-        if (difference >= NavFunc113::halfTurn) return " - 360";
-        return difference < -NavFunc113::halfTurn ? " + 360" : "";
-    }
-
     void addTrueHead()
     {
         if (!m_result.worked.trueHead) return;
         for (const CompassReading& reading : m_result.readings) {
             if (!reading.head || !reading.error || reading.byHeads) continue;
             const Degrees sum = *reading.head + *reading.error;
-            const std::string turn = sum >= NavFunc113::fullTurn ? " - 360"
-                                     : sum < Degrees(0)          ? " + 360"
-                                                                 : "";
             m_working.step("True head", "head by compass + its error",
-                           degrees(*reading.head) + " + " + degrees(*reading.error) + turn,
+                           degrees(*reading.head) + " + " + degrees(*reading.error) +
+                               turnToCircle(sum),
                            shown(*m_result.worked.trueHead), "°");
             m_working.resultStep("True head", "to a tenth of a degree", m_result.trueHead);
             return;
@@ -273,6 +264,18 @@ private:
 };
 
 } // namespace
+
+std::string turnToCircle(Degrees sum)
+{
+    if (sum >= NavFunc113::fullTurn) return " - 360";
+    return sum < Degrees(0) ? " + 360" : "";
+}
+
+std::string turnToHalf(Degrees difference)
+{
+    if (difference >= NavFunc113::halfTurn) return " - 360";
+    return difference < -NavFunc113::halfTurn ? " + 360" : "";
+}
 
 std::vector<Working> compassWorkings(const CompassInput& input, const CompassResult& result)
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmCompass/CoursesWorking.h"
 
+#include "forms/frmCompass/CompassWorking.h"
 #include "navlib/angles.h"
 
 namespace korvel
@@ -21,13 +22,6 @@ std::string degrees(Degrees angle)
 std::string shown(Degrees angle)
 {
     return figure(angle, anglePlaces);
-}
-
-/// What brings a sum within the circle.
-std::string turnsOf(Degrees sum)
-{
-    if (sum >= NavFunc113::fullTurn) return " - 360";
-    return sum < Degrees(0) ? " + 360" : "";
 }
 
 /// The steps of one calculation.
@@ -63,7 +57,7 @@ private:
     {
         const Degrees sum = isLess ? a - b : a + b;
         m_working.step(name, formula,
-                       degrees(a) + (isLess ? " - " : " + ") + degrees(b) + turnsOf(sum),
+                       degrees(a) + (isLess ? " - " : " + ") + degrees(b) + turnToCircle(sum),
                        shown(within(sum)), "°");
     }
 

@@ -204,7 +204,7 @@ void frmNoon::run()
 void frmNoon::changeEvent(QEvent* event)
 {
     CalculatorWindow::changeEvent(event);
-    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()) return;
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow()) return;
     // Later: another window may be going at this moment, and is not to be asked for its record.
     QMetaObject::invokeMethod(
         this,

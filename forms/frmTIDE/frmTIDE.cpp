@@ -233,7 +233,7 @@ void frmTIDE::changeEvent(QEvent* event)
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_hasBeenSeen) return;
     m_hasBeenSeen = true;
     // A question asked before would keep the window behind the one that it was opened from.
-    QTimer::singleShot(0, this, &frmTIDE::offerUnasked);
+    QMetaObject::invokeMethod(this, &frmTIDE::offerUnasked, Qt::QueuedConnection);
 }
 
 /// Takes a choice over and predicts. When that fails, place and date go back with the curve that

@@ -62,7 +62,6 @@ void KeelPicture::show(const TideWeek& week, const UKCResult& result)
         m_chosen = QPointF(figures.tide->time->value(), figures.tide->height.value());
     const double days = std::max<double>(1, static_cast<double>(week.days.size()));
     setUserScale({0, high + 0.2, hoursOfDay * days, low - 0.2});
-    update();
 }
 
 void KeelPicture::placeMargins()

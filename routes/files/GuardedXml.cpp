@@ -100,7 +100,7 @@ std::string GuardedXml::element()
     std::string declarations;
     std::vector<std::string> known;
     for (auto each = scope.rbegin(); each != scope.rend(); ++each) {
-        if (std::find(known.begin(), known.end(), each->prefix) != known.end()) continue;
+        if (std::ranges::find(known, each->prefix) != known.end()) continue;
         known.push_back(each->prefix);
         if (each->depth == depth) continue; // its own
         if (!each->prefix.empty() && text.find(each->prefix + ":") != std::string::npos)

@@ -9,7 +9,6 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QSizeGrip>
-#include <QTimer>
 #include <QToolButton>
 #include <QWindow>
 
@@ -96,7 +95,8 @@ bool OwnFrame::moveByMenuBar(QEvent& event)
 bool OwnFrame::eventFilter(QObject* watched, QEvent* event)
 {
     if (!m_isHeld) return false;
-    if (event->type() == QEvent::Resize) QTimer::singleShot(0, this, &OwnFrame::fitTitle);
+    if (event->type() == QEvent::Resize)
+        QMetaObject::invokeMethod(this, &OwnFrame::fitTitle, Qt::QueuedConnection);
     return event->type() == QEvent::MouseButtonPress && watched == m_window.menuBar() &&
            moveByMenuBar(*event);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "almanac/daily_page.h"
+#include "almanac/page_cells.h"
 #include "almanac/page_text.h"
 #include "tests/almanac/AlmanacTesting.h"
 
@@ -52,7 +53,7 @@ DailyPage madeUp()
                        minutes(1.21), minutes(0.31),     first + 1 + (12 + 5 / 60.0) / 24};
     page.planets[3].body = Body::Saturn;
     page.planets[3].change = minutes(-0.04);
-    page.stars.assign(6, {*findBody("Sirius"), Degrees(258.9667), Degrees(-16.6833)});
+    page.stars.assign(7, {*findBody("Sirius"), Degrees(258.9667), Degrees(-16.6833)});
     page.stars.push_back({*findBody("Polaris"), Degrees(315.5), Degrees(89.35)});
     PageDay& day = page.days[0];
     day.date = first;
@@ -95,8 +96,8 @@ TEST(PageText, everyFigureStandsInItsColumn)
              std::string("Aries            -      17 23"),
              std::string("Venus      319 40.0    12 05      0.3   -0.4    1.2"),
              std::string("Saturn       0 00.0    -- --      0.0    0.0    0.0"),
-             twice + "     Polaris         315 30.0 N 89 21.0",
-             twice,
+             twice + "  " + sirius + "\n" + twice + "     Polaris         315 30.0 N 89 21.0\n" +
+                 twice,
              std::string("Wed 00 |  10 00.0 N  0 30.0  20 00.0   0.2 S  1 30.0 -12.3   57.2"),
              std::string("Sun: SD 16.3', d -0.2' of the middle day. GHA exact, not smoothed."),
              std::string("Lat.  | Nautical Civil         |     30     31      1      2 |         "
@@ -113,6 +114,8 @@ TEST(PageText, everyFigureStandsInItsColumn)
          })
         EXPECT_THAT(text, HasSubstr("\n" + line + "\n"));
     EXPECT_TRUE(text.starts_with("2026 December 30, 31, 2027 January 1 (Wed, Thu, Fri)\n"));
+    EXPECT_EQ(datesText(instantOf("2027-01-30T00:00:00Z"), 3),
+              "2027 January 30, 31, February 1 (Sat, Sun, Mon)");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "almanac/horizon.h"
 #include "almanac/hourly_places.h"
 #include "almanac/moon_phase.h"
+#include "almanac/series.h"
 #include "tests/almanac/AlmanacTesting.h"
 #include "tests/golden/Golden.h"
 
@@ -182,6 +183,13 @@ TEST(Sky, betweenTheHoursPlacesAreInterpolated)
             EXPECT_LT(found.gha.value(), 360);
         }
     }
+}
+
+TEST(Sky, theEquatorOfThePlanetsIsAPureTurn)
+{
+    for (std::size_t i = 0; i < 3; ++i)
+        for (std::size_t j = 0; j <= i; ++j)
+            EXPECT_NEAR(dot(equatorOfVsop[i], equatorOfVsop[j]), i == j ? 1 : 0, 3e-12) << i << j;
 }
 
 TEST(Sky, justPastTheMeridianIsNorthAndNotAFullTurn)

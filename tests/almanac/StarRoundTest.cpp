@@ -77,7 +77,8 @@ TEST(StarRound, faintOnesAreTakenLessWellAndAFullMoonDrownsMore)
 
 TEST(StarRound, whatServes)
 {
-    const Glare moon{{Degrees(30), Degrees(359)}, Degrees(10)};
+    const std::array glares{Glare{{Degrees(30), Degrees(359)}, Degrees(10)},
+                            Glare{{Degrees(-4), Degrees(200)}, reachOfSun}};
     const struct {
         const char* fault;
         RoundBody body;
@@ -92,9 +93,11 @@ TEST(StarRound, whatServes)
         {"beside the Moon across north", bodyAt(6, 30), false},
         {"beside her in altitude", bodyAt(359, 39.9), false},
         {"away from her", bodyAt(359, 40.1), true},
+        {"in the twilight above the Sun", bodyAt(200, 15.9), false},
+        {"20 degrees above him", bodyAt(200, 16.1), true},
     };
     for (const auto& each : cases) {
-        const std::vector<RoundBody> fit = fitForRound({&each.body, 1}, {&moon, 1});
+        const std::vector<RoundBody> fit = fitForRound({&each.body, 1}, glares);
         EXPECT_EQ(!fit.empty(), each.serves) << each.fault;
     }
     EXPECT_NEAR(angleBetween({Degrees(0), Degrees(10)}, {Degrees(0), Degrees(350)}).value(), 20,
@@ -200,6 +203,8 @@ TEST(Magnitudes, ofPlanets)
         {"2006-10-28T00:00:00Z", Body::Venus, -3.917, 0.001},
         {"2005-12-14T00:00:00Z", Body::Venus, -4.916, 0.001},
         {"2004-06-08T00:00:00Z", Body::Venus, -3.090, 0.01}, // about to pass before the Sun
+        // Their formula for a narrow crescent, worked with ERFA's places of plan94 and epv00.
+        {"2023-08-13T00:00:00Z", Body::Venus, -4.120, 0.005},
         {"2004-09-21T00:00:00Z", Body::Jupiter, -1.667, 0.001},
         {"2010-09-21T00:00:00Z", Body::Jupiter, -2.934, 0.001},
     };

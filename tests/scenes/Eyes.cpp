@@ -187,15 +187,10 @@ QColor schemeColour(const ColourScheme& colours, const std::string& name)
     return found->second;
 }
 
-QImage imageOf(QWidget& widget)
-{
-    return widget.grab().toImage();
-}
-
 template <bool Wanted>
 void drawn(Stage& stage, const Words& words)
 {
-    const QImage image = imageOf(stage.control(wordAt(words, 0)));
+    const QImage image = onScreen(stage.control(wordAt(words, 0)));
     auto counts = coloursOf(image, image.rect());
     for (std::size_t i = 1; i < words.size(); ++i)
         if ((counts[schemeColour(stage.program().colours(), words[i].text).rgb()] > 0) != Wanted)
@@ -208,7 +203,7 @@ void drawnAt(Stage& stage, const Words& words)
 {
     auto& picture = dynamic_cast<PictureBox&>(stage.control(wordAt(words, 0)));
     const QRgb colour = schemeColour(stage.program().colours(), wordAt(words, 1)).rgb();
-    const QImage image = imageOf(picture);
+    const QImage image = onScreen(picture);
     for (std::size_t i = 2; i < words.size(); i += 2) {
         const QPoint at = picture.toPixel(numberAt(words, i), numberAt(words, i + 1)).toPoint();
         if (coloursOf(image, QRect(at - QPoint(2, 2), QSize(5, 5))).contains(colour) != Wanted)
@@ -223,7 +218,7 @@ void contrasts(Stage& stage, const Words& words)
     for (int scheme = 0; scheme < 2; ++scheme) {
         for (std::size_t i = 1; i < words.size(); ++i)
             for (const std::string& name : membersOf(words[i].text)) {
-                const QImage image = imageOf(stage.control(name));
+                const QImage image = onScreen(stage.control(name));
                 const double seen = strongestContrast(image, image.rect());
                 if (seen < numberAt(words, 0))
                     throw std::runtime_error(

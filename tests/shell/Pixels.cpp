@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/shell/Pixels.h"
 
+#include <QApplication>
+#include <QScreen>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -9,6 +12,19 @@
 
 namespace korvel::testing
 {
+
+QImage onScreen(QWidget& widget)
+{
+    for (int round = 0; round < 2;
+         ++round) // what is laid out in the first is painted in the second
+        QApplication::processEvents();
+    if (widget.visibleRegion() != QRegion(widget.rect())) return widget.grab().toImage();
+    const QWidget& window = *widget.window();
+    const QRect room(widget.mapTo(&window, QPoint()), widget.size());
+    return window.screen()
+        ->grabWindow(window.winId(), room.x(), room.y(), room.width(), room.height())
+        .toImage();
+}
 
 double luminance(QRgb colour)
 {

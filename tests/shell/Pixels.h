@@ -5,12 +5,17 @@
 #include <QImage>
 #include <QPointF>
 #include <QRect>
+#include <QWidget>
 
 #include <map>
 
 /// What tests see of the screen.
 namespace korvel::testing
 {
+
+/// What stands on the screen of a widget: what changed, but did not ask to be painted anew, stands
+/// there as it was. Of one that is not in sight as a whole, what it would paint.
+QImage onScreen(QWidget& widget);
 
 /// Relative luminance as WCAG 2 defines it.
 double luminance(QRgb colour);

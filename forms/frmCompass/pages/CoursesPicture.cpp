@@ -58,7 +58,6 @@ void CoursesPicture::showTriangle(const std::optional<CourseTriangle>& triangle,
         if (largest > ringCount * m_step) m_step = wider;
     const double edge = ringCount * m_step * margin;
     setUserScale({-edge, edge, edge, -edge});
-    update();
 }
 
 void CoursesPicture::placeMargins()

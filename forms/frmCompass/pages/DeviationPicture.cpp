@@ -51,7 +51,6 @@ void DeviationPicture::showCurve(const DeviationCurve& curve)
 {
     m_curve = curve;
     scale();
-    update();
 }
 
 void DeviationPicture::showInHand(const std::optional<NavFunc113::DeviationPoint>& point)

@@ -57,7 +57,6 @@ void SeriesPicture::showSeries(const std::vector<SightSeries>& series)
     m_halfTime = roundedUp(time);
     m_halfArc = roundedUp(arc);
     setUserScale({-m_halfTime, m_halfArc, m_halfTime, -m_halfArc});
-    update();
 }
 
 void SeriesPicture::placeMargins()

@@ -58,7 +58,6 @@ void SightPicture::showPlot(const SightPlot& plot)
 {
     m_plot = plot;
     setUserScale(scaleOf(plot.view));
-    update();
 }
 
 void SightPicture::keyPressEvent(QKeyEvent* event)
@@ -146,7 +145,7 @@ void SightPicture::keepOffMarks(PlotLettering& places) const
     for (const PlotLine& line : m_plot.lines) {
         places.keepOff(QPolygonF({pixel({}), pixel(line.foot), pixel(line.arrowTo)}));
         for (const std::vector<PlotPoint>& run : line.runs)
-            if (line.visible) places.keepOff(polygon(run));
+            places.keepOff(polygon(run));
     }
     std::vector<PlotFix> fixes = m_plot.without;
     if (m_plot.fix) fixes.push_back(*m_plot.fix);
@@ -286,7 +285,6 @@ void SightPicture::paintLine(QPainter& painter, const PlotLine& line) const
         painter.drawLine(tip,
                          tip - 2 * unit() *
                                    QPointF(std::cos(direction + side), std::sin(direction + side)));
-    if (!line.visible) return;
     painter.setPen(pen(colours().route, LineWeight::subject));
     for (const std::vector<PlotPoint>& run : line.runs)
         painter.drawPolyline(polygon(run));

@@ -137,7 +137,6 @@ void frmTIDEPicture::setColours(const ColourScheme& colours)
         label->setPalette(palette);
     for (QLabel* label : m_lblTime)
         label->setPalette(palette);
-    update();
 }
 
 QSize frmTIDEPicture::sizeHint() const

@@ -3,6 +3,7 @@
 #include "forms/frmCompass/CalculateCompass.h"
 
 #include "forms/frmCompass/CompassBody.h"
+#include "forms/frmCompass/CompassWorking.h"
 #include "navlib/angles.h"
 #include "navlib/datetime.h"
 #include "tests/golden/Golden.h"
@@ -166,6 +167,17 @@ TEST(Compass, nearTheZenithTheBearingTurnsFastInTheZenithByHalfATurn)
     };
     EXPECT_EQ(fabs(changeFrom(20)), NavFunc113::halfTurn);
     EXPECT_NEAR(fabs(changeFrom(20.5)).value(), 26.9, 0.2) << "0.25° cos d / sin z";
+}
+
+TEST(CompassWorking, aFigureGoesOnceRoundWhereTheResultDoes)
+{
+    using NavFunc113::Degrees;
+    for (const auto& [sum, turn] :
+         {std::pair{-0.1, " + 360"}, {0.0, ""}, {359.9, ""}, {360.0, " - 360"}})
+        EXPECT_EQ(turnToCircle(Degrees(sum)), turn) << sum;
+    for (const auto& [apart, turn] :
+         {std::pair{-180.1, " + 360"}, {-180.0, ""}, {179.9, ""}, {180.0, " - 360"}})
+        EXPECT_EQ(turnToHalf(Degrees(apart)), turn) << apart;
 }
 
 } // namespace

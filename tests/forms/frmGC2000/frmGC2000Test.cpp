@@ -34,7 +34,7 @@ protected:
         picture.resize(1000, 700);
         picture.show();
         picture.setChart(chart);
-        return picture.grab().toImage();
+        return onScreen(picture);
     }
     QPointF at(const ChartPoint& point) const
     {
@@ -67,7 +67,7 @@ TEST_F(GCPictureTest, linesMarksAndNumbersStandAtTheirPlaces)
     ColourScheme unseen = colours;
     unseen.ink = unseen.paper; // what is then another picture was a number
     picture.setColours(unseen);
-    const QImage without = picture.grab().toImage();
+    const QImage without = onScreen(picture);
     for (std::size_t i = 1; i + 2 < route.size(); ++i) {
         const QPoint place = at(route[i]).toPoint();
         int written = 0;

@@ -4,6 +4,7 @@
 #include "shell/controls/Boxes.h"
 #include "shell/controls/PictureBox.h"
 #include "tests/forms/frmPassage/PassageWindow.h"
+#include "tests/shell/Pixels.h"
 
 #include <QApplication>
 #include <QImage>
@@ -59,7 +60,7 @@ TEST_F(frmPassageSeenTest, theChartHasItsLegsAndAPressGoesToTheRow)
         return picture.toPixel(longitude, mercatorY(NavFunc113::Degrees(latitude)));
     };
     const auto isThere = [&picture](const QPointF& at, const QColor& colour) {
-        const QImage image = picture.grab().toImage();
+        const QImage image = onScreen(picture);
         for (int x = -2; x <= 2; ++x)
             for (int y = -2; y <= 2; ++y)
                 if (image.pixelColor(qRound(at.x()) + x, qRound(at.y()) + y) == colour) return true;

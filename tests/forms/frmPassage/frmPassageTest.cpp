@@ -9,6 +9,7 @@
 #include "tests/SourceFolder.h"
 #include "tests/forms/frmPassage/PassageWindow.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -104,6 +105,8 @@ TEST_F(frmPassageTest, aStopMovesWhatFollows)
 TEST_F(frmPassageTest, everyStepIsTakenBackAndDoneAgain)
 {
     auto& window = open<frmPassage>();
+    const QAbstractItemModelTester tester(
+        static_cast<PlanTable&>(control(window, "tblPlan")).model());
     typeRows(window, {{"A", "0", "0"}, {"B", "1", "0"}, {"C", "2", "0"}});
     const auto names = [&] {
         std::string all;

@@ -142,7 +142,7 @@ TEST_F(frmSkyTest, discShowsTheSkyNorthOrHeadUp)
     const auto isDrawn = [&](double altitude, double bearing, const QColor& colour) {
         const QPoint at = placeOf(disc, altitude, bearing);
         const int reach = colour == colours.equator ? 4 : 2; // the Sun's ring is a thin one
-        return coloursOf(disc.grab().toImage(),
+        return coloursOf(onScreen(disc),
                          QRect(at - QPoint(reach, reach), QSize(2 * reach + 1, 2 * reach + 1)))
             .contains(colour.rgb());
     };

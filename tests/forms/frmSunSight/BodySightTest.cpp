@@ -80,6 +80,27 @@ TEST(BodySight, latitudeByPolaris)
     }
 }
 
+TEST(BodySight, aLowAltitudeIsNamedBelowTenDegreesAndDoubtedMoreBelowThree)
+{
+    const struct {
+        double Hs;
+        const char* said;
+    } rows[] = {
+        {10.01, ""}, {10, ""}, {9.599, "some tenths"}, {3, "some tenths"}, {2.599, "minutes"}};
+    for (const auto& [Hs, said] : rows) {
+        SightCorrections corrections;
+        corrections.observed = NavFunc113::DegMin(Hs);
+        corrections.ofBody.emplace().refraction = -5.3;
+        Remarks remarks;
+        warnOfLowBody(corrections, remarks);
+        EXPECT_EQ(remarks.text(),
+                  *said ? "Altitude below 10 degrees: the refraction of 5.3' may be out by " +
+                              std::string(said)
+                        : "")
+            << Hs;
+    }
+}
+
 using NavFunc113::DateTime;
 using NavFunc113::Degrees;
 using NavFunc113::Position;

@@ -8,6 +8,7 @@
 #include "shell/controls/RowsView.h"
 #include "tests/shell/ShellTesting.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -140,7 +141,8 @@ TEST_F(frmTanksTest, badInputIsAnsweredInTheLineAndMended)
         ElementsAre("100.503", "92.816", "", "92.816", "100.503", "", "101.172", "100.000"));
     type(window, "txtTank(3)", "101");
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("more water than volume"));
-    const auto& rows = *static_cast<RowsView&>(control(window, "tblTanks")).model();
+    auto& rows = *static_cast<RowsView&>(control(window, "tblTanks")).model();
+    const QAbstractItemModelTester tester(&rows);
     const QModelIndex number = rows.index(0, TankModel::Number);
     EXPECT_THAT(number.data(Qt::ToolTipRole).toString().toStdString(),
                 HasSubstr("more water than volume"));

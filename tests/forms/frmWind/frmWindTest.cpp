@@ -29,13 +29,13 @@ TEST_F(frmWindTest, whatIsSaidAtThePointerGoesWithIt)
     const double scale = picture.userScale().top;
     QTest::mousePress(&picture, Qt::LeftButton, {}, place);
     EXPECT_EQ(picture.userScale().top, scale) << "a true wind of 25 knots, but the rings stay";
-    const QImage held = picture.grab().toImage();
+    const QImage held = onScreen(picture);
     QTest::mouseRelease(&picture, Qt::LeftButton, {}, place);
-    const QImage released = picture.grab().toImage();
+    const QImage released = onScreen(picture);
     EXPECT_GT(picture.userScale().top, 1.5 * scale);
     EXPECT_NE(held, released);
     picture.setPointerText({}, {});
-    EXPECT_EQ(picture.grab().toImage(), released);
+    EXPECT_EQ(onScreen(picture), released);
 }
 
 // Her stern is where she does not head: astern of the middle with the head up, to the west when she
@@ -48,8 +48,7 @@ TEST_F(frmWindTest, theShipLiesOnHerCourse)
     const double line = picture.fontMetrics().height();
     const auto hasSternAt = [&](double x, double y) {
         const QPoint at = (centre + line * QPointF(x, y)).toPoint();
-        const auto colours =
-            coloursOf(picture.grab().toImage(), QRect(at - QPoint(2, 2), QSize(5, 5)));
+        const auto colours = coloursOf(onScreen(picture), QRect(at - QPoint(2, 2), QSize(5, 5)));
         const QRgb grid = program().colours().grid.rgb(), paper = program().colours().paper.rgb();
         double best = 1;
         for (const auto& [colour, count] : colours)

@@ -20,6 +20,15 @@ using namespace korvel::testing;
 constexpr std::optional<NoticeLevel> allLevels[] = {std::nullopt, NoticeLevel::Done,
                                                     NoticeLevel::Remark, NoticeLevel::Fault};
 
+double inkOf(const QImage& sign)
+{
+    double ink = 0;
+    for (int y = 0; y < sign.height(); ++y)
+        for (int x = 0; x < sign.width(); ++x)
+            ink += 255 - qGray(sign.pixel(x, y));
+    return ink;
+}
+
 /// A level that only its colour tells apart, or that the night swallows.
 TEST(NoticeLevels, haveSignsOfTheirOwnAndCanBeRead)
 {
@@ -35,6 +44,13 @@ TEST(NoticeLevels, haveSignsOfTheirOwnAndCanBeRead)
         EXPECT_EQ(painter.renderHints() & QPainter::Antialiasing, QPainter::RenderHints());
         painter.end();
         EXPECT_GE(strongestContrast(sign, sign.rect()), 4.5);
+        const double above = inkOf(sign.copy(0, 0, 24, 12)),
+                     below = inkOf(sign.copy(0, 12, 24, 12));
+        if (level == NoticeLevel::Remark) {
+            EXPECT_GT(below, 1.3 * above) << "a triangle on its foot";
+        } else if (level == NoticeLevel::Fault) {
+            EXPECT_NEAR(below / above, 1, 0.1) << "a disc";
+        }
         signs.insert(QByteArray(reinterpret_cast<const char*>(sign.constBits()),
                                 static_cast<qsizetype>(sign.sizeInBytes())));
     }

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractItemModelTester>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -239,9 +240,11 @@ TEST(TextTable, wordsStandApartFromTheFigureBeforeThem)
     table.showRows(columns, 2, [](std::size_t row, std::size_t column) {
         return column == 0 ? QString::number(row) : QString("Vega");
     });
+    const QAbstractItemModelTester tester(table.model());
     const auto told = [&](int column, int role) {
         return table.model()->index(1, column).data(role);
     };
+    EXPECT_EQ(table.model()->headerData(0, Qt::Vertical), QVariant());
     EXPECT_EQ(told(0, Qt::DisplayRole), "1");
     EXPECT_EQ(told(1, Qt::DisplayRole), "  Vega");
     EXPECT_EQ(told(1, Qt::ToolTipRole), "Vega");

@@ -18,6 +18,7 @@
 #include <QTextDocument>
 #include <QTextEdit>
 #include <algorithm>
+#include <cmath>
 
 #include <vector>
 
@@ -143,6 +144,31 @@ TEST(PaperPages, aPageIsFullWhereNothingStaysTogether)
     const std::vector<PaperPage> pages = pagesOf(text, 10.5 * line);
     ASSERT_EQ(pages.size(), 2u);
     EXPECT_NEAR(pages[0].body.height(), 10 * line, 1);
+}
+
+TEST(PaperPages, sixLinesStayTogetherAndATitleAboveItsRule)
+{
+    const auto paragraph = [](int lines) {
+        return QString("one\u2028").repeated(lines - 1) + "one\n";
+    };
+    const struct {
+        const char* fault;
+        QString middle;
+        int linesOnFirstPage;
+    } rows[] = {
+        {"six lines are parted", paragraph(6), 3},
+        {"seven lines are not", paragraph(7), 7},
+        {"a title without its rule", "a\nb\nc\ntitle\n---\n", 6},
+        {"two signs are taken for a rule", "a\nb\nc\nno title\n--\n", 7},
+    };
+    for (const auto& [fault, middle, lines] : rows) {
+        QTextDocument text;
+        text.setDocumentMargin(0);
+        text.setPlainText("1\n2\n3\n" + middle + QString("a\n").repeated(5) + "end");
+        const double line = std::ceil(QFontMetricsF(text.defaultFont()).lineSpacing());
+        const std::vector<PaperPage> pages = pagesOf(text, 7.5 * line);
+        EXPECT_NEAR(pages[0].body.height(), lines * line, 1) << fault;
+    }
 }
 
 } // namespace
