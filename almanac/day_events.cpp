@@ -12,7 +12,7 @@ EventPair eventPair(const HourlyPlaces& places, const Track& track, const Altitu
         const DateTime middle = (from + to) / 2;
         const Place place = places.at(middle);
         const bool isAbove = computedDirection(place, track(middle)).altitude >= wanted(place);
-        const EventTime none{isAbove ? neverBelow : EventTime::Kind::Below, 0};
+        const EventTime none{isAbove ? neverBelow : EventTime::Kind::Below, {}};
         return {none, none};
     }
     EventPair pair;

@@ -240,7 +240,6 @@ ExportTable tankTable(const TankList& list, const TankChoices& choices)
 ReadTanks readTanks(std::string_view text, const TankList& list, const TankChoices& choices,
                     TankSurvey survey)
 {
-    if (text.starts_with(spreadsheetMark)) text.remove_prefix(3);
     const char separator = separatorOf(text);
     const auto lines = delimitedLines(text, separator, mostTanks + 2);
     if (lines.empty()) return {{}, "it is empty"};

@@ -435,12 +435,10 @@ QSize ScreenStyle::sizeFromContents(ContentsType type, const QStyleOption* optio
     // The toolkit draws the column of ticks as broad as the entry is high, and reckons with a fixed
     // breadth: large letters would not fit.
     if (type == CT_MenuItem) own.rwidth() += own.height();
-    if (type == CT_GroupBox) {
-        if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
-            own.setWidth(QFontMetrics(headLetters(widget ? widget->font() : QApplication::font()))
-                             .size(Qt::TextShowMnemonic, group->text)
-                             .width());
-    }
+    if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+        own.setWidth(QFontMetrics(headLetters(widget ? widget->font() : QApplication::font()))
+                         .size(Qt::TextShowMnemonic, group->text)
+                         .width());
     if (type == CT_RadioButton) {
         if (const auto* part = asSwitchPart(option, widget))
             return sizeOfPart(*part, widget->font());

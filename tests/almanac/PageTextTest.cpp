@@ -114,6 +114,7 @@ TEST(PageText, everyFigureStandsInItsColumn)
          })
         EXPECT_THAT(text, HasSubstr("\n" + line + "\n"));
     EXPECT_TRUE(text.starts_with("2026 December 30, 31, 2027 January 1 (Wed, Thu, Fri)\n"));
+    EXPECT_EQ(declinationCell(Degrees(-0.0004)), "N  0 00.0") << "no south of nothing";
     EXPECT_EQ(datesText(instantOf("2027-01-30T00:00:00Z"), 3),
               "2027 January 30, 31, February 1 (Sat, Sun, Mon)");
 }

@@ -219,7 +219,7 @@ PassagePlan oceanPassage()
         planRows("Pilot 35.155 139.45 td=9 / Cape 34.53 139.54 v=12.5 stop=10.5 note=traffic / . / "
                  "- 40 -175 gc:10 v=14 td=-11 / A 41 170.00001 / B 42 -150 co:44N v=14.25 / C 43 "
                  "180 gc:300nm / "
-                 "D -41 -170 td=-10 / E -45 -72.3 co:50S td=-5 / F -44.59999 -72 stop=2");
+                 "D -41 -170 td=-10 stop=0.5 / E -45 -72.3 co:50S td=-5 / F -44.59999 -72 stop=2");
     // On to 40 waypoints along the coast.
     for (int i = 1; i <= 31; ++i) {
         PlanRow row =

@@ -35,6 +35,8 @@ TEST(StationSearch, byName)
         EXPECT_EQ(found, row.text("found")) << row;
     }
     EXPECT_EQ(allStations().size(), 114u + 7);
+    for (const FoundStation& station : allStations())
+        EXPECT_EQ(station.area.find('&'), std::string::npos) << "a mnemonic is no letter";
 }
 
 TEST(StationSearch, whatIsSaidOfIt)

@@ -226,6 +226,8 @@ TEST_F(RowsViewTest, whatIsTypedGoesToTheBoxesOfTheRowInHand)
         QTest::keyClick(&view, key, modifiers);
         EXPECT_EQ(said(), expected) << key;
     }
+    emit view.doubleClicked(model.index(1, 1));
+    EXPECT_EQ(said(), "1'' ");
     view.follow(true);
     QTest::keyClick(&view, Qt::Key_Down);
     EXPECT_EQ(said(), "") << "nobody chose";

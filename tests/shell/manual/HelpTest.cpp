@@ -404,6 +404,37 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     EXPECT_EQ(found.item(0)->text(), "Nothing found");
 }
 
+TEST_F(HelpTest, aWindowMovesUpForThePageBelowIt)
+{
+    QWidget window;
+    window.show();
+    const QRect screen = window.screen()->availableGeometry();
+    const struct {
+        const char* fault;
+        QPoint at;
+        int height;
+        bool moves, isBelow;
+    } rows[] = {
+        {"moved without need", {40, 20}, 150, false, true},
+        {"no room for the page", {40, screen.bottom() - 150}, 150, true, true},
+        {"the page beyond the edge", {screen.right() - 200, 20}, 150, false, true},
+        {"nowhere to move to", {40, 0}, screen.height(), false, false},
+    };
+    for (const auto& [fault, at, height, moves, isBelow] : rows) {
+        window.resize(200, height);
+        window.move(screen.topLeft() + at);
+        main->help().openBelow(window, "frmWind");
+        const QRect page = help()->frameGeometry();
+        EXPECT_EQ(window.pos() - screen.topLeft(), moves ? QPoint(at.x(), 0) : at) << fault;
+        EXPECT_TRUE(screen.contains(page)) << fault;
+        EXPECT_EQ(page.top() == window.frameGeometry().bottom() + 1, isBelow) << fault;
+        const int left = std::min(window.x(), screen.right() + 1 - page.width());
+        if (isBelow) {
+            EXPECT_EQ(page.left(), left) << fault;
+        }
+    }
+}
+
 /// A hit that takes several lines, or whose word lies beyond the edge of the list; a head that is
 /// taken for a hit.
 TEST_F(HelpTest, aSearchListsOneLineAHitWithTheWordInSight)

@@ -4,6 +4,7 @@
 #include "shell/screen/Looks.h"
 #include "shell/screen/NightTint.h"
 #include "shell/screen/ScreenStyle.h"
+#include "shell/screen/WidgetColours.h"
 #include "tests/shell/Pixels.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
@@ -86,6 +88,30 @@ TEST(ColourScheme, everyColourIsOneByDayAndByNight)
               &ColourScheme::tertiary, &ColourScheme::marker, &ColourScheme::curve,
               &ColourScheme::datum})
             EXPECT_TRUE((scheme.*colour).isValid());
+}
+
+TEST(ScreenStyle, aGroupIsAsWideAsItsHeadInBoldLetters)
+{
+    QGroupBox group("Corrections of the sextant altitude");
+    QFont bold = group.font();
+    bold.setBold(true);
+    EXPECT_NEAR(group.minimumSizeHint().width(),
+                QFontMetrics(bold).horizontalAdvance(group.title()), 1);
+}
+
+TEST(WidgetColours, aColourThatIsThereIsNotSetAgain)
+{
+    struct Counted : QLabel {
+        int changes = 0;
+        void changeEvent(QEvent* event) override
+        {
+            changes += event->type() == QEvent::PaletteChange;
+        }
+    } label;
+    for (const QColor& colour : {QColor(Qt::red), QColor(Qt::red), QColor(Qt::blue)})
+        setTextColour(&label, colour);
+    EXPECT_EQ(label.changes, 2);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(Qt::blue));
 }
 
 TEST(NightTint, aSheetStandsOffByNightAsByDay)
