@@ -65,13 +65,9 @@ void StationMenus::addLastAndNearest(QMenu* menu, const TideHabits& habits)
 {
     QMenu* last = menu->addMenu("&Last stations");
     last->setObjectName("mnuLastStations");
-    QObject::connect(last, &QMenu::aboutToShow, last,
-                     [this, last, &habits] { fillLast(last, habits); });
     fillLast(last, habits);
     QMenu* nearest = menu->addMenu("&Nearest to the Position Memo");
     nearest->setObjectName("mnuNearestStations");
-    QObject::connect(nearest, &QMenu::aboutToShow, nearest,
-                     [this, nearest] { fillNearest(nearest); });
     QObject::connect(menu, &QMenu::aboutToShow, menu, [this, last, nearest, &habits] {
         fillLast(last, habits);
         fillNearest(nearest);
