@@ -116,7 +116,6 @@ void HelpView::openAt(const QString& page, const PagePlace& place, const QString
 
 bool HelpView::findNext(const QString& words, bool backwards)
 {
-    if (words.isEmpty()) return false;
     const auto flags = backwards ? QTextDocument::FindFlags(QTextDocument::FindBackward)
                                  : QTextDocument::FindFlags();
     if (find(words, flags)) return true;

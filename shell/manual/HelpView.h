@@ -35,7 +35,9 @@ public:
     void backward() override;
     void forward() override;
 
-    /// Goes to the next place that holds a text, round the page's end. @return false: there is none
+    /// Goes to the next place that holds a text, round the page's end.
+    /// @param words not empty
+    /// @return false: there is none
     bool findNext(const QString& words, bool backwards);
     /// Marks words wherever they stand in the page.
     void mark(const QString& words);

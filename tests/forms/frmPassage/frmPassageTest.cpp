@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTest>
@@ -100,6 +101,24 @@ TEST_F(frmPassageTest, aStopMovesWhatFollows)
     EXPECT_EQ(text(window, "lblSpeedNeeded"), "");
     EXPECT_EQ(text(window, "lblSpeedFor"), "there is no such row");
     EXPECT_EQ(onDisk().wish.time, "2026/11/10 15:00");
+}
+
+TEST_F(frmPassageTest, bothLinesOfAPositionAreCopied)
+{
+    auto& window = open<frmPassage>();
+    typeRows(window, {{"A", "0", "0"}, {"B", "2", "0.3"}});
+    auto& table = static_cast<PlanTable&>(control(window, "tblPlan"));
+    const auto copied = [&table](int column) {
+        table.setCurrentIndex(table.model()->index(1, column));
+        QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QApplication::sendEvent(&table, &asked);
+        auto* menu = table.findChild<QMenu*>();
+        menu->actions().at(2)->trigger(); // what it is and a line stand above
+        delete menu;
+        return QApplication::clipboard()->text();
+    };
+    EXPECT_EQ(copied(PlanTable::Position), "02°00.0'N 000°30.0'E");
+    EXPECT_EQ(copied(PlanTable::Distance), "123.7") << "the first of two figures";
 }
 
 TEST_F(frmPassageTest, everyStepIsTakenBackAndDoneAgain)

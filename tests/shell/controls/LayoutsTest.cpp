@@ -242,5 +242,23 @@ TEST(FollowingScrollArea, whatStandsTogetherIsSeenTogetherWhereItFits)
     }
 }
 
+/// A line that points at the best place, and goes round it, is not in the way; one across it is.
+TEST(PlotLettering, standsClearOfWhatCrossesIt)
+{
+    const auto placed = [](const QPolygonF& line) {
+        PlotLettering places(QRectF(0, 0, 200, 200), 5);
+        places.keepOff(line);
+        return places.place(QSizeF(20, 10), {QPointF(100, 100)});
+    };
+    const QRectF best = placed({});
+    const QPointF middle = best.center(), wide(40, 0), high(0, 40);
+    EXPECT_EQ(
+        placed({middle - wide, middle - wide / 2, middle - wide / 2 + high, middle + high + wide}),
+        best);
+    const QRectF other = placed({middle - wide, middle + wide});
+    EXPECT_FALSE(other.contains(middle));
+    EXPECT_TRUE(QRectF(0, 0, 200, 200).contains(other));
+}
+
 } // namespace
 } // namespace korvel

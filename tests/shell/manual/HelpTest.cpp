@@ -404,6 +404,20 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     EXPECT_EQ(found.item(0)->text(), "Nothing found");
 }
 
+TEST_F(HelpTest, aSearchGoesOnAtTheOtherEnd)
+{
+    main->help().openPage("frmWind");
+    HelpView& view = help()->view();
+    for (const bool backwards : {false, true}) {
+        view.moveCursor(backwards ? QTextCursor::Start : QTextCursor::End);
+        EXPECT_TRUE(view.findNext("wind", backwards));
+        EXPECT_EQ(view.textCursor().selectedText().toLower(), "wind");
+    }
+    const int at = view.textCursor().position();
+    EXPECT_FALSE(view.findNext("xyzzy", false));
+    EXPECT_EQ(view.textCursor().position(), at);
+}
+
 TEST_F(HelpTest, aWindowMovesUpForThePageBelowIt)
 {
     QWidget window;
