@@ -85,7 +85,7 @@ public:
     /// @throws ModelFault when anything is missing, doubtful or too much
     static MagneticModel read(std::string_view file);
 
-    const std::string& name() const { return m_name; }         ///< "WMM-2025"
+    const std::string& name() const { return m_name; } ///< "WMM-2025"
     double firstYear() const { return m_epoch; }
     double lastYear() const { return m_epoch + yearsOfUse; } ///< still good
 
