@@ -88,6 +88,9 @@ TEST(PageText, everyFigureStandsInItsColumn)
     const std::string sirius = "18 Sirius          258 58.0 S 16 41.0";
     std::string twice = sirius;
     twice.append("  ").append(sirius);
+    std::string threeRows = twice;
+    threeRows.append("  ").append(sirius).append("\n").append(twice);
+    threeRows.append("     Polaris         315 30.0 N 89 21.0\n").append(twice);
     for (const std::string& line : {
              std::string("Wed 00 |  98 30.5  30 00.0 N  2 30.0  40 00.0 S  3 30.0  50 00.0 "
                          "N  4 30.0  60 00.0 S  5 30.0"),
@@ -96,8 +99,7 @@ TEST(PageText, everyFigureStandsInItsColumn)
              std::string("Aries            -      17 23"),
              std::string("Venus      319 40.0    12 05      0.3   -0.4    1.2"),
              std::string("Saturn       0 00.0    -- --      0.0    0.0    0.0"),
-             twice + "  " + sirius + "\n" + twice + "     Polaris         315 30.0 N 89 21.0\n" +
-                 twice,
+             threeRows,
              std::string("Wed 00 |  10 00.0 N  0 30.0  20 00.0   0.2 S  1 30.0 -12.3   57.2"),
              std::string("Sun: SD 16.3', d -0.2' of the middle day. GHA exact, not smoothed."),
              std::string("Lat.  | Nautical Civil         |     30     31      1      2 |         "
