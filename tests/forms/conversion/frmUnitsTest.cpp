@@ -44,6 +44,24 @@ TEST_F(frmUnitsTest, whatIsKnownBesideAValueIsThereAgain)
     EXPECT_EQ(text(open<frmAngle>(), "txtAngle(5)"), "0:30:00");
 }
 
+TEST_F(frmUnitsTest, theUnitInHandStandsOutWhileADensityIsTyped)
+{
+    auto& window = open<frmFlow>();
+    for (const char* now : {"txtFlow(1)", "txtFlowDensity", "txtFlow(3)", "txtFlowPower"}) {
+        control(window, now).setFocus();
+        std::string inHand;
+        for (int unit = 0; unit < 12; ++unit) {
+            const std::string name = "txtFlow(" + std::to_string(unit) + ")";
+            if (control(window, name).palette().color(QPalette::Text) == program().colours().accent)
+                inHand += name;
+        }
+        EXPECT_EQ(inHand, std::string(now) == "txtFlow(1)" || std::string(now) == "txtFlowDensity"
+                              ? "txtFlow(1)"
+                              : "txtFlow(3)")
+            << now;
+    }
+}
+
 TEST_F(frmUnitsTest, aRecordOfNoBoxBeginsAtTheFirst)
 {
     for (const char* lead : {"13", "-1", "2"}) {
