@@ -107,6 +107,7 @@ Vector centreOfLight(const Frame& frame, const Vector& direction, const Vector& 
     const double shift = 4 / (3 * Pi()) * size * (1 - cosPhase);
     const Vector sun = (-1.0) * unit(frame.earth);
     const Vector towards = sun - dot(sun, direction) * direction;
+    if (length(towards) < 1e-9) return direction; // before the very middle of the Sun
     return std::cos(shift) * direction + std::sin(shift) * unit(towards);
 }
 

@@ -10,10 +10,13 @@ namespace korvel
 /// How the true bearing, the variation and the errors of the compasses came about.
 std::vector<Working> compassWorkings(const CompassInput& input, const CompassResult& result);
 
-/// What a figure adds to bring a sum into 0 to 360 degrees, or a difference into -180 to 180: " +
-/// 360", " - 360" or nothing.
-/// @param sum, difference more than -360 degrees, less than 720
+/// The turn that a figure writes behind a sum to bring it within 0 to 360 degrees.
+/// @param sum at least -360 and below 720 degrees
+/// @return " + 360", " - 360" or nothing
 std::string turnToCircle(NavFunc113::Degrees sum);
+
+/// The same behind a difference, within -180 to 180 degrees.
+/// @param difference within 540 degrees either way
 std::string turnToHalf(NavFunc113::Degrees difference);
 
 /// How good these figures are.

@@ -15,8 +15,8 @@ namespace korvel::testing
 
 QImage onScreen(QWidget& widget)
 {
-    for (int round = 0; round < 2;
-         ++round) // what is laid out in the first is painted in the second
+    // What is laid out in the first round is painted in the second.
+    for (int round = 0; round < 2; ++round)
         QApplication::processEvents();
     if (widget.visibleRegion() != QRegion(widget.rect())) return widget.grab().toImage();
     const QWidget& window = *widget.window();

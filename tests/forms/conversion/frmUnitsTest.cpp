@@ -47,18 +47,18 @@ TEST_F(frmUnitsTest, whatIsKnownBesideAValueIsThereAgain)
 TEST_F(frmUnitsTest, theUnitInHandStandsOutWhileADensityIsTyped)
 {
     auto& window = open<frmFlow>();
-    for (const char* now : {"txtFlow(1)", "txtFlowDensity", "txtFlow(3)", "txtFlowPower"}) {
-        control(window, now).setFocus();
+    for (const auto& [focus, unitInHand] : {std::pair{"txtFlow(1)", "txtFlow(1)"},
+                                            {"txtFlowDensity", "txtFlow(1)"},
+                                            {"txtFlow(3)", "txtFlow(3)"},
+                                            {"txtFlowPower", "txtFlow(3)"}}) {
+        control(window, focus).setFocus();
         std::string inHand;
         for (int unit = 0; unit < 12; ++unit) {
             const std::string name = "txtFlow(" + std::to_string(unit) + ")";
             if (control(window, name).palette().color(QPalette::Text) == program().colours().accent)
                 inHand += name;
         }
-        EXPECT_EQ(inHand, std::string(now) == "txtFlow(1)" || std::string(now) == "txtFlowDensity"
-                              ? "txtFlow(1)"
-                              : "txtFlow(3)")
-            << now;
+        EXPECT_EQ(inHand, unitInHand) << focus;
     }
 }
 

@@ -442,10 +442,8 @@ TEST_F(HelpTest, aWindowMovesUpForThePageBelowIt)
         EXPECT_EQ(window.pos() - screen.topLeft(), moves ? QPoint(at.x(), 0) : at) << fault;
         EXPECT_TRUE(screen.contains(page)) << fault;
         EXPECT_EQ(page.top() == window.frameGeometry().bottom() + 1, isBelow) << fault;
-        const int left = std::min(window.x(), screen.right() + 1 - page.width());
-        if (isBelow) {
-            EXPECT_EQ(page.left(), left) << fault;
-        }
+        if (!isBelow) continue;
+        EXPECT_EQ(page.left(), std::min(window.x(), screen.right() + 1 - page.width())) << fault;
     }
 }
 
