@@ -29,7 +29,8 @@ void CompassBookFile::load()
     m_file.report("is damaged: " + read.damage,
                   m_book.empty()
                       ? emptyBook
-                      : "Taken over: " + std::to_string(m_book.size()) + " lines. Check them.");
+                      : "Taken over: " + std::to_string(m_book.size()) +
+                            (m_book.size() == 1 ? " line. Check it." : " lines. Check them."));
 }
 
 std::string CompassBookFile::change(const std::function<void(CompassBook&)>& change)

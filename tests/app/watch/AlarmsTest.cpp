@@ -32,8 +32,11 @@ void setAlarm(KV_Savedvalue& saved, int n, const std::string& time, const std::s
     saved.setAlarmEnabled(n, true);
 }
 
-const auto lateEvening =
-    NavFunc113::MakeDateTime({2005, 3, 14}, 23 * 3600 + 57 * 60 + 20); ///< 23:57:20
+/// 23:57:20. No constant: the library's own need not be there before main().
+NavFunc113::DateTime lateEvening()
+{
+    return NavFunc113::MakeDateTime({2005, 3, 14}, 23 * 3600 + 57 * 60 + 20);
+}
 
 /// Settings as the tables write them: "alarm 2 06:25 call; off 2; on 2; signal 25".
 void set(KV_Savedvalue& saved, const std::string& settings)
@@ -108,8 +111,7 @@ TEST(AlarmSetUp, asksAndKeeps)
         };
         std::string menu = entry();
         if (row.text("dialog") == "alarm")
-            setUpAlarm(
-                2, saved, questions, [] { return lateEvening; }, [&] { menu = entry(); });
+            setUpAlarm(2, saved, questions, lateEvening, [&] { menu = entry(); });
         else
             setUpTimeSignal(saved, questions);
         EXPECT_EQ(menu, entry());
@@ -126,8 +128,7 @@ TEST(AlarmSetUp, asksInOrder)
     set(saved, "alarm 2 00:00 old");
     testing::FakeQuestions questions;
     questions.will("Yes; 630; OK; 6:00; wake 2/O; Yes; No; Yes; 60; OK; Esc");
-    setUpAlarm(
-        2, saved, questions, [] { return lateEvening; }, [] {});
+    setUpAlarm(2, saved, questions, lateEvening, [] {});
     setUpTimeSignal(saved, questions);
     EXPECT_THAT(questions.conversation,
                 ElementsAre("Do you want to set ALARM-2?", "Input ALARM Time( hh:mm ) <00:00>",
