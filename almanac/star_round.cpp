@@ -152,7 +152,6 @@ RoundNormals normalsOfRound(std::span<const RoundBody> round)
 
 double errorOfRound(std::span<const RoundBody> round)
 {
-    if (round.size() < 3) return std::numeric_limits<double>::infinity();
     return normalsOfRound(round).variance();
 }
 

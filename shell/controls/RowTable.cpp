@@ -73,7 +73,7 @@ public:
     {
         if (filled == m_isFilled) return;
         m_isFilled = filled;
-        update(0, height() - 1, width(), 1);
+        update();
     }
 
 protected:

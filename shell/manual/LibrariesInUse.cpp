@@ -37,7 +37,6 @@ QStringList librariesInUse()
         return 0;
     };
     dl_iterate_phdr(note, &libraries);
-    libraries.removeDuplicates();
     libraries.sort(Qt::CaseInsensitive);
 #endif
     return libraries;

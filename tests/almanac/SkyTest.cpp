@@ -170,19 +170,20 @@ TEST(Sky, bodiesHaveNamesAndNumbersOfTheirOwn)
 
 TEST(Sky, betweenTheHoursPlacesAreInterpolated)
 {
-    // The Moon when she is nearest and fastest, and the GHA's way through 360.
-    const double from = instantOf("2026-11-22T05:20:00Z");
-    for (const Body body : {Body::Sun, Body::Moon, Body::Venus, *findBody("Sirius")}) {
-        const HourlyPlaces places(body, from, from + 2);
-        for (double ut = from; ut <= from + 2; ut += 0.0137) {
-            const Place exact = Sky(ut).place(body), found = places.at(ut);
-            EXPECT_LE(minutesApart(found.gha, exact.gha.value()) * 60, 0.001) << ut;
-            EXPECT_LE(minutesApart(found.declination, exact.declination.value()) * 60, 0.001) << ut;
-            EXPECT_LE(minutesApart(found.sha, exact.sha.value()) * 60, 0.001) << ut;
-            EXPECT_GE(found.gha.value(), 0);
-            EXPECT_LT(found.gha.value(), 360);
+    // The Moon when she is nearest and fastest, the way of GHA and, two days before, of her SHA
+    // through 360.
+    for (const double from : {instantOf("2026-11-22T05:20:00Z"), instantOf("2026-11-19T17:20:00Z")})
+        for (const Body body : {Body::Sun, Body::Moon, Body::Venus, *findBody("Sirius")}) {
+            const HourlyPlaces places(body, from, from + 2);
+            for (double ut = from; ut <= from + 2; ut += 0.0137) {
+                const Place exact = Sky(ut).place(body), found = places.at(ut);
+                EXPECT_LE(minutesApart(found.gha, exact.gha.value()) * 60, 0.001) << ut;
+                EXPECT_LE(minutesApart(found.declination, exact.declination.value()) * 60, 0.001);
+                EXPECT_LE(minutesApart(found.sha, exact.sha.value()) * 60, 0.001) << ut;
+                for (const double turned : {found.gha.value(), found.sha.value()})
+                    EXPECT_TRUE(turned >= 0 && turned < 360) << turned << " at " << ut;
+            }
         }
-    }
 }
 
 TEST(Sky, theEquatorOfThePlanetsIsAPureTurn)

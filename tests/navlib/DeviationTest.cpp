@@ -139,11 +139,19 @@ TEST(Deviation, blundersAreThoseOfOneFitForEachPoint)
 
 TEST(Deviation, headingByCompassIsTheWayBack)
 {
-    for (int heading = 0; heading < 360; heading += 5) {
-        const Degrees magnetic = Degrees(heading) + adjusted.at(Degrees(heading));
-        EXPECT_NEAR(WithinHalfTurn(CompassHeading(magnetic, adjusted) - Degrees(heading)).value(),
-                    0, 1e-9);
-    }
+    constexpr Degrees none(0), some(-8);
+    const DeviationCoefficients curves[] = {adjusted,
+                                            {some, none, none, none, none},
+                                            {none, some, none, none, none},
+                                            {none, none, some, none, none},
+                                            {none, none, none, some, none},
+                                            {none, none, none, none, some}};
+    for (const DeviationCoefficients& curve : curves)
+        for (int heading = 0; heading < 360; heading += 5) {
+            const Degrees magnetic = Degrees(heading) + curve.at(Degrees(heading));
+            EXPECT_NEAR(WithinHalfTurn(CompassHeading(magnetic, curve) - Degrees(heading)).value(),
+                        0, 1e-9);
+        }
 }
 
 TEST(Deviation, toleranceGrowsWithScatterAndAwayFromThePoints)

@@ -23,7 +23,7 @@ DELETED_CALL = re.compile(
     r"erase|restore\w*|write\w*|remove\w*)\s*\(", re.DOTALL)
 
 # Functions for which the order of their arguments does not matter.
-SYMMETRIC = re.compile(r"\b((min|max|minmax|hypot|dot|dotProduct|angleBetween|CanConvert)(<[\w: ]+>)?\(|hypot\([^()]*,)\s*$")
+SYMMETRIC = re.compile(r"\b((min|max|minmax|hypot|dot|dotProduct|angleBetween|CanConvert|MassInVacuo|MadeGood|isSameSight)(<[\w: ]+>)?\(|hypot\([^()]*,)\s*$")
 LAMBDA = re.compile(r"\]\s*(\([^()]*\))?\s*(-> \w+ )?\{$")
 STATEMENT = "hasParent(stmt(anyOf(compoundStmt(), ifStmt(), forStmt(), whileStmt(), " \
             "cxxForRangeStmt())))"

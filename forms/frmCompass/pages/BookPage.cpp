@@ -60,7 +60,7 @@ void BookPage::showLines()
     if (!m_book) return;
     const auto before = m_table->chosen();
     m_table->show(*m_book, kind());
-    if (before && *before < m_book->size()) m_table->choose(*before);
+    if (before) m_table->choose(*before);
     if (!m_table->chosen() && !m_table->lines().empty()) m_table->choose(m_table->lines().front());
     const bool isAny = !m_table->lines().empty();
     m_cmdTake->setEnabled(isAny);

@@ -276,6 +276,7 @@ TEST(SkyStars, sayWhatSpoilsThem)
     const SkyDay summer = dayOf({"2026/6/21 12:00", "75", "20", "", "", "", "1"});
     EXPECT_THAT(starsOf(summer).notice, HasSubstr("no such twilight"));
     EXPECT_THAT(starsOf(dayOf({"2026/11/22", "-35", "140"})).polaris, "below the horizon");
+    EXPECT_THAT(starsOf(dayOf({"2026/11/22", "0.15", "140"})).polaris, HasSubstr("altitude 0°"));
     EXPECT_THAT(starsOf(day).polaris, HasSubstr("azimuth 000."));
 }
 

@@ -173,6 +173,7 @@ TEST(SightSeries, goesOnForAQuarterOfAnHourWithOneBodyAndLimb)
         EXPECT_EQ(fix.lines.size(), each.lines) << each.fault;
     }
     EXPECT_THAT(seriesFix(cases[3].shots).seriesText, HasSubstr("; Procyon, 2 shots: 12:22:00"));
+    EXPECT_EQ(seriesFix(cases[3].shots).lines[1].index, 1U) << "of its first shot";
     EXPECT_THAT(seriesFix(cases[4].shots).seriesText,
                 ::testing::StartsWith("Sun, 2 shots: 03:00:30"));
 
@@ -199,6 +200,8 @@ TEST(SightSeries, seriesOfTheSun)
     EXPECT_NEAR(fix.lines[0].line.intercept.value(), 3, 0.02);
     EXPECT_NEAR(fix.lines[0].line.azimuth.value(), apart.lines[1].line.azimuth.value(), 0.02);
     EXPECT_NEAR(fix.lines[0].sight.sinceFix.value(), -4.0 / 60, 1e-6);
+    EXPECT_NEAR(fix.lines[0].sight.GHA.value(), apart.lines[1].sight.GHA.value(), 1e-5)
+        << "by the same formulas as that of one shot";
 }
 
 /// What stands behind ± in a sentence, minutes.

@@ -200,6 +200,8 @@ TEST_F(frmTIDETest, pointerAndKeysReadTheCurve)
     press(window, "picTIDE", {Qt::Key_Escape});
     EXPECT_TRUE(window.isVisible());
     EXPECT_FALSE(control(window, "lblReading").isVisible());
+    press(window, "picTIDE", {Qt::Key_Escape});
+    EXPECT_FALSE(window.isVisible()) << "without a reading it closes the window";
 }
 
 TEST_F(frmTIDETest, axisLabelsStandWhereTheScaleSays)
@@ -215,6 +217,7 @@ TEST_F(frmTIDETest, axisLabelsStandWhereTheScaleSays)
     window.resize(window.size() + QSize(200, 100));
     EXPECT_EQ(control(window, "lblTime(0)").pos(), picture.toPixel(1.7, -0.1).toPoint());
     EXPECT_EQ(control(window, "lblHeight(3)").y(), qRound(picture.toPixel(0, 3).y()));
+    EXPECT_LT(control(window, "lblHeight(3)").geometry().right(), picture.toPixel(0, 3).x());
     EXPECT_FALSE(control(window, "lblHeight(4)").isVisible()) << "above 3.37";
 }
 

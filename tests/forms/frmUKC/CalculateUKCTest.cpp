@@ -136,6 +136,7 @@ TEST(CalculateUKC, whatIsMissingIsNamedAndClaimsNothing)
     EXPECT_EQ(with(companysForm(), {{Breadth, ""}, {List, ""}}).clearance, "5.74");
     EXPECT_THAT(with(companysForm(), {{UKCField::Tide, ""}}).notice, HasSubstr("no tide is typed"));
     EXPECT_THAT(with(companysForm(), {{Minimum, ""}}).notice, HasSubstr("no minimum"));
+    EXPECT_EQ(with(companysForm(), {{Minimum, ""}, {MinimumShare, "5"}}).minimum, "0.55");
 }
 
 TEST(CalculateUKC, nothingTypedCanStopIt)

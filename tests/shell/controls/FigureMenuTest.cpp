@@ -10,8 +10,10 @@
 #include <QContextMenuEvent>
 #include <QImage>
 #include <QMenu>
+#include <QStandardItemModel>
+#include <QTableView>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <array>
 #include <vector>
@@ -95,6 +97,22 @@ TEST(FigureMenu, aCellIsToldWithItsRow)
     EXPECT_EQ(copied("Copy row"), "\t30\tAcrux\t148.1\n");
     copied("Store in memo");
     EXPECT_EQ(stored, "148.1");
+}
+
+TEST(FigureMenu, theMouseMeansTheLineOfACellThatItIsOn)
+{
+    QStandardItemModel model(1, 1);
+    model.setData(model.index(0, 0), "upper");
+    model.setData(model.index(0, 0), "lower", secondLineRole);
+    QTableView table;
+    table.setModel(&model);
+    table.setRowHeight(0, 60);
+    for (const auto& [y, line] : {std::pair(10, "upper"), {50, "lower"}}) {
+        const QPoint at(5, y);
+        openCellMenu(table, {QContextMenuEvent::Mouse, at, table.viewport()->mapToGlobal(at)}, {});
+        EXPECT_THAT(table.findChildren<QMenu*>().last()->actions()[0]->text().toStdString(),
+                    ::testing::HasSubstr(line));
+    }
 }
 
 /// A fault blanks results one by one and knows of no rows: hairlines stood below empty ones.

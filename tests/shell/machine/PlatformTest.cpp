@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/machine/Platform.h"
+#include "shell/screen/OwnFonts.h"
 
 #include <gtest/gtest.h>
 
@@ -21,14 +22,12 @@ class PlatformTest : public ::testing::Test
 protected:
     PlatformTest()
     {
-        for (const char* name :
-             {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XKB_CONFIG_ROOT"})
+        for (const char* name : names)
             if (qEnvironmentVariableIsSet(name)) m_before[name] = qgetenv(name);
     }
     ~PlatformTest() override
     {
-        for (const char* name :
-             {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XKB_CONFIG_ROOT"})
+        for (const char* name : names)
             set(name, m_before.count(name) ? m_before[name].constData() : nullptr);
     }
     static void set(const char* name, const char* value)
@@ -37,6 +36,8 @@ protected:
     }
 
 private:
+    static constexpr const char* names[] = {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY",
+                                            "XKB_CONFIG_ROOT", "FONTCONFIG_FILE"};
     std::map<QByteArray, QByteArray> m_before;
 };
 
@@ -64,6 +65,13 @@ TEST_F(PlatformTest, isX11WhereWaylandHasNoTablesOfKeyboards)
         choosePlatform();
         EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), row.chosen) << row.fault;
     }
+}
+
+TEST_F(PlatformTest, lettersAreTheSystemsWhereTheProgramHasNone)
+{
+    set("FONTCONFIG_FILE", nullptr);
+    useOwnFonts();
+    EXPECT_FALSE(qEnvironmentVariableIsSet("FONTCONFIG_FILE"));
 }
 
 } // namespace

@@ -432,6 +432,7 @@ TEST_F(HelpTest, aWindowMovesUpForThePageBelowIt)
         {"moved without need", {40, 20}, 150, false, true},
         {"no room for the page", {40, screen.bottom() - 150}, 150, true, true},
         {"the page beyond the edge", {screen.right() - 200, 20}, 150, false, true},
+        {"less than half of the screen left", {40, screen.height() * 3 / 5 - 150}, 150, true, true},
         {"nowhere to move to", {40, 0}, screen.height(), false, false},
     };
     for (const auto& [fault, at, height, moves, isBelow] : rows) {

@@ -72,6 +72,7 @@ TEST(FoundLine, startsShortlyBeforeTheWord)
 {
     EXPECT_EQ(foundLine("Tide curve", {"tide"}), "Tide curve");
     EXPECT_EQ(foundLine("one two three four five six tides", {"tides"}), "… five six tides");
+    EXPECT_EQ(foundLine("one two six tide", {"tide"}), "one two six tide");
     EXPECT_EQ(foundLine("averyveryverylongword(tide)", {"tide"}), "… tide)");
     EXPECT_EQ(foundLine("a\nb  tide and much before the ebb", {"tide", "ebb"}).left(8), "a b tide");
     QListWidget list;

@@ -159,6 +159,8 @@ TEST(PaperPages, sixLinesStayTogetherAndATitleAboveItsRule)
         {"six lines are parted", paragraph(6), 3},
         {"seven lines are not", paragraph(7), 7},
         {"a title without its rule", "a\nb\nc\ntitle\n---\n", 6},
+        {"a picture without its legend",
+         QString("a\nb\nc\n") + QChar::ObjectReplacementCharacter + "\nlegend\n", 6},
         {"two signs are taken for a rule", "a\nb\nc\nno title\n--\n", 7},
     };
     for (const auto& [fault, middle, lines] : rows) {

@@ -341,12 +341,15 @@ TEST_F(KeysTest, whatAnEntryClearsComesBackWhereverTheFocusWas)
 }
 
 /// A caption beside a box, and what a screen reader calls the box, have a word in common. A menu's
-/// caption is what an officer reads, its name what the program calls it.
+/// caption is what an officer reads, its name what the program calls it; a button's letter stands
+/// in its caption and not in its tip.
 TEST_F(KeysTest, captionsStandBesideTheirBoxes)
 {
     for (const QWidget* window : openAll()) {
         for (const auto* menu : window->findChildren<QMenu*>())
             EXPECT_FALSE(menu->title().startsWith("mnu")) << menu->title().toStdString();
+        for (const auto* button : window->findChildren<QAbstractButton*>())
+            EXPECT_FALSE(button->toolTip().contains('&')) << button->toolTip().toStdString();
         for (const auto* caption : window->findChildren<QLabel*>()) {
             // "Height at" stands before the time that is asked about, "Times of" before a height.
             if (!caption->buddy() || caption->buddy()->objectName().startsWith("txtAt")) continue;

@@ -5,6 +5,8 @@
 #include "tests/shell/WholeProgram.h"
 
 #include <QAbstractButton>
+#include <QLabel>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -122,6 +124,62 @@ TEST_F(ScreenTest, everyWindowAtEveryZoom)
             onEveryPage(*each, [&] { expectOneDirection(*each); });
         }
     }
+}
+
+/// The captions that are nearest to a place, on its left in its line and above it.
+QStringList captionsAt(const QWidget& window, const QWidget& result)
+{
+    const auto placeOf = [&](const QWidget& each) {
+        return QRect(each.mapTo(&window, QPoint()), each.size());
+    };
+    const QRect at = placeOf(result);
+    QString beside, above;
+    int left = 0, top = 0;
+    for (const auto* each : window.findChildren<QLabel*>()) {
+        if (!each->isVisible() || each->window() != &window || each->text().isEmpty() ||
+            dynamic_cast<const ResultLabel*>(each))
+            continue;
+        const QRect place = placeOf(*each);
+        const bool isInLine = std::abs(place.center().y() - at.center().y()) < at.height() / 2;
+        if (isInLine && place.left() < at.left() && place.left() >= left) {
+            left = place.left();
+            beside = each->text();
+        }
+        const bool isAbove = place.left() < at.right() && place.right() > at.left();
+        if (isAbove && place.bottom() <= at.top() + 2 && place.bottom() >= top) {
+            top = place.bottom();
+            above = each->text();
+        }
+    }
+    return {beside, above};
+}
+
+/// What an officer reads beside a figure is what a screen reader says of it.
+TEST_F(ScreenTest, captionsStandBesideTheirResults)
+{
+    // Figures of a table stand below its heads; these say themselves what they are, or have letters
+    // for a caption.
+    const QRegularExpression alone(
+        "row|curve of the book|^(Notice|Event|Coefficient|Where|What|How|Formula|Place|Date|Range|"
+        "Rise or set|At this moment|The same by|Leaving|Weather|Visibility|Wave|Swell|Volume corr|"
+        "Gross standard)",
+        QRegularExpression::CaseInsensitiveOption);
+    for (QWidget* each : openAll())
+        onEveryPage(*each, [&] {
+            for (auto* result : each->findChildren<ResultLabel*>()) {
+                const QString name = result->accessibleName();
+                if (!result->isVisible() || result->window() != each || each == &main ||
+                    name.isEmpty() || name.contains(alone))
+                    continue;
+                const QStringList captions = captionsAt(*each, *result);
+                const QRegularExpression word("\\w\\w+");
+                bool named = false;
+                for (auto at = word.globalMatch(captions.join(' ').remove('&')); at.hasNext();)
+                    named = name.contains(at.next().captured(), Qt::CaseInsensitive) || named;
+                EXPECT_TRUE(named) << nameOf(*result) << " is called " << name.toStdString()
+                                   << " beside " << captions.join(" / ").toStdString();
+            }
+        });
 }
 
 TEST_F(ScreenTest, everyWindowComesBackFromEveryZoomAsItWas)
