@@ -9,11 +9,15 @@
 namespace korvel
 {
 
+const char* messageSign(QStyle::StandardPixmap which)
+{
+    return which == QStyle::SP_MessageBoxQuestion      ? "?"
+           : which == QStyle::SP_MessageBoxInformation ? "i"
+                                                       : "!";
+}
+
 QPixmap drawnMessageIcon(QStyle::StandardPixmap which, const QPalette& palette, int side)
 {
-    const QString sign = which == QStyle::SP_MessageBoxQuestion      ? "?"
-                         : which == QStyle::SP_MessageBoxInformation ? "i"
-                                                                     : "!";
     const double ratio = qApp->devicePixelRatio();
     QPixmap picture(QSize(side, side) * ratio);
     picture.setDevicePixelRatio(ratio);
@@ -28,7 +32,7 @@ QPixmap drawnMessageIcon(QStyle::StandardPixmap which, const QPalette& palette, 
     letters.setPixelSize(side * 5 / 8);
     letters.setBold(true);
     painter.setFont(letters);
-    painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, sign);
+    painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, messageSign(which));
     return picture;
 }
 

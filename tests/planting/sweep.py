@@ -48,20 +48,20 @@ class LeftOut:
 
 
 class Equivalent:
-    """Faults that no test could notice: file = .., - old line, + new line, why = .."""
+    """Faults that no test could notice: "file: why", below it the line with «old => new»."""
 
     def __init__(self, path):
-        self.rows, row = [], {}
+        self.why, head = {}, ""
         for line in lines(path):
-            key, value = (line[0], line[2:]) if line[0] in "-+" else line.split(" = ", 1)
-            row[key] = value
-            if key == "why":
-                self.rows.append(row)
-                row = {}
+            if not line.startswith(" "):
+                head = line
+                continue
+            file, why = head.split(": ", 1)
+            left, old, new, right = re.fullmatch("(.*)«(.*) => (.*)»(.*)", line.strip()).groups()
+            self.why[file, left + old + right, left + new + right] = why
 
     def reason(self, fault):
-        told = {"file": fault.file, "-": shown(fault.old), "+": shown(fault.new)}
-        return next((row["why"] for row in self.rows if told.items() <= row.items()), None)
+        return self.why.get((fault.file, shown(fault.old), shown(fault.new)))
 
 
 class Sample:

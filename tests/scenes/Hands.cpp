@@ -191,6 +191,11 @@ const std::map<std::string, Verb>& handVerbs()
              for (const Word& word : words)
                  pressKey(word.text);
          }},
+        {"paper",
+         [](Stage& stage, const Words&) {
+             pressKey("F2");
+             stage.turnTo("frmPaper");
+         }},
         {"hold", hold},
         {"let-go", letGo},
         {"click", click},

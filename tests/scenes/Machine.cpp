@@ -76,11 +76,12 @@ void writeFile(Stage& stage, const Words& words)
 /// Lays a file or folder of the shipped data beside the program.
 void takeData(Stage& stage, const Words& words)
 {
-    const QString name = QString::fromStdString(wordAt(words, 0));
-    const QString target = stage.folder.filePath(name);
-    QDir().mkpath(QFileInfo(target).path());
-    if (!QFile::copy(QString::fromStdString(sourceFile("data/")) + name, target))
-        throw std::runtime_error("no data " + words[0].text);
+    for (const Word& word : words) {
+        const QString target = stage.folder.filePath(QString::fromStdString(word.text));
+        QDir().mkpath(QFileInfo(target).path());
+        if (!QFile::copy(QString::fromStdString(sourceFile("data/" + word.text)), target))
+            throw std::runtime_error("no data " + word.text);
+    }
 }
 
 /// The limit on file sizes makes every further byte fail, as a full disk does.

@@ -57,6 +57,7 @@ TEST(WorkingPaper, itsTextHasEverythingInItsPlace)
     EXPECT_EQ(resultsText(paper), "Course\t45\t°\ntime\tm\n00:10\t1.5\n06:20\t0.3\n");
     const PaperHeading west{"S", "", marchDay, marchDay, -4.5, ""};
     EXPECT_EQ(headingLines(west)[4].value, "4.5 hW, SMT = UTC + TD");
+    EXPECT_EQ(headingLines({"S", "", marchDay, marchDay, 0, ""})[4].value.substr(0, 6), "0.0 hE");
     for (const auto& [unit, text] :
          {std::pair{"", "5"}, {"'", "5'"}, {"° true", "5° true"}, {"h", "5 h"}})
         EXPECT_EQ(figureText("5", unit), text);

@@ -385,6 +385,24 @@ TEST(PlanTide, theNextPortHasATideOfItsOwn)
     EXPECT_NE(before.substr(before.find(" m ") - 5), alone.substr(alone.find(" m ") - 5));
 }
 
+/// Far in the north: between the days of rise and set and those without lies one that has a rise.
+TEST(PlanSun, saysWhatTheSunDoesNotDo)
+{
+    const auto of = [](const std::string& day) {
+        return sunOfDay({NavFunc113::DegMin(70), NavFunc113::DegMin(0)},
+                        readIso(day + "T03:00:00Z").value(), Span(0));
+    };
+    EXPECT_EQ(of("2026-06-21").riseAndSet, "does not set");
+    EXPECT_EQ(of("2026-06-21").twilight, "civil all day or none, nautical all day or none");
+    EXPECT_EQ(of("2026-12-21").riseAndSet, "does not rise");
+    EXPECT_EQ(of("2026-12-21").twilight, "civil 09:54 to 14:02, nautical 08:06 to 15:51")
+        << "hour angles of 30.9 and 58.1 degrees";
+    int withoutSet = 0;
+    for (int day = 10; day < 25; ++day)
+        withoutSet += of("2026-05-" + std::to_string(day)).riseAndSet.find(", does not") == 11;
+    EXPECT_EQ(withoutSet, 1);
+}
+
 /// At the ends of the calendar a local time has no text that could be cut at its hours.
 TEST(PlanSun, aDayThatTheCalendarDoesNotHaveIsNoFault)
 {

@@ -2,6 +2,7 @@
 // How controls, icons and sheets are drawn, by day and by night.
 #include "shell/screen/ColourScheme.h"
 #include "shell/screen/Looks.h"
+#include "shell/screen/MessageIcon.h"
 #include "shell/screen/NightTint.h"
 #include "shell/screen/ScreenStyle.h"
 #include "shell/screen/WidgetColours.h"
@@ -97,6 +98,22 @@ TEST(ScreenStyle, aGroupIsAsWideAsItsHeadInBoldLetters)
     bold.setBold(true);
     EXPECT_NEAR(group.minimumSizeHint().width(),
                 QFontMetrics(bold).horizontalAdvance(group.title()), 1);
+}
+
+TEST(ScreenStyle, sizesFollowTheZoom)
+{
+    ScreenStyle style;
+    const int before = style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, nullptr);
+    style.setZoom(200);
+    EXPECT_EQ(style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, nullptr), 2 * before);
+}
+
+TEST(MessageIcon, aWarningIsNoQuestion)
+{
+    EXPECT_STREQ(messageSign(QStyle::SP_MessageBoxQuestion), "?");
+    EXPECT_STREQ(messageSign(QStyle::SP_MessageBoxInformation), "i");
+    EXPECT_STREQ(messageSign(QStyle::SP_MessageBoxWarning), "!");
+    EXPECT_STREQ(messageSign(QStyle::SP_MessageBoxCritical), "!");
 }
 
 TEST(WidgetColours, aColourThatIsThereIsNotSetAgain)
