@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace korvel
@@ -26,8 +27,10 @@ public:
     {
         QString own = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Description || !own.isEmpty()) return own;
+        auto labels = widget()->window()->findChildren<ResultLabel*>();
+        std::ranges::stable_sort(labels, {}, &ResultLabel::weight); // the answers first
         QStringList results;
-        for (const ResultLabel* label : widget()->window()->findChildren<ResultLabel*>()) {
+        for (const ResultLabel* label : labels) {
             const QString name = label->accessibleName();
             if (label->isVisible() && !name.isEmpty() && !label->text().isEmpty() &&
                 results.size() < mostResults)

@@ -69,9 +69,9 @@ void see(Stage& stage, const Words& words)
 }
 
 /// What a screen reader says of a control.
-std::string heardOf(QWidget& widget)
+std::string heardOf(QWidget& widget, QAccessible::Text what)
 {
-    return QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).toStdString();
+    return QAccessible::queryAccessibleInterface(&widget)->text(what).toStdString();
 }
 
 std::string valueOf(QWidget& widget)
@@ -316,9 +316,10 @@ const std::map<std::string, Verb>& eyeVerbs()
          }},
         {"described",
          [](S s, W w) {
-             expectText(s.control(wordAt(w, 0)).accessibleDescription().toStdString(), w, 1);
+             expectText(heardOf(s.control(wordAt(w, 0)), QAccessible::Description), w, 1);
          }},
-        {"heard", [](S s, W w) { expectText(heardOf(s.control(wordAt(w, 0))), w, 1); }},
+        {"heard",
+         [](S s, W w) { expectText(heardOf(s.control(wordAt(w, 0)), QAccessible::Name), w, 1); }},
         {"value", [](S s, W w) { expectText(valueOf(s.control(wordAt(w, 0))), w, 1); }},
         {"focus",
          [](S, W w) {

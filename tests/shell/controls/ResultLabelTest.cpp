@@ -9,10 +9,12 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontDatabase>
+#include <QHelpEvent>
 #include <QImage>
 #include <QMenu>
 #include <QPainter>
 #include <QTest>
+#include <QToolTip>
 
 namespace korvel
 {
@@ -50,6 +52,25 @@ TEST(ResultLabel, itsRoomHoldsEveryStroke)
             EXPECT_GE(inRoom, whole - whole / 100) << family.toStdString() << " " << points;
         }
     }
+}
+
+TEST(ResultLabel, aTipTellsWhatIsCutAndWhatWasGiven)
+{
+    ResultLabel label;
+    label.setText("73.6");
+    label.show();
+    const auto tip = [&](const char* own, int width) {
+        QToolTip::hideText();
+        label.setToolTip(own);
+        label.resize(width, label.sizeHint().height());
+        QHelpEvent asked(QEvent::ToolTip, QPoint(), QPoint());
+        QApplication::sendEvent(&label, &asked);
+        return QToolTip::isVisible() ? QToolTip::text().toStdString() : "";
+    };
+    EXPECT_EQ(tip("", 200), "");
+    EXPECT_EQ(tip("", 8), "73.6");
+    EXPECT_EQ(tip("by the log", 200), "by the log");
+    EXPECT_EQ(tip("by the log", 8), "73.6\nby the log");
 }
 
 /// A label as it stands on a screen where only what changes is painted.
