@@ -158,7 +158,6 @@ Working greatCircleWorking(const GCResult& result, Earth earth)
 Working waypointsWorking(const GCResult& result, Earth earth)
 {
     Working working{"Waypoints and legs", sailingMethod(earth), {}};
-    if (!result.figures) return working;
     const EndTexts ends(result.figures->ends);
     working.step("Angle at the departure",
                  "tan A = sin |Δλ| / (cos φ1 tan φ2 - sin φ1 cos Δλ), from north on either side",

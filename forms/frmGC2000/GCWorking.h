@@ -10,7 +10,7 @@ namespace korvel
 /// How the distances, the courses, the vertex and the saving came about.
 Working greatCircleWorking(const GCResult& result, NavFunc113::Earth earth);
 
-/// How the waypoints and the legs between them came about.
+/// How the waypoints and the legs between them came about, of a result that has figures.
 Working waypointsWorking(const GCResult& result, NavFunc113::Earth earth);
 
 /// The waypoints with their positions in full.

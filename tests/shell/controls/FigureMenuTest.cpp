@@ -107,12 +107,16 @@ TEST(FigureMenu, theMouseMeansTheLineOfACellThatItIsOn)
     QTableView table;
     table.setModel(&model);
     table.setRowHeight(0, 60);
-    for (const auto& [y, line] : {std::pair(10, "upper"), {50, "lower"}}) {
+    const auto figureAt = [&](int y) {
         const QPoint at(5, y);
         openCellMenu(table, {QContextMenuEvent::Mouse, at, table.viewport()->mapToGlobal(at)}, {});
-        EXPECT_THAT(table.findChildren<QMenu*>().last()->actions()[0]->text().toStdString(),
-                    ::testing::HasSubstr(line));
-    }
+        return table.findChildren<QMenu*>().last()->actions()[0]->text().toStdString();
+    };
+    EXPECT_THAT(figureAt(10), ::testing::EndsWith("upper"));
+    EXPECT_THAT(figureAt(50), ::testing::EndsWith("lower"));
+    model.setData(model.index(0, 0), "36°00.0'N");
+    model.setData(model.index(0, 0), "068°00.0'W", secondLineRole);
+    EXPECT_THAT(figureAt(50), ::testing::EndsWith("36°00.0'N 068°00.0'W")) << "a position is one";
 }
 
 /// A fault blanks results one by one and knows of no rows: hairlines stood below empty ones.

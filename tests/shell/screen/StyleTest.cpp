@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QImage>
 #include <QLabel>
@@ -106,6 +107,13 @@ TEST(ScreenStyle, sizesFollowTheZoom)
     const int before = style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, nullptr);
     style.setZoom(200);
     EXPECT_EQ(style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, nullptr), 2 * before);
+}
+
+TEST(ScreenStyle, buttonsOfADialogHaveWordsAlone)
+{
+    const QDialogButtonBox box(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    for (const QAbstractButton* button : box.buttons())
+        EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString();
 }
 
 TEST(MessageIcon, aWarningIsNoQuestion)
