@@ -99,9 +99,17 @@ void mouse(Stage& stage, const Words& words)
 
 void choose(Stage& stage, const Words& words)
 {
-    QAction& action = stage.entry(wordAt(words, 0));
-    if (!action.isEnabled()) throw std::runtime_error(words[0].text + " is greyed out");
-    action.trigger();
+    for (const Word& word : words) {
+        QAction& action = stage.entry(word.text);
+        if (!action.isEnabled()) throw std::runtime_error(word.text + " is greyed out");
+        action.trigger();
+    }
+}
+
+void store(Stage& stage, const Words& words)
+{
+    stage.questions.willAnswer(Answer::Yes);
+    choose(stage, words);
 }
 
 /// Opens a menu of the menu bar and closes it again: captions are written when it opens.
@@ -201,6 +209,7 @@ const std::map<std::string, Verb>& handVerbs()
         {"click", click},
         {"mouse", mouse},
         {"choose", choose},
+        {"store", store},
         {"pull", pull},
         {"context-menu", contextMenu},
         {"drop", drop},
