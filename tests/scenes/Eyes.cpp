@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace korvel::testing
 {
@@ -54,7 +55,7 @@ std::string shownBy(QWidget& widget)
     return text(*widget.window(), widget.objectName().toStdString());
 }
 
-void see(Stage& stage, const Words& words)
+void seeOne(Stage& stage, const Words& words)
 {
     const std::vector<std::string> names = membersOf(wordAt(words, 0));
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -64,8 +65,20 @@ void see(Stage& stage, const Words& words)
         else if (wordAt(words, i + 1) != seen)
             throw std::runtime_error(names[i] + " shows \"" + seen + "\"");
     }
-    if (names.size() > 1 && words.size() != names.size() + 1)
+    if (words.at(1).quoted && words.size() != names.size() + 1)
         throw std::runtime_error("not one text for each control");
+}
+
+/// One name behind the texts of another begins the next.
+void see(Stage& stage, const Words& words)
+{
+    Words one;
+    for (const Word& word : words) {
+        if (!word.quoted && one.size() > 1 && one.back().quoted)
+            seeOne(stage, std::exchange(one, {}));
+        one.push_back(word);
+    }
+    seeOne(stage, one);
 }
 
 /// What a screen reader says of a control.
