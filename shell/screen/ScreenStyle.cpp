@@ -355,10 +355,8 @@ void ScreenStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
         if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option))
             return drawScrollBar(*bar, *painter, widget);
     }
-    if (control == CC_GroupBox) {
-        if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
-            return drawHead(*painter, *group);
-    }
+    if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option))
+        return drawHead(*painter, *group);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
     if (control == CC_SpinBox || control == CC_ComboBox)
         drawPanel(*painter, *option, Qt::NoBrush, hasFocus(*option));
@@ -384,8 +382,7 @@ QRect ScreenStyle::subControlRect(ComplexControl control, const QStyleOptionComp
                                   SubControl part, const QWidget* widget) const
 {
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
-    if (control != CC_GroupBox || !group)
-        return QProxyStyle::subControlRect(control, option, part, widget);
+    if (!group) return QProxyStyle::subControlRect(control, option, part, widget);
     const int height =
         group->text.isEmpty() ? 0 : headHeight(widget ? widget->font() : QApplication::font());
     if (part == SC_GroupBoxLabel)

@@ -16,8 +16,10 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QSizeGrip>
 #include <QStyleFactory>
@@ -107,6 +109,224 @@ TEST(ScreenStyle, sizesFollowTheZoom)
     const int before = style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, nullptr);
     style.setZoom(200);
     EXPECT_EQ(style.pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, nullptr), 2 * before);
+}
+
+/// Every role in a colour of its own, the letters brighter than the ground as at night.
+QPalette distinctColours()
+{
+    QPalette palette;
+    for (int role = 0; role < QPalette::NColorRoles; ++role)
+        palette.setColor(static_cast<QPalette::ColorRole>(role), QColor(10 + 5 * role, 60, 90));
+    palette.setColor(QPalette::WindowText, QColor(250, 240, 230));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, QColor(200, 190, 180));
+    return palette;
+}
+
+constexpr QRect drawnRoom(0, 0, 60, 40);
+
+template <typename Option>
+Option optionOf(QStyle::State state = QStyle::State_Enabled)
+{
+    Option option;
+    option.rect = drawnRoom;
+    option.palette = distinctColours();
+    option.state = state;
+    option.fontMetrics = QFontMetrics(QApplication::font());
+    return option;
+}
+
+/// What a style draws, and the role whose colour stands at a place.
+class Drawn
+{
+public:
+    template <typename Draw>
+    explicit Drawn(Draw draw)
+    {
+        QPainter painter(&m_image);
+        draw(m_style, &painter);
+    }
+
+    QPalette::ColorRole at(int x, int y) const
+    {
+        const QPalette palette = distinctColours();
+        for (int role = 0; role < QPalette::NColorRoles; ++role)
+            if (palette.color(static_cast<QPalette::ColorRole>(role)).rgba() == m_image.pixel(x, y))
+                return static_cast<QPalette::ColorRole>(role);
+        return QPalette::NoRole;
+    }
+    int count(const QColor& colour, const QRect& part = drawnRoom) const
+    {
+        const auto found = korvel::testing::coloursOf(m_image, part);
+        const auto one = found.find(colour.rgba());
+        return one == found.end() ? 0 : one->second;
+    }
+
+private:
+    ScreenStyle m_style;
+    QImage m_image = imageOf(drawnRoom.width(), drawnRoom.height());
+};
+
+constexpr QStyle::State enabled = QStyle::State_Enabled, focused = enabled | QStyle::State_HasFocus,
+                        chosen = enabled | QStyle::State_On;
+
+TEST(ScreenStyle, aBoxShowsItsFocusAndItsCaret)
+{
+    QLineEdit box;
+    box.setGeometry(drawnRoom);
+    const auto panel = [&](auto element, QStyle::State state, int frame, const QWidget* widget) {
+        return Drawn([&](const ScreenStyle& style, QPainter* painter) {
+            auto option = optionOf<QStyleOptionFrame>(state);
+            option.lineWidth = frame;
+            style.drawPrimitive(element, &option, painter, widget);
+        });
+    };
+    const auto line = QStyle::PE_PanelLineEdit;
+    const QColor caret = distinctColours().color(QPalette::Text);
+    EXPECT_EQ(panel(line, focused, 1, nullptr).at(1, 1), QPalette::Highlight);
+    EXPECT_EQ(panel(line, enabled, 1, nullptr).at(0, 0), QPalette::Dark);
+    EXPECT_EQ(panel(line, enabled, 1, nullptr).at(1, 1), QPalette::Base);
+    EXPECT_EQ(panel(line, enabled, 0, nullptr).at(0, 0), QPalette::Base) << "of another box";
+    EXPECT_EQ(panel(QStyle::PE_FrameLineEdit, enabled, 0, nullptr).at(0, 0), QPalette::Dark);
+    EXPECT_EQ(panel(line, {}, 1, nullptr).at(30, 20), QPalette::Window) << "takes nothing";
+    EXPECT_GT(panel(line, focused, 1, &box).count(caret), 10);
+    for (const QStyle::State state : {enabled, QStyle::State(QStyle::State_HasFocus)})
+        EXPECT_EQ(panel(line, state, 1, &box).count(caret), 0);
+    EXPECT_EQ(panel(QStyle::PE_FrameLineEdit, focused, 1, &box).count(caret), 0);
+    EXPECT_EQ(panel(QStyle::PE_Frame, focused, 1, &box).at(1, 1), QPalette::Highlight);
+    EXPECT_EQ(panel(QStyle::PE_FrameMenu, focused, 1, &box).at(1, 1), QPalette::NoRole);
+    EXPECT_EQ(panel(QStyle::PE_Frame, enabled, 1, &box).at(30, 20), QPalette::NoRole);
+    EXPECT_EQ(panel(QStyle::PE_PanelTipLabel, focused, 1, &box).at(1, 1), QPalette::ToolTipBase);
+}
+
+TEST(ScreenStyle, handlesHeadsAndFrames)
+{
+    const auto control = [](auto element) {
+        return Drawn([&](const ScreenStyle& style, QPainter* painter) {
+            const auto option = optionOf<QStyleOptionHeader>();
+            style.drawControl(element, &option, painter, nullptr);
+        });
+    };
+    for (const auto handle : {QStyle::CE_Splitter, QStyle::CE_SizeGrip}) {
+        EXPECT_EQ(control(handle).at(30, 19), QPalette::Dark);
+        EXPECT_EQ(control(handle).count(QColor(Qt::transparent)), 60 * 40 - 3 * 11) << handle;
+    }
+    EXPECT_EQ(control(QStyle::CE_HeaderSection).count(distinctColours().color(hairRole)), 60);
+    EXPECT_EQ(control(QStyle::CE_HeaderSection).at(0, 39), hairRole);
+    EXPECT_EQ(control(QStyle::CE_HeaderSection).at(0, 0), QPalette::Window);
+    const auto framed = [](auto which, auto option) {
+        return Drawn([&](const ScreenStyle& style, QPainter* painter) {
+            style.drawComplexControl(which, &option, painter, nullptr);
+        });
+    };
+    EXPECT_EQ(framed(QStyle::CC_ComboBox, optionOf<QStyleOptionComboBox>(focused)).at(1, 1),
+              QPalette::Highlight);
+    EXPECT_EQ(framed(QStyle::CC_SpinBox, optionOf<QStyleOptionSpinBox>(focused)).at(1, 1),
+              QPalette::Highlight);
+    auto plain = optionOf<QStyleOptionToolButton>(focused);
+    plain.subControls = {};
+    EXPECT_EQ(framed(QStyle::CC_ToolButton, plain).at(1, 1), QPalette::NoRole);
+    // The arrows of a bar point away from its middle.
+    const QColor arrow = distinctColours().color(QPalette::WindowText);
+    auto bar = optionOf<QStyleOptionSlider>();
+    bar.maximum = 100;
+    bar.subControls = QStyle::SC_All;
+    for (const auto way : {Qt::Horizontal, Qt::Vertical}) {
+        bar.orientation = way;
+        if (way == Qt::Horizontal) bar.state |= QStyle::State_Horizontal;
+        bar.rect = way == Qt::Horizontal ? QRect(0, 0, 60, 14) : QRect(0, 0, 14, 40);
+        const Drawn drawn = framed(QStyle::CC_ScrollBar, bar);
+        const QRect first = way == Qt::Horizontal ? QRect(0, 0, 14, 7) : QRect(0, 0, 7, 14);
+        const QRect other = first.translated(way == Qt::Horizontal ? QPoint(0, 7) : QPoint(7, 0));
+        EXPECT_NEAR(drawn.count(arrow, first), drawn.count(arrow, other), 3) << way;
+        bar.state &= ~QStyle::State(QStyle::State_Horizontal);
+    }
+}
+
+TEST(ScreenStyle, aPartOfASwitchIsFilledWhileItIsChosen)
+{
+    QRadioButton part, plain;
+    drawAsSwitchPart(part);
+    const auto option = [&](QStyle::State state, const QWidget& widget) {
+        return Drawn([&](const ScreenStyle& style, QPainter* painter) {
+            const auto button = optionOf<QStyleOptionButton>(state);
+            style.drawControl(QStyle::CE_RadioButton, &button, painter, &widget);
+        });
+    };
+    const QStyle::State off = {};
+    EXPECT_EQ(option(chosen, part).at(4, 5), accentRole);
+    EXPECT_EQ(option(enabled, part).at(4, 5), QPalette::Base);
+    EXPECT_EQ(option(off, part).at(4, 5), QPalette::Window);
+    EXPECT_EQ(option(QStyle::State_On, part).at(4, 5), QPalette::AlternateBase);
+    EXPECT_EQ(option(chosen | focused, part).at(4, 5), QPalette::Base)
+        << "the outline of the focus";
+    EXPECT_EQ(option(focused, part).at(1, 1), QPalette::Highlight);
+    EXPECT_EQ(option(focused, part).at(10, 4), QPalette::Base);
+    EXPECT_EQ(option(chosen, plain).at(40, 2), QPalette::NoRole);
+    const ScreenStyle style;
+    const auto button = optionOf<QStyleOptionButton>();
+    const auto rect = [&](auto which, const QWidget& widget) {
+        return style.subElementRect(which, &button, &widget);
+    };
+    EXPECT_EQ(rect(QStyle::SE_RadioButtonIndicator, part), drawnRoom);
+    EXPECT_NE(rect(QStyle::SE_RadioButtonIndicator, plain), drawnRoom);
+    EXPECT_NE(rect(QStyle::SE_RadioButtonContents, part), drawnRoom);
+}
+
+/// The toolkit's icons are black or white.
+TEST(ScreenStyle, iconsAtNightHaveTheColourOfTheLetters)
+{
+    QPixmap black(16, 16);
+    black.fill(Qt::black);
+    const auto blackIn = [&](auto element, auto option, auto icon) {
+        option.*icon = QIcon(black);
+        const Drawn drawn([&](const ScreenStyle& style, QPainter* painter) {
+            style.drawControl(element, &option, painter, nullptr);
+        });
+        EXPECT_GT(drawn.count(distinctColours().color(QPalette::WindowText)), 100) << element;
+        return drawn.count(Qt::black);
+    };
+    auto tool = optionOf<QStyleOptionToolButton>();
+    tool.iconSize = {16, 16};
+    EXPECT_EQ(blackIn(QStyle::CE_ToolButtonLabel, tool, &QStyleOptionToolButton::icon), 0);
+    auto push = optionOf<QStyleOptionButton>();
+    push.iconSize = {16, 16};
+    EXPECT_EQ(blackIn(QStyle::CE_PushButtonLabel, push, &QStyleOptionButton::icon), 0);
+    auto item = optionOf<QStyleOptionViewItem>();
+    item.features = QStyleOptionViewItem::HasDecoration;
+    item.decorationSize = {16, 16};
+    EXPECT_EQ(blackIn(QStyle::CE_ItemViewItem, item, &QStyleOptionViewItem::icon), 0);
+    auto entry = optionOf<QStyleOptionMenuItem>();
+    entry.maxIconWidth = 20;
+    EXPECT_EQ(blackIn(QStyle::CE_MenuItem, entry, &QStyleOptionMenuItem::icon), 0);
+    auto combo = optionOf<QStyleOptionComboBox>();
+    combo.iconSize = {16, 16};
+    EXPECT_EQ(blackIn(QStyle::CE_ComboBoxLabel, combo, &QStyleOptionComboBox::currentIcon), 0);
+    const ScreenStyle style;
+    const std::unique_ptr<QStyle> toolkits(QStyleFactory::create("Fusion"));
+    for (const auto which : {QStyle::SP_TitleBarMenuButton, QStyle::SP_ArrowUp, QStyle::SP_DirIcon})
+        EXPECT_EQ(style.standardPixmap(which, nullptr, nullptr).toImage(),
+                  toolkits->standardPixmap(which).toImage());
+}
+
+/// A result that is painted anew in a group had the group's title painted with it.
+TEST(ScreenStyle, aGroupPaintsWhereItsTitleOrFrameIs)
+{
+    ScreenStyle style;
+    QGroupBox group("Corrections"), ticked("Corrections");
+    ticked.setCheckable(true);
+    for (QGroupBox* each : {&group, &ticked})
+        each->setFixedSize(200, 100);
+    const QRect inside = group.contentsRect();
+    ASSERT_GT(inside.top(), 0);
+    QPaintEvent within(inside), whole(group.rect());
+    EXPECT_TRUE(style.eventFilter(&group, &within));
+    EXPECT_FALSE(style.eventFilter(&group, &whole));
+    QPaintEvent tickedWithin(ticked.contentsRect());
+    EXPECT_FALSE(style.eventFilter(&ticked, &tickedWithin));
+    QWidget other;
+    EXPECT_FALSE(style.eventFilter(&other, &within));
+    group.setTitle("");
+    EXPECT_EQ(group.contentsRect().top(), 0);
 }
 
 TEST(ScreenStyle, buttonsOfADialogHaveWordsAlone)
