@@ -253,10 +253,10 @@ def month_rows():
                          ("Honolulu", datetime.datetime(2005, 12, 1))):
         date = first
         while date.month == first.month:
-            for name, station in (("four", FourConstituents), ("all", AllConstituents)):
-                waters = (f"{kind}={minutes:.2f} {height:.4f}"
-                          for minutes, kind, height in turns(station(place).curve(date)))
-                yield f"a water of {place} moved or lost,{place},{date:%Y/%m/%d},{name},{'; '.join(waters)}"
+            sums = ("; ".join(f"{kind}={minutes:.2f} {height:.4f}"
+                              for minutes, kind, height in turns(station(place).curve(date)))
+                    for station in (FourConstituents, AllConstituents))
+            yield f"a water of {place} moved or lost,{place},{date:%Y/%m/%d},{','.join(sums)}"
             date += datetime.timedelta(days=1)
 
 
@@ -288,6 +288,6 @@ if __name__ == "__main__":
     write("tide_waters.csv", "High and low waters of a day by all constituents, zone time and metres above chart datum.",
           "fault,place,date,waters", water_rows())
     write("tide_days.csv", "Every high and low water of a month by both sums: minutes of zone time and metres, a day a line.",
-          "fault,place,date,sum,waters", month_rows())
+          "fault,place,date,four,all", month_rows())
     write("tide_answers.csv", "What an officer asks of a day's curve, answered by both sums.",
           "fault,place,date,question,typed,four,all", answer_rows())

@@ -19,6 +19,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -240,6 +241,39 @@ TEST(FollowingScrollArea, whatStandsTogetherIsSeenTogetherWhereItFits)
         boxOf(2, box)->setFocus();
         EXPECT_TRUE(isSeen(boxOf(2, box))) << box << " of a group that does not fit";
     }
+}
+
+TEST(FollowingScrollArea, groupsGoBelowEachOtherWhereTheyHaveNoRoom)
+{
+    auto* content = new QWidget;
+    auto* groups = new QHBoxLayout(content);
+    groups->setContentsMargins({});
+    groups->setSpacing(0);
+    for (int i = 0; i < 2; ++i) {
+        groups->addWidget(new QWidget);
+        groups->itemAt(i)->widget()->setFixedSize(100, 30);
+    }
+    FollowingScrollArea area(content);
+    area.foldColumns();
+    const int bar = area.verticalScrollBar()->sizeHint().width();
+    const auto isFoldedAt = [&](int width) {
+        area.resize(width, 120);
+        return groups->direction() == QBoxLayout::TopToBottom;
+    };
+    area.resize(400, 120);
+    area.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&area));
+    EXPECT_TRUE(isFoldedAt(199 + bar));
+    EXPECT_FALSE(isFoldedAt(200 + bar));
+    EXPECT_EQ(area.sizeHint(), QSize(200 + bar, 30)) << "nothing for a heading that is not there";
+    // While a window measures itself what it has set stays, whatever the area is given.
+    area.foldByHand(true);
+    EXPECT_FALSE(isFoldedAt(150));
+    area.hide();
+    area.show();
+    EXPECT_EQ(groups->direction(), QBoxLayout::LeftToRight);
+    area.foldByHand(false);
+    EXPECT_TRUE(isFoldedAt(151));
 }
 
 /// A line that points at the best place, and goes round it, is not in the way; one across it is.
