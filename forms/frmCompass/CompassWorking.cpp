@@ -68,7 +68,7 @@ private:
             m_working.step("Greenwich hour angle", "GHA, by the almanac", body + ", " + ut + " UTC",
                            shown(m_result.worked.place->gha), "°");
         m_working.angleStep("Latitude", "L", DegToDegMin(*m_result.latitude));
-        if (m_result.longitude && m_input.method == CompassMethod::Azimuth)
+        if (m_input.method == CompassMethod::Azimuth)
             m_working.angleStep("Longitude", "λ", DegToDegMin(*m_result.longitude));
     }
 

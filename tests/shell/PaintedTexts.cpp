@@ -64,7 +64,8 @@ void PaintedTexts::Engine::drawPolygon(const QPointF* points, int count, Polygon
 
 void PaintedTexts::Engine::drawTextItem(const QPointF& at, const QTextItem& item)
 {
-    texts.push_back({item.text(), painter()->combinedTransform().map(at), item.width()});
+    texts.push_back({item.text(), painter()->combinedTransform().map(at), item.width(),
+                     item.font().pixelSize()});
 }
 
 } // namespace korvel::testing

@@ -11,11 +11,12 @@
 namespace korvel::testing
 {
 
-/// A piece of text as it was painted: where its baseline begins, and how wide it is.
+/// A piece of text as it was painted: where its baseline begins, how wide and how high it is.
 struct PaintedText {
     QString text;
     QPointF at;
     double width{};
+    int letters{}; ///< pixels
 };
 
 /// A sheet of white paper that keeps what is written and ruled on it, in its own pixels.

@@ -89,8 +89,7 @@ void SightListPanel::showSights(const SightList& list, const SightFixResult& fix
                                  asQString(inFullForm(whole.trimmed().toStdString())));
     }
     writePlanned();
-    if (m_lstSunSight->count() > 0 && m_lstSunSight->currentRow() < 0)
-        m_lstSunSight->setCurrentRow(0);
+    if (m_lstSunSight->currentRow() < 0) m_lstSunSight->setCurrentRow(0);
 }
 
 void SightListPanel::showPlanned(const std::vector<std::string>& lines)

@@ -57,7 +57,8 @@ struct Observation {
     /// Moon. A sight of the Sun comes back as it is.
     Observation takenAt(const NavFunc113::Position& place) const;
 
-    bool complete() const { return UTC && GHA && declination && corrections; }
+    /// The place is read whole, and after the time.
+    bool complete() const { return GHA && corrections; }
     /// The sight as the fix takes it. @pre complete()
     NavFunc113::Sight sight(NavFunc113::DateTime timeOfFix) const;
 };

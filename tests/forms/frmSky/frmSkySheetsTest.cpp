@@ -56,16 +56,19 @@ TEST(AlmanacSheets, haveTheRowsOfThePageAsText)
     const auto page = almanac::makeDailyPage(NavFunc113::MakeDateTime({2026, 11, 22}, 0));
     std::string sheets;
     for (int sheet = 0; sheet < almanacSheets; ++sheet) {
-        testing::PaintedTexts paper({2000, 1400});
+        testing::PaintedTexts paper({4000, 2800});
         QPainter painter(&paper);
-        drawAlmanacSheet(painter, {0, 0, 2000, 1400}, page, sheet);
+        drawAlmanacSheet(painter, {0, 0, 4000, 2800}, page, sheet);
         painter.end();
         for (const std::string& row : paper.rows())
             sheets += simplified(row) + "\n";
-        for (const testing::PaintedText& each : paper.texts())
-            EXPECT_TRUE(QRect(0, 0, 2000, 1400).contains(each.at.toPoint()))
+        std::set<int> letters, heights;
+        for (const testing::PaintedText& each : paper.texts()) {
+            letters.insert(each.letters);
+            EXPECT_TRUE(QRect(0, 0, 4000, 2800).contains(each.at.toPoint()))
                 << each.text.toStdString();
-        std::set<int> heights;
+        }
+        EXPECT_EQ(letters, std::set<int>{26}) << "as many lines as the height has room for";
         for (const QLineF& rule : paper.lines())
             heights.insert(qRound(rule.y1()));
         EXPECT_EQ(heights.size(), sheet == 0 ? 8U : 10U) << "days and tables are ruled off";

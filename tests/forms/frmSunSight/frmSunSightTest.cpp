@@ -222,6 +222,7 @@ TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)
     QApplication::processEvents();
     const auto& sights = static_cast<QListWidget&>(control(window, "lstSunSight"));
     EXPECT_TRUE(sights.viewport()->rect().contains(sights.visualItemRect(sights.item(7))));
+    EXPECT_LT(sights.minimumSizeHint().height(), 9 * sights.sizeHintForRow(0));
     EXPECT_GE(control(window, "picSunSight").height(), 340);
     EXPECT_GE(control(window, "picSunSight").width(), 400);
     EXPECT_LE(sights.sizeHintForColumn(0), sights.viewport()->width()) << "residuals cut off";

@@ -32,6 +32,14 @@ TEST(TideWeeks, theDaysAreThoseOfTheStationAndOfItsFiles)
     EXPECT_TRUE(weeks.week(boxes, midnight + 1.0 / 1440).isThere());
 }
 
+TEST(TideWeeks, aDayByFourConstituentsSaysSo)
+{
+    TideWeek week;
+    EXPECT_FALSE(week.isOfAll());
+    week.days.emplace_back();
+    EXPECT_STREQ(week.method(), "four constituents");
+}
+
 TEST(TideWeeks, aMomentIsNoTimeToPass)
 {
     TideWeeks weeks(TideFolder::shipped());

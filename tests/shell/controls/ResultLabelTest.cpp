@@ -71,6 +71,11 @@ TEST(ResultLabel, aTipTellsWhatIsCutAndWhatWasGiven)
     EXPECT_EQ(tip("", 8), "73.6");
     EXPECT_EQ(tip("by the log", 200), "by the log");
     EXPECT_EQ(tip("by the log", 8), "73.6\nby the log");
+    const int wide = label.fontMetrics().horizontalAdvance(label.text());
+    for (const int missing : {1, 3}) {
+        label.resize(wide - missing, label.height());
+        EXPECT_EQ(label.isCut(), missing == 3) << "a layout shares pixels out";
+    }
 }
 
 /// A label as it stands on a screen where only what changes is painted.

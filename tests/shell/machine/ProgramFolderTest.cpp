@@ -70,6 +70,7 @@ TEST(ProgramFolder, readsAtAPosition)
         EXPECT_EQ(content.size, 10);
     }
     EXPECT_EQ(files.look("KV_X.ini").status, Status::Missing);
+    EXPECT_EQ(files.look(name).bytes, "");
 
     // The factors of a century are larger than any file that is read whole.
     QFile huge(folder.filePath("huge.txt"));

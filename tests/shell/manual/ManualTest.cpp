@@ -46,6 +46,19 @@ TEST(ManualPlaces, theLineThatSaysTheMostOfANameIsItsPlace)
     EXPECT_EQ(linesOf(page).size(), 10u);
 }
 
+TEST(ManualPlaces, theWordsOfALinkAndNoOthersHaveItsColour)
+{
+    QTextDocument page;
+    page.setMarkdown("Before it, [the other page](other.md) and what is behind it.");
+    QPalette palette;
+    palette.setColor(QPalette::Link, QColor(12, 34, 56));
+    dressPage(page, palette);
+    for (auto part = page.begin().begin(); !part.atEnd(); ++part)
+        EXPECT_EQ(part.fragment().charFormat().foreground().color() == QColor(12, 34, 56),
+                  part.fragment().text() == "the other page")
+            << part.fragment().text().toStdString();
+}
+
 TEST(ProgramFacts, tellWhatLiesBesideTheProgram)
 {
     FakeFiles files;
