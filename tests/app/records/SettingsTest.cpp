@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "app/records/QuoteSigns.h"
 #include "app/records/SettingsFile.h"
 #include "tests/app/FakeMachine.h"
 #include "tests/golden/Golden.h"
@@ -161,6 +162,17 @@ TEST_F(SettingsFileTest, aFailedSaveMayBeTriedAgainOrLeft)
     questions.willAnswer(Answer::No);
     EXPECT_FALSE(settings.saveAtClose({3.0}));
     EXPECT_EQ(files.files["KV_X.ini"], "2\r\n");
+}
+
+TEST(QuoteSigns, aTextComesBackAsItWas)
+{
+    for (const std::string text :
+         {"M/V \"Prüfling\"", "100 %", "%22", "%2522", "\"%22\"", "%", "", "%2"}) {
+        const std::string written = withoutQuoteSigns(text);
+        EXPECT_EQ(written.find('"'), written.npos) << text;
+        EXPECT_EQ(withQuoteSigns(written), text) << written;
+    }
+    EXPECT_EQ(withQuoteSigns("M/V 'Star' 100 %"), "M/V 'Star' 100 %") << "as written by 1.0";
 }
 
 } // namespace

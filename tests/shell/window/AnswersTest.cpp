@@ -4,8 +4,9 @@
 #include "tests/shell/WholeProgram.h"
 
 #include <QAbstractButton>
+#include <QLayout>
 
-// Whoever looks at a window sees its answers first.
+// Whoever looks at a window sees its answers first, and everything in its place.
 
 namespace korvel
 {
@@ -42,6 +43,15 @@ std::vector<QWidget*> answersOf(const QWidget& window)
     return answers;
 }
 
+bool holds(const QLayout* layout, const QWidget* widget)
+{
+    for (int i = 0; layout && i < layout->count(); ++i) {
+        QLayoutItem* item = layout->itemAt(i);
+        if (item->widget() == widget || holds(item->layout(), widget)) return true;
+    }
+    return false;
+}
+
 class AnswersTest : public WholeProgram
 {
 };
@@ -67,6 +77,23 @@ TEST_F(AnswersTest, areTheLargestLettersOfTheirWindowAndTheOnlyOnesOfTheirColour
         }
         opened.close();
     }
+}
+
+/// A control that no layout places stands in the corner of its window, over whatever is there.
+TEST_F(AnswersTest, andEveryBoxStandInALayout)
+{
+    std::size_t placed = 0;
+    for (const CatalogueEntry& entry : calculatorWindows()) {
+        QWidget& opened = window(entry.name);
+        for (const QWidget* each : opened.findChildren<QWidget*>()) {
+            if (!dynamic_cast<const EntryBox*>(each) && !dynamic_cast<const ResultLabel*>(each))
+                continue;
+            EXPECT_TRUE(holds(each->parentWidget()->layout(), each)) << nameOf(*each);
+            ++placed;
+        }
+        opened.close();
+    }
+    EXPECT_GT(placed, 500U);
 }
 
 } // namespace
