@@ -109,13 +109,13 @@ std::string alarmCaption(int n, const KV_Savedvalue& saved)
 std::string nextAlarmText(const KV_Savedvalue& saved, NavFunc113::DateTime smt)
 {
     const auto present = minuteOf(smt);
-    std::int64_t nearest = minutesOfDay + 1;
+    std::int64_t nearest = minutesOfDay;
     int next = 0;
     for (int n = 1; present && n <= KV_Savedvalue::alarms; ++n) {
         const auto time = timeOfDay(saved.alarmTime(n));
         const auto minute = time ? minuteOf(*time) : std::nullopt;
         if (!saved.alarmEnabled(n) || !minute) continue;
-        const std::int64_t away = dayMinute(*minute - *present - 1) + 1;
+        const std::int64_t away = dayMinute(*minute - *present - 1); // from the next minute on
         if (away >= nearest) continue;
         nearest = away;
         next = n;

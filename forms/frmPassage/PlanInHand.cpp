@@ -88,8 +88,6 @@ void PlanInHand::replace(const PassagePlan& by, const std::string& name)
 void PlanInHand::take(PassagePlan plan)
 {
     m_plan = std::move(plan);
-    m_history = {};
-    m_row = 0;
     m_reckoning.takeAll(m_plan, m_conditions);
 }
 

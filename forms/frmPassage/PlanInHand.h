@@ -40,7 +40,8 @@ public:
     void moveRow(int by);
     void reverse();
     void replace(const PassagePlan& by, const std::string& name);
-    /// Takes a plan over as it was kept: that is nothing to be taken back.
+    /// Takes a plan over as it was kept, before anything is done with one: that is nothing to be
+    /// taken back.
     void take(PassagePlan plan);
 
     /// @return false when there is no step

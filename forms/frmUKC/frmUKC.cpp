@@ -41,8 +41,8 @@ constexpr int firstChoice = 0;
 
 int choiceIn(const std::string& text, const QComboBox& list)
 {
-    const int index = asQString(text).toInt(); // 0 where it is no number
-    return index >= 0 && index < list.count() ? index : firstChoice;
+    const uint index = asQString(text).toUInt(); // 0 where it is none
+    return index < static_cast<uint>(list.count()) ? static_cast<int>(index) : firstChoice;
 }
 
 } // namespace

@@ -409,8 +409,8 @@ bool RowTable::eventFilter(QObject* watched, QEvent* event)
         *wanted = *wanted > *row ? *wanted + 1 : *wanted - 1;
     const auto column = std::ranges::find(m_lines[*row], control) - m_lines[*row].begin();
     QWidget* there = m_lines[*wanted][static_cast<std::size_t>(column)];
-    // A blank result takes no focus.
-    if (there != control && there->focusPolicy() != Qt::NoFocus)
+    // A blank result takes no focus, nor does a row that is not seen.
+    if (there != control && there->focusPolicy() != Qt::NoFocus && there->isVisibleTo(this))
         there->setFocus(Qt::TabFocusReason);
     return true;
 }

@@ -262,6 +262,7 @@ TEST(PlanPaper, oneLineALegAndWhatOnlySomeRowsHave)
     tellPlan(wanted, back, PlanReckoning(back, {}));
     EXPECT_EQ(wanted.inputs[1].name + "|" + wanted.inputs[1].unit, "Wanted arrival|ship's time");
     EXPECT_EQ(paper.line->points.size(), 6u) << "four waypoints and two tangent points";
+    EXPECT_TRUE(std::ranges::is_sorted(paper.line->points, {}, &ExportLine::Point::longitude));
     EXPECT_EQ(Format(paper.line->points.front().UTC.value(), "yyyy/mm/dd hh:mm"),
               "2026/11/10 00:00");
     EXPECT_EQ(paper.list->rows.size(), 4u);

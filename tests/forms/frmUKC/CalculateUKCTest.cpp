@@ -305,7 +305,11 @@ TEST(CalculateUKC, aChannelByItsSection)
     EXPECT_THAT(with(input, {{Section, "300"}}).notice, HasSubstr("fills the section"));
     EXPECT_THAT(with(input, {{Section, "9000"}}).notice, HasSubstr("0.100 to 0.266"));
     EXPECT_THAT(with(input, {{Section, "1000"}}).notice, HasSubstr("0.100 to 0.266"));
-    EXPECT_THAT(with(input, {{Bottom, "400"}}).notice, HasSubstr("open water for her"));
+    // 7.04 x 32.2 / 0.88^0.85 = 252.7 m; the banks take 36.6 of them at half the depth.
+    EXPECT_THAT(with(input, {{Bottom, "220"}, {Slope, "2"}}).notice,
+                HasSubstr("wider than 253 m a channel is open water for her"));
+    EXPECT_THAT(with(input, {{Bottom, "400"}, {Section, "3606.4"}}).notice,
+                Not(HasSubstr("open water for her")));
     // Its depth is the one to count on: 18.32 m, and the banks widen it.
     shown = with(input, {{Bottom, "100"}, {Slope, "2"}});
     EXPECT_NEAR(shown.figures.model->section(Metres(1)).value(), (100 + 2 * 18.32) * 18.32, 1e-9);

@@ -67,7 +67,7 @@ TEST(RowTable, keysGoToOtherRowsThatAreSeen)
         {0, Qt::Key_Up, 4, 0},       {0, Qt::Key_Down, 4, 1},     {3, Qt::Key_Down, 4, 5},
         {5, Qt::Key_Up, 4, 3},       {0, Qt::Key_PageDown, 4, 3}, {7, Qt::Key_PageUp, 3, 5},
         {2, Qt::Key_PageDown, 1, 3}, {3, Qt::Key_PageUp, 1, 2},   {2, Qt::Key_PageDown, 2, 3},
-        {1, Qt::Key_PageUp, 4, 0},   {0, Qt::Key_Left, 4, 0},
+        {1, Qt::Key_PageUp, 4, 0},   {0, Qt::Key_Left, 4, 0},     {7, Qt::Key_Down, 4, 7},
     };
     for (const auto& [from, key, linesSeen, row] : rows)
         EXPECT_EQ(rowAfter(from, key, linesSeen), row) << from << " " << key << " " << linesSeen;
@@ -79,6 +79,10 @@ TEST(RowTable, keysGoToOtherRowsThatAreSeen)
     EXPECT_EQ(rowAfter(11, Qt::Key_Down, 4), 11);
     table->setRowSeen(1, false);
     EXPECT_EQ(rowAfter(2, Qt::Key_Up, 4), 0);
+    std::string inHand;
+    for (std::size_t row = 0; row < table->rows(); ++row)
+        if (table->number(row)->font().bold()) inHand += std::to_string(row) + " ";
+    EXPECT_EQ(inHand, "0 ");
     EXPECT_FALSE(table->rowOf(&area));
     EXPECT_FALSE(table->rowOf(nullptr));
 }

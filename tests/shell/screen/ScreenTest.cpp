@@ -178,6 +178,9 @@ TEST_F(ScreenTest, captionsStandBesideTheirResults)
                     named = name.contains(at.next().captured(), Qt::CaseInsensitive) || named;
                 EXPECT_TRUE(named) << nameOf(*result) << " is called " << name.toStdString()
                                    << " beside " << captions.join(" / ").toStdString();
+                for (const char* head : {"in air", "in vacuo", "at 15 °C", "at 60 °F"})
+                    EXPECT_TRUE(captions[1] != head || name.contains(head))
+                        << nameOf(*result) << " is below " << head;
             }
         });
 }
