@@ -29,11 +29,6 @@ constexpr double around = 1.15; // room about the whole plan
 // Degrees between the lines of a graticule, from 2 minutes up.
 constexpr std::array steps{1 / 30.0, 1 / 12.0, 1 / 6.0, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 30.0, 60.0};
 
-bool isSame(const GeoPoint& one, const GeoPoint& other)
-{
-    return one.lat == other.lat && one.longitude == other.longitude;
-}
-
 ChartSpot spotOf(const GeoPoint& point)
 {
     return {DegMinToDeg(point.longitude).value(), mercatorY(DegMinToDeg(point.lat))};
@@ -80,15 +75,13 @@ const PlanChartMaker::Curve& PlanChartMaker::curveTo(const PlanReckoning& plan, 
 {
     const ReadPlanRow& start = plan.read(from);
     const ReadPlanRow& end = plan.read(row);
-    Curve wanted{*start.position, *end.position, plan.leg(row)->kind, {}, {}};
-    if (end.limit) wanted.limit = limitOfLeg(start, end);
+    Way way{*start.position, *end.position, plan.leg(row)->kind, {}};
+    if (end.limit) way.limit = limitOfLeg(start, end);
     Curve& curve = m_curves[row];
-    if (!curve.points.empty() && isSame(curve.from, wanted.from) && isSame(curve.to, wanted.to) &&
-        curve.kind == wanted.kind && curve.limit == wanted.limit)
-        return curve;
-    curve = std::move(wanted);
+    if (!curve.points.empty() && curve.way == way) return curve;
+    curve = {way, {}};
     const CircleStep step{{}, betweenPoints};
-    for (const LegPoint& point : pointsOfLeg(curve.from, curve.to, curve.kind, step, curve.limit))
+    for (const LegPoint& point : pointsOfLeg(way.from, way.to, way.kind, step, way.limit))
         curve.points.push_back(spotOf(point.at));
     return curve;
 }

@@ -46,10 +46,15 @@ public:
     PlanChart chartOf(const PlanReckoning& plan);
 
 private:
-    struct Curve {
+    struct Way {
         NavFunc113::GeoPoint from, to;
         LegKind kind = LegKind::Rhumb;
         NavFunc113::DegMin limit;
+
+        bool operator==(const Way&) const = default;
+    };
+    struct Curve {
+        Way way;
         std::vector<ChartSpot> points; ///< behind the departure, longitudes as they are
     };
     const Curve& curveTo(const PlanReckoning& plan, std::size_t from, std::size_t row);

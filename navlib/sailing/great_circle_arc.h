@@ -13,6 +13,8 @@ namespace NavFunc113
 struct GeoPoint {
     DegMin lat;       ///< north positive
     DegMin longitude; ///< -180 .. 180, east positive
+
+    bool operator==(const GeoPoint&) const = default;
 };
 
 /// The shorter great circle between two positions, as a line that one can go along: for any two

@@ -2,6 +2,8 @@
 #include "forms/frmSunSight/frmSunSight.h"
 
 #include "forms/frmSunSight/panels/SightPicture.h"
+#include "tests/forms/frmSunSight/WorkedSights.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QApplication>
@@ -226,6 +228,51 @@ TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)
     EXPECT_GE(control(window, "picSunSight").height(), 340);
     EXPECT_GE(control(window, "picSunSight").width(), 400);
     EXPECT_LE(sights.sizeHintForColumn(0), sights.viewport()->width()) << "residuals cut off";
+}
+
+/// What an officer would plot himself, by the places of the plot.
+TEST(SightPicture, drawsArrowScaleAndNorthAndWritesOnItsMargins)
+{
+    SightPicture picture;
+    picture.resize(500, 400);
+    picture.showPlot(
+        DrawLOP(CalculateFix(worked::listOf({worked::morning2020}), worked::track2020, {}, {}),
+                {{3, -4}, 20}));
+    PaintedTexts sheet(picture.size());
+    picture.render(&sheet, {}, {}, QWidget::DrawChildren);
+    const QRectF area = picture.plotArea();
+    EXPECT_NEAR(area.width(), area.height(), 1) << "angles are true";
+    const auto at = [&](const PlotPoint& point) { return picture.toPixel(point.x, point.y); };
+    const auto isAt = [](QPointF one, QPointF other) { return QLineF(one, other).length() < 0.6; };
+    const PlotLine& line = picture.plot().lines.at(0);
+    const QPointF tip = at(line.arrowTo), north = area.topRight();
+    int barbs = 0, arms = 0, scales = 0;
+    for (const QLineF& each : sheet.lines()) {
+        if (isAt(each.p1(), tip)) {
+            const double angle = each.angleTo(QLineF(tip, at(line.foot)));
+            barbs += std::abs(std::remainder(angle, 360)) < 30;
+        }
+        arms += isAt(each.center(), at({})) && each.length() < 60;
+        scales += each.dy() == 0 && std::abs(each.length() - (at({5, 0}) - at({})).x()) < 0.01;
+        if (each.x1() > area.right() + 1 && each.x2() > area.right() + 1) {
+            EXPECT_GT(each.x1(), north.x());
+            EXPECT_LE(std::min(each.y1(), each.y2()), north.y() + 0.5);
+        }
+    }
+    EXPECT_EQ(barbs, 2);
+    EXPECT_EQ(arms, 2);
+    EXPECT_EQ(scales, 1) << "5 miles";
+    double right = 0;
+    for (const PaintedText& each : sheet.texts()) {
+        if (each.text.endsWith('N')) {
+            EXPECT_TRUE(each.text == "N" || each.at.x() + each.width < area.left());
+        }
+        if (!each.text.endsWith('W')) continue;
+        EXPECT_GT(each.at.x(), right);
+        EXPECT_GT(each.at.y(), area.bottom());
+        right = each.at.x() + each.width;
+    }
+    EXPECT_GT(right, area.center().x());
 }
 
 } // namespace
