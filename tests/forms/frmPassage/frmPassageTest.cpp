@@ -4,10 +4,14 @@
 #include "forms/frmCDDR/frmCDDR.h"
 #include "forms/frmETA/frmETA.h"
 #include "forms/frmGC2000/frmGC2000.h"
+#include "forms/frmPassage/PlanChart.h"
 #include "forms/frmPassage/PlanRecord.h"
 #include "forms/frmPassage/PlanTable.h"
+#include "navlib/angles.h"
+#include "shell/controls/PictureBox.h"
 #include "tests/SourceFolder.h"
-#include "tests/forms/frmPassage/PassageWindow.h"
+#include "tests/shell/Pixels.h"
+#include "tests/shell/ShellTesting.h"
 
 #include <QAbstractItemModelTester>
 #include <QAction>
@@ -15,6 +19,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QImage>
 #include <QMimeData>
 #include <QTest>
 
@@ -29,8 +34,39 @@ using ::testing::ElementsAre;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 
-class frmPassageTest : public PassageWindowTest
+/// The window of the passage plan, and an officer's hands in it.
+class frmPassageTest : public WindowTest
 {
+protected:
+    /// Types rows as the officer does: boxes parted by commas in their Enter order, Enter behind
+    /// each row.
+    static void typeRows(frmPassage& window, const std::vector<std::vector<std::string>>& rows)
+    {
+        constexpr const char* boxes[] = {"txtWaypoint", "txtWpLat", "txtWpLong", "txtLegSpeed",
+                                         "txtStop",     "txtZone",  "txtRemark"};
+        for (const auto& row : rows) {
+            for (std::size_t i = 0; i < row.size(); ++i)
+                if (!row[i].empty()) type(window, boxes[i], row[i]);
+            if (&row == &rows.back()) continue;
+            control(window, "txtRemark").setFocus(Qt::TabFocusReason);
+            QTest::keyClick(&control(window, "txtRemark"), Qt::Key_Return);
+        }
+    }
+
+    PassagePlan onDisk()
+    {
+        program().saveRecords();
+        return readPlanRecord(fileText("KV_Passage.ini")).plan;
+    }
+
+    static std::string cell(const frmPassage& window, int row, int column, int line = 0)
+    {
+        const auto& table = static_cast<PlanTable&>(control(window, "tblPlan"));
+        const QModelIndex at = table.model()->index(row, column);
+        return at.data(line == 0 ? int(Qt::DisplayRole) : int(Qt::UserRole))
+            .toString()
+            .toStdString();
+    }
 };
 
 /// A record that is damaged is asked about, and the table painted behind the question.
@@ -414,6 +450,48 @@ TEST_F(frmPassageTest, theShipNowIsOfferedAndFillsNothingByItself)
     EXPECT_EQ(text(window, "txtLegSpeed"), "14.5");
     choose(window, "mnuShip(2)");
     EXPECT_EQ(text(window, "txtZone"), "9.0");
+}
+
+TEST_F(frmPassageTest, theChartHasItsLegsAndAPressGoesToTheRow)
+{
+    auto& window = open<frmPassage>();
+    typeRows(window, {{"A", "0", "0"}, {"B", "0", "10"}, {"C", "8", "10"}});
+    window.resize(1400, 900);
+    QApplication::processEvents();
+    auto& picture = dynamic_cast<PictureBox&>(control(window, "picPlan"));
+    const ColourScheme& colours = program().colours();
+    const auto pixelOf = [&picture](double latitude, double longitude) {
+        return picture.toPixel(longitude, mercatorY(NavFunc113::Degrees(latitude)));
+    };
+    const auto isThere = [&picture](const QPointF& at, const QColor& colour) {
+        const QImage image = onScreen(picture);
+        for (int x = -2; x <= 2; ++x)
+            for (int y = -2; y <= 2; ++y)
+                if (image.pixelColor(qRound(at.x()) + x, qRound(at.y()) + y) == colour) return true;
+        return false;
+    };
+    EXPECT_TRUE(isThere(pixelOf(0, 4), colours.route));
+    EXPECT_TRUE(isThere(pixelOf(4, 10), colours.route));
+    EXPECT_FALSE(isThere(pixelOf(4, 5), colours.route));
+    EXPECT_TRUE(isThere(pixelOf(8, 10), colours.marker)) << "the row in hand";
+    EXPECT_FALSE(isThere(pixelOf(0, 0), colours.marker));
+    QTest::mouseClick(&picture, Qt::LeftButton, {}, pixelOf(0, 0).toPoint());
+    EXPECT_EQ(text(window, "txtWaypoint"), "A");
+    EXPECT_TRUE(isThere(pixelOf(0, 0), colours.marker));
+    // Mercator's chart: as high as wide, a degree of longitude as long everywhere.
+    const UserScale whole = picture.userScale();
+    EXPECT_NEAR((whole.right - whole.left) / picture.plotArea().width(),
+                (whole.top - whole.bottom) / picture.plotArea().height(), 1e-6);
+    QTest::keyClick(&picture, Qt::Key_Plus);
+    EXPECT_NEAR(picture.userScale().left + picture.userScale().right, whole.left + whole.right,
+                1e-9);
+    EXPECT_LT(picture.userScale().right, whole.right);
+    QTest::keyClick(&picture, Qt::Key_Right);
+    EXPECT_GT(picture.userScale().left + picture.userScale().right, whole.left + whole.right);
+    EXPECT_NEAR(picture.userScale().top + picture.userScale().bottom, whole.top + whole.bottom,
+                1e-9);
+    QTest::keyClick(&picture, Qt::Key_Home);
+    EXPECT_NEAR(picture.userScale().right, whole.right, 1e-9);
 }
 
 } // namespace
