@@ -28,13 +28,14 @@ Observation observationOf(const SightTexts& texts)
     return readObservation(texts, unheard);
 }
 
+/// @param b a complete one
 bool isSameSight(const SightTexts& a, const SightTexts& b)
 {
     const Observation first = observationOf(a), second = observationOf(b);
     constexpr double halfSecond = 0.5 / 86400;
     constexpr double halfTenth = 0.05 / 60;
-    return first.complete() && second.complete() && first.body == second.body &&
-           a.upperLimb == b.upperLimb && std::fabs(*first.UTC - *second.UTC) < halfSecond &&
+    return first.complete() && first.body == second.body && a.upperLimb == b.upperLimb &&
+           std::fabs(*first.UTC - *second.UTC) < halfSecond &&
            fabs(NavFunc113::DegMinToDeg(first.corrections->Ho) -
                 NavFunc113::DegMinToDeg(second.corrections->Ho)) < NavFunc113::Degrees(halfTenth);
 }

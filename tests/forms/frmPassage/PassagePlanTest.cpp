@@ -129,12 +129,13 @@ TEST(PlanEdit, eachStepDoesWhatItSaysAndCanBeTakenBack)
 TEST(PlanEdit, theWayBackTakesAsLong)
 {
     const PlanConditions conditions;
-    PassagePlan plan = planOf("A 0 0 v=10 / B 3 20 gc / C 50 0 co:51 / D 51 60 / E 52 70 v=8");
+    PassagePlan plan = planOf("A 0 0 v=10 / B 3 20 gc / C 50 0 co:51 / D 51 60 / E 52 70 v=8 gc");
     const PlanTotals there = PlanReckoning(plan, conditions).totals();
     apply(plan, reversedRows(plan.rows));
     const PlanTotals back = PlanReckoning(plan, conditions).totals();
     EXPECT_NEAR(back.distance->value(), there.distance->value(), 1e-9);
     EXPECT_LT(std::chrono::abs(*back.elapsed - *there.elapsed), Span(10));
+    EXPECT_EQ(plan.rows.front().leg, LegKind::Rhumb) << "no leg leads to it";
 }
 
 TEST(PlanHistory, undoesAndRedoesStepByStep)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmPositionRecord/frmPositionRecord.h"
 
+#include "app/reading/Format.h"
 #include "navlib/datetime.h"
 #include "shell/controls/NoticeLine.h"
 #include "shell/screen/ColourScheme.h"
@@ -139,6 +140,22 @@ TEST_F(frmPositionRecordTest, enterGoesThroughTheRowsAndTheFocusStaysInSight)
          {"txtSatelliteTD(0)", "txtLat(0)", "txtLong(0)", "txtSatelliteSMT(1)"}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         EXPECT_EQ(focused(), next);
+    }
+}
+
+TEST_F(frmPositionRecordTest, theShipIsToldOfCoursesAndSpeedsThatThereAre)
+{
+    auto& window = open<frmPositionRecord>();
+    typeFix(window, 0, "2004/05/01 12:00;9;35;142");
+    const struct {
+        const char *course, *speed, *told; ///< with every key; the last one that can be
+    } rows[] = {{"0", "0", "0 0"},     {"360", "100", "360 100"}, {"361", "100", "36 100"},
+                {"-1", "5", "36 100"}, {"90", "101", "90 10"},    {"90", "-1", "90 10"}};
+    for (const auto& [course, speed, told] : rows) {
+        type(window, "txtCourseSteered", course);
+        type(window, "txtSpeedSteered", speed);
+        const auto& motion = program().shipNow.motion().value();
+        EXPECT_EQ(Format(motion.course, "0") + " " + Format(motion.speed, "0"), told) << course;
     }
 }
 
