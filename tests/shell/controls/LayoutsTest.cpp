@@ -9,6 +9,7 @@
 #include "shell/layout/PlotLettering.h"
 #include "shell/layout/WrappingRow.h"
 #include "shell/screen/ColourScheme.h"
+#include "shell/screen/ZoomSizes.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
@@ -292,6 +293,53 @@ TEST(PlotLettering, standsClearOfWhatCrossesIt)
     const QRectF other = placed({middle - wide, middle + wide});
     EXPECT_FALSE(other.contains(middle));
     EXPECT_TRUE(QRectF(0, 0, 200, 200).contains(other));
+}
+
+TEST(ZoomSizes, everythingGrowsWithTheLettersAndComesBackToThePixel)
+{
+    QWidget window;
+    auto* grid = new QGridLayout(&window);
+    auto* line = new QHBoxLayout;
+    auto* gap = new QSpacerItem(31, 11, QSizePolicy::Fixed, QSizePolicy::Expanding);
+    line->addSpacerItem(gap);
+    grid->addLayout(line, 0, 0); // the first of its items
+    auto* box = new QWidget;
+    box->setMinimumSize(53, 23);
+    box->setMaximumWidth(211);
+    grid->addWidget(box, 1, 1);
+    for (int i = 0; i < 2; ++i) {
+        grid->setColumnMinimumWidth(i, 41 + 30 * i);
+        grid->setRowMinimumHeight(i, 29 + 40 * i);
+    }
+    const auto sizes = [&] {
+        return std::vector{
+            box->minimumWidth(),         box->minimumHeight(),        box->maximumWidth(),
+            grid->columnMinimumWidth(0), grid->columnMinimumWidth(1), grid->rowMinimumHeight(0),
+            grid->rowMinimumHeight(1),   gap->sizeHint().width(),     gap->sizeHint().height()};
+    };
+    const std::vector<int> normal = sizes();
+    ZoomSizes zoomed(100);
+    const double letters = window.font().pointSizeF();
+    const auto zoomTo = [&](int zoom) {
+        QFont font = window.font();
+        font.setPointSizeF(letters * zoom / 100);
+        window.setFont(font);
+        zoomed.follow(window, zoom);
+        return sizes();
+    };
+    for (const int zoom : {200, 130, 300}) {
+        const std::vector<int> grown = zoomTo(zoom);
+        for (std::size_t i = 0; i < normal.size(); ++i)
+            EXPECT_NEAR(grown[i], normal[i] * zoom / 100.0, 1 + normal[i] * zoom / 2500.0)
+                << i << " at " << zoom;
+        EXPECT_EQ(box->maximumHeight(), QWIDGETSIZE_MAX);
+        EXPECT_EQ(gap->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+        EXPECT_EQ(gap->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    }
+    EXPECT_EQ(zoomTo(100), normal);
+    zoomTo(200);
+    box->setMinimumWidth(160); // by somebody else, meanwhile
+    EXPECT_NEAR(zoomTo(100)[0], 80, 3);
 }
 
 } // namespace
