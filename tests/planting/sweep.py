@@ -48,16 +48,14 @@ class LeftOut:
 
 
 class Equivalent:
-    """Faults that no test could notice: "file: why", below it the line with «old => new»."""
+    """Faults that no test could notice: "file  line with «old => new»  why"."""
+
+    LINE = re.compile("(.*?)  (.*)«(.*) => (.*)»(.*?)  (.*)")
 
     def __init__(self, path):
-        self.why, head = {}, ""
+        self.why = {}
         for line in lines(path):
-            if not line.startswith(" "):
-                head = line
-                continue
-            file, why = head.split(": ", 1)
-            left, old, new, right = re.fullmatch("(.*)«(.*) => (.*)»(.*)", line.strip()).groups()
+            file, left, old, new, right, why = self.LINE.fullmatch(line).groups()
             self.why[file, left + old + right, left + new + right] = why
 
     def reason(self, fault):
