@@ -52,11 +52,11 @@ class Trials:
         self.tests = []
 
     def run(self, program, arguments, limit, **settings):
-        """(status or None when it hangs, output)"""
+        """(status or None when it hangs, output without the words of the platform in between)"""
         folder, own = self.programs[program]
         process = subprocess.Popen([program, *arguments], cwd=folder, text=True, errors="replace",
                                    env=dict(os.environ, **own, **settings), stdin=subprocess.DEVNULL,
-                                   stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
                                    start_new_session=True)
         try:
             output, _ = process.communicate(timeout=limit)

@@ -5,13 +5,16 @@
 #include "forms/frmGC2000/GCPicture.h"
 #include "navlib/angles.h"
 #include "shell/screen/ColourScheme.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <QImage>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <set>
 #include <string>
 
 // Where the lines, marks and texts of the chart stand.
@@ -96,6 +99,53 @@ TEST_F(GCPictureTest, linesMarksAndNumbersStandAtTheirPlaces)
         if (std::fabs(y - at(route.back()).y()) < 2 * line) continue; // the lines begin there
         EXPECT_LT(darkest({area.left() + 3, y}), 0.8 * darkest({area.left() + line, y}))
             << label.text;
+    }
+}
+
+/// Words and figures as they are painted, on the equator and below the equator too.
+TEST_F(GCPictureTest, figuresStandWhereTheyBelong)
+{
+    const std::array<const char*, 4> routes[] = {{"30", "125", "30", "-145"},
+                                                 {"-30", "125", "-30", "-145"},
+                                                 {"0", "-170", "0", "100"},
+                                                 {"50", "-10", "60", "100"}};
+    for (const auto& [lat1, long1, lat2, long2] : routes) {
+        SCOPED_TRACE(lat1);
+        imageOf(lat1, long1, lat2, long2);
+        PaintedTexts sheet(picture.size());
+        picture.render(&sheet);
+        const double line = picture.fontMetrics().height();
+        const QRectF area = picture.plotArea();
+        int numbers = 0;
+        std::set<std::string> words;
+        for (const PaintedText& each : sheet.texts()) {
+            const QPointF middle = each.at + QPointF(each.width, -0.7 * line) / 2;
+            const auto label = [&](const std::vector<ChartLabel>& labels) {
+                return std::ranges::find(labels, each.text.toStdString(), &ChartLabel::text);
+            };
+            const auto meridian = label(chart.meridianLabels),
+                       parallel = label(chart.parallelLabels);
+            if (each.at.x() < area.left() && parallel != chart.parallelLabels.end()) {
+                EXPECT_NEAR(middle.y(), picture.toPixel(0, parallel->at).y(), 0.3 * line);
+                EXPECT_LT(each.at.x() + each.width, area.left());
+            } else if (each.at.y() > area.bottom()) {
+                ASSERT_NE(meridian, chart.meridianLabels.end()) << each.text.toStdString();
+                EXPECT_NEAR(middle.x(), picture.toPixel(meridian->at, 0).x(), 2);
+            } else if (const auto number = each.text.toULong()) {
+                const QLineF off(at(chart.route.at(number)), middle);
+                EXPECT_NEAR(off.length(), 0.8 * line, 0.3 * line) << number;
+                const bool isNorth = off.dy() < 0; // outside the bend; on the equator above it
+                EXPECT_EQ(isNorth,
+                          *lat1 != '-' || !area.contains(middle + 2 * off.p2() - 2 * off.p1()))
+                    << number;
+                ++numbers;
+            } else {
+                words.insert(each.text.toStdString());
+            }
+        }
+        EXPECT_GT(numbers, 1);
+        EXPECT_EQ(words, (std::set<std::string>{"Arrival", "Departure", "Great circle",
+                                                "Rhumb line", "Waypoint"}));
     }
 }
 
