@@ -86,6 +86,9 @@ TEST_F(ActionsTest, aRefusedLatitudeIsNeverPairedWithAnOlderOne)
 
 TEST_F(ActionsTest, singleMemoAndRecall)
 {
+    questions.willAnswer(Answer::No);
+    actions.StoreInMemo(KORVEL2000Actions::Single, "3");
+    EXPECT_EQ(saved.singleMemo(), 0);
     questions.willAnswer(Answer::Yes);
     actions.StoreInMemo(KORVEL2000Actions::Single, "0.0004");
     EXPECT_EQ(questions.asked.back(), "SingleMemo:0.0");
@@ -96,12 +99,12 @@ TEST_F(ActionsTest, singleMemoAndRecall)
     questions.will("Yes; No");
     EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::SinM), Answer::Yes);
     EXPECT_EQ(actions.ConfirmMemoRecall(KORVEL2000Actions::PsnM), Answer::No);
-    EXPECT_EQ(questions.asked[1], "Following value is stored in SINGLE MEMO now.\r\r    12.50\r\r"
+    EXPECT_EQ(questions.asked[2], "Following value is stored in SINGLE MEMO now.\r\r    12.50\r\r"
                                   "Are you sure to input this value?");
-    EXPECT_EQ(questions.asked[2],
+    EXPECT_EQ(questions.asked[3],
               "Following values are stored in POSITION MEMO now.\r\r    Lat=   05.30'0S\r"
               "    Long= 139.45'2E\r\rAre you sure to input these value?");
-    EXPECT_EQ(questions.titles[2], "Brinemark");
+    EXPECT_EQ(questions.titles[3], "Brinemark");
     EXPECT_EQ(memoText(139.4523), "139.4523");
     EXPECT_EQ(memoText(-0.1 - 0.2), "-0.3") << "no digits that nobody measured";
 }

@@ -333,5 +333,14 @@ TEST(TideWaters, everyFigureOfAnEstimatedLevelIsMarked)
     EXPECT_EQ(paper.workings.back().tables.back().rows.back().back(), "~0.50 m");
 }
 
+TEST(TideWaters, whatMidnightBeginsAndEndsIsNotWhatTheLevelDecides)
+{
+    EXPECT_EQ(spansText({{Hours(0), Hours(24)}}, "~"), "~all day");
+    EXPECT_EQ(spansText({{Hours(0), Hours(5)}, {Hours(20), Hours(24)}}, "~"),
+              "00:00 to ~05:00, ~20:00 to 24:00");
+    EXPECT_EQ(spansText({{Hours(0), Hours(5)}}, ""), "00:00 to 05:00");
+    EXPECT_EQ(spansText({{Hours(5), Hours(24)}}, ""), "05:00 to 24:00");
+}
+
 } // namespace
 } // namespace korvel

@@ -324,10 +324,11 @@ TEST(TankList, recordComesBackAsItWas)
             << beyond;
     std::string many = "KORVEL2000 tank list 2\nlater=1\ncargo\n";
     for (int i = 0; i < 201; ++i)
-        many += "tank\nname=T\n";
+        many += "tank\nname=" + std::to_string(i) + "\n";
     const ReadTankRecord beyond = readTankRecord(many);
     EXPECT_EQ(beyond.damage, "line 404: more than 200 tanks");
     EXPECT_EQ(beyond.sheet.list(ListKind::Cargo).rows.size(), mostTanks);
+    EXPECT_EQ(beyond.sheet.list(ListKind::Cargo).rows.back().tank, "199");
 }
 
 ReadTanks readCsv(const std::string& text, const TankList& list = {},
