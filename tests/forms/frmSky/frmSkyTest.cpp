@@ -2,6 +2,7 @@
 #include "forms/frmSky/frmSky.h"
 
 #include "forms/frmSky/pages/SkyDisc.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
@@ -155,6 +156,31 @@ TEST_F(frmSkyTest, discShowsTheSkyNorthOrHeadUp)
         EXPECT_FALSE(isDrawn(0, 68.6 - up, colours.equator));
         EXPECT_TRUE(isDrawn(3, 75 - up, colours.secondary)) << "the ship's head";
         EXPECT_FALSE(isDrawn(3, 255 - up, colours.secondary));
+        PaintedTexts sheet(disc.size());
+        disc.render(&sheet);
+        const double line = disc.fontMetrics().height();
+        const QPointF zenith = disc.toPixel(0, 0);
+        const double horizon = disc.toPixel(1, 0).x() - zenith.x();
+        int words = 0, ticks = 0, longTicks = 0;
+        for (const PaintedText& each : sheet.texts()) {
+            const QPointF middle = each.at + QPointF(each.width, -0.7 * line) / 2;
+            const auto isNear = [&](double altitude, double bearing) {
+                return QLineF(placeOf(disc, altitude, bearing - up), middle).length();
+            };
+            const auto point = QString("NESW").indexOf(each.text);
+            const int bearing = point < 0 ? each.text.toInt() : 90 * static_cast<int>(point);
+            words += (bearing > 0 || point == 0) && isNear(-6.5, bearing) < 0.4 * line;
+            EXPECT_TRUE(each.text != "Mirfak" || isNear(28.16, 46.8) < 3 * line);
+        }
+        EXPECT_EQ(words, 12);
+        for (const QLineF& each : sheet.lines()) {
+            const double out = QLineF(zenith, each.p2()).length() - horizon;
+            const double deep = each.length() / horizon * 90;
+            ticks += std::abs(out) < 1 && std::abs(deep - 1.5) < 0.1;
+            longTicks += std::abs(out) < 1 && std::abs(deep - 3) < 0.1;
+        }
+        EXPECT_EQ(ticks, 24);
+        EXPECT_EQ(longTicks, 12);
     }
     // By midnight the Sun is too far below the horizon to light any of it.
     type(window, "txtSky(8)", "23:30");
