@@ -142,14 +142,13 @@ void frmPassage::findSunAndTide()
     const PlanFigures& figures = plan.figures(m_work.row());
     if (!position || !figures.eta) return;
     const Instant day = std::chrono::floor<std::chrono::days>(*figures.eta + figures.zone);
-    if (m_sun.at.lat != position->lat || m_sun.at.longitude != position->longitude ||
-        m_sun.day != day || m_sun.zone != figures.zone)
-        m_sun = {*position, day, figures.zone, sunOfDay(*position, *figures.eta, figures.zone)};
+    if (m_sun.at != *position || m_sun.day != day || m_sun.zone != figures.zone)
+        m_sun = {*position, day, figures.zone,
+                 sunOfDay(*position, day - figures.zone, figures.zone)};
     m_shown.sun = m_sun.events.riseAndSet;
     m_shown.twilight = m_sun.events.twilight;
     const Instant minute = nearestMinute(*figures.eta);
-    if (m_water.at.lat != position->lat || m_water.at.longitude != position->longitude ||
-        m_water.minute != minute)
+    if (m_water.at != *position || m_water.minute != minute)
         m_water = {*position, minute, m_tide.at(*position, minute)};
     m_shown.tide = m_water.text;
 }

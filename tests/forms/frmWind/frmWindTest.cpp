@@ -34,6 +34,8 @@ TEST_F(frmWindTest, whatIsSaidAtThePointerGoesWithIt)
     const QImage released = onScreen(picture);
     EXPECT_GT(picture.userScale().top, 1.5 * scale);
     EXPECT_NE(held, released);
+    picture.setPointerText({0, -5}, "12 kn");
+    EXPECT_NE(onScreen(picture), released);
     picture.setPointerText({}, {});
     EXPECT_EQ(onScreen(picture), released);
 }

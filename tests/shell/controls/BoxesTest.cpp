@@ -3,6 +3,7 @@
 #include "shell/controls/NoticeLine.h"
 #include "shell/controls/PictureBox.h"
 #include "shell/controls/PositionBox.h"
+#include "tests/shell/PaintedTexts.h"
 #include "tests/shell/ShellTesting.h"
 
 #include <gmock/gmock.h>
@@ -16,6 +17,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
+
+#include <tuple>
 
 namespace korvel
 {
@@ -204,6 +207,10 @@ TEST_F(BoxesTest, eachBoxThatWasReadInPartIsNamedOnce)
     EXPECT_FALSE(other.halfRead()) << "beyond its limits all of it is refused";
     foot.sayHalfRead(other, other.halfRead());
     EXPECT_EQ(foot.text().toStdString(), "Latitude: " + part);
+    foot.resize(900, foot.height());
+    korvel::testing::PaintedTexts sheet(foot.size());
+    foot.render(&sheet);
+    EXPECT_THAT(sheet.rows().at(0), ::testing::EndsWith(part + "  F4 writes it."));
 }
 
 /// A figure on a page that nobody sees written instead of the one that is complained of.
@@ -303,18 +310,45 @@ TEST(PositionBox, aPairIsPastedAndCopiedAsOne)
     EXPECT_EQ(latitude.fullEcho(), QString::fromUtf8("35°30.5' N"));
 }
 
+struct Picture : PictureBox {
+    void draw(QPainter&) override
+    {
+        onPaper = isOnPaper() ? plotArea() : QRectF();
+        drawnIn = colours().ink;
+    }
+    using PictureBox::lineHeight;
+    QRectF onPaper;
+    QColor drawnIn;
+};
+
+/// Results that are not there, and labels that are none, told of a picture.
+TEST(PictureBox, tellsTheResultsThatAreSeen)
+{
+    QWidget window;
+    auto* picture = new Picture;
+    picture->setParent(&window);
+    for (const auto& [name, text, isSeen] : {std::tuple("Speed", "12", true),
+                                             {"", "kn", true},
+                                             {"Course", "", true},
+                                             {"Drift", "3", false},
+                                             {"Set", "045", true}}) {
+        auto* label = new ResultLabel(&window);
+        label->setAccessibleName(name);
+        label->setText(text);
+        label->setVisible(isSeen);
+    }
+    window.show();
+    const auto* told = QAccessible::queryAccessibleInterface(picture);
+    EXPECT_EQ(told->text(QAccessible::Description), "Speed: 12; Set: 045");
+    picture->setAccessibleName("Speeds");
+    EXPECT_EQ(told->text(QAccessible::Name), "Speeds");
+    picture->setAccessibleDescription("A circle");
+    EXPECT_EQ(told->text(QAccessible::Description), "A circle");
+}
+
 TEST(PictureBox, countsInItsUserScale)
 {
-    struct Picture : PictureBox {
-        void draw(QPainter&) override
-        {
-            onPaper = isOnPaper() ? plotArea() : QRectF();
-            drawnIn = colours().ink;
-        }
-        using PictureBox::lineHeight;
-        QRectF onPaper;
-        QColor drawnIn;
-    } picture;
+    Picture picture;
     picture.resize(220, 130);
     picture.setPlotMargins({10, 20, 10, 10});
     picture.setUserScale({-50, 100, 50, 0});

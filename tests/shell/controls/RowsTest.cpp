@@ -260,6 +260,8 @@ TEST(TextTable, wordsStandApartFromTheFigureBeforeThem)
     EXPECT_EQ(table.model()->headerData(0, Qt::Horizontal), "No.");
     EXPECT_EQ(table.model()->headerData(1, Qt::Horizontal), "  Body");
     EXPECT_TRUE(table.horizontalHeader()->stretchLastSection());
+    EXPECT_GE(table.columnWidth(0), table.fontMetrics().horizontalAdvance("No."));
+    EXPECT_LT(table.columnWidth(0), table.columnWidth(1)) << "as wide as what stands in it";
     EXPECT_FALSE(table.chosenRow());
     table.chooseRow(1);
     EXPECT_EQ(table.chosenRow(), 1u);
