@@ -107,13 +107,15 @@ TEST(FigureMenu, theMouseMeansTheLineOfACellThatItIsOn)
     QTableView table;
     table.setModel(&model);
     table.setRowHeight(0, 60);
-    const auto figureAt = [&](int y) {
+    table.setCurrentIndex(model.index(0, 0));
+    const auto figureAt = [&](int y, QContextMenuEvent::Reason by = QContextMenuEvent::Mouse) {
         const QPoint at(5, y);
-        openCellMenu(table, {QContextMenuEvent::Mouse, at, table.viewport()->mapToGlobal(at)}, {});
+        openCellMenu(table, {by, at, table.viewport()->mapToGlobal(at)}, {});
         return table.findChildren<QMenu*>().last()->actions()[0]->text().toStdString();
     };
     EXPECT_THAT(figureAt(10), ::testing::EndsWith("upper"));
     EXPECT_THAT(figureAt(50), ::testing::EndsWith("lower"));
+    EXPECT_THAT(figureAt(50, QContextMenuEvent::Keyboard), ::testing::EndsWith("upper"));
     model.setData(model.index(0, 0), "36°00.0'N");
     model.setData(model.index(0, 0), "068°00.0'W", secondLineRole);
     EXPECT_THAT(figureAt(50), ::testing::EndsWith("36°00.0'N 068°00.0'W")) << "a position is one";

@@ -160,6 +160,17 @@ TEST(ChosenOption, optionsOfAGroupAreNotThoseBesideThem)
     EXPECT_EQ(stops(), "+-+-");
     QTest::keyClick(north, Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(north->isChecked());
+    // An option that a record or another box chooses takes the focus from nobody.
+    auto* box = new QLineEdit(&window);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    box->setFocus();
+    south->setChecked(true);
+    EXPECT_TRUE(box->hasFocus());
+    south->setFocus();
+    north->setChecked(true);
+    EXPECT_TRUE(north->hasFocus());
 }
 
 /// A chart that tells what it is asked for.

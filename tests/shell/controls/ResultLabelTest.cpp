@@ -199,6 +199,7 @@ TEST(ResultLabel, copiesInFullWhatItIsAndItsUnit)
     QApplication::sendEvent(&label, &asked);
     auto* menu = label.findChild<QMenu*>();
     ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->actions().size(), 3) << "nothing is selected";
     for (QAction* entry : menu->actions())
         if (entry->text() == "Copy in &full") entry->trigger();
     EXPECT_EQ(QApplication::clipboard()->text(),
