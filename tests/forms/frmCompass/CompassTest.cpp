@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/reading/Format.h"
 #include "forms/frmCompass/CalculateCompass.h"
+#include "forms/frmCompass/CompassTexts.h"
 
 #include "forms/frmCompass/CompassBody.h"
 #include "forms/frmCompass/CompassWorking.h"
@@ -71,6 +72,14 @@ TEST(Compass, errorsOfCompasses)
                      {"visible", result.byHorizon[1]},
                      {"notice", result.notice}});
     }
+}
+
+TEST(Compass, anErrorOfNothingHasNoSide)
+{
+    EXPECT_EQ(eastWestText(Degrees(-0.04)), "0.0");
+    EXPECT_EQ(gyroErrorText(Degrees(0.04)), "0.0");
+    EXPECT_EQ(gyroErrorText(Degrees(0.06)), "0.1 E (low)");
+    EXPECT_EQ(gyroErrorText(Degrees(-0.06)), "0.1 W (high)");
 }
 
 TEST(Compass, everyBoxHasItsRange)
