@@ -214,17 +214,15 @@ TEST(SkyDay, refusesWhatCannotBeUsedAndSaysSo)
 
 TEST(SkyDay, phasesHaveTheirNames)
 {
-    const auto nameAt = [](double elongation) {
-        return phaseName(NavFunc113::Degrees(elongation));
-    };
-    EXPECT_EQ(nameAt(0), "new Moon");
-    EXPECT_EQ(nameAt(356.5), "new Moon");
-    EXPECT_EQ(nameAt(355.5), "waning crescent");
-    EXPECT_EQ(nameAt(45), "waxing crescent");
-    EXPECT_EQ(nameAt(93.9), "first quarter");
-    EXPECT_EQ(nameAt(94.1), "waxing gibbous");
-    EXPECT_EQ(nameAt(180), "full Moon");
-    EXPECT_EQ(nameAt(270), "last quarter");
+    for (const auto& [elongation, name] : {std::pair(0.0, "new Moon"),
+                                           {356.5, "new Moon"},
+                                           {355.5, "waning crescent"},
+                                           {45.0, "waxing crescent"},
+                                           {93.9, "first quarter"},
+                                           {94.1, "waxing gibbous"},
+                                           {180.0, "full Moon"},
+                                           {270.0, "last quarter"}})
+        EXPECT_EQ(phaseName(NavFunc113::Degrees(elongation)), name) << elongation;
 }
 
 } // namespace

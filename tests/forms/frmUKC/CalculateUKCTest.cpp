@@ -53,15 +53,11 @@ UKCResult with(UKCInput input, std::initializer_list<std::pair<std::size_t, cons
 TEST(CalculateUKC, theColumnOfACompanysForm)
 {
     const UKCResult shown = CalculateUKC(companysForm(), {});
-    EXPECT_EQ(shown.squat, "0.88");
-    EXPECT_EQ(shown.list, "0.84");
-    EXPECT_EQ(shown.density, "0.20");
-    EXPECT_EQ(shown.heave, "0.50");
-    EXPECT_EQ(shown.dynamic, "13.42");
-    EXPECT_EQ(shown.uncertainty, "0.68");
-    EXPECT_EQ(shown.depth, "18.32");
-    EXPECT_EQ(shown.clearance, "4.90");
-    EXPECT_EQ(shown.over, "+3.40");
+    const std::string below[] = {shown.squat, shown.list, shown.density, shown.heave,
+                                 shown.dynamic};
+    EXPECT_THAT(below, ElementsAre("0.88", "0.84", "0.20", "0.50", "13.42"));
+    const std::string above[] = {shown.uncertainty, shown.depth, shown.clearance, shown.over};
+    EXPECT_THAT(above, ElementsAre("0.68", "18.32", "4.90", "+3.40"));
     EXPECT_EQ(shown.formula, "open water, at the bow");
     EXPECT_EQ(shown.others, "Cb V² / 50: 1.76 m");
     // 4.2774 m of squat are left: its root over 0.0088 is 22.05 knots.
