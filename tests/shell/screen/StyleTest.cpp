@@ -208,7 +208,7 @@ TEST(ScreenStyle, handlesHeadsAndFrames)
     };
     for (const auto handle : {QStyle::CE_Splitter, QStyle::CE_SizeGrip}) {
         EXPECT_EQ(control(handle).at(30, 19), QPalette::Dark);
-        EXPECT_EQ(control(handle).count(QColor(Qt::transparent)), 60 * 40 - 3 * 11) << handle;
+        EXPECT_EQ(control(handle).count(QColor(Qt::transparent)), 2367) << "all but 3 by 11";
     }
     EXPECT_EQ(control(QStyle::CE_HeaderSection).count(distinctColours().color(hairRole)), 60);
     EXPECT_EQ(control(QStyle::CE_HeaderSection).at(0, 39), hairRole);
