@@ -38,10 +38,11 @@ int openRecord() noexcept
 }
 
 /// Writes a line "Suite.test 17" when a test comes to a place for the first time; without a test
-/// what every program does before it runs one.
+/// what every program does before it runs one. While a test has the disk full the lines wait.
 void note(int record, int site)
 {
     static std::mutex mutex;
+    static std::string unwritten;
     static std::array<bool, mostSites> reached;
     static const testing::TestInfo* before = nullptr;
     const std::lock_guard lock(mutex);
@@ -51,8 +52,9 @@ void note(int record, int site)
     if (std::exchange(reached[static_cast<std::size_t>(site)], true)) return;
     const std::string name =
         test ? std::string(test->test_suite_name()) + "." + test->name() : std::string("-");
-    const std::string line = name + " " + std::to_string(site) + "\n";
-    if (write(record, line.data(), line.size()) < 0) std::abort();
+    unwritten += name + " " + std::to_string(site) + "\n";
+    const auto written = write(record, unwritten.data(), unwritten.size());
+    if (written > 0) unwritten.erase(0, static_cast<std::size_t>(written));
 }
 
 } // namespace

@@ -124,6 +124,7 @@ TEST_F(ScreenTest, everyWindowAtEveryZoom)
             onEveryPage(*each, [&] { expectOneDirection(*each); });
         }
     }
+    zoomTo(100); // the next test's program begins with the letters of this one
 }
 
 /// The captions that are nearest to a place, on its left in its line and above it.
