@@ -18,8 +18,6 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include <tuple>
-
 namespace korvel
 {
 namespace
