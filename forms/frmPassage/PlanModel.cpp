@@ -4,7 +4,6 @@
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
 #include "forms/frmPassage/PlanTable.h"
-#include "shell/machine/AsQString.h"
 
 namespace korvel
 {
@@ -43,7 +42,7 @@ std::string shortChange(const std::string& clockChange)
 } // namespace
 
 PlanModel::PlanModel(const PlanInHand& work, QObject* parent)
-    : QAbstractTableModel(parent), m_work(work)
+    : RowsModel(PlanTable::Columns, parent), m_work(work)
 {
     follow();
 }
@@ -51,27 +50,7 @@ PlanModel::PlanModel(const PlanInHand& work, QObject* parent)
 void PlanModel::follow()
 {
     m_texts.assign(m_work.plan().rows.size(), std::nullopt);
-    const int rows = static_cast<int>(m_work.shownRows());
-    if (rows > m_rows) {
-        beginInsertRows({}, m_rows, rows - 1);
-        m_rows = rows;
-        endInsertRows();
-    } else if (rows < m_rows) {
-        beginRemoveRows({}, rows, m_rows - 1);
-        m_rows = rows;
-        endRemoveRows();
-    }
-    emit dataChanged(index(0, 0), index(m_rows - 1, PlanTable::Columns - 1));
-}
-
-int PlanModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : m_rows;
-}
-
-int PlanModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : PlanTable::Columns;
+    followRows(m_work.shownRows());
 }
 
 bool PlanModel::isThere(std::size_t row) const
@@ -133,35 +112,24 @@ PlanModel::Lines PlanModel::linesOf(std::size_t row, int column) const
     }
 }
 
-QVariant PlanModel::data(const QModelIndex& index, int role) const
+std::string PlanModel::remarkOf(std::size_t row) const
 {
-    const auto row = static_cast<std::size_t>(index.row());
-    const int column = index.column();
-    if (role == RowsView::HasRemark || role == Qt::ToolTipRole) {
-        if (role == RowsView::HasRemark) return isThere(row) && m_work.reckoning().isDoubtful(row);
-        const std::string remark = isThere(row) ? textsOf(row).remark : std::string();
-        const Lines lines = linesOf(row, column);
-        if (column == PlanTable::Number) return asQString(remark);
-        return asQString(joined({lines.first, lines.second}));
-    }
-    if (role == Qt::DisplayRole) return asQString(linesOf(row, column).first);
-    if (role == RowsView::SecondLine) return asQString(linesOf(row, column).second);
-    if (role == Qt::AccessibleTextRole) {
-        const Lines lines = linesOf(row, column);
-        return asQString(joined({lines.first, lines.second}));
-    }
-    if (role != Qt::TextAlignmentRole) return {};
-    const bool isText = column == PlanTable::Waypoint || column == PlanTable::Leg;
-    return static_cast<int>(isText ? Qt::AlignLeft : Qt::AlignRight);
+    return isThere(row) ? textsOf(row).remark : "";
 }
 
-QVariant PlanModel::headerData(int section, Qt::Orientation orientation, int role) const
+bool PlanModel::isMarked(std::size_t row) const
 {
-    if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::DisplayRole) return QString(headings[static_cast<std::size_t>(section)]);
-    if (role == Qt::TextAlignmentRole)
-        return data(index(0, section), role).toInt() | int(Qt::AlignBottom);
-    return {};
+    return isThere(row) && m_work.reckoning().isDoubtful(row);
+}
+
+QString PlanModel::headOf(int column) const
+{
+    return headings[static_cast<std::size_t>(column)];
+}
+
+bool PlanModel::isOfWords(int column) const
+{
+    return column == PlanTable::Waypoint || column == PlanTable::Leg;
 }
 
 } // namespace korvel

@@ -2,8 +2,6 @@
 #include "forms/frmTanks/TankModel.h"
 
 #include "app/reading/Remarks.h"
-#include "shell/controls/RowsView.h"
-#include "shell/machine/AsQString.h"
 
 namespace korvel
 {
@@ -18,34 +16,14 @@ constexpr std::array headsOfSurvey{"sounding\ngrade", "TOV\nfree water", "temp.\
 } // namespace
 
 TankModel::TankModel(const SheetInHand& work, ListKind kind, QObject* parent)
-    : QAbstractTableModel(parent), m_work(work), m_kind(kind)
+    : RowsModel(Columns, parent), m_work(work), m_kind(kind)
 {
     follow();
 }
 
 void TankModel::follow()
 {
-    const int rows = static_cast<int>(m_work.shownRows(m_kind));
-    if (rows > m_rows) {
-        beginInsertRows({}, m_rows, rows - 1);
-        m_rows = rows;
-        endInsertRows();
-    } else if (rows < m_rows) {
-        beginRemoveRows({}, rows, m_rows - 1);
-        m_rows = rows;
-        endRemoveRows();
-    }
-    emit dataChanged(index(0, 0), index(m_rows - 1, Columns - 1));
-}
-
-int TankModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : m_rows;
-}
-
-int TankModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : Columns;
+    followRows(m_work.shownRows(m_kind));
 }
 
 std::optional<TankModel::Place> TankModel::placeOf(int column)
@@ -92,39 +70,23 @@ std::string TankModel::remarkOf(std::size_t row) const
                    reckoning.tank(row, TankSurvey::Last).remark});
 }
 
-QVariant TankModel::data(const QModelIndex& index, int role) const
+QString TankModel::headOf(int column) const
 {
-    const auto row = static_cast<std::size_t>(index.row());
-    const int column = index.column();
-    if (role == RowsView::HasRemark) return !remarkOf(row).empty();
-    if (role == Qt::ToolTipRole && column == Number) return asQString(remarkOf(row));
-    if (role == Qt::DisplayRole) return asQString(linesOf(row, column).first);
-    if (role == RowsView::SecondLine) return asQString(linesOf(row, column).second);
-    if (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole) {
-        const Lines lines = linesOf(row, column);
-        return asQString(joined({lines.first, lines.second}));
-    }
-    if (role != Qt::TextAlignmentRole) return {};
+    if (column == Number) return "No.";
+    if (column == Tank) return "Tank";
     const auto place = placeOf(column);
-    const bool isText = column == Tank || (place && place->column == 0);
-    return static_cast<int>(isText ? Qt::AlignLeft : Qt::AlignRight);
-}
-
-QVariant TankModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal) return {};
-    if (role == Qt::TextAlignmentRole)
-        return data(index(0, section), role).toInt() | int(Qt::AlignBottom);
-    if (role != Qt::DisplayRole) return {};
-    if (section == Number) return "No.";
-    if (section == Tank) return "Tank";
-    const auto place = placeOf(section);
     if (!place) return {};
     const QString head = headsOfSurvey[place->column];
     if (place->column > 0) return head;
     return QString(surveyHeads[static_cast<std::size_t>(m_kind)]
                               [static_cast<std::size_t>(place->survey)]) +
            ": " + head;
+}
+
+bool TankModel::isOfWords(int column) const
+{
+    const auto place = placeOf(column);
+    return column == Tank || (place && place->column == 0);
 }
 
 } // namespace korvel

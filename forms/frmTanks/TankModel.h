@@ -2,15 +2,13 @@
 #pragma once
 
 #include "forms/frmTanks/TankTexts.h"
-
-#include <QAbstractTableModel>
+#include "shell/controls/RowsModel.h"
 
 namespace korvel
 {
 
-/// What the table of a list shows: both surveys side by side. Texts are made for the rows that are
-/// asked for, which are those on the screen.
-class TankModel : public QAbstractTableModel
+/// What the table of a list shows: both surveys side by side.
+class TankModel : public RowsModel
 {
     Q_OBJECT
 
@@ -29,11 +27,6 @@ public:
     /// The list is another.
     void follow();
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
     /// The survey of a column, and which of its four it is; nothing for those of neither.
     struct Place {
         TankSurvey survey;
@@ -42,17 +35,15 @@ public:
     static std::optional<Place> placeOf(int column);
 
 private:
-    struct Lines {
-        std::string first, second;
-    };
-    /// A question may be on the screen, and the table painted behind it, before the model follows.
     bool isThere(std::size_t row) const;
-    Lines linesOf(std::size_t row, int column) const;
-    std::string remarkOf(std::size_t row) const;
+    Lines linesOf(std::size_t row, int column) const override;
+    std::string remarkOf(std::size_t row) const override;
+    bool isMarked(std::size_t row) const override { return !remarkOf(row).empty(); }
+    QString headOf(int column) const override;
+    bool isOfWords(int column) const override;
 
     const SheetInHand& m_work;
     ListKind m_kind;
-    int m_rows{};
 };
 
 } // namespace korvel

@@ -161,7 +161,8 @@ TEST_F(frmPassageTest, everyStepIsTakenBackAndDoneAgain)
 {
     auto& window = open<frmPassage>();
     const QAbstractItemModelTester tester(
-        static_cast<PlanTable&>(control(window, "tblPlan")).model());
+        static_cast<PlanTable&>(control(window, "tblPlan")).model(),
+        QAbstractItemModelTester::FailureReportingMode::Fatal);
     typeRows(window, {{"A", "0", "0"}, {"B", "1", "0"}, {"C", "2", "0"}});
     const auto names = [&] {
         std::string all;

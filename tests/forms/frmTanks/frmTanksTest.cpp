@@ -142,7 +142,8 @@ TEST_F(frmTanksTest, badInputIsAnsweredInTheLineAndMended)
     type(window, "txtTank(3)", "101");
     EXPECT_THAT(window.notice().toStdString(), HasSubstr("more water than volume"));
     auto& rows = *static_cast<RowsView&>(control(window, "tblTanks")).model();
-    const QAbstractItemModelTester tester(&rows);
+    const QAbstractItemModelTester tester(&rows,
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
     const QModelIndex number = rows.index(0, TankModel::Number);
     EXPECT_THAT(number.data(Qt::ToolTipRole).toString().toStdString(),
                 HasSubstr("more water than volume"));

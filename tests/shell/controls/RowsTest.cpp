@@ -243,10 +243,12 @@ TEST(TextTable, wordsStandApartFromTheFigureBeforeThem)
 {
     constexpr TextTable::Column columns[] = {{"No.", "00"}, {"Body", "Rigil Kent", false}};
     TextTable table(nullptr, "tblStars", "Bodies");
+    table.setFont(QFont("", 12)); // before it has any columns
     table.showRows(columns, 2, [](std::size_t row, std::size_t column) {
         return column == 0 ? QString::number(row) : QString("Vega");
     });
-    const QAbstractItemModelTester tester(table.model());
+    const QAbstractItemModelTester tester(table.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
     const auto told = [&](int column, int role) {
         return table.model()->index(1, column).data(role);
     };
@@ -261,6 +263,7 @@ TEST(TextTable, wordsStandApartFromTheFigureBeforeThem)
     EXPECT_EQ(table.model()->headerData(1, Qt::Horizontal), "  Body");
     EXPECT_TRUE(table.horizontalHeader()->stretchLastSection());
     EXPECT_GE(table.columnWidth(0), table.fontMetrics().horizontalAdvance("No."));
+    EXPECT_LT(table.columnWidth(0), table.fontMetrics().horizontalAdvance("No. No. No."));
     EXPECT_LT(table.columnWidth(0), table.columnWidth(1)) << "as wide as what stands in it";
     EXPECT_FALSE(table.chosenRow());
     table.chooseRow(1);
