@@ -56,7 +56,7 @@ Decimal roundedDecimal(double magnitude, int places)
     // One leading zero takes the carry of 9.99.
     int keep = point + places;
     if (keep < 0)
-        digits.assign(1, '0');
+        digits.clear();
     else {
         if (point < 0) digits.insert(0, static_cast<std::size_t>(-point), '0');
         digits.insert(0, 1, '0');

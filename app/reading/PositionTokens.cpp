@@ -121,7 +121,7 @@ class Lexer
 public:
     explicit Lexer(std::string_view text) : m_rest(text)
     {
-        m_anyLetter = std::any_of(text.begin(), text.end(), isLetter);
+        m_anyLetter = std::ranges::any_of(text, isLetter);
     }
 
     std::optional<std::vector<PositionToken>> run()
@@ -223,7 +223,6 @@ private:
         std::string run;
         while (run.size() < m_rest.size() && isLetter(m_rest[run.size()]))
             run += lower(m_rest[run.size()]);
-        if (run.size() > 20) return false;
         for (std::string_view left = run; !left.empty();) {
             const auto* word = std::find_if(std::begin(words), std::end(words), [&](const Sign& w) {
                 return left.starts_with(w.text);

@@ -183,10 +183,11 @@ Working fuelWorking(const NoonResult& noon)
         const std::string name = "Fuel " + std::to_string(i + 1);
         const auto& [before, onBoard, received] = *noon.tons[i];
         const double used = before + received - onBoard;
+        const bool tookOil = received > 0;
         working.step(name + ", tons",
-                     received > 0 ? "the day before and received, less on board"
-                                  : "the day before less on board",
-                     figure(before, 3) + (received > 0 ? " + " + figure(received, 3) : "") + " - " +
+                     std::string("the day before ") + (tookOil ? "and received, " : "") +
+                         "less on board",
+                     figure(before, 3) + (tookOil ? " + " + figure(received, 3) : "") + " - " +
                          figure(onBoard, 3),
                      figure(used, 3), "t");
         if (noon.day && noon.day->run && noon.day->run->miles > Miles(0))

@@ -76,16 +76,18 @@ PaperTable courses(const PositionRecordResult& result)
 
 PaperTable distances(const PositionRecordResult& result, Earth earth)
 {
-    PaperTable table{"Distances: D = |60 Δφ / cos C|, Δφ = φ2 - φ1; along a parallel D = 60 |Δλ| "
-                     "cos φ1",
-                     {"Rows", "Δφ °", "D miles", "Shown"},
-                     {}};
     const bool isSpheroid = earth == Earth::Spheroid;
-    if (isSpheroid) {
-        table.title = "Distances: D = |60 Δφ / cos C|, Δφ = (φ2 - φ1) m, m that of |φ1 + φ2| / "
-                      "2.05; along a parallel D = 60 |Δλ| cos φ1 p, p that of φ1 as it is written";
-        table.headings = {"Rows", "Latitude for m °", "m", "p", "Δφ °", "D miles", "Shown"};
-    }
+    PaperTable table =
+        isSpheroid
+            ? PaperTable{"Distances: D = |60 Δφ / cos C|, Δφ = (φ2 - φ1) m, m that of |φ1 + φ2| / "
+                         "2.05; along a parallel D = 60 |Δλ| cos φ1 p, p that of φ1 as it is "
+                         "written",
+                         {"Rows", "Latitude for m °", "m", "p", "Δφ °", "D miles", "Shown"},
+                         {}}
+            : PaperTable{"Distances: D = |60 Δφ / cos C|, Δφ = φ2 - φ1; along a parallel D = 60 "
+                         "|Δλ| cos φ1",
+                         {"Rows", "Δφ °", "D miles", "Shown"},
+                         {}};
     addLegs(table, result, [&](const RecordLeg& leg, const PositionRowResult& shown) {
         const NavFunc113::RhumbSteps& steps = leg.sailed.steps;
         std::vector<std::string> cells;

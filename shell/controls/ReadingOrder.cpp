@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QMainWindow>
 #include <QScrollArea>
-#include <QSplitter>
 
 #include <algorithm>
 
@@ -55,11 +54,6 @@ void readWidget(QWidget& widget, std::vector<QWidget*>& order)
         auto* withHeading = qobject_cast<FollowingScrollArea*>(area);
         if (withHeading && withHeading->heading()) readWidget(*withHeading->heading(), order);
         if (area->widget()) readWidget(*area->widget(), order);
-        return;
-    }
-    if (auto* splitter = qobject_cast<QSplitter*>(&widget)) {
-        for (int i = 0; i < splitter->count(); ++i)
-            readWidget(*splitter->widget(i), order);
         return;
     }
     if (widget.layout()) return readLayout(*widget.layout(), order);

@@ -2,7 +2,6 @@
 #include "shell/manual/HelpWindow.h"
 
 #include "shell/controls/Boxes.h"
-#include "shell/controls/ReadingOrder.h"
 #include "shell/manual/FoundLines.h"
 #include "shell/manual/Manual.h"
 #include "shell/screen/WindowPlaces.h"
@@ -112,7 +111,6 @@ void HelpWindow::addKeys()
     });
     key(Qt::Key_F3, [this] { findInPage(false); });
     key(QKeySequence("Shift+F3"), [this] { findInPage(true); });
-    setTabOrderByReading(*this);
 }
 
 void HelpWindow::openAt(const QStringList& pages, const QString& name)

@@ -10,19 +10,14 @@
 
 namespace korvel
 {
-namespace
-{
 
-/// "libicuuc.so.72.1" is "icuuc 72.1". Empty for what bears no version, as plugins.
-[[maybe_unused]] QString nameAndVersion(const QString& file)
+QString nameAndVersion(const QString& file)
 {
     static const QRegularExpression pattern("^lib(.+?)(?:-([\\d.]+))?\\.so(?:\\.([\\d.]+))?$");
     const auto match = pattern.match(file);
     const QString version = match.captured(3).isEmpty() ? match.captured(2) : match.captured(3);
     return version.isEmpty() ? QString() : match.captured(1) + ' ' + version;
 }
-
-} // namespace
 
 QStringList librariesInUse()
 {

@@ -78,7 +78,7 @@ StarsPage::StarsPage(QWidget* parent, const FieldBoxes& boxes)
     connect(m_optUp, &QButtonGroup::idToggled, this,
             [this] { m_disc->setHeadUp(m_optUp->chosen() == 1); });
     connect(m_cmdSend, &QPushButton::clicked, this, &StarsPage::sendAsked);
-    connect(m_disc, &SkyDisc::picked, this, &StarsPage::pick);
+    connect(m_disc, &SkyDisc::picked, m_table, &TextTable::chooseRow);
     m_table->showRows(starColumns, 0, {});
     m_table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or it would come with the stars
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -145,12 +145,6 @@ void StarsPage::show(const SkyStars& stars, NavFunc113::Degrees course)
         return cellOf(m_rows.at(row), column);
     });
     m_cmdSend->setEnabled(stars.roundSize() > 0);
-}
-
-/// The disc follows the table.
-void StarsPage::pick(std::size_t index)
-{
-    if (index < m_rows.size()) m_table->chooseRow(index);
 }
 
 void StarsPage::setColours(const ColourScheme& colours)

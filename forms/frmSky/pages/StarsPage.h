@@ -38,7 +38,6 @@ signals:
 private:
     QLayout* layOutQuestion();
     QLayout* layOutFigures();
-    void pick(std::size_t index);
 
     FieldBoxes m_boxes;
     ResultLabels<SkyStars> m_labels;

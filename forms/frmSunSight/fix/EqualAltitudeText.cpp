@@ -136,7 +136,6 @@ std::string textOfMean(const std::vector<EqualAltitudePair>& pairs)
 
 void findEqualAltitudes(const ErrorModel& errors, SightFixResult& result)
 {
-    result.equalPairs.clear();
     for (const SightPair& pair : pairsOf(result))
         if (const auto each = worked(pair, errors, result.motion))
             result.equalPairs.push_back(*each);

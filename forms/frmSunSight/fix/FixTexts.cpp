@@ -5,6 +5,7 @@
 #include "app/records/KORVEL2000Actions.h"
 #include "forms/frmSunSight/sight/SightLine.h"
 #include "navlib/angles.h"
+#include "navlib/datetime.h"
 
 #include <algorithm>
 #include <cmath>
@@ -83,9 +84,9 @@ void describeFix(const Fix& fix, SightFixResult& result)
     result.memoLatitude = memoText(latitude);
     result.memoLongitude = memoText(longitude);
     const auto earliest = std::ranges::min_element(result.lines, {}, &FixLine::UTC);
-    // Twenty minutes: below that nobody calls it a running fix.
+    // Twenty minutes: up to that nobody calls it a running fix.
     const double elapsed = *result.UTC - earliest->UTC;
-    const std::string kind = elapsed > 20.0 / 1440 ? "R FIX " : "FIX ";
+    const std::string kind = NavFunc113::NearestSecond(elapsed) > 20.0 / 1440 ? "R FIX " : "FIX ";
     result.time = kind + Format(*result.UTC, "yyyy/mm/dd hh:mm:ss") + " UTC, run " +
                   Format(elapsed, "d-hh:mm:ss");
     result.fix = FixPoint{fix.position, std::nullopt, kind + Format(*result.UTC, "hhmm")};

@@ -125,7 +125,6 @@ std::string FixPanel::showFix(const SightFixResult& fix)
     m_fix = fix;
     const SightPlot plot = DrawLOP(fix, m_view);
     m_lblSunFix.show(fix);
-    tellSentencesInTips(m_lblSunFix.all());
     const auto isSaid = [](const ResultLabel* sentence) { return !sentence->text().isEmpty(); };
     m_sentences->setVerticalScrollBarPolicy(std::ranges::any_of(m_lblSunFix.all(), isSaid)
                                                 ? Qt::ScrollBarAsNeeded

@@ -117,7 +117,6 @@ void LinePanel::showResults(const LOPResult& line, const MeridianResult& noon)
     m_passage->setText(noon.caption.empty() ? noonResults[NoonShown::passage].caption
                                             : asQString(noon.caption));
     m_lblSunNoon.show(noon);
-    tellSentencesInTips(m_lblSunNoon.all());
 }
 
 void LinePanel::showWorksheet(const std::vector<WorksheetLine>& lines)

@@ -10,15 +10,8 @@ void makeSentence(ResultLabel* label, int lines)
 {
     label->setFont(QFont());
     label->setRoom({}, lines);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    label->setEliding();
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    if (lines == 1) label->setEliding();
-}
-
-void tellSentencesInTips(const std::vector<ResultLabel*>& labels)
-{
-    for (ResultLabel* label : labels)
-        if (label->wordWrap()) label->setToolTip(label->text());
 }
 
 QPushButton* makeButton(const QString& name, const QString& caption, const QString& tip,

@@ -15,11 +15,8 @@ namespace korvel
 {
 
 /// Sentences, not figures, are read in the size of captions. Their room is fixed, so that nothing
-/// moves while the officer types.
+/// moves while the officer types; what it has no room for is in the tool tip.
 void makeSentence(ResultLabel* label, int lines);
-
-/// What a sentence of several lines has no room for is in its tool tip.
-void tellSentencesInTips(const std::vector<ResultLabel*>& labels);
 
 /// A button that Enter in a box does not press.
 QPushButton* makeButton(const QString& name, const QString& caption, const QString& tip,

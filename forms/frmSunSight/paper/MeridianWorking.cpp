@@ -93,7 +93,6 @@ void addLatitude(Working& working, const MeridianResult& noon)
 std::optional<Working> meridianWorking(const MeridianResult& noon)
 {
     if (!noon.caption.empty()) return bodyMeridianWorking(noon);
-    if (!noon.figures.noon && noon.note.empty()) return std::nullopt;
     Working working{
         "Meridian passage",
         {"Passage of the Sun over the meridian of the moving ship; a sight near it is reduced by "
@@ -109,6 +108,7 @@ std::optional<Working> meridianWorking(const MeridianResult& noon)
             noon.exMeridian);
     if (!noon.note.empty())
         working.resultStep("The sight and the meridian", "t / 15° an hour", noon.note);
+    if (working.steps.empty()) return std::nullopt;
     return working;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/paper/SightPaper.h"
 
+#include "app/reading/Ascii.h"
 #include "app/reading/Format.h"
 #include "app/reading/PositionText.h"
 #include "app/reading/Remarks.h"
@@ -24,11 +25,9 @@ std::string datesInFull(std::string text)
 {
     constexpr std::string_view shape = "0000/00/00";
     for (std::size_t at = 0; at + shape.size() <= text.size(); ++at) {
-        const bool isDate =
-            std::equal(shape.begin(), shape.end(), text.begin() + std::ptrdiff_t(at),
-                       [](char wanted, char each) {
-                           return wanted == '0' ? each >= '0' && each <= '9' : each == wanted;
-                       });
+        const bool isDate = std::equal(
+            shape.begin(), shape.end(), text.begin() + std::ptrdiff_t(at),
+            [](char wanted, char each) { return wanted == '0' ? isDigit(each) : each == wanted; });
         if (isDate) text[at + 4] = text[at + 7] = '-';
     }
     return text;

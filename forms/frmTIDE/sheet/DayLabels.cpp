@@ -26,12 +26,12 @@ QFont smallLetters()
 class WordPen
 {
 public:
-    explicit WordPen(const ResultLabel& label) : m_painter(const_cast<ResultLabel*>(&label))
+    explicit WordPen(const ResultLabel& label)
+        : m_painter(const_cast<ResultLabel*>(&label)), m_isSelected(label.hasSelectedText()),
+          m_reversed(label.palette().color(QPalette::HighlightedText))
     {
-        const QPalette& colours = label.palette();
-        m_isSelected = label.hasSelectedText();
-        if (m_isSelected) m_painter.fillRect(label.rect(), colours.color(QPalette::Highlight));
-        m_reversed = colours.color(QPalette::HighlightedText);
+        if (m_isSelected)
+            m_painter.fillRect(label.rect(), label.palette().color(QPalette::Highlight));
     }
     /// @param at on the line that the letters stand on
     /// @return where the next word begins
