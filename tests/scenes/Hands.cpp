@@ -52,6 +52,11 @@ void type(Stage& stage, const Words& words)
         pressKeysOf(keys);
         return;
     }
+    if (words[2].text.starts_with("txt")) { // the next box
+        pressKeysOf(keys);
+        type(stage, {words.begin() + 2, words.end()});
+        return;
+    }
     // A control that is watched, and its text after each key.
     QWidget& watched = stage.control(wordAt(words, 2));
     std::size_t place = 3;

@@ -3,6 +3,8 @@
 
 #include <charconv>
 #include <cmath>
+#include <iterator>
+#include <set>
 #include <stdexcept>
 
 namespace korvel::testing
@@ -86,7 +88,16 @@ void play(Stage& stage, const std::string& verb, const Words& words)
     for (const auto* verbs : {&handVerbs(), &machineVerbs(), &eyeVerbs()}) {
         const auto found = verbs->find(verb);
         if (found == verbs->end()) continue;
-        found->second(stage, words);
+        // Of some steps a line holds several: a name behind a text begins the next.
+        static const std::set<std::string> lists = {"accessible", "caption", "described",
+                                                    "memory",     "tooltip", "value"};
+        auto begin = words.begin();
+        for (auto at = begin; at != words.end(); ++at)
+            if (lists.contains(verb) && at != begin && !at->quoted && std::prev(at)->quoted) {
+                found->second(stage, {begin, at});
+                begin = at;
+            }
+        found->second(stage, {begin, words.end()});
         return;
     }
     throw std::runtime_error("no such step: " + verb);
