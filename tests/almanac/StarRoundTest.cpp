@@ -45,6 +45,7 @@ TEST(StarRound, errorIsThatOfTheGeometry)
     EXPECT_NEAR(errorOfRound(bodiesAt({0, 72, 144, 216, 288})), 4.0 / 5, 1e-9);
     // Three within a quarter of the horizon leave the common error in the fix.
     EXPECT_GT(errorOfRound(bodiesAt({0, 45, 90})), 10);
+    EXPECT_NEAR(errorOfRound(bodiesAt({0, 45, 90})), errorOfRound(bodiesAt({20, 65, 110})), 1e-9);
     EXPECT_TRUE(std::isinf(errorOfRound(bodiesAt({77, 77, 77}))));
     EXPECT_TRUE(std::isinf(errorOfRound(bodiesAt({0, 90}))));
     EXPECT_TRUE(std::isinf(errorOfRound({})));

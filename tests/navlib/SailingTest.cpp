@@ -90,6 +90,8 @@ TEST(GreatCircleArc, itsPointsAndCoursesAreThoseOfTheTrack)
     ASSERT_TRUE(touching);
     EXPECT_NEAR((*touching)[0].value(), 90, 1e-5);
     EXPECT_NEAR((*touching)[1].value(), 90, 1e-5);
+    EXPECT_FALSE(
+        GreatCircleArc({DegMin(40), DegMin(0)}, {DegMin(40), DegMin(5)}).runsAt(DegMin(50)));
     const GeoPoint equator{DegMin(0), DegMin(0)};
     const auto vertexAtPole = GreatCircleArc(equator, {DegMin(90), DegMin(0)}).runsAt(DegMin(90));
     ASSERT_TRUE(vertexAtPole);

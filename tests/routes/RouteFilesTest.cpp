@@ -300,6 +300,7 @@ TEST(RouteFiles, whatWasNotUnderstoodGoesBackIntoTheFile)
                                  "name=\"second\"",
                                  "name=\"points\"",
                                  "name=\"arrival\"",
+                                 "name=\"planned\"",
                                  "name=\"reckoned\"",
                                  "name=\"route\"",
                                  "kept <yard:b>whole</yard:b>",

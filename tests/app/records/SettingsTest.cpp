@@ -35,7 +35,10 @@ TEST(SettingsRecord, writesEachKindOfValue)
                 {-0.0, "0"},
                 {std::numeric_limits<double>::infinity(), "0"},
                 {std::string("a,\"港\"\r\nc\td"), "\"a,'港'  c d\""},
-                {std::string("a\0b\x1B\x7F\xC2\x85°", 9), "\"ab°\""}};
+                {std::string("\xC2\x85"
+                             "a\0b\x1B\x7F°",
+                             9),
+                 "\"ab°\""}};
     for (const auto& row : rows)
         EXPECT_EQ(writeRecord(Record{row.value}), row.text + std::string("\r\n"));
 }

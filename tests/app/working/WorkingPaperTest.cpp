@@ -53,6 +53,8 @@ TEST(Journal, wordsAreFoundAPieceAtATime)
     while (none.goOn()) {
     }
     EXPECT_THAT(none.found(), ElementsAre());
+    FakeFiles empty;
+    EXPECT_FALSE(JournalSearch(empty, "Osaka").goOn());
 }
 
 constexpr NavFunc113::DateTime marchDay = 38425.40625; // 2005-03-14 09:45

@@ -70,8 +70,8 @@ TEST_F(GCPictureTest, linesAndMarksStandAtTheirPlaces)
 /// Words and figures as they are painted, on the equator and below the equator too.
 TEST_F(GCPictureTest, figuresStandWhereTheyBelong)
 {
-    const std::array<const char*, 4> routes[] = {{"30", "125", "30", "-145"},
-                                                 {"-30", "125", "-30", "-145"},
+    const std::array<const char*, 4> routes[] = {{"30", "124.54", "30", "-145"},
+                                                 {"-30", "-145", "-30", "125"},
                                                  {"0", "-170", "0", "100"},
                                                  {"50", "-10", "60", "100"}};
     for (const auto& [lat1, long1, lat2, long2] : routes) {
@@ -99,6 +99,8 @@ TEST_F(GCPictureTest, figuresStandWhereTheyBelong)
             } else if (const auto number = each.text.toULong()) {
                 const QLineF off(at(chart.route.at(number)), middle);
                 EXPECT_NEAR(off.length(), 0.8 * line, 0.3 * line) << number;
+                for (const ChartPoint& end : {chart.route.front(), chart.route.back()})
+                    EXPECT_GE(QLineF(at(end), off.p1()).length(), line) << number;
                 const bool isNorth = off.dy() < 0; // outside the bend; on the equator above it
                 EXPECT_EQ(isNorth,
                           *lat1 != '-' || !area.contains(middle + 2 * off.p2() - 2 * off.p1()))
@@ -124,6 +126,11 @@ TEST_F(GCPictureTest, figuresStandWhereTheyBelong)
         EXPECT_EQ(words, (std::set<std::string>{"Arrival", "Departure", "Great circle",
                                                 "Rhumb line", "Waypoint"}));
     }
+    picture.resize(picture.minimumSizeHint()); // the legend in two lines
+    PaintedTexts narrow(picture.size());
+    picture.render(&narrow);
+    for (const PaintedText& each : narrow.texts())
+        EXPECT_LE(each.at.x() + each.width, picture.width()) << each.text.toStdString();
 }
 
 } // namespace

@@ -263,14 +263,19 @@ TEST(CalculateNoon, thePaperHasTheFiguresOfEveryStep)
     NoonInput inPort;
     inPort.boxes.before[1] = "500";
     inPort.boxes.onBoard[1] = "470";
-    EXPECT_THAT(testing::linesOf(noonWorkings(inPort, CalculateNoon(inPort)).back()),
+    inPort.bunkers.fuels[2] = {"ULSFO", 60, 25, 80};
+    const Working fuel = noonWorkings(inPort, CalculateNoon(inPort)).back();
+    EXPECT_THAT(testing::linesOf(fuel),
                 ElementsAre("Fuel 2, tons: 500.000 - 470.000 = 30.000 t",
-                            "Consumption of fuel 2: both, rounded = 30.0 t"));
+                            "Consumption of fuel 2: both, rounded = 30.0 t",
+                            "Fuel 3, tons: 60.000 + 25.000 - 80.000 = 5.000 t",
+                            "Consumption of fuel 3: both, rounded = 5.0 t"));
+    EXPECT_EQ(fuel.steps[2].formula, "the day before and received, less on board");
     NoonInput atAnchor = inPort;
     atAnchor.record.rows[0] = {"2026/11/10 12:00", "9", "0", "140"};
     atAnchor.record.rows[1] = {"2026/11/11 12:00", "9", "0", "140"};
     EXPECT_EQ(CalculateNoon(atAnchor).fuel[1], "30.0 t");
-    EXPECT_EQ(noonWorkings(atAnchor, CalculateNoon(atAnchor)).back().steps.size(), 2U);
+    EXPECT_EQ(noonWorkings(atAnchor, CalculateNoon(atAnchor)).back().steps.size(), 4U);
 }
 
 TEST(CalculateNoon, weatherLettersAreTheLongestThatTheLogHas)
@@ -307,6 +312,7 @@ TEST(CalculateNoon, theMailHasTheFieldsInTheOfficersOrder)
     const auto fuel = std::ranges::find(workings, "Fuel", &Working::title);
     ASSERT_NE(fuel, workings.end());
     EXPECT_EQ(fuel->steps[0].name, "Fuel 1, tons");
+    EXPECT_EQ(fuel->steps[0].formula, "the day before less on board");
     EXPECT_EQ(fuel->steps[0].figures, "500.000 - 470.000");
     EXPECT_THAT(CalculateNoon({}).notice, HasSubstr("no two fixes"));
     EXPECT_EQ(CalculateNoon({}).mail, "");

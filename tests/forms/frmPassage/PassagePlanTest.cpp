@@ -403,6 +403,10 @@ TEST(PlanSun, saysWhatTheSunDoesNotDo)
     for (int day = 10; day < 25; ++day)
         withoutSet += of("2026-05-" + std::to_string(day)).riseAndSet.find(", does not") == 11;
     EXPECT_EQ(withoutSet, 1);
+    int dusks = 0;
+    for (int day = 20; day < 30; ++day)
+        dusks += of("2026-04-" + std::to_string(day)).twilight.find(" to -") != std::string::npos;
+    EXPECT_EQ(dusks, 1) << "the first night without";
 }
 
 /// At the ends of the calendar a local time has no text that could be cut at its hours.

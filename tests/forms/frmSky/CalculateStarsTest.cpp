@@ -49,6 +49,10 @@ TEST(SkyStars, areThoseOfTheMiddleOfTheTwilight)
         // What is preset is higher by dip (7.9') and refraction.
         EXPECT_GT((each.sextant - each.seen.altitude).value(), 7.8 / 60);
         if (!each.isInRound) continue;
+        const double h = each.sextant.value() - 7.87 / 60;
+        EXPECT_NEAR((each.sextant - each.seen.altitude).value() * 60,
+                    7.87 + 1 / tan(NavFunc113::Degrees(h + 7.31 / (h + 4.4))),
+                    0.1); // Bennett's refraction
         EXPECT_GE(each.seen.altitude.value(), 15);
         EXPECT_LE(each.seen.altitude.value(), 65);
     }

@@ -6,6 +6,7 @@
 #include "tests/shell/Pixels.h"
 #include "tests/shell/ShellTesting.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QHelpEvent>
@@ -253,10 +254,11 @@ TEST_F(frmSkyTest, recordBringsBoxesAndChoicesBack)
     EXPECT_EQ(roundOf(window), 7);
     close(window);
     // A damaged one is named, and what can be read of it is taken.
-    writeFile("KV_Sky.ini", "KORVEL2000 twilight and stars 1\nnonsense\ntxtSky(1)=35\nround=99\n");
+    writeFile("KV_Sky.ini", "KORVEL2000 twilight and stars 1\nnonsense\ntxtSky(1)=35\nup=99\n");
     questions.willAnswer(Answer::Ok);
     auto& again = open<frmSky>();
     EXPECT_EQ(text(again, "txtSky(1)"), "35");
+    EXPECT_TRUE(static_cast<QAbstractButton&>(control(again, "optUp(0)")).isChecked());
 }
 
 TEST_F(frmSkyTest, unknownBodyAndAlmanac)

@@ -320,6 +320,7 @@ TEST(BodySight, aBodyThatCanHardlyBeItIsDoubted)
          {Case{"Capella", "12:20:26", "50.060", "", ""},
           Case{"Sirius", "12:20:26", "50.060", "Sirius should stand", "Capella"},
           Case{"Vega", "12:20:26", "50.060", "Vega is below the horizon", "Capella"},
+          Case{"Moon", "12:20:26", "50.060", "The Moon ", "Capella"},
           Case{"Capella", "09:00:00", "50.060", "Capella by day", ""},
           Case{"Capella", "12:20:26", "", "", ""}}) {
         const BodyDoubt doubt =
@@ -339,6 +340,13 @@ TEST(BodySight, aBodyThatCanHardlyBeItIsDoubted)
     EXPECT_THAT(testing::linesOf(bodyAltitudeWorking(sirius)),
                 ::testing::IsSupersetOf({HasSubstr("Air - sea: 0.2 × (10.0 - 10.0) = "),
                                          HasSubstr("Air temperature: 0.8")})); // cot 50.2°
+    EXPECT_THAT(testing::linesOf(bodyAltitudeWorking(sirius)),
+                Not(::testing::Contains(HasSubstr("Semi-diameter"))));
+    EXPECT_EQ(bodyPlaceWorking(sirius).steps[5].formula, "δ");
+    const LOPResult venus = CalculateLOP(
+        bodySight("Venus", "1978/2/28", "12:20:26", "50.060", "0", "23"), track1978, {});
+    EXPECT_EQ(bodyPlaceWorking(venus).steps[4].formula, "δ, of her centre of light");
+    EXPECT_EQ((BodyDoubt{"Vega by day", ""}).remark(), "Vega by day");
     const auto noticeOf = [](const char* body) {
         return CalculateLOP(bodySight(body, "1978/2/28", "12:20:26", "50.060", "0", "23"),
                             track1978, {})

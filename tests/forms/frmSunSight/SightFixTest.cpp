@@ -2,6 +2,7 @@
 #include "forms/frmSunSight/fix/SightFix.h"
 
 #include "app/reading/Reading.h"
+#include "forms/frmSunSight/paper/SightWorking.h"
 #include "forms/frmSunSight/sight/CalculateLOP.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 
@@ -110,6 +111,10 @@ TEST(CalculateFix, aSightThatDoesNotFitIsNamed)
     EXPECT_FALSE(bad.fix->ellipse);
     EXPECT_THAT(bad.ellipseText, HasSubstr("No ellipse"));
     EXPECT_THAT(bad.lines[1].text, ::testing::EndsWith("does not fit: -12.0 nm"));
+    const PaperTable residuals = fixWorking(bad).tables.back();
+    for (std::size_t i = 0; i < residuals.rows.size(); ++i)
+        EXPECT_EQ(residuals.rows[i].back(), i == 1 ? "does not fit" : "") << i;
+    EXPECT_NEAR(std::stod(residuals.rows[1][5]), -12, 0.1) << "its own misfit";
     EXPECT_THAT(bad.lines[1].text, Not(HasSubstr("residual"))) << "there is room for one";
     EXPECT_THAT(bad.lines[0].text, HasSubstr("residual"));
     EXPECT_EQ(bad.level, NoticeLevel::Remark);
@@ -221,8 +226,8 @@ TEST(CalculateFix, isCalledARunningFixAfterTwentyMinutes)
 {
     const NavFunc113::Position place{NavFunc113::Degrees(14), NavFunc113::Degrees(-52)};
     for (const auto& [time, kind] :
-         {std::pair("15:19:30", "FIX 2020/12/17 15:19:30 UTC, run 0-00:19:30"),
-          {"15:20:30", "R FIX 2020/12/17 15:20:30 UTC, run 0-00:20:30"}}) {
+         {std::pair("15:20:00", "FIX 2020/12/17 15:20:00 UTC, run 0-00:20:00"),
+          {"15:20:01", "R FIX 2020/12/17 15:20:01 UTC, run 0-00:20:01"}}) {
         const SightFixResult fix = fixOf(listOf({seenFrom(place, "2020/12/17", "15:00:00"),
                                                  seenFrom(place, "2020/12/17", time)}),
                                          atAnchor);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "forms/frmSunSight/frmSunSight.h"
 
+#include "forms/frmSunSight/panels/SeriesPicture.h"
 #include "forms/frmSunSight/panels/SightPicture.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/shell/PaintedTexts.h"
@@ -228,6 +229,27 @@ TEST_F(frmSunSightTest, fitsASmallScreenWithPlotAndEightSights)
     EXPECT_GE(control(window, "picSunSight").height(), 340);
     EXPECT_GE(control(window, "picSunSight").width(), 400);
     EXPECT_LE(sights.sizeHintForColumn(0), sights.viewport()->width()) << "residuals cut off";
+}
+
+TEST(SeriesPicture, itsScalesEndAtRoundFigures)
+{
+    SeriesPicture picture;
+    picture.resize(400, 300);
+    for (const auto& [minutes, residual, marks] :
+         {std::tuple(1.8, 2.5, "-5.0' 0' +5.0' -2 min0 min+2 minSun"),
+          {1.0, 4.6, "-5.0' 0' +5.0' -2 min0 min+2 minSun"},
+          {0.4, 9.0, "-10.0' 0' +10.0' -0.5 min0 min+0.5 minSun"}}) {
+        SightSeries series;
+        for (const double sign : {-1.0, 1.0})
+            series.shots.push_back({0, sign * minutes / 1440, NavFunc113::Miles(sign * residual)});
+        picture.showSeries({series});
+        PaintedTexts sheet(picture.size());
+        picture.render(&sheet);
+        QString written;
+        for (const PaintedText& each : sheet.texts())
+            written += each.text;
+        EXPECT_EQ(written.toStdString(), marks);
+    }
 }
 
 /// What an officer would plot himself, by the places of the plot.

@@ -151,6 +151,10 @@ TEST(TankExperience, aVoyageCountsFromALitreOn)
     EXPECT_THAT(shown.notice, HasSubstr("Loading, voyage 4, ship"));
     voyages[3].ship = "1000000001";
     EXPECT_THAT(experienceShown(voyages, "Loading").notice, HasSubstr("voyage 4, ship"));
+    voyages[3] = {"A", "101", "100"};
+    voyages[4] = {"B", "99", "100"};
+    shown = experienceShown(voyages, "Loading"); // both are far from their mean
+    EXPECT_EQ(shown.mean + ", " + shown.counted + shown.sums, "1.00000, 0 of 2");
 }
 
 TEST(TankPaper, whatIsSignedHasTanksTotalsAndThoseWhoSign)
@@ -173,6 +177,11 @@ TEST(TankPaper, whatIsSignedHasTanksTotalsAndThoseWhoSign)
     EXPECT_THAT(paper.workings[1].steps.back().value, "6207.454") << "long tons of the gasoline";
     tellMoved(paper, work, shown);
     EXPECT_THAT(paper.workings[1].title, HasSubstr("after")) << "before there was no oil in it";
+    TankSheet both = loading();
+    auto& surveys = both.list(ListKind::Cargo).rows[0].surveys;
+    surveys[0] = surveys[1];
+    tellMoved(paper, inHand(both), shown);
+    EXPECT_THAT(paper.workings[1].title, HasSubstr("before")) << "that in hand";
     tellExperience(paper, after, shown);
     EXPECT_TRUE(paper.tables.empty());
 }

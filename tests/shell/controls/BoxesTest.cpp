@@ -338,6 +338,13 @@ TEST(PictureBox, tellsTheResultsThatAreSeen)
     window.show();
     const auto* told = QAccessible::queryAccessibleInterface(picture);
     EXPECT_EQ(told->text(QAccessible::Description), "Speed: 12; Set: 045");
+    for (int i = 0; i < 12; ++i) {
+        auto* label = new ResultLabel(&window);
+        label->setAccessibleName("More");
+        label->setText("1");
+        label->show();
+    }
+    EXPECT_EQ(told->text(QAccessible::Description).count(": "), 12) << "nobody listens longer";
     picture->setAccessibleName("Speeds");
     EXPECT_EQ(told->text(QAccessible::Name), "Speeds");
     picture->setAccessibleDescription("A circle");

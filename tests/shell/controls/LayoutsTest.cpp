@@ -202,6 +202,15 @@ TEST(Legend, itsWidthHoldsWhatItDraws)
     EXPECT_NEAR(wide - edge, unit + rounded, 0.3 * unit);
 }
 
+TEST(DetailsFold, isClosedUntilItIsOpened)
+{
+    QWidget window;
+    auto* folded = new QWidget(&window);
+    const DetailsFold fold(folded, &window);
+    EXPECT_TRUE(folded->isHidden());
+    EXPECT_EQ(fold.arrowType(), Qt::RightArrow);
+}
+
 /// Groups of boxes 20 pixels high with a result below them, in an area of 120.
 TEST(FollowingScrollArea, whatStandsTogetherIsSeenTogetherWhereItFits)
 {

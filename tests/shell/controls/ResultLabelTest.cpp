@@ -255,6 +255,7 @@ TEST(ResultLabel, whatItSaysEntersItsSizeInNoWayAndWhatDoesNotFitIsNotSilent)
             label.resize(room);
             label.setText(text);
             EXPECT_EQ(label.sizeHint(), room) << text;
+            EXPECT_FALSE(label.hasHeightForWidth());
             EXPECT_EQ(label.isCut(), isCut[lines - 1]) << text << " in " << lines;
             const ShownLines shown = shownLines(text, label.font(), room);
             EXPECT_LE(shown.lines.size(), lines) << text;

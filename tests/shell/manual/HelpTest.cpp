@@ -397,6 +397,13 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     EXPECT_EQ(help()->view().textCursor().selectedText(), "Beaufort");
     EXPECT_EQ(help()->view().extraSelections().size(),
               help()->view().toPlainText().count("Beaufort", Qt::CaseInsensitive));
+    for (const char* next : {"lstHelp", "txtManual"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), next);
+    }
+    main->help().openPage("frmSunSight");
+    help()->view().mark("e");
+    EXPECT_EQ(help()->view().extraSelections().size(), 400) << "no page is marked for ever";
     main->help().openPage("frmWind");
     search("meridional parts");
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/manual/Manual.h"
 #include "shell/manual/FoundLines.h"
+#include "shell/manual/LibrariesInUse.h"
 #include "shell/manual/ManualPlaces.h"
 #include "shell/manual/ProgramFacts.h"
 #include "tests/app/FakeMachine.h"
@@ -62,6 +63,11 @@ TEST(ManualPlaces, theWordsOfALinkAndNoOthersHaveItsColour)
 TEST(ProgramFacts, tellWhatLiesBesideTheProgram)
 {
     FakeFiles files;
+    for (const auto& [file, name] : {std::pair("libicuuc.so.72.1", "icuuc 72.1"),
+                                     {"libsystemd-252.so", "systemd 252"},
+                                     {"libglib-2.0.so.0.7400.6", "glib 0.7400.6"},
+                                     {"libqoffscreen.so", ""}})
+        EXPECT_EQ(nameAndVersion(file), name);
     auto facts = programFacts(files);
     EXPECT_EQ(facts["records"], "folder");
     EXPECT_EQ(facts["packages"], "none: it uses the system's own");
