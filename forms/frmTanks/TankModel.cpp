@@ -76,7 +76,7 @@ QString TankModel::headOf(int column) const
     if (column == Tank) return "Tank";
     const auto place = placeOf(column);
     if (!place) return {};
-    const QString head = headsOfSurvey[place->column];
+    const char* const head = headsOfSurvey[place->column];
     if (place->column > 0) return head;
     return QString(surveyHeads[static_cast<std::size_t>(m_kind)]
                               [static_cast<std::size_t>(place->survey)]) +

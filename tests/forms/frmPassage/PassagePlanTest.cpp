@@ -384,6 +384,9 @@ TEST(PlanTide, theNextPortHasATideOfItsOwn)
     EXPECT_THAT(alone, ::testing::StartsWith("Yokohama, "));
     EXPECT_EQ(tide.at(yokohama, utc), alone);
     EXPECT_EQ(tide.at(tokyo, utc), before);
+    EXPECT_THAT(tide.at({NavFunc113::DegMin(-35.12), NavFunc113::DegMin(174.46)}, utc),
+                ::testing::StartsWith("Auckland, 98 nm"));
+    EXPECT_EQ(tide.at({NavFunc113::DegMin(-35.07), NavFunc113::DegMin(174.46)}, utc), "");
     EXPECT_NE(before.substr(before.find(" m ") - 5), alone.substr(alone.find(" m ") - 5));
 }
 
