@@ -57,6 +57,7 @@ AlmanacPage::AlmanacPage(QWidget* parent, const FieldBoxes& boxes)
     column->addWidget(m_text, 1);
     connect(m_cmdPrint, &QPushButton::clicked, this, &AlmanacPage::printAsked);
     connect(m_cmdSave, &QPushButton::clicked, this, &AlmanacPage::saveAsked);
+    show(nullptr);
 }
 
 void AlmanacPage::show(const almanac::DailyPage* page)
