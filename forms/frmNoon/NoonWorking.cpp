@@ -185,8 +185,8 @@ Working fuelWorking(const NoonResult& noon)
         const double used = before + received - onBoard;
         const bool tookOil = received > 0;
         working.step(name + ", tons",
-                     std::string("the day before ") + (tookOil ? "and received, " : "") +
-                         "less on board",
+                     tookOil ? "the day before and received, less on board"
+                             : "the day before less on board",
                      figure(before, 3) + (tookOil ? " + " + figure(received, 3) : "") + " - " +
                          figure(onBoard, 3),
                      figure(used, 3), "t");

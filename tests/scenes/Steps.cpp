@@ -89,8 +89,8 @@ void play(Stage& stage, const std::string& verb, const Words& words)
         const auto found = verbs->find(verb);
         if (found == verbs->end()) continue;
         // Of some steps a line holds several: a name behind a text begins the next.
-        static const std::set<std::string> lists = {"accessible", "answer", "caption", "described",
-                                                    "heard",      "memory", "tooltip", "value"};
+        static const std::set<std::string> lists = {"accessible", "caption", "described", "heard",
+                                                    "memory",     "tooltip", "value"};
         auto begin = words.begin();
         for (auto at = begin; at != words.end(); ++at)
             if (lists.contains(verb) && at != begin && !at->quoted && std::prev(at)->quoted) {

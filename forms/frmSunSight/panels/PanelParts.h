@@ -6,8 +6,6 @@
 
 #include <QGroupBox>
 
-#include <vector>
-
 class QPushButton;
 
 /// What the panels of the sun sight window are built from.

@@ -46,13 +46,12 @@ TEST(SkyStars, areThoseOfTheMiddleOfTheTwilight)
         EXPECT_EQ(each.isInRound, i < 5);
         EXPECT_GT(each.seen.altitude.value(), 0);
         if (each.body == almanac::Body::Moon) continue; // preset to her limb
-        // What is preset is higher by dip (7.9') and refraction.
+        // What is preset is higher by dip (7.9') and refraction, here Bennett's.
         EXPECT_GT((each.sextant - each.seen.altitude).value(), 7.8 / 60);
         if (!each.isInRound) continue;
         const double h = each.sextant.value() - 7.87 / 60;
         EXPECT_NEAR((each.sextant - each.seen.altitude).value() * 60,
-                    7.87 + 1 / tan(NavFunc113::Degrees(h + 7.31 / (h + 4.4))),
-                    0.1); // Bennett's refraction
+                    7.87 + 1 / tan(NavFunc113::Degrees(h + 7.31 / (h + 4.4))), 0.1);
         EXPECT_GE(each.seen.altitude.value(), 15);
         EXPECT_LE(each.seen.altitude.value(), 65);
     }
