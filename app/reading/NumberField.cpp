@@ -42,8 +42,8 @@ bool isGrouped(std::string_view whole, char mark)
 {
     const std::size_t first = whole.find(mark);
     if (first == 0 || first == std::string_view::npos || first > 3) return false;
-    for (std::size_t i = 0; i < whole.size(); ++i)
-        if ((i >= first && (i - first) % 4 == 0) != (whole[i] == mark)) return false;
+    for (std::size_t i = first; i < whole.size(); ++i)
+        if (((i - first) % 4 == 0) != (whole[i] == mark)) return false;
     return (whole.size() - first) % 4 == 0;
 }
 

@@ -14,6 +14,8 @@
 #include <QKeyEvent>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace korvel
 {
 namespace
@@ -26,9 +28,8 @@ constexpr std::array<RowText, 9> rowTexts{&PlanRow::name,   &PlanRow::latitude, 
 
 int chosenOf(const std::vector<QRadioButton*>& options)
 {
-    for (std::size_t i = 0; i < options.size(); ++i)
-        if (options[i]->isChecked()) return static_cast<int>(i);
-    return 0;
+    return static_cast<int>(std::ranges::find_if(options, &QRadioButton::isChecked) -
+                            options.begin());
 }
 
 void choose(const std::vector<QRadioButton*>& options, int which)

@@ -45,12 +45,11 @@ std::optional<Vertex> vertexOf(const Departure& from, DegMin long1, Radians phi2
     Degrees run = RadToDeg(Radians(std::atan2(from.cosCourse, acrossMeridians * sin(from.phi1))));
     const Degrees whole = fabs(change);
     // run leads to the northern vertex; the southern one lies half a turn away.
-    bool northern = isNorthern(from.phi1, phi2);
+    const bool northern = isNorthern(from.phi1, phi2);
     const Degrees southernRun = run > Degrees(0) ? run - halfTurn : run + halfTurn;
     const auto isOnRoute = [whole](Degrees at) { return at > Degrees(0) && at < whole; };
     const bool northernOnRoute = isOnRoute(run);
     const bool southernOnRoute = isOnRoute(southernRun);
-    if (northernOnRoute || southernOnRoute) northern = northernOnRoute;
     if (!northern) run = southernRun;
 
     const Degrees lat = RadToDeg(phi);

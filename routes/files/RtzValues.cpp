@@ -72,8 +72,8 @@ std::optional<Span> readDuration(std::string_view text)
         }
         char letter{};
         double value{};
-        if (!takePart(text, letter, value)) return std::nullopt;
-        const std::size_t place = order.find(letter, due);
+        const std::size_t place =
+            takePart(text, letter, value) ? order.find(letter, due) : std::string_view::npos;
         if (place == std::string_view::npos || (place > 0) != isBehindT) return std::nullopt;
         total += value * secondsOf[place];
         due = place + 1;

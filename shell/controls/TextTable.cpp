@@ -194,7 +194,7 @@ QSize TextTable::minimumSizeHint() const
 void TextTable::changeEvent(QEvent* event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange && model()) giveWidths();
+    if (event->type() == QEvent::FontChange) giveWidths();
 }
 
 void TextTable::keyPressEvent(QKeyEvent* event)

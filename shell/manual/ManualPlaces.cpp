@@ -46,19 +46,18 @@ template <typename Function>
 void forEachBlock(const QTextDocument& page, Function function)
 {
     for (QTextBlock block = page.begin(); block.isValid(); block = block.next()) {
-        QTextTable* table = QTextCursor(block).currentTable();
-        if (!table) {
-            const int level = block.blockFormat().headingLevel();
-            if (function(block, block.text(), level > 0)) return;
-            continue;
+        QStringList row(block.text());
+        bool givesNames = block.blockFormat().headingLevel() > 0;
+        if (QTextTable* table = QTextCursor(block).currentTable()) {
+            const QTextTableCell cell = table->cellAt(block.position());
+            if (cell.column() > 0) continue;
+            row.clear();
+            for (int column = 0; column < table->columns(); ++column)
+                row << table->cellAt(cell.row(), column).firstCursorPosition().block().text();
+            row.removeAll("");
+            givesNames = cell.row() > 0;
         }
-        const QTextTableCell cell = table->cellAt(block.position());
-        if (cell.column() > 0) continue;
-        QStringList row;
-        for (int column = 0; column < table->columns(); ++column)
-            row << table->cellAt(cell.row(), column).firstCursorPosition().block().text();
-        row.removeAll("");
-        if (function(block, row.join(" – "), cell.row() > 0)) return;
+        if (function(block, row.join(" – "), givesNames)) return;
     }
 }
 

@@ -137,7 +137,6 @@ int headHeight(const QFont& captions)
 
 void drawHead(QPainter& painter, const QStyleOptionGroupBox& option)
 {
-    if (option.text.isEmpty()) return;
     painter.save();
     painter.setFont(headLetters(painter.font()));
     painter.setPen(option.palette.color(QPalette::WindowText));
@@ -244,12 +243,6 @@ void ScreenStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
     if (qobject_cast<QGroupBox*>(widget)) widget->installEventFilter(this);
-}
-
-void ScreenStyle::unpolish(QWidget* widget)
-{
-    widget->removeEventFilter(this);
-    QProxyStyle::unpolish(widget);
 }
 
 /// A group box draws nothing but its title and its frame: where a result in it is painted anew

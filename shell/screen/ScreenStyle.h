@@ -23,9 +23,7 @@ public:
     void setZoom(int percent) { m_zoom = percent; }
 
     void polish(QWidget* widget) override;
-    void unpolish(QWidget* widget) override;
     using QProxyStyle::polish;
-    using QProxyStyle::unpolish;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -90,7 +90,7 @@ TEST(PageText, everyFigureStandsInItsColumn)
     twice.append("  ").append(sirius);
     std::string threeRows = twice;
     threeRows.append("  ").append(sirius).append("\n").append(twice);
-    threeRows.append("     Polaris         315 30.0 N 89 21.0\n").append(twice);
+    threeRows.append("     Polaris         315 30.0 N 89 21.0\n").append(twice + "\n");
     for (const std::string& line : {
              std::string("Wed 00 |  98 30.5  30 00.0 N  2 30.0  40 00.0 S  3 30.0  50 00.0 "
                          "N  4 30.0  60 00.0 S  5 30.0"),

@@ -34,6 +34,7 @@ public:
     std::optional<std::string> fileToRead(const std::string& title,
                                           const std::string& ending) override
     {
+        if (ending.size() > 12) throw std::runtime_error(ending + " is no ending of a file");
         return input(title, {}, ending);
     }
     void beep() override { ++beeps; }

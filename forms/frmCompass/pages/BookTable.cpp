@@ -51,8 +51,7 @@ constexpr std::array ofOne{UTC,
 std::vector<std::string> rowOf(const CompassLine& line, std::optional<CompassKind> kind)
 {
     const Texts texts = compassLineTexts(line);
-    if (kind) return rowOfOne(texts, *kind);
-    return rowOfAll(texts);
+    return kind ? rowOfOne(texts, *kind) : rowOfAll(texts);
 }
 
 } // namespace

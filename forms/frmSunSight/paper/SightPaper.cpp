@@ -242,11 +242,11 @@ std::vector<std::string> sentencesOf(const std::string& remark)
 {
     constexpr std::string_view between = "; ";
     std::vector<std::string> sentences;
-    std::size_t from = 0;
-    for (std::size_t to; (to = remark.find(between, from)) != remark.npos;
-         from = to + between.size())
-        sentences.push_back(remark.substr(from, to - from));
-    sentences.push_back(remark.substr(from));
+    std::string rest = remark;
+    for (std::size_t end; (end = rest.find(between)) != rest.npos;
+         rest.erase(0, end + between.size()))
+        sentences.push_back(rest.substr(0, end));
+    sentences.push_back(rest);
     return sentences;
 }
 

@@ -92,8 +92,8 @@ TEST(PlannedSights, whatIsDamagedIsNamedAndTheRestRead)
     };
     for (const char* bad :
          {"sight=", "sight=yesterday;50;350;Capella", "sight=1978-02-28;50;350",
-          "sight=1978-02-28T12:20:26Z;91;350;Capella", "sight=1978-02-28T12:20:26Z;50;;Capella",
-          "sight=1978-02-28T12:20:26Z;50;350;"})
+          "sight=1978-02-28T12:20:26Z;91;350;Capella", "sight=1978-02-28T12:20:26Z;50;361;Capella",
+          "sight=1978-02-28T12:20:26Z;50;;Capella", "sight=1978-02-28T12:20:26Z;50;350;"})
         EXPECT_EQ(lineOf(bad), "line 3") << bad;
     EXPECT_EQ(readPlannedSights(sound).damage, "line 1: these are no planned sights");
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A paper, and the journal that papers go into.
 #include "app/working/WorkingPaper.h"
+#include "app/working/Interpolation.h"
 #include "app/working/Journal.h"
 #include "tests/app/FakeMachine.h"
 
@@ -125,6 +126,7 @@ TEST(WorkingPaper, figuresOfStepsHaveTheirSign)
     EXPECT_EQ(figure(-122.5, 3), "-122.500");
     EXPECT_EQ(term(-122.5, 1), "(-122.5)");
     EXPECT_EQ(figure(-0.0004, 3), "0.000") << "what rounds to nothing has no sign";
+    EXPECT_EQ(lagrangeFigures({{0, 0}, {1, -2}}, 0.5), "(0.0 × 0.5000000 + (-2.0) × 0.5000000)");
     Working working{"angles", {}, {}};
     working.angleStep("south", "φ", NavFunc113::DegMin(-0.305));
     EXPECT_EQ(working.steps.front().figures, "-(0 + 30.5 / 60)");

@@ -153,10 +153,12 @@ TEST(CompassRecord, damageIsNamedAndTheRestRead)
     EXPECT_EQ(damageOf(head + "line\n" + time + "latitude=91\n"), "line 4: no angle within 90");
     EXPECT_EQ(damageOf(head + "line\n" + time + "gyro head=nan\n"), "line 4: no angle within 360");
     EXPECT_EQ(damageOf(head + "line\n" + time + "remark=\xff\n"), "line 4: it cannot be read");
-    const ReadCompassBook early = readCompassBook(head + "body=Sun\nline\n" + time);
+    const ReadCompassBook early =
+        readCompassBook(head + "body=Sun\nline\n" + time + "gyro by=eye\ngyro colour=heads\n");
     EXPECT_EQ(early.damage, "") << "a value of no line is none's";
     ASSERT_EQ(early.book.size(), 1u);
     EXPECT_EQ(early.book[0].body, "");
+    EXPECT_FALSE(early.book[0].readings[0].byHeads || early.book[0].readings[1].byHeads);
     const ReadCompassBook timeless = readCompassBook(head + "line\nbody=Sun\nline\n" + time);
     EXPECT_EQ(timeless.damage, "line 2: an observation without a time");
     EXPECT_EQ(timeless.book.size(), 1u);

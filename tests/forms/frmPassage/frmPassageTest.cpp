@@ -99,6 +99,7 @@ TEST_F(frmPassageTest, voyageOfThirteenDaysAcross180)
     EXPECT_EQ(text(window, "lblPlan(2)"), "13 d 00 h 08 m");
     EXPECT_EQ(text(window, "lblPlan(6)"), "17 h 00 m back");
     EXPECT_EQ(cell(window, 1, PlanTable::Course), "090.0");
+    EXPECT_EQ(cell(window, 1, PlanTable::Zone, 1), "17 h back");
 }
 
 TEST_F(frmPassageTest, aStopMovesWhatFollows)

@@ -216,9 +216,10 @@ TEST(BodySight, latitudeByABodyNearTheMeridian)
         const char *body, *time, *note;
         bool isInDoubt;
     } cases[] = {
-        {"south of the zenith", 20, 10, "Diphda", "20:04:00", " the upper meridian at the sight",
+        {"south of the zenith", 20, 10, "Diphda", "20:04:00",
+         " after the upper meridian at the sight", false},
+        {"below the pole", 60, 30, "Dubhe", "18:25:00", " after the lower meridian at the sight",
          false},
-        {"below the pole", 60, 30, "Dubhe", "18:25:00", " the lower meridian at the sight", false},
         {"right in the zenith", -17.7, 10, "Diphda", "19:20:00",
          "; first with it to the south, then to the north", true},
     };

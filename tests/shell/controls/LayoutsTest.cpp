@@ -298,6 +298,8 @@ TEST(PlotLettering, standsClearOfWhatCrossesIt)
     EXPECT_EQ(
         placed({middle - wide, middle - wide / 2, middle - wide / 2 + high, middle + high + wide}),
         best);
+    const QPointF corner = best.topLeft();
+    EXPECT_EQ(placed({corner + QPointF(-10, 5), corner + QPointF(5, -10)}), best) << "past it";
     const QRectF other = placed({middle - wide, middle + wide});
     EXPECT_FALSE(other.contains(middle));
     EXPECT_TRUE(QRectF(0, 0, 200, 200).contains(other));

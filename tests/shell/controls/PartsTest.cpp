@@ -151,8 +151,9 @@ TEST(ChosenOption, optionsOfAGroupAreNotThoseBesideThem)
         return all;
     };
     EXPECT_EQ(stops(), "-+-+");
-    QTest::keyClick(south, Qt::Key_N);
-    EXPECT_TRUE(north->isChecked());
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_N, Qt::NoModifier, "n");
+    QApplication::sendEvent(south, &letter);
+    EXPECT_TRUE(north->isChecked() && letter.isAccepted()) << "and nobody else's";
     EXPECT_EQ(stops(), "-++-");
     QTest::keyClick(clock.button(1), Qt::Key_S);
     EXPECT_EQ(clock.chosen(), 0) << "its letter, not that of the others";

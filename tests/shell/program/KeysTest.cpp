@@ -350,19 +350,25 @@ TEST_F(KeysTest, captionsStandBesideTheirBoxes)
             EXPECT_FALSE(menu->title().startsWith("mnu")) << menu->title().toStdString();
         for (const auto* button : window->findChildren<QAbstractButton*>())
             EXPECT_FALSE(button->toolTip().contains('&')) << button->toolTip().toStdString();
-        for (const auto* caption : window->findChildren<QLabel*>()) {
+        for (auto* caption : window->findChildren<QLabel*>()) {
             // "Height at" stands before the time that is asked about, "Times of" before a height.
             if (!caption->buddy() || caption->buddy()->objectName().startsWith("txtAt")) continue;
             const QString name = caption->buddy()->accessibleName();
-            const QStringList words =
+            const QStringList letters =
                 caption->text().remove('&').split(QRegularExpression("\\W+"), Qt::SkipEmptyParts);
-            EXPECT_TRUE(std::ranges::any_of(words,
+            EXPECT_TRUE(std::ranges::any_of(letters,
                                             [&](const QString& word) {
                                                 return word.size() > 1 &&
                                                        name.contains(word, Qt::CaseInsensitive);
                                             }))
                 << nameOf(*caption->buddy()) << " is called " << name.toStdString() << " beside "
                 << caption->text().toStdString();
+            if (!caption->isVisible() || !caption->buddy()->isVisible()) continue;
+            const auto [words, box] = placesOf(*caption, *caption->buddy());
+            const bool isInLine = words.top() < box.bottom() && words.bottom() > box.top();
+            const bool isAbove = words.left() < box.right() && words.right() > box.left();
+            EXPECT_TRUE(isInLine || (isAbove && words.top() < box.top()))
+                << caption->text().toStdString() << " stands elsewhere";
         }
     }
 }

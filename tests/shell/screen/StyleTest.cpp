@@ -361,6 +361,7 @@ TEST(WidgetColours, aColourThatIsThereIsNotSetAgain)
 
 TEST(NightTint, aSheetStandsOffByNightAsByDay)
 {
+    EXPECT_EQ(ColourScheme::night(3).ink, ColourScheme::night(2).ink) << "no darker than that";
     for (int step = 0; step < 3; ++step) {
         const ColourScheme night = ColourScheme::night(step);
         QApplication::setPalette(night.palette);
