@@ -18,10 +18,17 @@ constexpr int sumDecimals = 8;
 constexpr int tableDecimals = 6; // of sums and weights
 constexpr int mileDecimals = 4;
 
+/// A round of stars is referred to the DR position within it, every other fix to the last sight.
+bool isOfLastSight(const SightFixResult& fix)
+{
+    return std::ranges::max(fix.lines, {}, &FixLine::UTC).UTC == *fix.UTC;
+}
+
 std::vector<std::string> fixMethod(const SightFixResult& fix)
 {
-    return {"Least squares of all sights that are on, at the time of the last; each is run from "
-            "the fix to its own time with course " +
+    const std::string time = isOfLastSight(fix) ? "last" : "DR position";
+    return {"Least squares of all sights that are on, at the time of the " + time +
+                "; each is run from the fix to its own time with course " +
                 figure(fix.motion.course, 1) + "° and speed " +
                 Format(fix.motion.speed, "0.0####") +
                 " kn made good, by middle latitude; repeated until it moves less than 0.01 miles",
@@ -108,9 +115,11 @@ void addPosition(Working& working, const SightFixResult& fix)
                  sightFigure(fix.solution->position.longitude), "°");
     working.resultStep("Latitude of the fix", "degrees and minutes of φ", fix.latitude);
     working.resultStep("Longitude of the fix", "degrees and minutes of λ", fix.longitude);
+    const std::string of = isOfLastSight(fix) ? "last sight" : "DR position, within the round";
     working.resultStep("Time of the fix",
-                       "that of the last sight, with the time from the first; a running fix from "
-                       "20 minutes on",
+                       "that of the " + of +
+                           ", with the time from the first sight to the last; a running fix "
+                           "beyond 20 minutes",
                        fix.time);
 }
 
