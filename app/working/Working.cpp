@@ -48,4 +48,10 @@ std::string figure(double value, int decimals)
     return text;
 }
 
+std::string directionFigure(NavFunc113::Degrees direction, int decimals)
+{
+    const std::string text = figure(direction, decimals);
+    return text == figure(NavFunc113::fullTurn, decimals) ? figure(0, decimals) : text;
+}
+
 } // namespace korvel

@@ -54,6 +54,9 @@ std::string figure(NavFunc113::Measure<Unit> value, int decimals)
     return figure(value.value(), decimals);
 }
 
+/// A direction in degrees: what rounds to 360 is 0.
+std::string directionFigure(NavFunc113::Degrees direction, int decimals);
+
 /// The same as a term of a formula: a negative one stands in brackets.
 template <typename Number>
 std::string term(Number value, int decimals)

@@ -21,7 +21,7 @@ std::string degrees(Degrees angle)
 
 std::string shown(Degrees angle)
 {
-    return figure(angle, anglePlaces);
+    return directionFigure(angle, anglePlaces);
 }
 
 /// The steps of the bearing of a body.

@@ -56,10 +56,14 @@ class Equivalent:
         self.why = {}
         for line in lines(path):
             file, left, old, new, right, why = self.LINE.fullmatch(line).groups()
-            self.why[file, left + old + right, left + new + right] = why
+            self.why[self.key(file, left + old + right, left + new + right)] = why
+
+    @staticmethod
+    def key(file, *texts):
+        return file, *(" ".join(text.split()) for text in texts)
 
     def reason(self, fault):
-        return self.why.get((fault.file, shown(fault.old), shown(fault.new)))
+        return self.why.get(self.key(fault.file, shown(fault.old), shown(fault.new)))
 
 
 class Sample:

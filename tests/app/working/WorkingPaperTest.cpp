@@ -126,6 +126,8 @@ TEST(WorkingPaper, figuresOfStepsHaveTheirSign)
     EXPECT_EQ(figure(-122.5, 3), "-122.500");
     EXPECT_EQ(term(-122.5, 1), "(-122.5)");
     EXPECT_EQ(figure(-0.0004, 3), "0.000") << "what rounds to nothing has no sign";
+    EXPECT_EQ(directionFigure(NavFunc113::Degrees(359.99996), 4), "0.0000");
+    EXPECT_EQ(directionFigure(NavFunc113::Degrees(359.99994), 4), "359.9999");
     EXPECT_EQ(lagrangeFigures({{0, 0}, {1, -2}}, 0.5), "(0.0 × 0.5000000 + (-2.0) × 0.5000000)");
     Working working{"angles", {}, {}};
     working.angleStep("south", "φ", NavFunc113::DegMin(-0.305));

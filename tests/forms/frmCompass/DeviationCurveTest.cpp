@@ -2,6 +2,7 @@
 #include "forms/frmCompass/DeviationCurve.h"
 #include "app/reading/Format.h"
 #include "forms/frmCompass/CalculateCourses.h"
+#include "forms/frmCompass/CoursesWorking.h"
 #include "tests/golden/Golden.h"
 
 #include <gmock/gmock.h>
@@ -165,6 +166,9 @@ TEST(Courses, intoEachOther)
                      {"speed", result.speed},
                      {"time", result.time},
                      {"notice", result.notice}});
+        for (const Working& working : coursesWorkings(coursesOf(row), result, ""))
+            for (const WorkingStep& step : working.steps)
+                EXPECT_FALSE(step.value.starts_with("360")) << row << step.name;
     }
 }
 

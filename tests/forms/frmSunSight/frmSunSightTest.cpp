@@ -2,6 +2,7 @@
 #include "forms/frmSunSight/frmSunSight.h"
 
 #include "forms/frmSunSight/panels/SeriesPicture.h"
+#include "forms/frmSunSight/panels/SightLines.h"
 #include "forms/frmSunSight/panels/SightPicture.h"
 #include "tests/forms/frmSunSight/WorkedSights.h"
 #include "tests/shell/PaintedTexts.h"
@@ -295,6 +296,26 @@ TEST(SightPicture, drawsArrowScaleAndNorthAndWritesOnItsMargins)
         right = each.at.x() + each.width;
     }
     EXPECT_GT(right, area.center().x());
+}
+
+TEST(SightLines, theResultGoesBelowWhereItHasNoRoomBeside)
+{
+    SightLines lines(nullptr);
+    lines.addItem("");
+    lines.showSight(0, "Sun", "3'.0 T", "");
+    lines.show();
+    const int wide = lines.sizeHint().width();
+    for (const auto& [width, text] : {std::pair(wide, "Sun  3'.0 T"),
+                                      {wide - 1, "Sun\n3'.0 T"},
+                                      {wide - 9, "Sun\n3'.0 T"},
+                                      {wide, "Sun  3'.0 T"}}) {
+        lines.resize(width, 200);
+        EXPECT_EQ(lines.item(0)->text(), text);
+    }
+    QFont larger = lines.font();
+    larger.setPointSizeF(2 * larger.pointSizeF());
+    lines.setFont(larger);
+    EXPECT_GT(lines.sizeHint().width(), 3 * wide / 2);
 }
 
 } // namespace

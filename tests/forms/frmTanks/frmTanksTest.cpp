@@ -323,6 +323,7 @@ TEST_F(frmTanksTest, boxesHaveTheUnitsThatWereChosen)
     turnTo(window, 1);
     click(window, "optVolume(1)");
     click(window, "optTemperature(1)");
+    EXPECT_EQ(onDisk().choices.temperature, TankTemperatureUnit::Fahrenheit);
     turnTo(window, 0);
     EXPECT_EQ(units(), "bbl bbl °F");
     EXPECT_EQ(temperature.limits(), "-76 to 400");
