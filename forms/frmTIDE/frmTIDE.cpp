@@ -318,7 +318,7 @@ void frmTIDE::showDay(const TideDayShown& day)
 
 void frmTIDE::showNow()
 {
-    if (!m_station || !m_shown) return;
+    if (!m_shown) return;
     const NavFunc113::Hours zone = m_shown->four.station.zone;
     const NavFunc113::DateTime UTC = program().shipsTime().UTC();
     m_sheet->showNow(nowText(*m_station, zone, m_dates, UTC, m_habits.drawsAll),
@@ -363,7 +363,7 @@ void frmTIDE::tell(const std::string& fault, Telling telling)
 
 void frmTIDE::report(const Report& make)
 {
-    if (!m_shown || !m_station) {
+    if (!m_shown) {
         program().questions().ask({"Choose a place and a date first.", programTitle, Buttons::Ok});
         return;
     }

@@ -25,12 +25,6 @@ constexpr int fullCircle = 360;
 constexpr int headStep = 45;
 constexpr std::array pointNames{"N", "NE", "E", "SE", "S", "SW", "W", "NW", "N"};
 
-double within(double head)
-{
-    const double turned = std::fmod(head, fullCircle);
-    return turned < 0 ? turned + fullCircle : turned;
-}
-
 } // namespace
 
 DeviationPicture::DeviationPicture(QWidget* parent) : PictureBox(parent)
@@ -92,7 +86,7 @@ QPen DeviationPicture::pen(const QColor& colour, double width) const
 QPointF DeviationPicture::pixel(const NavFunc113::DeviationPoint& point) const
 {
     const double deviation = std::clamp(point.deviation.value(), -m_edge, m_edge);
-    return toPixel(deviation, within(point.heading.value()));
+    return toPixel(deviation, std::fmod(point.heading.value(), fullCircle));
 }
 
 void DeviationPicture::draw(QPainter& painter)

@@ -93,7 +93,6 @@ QSize WaterLabel::sizeHint() const
 
 void WaterLabel::paintEvent(QPaintEvent* event)
 {
-    if (text().isEmpty()) return;
     if (hasSelectedText() && selectedText() != text()) return ResultLabel::paintEvent(event);
     const QString water = text().section(parting, 0, 0), figure = text().section(parting, 1);
     const QString value = figure.section(' ', 0, 0), unit = ' ' + figure.section(' ', 1);
@@ -120,7 +119,6 @@ QSize NowLabel::sizeHint() const
 
 void NowLabel::paintEvent(QPaintEvent* event)
 {
-    if (text().isEmpty()) return;
     if (hasSelectedText() && selectedText() != text()) return ResultLabel::paintEvent(event);
     const QString state = text().section(parting, 1, 1);
     const QFontMetricsF large(font()), small(smallLetters());

@@ -70,6 +70,8 @@ TEST(SettingsRecord, takesWhatCanBeReadAndNamesTheDamage)
         EXPECT_EQ(values(read.record), row.text("taken")) << row;
         EXPECT_EQ(read.damageText(), row.text("damage")) << row;
     }
+    const std::vector<FieldKind> figures(5, FieldKind::Number);
+    EXPECT_TRUE(readRecord("a\nb\nc\nd\ne\n", figures).damageText().ends_with("; and 2 more"));
 }
 
 TEST(SettingsRecord, putsRightWhatALostLineHasShifted)

@@ -53,6 +53,7 @@ TEST(CompassBook, filterByCompassLatestFirst)
     EXPECT_THAT(compassLines(book, CompassKind::Gyro), ElementsAre(1u, 2u));
     EXPECT_THAT(compassLines(book, CompassKind::Standard), ElementsAre(0u, 2u));
     EXPECT_TRUE(compassLines(book, CompassKind::Steering).empty());
+    EXPECT_THAT(compassLines({book[0], book[0]}, std::nullopt), ElementsAre(0u, 1u));
 }
 
 TEST(CompassBook, listForOtherPrograms)

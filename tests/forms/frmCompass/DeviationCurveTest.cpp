@@ -92,6 +92,10 @@ TEST(DeviationCurve, lineTooFarOffIsSaidWhenItIsRecorded)
                 HasSubstr("Standard: deviation 5.8 E on 200 lies 4."));
     EXPECT_NE(doubtAbout(lineOn(200, -4), month(0.3)), "");
     EXPECT_EQ(doubtAbout(lineOn(200, 4), {}), "") << "without a curve nobody can tell";
+    CompassLine without = lineOn(200, 4);
+    without.readings[static_cast<std::size_t>(CompassKind::Standard)].deviation.reset();
+    EXPECT_EQ(doubtAbout(without, month(0.3)), "");
+    EXPECT_TRUE(deviationCurve({without}, CompassKind::Standard).points.empty());
 }
 
 constexpr std::array<const char*, CourseFields.size()> courseBoxNames{

@@ -492,6 +492,8 @@ TEST_F(frmPassageTest, theChartHasItsLegsAndAPressGoesToTheRow)
     EXPECT_GT(picture.userScale().left + picture.userScale().right, whole.left + whole.right);
     EXPECT_NEAR(picture.userScale().top + picture.userScale().bottom, whole.top + whole.bottom,
                 1e-9);
+    QTest::keyClick(&picture, Qt::Key_Up);
+    EXPECT_GT(picture.userScale().top + picture.userScale().bottom, whole.top + whole.bottom);
     QTest::keyClick(&picture, Qt::Key_Home);
     EXPECT_NEAR(picture.userScale().right, whole.right, 1e-9);
 }

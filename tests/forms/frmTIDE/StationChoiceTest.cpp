@@ -93,7 +93,7 @@ TEST(StationList, errorsStandInTheirColumns)
     TideFolder beside;
     beside.write("accuracy.txt", "# place, errors\r\n\r\nX\t0.1\t0.2\t0.3\t4\t5\r\n");
     beside.write("stations.txt", "X\tA\t\tfrom here\tfree\t1.5\t-2.5\testimated\trecord\n"
-                                 "Y\tB\tlarge\tfrom there");
+                                 "Honolulu\tB\tlarge\tfrom there\tfree\t21.3");
     const StationList list(beside.files);
     const MethodError error = list.errorOf("X").value();
     EXPECT_EQ(error.rms, 0.1);
@@ -101,17 +101,17 @@ TEST(StationList, errorsStandInTheirColumns)
     EXPECT_EQ(error.lowRms, 0.3);
     EXPECT_EQ(error.highMinutes, 4);
     EXPECT_EQ(error.lowMinutes, 5);
-    EXPECT_FALSE(list.errorOf("Y"));
+    EXPECT_FALSE(list.errorOf("Honolulu"));
     const StationNotes& x = *list.notesOf("X");
     EXPECT_EQ(x.grade + x.uncertainty + x.source + x.licence, "Afrom herefree");
     EXPECT_EQ(x.latitude, NavFunc113::Degrees(1.5));
     EXPECT_EQ(x.longitude, NavFunc113::Degrees(-2.5));
     EXPECT_TRUE(x.isLevelEstimated);
     EXPECT_FALSE(x.areMonthsEstimated);
-    EXPECT_EQ(list.notesOf("Y")->source, "from there") << "the last line without its end";
-    EXPECT_FALSE(list.notesOf("Y")->latitude);
+    EXPECT_EQ(list.notesOf("Honolulu")->source, "from there") << "the last line without its end";
+    EXPECT_FALSE(list.notesOf("Honolulu")->longitude);
     EXPECT_TRUE(nearestStations(list, NavFunc113::DegMin(0), NavFunc113::DegMin(0), 9).empty())
-        << "of no menu";
+        << "of no menu, or of no place";
 }
 
 TEST(StationCheck, everyFieldIsNamedAndJudged)

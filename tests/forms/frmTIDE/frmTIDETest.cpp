@@ -404,10 +404,10 @@ TEST(TableDialog, showsCopiesAndPrints)
     EXPECT_EQ(text(dialog, "lblSummary"), "Two rows.");
     auto& table = dynamic_cast<QTableWidget&>(control(dialog, "tblRows"));
     EXPECT_EQ(table.item(1, 2)->text(), "6");
-    table.setRangeSelected({0, 1, 1, 2}, true);
+    table.setRangeSelected({0, 0, 1, 1}, true);
     table.setFocus();
     QTest::keyClick(&table, Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::clipboard()->text(), "2\t3\n5\t6\n");
+    EXPECT_EQ(QApplication::clipboard()->text(), "1\t2\n4\t5\n");
     click(dialog, "cmdPrint");
     EXPECT_EQ(printed, 1);
     QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -125,6 +125,7 @@ TEST_F(frmTanksInputTest, noFileThatIsNoneStopsTheWindowOrChangesTheList)
     writeFile("zeros.csv", std::string(5000000, '\0'));
     QElapsedTimer waited;
     waited.start();
+    std::size_t refused = questions.asked.size();
     for (const std::string& path :
          {pipe, folder.filePath("none.csv").toStdString(), folder.path().toStdString(),
           folder.filePath("empty.csv").toStdString(), folder.filePath("zeros.csv").toStdString(),
@@ -132,7 +133,10 @@ TEST_F(frmTanksInputTest, noFileThatIsNoneStopsTheWindowOrChangesTheList)
         questions.willType(path);
         questions.willAnswer(Answer::Ok);
         choose(window, "mnuTankList(1)");
-        EXPECT_THAT(questions.asked.back(), HasSubstr("The list is as it was")) << path;
+        const std::string& said = questions.asked.back();
+        EXPECT_THAT(said, HasSubstr("The list is as it was")) << path;
+        EXPECT_LT(said.find(" was not "), said.find(": ")) << said;
+        EXPECT_EQ(questions.asked.size(), ++refused) << path;
         EXPECT_TRUE(onDisk() == before) << path;
     }
     EXPECT_LT(waited.elapsed(), 20000) << "none of them is waited for";
@@ -150,6 +154,7 @@ TEST_F(frmTanksInputTest, aFolderThatCannotBeWrittenIsNamedAndNothingIsLost)
         questions.willAnswer(Answer::Ok);
         choose(window, "mnuTankList(2)");
         EXPECT_THAT(questions.asked.back(), HasSubstr("could not be written")) << path;
+        EXPECT_FALSE(window.notice().contains("Saved")) << path;
     }
     EXPECT_TRUE(onDisk() == before);
 }

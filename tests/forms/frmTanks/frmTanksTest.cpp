@@ -73,7 +73,9 @@ TEST_F(frmTanksTest, aLoadingIsWorkedByKeys)
 {
     auto& window = open<frmTanks>();
     EXPECT_EQ(focused(), "txtTank(0)");
-    EXPECT_EQ(window.notice(), "");
+    choose(window, "mnuTankList(6)");
+    choose(window, "mnuTankList(7)");
+    EXPECT_EQ(window.notice(), "") << "there is nothing to take back yet";
     press(window, Qt::Key_G, "txtPort");
     control(window, "txtGradeName(0)").setFocus(Qt::TabFocusReason);
     for (const char* typed : {"Gasoline", "54B", "721.4", "", "", "8760", "", "6320"})

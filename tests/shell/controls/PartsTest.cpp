@@ -210,8 +210,10 @@ TEST(ChartBox, keysAndWheelMoveAndZoom)
         EXPECT_EQ(chart.asked, turned > 0 ? "less 120,480 " : "more 120,480 ");
     }
     chart.asked.clear();
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
-        QTest::mousePress(&chart, button, {}, {50, 50});
+    for (const auto& [pressed, button] : {std::pair(Qt::RightButton, Qt::RightButton),
+                                          {Qt::RightButton, Qt::LeftButton},
+                                          {Qt::LeftButton, Qt::LeftButton}}) {
+        QTest::mousePress(&chart, pressed, {}, {50, 50});
         QMouseEvent move(QEvent::MouseMove, QPointF(100, 50), QPointF(100, 50), Qt::NoButton,
                          button, Qt::NoModifier);
         QApplication::sendEvent(&chart, &move);

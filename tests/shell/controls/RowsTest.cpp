@@ -77,6 +77,11 @@ TEST(RowTable, keysGoToOtherRowsThatAreSeen)
         table->setRowSeen(row, true);
     EXPECT_EQ(rowAfter(1, Qt::Key_End, 4, Qt::ControlModifier), 11);
     EXPECT_EQ(rowAfter(11, Qt::Key_Down, 4), 11);
+    EXPECT_EQ(rowAfter(10, Qt::Key_PageDown, 4), 11);
+    table->result(2, 2)->setText("1.5");
+    table->result(2, 2)->setFocus();
+    QTest::keyClick(table->result(2, 2), Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), table->result(2, 2)) << "no result below";
     table->setRowSeen(1, false);
     EXPECT_EQ(rowAfter(2, Qt::Key_Up, 4), 0);
     std::string inHand;

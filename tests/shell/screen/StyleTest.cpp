@@ -275,15 +275,19 @@ TEST(ScreenStyle, aPartOfASwitchIsFilledWhileItIsChosen)
 /// The toolkit's icons are black or white.
 TEST(ScreenStyle, iconsAtNightHaveTheColourOfTheLetters)
 {
-    QPixmap black(16, 16);
-    black.fill(Qt::black);
     const auto blackIn = [&](auto element, auto option, auto icon) {
-        option.*icon = QIcon(black);
-        const Drawn drawn([&](const ScreenStyle& style, QPainter* painter) {
-            style.drawControl(element, &option, painter, nullptr);
-        });
-        EXPECT_GT(drawn.count(distinctColours().color(QPalette::WindowText)), 100) << element;
-        return drawn.count(Qt::black);
+        int black = 0;
+        for (const Qt::GlobalColor colour : {Qt::white, Qt::black}) {
+            QPixmap shown(16, 16);
+            shown.fill(colour);
+            option.*icon = QIcon(shown);
+            const Drawn drawn([&](const ScreenStyle& style, QPainter* painter) {
+                style.drawControl(element, &option, painter, nullptr);
+            });
+            EXPECT_GT(drawn.count(distinctColours().color(QPalette::WindowText)), 100) << element;
+            black += drawn.count(Qt::black);
+        }
+        return black;
     };
     auto tool = optionOf<QStyleOptionToolButton>();
     tool.iconSize = {16, 16};
