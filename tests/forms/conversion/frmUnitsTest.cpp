@@ -37,7 +37,9 @@ TEST_F(frmUnitsTest, whatIsKnownBesideAValueIsThereAgain)
     close(window);
     EXPECT_EQ(fileText("KV_Flow.ini"), "KORVEL2000 flow and consumption 1\ntxtFlowDensity=991\n"
                                        "txtFlowPower=9000\ntxtFlow(1)=30\n");
-    EXPECT_EQ(text(open<frmFlow>(), "txtFlow(11)"), "138.8889");
+    const auto& again = open<frmFlow>();
+    EXPECT_EQ(text(again, "txtFlow(5)"), "1.261352");
+    EXPECT_EQ(text(again, "txtFlow(11)"), "138.8889");
     auto& angle = open<frmAngle>();
     type(angle, "txtAngle(0)", "7.5");
     close(angle);

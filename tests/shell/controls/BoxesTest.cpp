@@ -233,10 +233,10 @@ TEST_F(BoxesTest, theKeyWritesWhatIsSeenAndWasReadInPart)
     EXPECT_EQ(box.text(), "1,5");
     box.setEnabled(true);
     other.setText("2,5");
-    box.setFocus(Qt::TabFocusReason);
+    other.setFocus(Qt::TabFocusReason);
     writeMeantFigure(window);
-    EXPECT_EQ(box.text(), "1.5") << "the box in hand before the others";
-    EXPECT_EQ(other.text(), "2,5");
+    EXPECT_EQ(other.text(), "2.5") << "the box in hand before the others";
+    EXPECT_EQ(box.text(), "1,5");
 }
 
 /// The figures of a conversion are copied with the unit of their box.
