@@ -106,6 +106,11 @@ TEST(CompassList, aFaultIsNamedByLineAndColumnAndNothingIsRead)
     EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,1,2\n"), "line 2: it has 3 fields, not 22");
     const std::string good = "2026-01-01T00:00:00Z,1,2,Sun,azimuth,,,typed" + rest + ",\n";
     EXPECT_EQ(readCompassList(head + good).fault, "");
+    EXPECT_EQ(faultOf(head + "\"2026\n"), "line 2: its quotation marks do not match");
+    std::string many = head;
+    for (std::size_t i = 0; i <= mostCompassLines; ++i)
+        many += good;
+    EXPECT_EQ(faultOf(many), "line 12002: more than 12000 lines");
     EXPECT_EQ(faultOf(head + good + "1.2.2026,1,2,Sun,azimuth,,,typed" + rest + ",\n"),
               "line 3, utc: \"1.2.2026\" is no date and time of the form 2026-11-21T16:00:00Z");
     EXPECT_EQ(faultOf(head + "2026-01-01T00:00:00Z,91,2,Sun,azimuth,,,typed" + rest + ",\n"),
@@ -151,6 +156,7 @@ TEST(CompassRecord, damageIsNamedAndTheRestRead)
     EXPECT_FALSE(readCompassBook("").isBook);
     EXPECT_EQ(damageOf(head + "line\n" + time + "colour=blue\n"), "") << "of a later version";
     EXPECT_EQ(damageOf(head + "line\n" + time + "rubbish\n"), "line 4: it cannot be read");
+    EXPECT_EQ(damageOf(head + "line\n" + time + "utc=soon\n"), "line 4: no time");
     EXPECT_EQ(damageOf(head + "line\n" + time + "latitude=91\n"), "line 4: no angle within 90");
     EXPECT_EQ(damageOf(head + "line\n" + time + "gyro head=nan\n"), "line 4: no angle within 360");
     EXPECT_EQ(damageOf(head + "line\n" + time + "remark=\xff\n"), "line 4: it cannot be read");

@@ -339,6 +339,14 @@ TEST_F(frmPassageTest, aKeyInTheTableGoesToTheBoxOfItsColumn)
     EXPECT_EQ(focused(), "txtLegSpeed");
     QTest::keyClick(QApplication::focusWidget(), '5');
     EXPECT_EQ(onDisk().rows[1].speed, "75");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(onDisk().rows[1].speed, "");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(onDisk().rows[1].speed, "75");
+    table.setFocus(Qt::TabFocusReason);
+    table.setCurrentIndex(table.model()->index(1, PlanTable::Leg));
+    QTest::keyClick(&table, '7');
+    EXPECT_EQ(focused(), "optLeg(0)");
     table.setFocus(Qt::TabFocusReason);
     table.setCurrentIndex(table.model()->index(0, PlanTable::Waypoint));
     EXPECT_EQ(text(window, "txtWaypoint"), "A");
