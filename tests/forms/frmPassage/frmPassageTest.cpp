@@ -484,6 +484,14 @@ TEST_F(frmPassageTest, theChartHasItsLegsAndAPressGoesToTheRow)
     EXPECT_TRUE(isThere(pixelOf(4, 10), colours.route));
     EXPECT_FALSE(isThere(pixelOf(4, 5), colours.route));
     EXPECT_TRUE(isThere(pixelOf(8, 10), colours.marker)) << "the row in hand";
+    const auto thickness = [&](const QPointF& at, const QPoint& across) {
+        const QImage image = onScreen(picture);
+        int thick = 0;
+        for (int i = -9; i <= 9; ++i)
+            thick += image.pixelColor(at.toPoint() + i * across) == colours.route;
+        return thick;
+    };
+    EXPECT_GT(thickness(pixelOf(4, 10), {1, 0}), thickness(pixelOf(0, 4), {0, 1}));
     EXPECT_FALSE(isThere(pixelOf(0, 0), colours.marker));
     QTest::mouseClick(&picture, Qt::LeftButton, {}, pixelOf(0, 0).toPoint());
     EXPECT_EQ(text(window, "txtWaypoint"), "A");

@@ -122,6 +122,7 @@ TEST_F(frmUKCTest, theStationOfTheTideWindow)
     auto& window = open<frmUKC>();
     choose(window, "mnuKeel(0)");
     EXPECT_EQ(text(window, "txtStation"), "Yokohama");
+    EXPECT_FALSE(window.notice().contains("no tide station"));
     choose(window, "mnuKeel(1)");
     EXPECT_THAT(text(window, "txtStation"), IsEmpty());
     for (const char* none : {"#FALSE#\r\n\"Brothers\"\r\n\"2005/05/05\"\r\n", "#TR", ""}) {

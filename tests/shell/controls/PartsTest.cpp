@@ -7,7 +7,6 @@
 #include "shell/controls/NoticeLine.h"
 #include "shell/controls/Options.h"
 #include "shell/controls/PageParts.h"
-#include "shell/layout/PageBar.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/controls/ResultLabel.h"
+#include "shell/layout/PageBar.h"
 #include "shell/manual/HelpWindow.h"
 #include "tests/shell/WholeProgram.h"
 
@@ -340,6 +341,33 @@ TEST_F(KeysTest, whatAnEntryClearsComesBackWhereverTheFocusWas)
     }
 }
 
+bool haveAWordInCommon(const QLabel& caption, const QWidget& control)
+{
+    const QStringList words =
+        caption.text().remove('&').split(QRegularExpression("\\W+"), Qt::SkipEmptyParts);
+    return std::ranges::any_of(words, [&](const QString& word) {
+        return word.size() > 1 && control.accessibleName().contains(word, Qt::CaseInsensitive);
+    });
+}
+
+/// The caption left of a result, in the same line of the same panel; units stand to the right.
+const QLabel* captionOf(const ResultLabel& result)
+{
+    const QLabel* nearest = nullptr;
+    const QRect of = result.geometry();
+    for (const auto* each :
+         result.parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+        const QRect at = each->geometry();
+        const bool isBeside = at.top() <= of.center().y() && at.bottom() >= of.center().y() &&
+                              at.right() <= of.left();
+        if (each->isVisible() && each->text().size() > 2 && isBeside &&
+            !dynamic_cast<const ResultLabel*>(each) &&
+            (!nearest || at.right() > nearest->geometry().right()))
+            nearest = each;
+    }
+    return nearest;
+}
+
 /// A caption beside a box, and what a screen reader calls the box, have a word in common. A menu's
 /// caption is what an officer reads, its name what the program calls it; a button's letter stands
 /// in its caption and not in its tip.
@@ -353,22 +381,37 @@ TEST_F(KeysTest, captionsStandBesideTheirBoxes)
         for (auto* caption : window->findChildren<QLabel*>()) {
             // "Height at" stands before the time that is asked about, "Times of" before a height.
             if (!caption->buddy() || caption->buddy()->objectName().startsWith("txtAt")) continue;
-            const QString name = caption->buddy()->accessibleName();
-            const QStringList letters =
-                caption->text().remove('&').split(QRegularExpression("\\W+"), Qt::SkipEmptyParts);
-            EXPECT_TRUE(std::ranges::any_of(letters,
-                                            [&](const QString& word) {
-                                                return word.size() > 1 &&
-                                                       name.contains(word, Qt::CaseInsensitive);
-                                            }))
-                << nameOf(*caption->buddy()) << " is called " << name.toStdString() << " beside "
-                << caption->text().toStdString();
+            EXPECT_TRUE(haveAWordInCommon(*caption, *caption->buddy()))
+                << nameOf(*caption->buddy()) << " beside " << caption->text().toStdString();
             if (!caption->isVisible() || !caption->buddy()->isVisible()) continue;
             const auto [words, box] = placesOf(*caption, *caption->buddy());
             const bool isInLine = words.top() < box.bottom() && words.bottom() > box.top();
             const bool isAbove = words.left() < box.right() && words.right() > box.left();
             EXPECT_TRUE(isInLine || (isAbove && words.top() < box.top()))
                 << caption->text().toStdString() << " stands elsewhere";
+        }
+    }
+}
+
+TEST_F(KeysTest, andThoseOfResultsToo)
+{
+    // Below each other, of a table, or called by more than "Found", "GOV" or "Leaves".
+    const QRegularExpression others(
+        "^lbl(\\w+TonsInVacuo|WeightMethod|Date|Place|(Wp\\w+|Tank|Bunker|Moved)\\(.*|"
+        "Compass\\(1[0-3]\\)|Noon\\(21\\)|Row\\(1\\)|SunNoon\\(1\\)|Keel\\(4\\))$");
+    for (const QWidget* window : openAll()) {
+        auto* bar = window->findChild<PageBar*>();
+        for (std::size_t page = 0; page < (bar ? bar->pages() : 1); ++page) {
+            if (bar) bar->turnTo(page);
+            QApplication::processEvents();
+            for (const auto* result : window->findChildren<ResultLabel*>()) {
+                const QLabel* caption = result->isVisible() && !result->accessibleName().isEmpty()
+                                            ? captionOf(*result)
+                                            : nullptr;
+                EXPECT_TRUE(!caption || others.match(result->objectName()).hasMatch() ||
+                            haveAWordInCommon(*caption, *result))
+                    << nameOf(*result) << " beside " << caption->text().toStdString();
+            }
         }
     }
 }
