@@ -15,6 +15,8 @@
 #include <QMimeData>
 #include <QTest>
 
+#include <algorithm>
+
 namespace korvel::testing
 {
 namespace
@@ -102,19 +104,43 @@ void mouse(Stage& stage, const Words& words)
         throw std::runtime_error("a mouse does not " + how);
 }
 
+/// Entries of menus; in front of one, what is typed into the box that it opens.
 void choose(Stage& stage, const Words& words)
 {
     for (const Word& word : words) {
+        if (word.quoted) {
+            stage.questions.willType(word.text);
+            continue;
+        }
         QAction& action = stage.entry(word.text);
         if (!action.isEnabled()) throw std::runtime_error(word.text + " is greyed out");
         action.trigger();
     }
 }
 
+/// An entry that stores, and what the memories then hold.
 void store(Stage& stage, const Words& words)
 {
     stage.questions.willAnswer(Answer::Yes);
-    choose(stage, words);
+    choose(stage, {words.begin(), words.begin() + 1});
+    if (words.size() > 1) play(stage, "memory", {words.begin() + 1, words.end()});
+}
+
+/// The paper of the window in hand. With what it has and lacks the window is in hand again.
+void paper(Stage& stage, const Words& words)
+{
+    const std::string window = stage.window().objectName().toStdString();
+    pressKey("F2");
+    stage.turnTo("frmPaper");
+    for (auto begin = words.begin(); begin != words.end();) {
+        const auto end =
+            std::find_if(begin + 1, words.end(), [](const Word& word) { return !word.quoted; });
+        Words seen{{"txtPaper", false}};
+        seen.insert(seen.end(), begin, end);
+        play(stage, "see", seen);
+        begin = end;
+    }
+    if (!words.empty()) stage.turnTo(window);
 }
 
 /// Opens a menu of the menu bar and closes it again: captions are written when it opens.
@@ -124,6 +150,7 @@ void pull(Stage& stage, const Words& words)
     if (!menu) throw std::runtime_error("no menu " + words[0].text);
     menu->popup(stage.window().pos());
     menu->close();
+    if (words.size() > 1) pull(stage, {words.begin() + 1, words.end()});
 }
 
 /// Chooses from the menu of the right button by a part of the caption.
@@ -175,6 +202,12 @@ void set(Stage& stage, const Words& words)
         list->setCurrentRow(value);
     else
         throw std::runtime_error("nothing to set in " + words[0].text);
+    if (words.size() > 2) set(stage, {words.begin() + 2, words.end()});
+}
+
+void clipboard(Stage&, const Words& words)
+{
+    QApplication::clipboard()->setText(QString::fromStdString(wordAt(words, 0)));
 }
 
 void hold(Stage& stage, const Words& words)
@@ -196,7 +229,12 @@ const std::map<std::string, Verb>& handVerbs()
         {"open", openWindow},
         {"window", [](Stage& stage, const Words& words) { stage.turnTo(wordAt(words, 0)); }},
         {"close", closeWindow},
-        {"enter", [](Stage& stage, const Words& words) { enter(stage.control(wordAt(words, 0))); }},
+        {"enter",
+         [](Stage& stage, const Words& words) {
+             enter(stage.control(wordAt(words, 0)));
+             for (std::size_t i = 1; i < words.size(); ++i)
+                 pressKey(words[i].text);
+         }},
         {"type", type},
         {"keys", [](Stage&, const Words& words) { pressKeysOf(wordAt(words, 0)); }},
         {"press",
@@ -204,11 +242,7 @@ const std::map<std::string, Verb>& handVerbs()
              for (const Word& word : words)
                  pressKey(word.text);
          }},
-        {"paper",
-         [](Stage& stage, const Words&) {
-             pressKey("F2");
-             stage.turnTo("frmPaper");
-         }},
+        {"paper", paper},
         {"hold", hold},
         {"let-go", letGo},
         {"click", click},
@@ -219,9 +253,12 @@ const std::map<std::string, Verb>& handVerbs()
         {"context-menu", contextMenu},
         {"drop", drop},
         {"set", set},
-        {"clipboard",
-         [](Stage&, const Words& words) {
-             QApplication::clipboard()->setText(QString::fromStdString(wordAt(words, 0)));
+        {"clipboard", clipboard},
+        {"paste",
+         [](Stage& stage, const Words& words) {
+             clipboard(stage, {words.begin() + 1, words.end()});
+             enter(stage.control(wordAt(words, 0)));
+             pressKey("Ctrl+V");
          }},
     };
     return verbs;

@@ -68,6 +68,7 @@ TEST(RowTable, keysGoToOtherRowsThatAreSeen)
         {5, Qt::Key_Up, 4, 3},       {0, Qt::Key_PageDown, 4, 3}, {7, Qt::Key_PageUp, 3, 5},
         {2, Qt::Key_PageDown, 1, 3}, {3, Qt::Key_PageUp, 1, 2},   {2, Qt::Key_PageDown, 2, 3},
         {1, Qt::Key_PageUp, 4, 0},   {0, Qt::Key_Left, 4, 0},     {7, Qt::Key_Down, 4, 7},
+        {7, Qt::Key_Up, 4, 6},
     };
     for (const auto& [from, key, linesSeen, row] : rows)
         EXPECT_EQ(rowAfter(from, key, linesSeen), row) << from << " " << key << " " << linesSeen;
