@@ -77,6 +77,12 @@ TEST_F(frmPassageTest, theTableIsPaintedBeforeItFollows)
     table.resize(900, 300);
     table.grab();
     EXPECT_EQ(table.model()->index(0, 1).data().toString(), "");
+    std::string sides;
+    for (int column = 0; column < PlanTable::Columns; ++column)
+        sides += table.model()->index(0, column).data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft
+                     ? "left "
+                     : "right ";
+    EXPECT_EQ(sides, "right left right left right right right right right ");
 }
 
 TEST_F(frmPassageTest, voyageOfThirteenDaysAcross180)
