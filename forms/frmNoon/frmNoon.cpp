@@ -143,10 +143,9 @@ void frmNoon::readSources()
 /// From the file of the tank list. A box for fuel that is empty shows what it stands for.
 void frmNoon::readBunkers()
 {
-    m_bunkers = {};
     const auto tanks = program().files().read(tankFile);
-    if (tanks.status == FileStore::Content::Status::Read)
-        m_bunkers = bunkersNow(readTankRecord(tanks.bytes).sheet);
+    const bool isThere = tanks.status == FileStore::Content::Status::Read;
+    m_bunkers = bunkersNow(isThere ? readTankRecord(tanks.bytes).sheet : TankSheet());
     const auto offer = [this](std::size_t place, const std::optional<double>& tons) {
         m_boxes[placeOf(NoonBox::Before) + place]->setPlaceholderText(
             tons ? asQString(Format(*tons, "0.0") + " tank list") : QString());
