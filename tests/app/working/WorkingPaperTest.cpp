@@ -123,7 +123,7 @@ TEST(WorkingPaper, noFileSystemRefusesAnOfferedName)
 
 TEST(WorkingPaper, figuresOfStepsHaveTheirSign)
 {
-    EXPECT_EQ(figure(-122.5, 3), "-122.500");
+    EXPECT_EQ(figure(-122.5, 3) + figure(12.4, 0), "-122.50012");
     EXPECT_EQ(term(-122.5, 1), "(-122.5)");
     EXPECT_EQ(figure(-0.0004, 3), "0.000") << "what rounds to nothing has no sign";
     EXPECT_EQ(directionFigure(NavFunc113::Degrees(359.99996), 4), "0.0000");

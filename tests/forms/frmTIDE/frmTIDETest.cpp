@@ -4,6 +4,7 @@
 #include "forms/frmTIDE/data/TideData.h"
 #include "forms/frmTIDE/pages/TableDialog.h"
 #include "forms/frmTIDE/pages/frmTIDEPage.h"
+#include "forms/frmTIDE/sheet/CurvePainter.h"
 #include "forms/frmTIDE/sheet/frmTIDEPicture.h"
 #include "shell/screen/ColourScheme.h"
 #include "tests/forms/frmTIDE/TideFolder.h"
@@ -392,6 +393,17 @@ TEST_F(frmTIDETest, thePageFitsPaperOfEitherOrientation)
             << "down to " << drawn.bottom() << " of " << paper.height();
         EXPECT_GT(drawn.bottom(), paper.height() / 2);
     }
+}
+
+TEST(CurvePainter, writesTheDatumAloneWhereNothingElseHasRoom)
+{
+    const CurvePlace low{[](double, double metres) { return QPointF(0, -metres); },
+                         {},
+                         QFontMetrics(QApplication::font())};
+    CurvePicture picture;
+    picture.scale.top = 20;
+    for (const double level : {0.0, 1.0, 10.0})
+        EXPECT_EQ(isLevelLabelled(level, picture, low), level == 0) << level;
 }
 
 TEST(TableDialog, showsCopiesAndPrints)
