@@ -126,6 +126,15 @@ void store(Stage& stage, const Words& words)
     if (words.size() > 1) play(stage, "memory", {words.begin() + 1, words.end()});
 }
 
+/// A step in another window.
+void in(Stage& stage, const Words& words)
+{
+    const std::string window = stage.window().objectName().toStdString();
+    stage.turnTo(wordAt(words, 0));
+    play(stage, wordAt(words, 1), {words.begin() + 2, words.end()});
+    stage.turnTo(window);
+}
+
 /// The paper of the window in hand. With what it has and lacks the window is in hand again.
 void paper(Stage& stage, const Words& words)
 {
@@ -228,6 +237,7 @@ const std::map<std::string, Verb>& handVerbs()
         {"start", [](Stage& stage, const Words&) { stage.main().start(); }},
         {"open", openWindow},
         {"window", [](Stage& stage, const Words& words) { stage.turnTo(wordAt(words, 0)); }},
+        {"in", in},
         {"close", closeWindow},
         {"enter",
          [](Stage& stage, const Words& words) {
