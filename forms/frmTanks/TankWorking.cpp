@@ -194,7 +194,6 @@ Working tankWorking(const SheetInHand& work, ListKind kind)
     Working working;
     const TankReckoning& reckoning = work.reckoning(kind);
     const std::size_t row = work.row(kind);
-    working.title = "one tank";
     if (row >= reckoning.rows()) {
         working.whyNone = "No tank is in hand";
         return working;

@@ -396,6 +396,7 @@ TEST_F(HelpTest, findsInAllPagesAndGoesBack)
     EXPECT_EQ(help()->view().textCursor().selectedText(), "Beaufort");
     EXPECT_EQ(help()->view().extraSelections().size(),
               help()->view().toPlainText().count("Beaufort", Qt::CaseInsensitive));
+    EXPECT_EQ(help()->view().extraSelections().front().cursor.selectedText(), "Beaufort");
     for (const char* next : {"lstHelp", "txtManual"}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget()->objectName(), next);
@@ -421,9 +422,8 @@ TEST_F(HelpTest, aSearchGoesOnAtTheOtherEnd)
         EXPECT_EQ(view.textCursor().selectedText().toLower(), "wind");
     }
     const int last = view.textCursor().position();
-    EXPECT_TRUE(view.findNext("wind", true));
+    EXPECT_TRUE(view.findNext("wind", true) && view.textCursor().position() < last);
     const int at = view.textCursor().position();
-    EXPECT_LT(at, last);
     EXPECT_TRUE(!view.findNext("xyzzy", false) && view.textCursor().position() == at);
 }
 
