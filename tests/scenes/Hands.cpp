@@ -82,7 +82,10 @@ void click(Stage& stage, const Words& words)
     QPoint place = target.rect().center();
     // The rest of an option's rectangle takes no click.
     if (target.inherits("QRadioButton") || target.inherits("QCheckBox")) place.setX(8);
-    QTest::mouseClick(&target, buttonOf(words.size() > 1 ? words[1].text : "left"), {}, place);
+    const std::string further = words.size() > 1 ? words[1].text : "";
+    QTest::mouseClick(&target, buttonOf(further), {}, place);
+    if (further.ends_with(')') || further.starts_with("cmd"))
+        click(stage, {words.begin() + 1, words.end()});
 }
 
 /// The pointer over a control; over a picture with a scale in the scale's own units.
