@@ -37,7 +37,7 @@ public:
         const double scale = device ? device->logicalDpiX() / screenDots : 1;
         const QSizeF size = QSizeF(pictureOf(format).size) * scale;
         const double width = document->textWidth() - 2 * document->documentMargin();
-        return size.width() > width ? size * (width / size.width()) : size;
+        return width > 0 && size.width() > width ? size * (width / size.width()) : size;
     }
 
     void drawObject(QPainter* painter, const QRectF& room, QTextDocument*, int,
